@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Colours as three floats, each 0..1, and the conversions that the colour jitter uses.
+#pragma once
+
+struct RgbType {
+    float r;
+    float g;
+    float b;
+};
+
+// Hue is a fraction of the full circle, not degrees.
+struct HsvType {
+    float h;
+    float s;
+    float v;
+};
+
+RgbType RgbTypeMake(float r, float g, float b);
+HsvType HsvTypeMake(float h, float s, float v);
+
+// Pure red has hue 1, grey has hue and saturation 0.
+HsvType Rgb_to_Hsv(RgbType colour);
+
+// A hue that is negative, not a number or 7/6 and above gives black: wrap it first.
+RgbType Hsv_to_Rgb(HsvType colour);

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Plane geometry of strokes: points, straight segments and quadratic curves.
+//
+// Every operation rounds to single precision unless said otherwise; results are the same on every run.
+// Curves   p0, p1 (the control point) and p2; the parameter t runs from 0 to 1.
+#pragma once
+
+#include "LineProcess/LPTypes.h"
+
+float lpEuclidDistanceOfTwoPosition(const LPPosition* a, const LPPosition* b);
+void lpGetMidPosition(const LPPosition* a, const LPPosition* b, LPPosition* out);
+
+// Of the vectors from o to a and from o to b.
+float lpDotProduct(const LPPosition* o, const LPPosition* a, const LPPosition* b);
+float lpCrossProduct(const LPPosition* o, const LPPosition* a, const LPPosition* b);
+
+// Whether the three lie on one line with p1 not outside p0..p2, within 0.101 of either product.
+bool lp3PositionInLineWithOrder(const LPPosition* p0, const LPPosition* p1, const LPPosition* p2);
+
+// f is a fraction of the segment, in spite of the name; outside 0..1 it extends the segment.
+void lpGetPositionInSegmentGivenLength(const LPPosition* a, const LPPosition* b, LPPosition* out, float f);
+void lpGetPositionInBezierGivenT(const LPPosition* p0, const LPPosition* p1, const LPPosition* p2,
+                                 LPPosition* out, float t);
+
+// The three numbers that the arc length depends on: the squared speed at t is A t^2 + B t + C.
+void lpGetParaOfBezierLength(const LPPosition* p0, const LPPosition* p1, const LPPosition* p2, float* A,
+                             float* B, float* C);
+
+// Arc length from 0 to t. Always finite, also where a curve turns back on itself.
+float lpLengthOfQuadraticBezierGivenParam(float A, float B, float C, float t);
+
+// The parameter, from tStart on, at which the arc length equals length: within 0.01 of it, or within
+// 0.001 of the parameter.
+float lpGetTInBezierGivenLengthAndParam(float A, float B, float C, float length, float tStart);
