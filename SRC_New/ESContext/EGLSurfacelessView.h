@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// An OpenGL view over EGL without any surface: needs neither a window system nor a Qt application object.
+//
+// Display  Mesa's surfaceless platform, else the first EGL device that gives an OpenGL 3.2 core context.
+//          The display is initialised once a process and never terminated: EGL shares it with every other
+//          user in the process, whose contexts would die with it.
+// Flushing the context is made with release behaviour "none" where the driver knows it, so that letting go
+//          of it for the host's context does not flush.
+// Errors   create() returns null and says in *reason what is missing; it never ends the process.
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "ESContext/ESOpenGLView.h"
+
+class EGLSurfacelessView final : public ESOpenGLView {
+public:
+    // Leaves whatever was current on this thread as it was; nothing is made current.
+    static std::unique_ptr<EGLSurfacelessView> create(QString* reason = nullptr);
+    ~EGLSurfacelessView() override;
+
+    bool makeCurrent() override;
+    bool isCurrent() const override;
+    void doneCurrent() override;
+    void restoreHost(const ESHostContext& host) override;
+
+private:
+    EGLSurfacelessView(void* display, void* context) : _display(display), _context(context) {}
+
+    void* _display;  // EGLDisplay, shared, not ours to terminate
+    void* _context;  // EGLContext, ours
+};

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// Holds a canvas's buffer semaphore for a scope, when there is one.
+#pragma once
+
+#include <QSemaphore>
+#include <memory>
+#include <utility>
+
+class ESBufferAccess {
+public:
+    explicit ESBufferAccess(std::shared_ptr<QSemaphore> semaphore) : _semaphore(std::move(semaphore)) {
+        if (_semaphore) {
+            _semaphore->acquire();
+        }
+    }
+    ~ESBufferAccess() {
+        if (_semaphore) {
+            _semaphore->release();
+        }
+    }
+    ESBufferAccess(const ESBufferAccess&) = delete;
+    ESBufferAccess& operator=(const ESBufferAccess&) = delete;
+
+private:
+    std::shared_ptr<QSemaphore> _semaphore;
+};

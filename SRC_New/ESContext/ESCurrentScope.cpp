@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "ESContext/ESCurrentScope.h"
+
+#include "ESContext/ESContext.h"
+#include "ESContext/ESOpenGLView.h"
+
+ESCurrentScope::ESCurrentScope(ESContext& context) : ESCurrentScope(context.openGLView()) {}
+
+ESCurrentScope::ESCurrentScope(ESOpenGLView* view) : _view(view) {
+    if (!view) {
+        return;
+    }
+    if (view->isCurrent()) {
+        _current = true;
+        return;
+    }
+    const ESHostContext host = view->saveHost();
+    _current = view->makeCurrent();
+    if (_current) {
+        _host = host;
+    }
+}
+
+ESCurrentScope::~ESCurrentScope() {
+    if (_host) {
+        _view->restoreHost(*_host);
+    }
+}

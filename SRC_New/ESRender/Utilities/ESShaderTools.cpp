@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "ESRender/Utilities/ESShaderTools.h"
+
+#include <QFile>
+
+#include "ESRender/Utilities/ESResource.h"
+
+QString ESShaderTools::readFile(const QString& name) {
+    return readFileWithPath(dabcanvas::resourcePath(name));
+}
+
+QString ESShaderTools::readFileWithPath(const QString& path) {
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return QLatin1String("") + QString::fromUtf8(file.readAll());  // not null, even of an empty file
+}

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// Free functions for sizes, points, rectangles and angles.
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+
+// Deliberate: all three divide by the scale, whatever their names say. They turn view units into buffer
+// units, given how many view units a buffer pixel is on each axis (the width and height of `scale`).
+QSizeF CGSizeApplyScale(const QSizeF& size, const QSizeF& scale);
+QPointF CGPointApplyScale(const QPointF& point, const QSizeF& scale);
+QRectF CGRectApplyScale(const QRectF& rect, const QSizeF& scale);
+
+// Half-extent of a box turned by `angle` radians, from its half width and half height. Computed in single
+// precision.
+QSizeF CGSizeApplyRotation(const QSizeF& halfSize, float angle);
+
+// The angle of the line from (x1, y1) to (x2, y2) in (-3 pi / 2, pi / 2]; 0 when the points are equal.
+float RadianF(float x1, float y1, float x2, float y2);
+long double RadianLD(long double x1, long double y1, long double x2, long double y2);

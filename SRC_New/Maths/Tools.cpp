@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "Maths/Tools.h"
+
+#include <QDateTime>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QThread>
+#include <cstdlib>
+#include <cstring>
+
+QString Tools::dateString() {
+    static QMutex mutex;
+    static QDateTime last;
+    const QMutexLocker lock(&mutex);
+    // The local wall clock's fields, held as if they were UTC: a time zone would skip or repeat hours.
+    const auto wallClock = [] {
+        const QDateTime local = QDateTime::currentDateTime();
+        return QDateTime(local.date(), local.time(), Qt::UTC);
+    };
+    QDateTime now = wallClock();
+    if (now == last) {
+        QThread::msleep(10);
+        now = wallClock();
+    }
+    if (last.isValid() && now <= last) {
+        now = last.addMSecs(1);  // the clock was set back, or stands
+    }
+    last = now;
+    return now.toString(QStringLiteral("yyyyMMddHHmmsszzz"));
+}
+
+int Tools::randInteger() {
+    return std::rand();
+}
+
+std::int32_t Tools::randValueBegin(std::int32_t begin, std::int32_t end) {
+    if (begin == end) {
+        return begin;
+    }
+    const std::int64_t distance = std::abs(std::int64_t{end} - begin);
+    return static_cast<std::int32_t>(begin + std::rand() % distance);
+}
+
+int Tools::string(const QString& string, const QString& isThanString) {
+    return std::strcmp(string.toUtf8().constData(), isThanString.toUtf8().constData());
+}

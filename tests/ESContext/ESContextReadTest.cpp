@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+// Reading back and mirroring into textures, on odd sizes, where a flip by the wrong height shows.
+#include <cmath>
+#include <vector>
+
+#include "ESContext/ESContext.h"
+#include "support/GLTest.h"
+#include "support/LogCapture.h"
+
+namespace {
+
+constexpr int kWidth = 37;
+constexpr int kHeight = 23;
+
+class ESContextReadTest : public GLTest {
+protected:
+    void SetUp() override {
+        GLTest::SetUp();
+        if (HasFatalFailure() || IsSkipped()) {
+            return;
+        }
+        ASSERT_TRUE(_context->createBufferWithSize({kWidth, kHeight}));
+        _context->beginRenderForType(ESRenderTypeCanvas);
+        _expected = paint(QSize(kWidth, kHeight));
+    }
+
+    // Paints coloured boxes into the bound target and returns what it must look like.
+    static QImage paint(const QSize& size) {
+        QImage image(size, QImage::Format_RGBA8888_Premultiplied);
+        image.fill(0);
+        int i = 0;
+        for (const QRect& wanted : {QRect(0, 0, size.width(), 3), QRect(2, 5, 7, 11), QRect(12, 9, 9, 2),
+                                    QRect(size.width() - 4, size.height() - 3, 4, 3)}) {
+            const QRect rect = wanted.intersected(image.rect());
+            const QColor color(40 + 30 * i, 200 - 50 * i, 10 * i, 255);
+            fill(rect, color, size.height());
+            for (int y = rect.top(); y <= rect.bottom(); ++y) {
+                for (int x = rect.left(); x <= rect.right(); ++x) {
+                    image.setPixel(x, y, color.rgba());
+                }
+            }
+            ++i;
+        }
+        return image;
+    }
+
+    QImage _expected;
+};
+
+}  // namespace
+
+TEST_F(ESContextReadTest, ImagesAreRightWayUpAndRawRowsBottomFirst) {
+    EXPECT_TRUE(imagesMatch(_context->image(), _expected));
+    for (const QRect& part :
+         {QRect(2, 5, 7, 11), QRect(0, 22, 37, 1), QRect(36, 0, 1, 23), QRect(11, 8, 13, 9)}) {
+        EXPECT_TRUE(imagesMatch(_context->imageWithRect(part), _expected.copy(part)));
+        QImage raw(part.size(), QImage::Format_RGBA8888_Premultiplied);
+        _context->readData(raw.bits(), part);
+        EXPECT_TRUE(imagesMatch(raw, _expected.copy(part).mirrored()));
+        EXPECT_TRUE(
+            imagesMatch(ESContext::imageWithData(raw.constBits(), part.size()), _expected.copy(part)));
+    }
+}
+
+TEST_F(ESContextReadTest, ReadsComeFromTheCanvasWhateverTargetIsCurrent) {
+    _context->beginRenderForType(ESRenderTypeSmudge);
+    const QImage smudge = paint(QSize(kWidth / 2, kHeight / 2));
+    QImage display(kWidth, kHeight, QImage::Format_RGBA8888_Premultiplied);
+    display.fill(0);
+    ASSERT_TRUE(_context->updateImage(display, display.rect()));
+    EXPECT_TRUE(imagesMatch(display, _expected));
+    EXPECT_TRUE(imagesMatch(_context->image(), _expected));
+    // The store was made for the small layer; the large one must not overrun it.
+    EXPECT_TRUE(imagesMatch(_context->imageForType(ESRenderTypeSmudge), smudge));
+    EXPECT_TRUE(imagesMatch(_context->imageForType(ESRenderTypeCanvas), _expected));
+}
+
+TEST_F(ESContextReadTest, UpdateImageTouchesItsRectangleOnly) {
+    const QRect part(9, 4, 15, 12);
+    QImage display(kWidth, kHeight, QImage::Format_RGBA8888_Premultiplied);
+    display.fill(QColor(1, 2, 3));
+    QImage expected = display;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            expected.setPixel(x, y, _expected.pixel(x, y));
+        }
+    }
+    const QImage shared = display;  // a reader elsewhere, who must not see the change
+    ASSERT_TRUE(_context->updateImage(display, part));
+    EXPECT_TRUE(imagesMatch(display, expected));
+    EXPECT_EQ(shared.pixelColor(part.topLeft()), QColor(1, 2, 3));
+    EXPECT_TRUE(_context->updateImage(display, QRect(-5, -5, 100, 100))) << "cut to the buffer";
+    EXPECT_TRUE(imagesMatch(display, _expected));
+
+    EXPECT_FALSE(_context->updateImage(display, QRect(kWidth, 0, 5, 5)));
+    EXPECT_FALSE(_context->updateImage(display, QRect(9, 9, -4, 4)));
+    QImage small(kWidth - 1, kHeight, QImage::Format_RGBA8888_Premultiplied);
+    EXPECT_FALSE(_context->updateImage(small, part));
+    QImage other(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
+    EXPECT_FALSE(_context->updateImage(other, part));
+}
+
+TEST_F(ESContextReadTest, DisplayUpdatesKeepTheTargetBeingDrawn) {
+    _context->beginRenderForType(ESRenderTypeLine);
+    QImage display(kWidth, kHeight, QImage::Format_RGBA8888_Premultiplied);
+    ASSERT_TRUE(_context->updateImage(display, display.rect()));
+    fill(QRect(0, 0, kWidth, kHeight), Qt::white, kHeight);
+    EXPECT_TRUE(imagesMatch(_context->imageForType(ESRenderTypeCanvas), _expected));
+    EXPECT_EQ(_context->imageForType(ESRenderTypeLine).pixel(0, 0), qRgba(255, 255, 255, 255));
+}
+
+TEST_F(ESContextReadTest, RectanglesOutsideOrThinnerThanAPixelReadNothing) {
+    struct Row {
+        QRectF rect;
+        bool enabled;
+    };
+    for (const Row& row :
+         {Row{{0, 0, 0.5, 10}, false}, Row{{-1, 0, 10, 10}, false}, Row{{0, 0, 37.5, 23}, false},
+          Row{{30, 20, 7, 3}, true}, Row{{0, 0, std::nan(""), 10}, false}, Row{{0, 0, 1, 1}, true},
+          Row{{5, 5, -3, -3}, false}}) {
+        EXPECT_EQ(_context->isEnableRect(row.rect), row.enabled);
+        std::vector<unsigned char> bytes(kWidth * kHeight * 4, 0xAB);
+        _context->readData(bytes.data(), row.rect);
+        EXPECT_EQ(bytes[0] == 0xAB, !row.enabled);
+        EXPECT_EQ(_context->imageWithRect(row.rect).isNull(), !row.enabled);
+    }
+    _context->readData(nullptr, QRectF(0, 0, 4, 4));
+    LogCapture log;
+    EXPECT_TRUE(ESContext::newCGImageWithData(nullptr, {4, 4}).isNull());
+    EXPECT_EQ(log.lines(), QStringList(QStringLiteral("创建数据失败(SRC_New/ESContext/ESContext:1097)!")));
+}
+
+TEST_F(ESContextReadTest, EdgesBetweenPixelsGiveWholePixelsAndAnImageOfThatSize) {
+    struct Row {
+        QRectF rect, rows;
+    };
+    for (const Row& row : {Row{{3, 4, 10, 6}, {3, 13, 10, 6}}, Row{{0.9, 0, 10.2, 23}, {0, 0, 11, 23}},
+                           Row{{0.5, 0.5, 10.3, 10.3}, {0, 12, 10, 10}}}) {
+        EXPECT_EQ(_context->gRectWithVRect(row.rect), row.rows);
+        EXPECT_EQ(_context->imageWithRect(row.rect).size(), row.rows.size().toSize());
+    }
+}
+
+TEST_F(ESContextReadTest, MirrorTextureFollowsTheCanvasAndIsTransparentBeyondIt) {
+    GLuint texture = 0;
+    _context->updateTextureAtPosition({0, 0}, {0, 0}, texture, GL_TEXTURE3);
+    GLint active = 0;
+    glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
+    EXPECT_EQ(active, GL_TEXTURE3);
+    QImage mirror(64, 32, QImage::Format_RGBA8888_Premultiplied);
+    const auto expectMirror = [&](const QImage& canvas) {
+        mirror.fill(0);
+        const QImage rows = canvas.mirrored();
+        for (int y = 0; y < kHeight; ++y) {
+            std::copy_n(rows.constScanLine(y), kWidth * 4, mirror.scanLine(y));
+        }
+        EXPECT_TRUE(imagesMatch(readTexture(texture), mirror));
+    };
+    expectMirror(_expected);
+    EXPECT_EQ(readTexture(texture, 6).size(), QSize(1, 1)) << "mipmaps down to one texel";
+
+    // The canvas changes; a part that reaches over two edges is copied as far as there are pixels.
+    fill(QRect(0, 0, kWidth, kHeight), QColor(9, 8, 7), kHeight);
+    QImage expected = _expected;
+    for (int y = 17; y < kHeight; ++y) {
+        for (int x = 31; x < kWidth; ++x) {
+            expected.setPixel(x, y, qRgba(9, 8, 7, 255));
+        }
+    }
+    _context->updateTextureAtPosition({36, 22}, {10, 10}, texture, GL_TEXTURE3);
+    expectMirror(expected);
+    glDeleteTextures(1, &texture);
+}

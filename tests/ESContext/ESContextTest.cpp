@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "ESContext/ESContext.h"
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "support/GLTest.h"
+#include "support/LogCapture.h"
+
+namespace {
+
+using ESContextTest = GLTest;
+
+std::vector<GLint> scissorBox() {
+    std::vector<GLint> box(4);
+    glGetIntegerv(GL_SCISSOR_BOX, box.data());
+    return box;
+}
+
+QSize textureSize(GLuint texture) {
+    QSize size;
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &size.rwidth());
+    glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &size.rheight());
+    glBindTexture(GL_TEXTURE_2D, 0);
+    return size;
+}
+
+constexpr ESRenderType kAllTypes[] = {ESRenderTypeCanvas, ESRenderTypeLine, ESRenderTypeSubLine,
+                                      ESRenderTypeSmudge};
+
+}  // namespace
+
+// Buffers
+
+struct BufferSize {
+    QSizeF asked;
+    QSize canvas, smudge;
+};
+class BufferSizeTest : public GLTest, public ::testing::WithParamInterface<BufferSize> {};
+
+TEST_P(BufferSizeTest, EveryTargetHasItsSizeAndStartsTransparent) {
+    const BufferSize& size = GetParam();
+    ASSERT_TRUE(_context->createBufferWithSize(size.asked));
+    EXPECT_EQ(QSize(_context->backingWidth(), _context->backingHeight()), size.canvas);
+    EXPECT_EQ(textureSize(_context->lineTexture()), size.canvas);
+    EXPECT_EQ(textureSize(_context->subLineTexture()), size.canvas);
+    EXPECT_EQ(textureSize(_context->smudgeTexture()), size.smudge);
+    for (const ESRenderType type : kAllTypes) {
+        QImage transparent(type == ESRenderTypeSmudge ? size.smudge : size.canvas,
+                           QImage::Format_RGBA8888_Premultiplied);
+        transparent.fill(0);
+        EXPECT_TRUE(imagesMatch(_context->imageForType(type), transparent)) << "target " << type;
+        _context->beginRenderForType(type);
+        GLint viewport[4] = {};
+        glGetIntegerv(GL_VIEWPORT, viewport);
+        EXPECT_EQ(QSize(viewport[2], viewport[3]), transparent.size());
+        _context->finishRender();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, BufferSizeTest,
+                         ::testing::Values(BufferSize{{1001, 801}, {1001, 801}, {500, 400}},
+                                           BufferSize{{64, 32}, {64, 32}, {32, 16}},
+                                           BufferSize{{33.9, 7.2}, {33, 7}, {16, 3}},
+                                           BufferSize{{1, 1}, {1, 1}, {1, 1}}));
+
+TEST_F(ESContextTest, BadSizesSayWhyAndChangeNothing) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    GLint limit = 0;
+    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &limit);
+    const QSizeF bad[] = {{0, 10},         {10, -1},          {0.5, 10}, {std::nan(""), 10},
+                          {10, kInfinity}, {limit + 1.0, 10}, {10, 3e9}};
+    for (const QSizeF& size : bad) {
+        LogCapture log;
+        EXPECT_FALSE(_context->createBufferWithSize(size));
+        EXPECT_EQ(log.lines().size(), 1);
+        EXPECT_EQ(_context->frameBuffer(ESRenderTypeCanvas), 0u);
+    }
+    ASSERT_TRUE(_context->createBufferWithSize({40, 30}));
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    fill(QRect(0, 0, 40, 30), Qt::red, 30);
+    const QImage before = _context->image();
+    for (const QSizeF& size : bad) {
+        LogCapture log;
+        EXPECT_FALSE(_context->resizeWithSize(size));
+        EXPECT_FALSE(_context->createBufferWithSize(size));
+        EXPECT_EQ(log.lines().size(), 2);
+    }
+    EXPECT_TRUE(imagesMatch(_context->image(), before));
+    EXPECT_EQ(_context->openGLView()->frame(), QRectF(0, 0, 40, 30));
+}
+
+TEST_F(ESContextTest, ResizingClearsAllButTheSmudgeLayerWhichKeepsItsSize) {
+    LogCapture log;
+    EXPECT_FALSE(_context->resizeWithSize({10, 10})) << "there is nothing to resize yet";
+    ASSERT_TRUE(_context->createBufferWithSize({40, 30}));
+    for (const ESRenderType type : kAllTypes) {
+        _context->beginRenderForType(type);
+        fill(QRect(0, 0, 40, 30), Qt::red, 30);
+    }
+    const QImage smudge = _context->imageForType(ESRenderTypeSmudge);
+    ASSERT_TRUE(_context->resizeWithSize({81, 53}));
+    QImage transparent(81, 53, QImage::Format_RGBA8888_Premultiplied);
+    transparent.fill(0);
+    for (const ESRenderType type : {ESRenderTypeCanvas, ESRenderTypeLine, ESRenderTypeSubLine}) {
+        EXPECT_TRUE(imagesMatch(_context->imageForType(type), transparent)) << "target " << type;
+    }
+    EXPECT_EQ(textureSize(_context->smudgeTexture()), QSize(20, 15));
+    EXPECT_TRUE(imagesMatch(_context->imageForType(ESRenderTypeSmudge), smudge));
+}
+
+TEST_F(ESContextTest, DestroyingTwiceOrMakingAgainLeavesNoObjectBehind) {
+    ASSERT_TRUE(_context->createBufferWithSize({16, 16}));
+    const GLuint oldTexture = _context->lineTexture();
+    const GLuint oldFrameBuffer = _context->frameBuffer(ESRenderTypeSmudge);
+    ASSERT_TRUE(_context->createBufferWithSize({24, 8}));
+    _context->destoryBuffer();
+    _context->destoryBuffer();
+    EXPECT_FALSE(glIsTexture(oldTexture));
+    EXPECT_FALSE(glIsFramebuffer(oldFrameBuffer));
+    EXPECT_EQ(_context->lineTexture(), 0u);
+    EXPECT_TRUE(_context->image().isNull());
+    EXPECT_TRUE(_context->imageForType(ESRenderTypeLine).isNull());
+}
+
+TEST_F(ESContextTest, BufferAccessIsGivenBackOnEveryPath) {
+    const auto semaphore = std::make_shared<QSemaphore>(1);
+    _context->setBufferAccess(semaphore);
+    ASSERT_TRUE(_context->createBufferWithSize({16, 16}));
+    ASSERT_TRUE(_context->resizeWithSize({20, 20}));
+    std::vector<unsigned char> bytes(20 * 20 * 4);
+    _context->readData(bytes.data(), QRectF(0, 0, 20, 20));
+    _context->readData(bytes.data(), QRectF(-1, 0, 20, 20));
+    EXPECT_FALSE(_context->image().isNull());
+    _context->destoryBuffer();
+    EXPECT_EQ(semaphore->available(), 1);
+}
+
+// Clipping and blending
+
+struct Clip {
+    const char* name;
+    QRectF rect;
+    std::vector<GLint> canvas;  // with a view of 200 x 100 on a buffer of 100 x 100
+    std::vector<GLint> layer;
+};
+void PrintTo(const Clip& row, std::ostream* out) {
+    *out << row.name;
+}
+class ScissorTest : public GLTest, public ::testing::WithParamInterface<Clip> {};
+
+TEST_P(ScissorTest, BoxHasAMarginOfOneAndStaysInTheTarget) {
+    ASSERT_TRUE(_context->createBufferWithSize({100, 100}));
+    _context->setViewSize({200, 100});
+    for (const ESRenderType type : {ESRenderTypeCanvas, ESRenderTypeLine}) {
+        _context->beginRenderForType(type);
+        _context->scissorRect(GetParam().rect);
+        EXPECT_TRUE(ESContext::enableForProporty(GL_SCISSOR_TEST));
+        EXPECT_EQ(scissorBox(), type == ESRenderTypeCanvas ? GetParam().canvas : GetParam().layer);
+        _context->finishRender();
+        EXPECT_FALSE(ESContext::enableForProporty(GL_SCISSOR_TEST));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Boxes, ScissorTest,
+    ::testing::Values(Clip{"inside", {10, 10, 20, 20}, {19, 69, 42, 22}, {9, 69, 22, 22}},
+                      Clip{"fractions", {10.9, 10.9, 19.2, 19.2}, {20, 69, 41, 22}, {9, 69, 22, 22}},
+                      Clip{"whole", {0, 0, 100, 100}, {0, 0, 200, 100}, {0, 0, 100, 100}},
+                      Clip{"beyond", {-50, 90, 300, 50}, {0, 0, 200, 11}, {0, 0, 100, 11}},
+                      Clip{"inverted", {100, 100, -100, -100}, {199, 99, 0, 0}, {99, 99, 0, 0}},
+                      Clip{"far off", {1e12, 5, 10, 10}, {199, 84, 1, 12}, {99, 84, 1, 12}}),
+    [](const auto& row) {
+        std::string name = row.param.name;
+        std::erase(name, ' ');
+        return name;
+    });
+
+TEST_F(ESContextTest, DabsClipToTheirUnionAndNoDabsToNothing) {
+    ASSERT_TRUE(_context->createBufferWithSize({100, 80}));
+    _context->beginRenderForType(ESRenderTypeLine);
+    const LPPoint dabs[] = {{{20, 30}, 10, {}}, {{50.5f, 40}, 4, {}}};
+    _context->scissorForPoints(dabs, 2);  // touches (14, 24) to (53.5, 43)
+    EXPECT_EQ(scissorBox(), (std::vector<GLint>{13, 36, 41, 21}));
+    _context->scissorForPoints(dabs, 0);
+    EXPECT_EQ(scissorBox()[2] * scissorBox()[3], 0);
+}
+
+TEST_F(ESContextTest, BlendModelsOfTheTargets) {
+    struct Row {
+        ESRenderType type;
+        GLint source, destination;
+    };
+    for (const Row& row :
+         {Row{ESRenderTypeCanvas, GL_ZERO, GL_ONE_MINUS_SRC_ALPHA},
+          Row{ESRenderTypeLine, GL_ONE, GL_ONE_MINUS_SRC_ALPHA}, Row{ESRenderTypeSubLine, GL_ONE, GL_ZERO},
+          Row{ESRenderTypeSmudge, GL_ONE, GL_ONE_MINUS_SRC_ALPHA}}) {
+        _context->setBlendWithSCFactor(GL_DST_COLOR, GL_ONE, GL_ZERO, GL_ZERO);
+        _context->setBlendModeWithColorEquation(GL_MAX, GL_MIN);
+        _context->setBlendModelForType(row.type);
+        for (const auto& [name, expected] : {std::pair{GL_BLEND_SRC_RGB, row.source},
+                                             {GL_BLEND_SRC_ALPHA, row.source},
+                                             {GL_BLEND_DST_RGB, row.destination},
+                                             {GL_BLEND_DST_ALPHA, row.destination},
+                                             {GL_BLEND_EQUATION_RGB, GL_FUNC_ADD},
+                                             {GL_BLEND_EQUATION_ALPHA, GL_FUNC_ADD}}) {
+            GLint value = -1;
+            glGetIntegerv(static_cast<GLenum>(name), &value);
+            EXPECT_EQ(value, expected) << "target " << row.type << ", state " << std::hex << name;
+        }
+    }
+    ESContext::setEnable(false, GL_BLEND);
+    EXPECT_FALSE(ESContext::enableForProporty(GL_BLEND));
+}
+
+TEST_F(ESContextTest, ANullOrUselessViewGivesNoContext) {
+    LogCapture log;
+    EXPECT_EQ(ESContext::init(nullptr), nullptr);
+    EXPECT_EQ(log.lines().size(), 1);
+}

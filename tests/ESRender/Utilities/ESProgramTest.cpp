@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "ESRender/Utilities/ESProgram.h"
+
+#include "ESRender/Utilities/ESGLErrors.h"
+#include "ESRender/Utilities/ESGLTexture.h"
+#include "support/GLTest.h"
+#include "support/LogCapture.h"
+
+namespace {
+
+using ESProgramTest = GLTest;
+
+const QString kVertex = QStringLiteral(
+    "#version 150\nin vec2 a_position;\nuniform vec2 u_shift;\n"
+    "void main() { gl_Position = vec4(a_position + u_shift, 0.0, 1.0); }\n");
+const QString kFragment =
+    QStringLiteral("#version 150\nout vec4 fragColor;\nvoid main() { fragColor = vec4(1.0); }\n");
+
+}  // namespace
+
+TEST_F(ESProgramTest, LinkingMakesItUsableAndLetsGoOfItsShaders) {
+    const auto program = ESProgram::initWithVertexShaderString(kVertex, kFragment);
+    const GLuint shader = program->vertShaderAddr();
+    EXPECT_FALSE(program->initialized());
+    EXPECT_TRUE(glIsShader(shader));
+    ASSERT_TRUE(program->link());
+    EXPECT_TRUE(program->initialized());
+    EXPECT_EQ(program->vertShaderAddr(), 0u);
+    EXPECT_EQ(program->fragShaderAddr(), 0u);
+    EXPECT_FALSE(glIsShader(shader));
+    EXPECT_TRUE(program->link()) << "again is no harm";
+    EXPECT_GE(program->attributeIndex("a_position"), 0);
+    EXPECT_EQ(program->attributeIndex("u_shift"), -1);
+    EXPECT_GE(program->uniformIndex(QStringLiteral("u_shift")), 0);
+    EXPECT_EQ(glGetFragDataLocation(program->programAddr(), "fragColor"), 0);
+}
+
+TEST_F(ESProgramTest, LocationsAreAskedOfGLOnceMissingOnesToo) {
+    const auto program = ESProgram::initWithVertexShaderString(kVertex, kFragment);
+    expectDrainedErrors(1);  // GL holds one error of a kind at a time
+    LogCapture log;
+    // Before linking GL answers with an error and -1; were it asked again, it would answer so again.
+    EXPECT_EQ(program->attributeIndex("a_position"), -1);
+    EXPECT_EQ(program->uniformIndex("u_shift"), -1);
+    ASSERT_TRUE(program->link());
+    EXPECT_EQ(program->attributeIndex("a_position"), -1);
+    EXPECT_EQ(program->uniformIndex("u_shift"), -1);
+    EXPECT_TRUE(log.has(QStringLiteral(
+        "GLError GL_INVALID_OPERATION set in File:SRC_New/ESRender/Utilities/ESProgram Line:222\n")));
+}
+
+TEST_F(ESProgramTest, DestroyingLeavesNoObjectBehind) {
+    auto program = ESProgram::initWithVertexShaderString(kVertex, kFragment);
+    ASSERT_TRUE(program->link());
+    program->bind();
+    const GLuint name = program->programAddr();
+    const GLuint array = program->vertexArrayObject();
+    const GLuint buffer = program->vertexBuffer();
+    EXPECT_TRUE(glIsProgram(name) && glIsVertexArray(array) && glIsBuffer(buffer));
+    glUseProgram(0);
+    program.reset();
+    EXPECT_FALSE(glIsProgram(name) || glIsVertexArray(array) || glIsBuffer(buffer));
+}
+
+struct BadSources {
+    const char* name;
+    QString vertex, fragment;
+    QStringList messages;
+    std::uint64_t errors;  // the log query's, drained by link()
+};
+void PrintTo(const BadSources& row, std::ostream* out) {
+    *out << row.name;
+}
+class BadSourcesTest : public GLTest, public ::testing::WithParamInterface<BadSources> {};
+
+TEST_P(BadSourcesTest, SayWhatIsWrongAndDoNotLink) {
+    expectDrainedErrors(GetParam().errors);
+    LogCapture log;
+    const auto program = ESProgram::initWithVertexShaderString(GetParam().vertex, GetParam().fragment);
+    EXPECT_FALSE(program->link());
+    EXPECT_FALSE(program->initialized());
+    for (const QString& message : GetParam().messages) {
+        EXPECT_TRUE(log.has(message)) << qPrintable(message);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sources, BadSourcesTest,
+    ::testing::Values(
+        BadSources{
+            "Vertex",
+            QStringLiteral("#version 150\nnonsense"),
+            kFragment,
+            {QStringLiteral("Shader compile log:\n"), QStringLiteral("Failed to compile vertex shader:\n")},
+            1},
+        BadSources{
+            "Fragment",
+            kVertex,
+            QStringLiteral("#version 150\nnonsense"),
+            {QStringLiteral("Shader compile log:\n"), QStringLiteral("Failed to compile fragment shader:\n")},
+            1},
+        BadSources{"NoFragment",
+                   kVertex,
+                   QString(),
+                   {QStringLiteral("Failed to load vertex shader"),
+                    QStringLiteral("Failed to compile fragment shader:\n")},
+                   1},
+        BadSources{
+            "Interface",
+            QStringLiteral(
+                "#version 150\nin vec2 a;\nout vec2 v;\nvoid main() { v = a; gl_Position = vec4(a, a); }\n"),
+            QStringLiteral("#version 150\nin vec4 v;\nout vec4 fragColor;\nvoid main() { fragColor = v; }\n"),
+            {},
+            0}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(ESProgramTest, ResourceFilesGiveTheSameProgramAndMissingOnesNone) {
+    const QString base = QStringLiteral("Shaders.bundle/BaseLine_Mac");
+    EXPECT_TRUE(ESProgram::initWithVertexShaderFilename(base, base)->link());
+    EXPECT_TRUE(ESProgram::initWithVertexShaderStringFragmentShaderFilename(kVertex, base)->link());
+    expectDrainedErrors(1);
+    LogCapture log;
+    EXPECT_FALSE(
+        ESProgram::initWithVertexShaderFilename(QStringLiteral("Shaders.bundle/None"), base)->link());
+}
+
+TEST_F(ESProgramTest, DrainsNameEveryErrorAndCountThem) {
+    expectDrainedErrors(1);
+    LogCapture log;
+    glEnable(0xFFFF);
+    EXPECT_EQ(drainGLErrors("SRC_New/ESRender/ESLineRender", 7), 1);
+    EXPECT_EQ(log.lines(),
+              QStringList(QStringLiteral(
+                  "GLError GL_INVALID_ENUM set in File:SRC_New/ESRender/ESLineRender Line:7\n")));
+    EXPECT_EQ(drainGLErrors("SRC_New/ESRender/ESLineRender", 8), 0);
+}
+
+TEST(ExponentialTest, SidesRoundUpToAPowerOfTwoLookingAtTwentyBits) {
+    struct Case {
+        int side, power;
+    };
+    for (const Case& test :
+         {Case{0, 1}, Case{1, 1}, Case{3, 4}, Case{256, 256}, Case{257, 512}, Case{1000, 1024},
+          Case{0xFFFFF, 1 << 20}, Case{1 << 20, 1}, Case{(1 << 20) + 5, 8}}) {
+        EXPECT_EQ(ExponentialWithInter(test.side), test.power) << test.side;
+    }
+}
+
+TEST_F(ESProgramTest, ClearedTexturesKeepBindingsAndIgnoreScissorAndMask) {
+    ASSERT_TRUE(_context->createBufferWithSize({8, 8}));
+    _context->beginRenderForType(ESRenderTypeLine);
+    _context->scissorRect(QRectF(0, 0, 2, 2));
+    glColorMask(GL_TRUE, GL_FALSE, GL_TRUE, GL_FALSE);
+    GLuint texture = dabcanvas::makeClearedTexture(QSize(8, 4), GL_LINEAR);
+    GLint bound = 0;
+    glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &bound);
+    EXPECT_EQ(static_cast<GLuint>(bound), _context->frameBuffer(ESRenderTypeLine));
+    EXPECT_TRUE(glIsEnabled(GL_SCISSOR_TEST));
+    GLboolean mask[4] = {};
+    glGetBooleanv(GL_COLOR_WRITEMASK, mask);
+    EXPECT_TRUE(mask[0] && !mask[1] && mask[2] && !mask[3]);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    QImage transparent(8, 4, QImage::Format_RGBA8888_Premultiplied);
+    transparent.fill(0);
+    EXPECT_TRUE(imagesMatch(readTexture(texture), transparent));
+    glDeleteTextures(1, &texture);
+    LogCapture log;
+    EXPECT_EQ(dabcanvas::makeClearedTexture(QSize(dabcanvas::maxTextureSize() + 1, 4), GL_LINEAR), 0u);
+    EXPECT_EQ(log.lines().size(), 1);
+}
