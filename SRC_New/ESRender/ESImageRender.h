@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+// Combines a source (the stroke's layers, or a placed image) with the canvas: draws a rectangle whose
+// fragment program reads source and background copy and writes the blended colour. GL blending is not what
+// mixes the two; the caller sets the factors (ONE, ZERO).
+//
+// Units    buffer pixels, top-left origin; a point's radius field is the rectangle's width, roundness times
+// that its height. Owns     its programs, a placed image's texture and the background copy. The line and
+// sub-line textures are the
+//          context's: they have the buffer's size and are read one texel a pixel, so their filters are set to
+//          nearest.
+// Errors   init gives null when the program does not build. GL errors are logged and drawing goes on.
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <array>
+#include <memory>
+
+#include "ESRender/CachedUniform.h"
+#include "ESRender/ESBaseRender.h"
+
+// How a source meets the canvas. Any other value, 3 among them, draws as normal.
+enum ESBlendType : std::uint32_t {
+    ESBlendTypeNormal = 1,
+    ESBlendTypeReplace = 2,
+    ESBlendTypeBehind = 4,
+    ESBlendTypeErase = 5,
+    ESBlendTypeTarnish = 6,
+    ESBlendTypeBrightness = 7,
+    ESBlendTypeMultiply = 8,
+    ESBlendTypeReset = 9,
+};
+
+class ESImageRender : public ESBaseRender {
+public:
+    static std::unique_ptr<ESImageRender> init();
+    static std::unique_ptr<ESImageRender> initWithBufferSize(const QSizeF& bufferSize);
+    ~ESImageRender() override;
+
+    bool setVertexShaderString(const QString& vertexShaderString,
+                               const QString& fragmentShaderFromString) override;
+    void removeProgramWithVertexShaderString(const QString& vertexShaderString,
+                                             const QString& fragmentShaderString) override;
+
+    // ---- default shaders: resources under "Shaders.bundle/"
+
+    static QString imageRenderVertexShaderString();
+    static QString normalFSHString();
+    static QString replaceFSHString();
+    static QString behindFSHString();
+    static QString eraseFSHString();
+    static QString tarnishFSHString();
+    static QString brightnessFSHString();
+    static QString multiplyFSHString();
+    static QString resetFSHString();
+
+    // ---- blend mode
+
+    std::uint32_t blendType() const { return _blendType; }
+    void setBlendType(std::uint32_t blendType);
+    static QString vertexShaderStringForBlendType(std::uint32_t blendType);
+    // With "_Bool" turned into "bool".
+    static QString fragmentShaderStringForBlendType(std::uint32_t blendType);
+    // The mode whose fragment text this is; 0 for none.
+    static std::uint32_t blendTypeOfFragmentShaderString(const QString& fragmentShaderString);
+
+    // ---- what is combined
+
+    void setLineTextureID(GLuint texture, GLenum texturePos);
+    void setSubLineTextureID(GLuint texture, GLenum texturePos);
+    // Copies the bound framebuffer, or a rectangle of it, into the background texture and keeps it on the
+    // unit.
+    void updateBGTextureAtPos(GLenum pos);
+    void updateBGTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLenum pos);
+    // Bind a role's texture on its unit; false for a role without one.
+    bool useBGTexture() const { return _background.use(); }
+    bool useLineTexture() const { return _line.use(); }
+    bool useSubLineTexture() const { return _subLine.use(); }
+
+    // The source is this renderer's brush texture, a placed image, rather than the line layer. drawPoints()
+    // drops it.
+    bool useLargeTexture() const { return _useLargeTexture; }
+    void setUseLargeTexture(bool value) { _useLargeTexture = value; }
+    // The sub-line layer masks the line layer.
+    bool repeatedlyRenderEnabled() const { return _repeatedlyRenderEnabled; }
+    void setRepeatedlyRenderEnabled(bool value) { _repeatedlyRenderEnabled = value; }
+    // Offsets count upwards, so a source is upright with flipY set.
+    bool flipX() const { return _flipX; }
+    void setFlipX(bool value) { _flipX = value; }
+    bool flipY() const { return _flipY; }
+    void setFlipY(bool value) { _flipY = value; }
+    float radian() const { return _radian; }  // counter-clockwise
+    void setRadian(float value) { _radian = value; }
+    float roundness() const { return _roundness; }
+    void setRoundness(float value) { _roundness = value; }
+
+    // Composites one rectangle a point; returns the touched rectangle in whole pixels, without a margin.
+    QRectF drawPoints(const LPPoint* points, std::size_t count) override;
+
+protected:
+    ESImageRender() = default;
+    void bindAttributeForProgram(ESProgram& program) override;
+    void programDidChange() override;
+
+private:
+    // A texture, the unit it is bound on and the size its coordinates divide by.
+    struct Role {
+        GLuint texture = 0;
+        GLenum unit = GL_TEXTURE0;
+        QSizeF size;
+
+        bool use() const;
+        GLint unitNumber() const { return static_cast<GLint>(unit - GL_TEXTURE0); }
+    };
+    struct Vertex;
+    struct Bounds;
+
+    void setLayer(Role& role, GLuint texture, GLenum unit);
+    bool bindSources();
+    std::array<float, 8> texCoords(const LPPoint& point) const;
+    void drawRect(const LPPoint& point);
+
+    std::uint32_t _blendType = ESBlendTypeNormal;
+    bool _flipX = false, _flipY = false;
+    float _radian = 0, _roundness = 1;
+    bool _useLargeTexture = false, _repeatedlyRenderEnabled = false;
+    Role _background, _line, _subLine;
+
+    GLint _positionIndex = -1, _texCoordIndex = -1;
+    dabcanvas::UniformFloat _opacityUniform, _radianUniform;
+    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit;
+    dabcanvas::UniformVec2 _viewSize, _bgTextureSize, _flip, _center;
+};
+
+// The blend programs as the library carries them, whatever files stand beside it.
+class ImageRenderFSH {
+public:
+    static QString normalFSHString();
+    static QString replaceFSHString();
+    static QString behindFSHString();
+    static QString eraseFSHString();
+    static QString tarnishFSHString();
+    static QString brightnessFSHString();
+    static QString multiplyFSHString();
+    static QString resetFSHString();
+};

@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: MIT
+#include "ESRender/ESLineRender.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "ESRender/LineShaderNames.h"
+#include "ESRender/Utilities/ESGLErrors.h"
+#include "Maths/Geometry.h"
+
+namespace {
+
+constexpr char kSourcePath[] = "SRC_New/ESRender/ESLineRender";
+constexpr GLenum kMaskUnit = GL_TEXTURE7;
+
+// One corner of a dab: place in the unit square, and the tip's texture coordinate there.
+struct Vertex {
+    float x, y, z, w;
+    float s, t;
+};
+static_assert(sizeof(Vertex) == 24);
+constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
+constexpr GLsizei kCorners = 4;
+
+QString withBool(QString source) {
+    return source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
+}
+
+}  // namespace
+
+// The area drawn into so far, with a margin of one pixel.
+struct ESLineRender::Bounds {
+    double minX, minY, maxX = 0, maxY = 0;
+
+    explicit Bounds(const QSizeF& buffer) : minX(buffer.width()), minY(buffer.height()) {}
+
+    void grow(const Dab& dab) {
+        QSizeF extent(dab.halfSize, dab.halfSize * dab.roundness);
+        if (dab.radian != 0) {
+            extent = CGSizeApplyRotation(extent, dab.radian);
+        }
+        minX = std::min(minX, dab.x - extent.width() - 1);
+        minY = std::min(minY, dab.y - extent.height() - 1);
+        maxX = std::max(maxX, dab.x + extent.width() + 1);
+        maxY = std::max(maxY, dab.y + extent.height() + 1);
+    }
+
+    QRectF cutTo(const QSizeF& buffer) const {
+        const double x = std::max(0.0, minX);
+        const double y = std::max(0.0, minY);
+        return {x, y, std::max(0.0, std::min(maxX, buffer.width()) - x),
+                std::max(0.0, std::min(maxY, buffer.height()) - y)};
+    }
+};
+
+std::unique_ptr<ESLineRender> ESLineRender::init() {
+    return initWithVertexShaderFromString({}, {});
+}
+
+std::unique_ptr<ESLineRender> ESLineRender::initWithVertexShaderFromString(
+    const QString& vertexShader, const QString& fragmentShaderFromString) {
+    std::unique_ptr<ESLineRender> render(new ESLineRender);
+    if (!render->setVertexShaderString(vertexShader, fragmentShaderFromString)) {
+        return nullptr;
+    }
+    render->_dabs.updateFlags();
+    return render;
+}
+
+QString ESLineRender::lineRenderNormalVertexShaderString() {
+    return stringWithFileName(QStringLiteral("Shaders.bundle/Line_Mac.vsh"));
+}
+
+QString ESLineRender::lineRenderNormalFrangmentShaderString() {
+    return stringWithFileName(QStringLiteral("Shaders.bundle/Line_Mac.fsh"));
+}
+
+bool ESLineRender::setVertexShaderString(const QString& vertexShaderString,
+                                         const QString& fragmentShaderFromString) {
+    const QString vertex =
+        vertexShaderString.isNull() ? lineRenderNormalVertexShaderString() : vertexShaderString;
+    const QString fragment = fragmentShaderFromString.isNull() ? lineRenderNormalFrangmentShaderString()
+                                                               : fragmentShaderFromString;
+    return useProgramWithVertexShaderString(withBool(vertex), withBool(fragment));
+}
+
+void ESLineRender::bindAttributeForProgram(ESProgram& program) {
+    using namespace dabcanvas::line;
+    for (const char* name : {kPosition, kCenter, kPointSize, kColor, kFlip, kRadian, kTexCoord}) {
+        program.addAttribute(name);
+    }
+}
+
+void ESLineRender::programDidChange() {
+    using namespace dabcanvas::line;
+    ESProgram& made = *program();
+    _positionIndex = made.attributeIndex(kPosition);
+    _texCoordIndex = made.attributeIndex(kTexCoord);
+    _tipCells = made.uniformIndex(kTipCells);
+    _useMask.locate(made.uniformIndex(kUseMask));
+    _maskUnit.locate(made.uniformIndex(kMaskTexture));
+    _maskSize.locate(made.uniformIndex(kMaskSize));
+    _maskBaseCoord.locate(made.uniformIndex(kMaskBaseCoord));
+    _color.locate(made.uniformIndex(kColor));
+    _hueTingle.locate(made.uniformIndex(kHueTingle));
+    _saturationTingle.locate(made.uniformIndex(kSaturationTingle));
+    _brightnessTingle.locate(made.uniformIndex(kBrightnessTingle));
+    _colorful.locate(made.uniformIndex(kColorful));
+    _flowUniform.locate(made.uniformIndex(kFlow));
+    _brushUnit.locate(made.uniformIndex(kBrushTexture));
+    _radian.locate(made.uniformIndex(kRadian));
+    _viewSize.locate(made.uniformIndex(kViewSize));
+    _roundness.locate(made.uniformIndex(kRoundness));
+    _rand.locate(made.uniformIndex(kRand));
+    _pointSize.locate(made.uniformIndex(kPointSize));
+    _flip.locate(made.uniformIndex(kFlip));
+    _center.locate(made.uniformIndex(kCenter));
+    _tipSize.locate(made.uniformIndex(kTipSize));
+    _tipCellsUploaded = false;
+}
+
+void ESLineRender::setTextureImage(const QImage& image, GLenum atPosition) {
+    ESBaseRender::setTextureImage(image, atPosition);
+    takeBaseSettings();
+}
+
+void ESLineRender::setTextureImages(const QList<QImage>& images, GLenum atPosition) {
+    ESBaseRender::setTextureImages(images, atPosition);
+    takeBaseSettings();
+}
+
+void ESLineRender::setMaskImage(const QImage& image) {
+    _maskImage = image;
+    if (image.isNull()) {
+        _maskTexture.reset();
+        return;
+    }
+    glActiveTexture(kMaskUnit);
+    _maskTexture = TextureObject::initWithImage(image);
+    _maskTexturePositon = kMaskUnit;
+}
+
+void ESLineRender::setBackRenderColor(const ESColor& color) {
+    set(&DabSettings::backColor, RgbTypeMake(color.red(), color.green(), color.blue()));
+}
+
+// What the base class keeps and dabs are made from.
+void ESLineRender::takeBaseSettings() {
+    DabSettings& settings = _dabs.settings;
+    settings.numberOfTips = numberOfTexture();
+    settings.tipCells = brushTexture() != nullptr ? brushTexture()->vertiesCount() : 1;
+    _dabs.updateFlags();
+    _tipCellsUploaded = false;
+}
+
+QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
+    Bounds bounds(bufferSize());
+    if (count == 0 || points == nullptr || program() == nullptr) {
+        return bounds.cutTo(bufferSize());
+    }
+    beginDrawing();
+    _dabs.make(points, count, [&](const Dab& dab) {
+        bounds.grow(dab);
+        if (needScissor()) {
+            clipTo(bounds);
+        }
+        drawDab(dab);
+    });
+    // One drain a run: asking after each dab would stall drivers that work ahead.
+    drainGLErrors(kSourcePath, __LINE__);
+    return bounds.cutTo(bufferSize());
+}
+
+// Everything that stays the same for a run of dabs.
+void ESLineRender::beginDrawing() {
+    DabSettings& settings = _dabs.settings;
+    settings.color = RgbTypeMake(colorR(), colorG(), colorB());
+    settings.flow = flow();
+    settings.lineProcessType = lineProcessType();
+
+    program()->bind();
+    if (!_tipCellsUploaded) {
+        uploadTipCells();
+    }
+    setMaskUniforms();
+    _colorful.set(settings.colorFul);
+    if (settings.colorFul) {
+        const bool jitters = _dabs.flags().hsvTingle;
+        _hueTingle.set(jitters ? settings.hueTingle : 0);
+        _saturationTingle.set(jitters ? settings.saturationTingle : 0);
+        _brightnessTingle.set(jitters ? settings.brightnessTingle : 0);
+    }
+    _viewSize.set(bufferSize().width(), bufferSize().height());
+    if (brushTexture() != nullptr && brushTexture()->useAtPosition(texturePos())) {
+        _brushUnit.set(texturePos() - GL_TEXTURE0);
+    }
+    checkGLStep(kSourcePath, __LINE__);
+}
+
+void ESLineRender::setMaskUniforms() {
+    const bool useMask =
+        _needMaskTexture && _maskTexture != nullptr && _maskTexture->useAtPosition(_maskTexturePositon);
+    _useMask.set(useMask);
+    // The sampler gets its own unit even when unused: two samplers on one unit of different kinds may not
+    // draw.
+    _maskUnit.set(_maskTexturePositon - GL_TEXTURE0);
+    if (!useMask) {
+        return;
+    }
+    // A tile is a whole pixel at least, or its pattern would divide by nothing.
+    _maskSize.set(std::max(1.0f, std::floor(_maskScale * static_cast<float>(_maskImage.width()))),
+                  std::max(1.0f, std::floor(_maskScale * static_cast<float>(_maskImage.height()))));
+    const float* cell = _maskTexture->verties();
+    const auto width = static_cast<float>(_maskTexture->pixSize().width());
+    const auto height = static_cast<float>(_maskTexture->pixSize().height());
+    _maskBaseCoord.set(cell[0] * width, cell[1] * height, (cell[4] - cell[0]) * width,
+                       (cell[3] - cell[1]) * height);
+}
+
+// The corners of a dab for every tip of the atlas, tip after tip: a dab picks its tip by where it starts to
+// draw, and no vertex data is sent per dab.
+void ESLineRender::uploadTipCells() {
+    std::array<Vertex, TextureObject::kMaxImages * kCorners> vertices{};
+    std::array<float, TextureObject::kMaxImages * 4> cells{};
+    static constexpr float kWhole[10] = {0, 0, 0, 1, 1, 1, 1, 0, 0, 0};
+    const TextureObject* texture = brushTexture();
+    const unsigned tips = _dabs.settings.tipCells;
+    for (unsigned tip = 0; tip < tips; ++tip) {
+        const float* cell = texture != nullptr ? texture->vertiesOfTextureIndex(tip) : kWhole;
+        for (unsigned corner = 0; corner < kCorners; ++corner) {
+            const float* pair = cell + 2 * (corner + 1);
+            vertices[tip * kCorners + corner] = {
+                kSquare[corner][0], kSquare[corner][1], 0, 1, pair[0], pair[1]};
+        }
+        std::copy_n(cell, 2, &cells[tip * 4]);
+        std::copy_n(cell + 4, 2, &cells[tip * 4 + 2]);
+    }
+    glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(tips * kCorners * sizeof(Vertex)), vertices.data(),
+                 GL_STATIC_DRAW);
+    glVertexAttribPointer(static_cast<GLuint>(_positionIndex), 4, GL_FLOAT, GL_FALSE, sizeof(Vertex),
+                          nullptr);
+    glEnableVertexAttribArray(static_cast<GLuint>(_positionIndex));
+    glVertexAttribPointer(static_cast<GLuint>(_texCoordIndex), 2, GL_FLOAT, GL_FALSE, sizeof(Vertex),
+                          reinterpret_cast<const void*>(offsetof(Vertex, s)));
+    glEnableVertexAttribArray(static_cast<GLuint>(_texCoordIndex));
+    glUniform4fv(_tipCells, static_cast<GLsizei>(tips), cells.data());
+    const QSize size = texture != nullptr ? texture->pixSize() : QSize(1, 1);
+    _tipSize.set(size.width(), size.height());
+    _tipCellsUploaded = true;
+    checkGLStep(kSourcePath, __LINE__);
+}
+
+void ESLineRender::drawDab(const Dab& dab) {
+    _color.set(dab.color.r, dab.color.g, dab.color.b, 1);
+    _flowUniform.set(dab.flow);
+    _radian.set(dab.radian);
+    _roundness.set(dab.roundness);
+    _pointSize.set(dab.halfSize);
+    _flip.set(dab.flipX, dab.flipY);
+    _center.set(dab.x, dab.y);
+    if (_dabs.settings.colorFul) {
+        _rand.set(dab.random);
+    }
+    checkGLStep(kSourcePath, __LINE__);
+    glDrawArrays(GL_TRIANGLE_FAN, static_cast<GLint>(dab.tip) * kCorners, kCorners);
+    ++_dabsDrawn;
+}
+
+void ESLineRender::clipTo(const Bounds& bounds) const {
+    glEnable(GL_SCISSOR_TEST);
+    glScissor(static_cast<GLint>(std::nearbyint(bounds.minX)),
+              static_cast<GLint>(std::nearbyint(bufferSize().height() - bounds.maxY)),
+              static_cast<GLsizei>(std::nearbyint(bounds.maxX - bounds.minX)),
+              static_cast<GLsizei>(std::nearbyint(bounds.maxY - bounds.minY)));
+}

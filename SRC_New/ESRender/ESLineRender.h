@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// Draws the points of a stroke as textured, rotated, squeezed and jittered dabs into the bound framebuffer.
+//
+// Units    buffer pixels, top-left origin; angles counter-clockwise in radians; a point's radius field is the
+// dab's width. Owns     its programs, tip and paper textures. The context must be current for everything but
+// the plain setters. State    the dab counter and direction run on from call to call until
+// resetLineProporty() begins the next stroke. Errors   init() gives null when the program does not build. GL
+// errors are logged and drawing goes on.
+#pragma once
+
+#include <QRectF>
+#include <QString>
+#include <memory>
+#include <type_traits>
+
+#include "ESRender/CachedUniform.h"
+#include "ESRender/Dab.h"
+#include "ESRender/ESBaseRender.h"
+#include "LineProcess/Tingle.h"
+
+class ESLineRender : public ESBaseRender {
+public:
+    static std::unique_ptr<ESLineRender> init();
+    // Null texts stand for the line program; "_Bool" in either is read as "bool".
+    static std::unique_ptr<ESLineRender> initWithVertexShaderFromString(
+        const QString& vertexShader, const QString& fragmentShaderFromString);
+
+    bool setVertexShaderString(const QString& vertexShaderString,
+                               const QString& fragmentShaderFromString) override;
+    static QString lineRenderNormalVertexShaderString();
+    static QString lineRenderNormalFrangmentShaderString();
+
+    // Begins a stroke.
+    void resetLineProporty() { _dabs.reset(); }
+
+    // Returns the touched rectangle with a margin of one pixel, cut to the buffer; empty when nothing was
+    // drawn.
+    QRectF drawPoints(const LPPoint* points, std::size_t count) override;
+
+    // Dabs drawn since the renderer was made.
+    std::uint64_t dabsDrawn() const { return _dabsDrawn; }
+
+    bool needMoveRadianSupport() const { return _dabs.flags().moveRadian; }
+    // The negated angle from the first position to the second.
+    static float radianWithPosition(LPPosition position, LPPosition nextPosition) {
+        return -Radian(position, nextPosition);
+    }
+
+    // ---- brush; the canvas's properties of the same names tell ranges and meaning
+
+    using ESBaseRender::setTextureImage;
+    void setTextureImage(const QImage& image, GLenum atPosition) override;
+    void setTextureImages(const QList<QImage>& images, GLenum atPosition) override;
+    // Keeps the image and makes its texture on unit 7; a null one turns the mask off.
+    void setMaskImage(const QImage& image);
+    const QImage& maskImage() const { return _maskImage; }
+    void setNeedMaskTexture(bool value) { _needMaskTexture = value; }
+    bool needMaskTexture() const { return _needMaskTexture; }
+    void setMaskScale(float value) { _maskScale = value; }
+    float maskScale() const { return _maskScale; }
+
+    const DabSettings& settings() const { return _dabs.settings; }
+    void setIsDebug(bool value) { set(&DabSettings::isDebug, value); }
+    void setRadius(float value) { set(&DabSettings::radius, value); }
+    void setMinRadius(float value) { set(&DabSettings::minRadius, value); }
+    void setRadiusTingle(float value) { set(&DabSettings::radiusTingle, value); }
+    void setDistribution(float value) { set(&DabSettings::distribution, value); }
+    void setDistributionControl(const LPControlParams& value) {
+        set(&DabSettings::distributionControl, value);
+    }
+    void setDisTwoAxes(bool value) { set(&DabSettings::disTwoAxes, value); }
+    void setDistributionCount(std::uint32_t value) { set(&DabSettings::distributionCount, value); }
+    void setDistributionCountTingle(float value) { set(&DabSettings::distributionCountTingle, value); }
+    void setDistributionCountControl(const LPControlParams& value) {
+        set(&DabSettings::distributionCountControl, value);
+    }
+    void setRadian(float value) { set(&DabSettings::radian, value); }
+    void setRadianTingle(float value) { set(&DabSettings::radianTingle, value); }
+    void setRadianControl(const LPControlParams& value) { set(&DabSettings::radianControl, value); }
+    void setStartRadianEnable(bool value) { set(&DabSettings::startRadianEnable, value); }
+    void setMoveRadianEnable(bool value) { set(&DabSettings::moveRadianEnable, value); }
+    void setRoundness(float value) { set(&DabSettings::roundness, value); }
+    void setMinRoundness(float value) { set(&DabSettings::minRoundness, value); }
+    void setRoundnessTingle(float value) { set(&DabSettings::roundnessTingle, value); }
+    void setRoundnessControl(const LPControlParams& value) { set(&DabSettings::roundnessControl, value); }
+    void setFlipX(bool value) { set(&DabSettings::flipX, value); }
+    void setFlipY(bool value) { set(&DabSettings::flipY, value); }
+    void setFlipXTingle(bool value) { set(&DabSettings::flipXTingle, value); }
+    void setFlipYTingle(bool value) { set(&DabSettings::flipYTingle, value); }
+    void setMinFlow(float value) { set(&DabSettings::minFlow, value); }
+    void setMaxFlow(float value) { set(&DabSettings::maxFlow, value); }
+    void setFlowTingle(float value) { set(&DabSettings::flowTingle, value); }
+    void setDecay(float value) { set(&DabSettings::decay, value); }
+    void setFlowControl(const LPControlParams& value) { set(&DabSettings::flowControl, value); }
+    void setTextureTingleEnabled(bool value) { set(&DabSettings::textureTingleEnabled, value); }
+    void setTextureControl(const LPControlParams& value) { set(&DabSettings::textureControl, value); }
+    void setColorTingle(float value) { set(&DabSettings::colorTingle, value); }
+    void setColorControl(const LPControlParams& value) { set(&DabSettings::colorControl, value); }
+    void setHueTingle(float value) { set(&DabSettings::hueTingle, value); }
+    void setSaturationTingle(float value) { set(&DabSettings::saturationTingle, value); }
+    void setBrightnessTingle(float value) { set(&DabSettings::brightnessTingle, value); }
+    void setColorFul(bool value) { set(&DabSettings::colorFul, value); }
+    // The secondary colour; no colour gives black, as with setRenderColor().
+    void setBackRenderColor(const ESColor& color);
+
+protected:
+    ESLineRender() = default;
+    void bindAttributeForProgram(ESProgram& program) override;
+    void programDidChange() override;
+
+private:
+    struct Bounds;
+
+    template <typename Value>
+    void set(Value DabSettings::*field, const std::type_identity_t<Value>& value) {
+        _dabs.settings.*field = value;
+        _dabs.updateFlags();
+    }
+
+    void takeBaseSettings();
+    void beginDrawing();
+    void setMaskUniforms();
+    void uploadTipCells();
+    void drawDab(const Dab& dab);
+    void clipTo(const Bounds& bounds) const;
+
+    DabMaker _dabs;
+    std::uint64_t _dabsDrawn = 0;
+
+    bool _needMaskTexture = false;
+    float _maskScale = 1;
+    QImage _maskImage;
+    std::unique_ptr<TextureObject> _maskTexture;
+    GLenum _maskTexturePositon = GL_TEXTURE7;
+
+    bool _tipCellsUploaded = false;
+    GLint _positionIndex = -1;
+    GLint _texCoordIndex = -1;
+    GLint _tipCells = -1;
+    dabcanvas::UniformInt _useMask, _maskUnit, _colorful, _brushUnit;
+    dabcanvas::UniformVec2 _maskSize, _viewSize, _flip, _center, _tipSize;
+    dabcanvas::UniformVec4 _maskBaseCoord, _color;
+    dabcanvas::UniformFloat _hueTingle, _saturationTingle, _brightnessTingle, _flowUniform, _radian,
+        _roundness, _rand, _pointSize;
+};

@@ -1,0 +1,70 @@
+#version 150
+// Paints one dab: the tip's alpha is the shape, the brush colour fills it. Premultiplied.
+uniform sampler2D u_brushTexture;
+uniform vec4 a_color;
+uniform float u_flow;
+
+uniform _Bool u_useMask;
+uniform sampler2D u_maskTexture;
+uniform vec2 u_maskSize;      // one tile of paper on the buffer, in pixels
+uniform vec4 u_maskBaseCoord; // the paper in its texture: x, y, width, height in texels
+uniform vec2 u_viewSize;
+
+uniform _Bool u_colorful;
+uniform float u_rand;
+uniform float u_hueTingle;
+uniform float u_saturationTingle;
+uniform float u_brightnessTingle;
+
+in vec2 v_texCoord;
+flat in vec4 v_tipCell;
+out vec4 fragColor;
+
+// How much the paper lets through here: white all, black and transparent nothing.
+float paper() {
+    vec2 pixel = vec2(gl_FragCoord.x, u_viewSize.y - gl_FragCoord.y);
+    vec2 tile = fract(pixel / u_maskSize);
+    float level = max(log2(max(u_maskBaseCoord.z / u_maskSize.x, u_maskBaseCoord.w / u_maskSize.y)), 0.0);
+    vec2 inset = min(vec2(0.5 * exp2(ceil(level))), 0.5 * u_maskBaseCoord.zw);
+    vec2 texel = clamp(vec2(tile.x, 1.0 - tile.y) * u_maskBaseCoord.zw, inset, u_maskBaseCoord.zw - inset);
+    vec4 grain = textureLod(u_maskTexture, (u_maskBaseCoord.xy + texel) / vec2(textureSize(u_maskTexture, 0)), level);
+    return dot(grain.rgb, vec3(0.299, 0.587, 0.114));
+}
+
+vec3 hsvFromRgb(vec3 c) {
+    float high = max(c.r, max(c.g, c.b));
+    float span = high - min(c.r, min(c.g, c.b));
+    float hue = 0.0;
+    if (span > 0.0) {
+        hue = high == c.r ? (c.g - c.b) / span : high == c.g ? 2.0 + (c.b - c.r) / span : 4.0 + (c.r - c.g) / span;
+    }
+    return vec3(fract(hue / 6.0), high > 0.0 ? span / high : 0.0, high);
+}
+
+vec3 rgbFromHsv(vec3 c) {
+    vec3 ramp = clamp(abs(fract(c.x + vec3(0.0, 2.0 / 3.0, 1.0 / 3.0)) * 6.0 - 3.0) - 1.0, 0.0, 1.0);
+    return c.z * mix(vec3(1.0), ramp, c.y);
+}
+
+// The tip's own colours, the brush colour where the tip is black, all varied by the dab's random number.
+vec3 multicolour(vec4 tip) {
+    vec3 own = tip.a > 0.0 ? clamp(tip.rgb / tip.a, 0.0, 1.0) : vec3(0.0);
+    vec3 hsv = hsvFromRgb(own + a_color.rgb * (1.0 - max(own.r, max(own.g, own.b))));
+    vec3 swing = fract(u_rand * vec3(1.0, 7.31, 53.17)) * 2.0 - 1.0;
+    hsv.x += swing.x * 0.5 * u_hueTingle;
+    hsv.yz = clamp(hsv.yz + swing.yz * vec2(u_saturationTingle, u_brightnessTingle), 0.0, 1.0);
+    return rgbFromHsv(hsv);
+}
+
+void main() {
+    vec4 tip = texture(u_brushTexture, clamp(v_texCoord, v_tipCell.xy, v_tipCell.zw));
+    float coverage = tip.a * u_flow;
+    if (u_useMask) {
+        coverage *= paper();
+    }
+    vec3 color = a_color.rgb;
+    if (u_colorful) {
+        color = multicolour(tip);
+    }
+    fragColor = vec4(color * coverage, coverage);
+}

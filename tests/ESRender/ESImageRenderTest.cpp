@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: MIT
+#include "ESRender/ESImageRender.h"
+
+#include <epoxy/gl.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <ostream>
+#include <string>
+
+#include "ESRender/ImageShaderNames.h"
+#include "support/GLTest.h"
+
+namespace {
+
+using Color = std::array<double, 4>;  // premultiplied
+
+class ImageRenderTest : public GLTest {
+protected:
+    void make(int width, int height) {
+        ASSERT_TRUE(_context->createBufferWithSize(QSizeF(width, height)));
+        _render = ESImageRender::initWithBufferSize(QSizeF(width, height));
+        ASSERT_TRUE(_render);
+        _render->setLineTextureID(_context->lineTexture(), GL_TEXTURE4);
+        _render->setSubLineTextureID(_context->subLineTexture(), GL_TEXTURE5);
+        _render->setFlipY(true);
+    }
+    void TearDown() override {
+        _render.reset();
+        GLTest::TearDown();
+    }
+
+    // A target filled with random premultiplied pixels, as it is then, upright.
+    QImage fillWithNoise(ESRenderType target, unsigned seed) {
+        _context->beginRenderForType(target);
+        const QSize size = _context->sizeForType(target);
+        QImage noise(size, QImage::Format_RGBA8888_Premultiplied);
+        std::srand(seed);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x) {
+                uchar* pixel = noise.scanLine(y) + 4 * x;
+                pixel[3] = static_cast<uchar>(std::rand() % 4 == 0   ? 0
+                                              : std::rand() % 4 == 0 ? 255
+                                                                     : std::rand() % 256);
+                for (int i = 0; i < 3; ++i) {
+                    pixel[i] = static_cast<uchar>(std::rand() % (pixel[3] + 1));
+                }
+            }
+        }
+        if (target == ESRenderTypeCanvas) {
+            GLuint texture = 0;
+            glGenTextures(1, &texture);
+            glBindTexture(GL_TEXTURE_2D, texture);
+            upload(noise, true);
+            GLuint source = 0;
+            glGenFramebuffers(1, &source);
+            glBindFramebuffer(GL_READ_FRAMEBUFFER, source);
+            glFramebufferTexture2D(GL_READ_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture, 0);
+            glBlitFramebuffer(0, 0, size.width(), size.height(), 0, 0, size.width(), size.height(),
+                              GL_COLOR_BUFFER_BIT, GL_NEAREST);
+            glDeleteFramebuffers(1, &source);
+            glDeleteTextures(1, &texture);
+        } else {
+            glActiveTexture(GL_TEXTURE0);
+            glBindTexture(GL_TEXTURE_2D,
+                          target == ESRenderTypeLine ? _context->lineTexture() : _context->subLineTexture());
+            upload(noise, false);
+        }
+        return noise;
+    }
+
+    // Copies the canvas into the background and composites one rectangle.
+    QImage composite(const QRectF& rect) {
+        _context->beginRenderForType(ESRenderTypeCanvas);
+        _render->updateBGTextureAtPos(GL_TEXTURE3);
+        _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
+        _render->setRoundness(static_cast<float>(rect.height() / rect.width()));
+        const LPPoint dab{{static_cast<float>(rect.center().x()), static_cast<float>(rect.center().y())},
+                          static_cast<float>(rect.width()),
+                          {1, 1, 1}};
+        _touched = _render->drawPoints(&dab, 1);
+        return _context->image();
+    }
+
+    std::unique_ptr<ESImageRender> _render;
+    QRectF _touched;
+
+private:
+    static void upload(const QImage& image, bool allocate) {
+        const QImage rows = image.mirrored(false, true);  // GL rows run bottom-up
+        if (allocate) {
+            glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, rows.width(), rows.height(), 0, GL_RGBA,
+                         GL_UNSIGNED_BYTE, rows.constBits());
+        } else {
+            glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, rows.width(), rows.height(), GL_RGBA, GL_UNSIGNED_BYTE,
+                            rows.constBits());
+        }
+    }
+};
+
+Color colorAt(const QImage& image, int x, int y) {
+    const uchar* pixel = image.constScanLine(y) + 4 * x;
+    return {pixel[0] / 255.0, pixel[1] / 255.0, pixel[2] / 255.0, pixel[3] / 255.0};
+}
+
+// What each mode makes of background B and source L, where it does not discard.
+using Formula = Color (*)(const Color& B, const Color& L);
+struct Mode {
+    const char* name;
+    std::uint32_t type;
+    double discardBelow;  // source alpha; such a pixel keeps what the canvas holds
+    Formula formula;
+};
+void PrintTo(const Mode& mode, std::ostream* out) {
+    *out << mode.name;
+}
+
+Color perChannel(const Color& B, const Color& L, double alpha, double (*mix)(double b, double l)) {
+    const double sL = 1 - L[3], sB = 1 - B[3];
+    Color out{0, 0, 0, alpha};
+    for (std::size_t i = 0; i < 3; ++i) {
+        out[i] = mix(sB + B[i], sL + L[i]) - (1 - alpha);
+    }
+    return out;
+}
+
+Color over(const Color& B, const Color& L) {
+    Color out{};
+    for (std::size_t i = 0; i < 4; ++i) {
+        out[i] = B[i] * (1 - L[3]) + L[i];
+    }
+    return out;
+}
+
+const Mode kModes[] = {
+    {"Normal", 1, 0, over},
+    {"Three", 3, 0, over},
+    {"Unknown", 77, 0, over},
+    {"Replace", 2, 0, [](const Color&, const Color& L) { return L; }},
+    {"Behind", 4, 0.001, [](const Color& B, const Color& L) { return over(L, B); }},
+    {"Erase", 5, 0.001,
+     [](const Color& B, const Color& L) {
+         const double rest = 1 - L[3];
+         return Color{B[0] * rest, B[1] * rest, B[2] * rest, B[3] * rest};
+     }},
+    {"Tarnish", 6, 0.001,
+     [](const Color& B, const Color& L) {
+         return perChannel(B, L, B[3] * (1 - L[3]) + L[3], [](double b, double l) { return std::min(b, l); });
+     }},
+    {"Brightness", 7, 0.001,
+     [](const Color& B, const Color& L) {
+         return Color{std::max(B[0], L[0]), std::max(B[1], L[1]), std::max(B[2], L[2]),
+                      B[3] * (1 - L[3]) + L[3]};
+     }},
+    {"Multiply", 8, 0.0001,
+     [](const Color& B, const Color& L) {
+         return perChannel(B, L, B[3] * (1 - L[3]) + L[3], [](double b, double l) { return b * l; });
+     }},
+    {"Reset", 9, 0, [](const Color& B, const Color&) { return B; }},
+};
+
+class BlendModeTest : public ImageRenderTest, public ::testing::WithParamInterface<Mode> {
+protected:
+    void check(double opacity, bool masked) {
+        make(61, 43);
+        const QImage background = fillWithNoise(ESRenderTypeCanvas, 1);
+        const QImage line = fillWithNoise(ESRenderTypeLine, 2);
+        const QImage subLine = fillWithNoise(ESRenderTypeSubLine, 3);
+        const Mode& mode = GetParam();
+        _render->setBlendType(mode.type);
+        _render->setOpacity(static_cast<float>(opacity));
+        _render->setRepeatedlyRenderEnabled(masked);
+        const QImage result = composite(QRectF(0, 0, 61, 43));
+        for (int y = 0; y < 43; ++y) {
+            for (int x = 0; x < 61; ++x) {
+                const Color B = colorAt(background, x, y);
+                Color L = colorAt(line, x, y);
+                for (double& part : L) {
+                    part *= opacity * (masked ? colorAt(subLine, x, y)[3] : 1);
+                }
+                // Replacing takes a transparent source as it is, but not what the sub-line masks away.
+                const bool masksAway =
+                    masked && mode.type == ESBlendTypeReplace && colorAt(subLine, x, y)[3] < 0.001;
+                const bool keeps = L[3] < mode.discardBelow || masksAway;
+                const Color expected = keeps ? B : mode.formula(B, L);
+                const Color actual = colorAt(result, x, y);
+                for (std::size_t i = 0; i < 4; ++i) {
+                    // Single precision, then rounding to a byte.
+                    ASSERT_NEAR(actual[i], std::clamp(expected[i], 0.0, 1.0), 0.51 / 255)
+                        << "channel " << i << " at " << x << "," << y;
+                }
+            }
+        }
+    }
+};
+TEST_P(BlendModeTest, FollowsItsFormula) {
+    check(1, false);
+}
+TEST_P(BlendModeTest, FollowsItsFormulaMaskedAndThinned) {
+    check(0.6, true);
+}
+INSTANTIATE_TEST_SUITE_P(Modes, BlendModeTest, ::testing::ValuesIn(kModes),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+// Texel on pixel
+
+struct Size {
+    int width, height;
+};
+class CompositeSizeTest : public ImageRenderTest, public ::testing::WithParamInterface<Size> {};
+TEST_P(CompositeSizeTest, EachTexelLandsOnItsPixel) {
+    const auto [width, height] = GetParam();
+    make(width, height);
+    fillWithNoise(ESRenderTypeCanvas, 4);
+    const QImage line = fillWithNoise(ESRenderTypeLine, 5);
+    _render->setBlendType(ESBlendTypeReplace);
+    EXPECT_TRUE(imagesMatch(composite(QRectF(0, 0, width, height)), line));
+
+    // Odd places and sizes; what lies outside stays.
+    const QImage before = fillWithNoise(ESRenderTypeCanvas, 6);
+    const QRect part(width / 3, height / 5, width / 2 + 1, height / 3);
+    const QImage result = composite(part);
+    EXPECT_TRUE(imagesMatch(result.copy(part), line.copy(part)));
+    QImage rest = result;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        std::copy_n(before.constScanLine(y) + 4 * part.left(), 4 * part.width(),
+                    rest.scanLine(y) + 4 * part.left());
+    }
+    EXPECT_TRUE(imagesMatch(rest, before));
+    EXPECT_EQ(_touched.toRect(), part);
+}
+INSTANTIATE_TEST_SUITE_P(Buffers, CompositeSizeTest,
+                         ::testing::Values(Size{1000, 700}, Size{1001, 801}, Size{257, 129}, Size{64, 64},
+                                           Size{1, 1}),
+                         [](const auto& row) {
+                             return std::to_string(row.param.width) + "x" + std::to_string(row.param.height);
+                         });
+
+TEST_F(ImageRenderTest, APlacedImageIsUprightExactAndDroppedAfterwards) {
+    make(120, 90);
+    const QImage image = patternImage(QSize(64, 32));
+    _render->setTextureImage(image, GL_TEXTURE0);
+    _render->setUseLargeTexture(true);
+    _render->setBlendType(ESBlendTypeReplace);
+    const QImage result = composite(QRectF(20, 10, 64, 32));
+    EXPECT_TRUE(imagesMatch(result.copy(20, 10, 64, 32), image));
+    EXPECT_EQ(_render->brushTexture(), nullptr);
+    EXPECT_TRUE(imagesMatch(composite(QRectF(20, 10, 64, 32)), result))
+        << "without a source nothing is drawn";
+}
+
+TEST_F(ImageRenderTest, TouchesWholePixelsWithoutAMargin) {
+    make(200, 150);
+    _render->setRoundness(0.5f);
+    const LPPoint dab{{100, 50}, 10, {1, 1, 1}};
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    EXPECT_EQ(_render->drawPoints(&dab, 1), QRectF(95, 47, 10, 5));
+    EXPECT_EQ(_render->drawPoints(nullptr, 0), QRectF(200, 150, -200, -150)) << "inverted: nothing drawn";
+}
+
+// Programs
+
+TEST_F(ImageRenderTest, EveryModeHasTheNamesTheRendererSets) {
+    using namespace dabcanvas::image;
+    make(8, 8);
+    for (std::uint32_t type = 1; type <= 9; ++type) {
+        _render->setBlendType(type);
+        EXPECT_GE(_render->program()->attributeIndex(kPosition), 0);
+        for (const char* name : {kBGTexture, kRadian, kViewSize, kBGTextureSize, kFlip, kCenter}) {
+            // Replacing ignores the background, so its linker drops what leads there.
+            const bool background = std::string(name) == kBGTexture || std::string(name) == kBGTextureSize;
+            if (type != ESBlendTypeReplace || !background) {
+                EXPECT_GE(_render->program()->uniformIndex(name), 0) << name << " of type " << type;
+            }
+        }
+        for (const char* name : {kOpacity, kUseSubLine, kLineTexture, kSubLineTexture}) {
+            EXPECT_EQ(_render->program()->uniformIndex(name) >= 0, type != ESBlendTypeReset)
+                << name << " of " << type;
+        }
+    }
+    EXPECT_EQ(_render->programObjects().size(), 8u) << "built once a mode; 3 shares the normal one";
+}
+
+TEST_F(ImageRenderTest, AProgramsTextTellsItsType) {
+    for (const std::uint32_t type : {1u, 2u, 4u, 5u, 6u, 7u, 8u, 9u}) {
+        EXPECT_EQ(ESImageRender::blendTypeOfFragmentShaderString(
+                      ESImageRender::fragmentShaderStringForBlendType(type)),
+                  type);
+    }
+    EXPECT_EQ(ESImageRender::blendTypeOfFragmentShaderString(QStringLiteral("void main() {}")), 0u);
+    EXPECT_EQ(ESImageRender::blendTypeOfFragmentShaderString(QStringLiteral("--")), 3u);
+    EXPECT_EQ(ImageRenderFSH::eraseFSHString(), ESImageRender::eraseFSHString());
+}
+
+TEST_F(ImageRenderTest, RemovingTheCurrentModesProgramFallsBackToNormal) {
+    make(8, 8);
+    _render->setBlendType(ESBlendTypeErase);
+    const QString vertex = _render->vertexShaderString();
+    const QString erase = _render->fragmentShaderString();
+    _render->removeProgramWithVertexShaderString(vertex, erase);
+    EXPECT_FALSE(_render->isExistWithVertexShaderString(vertex, erase));
+    EXPECT_EQ(_render->fragmentShaderString(),
+              ESImageRender::fragmentShaderStringForBlendType(ESBlendTypeNormal));
+}
+
+}  // namespace

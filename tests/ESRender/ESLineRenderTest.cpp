@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "ESRender/ESLineRender.h"
+
+#include <epoxy/gl.h>
+
+#include <QTransform>
+#include <cmath>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "ESRender/LineShaderNames.h"
+#include "support/GLTest.h"
+
+namespace {
+
+constexpr int kWidth = 200, kHeight = 150;
+
+class LineRenderTest : public GLTest {
+protected:
+    void SetUp() override {
+        GLTest::SetUp();
+        if (IsSkipped() || HasFatalFailure()) {
+            return;
+        }
+        ASSERT_TRUE(_context->createBufferWithSize(QSizeF(kWidth, kHeight)));
+        _render = ESLineRender::init();
+        ASSERT_TRUE(_render);
+        _render->setBufferSize(QSizeF(kWidth, kHeight));
+        _render->setIsDebug(true);
+        _render->resetLineProporty();
+    }
+    void TearDown() override {
+        _render.reset();
+        GLTest::TearDown();
+    }
+
+    // Draws into the cleared line layer and gives it back, upright.
+    QImage draw(const std::vector<LPPoint>& points) {
+        _context->beginRenderForType(ESRenderTypeLine);
+        _context->setBlendModelForType(ESRenderTypeLine);
+        _render->clear();
+        _touched = _render->drawPoints(points.data(), points.size());
+        return _context->imageForType(ESRenderTypeLine);
+    }
+
+    std::unique_ptr<ESLineRender> _render;
+    QRectF _touched;
+};
+
+// An opaque arrow-like shape with no symmetry: a bar along the top, a short one down the left.
+QImage lopsidedTip(int side = 32) {
+    QImage tip(side, side, QImage::Format_RGBA8888_Premultiplied);
+    tip.fill(Qt::transparent);
+    for (int y = 2; y < side - 6; ++y) {
+        for (int x = 2; x < (y < 8 ? side - 4 : 9); ++x) {
+            tip.setPixelColor(x, y, QColor(0, 0, 0, 255));
+        }
+    }
+    return tip;
+}
+
+QImage blockTip(int side) {
+    QImage tip(side, side, QImage::Format_RGBA8888_Premultiplied);
+    tip.fill(QColor(0, 0, 0, 255));
+    return tip;
+}
+
+// Where a tip, drawn at its own size around (100, 75) in white, would leave its alpha.
+QImage expectedLayer(const QImage& tip) {
+    QImage layer(kWidth, kHeight, QImage::Format_RGBA8888_Premultiplied);
+    layer.fill(Qt::transparent);
+    for (int y = 0; y < tip.height(); ++y) {
+        for (int x = 0; x < tip.width(); ++x) {
+            if (tip.pixelColor(x, y).alpha() > 0) {
+                layer.setPixelColor(100 - tip.width() / 2 + x, 75 - tip.height() / 2 + y, Qt::white);
+            }
+        }
+    }
+    return layer;
+}
+
+QRect painted(const QImage& image) {
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y).alpha() > 0) {
+                bounds |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return bounds;
+}
+
+TEST_F(LineRenderTest, TheProgramHasEveryNameTheRendererSets) {
+    using namespace dabcanvas::line;
+    for (const char* name : {kPosition, kTexCoord}) {
+        EXPECT_GE(_render->program()->attributeIndex(name), 0) << name;
+    }
+    for (const char* name :
+         {kUseMask,          kMaskTexture,      kMaskSize, kMaskBaseCoord, kColor,        kHueTingle,
+          kSaturationTingle, kBrightnessTingle, kColorful, kFlow,          kBrushTexture, kRadian,
+          kViewSize,         kRoundness,        kRand,     kPointSize,     kFlip,         kCenter,
+          kTipCells,         kTipSize}) {
+        EXPECT_GE(_render->program()->uniformIndex(name), 0) << name;
+    }
+}
+
+// Placement
+
+TEST_F(LineRenderTest, ATipOfItsOwnSizeIsDrawnTexelOnPixelUprightAndUnmirrored) {
+    _render->setRenderColor(ESColor::grey(1));
+    const QImage tip = lopsidedTip();
+    _render->setTextureImage(tip, GL_TEXTURE1);
+    const std::vector<LPPoint> dab{{{100, 75}, 32, {1, 0, 1}}};
+    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip)));
+    _render->setFlipX(true);
+    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip.mirrored(true, false))));
+    _render->setFlipY(true);
+    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip.mirrored(true, true))));
+    _render->setFlipX(false);
+    _render->setFlipY(false);
+    _render->setRadian(1.57079633f);
+    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip.transformed(QTransform().rotate(-90)))))
+        << "counter-clockwise";
+}
+
+TEST_F(LineRenderTest, ColourAndFlowArePremultiplied) {
+    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
+    _render->setRenderColor(ESColor::rgba(1, 0.5f, 0));
+    _render->setFlow(0.5f);
+    const QImage layer = draw({{{100, 75}, 32, {1, 0, 1}}});
+    const uchar* pixel = layer.constScanLine(75) + 4 * 100;
+    EXPECT_NEAR(pixel[0], 128, 1);
+    EXPECT_NEAR(pixel[1], 64, 1);
+    EXPECT_EQ(pixel[2], 0);
+    EXPECT_NEAR(pixel[3], 128, 1);
+}
+
+TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
+    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
+    draw({{{100, 50}, 10, {1, 0, 1}}});
+    EXPECT_EQ(_touched, QRectF(94, 44, 12, 12));
+    draw({{{2, 3}, 10, {1, 0, 1}}, {{198, 149}, 10, {1, 0, 1}}});
+    EXPECT_EQ(_touched, QRectF(0, 0, kWidth, kHeight)) << "cut to the buffer";
+    draw({});
+    EXPECT_TRUE(_touched.isEmpty());
+    draw({{{-100, 50}, 10, {1, 0, 1}}});
+    EXPECT_TRUE(_touched.isEmpty());
+}
+
+// Nothing is ever drawn outside the rectangle told, or seams would stay on the canvas.
+struct Jitter {
+    const char* name;
+    std::function<void(ESLineRender&)> set;
+};
+void PrintTo(const Jitter& jitter, std::ostream* out) {
+    *out << jitter.name;
+}
+class LineRenderBoundsTest : public LineRenderTest, public ::testing::WithParamInterface<Jitter> {};
+TEST_P(LineRenderBoundsTest, HoldEveryPixel) {
+    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
+    _render->setRenderColor(ESColor::grey(1));
+    GetParam().set(*_render);
+    for (int i = 0; i < 12; ++i) {
+        _render->resetLineProporty();
+        const auto shift = static_cast<float>(i) * 3.3f;
+        const QImage layer =
+            draw({{{60 + shift, 70}, 21, {0.5f, 0.9f, 0.4f}}, {{75 + shift, 81}, 17, {0.7f, 0, 1}}});
+        EXPECT_FALSE(painted(layer).isNull());
+        EXPECT_TRUE(_touched.toAlignedRect().contains(painted(layer))) << "round " << i;
+    }
+}
+INSTANTIATE_TEST_SUITE_P(
+    Jitters, LineRenderBoundsTest,
+    ::testing::Values(Jitter{"None", [](ESLineRender&) {}},
+                      Jitter{"Turned", [](ESLineRender& r) { r.setRadian(0.7f); }},
+                      Jitter{"TurnedAtStart", [](ESLineRender& r) { r.setStartRadianEnable(true); }},
+                      Jitter{"TurnedAtRandom", [](ESLineRender& r) { r.setRadianTingle(1); }},
+                      Jitter{"Following", [](ESLineRender& r) { r.setMoveRadianEnable(true); }},
+                      Jitter{"FlatAndTurned",
+                             [](ESLineRender& r) {
+                                 r.setRoundness(0.2f);
+                                 r.setRoundnessTingle(1);
+                                 r.setRadianTingle(1);
+                             }},
+                      Jitter{"Scattered",
+                             [](ESLineRender& r) {
+                                 r.setRadius(20);
+                                 r.setDistribution(1);
+                                 r.setDistributionCount(5);
+                                 r.setRadiusTingle(1);
+                                 r.setStartRadianEnable(true);
+                             }},
+                      Jitter{"ThinLine", [](ESLineRender& r) { r.setLineProcessType(kNoThinDabs); }},
+                      Jitter{"Clipped", [](ESLineRender& r) { r.setNeedScissor(true); }}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+// Tips
+
+TEST_F(LineRenderTest, NeighboursInTheAtlasNeverBleedIntoADab) {
+    QImage nothing(64, 64, QImage::Format_RGBA8888_Premultiplied);
+    nothing.fill(Qt::transparent);
+    _render->setRenderColor(ESColor::grey(1));
+    // Index 0 is picked at full strength of the control, the last at none: empty next to full, and full next
+    // to empty.
+    _render->setTextureControl({1, 0, 0});
+    for (const float size : {3.0f, 7.0f, 16.0f, 33.0f, 64.0f, 128.0f, 140.0f}) {
+        for (const float roundness : {1.0f, 0.3f}) {
+            _render->setRoundness(roundness);
+            _render->setTextureImages({nothing, blockTip(128), blockTip(128), blockTip(128)}, GL_TEXTURE1);
+            EXPECT_TRUE(painted(draw({{{100, 75}, size, {1, 0, 1}}})).isNull()) << "size " << size;
+
+            _render->setTextureImages({blockTip(128), nothing, nothing, nothing}, GL_TEXTURE1);
+            const QImage layer = draw({{{100.5f, 75.5f}, size, {1, 0, 1}}});
+            const QRect solid = painted(layer);
+            for (int y = solid.top(); y <= solid.bottom(); ++y) {
+                for (int x = solid.left(); x <= solid.right(); ++x) {
+                    ASSERT_EQ(layer.pixelColor(x, y), QColor(Qt::white))
+                        << "size " << size << " at " << x << "," << y;
+                }
+            }
+            EXPECT_NEAR(solid.width(), std::min<float>(size, kWidth), 1);
+        }
+    }
+}
+
+TEST_F(LineRenderTest, TheTipIsPickedPerDab) {
+    QImage dot(128, 128, QImage::Format_RGBA8888_Premultiplied);
+    dot.fill(Qt::transparent);
+    for (int i = 60; i < 68; ++i) {
+        for (int j = 60; j < 68; ++j) {
+            dot.setPixelColor(i, j, Qt::black);
+        }
+    }
+    _render->setTextureImages({blockTip(128), dot}, GL_TEXTURE1);
+    _render->setTextureControl({1, 0, 0});
+    const QImage layer = draw({{{50, 75}, 64, {1, 0, 1}}, {{150, 75}, 64, {0, 0, 1}}});
+    EXPECT_EQ(painted(layer.copy(0, 0, 100, kHeight)).width(), 64);
+    EXPECT_LE(painted(layer.copy(100, 0, 100, kHeight)).width(), 8);
+}
+
+// Paper
+
+TEST_F(LineRenderTest, PaperTilesFromTheTopLeftAndHoldsBackWhereItIsBlack) {
+    QImage paper(20, 10, QImage::Format_RGBA8888_Premultiplied);
+    paper.fill(Qt::black);
+    for (int y = 0; y < 5; ++y) {
+        for (int x = 0; x < 10; ++x) {
+            paper.setPixelColor(x, y, Qt::white);
+        }
+    }
+    _render->setTextureImage(blockTip(128), GL_TEXTURE1);
+    _render->setMaskImage(paper);
+    _render->setNeedMaskTexture(true);
+    const auto check = [&](int scale) {
+        _render->setMaskScale(static_cast<float>(scale));
+        const QImage layer = draw({{{64, 64}, 128, {1, 0, 1}}});
+        for (int y = 2; y < 126; ++y) {
+            for (int x = 2; x < 126; ++x) {
+                const int u = x / scale % 20, v = y / scale % 10;
+                const bool rim = scale > 1 && (u % 10 == 0 || u % 10 == 9 || v % 5 == 0 || v % 5 == 4);
+                if (!rim) {  // an enlarged tile is smooth at its steps
+                    ASSERT_EQ(layer.pixelColor(x, y).alpha(), u < 10 && v < 5 ? 255 : 0) << x << "," << y;
+                }
+            }
+        }
+    };
+    check(1);
+    check(3);
+    _render->setMaskScale(0);  // never divides by nothing
+    EXPECT_EQ(draw({{{64, 64}, 128, {1, 0, 1}}}).size(), QSize(kWidth, kHeight));
+    _render->setMaskImage({});
+    EXPECT_EQ(draw({{{64, 64}, 128, {1, 0, 1}}}).pixelColor(15, 7).alpha(), 255) << "no paper, no mask";
+}
+
+// Multicolour
+
+TEST_F(LineRenderTest, MulticolourPaintsTheTipsOwnColoursAndTheBrushesWhereItIsBlack) {
+    QImage tip = blockTip(32);
+    for (int y = 0; y < 32; ++y) {
+        for (int x = 0; x < 16; ++x) {
+            tip.setPixelColor(x, y, QColor(200, 40, 60));
+        }
+    }
+    _render->setTextureImage(tip, GL_TEXTURE1);
+    _render->setRenderColor(ESColor::rgba(0, 0, 1));
+    _render->setColorFul(true);
+    const QImage layer = draw({{{100, 75}, 32, {1, 0, 1}}});
+    const QColor left = layer.pixelColor(90, 75);
+    EXPECT_NEAR(left.red(), 200, 2);
+    EXPECT_NEAR(left.green(), 40, 2);
+    EXPECT_GT(left.blue(), 60) << "between the tip's own blue and the brush's";
+    EXPECT_EQ(layer.pixelColor(110, 75), QColor(0, 0, 255));
+}
+
+TEST_F(LineRenderTest, AProgramThatDoesNotBuildGivesNoRenderer) {
+    EXPECT_EQ(ESLineRender::initWithVertexShaderFromString(QStringLiteral("nonsense"), {}), nullptr);
+    const QString before = _render->fragmentShaderString();
+    EXPECT_FALSE(_render->setVertexShaderString({}, QStringLiteral("void main() {")));
+    EXPECT_EQ(_render->fragmentShaderString(), before);
+    expectDrainedErrors(2);
+}
+
+}  // namespace
