@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+// Images into encoded data and back, for the brush presets and the undo history.
+//
+// Images   read images are Format_RGBA8888_Premultiplied at the file's pixel size; images to write may have
+//          any format.
+// Thread   any. Needs no QGuiApplication.
+// Errors   never throws: a null image or empty data, with one log line that says why.
+
+// Reads any image format this Qt has a plugin for, recognised by content.
+QImage imageWithData(const QByteArray& data);
+QImage imageWithContentsOfFile(const QString& path);
+
+// Keeps transparency. Reading the data back gives the same premultiplied pixels.
+QByteArray dataOfPNGFile(const QImage& image);
+
+// JPEG has no transparency: what is transparent shows white paper.
+QByteArray dataOfJPEGFile(const QImage& image);
+
+// `type` is the name of an image format that Qt writes, such as "PNG" or "BMP", at its default quality.
+QByteArray dataOfImageType(const QImage& image, const char* type);
+
+// The same as dataOfPNGFile().
+QByteArray UIImagePNGRepresentation(const QImage& image);

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+// The layers: drawing into them, putting them onto the canvas, clearing, and reading the canvas back.
+#include "QDEAGLView/CanvasRects.h"
+#include "QDEAGLView/QDDrawCanvasScopes.h"
+
+using dabcanvas::isZero;
+using dabcanvas::mergeRect;
+
+namespace {
+
+double areaOf(const QRectF& rect) {
+    return rect.width() * rect.height();
+}
+
+// The one dab that covers a rectangle when its renderer's roundness is the rectangle's height over its width.
+LPPoint dabOf(const QRectF& rect) {
+    const QPointF centre = rect.center();
+    return {{static_cast<float>(centre.x()), static_cast<float>(centre.y())},
+            static_cast<float>(rect.width()),
+            {1.0f, 1.0f, 1.0f}};
+}
+
+}  // namespace
+
+// ---- Drawing into a layer
+
+QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer) {
+    ESLineRender* render = layer == ESRenderTypeLine     ? _extenRender.get()
+                           : layer == ESRenderTypeSmudge ? mainRender()
+                                                         : _subRender.get();
+    if (points == nullptr || render == nullptr) {
+        return {};
+    }
+    const ESCurrentScope current(*_esContext);
+    const StageTimer timer(*this, Stage::drawing);
+    const std::uint64_t before = render->dabsDrawn();
+    _esContext->beginRenderForType(layer);
+    _esContext->setBlendModelForType(ESRenderTypeLine);
+    const QRectF touched = render->drawPoints(points, count);
+    _esContext->finishRender();
+    _stats.dabs += render->dabsDrawn() - before;
+    return dabcanvas::roundedRect(touched);
+}
+
+QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count) {
+    const QRectF touched = drawPoints(points, count, ESRenderTypeLine);
+    mergeRect(_lineRenderRect, touched);
+    _tempRect = touched;
+    return touched;
+}
+
+QRectF QDDrawCanvas::drawPoint(QPointF point, float size) {
+    const LPPoint dab{
+        {static_cast<float>(point.x()), static_cast<float>(point.y())}, size, {1.0f, 1.0f, 1.0f}};
+    return drawPoints(&dab, 1);
+}
+
+// ---- Putting a layer onto the canvas
+
+void QDDrawCanvas::updateImage(bool online) {
+    updateImage(online, isSmudgeType());
+}
+
+void QDDrawCanvas::updateImage(bool online, bool) {
+    _edited = true;
+    if (_tempRect.width() <= 0 || _tempRect.height() <= 0) {
+        return;
+    }
+    mergeRect(_updateRect, _tempRect);
+    // The composite itself waits until the canvas is looked at: its pixels depend on the layer alone, and
+    // every change of target makes the driver draw what it had gathered. Rectangles that overlap become one,
+    // which composites the same pixels, except where replacing would clear what lies between them.
+    if (!_pending.empty() && _mayMergePending && _brush.blendType != ESBlendTypeReplace) {
+        QRectF& last = _pending.back();
+        const QRectF both = last.united(_tempRect);
+        if (areaOf(both) <= areaOf(last) + areaOf(_tempRect)) {
+            last = both;
+        } else {
+            _pending.push_back(_tempRect);
+        }
+    } else {
+        _pending.push_back(_tempRect);
+    }
+    noteChanged(_tempRect);
+    if (online) {
+        const QSizeF toView = scale();
+        redisplayRect(QRectF(_tempRect.x() * toView.width(), _tempRect.y() * toView.height(),
+                             _tempRect.width() * toView.width(), _tempRect.height() * toView.height()));
+    }
+}
+
+// Before a setting that composites depend on changes: what was drawn so far shows the old value, and what
+// follows may no longer touch more than it drew.
+void QDDrawCanvas::settleDrawn() {
+    compositePending();
+    _mayMergePending = false;
+}
+
+void QDDrawCanvas::compositePending() {
+    if (_pending.empty()) {
+        return;
+    }
+    const ESCurrentScope current(*_esContext);
+    const StageTimer timer(*this, Stage::compositing);
+    _esContext->beginRenderForType(ESRenderTypeCanvas);
+    for (const QRectF& rect : _pending) {
+        compositeRect(rect);
+    }
+    _esContext->finishRender();
+    _pending.clear();
+}
+
+// Draws one rectangle of the present blend mode into the canvas target, which is current.
+void QDDrawCanvas::compositeRect(const QRectF& rect) {
+    // The program has mixed source and background already: its result replaces what is there.
+    _esContext->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
+    ESImageRender& render = *_esRender;
+    render.setFlipX(false);
+    render.setFlipY(true);
+    render.setUseLargeTexture(false);
+    render.setRadian(0);
+    render.setOpacity(_brush.opacity);
+    render.setFlow(_brush.flow);
+    render.setRoundness(static_cast<float>(rect.height() / rect.width()));
+    const LPPoint dab = dabOf(rect);
+    render.drawPoints(&dab, 1);
+}
+
+void QDDrawCanvas::resetWithRenderRect(const QRectF& rect) {
+    if (!(rect.width() > 0 && rect.height() > 0)) {
+        return;
+    }
+    const ESCurrentScope current(*_esContext);
+    compositePending();
+    _esContext->beginRenderForType(ESRenderTypeCanvas);
+    const auto blendType = static_cast<std::uint32_t>(_brush.blendType);
+    if (blendType != ESBlendTypeReset) {
+        _esRender->setBlendType(ESBlendTypeReset);
+    }
+    compositeRect(rect);
+    if (blendType != ESBlendTypeReset) {
+        _esRender->setBlendType(blendType);
+    }
+    _esContext->finishRender();
+    noteChanged(rect);
+}
+
+void QDDrawCanvas::updateBGImage(const QByteArray&) {
+    const ESCurrentScope current(*_esContext);
+    compositePending();
+    const StageTimer timer(*this, Stage::compositing);
+    _esContext->beginRenderForType(ESRenderTypeCanvas);
+    if (!isZero(_updateRect)) {
+        _esRender->updateBGTextureAtOrigin(_updateRect.topLeft(), _updateRect.size(), GL_TEXTURE3);
+    }
+    _updateRect = QRectF();
+    _mayMergePending = true;
+}
+
+// ---- Clearing
+
+void QDDrawCanvas::clearLayer(ESRenderType layer, QRectF& rect) {
+    if (isZero(rect)) {
+        return;  // nothing was drawn there
+    }
+    const ESCurrentScope current(*_esContext);
+    compositePending();
+    _esContext->beginRenderForType(layer);
+    rect = QRectF();
+    _esRender->clear();
+}
+
+void QDDrawCanvas::clearExtenBuffer() {
+    clearLayer(ESRenderTypeLine, _lineRenderRect);
+}
+
+void QDDrawCanvas::clearSubBuffer() {
+    clearLayer(ESRenderTypeSubLine, _subLineRenderRect);
+}
+
+void QDDrawCanvas::clearSmudgeBuffer() {
+    clearLayer(ESRenderTypeSmudge, _smudgeRenderRect);
+}
+
+void QDDrawCanvas::clear() {
+    const QSizeF frame = displayFrame().size();
+    const QRectF whole(0, 0, frame.width() / scale().width(), frame.height() / scale().height());
+    _lineRenderRect = _subLineRenderRect = _smudgeRenderRect = whole;
+    clearOnline(true);
+}
+
+void QDDrawCanvas::clearOnline(bool online) {
+    clearWithColor({}, online);
+}
+
+void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
+    _edited = true;
+    _pending.clear();  // it would be cleared at once
+    clearExtenBuffer();
+    clearSubBuffer();
+    clearSmudgeBuffer();
+    clearESBufferWithColor(color, online);
+}
+
+void QDDrawCanvas::clearESBufferOnline(bool online) {
+    clearESBufferWithColor({}, online);
+}
+
+void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
+    const ESCurrentScope current(*_esContext);
+    _pending.clear();
+    _esContext->beginRenderForType(ESRenderTypeCanvas);
+    const QRectF whole(QPointF(0, 0), bufferSize());
+    mergeRect(_updateRect, whole);
+    if (color.componentCount() == 0) {
+        _esRender->clear();
+    } else {
+        // Targets hold premultiplied colours.
+        const float alpha = color.alpha();
+        _esRender->clearWithRed(color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha);
+    }
+    if (online) {
+        _esContext->finishRender();
+    }
+    noteChanged(whole);
+    redisplayAll();
+    updateBGImage();
+}
+
+// ---- Reading and showing
+
+QImage QDDrawCanvas::image() {
+    const ESCurrentScope current(*_esContext);
+    compositePending();
+    return _esContext->image();
+}
+
+const QImage& QDDrawCanvas::displayImage() {
+    const QSize size = bufferSize().toSize();
+    if (_displayImage.size() != size) {
+        _displayImage = QImage(size, QImage::Format_RGBA8888_Premultiplied);
+        _staleRect = QRect(QPoint(0, 0), size);
+    }
+    if (!_staleRect.isEmpty() && !_displayImage.isNull()) {
+        const ESCurrentScope current(*_esContext);
+        compositePending();
+        _esContext->updateImage(_displayImage, _staleRect);
+        _staleRect = QRect();
+    }
+    return _displayImage;
+}
+
+void QDDrawCanvas::noteChanged(const QRectF& rect) {
+    _staleRect = _staleRect.united(rect.toAlignedRect() & QRect(QPoint(0, 0), bufferSize().toSize()));
+}
+
+void QDDrawCanvas::redisplayAll() {
+    redisplayRect(QRectF(QPointF(0, 0), displayFrame().size()));
+}
+
+void QDDrawCanvas::updateScaleInfo() {
+    const QSizeF frame = displayFrame().size();
+    const QSizeF buffer = bufferSize();
+    _needScale = frame != buffer;
+    if (_needScale) {
+        _scale = QSizeF(frame.width() / buffer.width(), frame.height() / buffer.height());
+    }
+    _esContext->setViewSize(QSizeF(buffer.width() * _scale.width(), buffer.height() * _scale.height()));
+}

@@ -1,0 +1,431 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QVariant>
+#include <memory>
+#include <vector>
+
+#include "Brushes/TexturesTool.h"
+#include "ESContext/ESContext.h"
+#include "LineProcess/LPSharedState.h"
+#include "QDEAGLView/BrushProperties.h"
+#include "QDEAGLView/BrushSettings.h"
+#include "QDEAGLView/QDDrawViewDelegate.h"
+
+struct LPLineParams;
+class ESImageRender;
+class ESLineRender;
+
+// What strokes have cost so far; the seconds are only measured while profiling is on.
+struct StrokeStats {
+    std::uint64_t samples = 0;  // points that reached the line process
+    std::uint64_t dabs = 0;     // quads drawn
+    double geometrySeconds = 0;
+    double drawingSeconds = 0;
+    double compositingSeconds = 0;
+};
+
+// The whole logic of a canvas: strokes, brush properties, layers and pixels, without a widget. It paints
+// headless as it stands; QDDrawView shows one in a window, and any other item can by filling the display
+// hooks below.
+//
+// Units    points come in as view points, origin top left; everything below stroke entry is in buffer pixels,
+// which are
+//          view points divided by scale(). The buffer takes the size of the frame at creation and keeps it.
+// Owns     its GL context, layers, renderers and line records. Whatever GL context the caller had current is
+// current
+//          again when a member function returns.
+// Thread   one thread at a time; several canvases of a process may interleave their strokes on one thread,
+// not run on two. Errors   never throws; a failure is a log line and a false or null result.
+class QDDrawCanvas {
+public:
+    // A canvas whose buffer is as large as the frame, cleared to transparent, with the default brush. Null,
+    // after one log line, when there is no OpenGL 3.2 or the size is not from 1 to the driver's limit on both
+    // sides.
+    static std::unique_ptr<QDDrawCanvas> initWithFrame(const QRectF& frame);
+
+    virtual ~QDDrawCanvas();
+    QDDrawCanvas(const QDDrawCanvas&) = delete;
+    QDDrawCanvas& operator=(const QDDrawCanvas&) = delete;
+
+    // ---- Strokes
+    // -------------------------------------------------------------------------------------------------- One
+    // stroke is a begin, any number of moves and an end. Pressure and altitude (pen tilt, 0 upright to 1
+    // flat) are 0..1, -1 when not given. online: ask the display to show each segment at once; the pixels are
+    // the same without. Points, pressures or altitudes that are not finite are refused with one log line, and
+    // the stroke goes on.
+
+    void drawingWithBeginPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
+    // Does nothing more than two callbacks for a point within 1.0 buffer pixel of the last accepted one.
+    void drawingWithMoveToPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
+    void drawingWithEndPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
+
+    QDDrawViewDelegate* delegate() const { return _delegate; }
+    void setDelegate(QDDrawViewDelegate* delegate) { _delegate = delegate; }  // not owned; null for none
+
+    // Record an undo step at the end of every stroke. Nothing is recorded as long as a canvas has no history.
+    bool autoMark() const { return _autoMark; }
+    void setAutoMark(bool autoMark) { _autoMark = autoMark; }
+
+    bool isSmudgeType() const { return _brush.brushType == 3 && !_brush.isDebug && !_brush.enableRecogition; }
+    bool needRepeatedlyRender() const { return _brush.repeatedlyRenderEnabled && _brush.brushType != 3; }
+    bool needColorTendency() const { return _brush.brushType != 3; }
+
+    // Kept for callers; they lock nothing.
+    void lock() {}
+    void unlock() {}
+
+    // ---- Pixels
+    // ---------------------------------------------------------------------------------------------------
+
+    // The canvas as premultiplied RGBA, upright, bufferSize() large; null when it cannot be read.
+    QImage image();
+    // The same, kept between calls: only what changed since the last call is read back. Valid until the next
+    // call.
+    const QImage& displayImage();
+
+    QSizeF bufferSize() const;
+    // View points per buffer pixel, per axis; (1, 1) while frame and buffer have one size.
+    QSizeF scale() const { return _needScale ? _scale : QSizeF(1, 1); }
+    // To be called when the frame has changed its size: points and redisplay rectangles scale from then on.
+    void updateScaleInfo();
+
+    // Clears the canvas and all layers to transparent.
+    void clear();
+    void clearOnline(bool online);
+    void clearWithColor(const ESColor& color, bool online);
+    // Clears the canvas image alone; a colour of no components, like none given, is transparent.
+    void clearESBufferOnline(bool online);
+    void clearESBufferWithColor(const ESColor& color, bool online);
+
+    // Clear one layer: the line's, the sub-line's, the smudge layer. One that holds nothing is not touched.
+    void clearExtenBuffer();
+    void clearSubBuffer();
+    void clearSmudgeBuffer();
+
+    // Runs of dabs, or a single one, straight into a layer, in buffer pixels; the touched rectangle comes
+    // back, rounded to whole pixels. Without a layer named they go into the line's, and updateImage() puts
+    // them onto the canvas.
+    QRectF drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer);
+    QRectF drawPoints(const LPPoint* points, std::size_t count);
+    QRectF drawPoint(QPointF point, float size);
+
+    // Puts the area touched last from the stroke's layer onto the canvas.
+    void updateImage(bool online);
+    void updateImage(bool online, bool smudge);
+    // Repaints an area, in buffer pixels, as it was before the stroke.
+    void resetWithRenderRect(const QRectF& rect);
+    // Makes the present canvas the background of what is drawn next. mark: the undo step just recorded, or
+    // null.
+    void updateBGImage(const QByteArray& mark = {});
+
+    // Map a brush radius to and from a value of which 1.0 is the middle of the brush's radius range.
+    float inRadiusForRadius(float radius) const { return 2 * radius / (_brush.maxRadius + _brush.minRadius); }
+    float radiusForInRadius(float value) const {
+        return (_brush.maxRadius + _brush.minRadius) * value * 0.5f;
+    }
+
+    // ---- Measuring
+    // ------------------------------------------------------------------------------------------------
+
+    // Fixed random sequences instead of the system's generators, so that a stroke repeats exactly.
+    void setRepeatableRandom(bool repeatable);
+    // Times each stage, waiting for the GL work of each: honest shares, but slower strokes.
+    void setProfiling(bool profiling) { _profiling = profiling; }
+    const StrokeStats& strokeStats() const { return _stats; }
+    // The driver's renderer string.
+    QString rendererName();
+
+    // ---- Brush
+    // ----------------------------------------------------------------------------------------------------
+    // Ranges, defaults and a sentence on each stand in BrushProperties.cpp. Numbers out of range are clamped;
+    // numbers that are not finite are refused with a log line. Setting takes effect with the next segment.
+
+    // By row, for tools: the QVariant holds what the row's type names (bool, int, float, LPControlParams,
+    // ESColor, QImage, QList<QImage>, QString). False when it holds something else or a number that is not
+    // finite.
+    bool setBrushValue(const BrushProperty& property, const QVariant& value);
+    QVariant brushValue(const BrushProperty& property) const;
+    const BrushSettings& brush() const { return _brush; }
+
+    std::int32_t brushType() const { return _brush.brushType; }
+    void setBrushType(std::int32_t value);
+    bool isDebug() const { return _brush.isDebug; }
+    void setIsDebug(bool value) { assign(BrushKey::isDebug, value); }
+    bool enableRecogition() const { return _brush.enableRecogition; }
+    void setEnableRecogition(bool value) { assign(BrushKey::enableRecogition, value); }
+    float gaussianRadius() const { return _brush.gaussianRadius; }
+    void setGaussianRadius(float value) { assign(BrushKey::gaussianRadius, value); }
+    std::int32_t blendType() const { return _brush.blendType; }
+    void setBlendType(std::int32_t value);
+    QString blendFragmentShaderString() const { return _brush.blendFragmentShaderString; }
+    void setBlendFragmentShaderString(const QString& value);
+    ESColor renderColor() const { return _brush.renderColor; }
+    void setRenderColor(const ESColor& value) { assign(BrushKey::renderColor, value); }
+    float opacity() const { return _brush.opacity; }
+    void setOpacity(float value) { assign(BrushKey::opacity, value); }
+    float radius() const { return _brush.radius; }
+    void setRadius(float value);
+    float flow() const { return _brush.flow; }
+    void setFlow(float value) { assign(BrushKey::flow, value); }
+    std::int32_t trackNum() const { return _brush.trackNum; }
+    void setTrackNum(std::int32_t value);
+
+    float moistQuantity() const { return _brush.moistQuantity; }
+    void setMoistQuantity(float value) { assign(BrushKey::moistQuantity, value); }
+    float loadQuantity() const { return _brush.loadQuantity; }
+    void setLoadQuantity(float value) { assign(BrushKey::loadQuantity, value); }
+    float mixQuantity() const { return _brush.mixQuantity; }
+    void setMixQuantity(float value) { assign(BrushKey::mixQuantity, value); }
+    bool smudgeControl() const { return _brush.smudgeControl; }
+    void setSmudgeControl(bool value) { assign(BrushKey::smudgeControl, value); }
+    float smudgeControlValue() const { return _brush.smudgeControlValue; }
+    void setSmudgeControlValue(float value) { assign(BrushKey::smudgeControlValue, value); }
+
+    std::int32_t textureType() const { return _brush.textureType; }
+    void setTextureType(std::int32_t value);
+    float hardness() const { return _brush.hardness; }
+    void setHardness(float value);
+    float textureControlValue() const { return _brush.textureControlValue; }
+    void setTextureControlValue(float value);
+    QList<QImage> textureImages() const { return _brush.textureImages; }
+    void setTextureImages(const QList<QImage>& value);
+    bool flipX() const { return _brush.flipX; }
+    void setFlipX(bool value) { assign(BrushKey::flipX, value); }
+    bool flipY() const { return _brush.flipY; }
+    void setFlipY(bool value) { assign(BrushKey::flipY, value); }
+    bool needMaskTexture() const { return _brush.needMaskTexture; }
+    void setNeedMaskTexture(bool value) { assign(BrushKey::needMaskTexture, value); }
+    float maskScale() const { return _brush.maskScale; }
+    void setMaskScale(float value) { assign(BrushKey::maskScale, value); }
+    QImage maskImage() const { return _brush.maskImage; }
+    void setMaskImage(const QImage& value);
+
+    bool pointsDistanceEnabled() const { return _brush.pointsDistanceEnabled; }
+    void setPointsDistanceEnabled(bool value) { assign(BrushKey::pointsDistanceEnabled, value); }
+    float pointsDistance() const { return _brush.pointsDistance; }
+    void setPointsDistance(float value) { assign(BrushKey::pointsDistance, value); }
+    bool smoothEnabled() const { return _brush.smoothEnabled; }
+    void setSmoothEnabled(bool value) { assign(BrushKey::smoothEnabled, value); }
+    float speedSencitive() const { return _brush.speedSencitive; }
+    void setSpeedSencitive(float value) { assign(BrushKey::speedSencitive, value); }
+    float sensitivity() const { return _brush.sensitivity; }
+    void setSensitivity(float value) { assign(BrushKey::sensitivity, value); }
+    bool colorFul() const { return _brush.colorFul; }
+    void setColorFul(bool value) { assign(BrushKey::colorFul, value); }
+    std::int32_t lineProcessType() const { return _brush.lineProcessType; }
+    void setLineProcessType(std::int32_t value) { assign(BrushKey::lineProcessType, value); }
+
+    float minRadius() const { return _brush.minRadius; }
+    void setMinRadius(float value) { assign(BrushKey::minRadius, value); }
+    float maxRadius() const { return _brush.maxRadius; }
+    void setMaxRadius(float value) { assign(BrushKey::maxRadius, value); }
+    float startRadius() const { return _brush.startRadius; }
+    void setStartRadius(float value) { assign(BrushKey::startRadius, value); }
+    float strokeControlValue() const { return _brush.strokeControlValue; }
+    void setStrokeControlValue(float value) { assign(BrushKey::strokeControlValue, value); }
+    float endRadius() const { return _brush.endRadius; }
+    void setEndRadius(float value) { assign(BrushKey::endRadius, value); }
+    float radiusTingle() const { return _brush.radiusTingle; }
+    void setRadiusTingle(float value) { assign(BrushKey::radiusTingle, value); }
+    LPControlParams radiusControl() const { return _brush.radiusControl; }
+    void setRadiusControl(const LPControlParams& value);
+
+    bool disTwoAxes() const { return _brush.disTwoAxes; }
+    void setDisTwoAxes(bool value) { assign(BrushKey::disTwoAxes, value); }
+    float distribution() const { return _brush.distribution; }
+    void setDistribution(float value) { assign(BrushKey::distribution, value); }
+    LPControlParams distributionControl() const { return _brush.distributionControl; }
+    void setDistributionControl(const LPControlParams& value) {
+        assign(BrushKey::distributionControl, value);
+    }
+    float distributionCount() const { return _brush.distributionCount; }
+    void setDistributionCount(float value);
+    float distributionCountTingle() const { return _brush.distributionCountTingle; }
+    void setDistributionCountTingle(float value) { assign(BrushKey::distributionCountTingle, value); }
+    LPControlParams distributionCountControl() const { return _brush.distributionCountControl; }
+    void setDistributionCountControl(const LPControlParams& value) {
+        assign(BrushKey::distributionCountControl, value);
+    }
+
+    float radian() const { return _brush.radian; }
+    void setRadian(float value) { assign(BrushKey::radian, value); }
+    bool startRadianEnable() const { return _brush.startRadianEnable; }
+    void setStartRadianEnable(bool value) { assign(BrushKey::startRadianEnable, value); }
+    bool moveRadianEnable() const { return _brush.moveRadianEnable; }
+    void setMoveRadianEnable(bool value) { assign(BrushKey::moveRadianEnable, value); }
+    bool flipXTingle() const { return _brush.flipXTingle; }
+    void setFlipXTingle(bool value) { assign(BrushKey::flipXTingle, value); }
+    bool flipYTingle() const { return _brush.flipYTingle; }
+    void setFlipYTingle(bool value) { assign(BrushKey::flipYTingle, value); }
+    float radianTingle() const { return _brush.radianTingle; }
+    void setRadianTingle(float value) { assign(BrushKey::radianTingle, value); }
+    LPControlParams radianControl() const { return _brush.radianControl; }
+    void setRadianControl(const LPControlParams& value) { assign(BrushKey::radianControl, value); }
+
+    float roundness() const { return _brush.roundness; }
+    void setRoundness(float value) { assign(BrushKey::roundness, value); }
+    float roundnessTingle() const { return _brush.roundnessTingle; }
+    void setRoundnessTingle(float value) { assign(BrushKey::roundnessTingle, value); }
+    float minRoundness() const { return _brush.minRoundness; }
+    void setMinRoundness(float value);
+    LPControlParams roundnessControl() const { return _brush.roundnessControl; }
+    void setRoundnessControl(const LPControlParams& value) { assign(BrushKey::roundnessControl, value); }
+
+    float minFlow() const { return _brush.minFlow; }
+    void setMinFlow(float value) { assign(BrushKey::minFlow, value); }
+    float maxFlow() const { return _brush.maxFlow; }
+    void setMaxFlow(float value) { assign(BrushKey::maxFlow, value); }
+    float flowTingle() const { return _brush.flowTingle; }
+    void setFlowTingle(float value) { assign(BrushKey::flowTingle, value); }
+    LPControlParams flowControl() const { return _brush.flowControl; }
+    void setFlowControl(const LPControlParams& value) { assign(BrushKey::flowControl, value); }
+    float decay() const { return _brush.decay; }
+    void setDecay(float value) { assign(BrushKey::decay, value); }
+
+    bool textureTingleEnabled() const { return _brush.textureTingleEnabled; }
+    void setTextureTingleEnabled(bool value) { assign(BrushKey::textureTingleEnabled, value); }
+    LPControlParams textureControl() const { return _brush.textureControl; }
+    void setTextureControl(const LPControlParams& value) { assign(BrushKey::textureControl, value); }
+
+    ESColor backRenderColor() const { return _brush.backRenderColor; }
+    void setBackRenderColor(const ESColor& value) { assign(BrushKey::backRenderColor, value); }
+    float colorTingle() const { return _brush.colorTingle; }
+    void setColorTingle(float value) { assign(BrushKey::colorTingle, value); }
+    LPControlParams colorControl() const { return _brush.colorControl; }
+    void setColorControl(const LPControlParams& value) { assign(BrushKey::colorControl, value); }
+    float hueTingle() const { return _brush.hueTingle; }
+    void setHueTingle(float value) { assign(BrushKey::hueTingle, value); }
+    float saturationTingle() const { return _brush.saturationTingle; }
+    void setSaturationTingle(float value) { assign(BrushKey::saturationTingle, value); }
+    float brightnessTingle() const { return _brush.brightnessTingle; }
+    void setBrightnessTingle(float value) { assign(BrushKey::brightnessTingle, value); }
+
+    bool repeatedlyRenderEnabled() const { return _brush.repeatedlyRenderEnabled; }
+    void setRepeatedlyRenderEnabled(bool value);
+    QImage slTextureImage() const { return _brush.slTextureImage; }
+    void setSlTextureImage(const QImage& value);
+    float slRadius() const { return _brush.slRadius; }
+    void setSlRadius(float value);
+    float slPointsDistance() const { return _brush.slPointsDistance; }
+    void setSlPointsDistance(float value) { assign(BrushKey::slPointsDistance, value); }
+    float slDistribution() const { return _brush.slDistribution; }
+    void setSlDistribution(float value) { assign(BrushKey::slDistribution, value); }
+    bool slDistbTwoAxes() const { return _brush.slDistbTwoAxes; }
+    void setSlDistbTwoAxes(bool value) { assign(BrushKey::slDistbTwoAxes, value); }
+    float slDistbCount() const { return _brush.slDistbCount; }
+    void setSlDistbCount(float value);
+    std::int32_t slRadiusRelationType() const { return _brush.slRadiusRelationType; }
+    void setSlRadiusRelationType(std::int32_t value);
+    float relationValue() const { return _brush.relationValue; }
+    void setRelationValue(float value);
+
+    float recogPointScale() const { return _brush.recogPointScale; }
+    void setRecogPointScale(float value) { assign(BrushKey::recogPointScale, value); }
+
+protected:
+    // A display derives from this and calls initCanvas() before anything else; false leaves an object to be
+    // destroyed.
+    explicit QDDrawCanvas(const QRectF& frame);
+    bool initCanvas();
+
+    // ---- Display hooks
+    // --------------------------------------------------------------------------------------------
+
+    // Where the canvas is shown, in view points; its size against bufferSize() gives scale().
+    virtual QRectF displayFrame() const { return _frame; }
+    // Show this area, in view points with a top-left origin, again soon.
+    virtual void redisplayRect(const QRectF&) {}
+
+private:
+    static constexpr std::int32_t kPreviewBrush = 4;
+    struct StrokeScope;  // makes this canvas's GL context and process-wide stroke state current, and puts
+                         // them back
+    enum class Stage { geometry, drawing, compositing };
+    struct StageTimer;
+
+    bool initOpenGLESData();
+    bool initData();
+    void initLineProporty();
+    void releaseLineRecords();
+
+    // Stroke stages, in steps
+    bool acceptsSample(QPointF point, float pressure, float altitude);
+    QPointF filteredPoint(QPointF (QDDrawViewDelegate::*filter)(QDDrawCanvas&, QPointF), QPointF point);
+    QPointF bufferPoint(QPointF point) const;
+    ESLineRender* mainRender() const { return isSmudgeType() ? nullptr : _extenRender.get(); }
+    ESRenderType mainLayer() const { return isSmudgeType() ? ESRenderTypeSmudge : ESRenderTypeLine; }
+    QRectF& mainRect() { return isSmudgeType() ? _smudgeRenderRect : _lineRenderRect; }
+    void startLine(LPLineParams& record, QPointF point, float pressure, float altitude);
+    struct Run;
+    Run appendToLine(LPLineParams& record, QPointF point, float pressure, float altitude, bool end);
+    void drawSegment(QPointF point, float pressure, float altitude, bool end, bool dropFirst, bool online);
+
+    void settleDrawn();
+    void compositePending();
+    void compositeRect(const QRectF& rect);
+    void clearLayer(ESRenderType layer, QRectF& rect);
+    void noteChanged(const QRectF& rect);
+    void redisplayAll();
+
+    // Setting properties
+    template <typename Value>
+    void assign(BrushKey key, Value value);
+    template <typename Value>
+    bool storeClamped(const BrushProperty& row, Value& value);
+    template <typename Value>
+    void sendToLines(const BrushProperty& row, Value value);
+    template <typename Value>
+    void sendToRenders(const BrushProperty& row, const Value& value);
+    void applyCreatedValues();
+    void regenerateTip();
+    void useTips(const QList<QImage>& tips);
+    void setSubRadius(float radius);
+    void takeRelationValue();
+
+    QRectF _frame;
+    QDDrawViewDelegate* _delegate = nullptr;
+    BrushSettings _brush;
+
+    std::unique_ptr<ESContext> _esContext;
+    std::unique_ptr<ESImageRender> _esRender;
+    std::unique_ptr<ESLineRender> _extenRender;
+    std::unique_ptr<ESLineRender> _subRender;
+    TexturesTool _textureTool;
+    QList<QImage> _storedTips;  // what texture type 0 paints with: the tips last handed in
+
+    LPLineParams* _lineParaObj = nullptr;
+    LPLineParams* _subLineParaObj = nullptr;
+    LPSharedState _strokeState{};  // this canvas's copy of the line process's globals
+    int _strokeDepth = 0;          // stroke calls in progress: a delegate may make further ones
+
+    // Of the present stroke, in buffer pixels
+    QRectF _lineRenderRect;
+    QRectF _subLineRenderRect;
+    QRectF _smudgeRenderRect;
+    QRectF _tempRect;
+    QPointF _lastRenderObject;
+    bool _isAppendLine = false;
+    bool _refusedSample = false;  // and said so
+
+    // Of the canvas, in buffer pixels
+    QRectF _updateRect;            // changed since the background was last refreshed
+    std::vector<QRectF> _pending;  // to be composited before the canvas is next looked at
+    bool _mayMergePending = true;
+    QRect _staleRect;  // changed since displayImage() was last called
+    QImage _displayImage;
+    bool _edited = false;
+    bool _autoMark = false;
+
+    bool _needScale = false;
+    QSizeF _scale{1, 1};
+
+    bool _profiling = false;
+    StrokeStats _stats;
+};

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// Scopes that the canvas's own sources open; nothing for embedders.
+#pragma once
+
+#include <QLoggingCategory>
+#include <chrono>
+
+#include "ESContext/ESCurrentScope.h"
+#include "ESRender/ESImageRender.h"
+#include "ESRender/ESLineRender.h"
+#include "QDEAGLView/QDDrawCanvas.h"
+
+Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
+
+// One stroke call: this canvas's GL context and its copy of the line process's globals are current, so that
+// strokes of several canvases may interleave, a delegate's drawing on another canvas included.
+struct QDDrawCanvas::StrokeScope {
+    explicit StrokeScope(QDDrawCanvas& canvas) : _canvas(canvas), _current(*canvas._esContext) {
+        if (_canvas._strokeDepth++ == 0) {
+            _outer = lpSharedState();
+            lpSetSharedState(canvas._strokeState);
+        }
+    }
+    ~StrokeScope() {
+        if (--_canvas._strokeDepth == 0) {
+            _canvas._strokeState = lpSharedState();
+            lpSetSharedState(_outer);
+        }
+    }
+    StrokeScope(const StrokeScope&) = delete;
+    StrokeScope& operator=(const StrokeScope&) = delete;
+
+private:
+    QDDrawCanvas& _canvas;
+    ESCurrentScope _current;
+    LPSharedState _outer{};
+};
+
+// Adds the time a stage takes to the canvas's statistics. Costs one branch while profiling is off.
+struct QDDrawCanvas::StageTimer {
+    StageTimer(QDDrawCanvas& canvas, Stage stage) : _canvas(canvas), _stage(stage) {
+        if (_canvas._profiling) {
+            _start = std::chrono::steady_clock::now();
+        }
+    }
+    ~StageTimer() {
+        if (!_canvas._profiling) {
+            return;
+        }
+        if (_stage != Stage::geometry) {
+            glFinish();  // drivers work ahead; without this the read-back would be charged for everything
+        }
+        const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - _start;
+        StrokeStats& stats = _canvas._stats;
+        (_stage == Stage::geometry  ? stats.geometrySeconds
+         : _stage == Stage::drawing ? stats.drawingSeconds
+                                    : stats.compositingSeconds) += spent.count();
+    }
+    StageTimer(const StageTimer&) = delete;
+    StageTimer& operator=(const StageTimer&) = delete;
+
+private:
+    QDDrawCanvas& _canvas;
+    Stage _stage;
+    std::chrono::steady_clock::time_point _start;
+};

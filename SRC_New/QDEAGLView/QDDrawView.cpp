@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "QDEAGLView/QDDrawView.h"
+
+#include <QLoggingCategory>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWidget>
+
+Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
+
+namespace {
+
+// So that colour properties take a QColor through setProperty() and style sheets, and give one.
+void registerColorConversions() {
+    static const bool registered = QMetaType::registerConverter<QColor, ESColor>() &&
+                                   QMetaType::registerConverter<ESColor, QColor>(&ESColor::toQColor);
+    Q_UNUSED(registered);
+}
+
+bool isUsable(double side) {
+    return side >= 1 && side <= QWIDGETSIZE_MAX;
+}
+
+}  // namespace
+
+std::unique_ptr<QDDrawView> QDDrawView::initWithFrame(const QRectF& frame, QWidget* parent) {
+    if (!isUsable(frame.width()) || !isUsable(frame.height())) {
+        qCWarning(lcDabcanvas, "a view cannot be %g x %g view points large", frame.width(), frame.height());
+        return nullptr;
+    }
+    registerColorConversions();
+    std::unique_ptr<QDDrawView> view(new QDDrawView(frame, parent));
+    return view->initCanvas() ? std::move(view) : nullptr;
+}
+
+QDDrawView::QDDrawView(const QRectF& frame, QWidget* parent) : QWidget(parent), QDDrawCanvas(frame) {
+    setGeometry(frame.toRect());
+}
+
+QSize QDDrawView::sizeHint() const {
+    return bufferSize().toSize();
+}
+
+void QDDrawView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    const QImage& canvas = displayImage();
+    // Interpolating an unscaled picture would cost time and change nothing.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, canvas.size() != size() * devicePixelRatioF());
+    painter.drawImage(QRectF(rect()), canvas);
+}
+
+void QDDrawView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    updateScaleInfo();
+}
+
+void QDDrawView::redisplayRect(const QRectF& viewRect) {
+    // One more point on each side: a stretched picture is interpolated across the edge.
+    update(viewRect.toAlignedRect().adjusted(-1, -1, 1, 1));
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointF>
+
+class QDDrawCanvas;
+
+// What a host hears of a canvas's strokes. Every callback is optional. They run on the thread that enters the
+// stroke, inside the call that caused them; a delegate is not owned and must outlive its canvas or be taken
+// off first.
+class QDDrawViewDelegate {
+public:
+    virtual ~QDDrawViewDelegate() = default;
+
+    // The should callbacks veto nothing: they are filters, and the point they return is used instead. View
+    // points.
+    virtual QPointF drawViewShouldDrawBegin(QDDrawCanvas&, QPointF point) { return point; }
+    virtual QPointF drawViewShouldDrawMove(QDDrawCanvas&, QPointF point) { return point; }
+    virtual QPointF drawViewShouldDrawEnd(QDDrawCanvas&, QPointF point) { return point; }
+
+    // Deliberate: will callbacks get the point in view points, did callbacks in buffer pixels.
+    virtual void drawViewWillDrawBegin(QDDrawCanvas&, QPointF) {}
+    virtual void drawViewDidDrawBegin(QDDrawCanvas&, QPointF) {}
+    virtual void drawViewWillDrawMove(QDDrawCanvas&, QPointF) {}
+    // Not sent for a move that lies within 1.0 buffer pixel of the last accepted one.
+    virtual void drawViewDidDrawMove(QDDrawCanvas&, QPointF) {}
+    virtual void drawViewWillDrawEnd(QDDrawCanvas&, QPointF) {}
+    virtual void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) {}
+
+    // Whether undo and redo are possible has changed.
+    virtual void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool /*canUndo*/) {}
+    virtual void drawViewDidUpdateRedoStatus(QDDrawCanvas&, bool /*canRedo*/) {}
+};

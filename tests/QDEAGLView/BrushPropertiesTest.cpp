@@ -1,0 +1,322 @@
+// SPDX-License-Identifier: MIT
+#include "QDEAGLView/BrushProperties.h"
+
+#include <QMetaProperty>
+#include <cstring>
+#include <limits>
+#include <set>
+#include <string>
+
+#include "ESRender/ESImageRender.h"
+#include "QDEAGLView/QDDrawView.h"
+#include "support/CanvasTest.h"
+
+namespace {
+
+using BrushPropertiesTest = CanvasTest;
+
+TEST_F(BrushPropertiesTest, RowsStandInKeyOrderUnderUniqueNames) {
+    std::set<std::string> names;
+    int key = 0;
+    for (const BrushProperty& row : brushProperties()) {
+        EXPECT_EQ(static_cast<int>(row.key), key++) << row.name;
+        EXPECT_TRUE(names.insert(row.name).second) << row.name;
+        EXPECT_EQ(brushPropertyNamed(QString::fromLatin1(row.name)), &row);
+        EXPECT_GT(std::strlen(row.about), 10u) << row.name;
+    }
+    EXPECT_EQ(brushPropertyNamed(u"Radius"), nullptr);
+}
+
+// Every row at once: the created value, what is stored of values in and out of range, and refusal of the
+// wrong kind.
+TEST_F(BrushPropertiesTest, EveryNumberStartsAtItsDefaultAndIsClampedToItsRange) {
+    auto canvas = makeCanvas(32, 32);
+    for (const BrushProperty& row : brushProperties()) {
+        if (row.type() != BrushValueType::real) {
+            continue;
+        }
+        if (row.key != BrushKey::relationValue) {  // follows slRadius
+            EXPECT_FLOAT_EQ(canvas->brushValue(row).toFloat(), row.created) << row.name;
+        }
+        for (const float value : {-3.0f, 0.005f, 0.5f, 7.0f, 5000.0f}) {
+            ASSERT_TRUE(canvas->setBrushValue(row, value)) << row.name;
+            EXPECT_FLOAT_EQ(canvas->brushValue(row).toFloat(), std::min(std::max(value, row.low), row.high))
+                << row.name;
+        }
+        const float before = canvas->brushValue(row).toFloat();
+        EXPECT_FALSE(canvas->setBrushValue(row, std::numeric_limits<float>::quiet_NaN())) << row.name;
+        EXPECT_FALSE(canvas->setBrushValue(row, std::numeric_limits<double>::infinity())) << row.name;
+        EXPECT_FALSE(canvas->setBrushValue(row, QStringLiteral("12"))) << row.name;
+        EXPECT_FLOAT_EQ(canvas->brushValue(row).toFloat(), before) << row.name;
+    }
+}
+
+TEST_F(BrushPropertiesTest, OtherKindsStoreWhatTheyAreGiven) {
+    auto canvas = makeCanvas(32, 32);
+    QImage tip(9, 5, QImage::Format_RGBA8888_Premultiplied);
+    tip.fill(Qt::black);
+    for (const BrushProperty& row : brushProperties()) {
+        const QVariant values[] = {true,
+                                   2,
+                                   0.0f,
+                                   QVariant::fromValue(LPControlParams{0.25f, -0.5f, 1}),
+                                   QVariant::fromValue(ESColor::rgba(0.25f, 0.5f, 0.75f, 1)),
+                                   tip,
+                                   QVariant::fromValue(QList<QImage>{tip, tip}),
+                                   QString()};
+        const BrushValueType type = row.type();
+        if (type == BrushValueType::real || type == BrushValueType::text) {
+            continue;
+        }
+        const QVariant& value = values[static_cast<std::size_t>(type)];
+        ASSERT_TRUE(canvas->setBrushValue(row, value)) << row.name;
+        const QVariant stored = canvas->brushValue(row);
+        switch (type) {
+            case BrushValueType::control: {
+                const auto control = stored.value<LPControlParams>();
+                EXPECT_EQ(control.pressure, 0.25f) << row.name;
+                EXPECT_EQ(control.altitude, -0.5f) << row.name;
+                EXPECT_EQ(control.speed, 1.0f) << row.name;
+                break;
+            }
+            case BrushValueType::color:
+                EXPECT_EQ(stored.value<ESColor>(), value.value<ESColor>()) << row.name;
+                break;
+            default:
+                EXPECT_EQ(stored, value) << row.name;
+        }
+        EXPECT_FALSE(canvas->setBrushValue(row, QVariant())) << row.name;
+    }
+}
+
+// What a value does to a stroke, so that no row is stored and forgotten: each must change the painted pixels.
+struct Effect {
+    const char* name;
+    QVariant value;
+    std::function<void(QDDrawCanvas&)> prepare = {};
+};
+void PrintTo(const Effect& effect, std::ostream* out) {
+    *out << effect.name;
+}
+
+QImage halfBlack() {
+    QImage image(40, 40, QImage::Format_RGBA8888_Premultiplied);
+    image.fill(Qt::white);
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 20; ++x) {
+            image.setPixelColor(x, y, Qt::black);
+        }
+    }
+    return image;
+}
+
+QList<QImage> twoTips() {
+    QImage dot(32, 32, QImage::Format_RGBA8888_Premultiplied);
+    dot.fill(Qt::transparent);
+    QImage block = dot;
+    dot.setPixelColor(16, 16, Qt::red);
+    for (int y = 4; y < 20; ++y) {
+        for (int x = 6; x < 28; ++x) {
+            block.setPixelColor(x, y, QColor(200, 30, 30));
+        }
+    }
+    return {block, dot};
+}
+
+void useTwoTips(QDDrawCanvas& canvas) {
+    canvas.setTextureType(0);
+    canvas.setTextureImages(twoTips());
+}
+
+void scatter(QDDrawCanvas& canvas) {
+    canvas.setDistribution(0.8f);
+    canvas.setDistributionCount(3);
+}
+
+void flat(QDDrawCanvas& canvas) {
+    canvas.setRoundness(0.3f);
+}
+
+void pressureFlow(QDDrawCanvas& canvas) {
+    canvas.setFlowControl({1, 0, 0});
+}
+
+void colored(QDDrawCanvas& canvas) {
+    canvas.setRenderColor(ESColor::rgba(0.8f, 0.3f, 0.2f));
+    canvas.setBackRenderColor(ESColor::rgba(0, 0, 1));
+}
+
+void secondLine(QDDrawCanvas& canvas) {
+    canvas.setRepeatedlyRenderEnabled(true);
+    canvas.setSlRadius(12);
+}
+
+const LPControlParams kAll{0.8f, 0.5f, 0.6f};
+const Effect kEffects[] = {
+    {"blendType", 5, [](QDDrawCanvas& c) { c.clearWithColor(ESColor::grey(0.7f), false); }},
+    {"renderColor", QVariant::fromValue(ESColor::rgba(1, 0, 0))},
+    {"opacity", 0.5f},
+    {"radius", 60.0f},
+    {"flow", 0.3f},
+    {"trackNum", 4},
+    {"textureType", 3},
+    {"hardness", 0.9f},
+    {"textureControlValue", 8.0f, [](QDDrawCanvas& c) { c.setTextureType(2); }},
+    {"textureImages", QVariant::fromValue(twoTips()), [](QDDrawCanvas& c) { c.setTextureType(0); }},
+    {"flipX", true, useTwoTips},
+    {"flipY", true, useTwoTips},
+    {"needMaskTexture", true, [](QDDrawCanvas& c) { c.setMaskImage(halfBlack()); }},
+    {"maskScale", 2.0f,
+     [](QDDrawCanvas& c) {
+         c.setMaskImage(halfBlack());
+         c.setNeedMaskTexture(true);
+     }},
+    {"maskImage", halfBlack(), [](QDDrawCanvas& c) { c.setNeedMaskTexture(true); }},
+    {"pointsDistanceEnabled", false},
+    {"pointsDistance", 0.9f},
+    {"smoothEnabled", false},
+    {"speedSencitive", 1.0f,
+     [](QDDrawCanvas& c) {
+         c.setRadiusControl({0, 0, 1});
+     }},
+    {"sensitivity", 6.0f,
+     [](QDDrawCanvas& c) {
+         c.setRadiusControl({0, 0, 1});
+     }},
+    {"colorFul", true, useTwoTips},
+    {"lineProcessType", 4, [](QDDrawCanvas& c) { c.setRadius(2); }},
+    {"minRadius", 0.6f},
+    {"maxRadius", 0.5f},
+    {"startRadius", 0.05f, [](QDDrawCanvas& c) { c.setStrokeControlValue(80); }},
+    {"strokeControlValue", 80.0f},
+    {"endRadius", 0.9f},
+    {"radiusTingle", 0.7f},
+    {"radiusControl", QVariant::fromValue(kAll)},
+    {"disTwoAxes", true, scatter},
+    {"distribution", 1.0f},
+    {"distributionControl", QVariant::fromValue(kAll), scatter},
+    {"distributionCount", 4.0f, [](QDDrawCanvas& c) { c.setFlow(0.2f); }},
+    {"distributionCountTingle", 1.0f, scatter},
+    {"distributionCountControl", QVariant::fromValue(kAll), scatter},
+    {"radian", 0.7f, flat},
+    {"startRadianEnable", true, flat},
+    {"moveRadianEnable", true, flat},
+    {"flipXTingle", true, useTwoTips},
+    {"flipYTingle", true, useTwoTips},
+    {"radianTingle", 0.5f, flat},
+    {"radianControl", QVariant::fromValue(kAll), flat},
+    {"roundness", 0.4f},
+    {"roundnessTingle", 0.8f},
+    {"roundnessControl", QVariant::fromValue(kAll)},
+    {"minFlow", 0.6f, pressureFlow},
+    {"maxFlow", 0.4f, pressureFlow},
+    {"flowTingle", 0.6f},
+    {"flowControl", QVariant::fromValue(kAll)},
+    {"decay", 20.0f},
+    {"textureTingleEnabled", true, useTwoTips},
+    {"textureControl", QVariant::fromValue(kAll), useTwoTips},
+    {"backRenderColor", QVariant::fromValue(ESColor::rgba(0, 1, 0)),
+     [](QDDrawCanvas& c) { c.setColorTingle(1); }},
+    {"colorTingle", 0.9f, colored},
+    {"colorControl", QVariant::fromValue(kAll), colored},
+    {"hueTingle", 0.9f, colored},
+    {"saturationTingle", 0.9f, colored},
+    {"brightnessTingle", 0.9f, colored},
+    {"repeatedlyRenderEnabled", true, [](QDDrawCanvas& c) { c.setSlRadius(12); }},
+    {"slTextureImage", twoTips()[0], secondLine},
+    {"slRadius", 6.0f, secondLine},
+    {"slPointsDistance", 2.0f, secondLine},
+    {"slDistribution", 1.0f, secondLine},
+    {"slDistbTwoAxes", true,
+     [](QDDrawCanvas& c) {
+         secondLine(c);
+         c.setSlDistribution(1);
+     }},
+    {"slDistbCount", 5.0f,
+     [](QDDrawCanvas& c) {
+         secondLine(c);
+         c.setSlDistribution(1);
+     }},
+    {"relationValue", -25.0f, secondLine},
+};
+
+class BrushEffectTest : public CanvasTest, public ::testing::WithParamInterface<Effect> {};
+TEST_P(BrushEffectTest, ShowsInTheStroke) {
+    const Effect& effect = GetParam();
+    const auto paint = [&](bool set) {
+        auto canvas = makeCanvas();
+        if (effect.prepare) {
+            effect.prepare(*canvas);
+        }
+        if (set) {
+            EXPECT_TRUE(
+                canvas->setBrushValue(*brushPropertyNamed(QString::fromLatin1(effect.name)), effect.value));
+        }
+        paintWave(*canvas);
+        const QImage image = canvas->image();
+        EXPECT_EQ(image.isNull(), false);
+        return image;
+    };
+    EXPECT_NE(paint(true), paint(false));
+    EXPECT_EQ(paint(true), paint(true)) << "and repeats";
+}
+INSTANTIATE_TEST_SUITE_P(Properties, BrushEffectTest, ::testing::ValuesIn(kEffects),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+// Rules of their own
+
+TEST_F(BrushPropertiesTest, TheSecondLineFollowsTheFirst) {
+    auto canvas = makeCanvas(32, 32);
+    canvas->setSlRadius(16);
+    canvas->setSlRadiusRelationType(2);
+    EXPECT_FLOAT_EQ(canvas->relationValue(), 0.5f);
+    canvas->setRadius(40);
+    EXPECT_FLOAT_EQ(canvas->slRadius(), 20);
+    canvas->setSlRadiusRelationType(1);
+    EXPECT_FLOAT_EQ(canvas->relationValue(), -20);
+    canvas->setRadius(15);
+    EXPECT_FLOAT_EQ(canvas->slRadius(), 1) << "never below 1";
+    canvas->setSlRadiusRelationType(0);
+    canvas->setRadius(90);
+    EXPECT_FLOAT_EQ(canvas->slRadius(), 1);
+}
+
+TEST_F(BrushPropertiesTest, WithoutTipsTheTextureTypeIsZeroAndTheLastTipStays) {
+    auto canvas = makeCanvas();
+    canvas->setTextureImages(twoTips());
+    canvas->setTextureImages({});
+    EXPECT_EQ(canvas->textureType(), 0);
+    paintWave(*canvas);
+    EXPECT_FALSE(painted(canvas->image()).isNull());
+    canvas->setTextureType(1);
+    EXPECT_EQ(canvas->textureImages().first().width(), 32) << "drawn at the radius";
+    canvas->setTextureType(0);
+    EXPECT_EQ(canvas->textureImages(), twoTips()) << "the tips handed in come back";
+}
+
+TEST_F(BrushPropertiesTest, ABlendProgramsTextSelectsItsType) {
+    auto canvas = makeCanvas();
+    canvas->setBlendFragmentShaderString(ESImageRender::eraseFSHString());
+    EXPECT_TRUE(canvas->blendFragmentShaderString().contains(QLatin1String("1.0 - L.a")));
+    paintWave(*canvas);
+    EXPECT_TRUE(painted(canvas->image()).isNull()) << "erasing an empty canvas paints nothing";
+}
+
+// The widget's meta-object has every property, under the table's name, with its kind.
+TEST_F(BrushPropertiesTest, TheViewHasEachAsAQtProperty) {
+    auto view = QDDrawView::initWithFrame(QRectF(0, 0, 40, 30));
+    ASSERT_TRUE(view);
+    for (const BrushProperty& row : brushProperties()) {
+        const int index = view->metaObject()->indexOfProperty(row.name);
+        ASSERT_GE(index, 0) << row.name;
+        const QMetaProperty property = view->metaObject()->property(index);
+        EXPECT_TRUE(property.isWritable()) << row.name;
+        EXPECT_EQ(property.metaType(), brushDefault(row).metaType()) << row.name;
+    }
+    EXPECT_TRUE(view->setProperty("renderColor", QColor(255, 0, 0)));
+    EXPECT_FLOAT_EQ(view->renderColor().red(), 1);
+    view->setProperty("radius", 1.0);
+    EXPECT_FLOAT_EQ(view->radius(), 2);
+}
+
+}  // namespace

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include <string>
+
+#include "ESRender/ESImageRender.h"
+#include "support/CanvasTest.h"
+
+namespace {
+
+using CanvasLayersTest = CanvasTest;
+
+// Withdrawing and backgrounds
+
+TEST_F(CanvasLayersTest, AWithdrawnStrokeDisappears) {
+    for (const int blendType : {1, 2, 5, 9}) {
+        auto canvas = makeCanvas();
+        canvas->clearWithColor(ESColor::rgba(0.2f, 0.6f, 0.9f, 1), false);
+        paintWave(*canvas, 40);
+        const QImage before = canvas->image();
+        canvas->setBlendType(blendType);
+        canvas->setOpacity(0.7f);
+        canvas->drawingWithBeginPoint({10, 10});
+        canvas->drawingWithMoveToPoint({100, 120});
+        canvas->drawingWithMoveToPoint({180, 20});
+        if (blendType != ESBlendTypeReset) {
+            EXPECT_FALSE(SamePixels(canvas->image(), before)) << "blend type " << blendType;
+        }
+        canvas->resetWithRenderRect(QRectF(0, 0, 200, 150));
+        EXPECT_TRUE(SamePixels(canvas->image(), before)) << "blend type " << blendType;
+        EXPECT_EQ(canvas->blendType(), blendType);
+    }
+}
+
+TEST_F(CanvasLayersTest, AnEmptyRectangleWithdrawsNothing) {
+    auto canvas = makeCanvas();
+    paintWave(*canvas);
+    const QImage before = canvas->image();
+    canvas->resetWithRenderRect(QRectF(10, 10, 0, 0));
+    canvas->resetWithRenderRect(QRectF(10, 10, 20, 0));
+    EXPECT_TRUE(SamePixels(canvas->image(), before));
+}
+
+TEST_F(CanvasLayersTest, TheNextStrokeStartsFromWhatTheLastOneLeft) {
+    auto canvas = makeCanvas();
+    canvas->setOpacity(0.5f);
+    canvas->setHardness(1);
+    const auto across = [&] {
+        canvas->drawingWithBeginPoint({10, 75});
+        canvas->drawingWithMoveToPoint({100, 75});
+        canvas->drawingWithMoveToPoint({150, 75});
+        canvas->drawingWithEndPoint({195, 75});
+    };
+    across();
+    const int once = canvas->image().pixelColor(100, 75).alpha();
+    across();
+    const int twice = canvas->image().pixelColor(100, 75).alpha();
+    EXPECT_NEAR(once, 128, 2) << "dabs of one stroke do not add up beyond its opacity";
+    EXPECT_NEAR(twice, 192, 2) << "two strokes do";
+}
+
+// Looking at the canvas after every segment, or never: composites that wait must give the same pixels.
+class CanvasBlendTest : public CanvasTest, public ::testing::WithParamInterface<int> {};
+TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
+    const auto paint = [&](bool look) {
+        auto canvas = makeCanvas();
+        canvas->clearWithColor(ESColor::rgba(0.9f, 0.7f, 0.3f, 0.8f), false);
+        canvas->setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.8f));
+        canvas->setBlendType(GetParam());
+        canvas->setFlow(0.4f);
+        canvas->setOpacity(0.8f);
+        paintWave(*canvas, 75, 30, [&](int) {
+            if (look) {
+                canvas->image();
+            }
+        });
+        return canvas->image();
+    };
+    EXPECT_TRUE(SamePixels(paint(false), paint(true)));
+}
+TEST_P(CanvasBlendTest, ShownPixelsAreTheCanvas) {
+    auto canvas = makeCanvas(211, 133);
+    canvas->setBlendType(GetParam());
+    canvas->clearWithColor(ESColor::grey(0.5f, 1), true);
+    paintWave(*canvas, 60, 20, [&](int i) {
+        if (i % 3 == 0) {
+            canvas->displayImage();
+        }
+    });
+    EXPECT_TRUE(SamePixels(canvas->displayImage(), canvas->image()));
+    canvas->resetWithRenderRect(QRectF(20, 20, 40, 40));
+    EXPECT_TRUE(SamePixels(canvas->displayImage(), canvas->image()));
+    canvas->clear();
+    EXPECT_TRUE(SamePixels(canvas->displayImage(), canvas->image()));
+}
+INSTANTIATE_TEST_SUITE_P(Types, CanvasBlendTest, ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 9),
+                         [](const auto& row) { return "Blend" + std::to_string(row.param); });
+
+TEST_F(CanvasLayersTest, ChangingABlendSettingInAStrokeKeepsWhatIsDrawn) {
+    const auto paint = [&](bool look) {
+        auto canvas = makeCanvas();
+        paintWave(*canvas, 75, 30, [&](int i) {
+            if (look) {
+                canvas->image();
+            }
+            if (i == 10) {
+                canvas->setOpacity(0.5f);
+            } else if (i == 20) {
+                canvas->setBlendType(5);
+            }
+        });
+        return canvas->image();
+    };
+    EXPECT_TRUE(SamePixels(paint(false), paint(true)));
+}
+
+// A layer put onto the canvas lands on the same pixels, whatever the buffer's size.
+struct BufferSize {
+    int width, height;
+};
+class CanvasSizeTest : public CanvasTest, public ::testing::WithParamInterface<BufferSize> {};
+TEST_P(CanvasSizeTest, CompositeEqualsTheLayer) {
+    const auto [width, height] = GetParam();
+    auto canvas = makeCanvas(width, height);
+    // One dab of a tip as large as itself shows every texel of the layer: a lopsided picture, opaque and
+    // transparent.
+    QImage tip(64, 64, QImage::Format_RGBA8888_Premultiplied);
+    tip.fill(Qt::transparent);
+    for (int y = 8; y < 56; ++y) {
+        for (int x = 8; x < (y < 30 ? 20 : 56); ++x) {
+            tip.setPixelColor(x, y, QColor(0, 0, 0, (x * 37 + y * 11) % 5 == 0 ? 128 : 255));
+        }
+    }
+    canvas->setTextureType(0);
+    canvas->setTextureImages({tip});
+    canvas->setRenderColor(ESColor::rgba(1, 1, 1));
+    QImage expected(width, height, QImage::Format_RGBA8888_Premultiplied);
+    expected.fill(Qt::transparent);
+    for (const QPoint corner : {QPoint(0, 0), QPoint(width - 64, 0), QPoint(0, height - 64),
+                                QPoint(width - 64, height - 64), QPoint(width / 2 - 31, height / 2 - 33)}) {
+        canvas->drawPoint(QPointF(corner) + QPointF(32, 32), 64);
+        canvas->updateImage(false);
+        for (int y = 0; y < 64; ++y) {
+            for (int x = 0; x < 64; ++x) {
+                const int a = tip.pixelColor(x, y).alpha();
+                if (a > 0) {
+                    expected.setPixelColor(corner + QPoint(x, y), QColor(255, 255, 255, a));
+                }
+            }
+        }
+    }
+    EXPECT_TRUE(SamePixels(canvas->image(), expected));
+}
+INSTANTIATE_TEST_SUITE_P(Buffers, CanvasSizeTest,
+                         ::testing::Values(BufferSize{1000, 700}, BufferSize{1001, 801}, BufferSize{257, 129},
+                                           BufferSize{256, 128}),
+                         [](const auto& row) {
+                             return std::to_string(row.param.width) + "x" + std::to_string(row.param.height);
+                         });
+
+// Clearing
+
+TEST_F(CanvasLayersTest, ClearsToTheColourGiven) {
+    struct Row {
+        ESColor color;
+        QColor pixel;
+    };
+    const Row rows[] = {{ESColor(), QColor(0, 0, 0, 0)},
+                        {ESColor::grey(0.5f, 1), QColor(128, 128, 128)},
+                        {ESColor::rgba(1, 0, 0.2f, 1), QColor(255, 0, 51)}};
+    auto canvas = makeCanvas(64, 40);
+    for (const Row& row : rows) {
+        canvas->clearWithColor(row.color, false);
+        const QImage image = canvas->image();
+        EXPECT_EQ(image.pixelColor(0, 0), row.pixel);
+        EXPECT_EQ(image.pixelColor(63, 39), row.pixel);
+    }
+    canvas->clearWithColor(ESColor::rgba(1, 1, 1, 0.5f), false);
+    EXPECT_EQ(qAlpha(canvas->image().pixel(5, 5)), 128);
+    EXPECT_EQ(canvas->image().constBits()[0], 128) << "premultiplied";
+}
+
+TEST_F(CanvasLayersTest, ClearEmptiesTheLayersToo) {
+    auto fresh = makeCanvas();
+    paintWave(*fresh);
+    auto canvas = makeCanvas();
+    canvas->drawingWithBeginPoint({20, 20});
+    canvas->drawingWithMoveToPoint({100, 100});
+    canvas->clear();
+    EXPECT_TRUE(painted(canvas->image()).isNull());
+    paintWave(*canvas);
+    EXPECT_TRUE(SamePixels(canvas->image(), fresh->image()))
+        << "dabs of the stroke that was cleared came back";
+}
+
+TEST_F(CanvasLayersTest, RadiusConversionsAreInverses) {
+    auto canvas = makeCanvas(16, 16);
+    canvas->setMinRadius(0.2f);
+    canvas->setMaxRadius(0.6f);
+    EXPECT_FLOAT_EQ(canvas->inRadiusForRadius(0.4f), 1.0f);
+    EXPECT_FLOAT_EQ(canvas->radiusForInRadius(canvas->inRadiusForRadius(0.37f)), 0.37f);
+}
+
+}  // namespace
