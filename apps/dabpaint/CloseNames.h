@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// Guesses which name was meant by one that is not known.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace dabcanvas::dabpaint {
+
+// The names most like `wrong`, best first, at most three; none when nothing is like it. Letters count the
+// same in either case, and two that changed places count as one slip.
+QStringList closeNames(const QString& wrong, const QStringList& names);
+
+// "; did you mean radius or flow?", or nothing when no name is close.
+QString closeNamesHint(const QString& wrong, const QStringList& names);
+
+}  // namespace dabcanvas::dabpaint

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLine.h"
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "CloseNames.h"
+#include "Console.h"
+#include "PropertiesCommand.h"
+#include "PropertyValue.h"
+#include "Usage.h"
+
+namespace dabcanvas::dabpaint {
+
+namespace {
+
+// One option of a command. With a value, it takes "--size 4x3" and "--size=4x3", or "-o out.png".
+struct Option {
+    const char* name;
+    const char* letter;  // null for none
+    bool hasValue;
+    std::function<QString(const QString& value)> take;  // the message when the value is wrong
+};
+
+// Hands options to their takers and everything else to `operand`; the message when something is wrong.
+QString walkArguments(const QStringList& arguments, const std::vector<Option>& options,
+                      const std::function<QString(const QString&)>& operand) {
+    bool optionsEnded = false;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString& argument = arguments[i];
+        QString wrong;
+        if (optionsEnded || !argument.startsWith(QLatin1Char('-')) || argument == QLatin1String("-")) {
+            wrong = operand(argument);
+        } else if (argument == QLatin1String("--")) {
+            optionsEnded = true;
+        } else {
+            const auto equals =
+                argument.startsWith(QLatin1String("--")) ? argument.indexOf(QLatin1Char('=')) : -1;
+            const QString name = equals < 0 ? argument : argument.left(equals);
+            const Option* option = nullptr;
+            QStringList names;
+            for (const Option& known : options) {
+                names << QLatin1String(known.name);
+                if (name == QLatin1String(known.name) ||
+                    (known.letter && name == QLatin1String(known.letter)))
+                    option = &known;
+            }
+            if (!option)
+                return QStringLiteral("unknown option %1%2").arg(name, closeNamesHint(name, names));
+            if (!option->hasValue && equals >= 0)
+                return QStringLiteral("%1 takes no value").arg(name);
+            if (option->hasValue && equals < 0 && i + 1 == arguments.size())
+                return QStringLiteral("%1 needs a value").arg(name);
+            wrong = option->take(!option->hasValue ? QString()
+                                 : equals >= 0     ? argument.mid(equals + 1)
+                                                   : arguments[++i]);
+        }
+        if (!wrong.isEmpty())
+            return wrong;
+    }
+    return {};
+}
+
+Option flag(const char* name, bool& value) {
+    return {name, nullptr, false, [&value](const QString&) {
+                value = true;
+                return QString();
+            }};
+}
+
+Option helpFlag(bool& value) {
+    Option option = flag("--help", value);
+    option.letter = "-h";
+    return option;
+}
+
+QString takeSize(const QString& text, QSize& size) {
+    const QStringList sides = text.split(QLatin1Char('x'));
+    bool numbers = sides.size() == 2;
+    qint64 side[2] = {};
+    for (qsizetype i = 0; numbers && i < 2; ++i) {
+        // toLongLong() would take blanks and a plus sign too.
+        for (const QChar c : sides[i])
+            numbers = numbers && c >= QLatin1Char('0') && c <= QLatin1Char('9');
+        side[i] = numbers ? sides[i].toLongLong(&numbers) : 0;
+    }
+    if (!numbers)
+        return QStringLiteral("--size is WIDTHxHEIGHT in pixels, such as 800x600, not \"%1\"").arg(text);
+    const QString refusal = sizeRefusal(side[0], side[1]);
+    if (refusal.isEmpty())
+        size = QSize(int(side[0]), int(side[1]));
+    return refusal.isEmpty() ? refusal : QStringLiteral("--size: ") + refusal;
+}
+
+QString takeSetting(const QString& text, std::vector<PaintOptions::Assignment>& settings) {
+    const auto equals = text.indexOf(QLatin1Char('='));
+    if (equals <= 0)
+        return QStringLiteral("--set is PROPERTY=VALUE, such as radius=12, not \"%1\"").arg(text);
+    settings.push_back({text.left(equals), text.mid(equals + 1)});
+    return {};
+}
+
+QString takeColor(const QString& text, std::optional<QColor>& color) {
+    color = colorFromText(text);
+    return color ? QString()
+                 : QStringLiteral(
+                       "--background is #rrggbb, #rrggbbaa, a colour's name or transparent, not \"%1\"")
+                       .arg(text);
+}
+
+CommandLine readPaint(const QStringList& arguments) {
+    PaintOptions paint;
+    bool help = false;
+    const std::vector<Option> options = {
+        {"--output", "-o", true,
+         [&](const QString& value) {
+             paint.output = value;
+             return value.isEmpty() ? QStringLiteral("the output's name is empty") : QString();
+         }},
+        {"--size", nullptr, true, [&](const QString& value) { return takeSize(value, paint.size); }},
+        {"--set", nullptr, true, [&](const QString& value) { return takeSetting(value, paint.settings); }},
+        {"--background", nullptr, true,
+         [&](const QString& value) { return takeColor(value, paint.background); }},
+        flag("--repeatable", paint.repeatable),
+        flag("--stats", paint.stats),
+        helpFlag(help),
+    };
+    const QString wrong = walkArguments(arguments, options, [&](const QString& file) {
+        paint.recordings << file;
+        return QString();
+    });
+    if (help)
+        return HelpOptions{QStringLiteral("paint")};
+    if (!wrong.isEmpty())
+        return UsageFault{wrong};
+    if (paint.recordings.isEmpty())
+        return UsageFault{QStringLiteral("paint needs a recording; see dabpaint help paint")};
+    if (paint.output.isEmpty())
+        return UsageFault{QStringLiteral("paint needs -o OUT.png; see dabpaint help paint")};
+    if (paint.stats && paint.output == QLatin1String("-"))
+        return UsageFault{QStringLiteral("--stats and -o - would both write to standard output")};
+    return paint;
+}
+
+CommandLine readDabs(const QStringList& arguments) {
+    DabsOptions dabs;
+    bool help = false;
+    const QString wrong =
+        walkArguments(arguments, {flag("--header", dabs.header), helpFlag(help)}, [&](const QString& file) {
+            if (!dabs.input.isEmpty())
+                return QStringLiteral("dabs takes one input, not %1 as well").arg(file);
+            dabs.input = file;
+            return QString();
+        });
+    if (help)
+        return HelpOptions{QStringLiteral("dabs")};
+    if (!wrong.isEmpty())
+        return UsageFault{wrong};
+    if (dabs.input.isEmpty())
+        return UsageFault{QStringLiteral("dabs needs an input; see dabpaint help dabs")};
+    return dabs;
+}
+
+CommandLine readProperties(const QStringList& arguments) {
+    PropertiesOptions properties;
+    bool help = false;
+    const QString wrong = walkArguments(
+        arguments, {flag("--json", properties.json), helpFlag(help)},
+        [](const QString& file) { return QStringLiteral("properties takes no \"%1\"").arg(file); });
+    if (help)
+        return HelpOptions{QStringLiteral("properties")};
+    if (!wrong.isEmpty())
+        return UsageFault{wrong};
+    return properties;
+}
+
+CommandLine readHelp(const QStringList& arguments) {
+    HelpOptions help;
+    bool again = false;
+    const QString wrong = walkArguments(arguments, {helpFlag(again)}, [&](const QString& topic) {
+        if (usageText(topic).isEmpty())
+            return QStringLiteral("there is no command \"%1\"%2")
+                .arg(topic, closeNamesHint(topic, commandNames()));
+        help.topic = topic;
+        return QString();
+    });
+    if (!wrong.isEmpty())
+        return UsageFault{wrong};
+    if (again)
+        help.topic = QStringLiteral("help");
+    return help;
+}
+
+template <typename... Visitors>
+struct Overloaded : Visitors... {
+    using Visitors::operator()...;
+};
+
+int print(const QByteArray& text) {
+    printOut(std::string_view(text.constData(), std::size_t(text.size())));
+    return finishOut();
+}
+
+}  // namespace
+
+CommandLine readCommandLine(const QStringList& arguments) {
+    if (arguments.isEmpty())
+        return UsageFault{QStringLiteral("a command is missing: paint, dabs, properties or help")};
+    const QString& command = arguments.first();
+    const QStringList rest = arguments.mid(1);
+    if (command == QLatin1String("paint"))
+        return readPaint(rest);
+    if (command == QLatin1String("dabs"))
+        return readDabs(rest);
+    if (command == QLatin1String("properties"))
+        return readProperties(rest);
+    if (command == QLatin1String("help") || command == QLatin1String("--help") ||
+        command == QLatin1String("-h"))
+        return readHelp(rest);
+    if (command == QLatin1String("--version"))
+        return VersionOptions{};
+    return UsageFault{
+        QStringLiteral("there is no command \"%1\"%2").arg(command, closeNamesHint(command, commandNames()))};
+}
+
+int runDabpaint(const QStringList& arguments) {
+    return std::visit(Overloaded{
+                          [](const PaintOptions& options) { return runPaint(options); },
+                          [](const DabsOptions& options) { return runDabs(options); },
+                          [](const PropertiesOptions& options) { return runProperties(options.json); },
+                          [](const HelpOptions& options) { return print(usageText(options.topic)); },
+                          [](const VersionOptions&) { return print(versionText()); },
+                          [](const UsageFault& fault) { return refuse(fault.what); },
+                      },
+                      readCommandLine(arguments));
+}
+
+}  // namespace dabcanvas::dabpaint

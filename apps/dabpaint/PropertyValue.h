@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Brush property values as people write them, and as the canvas takes them.
+#pragma once
+
+#include <QColor>
+#include <QVariant>
+#include <optional>
+
+#include "QDEAGLView/BrushProperties.h"
+#include "Recording.h"
+
+namespace dabcanvas::dabpaint {
+
+// "#rrggbb", "#rrggbbaa", a colour's name or "transparent"; none for anything else.
+std::optional<QColor> colorFromText(const QString& text);
+
+// "a number from 0 to 1", as messages and listings say it.
+QString expectedValue(const BrushProperty& property);
+
+// The property's default as a value one could write; empty where it cannot be written.
+QString defaultText(const BrushProperty& property);
+
+// A value from the command line, such as "0.5", "yes", "1,0,0" or "tip.png,other.png".
+Result<QVariant> propertyValueFromText(const BrushProperty& property, const QString& text);
+
+// A recording's value; image paths are relative to `folder`. The setting must have a value.
+Result<QVariant> propertyValueFromSetting(const BrushProperty& property, const Setting& setting,
+                                          const QString& folder);
+
+// Every property's name, and what one hears who names another.
+QStringList propertyNames();
+QString unknownProperty(const QString& name);
+
+}  // namespace dabcanvas::dabpaint

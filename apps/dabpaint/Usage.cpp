@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include "Usage.h"
+
+namespace dabcanvas::dabpaint {
+
+namespace {
+
+constexpr const char* kTool = R"(NAME
+    dabpaint - paint recorded strokes into pictures
+
+SYNOPSIS
+    dabpaint paint RECORDING... -o OUT.png [OPTION]...
+    dabpaint dabs INPUT.json [--header]
+    dabpaint properties [--json]
+    dabpaint help [COMMAND]
+    dabpaint --help | --version
+
+DESCRIPTION
+    paint       paints recordings of pen strokes onto a canvas and writes it as PNG
+    dabs        runs samples through the line process alone and prints its dabs
+    properties  lists the brush properties that paint --set and recordings take
+    help        prints the help of a command, as does --help after its name
+
+    Numbers are read and written with a decimal point under every locale.
+
+EXIT STATUS
+    0  done
+    1  the work failed; one line on standard error says why, with file and line
+    2  the command line is wrong
+
+EXAMPLES
+    dabpaint paint session.dat -o session.png
+    dabpaint paint note.inkml -o note.png --set radius=6 --background transparent
+    dabpaint help paint
+)";
+
+constexpr const char* kPaint = R"(NAME
+    dabpaint paint - paint recorded strokes and write the picture
+
+SYNOPSIS
+    dabpaint paint RECORDING... -o OUT.png [--size WxH] [--set PROPERTY=VALUE]...
+                   [--background COLOUR] [--repeatable] [--stats]
+
+DESCRIPTION
+    Paints the strokes of every RECORDING, in order, onto one canvas and writes
+    it as PNG. A RECORDING of - is standard input. The picture appears under its
+    name only once it is whole. Painting needs OpenGL 3.2, but no window.
+
+OPTIONS
+    -o OUT.png, --output OUT.png
+        Where to write the picture; - is standard output.
+
+    --size WxH
+        Size of the canvas in pixels, at most 16384 a side and 268435456 in all.
+        Without it the canvas is as large as the recordings need: the size that
+        a JSON recording names, else up to the rightmost and lowest sample and
+        the largest brush radius beyond it; of several recordings the largest.
+
+    --set PROPERTY=VALUE
+        Sets a brush property; dabpaint properties lists them. It holds for all
+        strokes, whatever a recording sets the property to. VALUE is a number,
+        yes or no (true/false, 1/0), a colour as #rrggbb or #rrggbbaa or its
+        name, pressure,altitude,speed (three numbers) for a control, the path of
+        an image, or several paths with commas between them. May be repeated.
+
+    --background COLOUR
+        What the canvas is cleared with: #rrggbb, #rrggbbaa, a name, or
+        transparent. Without it the first background that a recording names,
+        else white.
+
+    --repeatable
+        Takes fixed random numbers, so that two runs give the same bytes.
+
+    --stats
+        Prints one JSON object on standard output: numbers of strokes, samples
+        and dabs, canvas size, OpenGL renderer, seconds spent and peak memory in
+        bytes. Timing each stage makes painting slower.
+
+RECORDINGS
+    The form of a recording is told by its content, not by its name. Pressure is
+    0 to 1; altitude, the tilt of the pen, is 0 upright to 1 flat on the surface.
+    Positions are pixels from the top left, up to 131072 either way.
+
+    Rows
+        One sample a line: seconds x y pressure [altitude]. Pressure 0 lifts the
+        pen. Blank lines and anything after a # are left out.
+
+    JSON
+        {"canvas": {"width": 640, "height": 480, "background": "#ffffff"},
+         "strokes": [{"set": {"radius": 12, "renderColor": "#203040",
+                              "radiusControl": [1, 0, 0]},
+                      "samples": [[10, 20, 0.5, 0], [12, 24]]}]}
+        canvas, set, pressure and altitude may be left out. What set says holds
+        from that stroke to the end of the recording. Image paths are relative
+        to the recording.
+
+    InkML
+        Traces with their contexts, formats, brushes and groups, penUp traces
+        left out and continued traces joined; explicit values, differences and
+        second differences; * repeats the last number, ? is unknown.
+        X and Y in in, cm, mm, pt and the like become 96 pixels an inch, after
+        division by the declared resolution; other units and none are pixels.
+        orientation="-ve" counts the other way. A drawing that starts left of or
+        above the canvas, or ends beyond 4096 pixels (16384 in length units), is
+        moved to 32 pixels from the edge; one that is longer than that is made
+        smaller to fit 1024 pixels with 32 around.
+        F becomes a pressure by its declared range; without one it is taken as
+        it is while no value exceeds 1, else divided by the largest.
+        Altitude is the angle between pen and upright in parts of 90 degrees:
+        from OE, the elevation above the surface, or from OTx and OTy, the tilts
+        from upright, as atan(sqrt(tan(OTx)^2 + tan(OTy)^2)). Angles are degrees
+        unless declared in rad or with a range of at most 1.6; without a unit a
+        range beyond 90 ends at 90 degrees.
+        A trace's brush gives renderColor and, by its width, radius.
+
+EXIT STATUS
+    0 done, 1 the work failed, 2 the command line is wrong.
+
+EXAMPLES
+    dabpaint paint session.dat -o session.png --set radius=24 --set radiusControl=1,0,0
+    dabpaint paint a.json b.inkml -o both.png --size 1024x768 --repeatable --stats
+)";
+
+constexpr const char* kDabs = R"(NAME
+    dabpaint dabs - print the dabs that the line process makes of samples
+
+SYNOPSIS
+    dabpaint dabs INPUT.json [--header]
+
+DESCRIPTION
+    Runs strokes through the line process, with no canvas and no filter between,
+    and prints one CSV row a dab: sample,x,y,radius,pressure,altitude,speed, with
+    9 significant digits. "sample" counts the samples of the whole file from 0
+    and is the one whose arrival made the dab. INPUT.json of - is standard input.
+
+    {"srand": 1,
+     "strokes": [{"set": {"radius": 10, "radiusControl": [1, 0, 0]},
+                  "samples": [[0, 0, 0.5, 0], [40, 0, 1, 0]],
+                  "end": true}]}
+
+    The first sample of a stroke starts it, the others are appended, the last one
+    with the end flag unless "end" is false; a stroke of one sample only starts.
+    Numbers are passed on as written; a pressure left out is -1 (none), an
+    altitude left out is 0. "srand" seeds the random generator after its own
+    first seeding, so that jitter repeats.
+
+    "set" names fields of the line record. The record begins with its defaults
+    and is kept from stroke to stroke: radius, pointsDistanceEnabled,
+    pointsDistance, radiusTingle, radiusControl ([pressure, altitude, speed]),
+    minRadius, maxRadius, smoothEnabled, speedSencitive, sensitivity,
+    startRadius, endRadius, trackNum, strokeControlValue, minPointsDistance.
+
+OPTIONS
+    --header
+        Prints the names of the columns first.
+
+EXIT STATUS
+    0 done, 1 the work failed, 2 the command line is wrong.
+
+EXAMPLES
+    dabpaint dabs stroke.json --header > stroke.csv
+)";
+
+constexpr const char* kProperties = R"(NAME
+    dabpaint properties - list the brush properties
+
+SYNOPSIS
+    dabpaint properties [--json]
+
+DESCRIPTION
+    Lists every brush property with the values it takes, its default and what it
+    does, by group.
+
+OPTIONS
+    --json
+        Prints a JSON list instead: name, group, type, low, high (null for no
+        bound), default and about of each property.
+
+EXIT STATUS
+    0 done, 1 the work failed, 2 the command line is wrong.
+
+EXAMPLES
+    dabpaint properties | less
+)";
+
+constexpr const char* kHelp = R"(NAME
+    dabpaint help - print the help of a command
+
+SYNOPSIS
+    dabpaint help [paint | dabs | properties]
+
+DESCRIPTION
+    Without a command, prints the help of the tool.
+
+EXIT STATUS
+    0 done, 1 the work failed, 2 the command line is wrong.
+
+EXAMPLES
+    dabpaint help paint
+)";
+
+constexpr struct {
+    const char* topic;
+    const char* text;
+} kTopics[] = {{"paint", kPaint}, {"dabs", kDabs}, {"properties", kProperties}, {"help", kHelp}};
+
+}  // namespace
+
+QStringList commandNames() {
+    QStringList names;
+    for (const auto& row : kTopics)
+        names << QLatin1String(row.topic);
+    return names;
+}
+
+QByteArray usageText(const QString& topic) {
+    if (topic.isEmpty())
+        return kTool;
+    for (const auto& row : kTopics) {
+        if (topic == QLatin1String(row.topic))
+            return row.text;
+    }
+    return {};
+}
+
+QByteArray versionText() {
+    return "dabpaint " DABPAINT_VERSION "\n";
+}
+
+}  // namespace dabcanvas::dabpaint

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// Command lines: what is asked for, and which are refused with what words.
+#include "CommandLine.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Usage.h"
+
+namespace dabcanvas::dabpaint {
+namespace {
+
+CommandLine readWords(const char* words) {
+    const QString text = QString::fromUtf8(words);
+    return readCommandLine(text.isEmpty() ? QStringList() : text.split(QLatin1Char(' ')));
+}
+
+TEST(CommandLineTest, PaintTakesItsOptionsInAnyOrder) {
+    const auto line = readWords(
+        "paint a.dat --size=30x40 --set radius=5 -o out.png --set textureImages=a=b.png,c.png b.json "
+        "--background #10203040 --repeatable --stats -- -odd.dat");
+    const auto* paint = std::get_if<PaintOptions>(&line);
+    ASSERT_NE(paint, nullptr);
+    EXPECT_EQ(paint->recordings,
+              (QStringList{QStringLiteral("a.dat"), QStringLiteral("b.json"), QStringLiteral("-odd.dat")}));
+    EXPECT_EQ(paint->output, QStringLiteral("out.png"));
+    EXPECT_EQ(paint->size, QSize(30, 40));
+    ASSERT_EQ(paint->settings.size(), 2u);
+    EXPECT_EQ(paint->settings[1].property, QStringLiteral("textureImages"));
+    EXPECT_EQ(paint->settings[1].value, QStringLiteral("a=b.png,c.png"));
+    EXPECT_EQ(paint->background, QColor(0x10, 0x20, 0x30, 0x40));
+    EXPECT_TRUE(paint->repeatable && paint->stats);
+}
+
+TEST(CommandLineTest, HelpOfEveryCommand) {
+    for (const QString& name : commandNames()) {
+        for (const QString& words : {QStringLiteral("help ") + name, name + QStringLiteral(" --help"),
+                                     name + QStringLiteral(" -h")}) {
+            const auto line = readWords(words.toUtf8().constData());
+            const auto* help = std::get_if<HelpOptions>(&line);
+            ASSERT_NE(help, nullptr) << words.toStdString();
+            EXPECT_EQ(help->topic, name) << words.toStdString();
+        }
+        for (const char* section : {"NAME\n", "SYNOPSIS\n", "DESCRIPTION\n", "EXIT STATUS\n", "EXAMPLES\n"})
+            EXPECT_TRUE(usageText(name).contains(section)) << name.toStdString() << ' ' << section;
+    }
+    for (const char* option : {"--size", "--set", "--background", "--repeatable", "--stats", "RECORDINGS"})
+        EXPECT_TRUE(usageText(QStringLiteral("paint")).contains(option)) << option;
+    EXPECT_TRUE(std::holds_alternative<VersionOptions>(readWords("--version")));
+}
+
+struct BadLine {
+    const char* words;
+    const char* message;
+};
+
+class BadLineTest : public ::testing::TestWithParam<BadLine> {};
+
+TEST_P(BadLineTest, IsRefused) {
+    const auto line = readWords(GetParam().words);
+    const auto* fault = std::get_if<UsageFault>(&line);
+    ASSERT_NE(fault, nullptr) << GetParam().words;
+    EXPECT_THAT(fault->what.toStdString(), ::testing::HasSubstr(GetParam().message));
+}
+
+const BadLine kBadLines[] = {
+    {"", "a command is missing"},
+    {"pain", "did you mean paint?"},
+    {"help pait", "did you mean paint?"},
+    {"paint -o a.png", "needs a recording"},
+    {"paint a.dat", "needs -o"},
+    {"paint a.dat -o", "-o needs a value"},
+    {"paint a.dat --output=", "name is empty"},
+    {"paint a.dat -o b.png --siez 4x4", "unknown option --siez; did you mean --size"},
+    {"paint a.dat -o b.png --stats=yes", "--stats takes no value"},
+    {"paint a.dat -o - --stats", "standard output"},
+    {"paint a.dat -o b.png --size 0x5", "at least 1 pixel"},
+    {"paint a.dat -o b.png --size -3x5", "WIDTHxHEIGHT"},
+    {"paint a.dat -o b.png --size 3x", "WIDTHxHEIGHT"},
+    {"paint a.dat -o b.png --size 3x4x5", "WIDTHxHEIGHT"},
+    {"paint a.dat -o b.png --size 16385x5", "too large"},
+    {"paint a.dat -o b.png --size 99999999999999999999x5", "WIDTHxHEIGHT"},
+    {"paint a.dat -o b.png --set radius", "PROPERTY=VALUE"},
+    {"paint a.dat -o b.png --set =3", "PROPERTY=VALUE"},
+    {"paint a.dat -o b.png --background #12", "--background is"},
+    {"dabs", "needs an input"},
+    {"dabs a.json b.json", "one input"},
+    {"dabs a.json --heder", "did you mean --header"},
+    {"properties x", "takes no"},
+};
+INSTANTIATE_TEST_SUITE_P(Lines, BadLineTest, ::testing::ValuesIn(kBadLines));
+
+}  // namespace
+}  // namespace dabcanvas::dabpaint

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+// The program as its users run it: exit status, what it prints where, and which files are there afterwards.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <algorithm>
+
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+const QString kRecordings = QStringLiteral(DABCANVAS_TEST_DATA "/recordings/");
+
+struct Ended {
+    int status = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+Ended runProgram(const QStringList& arguments, const QByteArray& input = {},
+                 const QStringList& environment = {}) {
+    QProcess program;
+    auto variables = QProcessEnvironment::systemEnvironment();
+    for (const QString& variable : environment)
+        variables.insert(variable.section(QLatin1Char('='), 0, 0), variable.section(QLatin1Char('='), 1));
+    program.setProcessEnvironment(variables);
+    program.start(QStringLiteral(DABPAINT_PROGRAM), arguments);
+    program.write(input);
+    program.closeWriteChannel();
+    Ended ended;
+    if (program.waitForFinished(120000) && program.exitStatus() == QProcess::NormalExit)
+        ended.status = program.exitCode();
+    ended.out = program.readAllStandardOutput();
+    ended.err = program.readAllStandardError();
+    return ended;
+}
+
+class ProgramTest : public ::testing::Test {
+protected:
+    QString path(const char* name) const { return _folder.filePath(QLatin1String(name)); }
+    QString write(const char* name, const QByteArray& bytes) const {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return file.fileName();
+    }
+    QStringList filesThere() const {
+        return QDir(_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir _folder;
+};
+
+void expectOneLine(const Ended& ended, int status, const char* fragment) {
+    EXPECT_EQ(ended.status, status) << ended.err.constData();
+    EXPECT_THAT(ended.err.toStdString(), StartsWith("dabpaint: "));
+    EXPECT_THAT(ended.err.toStdString(), HasSubstr(fragment));
+    EXPECT_EQ(ended.err.count('\n'), 1) << ended.err.constData();
+    EXPECT_TRUE(ended.out.isEmpty());
+}
+
+TEST_F(ProgramTest, UsageErrorsEndWithTwo) {
+    const QString dat = kRecordings + QStringLiteral("hover.dat");
+    expectOneLine(runProgram({}), 2, "a command is missing");
+    const auto paint = [&](const char* set) {
+        return runProgram({QStringLiteral("paint"), dat, QStringLiteral("-o"), path("a.png"),
+                           QStringLiteral("--set"), QLatin1String(set)});
+    };
+    expectOneLine(paint("raduis=3"), 2, "no brush property is called \"raduis\"; did you mean radius");
+    expectOneLine(paint("radius=big"), 2, "--set radius=big: expected a number from 2 to 1280");
+    expectOneLine(paint("flipX=3"), 2, "expected yes or no");
+    EXPECT_TRUE(filesThere().isEmpty());
+}
+
+TEST_F(ProgramTest, FailedWorkEndsWithOneAndLeavesNoFile) {
+    const QString bad = kRecordings + QStringLiteral("bad/short-row.dat");
+    const QString good = kRecordings + QStringLiteral("hover.dat");
+    const auto paint = [&](const QString& recording, const QString& output) {
+        return runProgram({QStringLiteral("paint"), recording, QStringLiteral("-o"), output});
+    };
+    expectOneLine(paint(bad, path("a.png")), 1, "short-row.dat:2: 3 number(s)");
+    // An output that cannot be written is told before the recording is looked at.
+    expectOneLine(paint(bad, path("none/a.png")), 1, "none/a.png: cannot be written");
+    expectOneLine(paint(good, _folder.path()), 1, "cannot be written");
+    const QString wrongSet =
+        write("set.json", "{\"strokes\": [{\n\"set\": {\"raduis\": 1}, \"samples\": [[1, 1]]}]}");
+    expectOneLine(paint(wrongSet, path("a.png")), 1, "set.json:2: strokes[0].set.raduis: no brush property");
+    const QString wrongValue =
+        write("set.json", "{\"strokes\": [{\"set\": {\"radius\": \"big\"}, \"samples\": [[1, 1]]}]}");
+    expectOneLine(paint(wrongValue, path("a.png")), 1,
+                  "set.json:1: strokes[0].set.radius: expected a number from 2");
+    const QString far = write("far.dat", "0 20000 5 1\n");
+    expectOneLine(paint(far, path("a.png")), 1, "far.dat: 20032x37 is too large");
+    EXPECT_EQ(filesThere().size(), 2);
+}
+
+TEST_F(ProgramTest, HelpVersionAndProperties) {
+    EXPECT_THAT(runProgram({QStringLiteral("--version")}).out.toStdString(),
+                ::testing::MatchesRegex("dabpaint [0-9.]+\n"));
+    EXPECT_THAT(runProgram({QStringLiteral("paint"), QStringLiteral("--help")}).out.toStdString(),
+                HasSubstr("RECORDINGS"));
+    const Ended listed = runProgram({QStringLiteral("properties"), QStringLiteral("--json")});
+    EXPECT_EQ(listed.status, 0);
+    EXPECT_TRUE(QJsonDocument::fromJson(listed.out).isArray());
+}
+
+TEST_F(ProgramTest, DabsPrintsRowsAndRefusesWithTheLine) {
+    const QByteArray input =
+        R"({"strokes": [{"set": {"pointsDistanceEnabled": false}, "samples": [[0, 0], [0.5, 0]]}]})";
+    const QStringList dabs{QStringLiteral("dabs"), QStringLiteral("-"), QStringLiteral("--header")};
+    const Ended rows = runProgram(dabs, input, {QStringLiteral("LC_ALL=de_DE.UTF-8")});
+    EXPECT_EQ(rows.status, 0);
+    EXPECT_THAT(rows.out.toStdString(),
+                StartsWith("sample,x,y,radius,pressure,altitude,speed\n1,0.5,0,2,-1,0,"));
+    EXPECT_EQ(runProgram(dabs, R"({"strokes": []})").out, "sample,x,y,radius,pressure,altitude,speed\n");
+    expectOneLine(runProgram(dabs, "{\"strokes\":\n[7]}"), 1,
+                  "standard input:2: strokes[0]: expected an object");
+}
+
+TEST_F(ProgramTest, FullOutputIsAFailure) {
+    if (!QFile::exists(QStringLiteral("/dev/full")))
+        GTEST_SKIP() << "the system has no /dev/full";
+    QProcess program;
+    program.setStandardOutputFile(QStringLiteral("/dev/full"));
+    program.start(QStringLiteral(DABPAINT_PROGRAM), {QStringLiteral("properties")});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr("cannot write to standard output"));
+}
+
+// ---- Painting (needs OpenGL)
+// ------------------------------------------------------------------------------------
+
+class PaintTest : public ProgramTest {
+protected:
+    // Paints and gives the picture; null, and a failure unless GL is missing, when there is none.
+    QImage paint(const QStringList& recordings, const QStringList& options = {}) {
+        const Ended ended =
+            runProgram(QStringList{QStringLiteral("paint"), QStringLiteral("-o"), path("out.png")} +
+                       recordings + options);
+        if (ended.status == 1 && ended.err.contains("OpenGL") &&
+            !qEnvironmentVariableIsSet("DABCANVAS_REQUIRE_GL")) {
+            _noGl = true;
+        } else {
+            EXPECT_EQ(ended.status, 0) << ended.err.constData();
+        }
+        _printed = ended.out;
+        return QImage(path("out.png")).convertToFormat(QImage::Format_RGBA8888);
+    }
+    QString stroke(const char* name, const QByteArray& set, const QByteArray& canvas = {}) {
+        return write(
+            name, "{" + (canvas.isEmpty() ? canvas : "\"canvas\": {" + canvas + "}, ") +
+                      "\"strokes\": [{\"set\": {" + set +
+                      "}, \"samples\": [[20, 30, 1, 0], [40, 30, 1, 0], [60, 30, 1, 0], [80, 30, 1, 0]]}]}");
+    }
+
+    bool _noGl = false;
+    QByteArray _printed;
+};
+
+#define SKIP_WITHOUT_GL() \
+    if (_noGl)            \
+    GTEST_SKIP() << "no OpenGL here"
+
+const QByteArray kSolid = R"("radius": 20, "minRadius": 1, "hardness": 1, "pointsDistance": 0.05)";
+
+TEST_F(PaintTest, PaintsInTheColourOnTheBackground) {
+    const QString file =
+        stroke("a.json", kSolid + R"(, "renderColor": "#ff0000")", R"("width": 100, "height": 60)");
+    const QImage image = paint({file}, {QStringLiteral("--background"), QStringLiteral("#0000ff")});
+    SKIP_WITHOUT_GL();
+    ASSERT_EQ(image.size(), QSize(100, 60));
+    EXPECT_EQ(image.pixelColor(50, 30), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(50, 55), QColor(Qt::blue));
+    EXPECT_EQ(filesThere().size(), 2);
+}
+
+TEST_F(PaintTest, BackgroundsAndSizesByDefault) {
+    const QImage white = paint({stroke("a.json", kSolid)});
+    SKIP_WITHOUT_GL();
+    EXPECT_EQ(white.size(), QSize(112, 62));  // the last sample and the default brush beyond it
+    EXPECT_EQ(white.pixelColor(0, 0), QColor(Qt::white));
+    EXPECT_EQ(white.pixelColor(50, 30), QColor(Qt::black));
+    const QImage clear =
+        paint({stroke("a.json", kSolid)}, {QStringLiteral("--background"), QStringLiteral("transparent"),
+                                           QStringLiteral("--set"), QStringLiteral("radius=10")});
+    EXPECT_EQ(clear.size(), QSize(90, 40));
+    EXPECT_EQ(clear.pixelColor(0, 0).alpha(), 0);
+    EXPECT_EQ(clear.pixelColor(50, 30), QColor(Qt::black));
+}
+
+TEST_F(PaintTest, TheCommandLineWinsAndRecordingsStartAfresh) {
+    const QByteArray canvas = R"("width": 100, "height": 60)";
+    const QString red = stroke("red.json", kSolid + R"(, "renderColor": "#ff0000")", canvas);
+    const QImage green = paint({red}, {QStringLiteral("--set"), QStringLiteral("renderColor=#00ff00")});
+    SKIP_WITHOUT_GL();
+    EXPECT_EQ(green.pixelColor(50, 30), QColor(0, 255, 0));
+    const QString plain = stroke("plain.json", kSolid, canvas);
+    EXPECT_EQ(paint({red, plain}).pixelColor(50, 30), QColor(Qt::black));
+    EXPECT_EQ(paint({plain, red}).pixelColor(50, 30), QColor(Qt::red));
+}
+
+TEST_F(PaintTest, ADotIsPainted) {
+    const QString dot = write("dot.json", R"({"strokes": [{"set": {)" + kSolid +
+                                              R"(, "endRadius": 1}, "samples": [[20, 20, 1, 0]]}]})");
+    const QImage image = paint({dot});
+    SKIP_WITHOUT_GL();
+    EXPECT_EQ(image.pixelColor(20, 20), QColor(Qt::black));
+}
+
+TEST_F(PaintTest, RepeatableRunsGiveTheSameBytes) {
+    const QString file =
+        stroke("a.json", kSolid + R"(, "radiusTingle": 0.8, "distribution": 1.5, "disTwoAxes": true)");
+    QByteArray bytes[3];
+    for (int i = 0; i < 3; ++i) {
+        paint({file}, i < 2 ? QStringList{QStringLiteral("--repeatable")} : QStringList());
+        SKIP_WITHOUT_GL();
+        QFile picture(path("out.png"));
+        ASSERT_TRUE(picture.open(QIODevice::ReadOnly));
+        bytes[i] = picture.readAll();
+    }
+    EXPECT_EQ(bytes[0], bytes[1]);
+    EXPECT_NE(bytes[0], bytes[2]);
+}
+
+TEST_F(PaintTest, StatsCountWhatWasPainted) {
+    paint({stroke("a.json", kSolid), kRecordings + QStringLiteral("hover.dat")}, {QStringLiteral("--stats")});
+    SKIP_WITHOUT_GL();
+    const QJsonObject stats = QJsonDocument::fromJson(_printed).object();
+    EXPECT_EQ(stats[QStringLiteral("strokes")].toInt(), 3);
+    EXPECT_EQ(stats[QStringLiteral("samples")].toInt(), 7);
+    EXPECT_GT(stats[QStringLiteral("dabs")].toInt(), 20);
+    EXPECT_EQ(stats[QStringLiteral("canvas")][QStringLiteral("width")].toInt(), 112);
+    EXPECT_FALSE(stats[QStringLiteral("renderer")].toString().isEmpty());
+    EXPECT_GT(stats[QStringLiteral("peakMemoryBytes")].toDouble(), 1e6);
+    const QJsonObject seconds = stats[QStringLiteral("seconds")].toObject();
+    for (const char* stage : {"geometry", "drawing", "compositing", "encoding"}) {
+        EXPECT_GT(seconds[QLatin1String(stage)].toDouble(), 0) << stage;
+        EXPECT_LT(seconds[QLatin1String(stage)].toDouble(), seconds[QStringLiteral("total")].toDouble())
+            << stage;
+    }
+}
+
+TEST_F(PaintTest, StandardOutputTakesThePicture) {
+    const Ended ended = runProgram({QStringLiteral("paint"), QStringLiteral("-"), QStringLiteral("-o"),
+                                    QStringLiteral("-"), QStringLiteral("--size"), QStringLiteral("30x20")},
+                                   "0 5 5 1\n0 9 9 1\n");
+    if (ended.status == 1 && ended.err.contains("OpenGL") &&
+        !qEnvironmentVariableIsSet("DABCANVAS_REQUIRE_GL"))
+        GTEST_SKIP() << "no OpenGL here";
+    EXPECT_EQ(QImage::fromData(ended.out, "png").size(), QSize(30, 20));
+    EXPECT_TRUE(ended.err.isEmpty()) << ended.err.constData();
+}
+
+}  // namespace
