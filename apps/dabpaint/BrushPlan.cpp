@@ -5,6 +5,21 @@
 
 namespace dabcanvas::dabpaint {
 
+namespace {
+
+// Tip images given without a texture type mean the type that paints with them; under another type the canvas would
+// draw a tip of its own again as soon as the radius changes.
+bool impliesStoredTips(const std::vector<BrushPlan::Step>& steps) {
+    const auto sets = [&](BrushKey key) {
+        return std::any_of(steps.begin(), steps.end(), [key](const BrushPlan::Step& step) {
+            return step.property->key == key && step.value;
+        });
+    };
+    return sets(BrushKey::textureImages) && !sets(BrushKey::textureType);
+}
+
+}  // namespace
+
 void BrushPlan::seen(const Step& step) {
     if (step.property->key == BrushKey::radius && step.value)
         _largestRadius = std::max(_largestRadius, double(step.value->toFloat()));
@@ -23,6 +38,11 @@ QString BrushPlan::fix(const std::vector<PaintOptions::Assignment>& settings) {
             _largestRadius = value->toFloat();
         _fixed.push_back({property, *value});
         _fixedProperties.insert(property);
+    }
+    if (impliesStoredTips(_fixed)) {
+        const BrushProperty* type = &brushProperty(BrushKey::textureType);
+        _fixed.insert(_fixed.begin(), {type, QVariant(0)});
+        _fixedProperties.insert(type);
     }
     return {};
 }
@@ -48,6 +68,12 @@ std::optional<Problem> BrushPlan::add(const Recording& recording, const QString&
             touched.insert(property);
             _touched.insert(property);
             steps[i].push_back(std::move(step));
+        }
+        const BrushProperty* type = &brushProperty(BrushKey::textureType);
+        if (impliesStoredTips(steps[i]) && !_fixedProperties.contains(type)) {
+            touched.insert(type);
+            _touched.insert(type);
+            steps[i].insert(steps[i].begin(), {type, QVariant(0)});
         }
     }
     return std::nullopt;
