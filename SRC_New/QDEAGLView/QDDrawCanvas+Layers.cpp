@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The layers: drawing into them, putting them onto the canvas, clearing, and reading the canvas back.
+#include <algorithm>
+#include <utility>
+
 #include "QDEAGLView/CanvasRects.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
@@ -39,7 +42,9 @@ QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRend
     const QRectF touched = render->drawPoints(points, count);
     _esContext->finishRender();
     _stats.dabs += render->dabsDrawn() - before;
-    return dabcanvas::roundedRect(touched);
+    const QRectF rounded = dabcanvas::roundedRect(touched);
+    mergeRect(_layerContent[layer], rounded);
+    return rounded;
 }
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count) {
@@ -167,7 +172,10 @@ void QDDrawCanvas::clearLayer(ESRenderType layer, QRectF& rect) {
     compositePending();
     _esContext->beginRenderForType(layer);
     rect = QRectF();
+    // Only where something was drawn, so that ending a stroke costs the same on any canvas.
+    _esContext->scissorRect(std::exchange(_layerContent[layer], QRectF()));
     _esRender->clear();
+    _esContext->finishRender();
 }
 
 void QDDrawCanvas::clearExtenBuffer() {
@@ -186,6 +194,7 @@ void QDDrawCanvas::clear() {
     const QSizeF frame = displayFrame().size();
     const QRectF whole(0, 0, frame.width() / scale().width(), frame.height() / scale().height());
     _lineRenderRect = _subLineRenderRect = _smudgeRenderRect = whole;
+    std::fill(std::begin(_layerContent), std::end(_layerContent), QRectF(QPointF(0, 0), bufferSize()));
     clearOnline(true);
 }
 

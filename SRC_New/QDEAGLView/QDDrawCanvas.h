@@ -414,6 +414,9 @@ private:
     bool _isAppendLine = false;
     bool _refusedSample = false;  // and said so
 
+    // What the layers hold, in buffer pixels; unlike the rectangles of a stroke it outlives a stroke that never ended
+    QRectF _layerContent[kRenderTypeCount];
+
     // Of the canvas, in buffer pixels
     QRectF _updateRect;            // changed since the background was last refreshed
     std::vector<QRectF> _pending;  // to be composited before the canvas is next looked at
