@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 // One flat colour.
 uniform vec4 a_color;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 // Places the unit square at a point, as large as the point, in a buffer whose origin is at the top left.
 in vec2 a_position;

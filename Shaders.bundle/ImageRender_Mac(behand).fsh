@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 precision highp float;
 // Source under background.

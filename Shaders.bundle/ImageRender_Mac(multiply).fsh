@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 precision highp float;
 // Multiplied: un-premultiplied by adding the complement of each alpha, re-premultiplied by taking the

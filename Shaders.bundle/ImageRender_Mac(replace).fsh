@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 precision highp float;
 // The source alone: also where it is transparent.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 precision highp float;
 // The background, copied back unchanged whatever the source holds, so that a withdrawn stroke disappears.

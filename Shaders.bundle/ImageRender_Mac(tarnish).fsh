@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 precision highp float;
 // The darker of both, channel by channel; alphas handled as in multiply.

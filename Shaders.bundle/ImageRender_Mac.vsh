@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 // Places the rectangle that is composited: corner offsets in pixels, mirrored, rotated counter-clockwise and moved to the
 // centre. The offsets count upwards, as the buffer's rows do; the centre has a top-left origin.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 // Paints one dab: the tip's alpha is the shape, the brush colour fills it. Premultiplied.
 uniform sampler2D u_brushTexture;

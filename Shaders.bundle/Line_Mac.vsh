@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #version 150
 // Places one dab: the unit square, mirrored, squeezed, rotated and moved to its centre in a buffer whose origin is top left.
 in vec4 a_position;

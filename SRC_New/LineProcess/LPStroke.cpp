@@ -24,7 +24,7 @@ using dabcanvas::finiteOr;
 constexpr float kTaperOff = 0.001f;     // smaller taper settings count as none
 constexpr float kControlReach = 30.0f;  // spans below this pull the curve's control point in
 constexpr float kFarthest = 1e18f;      // keeps squared distances within the range of a float
-constexpr float kStrongest = 1e6f;
+constexpr float kStrongest = 1e30f;
 
 float usable(float value, float otherwise, float bound) {
     return std::clamp(finiteOr(value, otherwise), -bound, bound);
@@ -50,7 +50,10 @@ float measuredSpeed(const LPLineParams& line, bool first) {
         distance = line.prevSegmentDistance + line.pendingDistance;
         samples = std::int64_t{line.trackNum} + 1 + line.pendingInputs;
     }
-    const float v = distance / static_cast<float>(std::max<std::int64_t>(samples, 1));
+    // A negative trackNum may leave nothing to divide by: 0 / 0 counts as 1, anything else as fast.
+    const float v = samples != 0      ? distance / static_cast<float>(samples)
+                    : distance > 0.0f ? std::numeric_limits<float>::max()
+                                      : 1.0f;
     const float sensitivity = finiteOr(line.sensitivity, 50.0f);
     if (v < 0.1f * sensitivity) {
         return 1.0f;
