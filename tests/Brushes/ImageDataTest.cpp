@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <algorithm>
 
+#include "support/Images.h"
+
 namespace {
 
 // Every premultiplied pair of alpha and colour, once.
@@ -24,34 +26,26 @@ QImage everyPremultipliedPair() {
     return image;
 }
 
-TEST(ImageData, PngKeepsEveryPremultipliedPixel) {
-    const QImage image = everyPremultipliedPair();
-    const QByteArray data = UIImagePNGRepresentation(image);
-    ASSERT_TRUE(data.startsWith("\x89PNG"));
-    const QImage back = imageWithData(data);
-    EXPECT_EQ(back.format(), QImage::Format_RGBA8888_Premultiplied);
-    EXPECT_EQ(back, image);
-}
-
 TEST(ImageData, JpegShowsTransparentPartsAsWhitePaper) {
-    QImage image(16, 16, QImage::Format_RGBA8888_Premultiplied);
-    image.fill(Qt::transparent);
-    const QByteArray data = dataOfJPEGFile(image);
+    const QByteArray data = dataOfJPEGFile(solidImage({16, 16}));
     ASSERT_TRUE(data.startsWith("\xFF\xD8"));
     const QImage back = imageWithData(data);
-    ASSERT_EQ(back.size(), image.size());
+    ASSERT_EQ(back.size(), QSize(16, 16));
     EXPECT_GE(qGray(back.pixel(8, 8)), 253);
     EXPECT_EQ(qAlpha(back.pixel(8, 8)), 255);
 }
 
-TEST(ImageData, FileIsReadByContentAtItsPixelSize) {
+TEST(ImageData, PngKeepsEveryPixelAndAFileIsReadByContentAtItsPixelSize) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("柔角@2x.jpg"));
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const QImage image = everyPremultipliedPair();
-    file.write(dataOfPNGFile(image));
+    const QByteArray data = dataOfPNGFile(image);
+    EXPECT_TRUE(data.startsWith("\x89PNG"));
+    file.write(data);
     file.close();
+    EXPECT_EQ(imageWithData(data), image);
     const QImage back = imageWithContentsOfFile(path);
     EXPECT_EQ(back, image);
     EXPECT_EQ(back.devicePixelRatio(), 1.0);

@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ostream>
 #include <vector>
+
+#include "support/Images.h"
+#include "support/Named.h"
 
 namespace {
 
@@ -44,18 +46,13 @@ std::vector<int> alphaOf(const TexturesTool& tool, int n) {
     return alpha;
 }
 
-struct Tip {
-    const char* name;
+struct Tip : Named {
     int type;
     float hardness;
     float control;
     int n;
     std::vector<int> alpha;
 };
-
-void PrintTo(const Tip& tip, std::ostream* out) {
-    *out << tip.name;
-}
 
 class TipBytes : public ::testing::TestWithParam<Tip> {};
 
@@ -92,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
         Tip{"disc2", kDisc, 0, 0, 2, {0, 0, 0, 255}}, Tip{"typeBelow", -1, 1, 1, 3, std::vector<int>(9, 0)},
         Tip{"typeAbove", 4, 1, 1, 3, std::vector<int>(9, 0)},
         Tip{"storedImageHasNoShape", TexturesTool::kStoredImage, 1, 1, 3, std::vector<int>(9, 0)}),
-    [](const auto& test) { return test.param.name; });
+    byName);
 
 // Shapes
 
@@ -144,17 +141,13 @@ TEST(TexturesToolShape, EveryTipIsSymmetricAwayFromTheCentre) {
     for (const int type : {kDisc, kRing, kRectangle}) {
         for (const int n : {3, 8, 9, 64, 65}) {
             for (const float control : {0.3f, 1.0f, 3.0f}) {
-                const std::vector<int> alpha = alphaOf(toolOf(type, 0.4f, control), n);
-                const int centre = n / 2;
-                for (int y = 0; y < n; ++y) {
-                    for (int x = 0; x < n; ++x) {
-                        if (std::abs(x - centre) <= 1 && std::abs(y - centre) <= 1)
-                            continue;
-                        const int here = alpha[static_cast<std::size_t>(y * n + x)];
-                        EXPECT_EQ(here, alpha[static_cast<std::size_t>(y * n + n - 1 - x)]);
-                        EXPECT_EQ(here, alpha[static_cast<std::size_t>((n - 1 - y) * n + x)]);
-                    }
-                }
+                QImage tip = toolOf(type, 0.4f, control).textureImageWithSize(n);
+                const int first = (n + 1) / 2 - 2, last = n / 2 + 1;
+                fillRect(tip, QRect(QPoint(first, first), QPoint(last, last)), Qt::transparent);
+                EXPECT_TRUE(imagesMatch(tip.mirrored(true, false), tip))
+                    << type << " " << n << " " << control;
+                EXPECT_TRUE(imagesMatch(tip.mirrored(false, true), tip))
+                    << type << " " << n << " " << control;
             }
         }
     }
@@ -186,14 +179,6 @@ TEST(TexturesToolValues, RectangleReadsNotANumberAsSquareAndStaysDrawableAtBothE
     const std::vector<int> line = alphaOf(toolOf(kRectangle, 1, kInfinity), 33);
     EXPECT_EQ(line[16 * 33 + 16], 255);
     EXPECT_EQ(std::count_if(line.begin(), line.end(), [](int a) { return a != 0; }), 33);
-}
-
-TEST(TexturesToolValues, HelpersMeasureInSinglePrecision) {
-    EXPECT_EQ(TexturesTool::distanceOfPoint({1, 2}, {4, 6}), 5.0f);
-    EXPECT_EQ(TexturesTool::alphaOfValue(1, 4), 0.75f);
-    EXPECT_EQ(TexturesTool::alphaOfValue(-1, 4), 1.0f);
-    EXPECT_EQ(TexturesTool::alphaOfValue(5, 4), 0.0f);
-    EXPECT_EQ(TexturesTool::alphaOfValue(0, 0), 0.0f);
 }
 
 // Sizes and images

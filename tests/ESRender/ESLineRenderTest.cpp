@@ -6,12 +6,11 @@
 #include <QTransform>
 #include <cmath>
 #include <functional>
-#include <ostream>
-#include <string>
 #include <vector>
 
 #include "ESRender/LineShaderNames.h"
 #include "support/GLTest.h"
+#include "support/Named.h"
 
 namespace {
 
@@ -19,11 +18,7 @@ constexpr int kWidth = 200, kHeight = 150;
 
 class LineRenderTest : public GLTest {
 protected:
-    void SetUp() override {
-        GLTest::SetUp();
-        if (IsSkipped() || HasFatalFailure()) {
-            return;
-        }
+    void prepare() override {
         ASSERT_TRUE(_context->createBufferWithSize(QSizeF(kWidth, kHeight)));
         _render = ESLineRender::init();
         ASSERT_TRUE(_render);
@@ -50,27 +45,20 @@ protected:
 };
 
 // An opaque arrow-like shape with no symmetry: a bar along the top, a short one down the left.
-QImage lopsidedTip(int side = 32) {
-    QImage tip(side, side, QImage::Format_RGBA8888_Premultiplied);
-    tip.fill(Qt::transparent);
-    for (int y = 2; y < side - 6; ++y) {
-        for (int x = 2; x < (y < 8 ? side - 4 : 9); ++x) {
-            tip.setPixelColor(x, y, QColor(0, 0, 0, 255));
-        }
-    }
+QImage lopsidedTip() {
+    QImage tip = solidImage({32, 32});
+    fillRect(tip, QRect(2, 2, 26, 6), Qt::black);
+    fillRect(tip, QRect(2, 8, 7, 18), Qt::black);
     return tip;
 }
 
 QImage blockTip(int side) {
-    QImage tip(side, side, QImage::Format_RGBA8888_Premultiplied);
-    tip.fill(QColor(0, 0, 0, 255));
-    return tip;
+    return solidImage({side, side}, Qt::black);
 }
 
 // Where a tip, drawn at its own size around (100, 75) in white, would leave its alpha.
 QImage expectedLayer(const QImage& tip) {
-    QImage layer(kWidth, kHeight, QImage::Format_RGBA8888_Premultiplied);
-    layer.fill(Qt::transparent);
+    QImage layer = solidImage({kWidth, kHeight});
     for (int y = 0; y < tip.height(); ++y) {
         for (int x = 0; x < tip.width(); ++x) {
             if (tip.pixelColor(x, y).alpha() > 0) {
@@ -79,18 +67,6 @@ QImage expectedLayer(const QImage& tip) {
         }
     }
     return layer;
-}
-
-QRect painted(const QImage& image) {
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y).alpha() > 0) {
-                bounds |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return bounds;
 }
 
 TEST_F(LineRenderTest, TheProgramHasEveryNameTheRendererSets) {
@@ -151,13 +127,9 @@ TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
 }
 
 // Nothing is ever drawn outside the rectangle told, or seams would stay on the canvas.
-struct Jitter {
-    const char* name;
+struct Jitter : Named {
     std::function<void(ESLineRender&)> set;
 };
-void PrintTo(const Jitter& jitter, std::ostream* out) {
-    *out << jitter.name;
-}
 class LineRenderBoundsTest : public LineRenderTest, public ::testing::WithParamInterface<Jitter> {};
 TEST_P(LineRenderBoundsTest, HoldEveryPixel) {
     _render->setTextureImage(blockTip(32), GL_TEXTURE1);
@@ -195,13 +167,12 @@ INSTANTIATE_TEST_SUITE_P(
                              }},
                       Jitter{"ThinLine", [](ESLineRender& r) { r.setLineProcessType(kNoThinDabs); }},
                       Jitter{"Clipped", [](ESLineRender& r) { r.setNeedScissor(true); }}),
-    [](const auto& row) { return std::string(row.param.name); });
+    byName);
 
 // Tips
 
 TEST_F(LineRenderTest, NeighboursInTheAtlasNeverBleedIntoADab) {
-    QImage nothing(64, 64, QImage::Format_RGBA8888_Premultiplied);
-    nothing.fill(Qt::transparent);
+    const QImage nothing = solidImage({64, 64});
     _render->setRenderColor(ESColor::grey(1));
     // Index 0 is picked at full strength of the control, the last at none: empty next to full, and full next
     // to empty.
@@ -215,42 +186,18 @@ TEST_F(LineRenderTest, NeighboursInTheAtlasNeverBleedIntoADab) {
             _render->setTextureImages({blockTip(128), nothing, nothing, nothing}, GL_TEXTURE1);
             const QImage layer = draw({{{100.5f, 75.5f}, size, {1, 0, 1}}});
             const QRect solid = painted(layer);
-            for (int y = solid.top(); y <= solid.bottom(); ++y) {
-                for (int x = solid.left(); x <= solid.right(); ++x) {
-                    ASSERT_EQ(layer.pixelColor(x, y), QColor(Qt::white))
-                        << "size " << size << " at " << x << "," << y;
-                }
-            }
+            ASSERT_TRUE(imagesMatch(layer.copy(solid), solidImage(solid.size(), Qt::white)))
+                << "size " << size;
             EXPECT_NEAR(solid.width(), std::min<float>(size, kWidth), 1);
         }
     }
 }
 
-TEST_F(LineRenderTest, TheTipIsPickedPerDab) {
-    QImage dot(128, 128, QImage::Format_RGBA8888_Premultiplied);
-    dot.fill(Qt::transparent);
-    for (int i = 60; i < 68; ++i) {
-        for (int j = 60; j < 68; ++j) {
-            dot.setPixelColor(i, j, Qt::black);
-        }
-    }
-    _render->setTextureImages({blockTip(128), dot}, GL_TEXTURE1);
-    _render->setTextureControl({1, 0, 0});
-    const QImage layer = draw({{{50, 75}, 64, {1, 0, 1}}, {{150, 75}, 64, {0, 0, 1}}});
-    EXPECT_EQ(painted(layer.copy(0, 0, 100, kHeight)).width(), 64);
-    EXPECT_LE(painted(layer.copy(100, 0, 100, kHeight)).width(), 8);
-}
-
 // Paper
 
 TEST_F(LineRenderTest, PaperTilesFromTheTopLeftAndHoldsBackWhereItIsBlack) {
-    QImage paper(20, 10, QImage::Format_RGBA8888_Premultiplied);
-    paper.fill(Qt::black);
-    for (int y = 0; y < 5; ++y) {
-        for (int x = 0; x < 10; ++x) {
-            paper.setPixelColor(x, y, Qt::white);
-        }
-    }
+    QImage paper = solidImage({20, 10}, Qt::black);
+    fillRect(paper, QRect(0, 0, 10, 5), Qt::white);
     _render->setTextureImage(blockTip(128), GL_TEXTURE1);
     _render->setMaskImage(paper);
     _render->setNeedMaskTexture(true);
@@ -279,11 +226,7 @@ TEST_F(LineRenderTest, PaperTilesFromTheTopLeftAndHoldsBackWhereItIsBlack) {
 
 TEST_F(LineRenderTest, MulticolourPaintsTheTipsOwnColoursAndTheBrushesWhereItIsBlack) {
     QImage tip = blockTip(32);
-    for (int y = 0; y < 32; ++y) {
-        for (int x = 0; x < 16; ++x) {
-            tip.setPixelColor(x, y, QColor(200, 40, 60));
-        }
-    }
+    fillRect(tip, QRect(0, 0, 16, 32), QColor(200, 40, 60));
     _render->setTextureImage(tip, GL_TEXTURE1);
     _render->setRenderColor(ESColor::rgba(0, 0, 1));
     _render->setColorFul(true);
@@ -293,14 +236,6 @@ TEST_F(LineRenderTest, MulticolourPaintsTheTipsOwnColoursAndTheBrushesWhereItIsB
     EXPECT_NEAR(left.green(), 40, 2);
     EXPECT_GT(left.blue(), 60) << "between the tip's own blue and the brush's";
     EXPECT_EQ(layer.pixelColor(110, 75), QColor(0, 0, 255));
-}
-
-TEST_F(LineRenderTest, AProgramThatDoesNotBuildGivesNoRenderer) {
-    EXPECT_EQ(ESLineRender::initWithVertexShaderFromString(QStringLiteral("nonsense"), {}), nullptr);
-    const QString before = _render->fragmentShaderString();
-    EXPECT_FALSE(_render->setVertexShaderString({}, QStringLiteral("void main() {")));
-    EXPECT_EQ(_render->fragmentShaderString(), before);
-    expectDrainedErrors(2);
 }
 
 }  // namespace

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <random>
-#include <string>
 
 #include "LineProcess/LPArc.h"
 #include "LineProcess/StrokeFixture.h"
+#include "support/Named.h"
 
 namespace {
 
-struct Curve {
-    const char* name;
+struct Curve : Named {
     LPPosition p0, p1, p2;
 };
 
@@ -74,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(Curves, ArcTest,
                                            Curve{"barelyBent", {0, 0}, {60, 0.2f}, {120, 0}},
                                            Curve{"small", {1, 1}, {1.3f, 1.4f}, {2, 1}},
                                            Curve{"far", {9000, 8000}, {9040, 8010}, {9050, 8060}}),
-                         [](const auto& row) { return std::string(row.param.name); });
+                         byName);
 
 // The walk skips most logarithms; it must still end where the plain bisection ends, to the bit.
 TEST(ArcWalkTest, GivesTheBitsOfTheBisection) {
@@ -112,10 +111,7 @@ TEST(ArcWalkTest, GivesTheBitsOfTheBisection) {
 }
 
 TEST(GeometryTest, ThreePlacesAreInLineOnlyInOrder) {
-    const LPPosition a = {0, 0};
-    const LPPosition b = {10, 0};
-    const LPPosition c = {20, 0};
-    const LPPosition off = {10, 0.01f};
+    const LPPosition a = {0, 0}, b = {10, 0}, c = {20, 0}, off = {10, 0.01f};
     EXPECT_TRUE(lp3PositionInLineWithOrder(&a, &b, &c));
     EXPECT_TRUE(lp3PositionInLineWithOrder(&a, &a, &c));
     EXPECT_TRUE(lp3PositionInLineWithOrder(&a, &a, &a));

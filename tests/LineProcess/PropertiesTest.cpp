@@ -19,23 +19,20 @@ TEST_F(StrokeTest, EveryIdAddressesAFieldOfItsOwn) {
     EXPECT_EQ(lpGetPropertyPointer(20), &_line.minPointsDistance);
 }
 
-TEST_F(StrokeTest, UnknownIdsAreRefusedQuietly) {
-    const LPLineParams before = _line;
+TEST_F(StrokeTest, StoresReachTheirFieldAndNotPastTheRecord) {
+    struct {
+        LPLineParams line;
+        std::uint32_t guard;
+    } memory = {_line, 0xA5A5A5A5u};
+    EXPECT_EQ(lpSetParaObj(nullptr), &_line);
+    EXPECT_EQ(lpSetParaObj(&memory.line), &_lpDefaultParaObj) << "no record selects the default one";
     for (const int id : {-1, 0, 4, 12, 19, 21}) {
         EXPECT_EQ(lpSetPropertyi(id, 7), nullptr);
         EXPECT_EQ(lpSetPropertyd(id, 7.0), nullptr);
         EXPECT_EQ(lpGetPropertyf(id), 0.0f);
         EXPECT_FALSE(lpGetPropertyb(id));
     }
-    EXPECT_EQ(std::memcmp(&before, &_line, sizeof before), 0);
-}
-
-TEST_F(StrokeTest, StoresReachTheirFieldAndNotPastTheRecord) {
-    struct {
-        LPLineParams line;
-        std::uint32_t guard;
-    } memory = {_line, 0xA5A5A5A5u};
-    lpSetParaObj(&memory.line);
+    EXPECT_EQ(std::memcmp(&memory.line, &_line, sizeof _line), 0) << "unknown ids";
     lpSetPropertyf(1, 12.5f);
     lpSetPropertyb(2, false);
     lpSetPropertyi(17, -3);
@@ -48,40 +45,6 @@ TEST_F(StrokeTest, StoresReachTheirFieldAndNotPastTheRecord) {
     lpSetPropertyd(13, 0.1);  // covers the next field as well
     EXPECT_EQ(lpGetPropertyd(13), 0.1);
     lpSetParaObj(&_line);
-}
-
-TEST_F(StrokeTest, NoRecordSelectsTheDefaultOne) {
-    EXPECT_EQ(lpSetParaObj(nullptr), &_line);
-    EXPECT_EQ(lpSetParaObj(&_line), &_lpDefaultParaObj);
-}
-
-TEST_F(StrokeTest, TheTraceGrowsInItsSteps) {
-    LPTrace trace = {nullptr, 0, 0};
-    lpInitTrace(&trace);
-    const struct {
-        std::uint32_t count, capacity;
-    } rows[] = {{10, 10}, {11, 26}, {26, 26}, {27, 56}, {57, 86}, {87, 116}};
-    for (const auto& row : rows) {
-        while (trace.count < row.count) {
-            const LPPoint point = dabAt(static_cast<float>(trace.count), 0);
-            ASSERT_TRUE(lpAddPointInTrace(&trace, &point));
-        }
-        EXPECT_EQ(trace.capacity, row.capacity);
-    }
-    for (std::uint32_t i = 0; i < trace.count; ++i) {
-        ASSERT_EQ(trace.points[i].position.x, static_cast<float>(i));
-    }
-    EXPECT_EQ(lpFreeTrace(&trace), 0);
-    EXPECT_EQ(lpFreeTrace(&trace), 0);
-    EXPECT_EQ(trace.points, nullptr);
-}
-
-TEST_F(StrokeTest, ATraceWithoutStorageTakesPointsAllTheSame) {
-    LPTrace trace = {nullptr, 0, 10};  // as after a failed first allocation
-    const LPPoint point = dabAt(1, 2);
-    EXPECT_TRUE(lpAddPointInTrace(&trace, &point));
-    EXPECT_EQ(trace.count, 1u);
-    lpFreeTrace(&trace);
 }
 
 // Two canvases draw a stroke each, taking turns at every sample.

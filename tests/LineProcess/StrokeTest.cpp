@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <limits>
-#include <string>
+#include <utility>
 
 #include "LineProcess/StrokeFixture.h"
+#include "support/Named.h"
 
 namespace {
 
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInf = std::numeric_limits<float>::infinity();
+constexpr auto kSpacing = &LPLineParams::pointsDistance;
+constexpr auto kBound = &LPLineParams::minPointsDistance;
 
 std::vector<LPPosition> circle(int samples, float radius) {
     std::vector<LPPosition> places;
@@ -195,11 +198,10 @@ TEST_F(StrokeTest, JitterStaysBetweenTheFloorAndTheRadius) {
     _line.maxRadius = 1.0f;
     _line.radiusTingle = 1.0f;
     const Dabs dabs = draw({{0, 0}, {200, 0}, {400, 0}});
-    const auto [least, most] = std::minmax_element(
-        dabs.begin(), dabs.end(), [](const LPPoint& a, const LPPoint& b) { return a.radius < b.radius; });
-    EXPECT_GE(least->radius, 10.0f);
-    EXPECT_LE(most->radius, 15.0f);
-    EXPECT_GT(most->radius - least->radius, 1.0f);
+    const auto [least, most] = std::ranges::minmax(dabs, {}, &LPPoint::radius);
+    EXPECT_GE(least.radius, 10.0f);
+    EXPECT_LE(most.radius, 15.0f);
+    EXPECT_GT(most.radius - least.radius, 1.0f);
 }
 
 // Gathering
@@ -216,15 +218,18 @@ TEST_F(StrokeTest, TrackNumHoldsSamplesBackUntilEnoughArrived) {
 
 // Hard input
 
-struct HardCase {
-    const char* name;
-    void (*change)(LPLineParams&);
+struct HardCase : Named {
+    std::vector<std::pair<float LPLineParams::*, float>> fields;
+    void (*change)(LPLineParams&) = [](LPLineParams&) {};
 };
 
 class HardStrokeTest : public StrokeTest, public ::testing::WithParamInterface<HardCase> {};
 
 // Whatever the settings, dabs are usable, and no more than the path's length allows, beside one a call.
 TEST_P(HardStrokeTest, EmitsOnlyUsableDabsAndNotTooMany) {
+    for (const auto& [field, value] : GetParam().fields) {
+        _line.*field = value;
+    }
     GetParam().change(_line);
     const bool bounded = _line.minPointsDistance > 0.0f && std::isfinite(_line.minPointsDistance);
     const double least = bounded ? _line.minPointsDistance : 0.01;
@@ -246,79 +251,44 @@ TEST_P(HardStrokeTest, EmitsOnlyUsableDabsAndNotTooMany) {
 
 INSTANTIATE_TEST_SUITE_P(
     Settings, HardStrokeTest,
-    ::testing::
-        Values(HardCase{"plain", [](LPLineParams&) {}},
-               HardCase{"radiusZero", [](LPLineParams& l) { l.radius = 0; }},
-               HardCase{"radiusNegative", [](LPLineParams& l) { l.radius = -5; }},
-               HardCase{"radiusNaN", [](LPLineParams& l) { l.radius = kNaN; }},
-               HardCase{"radiusHuge",
-                        [](LPLineParams& l) {
-                            l.radius = 3e38f;
-                            l.maxRadius = 5;
-                        }},
-               HardCase{"spacingZero", [](LPLineParams& l) { l.pointsDistance = 0; }},
-               HardCase{"spacingNegative", [](LPLineParams& l) { l.pointsDistance = -3; }},
-               HardCase{"spacingNaN", [](LPLineParams& l) { l.pointsDistance = kNaN; }},
-               HardCase{"noBound",
-                        [](LPLineParams& l) {
-                            l.pointsDistance = 0;
-                            l.minPointsDistance = 0;
-                        }},
-               HardCase{"boundNegative",
-                        [](LPLineParams& l) {
-                            l.pointsDistance = 0;
-                            l.minPointsDistance = -1;
-                        }},
-               HardCase{"boundNaN",
-                        [](LPLineParams& l) {
-                            l.pointsDistance = 0;
-                            l.minPointsDistance = kNaN;
-                        }},
-               HardCase{"boundTiny",
-                        [](LPLineParams& l) {
-                            l.pointsDistance = 0;
-                            l.minPointsDistance = 1e-30f;
-                        }},
-               HardCase{"sensitivityZero", [](LPLineParams& l) { l.sensitivity = 0; }},
-               HardCase{"sensitivityTiny",
-                        [](LPLineParams& l) {
-                            l.sensitivity = -1e-38f;
-                            l.radiusControl.speed = 1;
-                        }},
-               HardCase{"sensitivityNaN", [](LPLineParams& l) { l.sensitivity = kNaN; }},
-               HardCase{"speedWeightNaN",
-                        [](LPLineParams& l) {
-                            l.speedSencitive = kNaN;
-                            l.radiusControl.speed = -1;
-                        }},
-               HardCase{"taperLengthZero",
-                        [](LPLineParams& l) {
-                            l.strokeControlValue = 0;
-                            l.startRadius = kInf;
-                        }},
-               HardCase{"taperLengthNaN", [](LPLineParams& l) { l.strokeControlValue = kNaN; }},
-               HardCase{"startRadiusHuge", [](LPLineParams& l) { l.startRadius = -3e38f; }},
-               HardCase{"endRadiusInfinite", [](LPLineParams& l) { l.endRadius = kInf; }},
-               HardCase{"controlInfinite",
-                        [](LPLineParams& l) {
-                            l.radiusControl = {kInf, kNaN, -kInf};
-                        }},
-               HardCase{"boundsNaN",
-                        [](LPLineParams& l) {
-                            l.minRadius = kNaN;
-                            l.maxRadius = kNaN;
-                        }},
-               HardCase{"jitterNaN", [](LPLineParams& l) { l.radiusTingle = kNaN; }},
-               HardCase{"jitterHuge", [](LPLineParams& l) { l.radiusTingle = 3e38f; }},
-               HardCase{"gatherNegative",
-                        [](LPLineParams& l) { l.trackNum = std::numeric_limits<std::int32_t>::min(); }},
-               HardCase{
-                   "unspaced",
-                   [](LPLineParams& l) {
-                       l.pointsDistanceEnabled = 0;
-                       l.endRadius = 0.1f;
-                   }}),
-    [](const auto& row) { return std::string(row.param.name); });
+    ::testing::Values(
+        HardCase{"plain", {}}, HardCase{"radiusZero", {{&LPLineParams::radius, 0}}},
+        HardCase{"radiusNegative", {{&LPLineParams::radius, -5}}},
+        HardCase{"radiusNaN", {{&LPLineParams::radius, kNaN}}},
+        HardCase{"radiusHuge", {{&LPLineParams::radius, 3e38f}, {&LPLineParams::maxRadius, 5}}},
+        HardCase{"spacingZero", {{kSpacing, 0}}}, HardCase{"spacingNegative", {{kSpacing, -3}}},
+        HardCase{"spacingNaN", {{kSpacing, kNaN}}}, HardCase{"noBound", {{kSpacing, 0}, {kBound, 0}}},
+        HardCase{"boundNegative", {{kSpacing, 0}, {kBound, -1}}},
+        HardCase{"boundNaN", {{kSpacing, 0}, {kBound, kNaN}}},
+        HardCase{"boundTiny", {{kSpacing, 0}, {kBound, 1e-30f}}},
+        HardCase{"sensitivityZero", {{&LPLineParams::sensitivity, 0}}},
+        HardCase{"sensitivityTiny",
+                 {{&LPLineParams::sensitivity, -1e-38f}},
+                 [](LPLineParams& l) { l.radiusControl.speed = 1; }},
+        HardCase{"sensitivityNaN", {{&LPLineParams::sensitivity, kNaN}}},
+        HardCase{"speedWeightNaN",
+                 {{&LPLineParams::speedSencitive, kNaN}},
+                 [](LPLineParams& l) { l.radiusControl.speed = -1; }},
+        HardCase{"taperLengthZero",
+                 {{&LPLineParams::strokeControlValue, 0}, {&LPLineParams::startRadius, kInf}}},
+        HardCase{"taperLengthNaN", {{&LPLineParams::strokeControlValue, kNaN}}},
+        HardCase{"startRadiusHuge", {{&LPLineParams::startRadius, -3e38f}}},
+        HardCase{"endRadiusInfinite", {{&LPLineParams::endRadius, kInf}}},
+        HardCase{"controlInfinite",
+                 {},
+                 [](LPLineParams& l) {
+                     l.radiusControl = LPControlParams{kInf, kNaN, -kInf};
+                 }},
+        HardCase{"boundsNaN", {{&LPLineParams::minRadius, kNaN}, {&LPLineParams::maxRadius, kNaN}}},
+        HardCase{"jitterNaN", {{&LPLineParams::radiusTingle, kNaN}}},
+        HardCase{"jitterHuge", {{&LPLineParams::radiusTingle, 3e38f}}},
+        HardCase{"gatherNegative",
+                 {},
+                 [](LPLineParams& l) { l.trackNum = std::numeric_limits<std::int32_t>::min(); }},
+        HardCase{"unspaced",
+                 {{&LPLineParams::endRadius, 0.1f}},
+                 [](LPLineParams& l) { l.pointsDistanceEnabled = 0; }}),
+    byName);
 
 TEST_F(StrokeTest, ASettingThatIsNotANumberStillDraws) {
     _line.minRadius = _line.radius = _line.pointsDistance = kNaN;

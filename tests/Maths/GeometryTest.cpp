@@ -16,17 +16,18 @@ TEST(GeometryTest, ScalingDividesEachAxisByItsOwnScale) {
 }
 
 TEST(GeometryTest, RotatedBoxReachesAsFarAsItsFarthestCorner) {
-    struct Case {
-        QSizeF half;
-        float angle;
-        QSizeF expected;
-    };
     const double diagonal = 5 * std::numbers::sqrt2;
-    for (const Case& test :
-         {Case{{5, 5}, 0, {5, 5}}, Case{{5, 5}, static_cast<float>(pi / 4), {diagonal, diagonal}},
-          Case{{8, 2}, static_cast<float>(pi / 2), {2, 8}}, Case{{8, 2}, static_cast<float>(-pi), {8, 2}},
-          Case{{0, 0}, 1, {0, 0}}}) {
-        const QSizeF extent = CGSizeApplyRotation(test.half, test.angle);
+    const struct {
+        QSizeF half;
+        double angle;
+        QSizeF expected;
+    } tests[] = {{{5, 5}, 0, {5, 5}},
+                 {{5, 5}, pi / 4, {diagonal, diagonal}},
+                 {{8, 2}, pi / 2, {2, 8}},
+                 {{8, 2}, -pi, {8, 2}},
+                 {{0, 0}, 1, {0, 0}}};
+    for (const auto& test : tests) {
+        const QSizeF extent = CGSizeApplyRotation(test.half, static_cast<float>(test.angle));
         // Single precision throughout: a few units in the last place of values below 16.
         EXPECT_NEAR(extent.width(), test.expected.width(), 4e-6) << test.angle;
         EXPECT_NEAR(extent.height(), test.expected.height(), 4e-6) << test.angle;
@@ -34,12 +35,12 @@ TEST(GeometryTest, RotatedBoxReachesAsFarAsItsFarthestCorner) {
 }
 
 TEST(GeometryTest, AnglesRunFromBelowMinusPiToHalfPi) {
-    struct Case {
+    const struct {
         float x, y;
         double expected;
-    };
-    for (const Case& test : {Case{1, 1, pi / 4}, Case{0, 1, pi / 2}, Case{0, -1, -pi / 2}, Case{-1, 0, -pi},
-                             Case{-1, 1, -pi / 4 - pi}, Case{-1, -1, pi / 4 - pi}, Case{0, 0, 0}}) {
+    } tests[] = {{1, 1, pi / 4},        {0, 1, pi / 2},        {0, -1, -pi / 2}, {-1, 0, -pi},
+                 {-1, 1, -pi / 4 - pi}, {-1, -1, pi / 4 - pi}, {0, 0, 0}};
+    for (const auto& test : tests) {
         EXPECT_NEAR(RadianF(3, 7, 3 + test.x, 7 + test.y), test.expected, 5e-7) << test.x << ", " << test.y;
         EXPECT_NEAR(static_cast<double>(RadianLD(0, 0, test.x, test.y)), test.expected, 1e-15);
     }

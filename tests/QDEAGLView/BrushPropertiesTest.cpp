@@ -10,6 +10,7 @@
 #include "ESRender/ESImageRender.h"
 #include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"
+#include "support/Named.h"
 
 namespace {
 
@@ -53,73 +54,49 @@ TEST_F(BrushPropertiesTest, EveryNumberStartsAtItsDefaultAndIsClampedToItsRange)
 
 TEST_F(BrushPropertiesTest, OtherKindsStoreWhatTheyAreGiven) {
     auto canvas = makeCanvas(32, 32);
-    QImage tip(9, 5, QImage::Format_RGBA8888_Premultiplied);
-    tip.fill(Qt::black);
+    const QImage tip = solidImage({9, 5}, Qt::black);
+    const QVariant values[] = {true,
+                               2,
+                               {},  // numbers: above
+                               QVariant::fromValue(LPControlParams{0.25f, -0.5f, 1}),
+                               QVariant::fromValue(ESColor::rgba(0.25f, 0.5f, 0.75f, 1)),
+                               tip,
+                               QVariant::fromValue(QList<QImage>{tip, tip}),
+                               {}};
     for (const BrushProperty& row : brushProperties()) {
-        const QVariant values[] = {true,
-                                   2,
-                                   0.0f,
-                                   QVariant::fromValue(LPControlParams{0.25f, -0.5f, 1}),
-                                   QVariant::fromValue(ESColor::rgba(0.25f, 0.5f, 0.75f, 1)),
-                                   tip,
-                                   QVariant::fromValue(QList<QImage>{tip, tip}),
-                                   QString()};
-        const BrushValueType type = row.type();
-        if (type == BrushValueType::real || type == BrushValueType::text) {
+        const QVariant& value = values[static_cast<std::size_t>(row.type())];
+        if (!value.isValid()) {
             continue;
         }
-        const QVariant& value = values[static_cast<std::size_t>(type)];
         ASSERT_TRUE(canvas->setBrushValue(row, value)) << row.name;
         const QVariant stored = canvas->brushValue(row);
-        switch (type) {
-            case BrushValueType::control: {
-                const auto control = stored.value<LPControlParams>();
-                EXPECT_EQ(control.pressure, 0.25f) << row.name;
-                EXPECT_EQ(control.altitude, -0.5f) << row.name;
-                EXPECT_EQ(control.speed, 1.0f) << row.name;
-                break;
-            }
-            case BrushValueType::color:
-                EXPECT_EQ(stored.value<ESColor>(), value.value<ESColor>()) << row.name;
-                break;
-            default:
-                EXPECT_EQ(stored, value) << row.name;
+        if (row.type() == BrushValueType::control) {
+            const auto control = stored.value<LPControlParams>();
+            EXPECT_TRUE(control.pressure == 0.25f && control.altitude == -0.5f && control.speed == 1)
+                << row.name;
+        } else {
+            EXPECT_EQ(stored, value) << row.name;
         }
         EXPECT_FALSE(canvas->setBrushValue(row, QVariant())) << row.name;
     }
 }
 
 // What a value does to a stroke, so that no row is stored and forgotten: each must change the painted pixels.
-struct Effect {
-    const char* name;
+struct Effect : Named {
     QVariant value;
     std::function<void(QDDrawCanvas&)> prepare = {};
 };
-void PrintTo(const Effect& effect, std::ostream* out) {
-    *out << effect.name;
-}
 
 QImage halfBlack() {
-    QImage image(40, 40, QImage::Format_RGBA8888_Premultiplied);
-    image.fill(Qt::white);
-    for (int y = 0; y < 40; ++y) {
-        for (int x = 0; x < 20; ++x) {
-            image.setPixelColor(x, y, Qt::black);
-        }
-    }
+    QImage image = solidImage({40, 40}, Qt::white);
+    fillRect(image, QRect(0, 0, 20, 40), Qt::black);
     return image;
 }
 
 QList<QImage> twoTips() {
-    QImage dot(32, 32, QImage::Format_RGBA8888_Premultiplied);
-    dot.fill(Qt::transparent);
-    QImage block = dot;
+    QImage dot = solidImage({32, 32}), block = dot;
     dot.setPixelColor(16, 16, Qt::red);
-    for (int y = 4; y < 20; ++y) {
-        for (int x = 6; x < 28; ++x) {
-            block.setPixelColor(x, y, QColor(200, 30, 30));
-        }
-    }
+    fillRect(block, QRect(6, 4, 22, 16), QColor(200, 30, 30));
     return {block, dot};
 }
 
@@ -151,6 +128,20 @@ void secondLine(QDDrawCanvas& canvas) {
     canvas.setSlRadius(12);
 }
 
+void scatteredSecondLine(QDDrawCanvas& canvas) {
+    secondLine(canvas);
+    canvas.setSlDistribution(1);
+}
+
+void speedRadius(QDDrawCanvas& canvas) {
+    canvas.setRadiusControl({0, 0, 1});
+}
+
+void paper(QDDrawCanvas& canvas) {
+    canvas.setMaskImage(halfBlack());
+    canvas.setNeedMaskTexture(true);
+}
+
 const LPControlParams kAll{0.8f, 0.5f, 0.6f};
 const Effect kEffects[] = {
     {"blendType", 5, [](QDDrawCanvas& c) { c.clearWithColor(ESColor::grey(0.7f), false); }},
@@ -166,23 +157,13 @@ const Effect kEffects[] = {
     {"flipX", true, useTwoTips},
     {"flipY", true, useTwoTips},
     {"needMaskTexture", true, [](QDDrawCanvas& c) { c.setMaskImage(halfBlack()); }},
-    {"maskScale", 2.0f,
-     [](QDDrawCanvas& c) {
-         c.setMaskImage(halfBlack());
-         c.setNeedMaskTexture(true);
-     }},
+    {"maskScale", 2.0f, paper},
     {"maskImage", halfBlack(), [](QDDrawCanvas& c) { c.setNeedMaskTexture(true); }},
     {"pointsDistanceEnabled", false},
     {"pointsDistance", 0.9f},
     {"smoothEnabled", false},
-    {"speedSencitive", 1.0f,
-     [](QDDrawCanvas& c) {
-         c.setRadiusControl({0, 0, 1});
-     }},
-    {"sensitivity", 6.0f,
-     [](QDDrawCanvas& c) {
-         c.setRadiusControl({0, 0, 1});
-     }},
+    {"speedSencitive", 1.0f, speedRadius},
+    {"sensitivity", 6.0f, speedRadius},
     {"colorFul", true, useTwoTips},
     {"lineProcessType", 4, [](QDDrawCanvas& c) { c.setRadius(2); }},
     {"minRadius", 0.6f},
@@ -227,16 +208,8 @@ const Effect kEffects[] = {
     {"slRadius", 6.0f, secondLine},
     {"slPointsDistance", 2.0f, secondLine},
     {"slDistribution", 1.0f, secondLine},
-    {"slDistbTwoAxes", true,
-     [](QDDrawCanvas& c) {
-         secondLine(c);
-         c.setSlDistribution(1);
-     }},
-    {"slDistbCount", 5.0f,
-     [](QDDrawCanvas& c) {
-         secondLine(c);
-         c.setSlDistribution(1);
-     }},
+    {"slDistbTwoAxes", true, scatteredSecondLine},
+    {"slDistbCount", 5.0f, scatteredSecondLine},
     {"relationValue", -25.0f, secondLine},
 };
 
@@ -253,15 +226,12 @@ TEST_P(BrushEffectTest, ShowsInTheStroke) {
                 canvas->setBrushValue(*brushPropertyNamed(QString::fromLatin1(effect.name)), effect.value));
         }
         paintWave(*canvas);
-        const QImage image = canvas->image();
-        EXPECT_EQ(image.isNull(), false);
-        return image;
+        return canvas->image();
     };
     EXPECT_NE(paint(true), paint(false));
     EXPECT_EQ(paint(true), paint(true)) << "and repeats";
 }
-INSTANTIATE_TEST_SUITE_P(Properties, BrushEffectTest, ::testing::ValuesIn(kEffects),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Properties, BrushEffectTest, ::testing::ValuesIn(kEffects), byName);
 
 // Rules of their own
 

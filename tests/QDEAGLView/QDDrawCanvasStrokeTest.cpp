@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "LineProcess/LPProperties.h"
-#include "LineProcess/LPStroke.h"
 #include "LineProcess/LPTrace.h"
+#include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"
 
 namespace {
@@ -67,26 +67,15 @@ TEST_F(CanvasStrokeTest, CallbacksComeInOrderAndAFilteredMoveEndsEarly) {
     recorder.beginAt = QPointF(10, 10);
     canvas->setDelegate(&recorder);
     canvas->drawingWithBeginPoint({50, 50});
-    canvas->drawingWithMoveToPoint({10.5, 10});  // within one pixel of the moved begin
+    canvas->drawingWithMoveToPoint({11, 10});  // one pixel, no more, from the moved begin
+    canvas->drawingWithMoveToPoint({11.01, 10});
     canvas->drawingWithMoveToPoint({30, 10});
     canvas->drawingWithEndPoint({40, 10});
-    EXPECT_EQ(recorder.calls,
-              (std::vector<std::string>{"should begin 50,50", "will begin 10,10", "did begin 10,10",
-                                        "should move 11,10", "will move 11,10", "should move 30,10",
-                                        "will move 30,10", "did move 30,10", "should end 40,10",
-                                        "will end 40,10", "did end 40,10"}));
-}
-
-TEST_F(CanvasStrokeTest, AMoveOfExactlyOnePixelIsDropped) {
-    auto canvas = makeCanvas();
-    Recorder recorder;
-    canvas->setDelegate(&recorder);
-    canvas->drawingWithBeginPoint({50, 50});
-    recorder.calls.clear();
-    canvas->drawingWithMoveToPoint({51, 50});
-    EXPECT_EQ(recorder.calls.size(), 2u);
-    canvas->drawingWithMoveToPoint({51.01, 50});
-    EXPECT_EQ(recorder.calls.size(), 5u);
+    EXPECT_EQ(recorder.calls, (std::vector<std::string>{
+                                  "should begin 50,50", "will begin 10,10", "did begin 10,10",
+                                  "should move 11,10", "will move 11,10", "should move 11,10",
+                                  "will move 11,10", "did move 11,10", "should move 30,10", "will move 30,10",
+                                  "did move 30,10", "should end 40,10", "will end 40,10", "did end 40,10"}));
 }
 
 TEST_F(CanvasStrokeTest, PointsScaleFromViewToBufferAndRedisplayBack) {
@@ -115,50 +104,19 @@ TEST_F(CanvasStrokeTest, PointsScaleFromViewToBufferAndRedisplayBack) {
 
 // Dabs
 
-// The dabs that a line of its own gives for a stroke, call by call.
-std::vector<std::size_t> runsOf(QDDrawCanvas& canvas, const std::vector<QPointF>& points) {
-    LPLineParams record = _lpDefaultParaObj;
-    record.radius = canvas.radius();
-    record.pointsDistance = canvas.pointsDistance();
-    record.minRadius = canvas.minRadius();
-    record.startRadius = canvas.startRadius();
-    record.endRadius = canvas.endRadius();
-    record.strokeControlValue = canvas.strokeControlValue();
-    LPLineParams* before = lpSetParaObj(&record);
-    std::vector<std::size_t> runs;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const LPPosition at{static_cast<float>(points[i].x()), static_cast<float>(points[i].y())};
-        if (i == 0) {
-            lpStartLineWithParams(at, -1, 0);
-            continue;
-        }
-        const auto count = lpAppendingLineWithParams(at, -1, 0, i + 1 == points.size());
-        LPPoint* dabs = nullptr;
-        if (count > 0) {
-            lpGetLastLineSegmentPoints1V(&dabs);
-            std::free(dabs);
-        }
-        runs.push_back(static_cast<std::size_t>(count));
-    }
-    lpSetParaObj(before);
-    return runs;
-}
-
 TEST_F(CanvasStrokeTest, OnlyTheFirstAcceptedMoveDropsItsFirstDab) {
     auto canvas = makeCanvas();
-    const std::vector<QPointF> points{{20, 40}, {60, 45}, {100, 40}, {140, 60}};
-    canvas->drawingWithBeginPoint(points[0]);
-    EXPECT_EQ(canvas->strokeStats().dabs, 0u) << "nothing is drawn at begin";
-    std::vector<std::size_t> drawn;
-    for (std::size_t i = 1; i < points.size(); ++i) {
-        const auto before = canvas->strokeStats().dabs;
-        i + 1 < points.size() ? canvas->drawingWithMoveToPoint(points[i])
-                              : canvas->drawingWithEndPoint(points[i]);
-        drawn.push_back(canvas->strokeStats().dabs - before);
+    canvas->setPointsDistanceEnabled(false);  // one dab a sample
+    std::vector<std::uint64_t> dabs;
+    canvas->drawingWithBeginPoint({20, 40});
+    dabs.push_back(canvas->strokeStats().dabs);
+    for (const QPointF at : {QPointF(60, 45), QPointF(100, 40)}) {
+        canvas->drawingWithMoveToPoint(at);
+        dabs.push_back(canvas->strokeStats().dabs);
     }
-    std::vector<std::size_t> expected = runsOf(*canvas, points);
-    --expected[0];
-    EXPECT_EQ(drawn, expected);
+    canvas->drawingWithEndPoint({140, 60});
+    dabs.push_back(canvas->strokeStats().dabs);
+    EXPECT_EQ(dabs, (std::vector<std::uint64_t>{0, 0, 1, 2}));
 }
 
 TEST_F(CanvasStrokeTest, SamplesThatAreNotFiniteAreRefusedAndTheStrokeGoesOn) {
@@ -173,80 +131,63 @@ TEST_F(CanvasStrokeTest, SamplesThatAreNotFiniteAreRefusedAndTheStrokeGoesOn) {
         spoiled->drawingWithMoveToPoint({10, 10}, infinite);
         spoiled->drawingWithMoveToPoint({10, 10}, 0.5f, -infinite);
     });
-    EXPECT_TRUE(SamePixels(spoiled->image(), clean->image()));
+    EXPECT_TRUE(imagesMatch(spoiled->image(), clean->image()));
 }
 
 // The first stage leaves pressure alone and takes a tilt of -1 as upright.
 TEST_F(CanvasStrokeTest, AltitudeNotGivenIsUprightAndPressureNotGivenHasNoInfluence) {
-    auto given = makeCanvas();
-    auto without = makeCanvas();
-    for (QDDrawCanvas* canvas : {given.get(), without.get()}) {
-        canvas->setRadiusControl({0, 1, 0});  // only tilt acts
-    }
-    const auto paint = [](QDDrawCanvas& canvas, float altitude) {
-        canvas.drawingWithBeginPoint({20, 75}, -1, altitude);
-        canvas.drawingWithMoveToPoint({90, 75}, -1, altitude);
-        canvas.drawingWithEndPoint({180, 75}, -1, altitude);
-    };
-    paint(*given, 0.0f);
-    paint(*without, -0.99995f);
-    EXPECT_TRUE(SamePixels(without->image(), given->image()));
-    auto flat = makeCanvas();
-    flat->setRadiusControl({0, 1, 0});
-    paint(*flat, 1.0f);
-    EXPECT_GT(painted(flat->image()).height(), painted(given->image()).height());
-}
-
-// Sub-line
-
-TEST_F(CanvasStrokeTest, TheSubLineMasksTheLine) {
-    const auto coverage = [&](bool masked) {
+    const auto paint = [this](float altitude) {
         auto canvas = makeCanvas();
-        canvas->setHardness(1);
-        canvas->setSlRadius(8);
-        canvas->setRepeatedlyRenderEnabled(masked);
-        paintWave(*canvas);
-        return painted(canvas->image()).height();
+        canvas->setRadiusControl({0, 1, 0});  // only tilt acts
+        canvas->drawingWithBeginPoint({20, 75}, -1, altitude);
+        canvas->drawingWithMoveToPoint({90, 75}, -1, altitude);
+        canvas->drawingWithEndPoint({180, 75}, -1, altitude);
+        return canvas->image();
     };
-    EXPECT_LT(coverage(true), coverage(false) - 6);
-    EXPECT_GT(coverage(true), 0);
+    const QImage upright = paint(0);
+    EXPECT_TRUE(imagesMatch(paint(-0.99995f), upright));
+    EXPECT_GT(painted(paint(1)).height(), painted(upright).height());
 }
 
 // Several canvases, and the host's own context
 
 TEST_F(CanvasStrokeTest, StrokesOfTwoCanvasesMayInterleave) {
-    const auto prepare = [](QDDrawCanvas& canvas, float radius) {
+    // The tapers' flags are one set for the whole process: only one canvas tapers at its start.
+    const auto prepare = [](QDDrawCanvas& canvas, float radius, float taper) {
         canvas.setRadius(radius);
-        canvas.setStrokeControlValue(60);  // a start taper, whose flag the whole process shares
-        canvas.setStartRadius(0.05f);
+        canvas.setStrokeControlValue(taper);
+        canvas.setStartRadius(taper > 0 ? 0.05f : 0.0f);
         canvas.setMoveRadianEnable(true);
         canvas.setRoundness(0.4f);
         canvas.setDistribution(0.4f);
         canvas.setDistributionCount(2);
+        canvas.setEndRadius(0.3f);
+        canvas.setRadiusControl({0, 0, 0.8f});
     };
     auto alone = makeCanvas();
     auto otherAlone = makeCanvas();
-    prepare(*alone, 20);
-    prepare(*otherAlone, 33);
+    prepare(*alone, 20, 90);
+    prepare(*otherAlone, 33, 0);
     paintWave(*alone);
-    paintWave(*otherAlone, 60);
+    paintWave(*otherAlone, 60, 12);
 
     auto first = makeCanvas();
     auto second = makeCanvas();
-    prepare(*first, 20);
-    prepare(*second, 33);
-    // The second canvas's whole stroke, one call after each of the first one's.
-    std::vector<std::function<void()>> calls;
-    const auto at = [](int i) { return QPointF(20 + 160.0 * i / 30, 60 + 25 * std::sin(i * 0.35)); };
-    const auto pressure = [](int i) { return 0.2f + 0.7f * static_cast<float>(std::sin(3.14159 * i / 30)); };
-    second->drawingWithBeginPoint(at(0), pressure(0), 0.2f);
-    paintWave(*first, 75, 30, [&](int i) { second->drawingWithMoveToPoint(at(i), pressure(i), 0.2f); });
-    second->drawingWithEndPoint(at(30), pressure(30), 0.2f);
-    EXPECT_TRUE(SamePixels(first->image(), alone->image()));
-    EXPECT_TRUE(SamePixels(second->image(), otherAlone->image()));
+    prepare(*first, 20, 90);
+    prepare(*second, 33, 0);
+    // The second canvas's whole stroke lies within the first one's, call by call.
+    for (int i = 0; i <= 30; ++i) {
+        paintWaveSample(*first, 75, 30, i);
+        if (i < 2 || i > 14) {
+            continue;
+        }
+        paintWaveSample(*second, 60, 12, i - 2);
+    }
+    EXPECT_TRUE(imagesMatch(first->image(), alone->image()));
+    EXPECT_TRUE(imagesMatch(second->image(), otherAlone->image()));
 }
 
-TEST_F(CanvasStrokeTest, NoContextIsLeftCurrent) {
+TEST_F(CanvasStrokeTest, NoContextIsLeftCurrentAndNoRecordSelected) {
     auto canvas = makeCanvas();
     paintWave(*canvas);
     canvas->setTextureType(2);
@@ -256,27 +197,15 @@ TEST_F(CanvasStrokeTest, NoContextIsLeftCurrent) {
     EXPECT_EQ(eglGetCurrentContext(), EGL_NO_CONTEXT);
     canvas.reset();
     EXPECT_EQ(eglGetCurrentContext(), EGL_NO_CONTEXT);
-}
-
-TEST_F(CanvasStrokeTest, ADestroyedCanvasLeavesNoRecordSelected) {
-    auto canvas = makeCanvas();
-    paintWave(*canvas);
-    canvas.reset();
     EXPECT_EQ(lpSetParaObj(nullptr), &_lpDefaultParaObj);
 }
 
-struct BadFrame {
-    const char* name;
-    double width, height;
-};
-class CanvasFrameTest : public ::testing::TestWithParam<BadFrame> {};
-TEST_P(CanvasFrameTest, IsRefused) {
-    EXPECT_EQ(QDDrawCanvas::initWithFrame(QRectF(0, 0, GetParam().width, GetParam().height)), nullptr);
+TEST_F(CanvasStrokeTest, BadFramesAreRefused) {
+    for (const QSizeF& size :
+         {QSizeF(0, 0), QSizeF(100, 0), QSizeF(-5, 20), QSizeF(1e6, 10), QSizeF(std::nan(""), 10)}) {
+        EXPECT_EQ(QDDrawCanvas::initWithFrame(QRectF(QPointF(), size)), nullptr);
+        EXPECT_EQ(QDDrawView::initWithFrame(QRectF(QPointF(), size)), nullptr);
+    }
 }
-INSTANTIATE_TEST_SUITE_P(BadFrames, CanvasFrameTest,
-                         ::testing::Values(BadFrame{"Empty", 0, 0}, BadFrame{"Flat", 100, 0},
-                                           BadFrame{"Negative", -5, 20}, BadFrame{"Huge", 1e6, 10},
-                                           BadFrame{"NotANumber", std::nan(""), 10}),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace

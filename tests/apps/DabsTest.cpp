@@ -6,7 +6,6 @@
 #include <QList>
 
 #include "DabsCommand.h"
-#include "LineProcess/LPLineProcess.h"
 #include "Numbers.h"
 
 namespace dabcanvas::dabpaint {
@@ -74,22 +73,8 @@ TEST(DabsTest, SeedRepeatsJitter) {
     EXPECT_NE(rows, dabsOf(QByteArray(json).replace("5", "6")));
 }
 
-TEST(DabsTest, LeavesTheSelectedRecordAndTheDefaultsAlone) {
-    LPLineParams own = _lpDefaultParaObj;
-    LPLineParams* before = lpSetParaObj(&own);
-    dabsOf(R"({"strokes": [{"set": {"radius": 3}, "samples": [[0, 0], [5, 5]]}]})");
-    EXPECT_EQ(lpSetParaObj(before), &own);
-    EXPECT_EQ(own.radius, 20.0f);
-    EXPECT_EQ(_lpDefaultParaObj.radius, 20.0f);
-}
-
-struct BadSetting {
-    const char* set;
-    const char* message;
-};
-
 TEST(DabsTest, WrongSettingsAreRefusedBeforeAnyRow) {
-    const BadSetting table[] = {
+    const std::pair<const char*, const char*> table[] = {
         {R"("raduis": 1)",
          "input:1: strokes[1].set.raduis: no line property has this name; did you mean radius?"},
         {R"("radius": true)", "set.radius: expected a number"},

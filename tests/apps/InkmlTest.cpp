@@ -3,12 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QFile>
+#include <QPointF>
 #include <cmath>
+#include <limits>
 
 #include "InkmlFormat.h"
 #include "InkmlReader.h"
 #include "InkmlTrace.h"
+#include "apps/Samples.h"
+#include "support/Named.h"
 
 namespace dabcanvas::dabpaint {
 namespace {
@@ -18,8 +21,7 @@ namespace {
 
 constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 
-struct PointList {
-    const char* name;
+struct PointList : Named {
     const char* channels;  // a letter each: n number, b boolean, i intermittent number
     const char* text;
     std::vector<double> values;  // of all points, one after the other
@@ -38,15 +40,7 @@ TEST_P(PointListTest, DecodesTo) {
         [&values](std::span<const double> point) { values.insert(values.end(), point.begin(), point.end()); },
         problem);
     ASSERT_TRUE(decoded) << problem.what.toStdString();
-    ASSERT_EQ(values.size(), GetParam().values.size());
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const double expected = GetParam().values[i];
-        if (std::isnan(expected)) {
-            EXPECT_TRUE(std::isnan(values[i])) << i;
-        } else {
-            EXPECT_DOUBLE_EQ(values[i], expected) << i;
-        }
-    }
+    EXPECT_THAT(values, ::testing::Pointwise(::testing::NanSensitiveDoubleEq(), GetParam().values));
 }
 
 const PointList kPointLists[] = {
@@ -76,19 +70,12 @@ const PointList kPointLists[] = {
      "1,2 3,4 5 6,7 ? 8",
      {1, kUnknown, kUnknown, 2, 3, kUnknown, 4, 5, 6, 7, kUnknown, 8}},
 };
-INSTANTIATE_TEST_SUITE_P(ByHand, PointListTest, ::testing::ValuesIn(kPointLists),
-                         [](const auto& given) { return std::string(given.param.name); });
+INSTANTIATE_TEST_SUITE_P(ByHand, PointListTest, ::testing::ValuesIn(kPointLists), byName);
 
 // ---- Formats
 // ----------------------------------------------------------------------------------------------------
 
 constexpr float kNone = -1;
-
-MATCHER_P4(IsNear, x, y, pressure, altitude, "") {
-    *result_listener << arg.x << ' ' << arg.y << ' ' << arg.pressure << ' ' << arg.altitude;
-    return std::abs(arg.x - x) < 1e-6 && std::abs(arg.y - y) < 1e-6 &&
-           std::abs(arg.pressure - pressure) < 1e-6 && std::abs(arg.altitude - altitude) < 1e-6;
-}
 
 Recording read(const QByteArray& inside) {
     const auto recording = readInkml("<ink>" + inside + "</ink>");
@@ -96,8 +83,7 @@ Recording read(const QByteArray& inside) {
     return recording ? *recording : Recording();
 }
 
-struct Scaling {
-    const char* name;
+struct Scaling : Named {
     const char* channels;  // attributes of X, Y and others
     const char* trace;
     RecordedSample last;  // what the trace's last point becomes
@@ -112,7 +98,7 @@ TEST_P(ScalingTest, LastPointIs) {
     const Recording recording = read(format + "</traceFormat><trace>" + GetParam().trace + "</trace>");
     ASSERT_EQ(recording.strokes.size(), 1u);
     const RecordedSample& last = GetParam().last;
-    EXPECT_THAT(recording.strokes[0].samples.back(), IsNear(last.x, last.y, last.pressure, last.altitude));
+    EXPECT_THAT(recording.strokes[0].samples.back(), IsSample(last.x, last.y, last.pressure, last.altitude));
 }
 
 const Scaling kScalings[] = {
@@ -149,8 +135,7 @@ const Scaling kScalings[] = {
     {"TiltFlat", "'X';'Y';'OTx';'OTy'", "1 2 90 0", {1, 2, kNone, 1}},
     {"ElevationBeforeTilt", "'X';'Y';'OTx';'OE'", "1 2 45 90", {1, 2, kNone, 0}},
 };
-INSTANTIATE_TEST_SUITE_P(Channels, ScalingTest, ::testing::ValuesIn(kScalings),
-                         [](const auto& given) { return std::string(given.param.name); });
+INSTANTIATE_TEST_SUITE_P(Channels, ScalingTest, ::testing::ValuesIn(kScalings), byName);
 
 TEST(InkmlTest, UnknownForceBeforeTheFirstKnownIsThatOne) {
     const Recording recording = read(
@@ -163,21 +148,15 @@ TEST(InkmlTest, UnknownForceBeforeTheFirstKnownIsThatOne) {
 // ---- Files
 // ------------------------------------------------------------------------------------------------------
 
-Recording readNamed(const char* name) {
-    const auto bytes = readFile(QStringLiteral(DABCANVAS_TEST_DATA "/recordings/") + QLatin1String(name));
-    EXPECT_TRUE(bytes);
-    const auto recording = readInkml(*bytes);
-    EXPECT_TRUE(recording) << recording.problem().what.toStdString();
-    return recording ? *recording : Recording();
-}
-
 TEST(InkmlTest, AsAnOfficeProgramWritesIt) {
-    const Recording recording = readNamed("office.inkml");
+    const auto read = readNamed(QStringLiteral("office.inkml"));
+    ASSERT_TRUE(read) << read.problem().what.toStdString();
+    const Recording& recording = *read;
     ASSERT_EQ(recording.strokes.size(), 2u);
     // Differences of 2540 thousandths of a centimetre are 96 pixels; the separators are left out.
     EXPECT_THAT(recording.strokes[0].samples,
-                ::testing::ElementsAre(IsNear(96, 192, 0, kNone), IsNear(192, 192, 1, kNone),
-                                       IsNear(192, 96, 16383 / 32767.0, kNone)));
+                ::testing::ElementsAre(IsSample(96, 192, 0, kNone), IsSample(192, 192, 1, kNone),
+                                       IsSample(192, 96, 16383 / 32767.0, kNone)));
     ASSERT_EQ(recording.strokes[0].settings.size(), 2u);
     EXPECT_EQ(recording.strokes[0].settings[0].value, SettingValue(QStringLiteral("#e71224")));
     EXPECT_NEAR(std::get<double>(recording.strokes[0].settings[1].value), 9.6, 1e-9);
@@ -187,24 +166,23 @@ TEST(InkmlTest, AsAnOfficeProgramWritesIt) {
 }
 
 TEST(InkmlTest, GroupsContextsAndContinuedTraces) {
-    const Recording recording = readNamed("groups.inkml");
+    const auto read = readNamed(QStringLiteral("groups.inkml"));
+    ASSERT_TRUE(read) << read.problem().what.toStdString();
+    const Recording& recording = *read;
     ASSERT_EQ(recording.strokes.size(), 4u);
     const auto colorOf = [&recording](std::size_t stroke) {
-        const auto& settings = recording.strokes[stroke].settings;
-        const auto* color = settings.empty() ? nullptr : std::get_if<QString>(&settings[0].value);
-        return color ? color->toStdString() : std::string();
+        return std::get<QString>(recording.strokes[stroke].settings.at(0).value).toStdString();
     };
     EXPECT_THAT(recording.strokes[0].samples,
-                ::testing::ElementsAre(IsNear(10, 20, 0.5, kNone), IsNear(11, 21, 0.5, kNone)));
+                ::testing::ElementsAre(IsSample(10, 20, 0.5, kNone), IsSample(11, 21, 0.5, kNone)));
     EXPECT_EQ(colorOf(0), "#ff0000");
-    EXPECT_THAT(
-        recording.strokes[1].samples,
-        ::testing::ElementsAre(IsNear(1, 2, 1, kNone), IsNear(3, 4, 1, kNone), IsNear(5, 6, 0.25, kNone)));
+    EXPECT_THAT(recording.strokes[1].samples,
+                ::testing::ElementsAre(IsSample(1, 2, 1, kNone), IsSample(3, 4, 1, kNone),
+                                       IsSample(5, 6, 0.25, kNone)));
     EXPECT_EQ(colorOf(1), "#0000ff");
-    EXPECT_EQ(colorOf(2), "");  // blue still
-    EXPECT_TRUE(recording.strokes[2].settings.empty());
+    EXPECT_TRUE(recording.strokes[2].settings.empty()) << "blue still";
     EXPECT_THAT(recording.strokes[3].samples,
-                ::testing::ElementsAre(IsNear(7, 8, kNone, kNone), IsNear(9, 10, kNone, kNone)));
+                ::testing::ElementsAre(IsSample(7, 8, kNone, kNone), IsSample(9, 10, kNone, kNone)));
     EXPECT_EQ(recording.strokes[3].settings.size(), 1u);
 }
 
@@ -218,10 +196,10 @@ TEST(InkmlTest, ContextsTakeEffectWhereTheyStand) {
         "2</trace>"
         "<trace contextRef='#DefaultContext'>1 2</trace>");
     ASSERT_EQ(recording.strokes.size(), 5u);
-    const RecordedSample expected[] = {
-        {1, 2, -1, -1}, {2, 1, -1, -1}, {2, 1, -1, -1}, {96, 192, -1, -1}, {96, 192, -1, -1}};
+    const QPointF expected[] = {{1, 2}, {2, 1}, {2, 1}, {96, 192}, {96, 192}};
     for (std::size_t i = 0; i < 5; ++i)
-        EXPECT_THAT(recording.strokes[i].samples.at(0), IsNear(expected[i].x, expected[i].y, -1, -1)) << i;
+        EXPECT_THAT(recording.strokes[i].samples.at(0), IsSample(expected[i].x(), expected[i].y(), -1, -1))
+            << i;
     EXPECT_EQ(recording.strokes[2].settings.at(0).value, SettingValue(7.0));
 }
 
@@ -230,7 +208,7 @@ TEST(InkmlTest, ReferencesInACircleEnd) {
         "<ink><context xml:id='a' contextRef='#b'/><context xml:id='b' contextRef='#a'/>"
         "<trace contextRef='#a'>1 2</trace></ink>");
     ASSERT_TRUE(recording);
-    EXPECT_THAT(recording->strokes.at(0).samples, ::testing::ElementsAre(IsNear(1, 2, kNone, kNone)));
+    EXPECT_THAT(recording->strokes.at(0).samples, ::testing::ElementsAre(IsSample(1, 2, kNone, kNone)));
 }
 
 }  // namespace

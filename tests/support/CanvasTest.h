@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
-// A canvas to paint on, headless, and what tests ask of its pixels.
+// A canvas to paint on, headless.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QColor>
-#include <QImage>
 #include <cmath>
 #include <cstdlib>
 #include <functional>
 #include <memory>
-#include <ostream>
 
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "LineProcess/LPRandom.h"
 #include "QDEAGLView/QDDrawCanvas.h"
+#include "support/Images.h"
 
 class CanvasTest : public ::testing::Test {
 protected:
@@ -39,60 +35,27 @@ private:
     std::uint64_t _errors = 0;
 };
 
+// One sample of the stroke below, from 0, its begin, to its end.
+inline void paintWaveSample(QDDrawCanvas& canvas, double y, int moves, int i) {
+    const QPointF at(20 + (canvas.bufferSize().width() - 40) * i / moves, y + 25 * std::sin(i * 0.35));
+    const float pressure = 0.2f + 0.7f * static_cast<float>(std::sin(3.14159 * i / moves));
+    if (i == 0) {
+        canvas.drawingWithBeginPoint(at, pressure, 0.2f);
+    } else if (i < moves) {
+        canvas.drawingWithMoveToPoint(at, pressure, 0.2f);
+    } else {
+        canvas.drawingWithEndPoint(at, pressure, 0.2f);
+    }
+}
+
 // A wavy stroke across the canvas; online as the caller likes, with a look at the canvas after every move if
 // wanted.
 inline void paintWave(QDDrawCanvas& canvas, double y = 75, int moves = 30,
                       const std::function<void(int)>& afterMove = {}) {
-    const QSizeF size = canvas.bufferSize();
-    const auto at = [&](int i) {
-        return QPointF(20 + (size.width() - 40) * i / moves, y + 25 * std::sin(i * 0.35));
-    };
-    const auto pressure = [&](int i) {
-        return 0.2f + 0.7f * static_cast<float>(std::sin(3.14159 * i / moves));
-    };
-    canvas.drawingWithBeginPoint(at(0), pressure(0), 0.2f);
-    for (int i = 1; i < moves; ++i) {
-        canvas.drawingWithMoveToPoint(at(i), pressure(i), 0.2f);
-        if (afterMove) {
+    for (int i = 0; i <= moves; ++i) {
+        paintWaveSample(canvas, y, moves, i);
+        if (afterMove && i > 0 && i < moves) {
             afterMove(i);
         }
     }
-    canvas.drawingWithEndPoint(at(moves), pressure(moves), 0.2f);
-}
-
-// Same size and same bytes; says where they first differ and writes both out.
-inline ::testing::AssertionResult SamePixels(const QImage& actual, const QImage& expected) {
-    if (actual.size() != expected.size()) {
-        return ::testing::AssertionFailure() << "sizes differ: " << actual.width() << " x " << actual.height()
-                                             << " and " << expected.width() << " x " << expected.height();
-    }
-    for (int y = 0; y < actual.height(); ++y) {
-        for (int x = 0; x < actual.width(); ++x) {
-            const QColor a = actual.pixelColor(x, y);
-            const QColor b = expected.pixelColor(x, y);
-            if (a != b) {
-                const std::string name = ::testing::UnitTest::GetInstance()->current_test_info()->name();
-                const QString stem = QString::fromStdString(name).replace(QLatin1Char('/'), QLatin1Char('-'));
-                actual.save(stem + QStringLiteral("-actual.png"));
-                expected.save(stem + QStringLiteral("-expected.png"));
-                return ::testing::AssertionFailure()
-                       << "at (" << x << ", " << y << "): " << a.name(QColor::HexArgb).toStdString()
-                       << ", expected " << b.name(QColor::HexArgb).toStdString();
-            }
-        }
-    }
-    return ::testing::AssertionSuccess();
-}
-
-// The smallest rectangle around every pixel that is not this colour.
-inline QRect painted(const QImage& image, const QColor& ground = Qt::transparent) {
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) != ground) {
-                bounds |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return bounds;
 }

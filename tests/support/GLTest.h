@@ -8,20 +8,19 @@
 #include <epoxy/gl.h>
 #include <gtest/gtest.h>
 
-#include <QColor>
-#include <QImage>
-#include <QRect>
-#include <QSize>
 #include <memory>
 #include <optional>
 
 #include "ESContext/ESContext.h"
 #include "ESContext/ESCurrentScope.h"
+#include "support/Images.h"
 
 class GLTest : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
+    // What a fixture makes of its own, once the context is there and current.
+    virtual void prepare() {}
 
     // A test that provokes GL errors says how many the code under test has to drain.
     void expectDrainedErrors(std::uint64_t count) { _expectedErrors = count; }
@@ -30,8 +29,6 @@ protected:
     static void fill(const QRect& rect, const QColor& premultiplied, int bufferHeight);
     // A texture's level as it lies in GL: row 0 of the image is t = 0.
     static QImage readTexture(GLuint texture, int level = 0);
-    // An opaque image whose every pixel differs from its neighbours; the seed is its blue.
-    static QImage patternImage(const QSize& size, int seed = 0);
 
     std::unique_ptr<ESContext> _context;
     std::optional<ESCurrentScope> _current;
@@ -40,7 +37,3 @@ private:
     std::uint64_t _errorsBefore = 0;
     std::uint64_t _expectedErrors = 0;
 };
-
-// Whether two images have the same size and, channel by channel, differ by at most the tolerance. A failure
-// names the first pixel and writes both images out.
-::testing::AssertionResult imagesMatch(const QImage& actual, const QImage& expected, int tolerance = 0);

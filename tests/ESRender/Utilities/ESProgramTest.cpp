@@ -5,6 +5,7 @@
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "support/GLTest.h"
 #include "support/LogCapture.h"
+#include "support/Named.h"
 
 namespace {
 
@@ -15,6 +16,9 @@ const QString kVertex = QStringLiteral(
     "void main() { gl_Position = vec4(a_position + u_shift, 0.0, 1.0); }\n");
 const QString kFragment =
     QStringLiteral("#version 150\nout vec4 fragColor;\nvoid main() { fragColor = vec4(1.0); }\n");
+
+const QString kNonsense = QStringLiteral("#version 150\nnonsense");
+const QString kLog = QStringLiteral("Shader compile log:\n");
 
 }  // namespace
 
@@ -62,15 +66,11 @@ TEST_F(ESProgramTest, DestroyingLeavesNoObjectBehind) {
     EXPECT_FALSE(glIsProgram(name) || glIsVertexArray(array) || glIsBuffer(buffer));
 }
 
-struct BadSources {
-    const char* name;
+struct BadSources : Named {
     QString vertex, fragment;
     QStringList messages;
     std::uint64_t errors;  // the log query's, drained by link()
 };
-void PrintTo(const BadSources& row, std::ostream* out) {
-    *out << row.name;
-}
 class BadSourcesTest : public GLTest, public ::testing::WithParamInterface<BadSources> {};
 
 TEST_P(BadSourcesTest, SayWhatIsWrongAndDoNotLink) {
@@ -88,17 +88,12 @@ INSTANTIATE_TEST_SUITE_P(
     Sources, BadSourcesTest,
     ::testing::Values(
         BadSources{
-            "Vertex",
-            QStringLiteral("#version 150\nnonsense"),
-            kFragment,
-            {QStringLiteral("Shader compile log:\n"), QStringLiteral("Failed to compile vertex shader:\n")},
-            1},
-        BadSources{
-            "Fragment",
-            kVertex,
-            QStringLiteral("#version 150\nnonsense"),
-            {QStringLiteral("Shader compile log:\n"), QStringLiteral("Failed to compile fragment shader:\n")},
-            1},
+            "Vertex", kNonsense, kFragment, {kLog, QStringLiteral("Failed to compile vertex shader:\n")}, 1},
+        BadSources{"Fragment",
+                   kVertex,
+                   kNonsense,
+                   {kLog, QStringLiteral("Failed to compile fragment shader:\n")},
+                   1},
         BadSources{"NoFragment",
                    kVertex,
                    QString(),
@@ -112,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
             QStringLiteral("#version 150\nin vec4 v;\nout vec4 fragColor;\nvoid main() { fragColor = v; }\n"),
             {},
             0}),
-    [](const auto& row) { return std::string(row.param.name); });
+    byName);
 
 TEST_F(ESProgramTest, ResourceFilesGiveTheSameProgramAndMissingOnesNone) {
     const QString base = QStringLiteral("Shaders.bundle/BaseLine_Mac");
@@ -136,13 +131,16 @@ TEST_F(ESProgramTest, DrainsNameEveryErrorAndCountThem) {
 }
 
 TEST(ExponentialTest, SidesRoundUpToAPowerOfTwoLookingAtTwentyBits) {
-    struct Case {
-        int side, power;
-    };
-    for (const Case& test :
-         {Case{0, 1}, Case{1, 1}, Case{3, 4}, Case{256, 256}, Case{257, 512}, Case{1000, 1024},
-          Case{0xFFFFF, 1 << 20}, Case{1 << 20, 1}, Case{(1 << 20) + 5, 8}}) {
-        EXPECT_EQ(ExponentialWithInter(test.side), test.power) << test.side;
+    for (const auto& [side, power] : {std::pair{0, 1},
+                                      {1, 1},
+                                      {3, 4},
+                                      {256, 256},
+                                      {257, 512},
+                                      {1000, 1024},
+                                      {0xFFFFF, 1 << 20},
+                                      {1 << 20, 1},
+                                      {(1 << 20) + 5, 8}}) {
+        EXPECT_EQ(ExponentialWithInter(side), power) << side;
     }
 }
 
@@ -160,9 +158,7 @@ TEST_F(ESProgramTest, ClearedTexturesKeepBindingsAndIgnoreScissorAndMask) {
     glGetBooleanv(GL_COLOR_WRITEMASK, mask);
     EXPECT_TRUE(mask[0] && !mask[1] && mask[2] && !mask[3]);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-    QImage transparent(8, 4, QImage::Format_RGBA8888_Premultiplied);
-    transparent.fill(0);
-    EXPECT_TRUE(imagesMatch(readTexture(texture), transparent));
+    EXPECT_TRUE(imagesMatch(readTexture(texture), solidImage({8, 4})));
     glDeleteTextures(1, &texture);
     LogCapture log;
     EXPECT_EQ(dabcanvas::makeClearedTexture(QSize(dabcanvas::maxTextureSize() + 1, 4), GL_LINEAR), 0u);

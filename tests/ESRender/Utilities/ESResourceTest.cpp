@@ -43,8 +43,8 @@ TEST(ESResourceTest, EveryFileOfTheResourceFoldersIsEmbeddedAndStandsBesideTheLi
             const QString resource = QLatin1String(bundle) + QLatin1Char('/') + name;
             QFile embedded(dabcanvas::resourcePathIn(QString(), resource));
             QFile onDisk(dabcanvas::resourcePath(resource));
-            ASSERT_TRUE(embedded.open(QIODevice::ReadOnly)) << qPrintable(resource);
-            ASSERT_TRUE(onDisk.open(QIODevice::ReadOnly)) << qPrintable(resource);
+            ASSERT_TRUE(embedded.open(QIODevice::ReadOnly) && onDisk.open(QIODevice::ReadOnly))
+                << qPrintable(resource);
             EXPECT_FALSE(onDisk.fileName().startsWith(QLatin1Char(':')));
             EXPECT_EQ(embedded.readAll(), onDisk.readAll()) << qPrintable(resource);
             ++files;

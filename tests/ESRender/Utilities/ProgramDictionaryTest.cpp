@@ -5,15 +5,16 @@
 
 TEST(ProgramDictionaryTest, KeysTurnIntoTypesAndBack) {
     EXPECT_EQ(ProgramDictionary::keyFromType(3), QStringLiteral("Type:3"));
-    struct Case {
-        const char* key;
-        std::int64_t type;
-    };
-    for (const Case& test :
-         {Case{"Type:3", 3}, Case{"plain", ProgramDictionary::kNoType}, Case{"", ProgramDictionary::kNoType},
-          Case{"Type:", 0}, Case{"1Type:2Type:3", 123}, Case{"Type: -7x9", -7}, Case{"Type:x", 0},
-          Case{"Type:99999999999999999999", std::numeric_limits<std::int64_t>::max()}}) {
-        EXPECT_EQ(ProgramDictionary::typeFromKey(QLatin1String(test.key)), test.type) << test.key;
+    for (const auto& [key, type] :
+         {std::pair{"Type:3", std::int64_t{3}},
+          {"plain", ProgramDictionary::kNoType},
+          {"", ProgramDictionary::kNoType},
+          {"Type:", 0},
+          {"1Type:2Type:3", 123},
+          {"Type: -7x9", -7},
+          {"Type:x", 0},
+          {"Type:99999999999999999999", std::numeric_limits<std::int64_t>::max()}}) {
+        EXPECT_EQ(ProgramDictionary::typeFromKey(QLatin1String(key)), type) << key;
     }
     ProgramDictionary dictionary;
     dictionary.setValue(QStringLiteral("normal"), 1);

@@ -1,0 +1,14 @@
+# SPDX-License-Identifier: MIT
+# What find_package(Dabcanvas) reads. The libraries, their headers and resources are installed where they are made.
+include(CMakePackageConfigHelpers)
+
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Dabcanvas)
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DabcanvasConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake INSTALL_DESTINATION ${package_folder})
+# Before 1.0 a minor version may change the interface; the libraries' SOVERSION says the same.
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+
+install(EXPORT DabcanvasTargets NAMESPACE Dabcanvas:: DESTINATION ${package_folder})
+install(FILES ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake ${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake
+    DESTINATION ${package_folder})
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})

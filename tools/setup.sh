@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Installs what building needs, on Debian and its relatives: tools/setup.sh [build|check]
+#   build   the libraries and dabpaint, and what painting needs
+#   check   the tests, the benchmarks and the other checks as well (default)
+# apt-get is called only when a package is missing, as root or through sudo.
+set -euo pipefail
+
+build=(cmake ninja-build g++ pkg-config qt6-base-dev libepoxy-dev libegl-dev libegl-mesa0 libgl1-mesa-dri)
+# locales: the tests compile a locale with a decimal comma from its files. xvfb: Qt's own OpenGL needs a display.
+check=(libgtest-dev libgmock-dev libbenchmark-dev libmypaint-dev clang-format-14 ccache locales xvfb xauth)
+
+case ${1:-check} in
+    build) wanted=("${build[@]}") ;;
+    check) wanted=("${build[@]}" "${check[@]}") ;;
+    *)
+        echo "usage: tools/setup.sh [build|check]" >&2
+        exit 2
+        ;;
+esac
+
+if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+    echo "setup: no apt-get here; going on with what is installed (needed: ${wanted[*]})"
+    exit 0
+fi
+
+missing=()
+for package in "${wanted[@]}"; do
+    state=$(dpkg-query --show --showformat='${db:Status-Status}\n' "$package" 2>/dev/null || true)
+    grep -qx installed <<<"$state" || missing+=("$package")
+done
+if [ ${#missing[@]} -eq 0 ]; then
+    echo "setup: every package is there"
+    exit 0
+fi
+
+echo "setup: installing ${missing[*]}"
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "setup: neither root nor sudo; as root: apt-get install ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+# What apt-get prints is shown only when it fails.
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+quietly() {
+    if ! ${as_root[@]+"${as_root[@]}"} env DEBIAN_FRONTEND=noninteractive "$@" >"$log" 2>&1 </dev/null; then
+        cat "$log" >&2
+        echo "setup: this failed: $*" >&2
+        return 1
+    fi
+}
+quietly apt-get update || echo "setup: going on with the package lists that are there" >&2
+quietly apt-get install --yes --no-install-recommends "${missing[@]}"
