@@ -130,7 +130,8 @@ const Dab& DabMaker::makeDab() {
     // Deliberate: the size jitter applies to scattered points of several dabs only; a line's dabs have theirs
     // already.
     if (_dabsHere != 1 && _flags.distribution && _flags.radiusTingle) {
-        dab.halfSize = radiusTingleBlock(_halfSize, s.minRadius * s.radius * 0.5f, s.radiusTingle);
+        dab.halfSize =
+            std::max(radiusTingleBlock(_halfSize, s.minRadius * s.radius * 0.5f, s.radiusTingle), 0.0f);
     }
     dab.flipX = mirrored(s.flipX, s.flipXTingle, s.isDebug, _pointIndex);
     dab.flipY = mirrored(s.flipY, s.flipYTingle, s.isDebug, _pointIndex);

@@ -98,6 +98,10 @@ void ESImageRender::removeProgramWithVertexShaderString(const QString& vertexSha
         setBlendType(_blendType);
     }
     ESBaseRender::removeProgramWithVertexShaderString(vertexShaderString, fragmentShaderString);
+    if (!isExistWithVertexShaderString(this->vertexShaderString(),
+                                       fragmentShaderStringForBlendType(_blendType))) {
+        _blendType = ESBlendTypeNormal;  // what the class falls back to
+    }
 }
 
 void ESImageRender::bindAttributeForProgram(ESProgram& program) {

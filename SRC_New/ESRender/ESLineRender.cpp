@@ -130,6 +130,11 @@ void ESLineRender::setTextureImages(const QList<QImage>& images, GLenum atPositi
     takeBaseSettings();
 }
 
+void ESLineRender::setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) {
+    ESBaseRender::setTextureData(data, dataSize, atPosition);
+    takeBaseSettings();
+}
+
 void ESLineRender::setMaskImage(const QImage& image) {
     _maskImage = image;
     if (image.isNull()) {

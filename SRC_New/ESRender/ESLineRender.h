@@ -51,6 +51,7 @@ public:
     using ESBaseRender::setTextureImage;
     void setTextureImage(const QImage& image, GLenum atPosition) override;
     void setTextureImages(const QList<QImage>& images, GLenum atPosition) override;
+    void setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) override;
     // Keeps the image and makes its texture on unit 7; a null one turns the mask off.
     void setMaskImage(const QImage& image);
     const QImage& maskImage() const { return _maskImage; }

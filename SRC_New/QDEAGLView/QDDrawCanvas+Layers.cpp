@@ -28,13 +28,21 @@ LPPoint dabOf(const QRectF& rect) {
 // ---- Drawing into a layer
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer) {
+    return dabcanvas::roundedRect(drawRun(points, count, layer));
+}
+
+// Returns the whole pixels that the run touched.
+QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderType layer) {
     ESLineRender* render = layer == ESRenderTypeLine     ? _extenRender.get()
-                           : layer == ESRenderTypeSmudge ? mainRender()
+                           : layer == ESRenderTypeSmudge ? nullptr  // has no renderer
                                                          : _subRender.get();
     if (points == nullptr || render == nullptr) {
         return {};
     }
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return {};
+    }
     const StageTimer timer(*this, Stage::drawing);
     const std::uint64_t before = render->dabsDrawn();
     _esContext->beginRenderForType(layer);
@@ -42,16 +50,15 @@ QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRend
     const QRectF touched = render->drawPoints(points, count);
     _esContext->finishRender();
     _stats.dabs += render->dabsDrawn() - before;
-    const QRectF rounded = dabcanvas::roundedRect(touched);
-    mergeRect(_layerContent[layer], rounded);
-    return rounded;
+    const QRectF covered = touched.toAlignedRect();
+    mergeRect(_layerContent[layer], covered);
+    return covered;
 }
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count) {
-    const QRectF touched = drawPoints(points, count, ESRenderTypeLine);
-    mergeRect(_lineRenderRect, touched);
-    _tempRect = touched;
-    return touched;
+    _tempRect = drawRun(points, count, ESRenderTypeLine);
+    mergeRect(_lineRenderRect, _tempRect);
+    return _tempRect;
 }
 
 QRectF QDDrawCanvas::drawPoint(QPointF point, float size) {
@@ -66,16 +73,17 @@ void QDDrawCanvas::updateImage(bool online) {
     updateImage(online, isSmudgeType());
 }
 
-void QDDrawCanvas::updateImage(bool online, bool) {
+// A smudge layer has nothing to put onto the canvas yet.
+void QDDrawCanvas::updateImage(bool online, bool smudge) {
     _edited = true;
-    if (_tempRect.width() <= 0 || _tempRect.height() <= 0) {
+    if (smudge || _tempRect.width() <= 0 || _tempRect.height() <= 0) {
         return;
     }
     mergeRect(_updateRect, _tempRect);
     // The composite itself waits until the canvas is looked at: its pixels depend on the layer alone, and
     // every change of target makes the driver draw what it had gathered. Rectangles that overlap become one,
     // which composites the same pixels, except where replacing would clear what lies between them.
-    if (!_pending.empty() && _mayMergePending && _brush.blendType != ESBlendTypeReplace) {
+    if (!_pending.empty() && _mayMergePending && _esRender->blendType() != ESBlendTypeReplace) {
         QRectF& last = _pending.back();
         const QRectF both = last.united(_tempRect);
         if (areaOf(both) <= areaOf(last) + areaOf(_tempRect)) {
@@ -98,7 +106,9 @@ void QDDrawCanvas::updateImage(bool online, bool) {
 // follows may no longer touch more than it drew.
 void QDDrawCanvas::settleDrawn() {
     compositePending();
-    _mayMergePending = false;
+    if (!isZero(_layerContent[ESRenderTypeLine]) || !isZero(_layerContent[ESRenderTypeSubLine])) {
+        _mayMergePending = false;
+    }
 }
 
 void QDDrawCanvas::compositePending() {
@@ -106,6 +116,9 @@ void QDDrawCanvas::compositePending() {
         return;
     }
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     const StageTimer timer(*this, Stage::compositing);
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     for (const QRectF& rect : _pending) {
@@ -131,14 +144,18 @@ void QDDrawCanvas::compositeRect(const QRectF& rect) {
     render.drawPoints(&dab, 1);
 }
 
-void QDDrawCanvas::resetWithRenderRect(const QRectF& rect) {
+void QDDrawCanvas::resetWithRenderRect(const QRectF& area) {
+    const QRectF rect = area & QRectF(QPointF(0, 0), bufferSize());
     if (!(rect.width() > 0 && rect.height() > 0)) {
-        return;
+        return;  // nothing of it is on the canvas
     }
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     compositePending();
     _esContext->beginRenderForType(ESRenderTypeCanvas);
-    const auto blendType = static_cast<std::uint32_t>(_brush.blendType);
+    const std::uint32_t blendType = _esRender->blendType();
     if (blendType != ESBlendTypeReset) {
         _esRender->setBlendType(ESBlendTypeReset);
     }
@@ -152,6 +169,9 @@ void QDDrawCanvas::resetWithRenderRect(const QRectF& rect) {
 
 void QDDrawCanvas::updateBGImage(const QByteArray&) {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     compositePending();
     const StageTimer timer(*this, Stage::compositing);
     _esContext->beginRenderForType(ESRenderTypeCanvas);
@@ -169,6 +189,9 @@ void QDDrawCanvas::clearLayer(ESRenderType layer, QRectF& rect) {
         return;  // nothing was drawn there
     }
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     compositePending();
     _esContext->beginRenderForType(layer);
     rect = QRectF();
@@ -217,6 +240,9 @@ void QDDrawCanvas::clearESBufferOnline(bool online) {
 
 void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     _pending.clear();
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     const QRectF whole(QPointF(0, 0), bufferSize());
@@ -240,6 +266,9 @@ void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
 
 QImage QDDrawCanvas::image() {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return {};
+    }
     compositePending();
     return _esContext->image();
 }
@@ -252,9 +281,11 @@ const QImage& QDDrawCanvas::displayImage() {
     }
     if (!_staleRect.isEmpty() && !_displayImage.isNull()) {
         const ESCurrentScope current(*_esContext);
-        compositePending();
-        _esContext->updateImage(_displayImage, _staleRect);
-        _staleRect = QRect();
+        if (current) {
+            compositePending();
+            _esContext->updateImage(_displayImage, _staleRect);
+            _staleRect = QRect();
+        }
     }
     return _displayImage;
 }
@@ -270,9 +301,12 @@ void QDDrawCanvas::redisplayAll() {
 void QDDrawCanvas::updateScaleInfo() {
     const QSizeF frame = displayFrame().size();
     const QSizeF buffer = bufferSize();
+    if (!(frame.width() > 0 && frame.height() > 0)) {
+        return;  // nothing is shown, and nothing could be scaled to it
+    }
     _needScale = frame != buffer;
     if (_needScale) {
         _scale = QSizeF(frame.width() / buffer.width(), frame.height() / buffer.height());
     }
-    _esContext->setViewSize(QSizeF(buffer.width() * _scale.width(), buffer.height() * _scale.height()));
+    _esContext->setViewSize(QSizeF(buffer.width() * scale().width(), buffer.height() * scale().height()));
 }

@@ -38,8 +38,8 @@ bool QDDrawCanvas::storeClamped(const BrushProperty& row, Value& value) {
         qCWarning(lcDabcanvas, "%s was given a number that is not finite; it keeps its value", row.name);
         return false;
     }
-    if ((row.renders & kCompositor) != 0) {
-        settleDrawn();
+    if (row.key == BrushKey::opacity) {
+        settleDrawn();  // of the rows without a setter of their own, composites depend on this one alone
     }
     if constexpr (std::is_same_v<Value, float>) {
         value = std::clamp(value, row.low, row.high);
@@ -197,7 +197,7 @@ QVariant QDDrawCanvas::brushValue(const BrushProperty& property) const {
 
 void QDDrawCanvas::setBrushType(std::int32_t value) {
     assign(BrushKey::brushType, value);
-    if (value == 3 || value == kPreviewBrush) {
+    if (value == kSmudgeBrush || value == kPreviewBrush) {
         qCWarning(lcDabcanvas, "brush type %d is not drawn by this version", value);
     }
     setRepeatedlyRenderEnabled(_brush.repeatedlyRenderEnabled);
@@ -205,6 +205,9 @@ void QDDrawCanvas::setBrushType(std::int32_t value) {
 
 void QDDrawCanvas::setBlendType(std::int32_t value) {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     settleDrawn();
     assign(BrushKey::blendType, value);
     _esContext->beginRenderForType(ESRenderTypeCanvas);
@@ -213,11 +216,16 @@ void QDDrawCanvas::setBlendType(std::int32_t value) {
 
 void QDDrawCanvas::setBlendFragmentShaderString(const QString& value) {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     settleDrawn();
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     QString source = value;
     source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
-    _esRender->setBlendType(ESImageRender::blendTypeOfFragmentShaderString(source));
+    const std::uint32_t type = ESImageRender::blendTypeOfFragmentShaderString(source);
+    // An unknown text draws as normal. The blendType property deliberately keeps its value.
+    _esRender->setBlendType(type != 0 ? type : std::uint32_t{ESBlendTypeNormal});
     _brush.blendFragmentShaderString = _esRender->fragmentShaderString();
 }
 
@@ -313,6 +321,7 @@ void QDDrawCanvas::setTextureImages(const QList<QImage>& value) {
         return;
     }
     _storedTips = images;
+    _drawnTip = {};
     _textureTool.setImage(images.first());
     useTips(images);
 }
@@ -320,16 +329,25 @@ void QDDrawCanvas::setTextureImages(const QList<QImage>& value) {
 // Type 0 paints with the tips handed in; any other draws one at the present radius.
 void QDDrawCanvas::regenerateTip() {
     if (_brush.textureType == 0) {
+        _drawnTip = {};
         if (!_storedTips.isEmpty()) {
             useTips(_storedTips);
         }
         return;
     }
-    useTips({_textureTool.textureImageWithSize(static_cast<int>(_brush.radius))});
+    const DrawnTip wanted{_brush.textureType, static_cast<int>(_brush.radius), _brush.hardness,
+                          _brush.textureControlValue};
+    if (wanted != _drawnTip) {
+        _drawnTip = wanted;
+        useTips({_textureTool.textureImageWithSize(wanted.size)});
+    }
 }
 
 void QDDrawCanvas::useTips(const QList<QImage>& tips) {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     _brush.textureImages = tips;
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     _extenRender->setTextureImages(tips, GL_TEXTURE1);
@@ -337,6 +355,9 @@ void QDDrawCanvas::useTips(const QList<QImage>& tips) {
 
 void QDDrawCanvas::setMaskImage(const QImage& value) {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     _brush.maskImage = value;
     _esContext->beginRenderForType(ESRenderTypeLine);
     _extenRender->setMaskImage(value);
@@ -346,6 +367,9 @@ void QDDrawCanvas::setMaskImage(const QImage& value) {
 
 void QDDrawCanvas::setSlTextureImage(const QImage& value) {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
     _brush.slTextureImage = value;
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     _subRender->setTextureImage(value, GL_TEXTURE2);

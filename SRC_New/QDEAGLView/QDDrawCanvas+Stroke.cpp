@@ -10,7 +10,6 @@
 #include "QDEAGLView/CanvasRects.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
-using dabcanvas::isZero;
 using dabcanvas::mergeRect;
 
 namespace {
@@ -57,93 +56,127 @@ bool QDDrawCanvas::acceptsSample(QPointF point, float pressure, float altitude) 
     return false;
 }
 
+// The delegate is asked anew before every call: a callback may take it off.
+void QDDrawCanvas::tell(void (QDDrawViewDelegate::*callback)(QDDrawCanvas&, QPointF), QPointF point) {
+    if (_delegate != nullptr) {
+        (_delegate->*callback)(*this, point);
+    }
+}
+
 // A filter that makes the point unusable is not followed.
 QPointF QDDrawCanvas::filteredPoint(QPointF (QDDrawViewDelegate::*filter)(QDDrawCanvas&, QPointF),
                                     QPointF point) {
+    if (_delegate == nullptr) {
+        return point;
+    }
     const QPointF filtered = (_delegate->*filter)(*this, point);
     return acceptsSample(filtered, 0, 0) ? filtered : point;
 }
 
 QPointF QDDrawCanvas::bufferPoint(QPointF point) const {
-    return _needScale ? QPointF(point.x() / _scale.width(), point.y() / _scale.height()) : point;
+    return QPointF(point.x() / scale().width(), point.y() / scale().height());
+}
+
+QPointF QDDrawCanvas::viewPoint(QPointF point) const {
+    return QPointF(point.x() * scale().width(), point.y() * scale().height());
 }
 
 void QDDrawCanvas::drawingWithBeginPoint(QPointF point, float pressure, float altitude, bool) {
     _refusedSample = false;
+    if (_stroke == Stroke::drawing) {
+        finishLayers();  // a stroke that was never ended stays as it is
+    }
+    _stroke = Stroke::awaited;
     if (!acceptsSample(point, pressure, altitude)) {
+        return;  // the first sample that can be used begins instead
+    }
+    _stroke = Stroke::drawing;
+    point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawBegin, point);
+    tell(&QDDrawViewDelegate::drawViewWillDrawBegin, point);
+    point = bufferPoint(point);
+    beginStroke(point, pressure, altitude);
+    tell(&QDDrawViewDelegate::drawViewDidDrawBegin, point);
+}
+
+void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float altitude, bool online) {
+    if (_stroke == Stroke::none || !acceptsSample(point, pressure, altitude)) {
         return;
     }
+    if (_stroke == Stroke::awaited) {
+        drawingWithBeginPoint(point, pressure, altitude, online);
+        return;
+    }
+    point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawMove, point);
+    tell(&QDDrawViewDelegate::drawViewWillDrawMove, point);
+    point = bufferPoint(point);
+    if (!usesPreview()) {
+        if (distanceOf(point, _lastRenderObject) <= static_cast<float>(kClosest)) {
+            return;
+        }
+        const bool firstMove = !std::exchange(_isAppendLine, true);
+        takeSample(point, pressure, altitude);
+        drawSegment(point, pressure, altitude, false, firstMove, online);
+    }
+    tell(&QDDrawViewDelegate::drawViewDidDrawMove, point);
+}
+
+void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float altitude, bool online) {
+    if (_stroke != Stroke::drawing) {
+        _stroke = Stroke::none;
+        return;
+    }
+    if (!acceptsSample(point, pressure, altitude)) {
+        // The stroke ends all the same, where it got to.
+        point = viewPoint(_lastRenderObject);
+        pressure = _lastPressure;
+        altitude = _lastAltitude;
+    }
+    point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawEnd, point);
+    tell(&QDDrawViewDelegate::drawViewWillDrawEnd, point);
+    point = bufferPoint(point);
+    _isAppendLine = true;
+    if (!usesPreview()) {
+        drawSegment(point, pressure, altitude, true, false, online);
+    }
+    finishLayers();
+    _stroke = Stroke::none;
+    tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point);
+}
+
+void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
     const StrokeScope scope(*this);
     _lineRenderRect = QRectF();
     _subLineRenderRect = QRectF();
     _isAppendLine = false;
-    if (_delegate != nullptr) {
-        point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawBegin, point);
-        _delegate->drawViewWillDrawBegin(*this, point);
+    takeSample(point, pressure, altitude);
+    if (usesPreview()) {
+        return;
     }
-    point = bufferPoint(point);
+    if (needRepeatedlyRender()) {
+        _subRender->resetLineProporty();
+        startLine(*_subLineParaObj, point, pressure, altitude);
+    }
+    if (!isSmudgeType()) {
+        _extenRender->resetLineProporty();
+    }
+    startLine(*_lineParaObj, point, pressure, altitude);
+}
+
+// The point that the distance filter measures from, and where a stroke whose end is unusable ends.
+void QDDrawCanvas::takeSample(QPointF point, float pressure, float altitude) {
     _lastRenderObject = point;
-    if (_brush.brushType != kPreviewBrush) {
-        if (needRepeatedlyRender()) {
-            _subRender->resetLineProporty();
-            startLine(*_subLineParaObj, point, pressure, altitude);
-        }
-        if (ESLineRender* render = mainRender()) {
-            render->resetLineProporty();
-        }
-        startLine(*_lineParaObj, point, pressure, altitude);
-    }
-    if (_delegate != nullptr) {
-        _delegate->drawViewDidDrawBegin(*this, point);
-    }
+    _lastPressure = pressure;
+    _lastAltitude = altitude;
 }
 
-void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float altitude, bool online) {
-    if (!acceptsSample(point, pressure, altitude)) {
-        return;
-    }
-    const StrokeScope scope(*this);
-    if (_delegate != nullptr) {
-        point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawMove, point);
-        _delegate->drawViewWillDrawMove(*this, point);
-    }
-    point = bufferPoint(point);
-    if (_brush.brushType != kPreviewBrush) {
-        if (distanceOf(point, _lastRenderObject) <= static_cast<float>(kClosest)) {
-            return;
-        }
-        _lastRenderObject = point;
-        const bool firstMove = !_isAppendLine;
-        _isAppendLine = true;
-        drawSegment(point, pressure, altitude, false, firstMove, online);
-    }
-    if (_delegate != nullptr) {
-        _delegate->drawViewDidDrawMove(*this, point);
-    }
-}
-
-void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float altitude, bool online) {
-    if (!acceptsSample(point, pressure, altitude)) {
-        return;
-    }
-    const StrokeScope scope(*this);
-    if (_delegate != nullptr) {
-        point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawEnd, point);
-        _delegate->drawViewWillDrawEnd(*this, point);
-    }
-    point = bufferPoint(point);
-    _isAppendLine = true;
-    if (_brush.brushType != kPreviewBrush) {
-        drawSegment(point, pressure, altitude, true, false, online);
-        clearExtenBuffer();
-        if (needRepeatedlyRender()) {
-            clearSubBuffer();
-        }
-        updateBGImage();
-    }
-    if (_delegate != nullptr) {
-        _delegate->drawViewDidDrawEnd(*this, point);
-    }
+// Between strokes the layers are empty and the background is the canvas.
+void QDDrawCanvas::finishLayers() {
+    mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
+    clearExtenBuffer();
+    // Also of a sub-line that was switched off in the middle of the stroke.
+    mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
+    clearSubBuffer();
+    updateBGImage();
 }
 
 void QDDrawCanvas::startLine(LPLineParams& record, QPointF point, float pressure, float altitude) {
@@ -173,6 +206,7 @@ QDDrawCanvas::Run QDDrawCanvas::appendToLine(LPLineParams& record, QPointF point
 // it.
 void QDDrawCanvas::drawSegment(QPointF point, float pressure, float altitude, bool end, bool dropFirst,
                                bool online) {
+    const StrokeScope scope(*this);
     ++_stats.samples;
     QRectF segmentRect;
     bool drewSub = false;
@@ -180,7 +214,7 @@ void QDDrawCanvas::drawSegment(QPointF point, float pressure, float altitude, bo
         const Run run = appendToLine(*_subLineParaObj, point, pressure, altitude, end);
         // Deliberate: a final sub-line run too close to the last point is left out; the main line's never is.
         if (run.count > 0 && !(end && isNear(point, _lastRenderObject))) {
-            segmentRect = drawPoints(run.points.get(), run.count, ESRenderTypeSubLine);
+            segmentRect = drawRun(run.points.get(), run.count, ESRenderTypeSubLine);
             mergeRect(_subLineRenderRect, segmentRect);
             drewSub = true;
         }
@@ -190,7 +224,7 @@ void QDDrawCanvas::drawSegment(QPointF point, float pressure, float altitude, bo
     const std::size_t first = dropFirst && run.count > 0 ? 1 : 0;
     const std::size_t count = run.count - first;
     if (count > 0) {
-        QRectF mainSegment = drawPoints(run.points.get() + first, count, mainLayer());
+        QRectF mainSegment = drawRun(run.points.get() + first, count, mainLayer());
         if (drewSub) {
             mergeRect(mainSegment, segmentRect);
         }

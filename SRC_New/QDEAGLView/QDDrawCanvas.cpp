@@ -39,7 +39,7 @@ bool QDDrawCanvas::initCanvas() {
         return false;
     }
     const StrokeScope scope(*this);
-    if (!initOpenGLESData()) {
+    if (!scope || !initOpenGLESData()) {
         return false;
     }
     return initData();
@@ -138,6 +138,12 @@ QDDrawCanvas::QDDrawCanvas(const QRectF& frame) : _frame(frame) {}
 QDDrawCanvas::~QDDrawCanvas() {
     if (_esContext) {
         const ESCurrentScope current(*_esContext);
+        if (!current) {
+            // Their names would be deleted in the host's context; they go with ours.
+            static_cast<void>(_extenRender.release());
+            static_cast<void>(_subRender.release());
+            static_cast<void>(_esRender.release());
+        }
         _extenRender.reset();
         _subRender.reset();
         _esRender.reset();
@@ -152,6 +158,9 @@ QSizeF QDDrawCanvas::bufferSize() const {
 
 QString QDDrawCanvas::rendererName() {
     const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return {};
+    }
     const auto* name = reinterpret_cast<const char*>(glGetString(GL_RENDERER));
     return QString::fromUtf8(name);
 }

@@ -8,6 +8,9 @@
 #include <QSizeF>
 #include <QString>
 #include <QVariant>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -31,40 +34,58 @@ struct StrokeStats {
     double compositingSeconds = 0;
 };
 
-// The whole logic of a canvas: strokes, brush properties, layers and pixels, without a widget. It paints
-// headless as it stands; QDDrawView shows one in a window, and any other item can by filling the display
-// hooks below.
+// The whole logic of a canvas: strokes, brush properties, layers and pixels, without a widget. It paints headless
+// as it stands; QDDrawView shows one in a window, and any other item can by filling the display hooks below.
 //
 // Units    points come in as view points, origin top left; everything below stroke entry is in buffer pixels,
-// which are
-//          view points divided by scale(). The buffer takes the size of the frame at creation and keeps it.
+//          which are view points divided by scale(). The buffer takes the size of the frame at creation and
+//          keeps it.
 // Owns     its GL context, layers, renderers and line records. Whatever GL context the caller had current is
-// current
-//          again when a member function returns.
-// Thread   one thread at a time; several canvases of a process may interleave their strokes on one thread,
-// not run on two. Errors   never throws; a failure is a log line and a false or null result.
+//          current again when a member function returns, and while a delegate is called.
+// Thread   one thread at a time; several canvases of a process may interleave their strokes on one thread.
+// Errors   never throws; a failure is a log line and a false or null result.
 class QDDrawCanvas {
 public:
-    // A canvas whose buffer is as large as the frame, cleared to transparent, with the default brush. Null,
-    // after one log line, when there is no OpenGL 3.2 or the size is not from 1 to the driver's limit on both
-    // sides.
+    // A canvas whose buffer is as large as the frame, cleared to transparent, with the default brush. Null, after
+    // one log line, when there is no OpenGL 3.2 or a side is not from 1 to the driver's limit.
     static std::unique_ptr<QDDrawCanvas> initWithFrame(const QRectF& frame);
 
     virtual ~QDDrawCanvas();
     QDDrawCanvas(const QDDrawCanvas&) = delete;
     QDDrawCanvas& operator=(const QDDrawCanvas&) = delete;
 
-    // ---- Strokes
-    // -------------------------------------------------------------------------------------------------- One
-    // stroke is a begin, any number of moves and an end. Pressure and altitude (pen tilt, 0 upright to 1
-    // flat) are 0..1, -1 when not given. online: ask the display to show each segment at once; the pixels are
-    // the same without. Points, pressures or altitudes that are not finite are refused with one log line, and
-    // the stroke goes on.
+    // ---- Strokes ----
 
+    // One stroke is a begin, any number of moves and an end; nothing is drawn at begin. Pressure and altitude (pen
+    // tilt, 0 upright to 1 flat) are 0..1, -1 when not given. online: ask the display to show each segment at
+    // once; the pixels are the same without.
+    // A sample that is not finite is refused, with one log line a stroke, and the stroke goes on: a refused begin
+    // leaves the beginning to the first good move, a refused end ends where the stroke got to. Moves and ends
+    // without a begin do nothing; a begin without an end before it ends that stroke as it stands.
     void drawingWithBeginPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
     // Does nothing more than two callbacks for a point within 1.0 buffer pixel of the last accepted one.
     void drawingWithMoveToPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
     void drawingWithEndPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
+
+    // The same without altitude, or without pressure and altitude.
+    void drawingWithBeginPoint(QPointF point, std::same_as<bool> auto online) {
+        drawingWithBeginPoint(point, -1.0f, -1.0f, online);
+    }
+    void drawingWithBeginPoint(QPointF point, float pressure, std::same_as<bool> auto online) {
+        drawingWithBeginPoint(point, pressure, -1.0f, online);
+    }
+    void drawingWithMoveToPoint(QPointF point, std::same_as<bool> auto online) {
+        drawingWithMoveToPoint(point, -1.0f, -1.0f, online);
+    }
+    void drawingWithMoveToPoint(QPointF point, float pressure, std::same_as<bool> auto online) {
+        drawingWithMoveToPoint(point, pressure, -1.0f, online);
+    }
+    void drawingWithEndPoint(QPointF point, std::same_as<bool> auto online) {
+        drawingWithEndPoint(point, -1.0f, -1.0f, online);
+    }
+    void drawingWithEndPoint(QPointF point, float pressure, std::same_as<bool> auto online) {
+        drawingWithEndPoint(point, pressure, -1.0f, online);
+    }
 
     QDDrawViewDelegate* delegate() const { return _delegate; }
     void setDelegate(QDDrawViewDelegate* delegate) { _delegate = delegate; }  // not owned; null for none
@@ -73,21 +94,40 @@ public:
     bool autoMark() const { return _autoMark; }
     void setAutoMark(bool autoMark) { _autoMark = autoMark; }
 
-    bool isSmudgeType() const { return _brush.brushType == 3 && !_brush.isDebug && !_brush.enableRecogition; }
-    bool needRepeatedlyRender() const { return _brush.repeatedlyRenderEnabled && _brush.brushType != 3; }
-    bool needColorTendency() const { return _brush.brushType != 3; }
+    // For the host's own use, kept but never read here: whether the device's pressure is wanted, and which one
+    // else.
+    bool enableDevicePress() const { return _enableDevicePress; }
+    void setEnableDevicePress(bool value) { _enableDevicePress = value; }
+    float normalPress() const { return _normalPress; }
+    void setNormalPress(float value) { _normalPress = value; }
+
+    // Whoever turns pointer events into strokes keeps these: has the pointer's stroke ended, has it moved, and how
+    // often. More than nine moves make a line of it.
+    bool lineFinish() const { return _lineFinish; }
+    void setLineFinish(bool value) { _lineFinish = value; }
+    bool lineMove() const { return _lineMove; }
+    void setLineMove(bool value) { _lineMove = value; }
+    std::uint64_t moveCount() const { return _moveCount; }
+    void setMoveCount(std::uint64_t value) { _moveCount = value; }
+    bool isLining() const { return !_lineFinish && _lineMove && _moveCount > 9; }
+
+    bool isSmudgeType() const {
+        return _brush.brushType == kSmudgeBrush && !_brush.isDebug && !_brush.enableRecogition;
+    }
+    bool needRepeatedlyRender() const {
+        return _brush.repeatedlyRenderEnabled && _brush.brushType != kSmudgeBrush;
+    }
+    bool needColorTendency() const { return _brush.brushType != kSmudgeBrush; }
 
     // Kept for callers; they lock nothing.
     void lock() {}
     void unlock() {}
 
-    // ---- Pixels
-    // ---------------------------------------------------------------------------------------------------
+    // ---- Pixels ----
 
     // The canvas as premultiplied RGBA, upright, bufferSize() large; null when it cannot be read.
     QImage image();
-    // The same, kept between calls: only what changed since the last call is read back. Valid until the next
-    // call.
+    // The same, kept between calls: only what changed since the last call is read back. Valid until the next.
     const QImage& displayImage();
 
     QSizeF bufferSize() const;
@@ -95,6 +135,9 @@ public:
     QSizeF scale() const { return _needScale ? _scale : QSizeF(1, 1); }
     // To be called when the frame has changed its size: points and redisplay rectangles scale from then on.
     void updateScaleInfo();
+
+    // Whether the canvas was drawn on or cleared.
+    bool edited() const { return _edited; }
 
     // Clears the canvas and all layers to transparent.
     void clear();
@@ -109,9 +152,9 @@ public:
     void clearSubBuffer();
     void clearSmudgeBuffer();
 
-    // Runs of dabs, or a single one, straight into a layer, in buffer pixels; the touched rectangle comes
-    // back, rounded to whole pixels. Without a layer named they go into the line's, and updateImage() puts
-    // them onto the canvas.
+    // Runs of dabs, or a single one, straight into a layer, in buffer pixels; the touched rectangle comes back,
+    // rounded to whole pixels. Without a layer named they go into the line's, and updateImage() puts them onto the
+    // canvas; the end of the next stroke clears them from the layer, as clearExtenBuffer() does at once.
     QRectF drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer);
     QRectF drawPoints(const LPPoint* points, std::size_t count);
     QRectF drawPoint(QPointF point, float size);
@@ -121,8 +164,7 @@ public:
     void updateImage(bool online, bool smudge);
     // Repaints an area, in buffer pixels, as it was before the stroke.
     void resetWithRenderRect(const QRectF& rect);
-    // Makes the present canvas the background of what is drawn next. mark: the undo step just recorded, or
-    // null.
+    // Makes the present canvas the background of what is drawn next. mark: the undo step just recorded, or null.
     void updateBGImage(const QByteArray& mark = {});
 
     // Map a brush radius to and from a value of which 1.0 is the middle of the brush's radius range.
@@ -131,10 +173,10 @@ public:
         return (_brush.maxRadius + _brush.minRadius) * value * 0.5f;
     }
 
-    // ---- Measuring
-    // ------------------------------------------------------------------------------------------------
+    // ---- Measuring ----
 
-    // Fixed random sequences instead of the system's generators, so that a stroke repeats exactly.
+    // Fixed random sequences instead of drand48() for dabs, so that a session on a new canvas repeats. Sizes
+    // jitter by rand() and drand48() all the same: call lpRandom() once and seed both for the same bytes.
     void setRepeatableRandom(bool repeatable);
     // Times each stage, waiting for the GL work of each: honest shares, but slower strokes.
     void setProfiling(bool profiling) { _profiling = profiling; }
@@ -142,8 +184,8 @@ public:
     // The driver's renderer string.
     QString rendererName();
 
-    // ---- Brush
-    // ----------------------------------------------------------------------------------------------------
+    // ---- Brush ----
+
     // Ranges, defaults and a sentence on each stand in BrushProperties.cpp. Numbers out of range are clamped;
     // numbers that are not finite are refused with a log line. Setting takes effect with the next segment.
 
@@ -335,8 +377,7 @@ protected:
     explicit QDDrawCanvas(const QRectF& frame);
     bool initCanvas();
 
-    // ---- Display hooks
-    // --------------------------------------------------------------------------------------------
+    // ---- Display hooks ----
 
     // Where the canvas is shown, in view points; its size against bufferSize() gives scale().
     virtual QRectF displayFrame() const { return _frame; }
@@ -344,9 +385,9 @@ protected:
     virtual void redisplayRect(const QRectF&) {}
 
 private:
-    static constexpr std::int32_t kPreviewBrush = 4;
-    struct StrokeScope;  // makes this canvas's GL context and process-wide stroke state current, and puts
-                         // them back
+    static constexpr std::int32_t kSmudgeBrush = 3, kPreviewBrush = 4;
+    struct StrokeScope;                            // this canvas's GL context and stroke state are current
+    enum class Stroke { none, awaited, drawing };  // awaited: its begin was refused
     enum class Stage { geometry, drawing, compositing };
     struct StageTimer;
 
@@ -358,8 +399,14 @@ private:
     // Stroke stages, in steps
     bool acceptsSample(QPointF point, float pressure, float altitude);
     QPointF filteredPoint(QPointF (QDDrawViewDelegate::*filter)(QDDrawCanvas&, QPointF), QPointF point);
+    void tell(void (QDDrawViewDelegate::*callback)(QDDrawCanvas&, QPointF), QPointF point);
     QPointF bufferPoint(QPointF point) const;
-    ESLineRender* mainRender() const { return isSmudgeType() ? nullptr : _extenRender.get(); }
+    QPointF viewPoint(QPointF point) const;
+    bool usesPreview() const { return _brush.brushType == kPreviewBrush && !_brush.enableRecogition; }
+    void beginStroke(QPointF point, float pressure, float altitude);
+    void takeSample(QPointF point, float pressure, float altitude);
+    void finishLayers();
+    QRectF drawRun(const LPPoint* points, std::size_t count, ESRenderType layer);
     ESRenderType mainLayer() const { return isSmudgeType() ? ESRenderTypeSmudge : ESRenderTypeLine; }
     QRectF& mainRect() { return isSmudgeType() ? _smudgeRenderRect : _lineRenderRect; }
     void startLine(LPLineParams& record, QPointF point, float pressure, float altitude);
@@ -398,12 +445,19 @@ private:
     std::unique_ptr<ESLineRender> _extenRender;
     std::unique_ptr<ESLineRender> _subRender;
     TexturesTool _textureTool;
+    // What the present tip was drawn from; type 0 when it was handed in.
+    struct DrawnTip {
+        std::int32_t type = 0;
+        int size = 0;
+        float hardness = 0, controlValue = 0;
+        bool operator==(const DrawnTip&) const = default;
+    };
+    DrawnTip _drawnTip;
     QList<QImage> _storedTips;  // what texture type 0 paints with: the tips last handed in
 
     LPLineParams* _lineParaObj = nullptr;
     LPLineParams* _subLineParaObj = nullptr;
     LPSharedState _strokeState{};  // this canvas's copy of the line process's globals
-    int _strokeDepth = 0;          // stroke calls in progress: a delegate may make further ones
 
     // Of the present stroke, in buffer pixels
     QRectF _lineRenderRect;
@@ -411,6 +465,8 @@ private:
     QRectF _smudgeRenderRect;
     QRectF _tempRect;
     QPointF _lastRenderObject;
+    float _lastPressure = -1, _lastAltitude = -1;
+    Stroke _stroke = Stroke::none;
     bool _isAppendLine = false;
     bool _refusedSample = false;  // and said so
 
@@ -425,6 +481,11 @@ private:
     QImage _displayImage;
     bool _edited = false;
     bool _autoMark = false;
+    bool _enableDevicePress = true;
+    float _normalPress = 0.9f;
+    bool _lineFinish = false;
+    bool _lineMove = false;
+    std::uint64_t _moveCount = 0;
 
     bool _needScale = false;
     QSizeF _scale{1, 1};

@@ -12,28 +12,26 @@
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 
-// One stroke call: this canvas's GL context and its copy of the line process's globals are current, so that
-// strokes of several canvases may interleave, a delegate's drawing on another canvas included.
+// One run of line-process calls: this canvas's GL context and its copy of the line process's globals are
+// current, so that strokes of several canvases may interleave. No callback runs inside one.
 struct QDDrawCanvas::StrokeScope {
-    explicit StrokeScope(QDDrawCanvas& canvas) : _canvas(canvas), _current(*canvas._esContext) {
-        if (_canvas._strokeDepth++ == 0) {
-            _outer = lpSharedState();
-            lpSetSharedState(canvas._strokeState);
-        }
+    explicit StrokeScope(QDDrawCanvas& canvas)
+        : _canvas(canvas), _current(*canvas._esContext), _outer(lpSharedState()) {
+        lpSetSharedState(canvas._strokeState);
     }
     ~StrokeScope() {
-        if (--_canvas._strokeDepth == 0) {
-            _canvas._strokeState = lpSharedState();
-            lpSetSharedState(_outer);
-        }
+        _canvas._strokeState = lpSharedState();
+        lpSetSharedState(_outer);
     }
     StrokeScope(const StrokeScope&) = delete;
     StrokeScope& operator=(const StrokeScope&) = delete;
 
+    explicit operator bool() const { return static_cast<bool>(_current); }
+
 private:
     QDDrawCanvas& _canvas;
     ESCurrentScope _current;
-    LPSharedState _outer{};
+    LPSharedState _outer;
 };
 
 // Adds the time a stage takes to the canvas's statistics. Costs one branch while profiling is off.

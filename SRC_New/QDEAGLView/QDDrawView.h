@@ -17,8 +17,8 @@
 //     view->show();
 //
 // Size     the buffer gets the frame's size at creation and keeps it; a widget of another size shows it
-// stretched, and
-//          points scale. QWidget's parentage owns the view as usual; without a parent the unique_ptr does.
+//          stretched, and points scale.
+// Owner    whoever holds the unique_ptr. With a parent, or once put into a layout, release() it: the parent owns.
 // Thread   the application's main thread, as for every widget.
 class QDDrawView : public QWidget, public QDDrawCanvas {
     Q_OBJECT
