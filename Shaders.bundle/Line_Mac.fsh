@@ -1,26 +1,32 @@
 // SPDX-License-Identifier: MIT
 #version 150
 // Paints one dab: the tip's alpha is the shape, the brush colour fills it. Premultiplied.
+// NO_MASK and NO_MULTICOLOUR leave out what a brush does not use: a software driver runs both sides of a branch.
 uniform sampler2D u_brushTexture;
 uniform vec4 a_color;
 uniform float u_flow;
 
+#ifndef NO_MASK
 uniform _Bool u_useMask;
 uniform sampler2D u_maskTexture;
 uniform vec2 u_maskSize;      // one tile of paper on the buffer, in pixels
 uniform vec4 u_maskBaseCoord; // the paper in its texture: x, y, width, height in texels
 uniform vec2 u_viewSize;
+#endif
 
+#ifndef NO_MULTICOLOUR
 uniform _Bool u_colorful;
 uniform float u_rand;
 uniform float u_hueTingle;
 uniform float u_saturationTingle;
 uniform float u_brightnessTingle;
+#endif
 
 in vec2 v_texCoord;
 flat in vec4 v_tipCell;
 out vec4 fragColor;
 
+#ifndef NO_MASK
 // How much the paper lets through here: white all, black and transparent nothing.
 float paper() {
     vec2 pixel = vec2(gl_FragCoord.x, u_viewSize.y - gl_FragCoord.y);
@@ -32,6 +38,9 @@ float paper() {
     return dot(grain.rgb, vec3(0.299, 0.587, 0.114));
 }
 
+#endif
+
+#ifndef NO_MULTICOLOUR
 vec3 hsvFromRgb(vec3 c) {
     float high = max(c.r, max(c.g, c.b));
     float span = high - min(c.r, min(c.g, c.b));
@@ -56,16 +65,21 @@ vec3 multicolour(vec4 tip) {
     hsv.yz = clamp(hsv.yz + swing.yz * vec2(u_saturationTingle, u_brightnessTingle), 0.0, 1.0);
     return rgbFromHsv(hsv);
 }
+#endif
 
 void main() {
     vec4 tip = texture(u_brushTexture, clamp(v_texCoord, v_tipCell.xy, v_tipCell.zw));
     float coverage = tip.a * u_flow;
+#ifndef NO_MASK
     if (u_useMask) {
         coverage *= paper();
     }
+#endif
     vec3 color = a_color.rgb;
+#ifndef NO_MULTICOLOUR
     if (u_colorful) {
         color = multicolour(tip);
     }
+#endif
     fragColor = vec4(color * coverage, coverage);
 }

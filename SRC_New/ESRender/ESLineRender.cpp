@@ -27,6 +27,13 @@ QString withBool(QString source) {
     return source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
 }
 
+// The source with names defined; a #version line stays the first.
+QString withDefines(const QString& source, const QString& defines) {
+    const qsizetype version = source.indexOf(QLatin1String("#version"));
+    const qsizetype lineEnd = version < 0 ? -1 : source.indexOf(QLatin1Char('\n'), version);
+    return source.left(lineEnd + 1) + defines + source.mid(lineEnd + 1);
+}
+
 }  // namespace
 
 // The area drawn into so far, with a margin of one pixel.
@@ -82,7 +89,27 @@ bool ESLineRender::setVertexShaderString(const QString& vertexShaderString,
         vertexShaderString.isNull() ? lineRenderNormalVertexShaderString() : vertexShaderString;
     const QString fragment = fragmentShaderFromString.isNull() ? lineRenderNormalFrangmentShaderString()
                                                                : fragmentShaderFromString;
-    return useProgramWithVertexShaderString(withBool(vertex), withBool(fragment));
+    if (!useProgramWithVertexShaderString(withBool(vertex), withBool(fragment))) {
+        return false;
+    }
+    _wholeFragmentShader = this->fragmentShaderString();
+    _usesMask = _usesMulticolour = true;
+    return true;
+}
+
+// Makes the leanest program that the brush can do with current. One that does not build leaves the present one, which
+// draws the same.
+void ESLineRender::chooseProgram(bool mask, bool multicolour) {
+    if (mask == _usesMask && multicolour == _usesMulticolour) {
+        return;
+    }
+    _usesMask = mask;
+    _usesMulticolour = multicolour;
+    const QString defines = QLatin1String(mask ? "" : "#define NO_MASK\n") +
+                            QLatin1String(multicolour ? "" : "#define NO_MULTICOLOUR\n");
+    if (!useProgramWithVertexShaderString(vertexShaderString(), withDefines(_wholeFragmentShader, defines))) {
+        useProgramWithVertexShaderString(vertexShaderString(), _wholeFragmentShader);
+    }
 }
 
 void ESLineRender::bindAttributeForProgram(ESProgram& program) {
@@ -184,11 +211,13 @@ void ESLineRender::beginDrawing() {
     settings.flow = flow();
     settings.lineProcessType = lineProcessType();
 
+    const bool mask = _needMaskTexture && _maskTexture != nullptr && _maskTexture->isEnabled();
+    chooseProgram(mask, settings.colorFul);
     program()->bind();
     if (!_tipCellsUploaded) {
         uploadTipCells();
     }
-    setMaskUniforms();
+    setMaskUniforms(mask);
     _colorful.set(settings.colorFul);
     if (settings.colorFul) {
         const bool jitters = _dabs.flags().hsvTingle;
@@ -203,9 +232,7 @@ void ESLineRender::beginDrawing() {
     checkGLStep(kSourcePath, __LINE__);
 }
 
-void ESLineRender::setMaskUniforms() {
-    const bool useMask =
-        _needMaskTexture && _maskTexture != nullptr && _maskTexture->useAtPosition(_maskTexturePositon);
+void ESLineRender::setMaskUniforms(bool useMask) {
     _useMask.set(useMask);
     // The sampler gets its own unit even when unused: two samplers on one unit of different kinds may not
     // draw.
@@ -213,6 +240,7 @@ void ESLineRender::setMaskUniforms() {
     if (!useMask) {
         return;
     }
+    _maskTexture->useAtPosition(_maskTexturePositon);
     // A tile is a whole pixel at least, or its pattern would divide by nothing.
     _maskSize.set(std::max(1.0f, std::floor(_maskScale * static_cast<float>(_maskImage.width()))),
                   std::max(1.0f, std::floor(_maskScale * static_cast<float>(_maskImage.height()))));

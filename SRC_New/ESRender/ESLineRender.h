@@ -120,7 +120,8 @@ private:
 
     void takeBaseSettings();
     void beginDrawing();
-    void setMaskUniforms();
+    void chooseProgram(bool mask, bool multicolour);
+    void setMaskUniforms(bool useMask);
     void uploadTipCells();
     void drawDab(const Dab& dab);
     void clipTo(const Bounds& bounds) const;
@@ -134,6 +135,8 @@ private:
     std::unique_ptr<TextureObject> _maskTexture;
     GLenum _maskTexturePositon = GL_TEXTURE7;
 
+    QString _wholeFragmentShader;                    // the text last set, of which leaner programs are made
+    bool _usesMask = true, _usesMulticolour = true;  // of the current program
     bool _tipCellsUploaded = false;
     GLint _positionIndex = -1;
     GLint _texCoordIndex = -1;

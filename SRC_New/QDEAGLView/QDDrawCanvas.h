@@ -43,6 +43,7 @@ struct StrokeStats {
 // Owns     its GL context, layers, renderers and line records. Whatever GL context the caller had current is
 //          current again when a member function returns, and while a delegate is called.
 // Thread   one thread at a time; several canvases of a process may interleave their strokes on one thread.
+// Life     to be destroyed before main() returns: OpenGL and Qt may be gone when static objects go.
 // Errors   never throws; a failure is a log line and a false or null result.
 class QDDrawCanvas {
 public:
@@ -181,6 +182,9 @@ public:
     // Times each stage, waiting for the GL work of each: honest shares, but slower strokes.
     void setProfiling(bool profiling) { _profiling = profiling; }
     const StrokeStats& strokeStats() const { return _stats; }
+    // A host that enters many strokes in a row holds an ESCurrentScope of this meanwhile: switching contexts once
+    // is cheaper than for every call.
+    ESContext& esContext() { return *_esContext; }
     // The driver's renderer string.
     QString rendererName();
 
@@ -195,6 +199,9 @@ public:
     bool setBrushValue(const BrushProperty& property, const QVariant& value);
     QVariant brushValue(const BrushProperty& property) const;
     const BrushSettings& brush() const { return _brush; }
+    // The records that the line and the sub-line are drawn by; the canvas's, to look at.
+    const LPLineParams& lineParaObj() const { return *_lineParaObj; }
+    const LPLineParams& subLineParaObj() const { return *_subLineParaObj; }
 
     std::int32_t brushType() const { return _brush.brushType; }
     void setBrushType(std::int32_t value);

@@ -18,6 +18,7 @@
 
 #include "BrushPlan.h"
 #include "Console.h"
+#include "ESContext/ESCurrentScope.h"
 #include "LineProcess/LPRandom.h"
 #include "PictureFile.h"
 #include "QDEAGLView/QDDrawCanvas.h"
@@ -212,6 +213,7 @@ private:
     }
 
     QString paintAll() {
+        const ESCurrentScope current(_canvas->esContext());  // nobody else draws meanwhile
         Progress progress(_job.samples);
         for (std::size_t i = 0; i < _job.recordings.size(); ++i) {
             QString wrong = apply(_job.plan.undo(i));

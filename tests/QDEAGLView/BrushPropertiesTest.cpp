@@ -8,6 +8,7 @@
 #include <string>
 
 #include "ESRender/ESImageRender.h"
+#include "LineProcess/LPProperties.h"
 #include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"
 #include "support/Named.h"
@@ -234,6 +235,38 @@ TEST_P(BrushEffectTest, ShowsInTheStroke) {
 INSTANTIATE_TEST_SUITE_P(Properties, BrushEffectTest, ::testing::ValuesIn(kEffects), byName);
 
 // Rules of their own
+
+TEST_F(BrushPropertiesTest, LineValuesReachTheRecordsTheirRowsName) {
+    auto canvas = makeCanvas(32, 32);
+    const auto stored = [](const LPLineParams& record, const BrushProperty& row) {
+        lpSetParaObj(const_cast<LPLineParams*>(&record));
+        return row.type() == BrushValueType::boolean ? (lpGetPropertyb(row.lineId) ? 1.0f : 0.0f)
+                                                     : lpGetPropertyf(row.lineId);
+    };
+    for (const BrushProperty& row : brushProperties()) {
+        if (row.lines == Lines::none) {
+            continue;
+        }
+        const bool isBoolean = row.type() == BrushValueType::boolean;
+        const float value = isBoolean ? 0.0f : std::clamp(0.4375f, row.low, row.high);
+        const float mainBefore = stored(canvas->lineParaObj(), row),
+                    subBefore = stored(canvas->subLineParaObj(), row);
+        ASSERT_TRUE(canvas->setBrushValue(row, isBoolean ? QVariant(false) : QVariant(value)));
+        EXPECT_EQ(stored(canvas->lineParaObj(), row), row.lines == Lines::sub ? mainBefore : value)
+            << row.name;
+        EXPECT_EQ(stored(canvas->subLineParaObj(), row), row.lines == Lines::main ? subBefore : value)
+            << row.name;
+    }
+    canvas->setTrackNum(3);
+    canvas->setRadiusControl({0.1f, 0.2f, 0.3f});
+    canvas->setSlRadius(9);
+    EXPECT_EQ(canvas->lineParaObj().trackNum, 3);
+    EXPECT_EQ(canvas->subLineParaObj().trackNum, 0);
+    EXPECT_EQ(canvas->subLineParaObj().radiusControl.speed, 0.3f);
+    EXPECT_EQ(canvas->lineParaObj().radiusControl.altitude, 0.2f);
+    EXPECT_EQ(canvas->subLineParaObj().radius, 9.0f);
+    EXPECT_EQ(makeCanvas(32, 32)->lineParaObj().maxRadius, 1.0f);
+}
 
 TEST_F(BrushPropertiesTest, TheSecondLineFollowsTheFirst) {
     auto canvas = makeCanvas(32, 32);

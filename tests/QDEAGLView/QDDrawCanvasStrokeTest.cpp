@@ -149,6 +149,98 @@ TEST_F(CanvasStrokeTest, AltitudeNotGivenIsUprightAndPressureNotGivenHasNoInflue
     EXPECT_GT(painted(paint(1)).height(), painted(upright).height());
 }
 
+// Strokes that do not go as they should
+
+void across(QDDrawCanvas& canvas, double y) {
+    canvas.drawingWithBeginPoint({20, y});
+    canvas.drawingWithMoveToPoint({60, y + 5});
+    canvas.drawingWithMoveToPoint({120, y});
+    canvas.drawingWithEndPoint({180, y + 8});
+}
+
+TEST_F(CanvasStrokeTest, NoStrokeLeavesAnythingToTheNext) {
+    struct Mishap {
+        const char* name;
+        void (*happen)(QDDrawCanvas&);
+    };
+    const Mishap mishaps[] = {
+        {"ended", [](QDDrawCanvas& c) { across(c, 25); }},
+        {"never ended",
+         [](QDDrawCanvas& c) {
+             c.drawingWithBeginPoint({20, 25});
+             c.drawingWithMoveToPoint({90, 30});
+         }},
+        {"end refused",
+         [](QDDrawCanvas& c) {
+             c.drawingWithBeginPoint({20, 25});
+             c.drawingWithMoveToPoint({90, 30});
+             c.drawingWithEndPoint({std::nan(""), 0});
+         }},
+        {"sub-line switched off",
+         [](QDDrawCanvas& c) {
+             c.setRepeatedlyRenderEnabled(true);
+             c.drawingWithBeginPoint({20, 25});
+             c.drawingWithMoveToPoint({90, 30});
+             c.setRepeatedlyRenderEnabled(false);
+             c.drawingWithEndPoint({120, 25});
+         }},
+    };
+    for (const Mishap& mishap : mishaps) {
+        SCOPED_TRACE(mishap.name);
+        auto canvas = makeCanvas();
+        mishap.happen(*canvas);
+        const QImage first = canvas->image();
+        EXPECT_FALSE(painted(first).isNull());
+        // The next stroke, with and without a mask, changes only its own neighbourhood.
+        canvas->setRepeatedlyRenderEnabled(true);
+        across(*canvas, 118);
+        canvas->setRepeatedlyRenderEnabled(false);
+        across(*canvas, 120);
+        auto fresh = makeCanvas();
+        fresh->setRepeatedlyRenderEnabled(true);
+        across(*fresh, 118);
+        fresh->setRepeatedlyRenderEnabled(false);
+        across(*fresh, 120);
+        EXPECT_TRUE(imagesMatch(canvas->image().copy(0, 0, 200, 80), first.copy(0, 0, 200, 80)));
+        EXPECT_TRUE(imagesMatch(canvas->image().copy(0, 80, 200, 70), fresh->image().copy(0, 80, 200, 70)));
+    }
+}
+
+TEST_F(CanvasStrokeTest, WithoutABeginNothingIsDrawn) {
+    auto canvas = makeCanvas();
+    canvas->drawingWithMoveToPoint({80, 60});
+    canvas->drawingWithEndPoint({90, 60});
+    EXPECT_TRUE(painted(canvas->image()).isNull());
+    // A refused begin leaves the beginning to the first move.
+    canvas->drawingWithBeginPoint({std::nan(""), 60});
+    canvas->drawingWithMoveToPoint({80, 60});
+    canvas->drawingWithMoveToPoint({120, 60});
+    canvas->drawingWithEndPoint({140, 60});
+    EXPECT_GT(painted(canvas->image()).left(), 60);
+    canvas->drawingWithMoveToPoint({20, 140}, false);
+    EXPECT_LT(painted(canvas->image()).bottom(), 100);
+}
+
+TEST_F(CanvasStrokeTest, ADelegateMayTakeItselfOffAndHasTheHostsContext) {
+    struct Leaver : QDDrawViewDelegate {
+        QPointF drawViewShouldDrawBegin(QDDrawCanvas& canvas, QPointF p) override {
+            context = eglGetCurrentContext();
+            canvas.setDelegate(nullptr);
+            return p;
+        }
+        void drawViewWillDrawBegin(QDDrawCanvas&, QPointF) override {
+            ADD_FAILURE() << "called after leaving";
+        }
+        EGLContext context = nullptr;
+    } leaver;
+    leaver.context = &leaver;
+    auto canvas = makeCanvas();
+    canvas->setDelegate(&leaver);
+    across(*canvas, 60);
+    EXPECT_EQ(leaver.context, EGL_NO_CONTEXT);
+    EXPECT_FALSE(painted(canvas->image()).isNull());
+}
+
 // Several canvases, and the host's own context
 
 TEST_F(CanvasStrokeTest, StrokesOfTwoCanvasesMayInterleave) {
