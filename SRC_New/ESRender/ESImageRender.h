@@ -4,10 +4,10 @@
 // mixes the two; the caller sets the factors (ONE, ZERO).
 //
 // Units    buffer pixels, top-left origin; a point's radius field is the rectangle's width, roundness times
-// that its height. Owns     its programs, a placed image's texture and the background copy. The line and
-// sub-line textures are the
-//          context's: they have the buffer's size and are read one texel a pixel, so their filters are set to
-//          nearest.
+//          that its height.
+// Owns     its programs, a placed image's texture and the background copy. The line and sub-line textures are
+//          the context's: they have the buffer's size and are read one texel a pixel, so their filters are
+//          set to nearest.
 // Errors   init gives null when the program does not build. GL errors are logged and drawing goes on.
 #pragma once
 

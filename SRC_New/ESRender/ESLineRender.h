@@ -2,10 +2,12 @@
 // Draws the points of a stroke as textured, rotated, squeezed and jittered dabs into the bound framebuffer.
 //
 // Units    buffer pixels, top-left origin; angles counter-clockwise in radians; a point's radius field is the
-// dab's width. Owns     its programs, tip and paper textures. The context must be current for everything but
-// the plain setters. State    the dab counter and direction run on from call to call until
-// resetLineProporty() begins the next stroke. Errors   init() gives null when the program does not build. GL
-// errors are logged and drawing goes on.
+//          dab's width.
+// Owns     its programs, tip and paper textures. The context must be current for everything but the plain
+//          setters.
+// State    the dab counter and direction run on from call to call until resetLineProporty() begins the next
+//          stroke.
+// Errors   init() gives null when the program does not build. GL errors are logged and drawing goes on.
 #pragma once
 
 #include <QRectF>

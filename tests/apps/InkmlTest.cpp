@@ -17,7 +17,6 @@ namespace dabcanvas::dabpaint {
 namespace {
 
 // ---- Point lists
-// ------------------------------------------------------------------------------------------------
 
 constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
 
@@ -73,7 +72,6 @@ const PointList kPointLists[] = {
 INSTANTIATE_TEST_SUITE_P(ByHand, PointListTest, ::testing::ValuesIn(kPointLists), byName);
 
 // ---- Formats
-// ----------------------------------------------------------------------------------------------------
 
 constexpr float kNone = -1;
 
@@ -146,7 +144,6 @@ TEST(InkmlTest, UnknownForceBeforeTheFirstKnownIsThatOne) {
 }
 
 // ---- Files
-// ------------------------------------------------------------------------------------------------------
 
 TEST(InkmlTest, AsAnOfficeProgramWritesIt) {
     const auto read = readNamed(QStringLiteral("office.inkml"));

@@ -132,7 +132,6 @@ TEST_F(ProgramTest, FullOutputIsAFailure) {
 }
 
 // ---- Painting (needs OpenGL)
-// ------------------------------------------------------------------------------------
 
 const QStringList kFromStandardInput{QStringLiteral("paint"),  QStringLiteral("-"),
                                      QStringLiteral("-o"),     QStringLiteral("-"),

@@ -16,7 +16,6 @@ namespace {
 using ::testing::HasSubstr;
 
 // ---- Rows
-// -------------------------------------------------------------------------------------------------------
 
 TEST(RowsTest, PressureZeroPartsStrokesAndAFifthNumberIsTheAltitude) {
     const auto recording = readNamed(QStringLiteral("hover.dat"));
@@ -42,7 +41,6 @@ TEST(RowsTest, LineEndsOfEverySystem) {
 }
 
 // ---- JSON
-// -------------------------------------------------------------------------------------------------------
 
 TEST(JsonRecordingTest, CanvasSettingsAndSamples) {
     const auto recording = readNamed(QStringLiteral("canvas.json"));
@@ -90,7 +88,6 @@ TEST(JsonRecordingTest, DabsInputTakesWhatPaintingRefuses) {
 }
 
 // ---- Refusals
-// ---------------------------------------------------------------------------------------------------
 
 struct BadRecording {
     const char* file;
@@ -206,7 +203,6 @@ TEST(BadRecordingTest, DeepNestingIsRefused) {
 }
 
 // ---- Canvas size
-// ------------------------------------------------------------------------------------------------
 
 TEST(NeededSizeTest, CoversSamplesAndMarginOrIsTheCanvas) {
     Recording recording;

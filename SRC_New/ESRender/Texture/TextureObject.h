@@ -4,17 +4,15 @@
 //
 // Pixels   premultiplied RGBA, 8 bits each. Every texel outside an image is transparent.
 // Layout   GL row 0 (t = 0) is the bottom of the picture: an image's top row lies at its t1. Images stand at
-// the
-//          texture's top (t1 of the first row of cells is 1), raw pixels at its bottom (t0 is 0).
+//          the texture's top (t1 of the first row of cells is 1), raw pixels at its bottom (t0 is 0).
 // Atlas    one cell, or 2 x 2 cells for 2 to 4 images, 4 x 4 for more; image i is in column i mod g and row i
-// / g,
-//          counted from the top, at its cell's top left. A larger image is squeezed to its cell on
-//          each axis by itself, a smaller one keeps its size. Mip levels stop where a cell is one texel, so
-//          no texel mixes two cells; bilinear reads within half a texel of a cell's rim still touch the
+//          / g, counted from the top, at its cell's top left. A larger image is squeezed to its cell on each
+//          axis by itself, a smaller one keeps its size. Mip levels stop where a cell is one texel, so no
+//          texel mixes two cells; bilinear reads within half a texel of a cell's rim still touch the
 //          neighbour's rim texels.
 // Owns     the texture. The context must be current to make, use and destroy it.
-// Errors   never throws. Short memory is logged and leaves the object without a texture: isEnabled() is
-//          false and using it binds nothing.
+// Errors   never throws. Short memory is logged and leaves the object without a texture: isEnabled() is false
+//          and using it binds nothing.
 #pragma once
 
 #include <epoxy/gl.h>

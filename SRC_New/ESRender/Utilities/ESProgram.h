@@ -3,7 +3,8 @@
 //
 // Life     made unlinked, link() makes it usable; never rebuilt.
 // Owns     program, shaders, vertex array and buffer. The context must be current to make, use and destroy
-// it. Errors   compile and link failures are logged and make link() return false.
+//          it.
+// Errors   compile and link failures are logged and make link() return false.
 #pragma once
 
 #include <epoxy/gl.h>
