@@ -8,6 +8,7 @@
 #include "ESRender/ImageShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESGLTexture.h"
+#include "ESRender/VertexAttribute.h"
 #include "Maths/Geometry.h"
 
 namespace {
@@ -62,6 +63,7 @@ struct ESImageRender::Bounds {
 
     // Truncated, but an edge that means a whole pixel may come out a rounding error short of it.
     static int wholePixel(double edge) {
+        edge = std::clamp(edge, -1e6, 1e6);  // far off any buffer
         const double nearest = std::nearbyint(edge);
         return static_cast<int>(std::fabs(edge - nearest) < 1e-3 ? nearest : edge);
     }
@@ -275,14 +277,9 @@ void ESImageRender::drawRect(const LPPoint& point) {
         {-half, halfHeight, 0, 1, coords[6], coords[7]},
     };
     glBufferData(GL_ARRAY_BUFFER, sizeof corners, corners, GL_STATIC_DRAW);
-    glVertexAttribPointer(static_cast<GLuint>(_positionIndex), 4, GL_FLOAT, GL_FALSE, sizeof(Vertex),
-                          nullptr);
-    glEnableVertexAttribArray(static_cast<GLuint>(_positionIndex));
-    if (_texCoordIndex >= 0) {  // the reset program reads no source, so its linker drops the coordinate
-        glVertexAttribPointer(static_cast<GLuint>(_texCoordIndex), 2, GL_FLOAT, GL_FALSE, sizeof(Vertex),
-                              reinterpret_cast<const void*>(offsetof(Vertex, s)));
-        glEnableVertexAttribArray(static_cast<GLuint>(_texCoordIndex));
-    }
+    dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
+    // The reset program reads no source, so its linker drops the coordinate.
+    dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
     _flip.set(_flipX ? -1 : 1, _flipY ? -1 : 1);
     _center.set(point.position.x, point.position.y);
     checkGLStep(kSourcePath, __LINE__);

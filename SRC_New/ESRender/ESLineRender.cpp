@@ -7,6 +7,7 @@
 
 #include "ESRender/LineShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
+#include "ESRender/VertexAttribute.h"
 #include "Maths/Geometry.h"
 
 namespace {
@@ -271,12 +272,8 @@ void ESLineRender::uploadTipCells() {
     }
     glBufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(tips * kCorners * sizeof(Vertex)), vertices.data(),
                  GL_STATIC_DRAW);
-    glVertexAttribPointer(static_cast<GLuint>(_positionIndex), 4, GL_FLOAT, GL_FALSE, sizeof(Vertex),
-                          nullptr);
-    glEnableVertexAttribArray(static_cast<GLuint>(_positionIndex));
-    glVertexAttribPointer(static_cast<GLuint>(_texCoordIndex), 2, GL_FLOAT, GL_FALSE, sizeof(Vertex),
-                          reinterpret_cast<const void*>(offsetof(Vertex, s)));
-    glEnableVertexAttribArray(static_cast<GLuint>(_texCoordIndex));
+    dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
+    dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
     glUniform4fv(_tipCells, static_cast<GLsizei>(tips), cells.data());
     const QSize size = texture != nullptr ? texture->pixSize() : QSize(1, 1);
     _tipSize.set(size.width(), size.height());
@@ -301,9 +298,11 @@ void ESLineRender::drawDab(const Dab& dab) {
 }
 
 void ESLineRender::clipTo(const Bounds& bounds) const {
+    // Dabs may lie far off the buffer; a box that is as far off clips the same.
+    const auto whole = [](double value) {
+        return static_cast<GLint>(std::nearbyint(std::clamp(value, -1e6, 1e6)));
+    };
     glEnable(GL_SCISSOR_TEST);
-    glScissor(static_cast<GLint>(std::nearbyint(bounds.minX)),
-              static_cast<GLint>(std::nearbyint(bufferSize().height() - bounds.maxY)),
-              static_cast<GLsizei>(std::nearbyint(bounds.maxX - bounds.minX)),
-              static_cast<GLsizei>(std::nearbyint(bounds.maxY - bounds.minY)));
+    glScissor(whole(bounds.minX), whole(bufferSize().height() - bounds.maxY),
+              std::max(whole(bounds.maxX - bounds.minX), 0), std::max(whole(bounds.maxY - bounds.minY), 0));
 }
