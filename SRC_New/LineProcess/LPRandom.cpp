@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double kRandScale = 4.656612873e-10;
+constexpr float kRandScale = 4.656612873e-10f;  // 2 to the power -31
 // Rounding to float can reach 1; the next value below keeps the interval open.
 constexpr float kBelowOne = 0x1.fffffep-1f;
 
@@ -25,7 +25,7 @@ float lpRandom() {
         seeded = true;
         std::srand(static_cast<unsigned>(std::time(nullptr)));
     }
-    return std::min(static_cast<float>(std::rand() * kRandScale), kBelowOne);
+    return std::min(static_cast<float>(std::rand()) * kRandScale, kBelowOne);
 }
 
 float lpUniformRandom(float low, float high) {
