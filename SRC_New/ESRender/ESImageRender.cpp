@@ -8,16 +8,13 @@
 #include "ESRender/ImageShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESGLTexture.h"
+#include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
 #include "Maths/Geometry.h"
 
 namespace {
 
 constexpr char kSourcePath[] = "SRC_New/ESRender/ESImageRender";
-
-QString withBool(QString source) {
-    return source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
-}
 
 // The mode programs in the order of their blend types, which count from 1; 3 has no program of its own.
 using Loader = QString (*)();
@@ -90,7 +87,8 @@ bool ESImageRender::setVertexShaderString(const QString& vertexShaderString,
                                           const QString& fragmentShaderFromString) {
     const QString vertex = vertexShaderString.isNull() ? imageRenderVertexShaderString() : vertexShaderString;
     const QString fragment = fragmentShaderFromString.isNull() ? normalFSHString() : fragmentShaderFromString;
-    return useProgramWithVertexShaderString(withBool(vertex), withBool(fragment));
+    return useProgramWithVertexShaderString(ESShaderTools::withBool(vertex),
+                                            ESShaderTools::withBool(fragment));
 }
 
 void ESImageRender::removeProgramWithVertexShaderString(const QString& vertexShaderString,
@@ -137,19 +135,19 @@ void ESImageRender::setBlendType(std::uint32_t blendType) {
 }
 
 QString ESImageRender::vertexShaderStringForBlendType(std::uint32_t) {
-    return withBool(imageRenderVertexShaderString());
+    return ESShaderTools::withBool(imageRenderVertexShaderString());
 }
 
 QString ESImageRender::fragmentShaderStringForBlendType(std::uint32_t blendType) {
     const bool known = blendType >= 1 && blendType <= std::size(kBlendPrograms);
     const Loader loader = known ? kBlendPrograms[blendType - 1] : nullptr;
-    return withBool(loader != nullptr ? loader() : normalFSHString());
+    return ESShaderTools::withBool(loader != nullptr ? loader() : normalFSHString());
 }
 
 std::uint32_t ESImageRender::blendTypeOfFragmentShaderString(const QString& fragmentShaderString) {
     for (std::uint32_t type = 1; type <= std::size(kBlendPrograms); ++type) {
         const Loader loader = kBlendPrograms[type - 1];
-        const QString text = loader != nullptr ? withBool(loader()) : QStringLiteral("--");
+        const QString text = loader != nullptr ? ESShaderTools::withBool(loader()) : QStringLiteral("--");
         if (text == fragmentShaderString) {
             return type;
         }

@@ -7,6 +7,7 @@
 
 #include "ESRender/LineShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
+#include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
 #include "Maths/Geometry.h"
 
@@ -23,10 +24,6 @@ struct Vertex {
 static_assert(sizeof(Vertex) == 24);
 constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
 constexpr GLsizei kCorners = 4;
-
-QString withBool(QString source) {
-    return source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
-}
 
 // The source with names defined; a #version line stays the first.
 QString withDefines(const QString& source, const QString& defines) {
@@ -90,7 +87,8 @@ bool ESLineRender::setVertexShaderString(const QString& vertexShaderString,
         vertexShaderString.isNull() ? lineRenderNormalVertexShaderString() : vertexShaderString;
     const QString fragment = fragmentShaderFromString.isNull() ? lineRenderNormalFrangmentShaderString()
                                                                : fragmentShaderFromString;
-    if (!useProgramWithVertexShaderString(withBool(vertex), withBool(fragment))) {
+    if (!useProgramWithVertexShaderString(ESShaderTools::withBool(vertex),
+                                          ESShaderTools::withBool(fragment))) {
         return false;
     }
     _wholeFragmentShader = this->fragmentShaderString();

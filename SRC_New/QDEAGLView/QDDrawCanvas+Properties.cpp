@@ -5,6 +5,7 @@
 #include <cmath>
 #include <type_traits>
 
+#include "ESRender/Utilities/ESShaderTools.h"
 #include "LineProcess/LPProperties.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
@@ -221,9 +222,7 @@ void QDDrawCanvas::setBlendFragmentShaderString(const QString& value) {
     }
     settleDrawn();
     _esContext->beginRenderForType(ESRenderTypeCanvas);
-    QString source = value;
-    source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
-    const std::uint32_t type = ESImageRender::blendTypeOfFragmentShaderString(source);
+    const std::uint32_t type = ESImageRender::blendTypeOfFragmentShaderString(ESShaderTools::withBool(value));
     // An unknown text draws as normal. The blendType property deliberately keeps its value.
     _esRender->setBlendType(type != 0 ? type : std::uint32_t{ESBlendTypeNormal});
     _brush.blendFragmentShaderString = _esRender->fragmentShaderString();

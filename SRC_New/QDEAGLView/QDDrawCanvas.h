@@ -388,7 +388,8 @@ protected:
 
     // Where the canvas is shown, in view points; its size against bufferSize() gives scale().
     virtual QRectF displayFrame() const { return _frame; }
-    // Show this area, in view points with a top-left origin, again soon.
+    // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once: the
+    // canvas's GL context may be current.
     virtual void redisplayRect(const QRectF&) {}
 
 private:

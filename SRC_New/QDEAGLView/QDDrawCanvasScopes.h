@@ -13,7 +13,7 @@
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 
 // One run of line-process calls: this canvas's GL context and its copy of the line process's globals are
-// current, so that strokes of several canvases may interleave. No callback runs inside one.
+// current, so that strokes of several canvases may interleave. No delegate is called inside one.
 struct QDDrawCanvas::StrokeScope {
     explicit StrokeScope(QDDrawCanvas& canvas)
         : _canvas(canvas), _current(*canvas._esContext), _outer(lpSharedState()) {

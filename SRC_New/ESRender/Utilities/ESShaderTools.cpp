@@ -16,3 +16,7 @@ QString ESShaderTools::readFileWithPath(const QString& path) {
     }
     return QLatin1String("") + QString::fromUtf8(file.readAll());  // not null, even of an empty file
 }
+
+QString ESShaderTools::withBool(QString source) {
+    return source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
+}

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads shader source files as UTF-8 text. Null (not merely empty) when there is no such file.
+// Reads shader source files as UTF-8 text, null (not merely empty) when there is no such file, and prepares sources.
 #pragma once
 
 #include <QString>
@@ -9,4 +9,7 @@ public:
     // A resource by its name with extension, see ESResource.h.
     static QString readFile(const QString& name);
     static QString readFileWithPath(const QString& path);
+
+    // Sources may spell their booleans "_Bool"; what goes to the program cache, which compares texts, has "bool".
+    static QString withBool(QString source);
 };
