@@ -1,0 +1,370 @@
+// SPDX-License-Identifier: MIT
+#include "CanvasPointer.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QLineF>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPainter>
+#include <QTabletEvent>
+#include <QTimer>
+#include <QTouchEvent>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "BrushCursor.h"
+#include "CanvasViewport.h"
+#include "QDEAGLView/QDDrawView.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+constexpr int kErase = 5;              // the blend type
+constexpr double kWheelDoubles = 480;  // eighths of a degree of wheel for twice the size
+
+// The hot spot inside the brush's outline.
+QCursor dotCursor() {
+    QPixmap dot(11, 11);
+    dot.fill(Qt::transparent);
+    QPainter painter(&dot);
+    painter.fillRect(3, 3, 5, 5, QColor(255, 255, 255, 200));
+    painter.fillRect(4, 4, 3, 3, QColor(0, 0, 0, 220));
+    painter.end();
+    return QCursor(dot, 5, 5);
+}
+
+bool isTyping() {
+    const QWidget* focus = QApplication::focusWidget();
+    return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QAbstractSpinBox*>(focus);
+}
+
+}  // namespace
+
+CanvasPointer::CanvasPointer(CanvasViewport& viewport, BrushCursor& cursor, BrushModel& model)
+    : QObject(&viewport), _viewport(viewport), _cursor(cursor), _model(model) {
+    viewport.setMouseTracking(true);
+    viewport.setTabletTracking(true);
+    connect(&cursor, &BrushCursor::outlineChanged, this, &CanvasPointer::chooseCursor);
+    qApp->installEventFilter(this);  // the space bar counts wherever the focus is
+}
+
+void CanvasPointer::watchView() {
+    QDDrawView* view = _viewport.view();
+    view->setDelegate(this);
+    view->setMouseTracking(true);
+    view->setTabletTracking(true);
+    _down = false;
+}
+
+bool CanvasPointer::isIdle() const {
+    return !_viewport.view() || !_stroking;
+}
+
+bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
+        return watched->isWidgetType() && filterKey(*static_cast<QKeyEvent*>(event));
+    const bool inView = watched == _viewport.view();
+    if (!inView && watched != &_viewport)
+        return false;
+    const auto mapped = [&](QPointF local) {
+        return inView ? local + QPointF(_viewport.view()->pos()) : local;
+    };
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::MouseButtonRelease: {
+            auto& mouse = *static_cast<QMouseEvent*>(event);
+            const QPointF at = mapped(mouse.position());
+            return filterMouse(mouse, at) || (!inView && forwardToView(mouse, at));
+        }
+        case QEvent::TabletPress:
+        case QEvent::TabletMove:
+        case QEvent::TabletRelease: {
+            auto& tablet = *static_cast<QTabletEvent*>(event);
+            return inView && filterTablet(tablet, mapped(tablet.position()));
+        }
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::TouchCancel:
+            filterTouch(*static_cast<QTouchEvent*>(event));
+            return false;  // the view has to hear of every finger
+        case QEvent::Wheel: {
+            const auto& wheel = *static_cast<QWheelEvent*>(event);
+            if (isIdle())
+                _viewport.zoomAbout(_viewport.zoom() * std::exp2(wheel.angleDelta().y() / kWheelDoubles),
+                                    mapped(wheel.position()));
+            pointTo(mapped(wheel.position()));
+            return true;
+        }
+        case QEvent::NativeGesture: {
+            const auto& gesture = *static_cast<QNativeGestureEvent*>(event);
+            if (gesture.gestureType() != Qt::ZoomNativeGesture)
+                return false;
+            if (isIdle())
+                _viewport.zoomAbout(_viewport.zoom() * (1 + gesture.value()), mapped(gesture.position()));
+            return true;
+        }
+        case QEvent::Leave:
+            if (!inView) {
+                _cursor.hideOutline();
+                emit left();
+            }
+            return false;
+        default:
+            return false;
+    }
+}
+
+// ---- Keyboard
+
+bool CanvasPointer::filterKey(QKeyEvent& event) {
+    if (event.key() != Qt::Key_Space || event.modifiers() != Qt::NoModifier)
+        return false;
+    if (event.type() == QEvent::KeyRelease) {
+        if (!_spaceHeld)
+            return false;
+        if (!event.isAutoRepeat()) {
+            _spaceHeld = false;
+            chooseCursor();
+        }
+        return true;
+    }
+    // Over the canvas the space bar is for panning; elsewhere it presses the button that has the focus.
+    const bool blocked = QApplication::activeModalWidget() || QApplication::activePopupWidget() || isTyping();
+    if (blocked || !(_viewport.underMouse() || _viewport.hasFocus()))
+        return false;
+    _spaceHeld = true;
+    chooseCursor();
+    return true;
+}
+
+// ---- Mouse and pen
+
+bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
+    const bool isPress =
+        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+    if (isPress) {
+        _viewport.setFocus(Qt::MouseFocusReason);
+        const bool pans =
+            event.button() == Qt::MiddleButton || (event.button() == Qt::LeftButton && _spaceHeld);
+        if (pans && isIdle()) {
+            _panning = true;
+            _panFrom = at;
+            chooseCursor();
+            return true;
+        }
+        if (event.button() != Qt::LeftButton)
+            return false;
+        if (_picking) {
+            _pickPressed = true;
+            pickAt(at);
+            return true;
+        }
+        if (_viewport.view() && _viewport.view()->geometry().contains(at.toPoint())) {
+            _downPressure = -1;
+            pressed(at);
+        }
+        return false;
+    }
+    if (event.type() == QEvent::MouseMove) {
+        pointTo(at);
+        if (_panning) {
+            _viewport.pan(at - _panFrom);
+            _panFrom = at;
+            return true;
+        }
+        if (_pickPressed)
+            pickAt(at);
+        return _pickPressed;
+    }
+    if (_panning) {
+        _panning = false;
+        chooseCursor();
+        return true;
+    }
+    if (_pickPressed) {
+        _pickPressed = false;
+        setPicking(false);
+        return true;
+    }
+    if (event.button() == Qt::LeftButton)
+        released();
+    return false;
+}
+
+// So that a stroke may begin beside the canvas and come in over its edge.
+bool CanvasPointer::forwardToView(QMouseEvent& event, QPointF at) {
+    QDDrawView* view = _viewport.view();
+    const bool isPress =
+        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+    if (isPress && event.button() == Qt::LeftButton)
+        _forwarding = view != nullptr;
+    if (!_forwarding || !view)
+        return false;
+    if (event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton)
+        _forwarding = false;
+    QMouseEvent forwarded(event.type(), at - QPointF(view->pos()), event.scenePosition(),
+                          event.globalPosition(), event.button(), event.buttons(), event.modifiers(),
+                          event.pointingDevice());
+    QCoreApplication::sendEvent(view, &forwarded);
+    return true;
+}
+
+bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
+    emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
+    // Left to the mouse event that follows a tablet event which nobody took.
+    if (_spaceHeld || _panning || _picking || _pickPressed ||
+        (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
+        event.ignore();
+        return true;
+    }
+    pointTo(at);
+    if (event.type() == QEvent::TabletPress) {
+        _viewport.setFocus(Qt::MouseFocusReason);
+        if (event.pointerType() == QPointingDevice::PointerType::Eraser)
+            _model.beginOverride(BrushKey::blendType, kErase);
+        _downPressure = float(event.pressure());
+        pressed(at);
+    } else if (event.type() == QEvent::TabletMove) {
+        _downPressure = std::max(_downPressure, float(event.pressure()));
+    } else {
+        released();
+    }
+    return false;
+}
+
+void CanvasPointer::pressed(QPointF at) {
+    _down = true;
+    _marked = false;
+    _downAt = _viewport.bufferPoint(at);
+}
+
+void CanvasPointer::released() {
+    if (!_down)
+        return;
+    _down = false;
+    // After the view has ended the stroke, too.
+    QTimer::singleShot(0, this, [this] {
+        if (!_marked && !_manyFingers && isIdle())
+            leaveDab(_downAt);
+        _manyFingers = false;
+        _model.endOverride();
+    });
+}
+
+// The view draws nothing for a click: a stroke as short as one can be, without tapers, leaves about one dab.
+void CanvasPointer::leaveDab(QPointF at) {
+    QDDrawView* view = _viewport.view();
+    if (!view || view->isSmudgeType())
+        return;
+    static constexpr BrushKey kTapers[] = {BrushKey::startRadius, BrushKey::endRadius};
+    for (const BrushKey key : kTapers)
+        view->setBrushValue(brushProperty(key), 0.0f);
+    const std::int32_t gathered = view->trackNum();
+    view->setTrackNum(0);
+    const QSizeF scale = view->scale();
+    const auto viewPoint = [&](double x) {
+        return QPointF((at.x() + x) * scale.width(), at.y() * scale.height());
+    };
+    view->drawingWithBeginPoint(viewPoint(0), _downPressure);
+    view->drawingWithMoveToPoint(viewPoint(1.1), _downPressure);
+    view->drawingWithEndPoint(viewPoint(1.1), _downPressure);
+    view->setTrackNum(gathered);
+    for (const BrushKey key : kTapers)
+        view->setBrushValue(brushProperty(key), _model.value(key));
+}
+
+void CanvasPointer::drawViewDidDrawBegin(QDDrawCanvas&, QPointF) {
+    _stroking = true;
+}
+
+void CanvasPointer::drawViewDidDrawMove(QDDrawCanvas&, QPointF) {
+    _marked = true;
+}
+
+void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas&, QPointF) {
+    _stroking = false;
+    emit strokeEnded();
+}
+
+// ---- Fingers
+
+void CanvasPointer::filterTouch(const QTouchEvent& event) {
+    QList<QPointF> fingers;
+    for (const QEventPoint& point : event.points()) {
+        if (point.state() != QEventPoint::Released)
+            fingers << _viewport.mapFromGlobal(point.globalPosition());
+    }
+    if (event.type() == QEvent::TouchBegin && fingers.size() == 1) {
+        _manyFingers = false;
+        _downPressure = -1;
+        pressed(fingers.first());
+    }
+    if (fingers.size() < 2) {
+        _pinchSpan = 0;
+        if (event.type() == QEvent::TouchEnd)
+            released();
+        return;
+    }
+    _manyFingers = true;
+    const QPointF center = (fingers[0] + fingers[1]) / 2;
+    const double span = std::max(1.0, QLineF(fingers[0], fingers[1]).length());
+    if (_pinchSpan > 0 && isIdle()) {
+        _viewport.pan(center - _pinchCenter);
+        _viewport.zoomAbout(_viewport.zoom() * span / _pinchSpan, center);
+    }
+    _pinchCenter = center;
+    _pinchSpan = span;
+}
+
+// ---- What the pointer shows
+
+void CanvasPointer::setPicking(bool picking) {
+    if (_picking == picking)
+        return;
+    _picking = picking;
+    chooseCursor();
+    emit pickingChanged(picking);
+}
+
+void CanvasPointer::pickAt(QPointF at) {
+    QDDrawView* view = _viewport.view();
+    const QPointF point = _viewport.bufferPoint(at);
+    const QPoint pixel(int(std::floor(point.x())), int(std::floor(point.y())));
+    if (!view || !view->displayImage().rect().contains(pixel))
+        return;
+    QColor color = view->displayImage().pixelColor(pixel);
+    if (color.alpha() == 0)
+        return;
+    color.setAlpha(255);
+    emit picked(color);
+}
+
+void CanvasPointer::pointTo(QPointF at) {
+    if (_picking || _panning)
+        _cursor.hideOutline();
+    else
+        _cursor.showAt(at);
+    emit moved(_viewport.bufferPoint(at));
+}
+
+void CanvasPointer::chooseCursor() {
+    static const QCursor dot = dotCursor();
+    if (_panning)
+        _viewport.setCursor(Qt::ClosedHandCursor);
+    else if (_spaceHeld)
+        _viewport.setCursor(Qt::OpenHandCursor);
+    else if (_picking || _cursor.isTiny())
+        _viewport.setCursor(Qt::CrossCursor);
+    else
+        _viewport.setCursor(dot);
+}
+
+}  // namespace dabcanvas::dabpainter

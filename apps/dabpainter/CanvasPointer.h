@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QPointF>
+
+#include "BrushModel.h"
+#include "QDEAGLView/QDDrawViewDelegate.h"
+
+class QEvent;
+class QKeyEvent;
+class QMouseEvent;
+class QTabletEvent;
+class QTouchEvent;
+
+namespace dabcanvas::dabpainter {
+
+class BrushCursor;
+class CanvasViewport;
+
+// What the pointer does besides painting, which the view does itself: panning, zooming, picking colours, the dab
+// of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the keyboard.
+class CanvasPointer : public QObject, public QDDrawViewDelegate {
+    Q_OBJECT
+
+public:
+    CanvasPointer(CanvasViewport& viewport, BrushCursor& cursor, BrushModel& model);
+
+    // To be called with every new view, which paints for this delegate.
+    void watchView();
+    bool isPicking() const { return _picking; }
+    void setPicking(bool picking);
+    // No stroke is in progress: the canvas may be replaced, zoomed or saved.
+    bool isIdle() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void drawViewDidDrawBegin(QDDrawCanvas&, QPointF) override;
+    void drawViewDidDrawMove(QDDrawCanvas&, QPointF bufferPoint) override;
+    void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) override;
+
+signals:
+    void moved(QPointF bufferPoint);
+    void left();
+    void pressureChanged(float pressure);  // -1: the device gives none
+    void strokeEnded();
+    void picked(const QColor& color);
+    void pickingChanged(bool picking);
+
+private:
+    bool filterKey(QKeyEvent& event);
+    bool filterMouse(QMouseEvent& event, QPointF at);
+    bool filterTablet(QTabletEvent& event, QPointF at);
+    void filterTouch(const QTouchEvent& event);
+    bool forwardToView(QMouseEvent& event, QPointF at);
+    void pickAt(QPointF at);
+    void pressed(QPointF at);
+    void released();
+    void leaveDab(QPointF at);
+    void pointTo(QPointF at);
+    void chooseCursor();
+
+    CanvasViewport& _viewport;
+    BrushCursor& _cursor;
+    BrushModel& _model;
+
+    bool _spaceHeld = false;
+    bool _panning = false;
+    QPointF _panFrom;
+    bool _picking = false;
+    bool _pickPressed = false;
+    bool _forwarding = false;  // a stroke began beside the canvas
+    bool _stroking = false;
+
+    // Of the pointer that is down
+    bool _down = false, _marked = false, _manyFingers = false;
+    QPointF _downAt;  // buffer pixels
+    float _downPressure = -1;
+
+    // Of the last pinch event
+    QPointF _pinchCenter;
+    double _pinchSpan = 0;
+};
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace dabcanvas::dabpainter {
+
+struct CommandLine {
+    bool help = false, version = false;
+    QString image;              // to open; empty for none
+    std::optional<QSize> size;  // of a new canvas, in pixels
+    QString fault;              // one line on what is wrong; then nothing else counts
+};
+
+// Reads the arguments after the program's name. Touches no file.
+CommandLine readCommandLine(const QStringList& arguments);
+
+QByteArray usageText();
+QByteArray versionText();
+
+}  // namespace dabcanvas::dabpainter

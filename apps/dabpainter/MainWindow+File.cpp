@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+// The canvas as a file: new, open, place, save, and what is unsaved.
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+
+#include "BrushStorage.h"
+#include "CanvasPointer.h"
+#include "CanvasViewport.h"
+#include "ImageFiles.h"
+#include "MainWindow.h"
+#include "QDEAGLView/QDDrawView.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+ESColor colorOf(const QColor& background) {
+    return background.alpha() == 0 ? ESColor() : ESColor(background);
+}
+
+template <typename View>
+bool putImage(View& view, const QImage& image, const QRectF& rect) {
+    if constexpr (requires { view.setImageInBufferRect(image, rect); })
+        return view.setImageInBufferRect(image, rect);
+    else
+        return false;
+}
+
+template <typename View>
+bool blendImage(View& view, const QImage& image, const QRectF& rect) {
+    if constexpr (requires { view.drawImage(image, rect); })
+        return view.drawImage(image, rect);
+    else
+        return false;
+}
+
+bool isPng(const QString& path) {
+    return QFileInfo(path).suffix().compare(QLatin1String("png"), Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+// ---- The canvas
+
+bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)>& paint) {
+    std::unique_ptr<QDDrawView> made = QDDrawView::initWithFrame(QRectF(QPointF(0, 0), QSizeF(size)));
+    if (!made || !paint(*made)) {
+        _prompts.tell(this, tr("A canvas of %1 × %2 pixels cannot be had from this graphics driver.")
+                                .arg(size.width())
+                                .arg(size.height()));
+        return false;
+    }
+    _brush.attach(made.get());
+    if (!_brushRead) {
+        _brushRead = true;
+        readBrush(_settings, _brush);
+    }
+    _viewport->setView(std::move(made));
+    _pointer->watchView();
+    _driverLabel->setText(view()->rendererName());
+    showCanvasFacts();
+    return true;
+}
+
+bool MainWindow::startCanvas(const CanvasPlan& plan) {
+    const bool made = replaceCanvas(plan.size, [&](QDDrawView& view) {
+        view.clearWithColor(colorOf(plan.background), false);
+        return true;
+    });
+    if (!made)
+        return false;
+    _plan = plan;
+    setPath(QString());
+    markSaved();  // there is nothing on it that could be lost
+    return true;
+}
+
+void MainWindow::clearCanvas() {
+    if (!view() || !_pointer->isIdle())
+        return;
+    view()->clearWithColor(colorOf(_plan.background), true);
+    markChanged();
+}
+
+void MainWindow::newCanvas() {
+    if (!_pointer->isIdle() || !mayDiscard())
+        return;
+    NewCanvasDialog dialog(_plan, this);
+    while (dialog.exec() == QDialog::Accepted && !startCanvas(dialog.plan())) {
+    }
+}
+
+// ---- Files
+
+bool MainWindow::openImage(const QString& path) {
+    const ReadImage read = readImageFile(path);
+    if (!read.fault.isEmpty()) {
+        _prompts.tell(this, read.fault);
+        return false;
+    }
+    const bool opened = replaceCanvas(read.image.size(), [&](QDDrawView& view) {
+        return putImage(view, read.image, QRectF(read.image.rect()));
+    });
+    if (!opened)
+        return false;
+    _plan = {read.image.size(), read.image.hasAlphaChannel() ? Qt::transparent : Qt::white};
+    setPath(QFileInfo(path).absoluteFilePath());
+    markSaved();
+    return true;
+}
+
+bool MainWindow::placeImage(const QString& path) {
+    if (!view())
+        return false;
+    const ReadImage read = readImageFile(path);
+    if (!read.fault.isEmpty()) {
+        _prompts.tell(this, read.fault);
+        return false;
+    }
+    const QSizeF canvas = view()->bufferSize();
+    QSizeF size = read.image.size();
+    if (size.width() > canvas.width() || size.height() > canvas.height())
+        size.scale(canvas, Qt::KeepAspectRatio);
+    const QPointF corner((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2);
+    // On whole pixels, so that a picture of its own size stays sharp.
+    const QRect rect(corner.toPoint(), size.toSize().expandedTo(QSize(1, 1)));
+    const QSizeF scale = view()->scale();
+    blendImage(*view(), read.image,
+               QRectF(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
+                      rect.height() * scale.height()));
+    markChanged();
+    return true;
+}
+
+bool MainWindow::saveTo(const QString& path) {
+    if (!view() || !_pointer->isIdle())
+        return false;
+    const QString fault = writePngFile(path, view()->image());
+    if (!fault.isEmpty()) {
+        _prompts.tell(this, fault);
+        return false;
+    }
+    setPath(QFileInfo(path).absoluteFilePath());
+    markSaved();
+    statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), 3000);
+    return true;
+}
+
+void MainWindow::open() {
+    if (!_pointer->isIdle() || !mayDiscard())
+        return;
+    const QStringList paths = _prompts.pickImages(this, tr("Open Image"), false);
+    if (!paths.isEmpty())
+        openImage(paths.first());
+}
+
+void MainWindow::place() {
+    if (!_pointer->isIdle())
+        return;
+    const QStringList paths = _prompts.pickImages(this, tr("Place Image"), false);
+    if (!paths.isEmpty())
+        placeImage(paths.first());
+}
+
+// Only PNG is written, so that a picture of another kind asks for a name first.
+bool MainWindow::save() {
+    return isPng(_path) ? saveTo(_path) : saveAs();
+}
+
+bool MainWindow::saveAs() {
+    if (!view() || !_pointer->isIdle())
+        return false;
+    QString suggested = _path.isEmpty() ? tr("Untitled") : _path;
+    if (!isPng(suggested))
+        suggested = QFileInfo(suggested).dir().filePath(QFileInfo(suggested).completeBaseName()) +
+                    QStringLiteral(".png");
+    const QString path = _prompts.pickSaveName(this, suggested);
+    return !path.isEmpty() && saveTo(path);
+}
+
+// ---- What is unsaved
+
+void MainWindow::setPath(const QString& path) {
+    _path = path;
+    const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
+    setWindowTitle(QStringLiteral("%1[*] – Dabpainter").arg(name));
+}
+
+void MainWindow::markChanged() {
+    setWindowModified(true);
+}
+
+void MainWindow::markSaved() {
+    setWindowModified(false);
+}
+
+bool MainWindow::mayDiscard() {
+    if (!isUnsaved())
+        return true;
+    const QString name = _path.isEmpty() ? tr("Untitled") : QFileInfo(_path).fileName();
+    switch (_prompts.askUnsaved(this, name)) {
+        case UnsavedAnswer::save:
+            return save();
+        case UnsavedAnswer::discard:
+            return true;
+        case UnsavedAnswer::cancel:
+            break;
+    }
+    return false;
+}
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+// The window itself: menus, panel, status bar and what it remembers.
+#include "MainWindow.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSettings>
+#include <QStatusBar>
+#include <algorithm>
+#include <cmath>
+
+#include "BrushCursor.h"
+#include "BrushPanel.h"
+#include "BrushStorage.h"
+#include "CanvasPointer.h"
+#include "CanvasViewport.h"
+#include "QDEAGLView/QDDrawView.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+constexpr double kZoomStep = 1.25;
+constexpr int kStateVersion = 1;
+
+QKeySequence key(const char* text) {
+    return QKeySequence(QString::fromLatin1(text));
+}
+
+}  // namespace
+
+MainWindow::MainWindow(QSettings& settings, Prompts prompts)
+    : _settings(settings), _prompts(std::move(prompts)), _viewport(new CanvasViewport) {
+    auto* cursor = new BrushCursor(_brush, *_viewport);
+    _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
+    setCentralWidget(_viewport);
+    _panel = new BrushPanel(_brush, _prompts);
+    _dock = new QDockWidget(tr("Brush"));
+    _dock->setObjectName(QStringLiteral("brushDock"));
+    _dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    _dock->setWidget(_panel);
+    addDockWidget(Qt::RightDockWidgetArea, _dock);
+
+    makeFileMenu();
+    makeCanvasMenu();
+    makeBrushMenu();
+    makeViewMenu();
+    makeStatusBar();
+
+    connect(_panel, &BrushPanel::swapColors, this, &MainWindow::swapColors);
+    connect(_panel, &BrushPanel::eyedropper, this, [this] { _pointer->setPicking(true); });
+    connect(_pointer, &CanvasPointer::picked, this, [this](const QColor& color) {
+        _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor(color)));
+    });
+    connect(_pointer, &CanvasPointer::strokeEnded, this, &MainWindow::markChanged);
+    connect(_pointer, &CanvasPointer::moved, this, &MainWindow::showPosition);
+    connect(_pointer, &CanvasPointer::left, _positionLabel, &QLabel::clear);
+    connect(_pointer, &CanvasPointer::pressureChanged, this, [this](float pressure) {
+        _pressureLabel->setText(pressure < 0 ? QString()
+                                             : tr("Pressure %1 %").arg(std::lround(pressure * 100)));
+    });
+    connect(_viewport, &CanvasViewport::zoomChanged, this, &MainWindow::showCanvasFacts);
+    setPath(QString());
+    readState();
+}
+
+MainWindow::~MainWindow() {
+    _brush.attach(nullptr);
+}
+
+QDDrawView* MainWindow::view() const {
+    return _viewport->view();
+}
+
+// ---- Menus
+
+QAction* MainWindow::addTo(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
+                           const std::function<void()>& act) {
+    auto* action = new QAction(text, this);
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, act);
+    addAction(action);  // so that the keys work while the menu bar is hidden
+    menu->addAction(action);
+    return action;
+}
+
+void MainWindow::makeFileMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&File"));
+    addTo(menu, tr("&New…"), {QKeySequence::New}, [this] { newCanvas(); });
+    addTo(menu, tr("&Open…"), {QKeySequence::Open}, [this] { open(); });
+    addTo(menu, tr("&Place Image…"), {}, [this] { place(); });
+    menu->addSeparator();
+    addTo(menu, tr("&Save"), {QKeySequence::Save}, [this] { save(); });
+    addTo(menu, tr("Save &As…"), {key("Ctrl+Shift+S")}, [this] { saveAs(); });
+    menu->addSeparator();
+    addTo(menu, tr("&Quit"), {key("Ctrl+Q")}, [this] { close(); });
+}
+
+void MainWindow::makeCanvasMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
+    addTo(menu, tr("&Clear"), {key("Delete")}, [this] {
+        if (_pointer->isIdle() && (!isUnsaved() || _prompts.confirmClear(this)))
+            clearCanvas();
+    });
+}
+
+void MainWindow::makeBrushMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Brush"));
+    addTo(menu, tr("&Smaller"), {key("[")}, [this] { stepRadius(-1); });
+    addTo(menu, tr("&Larger"), {key("]")}, [this] { stepRadius(1); });
+    // What Shift makes of the bracket keys depends on the keyboard.
+    addTo(menu, tr("So&fter"), {key("{"), key("Shift+[")}, [this] { stepHardness(-1); });
+    addTo(menu, tr("&Harder"), {key("}"), key("Shift+]")}, [this] { stepHardness(1); });
+    QMenu* opacity = menu->addMenu(tr("&Opacity"));
+    for (int tenth = 1; tenth <= 10; ++tenth) {
+        addTo(opacity, tr("%1 %").arg(tenth * 10), {QKeySequence(Qt::Key_0 + tenth % 10)},
+              [this, tenth] { _brush.setValue(BrushKey::opacity, float(tenth) / 10); });
+    }
+    menu->addSeparator();
+    addTo(menu, tr("S&wap Colours"), {key("X")}, [this] { swapColors(); });
+    addTo(menu, tr("&Default Colours"), {key("D")}, [this] { defaultColors(); });
+    QAction* pick = addTo(menu, tr("&Eyedropper"), {key("I")}, [] {});
+    pick->setCheckable(true);
+    connect(pick, &QAction::toggled, _pointer, &CanvasPointer::setPicking);
+    connect(_pointer, &CanvasPointer::pickingChanged, pick, &QAction::setChecked);
+    menu->addSeparator();
+    addTo(menu, tr("&Reset All Settings"), {}, [this] { _brush.resetAll(); });
+}
+
+void MainWindow::makeViewMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    const auto zoomBy = [this](double factor) {
+        if (_pointer->isIdle())
+            _viewport->setZoom(_viewport->zoom() * factor);
+    };
+    addTo(menu, tr("Zoom &In"), {key("Ctrl++"), key("Ctrl+=")}, [zoomBy] { zoomBy(kZoomStep); });
+    addTo(menu, tr("Zoom &Out"), {key("Ctrl+-")}, [zoomBy] { zoomBy(1 / kZoomStep); });
+    addTo(menu, tr("&Actual Pixels"), {key("Ctrl+1")}, [this] {
+        if (_pointer->isIdle())
+            _viewport->setZoom(1);
+    });
+    addTo(menu, tr("&Whole Canvas"), {key("Ctrl+0")}, [this] {
+        if (_pointer->isIdle())
+            _viewport->fit();
+    });
+    menu->addSeparator();
+    QAction* panel = addTo(menu, tr("Brush &Panel"), {}, [this] { _dock->setVisible(!_dock->isVisible()); });
+    panel->setCheckable(true);
+    connect(_dock, &QDockWidget::visibilityChanged, panel,
+            [this, panel] { panel->setChecked(!_dock->isHidden()); });
+    // On the canvas alone: elsewhere the tabulator goes from field to field.
+    removeAction(panel);
+    _viewport->addAction(panel);
+    panel->setShortcut(Qt::Key_Tab);
+    panel->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addTo(menu, tr("&Full Screen"), {key("F11")}, [this] { toggleFullScreen(); });
+}
+
+// ---- Brush
+
+void MainWindow::stepRadius(int direction) {
+    const float radius = _brush.value(BrushKey::radius).toFloat();
+    const float step = std::max(1.0f, std::round(radius * 0.1f));
+    _brush.setValue(BrushKey::radius, radius + float(direction) * step);
+}
+
+void MainWindow::stepHardness(int direction) {
+    const float hardness = _brush.value(BrushKey::hardness).toFloat();
+    _brush.setValue(BrushKey::hardness, std::round((hardness + 0.1f * float(direction)) * 100) / 100);
+}
+
+void MainWindow::swapColors() {
+    const QVariant color = _brush.value(BrushKey::renderColor);
+    _brush.setValue(BrushKey::renderColor, _brush.value(BrushKey::backRenderColor));
+    _brush.setValue(BrushKey::backRenderColor, color);
+}
+
+// Black and white, so that swapping them makes a difference.
+void MainWindow::defaultColors() {
+    _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor::rgba(0, 0, 0)));
+    _brush.setValue(BrushKey::backRenderColor, QVariant::fromValue(ESColor::rgba(1, 1, 1)));
+}
+
+// ---- Window
+
+void MainWindow::toggleFullScreen() {
+    if (isFullScreen()) {
+        menuBar()->show();
+        _wasMaximized ? showMaximized() : showNormal();
+    } else {
+        _wasMaximized = isMaximized();
+        menuBar()->hide();
+        showFullScreen();
+    }
+}
+
+void MainWindow::makeStatusBar() {
+    const auto addLabel = [this](int stretch) {
+        auto* label = new QLabel;
+        label->setContentsMargins(6, 0, 6, 0);
+        statusBar()->addWidget(label, stretch);
+        return label;
+    };
+    // Wide enough for what comes, so that nothing moves about.
+    const auto wide = [](QLabel* label, const QString& longest) {
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(longest) + 16);
+    };
+    _sizeLabel = addLabel(0);
+    _zoomLabel = addLabel(0);
+    wide(_zoomLabel, QStringLiteral("3200 %"));
+    _positionLabel = addLabel(0);
+    wide(_positionLabel, QStringLiteral("-16384, -16384"));
+    _pressureLabel = addLabel(1);
+    _driverLabel = new QLabel;
+    _driverLabel->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addPermanentWidget(_driverLabel);
+}
+
+void MainWindow::showPosition(QPointF bufferPoint) {
+    _positionLabel->setText(
+        QStringLiteral("%1, %2").arg(int(std::floor(bufferPoint.x()))).arg(int(std::floor(bufferPoint.y()))));
+}
+
+void MainWindow::showCanvasFacts() {
+    const QSize size = view() ? view()->bufferSize().toSize() : QSize();
+    _sizeLabel->setText(tr("%1 × %2 px").arg(size.width()).arg(size.height()));
+    const double percent = _viewport->zoom() * 100;
+    _zoomLabel->setText(QStringLiteral("%1 %").arg(percent, 0, 'f', percent < 10 ? 1 : 0));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!_pointer->isIdle() || !mayDiscard()) {
+        event->ignore();
+        return;
+    }
+    writeState();
+    event->accept();
+}
+
+void MainWindow::readState() {
+    if (!restoreGeometry(_settings.value(QStringLiteral("window/geometry")).toByteArray()))
+        resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(QSize(1440, 900)));
+    restoreState(_settings.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
+    _panel->readState(_settings);
+}
+
+void MainWindow::writeState() {
+    // A window that comes up without its menu bar would puzzle.
+    if (isFullScreen())
+        toggleFullScreen();
+    _settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    _settings.setValue(QStringLiteral("window/state"), saveState(kStateVersion));
+    _panel->writeState(_settings);
+    if (_brushRead)
+        writeBrush(_settings, _brush);
+    _settings.sync();
+}
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMainWindow>
+
+#include "BrushModel.h"
+#include "NewCanvasDialog.h"
+#include "Prompts.h"
+
+class QDDrawView;
+class QDockWidget;
+class QLabel;
+class QSettings;
+
+namespace dabcanvas::dabpainter {
+
+class BrushPanel;
+class CanvasPointer;
+class CanvasViewport;
+
+// The application's window: one canvas, the brush and the file the canvas goes to.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    // The settings must outlive the window.
+    MainWindow(QSettings& settings, Prompts prompts);
+    ~MainWindow() override;
+
+    // Each makes a canvas in place of the present one. False, after a message, when it cannot be had; then the
+    // present one stays. Unsaved changes are not asked for.
+    bool startCanvas(const CanvasPlan& plan);
+    bool openImage(const QString& path);
+
+    // Onto the middle of the canvas, made smaller when it does not fit.
+    bool placeImage(const QString& path);
+    bool saveTo(const QString& path);
+    void clearCanvas();
+
+    bool isUnsaved() const { return isWindowModified(); }
+    // Whether the canvas may go: there is nothing unsaved, or the user saved or gave it up.
+    bool mayDiscard();
+
+    BrushModel& brush() { return _brush; }
+    BrushPanel& panel() { return *_panel; }
+    CanvasViewport& viewport() { return *_viewport; }
+    CanvasPointer& pointer() { return *_pointer; }
+    QDDrawView* view() const;
+    const CanvasPlan& plan() const { return _plan; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeFileMenu();
+    void makeCanvasMenu();
+    void makeBrushMenu();
+    void makeViewMenu();
+    void makeStatusBar();
+    QAction* addTo(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
+                   const std::function<void()>& act);
+
+    // File
+    bool replaceCanvas(QSize size, const std::function<bool(QDDrawView&)>& paint);
+    void newCanvas();
+    void open();
+    void place();
+    bool save();
+    bool saveAs();
+    void setPath(const QString& path);
+    void markChanged();
+    void markSaved();
+
+    // Brush
+    void stepRadius(int direction);
+    void stepHardness(int direction);
+    void swapColors();
+    void defaultColors();
+
+    void toggleFullScreen();
+    void showPosition(QPointF bufferPoint);
+    void showCanvasFacts();
+    void readState();
+    void writeState();
+
+    QSettings& _settings;
+    Prompts _prompts;
+    BrushModel _brush;
+    CanvasPlan _plan;
+    QString _path;  // where Save writes; empty until there is one
+
+    CanvasViewport* _viewport;
+    CanvasPointer* _pointer;
+    BrushPanel* _panel;
+    QDockWidget* _dock;
+    QLabel *_sizeLabel, *_zoomLabel, *_positionLabel, *_pressureLabel, *_driverLabel;
+    bool _brushRead = false;
+    bool _wasMaximized = false;
+};
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// Everything the application asks its user or says to them, so that tests can answer.
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+class QWidget;
+
+namespace dabcanvas::dabpainter {
+
+enum class UnsavedAnswer { save, discard, cancel };
+
+struct Prompts {
+    std::function<UnsavedAnswer(QWidget*, const QString& name)> askUnsaved;
+    std::function<bool(QWidget*)> confirmClear;
+    std::function<QStringList(QWidget*, const QString& title, bool several)> pickImages;
+    std::function<QString(QWidget*, const QString& suggested)> pickSaveName;             // empty: given up
+    std::function<QColor(QWidget*, const QColor& now, const QString& title)> pickColor;  // invalid: given up
+    std::function<void(QWidget*, const QString& what)> tell;
+};
+
+// Message boxes and file dialogs of Qt's own.
+Prompts standardPrompts();
+
+}  // namespace dabcanvas::dabpainter

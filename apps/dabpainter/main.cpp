@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QFile>
+#include <QMessageBox>
+#include <QSettings>
+#include <cstdio>
+#include <new>
+
+#include "CommandLine.h"
+#include "MainWindow.h"
+#include "QDEAGLView/QDDrawCanvas.h"
+
+namespace {
+
+using namespace dabcanvas::dabpainter;
+
+void complain(const QString& what) {
+    std::fprintf(stderr, "dabpainter: %s\n", qUtf8Printable(what));
+}
+
+int print(const QByteArray& text) {
+    const bool printed =
+        std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout) == std::size_t(text.size());
+    return printed && std::fflush(stdout) == 0 ? 0 : 1;
+}
+
+// To the log, and to whoever started this from a menu; nobody could close a box on a platform without a display.
+int giveUp(const QString& what) {
+    complain(what);
+    if (QGuiApplication::platformName() != QLatin1String("offscreen") &&
+        QGuiApplication::platformName() != QLatin1String("minimal"))
+        QMessageBox::critical(nullptr, QStringLiteral("Dabpainter"), what);
+    return 1;
+}
+
+int runWindow(const CommandLine& line) {
+    if (!QDDrawCanvas::initWithFrame(QRectF(0, 0, 16, 16)))
+        return giveUp(QStringLiteral("There is no OpenGL 3.2 to paint with; the log says what is missing."));
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Dabcanvas"),
+                       QStringLiteral("dabpainter"));
+    MainWindow window(settings, standardPrompts());
+    CanvasPlan plan;
+    plan.size = line.size.value_or(plan.size);
+    if (!window.startCanvas(plan))
+        return 1;
+    window.show();
+    if (!line.image.isEmpty())
+        window.openImage(line.image);
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        QStringList arguments;
+        for (int i = 1; i < argc; ++i)
+            arguments << QFile::decodeName(argv[i]);
+        // Before there is an application object, which fails without a display.
+        const CommandLine line = readCommandLine(arguments);
+        if (!line.fault.isEmpty()) {
+            complain(line.fault);
+            return 2;
+        }
+        if (line.help)
+            return print(usageText());
+        if (line.version)
+            return print(versionText());
+        const QApplication application(argc, argv);
+        QApplication::setApplicationName(QStringLiteral("dabpainter"));
+        QApplication::setApplicationDisplayName(QStringLiteral("Dabpainter"));
+        return runWindow(line);
+    } catch (const std::bad_alloc&) {
+        complain(QStringLiteral("out of memory"));
+        return 1;
+    }
+}
