@@ -204,16 +204,20 @@ bool CanvasPointer::forwardToView(QMouseEvent& event, QPointF at) {
     QDDrawView* view = _viewport.view();
     const bool isPress =
         event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+    if (_sending || !view)
+        return _sending;  // the view did not want it
     if (isPress && event.button() == Qt::LeftButton)
-        _forwarding = view != nullptr;
-    if (!_forwarding || !view)
+        _forwarding = !view->geometry().contains(at.toPoint());
+    if (!_forwarding)
         return false;
     if (event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton)
         _forwarding = false;
     QMouseEvent forwarded(event.type(), at - QPointF(view->pos()), event.scenePosition(),
                           event.globalPosition(), event.button(), event.buttons(), event.modifiers(),
                           event.pointingDevice());
+    _sending = true;
     QCoreApplication::sendEvent(view, &forwarded);
+    _sending = false;
     return true;
 }
 
@@ -259,26 +263,24 @@ void CanvasPointer::released() {
     });
 }
 
-// The view draws nothing for a click: a stroke as short as one can be, without tapers, leaves about one dab.
+// The view draws nothing for a click. A stroke there and back that places a dab a sample and has no tapers leaves
+// one: a stroke's first dab is never drawn, its last one always is.
 void CanvasPointer::leaveDab(QPointF at) {
     QDDrawView* view = _viewport.view();
     if (!view || view->isSmudgeType())
         return;
-    static constexpr BrushKey kTapers[] = {BrushKey::startRadius, BrushKey::endRadius};
-    for (const BrushKey key : kTapers)
-        view->setBrushValue(brushProperty(key), 0.0f);
-    const std::int32_t gathered = view->trackNum();
-    view->setTrackNum(0);
+    view->setPointsDistanceEnabled(false);
+    view->setStartRadius(0);
+    view->setEndRadius(0);
     const QSizeF scale = view->scale();
     const auto viewPoint = [&](double x) {
         return QPointF((at.x() + x) * scale.width(), at.y() * scale.height());
     };
+    constexpr double kAccepted = 1.1;  // buffer pixels; a shorter move would be dropped
     view->drawingWithBeginPoint(viewPoint(0), _downPressure);
-    view->drawingWithMoveToPoint(viewPoint(1.1), _downPressure);
-    view->drawingWithEndPoint(viewPoint(1.1), _downPressure);
-    view->setTrackNum(gathered);
-    for (const BrushKey key : kTapers)
-        view->setBrushValue(brushProperty(key), _model.value(key));
+    view->drawingWithMoveToPoint(viewPoint(kAccepted), _downPressure);
+    view->drawingWithEndPoint(viewPoint(0), _downPressure);
+    _model.apply(*view, {BrushKey::pointsDistanceEnabled, BrushKey::startRadius, BrushKey::endRadius});
 }
 
 void CanvasPointer::drawViewDidDrawBegin(QDDrawCanvas&, QPointF) {

@@ -70,6 +70,7 @@ private:
     bool _picking = false;
     bool _pickPressed = false;
     bool _forwarding = false;  // a stroke began beside the canvas
+    bool _sending = false;
     bool _stroking = false;
 
     // Of the pointer that is down

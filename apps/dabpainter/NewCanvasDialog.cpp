@@ -58,7 +58,9 @@ NewCanvasDialog::NewCanvasDialog(const CanvasPlan& plan, QWidget* parent)
     auto* form = new QFormLayout;
     form->addRow(tr("&Width"), _width);
     form->addRow(tr("&Height"), _height);
-    form->addRow(tr("&Background"), background);
+    auto* label = new QLabel(tr("&Background"));
+    label->setBuddy(_background);
+    form->addRow(label, background);
     _note->setWordWrap(true);
     _note->setMinimumHeight(2 * _note->fontMetrics().lineSpacing());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

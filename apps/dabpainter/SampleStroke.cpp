@@ -104,7 +104,8 @@ void SampleStroke::takeBrush() {
     _toTake.clear();
     const float dots = float(devicePixelRatioF());
     const float radius = _model.value(BrushKey::radius).toFloat() * dots;
-    const float most = kLargest * float(_canvas->bufferSize().height());
+    const float scatter = std::clamp(_model.value(BrushKey::distribution).toFloat(), 0.0f, 3.0f);
+    const float most = kLargest * float(_canvas->bufferSize().height()) / (1 + scatter);
     const float shrink = std::min(1.0f, most / radius);
     _canvas->setRadius(radius * shrink);
     _canvas->setSlRadius(_model.value(BrushKey::slRadius).toFloat() * dots * shrink);

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "BrushPanel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QPushButton>
+#include <QSlider>
+
+#include "PainterTest.h"
+#include "Widgets.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+class BrushPanelTest : public PainterTest {
+protected:
+    // Edits as a user would; false when there is nothing to do it with.
+    bool editByHand(BrushEditor& editor) {
+        if (auto* box = editor.findChild<QCheckBox*>()) {
+            box->click();
+        } else if (auto* combo = editor.findChild<QComboBox*>()) {
+            combo->setCurrentIndex((combo->currentIndex() + 1) % combo->count());
+        } else if (auto* spin = editor.findChild<QDoubleSpinBox*>()) {
+            spin->setValue(spin->value() + spin->singleStep() <= spin->maximum()
+                               ? spin->value() + spin->singleStep()
+                               : spin->value() - spin->singleStep());
+        } else if (auto* swatch = editor.findChild<SwatchButton*>()) {
+            swatch->click();
+        } else if (auto* load = editor.findChild<QPushButton*>(QStringLiteral("load"))) {
+            _images = {savedImage(QStringLiteral("tip.png"), Qt::red)};
+            load->click();
+        } else {
+            return false;
+        }
+        return true;
+    }
+
+    QVariant onCanvas(BrushKey key) { return _window->view()->brushValue(brushProperty(key)); }
+};
+
+TEST_F(BrushPanelTest, EveryShownPropertyHasAWorkingEditorAndReset) {
+    BrushModel& brush = _window->brush();
+    std::size_t shown = 0;
+    for (const BrushProperty& property : brushProperties())
+        shown += brushPresentation(property).place != BrushPlace::hidden;
+    const auto& rows = _window->panel().rows();
+    EXPECT_EQ(rows.size(), shown);
+    for (BrushRow* row : rows) {
+        SCOPED_TRACE(brushProperty(row->key()).name);
+        const BrushKey key = row->key();
+        EXPECT_TRUE(row->resetButton()->isHidden());
+        ASSERT_TRUE(editByHand(*row->editor()));
+        EXPECT_FALSE(brush.isDefault(key));
+        EXPECT_TRUE(sameBrushValue(onCanvas(key), brush.value(key)));
+        EXPECT_FALSE(row->resetButton()->isHidden());
+        row->resetButton()->click();
+        EXPECT_TRUE(brush.isDefault(key));
+        EXPECT_TRUE(row->resetButton()->isHidden());
+        brush.resetAll();
+    }
+}
+
+TEST_F(BrushPanelTest, SlidersReachBothEndsAndFollowTheValue) {
+    for (BrushRow* row : _window->panel().rows()) {
+        SCOPED_TRACE(brushProperty(row->key()).name);
+        auto* slider = row->editor()->findChild<QSlider*>();
+        if (brushProperty(row->key()).type() != BrushValueType::real)
+            continue;
+        ASSERT_TRUE(slider);
+        const BrushPresentation shown = brushPresentation(brushProperty(row->key()));
+        for (const int end : {slider->minimum(), slider->maximum()}) {
+            slider->setValue(slider->minimum() + 100);
+            slider->setValue(end);
+            const double expected = (end == slider->minimum() ? shown.low : shown.high) / shown.scale;
+            // Numbers are rounded to what the box can show.
+            EXPECT_NEAR(_window->brush().value(row->key()).toDouble(), expected,
+                        std::pow(10, -shown.decimals) / shown.scale + 1e-6);
+            _window->brush().resetAll();
+        }
+    }
+}
+
+TEST_F(BrushPanelTest, SearchShowsTheRowsThatMatch) {
+    BrushPanel& panel = _window->panel();
+    const auto shown = [&] {
+        QStringList names;
+        for (BrushRow* row : panel.rows()) {
+            if (row->isVisibleTo(&panel) &&
+                brushPresentation(brushProperty(row->key())).place == BrushPlace::panel)
+                names << QLatin1String(brushProperty(row->key()).name);
+        }
+        return names;
+    };
+    panel.filter(QStringLiteral("Hue jitter"));
+    EXPECT_TRUE(shown().contains(QStringLiteral("hueTingle")));
+    EXPECT_FALSE(shown().contains(QStringLiteral("radiusTingle")));
+    panel.filter(QStringLiteral("slRadius"));
+    EXPECT_TRUE(shown().contains(QStringLiteral("slRadius")));
+    panel.filter(QStringLiteral("no such thing"));
+    EXPECT_EQ(shown(), QStringList());
+}
+
+TEST(BrushPresentationTest, APropertyThatNobodyDescribedIsPresentable) {
+    const BrushProperty jitter{.key = BrushKey::count,
+                               .name = "edgeRadiusTingle",
+                               .group = BrushGroup::shape,
+                               .field = &BrushSettings::radiusTingle,
+                               .set = &QDDrawCanvas::setRadiusTingle};
+    const BrushPresentation shown = brushPresentation(jitter);
+    EXPECT_EQ(shown.label, QStringLiteral("Edge size jitter"));
+    EXPECT_EQ(shown.place, BrushPlace::panel);
+    EXPECT_EQ(shown.low, 0);
+    EXPECT_EQ(shown.high, 100);
+    BrushProperty count = jitter;
+    count.name = "echoes";
+    count.low = 2;
+    count.created = 5;
+    EXPECT_EQ(brushPresentation(count).low, 2);
+    EXPECT_GT(brushPresentation(count).high, 5);
+}
+
+}  // namespace
+
+}  // namespace dabcanvas::dabpainter

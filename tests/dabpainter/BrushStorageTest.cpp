@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "BrushStorage.h"
+
+#include <QFile>
+
+#include "BrushPresentation.h"
+#include "PainterTest.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+using BrushStorageTest = PainterTest;
+
+std::vector<QVariant> valuesOf(const BrushModel& brush) {
+    std::vector<QVariant> values;
+    for (const BrushProperty& property : brushProperties())
+        values.push_back(brush.value(property.key));
+    return values;
+}
+
+TEST_F(BrushStorageTest, EveryValueComesBackInTheNextRun) {
+    for (const BrushProperty& property : brushProperties()) {
+        if (brushPresentation(property).place == BrushPlace::hidden)
+            continue;
+        BrushModel& brush = _window->brush();
+        ASSERT_TRUE(brush.setValue(property.key, otherValue(property, brush.value(property.key))))
+            << property.name;
+    }
+    const std::vector<QVariant> before = valuesOf(_window->brush());
+    ASSERT_TRUE(_window->close());
+    makeWindow();
+    const std::vector<QVariant> after = valuesOf(_window->brush());
+    for (const BrushProperty& property : brushProperties())
+        EXPECT_TRUE(sameBrushValue(after[std::size_t(property.key)], before[std::size_t(property.key)]))
+            << property.name;
+    // And on a canvas that is made later in the run.
+    ASSERT_TRUE(_window->startCanvas({QSize(20, 20), Qt::transparent}));
+    EXPECT_EQ(_window->view()->radius(), _window->brush().value(BrushKey::radius).toFloat());
+    _window->brush().setValue(BrushKey::textureType, 0);
+    EXPECT_EQ(_window->view()->textureImages().size(), 2);
+}
+
+TEST_F(BrushStorageTest, BrokenValuesAndUnknownNamesAreLeftOut) {
+    _window->close();
+    QFile file(_settings->fileName());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(
+        "[window]\ngeometry=rubbish\nstate=@ByteArray(rubbish)\n"
+        "[brush]\nradius=nan\nflow=half\nopacity=0.25\nblendType=first\nnoSuchThing=1\nsmoothEnabled=maybe\n"
+        "radiusControl=1, 2\nrenderColor=0.5, 0.5, x, 1\nmaskImage=AAAA\ntextureImages=!!, AAAA\n"
+        "hardness=7\nenableRecogition=true\n");
+    file.close();
+    _settings->sync();
+    makeWindow();
+    const BrushModel& brush = _window->brush();
+    for (const BrushProperty& property : brushProperties()) {
+        if (property.key != BrushKey::opacity && property.key != BrushKey::hardness) {
+            EXPECT_TRUE(brush.isDefault(property.key)) << property.name;
+        }
+    }
+    EXPECT_EQ(brush.value(BrushKey::opacity).toFloat(), 0.25f);
+    EXPECT_EQ(brush.value(BrushKey::hardness).toFloat(), 1);  // cut to its range
+}
+
+}  // namespace
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLine.h"
+
+#include <gtest/gtest.h>
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+TEST(PainterCommandLineTest, WrongOnesAreRefused) {
+    const QStringList kWrong[] = {{"--size"},
+                                  {"--size", "10"},
+                                  {"--size", "0x5"},
+                                  {"--size=5x-5"},
+                                  {"--size", "99999x2"},
+                                  {"--size", "16384x16384"},
+                                  {"--size=5x5 "},
+                                  {"-x"},
+                                  {"a.png", "b.png"},
+                                  {"--help=1"},
+                                  {""},
+                                  {"a.png", "--size", "5x5"},
+                                  {"--size=+5x5"},
+                                  {"--size=5X5"}};
+    for (const QStringList& arguments : kWrong) {
+        const QString fault = readCommandLine(arguments).fault;
+        EXPECT_FALSE(fault.isEmpty()) << qPrintable(arguments.join(' '));
+        EXPECT_FALSE(fault.contains('\n'));
+    }
+}
+
+TEST(PainterCommandLineTest, RightOnesAreRead) {
+    EXPECT_EQ(readCommandLine({"--size", "320x16384"}).size, QSize(320, 16384));
+    EXPECT_EQ(readCommandLine({"--", "-odd.png"}).image, QString("-odd.png"));
+    EXPECT_TRUE(readCommandLine({"a.png", "--help"}).help);
+    EXPECT_TRUE(readCommandLine({}).fault.isEmpty());
+}
+
+}  // namespace
+
+}  // namespace dabcanvas::dabpainter

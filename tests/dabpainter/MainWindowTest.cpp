@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMouseEvent>
+
+#include "PainterTest.h"
+#include "support/LogCapture.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+class MainWindowTest : public PainterTest {
+protected:
+    void send(QEvent::Type type, QPointF inView, Qt::MouseButtons buttons) {
+        QDDrawView* view = _window->view();
+        QMouseEvent event(type, inView, view->mapToGlobal(inView),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(view, &event);
+    }
+    void drag(const QList<QPointF>& inView) {
+        send(QEvent::MouseButtonPress, inView.first(), Qt::LeftButton);
+        for (const QPointF& at : inView.mid(1))
+            send(QEvent::MouseMove, at, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, inView.last(), Qt::NoButton);
+        settle();
+    }
+    QColor pixel(int x, int y) { return _window->view()->image().pixelColor(x, y); }
+};
+
+// ---- The pointer
+
+TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
+    _window->brush().setValue(BrushKey::hardness, 1.0f);
+    _window->brush().setValue(BrushKey::radius, 8.0f);
+    CanvasViewport& viewport = _window->viewport();
+    for (const double zoom : {2.0, 1.0, 0.5, 3.3}) {
+        SCOPED_TRACE(zoom);
+        viewport.setZoom(zoom);
+        EXPECT_NEAR(_window->view()->width() * viewport.devicePixelRatioF(), 200 * zoom, 1);
+        // A click leaves a dab, at the pixel below the pointer and nowhere else.
+        const QPointF inView = viewport.pointOfBuffer({120.5, 60.5}) - _window->view()->pos();
+        drag({inView});
+        EXPECT_LT(pixel(120, 60).lightness(), 60);
+        EXPECT_EQ(pixel(132, 60), QColor(Qt::white));
+        EXPECT_EQ(pixel(108, 60), QColor(Qt::white));
+        EXPECT_EQ(pixel(120, 72), QColor(Qt::white));
+        _window->clearCanvas();
+    }
+}
+
+TEST_F(MainWindowTest, AShortStrokeStays) {
+    drag({{60, 60}, {64, 60}, {70, 60}, {76, 60}, {82, 60}});
+    EXPECT_NE(pixel(70, 60), QColor(Qt::white));
+    EXPECT_TRUE(_window->isUnsaved());
+}
+
+TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
+    CanvasViewport& viewport = _window->viewport();
+    viewport.setZoom(8);
+    const QPointF at(310, 260);
+    const QPointF before = viewport.bufferPoint(at);
+    viewport.zoomAbout(11.7, at);
+    // Positions are whole screen pixels.
+    EXPECT_NEAR(viewport.bufferPoint(at).x(), before.x(), 0.5);
+    EXPECT_NEAR(viewport.bufferPoint(at).y(), before.y(), 0.5);
+    viewport.fit();
+    const QRect shown = _window->view()->geometry();
+    EXPECT_TRUE(viewport.rect().contains(shown));
+    EXPECT_NEAR(shown.center().x(), viewport.rect().center().x(), 2);
+}
+
+// ---- What is unsaved
+
+TEST_F(MainWindowTest, NothingIsLostUnasked) {
+    EXPECT_TRUE(_window->mayDiscard());
+    EXPECT_EQ(_asked, 0) << "there was nothing to save";
+    paint();
+    EXPECT_TRUE(_window->isUnsaved());
+    EXPECT_FALSE(_window->close());  // cancelled
+    EXPECT_EQ(_asked, 1);
+    EXPECT_TRUE(_window->isVisible());
+
+    _answer = UnsavedAnswer::save;
+    EXPECT_FALSE(_window->mayDiscard()) << "no name was given";
+    _saveName = path(QStringLiteral("no such folder/a.png"));
+    EXPECT_FALSE(_window->mayDiscard());
+    EXPECT_EQ(_told.size(), 1);
+    EXPECT_TRUE(_window->isUnsaved());
+
+    _saveName = path(QStringLiteral("a.png"));
+    EXPECT_TRUE(_window->mayDiscard());
+    EXPECT_FALSE(_window->isUnsaved());
+    const QImage saved(_saveName);
+    ASSERT_EQ(saved.size(), QSize(200, 150));
+    EXPECT_EQ(saved.pixelColor(100, 75), pixel(100, 75));
+
+    _window->clearCanvas();
+    EXPECT_TRUE(_window->isUnsaved());
+    EXPECT_EQ(pixel(100, 75), QColor(Qt::white)) << "cleared to what it began with";
+    _answer = UnsavedAnswer::discard;
+    EXPECT_TRUE(_window->close());
+    EXPECT_EQ(QImage(_saveName).pixelColor(100, 75), saved.pixelColor(100, 75));
+}
+
+// ---- Image files
+
+TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {
+    const QString file = savedImage(QStringLiteral("green.png"), QColor(0, 255, 0, 128));
+    ASSERT_TRUE(_window->openImage(file));
+    EXPECT_EQ(_window->view()->bufferSize(), QSizeF(24, 16));
+    EXPECT_EQ(pixel(5, 5).alpha(), 128);
+    EXPECT_FALSE(_window->isUnsaved());
+    EXPECT_TRUE(_window->saveTo(file));
+}
+
+TEST_F(MainWindowTest, APlacedImageIsInTheMiddleAndFits) {
+    _window->viewport().setZoom(2);
+    ASSERT_TRUE(_window->placeImage(savedImage(QStringLiteral("small.png"), Qt::red)));
+    EXPECT_EQ(pixel(100, 75), QColor(Qt::red));
+    EXPECT_EQ(pixel(88, 67), QColor(Qt::red));
+    EXPECT_EQ(pixel(87, 75), QColor(Qt::white));
+    EXPECT_EQ(pixel(112, 75), QColor(Qt::white));
+    EXPECT_TRUE(_window->isUnsaved());
+    ASSERT_TRUE(_window->placeImage(savedImage(QStringLiteral("tall.png"), Qt::blue, QSize(100, 600))));
+    EXPECT_EQ(pixel(100, 0), QColor(Qt::blue));
+    EXPECT_EQ(pixel(100, 149), QColor(Qt::blue));
+    EXPECT_EQ(pixel(80, 75), QColor(Qt::white));
+}
+
+TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
+    const QString good = savedImage(QStringLiteral("good.png"), Qt::green, QSize(300, 300));
+    QFile file(good);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray png = file.readAll();
+    const struct {
+        const char* name;
+        QByteArray bytes;
+    } kBad[] = {{"empty.png", ""},
+                {"text.png", "this is no picture"},
+                {"cut.png", png.left(png.size() / 2)},
+                {"huge.ppm", "P6\n200000 200000\n255\nabc"},
+                {"area.ppm", "P6\n16000 16000\n255\nabc"}};
+    paint();
+    const QDDrawView* before = _window->view();
+    const QImage painted = _window->view()->image();
+    QStringList paths{path(QStringLiteral("missing.png")), _folder.path()};
+    for (const auto& bad : kBad) {
+        QFile out(path(QString::fromLatin1(bad.name)));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(bad.bytes);
+        paths << out.fileName();
+    }
+    const LogCapture quiet;
+    for (const QString& name : paths) {
+        SCOPED_TRACE(qPrintable(name));
+        _told.clear();
+        EXPECT_FALSE(_window->openImage(name));
+        EXPECT_FALSE(_window->placeImage(name));
+        EXPECT_EQ(_told.size(), 2);
+        EXPECT_TRUE(_told.value(0).contains(QFileInfo(name).fileName()));
+        EXPECT_EQ(_window->view(), before);
+        EXPECT_TRUE(_window->isUnsaved());
+    }
+    EXPECT_EQ(_window->view()->image(), painted);
+}
+
+}  // namespace
+
+}  // namespace dabcanvas::dabpainter

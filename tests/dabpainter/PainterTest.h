@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+// The application's window, with a user who answers as the test says.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <cmath>
+#include <memory>
+#include <optional>
+
+#include "BrushModel.h"
+#include "CanvasViewport.h"
+#include "MainWindow.h"
+#include "QDEAGLView/QDDrawView.h"
+
+namespace dabcanvas::dabpainter {
+
+class PainterTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        _settings.emplace(_folder.filePath("settings.ini"), QSettings::IniFormat);
+        makeWindow();
+    }
+
+    void makeWindow() {
+        Prompts prompts;
+        prompts.askUnsaved = [this](QWidget*, const QString&) {
+            ++_asked;
+            return _answer;
+        };
+        prompts.confirmClear = [](QWidget*) { return true; };
+        prompts.pickImages = [this](QWidget*, const QString&, bool) { return _images; };
+        prompts.pickSaveName = [this](QWidget*, const QString&) { return _saveName; };
+        prompts.pickColor = [](QWidget*, const QColor&, const QString&) { return QColor(40, 200, 120); };
+        prompts.tell = [this](QWidget*, const QString& what) { _told << what; };
+        _window.reset();
+        _window = std::make_unique<MainWindow>(*_settings, prompts);
+        _window->resize(1000, 700);
+        if (!_window->startCanvas({QSize(200, 150), Qt::white})) {
+            ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";
+            std::abort();
+        }
+        _window->show();
+        settle();
+    }
+
+    static void settle() { QApplication::processEvents(); }
+
+    QString path(const QString& name) const { return _folder.filePath(name); }
+
+    QString savedImage(const QString& name, const QColor& color, QSize size = QSize(24, 16)) const {
+        QImage image(size, QImage::Format_ARGB32);
+        image.fill(color);
+        EXPECT_TRUE(image.save(path(name)));
+        return path(name);
+    }
+
+    void paint() {
+        QDDrawView& view = *_window->view();
+        const QSizeF scale = view.scale();
+        const auto at = [&](double x, double y) { return QPointF(x * scale.width(), y * scale.height()); };
+        view.drawingWithBeginPoint(at(40, 75));
+        for (int x = 50; x < 160; x += 10)
+            view.drawingWithMoveToPoint(at(x, 75));
+        view.drawingWithEndPoint(at(160, 75));
+    }
+
+    QTemporaryDir _folder;
+    std::optional<QSettings> _settings;
+    UnsavedAnswer _answer = UnsavedAnswer::cancel;
+    QStringList _images, _told;
+    QString _saveName;
+    int _asked = 0;
+    std::unique_ptr<MainWindow> _window;
+};
+
+// A value of the property that is neither its default nor the present one.
+inline QVariant otherValue(const BrushProperty& property, const QVariant& now) {
+    switch (property.type()) {
+        case BrushValueType::boolean:
+            return !now.toBool();
+        case BrushValueType::integer:
+            return now.toInt() == 2 ? 4 : 2;
+        case BrushValueType::real: {
+            const float low = std::isfinite(property.low) ? property.low : 0;
+            const float high = std::isfinite(property.high) ? property.high : low + 8;
+            const float middle = low + (high - low) * 0.375f;
+            return middle == now.toFloat() ? middle * 0.5f + low * 0.5f : middle;
+        }
+        case BrushValueType::control:
+            return QVariant::fromValue(LPControlParams{0.25f, -0.5f, 1});
+        case BrushValueType::color:
+            return QVariant::fromValue(ESColor::rgba(0.2f, 0.4f, 0.6f));
+        case BrushValueType::image:
+        case BrushValueType::images: {
+            QImage image(6, 4, QImage::Format_RGBA8888_Premultiplied);
+            image.fill(QColor(10, 60, 90, 128));
+            return property.type() == BrushValueType::image
+                       ? QVariant(image)
+                       : QVariant::fromValue(QList<QImage>{image, image});
+        }
+        case BrushValueType::text:
+            break;
+    }
+    return QStringLiteral("other");
+}
+
+}  // namespace dabcanvas::dabpainter
