@@ -340,6 +340,31 @@ QRect ESImageRender::placedRect(const LPPoint& point) const {
     return Placement(point, _roundness, _radian).touched();
 }
 
+bool ESImageRender::isCopy(const LPPoint& point, const QSize& imageSize) const {
+    const Placement placement(point, _roundness, _radian);
+    return _background.texture != 0 && !placement.isTurned() && placement.readingOf(imageSize) == Placement::Reading::texelOnPixel;
+}
+
+void ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
+    if (!useBGTexture()) {
+        return;
+    }
+    const int y = static_cast<int>(bufferSize().height()) - rect.y() - rect.height();
+    dabcanvas::copyRowsToTexture(rows, QPoint(rect.x(), y));
+    GLint target = 0;
+    glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &target);
+    GLuint source = 0;
+    glGenFramebuffers(1, &source);
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, source);
+    glFramebufferTexture2D(GL_READ_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, _background.texture, 0);
+    const GLint x1 = rect.x() + rect.width();
+    const GLint y1 = y + rect.height();
+    glBlitFramebuffer(rect.x(), y, x1, y1, rect.x(), y, x1, y1, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(target));
+    glDeleteFramebuffers(1, &source);
+    drainGLErrors(kSourcePath, __LINE__);
+}
+
 // Switches to the program of smooth edges, in place of the one of the blend type; false where that is a host's own
 // or mixes otherwise.
 bool ESImageRender::usePlaceProgram() {

@@ -74,6 +74,10 @@ public:
     // unit.
     void updateBGTextureAtPos(GLenum pos);
     void updateBGTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLenum pos);
+    // Copies an RGBA8888_Premultiplied image, bottom row first, to a rectangle of its size on the buffer, of the
+    // background texture and the bound framebuffer. What mode replace makes of an image that isCopy(), at the cost of
+    // copying its bytes twice; drawing takes a driver without a GPU ten times as long.
+    void copyToBG(const QImage& rows, const QRect& rect);
     // Bind a role's texture on its unit; false for a role without one.
     bool useBGTexture() const { return _background.use(); }
     bool useLineTexture() const { return _line.use(); }
@@ -108,6 +112,8 @@ public:
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
     // The pixels, also beyond the buffer, that a placed image would touch with the present roundness and radian.
     QRect placedRect(const LPPoint& point) const;
+    // Whether an image of that size would come out pixel by pixel, unturned, and there is a background texture.
+    bool isCopy(const LPPoint& point, const QSize& imageSize) const;
 
 protected:
     ESImageRender() = default;

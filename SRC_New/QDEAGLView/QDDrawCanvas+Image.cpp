@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "Maths/Geometry.h"
 #include "Maths/Rounding.h"
@@ -87,6 +88,18 @@ struct QDDrawCanvas::Source {
     ESBlendType blendType;
 };
 
+// A part of a source, counted from its picture's top, as the rows of the canvas lie: bottom row first.
+QImage QDDrawCanvas::rowsOf(const Source& source, const QRect& part) {
+    const QImage& picture = source.picture;
+    QRect inRows = part;
+    if (!source.topRowFirst) {
+        inRows.moveTop(picture.height() - part.y() - part.height());
+    }
+    QImage rows = inRows == picture.rect() ? picture : picture.copy(inRows);
+    rows = std::move(rows).convertToFormat(kDataFormat);
+    return source.topRowFirst ? std::move(rows).mirrored() : rows;
+}
+
 // ---- Reading back
 
 QImage QDDrawCanvas::imageWithRect(const QRectF& rect) {
@@ -110,7 +123,11 @@ bool QDDrawCanvas::readData(unsigned char* bytes, const QRectF& rect) {
 bool QDDrawCanvas::readDataBufferRect(unsigned char* bytes, const QRectF& bufferRect) {
     const QRectF part = withWholeEdges(bufferRect);
     const ESCurrentScope current(*_esContext);
-    if (bytes == nullptr || !current || !isOnCanvas(*_esContext, part)) {
+    if (!current || !isOnCanvas(*_esContext, part)) {
+        return false;
+    }
+    if (bytes == nullptr) {
+        qCWarning(lcDabcanvas, "there is no memory given to read the canvas into");
         return false;
     }
     compositePending();
@@ -244,19 +261,20 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
                       {1.0f, 1.0f, 1.0f}};
     render.setRadian(static_cast<float>(std::remainder(radian, 2 * std::numbers::pi)));
     render.setRoundness(static_cast<float>(size.height() / size.width()));
-    const QRect touched = render.placedRect(dab) & scissorBox();
+    const QRect placed = render.placedRect(dab);
+    const QRect touched = placed & scissorBox();
     if (touched.isEmpty()) {
         return false;  // no fault of the caller's: whatever is dragged about leaves the canvas at times
     }
-    render.setTextureImage(evenlyReduced(source.picture, size), GL_TEXTURE0);
-    if (render.brushTexture() == nullptr) {
-        return false;  // there is no memory for it, and it has been said
+    const bool copies = source.blendType == ESBlendTypeReplace && !_neglectTextureUpdate &&
+                        render.isCopy(dab, source.picture.size());
+    if (!(copies ? copyPlaced(source, placed, touched) : drawPlaced(source, dab, touched))) {
+        qCWarning(lcDabcanvas, "there is no memory to place an image of %d x %d pixels",
+                  source.picture.width(), source.picture.height());
+        return false;
     }
-    settleBeforePlacing();
     _edited = _edited || !isUndo;
-    drawPlaced(dab, source);
     mergeRect(_drawRect, touched);
-    mergeRect(_updateRect, touched);
     noteChanged(touched);
     redisplayAll();
     if (!_neglectTextureUpdate) {
@@ -265,10 +283,32 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
     return true;
 }
 
-// Draws the compositor's image into the canvas and leaves the compositor as strokes need it.
-void QDDrawCanvas::drawPlaced(const LPPoint& dab, const Source& source) {
+// What replaces the canvas pixel by pixel. The background takes it along.
+bool QDDrawCanvas::copyPlaced(const Source& source, const QRect& placed, const QRect& touched) {
+    const QImage rows = rowsOf(source, touched.translated(-placed.topLeft()));
+    if (rows.isNull()) {
+        return false;
+    }
+    settleBeforePlacing();
     const StageTimer timer(*this, Stage::compositing);
+    _esContext->beginRenderForType(ESRenderTypeCanvas);
+    _esRender->copyToBG(rows, touched);
+    _esContext->finishRender();
+    return true;
+}
+
+// Draws with the radian and roundness that the compositor has, and leaves it as strokes need it.
+bool QDDrawCanvas::drawPlaced(const Source& source, const LPPoint& dab, const QRect& touched) {
     ESImageRender& render = *_esRender;
+    const double width = dab.radius;
+    const float radian = render.radian();
+    const float roundness = render.roundness();
+    render.setTextureImage(evenlyReduced(source.picture, QSizeF(width, width * roundness)), GL_TEXTURE0);
+    if (render.brushTexture() == nullptr) {
+        return false;
+    }
+    settleBeforePlacing();
+    const StageTimer timer(*this, Stage::compositing);
     const std::uint32_t blendType = render.blendType();
     const bool needScissor = render.needScissor();
     _esContext->beginRenderForType(ESRenderTypeCanvas);
@@ -277,6 +317,8 @@ void QDDrawCanvas::drawPlaced(const LPPoint& dab, const Source& source) {
     render.setFlipX(false);
     render.setFlipY(source.topRowFirst);
     render.setUseLargeTexture(true);
+    render.setRadian(radian);
+    render.setRoundness(roundness);
     render.setOpacity(1);
     render.setFlow(1);
     render.setRepeatedlyRenderEnabled(false);
@@ -291,4 +333,6 @@ void QDDrawCanvas::drawPlaced(const LPPoint& dab, const Source& source) {
     render.setNeedScissor(needScissor);
     render.setBlendType(blendType);
     render.setRepeatedlyRenderEnabled(needRepeatedlyRender());
+    mergeRect(_updateRect, touched);
+    return true;
 }

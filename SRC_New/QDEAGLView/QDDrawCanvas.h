@@ -495,8 +495,10 @@ private:
     bool placeInView(const Source& source, const QSizeF& size, const QPointF& centre, double radian,
                      bool isUndo);
     bool place(const Source& source, const QSizeF& size, const QPointF& centre, double radian, bool isUndo);
+    static QImage rowsOf(const Source& source, const QRect& part);
     void settleBeforePlacing();
-    void drawPlaced(const LPPoint& dab, const Source& source);
+    bool copyPlaced(const Source& source, const QRect& placed, const QRect& touched);
+    bool drawPlaced(const Source& source, const LPPoint& dab, const QRect& touched);
     QRect scissorBox() const;
 
     // Setting properties

@@ -20,25 +20,6 @@ constexpr int kKeptBlockLine = 45;
 constexpr int kImagesBlockLine = 203;
 constexpr int kDataBlockLine = 277;
 
-// Pixels that GL takes as they are. Those without an alpha are opaque, whatever stands in its place.
-struct PixelLayout {
-    QImage::Format format;
-    GLint texels;
-    GLenum order, type;
-};
-constexpr PixelLayout kPixelLayouts[] = {
-    {kFormat, GL_RGBA8, GL_RGBA, GL_UNSIGNED_BYTE},  // what all others are converted to
-    {QImage::Format_RGBX8888, GL_RGB8, GL_RGBA, GL_UNSIGNED_BYTE},
-    {QImage::Format_ARGB32_Premultiplied, GL_RGBA8, GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV},
-    {QImage::Format_RGB32, GL_RGB8, GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV},
-};
-
-const PixelLayout& layoutOf(QImage::Format format) {
-    const auto* const found = std::find_if(std::begin(kPixelLayouts), std::end(kPixelLayouts),
-                                           [&](const PixelLayout& row) { return row.format == format; });
-    return found == std::end(kPixelLayouts) ? kPixelLayouts[0] : *found;
-}
-
 void logNoMemory(int line) {
     qCWarning(lcDabcanvasGL, "创建数据失败(%s:%d)!", kFile, line);
 }
@@ -115,10 +96,8 @@ std::unique_ptr<TextureObject> TextureObject::initWithPicture(const QImage& pict
     if (fitting != picture.size()) {
         pixels = picture.scaled(fitting, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     }
-    pixels = std::move(pixels).convertToFormat(layoutOf(pixels.format()).format);
+    pixels = std::move(pixels).convertToFormat(kFormat);
     if (pixels.isNull()) {
-        qCWarning(lcDabcanvasGL, "there is no memory for a picture of %d x %d pixels", fitting.width(),
-                  fitting.height());
         return nullptr;
     }
     std::unique_ptr<TextureObject> texture(new TextureObject(fitting.width(), fitting.height()));
@@ -310,7 +289,6 @@ bool TextureObject::load(QImage pixels) {
 }
 
 void TextureObject::upload(const QImage& picture) {
-    const PixelLayout& layout = layoutOf(picture.format());
     drainGLErrors(kFile, __LINE__);  // what is found below must be this texture's
     glGenTextures(1, &_textureID);
     glBindTexture(GL_TEXTURE_2D, _textureID);
@@ -318,11 +296,9 @@ void TextureObject::upload(const QImage& picture) {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
-    glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glPixelStorei(GL_UNPACK_ROW_LENGTH, static_cast<GLint>(picture.bytesPerLine() / 4));
-    glTexImage2D(GL_TEXTURE_2D, 0, layout.texels, picture.width(), picture.height(), 0, layout.order,
-                 layout.type, picture.constBits());
-    glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, picture.width(), picture.height(), 0, GL_RGBA, GL_UNSIGNED_BYTE,
+                 nullptr);
+    dabcanvas::copyRowsToTexture(picture, {0, 0});
     glBindTexture(GL_TEXTURE_2D, 0);
     if (drainGLErrors(kFile, __LINE__) > 0) {
         destoryTexture();

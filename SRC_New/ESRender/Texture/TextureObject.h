@@ -44,7 +44,7 @@ public:
     static std::unique_ptr<TextureObject> initWithData(const unsigned char* data, const QSize& size);
     // A picture to be placed: as large in texels as it is in pixels, nothing around it, no mip levels yet, uploaded
     // from where it lies. Its top row is GL row 0, which verties() allows for. Scaled down only where the driver
-    // takes no such size; null, after a log line, when memory is short.
+    // takes no such size; null when memory is short.
     static std::unique_ptr<TextureObject> initWithPicture(const QImage& picture);
     // No texture yet: keeps a pixel block of qualityType x qualityType that every later load draws into.
     static std::unique_ptr<TextureObject> initWithQualityType(int qualityType);
