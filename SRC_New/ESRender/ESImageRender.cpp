@@ -6,11 +6,14 @@
 #include <cstddef>
 
 #include "ESRender/ImageShaderNames.h"
+#include "ESRender/Placement.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
 #include "Maths/Geometry.h"
+
+using dabcanvas::Placement;
 
 namespace {
 
@@ -32,6 +35,20 @@ void readTexelOnPixel() {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
 }
 
+// Of the bound texture, which needs no mip levels until it is reduced.
+void readAs(Placement::Reading reading) {
+    const bool exact = reading == Placement::Reading::texelOnPixel;
+    const bool averaged = reading == Placement::Reading::averaged;
+    if (averaged) {
+        glGenerateMipmap(GL_TEXTURE_2D);
+    }
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER,
+                    exact      ? GL_NEAREST
+                    : averaged ? GL_LINEAR_MIPMAP_LINEAR
+                               : GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, exact ? GL_NEAREST : GL_LINEAR);
+}
+
 }  // namespace
 
 struct ESImageRender::Vertex {
@@ -45,6 +62,13 @@ struct ESImageRender::Bounds {
 
     explicit Bounds(const QSizeF& buffer)
         : minX(static_cast<int>(buffer.width())), minY(static_cast<int>(buffer.height())) {}
+
+    void grow(const QRect& rect) {
+        minX = std::min(minX, rect.left());
+        minY = std::min(minY, rect.top());
+        maxX = std::max(maxX, rect.right() + 1);
+        maxY = std::max(maxY, rect.bottom() + 1);
+    }
 
     void grow(const LPPoint& point, float roundness, float radian) {
         const double half = point.radius * 0.5f;
@@ -126,6 +150,8 @@ void ESImageRender::programDidChange() {
     _bgTextureSize.locate(made.uniformIndex(kBGTextureSize));
     _flip.locate(made.uniformIndex(kFlip));
     _center.locate(made.uniformIndex(kCenter));
+    _placedSize.locate(made.uniformIndex(kPlacedSize));
+    _replace.locate(made.uniformIndex(kReplace));
 }
 
 void ESImageRender::setBlendType(std::uint32_t blendType) {
@@ -200,13 +226,21 @@ QRectF ESImageRender::drawPoints(const LPPoint* points, std::size_t count) {
     Bounds bounds(bufferSize());
     if (count > 0 && points != nullptr && program() != nullptr && bindSources()) {
         for (std::size_t i = 0; i < count; ++i) {
-            bounds.grow(points[i], _roundness, _radian);
+            if (_useLargeTexture) {
+                bounds.grow(placedRect(points[i]));
+            } else {
+                bounds.grow(points[i], _roundness, _radian);
+            }
             if (needScissor()) {
                 glEnable(GL_SCISSOR_TEST);
                 glScissor(bounds.minX, static_cast<GLint>(bufferSize().height()) - bounds.maxY,
                           bounds.maxX - bounds.minX, bounds.maxY - bounds.minY);
             }
-            drawRect(points[i]);
+            if (_useLargeTexture) {
+                drawPlaced(points[i]);
+            } else {
+                drawRect(points[i]);
+            }
         }
         drainGLErrors(kSourcePath, __LINE__);
     }
@@ -220,7 +254,7 @@ QRectF ESImageRender::drawPoints(const LPPoint* points, std::size_t count) {
 bool ESImageRender::bindSources() {
     program()->bind();
     _opacityUniform.set(opacity());
-    _radianUniform.set(_radian);
+    _radianUniform.set(_useLargeTexture ? 0 : _radian);  // drawPlaced() turns its corners more exactly
     _viewSize.set(bufferSize().width(), bufferSize().height());
     _bgTextureSize.set(_background.size.width(), _background.size.height());
     if (useBGTexture()) {
@@ -246,14 +280,9 @@ bool ESImageRender::bindSources() {
     return true;
 }
 
-// Four (s, t) pairs in the order of the corners: from the top left clockwise, as a source upright on screen
-// lies.
+// Four (s, t) pairs of the line texture in the order of the corners: from the top left clockwise, as a source
+// upright on screen lies.
 std::array<float, 8> ESImageRender::texCoords(const LPPoint& point) const {
-    std::array<float, 8> coords{};
-    if (_useLargeTexture) {
-        std::copy_n(brushTexture()->verties() + 2, coords.size(), coords.begin());
-        return coords;
-    }
     const double half = point.radius * 0.5f;
     const double halfHeight = half * _roundness;
     const double height = bufferSize().height();
@@ -268,13 +297,15 @@ void ESImageRender::drawRect(const LPPoint& point) {
     const float half = point.radius * 0.5f;
     const float halfHeight = half * _roundness;
     const std::array<float, 8> coords = texCoords(point);
-    const Vertex corners[] = {
-        {-half, -halfHeight, 0, 1, coords[0], coords[1]},
-        {half, -halfHeight, 0, 1, coords[2], coords[3]},
-        {half, halfHeight, 0, 1, coords[4], coords[5]},
-        {-half, halfHeight, 0, 1, coords[6], coords[7]},
-    };
-    glBufferData(GL_ARRAY_BUFFER, sizeof corners, corners, GL_STATIC_DRAW);
+    drawQuad({{{-half, -halfHeight, 0, 1, coords[0], coords[1]},
+               {half, -halfHeight, 0, 1, coords[2], coords[3]},
+               {half, halfHeight, 0, 1, coords[4], coords[5]},
+               {-half, halfHeight, 0, 1, coords[6], coords[7]}}},
+             point);
+}
+
+void ESImageRender::drawQuad(const std::array<Vertex, 4>& corners, const LPPoint& point) {
+    glBufferData(GL_ARRAY_BUFFER, sizeof corners, corners.data(), GL_STATIC_DRAW);
     dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
     // The reset program reads no source, so its linker drops the coordinate.
     dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
@@ -282,4 +313,100 @@ void ESImageRender::drawRect(const LPPoint& point) {
     _center.set(point.position.x, point.position.y);
     checkGLStep(kSourcePath, __LINE__);
     glDrawArrays(GL_TRIANGLE_FAN, 0, 4);
+}
+
+// ---- Placed images
+
+void ESImageRender::setTextureImage(const QImage& image, GLenum atPosition) {
+    if (image.isNull()) {
+        return;
+    }
+    setNumberOfTexture(1);
+    glActiveTexture(atPosition);
+    _brushTexture.reset();  // gives its memory back first
+    _brushTexture = TextureObject::initWithPicture(image);
+    _texturePos = atPosition;
+}
+
+void ESImageRender::setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) {
+    if (data != nullptr && !dataSize.isEmpty()) {
+        setTextureImage(QImage(data, dataSize.width(), dataSize.height(), qsizetype{dataSize.width()} * 4,
+                               QImage::Format_RGBA8888_Premultiplied),
+                        atPosition);
+    }
+}
+
+QRect ESImageRender::placedRect(const LPPoint& point) const {
+    return Placement(point, _roundness, _radian).touched();
+}
+
+bool ESImageRender::isCopy(const LPPoint& point, const QSize& imageSize) const {
+    const Placement placement(point, _roundness, _radian);
+    return _background.texture != 0 && !placement.isTurned() && placement.readingOf(imageSize) == Placement::Reading::texelOnPixel;
+}
+
+void ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
+    if (!useBGTexture()) {
+        return;
+    }
+    const int y = static_cast<int>(bufferSize().height()) - rect.y() - rect.height();
+    dabcanvas::copyRowsToTexture(rows, QPoint(rect.x(), y));
+    GLint target = 0;
+    glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &target);
+    GLuint source = 0;
+    glGenFramebuffers(1, &source);
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, source);
+    glFramebufferTexture2D(GL_READ_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, _background.texture, 0);
+    const GLint x1 = rect.x() + rect.width();
+    const GLint y1 = y + rect.height();
+    glBlitFramebuffer(rect.x(), y, x1, y1, rect.x(), y, x1, y1, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(target));
+    glDeleteFramebuffers(1, &source);
+    drainGLErrors(kSourcePath, __LINE__);
+}
+
+// Switches to the program of smooth edges, in place of the one of the blend type; false where that is a host's own
+// or mixes otherwise.
+bool ESImageRender::usePlaceProgram() {
+    return (_blendType == ESBlendTypeNormal || _blendType == ESBlendTypeReplace) &&
+           fragmentShaderString() == fragmentShaderStringForBlendType(_blendType) &&
+           useProgramWithVertexShaderString(vertexShaderStringForBlendType(_blendType),
+                                            ESShaderTools::withBool(placeFSHString()));
+}
+
+void ESImageRender::drawPlaced(const LPPoint& point) {
+    const Placement placement(point, _roundness, _radian);
+    const bool smoothEdges = !placement.isOnPixelEdges() && usePlaceProgram();
+    if (smoothEdges) {
+        bindSources();
+        _placedSize.set(placement.width(), placement.height());
+        _replace.set(_blendType == ESBlendTypeReplace);
+    }
+    readAs(placement.readingOf(brushTexture()->pixSize()));
+
+    // A pixel is covered in part up to half a pixel beyond the edge.
+    const double rim = smoothEdges ? 1 : 0;
+    const std::array<QPointF, 4> places = placement.corners(rim, _flipX, _flipY);
+    const float* const cell = brushTexture()->verties();
+    const auto s = [&](double part) { return static_cast<float>(cell[0] + (cell[4] - cell[0]) * part); };
+    const auto t = [&](double part) { return static_cast<float>(cell[1] + (cell[3] - cell[1]) * part); };
+    const double across = rim / placement.width();
+    const double up = rim / placement.height();
+    const float coords[4][2] = {
+        {s(-across), t(1 + up)}, {s(1 + across), t(1 + up)}, {s(1 + across), t(-up)}, {s(-across), t(-up)}};
+    std::array<Vertex, 4> corners{};
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        // The vertex shader mirrors what it is given, which is turned already.
+        corners[i] = {static_cast<float>(_flipX ? -places[i].x() : places[i].x()),
+                      static_cast<float>(_flipY ? -places[i].y() : places[i].y()),
+                      0,
+                      1,
+                      coords[i][0],
+                      coords[i][1]};
+    }
+    drawQuad(corners, point);
+    if (smoothEdges) {
+        setBlendType(_blendType);
+        bindSources();
+    }
 }

@@ -11,6 +11,7 @@
 // Errors   init gives null when the program does not build. GL errors are logged and drawing goes on.
 #pragma once
 
+#include <QRect>
 #include <QRectF>
 #include <QString>
 #include <array>
@@ -53,6 +54,7 @@ public:
     static QString brightnessFSHString();
     static QString multiplyFSHString();
     static QString resetFSHString();
+    static QString placeFSHString();  // normal or replace, of a placed image with smooth edges
 
     // ---- blend mode
 
@@ -72,13 +74,25 @@ public:
     // unit.
     void updateBGTextureAtPos(GLenum pos);
     void updateBGTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLenum pos);
+    // Copies an RGBA8888_Premultiplied image, bottom row first, to a rectangle of its size on the buffer, of the
+    // background texture and the bound framebuffer. What mode replace makes of an image that isCopy(), at the cost of
+    // copying its bytes twice; drawing takes a driver without a GPU ten times as long.
+    void copyToBG(const QImage& rows, const QRect& rect);
     // Bind a role's texture on its unit; false for a role without one.
     bool useBGTexture() const { return _background.use(); }
     bool useLineTexture() const { return _line.use(); }
     bool useSubLineTexture() const { return _subLine.use(); }
 
+    // An image to place, or top-row-first pixels of one, read from where they lie. It keeps its size in pixels,
+    // whatever its device pixel ratio; only one above what the driver takes is scaled down. Null or empty input
+    // changes nothing; brushTexture() is null when there was no memory.
+    void setTextureImage(const QImage& image, GLenum atPosition = GL_TEXTURE0) override;
+    void setTextureData(const unsigned char* data, const QSize& dataSize,
+                        GLenum atPosition = GL_TEXTURE0) override;
     // The source is this renderer's brush texture, a placed image, rather than the line layer. drawPoints()
-    // drops it.
+    // drops it. Unturned (or by quarters) and in its own size on whole pixels it gives its exact pixels; enlarged
+    // it is interpolated, reduced it is averaged; where its edges cut through pixels these are blended, with the
+    // modes normal and replace.
     bool useLargeTexture() const { return _useLargeTexture; }
     void setUseLargeTexture(bool value) { _useLargeTexture = value; }
     // The sub-line layer masks the line layer.
@@ -96,6 +110,10 @@ public:
 
     // Composites one rectangle a point; returns the touched rectangle in whole pixels, without a margin.
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
+    // The pixels, also beyond the buffer, that a placed image would touch with the present roundness and radian.
+    QRect placedRect(const LPPoint& point) const;
+    // Whether an image of that size would come out pixel by pixel, unturned, and there is a background texture.
+    bool isCopy(const LPPoint& point, const QSize& imageSize) const;
 
 protected:
     ESImageRender() = default;
@@ -119,6 +137,9 @@ private:
     bool bindSources();
     std::array<float, 8> texCoords(const LPPoint& point) const;
     void drawRect(const LPPoint& point);
+    void drawPlaced(const LPPoint& point);
+    bool usePlaceProgram();
+    void drawQuad(const std::array<Vertex, 4>& corners, const LPPoint& point);
 
     std::uint32_t _blendType = ESBlendTypeNormal;
     bool _flipX = false, _flipY = false;
@@ -128,8 +149,8 @@ private:
 
     GLint _positionIndex = -1, _texCoordIndex = -1;
     dabcanvas::UniformFloat _opacityUniform, _radianUniform;
-    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit;
-    dabcanvas::UniformVec2 _viewSize, _bgTextureSize, _flip, _center;
+    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit, _replace;
+    dabcanvas::UniformVec2 _viewSize, _bgTextureSize, _flip, _center, _placedSize;
 };
 
 // The blend programs as the library carries them, whatever files stand beside it.
@@ -143,4 +164,5 @@ public:
     static QString brightnessFSHString();
     static QString multiplyFSHString();
     static QString resetFSHString();
+    static QString placeFSHString();
 };

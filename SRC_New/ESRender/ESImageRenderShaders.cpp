@@ -39,6 +39,9 @@ QString ESImageRender::multiplyFSHString() {
 QString ESImageRender::resetFSHString() {
     return stringWithFileName(blendProgram("reset"));
 }
+QString ESImageRender::placeFSHString() {
+    return stringWithFileName(blendProgram("place"));
+}
 
 namespace {
 
@@ -71,4 +74,7 @@ QString ImageRenderFSH::multiplyFSHString() {
 }
 QString ImageRenderFSH::resetFSHString() {
     return builtIn("reset");
+}
+QString ImageRenderFSH::placeFSHString() {
+    return builtIn("place");
 }

@@ -18,5 +18,7 @@ inline constexpr char kViewSize[] = "u_viewSize";
 inline constexpr char kBGTextureSize[] = "u_bgTextureSize";
 inline constexpr char kFlip[] = "a_flip";
 inline constexpr char kCenter[] = "a_center";
+inline constexpr char kPlacedSize[] = "u_placedSize";  // these two of "ImageRender_Mac(place).fsh" only
+inline constexpr char kReplace[] = "u_replace";
 
 }  // namespace dabcanvas::image

@@ -26,6 +26,13 @@ QSizeF CGSizeApplyRotation(const QSizeF& halfSize, float angle) {
             diagonal * std::max(std::abs(std::sin(angle - corner)), std::abs(std::sin(angle + corner)))};
 }
 
+QPointF offsetWithCenter(const QPointF& center, const QPointF& point, double radian) {
+    const QPointF arm = center - point;
+    const double c = std::cos(radian);
+    const double s = std::sin(radian);
+    return QPointF(arm.x() * c + arm.y() * s, arm.y() * c - arm.x() * s) - arm;
+}
+
 namespace {
 
 template <typename Real>

@@ -79,6 +79,7 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
     if (smudge || _tempRect.width() <= 0 || _tempRect.height() <= 0) {
         return;
     }
+    mergeRect(_drawRect, _tempRect);
     mergeRect(_updateRect, _tempRect);
     // The composite itself waits until the canvas is looked at: its pixels depend on the layer alone, and
     // every change of target makes the driver draw what it had gathered. Rectangles that overlap become one,
@@ -247,6 +248,7 @@ void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     const QRectF whole(QPointF(0, 0), bufferSize());
     mergeRect(_updateRect, whole);
+    _drawRect = QRectF();
     if (color.componentCount() == 0) {
         _esRender->clear();
     } else {
@@ -305,8 +307,9 @@ void QDDrawCanvas::updateScaleInfo() {
         return;  // nothing is shown, and nothing could be scaled to it
     }
     _needScale = frame != buffer;
+    _outScale = QSizeF(frame.width() / buffer.width(), frame.height() / buffer.height());
     if (_needScale) {
-        _scale = QSizeF(frame.width() / buffer.width(), frame.height() / buffer.height());
+        _scale = _outScale;
     }
     _esContext->setViewSize(QSizeF(buffer.width() * scale().width(), buffer.height() * scale().height()));
 }

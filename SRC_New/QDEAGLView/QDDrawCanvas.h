@@ -174,6 +174,67 @@ public:
         return (_brush.maxRadius + _brush.minRadius) * value * 0.5f;
     }
 
+    // ---- Images ----
+
+    // Reading back: rectangles in view points (those of readDataBufferRect() in buffer pixels), to lie on the canvas and
+    // cover a pixel at least; between pixels, as many whole ones as ESContext::gRectWithVRect() says. Null or false,
+    // after a log line, for any other.
+    QImage imageWithRect(const QRectF& rect);
+    QImage newCGImageWithRect(const QRectF& rect);  // the same
+    // Premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps. The caller provides the room.
+    bool readData(unsigned char* bytes, const QRectF& rect);
+    bool readDataBufferRect(unsigned char* bytes, const QRectF& bufferRect);
+
+    // Placing: the draw family composites an image over what is there, the set family puts it in its place, transparent
+    // parts included. The image is stretched to the rectangle and turned about its centre, counter-clockwise, by radians.
+    //
+    // Units    view points; buffer pixels in forms that name the buffer, and with isUndo, which is for putting back what
+    //          was recorded: it leaves edited() as it is. An image's device pixel ratio plays no role.
+    // Data     premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps, dataSize pixels: what readData()
+    //          gives, so that setData() of it is the same picture again.
+    // Pixels   exact where the image keeps its size on whole pixels, also turned by quarters; interpolated when enlarged,
+    //          averaged when reduced; where its edges cut through pixels they are blended smoothly, in both families. An
+    //          image larger than the driver's largest texture (8192 pixels a side at the least on today's) loses detail.
+    // Strokes  one in progress goes on above the image: what it drew so far is finished below.
+    // Errors   false, and nothing changed: after a log line for a null image, data shorter than dataSize says, numbers
+    //          that are not finite and sides not from a millionth to a million buffer pixels; quietly for what lies
+    //          outside of the canvas.
+    bool drawImage(const QImage& image, const QRectF& inRect, bool isUndo = false);
+    bool drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
+                   bool isUndo = false);
+    // Turned about a point of the view instead of the centre.
+    bool drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
+                   const QPointF& anchorPoint);
+    bool drawData(const QByteArray& data, const QSize& dataSize, const QRectF& inRect, bool isUndo = false);
+    bool drawData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize,
+                  const QPointF& atCenter, double radian, bool isUndo = false);
+
+    bool setImage(const QImage& image, const QRectF& inRect, bool isUndo = false);
+    bool setImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
+                  bool isUndo = false);
+    bool setImageInBufferRect(const QImage& image, const QRectF& rect, bool isUndo = false);
+    bool setImageInBufferSize(const QImage& image, const QSizeF& inBufferSize, const QPointF& atBufferCenter,
+                              double radian, bool isUndo = false);
+    bool setData(const QByteArray& data, const QSize& dataSize, const QRectF& inRect, bool isUndo = false);
+    bool setData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize, const QPointF& atCenter,
+                 double radian, bool isUndo = false);
+
+    // Placing changes the canvas alone, not the background that strokes and drawn images are blended with, and a stroke
+    // in progress is not finished: for a caller that puts back the canvas as the background has it.
+    bool neglectTextureUpdate() const { return _neglectTextureUpdate; }
+    void setNeglectTextureUpdate(bool value) { _neglectTextureUpdate = value; }
+    // Placing touches only what lies in scissorRect(): buffer pixels, rounded to whole ones. One that is not finite is
+    // refused with a log line; an empty one lets nothing through.
+    bool globalScissor() const { return _globalScissor; }
+    void setGlobalScissor(bool value) { _globalScissor = value; }
+    QRectF scissorRect() const { return _scissorRect; }
+    void setScissorRect(const QRectF& rect);
+    // A recorded canvas: readData() of all of it. Empty for none.
+    QByteArray curImageData() const { return _curImageData; }
+    void setCurImageData(const QByteArray& data) { _curImageData = data; }
+    // Everything that was composited or placed since the last clear, in buffer pixels.
+    QRectF drawRect() const { return _drawRect; }
+
     // ---- Measuring ----
 
     // Fixed random sequences instead of drand48() for dabs, so that a session on a new canvas repeats. Sizes
@@ -429,6 +490,17 @@ private:
     void noteChanged(const QRectF& rect);
     void redisplayAll();
 
+    // Placing, in steps
+    struct Source;
+    bool placeInView(const Source& source, const QSizeF& size, const QPointF& centre, double radian,
+                     bool isUndo);
+    bool place(const Source& source, const QSizeF& size, const QPointF& centre, double radian, bool isUndo);
+    static QImage rowsOf(const Source& source, const QRect& part);
+    void settleBeforePlacing();
+    bool copyPlaced(const Source& source, const QRect& placed, const QRect& touched);
+    bool drawPlaced(const Source& source, const LPPoint& dab, const QRect& touched);
+    QRect scissorBox() const;
+
     // Setting properties
     template <typename Value>
     void assign(BrushKey key, Value value);
@@ -497,6 +569,13 @@ private:
 
     bool _needScale = false;
     QSizeF _scale{1, 1};
+    QSizeF _outScale{1, 1};  // view size over buffer size, whether they differ or not
+
+    QRectF _drawRect;  // composited since the last clear, in buffer pixels
+    bool _neglectTextureUpdate = false;
+    bool _globalScissor = false;
+    QRectF _scissorRect;
+    QByteArray _curImageData;
 
     bool _profiling = false;
     StrokeStats _stats;

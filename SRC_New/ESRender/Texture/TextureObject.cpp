@@ -86,6 +86,25 @@ std::unique_ptr<TextureObject> TextureObject::initWithData(const unsigned char* 
     return texture;
 }
 
+std::unique_ptr<TextureObject> TextureObject::initWithPicture(const QImage& picture) {
+    if (picture.isNull()) {
+        return nullptr;
+    }
+    const int limit = dabcanvas::maxTextureSize();
+    const QSize fitting = picture.size().boundedTo(QSize(limit, limit));
+    QImage pixels = picture;
+    if (fitting != picture.size()) {
+        pixels = picture.scaled(fitting, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    pixels = std::move(pixels).convertToFormat(kFormat);
+    if (pixels.isNull()) {
+        return nullptr;
+    }
+    std::unique_ptr<TextureObject> texture(new TextureObject(fitting.width(), fitting.height()));
+    texture->upload(pixels);
+    return texture->isEnabled() ? std::move(texture) : nullptr;
+}
+
 std::unique_ptr<TextureObject> TextureObject::initWithQualityType(int qualityType) {
     std::unique_ptr<TextureObject> texture(new TextureObject(qualityType, qualityType));
     texture->_dataBuffer = QImage(qualityType, qualityType, kFormat);
@@ -267,4 +286,24 @@ bool TextureObject::load(QImage pixels) {
     }
     _didInit = _textureID != 0;
     return _didInit;
+}
+
+void TextureObject::upload(const QImage& picture) {
+    drainGLErrors(kFile, __LINE__);  // what is found below must be this texture's
+    glGenTextures(1, &_textureID);
+    glBindTexture(GL_TEXTURE_2D, _textureID);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, picture.width(), picture.height(), 0, GL_RGBA, GL_UNSIGNED_BYTE,
+                 nullptr);
+    dabcanvas::copyRowsToTexture(picture, {0, 0});
+    glBindTexture(GL_TEXTURE_2D, 0);
+    if (drainGLErrors(kFile, __LINE__) > 0) {
+        destoryTexture();
+    }
+    // The picture's top row came first.
+    _verties[0] = {0, 1, 0, 0, 1, 0, 1, 1, 0, 1};
+    _didInit = _textureID != 0;
 }

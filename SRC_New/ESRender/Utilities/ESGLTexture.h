@@ -4,6 +4,8 @@
 
 #include <epoxy/gl.h>
 
+#include <QImage>
+#include <QPoint>
 #include <QRect>
 #include <QSize>
 
@@ -34,5 +36,8 @@ GLuint makeClearedTexture(const QSize& size, GLenum minFilter);
 // Copies `rect` (bottom-up rows) of the read framebuffer to the same place of the bound texture.
 // Parts outside `bounds` have no defined pixels and are left out. False when nothing was left to copy.
 bool copyFramebufferToTexture(const QRect& rect, const QSize& bounds);
+
+// Copies an image's rows, a Format_RGBA8888_Premultiplied one's, to a place of the bound texture, the first one lowest.
+void copyRowsToTexture(const QImage& rows, const QPoint& place);
 
 }  // namespace dabcanvas

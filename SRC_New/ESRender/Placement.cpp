@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "ESRender/Placement.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <numbers>
+
+#include "Maths/Rounding.h"
+
+namespace dabcanvas {
+namespace {
+
+// Less than half a step of an 8-bit colour, and as close as single precision comes on the largest buffers.
+constexpr double kSame = 1.0 / 512;
+
+bool isWhole(double value) {
+    return std::fabs(value - std::nearbyint(value)) < kSame;
+}
+
+// Far off any buffer, and far from where integers or single precision end.
+int pixelAt(double edge) {
+    constexpr double kFar = 1e6;
+    return truncatedInt(std::clamp(edge, -kFar, kFar));
+}
+
+bool isSame(double length, int texels) {
+    return std::fabs(length - texels) < kSame;
+}
+
+}  // namespace
+
+Placement::Placement(const LPPoint& dab, float roundness, double radian)
+    : _centre(dab.position.x, dab.position.y), _width(dab.radius), _height(double{dab.radius} * roundness) {
+    radian = std::remainder(radian, 2 * std::numbers::pi);
+    const double quarters = std::nearbyint(radian / (std::numbers::pi / 2));
+    const double off = radian - quarters * (std::numbers::pi / 2);
+    const bool isQuarterTurn = std::fabs(off) * std::hypot(_width, _height) / 2 < kSame;
+    if (isQuarterTurn) {
+        constexpr double kCosines[] = {1, 0, -1, 0};
+        const auto quarter = static_cast<std::size_t>(static_cast<int>(quarters) & 3);
+        _cosine = kCosines[quarter];
+        _sine = kCosines[(quarter + 3) % 4];
+    } else {
+        _cosine = std::cos(radian);
+        _sine = std::sin(radian);
+    }
+    const QPointF half(std::fabs(_width * _cosine) / 2 + std::fabs(_height * _sine) / 2,
+                       std::fabs(_width * _sine) / 2 + std::fabs(_height * _cosine) / 2);
+    const QPointF first = _centre - half;
+    const QPointF last = _centre + half;
+    _onPixelEdges =
+        isQuarterTurn && isWhole(first.x()) && isWhole(first.y()) && isWhole(last.x()) && isWhole(last.y());
+}
+
+QRect Placement::touched() const {
+    const double rim = _onPixelEdges ? 0 : 0.5;
+    const double halfWidth = _width / 2 + rim;
+    const double halfHeight = _height / 2 + rim;
+    const QPointF half(std::fabs(halfWidth * _cosine) + std::fabs(halfHeight * _sine),
+                       std::fabs(halfWidth * _sine) + std::fabs(halfHeight * _cosine));
+    const QPointF first = _centre - half;
+    const QPointF last = _centre + half;
+    const auto lower = [this](double edge) {
+        return pixelAt(_onPixelEdges ? std::nearbyint(edge) : std::floor(edge));
+    };
+    const auto upper = [this](double edge) {
+        return pixelAt(_onPixelEdges ? std::nearbyint(edge) : std::ceil(edge)) - 1;
+    };
+    return QRect(QPoint(lower(first.x()), lower(first.y())), QPoint(upper(last.x()), upper(last.y())));
+}
+
+std::array<QPointF, 4> Placement::corners(double rim, bool flipX, bool flipY) const {
+    const double x = (_width / 2 + rim) * (flipX ? -1 : 1);
+    const double y = (_height / 2 + rim) * (flipY ? -1 : 1);
+    const auto turned = [this](double right, double up) {
+        return QPointF(right * _cosine - up * _sine, right * _sine + up * _cosine);
+    };
+    return {turned(-x, -y), turned(x, -y), turned(x, y), turned(-x, y)};
+}
+
+Placement::Reading Placement::readingOf(const QSize& texels) const {
+    const bool sameWidth = isSame(_width, texels.width());
+    const bool sameHeight = isSame(_height, texels.height());
+    if ((_width < texels.width() && !sameWidth) || (_height < texels.height() && !sameHeight)) {
+        return Reading::averaged;
+    }
+    return sameWidth && sameHeight && _onPixelEdges ? Reading::texelOnPixel : Reading::interpolated;
+}
+
+}  // namespace dabcanvas

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "QDEAGLView/LeafDrawView.h"
+
+#include <QLoggingCategory>
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
+
+std::unique_ptr<LeafDrawView> LeafDrawView::initWithFrame(const QRectF& frame, QWidget* parent) {
+    for (const double number : {frame.x(), frame.y(), frame.width(), frame.height()}) {
+        if (!(std::abs(number) <= QWIDGETSIZE_MAX)) {
+            qCWarning(lcDabcanvas, "a preview cannot be %g x %g view points large at (%g, %g)", frame.width(),
+                      frame.height(), frame.x(), frame.y());
+            return nullptr;
+        }
+    }
+    return std::unique_ptr<LeafDrawView>(new LeafDrawView(frame, parent));
+}
+
+LeafDrawView::LeafDrawView(const QRectF& frame, QWidget* parent)
+    : QWidget(parent), LeafDrawing(frame.size()) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setFocusPolicy(Qt::NoFocus);
+    setGeometry(frame.toRect());
+}
+
+void LeafDrawView::paintEvent(QPaintEvent* event) {
+    if (!showsImage()) {
+        return;  // what lies below shows
+    }
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(rect()), cgImage());
+}

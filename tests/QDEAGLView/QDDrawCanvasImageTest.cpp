@@ -1,0 +1,440 @@
+// SPDX-License-Identifier: MIT
+#include <QTransform>
+#include <limits>
+#include <numbers>
+#include <random>
+
+#include "ESRender/ESImageRender.h"
+#include "support/CanvasTest.h"
+#include "support/LogCapture.h"
+
+namespace {
+
+constexpr double kQuarter = std::numbers::pi / 2;
+
+// Random premultiplied pixels, a fourth of them transparent.
+QImage noise(const QSize& size, unsigned seed = 1) {
+    std::mt19937 random(seed);
+    QImage image = solidImage(size);
+    for (int y = 0; y < size.height(); ++y) {
+        for (uchar* pixel = image.scanLine(y); pixel != image.scanLine(y) + 4 * size.width(); pixel += 4) {
+            pixel[3] = static_cast<uchar>(random() % 4 == 0 ? 0 : random() % 256);
+            for (int i = 0; i < 3; ++i) {
+                pixel[i] = static_cast<uchar>(random() % (pixel[3] + 1u));
+            }
+        }
+    }
+    return image;
+}
+
+QImage withPart(QImage whole, const QPoint& at, const QImage& part) {
+    for (int y = 0; y < part.height(); ++y) {
+        std::copy_n(part.constScanLine(y), 4 * part.width(), whole.scanLine(at.y() + y) + 4 * at.x());
+    }
+    return whole;
+}
+
+QByteArray bottomUp(const QImage& image) {
+    const QImage rows = image.mirrored();
+    return QByteArray(reinterpret_cast<const char*>(rows.constBits()), rows.sizeInBytes());
+}
+
+// A canvas shown at another size than its buffer's.
+class ShownCanvas : public QDDrawCanvas {
+public:
+    ShownCanvas(const QSize& buffer, const QSize& frame) : QDDrawCanvas(QRectF(QPointF(), buffer)) {
+        EXPECT_TRUE(initCanvas());
+        _shown = QRectF(QPointF(), frame);
+        updateScaleInfo();
+    }
+    QRectF displayFrame() const override { return _shown.isNull() ? QDDrawCanvas::displayFrame() : _shown; }
+    void redisplayRect(const QRectF& rect) override { asked |= rect; }
+    QRectF asked;
+
+private:
+    QRectF _shown;
+};
+
+class CanvasImageTest : public CanvasTest {
+protected:
+    static const QImage& part() {
+        static const QImage image = noise({40, 24});
+        return image;
+    }
+    std::unique_ptr<QDDrawCanvas> greyCanvas() {
+        auto canvas = makeCanvas();
+        canvas->clearWithColor(ESColor::rgba(0.2f, 0.4f, 0.6f, 0.8f), false);
+        return canvas;
+    }
+};
+
+// Exact pixels
+
+TEST_F(CanvasImageTest, AWholeCanvasComesBackAsItWasSet) {
+    for (const QSize size : {QSize(641, 487), QSize(2500, 300), QSize(3000, 1100), QSize(1, 1)}) {
+        SCOPED_TRACE(size.width());
+        auto canvas = makeCanvas(size.width(), size.height());
+        const QRectF whole(QPointF(), size);
+        const QImage image = noise(size);
+        ASSERT_TRUE(canvas->setImage(image, whole));
+        EXPECT_TRUE(imagesMatch(canvas->image(), image));
+        EXPECT_TRUE(imagesMatch(canvas->displayImage(), image));
+        QByteArray recorded(image.sizeInBytes(), 0);
+        ASSERT_TRUE(canvas->readData(reinterpret_cast<unsigned char*>(recorded.data()), whole));
+        EXPECT_EQ(recorded, bottomUp(image));
+        canvas->clear();
+        ASSERT_TRUE(canvas->setData(recorded, size, whole, true));
+        EXPECT_TRUE(imagesMatch(canvas->image(), image));
+    }
+}
+
+TEST_F(CanvasImageTest, EveryKindOfImageIsTakenForItsPixels) {
+    auto canvas = makeCanvas();
+    const QImage source = noise({43, 31});
+    for (const QImage::Format format :
+         {QImage::Format_ARGB32_Premultiplied, QImage::Format_ARGB32, QImage::Format_RGBA8888,
+          QImage::Format_RGB32, QImage::Format_RGBX8888, QImage::Format_RGB888, QImage::Format_Grayscale8,
+          QImage::Format_Indexed8, QImage::Format_Alpha8, QImage::Format_Mono}) {
+        SCOPED_TRACE(format);
+        QImage image = source.convertToFormat(format);
+        image.setDevicePixelRatio(2);
+        ASSERT_TRUE(canvas->setImage(image, QRectF(7, 9, 43, 31)));
+        EXPECT_TRUE(imagesMatch(canvas->imageWithRect(QRectF(7, 9, 43, 31)), image));
+    }
+    const QImage window(source.constBits() + 8, 30, 31, source.bytesPerLine(), source.format());
+    ASSERT_TRUE(canvas->setImage(window, QRectF(0, 0, 30, 31)));
+    EXPECT_TRUE(imagesMatch(canvas->imageWithRect(QRectF(0, 0, 30, 31)), source.copy(2, 0, 30, 31)));
+}
+
+TEST_F(CanvasImageTest, PartsAreReadUprightAndBottomRowFirst) {
+    ShownCanvas canvas({211, 133}, {422, 399});
+    const QImage image = noise({211, 133});
+    ASSERT_TRUE(canvas.setImageInBufferRect(image, QRectF(0, 0, 211, 133)));
+    for (const QRect rect : {QRect(0, 0, 211, 133), QRect(17, 3, 50, 21), QRect(210, 132, 1, 1)}) {
+        const QRectF inView(rect.x() * 2, rect.y() * 3, rect.width() * 2, rect.height() * 3);
+        const QImage expected = image.copy(rect);
+        EXPECT_TRUE(imagesMatch(canvas.imageWithRect(inView), expected));
+        EXPECT_TRUE(imagesMatch(canvas.newCGImageWithRect(inView), expected));
+        QByteArray bytes(expected.sizeInBytes(), 0);
+        EXPECT_TRUE(canvas.readData(reinterpret_cast<unsigned char*>(bytes.data()), inView));
+        EXPECT_EQ(bytes, bottomUp(expected));
+        bytes.fill(0);
+        EXPECT_TRUE(canvas.readDataBufferRect(reinterpret_cast<unsigned char*>(bytes.data()), rect));
+        EXPECT_EQ(bytes, bottomUp(expected));
+    }
+}
+
+TEST_F(CanvasImageTest, WhatReachesBeyondTheCanvasIsCutOff) {
+    const QImage large = noise({230, 171}, 2);
+    const QRectF at(-19, -8, 230, 171);
+    auto canvas = makeCanvas();
+    ASSERT_TRUE(canvas->setImage(large, at));
+    const QImage expected = large.copy(19, 8, 200, 150);
+    EXPECT_TRUE(imagesMatch(canvas->image(), expected));
+    canvas->clear();
+    ASSERT_TRUE(canvas->setData(bottomUp(large), large.size(), at));
+    EXPECT_TRUE(imagesMatch(canvas->image(), expected));
+    canvas->clear();
+    ASSERT_TRUE(canvas->drawImage(large, at));
+    EXPECT_TRUE(imagesMatch(canvas->image(), expected));
+    EXPECT_TRUE(imagesMatch(canvas->displayImage(), expected));
+}
+
+TEST_F(CanvasImageTest, DrawBlendsAndSetReplaces) {
+    const QRectF at(50, 60, 40, 24);
+    auto canvas = greyCanvas();
+    const QImage before = canvas->image();
+    ASSERT_TRUE(canvas->setImage(part(), at));
+    const QImage replaced = withPart(before, {50, 60}, part());
+    EXPECT_TRUE(imagesMatch(canvas->image(), replaced));
+
+    QImage over = part();
+    for (int i = 0; i < over.sizeInBytes(); ++i) {
+        const int alpha = part().constBits()[i / 4 * 4 + 3];
+        const int below = before.constBits()[i % 4];
+        over.bits()[i] =
+            static_cast<uchar>(std::lround(part().constBits()[i] + below * (255 - alpha) / 255.0));
+    }
+    canvas = greyCanvas();
+    ASSERT_TRUE(canvas->drawImage(part(), at));
+    EXPECT_TRUE(imagesMatch(canvas->image(), withPart(before, {50, 60}, over), 1));
+    const QImage drawn = canvas->image();
+    canvas = greyCanvas();
+    ASSERT_TRUE(canvas->drawData(bottomUp(part()), {40, 24}, at));
+    EXPECT_TRUE(imagesMatch(canvas->image(), drawn));
+}
+
+TEST_F(CanvasImageTest, QuarterTurnsAreCounterClockwiseAndExact) {
+    for (int quarters = -1; quarters <= 5; ++quarters) {
+        SCOPED_TRACE(quarters);
+        const QImage turned = part().transformed(QTransform().rotate(-90 * (quarters % 4)));
+        const QPoint corner(100 - turned.width() / 2, 70 - turned.height() / 2);
+        auto canvas = makeCanvas();
+        const QImage expected = withPart(canvas->image(), corner, turned);
+        ASSERT_TRUE(canvas->setImage(part(), QSizeF(40, 24), QPointF(100, 70), quarters * kQuarter));
+        EXPECT_TRUE(imagesMatch(canvas->image(), expected));
+        canvas->clear();
+        ASSERT_TRUE(canvas->drawData(bottomUp(part()), {40, 24}, QSizeF(40, 24), QPointF(100, 70),
+                                     quarters * kQuarter));
+        EXPECT_TRUE(imagesMatch(canvas->image(), expected));
+        // Turned about its top left corner.
+        const QRect about =
+            QTransform().translate(90, 60).rotate(-90 * (quarters % 4)).mapRect(QRect(0, 0, 40, 24));
+        canvas->clear();
+        ASSERT_TRUE(canvas->drawImage(part(), {40, 24}, {110, 72}, quarters * kQuarter, QPointF(90, 60)));
+        EXPECT_TRUE(imagesMatch(canvas->imageWithRect(about), turned));
+    }
+}
+
+// Stretched, turned and between pixels
+
+TEST_F(CanvasImageTest, AnEdgeBetweenPixelsCoversThemInPart) {
+    auto canvas = makeCanvas();
+    const QImage white = solidImage({30, 20}, Qt::white);
+    ASSERT_TRUE(canvas->drawImage(white, QRectF(40.25, 30.5, 30, 0.4)));
+    const auto alphaAt = [&](int x, int y) { return canvas->image().pixelColor(x, y).alpha(); };
+    EXPECT_NEAR(alphaAt(39, 30), 0, 1);
+    EXPECT_NEAR(alphaAt(40, 30), 255 * 0.75 * 0.4, 1);
+    EXPECT_NEAR(alphaAt(50, 30), 255 * 0.4, 1);
+    EXPECT_NEAR(alphaAt(70, 30), 255 * 0.25 * 0.4, 1);
+    EXPECT_NEAR(alphaAt(71, 30), 0, 1);
+}
+
+TEST_F(CanvasImageTest, NoSizeAndNoTurnLeavesAFringe) {
+    const QColor color(200, 90, 40);
+    for (const double radian : {0.0, 0.3, -1.2, 2.5}) {
+        for (const QSizeF size : {QSizeF(40, 24), QSizeF(95.5, 60), QSizeF(9, 90), QSizeF(13.2, 7.9)}) {
+            SCOPED_TRACE(::testing::Message() << radian << ", " << size.width());
+            auto canvas = makeCanvas();
+            const QImage image = solidImage({31, 27}, color);
+            ASSERT_TRUE(canvas->drawImage(image, size, QPointF(100, 75), radian));
+            double covered = 0;
+            const QImage result = canvas->image();
+            for (int i = 0; i < 200 * 150; ++i) {
+                covered += result.constBits()[4 * i + 3] / 255.0;
+            }
+            EXPECT_NEAR(covered, size.width() * size.height(), size.width() * 0.02 + 1);
+            canvas->clearWithColor(ESColor(color), false);
+            const QImage plain = canvas->image();
+            ASSERT_TRUE(canvas->drawImage(image, size, QPointF(100, 75), radian));
+            EXPECT_TRUE(imagesMatch(canvas->image(), plain, 1));
+            ASSERT_TRUE(canvas->setImage(image, size, QPointF(100, 75), radian));
+            EXPECT_TRUE(imagesMatch(canvas->image(), plain, 1));
+        }
+    }
+}
+
+TEST_F(CanvasImageTest, EnlargedAndReducedImagesKeepTheirColours) {
+    auto canvas = makeCanvas();
+    QImage halves = solidImage({8, 6}, Qt::red);
+    fillRect(halves, QRect(4, 0, 4, 6), Qt::blue);
+    ASSERT_TRUE(canvas->setImage(halves, QRectF(0, 0, 200, 150)));
+    for (const QPoint corner : {QPoint(0, 0), QPoint(80, 0), QPoint(0, 149), QPoint(86, 149)}) {
+        EXPECT_EQ(canvas->image().pixelColor(corner), QColor(Qt::red)) << "up to the rim";
+    }
+    EXPECT_EQ(canvas->image().pixelColor(199, 149), QColor(Qt::blue));
+
+    // Nine texels of 64 are white: reduced, every pixel is that grey; also when one side is reduced alone.
+    QImage dots = solidImage({1600, 1200}, Qt::black);
+    for (int i = 0; i < 200 * 150; ++i) {
+        fillRect(dots, QRect(i % 200 * 8, i / 200 * 8, 3, 3), Qt::white);
+    }
+    ASSERT_TRUE(canvas->setImage(dots, QRectF(0, 0, 200, 150)));
+    EXPECT_TRUE(imagesMatch(canvas->image(), solidImage({200, 150}, QColor(36, 36, 36)), 2));
+    QImage stripes = solidImage({1600, 150}, Qt::black);
+    for (int y = 0; y < 150; y += 2) {
+        fillRect(stripes, QRect(0, y, 1600, 1), Qt::white);
+    }
+    ASSERT_TRUE(canvas->setImage(stripes, QRectF(0, 0, 200, 150)));
+    EXPECT_TRUE(imagesMatch(canvas->image(), stripes.copy(0, 0, 200, 150)));
+}
+
+TEST_F(CanvasImageTest, AnImageTooLargeForATextureIsScaledDown) {
+    auto canvas = makeCanvas();
+    QImage band = solidImage({40000, 2}, Qt::red);
+    fillRect(band, QRect(20000, 0, 20000, 2), Qt::blue);
+    ASSERT_TRUE(canvas->drawImage(band, QRectF(0, 0, 200, 2)));
+    EXPECT_EQ(canvas->image().pixelColor(90, 1), QColor(Qt::red));
+    EXPECT_EQ(canvas->image().pixelColor(110, 1), QColor(Qt::blue));
+    EXPECT_EQ(painted(canvas->image()), QRect(0, 0, 200, 2));
+}
+
+// Units and settings
+
+TEST_F(CanvasImageTest, ViewPointsAreScaledAndBufferPixelsAreNot) {
+    ShownCanvas canvas({200, 150}, {400, 300});
+    const QImage expected = withPart(solidImage({200, 150}), {50, 60}, part());
+    const auto shows = [&] {
+        const QImage image = canvas.image();
+        canvas.clear();
+        return imagesMatch(image, expected);
+    };
+    ASSERT_TRUE(canvas.drawImage(part(), QRectF(100, 120, 80, 48)));
+    EXPECT_TRUE(shows());
+    ASSERT_TRUE(canvas.setData(bottomUp(part()), {40, 24}, QRectF(50, 60, 40, 24), true));
+    EXPECT_TRUE(shows());
+    ASSERT_TRUE(canvas.setImage(part(), QRectF(50, 60, 40, 24), true));
+    EXPECT_TRUE(shows());
+    canvas.asked = QRectF();
+    ASSERT_TRUE(canvas.setImageInBufferSize(part(), {40, 24}, {70, 72}, 0));
+    EXPECT_EQ(canvas.asked, QRectF(0, 0, 400, 300));
+    EXPECT_EQ(canvas.drawRect(), QRectF(50, 60, 40, 24));
+    EXPECT_TRUE(shows());
+    EXPECT_EQ(canvas.drawRect(), QRectF());
+}
+
+TEST_F(CanvasImageTest, OnlyWhatTheScissorLetsThroughIsTouched) {
+    const QRect inside(60, 70, 20, 9);
+    auto canvas = greyCanvas();
+    const QImage before = canvas->image();
+    canvas->setScissorRect(QRectF(inside).translated(0.3, -0.4));
+    canvas->setGlobalScissor(true);
+    ASSERT_TRUE(canvas->setImage(part(), QRectF(50, 60, 40, 24)));
+    EXPECT_TRUE(imagesMatch(canvas->image(), withPart(before, {60, 70}, part().copy(10, 10, 20, 9))));
+    EXPECT_TRUE(imagesMatch(canvas->displayImage(), canvas->image()));
+    const QImage after = canvas->image();
+    canvas->clearWithColor(ESColor::rgba(0.2f, 0.4f, 0.6f, 0.8f), false);
+    ASSERT_TRUE(canvas->setData(bottomUp(part()), {40, 24}, QRectF(50, 60, 40, 24)));
+    EXPECT_TRUE(imagesMatch(canvas->image(), after));
+    for (const QRectF none : {QRectF(), QRectF(60, 70, -5, 5), QRectF(500, 0, 5, 5)}) {
+        canvas->setScissorRect(none);
+        EXPECT_FALSE(canvas->drawImage(part(), QRectF(50, 60, 40, 24)));
+    }
+    EXPECT_TRUE(imagesMatch(canvas->image(), after));
+    canvas->setGlobalScissor(false);
+    ASSERT_TRUE(canvas->setImage(part(), QRectF(50, 60, 40, 24)));
+    EXPECT_TRUE(imagesMatch(canvas->image(), withPart(before, {50, 60}, part())));
+}
+
+TEST_F(CanvasImageTest, ANeglectedBackgroundStaysWhatItWas) {
+    auto canvas = greyCanvas();
+    const QImage before = canvas->image();
+    canvas->setNeglectTextureUpdate(true);
+    ASSERT_TRUE(canvas->setImage(part(), QRectF(50, 60, 40, 24)));
+    EXPECT_TRUE(imagesMatch(canvas->image(), withPart(before, {50, 60}, part())));
+    canvas->resetWithRenderRect(QRectF(0, 0, 200, 150));
+    EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    canvas->setNeglectTextureUpdate(false);
+    ASSERT_TRUE(canvas->setImage(part(), QRectF(50, 60, 40, 24)));
+    canvas->resetWithRenderRect(QRectF(0, 0, 200, 150));
+    EXPECT_TRUE(imagesMatch(canvas->image(), withPart(before, {50, 60}, part())));
+}
+
+// Strokes
+
+TEST_F(CanvasImageTest, AStrokeGoesOnAboveTheImage) {
+    auto canvas = greyCanvas();
+    const QImage cover = solidImage({120, 150}, Qt::yellow);
+    QImage placed;
+    paintWave(*canvas, 75, 30, [&](int i) {
+        if (i == 15) {  // half of the stroke lies to the left
+            const QImage drawn = canvas->image();
+            ASSERT_TRUE(canvas->drawImage(cover, QRectF(0, 0, 120, 150)));
+            placed = canvas->image();
+            EXPECT_TRUE(imagesMatch(placed, withPart(drawn, {0, 0}, cover)));
+        }
+    });
+    const QImage after = canvas->image();
+    EXPECT_TRUE(imagesMatch(after.copy(0, 0, 70, 150), placed.copy(0, 0, 70, 150))) << "not painted over";
+    EXPECT_NE(after.copy(125, 0, 75, 150), placed.copy(125, 0, 75, 150)) << "the stroke went on";
+    EXPECT_TRUE(imagesMatch(canvas->displayImage(), after));
+}
+
+TEST_F(CanvasImageTest, StrokesAreBlendedAsBeforeAfterPlacing) {
+    for (const int blendType : {1, 2, 5, 8}) {
+        const auto paint = [&](bool place) {
+            auto canvas = greyCanvas();
+            canvas->setBlendType(blendType);
+            canvas->setOpacity(0.6f);
+            canvas->setRepeatedlyRenderEnabled(true);
+            if (place) {
+                EXPECT_TRUE(canvas->drawImage(solidImage({9, 9}), QSizeF(70, 50), QPointF(80, 70), 0.5));
+                EXPECT_FALSE(canvas->drawImage(part(), QSizeF(70, 50), QPointF(800, 70), 0.5));
+            }
+            paintWave(*canvas);
+            return canvas->image();
+        };
+        EXPECT_TRUE(imagesMatch(paint(true), paint(false))) << "blend type " << blendType;
+    }
+}
+
+// Bad input
+
+TEST_F(CanvasImageTest, BadInputIsRefusedWithOneLine) {
+    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    auto canvas = greyCanvas();
+    canvas->drawPoint({20, 20}, 30);  // not composited yet
+    const QImage before = canvas->image();
+    const QRectF good(10, 10, 40, 24);
+    const QByteArray data = bottomUp(part());
+    unsigned char bytes[16];
+    const std::pair<const char*, std::function<bool()>> kRows[] = {
+        {"null image", [&] { return canvas->drawImage(QImage(), good); }},
+        {"null image set", [&] { return canvas->setImage(QImage(), good); }},
+        {"no size", [&] { return canvas->drawImage(part(), QRectF(10, 10, 0, 0)); }},
+        {"no height", [&] { return canvas->setImage(part(), QRectF(10, 10, 5, 0)); }},
+        {"negative", [&] { return canvas->setImageInBufferRect(part(), QRectF(50, 50, -5, 5)); }},
+        {"NaN size",
+         [&] {
+             return canvas->drawImage(part(), {kNaN, 5}, {5, 5}, 0);
+         }},
+        {"endless",
+         [&] {
+             return canvas->drawImage(part(), {5, kInfinity}, {5, 5}, 0);
+         }},
+        {"huge",
+         [&] {
+             return canvas->drawImage(part(), {5, 1e30}, {5, 5}, 0);
+         }},
+        {"NaN centre",
+         [&] {
+             return canvas->setImage(part(), {5, 5}, {5, kNaN}, 0);
+         }},
+        {"NaN turn",
+         [&] {
+             return canvas->setImageInBufferSize(part(), {5, 5}, {5, 5}, kNaN);
+         }},
+        {"NaN anchor",
+         [&] {
+             return canvas->drawImage(part(), {5, 5}, {5, 5}, 1, QPointF(kNaN, 1));
+         }},
+        {"no data",
+         [&] {
+             return canvas->setData({}, {40, 24}, good);
+         }},
+        {"short data",
+         [&] {
+             return canvas->drawData(data.chopped(1), {40, 24}, good);
+         }},
+        {"data of no size", [&] { return canvas->drawData(data, {}, good); }},
+        {"data of a negative size",
+         [&] {
+             return canvas->setData(data, {-40, -24}, good);
+         }},
+        {"data of a huge size",
+         [&] {
+             return canvas->setData(data, {1 << 30, 1 << 30}, good);
+         }},
+        {"reading outside", [&] { return !canvas->imageWithRect(QRectF(190, 0, 11, 5)).isNull(); }},
+        {"reading no pixel", [&] { return canvas->readData(bytes, QRectF(3, 3, 0.5, 5)); }},
+        {"reading NaN", [&] { return canvas->readDataBufferRect(bytes, QRectF(kNaN, 3, 2, 2)); }},
+        {"reading to nowhere", [&] { return canvas->readData(nullptr, good); }},
+        {"NaN scissor", [&] { return canvas->setScissorRect(QRectF(0, 0, kNaN, 1)), false; }},
+    };
+    for (const auto& [name, call] : kRows) {
+        SCOPED_TRACE(name);
+        const LogCapture log;
+        EXPECT_FALSE(call());
+        EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+        EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    }
+    const LogCapture quiet;
+    for (const QPointF outside : {QPointF(-30, 20), QPointF(230, 20), QPointF(1e300, 0), QPointF(0, -1e9)}) {
+        EXPECT_FALSE(canvas->drawImage(part(), {40, 24}, outside, 0.1));
+    }
+    EXPECT_TRUE(quiet.lines().isEmpty());
+    EXPECT_TRUE(imagesMatch(canvas->image(), before));
+}
+
+}  // namespace
