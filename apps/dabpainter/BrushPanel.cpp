@@ -78,7 +78,11 @@ BrushRow::BrushRow(const BrushProperty& property, BrushModel& model, const Promp
         grid->addWidget(label, 0, 0, 1, 2);
         grid->addWidget(_editor, 1, 0, 1, 2);
     } else {
-        grid->addWidget(label, 0, 0);
+        // In line with the first of what may be several lines.
+        const bool isTall =
+            property.type() == BrushValueType::image || property.type() == BrushValueType::images;
+        label->setMinimumHeight(_reset->height());
+        grid->addWidget(label, 0, 0, isTall ? Qt::AlignTop : Qt::AlignVCenter);
         grid->addWidget(_editor, 0, 1);
     }
     grid->addWidget(_reset, 0, 2, Qt::AlignTop);

@@ -69,6 +69,10 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
         return watched->isWidgetType() && filterKey(*static_cast<QKeyEvent*>(event));
     const bool inView = watched == _viewport.view();
+    if (event->type() == QEvent::ApplicationDeactivate && watched == qApp) {
+        _spaceHeld = _panning = false;  // nobody will tell of the key's release
+        chooseCursor();
+    }
     if (!inView && watched != &_viewport)
         return false;
     const auto mapped = [&](QPointF local) {
@@ -94,7 +98,9 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::TouchEnd:
         case QEvent::TouchCancel:
             filterTouch(*static_cast<QTouchEvent*>(event));
-            return false;  // the view has to hear of every finger
+            // The view has to hear of every finger; beside it nobody else takes them.
+            event->setAccepted(!inView);
+            return !inView;
         case QEvent::Wheel: {
             const auto& wheel = *static_cast<QWheelEvent*>(event);
             if (isIdle())

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The canvas as a file: new, open, place, save, and what is unsaved.
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMimeData>
+
 #include <QSettings>
 #include <QStatusBar>
 
@@ -18,24 +19,22 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
+// Shows that the application is at work.
+class BusyCursor {
+public:
+    BusyCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyCursor() { QApplication::restoreOverrideCursor(); }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
+};
+
+ReadImage readBusily(const QString& path) {
+    const BusyCursor busy;
+    return readImageFile(path);
+}
+
 ESColor colorOf(const QColor& background) {
     return background.alpha() == 0 ? ESColor() : ESColor(background);
-}
-
-template <typename View>
-bool putImage(View& view, const QImage& image, const QRectF& rect) {
-    if constexpr (requires { view.setImageInBufferRect(image, rect); })
-        return view.setImageInBufferRect(image, rect);
-    else
-        return false;
-}
-
-template <typename View>
-bool blendImage(View& view, const QImage& image, const QRectF& rect) {
-    if constexpr (requires { view.drawImage(image, rect); })
-        return view.drawImage(image, rect);
-    else
-        return false;
 }
 
 bool isPng(const QString& path) {
@@ -97,13 +96,13 @@ void MainWindow::newCanvas() {
 // ---- Files
 
 bool MainWindow::openImage(const QString& path) {
-    const ReadImage read = readImageFile(path);
+    const ReadImage read = readBusily(path);
     if (!read.fault.isEmpty()) {
         _prompts.tell(this, read.fault);
         return false;
     }
     const bool opened = replaceCanvas(read.image.size(), [&](QDDrawView& view) {
-        return putImage(view, read.image, QRectF(read.image.rect()));
+        return view.setImageInBufferRect(read.image, QRectF(read.image.rect()));
     });
     if (!opened)
         return false;
@@ -116,7 +115,7 @@ bool MainWindow::openImage(const QString& path) {
 bool MainWindow::placeImage(const QString& path) {
     if (!view())
         return false;
-    const ReadImage read = readImageFile(path);
+    const ReadImage read = readBusily(path);
     if (!read.fault.isEmpty()) {
         _prompts.tell(this, read.fault);
         return false;
@@ -129,9 +128,12 @@ bool MainWindow::placeImage(const QString& path) {
     // On whole pixels, so that a picture of its own size stays sharp.
     const QRect rect(corner.toPoint(), size.toSize().expandedTo(QSize(1, 1)));
     const QSizeF scale = view()->scale();
-    blendImage(*view(), read.image,
-               QRectF(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
-                      rect.height() * scale.height()));
+    const QRectF inView(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
+                        rect.height() * scale.height());
+    if (!view()->drawImage(read.image, inView)) {
+        _prompts.tell(this, tr("The image could not be placed; the log says why."));
+        return false;
+    }
     markChanged();
     return true;
 }
@@ -139,7 +141,10 @@ bool MainWindow::placeImage(const QString& path) {
 bool MainWindow::saveTo(const QString& path) {
     if (!view() || !_pointer->isIdle())
         return false;
-    const QString fault = writePngFile(path, view()->image());
+    const QString fault = [&] {
+        const BusyCursor busy;
+        return writePngFile(path, view()->image());
+    }();
     if (!fault.isEmpty()) {
         _prompts.tell(this, fault);
         return false;

@@ -68,10 +68,14 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts)
     connect(_viewport, &CanvasViewport::zoomChanged, this, &MainWindow::showCanvasFacts);
     setPath(QString());
     readState();
+    _viewport->setFocus();
 }
 
 MainWindow::~MainWindow() {
     _brush.attach(nullptr);
+    if (view())
+        view()->setDelegate(nullptr);
+    delete _pointer;  // before what it watches
 }
 
 QDDrawView* MainWindow::view() const {

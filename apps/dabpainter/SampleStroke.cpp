@@ -22,6 +22,19 @@ constexpr int kSlice = 10;  // milliseconds of painting between events
 constexpr int kSamples = 64;
 constexpr float kLargest = 0.5f;  // brush size in canvas heights
 
+// Something to smudge, or to change: stripes of the hues.
+QImage stripes(const QSize& size) {
+    QImage image(size, QImage::Format_RGBA8888_Premultiplied);
+    const int width = std::max(1, size.height() / 4);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const int stripe = (x + y / 2) / width;
+            image.setPixelColor(x, y, QColor::fromHsv(stripe * 47 % 360, 150, 235));
+        }
+    }
+    return image;
+}
+
 }  // namespace
 
 SampleStroke::SampleStroke(const BrushModel& model, QWidget* parent) : QWidget(parent), _model(model) {
@@ -114,9 +127,12 @@ void SampleStroke::takeBrush() {
 void SampleStroke::paintBackground() {
     const QColor color = _model.value(BrushKey::renderColor).value<ESColor>().toQColor();
     const int blend = _model.value(BrushKey::blendType).toInt();
-    constexpr int kBehind = 4;
+    constexpr int kBehind = 4, kDarken = 6, kMultiply = 8;
     if (blend == kBehind)
         _canvas->clear();
+    else if (_canvas->isSmudgeType() || (blend >= kDarken && blend <= kMultiply))
+        _canvas->setImageInBufferRect(stripes(_canvas->bufferSize().toSize()),
+                                      QRectF(QPointF(0, 0), _canvas->bufferSize()));
     else
         _canvas->clearWithColor(ESColor::grey(color.lightnessF() > 0.75f ? 0.35f : 1.0f), false);
 }
