@@ -170,7 +170,8 @@ void MainWindow::makeViewMenu() {
 
 void MainWindow::stepRadius(int direction) {
     const float radius = _brush.value(BrushKey::radius).toFloat();
-    const float step = std::max(1.0f, std::round(radius * 0.1f));
+    // A tenth; on the way down of what is come to, so that there and back is the same size.
+    const float step = std::max(1.0f, std::round(radius / (direction > 0 ? 10 : 11)));
     _brush.setValue(BrushKey::radius, radius + float(direction) * step);
 }
 
