@@ -15,6 +15,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "BrushCursor.h"
 #include "CanvasViewport.h"
@@ -364,15 +365,24 @@ void CanvasPointer::pointTo(QPointF at) {
 }
 
 void CanvasPointer::chooseCursor() {
-    static const QCursor dot = dotCursor();
-    if (_panning)
-        _viewport.setCursor(Qt::ClosedHandCursor);
-    else if (_spaceHeld)
-        _viewport.setCursor(Qt::OpenHandCursor);
-    else if (_picking || _cursor.isTiny())
-        _viewport.setCursor(Qt::CrossCursor);
-    else
-        _viewport.setCursor(dot);
+    const Shown wanted = _panning                         ? Shown::grab
+                         : _spaceHeld                     ? Shown::hand
+                         : (_picking || _cursor.isTiny()) ? Shown::cross
+                                                          : Shown::dot;
+    if (std::exchange(_shown, wanted) == wanted)
+        return;  // with every move: the window system would be told every time
+    switch (wanted) {
+        case Shown::grab:
+            return _viewport.setCursor(Qt::ClosedHandCursor);
+        case Shown::hand:
+            return _viewport.setCursor(Qt::OpenHandCursor);
+        case Shown::cross:
+            return _viewport.setCursor(Qt::CrossCursor);
+        case Shown::dot:
+            return _viewport.setCursor(dotCursor());
+        case Shown::none:
+            break;
+    }
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -64,6 +64,8 @@ private:
     BrushCursor& _cursor;
     BrushModel& _model;
 
+    enum class Shown { none, grab, hand, cross, dot };
+    Shown _shown = Shown::none;
     bool _spaceHeld = false;
     bool _panning = false;
     QPointF _panFrom;
