@@ -87,6 +87,11 @@ public:
 
     void reset();
 
+    // Of the point that the present dab belongs to, inside a sink.
+    const LPPoint& point() const { return _point; }
+    float halfSizeOfPoint() const { return _halfSize; }
+    std::int64_t pointIndex() const { return _pointIndex; }  // counted from 1 since the stroke began
+
     // Calls sink(const Dab&) for every dab of the points, in drawing order.
     template <typename Sink>
     void make(const LPPoint* points, std::size_t count, Sink&& sink) {

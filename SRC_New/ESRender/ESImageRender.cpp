@@ -342,7 +342,8 @@ QRect ESImageRender::placedRect(const LPPoint& point) const {
 
 bool ESImageRender::isCopy(const LPPoint& point, const QSize& imageSize) const {
     const Placement placement(point, _roundness, _radian);
-    return _background.texture != 0 && !placement.isTurned() && placement.readingOf(imageSize) == Placement::Reading::texelOnPixel;
+    return _background.texture != 0 && !placement.isTurned() &&
+           placement.readingOf(imageSize) == Placement::Reading::texelOnPixel;
 }
 
 void ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {

@@ -78,6 +78,7 @@ public:
     // background texture and the bound framebuffer. What mode replace makes of an image that isCopy(), at the cost of
     // copying its bytes twice; drawing takes a driver without a GPU ten times as long.
     void copyToBG(const QImage& rows, const QRect& rect);
+    GLuint backgroundTexture() const { return _background.texture; }  // to read; 0 before the first copy
     // Bind a role's texture on its unit; false for a role without one.
     bool useBGTexture() const { return _background.use(); }
     bool useLineTexture() const { return _line.use(); }

@@ -5,11 +5,11 @@
 #include <array>
 #include <cmath>
 
+#include "ESRender/DabBounds.h"
 #include "ESRender/LineShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
-#include "Maths/Geometry.h"
 
 namespace {
 
@@ -25,39 +25,7 @@ static_assert(sizeof(Vertex) == 24);
 constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
 constexpr GLsizei kCorners = 4;
 
-// The source with names defined; a #version line stays the first.
-QString withDefines(const QString& source, const QString& defines) {
-    const qsizetype version = source.indexOf(QLatin1String("#version"));
-    const qsizetype lineEnd = version < 0 ? -1 : source.indexOf(QLatin1Char('\n'), version);
-    return source.left(lineEnd + 1) + defines + source.mid(lineEnd + 1);
-}
-
 }  // namespace
-
-// The area drawn into so far, with a margin of one pixel.
-struct ESLineRender::Bounds {
-    double minX, minY, maxX = 0, maxY = 0;
-
-    explicit Bounds(const QSizeF& buffer) : minX(buffer.width()), minY(buffer.height()) {}
-
-    void grow(const Dab& dab) {
-        QSizeF extent(dab.halfSize, dab.halfSize * dab.roundness);
-        if (dab.radian != 0) {
-            extent = CGSizeApplyRotation(extent, dab.radian);
-        }
-        minX = std::min(minX, dab.x - extent.width() - 1);
-        minY = std::min(minY, dab.y - extent.height() - 1);
-        maxX = std::max(maxX, dab.x + extent.width() + 1);
-        maxY = std::max(maxY, dab.y + extent.height() + 1);
-    }
-
-    QRectF cutTo(const QSizeF& buffer) const {
-        const double x = std::max(0.0, minX);
-        const double y = std::max(0.0, minY);
-        return {x, y, std::max(0.0, std::min(maxX, buffer.width()) - x),
-                std::max(0.0, std::min(maxY, buffer.height()) - y)};
-    }
-};
 
 std::unique_ptr<ESLineRender> ESLineRender::init() {
     return initWithVertexShaderFromString({}, {});
@@ -106,7 +74,8 @@ void ESLineRender::chooseProgram(bool mask, bool multicolour) {
     _usesMulticolour = multicolour;
     const QString defines = QLatin1String(mask ? "" : "#define NO_MASK\n") +
                             QLatin1String(multicolour ? "" : "#define NO_MULTICOLOUR\n");
-    if (!useProgramWithVertexShaderString(vertexShaderString(), withDefines(_wholeFragmentShader, defines))) {
+    if (!useProgramWithVertexShaderString(vertexShaderString(),
+                                          ESShaderTools::withDefines(_wholeFragmentShader, defines))) {
         useProgramWithVertexShaderString(vertexShaderString(), _wholeFragmentShader);
     }
 }
@@ -148,17 +117,17 @@ void ESLineRender::programDidChange() {
 
 void ESLineRender::setTextureImage(const QImage& image, GLenum atPosition) {
     ESBaseRender::setTextureImage(image, atPosition);
-    takeBaseSettings();
+    takeTips();
 }
 
 void ESLineRender::setTextureImages(const QList<QImage>& images, GLenum atPosition) {
     ESBaseRender::setTextureImages(images, atPosition);
-    takeBaseSettings();
+    takeTips();
 }
 
 void ESLineRender::setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) {
     ESBaseRender::setTextureData(data, dataSize, atPosition);
-    takeBaseSettings();
+    takeTips();
 }
 
 void ESLineRender::setMaskImage(const QImage& image) {
@@ -176,8 +145,8 @@ void ESLineRender::setBackRenderColor(const ESColor& color) {
     set(&DabSettings::backColor, RgbTypeMake(color.red(), color.green(), color.blue()));
 }
 
-// What the base class keeps and dabs are made from.
-void ESLineRender::takeBaseSettings() {
+// What the base class keeps of the tips and dabs are made from.
+void ESLineRender::takeTips() {
     DabSettings& settings = _dabs.settings;
     settings.numberOfTips = numberOfTexture();
     settings.tipCells = brushTexture() != nullptr ? brushTexture()->vertiesCount() : 1;
@@ -186,11 +155,13 @@ void ESLineRender::takeBaseSettings() {
 }
 
 QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
-    Bounds bounds(bufferSize());
+    dabcanvas::DabBounds bounds(bufferSize());
     if (count == 0 || points == nullptr || program() == nullptr) {
         return bounds.cutTo(bufferSize());
     }
-    beginDrawing();
+    takeBrush();
+    beginDrawing(_needMaskTexture && _maskTexture != nullptr && _maskTexture->isEnabled(),
+                 _dabs.settings.colorFul);
     _dabs.make(points, count, [&](const Dab& dab) {
         bounds.grow(dab);
         if (needScissor()) {
@@ -203,22 +174,36 @@ QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
     return bounds.cutTo(bufferSize());
 }
 
-// Everything that stays the same for a run of dabs.
-void ESLineRender::beginDrawing() {
+void ESLineRender::drawDabs(std::span<const Dab> dabs) {
+    if (dabs.empty() || program() == nullptr) {
+        return;
+    }
+    beginDrawing(false, false);
+    for (const Dab& dab : dabs) {
+        drawDab(dab);
+    }
+    drainGLErrors(kSourcePath, __LINE__);
+}
+
+// What the base class keeps of the brush and dabs are made from.
+void ESLineRender::takeBrush() {
     DabSettings& settings = _dabs.settings;
     settings.color = RgbTypeMake(colorR(), colorG(), colorB());
     settings.flow = flow();
     settings.lineProcessType = lineProcessType();
+}
 
-    const bool mask = _needMaskTexture && _maskTexture != nullptr && _maskTexture->isEnabled();
-    chooseProgram(mask, settings.colorFul);
+// Everything that stays the same for a run of dabs.
+void ESLineRender::beginDrawing(bool mask, bool multicolour) {
+    chooseProgram(mask, multicolour);
     program()->bind();
     if (!_tipCellsUploaded) {
         uploadTipCells();
     }
     setMaskUniforms(mask);
-    _colorful.set(settings.colorFul);
-    if (settings.colorFul) {
+    _colorful.set(multicolour);
+    if (multicolour) {
+        const DabSettings& settings = _dabs.settings;
         const bool jitters = _dabs.flags().hsvTingle;
         _hueTingle.set(jitters ? settings.hueTingle : 0);
         _saturationTingle.set(jitters ? settings.saturationTingle : 0);
@@ -279,7 +264,7 @@ void ESLineRender::uploadTipCells() {
     checkGLStep(kSourcePath, __LINE__);
 }
 
-void ESLineRender::drawDab(const Dab& dab) {
+void ESLineRender::setDabUniforms(const Dab& dab) {
     _color.set(dab.color.r, dab.color.g, dab.color.b, 1);
     _flowUniform.set(dab.flow);
     _radian.set(dab.radian);
@@ -287,7 +272,11 @@ void ESLineRender::drawDab(const Dab& dab) {
     _pointSize.set(dab.halfSize);
     _flip.set(dab.flipX, dab.flipY);
     _center.set(dab.x, dab.y);
-    if (_dabs.settings.colorFul) {
+}
+
+void ESLineRender::drawDab(const Dab& dab) {
+    setDabUniforms(dab);
+    if (_usesMulticolour) {
         _rand.set(dab.random);
     }
     checkGLStep(kSourcePath, __LINE__);
@@ -295,7 +284,7 @@ void ESLineRender::drawDab(const Dab& dab) {
     ++_dabsDrawn;
 }
 
-void ESLineRender::clipTo(const Bounds& bounds) const {
+void ESLineRender::clipTo(const dabcanvas::DabBounds& bounds) const {
     // Dabs may lie far off the buffer; a box that is as far off clips the same.
     const auto whole = [](double value) {
         return static_cast<GLint>(std::nearbyint(std::clamp(value, -1e6, 1e6)));

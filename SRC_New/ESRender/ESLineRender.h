@@ -13,12 +13,17 @@
 #include <QRectF>
 #include <QString>
 #include <memory>
+#include <span>
 #include <type_traits>
 
 #include "ESRender/CachedUniform.h"
 #include "ESRender/Dab.h"
 #include "ESRender/ESBaseRender.h"
 #include "LineProcess/Tingle.h"
+
+namespace dabcanvas {
+struct DabBounds;
+}
 
 class ESLineRender : public ESBaseRender {
 public:
@@ -33,11 +38,14 @@ public:
     static QString lineRenderNormalFrangmentShaderString();
 
     // Begins a stroke.
-    void resetLineProporty() { _dabs.reset(); }
+    virtual void resetLineProporty() { _dabs.reset(); }
 
     // Returns the touched rectangle with a margin of one pixel, cut to the buffer; empty when nothing was
     // drawn.
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
+
+    // Draws dabs that another renderer made, with this one's tips, in their plain colour and without paper.
+    void drawDabs(std::span<const Dab> dabs);
 
     // Dabs drawn since the renderer was made.
     std::uint64_t dabsDrawn() const { return _dabsDrawn; }
@@ -111,25 +119,33 @@ protected:
     void bindAttributeForProgram(ESProgram& program) override;
     void programDidChange() override;
 
-private:
-    struct Bounds;
+    void takeBrush();
+    void setDabUniforms(const Dab& dab);
 
+    DabMaker _dabs;
+    std::uint64_t _dabsDrawn = 0;
+
+    GLint _positionIndex = -1;
+    GLint _texCoordIndex = -1;
+    dabcanvas::UniformInt _colorful, _brushUnit;
+    dabcanvas::UniformVec2 _viewSize, _flip, _center, _tipSize;
+    dabcanvas::UniformVec4 _color;
+    dabcanvas::UniformFloat _flowUniform, _radian, _roundness, _pointSize;
+
+private:
     template <typename Value>
     void set(Value DabSettings::*field, const std::type_identity_t<Value>& value) {
         _dabs.settings.*field = value;
         _dabs.updateFlags();
     }
 
-    void takeBaseSettings();
-    void beginDrawing();
+    void takeTips();
+    void beginDrawing(bool mask, bool multicolour);
     void chooseProgram(bool mask, bool multicolour);
     void setMaskUniforms(bool useMask);
     void uploadTipCells();
     void drawDab(const Dab& dab);
-    void clipTo(const Bounds& bounds) const;
-
-    DabMaker _dabs;
-    std::uint64_t _dabsDrawn = 0;
+    void clipTo(const dabcanvas::DabBounds& bounds) const;
 
     bool _needMaskTexture = false;
     float _maskScale = 1;
@@ -140,12 +156,9 @@ private:
     QString _wholeFragmentShader;                    // the text last set, of which leaner programs are made
     bool _usesMask = true, _usesMulticolour = true;  // of the current program
     bool _tipCellsUploaded = false;
-    GLint _positionIndex = -1;
-    GLint _texCoordIndex = -1;
     GLint _tipCells = -1;
-    dabcanvas::UniformInt _useMask, _maskUnit, _colorful, _brushUnit;
-    dabcanvas::UniformVec2 _maskSize, _viewSize, _flip, _center, _tipSize;
-    dabcanvas::UniformVec4 _maskBaseCoord, _color;
-    dabcanvas::UniformFloat _hueTingle, _saturationTingle, _brightnessTingle, _flowUniform, _radian,
-        _roundness, _rand, _pointSize;
+    dabcanvas::UniformInt _useMask, _maskUnit;
+    dabcanvas::UniformVec2 _maskSize;
+    dabcanvas::UniformVec4 _maskBaseCoord;
+    dabcanvas::UniformFloat _hueTingle, _saturationTingle, _brightnessTingle, _rand;
 };

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "ESRender/ESLineRender.h"
+#include "ESRender/ESSmudgeRender.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
 namespace {
@@ -14,6 +14,7 @@ using G = BrushGroup;
 using K = BrushKey;
 using Base = ESBaseRender;
 using Line = ESLineRender;
+using Smudge = ESSmudgeRender;
 
 constexpr Renders kDabs = kMain | kSmudge;
 
@@ -48,14 +49,19 @@ const BrushProperty kBrushProperties[] = {
     {.key = K::trackNum, .name = "trackNum", .group = G::spacing, .field = &B::trackNum, .set = &C::setTrackNum,
      .about = "Pointer samples gathered before a segment is drawn: higher is steadier and lags more."},
     {.key = K::moistQuantity, .name = "moistQuantity", .group = G::smudge, .field = &B::moistQuantity, .set = &C::setMoistQuantity, .created = 0.3f, .low = 0, .high = 1,
-     .about = "Wetness of a smudge brush's paint."},
+     .renders = kSmudge, .render = &Smudge::setMoistQuantity,
+     .about = "Wetness of a smudge brush: how much of the canvas colour that it meets is taken along, 0 none to 1 all."},
     {.key = K::loadQuantity, .name = "loadQuantity", .group = G::smudge, .field = &B::loadQuantity, .set = &C::setLoadQuantity, .created = 1, .low = 0, .high = 1,
-     .about = "Amount of own colour on a smudge brush."},
+     .renders = kSmudge, .render = &Smudge::setLoadQuantity,
+     .about = "Amount of own colour on a smudge brush; 0 only moves what is there."},
     {.key = K::mixQuantity, .name = "mixQuantity", .group = G::smudge, .field = &B::mixQuantity, .set = &C::setMixQuantity, .created = 1, .low = 0, .high = 1,
-     .about = "Amount of canvas colour a smudge brush mixes in."},
+     .renders = kSmudge, .render = &Smudge::setMixQuantity,
+     .about = "What a smudge brush lays down: 0 its own colour alone, 1 canvas colour alone."},
     {.key = K::smudgeControl, .name = "smudgeControl", .group = G::smudge, .field = &B::smudgeControl, .set = &C::setSmudgeControl, .created = 1,
+     .renders = kSmudge, .render = &Smudge::setSmudgeControl,
      .about = "Ramps the mixed amount up over a smudge stroke's first dabs."},
     {.key = K::smudgeControlValue, .name = "smudgeControlValue", .group = G::smudge, .field = &B::smudgeControlValue, .set = &C::setSmudgeControlValue, .created = 25, .low = 1,
+     .renders = kSmudge, .render = &Smudge::setSmudgeControlValue,
      .about = "Length of that ramp, in dabs."},
     {.key = K::textureType, .name = "textureType", .group = G::tip, .field = &B::textureType, .set = &C::setTextureType, .created = 1,
      .about = "Brush tip: 0 the tip images, 1 soft disc, 2 ring, 3 rounded rectangle."},

@@ -12,6 +12,7 @@
 
 class ESBaseRender;
 class ESLineRender;
+class ESSmudgeRender;
 class QDDrawCanvas;
 
 // The brush properties of a canvas, one row each. Setters, defaults, clamps, forwarding to the line process
@@ -140,7 +141,8 @@ struct BrushProperty {
         std::variant<std::monostate, void (ESBaseRender::*)(float), void (ESBaseRender::*)(int),
                      void (ESBaseRender::*)(const ESColor&), void (ESLineRender::*)(bool),
                      void (ESLineRender::*)(float), void (ESLineRender::*)(const LPControlParams&),
-                     void (ESLineRender::*)(const ESColor&)>;
+                     void (ESLineRender::*)(const ESColor&), void (ESSmudgeRender::*)(bool),
+                     void (ESSmudgeRender::*)(float)>;
 
     BrushKey key;
     const char* name;  // as the property, its getter and, capitalised after "set", its setter are called

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "LineProcess/LPTypes.h"
+
 namespace dabcanvas {
 
 inline bool isZero(const QRectF& rect) {
@@ -27,6 +29,14 @@ inline QRectF roundedRect(const QRectF& rect) {
         return static_cast<double>(std::nearbyint(static_cast<float>(value)));
     };
     return QRectF(rounded(rect.x()), rounded(rect.y()), rounded(rect.width()), rounded(rect.height()));
+}
+
+// The one dab that covers a rectangle when its renderer's roundness is the rectangle's height over its width.
+inline LPPoint dabOf(const QRectF& rect) {
+    const QPointF centre = rect.center();
+    return {{static_cast<float>(centre.x()), static_cast<float>(centre.y())},
+            static_cast<float>(rect.width()),
+            {1.0f, 1.0f, 1.0f}};
 }
 
 }  // namespace dabcanvas

@@ -8,6 +8,7 @@
 #include "Maths/Geometry.h"
 #include "Maths/Rounding.h"
 #include "QDEAGLView/CanvasRects.h"
+#include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 using dabcanvas::isZero;
@@ -112,6 +113,7 @@ QImage QDDrawCanvas::newCGImageWithRect(const QRectF& rect) {
     if (!current || !isOnCanvas(*_esContext, part)) {
         return {};
     }
+    _leafDrawView->finishPending();
     compositePending();
     return _esContext->newCGImageWithRect(part);
 }
@@ -130,6 +132,7 @@ bool QDDrawCanvas::readDataBufferRect(unsigned char* bytes, const QRectF& buffer
         qCWarning(lcDabcanvas, "there is no memory given to read the canvas into");
         return false;
     }
+    _leafDrawView->finishPending();
     compositePending();
     _esContext->readData(bytes, part);
     return true;
@@ -251,6 +254,7 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
     if (!isPlaceable(size, centre, radian)) {
         return false;
     }
+    _leafDrawView->finishPending();  // which may place, too
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return false;
@@ -279,6 +283,9 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
     redisplayAll();
     if (!_neglectTextureUpdate) {
         updateBGImage(isUndo ? _curImageData : QByteArray());
+        if (!isUndo && isSmudgeType()) {
+            updateSmudgeBGTexture();
+        }
     }
     return true;
 }

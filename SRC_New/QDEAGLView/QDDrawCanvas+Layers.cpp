@@ -4,8 +4,10 @@
 #include <utility>
 
 #include "QDEAGLView/CanvasRects.h"
+#include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
+using dabcanvas::dabOf;
 using dabcanvas::isZero;
 using dabcanvas::mergeRect;
 
@@ -13,14 +15,6 @@ namespace {
 
 double areaOf(const QRectF& rect) {
     return rect.width() * rect.height();
-}
-
-// The one dab that covers a rectangle when its renderer's roundness is the rectangle's height over its width.
-LPPoint dabOf(const QRectF& rect) {
-    const QPointF centre = rect.center();
-    return {{static_cast<float>(centre.x()), static_cast<float>(centre.y())},
-            static_cast<float>(rect.width()),
-            {1.0f, 1.0f, 1.0f}};
 }
 
 }  // namespace
@@ -33,10 +27,7 @@ QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRend
 
 // Returns the whole pixels that the run touched.
 QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderType layer) {
-    ESLineRender* render = layer == ESRenderTypeLine     ? _extenRender.get()
-                           : layer == ESRenderTypeSmudge ? nullptr  // has no renderer
-                                                         : _subRender.get();
-    if (points == nullptr || render == nullptr) {
+    if (points == nullptr) {
         return {};
     }
     const ESCurrentScope current(*_esContext);
@@ -44,6 +35,10 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
         return {};
     }
     const StageTimer timer(*this, Stage::drawing);
+    if (layer == ESRenderTypeSmudge) {
+        return drawSmudges(points, count);
+    }
+    ESLineRender* render = layer == ESRenderTypeLine ? _extenRender.get() : _subRender.get();
     const std::uint64_t before = render->dabsDrawn();
     _esContext->beginRenderForType(layer);
     _esContext->setBlendModelForType(ESRenderTypeLine);
@@ -73,13 +68,17 @@ void QDDrawCanvas::updateImage(bool online) {
     updateImage(online, isSmudgeType());
 }
 
-// A smudge layer has nothing to put onto the canvas yet.
 void QDDrawCanvas::updateImage(bool online, bool smudge) {
     _edited = true;
-    if (smudge || _tempRect.width() <= 0 || _tempRect.height() <= 0) {
+    if (_tempRect.width() <= 0 || _tempRect.height() <= 0) {
         return;
     }
     mergeRect(_drawRect, _tempRect);
+    if (smudge != _pendingSmudge) {
+        compositePending();
+        _pendingSmudge = smudge;
+    }
+    mergeRect(_strokeRect, _tempRect);
     mergeRect(_updateRect, _tempRect);
     // The composite itself waits until the canvas is looked at: its pixels depend on the layer alone, and
     // every change of target makes the driver draw what it had gathered. Rectangles that overlap become one,
@@ -123,13 +122,13 @@ void QDDrawCanvas::compositePending() {
     const StageTimer timer(*this, Stage::compositing);
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     for (const QRectF& rect : _pending) {
-        compositeRect(rect);
+        _pendingSmudge ? compositeSmudge(rect) : compositeRect(rect);
     }
     _esContext->finishRender();
     _pending.clear();
 }
 
-// Draws one rectangle of the present blend mode into the canvas target, which is current.
+// Draws one rectangle in the present blend mode into the canvas target, which is current.
 void QDDrawCanvas::compositeRect(const QRectF& rect) {
     // The program has mixed source and background already: its result replaces what is there.
     _esContext->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
@@ -196,8 +195,12 @@ void QDDrawCanvas::clearLayer(ESRenderType layer, QRectF& rect) {
     compositePending();
     _esContext->beginRenderForType(layer);
     rect = QRectF();
-    // Only where something was drawn, so that ending a stroke costs the same on any canvas.
-    _esContext->scissorRect(std::exchange(_layerContent[layer], QRectF()));
+    if (layer == ESRenderTypeSmudge) {
+        mergeRect(_smudgeStale, QRectF(QPointF(0, 0), bufferSize()));
+    } else {
+        // Only where something was drawn, so that ending a stroke costs the same on any canvas.
+        _esContext->scissorRect(std::exchange(_layerContent[layer], QRectF()));
+    }
     _esRender->clear();
     _esContext->finishRender();
 }
@@ -227,6 +230,7 @@ void QDDrawCanvas::clearOnline(bool online) {
 }
 
 void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
+    _leafDrawView->finishPending();
     _edited = true;
     _pending.clear();  // it would be cleared at once
     clearExtenBuffer();
@@ -267,6 +271,7 @@ void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
 // ---- Reading and showing
 
 QImage QDDrawCanvas::image() {
+    _leafDrawView->finishPending();
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return {};
@@ -293,7 +298,9 @@ const QImage& QDDrawCanvas::displayImage() {
 }
 
 void QDDrawCanvas::noteChanged(const QRectF& rect) {
-    _staleRect = _staleRect.united(rect.toAlignedRect() & QRect(QPoint(0, 0), bufferSize().toSize()));
+    const QRect changed = rect.toAlignedRect() & QRect(QPoint(0, 0), bufferSize().toSize());
+    _staleRect = _staleRect.united(changed);
+    mergeRect(_smudgeStale, changed);
 }
 
 void QDDrawCanvas::redisplayAll() {

@@ -7,6 +7,7 @@
 
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "LineProcess/LPProperties.h"
+#include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 namespace {
@@ -78,9 +79,11 @@ void QDDrawCanvas::sendToRenders(const BrushProperty& row, const Value& value) {
         Renders mask;
         ESBaseRender* base;
         ESLineRender* line;
-    } targets[] = {{kMain, _extenRender.get(), _extenRender.get()},
-                   {kSub, _subRender.get(), _subRender.get()},
-                   {kCompositor, _esRender.get(), nullptr}};
+        ESSmudgeRender* smudge;
+    } targets[] = {{kMain, _extenRender.get(), _extenRender.get(), nullptr},
+                   {kSub, _subRender.get(), _subRender.get(), nullptr},
+                   {kSmudge, _smudgeRender.get(), _smudgeRender.get(), _smudgeRender.get()},
+                   {kCompositor, _esRender.get(), nullptr, nullptr}};
     std::visit(
         [&](auto setter) {
             using Setter = decltype(setter);
@@ -93,6 +96,10 @@ void QDDrawCanvas::sendToRenders(const BrushProperty& row, const Value& value) {
                 } else if constexpr (std::is_invocable_v<Setter, ESLineRender*, const Value&>) {
                     if (target.line != nullptr) {
                         (target.line->*setter)(value);
+                    }
+                } else if constexpr (std::is_invocable_v<Setter, ESSmudgeRender*, const Value&>) {
+                    if (target.smudge != nullptr) {
+                        (target.smudge->*setter)(value);
                     }
                 }
             }
@@ -196,12 +203,39 @@ QVariant QDDrawCanvas::brushValue(const BrushProperty& property) const {
 
 // ---- Brush kind and blending
 
-void QDDrawCanvas::setBrushType(std::int32_t value) {
-    assign(BrushKey::brushType, value);
-    if (value == kSmudgeBrush || value == kPreviewBrush) {
-        qCWarning(lcDabcanvas, "brush type %d is not drawn by this version", value);
+// What a stroke in progress has drawn stays as it is; a layer never holds strokes of two kinds.
+void QDDrawCanvas::settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition) {
+    const bool smudges = brushType == kSmudgeBrush && !isDebug && !enableRecogition;
+    if (smudges != isSmudgeType()) {
+        finishLayers();
     }
+    if (_stroke == Stroke::drawing && usesPreview() && (brushType != kPreviewBrush || enableRecogition)) {
+        dropStroke();
+    }
+}
+
+void QDDrawCanvas::setBrushType(std::int32_t value) {
+    settleStrokeKind(value, _brush.isDebug, _brush.enableRecogition);
+    assign(BrushKey::brushType, value);
+    showLeafDrawView(value == kPreviewBrush);
     setRepeatedlyRenderEnabled(_brush.repeatedlyRenderEnabled);
+    if (isSmudgeType()) {
+        updateSmudgeBGTexture();
+        warmUpSmudging();
+    }
+}
+
+void QDDrawCanvas::setIsDebug(bool value) {
+    settleStrokeKind(_brush.brushType, value, _brush.enableRecogition);
+    assign(BrushKey::isDebug, value);
+}
+
+void QDDrawCanvas::setEnableRecogition(bool value) {
+    settleStrokeKind(_brush.brushType, _brush.isDebug, value);
+    assign(BrushKey::enableRecogition, value);
+    if (!value && isSmudgeType()) {
+        updateSmudgeBGTexture();
+    }
 }
 
 void QDDrawCanvas::setBlendType(std::int32_t value) {
@@ -232,6 +266,27 @@ void QDDrawCanvas::setRepeatedlyRenderEnabled(bool value) {
     settleDrawn();
     assign(BrushKey::repeatedlyRenderEnabled, value);
     _esRender->setRepeatedlyRenderEnabled(needRepeatedlyRender());
+}
+
+void QDDrawCanvas::setGaussianRadius(float value) {
+    assign(BrushKey::gaussianRadius, value);
+    _leafDrawView->setGaussianRadius(_brush.gaussianRadius);
+}
+
+// The preview has no flow of its own.
+void QDDrawCanvas::sendPreviewColor() {
+    const ESColor& color = _brush.renderColor;
+    _leafDrawView->setRenderColor(ESColor::rgba(color.red(), color.green(), color.blue(), _brush.flow));
+}
+
+void QDDrawCanvas::setRenderColor(const ESColor& value) {
+    assign(BrushKey::renderColor, value);
+    sendPreviewColor();
+}
+
+void QDDrawCanvas::setFlow(float value) {
+    assign(BrushKey::flow, value);
+    sendPreviewColor();
 }
 
 // ---- Line
@@ -274,6 +329,7 @@ void QDDrawCanvas::setRadius(float value) {
 void QDDrawCanvas::setDistributionCount(float value) {
     assign(BrushKey::distributionCount, value);
     _extenRender->setDistributionCount(wholeCount(_brush.distributionCount));
+    _smudgeRender->setDistributionCount(wholeCount(_brush.distributionCount));
 }
 
 void QDDrawCanvas::setMinRoundness(float value) {
@@ -283,6 +339,7 @@ void QDDrawCanvas::setMinRoundness(float value) {
     }
     // Deliberate: the renderers get the value as it was passed, not the clamped one.
     _extenRender->setMinRoundness(value);
+    _smudgeRender->setMinRoundness(value);
 }
 
 // ---- Tip and paper
@@ -350,6 +407,7 @@ void QDDrawCanvas::useTips(const QList<QImage>& tips) {
     _brush.textureImages = tips;
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     _extenRender->setTextureImages(tips, GL_TEXTURE1);
+    _smudgeRender->setTextureImages(tips, GL_TEXTURE6);
 }
 
 void QDDrawCanvas::setMaskImage(const QImage& value) {

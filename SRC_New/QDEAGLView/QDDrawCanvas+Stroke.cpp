@@ -8,6 +8,7 @@
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPStroke.h"
 #include "QDEAGLView/CanvasRects.h"
+#include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 using dabcanvas::mergeRect;
@@ -83,6 +84,7 @@ QPointF QDDrawCanvas::viewPoint(QPointF point) const {
 
 void QDDrawCanvas::drawingWithBeginPoint(QPointF point, float pressure, float altitude, bool) {
     _refusedSample = false;
+    _leafDrawView->finishPending();  // strokes come onto the canvas in their order
     if (_stroke == Stroke::drawing) {
         finishLayers();  // a stroke that was never ended stays as it is
     }
@@ -109,7 +111,10 @@ void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float a
     point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawMove, point);
     tell(&QDDrawViewDelegate::drawViewWillDrawMove, point);
     point = bufferPoint(point);
-    if (!usesPreview()) {
+    if (usesPreview()) {
+        takeSample(point, pressure, altitude);
+        _leafDrawView->drawWithMove(point);
+    } else {
         if (distanceOf(point, _lastRenderObject) <= static_cast<float>(kClosest)) {
             return;
         }
@@ -135,10 +140,12 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
     tell(&QDDrawViewDelegate::drawViewWillDrawEnd, point);
     point = bufferPoint(point);
     _isAppendLine = true;
-    if (!usesPreview()) {
+    if (usesPreview()) {
+        _leafDrawView->drawWithEnd(point);  // which places the stroke, later
+    } else {
         drawSegment(point, pressure, altitude, true, false, online);
+        finishLayers();
     }
-    finishLayers();
     _stroke = Stroke::none;
     tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point);
 }
@@ -147,18 +154,18 @@ void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
     const StrokeScope scope(*this);
     _lineRenderRect = QRectF();
     _subLineRenderRect = QRectF();
+    _strokeRect = QRectF();
     _isAppendLine = false;
     takeSample(point, pressure, altitude);
     if (usesPreview()) {
+        _leafDrawView->drawWithBegin(point);
         return;
     }
     if (needRepeatedlyRender()) {
         _subRender->resetLineProporty();
         startLine(*_subLineParaObj, point, pressure, altitude);
     }
-    if (!isSmudgeType()) {
-        _extenRender->resetLineProporty();
-    }
+    (isSmudgeType() ? *_smudgeRender : *_extenRender).resetLineProporty();
     startLine(*_lineParaObj, point, pressure, altitude);
 }
 
@@ -177,6 +184,36 @@ void QDDrawCanvas::finishLayers() {
     mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
     clearSubBuffer();
     updateBGImage();
+}
+
+// Nothing of the stroke stays, as if it had never been begun.
+void QDDrawCanvas::withdrawStroke(QPointF point) {
+    _stroke = Stroke::none;
+    if (usesPreview()) {
+        _leafDrawView->drawWithCanceled(point);
+        return;
+    }
+    const ESCurrentScope current(*_esContext);
+    if (!current) {
+        return;
+    }
+    _pending.clear();  // all of it lies within what is repainted
+    for (const ESRenderType layer : {ESRenderTypeLine, ESRenderTypeSubLine}) {
+        mergeRect(layer == ESRenderTypeLine ? _lineRenderRect : _subLineRenderRect, _layerContent[layer]);
+    }
+    clearExtenBuffer();
+    clearSubBuffer();
+    if (isSmudgeType()) {
+        updateSmudgeBGTexture();
+    }
+    resetWithRenderRect(_strokeRect);
+}
+
+// A stroke that drew nothing is over without an end.
+void QDDrawCanvas::dropStroke() {
+    if (std::exchange(_stroke, Stroke::none) == Stroke::drawing && usesPreview()) {
+        _leafDrawView->drawWithCanceled(_lastRenderObject);
+    }
 }
 
 void QDDrawCanvas::startLine(LPLineParams& record, QPointF point, float pressure, float altitude) {

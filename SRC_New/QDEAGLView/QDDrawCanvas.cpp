@@ -7,6 +7,7 @@
 
 #include "ESRender/Utilities/ESResource.h"
 #include "LineProcess/LPProperties.h"
+#include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 Q_LOGGING_CATEGORY(lcDabcanvas, "dabcanvas.canvas")
@@ -57,17 +58,20 @@ bool QDDrawCanvas::initOpenGLESData() {
     context.setViewSize(backing);
 
     _esRender = ESImageRender::initWithBufferSize(backing);
+    _smudgeRender = ESSmudgeRender::init();
     _extenRender = ESLineRender::init();
     _subRender = ESLineRender::init();
-    if (!_esRender || !_extenRender || !_subRender) {
+    if (!_esRender || !_smudgeRender || !_extenRender || !_subRender) {
         qCWarning(lcDabcanvas, "a canvas cannot be made: a shader program did not build");
         return false;
     }
     _esRender->setLineTextureID(context.lineTexture(), GL_TEXTURE4);
     _esRender->setSubLineTextureID(context.subLineTexture(), GL_TEXTURE5);
-    for (ESLineRender* render : {_extenRender.get(), _subRender.get()}) {
+    for (ESLineRender* render :
+         {_extenRender.get(), _subRender.get(), static_cast<ESLineRender*>(_smudgeRender.get())}) {
         render->setBufferSize(backing);
     }
+    _smudgeRender->setSmudgeTextureID(context.smudgeTexture(), GL_TEXTURE7);
     _subRender->setRadianTingle(1.0f);
 
     const QImage tip = dabcanvas::imageNamed(QString::fromLatin1(kDefaultTip));
@@ -77,6 +81,8 @@ bool QDDrawCanvas::initOpenGLESData() {
         setTextureImages({tip});
         setSlTextureImage(tip);
     }
+    _leafDrawView = makeLeafDrawView(QRectF(QPointF(0, 0), backing));
+    _leafDrawView->setComplention([this](const QImage& image, QSizeF) { placePreview(image); });
     updateScaleInfo();
     clear();
     return true;
@@ -91,7 +97,20 @@ bool QDDrawCanvas::initData() {
     updateBGImage();
     setTextureType(1);
     setHardness(0.0f);
+    warmUp();
     return true;
+}
+
+// Drivers finish compiling when a program first draws, which would make the first segment of the first stroke late. So
+// each draws once where nothing is.
+void QDDrawCanvas::warmUp() {
+    const LPPoint outside{{-100, -100}, 1, {1, 1, 1}};
+    _esContext->beginRenderForType(ESRenderTypeLine);
+    _esContext->setBlendModelForType(ESRenderTypeLine);
+    _extenRender->drawPoints(&outside, 1);
+    _esContext->beginRenderForType(ESRenderTypeCanvas);
+    compositeRect(QRectF(-100, -100, 1, 1));
+    _extenRender->resetLineProporty();
 }
 
 void QDDrawCanvas::initLineProporty() {
@@ -136,20 +155,38 @@ void QDDrawCanvas::releaseLineRecords() {
 QDDrawCanvas::QDDrawCanvas(const QRectF& frame) : _frame(frame) {}
 
 QDDrawCanvas::~QDDrawCanvas() {
+    _leafDrawView.reset();
     if (_esContext) {
         const ESCurrentScope current(*_esContext);
-        if (!current) {
-            // Their names would be deleted in the host's context; they go with ours.
-            static_cast<void>(_extenRender.release());
-            static_cast<void>(_subRender.release());
-            static_cast<void>(_esRender.release());
-        }
-        _extenRender.reset();
-        _subRender.reset();
-        _esRender.reset();
+        // Each goes while its own layer is current. Without the context, deleting their names would hit the host's;
+        // they go with ours.
+        const auto release = [&](ESRenderType layer, auto& render) {
+            if (current) {
+                _esContext->beginRenderForType(layer);
+                render.reset();
+            } else {
+                static_cast<void>(render.release());
+            }
+        };
+        release(ESRenderTypeLine, _extenRender);
+        release(ESRenderTypeSubLine, _subRender);
+        release(ESRenderTypeCanvas, _esRender);
+        release(ESRenderTypeSmudge, _smudgeRender);
     }
     _esContext.reset();
     releaseLineRecords();
+}
+
+std::unique_ptr<LeafDrawing> QDDrawCanvas::makeLeafDrawView(const QRectF& frame) {
+    return std::make_unique<LeafDrawing>(frame.size());
+}
+
+// The preview stands for the whole buffer, at whatever size it is shown.
+void QDDrawCanvas::placePreview(const QImage& image) {
+    const QSizeF buffer = bufferSize();
+    //TMP drawImage(image, QRectF(0, 0, buffer.width() * _outScale.width(), buffer.height() * _outScale.height()));
+    (void)image;
+    (void)buffer;
 }
 
 QSizeF QDDrawCanvas::bufferSize() const {
@@ -168,4 +205,5 @@ QString QDDrawCanvas::rendererName() {
 void QDDrawCanvas::setRepeatableRandom(bool repeatable) {
     _extenRender->setIsDebug(repeatable);
     _subRender->setIsDebug(repeatable);
+    _smudgeRender->setIsDebug(repeatable);
 }

@@ -19,11 +19,14 @@
 #include "LineProcess/LPSharedState.h"
 #include "QDEAGLView/BrushProperties.h"
 #include "QDEAGLView/BrushSettings.h"
+#include "QDEAGLView/QDDrawTouch.h"
 #include "QDEAGLView/QDDrawViewDelegate.h"
 
 struct LPLineParams;
 class ESImageRender;
 class ESLineRender;
+class LeafDrawing;
+class ESSmudgeRender;
 
 // What strokes have cost so far; the seconds are only measured while profiling is on.
 struct StrokeStats {
@@ -102,15 +105,8 @@ public:
     float normalPress() const { return _normalPress; }
     void setNormalPress(float value) { _normalPress = value; }
 
-    // Whoever turns pointer events into strokes keeps these: has the pointer's stroke ended, has it moved, and how
-    // often. More than nine moves make a line of it.
-    bool lineFinish() const { return _lineFinish; }
-    void setLineFinish(bool value) { _lineFinish = value; }
-    bool lineMove() const { return _lineMove; }
-    void setLineMove(bool value) { _lineMove = value; }
-    std::uint64_t moveCount() const { return _moveCount; }
-    void setMoveCount(std::uint64_t value) { _moveCount = value; }
-    bool isLining() const { return !_lineFinish && _lineMove && _moveCount > 9; }
+    // Whether a stroke has begun and not ended yet.
+    bool isDrawing() const { return _stroke != Stroke::none; }
 
     bool isSmudgeType() const {
         return _brush.brushType == kSmudgeBrush && !_brush.isDebug && !_brush.enableRecogition;
@@ -120,9 +116,67 @@ public:
     }
     bool needColorTendency() const { return _brush.brushType != kSmudgeBrush; }
 
+    // Draws brush type 4. Its strokes are put onto the canvas by the event loop after their end, or as soon as the
+    // canvas is read or drawn on.
+    LeafDrawing& leafDrawView() { return *_leafDrawView; }
+
     // Kept for callers; they lock nothing.
     void lock() {}
     void unlock() {}
+
+    // ---- Pointer events ----
+
+    // What a display tells of its devices. A stroke belongs to the kind of device that began it: while a finger
+    // draws, mouse and pen are refused, and the other way round. A mouse or pen stroke ends through the cancel
+    // path: one of up to nine moves is withdrawn, as if never drawn, unless adjustCancelLine is off; any other is
+    // finished. A click draws nothing. While the frame is empty no stroke begins.
+    void touchesBeganWithEvent(const QDDrawTouch& event);
+    void touchesMovedWithEvent(const QDDrawTouch& event);
+    void touchesEndedWithEvent(const QDDrawTouch& event);
+    void touchesCancelledWithEvent(const QDDrawTouch& event);
+    void mouseDown(const QDDrawTouch& event);
+    void mouseDragged(const QDDrawTouch& event);
+    void mouseUp(const QDDrawTouch& event);
+
+    // The steps of one pointer's stroke, whatever the device. False when the stroke was refused.
+    bool beginWithTouch(const QDDrawTouch& touch);
+    void moveWithTouch(const QDDrawTouch& touch);
+    void endWithTouch(const QDDrawTouch& touch);
+    void cancelWithTouch(const QDDrawTouch& touch);
+    // The same for one of a set.
+    void beginWithTouches(const QList<QDDrawTouch>& touches);
+    void moveWithTouches(const QList<QDDrawTouch>& touches);
+    void endWithTouches(const QList<QDDrawTouch>& touches);
+    void cancelWithTouches(const QList<QDDrawTouch>& touches);
+
+    // Where a pointer is, in view points.
+    virtual QPointF localPointWithTouch(const QDDrawTouch& touch) const;
+
+    // Ends the stroke of a pointer that will not be heard of again, where it got to, as a cancelled one.
+    void endPointerStroke();
+    // Takes the pointer's stroke back, however long it is.
+    void withdrawPointerStroke();
+
+    bool adjustCancelLine() const { return _adjustCancelLine; }
+    void setAdjustCancelLine(bool value) { _adjustCancelLine = value; }
+
+    // Of the pointer's stroke: has it ended, has it moved, and how often. More than nine moves make a line of it.
+    bool lineFinish() const { return _lineFinish; }
+    void setLineFinish(bool value) { _lineFinish = value; }
+    bool lineMove() const { return _lineMove; }
+    void setLineMove(bool value) { _lineMove = value; }
+    std::uint64_t moveCount() const { return _moveCount; }
+    void setMoveCount(std::uint64_t value) { _moveCount = value; }
+    bool isLining() const { return !_lineFinish && _lineMove && _moveCount > 9; }
+    QPointF lastPoint() const { return _lastPoint; }  // view points
+    void setLastPoint(QPointF value) { _lastPoint = value; }
+    // Points are taken while enableRecogition is on: from a begin to its end.
+    bool canAddPoint() const { return _canAddPoint; }
+    void setCanAddPoint(bool value) { _canAddPoint = value; }
+    bool normalMoing() const { return _normalMoing; }  // a touch stroke is in progress
+    void setNormalMoing(bool value) { _normalMoing = value; }
+    bool digitPenMoving() const { return _digitPenMoving; }  // a mouse or pen stroke is
+    void setDigitPenMoving(bool value) { _digitPenMoving = value; }
 
     // ---- Pixels ----
 
@@ -165,6 +219,8 @@ public:
     void updateImage(bool online, bool smudge);
     // Repaints an area, in buffer pixels, as it was before the stroke.
     void resetWithRenderRect(const QRectF& rect);
+    // Makes the smudge layer show the present canvas. Smudge strokes begin with that by themselves.
+    void updateSmudgeBGTexture();
     // Makes the present canvas the background of what is drawn next. mark: the undo step just recorded, or null.
     void updateBGImage(const QByteArray& mark = {});
 
@@ -267,23 +323,23 @@ public:
     std::int32_t brushType() const { return _brush.brushType; }
     void setBrushType(std::int32_t value);
     bool isDebug() const { return _brush.isDebug; }
-    void setIsDebug(bool value) { assign(BrushKey::isDebug, value); }
+    void setIsDebug(bool value);
     bool enableRecogition() const { return _brush.enableRecogition; }
-    void setEnableRecogition(bool value) { assign(BrushKey::enableRecogition, value); }
+    void setEnableRecogition(bool value);
     float gaussianRadius() const { return _brush.gaussianRadius; }
-    void setGaussianRadius(float value) { assign(BrushKey::gaussianRadius, value); }
+    void setGaussianRadius(float value);
     std::int32_t blendType() const { return _brush.blendType; }
     void setBlendType(std::int32_t value);
     QString blendFragmentShaderString() const { return _brush.blendFragmentShaderString; }
     void setBlendFragmentShaderString(const QString& value);
     ESColor renderColor() const { return _brush.renderColor; }
-    void setRenderColor(const ESColor& value) { assign(BrushKey::renderColor, value); }
+    void setRenderColor(const ESColor& value);
     float opacity() const { return _brush.opacity; }
     void setOpacity(float value) { assign(BrushKey::opacity, value); }
     float radius() const { return _brush.radius; }
     void setRadius(float value);
     float flow() const { return _brush.flow; }
-    void setFlow(float value) { assign(BrushKey::flow, value); }
+    void setFlow(float value);
     std::int32_t trackNum() const { return _brush.trackNum; }
     void setTrackNum(std::int32_t value);
 
@@ -452,6 +508,10 @@ protected:
     // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once: the
     // canvas's GL context may be current.
     virtual void redisplayRect(const QRectF&) {}
+    // What shows brush type 4 over the canvas; frame is the buffer, in pixels. Called once, by initCanvas(). Never null.
+    virtual std::unique_ptr<LeafDrawing> makeLeafDrawView(const QRectF& frame);
+    // Brush type 4 was chosen, or another.
+    virtual void showLeafDrawView(bool) {}
 
 private:
     static constexpr std::int32_t kSmudgeBrush = 3, kPreviewBrush = 4;
@@ -463,6 +523,8 @@ private:
     bool initOpenGLESData();
     bool initData();
     void initLineProporty();
+    void warmUp();
+    void warmUpSmudging();
     void releaseLineRecords();
 
     // Stroke stages, in steps
@@ -475,6 +537,10 @@ private:
     void beginStroke(QPointF point, float pressure, float altitude);
     void takeSample(QPointF point, float pressure, float altitude);
     void finishLayers();
+    void withdrawStroke(QPointF point);
+    void dropStroke();
+    void cancelAt(QPointF point, float pressure, bool withdraw);
+    void startProcess();
     QRectF drawRun(const LPPoint* points, std::size_t count, ESRenderType layer);
     ESRenderType mainLayer() const { return isSmudgeType() ? ESRenderTypeSmudge : ESRenderTypeLine; }
     QRectF& mainRect() { return isSmudgeType() ? _smudgeRenderRect : _lineRenderRect; }
@@ -484,8 +550,13 @@ private:
     void drawSegment(QPointF point, float pressure, float altitude, bool end, bool dropFirst, bool online);
 
     void settleDrawn();
+    void settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition);
     void compositePending();
     void compositeRect(const QRectF& rect);
+    void compositeSmudge(const QRectF& rect);
+    QRectF drawSmudges(const LPPoint* points, std::size_t count);
+    void placePreview(const QImage& image);
+    void sendPreviewColor();
     void clearLayer(ESRenderType layer, QRectF& rect);
     void noteChanged(const QRectF& rect);
     void redisplayAll();
@@ -524,6 +595,8 @@ private:
     std::unique_ptr<ESImageRender> _esRender;
     std::unique_ptr<ESLineRender> _extenRender;
     std::unique_ptr<ESLineRender> _subRender;
+    std::unique_ptr<ESSmudgeRender> _smudgeRender;
+    std::unique_ptr<LeafDrawing> _leafDrawView;
     TexturesTool _textureTool;
     // What the present tip was drawn from; type 0 when it was handed in.
     struct DrawnTip {
@@ -543,6 +616,7 @@ private:
     QRectF _lineRenderRect;
     QRectF _subLineRenderRect;
     QRectF _smudgeRenderRect;
+    QRectF _strokeRect;  // all that the stroke put onto the canvas
     QRectF _tempRect;
     QPointF _lastRenderObject;
     float _lastPressure = -1, _lastAltitude = -1;
@@ -556,6 +630,9 @@ private:
     // Of the canvas, in buffer pixels
     QRectF _updateRect;            // changed since the background was last refreshed
     std::vector<QRectF> _pending;  // to be composited before the canvas is next looked at
+    bool _smudgeIsWarm = false;
+    bool _pendingSmudge = false;  // from the smudge layer
+    QRectF _smudgeStale;          // where the smudge layer may differ from the canvas
     bool _mayMergePending = true;
     QRect _staleRect;  // changed since displayImage() was last called
     QImage _displayImage;
@@ -563,9 +640,18 @@ private:
     bool _autoMark = false;
     bool _enableDevicePress = true;
     float _normalPress = 0.9f;
+
+    // Of the pointer's stroke
     bool _lineFinish = false;
     bool _lineMove = false;
     std::uint64_t _moveCount = 0;
+    QPointF _lastPoint;
+    bool _adjustCancelLine = true;
+    bool _normalMoing = false;
+    bool _digitPenMoving = false;
+    bool _canAddPoint = false;
+    bool _isProcess = false;      // a stroke is being recognised
+    double _lastProcessTime = 0;  // when one last was, in seconds since 1970
 
     bool _needScale = false;
     QSizeF _scale{1, 1};

@@ -7,7 +7,7 @@
 
 #include "ESContext/ESCurrentScope.h"
 #include "ESRender/ESImageRender.h"
-#include "ESRender/ESLineRender.h"
+#include "ESRender/ESSmudgeRender.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QWidget>
 
+#include "QDEAGLView/LeafDrawView.h"
+
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 
 namespace {
@@ -35,6 +37,7 @@ std::unique_ptr<QDDrawView> QDDrawView::initWithFrame(const QRectF& frame, QWidg
 
 QDDrawView::QDDrawView(const QRectF& frame, QWidget* parent) : QWidget(parent), QDDrawCanvas(frame) {
     setGeometry(frame.toRect());
+    setAttribute(Qt::WA_AcceptTouchEvents);
 }
 
 QSize QDDrawView::sizeHint() const {
@@ -53,6 +56,30 @@ void QDDrawView::paintEvent(QPaintEvent* event) {
 void QDDrawView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     updateScaleInfo();
+    if (rect().isEmpty()) {
+        forgetPointer();
+    }
+    if (_leafWidget != nullptr) {
+        _leafWidget->setGeometry(rect());
+    }
+}
+
+// The canvas owns it, which is destroyed before this widget's children are.
+std::unique_ptr<LeafDrawing> QDDrawView::makeLeafDrawView(const QRectF& frame) {
+    std::unique_ptr<LeafDrawView> leaf = LeafDrawView::initWithFrame(frame, this);
+    if (!leaf) {
+        return QDDrawCanvas::makeLeafDrawView(frame);
+    }
+    _leafWidget = leaf.get();
+    leaf->setGeometry(rect());
+    leaf->hide();
+    return leaf;
+}
+
+void QDDrawView::showLeafDrawView(bool shown) {
+    if (_leafWidget != nullptr) {
+        _leafWidget->setVisible(shown);
+    }
 }
 
 void QDDrawView::redisplayRect(const QRectF& viewRect) {

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QEvent>
 #include <QWidget>
+#include <cstdint>
 #include <memory>
 
 #include "QDEAGLView/QDDrawCanvas.h"
+
+class QTouchEvent;
 
 // A canvas in a window: a widget that shows what a QDDrawCanvas holds and has all of its operations and
 // properties.
@@ -16,6 +20,10 @@
 //     view->drawingWithEndPoint({400, 120}, 0.2f);
 //     view->show();
 //
+// Pointer  left mouse button, pen tip and one finger paint; a mouse presses with 1, a touch screen that measures no
+//          pressure too. What another device began is not disturbed. A second finger takes the first one's mark
+//          back; from there until all are up, touch is left to event filters. Other buttons, the wheel and hovering
+//          pens go to the parent. A stroke ends where it got to when the window is deactivated or the view hidden.
 // Size     the buffer gets the frame's size at creation and keeps it; a widget of another size shows it
 //          stretched, and points scale.
 // Owner    whoever holds the unique_ptr. With a parent, or once put into a layout, release() it: the parent owns.
@@ -111,8 +119,18 @@ public:
 
     QSize sizeHint() const override;
 
+    // Where in the view an event at a place in the window is.
+    QPointF localPointWithTouch(const QDDrawTouch& touch) const override;
+
 protected:
     explicit QDDrawView(const QRectF& frame, QWidget* parent = nullptr);
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void tabletEvent(QTabletEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool event(QEvent* event) override;
 
     // The screen always shows the whole canvas image, never the layers.
     void paintEvent(QPaintEvent* event) override;
@@ -120,4 +138,24 @@ protected:
 
     QRectF displayFrame() const override { return QRectF(rect()); }
     void redisplayRect(const QRectF& viewRect) override;
+    std::unique_ptr<LeafDrawing> makeLeafDrawView(const QRectF& frame) override;
+    void showLeafDrawView(bool shown) override;
+
+private:
+    // Which device the stroke in progress belongs to; only its events go on.
+    enum class Pointer : std::uint8_t { none, mouse, pen, finger };
+
+    QDDrawTouch touchAt(QPointF position, double pressure) const;
+    bool isOurs(const QMouseEvent& event) const;
+    void pressed(Pointer pointer, const QDDrawTouch& touch);
+    void dragged(Pointer pointer, const QDDrawTouch& touch);
+    void released(Pointer pointer, const QDDrawTouch& touch);
+    void forgetPointer();
+    bool touchEvent(QTouchEvent& event);
+
+    Pointer _pointer = Pointer::none;
+    std::int64_t _penId = 0;
+    bool _fingersIgnored = false;  // until all are up
+    ulong _fingerDown = 0;         // timestamp, in milliseconds
+    QWidget* _leafWidget = nullptr;
 };

@@ -20,3 +20,9 @@ QString ESShaderTools::readFileWithPath(const QString& path) {
 QString ESShaderTools::withBool(QString source) {
     return source.replace(QLatin1String("_Bool"), QLatin1String("bool"));
 }
+
+QString ESShaderTools::withDefines(const QString& source, const QString& defines) {
+    const qsizetype version = source.indexOf(QLatin1String("#version"));
+    const qsizetype lineEnd = version < 0 ? -1 : source.indexOf(QLatin1Char('\n'), version);
+    return source.left(lineEnd + 1) + defines + source.mid(lineEnd + 1);
+}

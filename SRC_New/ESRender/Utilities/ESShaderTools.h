@@ -12,4 +12,6 @@ public:
 
     // Sources may spell their booleans "_Bool"; what goes to the program cache, which compares texts, has "bool".
     static QString withBool(QString source);
+    // The source with preprocessor lines put in at its start, after its #version line.
+    static QString withDefines(const QString& source, const QString& defines);
 };

@@ -1,0 +1,446 @@
+// SPDX-License-Identifier: MIT
+#include "ESRender/ESSmudgeRender.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "ESRender/DabBounds.h"
+#include "ESRender/LineShaderNames.h"
+#include "ESRender/SmudgeShaderNames.h"
+#include "ESRender/Utilities/ESGLErrors.h"
+#include "ESRender/Utilities/ESGLTexture.h"
+#include "ESRender/Utilities/ESShaderTools.h"
+#include "ESRender/VertexAttribute.h"
+
+namespace {
+
+constexpr char kSourcePath[] = "SRC_New/ESRender/ESSmudgeRender";
+
+// One corner of a dab: place in the unit square, the tip's coordinate there, and where it picks up.
+struct Vertex {
+    float x, y, z, w;
+    float s, t;
+    float bgS, bgT;
+};
+static_assert(sizeof(Vertex) == 32);
+constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
+constexpr std::size_t kCorners = 4;
+
+constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8;
+
+}  // namespace
+
+// Places, or texture coordinates, of a dab's corners.
+struct ESSmudgeRender::Corners {
+    std::array<QPointF, kCorners> at;
+};
+
+// ---- Making
+
+std::unique_ptr<ESSmudgeRender> ESSmudgeRender::init() {
+    std::unique_ptr<ESSmudgeRender> render(new ESSmudgeRender);
+    if (!render->setVertexShaderString({}, {})) {
+        return nullptr;
+    }
+    render->_dabs.updateFlags();
+    render->_showProgram = makeShowProgram(false);
+    render->_fillProgram = makeShowProgram(true);
+    render->_useTextureBarrier = hasTextureBarrier();
+    return render;
+}
+
+ESSmudgeRender::~ESSmudgeRender() {
+    for (const GLuint texture : {_copyTexture, _beforeTexture}) {
+        if (texture != 0) {
+            glDeleteTextures(1, &texture);
+        }
+    }
+}
+
+QString ESSmudgeRender::smudgeRenderSmudgeVertexShaderString() {
+    return stringWithFileName(QStringLiteral("Shaders.bundle/Smudge_Mac(Smudge).vsh"));
+}
+
+QString ESSmudgeRender::smudgeRenderSmudgeFrangmentShaderString() {
+    return stringWithFileName(QStringLiteral("Shaders.bundle/Smudge_Mac(Smudge).fsh"));
+}
+
+QString ESSmudgeRender::smudgeRenderShowVertexShaderString() {
+    return stringWithFileName(QStringLiteral("Shaders.bundle/Smudge_Mac(Show).vsh"));
+}
+
+QString ESSmudgeRender::smudgeRenderShowFrangmentShaderString() {
+    return stringWithFileName(QStringLiteral("Shaders.bundle/Smudge_Mac(Show).fsh"));
+}
+
+bool ESSmudgeRender::setVertexShaderString(const QString&, const QString&) {
+    return useProgramWithVertexShaderString(
+        ESShaderTools::withBool(smudgeRenderSmudgeVertexShaderString()),
+        ESShaderTools::withBool(smudgeRenderSmudgeFrangmentShaderString()));
+}
+
+void ESSmudgeRender::bindAttributeForProgram(ESProgram& program) {
+    for (const char* name : {dabcanvas::line::kPosition, dabcanvas::line::kCenter, dabcanvas::line::kTexCoord,
+                             dabcanvas::smudge::kBGCoord}) {
+        program.addAttribute(name);
+    }
+}
+
+void ESSmudgeRender::programDidChange() {
+    using namespace dabcanvas::smudge;
+    ESLineRender::programDidChange();
+    ESProgram& made = *program();
+    _bgCoordIndex = made.attributeIndex(kBGCoord);
+    _moist.locate(made.uniformIndex(kMoistQuantity));
+    _load.locate(made.uniformIndex(kLoadQuantity));
+    _mix.locate(made.uniformIndex(kMixQuantity));
+    _bgUnit.locate(made.uniformIndex(kBGTexture));
+    _tipCell.locate(made.uniformIndex(kTipCell));
+}
+
+ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) {
+    using namespace dabcanvas;
+    ShowProgram show;
+    const QString defines = fill ? QStringLiteral("#define FILL\n") : QString();
+    auto program = ESProgram::initWithVertexShaderString(
+        ESShaderTools::withBool(smudgeRenderShowVertexShaderString()),
+        ESShaderTools::withDefines(ESShaderTools::withBool(smudgeRenderShowFrangmentShaderString()),
+                                   defines));
+    for (const char* name : {line::kPosition, line::kCenter, line::kTexCoord}) {
+        program->addAttribute(name);
+    }
+    if (!program->link()) {
+        return show;
+    }
+    show.position = program->attributeIndex(line::kPosition);
+    show.texCoord = program->attributeIndex(line::kTexCoord);
+    show.viewSize = program->uniformIndex(line::kViewSize);
+    show.center = program->uniformIndex(line::kCenter);
+    show.pointSize = program->uniformIndex(line::kPointSize);
+    show.roundness = program->uniformIndex(line::kRoundness);
+    show.source = program->uniformIndex(smudge::kBGTexture);
+    show.canvas = program->uniformIndex(smudge::kCanvasTexture);
+    show.before = program->uniformIndex(smudge::kBeforeTexture);
+    show.coverage = program->uniformIndex(smudge::kCoverageTexture);
+    show.opacity = program->uniformIndex(smudge::kOpacity);
+    show.program = std::move(program);
+    return show;
+}
+
+bool ESSmudgeRender::hasTextureBarrier() {
+    return epoxy_gl_version() >= 45 || epoxy_has_gl_extension("GL_ARB_texture_barrier") ||
+           epoxy_has_gl_extension("GL_NV_texture_barrier");
+}
+
+// ---- Textures
+
+void ESSmudgeRender::setSmudgeTextureID(GLuint texture, GLenum pos) {
+    _smudgeTex = texture;
+    _smudgePos = pos;
+    _layerSize = QSize();
+    if (useSmudgeTexture()) {
+        GLint width = 0, height = 0;
+        glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
+        glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &height);
+        _layerSize = QSize(width, height);
+    }
+    for (GLuint* own : {&_copyTexture, &_beforeTexture}) {
+        if (*own != 0) {
+            glDeleteTextures(1, own);
+            *own = 0;
+        }
+    }
+}
+
+bool ESSmudgeRender::useSmudgeTexture() const {
+    if (_smudgeTex == 0) {
+        return false;
+    }
+    glActiveTexture(_smudgePos);
+    glBindTexture(GL_TEXTURE_2D, _smudgeTex);
+    drainGLErrors(kSourcePath, __LINE__);
+    return true;
+}
+
+// Made on first use: most brushes never smudge. False when the driver has no room for them.
+bool ESSmudgeRender::hasOwnTextures() {
+    if (_smudgeTex == 0 || _layerSize.isEmpty()) {
+        return false;
+    }
+    for (GLuint* own : {&_copyTexture, &_beforeTexture}) {
+        if (*own == 0) {
+            glActiveTexture(kBeforeUnit);
+            *own = dabcanvas::makeClearedTexture(_layerSize, GL_LINEAR);
+        }
+    }
+    return _copyTexture != 0 && _beforeTexture != 0;
+}
+
+void ESSmudgeRender::keepLayer(const QRectF& rect) {
+    if (!hasOwnTextures()) {
+        return;
+    }
+    const double toTexelX = _layerSize.width() / bufferSize().width();
+    const double toTexelY = _layerSize.height() / bufferSize().height();
+    const QRectF rows(rect.x() * toTexelX, (bufferSize().height() - rect.bottom()) * toTexelY,
+                      rect.width() * toTexelX, rect.height() * toTexelY);
+    glActiveTexture(kBeforeUnit);
+    glBindTexture(GL_TEXTURE_2D, _beforeTexture);
+    dabcanvas::copyFramebufferToTexture(rows.toAlignedRect(), _layerSize);
+}
+
+void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture) {
+    _coverageTexture = coverageTexture;
+    _canvasTexture = canvasTexture;
+}
+
+// ---- Dabs
+
+void ESSmudgeRender::resetLineProporty() {
+    ESLineRender::resetLineProporty();
+    _hasPlace = false;
+    _texturePosition = {0, 0};
+    _textureSize_2 = 0;
+}
+
+float ESSmudgeRender::mixQuantityAtPointIndex(std::int64_t index) const {
+    if (!(_smudgeControlValue > 0)) {
+        return _mixQuantity;
+    }
+    return _mixQuantity * std::min(_smudgeControlValue, static_cast<float>(index - 1)) / _smudgeControlValue;
+}
+
+QRectF ESSmudgeRender::drawPoints(const LPPoint* points, std::size_t count) {
+    return drawPoints(points, count, ESSmudgeDrawDabs);
+}
+
+QRectF ESSmudgeRender::drawPoints(const LPPoint* points, std::size_t count, std::int32_t renderType,
+                                  const TextureBindBlock& withTextureBindBlock) {
+    if (points == nullptr || count == 0) {
+        return {};
+    }
+    return renderType == ESSmudgeDrawDabs ? drawDabs(points, count, withTextureBindBlock)
+                                          : show(points, count, withTextureBindBlock);
+}
+
+QRectF ESSmudgeRender::drawDabs(const LPPoint* points, std::size_t count, const TextureBindBlock& bind) {
+    dabcanvas::DabBounds bounds(bufferSize());
+    if (program() == nullptr || !hasOwnTextures()) {
+        return {};
+    }
+    if (_coverageTaken) {
+        _coverage.clear();
+        _coverageTaken = false;
+    }
+    takeBrush();
+    program()->bind();
+    _viewSize.set(bufferSize().width(), bufferSize().height());
+    if (brushTexture() != nullptr && brushTexture()->useAtPosition(texturePos())) {
+        _brushUnit.set(texturePos() - GL_TEXTURE0);
+        _tipSize.set(brushTexture()->pixSize().width(), brushTexture()->pixSize().height());
+    }
+    if (bind) {
+        _sourceSize = bind();
+    } else {
+        useSmudgeTexture();
+        _sourceSize = bufferSize();
+    }
+    _bgUnit.set(_smudgePos - GL_TEXTURE0);
+    _load.set(_loadQuantity);
+    glActiveTexture(_smudgePos);
+    glDisable(GL_BLEND);
+
+    std::int64_t present = 0;
+    _dabs.make(points, count, [&](const Dab& dab) {
+        if (_dabs.pointIndex() != present) {
+            present = _dabs.pointIndex();
+            beginPoint(_smudgeControl ? mixQuantityAtPointIndex(present) : _mixQuantity);
+        }
+        if (_exchange > 0) {
+            bounds.grow(dab);
+            drawDab(dab);
+        }
+    });
+    glEnable(GL_BLEND);
+    useSmudgeTexture();  // not a copy of it
+    drainGLErrors(kSourcePath, __LINE__);
+    return bounds.cutTo(bufferSize());
+}
+
+// A point picks up where the point before it was drawn; a stroke's first has no such place and picks up nothing.
+void ESSmudgeRender::beginPoint(float mix) {
+    const float moist = std::exchange(_hasPlace, true) ? _moistQuantity : 0.0f;
+    const float dry = 1 - moist;
+    _exchange = _loadQuantity * (1 - mix) + mix * (1 - dry * dry * dry);
+    _moist.set(moist);
+    _mix.set(mix);
+    _pickUpPosition = std::exchange(_texturePosition, {std::nearbyint(_dabs.point().position.x),
+                                                       std::nearbyint(_dabs.point().position.y)});
+    _pickUpHalf = std::exchange(_textureSize_2, std::nearbyint(_dabs.halfSizeOfPoint()));
+}
+
+// Turned and mirrored as the dab itself is, so that the picture it carries along is not.
+ESSmudgeRender::Corners ESSmudgeRender::pickUpCorners(const Dab& dab) const {
+    const double c = std::cos(dab.radian), s = std::sin(dab.radian);
+    const double width = _sourceSize.width(), height = _sourceSize.height();
+    Corners corners;
+    for (std::size_t i = 0; i < kCorners; ++i) {
+        const double x = kSquare[i][0] * dab.flipX * _pickUpHalf;
+        const double y = kSquare[i][1] * dab.flipY * _pickUpHalf * dab.roundness;
+        corners.at[i] = QPointF((_pickUpPosition.x + x * c + y * s) / width,
+                                (height - (_pickUpPosition.y + y * c - x * s)) / height);
+    }
+    return corners;
+}
+
+// Every texel of the layer that filtering reads between the corners.
+QRect ESSmudgeRender::texelBox(const Corners& corners) const {
+    double left = corners.at[0].x(), right = left, bottom = corners.at[0].y(), top = bottom;
+    for (const QPointF& at : corners.at) {
+        left = std::min(left, at.x());
+        right = std::max(right, at.x());
+        bottom = std::min(bottom, at.y());
+        top = std::max(top, at.y());
+    }
+    const double width = _layerSize.width(), height = _layerSize.height();
+    // What lies outside of the layer reads as its rim.
+    const int x0 = static_cast<int>(std::clamp(std::floor(left * width) - 1, 0.0, width - 1));
+    const int x1 = static_cast<int>(std::clamp(std::ceil(right * width) + 1, x0 + 1.0, width));
+    const int y0 = static_cast<int>(std::clamp(std::floor(bottom * height) - 1, 0.0, height - 1));
+    const int y1 = static_cast<int>(std::clamp(std::ceil(top * height) + 1, y0 + 1.0, height));
+    return {x0, y0, x1 - x0, y1 - y0};
+}
+
+// Binds what the dab reads: texels that are written by the same draw have no defined value, barrier or not, so a dab
+// that overlaps its pick-up place reads a copy. A pixel may always read what it replaces itself.
+void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
+    if (_useTextureBarrier && !read.intersects(written)) {
+        glBindTexture(GL_TEXTURE_2D, _smudgeTex);
+        if (epoxy_gl_version() >= 45 || epoxy_has_gl_extension("GL_ARB_texture_barrier")) {
+            glTextureBarrier();
+        } else {
+            glTextureBarrierNV();
+        }
+        return;
+    }
+    glBindTexture(GL_TEXTURE_2D, _copyTexture);
+    const QRect both = read.united(written);
+    const auto areaOf = [](const QRect& rect) { return qint64{rect.width()} * rect.height(); };
+    if (areaOf(both) <= areaOf(read) + areaOf(written)) {
+        dabcanvas::copyFramebufferToTexture(both, _layerSize);
+    } else {
+        dabcanvas::copyFramebufferToTexture(read, _layerSize);
+        dabcanvas::copyFramebufferToTexture(written, _layerSize);
+    }
+}
+
+void ESSmudgeRender::drawDab(const Dab& dab) {
+    const QSizeF extent = dabcanvas::DabBounds::extentOf(dab);
+    const double toTexelX = _layerSize.width() / bufferSize().width();
+    const double toTexelY = _layerSize.height() / bufferSize().height();
+    const QRect layer(QPoint(0, 0), _layerSize);
+    const QRect written = QRectF((dab.x - extent.width()) * toTexelX - 1,
+                                 (bufferSize().height() - dab.y - extent.height()) * toTexelY - 1,
+                                 2 * extent.width() * toTexelX + 2, 2 * extent.height() * toTexelY + 2)
+                              .toAlignedRect() &
+                          layer;
+    if (written.isEmpty()) {
+        return;
+    }
+    const Corners corners = pickUpCorners(dab);
+    provideLayer(texelBox(corners), written);
+
+    static constexpr float kWhole[10] = {0, 0, 0, 1, 1, 1, 1, 0, 0, 0};
+    const float* cell = brushTexture() != nullptr ? brushTexture()->vertiesOfTextureIndex(dab.tip) : kWhole;
+    Vertex vertices[kCorners];
+    for (std::size_t i = 0; i < kCorners; ++i) {
+        const float* pair = cell + 2 * (i + 1);
+        vertices[i] = {kSquare[i][0],
+                       kSquare[i][1],
+                       0,
+                       1,
+                       pair[0],
+                       pair[1],
+                       static_cast<float>(corners.at[i].x()),
+                       static_cast<float>(corners.at[i].y())};
+    }
+    glBufferData(GL_ARRAY_BUFFER, sizeof vertices, vertices, GL_STATIC_DRAW);
+    dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
+    dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
+    dabcanvas::setVertexAttribute(_bgCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, bgS));
+    _tipCell.set(cell[0], cell[1], cell[4], cell[5]);
+    setDabUniforms(dab);
+    checkGLStep(kSourcePath, __LINE__);
+    glDrawArrays(GL_TRIANGLE_FAN, 0, kCorners);
+    glFlush();
+    ++_dabsDrawn;
+
+    Dab covered = dab;
+    covered.flow *= _exchange;
+    covered.color = RgbTypeMake(0, 0, 0);
+    _coverage.push_back(covered);
+}
+
+std::span<const Dab> ESSmudgeRender::takeCoverage() {
+    if (_coverageTaken) {
+        return {};
+    }
+    _coverageTaken = true;
+    return _coverage;
+}
+
+// ---- Canvas and layer
+
+QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const TextureBindBlock& bind) {
+    const ShowProgram& show = bind ? _fillProgram : _showProgram;
+    dabcanvas::DabBounds bounds(bufferSize());
+    if (show.program == nullptr || !hasOwnTextures()) {
+        return {};
+    }
+    show.program->bind();
+    QSizeF size = bufferSize();
+    if (bind) {
+        size = bind();
+    } else {
+        const struct {
+            GLenum unit;
+            GLuint texture;
+            GLint uniform;
+        } sources[] = {{kCanvasUnit, _canvasTexture, show.canvas},
+                       {kCoverageUnit, _coverageTexture, show.coverage},
+                       {kBeforeUnit, _beforeTexture, show.before}};
+        for (const auto& source : sources) {
+            glActiveTexture(source.unit);
+            glBindTexture(GL_TEXTURE_2D, source.texture);
+            glUniform1i(source.uniform, static_cast<GLint>(source.unit - GL_TEXTURE0));
+        }
+        glUniform1f(show.opacity, opacity());
+        useSmudgeTexture();
+    }
+    glUniform1i(show.source, static_cast<GLint>(_smudgePos - GL_TEXTURE0));
+    glUniform2f(show.viewSize, static_cast<GLfloat>(size.width()), static_cast<GLfloat>(size.height()));
+    glUniform1f(show.roundness, settings().roundness);
+
+    std::array<Vertex, kCorners> corners{};
+    for (std::size_t i = 0; i < kCorners; ++i) {
+        corners[i] = {kSquare[i][0], kSquare[i][1], 0, 1, 0, 0, 0, 0};
+    }
+    glBufferData(GL_ARRAY_BUFFER, sizeof corners, corners.data(), GL_STATIC_DRAW);
+    dabcanvas::setVertexAttribute(show.position, 4, sizeof(Vertex), 0);
+    dabcanvas::setVertexAttribute(show.texCoord, 2, sizeof(Vertex), offsetof(Vertex, s));
+    for (std::size_t i = 0; i < count; ++i) {
+        const LPPoint& point = points[i];
+        Dab place{};
+        place.x = point.position.x;
+        place.y = point.position.y;
+        place.halfSize = point.radius * 0.5f;
+        place.roundness = settings().roundness;
+        bounds.grow(place);
+        glUniform2f(show.center, place.x, place.y);
+        glUniform1f(show.pointSize, place.halfSize);
+        glDrawArrays(GL_TRIANGLE_FAN, 0, kCorners);
+    }
+    drainGLErrors(kSourcePath, __LINE__);
+    return bounds.cutTo(bufferSize());
+}

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+// Draws the points of a stroke as smudge dabs into the smudge layer: each takes up colour where the dab before it lay
+// and mixes it with the brush's own. The layer is half the canvas each way; a second program fills it from the canvas
+// and brings what the dabs changed back.
+//
+// Units    buffer pixels, top-left origin, also where the layer is drawn into; a point's radius field is the dab's
+//          width.
+// Owns     its programs, its tip texture and two textures of the layer's size. The smudge texture is the context's.
+// State    pick-up place, dab counter and direction run on until resetLineProporty() begins the next stroke.
+// Errors   init() gives null when the smudge program does not build. Without a show program dabs are drawn all the
+//          same, but nothing is filled or brought back.
+#pragma once
+
+#include <QRect>
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "ESRender/ESLineRender.h"
+
+// How drawPoints() draws: dabs, or the rectangles in which canvas and layer meet.
+enum ESSmudgeDraw : std::int32_t { ESSmudgeDrawDabs = 0, ESSmudgeDrawShow = 1 };
+
+class ESSmudgeRender : public ESLineRender {
+public:
+    static std::unique_ptr<ESSmudgeRender> init();
+    ~ESSmudgeRender() override;
+
+    // Makes the smudge program current, whatever the texts.
+    bool setVertexShaderString(const QString& vertexShaderString,
+                               const QString& fragmentShaderFromString) override;
+    static QString smudgeRenderSmudgeVertexShaderString();
+    static QString smudgeRenderSmudgeFrangmentShaderString();
+    static QString smudgeRenderShowVertexShaderString();
+    static QString smudgeRenderShowFrangmentShaderString();
+
+    // The smudge layer's texture and the unit it is read on.
+    void setSmudgeTextureID(GLuint texture, GLenum pos);
+    // Binds it there; false without one.
+    bool useSmudgeTexture() const;
+
+    // Begins a stroke: its first dab has nothing to pick up yet.
+    void resetLineProporty() override;
+
+    // ---- paint; 0..1 each
+
+    // How readily canvas colour is taken along, from a dry brush to a wet one.
+    void setMoistQuantity(float value) { _moistQuantity = value; }
+    float moistQuantity() const { return _moistQuantity; }
+    // How much of its own colour the brush carries.
+    void setLoadQuantity(float value) { _loadQuantity = value; }
+    float loadQuantity() const { return _loadQuantity; }
+    // What a dab is made of: 0 its own colour alone, 1 picked up colour alone.
+    void setMixQuantity(float value) { _mixQuantity = value; }
+    float mixQuantity() const { return _mixQuantity; }
+    // Lets that grow from 0 over the first dabs of a stroke, and over how many.
+    void setSmudgeControl(bool value) { _smudgeControl = value; }
+    bool smudgeControl() const { return _smudgeControl; }
+    void setSmudgeControlValue(float value) { _smudgeControlValue = value; }
+    float smudgeControlValue() const { return _smudgeControlValue; }
+    // The ramp at a dab, counted from 1; the whole mixQuantity at once when its length is not above 0.
+    float mixQuantityAtPointIndex(std::int64_t index) const;
+
+    // Place, in buffer pixels, and half size of the dab that the next point picks up from.
+    LPPosition texturePosition() const { return _texturePosition; }
+    float textureSize_2() const { return _textureSize_2; }
+
+    // ---- draw
+
+    // Binds the texture that is read on the smudge texture's unit and yields the size of what it shows.
+    using TextureBindBlock = std::function<QSizeF()>;
+
+    // Dabs go into the smudge layer, which must be the bound framebuffer; blending is switched off meanwhile, as each
+    // dab reads what is there. Returns the touched rectangle, as the line renderer does.
+    QRectF drawPoints(const LPPoint* points, std::size_t count) override;
+    // ESSmudgeDrawShow draws each point as a rectangle, roundness times its width high. Without a block the layer's
+    // smudges are put into it onto the canvas, with it the picture that the block binds is reduced into the layer.
+    QRectF drawPoints(const LPPoint* points, std::size_t count, std::int32_t renderType,
+                      const TextureBindBlock& withTextureBindBlock = {});
+
+    // The dabs drawn since the last call, in plain colour, with the flow by which each exchanged what was there.
+    std::span<const Dab> takeCoverage();
+    // Keeps the layer, the bound framebuffer, as it is now inside a rectangle: what later dabs change is told from it.
+    void keepLayer(const QRectF& rect);
+    // What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before.
+    void setShowSources(GLuint coverageTexture, GLuint canvasTexture);
+
+    // Where the driver has a texture barrier, a dab that lies clear of its pick-up place reads the layer itself;
+    // else, and always without one, it reads a copy. The picture is the same.
+    void setUseTextureBarrier(bool value) { _useTextureBarrier = value && hasTextureBarrier(); }
+    static bool hasTextureBarrier();
+
+protected:
+    ESSmudgeRender() = default;
+    void bindAttributeForProgram(ESProgram& program) override;
+    void programDidChange() override;
+
+private:
+    struct Corners;
+    // One of the two forms of the show program; null when it did not build.
+    struct ShowProgram {
+        std::unique_ptr<ESProgram> program;
+        GLint position = -1, texCoord = -1;
+        GLint viewSize = -1, center = -1, pointSize = -1, roundness = -1, source = -1;
+        GLint canvas = -1, before = -1, coverage = -1, opacity = -1;
+    };
+
+    static ShowProgram makeShowProgram(bool fill);
+    QRectF drawDabs(const LPPoint* points, std::size_t count, const TextureBindBlock& bind);
+    QRectF show(const LPPoint* points, std::size_t count, const TextureBindBlock& bind);
+    void beginPoint(float mix);
+    Corners pickUpCorners(const Dab& dab) const;
+    QRect texelBox(const Corners& corners) const;
+    void provideLayer(const QRect& read, const QRect& written);
+    void drawDab(const Dab& dab);
+    bool hasOwnTextures();
+
+    float _moistQuantity = 0.3f, _loadQuantity = 1, _mixQuantity = 1, _smudgeControlValue = 25;
+    bool _smudgeControl = true;
+
+    GLuint _smudgeTex = 0;
+    GLenum _smudgePos = GL_TEXTURE7;
+    QSize _layerSize;         // texels of the smudge texture
+    GLuint _copyTexture = 0;  // of the layer, for dabs that overlap what they pick up
+    GLuint _beforeTexture = 0;
+    GLuint _coverageTexture = 0, _canvasTexture = 0;  // the canvas's
+
+    LPPosition _texturePosition{0, 0};
+    float _textureSize_2 = 0;
+    bool _hasPlace = false;
+    // Of the present point
+    LPPosition _pickUpPosition{0, 0};
+    float _pickUpHalf = 0;
+    float _exchange = 0;  // share of what is under full coverage that a dab exchanges
+    QSizeF _sourceSize;   // buffer pixels that the smudge texture shows
+
+    std::vector<Dab> _coverage;
+    bool _coverageTaken = false;
+    bool _useTextureBarrier = false;
+
+    ShowProgram _showProgram, _fillProgram;
+    GLint _bgCoordIndex = -1;
+    dabcanvas::UniformFloat _moist, _load, _mix;
+    dabcanvas::UniformInt _bgUnit;
+    dabcanvas::UniformVec4 _tipCell;
+};

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// What the programs "Shaders.bundle/Smudge_Mac(Smudge)" and "Shaders.bundle/Smudge_Mac(Show)" declare besides the names
+// of the dab program (LineShaderNames.h).
+namespace dabcanvas::smudge {
+
+inline constexpr char kBGCoord[] = "a_bgCoord";
+
+inline constexpr char kMoistQuantity[] = "u_moistQuantity";
+inline constexpr char kLoadQuantity[] = "u_loadQuantity";
+inline constexpr char kMixQuantity[] = "u_mixQuantity";
+inline constexpr char kBGTexture[] = "u_bgTexture";
+inline constexpr char kTipCell[] = "u_tipCell";
+
+inline constexpr char kCanvasTexture[] = "u_canvasTexture";
+inline constexpr char kBeforeTexture[] = "u_beforeTexture";
+inline constexpr char kCoverageTexture[] = "u_coverageTexture";
+inline constexpr char kOpacity[] = "u_opacity";
+
+}  // namespace dabcanvas::smudge

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#version 150
+// Paints one smudge dab: where the tip covers, the layer turns into a mixture of the brush colour and the colour picked up
+// where the last dab lay. Premultiplied; the result replaces the pixel, so that picked up transparency erases.
+uniform sampler2D u_brushTexture;
+uniform sampler2D u_bgTexture;   // the smudge layer as it was before this dab
+uniform vec4 a_color;
+uniform float u_flow;
+uniform float u_moistQuantity;   // 0: a dry brush, which takes no colour along; 1: all that it meets
+uniform float u_loadQuantity;    // of the brush's own colour
+uniform float u_mixQuantity;     // 0: the own colour alone, 1: the picked up alone
+
+in vec2 v_texCoord;
+in vec2 v_bgCoord;
+flat in vec4 v_tipCell;
+out vec4 fragColor;
+
+vec4 layerTexel(ivec2 at, ivec2 size) {
+    return texelFetch(u_bgTexture, clamp(at, ivec2(0), size - 1), 0);
+}
+
+// Between texels, exactly: filtering units round, and over a hundred dabs that would change the colour.
+vec4 pickedUp() {
+    ivec2 size = textureSize(u_bgTexture, 0);
+    vec2 place = v_bgCoord * vec2(size) - 0.5;
+    ivec2 at = ivec2(floor(place));
+    vec2 part = place - vec2(at);
+    vec4 low = mix(layerTexel(at, size), layerTexel(at + ivec2(1, 0), size), part.x);
+    vec4 high = mix(layerTexel(at + ivec2(0, 1), size), layerTexel(at + ivec2(1, 1), size), part.x);
+    return mix(low, high, part.y);
+}
+
+void main() {
+    float coverage = texture(u_brushTexture, clamp(v_texCoord, v_tipCell.xy, v_tipCell.zw)).a * u_flow;
+    float dry = 1.0 - u_moistQuantity;
+    float pickUp = u_mixQuantity * (1.0 - dry * dry * dry);
+    float own = u_loadQuantity * (1.0 - u_mixQuantity);
+    vec4 here = texelFetch(u_bgTexture, ivec2(gl_FragCoord.xy), 0);
+    vec4 mixture = own * vec4(a_color.rgb, 1.0) + pickUp * pickedUp();
+    fragColor = here * (1.0 - coverage * (own + pickUp)) + coverage * mixture;
+}

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+// What one pointer event costs the main thread while a pen session is drawn, and what smudging costs.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+#include "QDEAGLView/QDDrawCanvas.h"
+#include "support/Measuring.h"
+#include "support/Recording.h"
+
+using namespace dabcanvas::bench;
+
+namespace {
+
+constexpr std::int32_t kPaint = 0, kSmudge = 3;
+
+std::unique_ptr<QDDrawCanvas> makeCanvas(int width, int height) {
+    auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height));
+    if (!canvas) {
+        std::fprintf(stderr, "a canvas cannot be made\n");
+        std::exit(1);
+    }
+    canvas->clearWithColor(ESColor::grey(1), false);
+    canvas->setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.7f));
+    return canvas;
+}
+
+double percentile(std::vector<double>& values, double part) {
+    const auto at =
+        values.begin() + static_cast<std::ptrdiff_t>(part * static_cast<double>(values.size() - 1));
+    std::nth_element(values.begin(), at, values.end());
+    return *at;
+}
+
+// Every move of the session as its own event: until the redisplay is asked for, and until the pixels to show are there,
+// as if each event had a frame of its own.
+void pointerEvent(benchmark::State& state) {
+    const Recording& recording = penSession();
+    const auto canvas = makeCanvas(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    canvas->setRadius(static_cast<float>(state.range(2)));
+    canvas->setRadiusControl({1, 0, 0});
+    canvas->setBrushType(static_cast<std::int32_t>(state.range(3)));
+    const double scale = static_cast<double>(state.range(0)) / 1024;
+    std::vector<double> asked, shown;
+    for (auto _ : state) {
+        double whole = 0;
+        for (const Stroke& stroke : recording.strokes) {
+            const auto touch = [&](const Sample& sample) {
+                return QDDrawTouch{QPointF(sample.x, sample.y) * scale, sample.pressure};
+            };
+            canvas->mouseDown(touch(stroke.front()));
+            for (std::size_t i = 1; i < stroke.size(); ++i) {
+                const double start = now();
+                canvas->mouseDragged(touch(stroke[i]));
+                asked.push_back(now() - start);
+                canvas->displayImage();
+                shown.push_back(now() - start);
+                whole += shown.back();
+            }
+            const double start = now();
+            canvas->mouseUp(touch(stroke.back()));
+            canvas->displayImage();
+            shown.push_back(now() - start);
+            whole += shown.back();
+        }
+        state.SetIterationTime(whole);
+    }
+    state.SetLabel(recording.label + ", " + canvas->rendererName().toStdString());
+    state.counters["asked_p50_us"] = percentile(asked, 0.5) * 1e6;
+    state.counters["asked_p99_us"] = percentile(asked, 0.99) * 1e6;
+    state.counters["shown_p50_us"] = percentile(shown, 0.5) * 1e6;
+    state.counters["shown_p99_us"] = percentile(shown, 0.99) * 1e6;
+    state.counters["shown_max_ms"] = percentile(shown, 1) * 1e3;
+}
+BENCHMARK(pointerEvent)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(3)
+    ->ArgNames({"w", "h", "px", "brush"})
+    ->Args({1024, 768, 32, kPaint})
+    ->Args({1024, 768, 64, kPaint})
+    ->Args({1024, 768, 256, kPaint})
+    ->Args({3840, 2160, 32, kPaint})
+    ->Args({3840, 2160, 256, kPaint})
+    ->Args({1024, 768, 64, kSmudge})
+    ->Args({3840, 2160, 64, kSmudge});
+
+// The session drawn by a smudge brush and by a plain one, up to the pixels.
+void smudging(benchmark::State& state) {
+    const Recording& recording = penSession();
+    const auto canvas = makeCanvas(1024, 768);
+    canvas->setRadius(static_cast<float>(state.range(0)));
+    const auto draw = [&](std::int32_t brushType) {
+        canvas->setBrushType(brushType);
+        for (const Stroke& stroke : recording.strokes) {
+            canvas->drawingWithBeginPoint({stroke[0].x, stroke[0].y}, stroke[0].pressure, -1, false);
+            for (const Sample& sample : stroke) {
+                canvas->drawingWithMoveToPoint({sample.x, sample.y}, sample.pressure, -1, false);
+            }
+            canvas->drawingWithEndPoint({stroke.back().x, stroke.back().y}, stroke.back().pressure, -1,
+                                        false);
+        }
+        canvas->displayImage();
+    };
+    Rounds smudged, plain;
+    std::uint64_t dabs = 0;
+    for (auto _ : state) {
+        plain.time([&] { draw(kPaint); });
+        const std::uint64_t before = canvas->strokeStats().dabs;
+        state.SetIterationTime(smudged.time([&] { draw(kSmudge); }));
+        dabs = canvas->strokeStats().dabs - before;
+    }
+    state.SetLabel(recording.label + ", " + canvas->rendererName().toStdString());
+    state.counters["dabs/s"] = static_cast<double>(dabs) / smudged.median();
+    state.counters["us/dab"] = smudged.medianMicros() / static_cast<double>(dabs);
+    state.counters["smudge/plain"] = smudged.median() / plain.median();
+}
+BENCHMARK(smudging)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(5)
+    ->Arg(32)
+    ->Arg(64)
+    ->Arg(256);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <string>
+
+#include "QDEAGLView/QDDrawCanvas.h"
+#include "support/CanvasTest.h"
+
+namespace {
+
+class CanvasSmudgeTest : public CanvasTest {
+protected:
+    // A finger: it only moves what is there, all of it, from the first dab on.
+    static void useFinger(QDDrawCanvas& canvas, float size = 30) {
+        canvas.setBrushType(3);
+        canvas.setRadius(size);
+        canvas.setMoistQuantity(1);
+        canvas.setLoadQuantity(0);
+        canvas.setMixQuantity(1);
+        canvas.setSmudgeControl(false);
+        canvas.setStartRadius(0);
+        canvas.setEndRadius(0);
+    }
+    // Paint of several colours with transparency between and at some of the edges.
+    static void paintStripes(QDDrawCanvas& canvas) {
+        canvas.setBrushType(0);
+        canvas.setHardness(0.8f);
+        canvas.setRadius(24);
+        const QSizeF size = canvas.bufferSize();
+        const ESColor colors[] = {ESColor::rgba(0.9f, 0.1f, 0.1f), ESColor::rgba(0.1f, 0.8f, 0.2f),
+                                  ESColor::rgba(0.1f, 0.2f, 0.9f)};
+        for (int i = 0; i < 3; ++i) {
+            canvas.setRenderColor(colors[i]);
+            const double x = size.width() * (0.1 + 0.4 * i);
+            canvas.drawingWithBeginPoint({x, 0});
+            canvas.drawingWithMoveToPoint({x + 8, size.height() / 2});
+            canvas.drawingWithEndPoint({x, size.height()});
+        }
+    }
+    static void drag(QDDrawCanvas& canvas, QPointF from, QPointF to, int moves = 14) {
+        canvas.drawingWithBeginPoint(from, 0.5f);
+        for (int i = 1; i <= moves; ++i) {
+            canvas.drawingWithMoveToPoint(from + (to - from) * i / moves, 0.5f);
+        }
+        canvas.drawingWithEndPoint(to, 0.5f);
+    }
+    static double redIn(const QImage& image, const QRect& rect) {
+        double sum = 0;
+        for (int y = rect.top(); y <= rect.bottom(); ++y) {
+            for (int x = rect.left(); x <= rect.right(); ++x) {
+                sum += image.pixelColor(x, y).redF() * image.pixelColor(x, y).alphaF();
+            }
+        }
+        return sum / (rect.width() * rect.height());
+    }
+};
+
+TEST_F(CanvasSmudgeTest, PixelsThatNoDabCoveredKeepEveryBit) {
+    for (const QSize size : {QSize(200, 150), QSize(201, 151), QSize(97, 1), QSize(3, 33), QSize(1, 1)}) {
+        for (const float hardness : {0.0f, 1.0f}) {
+            SCOPED_TRACE(std::to_string(size.width()) + " x " + std::to_string(size.height()) +
+                         ", hardness " + std::to_string(hardness));
+            auto canvas = makeCanvas(size.width(), size.height());
+            auto covered = makeCanvas(size.width(), size.height());
+            paintStripes(*canvas);
+            const QImage before = canvas->image();
+            for (QDDrawCanvas* one : {canvas.get(), covered.get()}) {
+                useFinger(*one, 22);
+                one->setBrushType(one == canvas.get() ? 3 : 0);  // where a plain brush of this shape paints
+                one->setHardness(hardness);
+                drag(*one, {-5, size.height() * 0.3}, {size.width() + 5.0, size.height() * 0.7});
+            }
+            const QImage after = canvas->image();
+            const QImage mark = covered->image();
+            int changed = 0;
+            for (int y = 0; y < size.height(); ++y) {
+                for (int x = 0; x < size.width(); ++x) {
+                    changed += after.pixel(x, y) != before.pixel(x, y);
+                    if (mark.pixelColor(x, y).alpha() == 0) {
+                        ASSERT_EQ(after.pixel(x, y), before.pixel(x, y)) << x << ", " << y;
+                    }
+                }
+            }
+            if (size.width() >= 200) {
+                EXPECT_GT(changed, 500);
+            }
+        }
+    }
+}
+
+TEST_F(CanvasSmudgeTest, AnEvenCanvasStaysEvenUpToItsEdges) {
+    for (const QSize size : {QSize(120, 90), QSize(121, 91)}) {
+        auto canvas = makeCanvas(size.width(), size.height());
+        canvas->clearWithColor(ESColor::rgba(0.8f, 0.5f, 0.2f), true);
+        const QImage before = canvas->image();
+        useFinger(*canvas);
+        drag(*canvas, {-20, 5}, {140, 5});
+        drag(*canvas, {5, -20}, {5, 100});
+        drag(*canvas, {size.width() - 1.0, 100}, {size.width() - 1.0, -20});
+        EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    }
+}
+
+TEST_F(CanvasSmudgeTest, TransparentEdgesGetNoDarkFringe) {
+    auto canvas = makeCanvas(160, 100);
+    canvas->clearWithColor(ESColor::rgba(0.8f, 0.4f, 0.2f), true);
+    canvas->setBlendType(5);  // erase the right half
+    canvas->setRadius(100);
+    canvas->setHardness(1);
+    drag(*canvas, {130, -20}, {130, 120});
+    canvas->setBlendType(1);
+    useFinger(*canvas);
+    drag(*canvas, {40, 30}, {140, 30});
+    drag(*canvas, {140, 70}, {40, 70});
+    const QImage after = canvas->image();
+    EXPECT_GT(after.pixelColor(95, 30).alpha(), 60) << "paint is pushed out";
+    EXPECT_LT(after.pixelColor(60, 70).alpha(), 200) << "transparency is pushed in";
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            const uchar* pixel = after.constScanLine(y) + 4 * x;
+            // Premultiplied: each channel is its share of alpha, give or take what rounding can do to a dozen dabs.
+            const double shares[] = {0.8, 0.4, 0.2};
+            for (int i = 0; i < 3; ++i) {
+                ASSERT_NEAR(pixel[i], shares[i] * pixel[3], 7) << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST_F(CanvasSmudgeTest, ColourIsCarriedAndFadesAsTheQuantitiesSay) {
+    const auto carried = [&](float moist, float load, float mix) {
+        auto canvas = makeCanvas(240, 60);
+        canvas->clearWithColor(ESColor::rgba(0, 0, 1), true);
+        canvas->setRenderColor(ESColor::rgba(1, 0, 0));
+        canvas->setHardness(1);
+        canvas->setRadius(60);
+        drag(*canvas, {20, 0}, {20, 60});  // red up to 50
+        useFinger(*canvas, 24);
+        canvas->setRenderColor(ESColor::rgba(0, 1, 0));
+        canvas->setMoistQuantity(moist);
+        canvas->setLoadQuantity(load);
+        canvas->setMixQuantity(mix);
+        drag(*canvas, {20, 30}, {220, 30}, 40);
+        return canvas->image();
+    };
+    const QRect near(54, 28, 8, 5), far(66, 28, 8, 5);
+    const QImage wet = carried(1, 0, 1), damp = carried(0.3f, 0, 1), half = carried(1, 0, 0.6f);
+    EXPECT_GT(redIn(wet, near), 0.3);
+    EXPECT_GT(redIn(damp, near), redIn(damp, far));
+    EXPECT_GT(redIn(wet, far), redIn(damp, far) + 0.02);
+    EXPECT_GT(redIn(wet, far), redIn(half, far) + 0.02);
+    EXPECT_GT(redIn(damp, near), 0.02);
+    EXPECT_EQ(redIn(carried(0, 0, 1), near), 0) << "a dry brush takes nothing along";
+    EXPECT_EQ(damp.pixelColor(150, 30).green(), 0) << "and no colour of its own";
+    EXPECT_GT(carried(1, 1, 0.5f).pixelColor(150, 30).green(), 100) << "unless loaded";
+}
+
+TEST_F(CanvasSmudgeTest, TheFirstDabMixesNothingWhileTheRampIsOn) {
+    auto canvas = makeCanvas();
+    paintStripes(*canvas);
+    useFinger(*canvas);
+    canvas->setSmudgeControl(true);
+    canvas->setSmudgeControlValue(4);
+    const LPPoint dabs[] = {{{90, 75}, 30, {1, 1, 1}}, {{100, 75}, 30, {1, 1, 1}}};
+    const auto layerAfter = [&](std::size_t count) {
+        canvas->drawPoints(dabs, count, ESRenderTypeSmudge);
+        return canvas->esContext().imageForType(ESRenderTypeSmudge);
+    };
+    const QImage before = layerAfter(0);
+    EXPECT_FALSE(painted(before).isEmpty());
+    canvas->drawingWithBeginPoint({90, 75});
+    EXPECT_TRUE(imagesMatch(layerAfter(1), before));
+    canvas->drawingWithBeginPoint({90, 75});
+    EXPECT_NE(layerAfter(2), before);
+}
+
+TEST_F(CanvasSmudgeTest, LookingEarlyOrWithdrawingChangesNothing) {
+    auto canvas = makeCanvas();
+    auto looked = makeCanvas();
+    auto withdrawn = makeCanvas();
+    for (QDDrawCanvas* one : {canvas.get(), looked.get(), withdrawn.get()}) {
+        srand(1);
+        srand48(1);
+        paintStripes(*one);
+        useFinger(*one);
+        one->setOpacity(0.7f);
+    }
+    const QImage before = withdrawn->image();
+    withdrawn->mouseDown({{20, 40}});
+    for (int i = 1; i < 9; ++i) {
+        withdrawn->mouseDragged({{20.0 + i * 18, 40.0}});
+    }
+    EXPECT_NE(withdrawn->image(), before);
+    withdrawn->mouseUp({{170, 40}});
+    EXPECT_TRUE(imagesMatch(withdrawn->image(), before));
+
+    for (QDDrawCanvas* one : {canvas.get(), looked.get(), withdrawn.get()}) {
+        paintWave(*one, 75, 30, [&](int) {
+            if (one == looked.get()) {
+                one->displayImage();
+            }
+        });
+        paintWave(*one, 60);  // the second stroke meets what the first one left
+    }
+    EXPECT_TRUE(imagesMatch(looked->image(), canvas->image()));
+    EXPECT_TRUE(imagesMatch(looked->displayImage(), canvas->image()));
+    EXPECT_TRUE(imagesMatch(withdrawn->image(), canvas->image()));
+}
+
+TEST_F(CanvasSmudgeTest, SmudgesTheCanvasAsItIsNow) {
+    auto canvas = makeCanvas();
+    useFinger(*canvas);
+    drag(*canvas, {20, 75}, {180, 75});
+    canvas->clearWithColor(ESColor::rgba(1, 0, 0), true);
+    drag(*canvas, {20, 75}, {180, 75});
+    EXPECT_EQ(canvas->image().pixelColor(100, 75), QColor(255, 0, 0));
+
+    // A kind of brush that changes in mid-stroke keeps what was drawn.
+    canvas->setRenderColor(ESColor::rgba(0, 0, 1));
+    canvas->setLoadQuantity(1);
+    canvas->setMixQuantity(0.2f);
+    canvas->drawingWithBeginPoint({20, 40});
+    canvas->drawingWithMoveToPoint({60, 40});
+    canvas->drawingWithMoveToPoint({90, 40});
+    canvas->setIsDebug(true);
+    canvas->drawingWithMoveToPoint({130, 40});
+    canvas->drawingWithMoveToPoint({170, 40});
+    canvas->drawingWithEndPoint({180, 40});
+    const QImage both = canvas->image();
+    EXPECT_GT(both.pixelColor(50, 40).blue(), 60);
+    EXPECT_GT(both.pixelColor(150, 40).blue(), 230);
+}
+
+}  // namespace
