@@ -5,15 +5,19 @@
 #include <algorithm>
 #include <cmath>
 
+#include "ESRender/ESImageRender.h"
+
 namespace dabcanvas::dabpainter {
 
 namespace {
 
 using K = BrushKey;
 
-constexpr BrushChoice kBrushKinds[] = {{0, "Paint"}, {3, "Smudge"}, {4, "Live fill"}};
-constexpr BrushChoice kBlends[] = {{1, "Normal"}, {2, "Replace"}, {4, "Behind"},   {5, "Erase"},
-                                   {6, "Darken"}, {7, "Lighten"}, {8, "Multiply"}, {9, "Reset"}};
+constexpr BrushChoice kBrushKinds[] = {{0, "Paint"}, {kSmudgeBrush, "Smudge"}, {kLiveFillBrush, "Live fill"}};
+constexpr BrushChoice kBlends[] = {{ESBlendTypeNormal, "Normal"},     {ESBlendTypeReplace, "Replace"},
+                                   {ESBlendTypeBehind, "Behind"},     {ESBlendTypeErase, "Erase"},
+                                   {ESBlendTypeTarnish, "Darken"},    {ESBlendTypeBrightness, "Lighten"},
+                                   {ESBlendTypeMultiply, "Multiply"}, {ESBlendTypeReset, "Reset"}};
 constexpr BrushChoice kTips[] = {{1, "Soft disc"}, {2, "Ring"}, {3, "Rounded rectangle"}, {0, "Images"}};
 constexpr BrushChoice kThinLines[] = {
     {0, "As they are"}, {2, "At least 3 px"}, {4, "Thinned flow"}, {6, "3 px, thinned flow"}};

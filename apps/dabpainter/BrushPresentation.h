@@ -15,6 +15,9 @@ enum class BrushPlace : std::uint8_t {
     hidden  // not shown, not remembered
 };
 
+// The kinds of brush, as the property brushType has them, that are more than dabs.
+inline constexpr int kSmudgeBrush = 3, kLiveFillBrush = 4;
+
 struct BrushChoice {
     int value;
     const char* label;

@@ -18,14 +18,16 @@
 #include <utility>
 
 #include "BrushCursor.h"
+#include "BrushPresentation.h"
 #include "CanvasViewport.h"
+#include "ESRender/ESImageRender.h"
 #include "QDEAGLView/QDDrawView.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr int kErase = 5;              // the blend type
+constexpr float kPress = 1;            // what the view takes a device for that measures none
 constexpr double kWheelDoubles = 480;  // eighths of a degree of wheel for twice the size
 
 // The hot spot inside the brush's outline.
@@ -57,13 +59,14 @@ CanvasPointer::CanvasPointer(CanvasViewport& viewport, BrushCursor& cursor, Brus
 void CanvasPointer::watchView() {
     QDDrawView* view = _viewport.view();
     view->setDelegate(this);
+    view->setAdjustCancelLine(false);  // short strokes are meant
     view->setMouseTracking(true);
     view->setTabletTracking(true);
     _down = false;
 }
 
 bool CanvasPointer::isIdle() const {
-    return !_viewport.view() || !_stroking;
+    return !_viewport.view() || !_viewport.view()->isDrawing();
 }
 
 bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
@@ -175,7 +178,7 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
             return true;
         }
         if (_viewport.view() && _viewport.view()->geometry().contains(at.toPoint())) {
-            _downPressure = -1;
+            _downPressure = kPress;
             pressed(at);
         }
         return false;
@@ -189,7 +192,7 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
         }
         if (_pickPressed)
             pickAt(at);
-        return _pickPressed;
+        return _pickPressed || event.buttons() == Qt::NoButton;  // hovering means nothing to the view
     }
     if (_panning) {
         _panning = false;
@@ -240,7 +243,7 @@ bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
     if (event.type() == QEvent::TabletPress) {
         _viewport.setFocus(Qt::MouseFocusReason);
         if (event.pointerType() == QPointingDevice::PointerType::Eraser)
-            _model.beginOverride(BrushKey::blendType, kErase);
+            _model.beginOverride(BrushKey::blendType, int(ESBlendTypeErase));
         _downPressure = float(event.pressure());
         pressed(at);
     } else if (event.type() == QEvent::TabletMove) {
@@ -274,7 +277,7 @@ void CanvasPointer::released() {
 // one: a stroke's first dab is never drawn, its last one always is.
 void CanvasPointer::leaveDab(QPointF at) {
     QDDrawView* view = _viewport.view();
-    if (!view || view->isSmudgeType())
+    if (!view || view->isSmudgeType() || view->brushType() == kLiveFillBrush)
         return;
     view->setPointsDistanceEnabled(false);
     view->setStartRadius(0);
@@ -290,17 +293,14 @@ void CanvasPointer::leaveDab(QPointF at) {
     _model.apply(*view, {BrushKey::pointsDistanceEnabled, BrushKey::startRadius, BrushKey::endRadius});
 }
 
-void CanvasPointer::drawViewDidDrawBegin(QDDrawCanvas&, QPointF) {
-    _stroking = true;
-}
-
 void CanvasPointer::drawViewDidDrawMove(QDDrawCanvas&, QPointF) {
     _marked = true;
 }
 
 void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas&, QPointF) {
-    _stroking = false;
-    emit strokeEnded();
+    // A press that slid away and a finger's stroke that became a pinch end, too, but leave nothing.
+    if (_marked && !_manyFingers)
+        emit strokeEnded();
 }
 
 // ---- Fingers
@@ -313,7 +313,7 @@ void CanvasPointer::filterTouch(const QTouchEvent& event) {
     }
     if (event.type() == QEvent::TouchBegin && fingers.size() == 1) {
         _manyFingers = false;
-        _downPressure = -1;
+        _downPressure = kPress;
         pressed(fingers.first());
     }
     if (fingers.size() < 2) {

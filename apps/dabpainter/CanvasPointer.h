@@ -35,7 +35,6 @@ public:
     bool isIdle() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void drawViewDidDrawBegin(QDDrawCanvas&, QPointF) override;
     void drawViewDidDrawMove(QDDrawCanvas&, QPointF bufferPoint) override;
     void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) override;
 
@@ -73,12 +72,11 @@ private:
     bool _pickPressed = false;
     bool _forwarding = false;  // a stroke began beside the canvas
     bool _sending = false;
-    bool _stroking = false;
 
     // Of the pointer that is down
     bool _down = false, _marked = false, _manyFingers = false;
     QPointF _downAt;  // buffer pixels
-    float _downPressure = -1;
+    float _downPressure = 1;
 
     // Of the last pinch event
     QPointF _pinchCenter;

@@ -9,6 +9,7 @@
 #include <numbers>
 
 #include "BrushPresentation.h"
+#include "ESRender/ESImageRender.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 #include "Widgets.h"
 
@@ -127,10 +128,11 @@ void SampleStroke::takeBrush() {
 void SampleStroke::paintBackground() {
     const QColor color = _model.value(BrushKey::renderColor).value<ESColor>().toQColor();
     const int blend = _model.value(BrushKey::blendType).toInt();
-    constexpr int kBehind = 4, kDarken = 6, kMultiply = 8;
-    if (blend == kBehind)
+
+    if (blend == ESBlendTypeBehind)
         _canvas->clear();
-    else if (_canvas->isSmudgeType() || (blend >= kDarken && blend <= kMultiply))
+    else if (_canvas->isSmudgeType() || blend == ESBlendTypeTarnish || blend == ESBlendTypeBrightness ||
+             blend == ESBlendTypeMultiply)
         _canvas->setImageInBufferRect(stripes(_canvas->bufferSize().toSize()),
                                       QRectF(QPointF(0, 0), _canvas->bufferSize()));
     else
