@@ -95,7 +95,8 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::TabletMove:
         case QEvent::TabletRelease: {
             auto& tablet = *static_cast<QTabletEvent*>(event);
-            return inView && filterTablet(tablet, mapped(tablet.position()));
+            const QPointF at = mapped(tablet.position());
+            return inView ? filterTablet(tablet, at) : forwardToView(tablet, at);
         }
         case QEvent::TouchBegin:
         case QEvent::TouchUpdate:
@@ -192,7 +193,7 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
         }
         if (_pickPressed)
             pickAt(at);
-        return _pickPressed || event.buttons() == Qt::NoButton;  // hovering means nothing to the view
+        return _pickPressed || (event.buttons() == Qt::NoButton && isIdle());  // hovering is not for the view
     }
     if (_panning) {
         _panning = false;
@@ -210,24 +211,46 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
 }
 
 // So that a stroke may begin beside the canvas and come in over its edge.
+bool CanvasPointer::mayForward(QEvent::Type type, Qt::MouseButton button, QPointF at) {
+    if (type == QEvent::TabletPress || type == QEvent::MouseButtonPress ||
+        type == QEvent::MouseButtonDblClick) {
+        if (button == Qt::LeftButton)
+            _forwarding = !_viewport.view()->geometry().contains(at.toPoint());
+        return _forwarding;
+    }
+    const bool isEnd = type == QEvent::TabletRelease || type == QEvent::MouseButtonRelease;
+    return isEnd && button == Qt::LeftButton ? std::exchange(_forwarding, false) : _forwarding;
+}
+
 bool CanvasPointer::forwardToView(QMouseEvent& event, QPointF at) {
     QDDrawView* view = _viewport.view();
-    const bool isPress =
-        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
     if (_sending || !view)
         return _sending;  // the view did not want it
-    if (isPress && event.button() == Qt::LeftButton)
-        _forwarding = !view->geometry().contains(at.toPoint());
-    if (!_forwarding)
+    if (!mayForward(event.type(), event.button(), at))
         return false;
-    if (event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton)
-        _forwarding = false;
     QMouseEvent forwarded(event.type(), at - QPointF(view->pos()), event.scenePosition(),
                           event.globalPosition(), event.button(), event.buttons(), event.modifiers(),
                           event.pointingDevice());
     _sending = true;
     QCoreApplication::sendEvent(view, &forwarded);
     _sending = false;
+    return true;
+}
+
+bool CanvasPointer::forwardToView(QTabletEvent& event, QPointF at) {
+    QDDrawView* view = _viewport.view();
+    if (_sending || !view)
+        return _sending;
+    if (_spaceHeld || _panning || _picking || _pickPressed || !mayForward(event.type(), event.button(), at))
+        return false;
+    QTabletEvent forwarded(event.type(), event.pointingDevice(), at - QPointF(view->pos()),
+                           event.globalPosition(), event.pressure(), event.xTilt(), event.yTilt(),
+                           event.tangentialPressure(), event.rotation(), event.z(), event.modifiers(),
+                           event.button(), event.buttons());
+    _sending = true;
+    QCoreApplication::sendEvent(view, &forwarded);
+    _sending = false;
+    event.accept();  // else a mouse event would follow
     return true;
 }
 
@@ -297,15 +320,19 @@ void CanvasPointer::drawViewDidDrawMove(QDDrawCanvas&, QPointF) {
     _marked = true;
 }
 
-void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas&, QPointF) {
-    // A press that slid away and a finger's stroke that became a pinch end, too, but leave nothing.
-    if (_marked && !_manyFingers)
+void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) {
+    // A press that slid away ends, too, but leaves nothing, as does a finger's stroke that a pinch takes back: that
+    // one still moves when it ends.
+    const bool withdrawn = _manyFingers && canvas.lineMove();
+    if (_marked && !withdrawn)
         emit strokeEnded();
 }
 
 // ---- Fingers
 
 void CanvasPointer::filterTouch(const QTouchEvent& event) {
+    if (event.device() && event.device()->type() == QInputDevice::DeviceType::TouchPad)
+        return;  // which moves the mouse
     QList<QPointF> fingers;
     for (const QEventPoint& point : event.points()) {
         if (point.state() != QEventPoint::Released)

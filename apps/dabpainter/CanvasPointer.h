@@ -2,13 +2,13 @@
 #pragma once
 
 #include <QColor>
+#include <QEvent>
 #include <QObject>
 #include <QPointF>
 
 #include "BrushModel.h"
 #include "QDEAGLView/QDDrawViewDelegate.h"
 
-class QEvent;
 class QKeyEvent;
 class QMouseEvent;
 class QTabletEvent;
@@ -52,6 +52,8 @@ private:
     bool filterTablet(QTabletEvent& event, QPointF at);
     void filterTouch(const QTouchEvent& event);
     bool forwardToView(QMouseEvent& event, QPointF at);
+    bool forwardToView(QTabletEvent& event, QPointF at);
+    bool mayForward(QEvent::Type type, Qt::MouseButton button, QPointF at);
     void pickAt(QPointF at);
     void pressed(QPointF at);
     void released();

@@ -4,6 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMouseEvent>
+#include <QPointingDevice>
+#include <QTabletEvent>
+#include <QTouchEvent>
 
 #include "PainterTest.h"
 #include "support/LogCapture.h"
@@ -70,6 +73,86 @@ TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
     const QRect shown = _window->view()->geometry();
     EXPECT_TRUE(viewport.rect().contains(shown));
     EXPECT_NEAR(shown.center().x(), viewport.rect().center().x(), 2);
+}
+
+TEST_F(MainWindowTest, AStrokeMayBeginBesideTheCanvas) {
+    CanvasViewport& viewport = _window->viewport();
+    viewport.setZoom(1);
+    const auto sendToViewport = [&](QEvent::Type type, QPointF bufferPoint, Qt::MouseButtons buttons) {
+        const QPointF at = viewport.pointOfBuffer(bufferPoint);
+        QMouseEvent event(type, at, viewport.mapToGlobal(at),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&viewport, &event);
+    };
+    sendToViewport(QEvent::MouseButtonPress, {-40, 75}, Qt::LeftButton);
+    for (int x = -30; x < 60; x += 10)
+        sendToViewport(QEvent::MouseMove, QPointF(x, 75), Qt::LeftButton);
+    sendToViewport(QEvent::MouseButtonRelease, {60, 75}, Qt::NoButton);
+    EXPECT_FALSE(_window->view()->isDrawing());
+    EXPECT_LT(pixel(2, 75).lightness(), 128);
+    EXPECT_TRUE(_window->isUnsaved());
+}
+
+TEST_F(MainWindowTest, ThePensOtherEndErases) {
+    const QPointingDevice eraser(QStringLiteral("eraser"), 7, QInputDevice::DeviceType::Stylus,
+                                 QPointingDevice::PointerType::Eraser, QInputDevice::Capability::Pressure, 1,
+                                 1);
+    QDDrawView* view = _window->view();
+    const auto pen = [&](QEvent::Type type, QPointF at, Qt::MouseButtons held) {
+        QTabletEvent event(type, &eraser, at, view->mapToGlobal(at), 1, 0, 0, 0, 0, 0, Qt::NoModifier,
+                           type == QEvent::TabletMove ? Qt::NoButton : Qt::LeftButton, held);
+        QApplication::sendEvent(view, &event);
+    };
+    _window->viewport().setZoom(1);
+    pen(QEvent::TabletPress, {40, 75}, Qt::LeftButton);
+    for (int x = 50; x <= 160; x += 10)
+        pen(QEvent::TabletMove, QPointF(x, 75), Qt::LeftButton);
+    pen(QEvent::TabletRelease, {160, 75}, Qt::NoButton);
+    settle();
+    EXPECT_LT(pixel(100, 75).alpha(), 128);
+    EXPECT_EQ(view->blendType(), 1);
+    EXPECT_TRUE(_window->brush().isDefault(BrushKey::blendType));
+}
+
+TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
+    const QPointingDevice screen(QStringLiteral("touch"), 8, QInputDevice::DeviceType::TouchScreen,
+                                 QPointingDevice::PointerType::Finger, QInputDevice::Capability::Position, 5,
+                                 0);
+    QDDrawView* view = _window->view();
+    _window->viewport().setZoom(1);
+    const QPointF corner = view->mapToGlobal(QPointF(0, 0));
+    quint64 time = 0;
+    using Finger = QEventPoint::State;
+    const auto touch = [&](QEvent::Type type, const QList<std::pair<QPointF, Finger>>& fingers,
+                           quint64 after = 16) {
+        QList<QEventPoint> points;
+        for (const auto& [at, state] : fingers)
+            points << QEventPoint(int(points.size()) + 1, state, at, corner + at);
+        QTouchEvent event(type, &screen, Qt::NoModifier, points);
+        event.setTimestamp(time += after);
+        QApplication::sendEvent(view, &event);
+    };
+    const auto lift = [&](QPointF a, QPointF b) {
+        touch(QEvent::TouchEnd, {{a, Finger::Released}, {b, Finger::Released}});
+        settle();
+    };
+    const QImage before = view->image();
+    touch(QEvent::TouchBegin, {{{80, 60}, Finger::Pressed}});
+    touch(QEvent::TouchUpdate, {{{86, 60}, Finger::Updated}});
+    touch(QEvent::TouchUpdate, {{{86, 60}, Finger::Stationary}, {{126, 60}, Finger::Pressed}});
+    touch(QEvent::TouchUpdate, {{{66, 60}, Finger::Updated}, {{146, 60}, Finger::Updated}});
+    lift({66, 60}, {146, 60});
+    EXPECT_NEAR(_window->viewport().zoom(), 2, 0.05);
+    EXPECT_EQ(view->image(), before);
+    EXPECT_FALSE(_window->isUnsaved());
+
+    touch(QEvent::TouchBegin, {{{40, 60}, Finger::Pressed}});
+    for (int x = 50; x < 200; x += 10)
+        touch(QEvent::TouchUpdate, {{{double(x), 60}, Finger::Updated}}, 60);
+    touch(QEvent::TouchUpdate, {{{190, 60}, Finger::Stationary}, {{40, 100}, Finger::Pressed}});
+    lift({190, 60}, {40, 100});
+    EXPECT_NE(view->image(), before);
+    EXPECT_TRUE(_window->isUnsaved());
 }
 
 // ---- What is unsaved
