@@ -298,6 +298,11 @@ TEST_F(CanvasImageTest, ANeglectedBackgroundStaysWhatItWas) {
     canvas->setNeglectTextureUpdate(true);
     ASSERT_TRUE(canvas->setImage(part(), _at));
     EXPECT_TRUE(imagesMatch(canvas->image(), placedOn(before)));
+    for (const QPointF dab : {QPointF(70, 80), QPointF(78, 88)}) {
+        canvas->drawPoint(dab, 30);
+        canvas->updateImage(false);
+    }
+    EXPECT_EQ(canvas->image().copy(86, 64, 4, 8), part().copy(36, 4, 4, 8)) << "beside the dabs' rectangles";
     canvas->resetWithRenderRect(QRectF(0, 0, 200, 150));
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
     canvas->setNeglectTextureUpdate(false);
@@ -325,6 +330,23 @@ TEST_F(CanvasImageTest, AStrokeGoesOnAboveTheImage) {
     EXPECT_TRUE(imagesMatch(after.copy(0, 0, 70, 150), placed.copy(0, 0, 70, 150))) << "not painted over";
     EXPECT_NE(after.copy(125, 0, 75, 150), placed.copy(125, 0, 75, 150)) << "the stroke went on";
     EXPECT_TRUE(imagesMatch(canvas->displayImage(), after));
+}
+
+TEST_F(CanvasImageTest, WhatIsBelowTheImageStaysThere) {
+    const auto paint = [&](bool dabBefore) {
+        auto canvas = tintedCanvas();
+        const auto dabAt = [&](QPointF at) {
+            canvas->drawPoint(at, 50);
+            canvas->updateImage(false);
+        };
+        if (dabBefore) {
+            dabAt({80, 60});
+        }
+        EXPECT_TRUE(canvas->drawImage(solidImage({200, 150}, Qt::yellow), QRectF(0, 0, 200, 150)));
+        dabAt({95, 75});
+        return canvas->image();
+    };
+    EXPECT_TRUE(imagesMatch(paint(true), paint(false)));
 }
 
 TEST_F(CanvasImageTest, StrokesAreBlendedAsBeforeAfterPlacing) {
