@@ -342,7 +342,8 @@ TEST_F(CanvasImageTest, WhatIsBelowTheImageStaysThere) {
         if (dabBefore) {
             dabAt({80, 60});
         }
-        EXPECT_TRUE(canvas->drawImage(solidImage({200, 150}, Qt::yellow), QRectF(0, 0, 200, 150)));
+        const QImage cover = patternImage({150, 200}, 99);
+        EXPECT_TRUE(canvas->drawImage(cover, QSizeF(150, 200), QPointF(100, 75), kQuarter));
         dabAt({95, 75});
         return canvas->image();
     };
