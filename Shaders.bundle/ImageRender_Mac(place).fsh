@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #version 150
 precision highp float;
-// A placed image whose edges cut through pixels: source over background, or in its place. What a pixel at the rim has
-// outside of the image keeps the background, so edges are smooth and without a fringe.
+// A placed image whose edges cut through pixels: source over background, or in its place. What a pixel at the
+// rim has outside of the image keeps the background, so edges are smooth and without a fringe.
 // Premultiplied throughout: background B, source L.
 uniform float u_opacity;
 uniform sampler2D u_bgTexture;

@@ -366,8 +366,8 @@ void ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
     drainGLErrors(kSourcePath, __LINE__);
 }
 
-// Switches to the program of smooth edges, in place of the one of the blend type; false where that is a host's own
-// or mixes otherwise.
+// Switches to the program of smooth edges, in place of the blend type's; false where that is a host's own or
+// mixes otherwise.
 bool ESImageRender::usePlaceProgram() {
     return (_blendType == ESBlendTypeNormal || _blendType == ESBlendTypeReplace) &&
            fragmentShaderString() == fragmentShaderStringForBlendType(_blendType) &&

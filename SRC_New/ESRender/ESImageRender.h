@@ -74,9 +74,9 @@ public:
     // unit.
     void updateBGTextureAtPos(GLenum pos);
     void updateBGTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLenum pos);
-    // Copies an RGBA8888_Premultiplied image, bottom row first, to a rectangle of its size on the buffer, of the
-    // background texture and the bound framebuffer. What mode replace makes of an image that isCopy(), at the cost of
-    // copying its bytes twice; drawing takes a driver without a GPU ten times as long.
+    // Copies an RGBA8888_Premultiplied image, bottom row first, to a rectangle of its size, of the background
+    // texture and the bound framebuffer. What mode replace makes of an image that isCopy(), for copying its
+    // bytes twice; drawing takes a driver without a GPU ten times as long.
     void copyToBG(const QImage& rows, const QRect& rect);
     GLuint backgroundTexture() const { return _background.texture; }  // to read; 0 before the first copy
     // Bind a role's texture on its unit; false for a role without one.
@@ -84,16 +84,16 @@ public:
     bool useLineTexture() const { return _line.use(); }
     bool useSubLineTexture() const { return _subLine.use(); }
 
-    // An image to place, or top-row-first pixels of one, read from where they lie. It keeps its size in pixels,
-    // whatever its device pixel ratio; only one above what the driver takes is scaled down. Null or empty input
-    // changes nothing; brushTexture() is null when there was no memory.
+    // An image to place, or top-row-first pixels of one, read from where they lie. It keeps its size in
+    // pixels, whatever its device pixel ratio; only one above what the driver takes is scaled down. Null or
+    // empty input changes nothing; brushTexture() is null when there was no memory.
     void setTextureImage(const QImage& image, GLenum atPosition = GL_TEXTURE0) override;
     void setTextureData(const unsigned char* data, const QSize& dataSize,
                         GLenum atPosition = GL_TEXTURE0) override;
     // The source is this renderer's brush texture, a placed image, rather than the line layer. drawPoints()
-    // drops it. Unturned (or by quarters) and in its own size on whole pixels it gives its exact pixels; enlarged
-    // it is interpolated, reduced it is averaged; where its edges cut through pixels these are blended, with the
-    // modes normal and replace.
+    // drops it. In its own size on whole pixels, unturned or by quarters, it gives its exact pixels; enlarged
+    // it is interpolated, reduced it is averaged; where its edges cut through pixels these are blended, with
+    // the modes normal and replace.
     bool useLargeTexture() const { return _useLargeTexture; }
     void setUseLargeTexture(bool value) { _useLargeTexture = value; }
     // The sub-line layer masks the line layer.
@@ -111,9 +111,9 @@ public:
 
     // Composites one rectangle a point; returns the touched rectangle in whole pixels, without a margin.
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
-    // The pixels, also beyond the buffer, that a placed image would touch with the present roundness and radian.
+    // The pixels, also beyond the buffer, that a placed image touches with the present roundness and radian.
     QRect placedRect(const LPPoint& point) const;
-    // Whether an image of that size would come out pixel by pixel, unturned, and there is a background texture.
+    // Whether an image of that size comes out pixel by pixel, unturned, and there is a background texture.
     bool isCopy(const LPPoint& point, const QSize& imageSize) const;
 
 protected:

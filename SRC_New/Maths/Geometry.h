@@ -16,8 +16,8 @@ QRectF CGRectApplyScale(const QRectF& rect, const QSizeF& scale);
 // precision.
 QSizeF CGSizeApplyRotation(const QSizeF& halfSize, float angle);
 
-// What a centre moves by when what it is the centre of turns about `point` by `radian`, counter-clockwise as seen
-// with the y axis down.
+// What `center` moves by when it turns about `point` by `radian`, counter-clockwise as seen with the y axis
+// down.
 QPointF offsetWithCenter(const QPointF& center, const QPointF& point, double radian);
 
 // The angle of the line from (x1, y1) to (x2, y2) in (-3 pi / 2, pi / 2]; 0 when the points are equal.

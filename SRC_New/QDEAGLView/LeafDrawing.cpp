@@ -180,16 +180,15 @@ void LeafDrawing::setGaussianRadius(float radius) {
 // Drawing
 
 void LeafDrawing::updateDrawViewForOnline(bool online) {
-    // Antialiasing reaches into the next pixel.
-    _stale |= _updateRect.toAlignedRect().adjusted(-1, -1, 1, 1) & _bitmap.rect();
+    _stale |= _updateRect.toAlignedRect() & _bitmap.rect();
     if (online) {
         redisplay(_updateRect);
     }
 }
 
 void LeafDrawing::redisplay(const QRectF& bitmapRect) {
-    // One pixel for antialiasing, one for a display that interpolates.
-    const QRectF changed = bitmapRect.adjusted(-2, -2, 2, 2) & wholeRect();
+    // A display that interpolates mixes in the next pixel.
+    const QRectF changed = QRectF(bitmapRect.toAlignedRect()).adjusted(-1, -1, 1, 1) & wholeRect();
     const QSizeF shown = frameSize();
     const double x = shown.width() / _graphSize.width(), y = shown.height() / _graphSize.height();
     redisplayRect(QRectF(changed.x() * x, changed.y() * y, changed.width() * x, changed.height() * y));

@@ -14,8 +14,8 @@
 #include "QDEAGLView/LeafFill.h"
 
 // The live preview brush: while the pointer moves, the area that it encloses is shown as one filled, smoothed
-// path, drawn on the CPU; at the end of the stroke it is softened and handed over, to be placed on the canvas.
-// This is the whole logic without a widget; LeafDrawView shows it in a window.
+// path, drawn on the CPU; at the end of the stroke it is softened and handed over, to be placed on the
+// canvas. This is the whole logic without a widget; LeafDrawView shows it in a window.
 //
 //     LeafDrawing leaf(QSizeF(1000, 500));
 //     leaf.setRenderColor(ESColor::rgba(0.2f, 0.6f, 0.1f, 0.8f));
@@ -45,7 +45,7 @@ public:
     LeafDrawing(const LeafDrawing&) = delete;
     LeafDrawing& operator=(const LeafDrawing&) = delete;
 
-    // ---- A stroke: a begin, any number of moves, an end or a cancel; points may lie outside of the canvas ----
+    // ---- A stroke: a begin, any number of moves, an end or a cancel; points may lie anywhere ----
 
     // Finishes a pending stroke first, and drops one that was never ended. Nothing is shown before the first
     // move; a begin that is not finite begins nothing.
@@ -99,8 +99,7 @@ public:
     QPointF beginPoint() const { return _beginPoint; }
     QPointF lastPoint() const { return _lastPoint; }
     QPointF lastRenderPoint() const { return _lastRenderPoint; }  // where the path ends
-    // What the latest stage changed, in bitmap pixels within graphSize(), but for a pixel of antialiasing
-    // around it.
+    // What the latest stage changed, in bitmap pixels within graphSize().
     QRectF updateRect() const { return _updateRect; }
 
     // Notes updateRect() as stale and, when online, asks for its redisplay. The stages call it.

@@ -23,7 +23,7 @@
 // Owns     four bytes for every pixel, given back by clear().
 class LeafFill {
 public:
-    // Forgets everything; a new outline begins in a picture of this size. False when there is no memory for it.
+    // Forgets everything; a new outline begins in a picture of this size. False: no memory for it.
     bool begin(const QSize& size, QPointF point);
     void quadTo(QPointF control, QPointF end);
     void clear();

@@ -62,8 +62,8 @@ QImage pictureOf(const QByteArray& data, const QSize& size) {
                   qsizetype{size.width()} * 4, kDataFormat);
 }
 
-// Mip levels shrink both axes alike. Of an image that is reduced much more on one axis they would blur the other,
-// so that axis is brought to the other's measure first.
+// Mip levels shrink both axes alike. Of an image that is reduced much more on one axis they would blur the
+// other, so that axis is brought to the other's measure first.
 QImage evenlyReduced(const QImage& picture, const QSizeF& size) {
     const double across = picture.width() / size.width();
     const double down = picture.height() / size.height();
@@ -222,8 +222,8 @@ QRect QDDrawCanvas::scissorBox() const {
     return QRect(topLeft, size) & whole;
 }
 
-// The background is to be the canvas that the image meets, with what a stroke in progress has drawn; its layers must
-// not be composited once more over the image.
+// The background is to be the canvas that the image meets, with what a stroke in progress has drawn; its
+// layers must not be composited once more over the image.
 void QDDrawCanvas::settleBeforePlacing() {
     compositePending();
     if (_neglectTextureUpdate) {

@@ -184,9 +184,7 @@ std::unique_ptr<LeafDrawing> QDDrawCanvas::makeLeafDrawView(const QRectF& frame)
 // The preview stands for the whole buffer, at whatever size it is shown.
 void QDDrawCanvas::placePreview(const QImage& image) {
     const QSizeF buffer = bufferSize();
-    //TMP drawImage(image, QRectF(0, 0, buffer.width() * _outScale.width(), buffer.height() * _outScale.height()));
-    (void)image;
-    (void)buffer;
+    drawImage(image, QRectF(0, 0, buffer.width() * _outScale.width(), buffer.height() * _outScale.height()));
 }
 
 QSizeF QDDrawCanvas::bufferSize() const {

@@ -232,29 +232,31 @@ public:
 
     // ---- Images ----
 
-    // Reading back: rectangles in view points (those of readDataBufferRect() in buffer pixels), to lie on the canvas and
-    // cover a pixel at least; between pixels, as many whole ones as ESContext::gRectWithVRect() says. Null or false,
-    // after a log line, for any other.
+    // Reading back: rectangles in view points (readDataBufferRect(): buffer pixels) that lie on the canvas
+    // and cover a pixel at least; between pixels, as many whole ones as ESContext::gRectWithVRect() says.
+    // Null or false, after a log line, for any other.
     QImage imageWithRect(const QRectF& rect);
     QImage newCGImageWithRect(const QRectF& rect);  // the same
     // Premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps. The caller provides the room.
     bool readData(unsigned char* bytes, const QRectF& rect);
     bool readDataBufferRect(unsigned char* bytes, const QRectF& bufferRect);
 
-    // Placing: the draw family composites an image over what is there, the set family puts it in its place, transparent
-    // parts included. The image is stretched to the rectangle and turned about its centre, counter-clockwise, by radians.
+    // Placing: the draw family composites an image over what is there, the set family puts it in its place,
+    // transparent parts included. The image is stretched to the rectangle and turned about its centre,
+    // counter-clockwise, by radians.
     //
-    // Units    view points; buffer pixels in forms that name the buffer, and with isUndo, which is for putting back what
-    //          was recorded: it leaves edited() as it is. An image's device pixel ratio plays no role.
-    // Data     premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps, dataSize pixels: what readData()
-    //          gives, so that setData() of it is the same picture again.
-    // Pixels   exact where the image keeps its size on whole pixels, also turned by quarters; interpolated when enlarged,
-    //          averaged when reduced; where its edges cut through pixels they are blended smoothly, in both families. An
-    //          image larger than the driver's largest texture (8192 pixels a side at the least on today's) loses detail.
+    // Units    view points; buffer pixels in forms that name the buffer and with isUndo, which is for putting
+    //          back what was recorded: it leaves edited() as it is. Device pixel ratios play no role.
+    // Data     premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps, dataSize pixels:
+    //          what readData() gives, so that setData() of it is the same picture again.
+    // Pixels   exact where the image keeps its size on whole pixels, also turned by quarters; interpolated
+    //          when enlarged, averaged when reduced; where its edges cut through pixels these are blended
+    //          smoothly, in both families. An image larger than the driver's largest texture is scaled down
+    //          to it first.
     // Strokes  one in progress goes on above the image: what it drew so far is finished below.
-    // Errors   false, and nothing changed: after a log line for a null image, data shorter than dataSize says, numbers
-    //          that are not finite and sides not from a millionth to a million buffer pixels; quietly for what lies
-    //          outside of the canvas.
+    // Errors   false, and nothing changed: after a log line for a null image, data shorter than dataSize
+    //          says, numbers that are not finite and sides not from a millionth to a million buffer pixels;
+    //          quietly for what lies outside of the canvas.
     bool drawImage(const QImage& image, const QRectF& inRect, bool isUndo = false);
     bool drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
                    bool isUndo = false);
@@ -275,12 +277,13 @@ public:
     bool setData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize, const QPointF& atCenter,
                  double radian, bool isUndo = false);
 
-    // Placing changes the canvas alone, not the background that strokes and drawn images are blended with, and a stroke
-    // in progress is not finished: for a caller that puts back the canvas as the background has it.
+    // Placing changes the canvas alone, not the background that strokes and drawn images are blended with,
+    // and a stroke in progress is not finished: for a caller that puts the canvas back as the background has
+    // it.
     bool neglectTextureUpdate() const { return _neglectTextureUpdate; }
     void setNeglectTextureUpdate(bool value) { _neglectTextureUpdate = value; }
-    // Placing touches only what lies in scissorRect(): buffer pixels, rounded to whole ones. One that is not finite is
-    // refused with a log line; an empty one lets nothing through.
+    // Placing touches only what lies in scissorRect(): buffer pixels, rounded to whole ones. One that is not
+    // finite is refused with a log line; an empty one lets nothing through.
     bool globalScissor() const { return _globalScissor; }
     void setGlobalScissor(bool value) { _globalScissor = value; }
     QRectF scissorRect() const { return _scissorRect; }

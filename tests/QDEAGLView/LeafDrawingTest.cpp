@@ -83,7 +83,7 @@ const Shape kShapes[] = {
     // Its middle is wound around twice.
     {{"Star"}, {{50, 5}, {76, 86}, {7, 36}, {93, 36}, {24, 86}}, {30, 32}, {30, 50}},
     {{"Eight"}, {{10, 10}, {90, 90}, {90, 10}, {10, 90}}, {50, 30}, {30, 10}},
-    {{"BeyondTheCanvas"}, {{-300, -300}, {900, -300}, {400, 50}, {-300, 50}}, {0, 0}, {30, 50}},
+    {{"BeyondTheCanvas"}, {{-300, -300}, {900, -300}, {400, 50}, {-300, 60}}, {0, 0}, {30, 50}},
 };
 INSTANTIATE_TEST_SUITE_P(Shapes, LeafShapeTest, ::testing::ValuesIn(kShapes), byName);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // One power-of-two RGBA texture with mipmaps, made from one image, an atlas of up to sixteen images, or raw
-// pixels; remembers which rectangle of it each image occupies. A picture to be placed has its own size instead.
+// pixels; remembers which rectangle of it each image occupies. A picture to be placed has its own size.
 //
 // Pixels   premultiplied RGBA, 8 bits each. Every texel outside an image is transparent.
 // Layout   GL row 0 (t = 0) is the bottom of the picture: an image's top row lies at its t1. Images stand at
@@ -42,9 +42,9 @@ public:
     // Raw pixels, top row first, rows without gaps, sides rounded up to a power of two. Null when there are
     // no bytes, a side is not above 0 or one is above what the driver takes.
     static std::unique_ptr<TextureObject> initWithData(const unsigned char* data, const QSize& size);
-    // A picture to be placed: as large in texels as it is in pixels, nothing around it, no mip levels yet, uploaded
-    // from where it lies. Its top row is GL row 0, which verties() allows for. Scaled down only where the driver
-    // takes no such size; null when memory is short.
+    // A picture to be placed: as large in texels as it is in pixels, nothing around it, no mip levels yet,
+    // uploaded from where it lies. Its top row is GL row 0, which verties() allows for. Scaled down only
+    // where the driver takes no such size; null when memory is short.
     static std::unique_ptr<TextureObject> initWithPicture(const QImage& picture);
     // No texture yet: keeps a pixel block of qualityType x qualityType that every later load draws into.
     static std::unique_ptr<TextureObject> initWithQualityType(int qualityType);

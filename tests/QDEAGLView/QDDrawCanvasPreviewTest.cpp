@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <string>
+
+#include "QDEAGLView/LeafDrawing.h"
+#include "QDEAGLView/QDDrawView.h"
+#include "support/CanvasTest.h"
+
+namespace {
+
+class CanvasPreviewTest : public CanvasTest {
+protected:
+    static void useLeaf(QDDrawCanvas& canvas) {
+        canvas.setBrushType(4);
+        canvas.setRenderColor(ESColor::rgba(1, 0, 0));
+    }
+    // A square, whose last corner the end closes.
+    static void begin(QDDrawCanvas& canvas, const QRectF& square) {
+        canvas.drawingWithBeginPoint(square.topLeft());
+        const QPointF corners[] = {square.topLeft(), square.topRight(), square.bottomRight(),
+                                   square.bottomLeft()};
+        for (int side = 0; side < 3; ++side) {
+            for (int i = 1; i <= 20; ++i) {
+                canvas.drawingWithMoveToPoint(corners[side] + (corners[side + 1] - corners[side]) * i / 20.0);
+            }
+        }
+    }
+    static QImage shown(QDDrawView& view) {
+        return view.grab().toImage().convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    }
+};
+
+TEST_F(CanvasPreviewTest, IsPlacedExactlyWhereItWasShown) {
+    for (const QSizeF viewSize : {QSizeF(200, 150), QSizeF(400, 300), QSizeF(130, 75)}) {
+        SCOPED_TRACE(std::to_string(viewSize.width()) + " points for 200 pixels");
+        auto view = QDDrawView::initWithFrame(QRectF(0, 0, 200, 150));
+        ASSERT_TRUE(view);
+        view->show();
+        view->clearWithColor(ESColor::grey(1), true);
+        view->resize(viewSize.toSize());
+        useLeaf(*view);
+        const QRectF square(viewSize.width() * 0.2, viewSize.height() * 0.2, viewSize.width() * 0.5,
+                            viewSize.height() * 0.4);
+        begin(*view, square);
+        EXPECT_EQ(shown(*view).pixelColor(square.center().toPoint()), QColor(255, 0, 0));
+        view->drawingWithEndPoint(square.bottomLeft());
+        const QImage live = shown(*view);  // with the end, and no flicker
+        EXPECT_TRUE(view->leafDrawView().isPending());
+        QApplication::processEvents();
+        EXPECT_FALSE(view->leafDrawView().isPending());
+        const QImage placed = shown(*view);
+        // The blur softens the rim; nothing moves, and away from the rim nothing changes.
+        const QRectF inner = square.adjusted(8, 8, -8, -8), outer = square.adjusted(-8, -8, 8, 8);
+        double liveX = 0, placedX = 0, liveY = 0, placedY = 0, liveSum = 0, placedSum = 0;
+        for (int y = 0; y < live.height(); ++y) {
+            for (int x = 0; x < live.width(); ++x) {
+                const double a = 255 - live.pixelColor(x, y).green(),
+                             b = 255 - placed.pixelColor(x, y).green();
+                liveSum += a, liveX += a * x, liveY += a * y;
+                placedSum += b, placedX += b * x, placedY += b * y;
+                if (inner.contains(x, y) || !outer.contains(x, y)) {
+                    ASSERT_EQ(placed.pixelColor(x, y), live.pixelColor(x, y)) << x << ", " << y;
+                }
+            }
+        }
+        EXPECT_NEAR(placedX / placedSum, liveX / liveSum, 0.1);
+        EXPECT_NEAR(placedY / placedSum, liveY / liveSum, 0.1);
+        EXPECT_NEAR(placedSum / liveSum, 1, 0.01);
+    }
+}
+
+TEST_F(CanvasPreviewTest, ReachesTheCanvasInTheOrderOfStrokes) {
+    auto canvas = makeCanvas();
+    useLeaf(*canvas);
+    begin(*canvas, QRectF(20, 20, 100, 100));
+    EXPECT_TRUE(painted(canvas->image()).isEmpty()) << "nothing before the end";
+    canvas->drawingWithEndPoint({20, 120});
+    canvas->setRenderColor(ESColor::rgba(0, 0, 1));  // too late for the stroke
+    canvas->setBrushType(0);
+    canvas->setHardness(1);
+    canvas->drawingWithBeginPoint({10, 70});
+    canvas->drawingWithMoveToPoint({60, 70});
+    canvas->drawingWithMoveToPoint({140, 70});
+    canvas->drawingWithEndPoint({160, 70});
+    const QImage both = canvas->image();
+    EXPECT_EQ(both.pixelColor(70, 70), QColor(0, 0, 255));
+    EXPECT_EQ(both.pixelColor(70, 40), QColor(255, 0, 0));
+    EXPECT_TRUE(canvas->edited());
+
+    // A clear after the end clears the stroke, too; flow is its opacity.
+    useLeaf(*canvas);
+    begin(*canvas, QRectF(20, 20, 100, 100));
+    canvas->drawingWithEndPoint({20, 120});
+    canvas->clear();
+    EXPECT_TRUE(painted(canvas->image()).isEmpty());
+    canvas->setFlow(0.5f);
+    begin(*canvas, QRectF(20, 20, 100, 100));
+    canvas->drawingWithEndPoint({20, 120});
+    EXPECT_NEAR(canvas->image().pixelColor(70, 60).alpha(), 128, 1);
+}
+
+TEST_F(CanvasPreviewTest, WithdrawnOrAbandonedItLeavesNothing) {
+    auto canvas = makeCanvas();
+    useLeaf(*canvas);
+    const auto drag = [&](int moves) {
+        canvas->mouseDown({{20, 20}});
+        for (int i = 1; i <= moves; ++i) {
+            canvas->mouseDragged({{20.0 + i * 12, 20 + 100.0 * (i % 2)}});
+        }
+    };
+    drag(8);
+    EXPECT_FALSE(canvas->leafDrawView().isClear());
+    canvas->mouseUp({{120, 20}});
+    EXPECT_TRUE(canvas->leafDrawView().isClear());
+    EXPECT_TRUE(painted(canvas->image()).isEmpty());
+
+    drag(12);
+    canvas->setBrushType(0);  // in the middle
+    EXPECT_TRUE(canvas->leafDrawView().isClear());
+    canvas->mouseUp({{150, 120}});
+    EXPECT_TRUE(painted(canvas->image()).isEmpty());
+
+    useLeaf(*canvas);
+    drag(12);
+    canvas->mouseUp({{150, 120}});
+    EXPECT_FALSE(painted(canvas->image()).isEmpty());
+}
+
+}  // namespace
