@@ -17,18 +17,22 @@ namespace {
 
 class MainWindowTest : public PainterTest {
 protected:
-    void send(QEvent::Type type, QPointF inView, Qt::MouseButtons buttons) {
+    void send(QEvent::Type type, QPointF at, Qt::MouseButtons buttons) {
         QDDrawView* view = _window->view();
-        QMouseEvent event(type, inView, view->mapToGlobal(inView),
+        QMouseEvent event(type, at, view->mapToGlobal(at),
                           type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
         QApplication::sendEvent(view, &event);
     }
-    void drag(const QList<QPointF>& inView) {
-        send(QEvent::MouseButtonPress, inView.first(), Qt::LeftButton);
-        for (const QPointF& at : inView.mid(1))
-            send(QEvent::MouseMove, at, Qt::LeftButton);
-        send(QEvent::MouseButtonRelease, inView.last(), Qt::NoButton);
+    void drag(const QList<QPointF>& way) {
+        send(QEvent::MouseButtonPress, way.first(), Qt::LeftButton);
+        for (const QPointF& to : way.mid(1))
+            send(QEvent::MouseMove, to, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, way.last(), Qt::NoButton);
         settle();
+    }
+    // Where a buffer pixel is in the view.
+    QPointF inView(double x, double y) {
+        return _window->viewport().pointOfBuffer({x, y}) - _window->view()->pos();
     }
     QColor pixel(int x, int y) { return _window->view()->image().pixelColor(x, y); }
 };
@@ -44,8 +48,7 @@ TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
         viewport.setZoom(zoom);
         EXPECT_NEAR(_window->view()->width() * viewport.devicePixelRatioF(), 200 * zoom, 1);
         // A click leaves a dab, at the pixel below the pointer and nowhere else.
-        const QPointF inView = viewport.pointOfBuffer({120.5, 60.5}) - _window->view()->pos();
-        drag({inView});
+        drag({inView(120.5, 60.5)});
         EXPECT_LT(pixel(120, 60).lightness(), 60);
         EXPECT_EQ(pixel(132, 60), QColor(Qt::white));
         EXPECT_EQ(pixel(108, 60), QColor(Qt::white));
@@ -55,7 +58,7 @@ TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
 }
 
 TEST_F(MainWindowTest, AShortStrokeStays) {
-    drag({{60, 60}, {64, 60}, {70, 60}, {76, 60}, {82, 60}});
+    drag({inView(60, 60), inView(64, 60), inView(70, 60), inView(76, 60), inView(82, 60)});
     EXPECT_NE(pixel(70, 60), QColor(Qt::white));
     EXPECT_TRUE(_window->isUnsaved());
 }
@@ -104,10 +107,10 @@ TEST_F(MainWindowTest, ThePensOtherEndErases) {
         QApplication::sendEvent(view, &event);
     };
     _window->viewport().setZoom(1);
-    pen(QEvent::TabletPress, {40, 75}, Qt::LeftButton);
+    pen(QEvent::TabletPress, inView(40, 75), Qt::LeftButton);
     for (int x = 50; x <= 160; x += 10)
-        pen(QEvent::TabletMove, QPointF(x, 75), Qt::LeftButton);
-    pen(QEvent::TabletRelease, {160, 75}, Qt::NoButton);
+        pen(QEvent::TabletMove, inView(x, 75), Qt::LeftButton);
+    pen(QEvent::TabletRelease, inView(160, 75), Qt::NoButton);
     settle();
     EXPECT_LT(pixel(100, 75).alpha(), 128);
     EXPECT_EQ(view->blendType(), 1);
