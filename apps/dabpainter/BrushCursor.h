@@ -10,8 +10,8 @@ namespace dabcanvas::dabpainter {
 
 class CanvasViewport;
 
-// The brush's outline around the pointer: a pane above the canvas that lets every event through. Only the thin
-// surroundings of the outline are ever repainted, so that a large brush does not slow painting.
+// The brush's outline around the pointer: a pane above the canvas that lets every event through. Only the
+// thin surroundings of the outline are ever repainted, so that a large brush does not slow painting.
 class BrushCursor : public QWidget {
     Q_OBJECT
 

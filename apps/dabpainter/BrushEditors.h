@@ -24,8 +24,8 @@ signals:
     void cleared();
 };
 
-// labelWidth: of a control's own labels, so that they stand in line with the panel's. The prompts must outlive
-// the editor.
+// labelWidth: of a control's own labels, so that they stand in line with the panel's. The prompts must
+// outlive the editor.
 BrushEditor* makeBrushEditor(const BrushProperty& property, const Prompts& prompts, int labelWidth,
                              QWidget* parent);
 

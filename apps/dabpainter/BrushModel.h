@@ -17,15 +17,16 @@ bool sameBrushValue(const QVariant& a, const QVariant& b);
 // Holds a value for every brush property, hands it to the canvas that is painted on, and reads back what that
 // made of it: setters clamp, and some move other properties.
 //
-// Differs from a canvas in one thing: textureImages is what the user loaded, also while the tip is a drawn one.
+// Differs from a canvas in one thing: textureImages is what the user loaded, also while the tip is a drawn
+// one.
 class BrushModel : public QObject {
     Q_OBJECT
 
 public:
     explicit BrushModel(QObject* parent = nullptr);
 
-    // Goes on on this canvas, which takes over all values; the first one gives the defaults, so it must be new.
-    // Not owned; null before the canvas is destroyed.
+    // Goes on on this canvas, which takes over all values; the first one gives the defaults, so it must be
+    // new. Not owned; null before the canvas is destroyed.
     void attach(QDDrawCanvas* canvas);
 
     QVariant value(BrushKey key) const { return _values[std::size_t(key)]; }

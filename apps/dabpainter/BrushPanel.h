@@ -63,8 +63,8 @@ private:
     bool _open = true;
 };
 
-// All brush settings, made from the property table: a property added there appears here. Model and prompts must
-// outlive the panel.
+// All brush settings, made from the property table: a property added there appears here. Model and prompts
+// must outlive the panel.
 class BrushPanel : public QWidget {
     Q_OBJECT
 

@@ -296,8 +296,8 @@ void CanvasPointer::released() {
     });
 }
 
-// The view draws nothing for a click. A stroke there and back that places a dab a sample and has no tapers leaves
-// one: a stroke's first dab is never drawn, its last one always is.
+// The view draws nothing for a click. A stroke there and back that places a dab a sample and has no tapers
+// leaves one: a stroke's first dab is never drawn, its last one always is.
 void CanvasPointer::leaveDab(QPointF at) {
     QDDrawView* view = _viewport.view();
     if (!view || view->isSmudgeType() || view->brushType() == kLiveFillBrush)
@@ -321,8 +321,8 @@ void CanvasPointer::drawViewDidDrawMove(QDDrawCanvas&, QPointF) {
 }
 
 void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) {
-    // A press that slid away ends, too, but leaves nothing, as does a finger's stroke that a pinch takes back: that
-    // one still moves when it ends.
+    // A press that slid away ends, too, but leaves nothing, as does a finger's stroke that a pinch takes
+    // back: that one still moves when it ends.
     const bool withdrawn = _manyFingers && canvas.lineMove();
     if (_marked && !withdrawn)
         emit strokeEnded();

@@ -19,8 +19,9 @@ namespace dabcanvas::dabpainter {
 class BrushCursor;
 class CanvasViewport;
 
-// What the pointer does besides painting, which the view does itself: panning, zooming, picking colours, the dab
-// of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the keyboard.
+// What the pointer does besides painting, which the view does itself: panning, zooming, picking colours, the
+// dab of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the
+// keyboard.
 class CanvasPointer : public QObject, public QDDrawViewDelegate {
     Q_OBJECT
 

@@ -8,10 +8,11 @@ class QDDrawView;
 
 namespace dabcanvas::dabpainter {
 
-// What one sees of a canvas: the view, as large as the zoom makes it, moved about behind the edges of this widget.
+// What one sees of a canvas: the view, as large as the zoom makes it, moved about behind the edges of this
+// widget.
 //
-// Units   positions in this widget's points unless named buffer; a zoom of 1 is one buffer pixel on one pixel of
-//         the screen, whatever the screen's devicePixelRatio.
+// Units   positions in this widget's points unless named buffer; a zoom of 1 is one buffer pixel on one pixel
+//         of the screen, whatever the screen's devicePixelRatio.
 class CanvasViewport : public QWidget {
     Q_OBJECT
 

@@ -75,7 +75,8 @@ MainWindow::~MainWindow() {
     _brush.attach(nullptr);
     if (view())
         view()->setDelegate(nullptr);
-    // While this is still a window that their last signals can reach; the pointer goes before what it watches.
+    // While this is still a window that their last signals can reach; the pointer goes before what it
+    // watches.
     delete _pointer;
     delete _dock;
     delete _viewport;

@@ -27,8 +27,8 @@ public:
     MainWindow(QSettings& settings, Prompts prompts);
     ~MainWindow() override;
 
-    // Each makes a canvas in place of the present one. False, after a message, when it cannot be had; then the
-    // present one stays. Unsaved changes are not asked for.
+    // Each makes a canvas in place of the present one. False, after a message, when it cannot be had; then
+    // the present one stays. Unsaved changes are not asked for.
     bool startCanvas(const CanvasPlan& plan);
     bool openImage(const QString& path);
 

@@ -13,8 +13,8 @@ class QDDrawCanvas;
 
 namespace dabcanvas::dabpainter {
 
-// A wave painted with the present brush, on a canvas of its own. It is painted again shortly after the brush has
-// changed, a few samples at a time between other events; until it is done the one before stays in sight.
+// A wave painted with the present brush, on a canvas of its own. It is painted again shortly after the brush
+// has changed, a few samples at a time between other events; until it is done the one before stays in sight.
 class SampleStroke : public QWidget {
     Q_OBJECT
 

@@ -24,7 +24,8 @@ int print(const QByteArray& text) {
     return printed && std::fflush(stdout) == 0 ? 0 : 1;
 }
 
-// To the log, and to whoever started this from a menu; nobody could close a box on a platform without a display.
+// To the log, and to whoever started this from a menu; nobody could close a box on a platform without a
+// display.
 int giveUp(const QString& what) {
     complain(what);
     if (QGuiApplication::platformName() != QLatin1String("offscreen") &&
