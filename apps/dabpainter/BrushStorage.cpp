@@ -136,7 +136,8 @@ void writeBrush(QSettings& settings, const BrushModel& model) {
     settings.beginGroup(QLatin1String(kSection));
     for (const BrushProperty& property : brushProperties()) {
         const bool kept = brushPresentation(property).place != BrushPlace::hidden;
-        if (kept && !model.isDefault(property.key))
+        // Colours always: a first start's are not the canvas's.
+        if (kept && (property.type() == BrushValueType::color || !model.isDefault(property.key)))
             settings.setValue(QLatin1String(property.name), toStored(property, model.value(property.key)));
     }
     settings.endGroup();

@@ -56,6 +56,7 @@ bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)
     _brush.attach(made.get());
     if (!_brushRead) {
         _brushRead = true;
+        defaultColors();  // of a first start
         readBrush(_settings, _brush);
     }
     _viewport->setView(std::move(made));
