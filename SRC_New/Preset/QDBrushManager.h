@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// Brush presets: their records, and the XBF files they are kept in.
+//
+// Paths    any text; the file system is given their UTF-8 form.
+// Thread   any; nothing is kept between calls.
+// Errors   never throws: false or nullopt, with one line in the log category dabcanvas.preset that names the
+//          file and says what was wrong. A `problem`, when given, receives the same in words, or becomes
+//          empty. A file that cannot be opened also gets XBF.h's message on standard output.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+#include <cstdio>
+#include <optional>
+
+#include "Preset/BrushRecords.h"
+
+class QDBrushManager {
+public:
+    QDBrushManager() = delete;
+
+    // Records
+
+    // A record of these entries; nothing is checked.
+    static BrushParam paramWithID(int id, const QString& method, const QVariant& propertyValue,
+                                  int propertyType);
+    // A record as it was read from a file, whose text or data stays the caller's. An unknown type gives int
+    // 0.
+    static BrushParam paramFromParamData(const _XBFParamData& data);
+
+    // Files
+
+    // Writes a preset of one brush. It is written beside the path first and then takes the old file's place,
+    // so that there is always a whole file. Links are followed, and permissions stay.
+    //   params    no list: nothing is written. A value of another type than its record says is converted as
+    //             QVariant does, to 0 or an empty value at the worst. Text reaches up to U+00FF (HexText.h).
+    //             A record of id 0, which would end the brush, is refused.
+    //   withName  up to a NUL character
+    // False where nothing was written.
+    static bool saveParams(const std::optional<BrushParams>& params, int version, const QString& withName,
+                           const QString& inPath, QString* problem = nullptr);
+
+    // The brushes of a file as dictionaries, none when its header says so. Of a damaged file, what is whole:
+    // brushes, and of the last one the records before the damage; `problem` then says what was wrong. No
+    // list, and `version` untouched, when the file cannot be opened or is no XBF file (XBFLooksRight()).
+    static std::optional<QList<QVariantMap>> brushesWithXBFPath(const QString& path, int* version = nullptr,
+                                                                QString* problem = nullptr);
+    // The same of an open stream, from its start; the stream stays the caller's. Logs nothing.
+    static std::optional<QList<QVariantMap>> brushesWithXBFStream(std::FILE* file, int* version = nullptr,
+                                                                  QString* problem = nullptr);
+
+    // Only the names, for a listing: values are not read, and nothing behind the last name is looked at.
+    static std::optional<QStringList> brushNamesWithXBFPath(const QString& path, int* version = nullptr,
+                                                            QString* problem = nullptr);
+};

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT A file that is written beside its path and takes the path's place only when
+// all of it is on the disk; until then, and when anything fails, whatever stood there stays.
+//
+// Path     links are followed to the file they name. Its permissions stay; what is no plain file is refused.
+// Thread   one at a time.
+// Errors   never throws: no file, or false, with problem() saying why in words.
+#pragma once
+
+#include <QString>
+#include <cstdio>
+#include <filesystem>
+
+class ReplacingFile {
+public:
+    explicit ReplacingFile(const QString& path);
+    ~ReplacingFile();  // without commit(), nothing remains of it
+    ReplacingFile(const ReplacingFile&) = delete;
+    ReplacingFile& operator=(const ReplacingFile&) = delete;
+
+    std::FILE* file() const {
+        return _file;
+    }               // to write to, still this object's; null when it cannot be made
+    bool commit();  // closes it and puts it in place; once
+    const QString& problem() const { return _problem; }
+
+private:
+    bool findTarget(const QString& path);
+    bool close();
+    bool fail(const QString& problem);
+
+    std::filesystem::path _target;
+    std::filesystem::path _temporary;
+    std::FILE* _file = nullptr;
+    QString _problem;
+};

@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: MIT
+#include "Preset/XBF.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "support/HexFile.h"
+
+namespace {
+
+using namespace std::string_literals;
+using Stream = std::unique_ptr<std::FILE, decltype(&XBFClose)>;
+
+Stream streamOf(const std::string& bytes = {}) {
+    Stream stream(std::tmpfile(), XBFClose);
+    std::fwrite(bytes.data(), 1, bytes.size(), stream.get());
+    std::rewind(stream.get());
+    return stream;
+}
+
+std::string bytesOf(const Stream& stream) {
+    std::string bytes(1 << 16, 0);
+    std::rewind(stream.get());
+    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), stream.get()));
+    return bytes;
+}
+
+std::string number(std::uint32_t value) {
+    return {static_cast<char>(value), static_cast<char>(value >> 8), static_cast<char>(value >> 16),
+            static_cast<char>(value >> 24)};
+}
+
+// A record as a file spells it.
+std::string record(std::uint32_t id, std::uint32_t type, std::string value = {},
+                   const std::string& payload = {}, const std::string& method = "setIt:") {
+    value.resize(kXBFInlineSize);
+    return number(id) + number(static_cast<std::uint32_t>(method.size())) + method + number(type) + value +
+           payload;
+}
+
+std::string dataRecord(std::uint32_t width, std::uint32_t height, std::uint32_t depth,
+                       const std::string& payload = {}) {
+    return record(1, kXBFData, number(width) + number(height) + number(depth), payload);
+}
+
+std::string textRecord(std::uint32_t length, const std::string& payload = {}) {
+    return record(1, kXBFText, "\xAA\xAA\xAA\xAA\xAA\xAA\xAA\xAA", number(length) + payload);
+}
+
+const std::string kTerminator = record(0, 0, {}, {}, {});
+
+_XBFParamValue emptyValue() {
+    _XBFParamValue value;
+    std::memset(&value, 0, sizeof value);
+    return value;
+}
+
+// Reads one record, as its id and type, whatever it owns freed.
+std::pair<XBFRead, int> readOne(std::FILE* file) {
+    _XBFParamData data;
+    const XBFRead result = TryNextParamData(file, &data);
+    XBFFreeParamData(&data);
+    return {result, data.id};
+}
+
+// Writing
+
+TEST(XBF, AMissingStreamIsRefusedByEveryFunction) {
+    EXPECT_FALSE(AddXBFInfo(nullptr, XBFInfoMake(200, 1)));
+    EXPECT_FALSE(AddBrushName(nullptr, "Ink"));
+    EXPECT_FALSE(AddValue(nullptr, 1, "setIt:", kXBFInt, emptyValue()));
+    EXPECT_EQ(ReadXBFInfo(nullptr).versionAndKind, 0u);
+    EXPECT_EQ(ReadXBFInfo(nullptr).count, 0u);
+    EXPECT_EQ(ReadBrushName(nullptr), nullptr);
+    const _XBFParamData data = NextParamData(nullptr);
+    EXPECT_EQ(std::string(reinterpret_cast<const char*>(&data.id), 4), "0000");
+    EXPECT_EQ(data.type, 0);
+    EXPECT_EQ(XBFClose(nullptr), EOF);
+}
+
+TEST(XBF, AFileThatCannotBeOpenedIsSaidOnStandardOutputWithoutALineEnd) {
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(XBFCreate(nullptr), nullptr);
+    EXPECT_EQ(XBFOpen(nullptr), nullptr);
+    EXPECT_EQ(XBFCreate("no/such/folder/a.xbf"), nullptr);
+    EXPECT_EQ(XBFOpen("no/such/b.xbf"), nullptr);
+    std::fflush(stdout);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(),
+              "filename not NULL!filename not NULL!Open file(no/such/folder/a.xbf) error!"
+              "Open file(no/such/b.xbf) error!");
+}
+
+TEST(XBF, TheHeaderIsWrittenAgainInItsPlace) {
+    const Stream stream = streamOf();
+    EXPECT_TRUE(AddXBFInfo(stream.get(), XBFInfoMake(200, 1)));
+    EXPECT_TRUE(AddBrushName(stream.get(), "Ink"));
+    EXPECT_TRUE(AddBrushName(stream.get(), nullptr));
+    EXPECT_TRUE(AddXBFInfo(stream.get(), XBFInfoMake(0x01020304, 2)));
+    EXPECT_EQ(bytesOf(stream), "\4\3\2\1\1\x10\0\0\2\0\0\0\3\0\0\0Ink\0\0\0\0"s);
+    const XBFInfo info = ReadXBFInfo(stream.get());
+    EXPECT_EQ(info.version(), 0x01020304u);
+    EXPECT_EQ(info.kind(), 4097u);
+    EXPECT_EQ(info.count, 2u);
+}
+
+TEST(XBF, AMethodIsCutTo39BytesAndTheRestOfALongerOneIsSkipped) {
+    const std::string method = "setSomethingWithAnUncommonlyLongName39:";
+    ASSERT_EQ(method.size(), 39u);
+    const Stream written = streamOf();
+    AddValue(written.get(), 7, (method + "andMore:").c_str(), kXBFInt, emptyValue());
+    EXPECT_EQ(bytesOf(written), record(7, kXBFInt, {}, {}, method));
+
+    for (const std::size_t more : {1u, 40u, 5000u}) {
+        const Stream stream =
+            streamOf(record(7, kXBFBool, {}, {}, method + std::string(more, 'x')) + kTerminator);
+        const _XBFParamData data = NextParamData(stream.get());
+        EXPECT_EQ(data.id, 7);
+        EXPECT_EQ(data.name, method);
+        EXPECT_EQ(data.type, kXBFBool);
+        EXPECT_EQ(readOne(stream.get()).first, XBFRead::terminator);
+    }
+}
+
+TEST(XBF, BytesThatATypeDoesNotNameAreWrittenAsTheyLieInMemory) {
+    _XBFParamValue value = emptyValue();
+    value.textureValue = {{0x11111111, 0x22222222}, 0x33333333, nullptr};
+    value.boolValue = 1;
+    char text[] = "6162";
+    _XBFParamValue pointer = emptyValue();
+    pointer.textValue = text;
+    const Stream stream = streamOf();
+    AddValue(stream.get(), 1, "setIt:", kXBFBool, value);
+    AddValue(stream.get(), 1, "setIt:", kXBFText, pointer);
+    EXPECT_EQ(bytesOf(stream),
+              record(1, kXBFBool, "\1\x11\x11\x11\x22\x22\x22\x22\x33\x33\x33\x33") +
+                  record(1, kXBFText, std::string(reinterpret_cast<char*>(&pointer), 8), number(4) + text));
+}
+
+TEST(XBF, ADataBlockThatCannotBeReadAgainIsRefused) {
+    char byte = 0;
+    const Stream stream = streamOf();
+    for (const _XBFTexture& texture :
+         {_XBFTexture{{-1, 1}, 1, &byte}, _XBFTexture{{INT_MAX, INT_MAX}, INT_MAX, &byte},
+          _XBFTexture{{1, 1}, 1, nullptr}}) {
+        _XBFParamValue value = emptyValue();
+        value.textureValue = texture;
+        EXPECT_FALSE(AddValue(stream.get(), 1, "setIt:", kXBFData, value));
+    }
+    EXPECT_EQ(bytesOf(stream), "");
+}
+
+// Reading
+
+TEST(XBF, LengthsBelowOneMeanNothing) {
+    EXPECT_EQ(ReadBrushName(streamOf(number(0)).get()), nullptr);
+    EXPECT_EQ(ReadBrushName(streamOf(number(-5u) + "later").get()), nullptr);
+    const std::string noMethod = number(5) + number(-1u) + number(kXBFInt) + number(8) + std::string(12, 0);
+    const Stream stream = streamOf(noMethod + textRecord(0) + textRecord(-1u) + kTerminator);
+    const _XBFParamData data = NextParamData(stream.get());
+    EXPECT_STREQ(data.name, "");
+    EXPECT_EQ(data.value.intValue, 8);
+    for (int i = 0; i < 2; ++i) {
+        const _XBFParamData text = NextParamData(stream.get());
+        EXPECT_EQ(text.id, 1);
+        EXPECT_EQ(text.value.textValue, nullptr);
+    }
+    EXPECT_EQ(readOne(stream.get()).first, XBFRead::terminator);
+}
+
+TEST(XBF, ADataBlockHasTheProductOfItsFactorsWhateverTheirSigns) {
+    for (const std::uint32_t sign : {1u, -1u}) {
+        for (const std::uint32_t width : {6u, 5000u}) {  // read by way of a buffer, and in one go
+            const std::string bytes(std::size_t{width} * 4, 'd');
+            const Stream stream = streamOf(dataRecord(sign * width, sign * 2, 2, bytes) + kTerminator);
+            _XBFParamData data = NextParamData(stream.get());
+            ASSERT_EQ(XBFDataSize(data.value.textureValue), static_cast<std::int64_t>(bytes.size()));
+            EXPECT_EQ(std::string(data.value.textureValue.data, bytes.size()), bytes);
+            XBFFreeParamData(&data);
+            EXPECT_EQ(readOne(stream.get()).first, XBFRead::terminator);
+        }
+    }
+}
+
+TEST(XBF, SkippingGoesAsFarAsReading) {
+    const Stream stream = streamOf(textRecord(4, "6162") + dataRecord(3000, 1, 1, std::string(3000, 'd')) +
+                                   record(9, 4711) + kTerminator + "behind");
+    for (const XBFRead expected : {XBFRead::ok, XBFRead::ok, XBFRead::ok, XBFRead::terminator}) {
+        const long start = std::ftell(stream.get());
+        _XBFParamData skipped;
+        EXPECT_EQ(TrySkipParamData(stream.get(), &skipped), expected);
+        const long end = std::ftell(stream.get());
+        std::fseek(stream.get(), start, SEEK_SET);
+        const auto [result, id] = readOne(stream.get());
+        EXPECT_EQ(result, expected);
+        EXPECT_EQ(id, skipped.id);
+        EXPECT_EQ(std::ftell(stream.get()), end);
+    }
+}
+
+TEST(XBF, ATerminatorWithAPayloadOwnsNothingAndKeepsThePlace) {
+    const Stream stream =
+        streamOf(record(0, kXBFText, {}, number(3) + "abc") + record(6, kXBFInt) + kTerminator);
+    const _XBFParamData data = NextParamData(stream.get());
+    EXPECT_EQ(data.id, 0);
+    EXPECT_EQ(data.value.textValue, nullptr);
+    EXPECT_EQ(readOne(stream.get()), std::pair(XBFRead::ok, 6));
+}
+
+// Damage: the length that a piece claims is refused before anything is allocated by it, which a file that only
+// ends too early is not.
+TEST(XBF, HostileLengthsStopTheReading) {
+    const std::uint32_t huge = INT_MAX;
+    const struct {
+        const char* name;
+        std::string bytes;
+        XBFRead expected;
+    } rows[] = {
+        {"text", textRecord(huge, "61"), XBFRead::tooLong},
+        {"text by one", textRecord(3, "61"), XBFRead::tooLong},
+        {"data", dataRecord(huge, 1, 1, "d"), XBFRead::tooLong},
+        {"data by one", dataRecord(1, 2001, 1, std::string(2000, 'd')), XBFRead::tooLong},
+        {"large product", dataRecord(huge, huge, 2, "d"), XBFRead::tooLong},
+        {"overflow", dataRecord(huge, huge, 3, "d"), XBFRead::badSize},
+        {"overflow to a small product", dataRecord(1u << 31, 1u << 31, 1u << 31, "d"), XBFRead::badSize},
+        {"negative", dataRecord(-2u, 3, 1, "d"), XBFRead::badSize},
+        {"method", number(1) + number(huge) + std::string(100, 'm'), XBFRead::tooLong},
+        {"short method", number(1) + number(30) + "m", XBFRead::cutShort},
+        {"text without length", record(1, kXBFText) + "ab", XBFRead::cutShort},
+        {"half an id", "ab", XBFRead::cutShort},
+        {"nothing", "", XBFRead::endOfFile},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(readOne(streamOf(row.bytes).get()), std::pair(row.expected, 0));
+        _XBFParamData data;
+        EXPECT_EQ(TrySkipParamData(streamOf(row.bytes).get(), &data), row.expected);
+        data = NextParamData(streamOf(row.bytes).get());
+        EXPECT_EQ(data.id, 0);
+        EXPECT_EQ(data.value.textureValue.data, nullptr);
+    }
+    char* name = nullptr;
+    EXPECT_EQ(TryReadBrushName(streamOf(number(huge) + "Ink").get(), &name), XBFRead::tooLong);
+    EXPECT_EQ(TryReadBrushName(streamOf("In").get(), &name), XBFRead::cutShort);
+    EXPECT_EQ(TryReadBrushName(streamOf("").get(), &name), XBFRead::endOfFile);
+    EXPECT_EQ(name, nullptr);
+}
+
+TEST(XBF, AStreamThatCannotBeReadSaysSo) {
+    const Stream folder(std::fopen(DABCANVAS_TEST_DATA, "rb"), XBFClose);  // which opens, on a POSIX system
+    if (folder) {
+        XBFInfo info;
+        EXPECT_EQ(TryReadXBFInfo(folder.get(), &info), XBFRead::failed);
+        EXPECT_FALSE(XBFLooksRight(folder.get()));
+    }
+}
+
+TEST(XBF, WhatLooksLikeAnXBFFile) {
+    const std::string good = hexFile(DABCANVAS_TEST_DATA "/xbf/preset.hex").bytes;
+    const auto withKind = [&](std::uint32_t kind, std::string bytes) {
+        return bytes.replace(4, 4, number(kind));
+    };
+    const auto otherKind = [&](std::size_t place, std::uint32_t value) {
+        return withKind(5, good).replace(place, 4, number(value));
+    };
+    ASSERT_GT(good.size(), 100u);
+    const struct {
+        const char* name;
+        std::string bytes;
+        bool expected;
+    } rows[] = {
+        {"a preset", good, true},
+        {"cut behind its header", good.substr(0, 12), true},
+        {"cut in its header", good.substr(0, 11), false},
+        {"empty", "", false},
+        {"another kind", withKind(5, good), true},
+        {"another kind and no brush", otherKind(8, 0).substr(0, 12), true},
+        {"another kind and more than no brush", otherKind(8, 0), false},
+        {"another kind and too many brushes", otherKind(8, 10), false},
+        {"another kind and a long name", otherKind(12, 100000), false},
+        {"another kind and a long method", otherKind(23, 40), false},
+        {"another kind and an unknown type", otherKind(40, 7), false},
+        {"another kind, cut", withKind(5, good).substr(0, 30), false},
+        {"PNG", "\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\1\0\0\0\1\0\x08\6\0\0\0"s + std::string(5000, 'p'), false},
+        {"text", "A text file says something else.\n" + std::string(5000, 't'), false},
+        {"program", "\x7F\x45LF\2\1\1\0\0\0\0\0\0\0\0\0\3\0\x3E\0"s + std::string(5000, 0), false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Stream stream = streamOf(row.bytes);
+        EXPECT_EQ(XBFLooksRight(stream.get()), row.expected);
+        EXPECT_EQ(std::ftell(stream.get()), 0);
+    }
+}
+
+}  // namespace
