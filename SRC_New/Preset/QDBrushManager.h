@@ -17,9 +17,28 @@
 
 #include "Preset/BrushRecords.h"
 
+class QDDrawCanvas;
+
 class QDBrushManager {
 public:
     QDBrushManager() = delete;
+
+    // What files are saved as. 100 marks presets of an older model, which applying migrates.
+    static constexpr int kVersion = 200;
+
+    // A canvas's brush
+
+    // Its brush as records, in a fixed order; no list without a canvas. Colours are whole here and lose what a byte
+    // cannot hold in a file; tip images are taken only when the tip is not a drawn one.
+    static std::optional<BrushParams> paramsOfDrawView(const QDDrawCanvas* view);
+    // Captures it into a file, as saveParams() does.
+    static bool saveParamsWithDrawView(const QDDrawCanvas* view, const QString& withName,
+                                       const QString& inPath, QString* problem = nullptr);
+    // Makes records the brush: first every property takes its default, see QDDrawCanvas::resetParams(). Records of
+    // unknown ids are skipped. False, and nothing changed, without a canvas or a list.
+    static bool resetDrawView(QDDrawCanvas* view, const std::optional<BrushParams>& withParams, int version);
+    // The same with the last brush of a file, of a damaged one with what was whole. False when it has none.
+    static bool resetDrawView(QDDrawCanvas* view, const QString& withXBFFile);
 
     // Records
 

@@ -5,6 +5,7 @@
 #include <QVariant>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <span>
 #include <variant>
 
@@ -48,8 +49,8 @@ enum class BrushKey : std::uint8_t {
     pointsDistanceEnabled,
     pointsDistance,
     smoothEnabled,
-    speedSencitive,
     sensitivity,
+    speedSencitive,
     colorFul,
     lineProcessType,
     minRadius,
@@ -126,6 +127,15 @@ inline constexpr Renders kNoRender = 0, kMain = 1, kSub = 2, kSmudge = 4, kCompo
 
 inline constexpr float kFree = std::numeric_limits<float>::infinity();  // no bound on this side
 
+// How presets store and read a boolean.
+enum class PresetForm : std::uint8_t {
+    plain,
+    // Deliberate: a reader takes the whole part of the number, so that 0.5 counts as off; elsewhere it counts as on.
+    readViaFloat,
+    // Deliberate: that, and it is stored as 0.0 or 1.0.
+    storedAsFloat
+};
+
 struct BrushProperty {
     // In the order of BrushValueType.
     using Field =
@@ -147,6 +157,9 @@ struct BrushProperty {
     BrushKey key;
     const char* name;  // as the property, its getter and, capitalised after "set", its setter are called
     BrushGroup group;
+    std::uint16_t presetId = 0;   // in presets; 0: never stored. A control's three numbers have the three ids above it
+    std::optional<float> reset{};  // what resetParams() sets (a control to three of it); none: left alone
+    PresetForm presetForm = PresetForm::plain;
     Field field;  // where the stored value stands
     Setter set;
     float created = 0;   // value of a new canvas (booleans 0 or 1); controls are zero, colours black, images
@@ -173,6 +186,10 @@ const BrushProperty* brushPropertyNamed(QStringView name);
 
 // What a new canvas starts with, as the QVariant type that QDDrawCanvas::brushValue() returns.
 QVariant brushDefault(const BrushProperty& property);
+
+// The row of a preset id, with the number of the control's part (0 speed, 1 pressure, 2 altitude; -1 for a property of
+// one value); null for an id that no property has.
+const BrushProperty* brushPropertyOfPresetId(std::uint32_t id, int* part);
 
 const char* brushGroupName(BrushGroup group);
 const char* brushValueTypeName(BrushValueType type);

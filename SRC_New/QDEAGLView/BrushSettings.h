@@ -42,8 +42,8 @@ struct BrushSettings {
     bool pointsDistanceEnabled = false;
     float pointsDistance = 0;
     bool smoothEnabled = false;
-    float speedSencitive = 0;
     float sensitivity = 0;
+    float speedSencitive = 0;
     bool colorFul = false;
     std::int32_t lineProcessType = 0;
 

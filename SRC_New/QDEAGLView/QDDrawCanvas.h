@@ -12,11 +12,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "Brushes/TexturesTool.h"
 #include "ESContext/ESContext.h"
 #include "LineProcess/LPSharedState.h"
+#include "Preset/BrushRecords.h"
 #include "QDEAGLView/BrushProperties.h"
 #include "QDEAGLView/BrushSettings.h"
 #include "QDEAGLView/QDDrawTouch.h"
@@ -323,6 +325,13 @@ public:
     const LPLineParams& lineParaObj() const { return *_lineParaObj; }
     const LPLineParams& subLineParaObj() const { return *_subLineParaObj; }
 
+    // Every property that a preset may leave out takes its default; colours, tip images and a few more stay.
+    void resetParams();
+    // Make a preset, records or a file's last brush, the brush. It replaces the present one as a whole. False, and
+    // nothing changed, without records or when the file cannot be read.
+    bool resetWithParams(const std::optional<BrushParams>& params, int version);
+    bool resetWithXBFPath(const QString& path);
+
     std::int32_t brushType() const { return _brush.brushType; }
     void setBrushType(std::int32_t value);
     bool isDebug() const { return _brush.isDebug; }
@@ -517,6 +526,8 @@ protected:
     virtual void showLeafDrawView(bool) {}
 
 private:
+    friend class QDBrushManager;
+
     static constexpr std::int32_t kSmudgeBrush = 3, kPreviewBrush = 4;
     struct StrokeScope;                            // this canvas's GL context and stroke state are current
     enum class Stroke { none, awaited, drawing };  // awaited: its begin was refused
@@ -589,6 +600,7 @@ private:
     void useTips(const QList<QImage>& tips);
     void setSubRadius(float radius);
     void takeRelationValue();
+    void restoreSubLine(float slRadius, float relationValue);
 
     QRectF _frame;
     QDDrawViewDelegate* _delegate = nullptr;

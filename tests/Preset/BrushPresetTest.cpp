@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: MIT
+// Capturing a canvas's brush and applying presets.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "Brushes/ImageData.h"
+#include "ESRender/ESImageRender.h"
+#include "LineProcess/LPProperties.h"
+#include "Preset/BrushParamValues.h"
+#include "Preset/QDBrushManager.h"
+#include "QDEAGLView/BrushProperties.h"
+#include "QDEAGLView/QDDrawCanvas.h"
+#include "support/CanvasTest.h"
+
+using namespace BrushRecords;
+
+namespace {
+
+QImage dotted(int side, int seed) {
+    QImage image = solidImage({side, side});
+    fillRect(image, QRect(1, 1 + seed, side / 2, 2), QColor(200, 100, 50, 128));
+    return image;
+}
+
+// A value of the property, different for every seed and within its range.
+QVariant someValue(const BrushProperty& row, int seed) {
+    const float part = 0.25f + 0.125f * static_cast<float>(seed);
+    const float low = row.low == -kFree ? -2.0f : row.low;
+    const float high = row.high == kFree ? std::max(low, 0.0f) + 3.0f : std::min(row.high, low + 60);
+    switch (row.type()) {
+        case BrushValueType::boolean:
+            return seed % 2 != 0;
+        case BrushValueType::integer:
+            return seed;
+        case BrushValueType::real:
+            return low + (high - low) * part;
+        case BrushValueType::control:
+            return QVariant::fromValue(LPControlParams{part, -part, part / 2});
+        case BrushValueType::color:
+            return QVariant::fromValue(ESColor::rgba(part, 0.5f, 1 - part, 0.75f));
+        case BrushValueType::image:
+            return dotted(8, seed);
+        case BrushValueType::images:
+            return QVariant::fromValue(QList<QImage>{dotted(16, seed), dotted(8, seed)});
+        case BrushValueType::text:
+            break;
+    }
+    return QString();
+}
+
+std::string shown(const QVariant& value) {
+    if (value.canConvert<LPControlParams>()) {
+        const auto c = value.value<LPControlParams>();
+        return std::to_string(c.pressure) + ", " + std::to_string(c.altitude) + ", " +
+               std::to_string(c.speed);
+    }
+    return value.toString().toStdString();
+}
+
+bool isSame(const QVariant& a, const QVariant& b) {
+    if (a.canConvert<QList<QImage>>() && !a.canConvert<QImage>()) {
+        return a.value<QList<QImage>>() == b.value<QList<QImage>>();
+    }
+    if (a.typeId() == qMetaTypeId<LPControlParams>()) {
+        return shown(a) == shown(b);
+    }
+    return a == b;
+}
+
+BrushParam record(std::uint32_t id, const QVariant& value) {
+    return QDBrushManager::paramWithID(static_cast<int>(id), QStringLiteral("set:"), value, kXBFFloat);
+}
+
+class BrushPresetTest : public CanvasTest {
+protected:
+    void SetUp() override {
+        CanvasTest::SetUp();
+        canvas = makeCanvas(60, 40);
+    }
+    void expectControl(const LPControlParams& control, float pressure, float altitude, float speed) {
+        EXPECT_EQ(shown(QVariant::fromValue(control)),
+                  shown(QVariant::fromValue(LPControlParams{pressure, altitude, speed})));
+    }
+    std::unique_ptr<QDDrawCanvas> canvas;
+};
+
+TEST_F(BrushPresetTest, CaptureAndApplyReproduceEveryProperty) {
+    for (int seed = 0; seed < 4; ++seed) {
+        for (const bool backward :
+             {false, true}) {  // setters act on others, so brushes come about in any order
+            SCOPED_TRACE("seed " + std::to_string(seed) + (backward ? ", set backward" : ""));
+            auto other = makeCanvas(60, 40);
+            std::vector<const BrushProperty*> rows;
+            for (const BrushProperty& row : brushProperties()) {
+                rows.push_back(&row);
+            }
+            if (backward) {
+                std::reverse(rows.begin(), rows.end());
+            }
+            for (const BrushProperty* row : rows) {
+                if (row->presetId != 0) {
+                    canvas->setBrushValue(*row, someValue(*row, seed));
+                }
+            }
+            if (canvas->slRadiusRelationType() == 0) {
+                canvas->setRepeatedlyRenderEnabled(false);  // a preset could not keep that pair
+            }
+            const auto params = QDBrushManager::paramsOfDrawView(canvas.get());
+            ASSERT_TRUE(params);
+            ASSERT_TRUE(other->resetWithParams(params, 200));
+            for (const BrushProperty& row : brushProperties()) {
+                if (row.presetId != 0 && (row.key != BrushKey::textureImages || canvas->textureType() == 0)) {
+                    EXPECT_TRUE(isSame(other->brushValue(row), canvas->brushValue(row)))
+                        << row.name << ": " << shown(other->brushValue(row)) << ", not "
+                        << shown(canvas->brushValue(row));
+                }
+            }
+            EXPECT_EQ(other->subLineParaObj().radius, canvas->subLineParaObj().radius);
+            EXPECT_EQ(QDBrushManager::paramsOfDrawView(other.get()), params);
+        }
+    }
+}
+
+TEST_F(BrushPresetTest, RecordsStandInCaptureOrderAndForm) {
+    canvas->setTextureType(0);
+    canvas->setTextureImages({dotted(8, 0), dotted(8, 1)});
+    canvas->setStartRadianEnable(true);
+    canvas->setFlipXTingle(true);
+    canvas->setRadiusControl({0.1f, 0.2f, 0.3f});
+    const BrushParams params = *QDBrushManager::paramsOfDrawView(canvas.get());
+    const int ids[] = {0x1001, 0x1002, 0x1003, 0x1006, 0x2002, 0x1007, 0x300C, 0x1008, 0x1009, 0x100A, 0x100B,
+                       0x100C, 0x200A, 0x200B, 0x200C, 0x2001, 0x2001, 0x2003, 0x2004, 0x800D, 0x800E, 0x800F,
+                       0x2007, 0x2008, 0x7004, 0x3008, 0x3007, 0x1005, 0x100D, 0x3006, 0x3016, 0x3009, 0x300A,
+                       0x300B, 0x3002, 0x3101, 0x3102, 0x3103, 0x4002, 0x4003, 0x4101, 0x4102, 0x4103, 0x4006,
+                       0x4007, 0x4201, 0x4202, 0x4203, 0x2005, 0x200D, 0x200E, 0x3014, 0x3015, 0x300D, 0x3201,
+                       0x3202, 0x3203, 0x2006, 0x3010, 0x3011, 0x3301, 0x3302, 0x3303, 0x6009, 0x600C, 0x6006,
+                       0x6101, 0x6102, 0x6103, 0x6008, 0x8002, 0x8101, 0x8102, 0x8103, 0x1004, 0x5002, 0x5101,
+                       0x5102, 0x5103, 0x5005, 0x5006, 0x5007, 0x400A, 0x400B, 0x400D, 0x400E, 0x400F, 0x4010,
+                       0x4011, 0x4012, 0x4013};
+    ASSERT_EQ(params.size(), static_cast<qsizetype>(std::size(ids)));
+    for (qsizetype i = 0; i < params.size(); ++i) {
+        EXPECT_EQ(key(params[i]), ids[i]) << "record " << i;
+    }
+    const auto find = [&](int id) {
+        return *std::find_if(params.begin(), params.end(),
+                             [&](const BrushParam& param) { return key(param) == id; });
+    };
+    const struct {
+        int id;
+        const char* method;
+        int type;
+        QVariant value;
+    } forms[] = {{0x1001, "setBrushType:", kXBFInt, 0},
+                 {0x2002, "setRadius:", kXBFFloat, 32.0f},
+                 {0x100B, "setSmudgeControl:", kXBFBool, true},
+                 {0x3014, "setFlipXTingle:", kXBFBool, true},
+                 {0x200D, "setStartRadianEnable:", kXBFBool, 1.0f},  // a number, though its type is boolean
+                 {0x200E, "setMoveRadianEnable:", kXBFBool, 0.0f},
+                 {0x3101, "setRadiusControl:", kXBFFloat, 0.3f},  // speed, pressure, altitude
+                 {0x3102, "setRadiusControl:", kXBFFloat, 0.1f},
+                 {0x3103, "setRadiusControl:", kXBFFloat, 0.2f},
+                 {0x1003, "setRenderColor:", kXBFColor, QVariant::fromValue(canvas->renderColor())},
+                 {0x2001, "setTextureImages:", kXBFData, UIImagePNGRepresentation(dotted(8, 0))},
+                 {0x800F, "setMaskImage:", kXBFData, QByteArray()}};
+    for (const auto& form : forms) {
+        const BrushParam param = find(form.id);
+        EXPECT_EQ(method(param), QLatin1String(form.method));
+        EXPECT_EQ(type(param), form.type) << form.method;
+        EXPECT_EQ(paramValue(param), form.value) << form.method;
+        EXPECT_EQ(paramValue(param).typeId(), form.value.typeId()) << form.method;
+    }
+
+    canvas->setTextureType(1);
+    canvas->setSlTextureImage({});
+    const BrushParams drawnTip = *QDBrushManager::paramsOfDrawView(canvas.get());
+    EXPECT_FALSE(paramValueForKey(drawnTip, 0x2001).isValid()) << "a drawn tip is drawn again";
+    EXPECT_FALSE(paramValueForKey(drawnTip, 0x400B).isValid());
+    EXPECT_FALSE(QDBrushManager::paramsOfDrawView(nullptr));
+}
+
+TEST_F(BrushPresetTest, APresetReplacesTheWholeBrush) {
+    canvas->setRadius(77);
+    canvas->setHueTingle(0.5f);
+    canvas->setMaxRadius(0.4f);
+    canvas->setRenderColor(ESColor::rgba(1, 0, 0));
+    EXPECT_FALSE(canvas->resetWithParams(std::nullopt, 200));
+    EXPECT_FALSE(QDBrushManager::resetDrawView(nullptr, BrushParams(), 200));
+    EXPECT_EQ(canvas->radius(), 77);
+    ASSERT_TRUE(canvas->resetWithParams(BrushParams(), 200));
+    EXPECT_EQ(canvas->radius(), 32);
+    EXPECT_EQ(canvas->hueTingle(), 0);
+    EXPECT_EQ(canvas->hardness(), 0.5f);
+    EXPECT_EQ(canvas->moistQuantity(), 0.5f);
+    EXPECT_EQ(canvas->minRoundness(), 0.01f);
+    EXPECT_EQ(canvas->slTextureImage().size(), QSize(128, 128)) << "the soft round";
+    EXPECT_EQ(canvas->textureType(), 0);
+    EXPECT_TRUE(canvas->textureImages().isEmpty());
+    EXPECT_EQ(canvas->maxRadius(), 0.4f) << "which no reset touches";
+    EXPECT_EQ(canvas->renderColor(), ESColor::rgba(1, 0, 0));
+}
+
+TEST_F(BrushPresetTest, RecordsApplyInOrderAndUnknownOnesAreSkipped) {
+    const BrushParams params{record(0x2002, 50.0f),
+                             record(0x7777, 1.0f),
+                             record(0x3103, 0.25f),
+                             record(0x3101, 0.5f),
+                             record(0x2002, 60.0f),          // the last one counts here
+                             record(0x200D, 0.5f),           // on, as a boolean
+                             record(0x1001, 2.9),            // whole numbers are cut
+                             record(0x1007, QString("x")),   // no number: 0
+                             record(0x3016, std::nanf("")),  // refused
+                             record(0x3001, true),
+                             record(0x3003, 11),  // of an older version
+                             record(0x9001, QString("void main() {}")),
+                             record(0x400A, true)};
+    canvas->setMaxRadius(0.5f);
+    ASSERT_TRUE(canvas->resetWithParams(params, 200));
+    EXPECT_EQ(canvas->radius(), 60);
+    expectControl(canvas->radiusControl(), 0, 0.25f, 0.5f);
+    EXPECT_TRUE(canvas->startRadianEnable());
+    EXPECT_EQ(canvas->brushType(), 2);
+    EXPECT_EQ(canvas->flow(), 0);
+    EXPECT_EQ(canvas->maxRadius(), 0.5f);
+    EXPECT_EQ(canvas->slRadiusRelationType(), 2) << "a second line follows the first";
+    EXPECT_EQ(canvas->relationValue(), 32.0f / 60.0f);
+
+    const QString erase = ESImageRender::eraseFSHString();
+    ASSERT_TRUE(canvas->resetWithParams(BrushParams{record(0x9006, erase)}, 200));
+    EXPECT_TRUE(canvas->blendFragmentShaderString().contains(QStringLiteral("void main")));
+}
+
+TEST_F(BrushPresetTest, GettersReadWithoutACanvas) {
+    const BrushParams none;
+    EXPECT_EQ(BrushParamValues(none).radius(), 0);
+    EXPECT_FALSE(BrushParamValues(none).flipX());
+    EXPECT_FALSE(BrushParamValues(none).renderColor().isValid());
+    EXPECT_TRUE(BrushParamValues(none).textureImages().isEmpty());
+    EXPECT_TRUE(BrushParamValues(none).maskImage().isNull());
+    const QByteArray tip = UIImagePNGRepresentation(dotted(8, 0));
+    const BrushParams params{record(0x2002, 12.0f), record(0x2002, 99.0f), record(0x2001, tip),
+                             record(0x2001, QByteArray("no picture")), record(0x2001, tip),
+                             // Half is on for plain booleans and off for those read as a number.
+                             record(0x2003, 0.5f), record(0x100B, 0.5f), record(0x200D, 0.5f),
+                             record(0x3014, 1.0f), record(0x3101, 3.0f), record(0x3102, 1.0f),
+                             record(0x3103, 2.0f), record(0x1001, 7.9f)};
+    const BrushParamValues values(params);
+    EXPECT_EQ(values.radius(), 12) << "the first counts";
+    EXPECT_EQ(values.textureImages().size(), 2);
+    EXPECT_TRUE(values.flipX());
+    EXPECT_FALSE(values.smudgeControl());
+    EXPECT_FALSE(values.startRadianEnable());
+    EXPECT_TRUE(values.flipXTingle());
+    EXPECT_EQ(values.brushType(), 7);
+    expectControl(values.radiusControl(), 1, 2, 3);
+}
+
+TEST_F(BrushPresetTest, VersionOneHundredIsMigrated) {
+    // Per code from 3 on: pressure, altitude, speed. The tables differ on purpose.
+    using Table = std::vector<std::array<float, 3>>;
+    const Table radius{{1, 0, 1},  {-1, 0, -1}, {0, 1, 1}, {0, 1, -1}, {1, 0, 0},
+                       {-1, 0, 0}, {0, 1, 0},   {0, 0, 0}, {1, 1, 1}};
+    const Table radian{{1, 0, 1},  {-1, 0, -1}, {0, 0, 0},  {0, 0, 0}, {0, 1, 1},
+                       {0, 1, -1}, {1, 0, 0},   {-1, 0, 0}, {0, 1, 0}, {0, 1, 0}};
+    const Table common{{1, 0, 1}, {-1, 0, -1}, {0, 1, 1}, {0, 1, -1},
+                       {1, 0, 0}, {-1, 0, 0},  {0, 1, 0}, {0, 1, 0}};
+    const struct {
+        std::uint32_t flag, code;
+        LPControlParams (QDDrawCanvas::*control)() const;
+        const Table& table;
+    } groups[] = {{0x3001, 0x3003, &QDDrawCanvas::radiusControl, radius},
+                  {0x3001, 0x300E, &QDDrawCanvas::radianControl, radian},
+                  {0x3001, 0x3012, &QDDrawCanvas::roundnessControl, common},
+                  {0x4001, 0x4004, &QDDrawCanvas::distributionControl, common},
+                  {0x4001, 0x4008, &QDDrawCanvas::distributionCountControl, common},
+                  {0x5001, 0x5003, &QDDrawCanvas::colorControl, common},
+                  {0x6001, 0x6007, &QDDrawCanvas::flowControl, common},
+                  {0x8001, 0x8005, &QDDrawCanvas::textureControl, common}};
+    for (const auto& group : groups) {
+        for (int code = 1; code <= 14; ++code) {
+            SCOPED_TRACE(std::to_string(group.code) + " with code " + std::to_string(code));
+            const std::size_t row = static_cast<std::size_t>(code) - 3;
+            const bool known = code >= 3 && row < group.table.size();
+            const std::array<float, 3> wanted = known ? group.table[row] : std::array<float, 3>{};
+            ASSERT_TRUE(canvas->resetWithParams(
+                BrushParams{record(group.code, code), record(group.flag, true)}, 100));
+            expectControl((canvas.get()->*group.control)(), wanted[0], wanted[1], wanted[2]);
+        }
+        ASSERT_TRUE(canvas->resetWithParams(
+            BrushParams{record(group.code, 3), record(group.flag, false), record(0x3101, 1.0f)}, 100));
+        expectControl((canvas.get()->*group.control)(), 0, 0, 0);  // present triples are overridden, too
+    }
+    canvas->setMaxRadius(0.3f);
+    canvas->setMaxFlow(0.3f);
+    ASSERT_TRUE(canvas->resetWithParams(BrushParams(), 100));
+    EXPECT_EQ(canvas->maxRadius(), 1);
+    EXPECT_EQ(canvas->maxFlow(), 1);
+    ASSERT_TRUE(canvas->resetWithParams(BrushParams{record(0x3001, true), record(0x3003, 11)}, 200));
+    expectControl(canvas->radiusControl(), 0, 0, 0);
+}
+
+}  // namespace
