@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BrushPlan.h"
 
+#include <QDir>
 #include <algorithm>
 
 namespace dabcanvas::dabpaint {
@@ -20,12 +21,38 @@ bool impliesStoredTips(const std::vector<BrushPlan::Step>& steps) {
 
 }  // namespace
 
+void BrushPlan::seen(const Brush& brush) {
+    if (!isFixed(BrushKey::radius))
+        _largestRadius = std::max(_largestRadius, brush.radius());
+}
+
 void BrushPlan::seen(const Step& step) {
     if (step.property->key == BrushKey::radius && step.value)
         _largestRadius = std::max(_largestRadius, double(step.value->toFloat()));
 }
 
-QString BrushPlan::fix(const std::vector<PaintOptions::Assignment>& settings) {
+void BrushPlan::begin(std::shared_ptr<const Brush> brush) {
+    _brush = std::move(brush);
+    if (!isFixed(BrushKey::radius))
+        _largestRadius = _brush->radius();
+}
+
+std::optional<Problem> BrushPlan::addBrush(const BrushReference& reference, const QString& folder,
+                                           Change& change) {
+    const QString path = QDir(folder).filePath(reference.path);
+    auto& known = _brushFiles[path];
+    if (!known) {
+        const auto brush = readBrush(path);
+        if (!brush)
+            return Problem{reference.line, reference.element, brush.problem().text(path)};
+        known = *brush;
+    }
+    seen(*known);
+    change.brush = known;
+    return std::nullopt;
+}
+
+QString BrushPlan::fix(const std::vector<Assignment>& settings) {
     for (const auto& [name, text] : settings) {
         const BrushProperty* property = brushPropertyNamed(name);
         if (!property)
@@ -48,9 +75,17 @@ QString BrushPlan::fix(const std::vector<PaintOptions::Assignment>& settings) {
 }
 
 std::optional<Problem> BrushPlan::add(const Recording& recording, const QString& folder) {
-    auto& steps = _steps.emplace_back(recording.strokes.size());
-    auto& touched = _touchedBy.emplace_back();
+    auto& changes = _changes.emplace_back(recording.strokes.size());
+    if (recording.brush && !changes.empty()) {
+        if (const auto problem = addBrush(*recording.brush, folder, changes[0]))
+            return problem;
+    }
     for (std::size_t i = 0; i < recording.strokes.size(); ++i) {
+        auto& steps = changes[i].steps;
+        if (const auto& brush = recording.strokes[i].brush) {
+            if (const auto problem = addBrush(*brush, folder, changes[i]))
+                return problem;
+        }
         for (const Setting& setting : recording.strokes[i].settings) {
             const BrushProperty* property = brushPropertyNamed(setting.name);
             if (!property)
@@ -65,28 +100,16 @@ std::optional<Problem> BrushPlan::add(const Recording& recording, const QString&
             if (_fixedProperties.contains(property))
                 continue;
             seen(step);
-            touched.insert(property);
             _touched.insert(property);
-            steps[i].push_back(std::move(step));
+            steps.push_back(std::move(step));
         }
         const BrushProperty* type = &brushProperty(BrushKey::textureType);
-        if (impliesStoredTips(steps[i]) && !_fixedProperties.contains(type)) {
-            touched.insert(type);
+        if (impliesStoredTips(steps) && !isFixed(BrushKey::textureType)) {
             _touched.insert(type);
-            steps[i].insert(steps[i].begin(), {type, QVariant(0)});
+            steps.insert(steps.begin(), {type, QVariant(0)});
         }
     }
     return std::nullopt;
-}
-
-std::vector<BrushPlan::Step> BrushPlan::undo(std::size_t recording) const {
-    std::set<const BrushProperty*> properties;
-    for (std::size_t i = 0; i < recording; ++i)
-        properties.insert(_touchedBy[i].begin(), _touchedBy[i].end());
-    std::vector<Step> steps;
-    for (const BrushProperty* property : properties)
-        steps.push_back({property, std::nullopt});
-    return steps;
 }
 
 }  // namespace dabcanvas::dabpaint

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which brush properties are set before which stroke, checked before anything is painted.
+// Which brush and which of its properties are set before which stroke, checked before anything is painted.
 #pragma once
 
 #include <QVariant>
@@ -8,7 +8,8 @@
 #include <set>
 #include <vector>
 
-#include "PaintCommand.h"
+#include "Assignment.h"
+#include "BrushFile.h"
 #include "PropertyValue.h"
 #include "Recording.h"
 
@@ -20,17 +21,23 @@ public:
         const BrushProperty* property;
         std::optional<QVariant> value;  // none: back to what it was before any recording
     };
+    struct Change {
+        std::shared_ptr<const Brush> brush;  // first; none for the brush as it is. The fixed steps follow it
+        std::vector<Step> steps;
+    };
 
+    // The command line's preset, before anything else, which recordings' brushes and settings change.
+    void begin(std::shared_ptr<const Brush> brush);
     // The command line's settings, which hold for all strokes; the message when one is wrong.
-    QString fix(const std::vector<PaintOptions::Assignment>& settings);
-    // Plans the next recording; the first faulty setting otherwise. Image paths are relative to `folder`.
+    QString fix(const std::vector<Assignment>& settings);
+    // Plans the next recording; the first faulty setting or brush otherwise. Paths are relative to `folder`.
     std::optional<Problem> add(const Recording& recording, const QString& folder);
 
+    // What every recording starts with.
+    const std::shared_ptr<const Brush>& brush() const { return _brush; }
     const std::vector<Step>& fixed() const { return _fixed; }
-    // Before the first stroke of a recording: undoes what earlier ones have set.
-    std::vector<Step> undo(std::size_t recording) const;
-    const std::vector<Step>& before(std::size_t recording, std::size_t stroke) const {
-        return _steps[recording][stroke];
+    const Change& before(std::size_t recording, std::size_t stroke) const {
+        return _changes[recording][stroke];
     }
     // Every property that a recording sets.
     const std::set<const BrushProperty*>& touched() const { return _touched; }
@@ -38,12 +45,16 @@ public:
 
 private:
     void seen(const Step& step);
+    void seen(const Brush& brush);
+    std::optional<Problem> addBrush(const BrushReference& reference, const QString& folder, Change& change);
+    bool isFixed(BrushKey key) const { return _fixedProperties.contains(&brushProperty(key)); }
 
+    std::shared_ptr<const Brush> _brush;
+    std::map<QString, std::shared_ptr<const Brush>> _brushFiles;  // by path; many strokes may name one
     std::vector<Step> _fixed;
     std::set<const BrushProperty*> _fixedProperties;
     std::set<const BrushProperty*> _touched;
-    std::vector<std::set<const BrushProperty*>> _touchedBy;
-    std::vector<std::vector<std::vector<Step>>> _steps;  // by recording, by stroke
+    std::vector<std::vector<Change>> _changes;  // by recording, by stroke
     double _largestRadius = brushDefault(brushProperty(BrushKey::radius)).toFloat();
 };
 

@@ -93,7 +93,7 @@ QString takeSize(const QString& text, QSize& size) {
     return refusal.isEmpty() ? refusal : QStringLiteral("--size: ") + refusal;
 }
 
-QString takeSetting(const QString& text, std::vector<PaintOptions::Assignment>& settings) {
+QString takeSetting(const QString& text, std::vector<Assignment>& settings) {
     const auto equals = text.indexOf(QLatin1Char('='));
     if (equals <= 0)
         return QStringLiteral("--set is PROPERTY=VALUE, such as radius=12, not \"%1\"").arg(text);
@@ -109,17 +109,33 @@ QString takeColor(const QString& text, std::optional<QColor>& color) {
                        .arg(text);
 }
 
+Option outputOption(QString& output) {
+    return {"--output", "-o", true, [&output](const QString& value) {
+                output = value;
+                return value.isEmpty() ? QStringLiteral("the output's name is empty") : QString();
+            }};
+}
+
+Option settingOption(std::vector<Assignment>& settings) {
+    return {"--set", nullptr, true,
+            [&settings](const QString& value) { return takeSetting(value, settings); }};
+}
+
+Option brushOption(QString& brush) {
+    return {"--brush", nullptr, true, [&brush](const QString& value) {
+                brush = value;
+                return value.isEmpty() ? QStringLiteral("the brush's name is empty") : QString();
+            }};
+}
+
 CommandLine readPaint(const QStringList& arguments) {
     PaintOptions paint;
     bool help = false;
     const std::vector<Option> options = {
-        {"--output", "-o", true,
-         [&](const QString& value) {
-             paint.output = value;
-             return value.isEmpty() ? QStringLiteral("the output's name is empty") : QString();
-         }},
+        outputOption(paint.output),
         {"--size", nullptr, true, [&](const QString& value) { return takeSize(value, paint.size); }},
-        {"--set", nullptr, true, [&](const QString& value) { return takeSetting(value, paint.settings); }},
+        brushOption(paint.brush),
+        settingOption(paint.settings),
         {"--background", nullptr, true,
          [&](const QString& value) { return takeColor(value, paint.background); }},
         flag("--repeatable", paint.repeatable),
@@ -175,6 +191,73 @@ CommandLine readProperties(const QStringList& arguments) {
     return properties;
 }
 
+// The commands below preset differ in their options; files and the output are asked for alike.
+CommandLine readPreset(const QStringList& arguments) {
+    PresetShowOptions show;
+    PresetMakeOptions make;
+    PresetPreviewOptions preview;
+    bool help = false, named = false;
+    QStringList files;
+    QString output;
+    const QStringList commands{QStringLiteral("show"), QStringLiteral("make"), QStringLiteral("preview")};
+    const QString command = arguments.value(0);
+    const auto which = commands.indexOf(command);
+    std::vector<Option> options = {helpFlag(help)};
+    if (which == 0) {
+        options.push_back(flag("--json", show.json));
+    } else if (which == 1) {
+        options.insert(options.end(), {outputOption(output),
+                                       brushOption(make.brush),
+                                       settingOption(make.settings),
+                                       {"--name", nullptr, true, [&](const QString& value) {
+                                            make.name = value;
+                                            named = true;
+                                            return QString();
+                                        }}});
+    } else if (which == 2) {
+        options.insert(
+            options.end(),
+            {outputOption(output),
+             settingOption(preview.settings),
+             flag("--sheet", preview.sheet),
+             {"--size", nullptr, true, [&](const QString& value) { return takeSize(value, preview.size); }}});
+    }
+    const QString wrong =
+        walkArguments(which < 0 ? arguments : arguments.mid(1), options, [&](const QString& file) {
+            files << file;
+            return QString();
+        });
+    if (help)
+        return HelpOptions{QStringLiteral("preset")};
+    if (which < 0)
+        return UsageFault{command.isEmpty() ? QStringLiteral("preset needs a command: show, make or preview")
+                                            : QStringLiteral("there is no command \"preset %1\"%2")
+                                                  .arg(command, closeNamesHint(command, commands))};
+    if (!wrong.isEmpty())
+        return UsageFault{wrong};
+    const auto needs = [&](const char* what) {
+        return UsageFault{
+            QStringLiteral("preset %1 needs %2; see dabpaint help preset").arg(command, QLatin1String(what))};
+    };
+    if (which == 1 && !files.isEmpty())
+        return UsageFault{QStringLiteral("preset make takes no \"%1\"").arg(files.first())};
+    if (which != 1 && files.isEmpty())
+        return needs("an XBF file");
+    if (which != 0 && output.isEmpty())
+        return needs(which == 1 ? "-o FILE.xbf" : "-o OUT.png");
+    if (which == 1 && !named)
+        return needs("--name NAME");
+    if (which == 1 && output == QLatin1String("-"))
+        return UsageFault{QStringLiteral("a preset is written to a file, not to standard output")};
+    show.files = preview.files = files;
+    make.output = preview.output = output;
+    if (which == 0)
+        return show;
+    if (which == 1)
+        return make;
+    return preview;
+}
+
 CommandLine readHelp(const QStringList& arguments) {
     HelpOptions help;
     bool again = false;
@@ -206,11 +289,13 @@ int print(const QByteArray& text) {
 
 CommandLine readCommandLine(const QStringList& arguments) {
     if (arguments.isEmpty())
-        return UsageFault{QStringLiteral("a command is missing: paint, dabs, properties or help")};
+        return UsageFault{QStringLiteral("a command is missing: paint, preset, dabs, properties or help")};
     const QString& command = arguments.first();
     const QStringList rest = arguments.mid(1);
     if (command == QLatin1String("paint"))
         return readPaint(rest);
+    if (command == QLatin1String("preset"))
+        return readPreset(rest);
     if (command == QLatin1String("dabs"))
         return readDabs(rest);
     if (command == QLatin1String("properties"))
@@ -228,6 +313,9 @@ int runDabpaint(const QStringList& arguments) {
     return std::visit(Overloaded{
                           [](const PaintOptions& options) { return runPaint(options); },
                           [](const DabsOptions& options) { return runDabs(options); },
+                          [](const PresetShowOptions& options) { return runPresetShow(options); },
+                          [](const PresetMakeOptions& options) { return runPresetMake(options); },
+                          [](const PresetPreviewOptions& options) { return runPresetPreview(options); },
                           [](const PropertiesOptions& options) { return runProperties(options.json); },
                           [](const HelpOptions& options) { return print(usageText(options.topic)); },
                           [](const VersionOptions&) { return print(versionText()); },

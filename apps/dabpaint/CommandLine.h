@@ -8,6 +8,7 @@
 
 #include "DabsCommand.h"
 #include "PaintCommand.h"
+#include "PresetCommand.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -26,7 +27,8 @@ struct UsageFault {
 };
 
 using CommandLine =
-    std::variant<PaintOptions, DabsOptions, PropertiesOptions, HelpOptions, VersionOptions, UsageFault>;
+    std::variant<PaintOptions, DabsOptions, PropertiesOptions, PresetShowOptions, PresetMakeOptions,
+                 PresetPreviewOptions, HelpOptions, VersionOptions, UsageFault>;
 
 // Reads the arguments after the program's name. Touches no file.
 CommandLine readCommandLine(const QStringList& arguments);

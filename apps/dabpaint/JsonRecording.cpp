@@ -15,7 +15,8 @@ namespace {
 
 // What a list of strokes may hold.
 struct StrokeForm {
-    bool painting;  // positions and shares are checked; else any float is taken as it is, and "end" is known
+    // Positions and shares are checked, and "brush" is known; else any float is taken as it is, and "end" is known.
+    bool painting;
     float missingAltitude;
 };
 
@@ -141,12 +142,17 @@ bool readSamples(JsonReader& reader, std::vector<RecordedSample>& samples, const
     return !reader.failed();
 }
 
+bool readBrushReference(JsonReader& reader, std::optional<BrushReference>& brush) {
+    brush = BrushReference{{}, reader.line(), reader.path()};
+    if (reader.readText(brush->path) && brush->path.isEmpty())
+        return reader.fail(QStringLiteral("expected the path of an XBF file"));
+    return !reader.failed();
+}
+
 bool readStroke(JsonReader& reader, RecordedStroke& stroke, const StrokeForm& form) {
-    enum { set, samples, end };
-    QStringList known{QStringLiteral("set"), QStringLiteral("samples")};
-    if (!form.painting)
-        known << QStringLiteral("end");
-    Members members(reader, known);
+    enum { set, samples, brush, end = brush };
+    Members members(reader, {QStringLiteral("set"), QStringLiteral("samples"),
+                             form.painting ? QStringLiteral("brush") : QStringLiteral("end")});
     QString name;
     reader.beginObject();
     while (reader.nextMember(name)) {
@@ -160,7 +166,10 @@ bool readStroke(JsonReader& reader, RecordedStroke& stroke, const StrokeForm& fo
                     reader.fail(QStringLiteral("a stroke needs at least one sample"));
                 break;
             case end:
-                reader.readBoolean(stroke.end);
+                if (form.painting)
+                    readBrushReference(reader, stroke.brush);
+                else
+                    reader.readBoolean(stroke.end);
                 break;
             default:
                 return false;
@@ -236,21 +245,22 @@ bool readSeed(JsonReader& reader, std::optional<std::uint32_t>& seed) {
     return true;
 }
 
-// Walks the outermost object; `first` names the member besides "strokes", which `readFirst` reads.
-template <typename ReadFirst>
-bool readTop(JsonReader& reader, const QString& first, ReadFirst readFirst,
+// Walks the outermost object; `others` are its members besides "strokes", which `readOther` reads by their place.
+template <typename ReadOther>
+bool readTop(JsonReader& reader, const QStringList& others, ReadOther readOther,
              std::vector<RecordedStroke>& strokes, const StrokeForm& form) {
-    Members members(reader, {first, QStringLiteral("strokes")});
+    const int last = int(others.size());
+    Members members(reader, others + QStringList(QStringLiteral("strokes")));
     QString name;
     reader.beginObject();
     while (reader.nextMember(name)) {
         const int place = members.place(name);
-        if (place < 0 || !(place == 0 ? readFirst() : readStrokes(reader, strokes, form)))
+        if (place < 0 || !(place == last ? readStrokes(reader, strokes, form) : readOther(place)))
             return false;
     }
     if (reader.failed())
         return false;
-    if (!members.has(1))
+    if (!members.has(last))
         return reader.fail(QStringLiteral("there is no \"strokes\""));
     return reader.finish();
 }
@@ -260,7 +270,10 @@ bool readTop(JsonReader& reader, const QString& first, ReadFirst readFirst,
 Result<Recording> readJsonRecording(const QByteArray& bytes) {
     JsonReader reader(bytes);
     Recording recording;
-    const bool read = readTop(reader, QStringLiteral("canvas"), [&] { return readCanvas(reader, recording); },
+    const auto readOther = [&](int place) {
+        return place == 0 ? readCanvas(reader, recording) : readBrushReference(reader, recording.brush);
+    };
+    const bool read = readTop(reader, {QStringLiteral("canvas"), QStringLiteral("brush")}, readOther,
                               recording.strokes, {.painting = true, .missingAltitude = -1});
     if (!read)
         return reader.problem();
@@ -270,8 +283,9 @@ Result<Recording> readJsonRecording(const QByteArray& bytes) {
 Result<DabsInput> readDabsInput(const QByteArray& bytes) {
     JsonReader reader(bytes);
     DabsInput input;
-    const bool read = readTop(reader, QStringLiteral("srand"), [&] { return readSeed(reader, input.seed); },
-                              input.strokes, {.painting = false, .missingAltitude = 0});
+    const bool read =
+        readTop(reader, {QStringLiteral("srand")}, [&](int) { return readSeed(reader, input.seed); },
+                input.strokes, {.painting = false, .missingAltitude = 0});
     if (!read)
         return reader.problem();
     return input;

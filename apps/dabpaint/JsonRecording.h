@@ -11,7 +11,9 @@
 namespace dabcanvas::dabpaint {
 
 // {"canvas": {"width": W, "height": H, "background": "#rrggbbaa"},
-//  "strokes": [{"set": {property: value, ...}, "samples": [[x, y, pressure, altitude], ...]}, ...]}
+//  "brush": "pencil.xbf",
+//  "strokes": [{"brush": "ink.xbf", "set": {property: value, ...},
+//               "samples": [[x, y, pressure, altitude], ...]}, ...]}
 // Everything but "strokes" and "samples" may be left out, pressure and altitude too. Pressure and altitude
 // are 0..1 or -1. Members that are not known, and members given twice, are refused.
 Result<Recording> readJsonRecording(const QByteArray& bytes);

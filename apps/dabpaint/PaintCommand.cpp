@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PaintCommand.h"
 
-#include <QBuffer>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QImageWriter>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 
 #ifdef Q_OS_UNIX
@@ -19,36 +16,14 @@
 #include "BrushPlan.h"
 #include "Console.h"
 #include "ESContext/ESCurrentScope.h"
-#include "LineProcess/LPRandom.h"
 #include "PictureFile.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 #include "Recording.h"
+#include "ToolCanvas.h"
 
 namespace dabcanvas::dabpaint {
 
 namespace {
-
-// Keeps what the libraries log while it lives: a failure has one line of its own, which may quote it.
-class LogCatcher {
-public:
-    LogCatcher() : _before(qInstallMessageHandler(&LogCatcher::take)) { lines().clear(); }
-    ~LogCatcher() { qInstallMessageHandler(_before); }
-    LogCatcher(const LogCatcher&) = delete;
-    LogCatcher& operator=(const LogCatcher&) = delete;
-
-    static QStringList& lines() {
-        static QStringList lines;
-        return lines;
-    }
-
-private:
-    static void take(QtMsgType, const QMessageLogContext&, const QString& text) {
-        if (lines().size() < 20)
-            lines() << text.trimmed();
-    }
-
-    QtMessageHandler _before;
-};
 
 // A share on standard error while somebody watches and the work takes long.
 class Progress {
@@ -164,11 +139,7 @@ public:
 
     // The message when it could not be done.
     QString run(Painting& painting) {
-        QString wrong = makeCanvas();
-        if (wrong.isEmpty())
-            wrong = apply(_job.plan.fixed());
-        for (const BrushProperty* property : _job.plan.touched())
-            _base.insert_or_assign(property, _canvas ? _canvas->brushValue(*property) : QVariant());
+        QString wrong = begin();
         if (wrong.isEmpty())
             wrong = paintAll();
         if (!wrong.isEmpty())
@@ -178,29 +149,39 @@ public:
     }
 
 private:
-    QString makeCanvas() {
-        const LogCatcher log;
-        _canvas = QDDrawCanvas::initWithFrame(QRectF(QPointF(), QSizeF(_job.size)));
-        if (!_canvas) {
-            QString wrong =
-                QStringLiteral(
-                    "cannot make a canvas of %1x%2; it needs an OpenGL 3.2 driver, such as Mesa's, "
-                    "that takes this size")
-                    .arg(_job.size.width())
-                    .arg(_job.size.height());
-            if (!log.lines().isEmpty())
-                wrong += QStringLiteral(" (%1)").arg(log.lines().first());
-            return wrong;
-        }
-        if (_options.repeatable) {
-            _canvas->setRepeatableRandom(true);
-            lpRandom();  // its first call seeds from the clock; after that the seed given here stays
-            std::srand(1);
-            ::srand48(1);
-        }
+    QString begin() {
+        auto canvas = makeCanvas(_job.size);
+        if (!canvas)
+            return canvas.problem().what;
+        _canvas = std::move(*canvas);
+        if (_options.repeatable)
+            makeRepeatable(*_canvas);
         _canvas->setProfiling(_options.stats);
         _canvas->clearWithColor(ESColor(_job.background), false);
-        return {};
+        for (const BrushProperty& property : brushProperties())
+            _created.emplace_back(&property, _canvas->brushValue(property));
+        const QString wrong = _job.plan.brush() ? useBrush(_job.plan.brush()) : apply(_job.plan.fixed());
+        for (const BrushProperty* property : _job.plan.touched())
+            _base.insert_or_assign(property, _canvas->brushValue(*property));
+        return wrong;
+    }
+
+    // Makes a preset the brush, or the one of a new canvas, with the command line's settings.
+    QString useBrush(const std::shared_ptr<const Brush>& brush) {
+        if (brush)
+            brush->applyTo(*_canvas);
+        else if (!useCreatedBrush())
+            return QStringLiteral("the canvas does not take its first brush again");
+        return apply(_job.plan.fixed());
+    }
+
+    bool useCreatedBrush() {
+        for (const auto& [property, value] : _created) {
+            // A drawn tip is no image to hand in: that would stay when the radius changes.
+            if (property->key != BrushKey::textureImages && !_canvas->setBrushValue(*property, value))
+                return false;
+        }
+        return true;
     }
 
     QString apply(const std::vector<BrushPlan::Step>& steps) {
@@ -216,12 +197,17 @@ private:
         const ESCurrentScope current(_canvas->esContext());  // nobody else draws meanwhile
         Progress progress(_job.samples);
         for (std::size_t i = 0; i < _job.recordings.size(); ++i) {
-            QString wrong = apply(_job.plan.undo(i));
+            // Every recording starts afresh.
+            QString wrong = i > 0 ? useBrush(_job.plan.brush()) : QString();
             const auto& strokes = _job.recordings[i].strokes;
             for (std::size_t j = 0; j < strokes.size() && wrong.isEmpty(); ++j) {
-                wrong = apply(_job.plan.before(i, j));
+                const BrushPlan::Change& change = _job.plan.before(i, j);
+                if (change.brush)
+                    wrong = useBrush(change.brush);
                 if (wrong.isEmpty())
-                    paintStroke(strokes[j].samples, progress);
+                    wrong = apply(change.steps);
+                if (wrong.isEmpty())
+                    paintSamples(*_canvas, strokes[j].samples, [&progress] { progress.advance(); });
             }
             if (!wrong.isEmpty())
                 return wrong;
@@ -229,34 +215,12 @@ private:
         return {};
     }
 
-    // Nobody watches the canvas, so nothing is shown on the way ("online" is off).
-    void paintStroke(const std::vector<RecordedSample>& samples, Progress& progress) {
-        for (std::size_t i = 0; i < samples.size(); ++i) {
-            const RecordedSample& sample = samples[i];
-            const QPointF point(sample.x, sample.y);
-            if (i == 0)
-                _canvas->drawingWithBeginPoint(point, sample.pressure, sample.altitude, false);
-            else if (i + 1 < samples.size())
-                _canvas->drawingWithMoveToPoint(point, sample.pressure, sample.altitude, false);
-            if (i + 1 == samples.size())
-                _canvas->drawingWithEndPoint(point, sample.pressure, sample.altitude, false);
-            progress.advance();
-        }
-    }
-
     const PaintOptions& _options;
     const Job& _job;
     std::unique_ptr<QDDrawCanvas> _canvas;
+    std::vector<std::pair<const BrushProperty*, QVariant>> _created;  // the brush of a new canvas
     std::map<const BrushProperty*, QVariant> _base;  // what recordings' settings are undone to
 };
-
-QString encode(const QImage& image, QByteArray& bytes) {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "png");
-    return writer.write(image) ? QString()
-                               : QStringLiteral("cannot encode the picture: %1").arg(writer.errorString());
-}
 
 qint64 peakMemory() {
 #ifdef Q_OS_UNIX
@@ -303,6 +267,12 @@ int runPaint(const PaintOptions& options) {
     PictureFile output(options.output);
     if (!output.check())
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, output.errorString()));
+    if (!options.brush.isEmpty()) {
+        auto brush = readBrush(options.brush);
+        if (!brush)
+            return fail(brush.problem().text(options.brush));
+        job.plan.begin(std::move(*brush));
+    }
     for (const auto step : {&readRecordings, &chooseSize, &chooseBackground}) {
         wrong = step(options, job);
         if (!wrong.isEmpty())
@@ -316,7 +286,7 @@ int runPaint(const PaintOptions& options) {
     QElapsedTimer encodingClock;
     encodingClock.start();
     QByteArray bytes;
-    wrong = encode(painting.image, bytes);
+    wrong = encodePng(painting.image, bytes);
     const double encoding = double(encodingClock.nsecsElapsed()) * 1e-9;
     if (!wrong.isEmpty())
         return fail(wrong);

@@ -9,17 +9,15 @@
 #include <optional>
 #include <vector>
 
+#include "Assignment.h"
+
 namespace dabcanvas::dabpaint {
 
 struct PaintOptions {
-    struct Assignment {
-        QString property;
-        QString value;
-    };
-
     QStringList recordings;
     QString output;  // "-" for standard output
     QSize size;      // invalid: as large as the recordings need
+    QString brush;   // an XBF file; empty for the default brush
     std::vector<Assignment> settings;
     std::optional<QColor> background;
     bool repeatable = false;

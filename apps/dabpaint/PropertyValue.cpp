@@ -144,12 +144,6 @@ SettingValue valueOfText(BrushValueType type, const QString& text) {
     }
 }
 
-QString colorText(const QColor& color) {
-    return color.alpha() == 255
-               ? color.name()
-               : color.name() + QStringLiteral("%1").arg(color.alpha(), 2, 16, QLatin1Char('0'));
-}
-
 }  // namespace
 
 std::optional<QColor> colorFromText(const QString& text) {
@@ -168,6 +162,12 @@ std::optional<QColor> colorFromText(const QString& text) {
         return i < written.size() ? written.mid(i, 2).toInt(nullptr, 16) : 255;
     };
     return QColor(part(1), part(3), part(5), part(7));
+}
+
+QString colorText(const QColor& color) {
+    return color.alpha() == 255
+               ? color.name()
+               : color.name() + QStringLiteral("%1").arg(color.alpha(), 2, 16, QLatin1Char('0'));
 }
 
 QString expectedValue(const BrushProperty& property) {

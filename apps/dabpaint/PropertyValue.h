@@ -17,6 +17,9 @@ std::optional<QColor> colorFromText(const QString& text);
 // "a number from 0 to 1", as messages and listings say it.
 QString expectedValue(const BrushProperty& property);
 
+// "#rrggbb", or "#rrggbbaa" of a colour that is not opaque.
+QString colorText(const QColor& color);
+
 // The property's default as a value one could write; empty where it cannot be written.
 QString defaultText(const BrushProperty& property);
 

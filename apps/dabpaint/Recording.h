@@ -7,6 +7,7 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -33,7 +34,16 @@ struct Setting {
     QString element;  // the same inside a structured file
 };
 
+// A brush preset that a recording names.
+struct BrushReference {
+    QString path;  // relative to the recording
+    int line = 0;  // where it is named, for messages
+    QString element;
+};
+
 struct RecordedStroke {
+    std::optional<BrushReference>
+        brush;                      // takes the place of brush and settings before it, from this stroke on
     std::vector<Setting> settings;  // apply from this stroke on
     std::vector<RecordedSample> samples;
     bool end = true;  // the last sample lifts the pen
@@ -43,6 +53,7 @@ struct Recording {
     QSize size;          // invalid when not given
     QString background;  // a colour as written; empty when not given
     int backgroundLine = 0;
+    std::optional<BrushReference> brush;  // before the first stroke
     std::vector<RecordedStroke> strokes;
 };
 

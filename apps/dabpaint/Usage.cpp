@@ -10,6 +10,7 @@ constexpr const char* kTool = R"(NAME
 
 SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [OPTION]...
+    dabpaint preset show | make | preview ...
     dabpaint dabs INPUT.json [--header]
     dabpaint properties [--json]
     dabpaint help [COMMAND]
@@ -17,6 +18,7 @@ SYNOPSIS
 
 DESCRIPTION
     paint       paints recordings of pen strokes onto a canvas and writes it as PNG
+    preset      shows, makes and previews brush presets
     dabs        runs samples through the line process alone and prints its dabs
     properties  lists the brush properties that paint --set and recordings take
     help        prints the help of a command, as does --help after its name
@@ -38,8 +40,9 @@ constexpr const char* kPaint = R"(NAME
     dabpaint paint - paint recorded strokes and write the picture
 
 SYNOPSIS
-    dabpaint paint RECORDING... -o OUT.png [--size WxH] [--set PROPERTY=VALUE]...
-                   [--background COLOUR] [--repeatable] [--stats]
+    dabpaint paint RECORDING... -o OUT.png [--size WxH] [--brush FILE.xbf]
+                   [--set PROPERTY=VALUE]... [--background COLOUR]
+                   [--repeatable] [--stats]
 
 DESCRIPTION
     Paints the strokes of every RECORDING, in order, onto one canvas and writes
@@ -55,6 +58,12 @@ OPTIONS
         Without it the canvas is as large as the recordings need: the size that
         a JSON recording names, else up to the rightmost and lowest sample and
         the largest brush radius beyond it; of several recordings the largest.
+
+    --brush FILE.xbf
+        Paints with the last brush of a preset file, its colour too, instead of
+        the default brush. What recordings set changes it, a brush that they
+        name takes its place, and --set holds whatever either says. A damaged
+        file is refused.
 
     --set PROPERTY=VALUE
         Sets a brush property; dabpaint properties lists them. It holds for all
@@ -87,12 +96,15 @@ RECORDINGS
 
     JSON
         {"canvas": {"width": 640, "height": 480, "background": "#ffffff"},
-         "strokes": [{"set": {"radius": 12, "renderColor": "#203040",
+         "brush": "pencil.xbf",
+         "strokes": [{"brush": "ink-pen.xbf",
+                      "set": {"radius": 12, "renderColor": "#203040",
                               "radiusControl": [1, 0, 0]},
                       "samples": [[10, 20, 0.5, 0], [12, 24]]}]}
-        canvas, set, pressure and altitude may be left out. What set says holds
-        from that stroke to the end of the recording. Image paths are relative
-        to the recording.
+        canvas, brush, set, pressure and altitude may be left out. What set says
+        holds from that stroke to the end of the recording. A brush is a preset
+        file; it takes the place of the brush and all settings before it, and
+        the stroke's own set comes after it. Paths are relative to the recording.
 
     InkML
         Traces with their contexts, formats, brushes and groups, penUp traces
@@ -118,7 +130,68 @@ EXIT STATUS
 
 EXAMPLES
     dabpaint paint session.dat -o session.png --set radius=24 --set radiusControl=1,0,0
+    dabpaint paint session.dat -o chalk.png --brush charcoal.xbf --set renderColor=#402010
     dabpaint paint a.json b.inkml -o both.png --size 1024x768 --repeatable --stats
+)";
+
+constexpr const char* kPreset = R"(NAME
+    dabpaint preset - show, make and preview brush presets
+
+SYNOPSIS
+    dabpaint preset show FILE.xbf... [--json]
+    dabpaint preset make -o FILE.xbf --name NAME [--brush FILE.xbf]
+                    [--set PROPERTY=VALUE]...
+    dabpaint preset preview FILE.xbf... -o OUT.png [--sheet] [--size WxH]
+                    [--set PROPERTY=VALUE]...
+
+DESCRIPTION
+    A preset is an XBF file: a name and a record for every brush property that
+    is kept, with its tip and paper images.
+
+    show        prints name and version of each brush and its records: the
+                property and its value, or the id of one that is not known. Of a
+                damaged file, what can be read; then it fails.
+    make        writes a preset of the default brush, or of another preset's,
+                with the given settings. Making and previewing need OpenGL 3.2.
+    preview     paints a stroke of each file's last brush on white, pressure and
+                speed rising and falling; stripes lie under a brush that smudges,
+                erases or shades. Several pictures need a folder or --sheet.
+                What cannot be read is told and left out, and it fails at the end.
+
+OPTIONS
+    --json
+        Prints a JSON list instead, one object a file: file, problem (null for
+        none), version, and brushes with name and records. A record has id,
+        property and part of a control (null for none), method, type and value.
+
+    -o FILE, --output FILE
+        The preset to write; or the picture, as JPEG where the name ends in .jpg,
+        else as PNG; or an existing folder, which gets a NAME.png for NAME.xbf.
+
+    --name NAME
+        What the brush is called.
+
+    --brush FILE.xbf
+        The preset to start with.
+
+    --set PROPERTY=VALUE
+        Sets a brush property, as in dabpaint help paint: textureImages=a.png,b.png
+        gives a brush two tips.
+
+    --sheet
+        Puts all previews, with their names, onto one picture.
+
+    --size WxH
+        Size of one preview in pixels, else 480x180. A brush that is too large
+        for it is made smaller.
+
+EXIT STATUS
+    0 done, 1 the work failed, 2 the command line is wrong.
+
+EXAMPLES
+    dabpaint preset make -o chalk.xbf --name Chalk --set radius=40 --set needMaskTexture=yes --set maskImage=paper.png
+    dabpaint preset preview chalk.xbf -o chalk.png
+    dabpaint preset preview *.xbf -o brushes.jpg --sheet --size 360x140
 )";
 
 constexpr const char* kDabs = R"(NAME
@@ -187,7 +260,7 @@ constexpr const char* kHelp = R"(NAME
     dabpaint help - print the help of a command
 
 SYNOPSIS
-    dabpaint help [paint | dabs | properties]
+    dabpaint help [paint | preset | dabs | properties]
 
 DESCRIPTION
     Without a command, prints the help of the tool.
@@ -202,7 +275,8 @@ EXAMPLES
 constexpr struct {
     const char* topic;
     const char* text;
-} kTopics[] = {{"paint", kPaint}, {"dabs", kDabs}, {"properties", kProperties}, {"help", kHelp}};
+} kTopics[] = {
+    {"paint", kPaint}, {"preset", kPreset}, {"dabs", kDabs}, {"properties", kProperties}, {"help", kHelp}};
 
 }  // namespace
 

@@ -32,6 +32,20 @@ TEST(CommandLineTest, PaintTakesItsOptionsInAnyOrder) {
     EXPECT_TRUE(paint->repeatable && paint->stats);
 }
 
+TEST(CommandLineTest, PresetCommandsTakeTheirOwnOptions) {
+    const auto made = readWords("preset make --set radius=5 --name= -o a.xbf --brush b.xbf");
+    const auto* make = std::get_if<PresetMakeOptions>(&made);
+    ASSERT_NE(make, nullptr);
+    EXPECT_EQ(make->output + make->name + make->brush, QStringLiteral("a.xbfb.xbf"));
+    EXPECT_EQ(make->settings.size(), 1u);
+    const auto previewed = readWords("preset preview a.xbf --sheet b.xbf --size 40x30 -o sheet.png");
+    const auto* preview = std::get_if<PresetPreviewOptions>(&previewed);
+    ASSERT_NE(preview, nullptr);
+    EXPECT_EQ(preview->files.size(), 2);
+    EXPECT_EQ(preview->size, QSize(40, 30));
+    EXPECT_TRUE(preview->sheet);
+}
+
 TEST(CommandLineTest, HelpOfEveryCommand) {
     for (const QString& name : commandNames()) {
         for (const char* form : {"help %1", "%1 --help", "%1 -h"}) {
@@ -80,6 +94,17 @@ const BadLine kBadLines[] = {
     {"paint a.dat -o b.png --set radius", "PROPERTY=VALUE"},
     {"paint a.dat -o b.png --set =3", "PROPERTY=VALUE"},
     {"paint a.dat -o b.png --background #12", "--background is"},
+    {"paint a.dat -o b.png --brush=", "brush's name is empty"},
+    {"preset", "show, make or preview"},
+    {"preset shw a.xbf", "\"preset shw\"; did you mean show"},
+    {"preset show", "needs an XBF file"},
+    {"preset show a.xbf --name b", "unknown option --name"},
+    {"preset make -o a.xbf", "needs --name"},
+    {"preset make --name a", "needs -o FILE.xbf"},
+    {"preset make --name a -o -", "not to standard output"},
+    {"preset make b.xbf -o a.xbf --name a", "takes no \"b.xbf\""},
+    {"preset preview a.xbf", "needs -o OUT.png"},
+    {"preset preview -o a.png", "needs an XBF file"},
     {"dabs", "needs an input"},
     {"dabs a.json b.json", "one input"},
     {"dabs a.json --heder", "did you mean --header"},

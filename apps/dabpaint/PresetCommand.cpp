@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "PresetCommand.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include "BrushPlan.h"
+#include "Console.h"
+#include "LogCatcher.h"
+#include "PictureFile.h"
+#include "Preset/QDBrushManager.h"
+#include "PresetText.h"
+#include "ToolCanvas.h"
+
+namespace dabcanvas::dabpaint {
+
+int runPresetShow(const PresetShowOptions& options) {
+    int status = kDone;
+    QJsonArray all;
+    for (const QString& path : options.files) {
+        auto contents = readBrushFile(path);
+        if (!contents)
+            contents = BrushFileContents{0, {}, contents.problem().what};
+        else if (!options.json)
+            printOut(presetAsText(path, *contents).toStdString());
+        all.append(presetAsJson(path, *contents));
+        if (!contents->problem.isEmpty()) {
+            flushOut();  // what could be read comes first where both go to one place
+            status = fail(Problem{0, {}, contents->problem}.text(path));
+        }
+    }
+    if (options.json)
+        printOut(QJsonDocument(all).toJson().toStdString());
+    const int printed = finishOut();
+    return printed == kDone ? status : printed;
+}
+
+int runPresetMake(const PresetMakeOptions& options) {
+    BrushPlan plan;
+    QString wrong = plan.fix(options.settings);
+    if (!wrong.isEmpty())
+        return refuse(wrong);
+    std::shared_ptr<const Brush> start;
+    if (!options.brush.isEmpty()) {
+        const auto brush = readBrush(options.brush);
+        if (!brush)
+            return fail(brush.problem().text(options.brush));
+        start = *brush;
+    }
+    if (PictureFile output(options.output); !output.check())
+        return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, output.errorString()));
+    const auto canvas = makeCanvas(QSize(1, 1));  // which clamps and keeps the values; nothing is painted
+    if (!canvas)
+        return fail(canvas.problem().what);
+    if (start)
+        start->applyTo(**canvas);
+    for (const auto& [property, value] : plan.fixed()) {
+        if (property->presetId == 0)
+            return refuse(
+                QStringLiteral("--set: a preset does not keep %1").arg(QLatin1String(property->name)));
+        if (!(*canvas)->setBrushValue(*property, *value))
+            return fail(QStringLiteral("the canvas does not take this value of %1")
+                            .arg(QLatin1String(property->name)));
+    }
+    const LogCatcher log;  // the message below says it
+    if (!QDBrushManager::saveParamsWithDrawView(canvas->get(), options.name, options.output, &wrong))
+        return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
+    return kDone;
+}
+
+}  // namespace dabcanvas::dabpaint

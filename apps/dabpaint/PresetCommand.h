@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// Brush presets: what they hold, new ones from settings, and pictures of them.
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "Assignment.h"
+
+namespace dabcanvas::dabpaint {
+
+struct PresetShowOptions {
+    QStringList files;
+    bool json = false;
+};
+
+struct PresetMakeOptions {
+    QString output;
+    QString name;
+    QString brush;  // the preset to start with; empty for the default brush
+    std::vector<Assignment> settings;
+};
+
+struct PresetPreviewOptions {
+    QStringList files;
+    QString output;  // a picture, or a folder for one of each file
+    QSize size;      // of one preview; invalid: 480 x 180
+    bool sheet = false;
+    std::vector<Assignment> settings;
+};
+
+int runPresetShow(const PresetShowOptions& options);
+int runPresetMake(const PresetMakeOptions& options);
+int runPresetPreview(const PresetPreviewOptions& options);
+
+}  // namespace dabcanvas::dabpaint

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "PresetText.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QJsonArray>
+#include <cmath>
+
+#include "Numbers.h"
+#include "Preset/ParamNumbers.h"
+#include "PropertyValue.h"
+#include "QDEAGLView/BrushProperties.h"
+
+namespace dabcanvas::dabpaint {
+
+namespace {
+
+constexpr int kNameWidth = 30;
+constexpr int kMostText = 60;  // characters of a text in a listing
+
+constexpr struct {
+    int code;
+    const char* name;
+} kTypes[] = {{kXBFBool, "boolean"},  {kXBFInt, "integer"},  {kXBFFloat, "float"},
+              {kXBFDouble, "double"}, {kXBFColor, "colour"}, {kXBFCharacter, "character"},
+              {kXBFText, "text"},     {kXBFData, "data"}};
+
+QString typeName(int code) {
+    for (const auto& row : kTypes) {
+        if (row.code == code)
+            return QLatin1String(row.name);
+    }
+    return QStringLiteral("type %1").arg(code);
+}
+
+// A record, with the property that takes its value.
+struct Record {
+    explicit Record(const BrushParam& param)
+        : id(std::uint32_t(BrushRecords::key(param))),
+          type(BrushRecords::type(param)),
+          value(BrushRecords::paramValue(param)),
+          property(brushPropertyOfPresetId(id, &part)) {}
+
+    QString propertyName() const { return property ? QLatin1String(property->name) : QString(); }
+    QString partName() const {
+        const char* const names[] = {"speed", "pressure", "altitude"};
+        return part >= 0 && part < 3 ? QLatin1String(names[part]) : QString();
+    }
+    // Presets store some switches as numbers.
+    bool isSwitch() const {
+        return type == kXBFBool || (property && property->type() == BrushValueType::boolean);
+    }
+
+    std::uint32_t id;
+    int type;
+    QVariant value;
+    int part = -1;
+    const BrushProperty* property;
+};
+
+QSize imageSize(const QByteArray& data) {
+    QBuffer buffer;
+    buffer.setData(data);
+    buffer.open(QIODevice::ReadOnly);
+    return QImageReader(&buffer).size();
+}
+
+QString dataText(const QByteArray& data) {
+    if (data.isEmpty())
+        return QStringLiteral("none");
+    const QSize size = imageSize(data);
+    const QString bytes = QStringLiteral("%1 bytes").arg(data.size());
+    return size.isEmpty() ? bytes
+                          : QStringLiteral("%1x%2, %3").arg(size.width()).arg(size.height()).arg(bytes);
+}
+
+QString quoted(const QString& text) {
+    QString shown;
+    for (const QChar c : text.left(kMostText))
+        shown += c.isPrint() ? c : QLatin1Char(' ');  // one line, whatever it holds
+    shown = QLatin1Char('"') + shown + QLatin1Char('"');
+    return text.size() <= kMostText ? shown : shown + QStringLiteral("... (%1 characters)").arg(text.size());
+}
+
+QString valueText(const Record& record) {
+    if (record.isSwitch())
+        return booleanOf(record.value) ? QStringLiteral("yes") : QStringLiteral("no");
+    switch (record.type) {
+        case kXBFInt:
+            return QString::number(record.value.toInt());
+        case kXBFFloat:
+            return shortestText(record.value.toFloat());
+        case kXBFDouble:
+            return QString::number(record.value.toDouble(), 'g', QLocale::FloatingPointShortest);
+        case kXBFColor:
+            return colorText(record.value.value<ESColor>().toQColor());
+        case kXBFCharacter:
+        case kXBFText:
+            return quoted(record.value.toString());
+        case kXBFData:
+            return dataText(record.value.toByteArray());
+        default:
+            return QStringLiteral("no value");
+    }
+}
+
+QJsonValue numberJson(double value) {
+    return std::isfinite(value) ? QJsonValue(value) : QJsonValue();
+}
+
+QJsonValue valueJson(const Record& record) {
+    if (record.isSwitch())
+        return booleanOf(record.value);
+    switch (record.type) {
+        case kXBFInt:
+            return record.value.toInt();
+        case kXBFFloat:
+            return numberJson(shortestText(record.value.toFloat()).toDouble());
+        case kXBFDouble:
+            return numberJson(record.value.toDouble());
+        case kXBFColor:
+            return valueText(record);
+        case kXBFCharacter:
+        case kXBFText:
+            return record.value.toString();
+        case kXBFData: {
+            const QByteArray data = record.value.toByteArray();
+            QJsonObject image{{QStringLiteral("bytes"), data.size()}};
+            if (const QSize size = imageSize(data); !size.isEmpty()) {
+                image.insert(QStringLiteral("width"), size.width());
+                image.insert(QStringLiteral("height"), size.height());
+            }
+            return image;
+        }
+        default:
+            return {};
+    }
+}
+
+QString recordName(const Record& record) {
+    if (!record.property)
+        return QStringLiteral("unknown id 0x%1").arg(record.id, 4, 16, QLatin1Char('0'));
+    const QString part = record.partName();
+    return part.isEmpty() ? record.propertyName() : record.propertyName() + QStringLiteral(", ") + part;
+}
+
+}  // namespace
+
+QByteArray presetAsText(const QString& file, const BrushFileContents& contents) {
+    QString text;
+    if (contents.brushes.isEmpty())
+        text = QStringLiteral("%1: no brush, version %2\n").arg(file).arg(contents.version);
+    for (const QVariantMap& brush : contents.brushes) {
+        text += QStringLiteral("%1: %2, version %3\n")
+                    .arg(file, quoted(BrushRecords::brushName(brush)))
+                    .arg(contents.version);
+        for (const BrushParam& param : BrushRecords::brushParams(brush)) {
+            const Record record(param);
+            text += QStringLiteral("  ") + recordName(record).leftJustified(kNameWidth) + valueText(record);
+            if (!record.property)
+                text += QStringLiteral(" (%1, %2)")
+                            .arg(typeName(record.type), quoted(BrushRecords::method(param)));
+            text += QLatin1Char('\n');
+        }
+    }
+    return text.toUtf8();
+}
+
+QJsonObject presetAsJson(const QString& file, const BrushFileContents& contents) {
+    QJsonArray brushes;
+    for (const QVariantMap& brush : contents.brushes) {
+        QJsonArray records;
+        for (const BrushParam& param : BrushRecords::brushParams(brush)) {
+            const Record record(param);
+            const auto orNull = [](const QString& text) { return text.isEmpty() ? QJsonValue() : text; };
+            records.append(QJsonObject{{QStringLiteral("id"), qint64(record.id)},
+                                       {QStringLiteral("property"), orNull(record.propertyName())},
+                                       {QStringLiteral("part"), orNull(record.partName())},
+                                       {QStringLiteral("method"), BrushRecords::method(param)},
+                                       {QStringLiteral("type"), typeName(record.type)},
+                                       {QStringLiteral("value"), valueJson(record)}});
+        }
+        brushes.append(QJsonObject{{QStringLiteral("name"), BrushRecords::brushName(brush)},
+                                   {QStringLiteral("records"), records}});
+    }
+    return {{QStringLiteral("file"), file},
+            {QStringLiteral("problem"), contents.problem.isEmpty() ? QJsonValue() : contents.problem},
+            {QStringLiteral("version"), contents.version},
+            {QStringLiteral("brushes"), brushes}};
+}
+
+}  // namespace dabcanvas::dabpaint

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "ToolCanvas.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+#include <cstdlib>
+
+#include "LineProcess/LPRandom.h"
+#include "LogCatcher.h"
+
+namespace dabcanvas::dabpaint {
+
+Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size) {
+    const LogCatcher log;
+    auto canvas = QDDrawCanvas::initWithFrame(QRectF(QPointF(), QSizeF(size)));
+    if (canvas)
+        return canvas;
+    QString wrong = QStringLiteral(
+                        "cannot make a canvas of %1x%2; it needs an OpenGL 3.2 driver, such as Mesa's, "
+                        "that takes this size")
+                        .arg(size.width())
+                        .arg(size.height());
+    if (!log.lines().isEmpty())
+        wrong += QStringLiteral(" (%1)").arg(log.lines().first());
+    return Problem{0, {}, wrong};
+}
+
+void makeRepeatable(QDDrawCanvas& canvas) {
+    canvas.setRepeatableRandom(true);
+    lpRandom();  // its first call seeds from the clock; after that the seed given here stays
+    std::srand(1);
+    ::srand48(1);
+}
+
+QString encodePng(const QImage& image, QByteArray& bytes) {
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "png");
+    return writer.write(image) ? QString()
+                               : QStringLiteral("cannot encode the picture: %1").arg(writer.errorString());
+}
+
+}  // namespace dabcanvas::dabpaint

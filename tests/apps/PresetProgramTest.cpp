@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+// Brush presets from the command line: made, shown, painted with, and refused. Needs OpenGL.
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <cmath>
+#include <map>
+
+#include "apps/Program.h"
+
+namespace dabcanvas::dabpaint {
+namespace {
+
+class PresetProgramTest : public ProgramTest {
+protected:
+    void SetUp() override {
+        const Ended made = make("red.xbf", {"radius=24", "minRadius=1", "hardness=1", "renderColor=#ff0000"});
+        const bool required = qEnvironmentVariableIsSet("DABCANVAS_REQUIRE_GL");
+        if (!required && made.err.contains("OpenGL"))
+            GTEST_SKIP() << "no OpenGL here";
+        ASSERT_EQ(made.status, 0) << made.err.constData();
+        QFile whole(path("red.xbf"));
+        ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+        write("cut.xbf", whole.readAll().left(400));
+        write("text.xbf", "hello");
+    }
+    Ended make(const char* name, const QStringList& settings) {
+        QStringList words{QStringLiteral("preset"), QStringLiteral("make"), QStringLiteral("-o"), path(name),
+                          QStringLiteral("--name"), QLatin1String(name)};
+        for (const QString& setting : settings)
+            words << QStringLiteral("--set") << setting;
+        return runProgram(words);
+    }
+    Ended make(const char* name, std::initializer_list<const char*> settings) {
+        QStringList texts;
+        for (const char* setting : settings)
+            texts << QString::fromUtf8(setting);
+        return make(name, texts);
+    }
+    Ended preset(const char* words, const QStringList& files) {
+        return runProgram((QStringLiteral("preset ") + QLatin1String(words)).split(QLatin1Char(' ')) + files);
+    }
+    // The colour amid a stroke of this recording.
+    QColor painted(const QByteArray& recording, const QStringList& options = {}) {
+        const Ended ended =
+            runProgram(QStringList{QStringLiteral("paint"), write("r.json", recording), QStringLiteral("-o"),
+                                   path("out.png"), QStringLiteral("--size"), QStringLiteral("100x60")} +
+                       options);
+        EXPECT_EQ(ended.status, 0) << ended.err.constData();
+        return QImage(path("out.png")).pixelColor(50, 30);
+    }
+};
+
+const QByteArray kLine = R"("samples": [[20, 30, 1, 0], [40, 30, 1, 0], [60, 30, 1, 0], [80, 30, 1, 0]])";
+
+TEST_F(PresetProgramTest, ShowsWhatWasMade) {
+    QImage tip(12, 10, QImage::Format_ARGB32);
+    tip.fill(Qt::black);
+    ASSERT_TRUE(tip.save(path("tip.png")));
+    const Ended made =
+        make("b.xbf", QStringList{QStringLiteral("textureImages=%1,%1").arg(path("tip.png")),
+                                  QStringLiteral("maskImage=") + path("tip.png"),
+                                  QStringLiteral("radius=7.5"), QStringLiteral("radiusControl=0.5,0.25,-1"),
+                                  QStringLiteral("moveRadianEnable=yes")});
+    ASSERT_EQ(made.status, 0) << made.err.constData();
+    const Ended text = preset("show", {path("b.xbf")});
+    EXPECT_THAT(text.out.toStdString(), ::testing::HasSubstr("b.xbf: \"b.xbf\", version 200\n"));
+    const auto file =
+        QJsonDocument::fromJson(preset("show --json", {path("b.xbf")}).out).array().at(0).toObject();
+    EXPECT_TRUE(file[QStringLiteral("problem")].isNull());
+    std::multimap<QString, QJsonValue> values;
+    const auto brush = file[QStringLiteral("brushes")].toArray().at(0).toObject();
+    for (const auto& record : brush[QStringLiteral("records")].toArray())
+        values.emplace(
+            record[QStringLiteral("property")].toString() + record[QStringLiteral("part")].toString(),
+            record[QStringLiteral("value")]);
+    const QJsonValue image = values.find(QStringLiteral("textureImages"))->second;
+    EXPECT_EQ(values.count(QStringLiteral("textureImages")), 2u);
+    EXPECT_EQ(image[QStringLiteral("width")].toInt(), 12);
+    EXPECT_EQ(values.find(QStringLiteral("maskImage"))->second, image);
+    const struct {
+        const char* name;
+        QJsonValue value;
+    } kExpected[] = {{"radius", 7.5},
+                     {"radiusControlpressure", 0.5},
+                     {"radiusControlaltitude", 0.25},
+                     {"radiusControlspeed", -1},
+                     {"moveRadianEnable", true},
+                     {"textureType", 0}};
+    for (const auto& [name, value] : kExpected)
+        EXPECT_EQ(values.find(QLatin1String(name))->second, value) << name;
+}
+
+TEST_F(PresetProgramTest, ShowTellsWhatCouldBeReadAndThenTheDamage) {
+    const Ended ended = preset("show", {path("cut.xbf"), path("text.xbf"), path("red.xbf"), _folder.path()});
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.out.count("renderColor                   #ff0000"), 2);
+    EXPECT_EQ(ended.err.count('\n'), 3) << ended.err.constData();
+    EXPECT_THAT(ended.err.toStdString(), ::testing::ContainsRegex("cut.xbf: record [0-9]+ of brush 1 of 1"));
+    EXPECT_THAT(ended.err.toStdString(), ::testing::HasSubstr("text.xbf: this is not an XBF file"));
+}
+
+TEST_F(PresetProgramTest, WhatIsNotWholeIsRefused) {
+    // A record's image that is none: the first byte of the PNG is another.
+    QImage tip(12, 10, QImage::Format_ARGB32);
+    ASSERT_TRUE(tip.save(path("tip.png")));
+    ASSERT_EQ(make("t.xbf", QStringList(QStringLiteral("maskImage=") + path("tip.png"))).status, 0);
+    QFile file(path("t.xbf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    write("image.xbf", file.readAll().replace("PNG", "GNP"));
+    const std::pair<const char*, const char*> kBad[] = {
+        {"cut.xbf", "cut.xbf: the brush file is damaged: record"},
+        {"text.xbf", "text.xbf: this is not an XBF file"},
+        {"image.xbf", "damaged: maskImage is not an image"},
+        {"none.xbf", "none.xbf: cannot be read"}};
+    const QString recording = write("r.json", R"({"strokes": [{)" + kLine + "}]}");
+    const auto before = filesThere();
+    for (const auto& [name, message] : kBad) {
+        SCOPED_TRACE(name);
+        expectOneLine(runProgram({QStringLiteral("paint"), recording, QStringLiteral("-o"), path("out.png"),
+                                  QStringLiteral("--brush"), path(name)}),
+                      1, message);
+        expectOneLine(preset("preview -o", {path("out.png"), path(name)}), 1, message);
+        const QString named = write(
+            "named.json", "{\n\"brush\": \"" + QByteArray(name) + "\", \"strokes\": [{" + kLine + "}]}");
+        expectOneLine(runProgram({QStringLiteral("paint"), named, QStringLiteral("-o"), path("out.png")}), 1,
+                      "named.json:2: brush: ");
+        ASSERT_TRUE(QFile::remove(named));
+    }
+    expectOneLine(make("none/a.xbf", {}), 1, "none/a.xbf: cannot be written");
+    expectOneLine(make("a.xbf", {"gaussianRadius=3"}), 2, "does not keep gaussianRadius");
+    EXPECT_EQ(filesThere(), before);
+}
+
+TEST_F(PresetProgramTest, BrushThenRecordingThenSettings) {
+    ASSERT_EQ(make("blue.xbf", {"radius=24", "minRadius=1", "hardness=1", "renderColor=#0000ff"}).status, 0);
+    const QStringList red{QStringLiteral("--brush"), path("red.xbf")};
+    const QStringList green{QStringLiteral("--set"), QStringLiteral("renderColor=#00ff00")};
+    const auto recording = [](const QByteArray& whole, const QByteArray& stroke) {
+        return "{" + whole + "\"strokes\": [{\"samples\": [[0, 0]]}, {" + stroke + kLine + "}]}";
+    };
+    const QByteArray brush = R"("brush": "blue.xbf", )", set = R"("set": {"renderColor": "#ffff00"}, )";
+    EXPECT_EQ(painted(recording({}, {}), red), QColor(Qt::red));
+    EXPECT_EQ(painted(recording({}, set), red), QColor(Qt::yellow));
+    EXPECT_EQ(painted(recording(brush, {}), red), QColor(Qt::blue));
+    EXPECT_EQ(painted(recording({}, brush), red), QColor(Qt::blue));
+    EXPECT_EQ(painted(recording({}, set + brush)), QColor(Qt::yellow));
+    EXPECT_EQ(painted(recording(brush, set), red + green), QColor(Qt::green));
+    // The next recording starts with what the command line says.
+    const QString plain = write("plain.json", recording({}, {}));
+    EXPECT_EQ(painted(recording(brush, {}), red + QStringList(plain)), QColor(Qt::red));
+    EXPECT_EQ(painted(recording(brush, {}),
+                      {write("grey.json",
+                             R"({"strokes": [{"set": {"minRadius": 1, "hardness": 1}, )" + kLine + "}]}")}),
+              QColor(Qt::black));
+}
+
+TEST_F(PresetProgramTest, PreviewsGoIntoAFolderOrOntoASheet) {
+    ASSERT_TRUE(QDir(_folder.path()).mkdir(QStringLiteral("out")));
+    ASSERT_EQ(make("smudge.xbf", {"brushType=3", "radius=60"}).status, 0);
+    const QStringList files{path("red.xbf"), path("cut.xbf"), path("smudge.xbf")};
+    EXPECT_EQ(preset("preview --size 240x90 -o", QStringList(path("out")) + files).status, 1);
+    const QImage red(path("out/red.png")), smudge(path("out/smudge.png"));
+    ASSERT_EQ(red.size(), QSize(240, 90));
+    EXPECT_EQ(red.pixelColor(120, 45), QColor(Qt::red));
+    EXPECT_EQ(red.pixelColor(5, 85), QColor(Qt::white));
+    EXPECT_GT(smudge.pixelColor(5, 85).saturation(), 50);
+    EXPECT_EQ(preset("preview --sheet --size 240x90 -o", QStringList(path("s.jpg")) + files).status, 1);
+    const QImage sheet(path("s.jpg"));
+    EXPECT_GT(sheet.width(), 240);
+    EXPECT_GT(sheet.height(), 2 * 90);
+    expectOneLine(preset("preview -o", QStringList(path("p.png")) + files), 1, "need a folder");
+    expectOneLine(preset("preview -o", {path("out"), path("red.xbf"), path("out/../red.xbf")}), 1,
+                  "two previews");
+}
+
+}  // namespace
+}  // namespace dabcanvas::dabpaint
