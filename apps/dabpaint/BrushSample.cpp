@@ -23,41 +23,43 @@ constexpr int kLabel = 26, kLabelText = 15, kGap = 8;
 
 using std::numbers::pi;
 
-// Stripes of the hues; with gaps of nothing between them where a brush can only be seen beside paint.
-QImage stripes(const QSize& size, bool gaps) {
+// Stripes of the hues, every one or one in so many of those, on white or on nothing.
+QImage stripes(const QSize& size, int every, const QColor& between = Qt::white) {
     QImage image(size, QImage::Format_RGBA8888_Premultiplied);
-    image.fill(gaps ? Qt::transparent : Qt::white);
+    image.fill(between);
     const int width = std::max(1, size.height() / 5);
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
             const int stripe = (x + y / 2) / width;
-            if (!gaps || stripe % 2 == 0)
+            if (stripe % every == 0)
                 image.setPixelColor(x, y, QColor::fromHsv(stripe * 47 % 360, 140, 232));
         }
     }
     return image;
 }
 
-void prepareGround(QDDrawCanvas& canvas, const QSize& size) {
-    const auto lay = [&](bool gaps) {
-        canvas.setImageInBufferRect(stripes(size, gaps), QRectF(QPointF(), QSizeF(size)));
-    };
-    canvas.clearWithColor(ESColor::grey(1), false);
+QImage ground(const QDDrawCanvas& canvas, const QSize& size) {
     if (canvas.isSmudgeType())
-        return lay(false);
+        return stripes(size, 1);
     switch (canvas.blendType()) {
-        case ESBlendTypeBehind:
-            canvas.clear();
-            return lay(true);
         case ESBlendTypeErase:
         case ESBlendTypeTarnish:
         case ESBlendTypeBrightness:
-        case ESBlendTypeMultiply:
         case ESBlendTypeReset:
-            return lay(false);
+            return stripes(size, 1);
+        case ESBlendTypeMultiply:
+            return stripes(size, 5);
+        case ESBlendTypeBehind:
+            return stripes(size, 2, Qt::transparent);
         default:
-            return;
+            return {};
     }
+}
+
+void prepareGround(QDDrawCanvas& canvas, const QSize& size) {
+    canvas.clearWithColor(ESColor::grey(1), false);
+    if (const QImage image = ground(canvas, size); !image.isNull())
+        canvas.setImageInBufferRect(image, QRectF(QPointF(), QSizeF(size)));
 }
 
 void fitBrush(QDDrawCanvas& canvas, double height) {
@@ -76,9 +78,11 @@ std::vector<RecordedSample> wave(const QSize& size) {
     std::vector<RecordedSample> samples;
     for (int i = 0; i <= last; ++i) {
         const double time = double(i) / last;
-        const double share = time - 0.75 * std::sin(time * 2 * pi) / (2 * pi);
+        const double share = time - 0.6 * std::sin(time * 2 * pi) / (2 * pi);
+        // The pen lifts a little before the end, as pressure arrives with a lag.
+        const double pressure = std::sin(std::min(time * 1.06, 1.0) * pi);
         samples.push_back({margin + share * (width - 2 * margin),
-                           height * (0.5 - 0.2 * std::sin(share * 2 * pi)), float(std::sin(time * pi)), -1});
+                           height * (0.5 - 0.2 * std::sin(share * 2 * pi)), float(pressure), -1});
     }
     return samples;
 }
@@ -90,10 +94,9 @@ std::vector<RecordedSample> outline(const QSize& size) {
     std::vector<RecordedSample> samples;
     for (int i = 0; i <= last; ++i) {
         const double turn = double(i) / last * 2 * pi;
-        const double across = std::sin(turn) * std::sqrt(std::abs(std::sin(turn)));
-        samples.push_back(
-            {width * (0.5 - 0.4 * std::cos(turn)),
-             height * (0.5 - (0.3 + 0.06 * std::cos(turn)) * across + 0.03 * std::sin(turn * 9)), 0.7f, -1});
+        const double across = std::sin(turn) * std::abs(std::sin(turn));
+        samples.push_back({width * (0.5 - 0.4 * std::cos(turn)),
+                           height * (0.5 - 0.1 * std::cos(turn) - 0.34 * across), 0.7f, -1});
     }
     return samples;
 }
@@ -140,8 +143,8 @@ QImage sampleSheet(const std::vector<NamedSample>& samples) {
     const QSize one = samples.front().image.size();
     const int width = one.width() + kGap, height = one.height() + kLabel + kGap;
     const int all = int(samples.size());
-    // About four to three.
-    const int columns = std::clamp(int(std::lround(std::sqrt(4.0 / 3.0 * all * height / width))), 1, all);
+    // About sixteen to nine.
+    const int columns = std::clamp(int(std::lround(std::sqrt(16.0 / 9.0 * all * height / width))), 1, all);
     const int rows = (all + columns - 1) / columns;
     QImage sheet(columns * width + kGap, rows * height + kGap, QImage::Format_RGB32);
     sheet.fill(QColor(0xe4, 0xe4, 0xe2));

@@ -1,0 +1,269 @@
+# SPDX-License-Identifier: MIT
+"""Draws the tips and papers of the brushes that make_brushes.py makes.
+
+Tips are pixels whose alpha is the shape; papers are opaque greys that repeat, white where paint gets through. Both come
+as PNG bytes, the same every time.
+"""
+
+import math
+import struct
+import zlib
+
+from make_tips import Random, smoothstep
+
+LEVELS = 24  # of alpha or grey: enough for the eye, and small files
+
+
+def seeded(seed):
+    rng = Random(seed * 2654435761 % 2**32 or 1)
+    for _ in range(8):
+        rng.unit()  # small seeds start small
+    return rng
+
+
+def clamp(value, low=0.0, high=1.0):
+    return min(max(value, low), high)
+
+
+def png(width, height, pixel, channels=4):
+    """An image of pixel(x, y): a tuple of `channels` numbers from 0 to 1."""
+    rows = bytearray()
+    for y in range(height):
+        rows.append(0)
+        for x in range(width):
+            values = [round(clamp(value) * LEVELS) * 255 // LEVELS for value in pixel(x, y)]
+            if channels == 4 and values[3] == 0:
+                values = [0, 0, 0, 0]  # what is not there has no colour to store
+            rows.extend(values)
+
+    def chunk(kind, data):
+        body = kind + data
+        return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+
+    header = struct.pack(">IIBBBBB", width, height, 8, 6 if channels == 4 else 2, 0, 0, 0)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(bytes(rows), 9))
+            + chunk(b"IEND", b""))
+
+
+def tip(side, alpha, color=lambda x, y: (0.0, 0.0, 0.0)):
+    """A square tip; alpha and color take places from -1 to 1, x to the right and y down."""
+    def place(i):
+        return (2 * i + 1) / side - 1.0
+
+    def pixel(i, j):
+        x, y = place(i), place(j)
+        a = alpha(x, y)
+        return (*color(x, y), a) if a > 0 else (0.0, 0.0, 0.0, 0.0)
+    return png(side, side, pixel)
+
+
+class Noise:
+    """Smooth noise from 0 to 1 that repeats after `period` cells."""
+
+    def __init__(self, rng, period):
+        self.period = period
+        self.values = [rng.unit() for _ in range(period * period)]
+
+    def at(self, x, y):
+        column, row = math.floor(x), math.floor(y)
+        across, down = smoothstep(0, 1, x - column), smoothstep(0, 1, y - row)
+
+        def value(i, j):
+            return self.values[j % self.period * self.period + i % self.period]
+        upper = value(column, row) * (1 - across) + value(column + 1, row) * across
+        lower = value(column, row + 1) * (1 - across) + value(column + 1, row + 1) * across
+        return upper * (1 - down) + lower * down
+
+
+# ---- Papers
+
+def paper(side, cells, low, high, seed, stretch=1.0):
+    """Grain of several sizes, `cells` across the tile each; where it lies below `low` no paint holds, above `high` all."""
+    rng = seeded(seed)
+    layers = [(count, Noise(rng, count), 1.0 / (1 + place * 0.6)) for place, count in enumerate(cells)]
+    weight = sum(share for _, _, share in layers)
+
+    def pixel(i, j):
+        value = sum(share * noise.at(i * count / side, j * count * stretch / side)
+                    for count, noise, share in layers) / weight
+        return (smoothstep(low, high, value),) * 3
+    return png(side, side, pixel, 3)
+
+
+def canvas_weave(side, threads, seed):
+    """Woven threads, over and under."""
+    rng = seeded(seed)
+    noise = Noise(rng, 32)
+
+    def pixel(i, j):
+        u, v = i * threads / side, j * threads / side
+        over = (math.floor(u) + math.floor(v)) % 2 == 0
+        along, across = (u % 1, v % 1) if over else (v % 1, u % 1)
+        bulge = math.sin(math.pi * along) ** 0.7 * math.sin(math.pi * across) ** 0.5
+        grain = noise.at(i * 32 / side, j * 32 / side)
+        return (clamp(0.15 + 1.1 * bulge * (0.6 + 0.6 * grain)),) * 3
+    return png(side, side, pixel, 3)
+
+
+# ---- Tips
+
+def speckled(side, seed, grain, low, high, edge=0.25, wobble=0.1):
+    """A ragged disc broken by grain, such as a stick of graphite or coal leaves."""
+    rng = seeded(seed)
+    noise, coarse = Noise(rng, grain), Noise(rng, max(3, grain // 4))
+    waves = [(n, rng.between(0, 2 * math.pi), rng.between(0.3, 1) / n) for n in (2, 3, 5, 8)]
+
+    def alpha(x, y):
+        turn = math.atan2(y, x)
+        rim = 1 - wobble + wobble * 0.6 * sum(size * math.sin(n * turn + at) for n, at, size in waves)
+        body = 1 - smoothstep(rim - edge, rim, math.hypot(x, y))
+        value = 0.65 * noise.at((x + 1) * grain / 2, (y + 1) * grain / 2)
+        value += 0.35 * coarse.at((x + 1) * grain / 8, (y + 1) * grain / 8)
+        return body * smoothstep(low, high, value)
+    return tip(side, alpha)
+
+
+def bristles(side, seed, count, thickness, load, shape=1.0, lights=0.0):
+    """A brush end: `count` hairs in an oval, `shape` times as deep as wide; a share of them carries paint.
+
+    lights   how much lighter the paint is on some hairs than the brush's colour, for brushes with own colours
+    """
+    rng = seeded(seed)
+    hairs = []
+    for i in range(count):
+        out, turn = math.sqrt((i + 0.5) / count) * 0.9, i * math.pi * (3 - math.sqrt(5)) + rng.between(-0.3, 0.3)
+        hairs.append((out * math.cos(turn) * shape, out * math.sin(turn), thickness * rng.between(0.6, 1.5),
+                      rng.between(0.5, 1.0) if rng.unit() < load else 0.0, rng.unit() ** 2 * lights))
+
+    near = [[] for _ in range(16 * 16)]  # hairs by place, as there may be hundreds
+    for hair in hairs:
+        reach = 3 * hair[2]
+        for row in range(int(clamp((hair[1] - reach + 1) * 8, 0, 15)), int(clamp((hair[1] + reach + 1) * 8, 0, 15)) + 1):
+            for column in range(int(clamp((hair[0] - reach + 1) * 8, 0, 15)),
+                                int(clamp((hair[0] + reach + 1) * 8, 0, 15)) + 1):
+                near[row * 16 + column].append(hair)
+
+    def around(x, y):
+        for hx, hy, width, paint, light in near[int((y + 1) * 8) * 16 + int((x + 1) * 8)]:
+            yield math.exp(-((x - hx) ** 2 + (y - hy) ** 2) / (width * width)), paint, light
+
+    def alpha(x, y):
+        bare = 1.0
+        for share, paint, _ in around(x, y):
+            bare *= 1 - share * paint
+        return clamp((1 - bare) * 1.15 - 0.08)
+
+    def color(x, y):
+        best = max(around(x, y), default=(0, 0, 0))
+        return (best[2],) * 3
+    return tip(side, alpha, color if lights else lambda x, y: (0.0, 0.0, 0.0))
+
+
+def wash(side, seed):
+    """A pool of water: thin in the middle, pigment gathered at a ragged rim."""
+    rng = seeded(seed)
+    noise, fine = Noise(rng, 7), Noise(rng, 19)
+    waves = [(n, rng.between(0, 2 * math.pi), rng.between(0.4, 1) / n) for n in (2, 3, 4, 7, 11)]
+
+    def alpha(x, y):
+        turn = math.atan2(y, x)
+        rim = 0.9 + 0.05 * sum(size * math.sin(n * turn + at) for n, at, size in waves)
+        out = math.hypot(x, y) / rim
+        cloud = 0.65 * noise.at(x * 3.5 + 3.5, y * 3.5 + 3.5) + 0.35 * fine.at(x * 9.5 + 9.5, y * 9.5 + 9.5)
+        inside = 1 - smoothstep(0.9, 1.0, out)
+        return inside * (0.35 + 0.35 * cloud + 0.5 * smoothstep(0.72, 0.95, out))
+    return tip(side, alpha)
+
+
+def leaf(side, kind):
+    """A leaf with its stalk down and a bare midrib: 0 pointed, 1 round, 2 willow, 3 lobed."""
+    width = (0.44, 0.6, 0.22, 0.62)[kind]
+
+    def alpha(x, y):
+        t = (y + 0.95) / 1.6  # 0 at the point, 1 where the stalk begins
+        if t > 1:
+            return smoothstep(0.06, 0.02, abs(x + 0.06 * (t - 1))) * smoothstep(1.18, 1.1, t)
+        if t < 0:
+            return 0.0
+        half = width * math.sin(math.pi * t ** (0.8, 0.75, 0.9, 0.7)[kind]) ** (0.8, 0.55, 0.9, 0.7)[kind]
+        if kind == 3:
+            half *= 0.72 + 0.28 * math.cos(t * 6 * math.pi - 0.6)
+        elif kind == 0:
+            half *= 1 + 0.05 * math.cos(t * 40)
+        body = smoothstep(0.0, 0.05, half - abs(x))
+        rib = 1 - 0.75 * smoothstep(0.035, 0.01, abs(x)) * smoothstep(0.02, 0.2, t)
+        veins = 1 - 0.28 * smoothstep(0.12, 0.0, abs(((t * 7 - abs(x) * 5) % 1) - 0.5)) * smoothstep(0.03, 0.08, abs(x))
+        return body * rib * veins
+    return tip(side, alpha)
+
+
+def splash(side, seed, arms):
+    """A drop that burst: a body, fingers and drops that flew off."""
+    rng = seeded(seed)
+    blobs = [(0, 0, rng.between(0.3, 0.42))]
+    for _ in range(arms):
+        turn, out = rng.between(0, 2 * math.pi), rng.between(0.5, 0.95)
+        for step in range(7):
+            along = 0.3 + step * (out - 0.3) / 7
+            blobs.append((along * math.cos(turn), along * math.sin(turn), 0.055 - 0.006 * step))
+        blobs.append((out * math.cos(turn), out * math.sin(turn), rng.between(0.03, 0.07)))
+
+    def alpha(x, y):
+        field = sum(size * size / ((x - bx) ** 2 + (y - by) ** 2 + 1e-4) for bx, by, size in blobs)
+        return smoothstep(1.3, 1.7, field) * (1 - smoothstep(0.93, 0.99, max(abs(x), abs(y))))
+    return tip(side, alpha)
+
+
+def shard(side, kind):
+    """Confetti in a colour of its own, for the jitter to turn: a strip, a disc, a triangle, a ring."""
+    def alpha(x, y):
+        if kind == 0:
+            inside = min(0.85 - abs(x), 0.32 - abs(y))
+        elif kind == 1:
+            inside = 0.62 - math.hypot(x, y)
+        elif kind == 2:
+            inside = min(0.5 - y, (y + 0.75) * 0.5 - abs(x) * 0.87)
+        else:
+            inside = 0.16 - abs(math.hypot(x, y) - 0.6)
+        return smoothstep(0.0, 0.05, inside)
+    return tip(side, alpha, lambda x, y: (0.95, 0.15 + 0.1 * (y > 0), 0.2))
+
+
+def blade(side, seed):
+    """A tuft of grass, growing up from the middle."""
+    rng = seeded(seed)
+    blades = [(rng.between(-0.5, 0.5), rng.between(-0.3, 0.3), rng.between(0.7, 0.95), rng.between(0.035, 0.06))
+              for _ in range(6)]
+
+    def alpha(x, y):
+        covered = 0.0
+        for root, lean, height, width in blades:
+            t = (0.5 - y) / (height + 0.45)  # 0 at the root, 1 at the point
+            if 0 <= t <= 1:
+                middle = root * (0.7 + 0.3 * t) + lean * t * t * 1.3
+                covered = max(covered, smoothstep(0.0, 0.025, width * (1 - t) ** 0.7 - abs(x - middle)) * (0.75 + 0.25 * t))
+        return covered
+    return tip(side, alpha)
+
+
+def rough_disc(side, seed, wobble=0.05):
+    """A solid disc whose edge is a little torn: a wet brush on absorbent paper."""
+    rng = seeded(seed)
+    noise = Noise(rng, 12)
+
+    def alpha(x, y):
+        out = math.hypot(x, y) + wobble * (noise.at(x * 6 + 6, y * 6 + 6) - 0.5) * 2
+        return 1 - smoothstep(0.82, 0.92, out)
+    return tip(side, alpha)
+
+
+def scratches(side, seed):
+    """Streaks from left to right with gaps, to show through a stroke as a second line."""
+    rng = seeded(seed)
+    noise, fine = Noise(rng, 24), Noise(rng, 16)
+
+    def alpha(x, y):
+        round_off = 1 - smoothstep(0.7, 1.0, math.hypot(x, y))
+        streak = noise.at((x + 1) * 2.5, (y + 1) * 12)
+        return round_off * smoothstep(0.42, 0.62, 0.8 * streak + 0.2 * fine.at((x + 1) * 8, (y + 1) * 8))
+    return tip(side, alpha)
