@@ -126,6 +126,7 @@ def speckled(side, seed, grain, low, high, edge=0.25, wobble=0.1):
 def bristles(side, seed, count, thickness, load, shape=1.0, lights=0.0):
     """A brush end: `count` hairs in an oval, `shape` times as deep as wide; a share of them carries paint.
 
+    load     of two brush ends that differ in this alone, all hairs that paint with the smaller one do with the other
     lights   how much lighter the paint is on some hairs than the brush's colour, for brushes with own colours
     """
     rng = seeded(seed)
@@ -133,7 +134,7 @@ def bristles(side, seed, count, thickness, load, shape=1.0, lights=0.0):
     for i in range(count):
         out, turn = math.sqrt((i + 0.5) / count) * 0.9, i * math.pi * (3 - math.sqrt(5)) + rng.between(-0.3, 0.3)
         hairs.append((out * math.cos(turn) * shape, out * math.sin(turn), thickness * rng.between(0.6, 1.5),
-                      rng.between(0.5, 1.0) if rng.unit() < load else 0.0, rng.unit() ** 2 * lights))
+                      rng.between(0.5, 1.0) * (rng.unit() < load), rng.unit() ** 2 * lights))
 
     near = [[] for _ in range(16 * 16)]  # hairs by place, as there may be hundreds
     for hair in hairs:
@@ -170,8 +171,8 @@ def wash(side, seed):
         rim = 0.9 + 0.05 * sum(size * math.sin(n * turn + at) for n, at, size in waves)
         out = math.hypot(x, y) / rim
         cloud = 0.65 * noise.at(x * 3.5 + 3.5, y * 3.5 + 3.5) + 0.35 * fine.at(x * 9.5 + 9.5, y * 9.5 + 9.5)
-        inside = 1 - smoothstep(0.9, 1.0, out)
-        return inside * (0.35 + 0.35 * cloud + 0.5 * smoothstep(0.72, 0.95, out))
+        inside = 1 - smoothstep(0.84, 1.0, out)
+        return inside * (0.2 + 0.25 * cloud + 0.7 * smoothstep(0.55, 0.95, out))
     return tip(side, alpha)
 
 
@@ -253,7 +254,7 @@ def rough_disc(side, seed, wobble=0.05):
 
     def alpha(x, y):
         out = math.hypot(x, y) + wobble * (noise.at(x * 6 + 6, y * 6 + 6) - 0.5) * 2
-        return 1 - smoothstep(0.82, 0.92, out)
+        return 1 - smoothstep(0.78, 0.95, out)
     return tip(side, alpha)
 
 

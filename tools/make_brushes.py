@@ -39,13 +39,13 @@ def brush(name, **settings):
     BRUSHES[name] = {"slTextureImage": SECOND_TIP, **settings}
 
 
-GRAIN = images.paper(128, (64, 40, 20), 0.22, 0.60, seed=3)
+GRAIN = images.paper(128, (64, 40, 20), 0.22, 0.62, seed=3)
 ROUGH = images.paper(128, (64, 48, 24), 0.36, 0.66, seed=8)
-COLD_PRESSED = images.paper(128, (40, 22), -1.0, 0.8, seed=5)
+CLOUDS = images.paper(128, (5, 9, 24), -0.3, 0.8, seed=5)
 
 # ---- Drawing
 
-brush("Pencil", textureImages=images.speckled(48, 11, 14, 0.25, 0.7, edge=0.45), radius=8, minRadius=0.45,
+brush("Pencil", textureImages=images.speckled(48, 11, 14, 0.05, 0.6, edge=0.45), radius=9, minRadius=0.4,
       radiusControl=(0.6, 0, 0), startRadius=0.5, strokeControlValue=12, endRadius=0.3, pointsDistance=0.12,
       radianTingle=1, flow=0.55, minFlow=0.08, flowControl=(1, 0, 0), flowTingle=0.3, needMaskTexture=True,
       maskImage=GRAIN, renderColor="#2c2c30")
@@ -60,24 +60,24 @@ brush("Wax Crayon", textureImages=images.speckled(64, 31, 18, 0.28, 0.6, edge=0.
       minFlow=0.25, flowControl=(1, 0, 0), needMaskTexture=True,
       maskImage=images.paper(128, (60, 36), 0.36, 0.5, seed=13), maskScale=1.1, renderColor="#c8452e")
 
-brush("Ink Pen", textureType=DISC, hardness=0.9, radius=10, minRadius=0.12, radiusControl=(1, 0, 0),
-      startRadius=0.05, strokeControlValue=40, endRadius=0.02, pointsDistance=0.04, renderColor="#141a2e")
+brush("Ink Pen", textureType=DISC, hardness=0.75, radius=10, minRadius=0.12, radiusControl=(1, 0, 0),
+      startRadius=0.05, strokeControlValue=40, endRadius=0.02, pointsDistance=0.12, renderColor="#141a2e")
 
 brush("Brush Pen", textureImages=images.rough_disc(96, 5), radius=44, minRadius=0.03, radiusControl=(1, 0, 0.25),
-      sensitivity=70, startRadius=0.03, strokeControlValue=70, endRadius=0.01, pointsDistance=0.03,
+      sensitivity=70, startRadius=0.03, strokeControlValue=70, endRadius=0.01, pointsDistance=0.05,
       moveRadianEnable=True, renderColor="#101014")
 
-brush("Speed Pen", textureType=DISC, hardness=0.85, radius=20, minRadius=0.12, radiusControl=(0, 0, 1),
+brush("Speed Pen", textureType=DISC, hardness=0.7, radius=20, minRadius=0.12, radiusControl=(0, 0, 1),
       sensitivity=15, speedSencitive=0.5, startRadius=0.2, strokeControlValue=30, endRadius=0.05,
-      pointsDistance=0.04, renderColor="#1c3d5a")
+      pointsDistance=0.1, renderColor="#1c3d5a")
 
-brush("Calligraphy Nib", textureType=RECTANGLE, textureControlValue=5, hardness=0.8, radius=38, minRadius=0.85,
-      radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0, radian=0.785, pointsDistance=0.02,
+brush("Calligraphy Nib", textureType=RECTANGLE, textureControlValue=5, hardness=0.6, radius=38, minRadius=0.85,
+      radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0, radian=0.785, pointsDistance=0.04,
       renderColor="#2a1420")
 
 # ---- Markers
 
-brush("Round Marker", textureType=DISC, hardness=0.85, radius=28, **EVEN, pointsDistance=0.06, opacity=0.75,
+brush("Round Marker", textureType=DISC, hardness=0.75, radius=28, **EVEN, pointsDistance=0.1, opacity=0.75,
       blendType=MULTIPLY, renderColor="#f2b33d")
 
 brush("Chisel Marker", textureType=RECTANGLE, textureControlValue=2.6, hardness=0.75, radius=46, **EVEN,
@@ -86,12 +86,12 @@ brush("Chisel Marker", textureType=RECTANGLE, textureControlValue=2.6, hardness=
 # ---- Paint
 
 brush("Watery Wash", textureImages=[images.wash(128, seed) for seed in (4, 9, 16)], textureTingleEnabled=True,
-      radius=96, minRadius=0.55, radiusControl=(0.6, 0, 0), startRadius=0, endRadius=0.7, pointsDistance=0.09,
-      radianTingle=1, radiusTingle=0.15, flow=0.11, flowTingle=0.4, opacity=0.8, blendType=MULTIPLY,
-      needMaskTexture=True, maskImage=COLD_PRESSED, maskScale=1.5, renderColor="#3d78b8")
+      radius=96, minRadius=0.55, radiusControl=(0.6, 0, 0), startRadius=0, endRadius=0.7, pointsDistance=0.045,
+      radianTingle=1, radiusTingle=0.05, flow=0.11, flowTingle=0.3, opacity=0.85, blendType=MULTIPLY,
+      needMaskTexture=True, maskImage=CLOUDS, maskScale=2.5, renderColor="#3d78b8")
 
-brush("Dry Bristle", textureImages=[images.bristles(96, 7, 120, 0.045, load, shape=0.35)
-                                    for load in (0.7, 0.4, 0.18)],
+brush("Dry Bristle", textureImages=[images.bristles(80, 7, 110, 0.045, load, shape=0.35)
+                                    for load in (0.75, 0.6, 0.45, 0.3, 0.18)],
       textureControl=(1, 0, 0), radius=72, minRadius=0.7, radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8,
       pointsDistance=0.02, moveRadianEnable=True, flow=0.5, flowControl=(0.7, 0, 0), minFlow=0.3,
       flowTingle=0.3, renderColor="#6b3f2a")
@@ -121,8 +121,8 @@ brush("Spray Can", textureType=DISC, hardness=0.7, radius=5, minRadius=0.3, maxR
       renderColor="#c22a56")
 
 brush("Ink Spatter", textureImages=[images.splash(96, seed, arms) for seed, arms in ((3, 7), (6, 4), (9, 0))],
-      textureTingleEnabled=True, radius=34, minRadius=0.05, maxRadius=1, radiusControl=(0.7, 0, 0), startRadius=0,
-      endRadius=0.4, radiusTingle=1, radianTingle=1, pointsDistance=0.55, distribution=1.5, disTwoAxes=True,
+      textureTingleEnabled=True, radius=52, minRadius=0.04, maxRadius=1, radiusControl=(0.7, 0, 0), startRadius=0,
+      endRadius=0.4, radiusTingle=1, radianTingle=1, pointsDistance=0.45, distribution=1.1, disTwoAxes=True,
       distributionCount=3, distributionCountTingle=0.8, renderColor="#17171c")
 
 # ---- Stamps
@@ -153,7 +153,7 @@ brush("Soft Blender", brushType=SMUDGE, textureType=DISC, hardness=0, radius=84,
       loadQuantity=0.5, mixQuantity=0.7, moistQuantity=0.6, flow=0.6, flowControl=(0.5, 0, 0), minFlow=0.2,
       renderColor="#f6efe2")
 
-brush("Hard Eraser", textureType=DISC, hardness=0.95, radius=36, **EVEN, pointsDistance=0.05, blendType=ERASE)
+brush("Hard Eraser", textureType=DISC, hardness=0.85, radius=36, **EVEN, pointsDistance=0.1, blendType=ERASE)
 
 brush("Soft Eraser", textureType=DISC, hardness=0, radius=90, **EVEN, pointsDistance=0.08, flow=0.2, minFlow=0.05,
       flowControl=(1, 0, 0), blendType=ERASE)

@@ -32,7 +32,7 @@ QImage stripes(const QSize& size, int every, const QColor& between = Qt::white) 
         for (int x = 0; x < size.width(); ++x) {
             const int stripe = (x + y / 2) / width;
             if (stripe % every == 0)
-                image.setPixelColor(x, y, QColor::fromHsv(stripe * 47 % 360, 140, 232));
+                image.setPixelColor(x, y, QColor::fromHsv(stripe * 47 % 360, every > 1 ? 80 : 140, 232));
         }
     }
     return image;
@@ -109,7 +109,7 @@ Result<QImage> brushSample(const Brush& brush, const std::vector<BrushPlan::Step
     if (!made)
         return made.problem();
     QDDrawCanvas& canvas = **made;
-    makeRepeatable(canvas);
+    seedRandom();  // the canvas's own fixed numbers would tie a dab's tip to its colour
     brush.applyTo(canvas);
     for (const auto& [property, value] : settings) {
         if (!canvas.setBrushValue(*property, *value))

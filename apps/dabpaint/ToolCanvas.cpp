@@ -27,6 +27,10 @@ Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size) {
 
 void makeRepeatable(QDDrawCanvas& canvas) {
     canvas.setRepeatableRandom(true);
+    seedRandom();
+}
+
+void seedRandom() {
     lpRandom();  // its first call seeds from the clock; after that the seed given here stays
     std::srand(1);
     ::srand48(1);

@@ -130,7 +130,7 @@ EXIT STATUS
 
 EXAMPLES
     dabpaint paint session.dat -o session.png --set radius=24 --set radiusControl=1,0,0
-    dabpaint paint session.dat -o chalk.png --brush charcoal.xbf --set renderColor=#402010
+    dabpaint paint session.dat -o chalk.png --brush chalk.xbf --set radius=60
     dabpaint paint a.json b.inkml -o both.png --size 1024x768 --repeatable --stats
 )";
 
@@ -189,7 +189,8 @@ EXIT STATUS
     0 done, 1 the work failed, 2 the command line is wrong.
 
 EXAMPLES
-    dabpaint preset make -o chalk.xbf --name Chalk --set radius=40 --set needMaskTexture=yes --set maskImage=paper.png
+    dabpaint preset make -o chalk.xbf --name Chalk --set radius=40 \
+        --set needMaskTexture=yes --set maskImage=paper.png
     dabpaint preset preview chalk.xbf -o chalk.png
     dabpaint preset preview *.xbf -o brushes.jpg --sheet --size 360x140
 )";

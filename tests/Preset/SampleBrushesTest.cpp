@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// Every preset that is handed out: whole, kept by a canvas as it is, and one that paints.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QPainter>
+
+#include "Brushes/ImageData.h"
+#include "Preset/QDBrushManager.h"
+#include "support/CanvasTest.h"
+
+namespace {
+
+using namespace BrushRecords;
+
+const QDir kFolder(QStringLiteral(DABCANVAS_SAMPLES "/brushes"));
+
+class SampleBrushesTest : public CanvasTest, public ::testing::WithParamInterface<QString> {};
+
+TEST_P(SampleBrushesTest, IsKeptAndPaints) {
+    const QString path = kFolder.filePath(GetParam());
+    int version = 0;
+    QString problem;
+    const auto brushes = QDBrushManager::brushesWithXBFPath(path, &version, &problem);
+    ASSERT_TRUE(brushes && brushes->size() == 1) << problem.toStdString();
+    EXPECT_TRUE(problem.isEmpty()) << problem.toStdString();
+    EXPECT_EQ(version, QDBrushManager::kVersion);
+    // File managers and the painter show both.
+    EXPECT_EQ(brushName(brushes->first()).toLower().replace(QLatin1Char(' '), QLatin1Char('-')),
+              GetParam().chopped(4));
+
+    const auto canvas = makeCanvas(400, 150);
+    QImage ground(400, 150, QImage::Format_RGBA8888_Premultiplied);
+    ground.fill(Qt::white);
+    QPainter(&ground).fillRect(120, 0, 60, 150, QColor(220, 90, 60));
+    ASSERT_TRUE(canvas->setImageInBufferRect(ground, QRectF(0, 0, 400, 150)));
+    ASSERT_TRUE(canvas->resetWithXBFPath(path));
+
+    const BrushParams stored = brushParams(brushes->first());
+    const auto kept = QDBrushManager::paramsOfDrawView(canvas.get());
+    ASSERT_TRUE(kept && kept->size() == stored.size());
+    for (qsizetype i = 0; i < stored.size(); ++i) {
+        SCOPED_TRACE(method(stored[i]).toStdString());
+        EXPECT_EQ(key((*kept)[i]), key(stored[i]));
+        if (type(stored[i]) == kXBFData) {
+            const QByteArray data = paramValue(stored[i]).toByteArray();
+            if (!data.isEmpty()) {
+                EXPECT_FALSE(imageWithData(data).isNull());
+                EXPECT_EQ(imageWithData(paramValue((*kept)[i]).toByteArray()), imageWithData(data));
+            }
+        } else {
+            EXPECT_EQ(paramValue((*kept)[i]), paramValue(stored[i]));
+        }
+    }
+
+    const QImage before = canvas->image();
+    paintWave(*canvas);
+    EXPECT_NE(canvas->image(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Folder, SampleBrushesTest,
+                         ::testing::ValuesIn(kFolder.entryList({QStringLiteral("*.xbf")})),
+                         [](const auto& name) {
+                             QString word = name.param.chopped(4);
+                             return word.replace(QLatin1Char('-'), QLatin1Char('_')).toStdString();
+                         });
+
+}  // namespace
