@@ -5,13 +5,16 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <limits>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 #include "Preset/QDBrushManager.h"
 #include "support/HexFile.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #endif
@@ -51,6 +54,10 @@ protected:
         return BrushRecords::paramValueForKey(BrushRecords::brushParams(onlyBrush()), 1);
     }
 
+    qsizetype filesInFolder() const {
+        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size();
+    }
+
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("水彩 brush.xbf"));
 };
@@ -59,28 +66,30 @@ protected:
 
 TEST_F(QDBrushManagerFile, EveryTypeIsSpelledAsItsFileSaysBothWays) {
     const QByteArray data("\0\1\2\3\4\5\6\7\x08\xFF", 10);
-    const QVariant read = QVariant::fromValue(ESColor::rgba(1, 127 / 255.0f, 0.2f, 0));
-    const QVariant half = QVariant::fromValue(ESColor::rgba(1, 0.5f, 0.2f, 0));
+    const auto color = [](float green) { return QVariant::fromValue(ESColor::rgba(1, green, 0.2f, 0)); };
+    const char* const setColor = "setRenderColor:";
+    const QString key = QStringLiteral("Quick"), text = QStringLiteral("ab\u00E9"),
+                  empty = QStringLiteral("");
     const struct {
         const char* name;
-        BrushParams written, read;
+        BrushParams written, read;  // the same, when there is only one
     } rows[] = {
         {"bool", {param(0x2003, "setFlipX:", true, kXBFBool)}, {}},
         {"int", {param(0x300C, "setTrackNum:", -2, kXBFInt)}, {}},
         {"float", {param(0x2002, "setRadius:", 12.5f, kXBFFloat)}, {}},
         {"double", {param(0x7FFF, "", -0.1, kXBFDouble)}, {}},
         {"color",
-         {param(0x1003, "setRenderColor:", half, kXBFColor)},
-         {param(0x1003, "setRenderColor:", read, kXBFColor)}},
+         {param(0x1003, setColor, color(0.5f), kXBFColor)},
+         {param(0x1003, setColor, color(127 / 255.0f), kXBFColor)}},
         {"character",
-         {param(1, "setKey:", QStringLiteral("Quick"), kXBFCharacter)},
-         {param(1, "setKey:", QStringLiteral("Q"), kXBFCharacter)}},
-        {"text", {param(0x9001, "setShaders:", QStringLiteral("ab\u00E9"), kXBFText)}, {}},
+         {param(1, "setKey:", key, kXBFCharacter)},
+         {param(1, "setKey:", key.left(1), kXBFCharacter)}},
+        {"text", {param(0x9001, "setShaders:", text, kXBFText)}, {}},
         {"data", {param(0x800F, "setMaskImage:", data, kXBFData)}, {}},
         {"preset",
          {param(0x1001, "setBrushType:", 2, kXBFInt), param(0x2002, "setRadius:", 0.25f, kXBFFloat),
           param(0x2001, "setTextureImages:", QByteArray("PN"), kXBFData), param(1, "setIt:", 0, 4098),
-          param(0x2002, "setRadius:", 0.5f, kXBFFloat), param(0x9002, "", QStringLiteral(""), kXBFText)},
+          param(0x2002, "setRadius:", 0.5f, kXBFFloat), param(0x9002, "", empty, kXBFText)},
          {}},
     };
     for (const auto& row : rows) {
@@ -119,13 +128,7 @@ TEST_F(QDBrushManagerFile, TheValueIsClearedOnceNotForEveryRecord) {
 
 TEST_F(QDBrushManagerFile, ColoursAreCutButDoNotFadeFromSaveToSave) {
     for (int stored = 0; stored <= 255; ++stored) {
-        const float component = static_cast<float>(stored / 255.0);
-        const QVariant color = QVariant::fromValue(ESColor::rgba(component, component, component, component));
-        _XBFParamData data{};
-        data.type = kXBFColor;
-        data.value.colorValue.r = data.value.colorValue.g = data.value.colorValue.b =
-            data.value.colorValue.a = static_cast<short>(stored);
-        ASSERT_EQ(BrushRecords::paramValue(QDBrushManager::paramFromParamData(data)), color);
+        const QVariant color = QVariant::fromValue(ESColor::rgba(static_cast<float>(stored / 255.0), 0, 0));
         ASSERT_EQ(saved(color, kXBFColor), color) << stored;
     }
     EXPECT_EQ(saved(QColor(51, 102, 153), kXBFColor), QVariant::fromValue(ESColor::rgba(0.2f, 0.4f, 0.6f)));
@@ -138,12 +141,10 @@ TEST_F(QDBrushManagerFile, ValuesOfAnotherTypeAreConverted) {
         int type;
         QVariant expected;
     } rows[] = {
-        {"bool as int", true, kXBFInt, 1},
         {"bool kept as float", 1.0f, kXBFBool, true},
         {"half as bool", 0.5, kXBFBool, true},
         {"text as float", QStringLiteral("2.5"), kXBFFloat, 2.5f},
         {"nothing as int", QVariant(), kXBFInt, 0},
-        {"nothing as double", QVariant(), kXBFDouble, 0.0},
         {"nothing as colour", QVariant(), kXBFColor, QVariant::fromValue(ESColor::rgba(0, 0, 0, 0))},
         {"colour as int", QVariant::fromValue(ESColor::grey(1)), kXBFInt, 0},
         {"nothing as character", QVariant(), kXBFCharacter, QString()},
@@ -157,16 +158,6 @@ TEST_F(QDBrushManagerFile, ValuesOfAnotherTypeAreConverted) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(saved(row.value, row.type), row.expected);
     }
-}
-
-TEST_F(QDBrushManagerFile, LargeValuesComeBack) {
-    QByteArray data(300'000, 0);
-    for (qsizetype i = 0; i < data.size(); ++i) {
-        data[i] = static_cast<char>(i * 31 >> 3);
-    }
-    EXPECT_EQ(saved(data, kXBFData), data);
-    const QString text = QString::fromLatin1(data);
-    EXPECT_EQ(saved(text, kXBFText), text);
 }
 
 TEST_F(QDBrushManagerFile, NothingButTheFrameWithoutParameters) {
@@ -184,35 +175,19 @@ TEST_F(QDBrushManagerFile, SeveralBrushesAndTheirNames) {
     const std::string one = spelled("text").bytes.substr(12);
     const std::string two = spelled("data").bytes.substr(12).replace(4, 3, "\xFFn\xC3");
     setContent(std::string("\5\0\0\0\1\x10\0\0\3\0\0\0", 12) + one + two + one + "behind the last one");
-    int version = 0;
+    int version = 0, same = 0;
     QString problem;
     const auto brushes = QDBrushManager::brushesWithXBFPath(path, &version, &problem);
-    ASSERT_TRUE(brushes);
-    EXPECT_EQ(brushes->size(), 3);
-    EXPECT_EQ(version, 5);
     EXPECT_EQ(problem, QString());
     QStringList names;
-    for (const QVariantMap& brush : *brushes) {
+    for (const QVariantMap& brush : brushes.value_or(QList<QVariantMap>())) {
         names += BrushRecords::brushName(brush);
         EXPECT_EQ(BrushRecords::brushParams(brush).size(), 1);
         EXPECT_EQ(BrushRecords::brushVersion(brush), 5);
     }
-    EXPECT_EQ(names,
-              QStringList({QStringLiteral("Ink"), QStringLiteral("\uFFFDn\uFFFD"), QStringLiteral("Ink")}));
-    version = 0;
-    EXPECT_EQ(QDBrushManager::brushNamesWithXBFPath(path, &version), names);
-    EXPECT_EQ(version, 5);
-}
-
-TEST_F(QDBrushManagerFile, ACountOfNoneGivesNoBrushesAndTheVersion) {
-    for (const char* count : {"\0\0\0\0", "\xFF\xFF\xFF\xFF"}) {
-        setContent(QByteArray("\5\0\0\0\1\x10\0\0", 8) + QByteArray(count, 4));
-        int version = 0;
-        const auto brushes = QDBrushManager::brushesWithXBFPath(path, &version);
-        ASSERT_TRUE(brushes);
-        EXPECT_TRUE(brushes->isEmpty());
-        EXPECT_EQ(version, 5);
-    }
+    EXPECT_EQ(names.join(' '), QStringLiteral("Ink \uFFFDn\uFFFD Ink"));
+    EXPECT_EQ(QDBrushManager::brushNamesWithXBFPath(path, &same), names);
+    EXPECT_TRUE(version == 5 && same == 5);
 }
 
 // Cut anywhere, a file gives the records that are whole, says once that it is damaged, and where.
@@ -242,58 +217,53 @@ TEST_F(QDBrushManagerFile, AFileCutAnywhereGivesWhatIsWhole) {
     }
 }
 
-TEST_F(QDBrushManagerFile, DamageSaysWhereItIs) {
-    const std::string good = spelled("preset").bytes;
-    const auto with = [&](std::size_t place, const char* bytes) {
-        return std::string(good).replace(place, 4, bytes, 4);
-    };
+TEST_F(QDBrushManagerFile, AnotherCountOrLengthSaysWhereItIsWrong) {
     const struct {
-        const char* name;
-        std::string bytes;
+        std::size_t place;
+        const char* length;
         qsizetype brushes;
         const char* problem;
     } rows[] = {
-        {"billions of brushes", with(8, "\xFF\xFF\xFF\x7F"), 1,
-         "name of brush 2 of 2147483647: the file ends before it"},
-        {"a name beyond the end", with(12, "\xFF\xFF\xFF\x7F"), 0,
-         "name of brush 1 of 1: it claims more bytes than the file holds"},
-        {"data beyond the end", with(127, "\0\0\0\x10"), 1,
-         "record 3 of brush 1 of 1: it claims more bytes than the file holds"},
-        {"impossible data", with(127, "\xFF\xFF\xFF\xFF"), 1,
-         "record 3 of brush 1 of 1: its size is not possible"},
+        {8, "\0\0\0\0", 0, ""},
+        {8, "\xFF\xFF\xFF\xFF", 0, ""},
+        {8, "\xFF\xFF\xFF\x7F", 1, "name of brush 2 of 2147483647: the file ends before it"},
+        {12, "\xFF\xFF\xFF\x7F", 0, "name of brush 1 of 1: it claims more bytes than the file holds"},
+        {127, "\0\0\0\x10", 1, "record 3 of brush 1 of 1: it claims more bytes than the file holds"},
+        {127, "\xFF\xFF\xFF\xFF", 1, "record 3 of brush 1 of 1: its size is not possible"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        setContent(row.bytes);
+        setContent(spelled("preset").bytes.replace(row.place, 4, row.length, 4));
         const LogCapture log;
+        int version = 0;
         QString problem;
-        const auto brushes = QDBrushManager::brushesWithXBFPath(path, nullptr, &problem);
-        ASSERT_TRUE(brushes);
-        EXPECT_EQ(brushes->size(), row.brushes);
+        const auto brushes = QDBrushManager::brushesWithXBFPath(path, &version, &problem);
+        EXPECT_EQ(brushes ? brushes->size() : -1, row.brushes);
+        EXPECT_EQ(version, 200);
         EXPECT_EQ(problem, QLatin1String(row.problem));
     }
 }
 
 TEST_F(QDBrushManagerFile, WhatIsNoBrushFileIsSaidSo) {
-    const LogCapture log;
-    const auto problemOf = [](const QString& where) {
+    setContent(QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) + QByteArray(100, 0));
+    const struct {
+        QString path;
+        const char* problem;
+    } rows[] = {{path, "this is not an XBF file"},
+                {folder.path(), "the file cannot be read"},
+                {folder.filePath(QStringLiteral("none.xbf")), std::strerror(ENOENT)},
+                {path + QChar(0) + QStringLiteral(".png"), std::strerror(EINVAL)},
+                {QString(), ""}};
+    for (const auto& row : rows) {
+        const LogCapture log;
         int version = -1;
-        QString problem;
-        EXPECT_FALSE(QDBrushManager::brushesWithXBFPath(where, &version, &problem));
-        QString same;
-        EXPECT_FALSE(QDBrushManager::brushNamesWithXBFPath(where, &version, &same));
+        QString problem, same;
+        EXPECT_FALSE(QDBrushManager::brushesWithXBFPath(row.path, &version, &problem));
+        EXPECT_FALSE(QDBrushManager::brushNamesWithXBFPath(row.path, &version, &same));
+        EXPECT_TRUE(!problem.isEmpty() && problem.contains(QLatin1String(row.problem))) << row.problem;
         EXPECT_EQ(same, problem);
         EXPECT_EQ(version, -1);
-        return problem;
-    };
-    setContent(QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) + QByteArray(100, 0));
-    EXPECT_EQ(problemOf(path), QStringLiteral("this is not an XBF file"));
-    EXPECT_EQ(problemOf(folder.path()), QStringLiteral("the file cannot be read"));
-    EXPECT_FALSE(problemOf(folder.filePath(QStringLiteral("none.xbf"))).isEmpty());
-    setContent(spelled("bool").bytes);
-    EXPECT_FALSE(problemOf(path + QChar(0) + QStringLiteral(".png")).isEmpty());
-    EXPECT_FALSE(problemOf(QString()).isEmpty());
-    EXPECT_EQ(log.lines().size(), 10);
+        EXPECT_EQ(log.lines().size(), 2);
+    }
 }
 
 // Writing
@@ -303,6 +273,10 @@ TEST_F(QDBrushManagerFile, ARefusedSaveLeavesTheOldFile) {
     const BrushParams good{param(1, "setIt:", 1, kXBFInt)};
     ASSERT_TRUE(QDBrushManager::saveParams(good, 200, {}, path));
     const QByteArray before = content();
+#ifdef Q_OS_UNIX
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(pipe.toUtf8().constData(), 0600), 0);
+#endif
     const struct {
         const char* name;
         std::optional<BrushParams> params;
@@ -314,7 +288,9 @@ TEST_F(QDBrushManagerFile, ARefusedSaveLeavesTheOldFile) {
         {"no folder", good, folder.filePath(QStringLiteral("none/a.xbf"))},
         {"a file as folder", good, path + QStringLiteral("/a.xbf")},
         {"a folder", good, folder.path()},
-        {"a device", good, QStringLiteral("/dev/full")},
+#ifdef Q_OS_UNIX
+        {"a pipe", good, pipe},
+#endif
         {"a path with a NUL", good, path + QChar(0) + QStringLiteral("a")},
     };
     for (const auto& row : rows) {
@@ -326,8 +302,7 @@ TEST_F(QDBrushManagerFile, ARefusedSaveLeavesTheOldFile) {
         EXPECT_EQ(log.lines().size(), 1);
         EXPECT_TRUE(log.has(problem));
         EXPECT_EQ(content(), before);
-        EXPECT_EQ(
-            QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
+        EXPECT_EQ(filesInFolder(), 1);
     }
 }
 
@@ -342,34 +317,27 @@ TEST_F(QDBrushManagerFile, AFullDiskLeavesTheOldFile) {
     for (const qsizetype size : {3'000, 100'000}) {  // found out when flushing, and when writing
         const rlimit small{1024, old.rlim_max};
         setrlimit(RLIMIT_FSIZE, &small);
-        LogCapture log;
-        const BrushParams large{param(1, "setIt:", QByteArray(size, 'd'), kXBFData)};
-        const bool result = QDBrushManager::saveParams(large, 200, {}, path);
+        const LogCapture log;
+        EXPECT_FALSE(QDBrushManager::saveParams(BrushParams{param(1, "", QByteArray(size, 'd'), kXBFData)},
+                                                200, {}, path));
         setrlimit(RLIMIT_FSIZE, &old);
-        EXPECT_FALSE(result);
-        EXPECT_TRUE(log.has(QStringLiteral("it could not be written: File too large")))
-            << log.lines().join('\n').toStdString();
+        EXPECT_TRUE(log.has(QString::fromLocal8Bit(std::strerror(EFBIG))));
         EXPECT_EQ(content(), before);
-        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+        EXPECT_EQ(filesInFolder(), 1);
     }
     std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(QDBrushManagerFile, LinksAreFollowedAndPermissionsStay) {
-    setContent(QByteArray("old"));
+    const QString link = folder.filePath(QStringLiteral("link.xbf"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("水彩 brush.xbf"), link));
+    EXPECT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, link));  // dangling as yet
     ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
     const auto before = QFile::permissions(path);
-    const QString link = folder.filePath(QStringLiteral("link.xbf"));
-    const QString dangling = folder.filePath(QStringLiteral("dangling.xbf"));
-    ASSERT_TRUE(QFile::link(QStringLiteral("水彩 brush.xbf"), link));
-    ASSERT_TRUE(QFile::link(QStringLiteral("new.xbf"), dangling));
-    EXPECT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, link));
+    EXPECT_TRUE(QDBrushManager::saveParams(BrushParams(), 201, {}, link));
     EXPECT_TRUE(QFileInfo(link).isSymLink());
-    EXPECT_EQ(onlyBrush().size(), 3);
+    EXPECT_EQ(BrushRecords::brushVersion(onlyBrush()), 201);
     EXPECT_EQ(QFile::permissions(path), before);
-    EXPECT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, dangling));
-    EXPECT_TRUE(QFileInfo(dangling).isSymLink());
-    EXPECT_TRUE(QFileInfo::exists(folder.filePath(QStringLiteral("new.xbf"))));
 }
 #endif
 
