@@ -78,8 +78,8 @@ void report(benchmark::State& state, const Rounds& own, const Rounds& file) {
     state.counters["own/file"] = own.median() / file.median();
 }
 
-// Against QFile writing the same bytes over the old ones, and QSaveFile, which as saveParams() does waits for the
-// disk and then replaces the old file.
+// Against QFile writing the same bytes over the old ones, and QSaveFile, which as saveParams() does waits for
+// the disk and then replaces the old file.
 void savePreset(benchmark::State& state) {
     const Bench bench;
     const QByteArray bytes = bench.bytes();

@@ -171,8 +171,8 @@ TEST(XBF, ADataBlockHasTheProductOfItsFactorsWhateverTheirSigns) {
     }
 }
 
-// Damage: the length that a piece claims is refused before anything is allocated by it, which a file that only
-// ends too early is not.
+// Damage: the length that a piece claims is refused before anything is allocated by it, which a file that
+// only ends too early is not.
 TEST(XBF, HostileLengthsStopTheReading) {
     const std::uint32_t huge = INT_MAX;
     const struct {
