@@ -22,6 +22,7 @@ double areaOf(const QRectF& rect) {
 // ---- Drawing into a layer
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer) {
+    _leafDrawView->finishPending();
     return dabcanvas::roundedRect(drawRun(points, count, layer));
 }
 
@@ -40,17 +41,28 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
     }
     ESLineRender* render = layer == ESRenderTypeLine ? _extenRender.get() : _subRender.get();
     const std::uint64_t before = render->dabsDrawn();
+    if (layer == ESRenderTypeCanvas) {
+        compositePending();  // which lies below
+    }
     _esContext->beginRenderForType(layer);
     _esContext->setBlendModelForType(ESRenderTypeLine);
     const QRectF touched = render->drawPoints(points, count);
     _esContext->finishRender();
     _stats.dabs += render->dabsDrawn() - before;
     const QRectF covered = touched.toAlignedRect();
-    mergeRect(_layerContent[layer], covered);
+    if (layer == ESRenderTypeCanvas) {
+        _edited = true;
+        mergeRect(_drawRect, covered);
+        mergeRect(_updateRect, covered);
+        noteChanged(covered);
+    } else {
+        mergeRect(_layerContent[layer], covered);
+    }
     return covered;
 }
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count) {
+    _leafDrawView->finishPending();
     _tempRect = drawRun(points, count, ESRenderTypeLine);
     mergeRect(_lineRenderRect, _tempRect);
     return _tempRect;
@@ -96,9 +108,7 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
     }
     noteChanged(_tempRect);
     if (online) {
-        const QSizeF toView = scale();
-        redisplayRect(QRectF(_tempRect.x() * toView.width(), _tempRect.y() * toView.height(),
-                             _tempRect.width() * toView.width(), _tempRect.height() * toView.height()));
+        redisplayBufferRect(_tempRect);
     }
 }
 
@@ -165,6 +175,7 @@ void QDDrawCanvas::resetWithRenderRect(const QRectF& area) {
     }
     _esContext->finishRender();
     noteChanged(rect);
+    redisplayBufferRect(rect);
 }
 
 void QDDrawCanvas::updateBGImage(const QByteArray&) {
@@ -233,6 +244,9 @@ void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
     _leafDrawView->finishPending();
     _edited = true;
     _pending.clear();  // it would be cleared at once
+    // All that a layer holds, not just what the present stroke's line drew there.
+    mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
+    mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
     clearExtenBuffer();
     clearSubBuffer();
     clearSmudgeBuffer();
@@ -301,6 +315,12 @@ void QDDrawCanvas::noteChanged(const QRectF& rect) {
     const QRect changed = rect.toAlignedRect() & QRect(QPoint(0, 0), bufferSize().toSize());
     _staleRect = _staleRect.united(changed);
     mergeRect(_smudgeStale, changed);
+}
+
+void QDDrawCanvas::redisplayBufferRect(const QRectF& rect) {
+    const QSizeF toView = scale();
+    redisplayRect(QRectF(rect.x() * toView.width(), rect.y() * toView.height(), rect.width() * toView.width(),
+                         rect.height() * toView.height()));
 }
 
 void QDDrawCanvas::redisplayAll() {
