@@ -13,6 +13,9 @@ using dabcanvas::mergeRect;
 
 namespace {
 
+// Rectangles that wait where nobody looks at the canvas and they cannot be merged.
+constexpr std::size_t kMostPending = 1024;
+
 double areaOf(const QRectF& rect) {
     return rect.width() * rect.height();
 }
@@ -28,7 +31,7 @@ QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRend
 
 // Returns the whole pixels that the run touched.
 QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderType layer) {
-    if (points == nullptr) {
+    if (points == nullptr || layer < ESRenderTypeCanvas || layer >= kRenderTypeCount) {
         return {};
     }
     const ESCurrentScope current(*_esContext);
@@ -89,6 +92,9 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
     if (smudge != _pendingSmudge) {
         compositePending();
         _pendingSmudge = smudge;
+    }
+    if (_pending.size() >= kMostPending) {
+        compositePending();
     }
     mergeRect(_strokeRect, _tempRect);
     mergeRect(_updateRect, _tempRect);
