@@ -184,7 +184,7 @@ TEST(XBF, HostileLengthsStopTheReading) {
         {"data", dataRecord(huge, 1, 1, "d"), XBFRead::tooLong},
         {"data by one", dataRecord(1, 2001, 1, std::string(2000, 'd')), XBFRead::tooLong},
         {"overflow", dataRecord(huge, huge, 3, "d"), XBFRead::badSize},
-        {"overflow to a small product", dataRecord(1u << 31, 1u << 31, 1u << 31, "d"), XBFRead::badSize},
+        {"overflow to a small product", dataRecord(1u << 31, 1u << 31, 4, "d"), XBFRead::badSize},
         {"negative", dataRecord(-2u, 3, 1, "d"), XBFRead::badSize},
         {"method", number(1) + number(huge) + std::string(100, 'm'), XBFRead::tooLong},
         {"short method", number(1) + number(30) + "m", XBFRead::cutShort},
