@@ -3,6 +3,10 @@
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Dabcanvas)
+set(DABCANVAS_NEEDS_LZ4 OFF)
+if(lz4_FOUND AND NOT BUILD_SHARED_LIBS)
+    set(DABCANVAS_NEEDS_LZ4 ON)
+endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DabcanvasConfig.cmake.in
     ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake INSTALL_DESTINATION ${package_folder})
 # Before 1.0 a minor version may change the interface; the libraries' SOVERSION says the same.

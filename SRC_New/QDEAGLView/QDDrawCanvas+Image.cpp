@@ -250,6 +250,22 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
         return false;
     }
     _leafDrawView->finishPending();  // which may place, too
+    if (!putOnCanvas(source, size, centre, radian)) {
+        return false;
+    }
+    _edited = _edited || !isUndo;
+    redisplayAll();
+    if (!_neglectTextureUpdate) {
+        updateBGImage(isUndo ? _curImageData : autoMarked());  // which may call the delegate
+        if (!isUndo && isSmudgeType()) {
+            updateSmudgeBGTexture();
+        }
+    }
+    return true;
+}
+
+bool QDDrawCanvas::putOnCanvas(const Source& source, const QSizeF& size, const QPointF& centre,
+                               double radian) {
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return false;
@@ -272,16 +288,8 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
                   source.picture.width(), source.picture.height());
         return false;
     }
-    _edited = _edited || !isUndo;
     mergeRect(_drawRect, touched);
     noteChanged(touched);
-    redisplayAll();
-    if (!_neglectTextureUpdate) {
-        updateBGImage(isUndo ? _curImageData : QByteArray());
-        if (!isUndo && isSmudgeType()) {
-            updateSmudgeBGTexture();
-        }
-    }
     return true;
 }
 

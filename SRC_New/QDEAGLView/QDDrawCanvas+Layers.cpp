@@ -264,28 +264,30 @@ void QDDrawCanvas::clearESBufferOnline(bool online) {
 }
 
 void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
-    const ESCurrentScope current(*_esContext);
-    if (!current) {
-        return;
+    {
+        const ESCurrentScope current(*_esContext);
+        if (!current) {
+            return;
+        }
+        _pending.clear();
+        _esContext->beginRenderForType(ESRenderTypeCanvas);
+        const QRectF whole(QPointF(0, 0), bufferSize());
+        mergeRect(_updateRect, whole);
+        _drawRect = QRectF();
+        if (color.componentCount() == 0) {
+            _esRender->clear();
+        } else {
+            // Targets hold premultiplied colours.
+            const float alpha = color.alpha();
+            _esRender->clearWithRed(color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha);
+        }
+        if (online) {
+            _esContext->finishRender();
+        }
+        noteChanged(whole);
     }
-    _pending.clear();
-    _esContext->beginRenderForType(ESRenderTypeCanvas);
-    const QRectF whole(QPointF(0, 0), bufferSize());
-    mergeRect(_updateRect, whole);
-    _drawRect = QRectF();
-    if (color.componentCount() == 0) {
-        _esRender->clear();
-    } else {
-        // Targets hold premultiplied colours.
-        const float alpha = color.alpha();
-        _esRender->clearWithRed(color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha);
-    }
-    if (online) {
-        _esContext->finishRender();
-    }
-    noteChanged(whole);
     redisplayAll();
-    updateBGImage();
+    updateBGImage(autoMarked());  // which may call the delegate
 }
 
 // ---- Reading and showing

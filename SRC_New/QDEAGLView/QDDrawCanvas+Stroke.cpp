@@ -154,7 +154,7 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
         _leafDrawView->drawWithEnd(point);  // which places the stroke, later
     } else {
         drawSegment(point, pressure, altitude, true, false, online);
-        finishLayers();
+        finishLayers(true);
     }
     _stroke = Stroke::none;
     tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point);
@@ -197,13 +197,13 @@ void QDDrawCanvas::takeSample(QPointF point, float pressure, float altitude) {
 }
 
 // Between strokes the layers are empty and the background is the canvas.
-void QDDrawCanvas::finishLayers() {
+void QDDrawCanvas::finishLayers(bool asStep) {
     mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
     clearExtenBuffer();
     // Also of a sub-line that was switched off in the middle of the stroke.
     mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
     clearSubBuffer();
-    updateBGImage();
+    updateBGImage(asStep ? autoMarked() : QByteArray());
 }
 
 // The background is to be the canvas with all that was drawn so far; the layers must not be composited once

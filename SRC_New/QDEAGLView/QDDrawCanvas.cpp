@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "ESRender/Utilities/ESResource.h"
+#include "History/ImagesUndoManager.h"
 #include "LineProcess/LPProperties.h"
 #include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
@@ -98,6 +99,7 @@ bool QDDrawCanvas::initData() {
     setTextureType(1);
     setHardness(0.0f);
     warmUp();
+    _edited = false;  // clearing it was no editing
     return true;
 }
 

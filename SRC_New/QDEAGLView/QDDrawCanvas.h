@@ -29,6 +29,7 @@ class ESImageRender;
 class ESLineRender;
 class LeafDrawing;
 class ESSmudgeRender;
+class ImagesUndoManager;
 
 // What strokes have cost so far; the seconds are only measured while profiling is on.
 struct StrokeStats {
@@ -97,10 +98,6 @@ public:
 
     QDDrawViewDelegate* delegate() const { return _delegate; }
     void setDelegate(QDDrawViewDelegate* delegate) { _delegate = delegate; }  // not owned; null for none
-
-    // Record an undo step at the end of every stroke. Nothing is recorded as long as a canvas has no history.
-    bool autoMark() const { return _autoMark; }
-    void setAutoMark(bool autoMark) { _autoMark = autoMark; }
 
     // For the host's own use, kept but never read here: whether the device's pressure is wanted, and which one
     // else.
@@ -299,6 +296,36 @@ public:
     void setCurImageData(const QByteArray& data) { _curImageData = data; }
     // Everything that was composited or placed since the last clear, in buffer pixels.
     QRectF drawRect() const { return _drawRect; }
+
+    // ---- History ----
+
+    // Steps are whole pictures of the canvas, as bytes: premultiplied RGBA, bottom row first, bufferSize() large. The
+    // first is the canvas as it was made; a host that prepares a picture first calls resetUndoManager() then. How many
+    // there are, and where they are kept, is undoManager()'s. Nothing of a history is made before it is asked for.
+
+    // Record a step at the end of every stroke, after every image placed and every clear.
+    bool autoMark() const { return _autoMark; }
+    void setAutoMark(bool autoMark) { _autoMark = autoMark; }
+    // Recorded by itself, steps are at least this many seconds apart; what is drawn in between goes into the next one.
+    float markTimeInterval() const { return _markTimeInterval; }
+    void setMarkTimeInterval(float seconds) { _markTimeInterval = seconds; }
+
+    // Records the canvas as a step and drops what was undone. Null, and nothing recorded, when nothing was drawn since
+    // the last one, or too shortly after it, or without the memory.
+    QByteArray markAction();
+    // Make the step before, or after, the canvas. Null, and nothing changed, when there is none, a stroke is in progress
+    // or a step is still being written to disk. A step that was lost clears the canvas, with a log line.
+    QByteArray undo();
+    QByteArray redo();
+    bool canUndo() const;
+    bool canRedo() const;
+    // Makes the present canvas the only step.
+    QByteArray resetUndoManager();
+    // Makes the history, if there is none yet, and gives the last step's picture.
+    QByteArray loadUndoManager();
+    // The last step's picture, or the canvas's where there is no step.
+    QImage currentImage();
+    ImagesUndoManager& undoManager() { return history(); }
 
     // ---- Measuring ----
 
@@ -555,7 +582,7 @@ private:
     void beginStroke(QPointF point, float pressure, float altitude);
     void startSubLine();
     void takeSample(QPointF point, float pressure, float altitude);
-    void finishLayers();
+    void finishLayers(bool asStep = false);
     void settleLayers();
     void withdrawStroke(QPointF point);
     void dropStroke();
@@ -583,11 +610,21 @@ private:
     void redisplayBufferRect(const QRectF& rect);
     void redisplayAll();
 
+    // The history
+    static constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;  // of the fixed message
+    struct UndoStatus;
+    qsizetype snapshotBytes() const;
+    QByteArray snapshot(int line);
+    ImagesUndoManager& history();
+    QByteArray autoMarked();
+    QByteArray step(bool (ImagesUndoManager::*go)());
+
     // Placing, in steps
     struct Source;
     bool placeInView(const Source& source, const QSizeF& size, const QPointF& centre, double radian,
                      bool isUndo);
     bool place(const Source& source, const QSizeF& size, const QPointF& centre, double radian, bool isUndo);
+    bool putOnCanvas(const Source& source, const QSizeF& size, const QPointF& centre, double radian);
     static QImage rowsOf(const Source& source, const QRect& part);
     void settleBeforePlacing();
     bool copyPlaced(const Source& source, const QRect& placed, const QRect& touched);
@@ -661,6 +698,9 @@ private:
     QImage _displayImage;
     bool _edited = false;
     bool _autoMark = false;
+    std::unique_ptr<ImagesUndoManager> _undoManager;
+    float _markTimeInterval = 0;  // seconds
+    double _preTimeInterval = 0;  // when the last step was recorded, in seconds since 1970
     bool _enableDevicePress = true;
     float _normalPress = 0.9f;
 

@@ -38,12 +38,16 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void drawViewDidDrawMove(QDDrawCanvas&, QPointF bufferPoint) override;
     void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) override;
+    void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool canUndo) override { emit canUndoChanged(canUndo); }
+    void drawViewDidUpdateRedoStatus(QDDrawCanvas&, bool canRedo) override { emit canRedoChanged(canRedo); }
 
 signals:
     void moved(QPointF bufferPoint);
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
     void strokeEnded();
+    void canUndoChanged(bool canUndo);
+    void canRedoChanged(bool canRedo);
     void picked(const QColor& color);
     void pickingChanged(bool picking);
 

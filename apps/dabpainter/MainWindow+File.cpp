@@ -61,6 +61,7 @@ bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)
     }
     _viewport->setView(std::move(made));
     _pointer->watchView();
+    startHistory();
     _driverLabel->setText(view()->rendererName());
     showCanvasFacts();
     return true;

@@ -48,6 +48,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts)
     addDockWidget(Qt::RightDockWidgetArea, _dock);
 
     makeFileMenu();
+    makeEditMenu();
     makeCanvasMenu();
     makeBrushMenu();
     makeViewMenu();
@@ -113,7 +114,7 @@ void MainWindow::makeFileMenu() {
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
     addTo(menu, tr("&Clear"), {key("Delete")}, [this] {
-        if (_pointer->isIdle() && (!isUnsaved() || _prompts.confirmClear(this)))
+        if (_pointer->isIdle())
             clearCanvas();
     });
 }

@@ -7,6 +7,8 @@
 #include "NewCanvasDialog.h"
 #include "Prompts.h"
 
+class QAction;
+class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
 class QLabel;
@@ -53,6 +55,7 @@ protected:
 
 private:
     void makeFileMenu();
+    void makeEditMenu();
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
@@ -70,6 +73,12 @@ private:
     void setPath(const QString& path);
     void markChanged();
     void markSaved();
+
+    // Edit
+    void startHistory();
+    void stepHistory(QByteArray (QDDrawCanvas::*step)());
+    int undoSteps() const;
+    void setUndoSteps(int steps);
 
     // Brush
     void stepRadius(int direction);
@@ -93,6 +102,7 @@ private:
     CanvasPointer* _pointer;
     BrushPanel* _panel;
     QDockWidget* _dock;
+    QAction *_undo, *_redo;
     QLabel *_sizeLabel, *_zoomLabel, *_positionLabel, *_pressureLabel, *_driverLabel;
     bool _brushRead = false;
     bool _wasMaximized = false;

@@ -39,16 +39,6 @@ UnsavedAnswer askUnsaved(QWidget* parent, const QString& name) {
     }
 }
 
-bool confirmClear(QWidget* parent) {
-    QMessageBox box(QMessageBox::Question, QString(), tr("Clear the whole canvas?"), QMessageBox::Cancel,
-                    parent);
-    box.setInformativeText(tr("It has changes that are not saved, and clearing cannot be taken back."));
-    QPushButton* clear = box.addButton(tr("Clear"), QMessageBox::AcceptRole);
-    box.setDefaultButton(clear);
-    box.exec();
-    return box.clickedButton() == clear;
-}
-
 QStringList pickImages(QWidget* parent, const QString& title, bool several) {
     if (several)
         return QFileDialog::getOpenFileNames(parent, title, QString(), imageFilter());
@@ -76,7 +66,7 @@ void tell(QWidget* parent, const QString& what) {
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved, confirmClear, pickImages, pickSaveName, pickColor, tell};
+    return {askUnsaved, pickImages, pickSaveName, pickColor, tell};
 }
 
 }  // namespace dabcanvas::dabpainter

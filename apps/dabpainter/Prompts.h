@@ -15,7 +15,6 @@ enum class UnsavedAnswer { save, discard, cancel };
 
 struct Prompts {
     std::function<UnsavedAnswer(QWidget*, const QString& name)> askUnsaved;
-    std::function<bool(QWidget*)> confirmClear;
     std::function<QStringList(QWidget*, const QString& title, bool several)> pickImages;
     std::function<QString(QWidget*, const QString& suggested)> pickSaveName;             // empty: given up
     std::function<QColor(QWidget*, const QColor& now, const QString& title)> pickColor;  // invalid: given up

@@ -253,6 +253,33 @@ TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
     EXPECT_EQ(_window->view()->image(), painted);
 }
 
+TEST_F(MainWindowTest, UndoAndRedoFollowTheCanvas) {
+    const auto action = [&](const char* text) {
+        for (QAction* one : _window->actions()) {
+            if (one->text() == QLatin1String(text))
+                return one;
+        }
+        return static_cast<QAction*>(nullptr);
+    };
+    QAction *undo = action("&Undo"), *redo = action("&Redo");
+    ASSERT_TRUE(undo && redo);
+    EXPECT_FALSE(undo->isEnabled());
+    const QImage blank = _window->view()->image();
+    paint();
+    const QImage stroke = _window->view()->image();
+    _window->clearCanvas();
+    undo->trigger();
+    EXPECT_EQ(_window->view()->image(), stroke);
+    EXPECT_TRUE(redo->isEnabled());
+    undo->trigger();
+    EXPECT_EQ(_window->view()->image(), blank) << "the background that it was made with";
+    EXPECT_FALSE(undo->isEnabled());
+    redo->trigger();
+    EXPECT_EQ(_window->view()->image(), stroke);
+    paint();
+    EXPECT_FALSE(redo->isEnabled());
+}
+
 }  // namespace
 
 }  // namespace dabcanvas::dabpainter

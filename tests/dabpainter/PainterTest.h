@@ -31,7 +31,6 @@ protected:
             ++_asked;
             return _answer;
         };
-        prompts.confirmClear = [](QWidget*) { return true; };
         prompts.pickImages = [this](QWidget*, const QString&, bool) { return _images; };
         prompts.pickSaveName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.pickColor = [](QWidget*, const QColor&, const QString&) { return QColor(40, 200, 120); };

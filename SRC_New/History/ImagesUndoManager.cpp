@@ -1,0 +1,502 @@
+// SPDX-License-Identifier: MIT
+#include "History/ImagesUndoManager.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QThread>
+#include <algorithm>
+#include <cstdlib>
+#include <new>
+#include <utility>
+
+#include "Brushes/ImageData.h"
+#include "History/BackgroundQueue.h"
+#include "History/Farthest.h"
+#include "History/HistoryLog.h"
+#include "History/Packing.h"
+#include "History/TempFolder.h"
+#include "Maths/Tools.h"
+
+Q_LOGGING_CATEGORY(lcHistory, "dabcanvas.history")
+
+namespace {
+
+constexpr unsigned kSteps = 100;
+constexpr std::size_t kFileThreads = 2;  // so that one slow write does not hold up the next
+constexpr qsizetype kWorthPacking = 4096;
+
+bool refused(const char* what) {
+    qCWarning(lcHistory, "An undo step needs an image: %s", what);
+    return false;
+}
+
+// Shares the data, or copies what somebody else may free; null when there is no memory for that.
+QByteArray ownedData(const QByteArray& data) {
+    QByteArray shared = data;
+    if (shared.data_ptr().d_ptr() != nullptr || shared.isEmpty()) {
+        return shared;
+    }
+    try {
+        return QByteArray(data.constData(), data.size());
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+// The application's end may come while the history goes on another thread.
+struct ImagesUndoManager::Quitting {
+    std::mutex mutex;
+    ImagesUndoManager* history;
+    QMetaObject::Connection connection;
+};
+
+// ---- Making and ending ----
+
+std::unique_ptr<ImagesUndoManager> ImagesUndoManager::init() {
+    return std::unique_ptr<ImagesUndoManager>(new ImagesUndoManager);
+}
+
+std::unique_ptr<ImagesUndoManager> ImagesUndoManager::initWithCurrentImageOfItem(const QImage& image) {
+    auto history = init();
+    history->setCurrentItemWithImage(image);
+    return history;
+}
+
+std::unique_ptr<ImagesUndoManager> ImagesUndoManager::initWithCurrentImageOfData(const QByteArray& data) {
+    auto history = init();
+    history->setCurrentItemWithImageData(data);
+    return history;
+}
+
+ImagesUndoManager::ImagesUndoManager(FileWriter writer)
+    : _writer(std::move(writer)),
+      _store([this](const QString& path, const QByteArray& data) { return writeIntoFolder(path, data); }),
+      _quitting(std::make_shared<Quitting>()),
+      _packing(std::make_unique<BackgroundQueue>(1)),
+      _files(std::make_unique<BackgroundQueue>(kFileThreads)) {
+    UndoManager::setUndoStepCount(kSteps);
+    startFolder();
+    _quitting->history = this;
+    if (const auto* application = QCoreApplication::instance()) {
+        _quitting->connection =
+            QObject::connect(application, &QCoreApplication::aboutToQuit, [quitting = _quitting] {
+                const std::lock_guard lock(quitting->mutex);
+                if (quitting->history) {
+                    quitting->history->clearAllTempFiles();
+                }
+            });
+    }
+}
+
+void ImagesUndoManager::startFolder() {
+    const QString caches = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    QString problem;
+    _folder = TempFolder::claimNumbered(caches, std::abs(Tools::randInteger() % 10000), &problem);
+    if (!_folder) {
+        qCWarning(lcHistory, "There is no folder for undo steps in \"%ls\" (%ls): they stay in memory",
+                  qUtf16Printable(caches), qUtf16Printable(problem));
+        return;
+    }
+    asynOperator([caches] { TempFolder::removeAbandoned(caches); });
+}
+
+ImagesUndoManager::~ImagesUndoManager() {
+    {
+        const std::lock_guard lock(_quitting->mutex);
+        _quitting->history = nullptr;
+    }
+    QObject::disconnect(_quitting->connection);
+    reset();
+    // What is still to be written is not wanted any more; deleting it is quicker than waiting for it.
+    removeImageWithNames(_store.names());
+    _packing.reset();
+    _files.reset();
+    _folder.reset();
+}
+
+// ---- Steps ----
+
+bool ImagesUndoManager::addItemWithImageData(const QByteArray& data) {
+    const QByteArray owned = ownedData(data);
+    if (owned.isNull()) {
+        return refused("these data are null");
+    }
+    const std::lock_guard lock(_operation);
+    const QStringList items = undoItems();
+    if (!items.isEmpty() && static_cast<std::uint64_t>(items.size()) >= undoStepCount()) {
+        dropOldestUndoItem();
+        letGoOfUnused({items.first()});
+    }
+    addItemWithString(Tools::dateString());
+    keepCurrent(owned);
+    return true;
+}
+
+bool ImagesUndoManager::addItemWithImage(const QImage& image) {
+    const QByteArray data = UIImagePNGRepresentation(image);
+    return data.isEmpty() ? refused("it cannot be encoded") : addItemWithImageData(data);
+}
+
+bool ImagesUndoManager::setCurrentItemWithImageData(const QByteArray& data) {
+    const QByteArray owned = ownedData(data);
+    if (owned.isNull()) {
+        return refused("these data are null");
+    }
+    const std::lock_guard lock(_operation);
+    keepCurrent(owned);
+    return true;
+}
+
+bool ImagesUndoManager::setCurrentItemWithImage(const QImage& image) {
+    if (image.isNull()) {
+        return refused("it is null");
+    }
+    const std::lock_guard lock(_operation);
+    const QString name = currentStringItem();
+    if (pathWithName(name).isNull()) {
+        return setCurrentItemWithImageData(UIImagePNGRepresentation(image));  // there is no file
+    }
+    startWrite(_store.write(name, pathWithName(name), std::make_shared<Snapshot>(image)));
+    return true;
+}
+
+bool ImagesUndoManager::resetWithImageDataOfCurrentItem(const QByteArray& data) {
+    const std::lock_guard lock(_operation);
+    reset();
+    return setCurrentItemWithImageData(data);
+}
+
+bool ImagesUndoManager::resetWithImageOfCurrentItem(const QImage& image) {
+    const std::lock_guard lock(_operation);
+    reset();
+    return setCurrentItemWithImage(image);
+}
+
+void ImagesUndoManager::keepCurrent(const QByteArray& data) {
+    const QString name = currentStringItem();
+    const QString path = pathWithName(name);
+    if (_maxCacheCount == 0 && !path.isNull()) {
+        startWrite(_store.write(name, path, std::make_shared<Snapshot>(data)));
+        return;
+    }
+    makeRoom(data.size() - _store.cachedBytesOf(name));
+    pack(_store.cache(name, data));
+}
+
+QByteArray ImagesUndoManager::currentImageDataOfItem() {
+    const std::lock_guard lock(_operation);
+    const QString name = currentStringItem();
+    const SnapshotStore::Read read = _store.read(name, pathWithName(name));
+    if (read.fromFile && !read.data.isNull() && _maxCacheCount != 0) {
+        makeRoom(read.data.size());
+        pack(_store.cacheFileContents(name, read.data));
+    }
+    return read.data;
+}
+
+QImage ImagesUndoManager::currentImageItem() const {
+    const std::lock_guard lock(_operation);
+    const QString path = currentPathOfItem();
+    return QFileInfo(path).isFile() ? imageWithContentsOfFile(path) : QImage();
+}
+
+QString ImagesUndoManager::currentPathOfItem() const {
+    const std::lock_guard lock(_operation);
+    const QString name = currentStringItem();
+    const QString written = _store.fileOf(name);  // perhaps while another extension was set
+    return written.isNull() ? pathWithName(name) : written;
+}
+
+bool ImagesUndoManager::addItemWithString(const QString& item) {
+    const std::lock_guard lock(_operation);
+    const QStringList before = undoItems();
+    const QStringList redone = redoItems();
+    if (!UndoManager::addItemWithString(item)) {
+        return false;
+    }
+    QStringList dropped = redone;
+    if (!before.isEmpty() && undoItems().size() <= before.size()) {
+        dropped.append(before.first());
+    }
+    letGoOfUnused(dropped);
+    return true;
+}
+
+bool ImagesUndoManager::undo() {
+    const std::lock_guard lock(_operation);
+    return UndoManager::undo();
+}
+
+bool ImagesUndoManager::redo() {
+    const std::lock_guard lock(_operation);
+    return UndoManager::redo();
+}
+
+void ImagesUndoManager::clearUndoItems() {
+    const std::lock_guard lock(_operation);
+    removeImageWithNames(undoItems());
+    UndoManager::clearUndoItems();
+}
+
+void ImagesUndoManager::clearRedoItems() {
+    const std::lock_guard lock(_operation);
+    removeImageWithNames(redoItems());
+    UndoManager::clearRedoItems();
+}
+
+void ImagesUndoManager::reset() {
+    const std::lock_guard lock(_operation);
+    UndoManager::reset();
+    letGoOfOthers();
+}
+
+void ImagesUndoManager::resetWithCurrentItem(const QString& item) {
+    const std::lock_guard lock(_operation);
+    UndoManager::resetWithCurrentItem(item);
+    letGoOfOthers();
+}
+
+// Items set by hand may stand in several places at once.
+void ImagesUndoManager::letGoOfUnused(const QStringList& names) {
+    const QStringList used = undoItems() + redoItems() + QStringList(currentStringItem());
+    QStringList unused;
+    for (const QString& name : names) {
+        if (!used.contains(name)) {
+            unused.append(name);
+        }
+    }
+    removeImageWithNames(unused);
+}
+
+// After a reset only the current image is reachable.
+void ImagesUndoManager::letGoOfOthers() {
+    QStringList names = _store.names();
+    names.removeAll(currentStringItem());
+    removeImageWithNames(names);
+}
+
+// ---- Limits ----
+
+void ImagesUndoManager::setUndoStepCount(unsigned count) {
+    const std::lock_guard lock(_operation);
+    UndoManager::setUndoStepCount(std::max(count, 1u));
+    _maxCacheCount = std::max(undoStepCount() / 2, 1u);
+}
+
+unsigned ImagesUndoManager::maxCacheCount() const {
+    const std::lock_guard lock(_operation);
+    return _maxCacheCount;
+}
+
+void ImagesUndoManager::setMaxCacheCount(unsigned count) {
+    const std::lock_guard lock(_operation);
+    _maxCacheCount = count;
+}
+
+int ImagesUndoManager::curCacheCount() const {
+    return _store.cachedCount();
+}
+
+qint64 ImagesUndoManager::cacheByteBudget() const {
+    const std::lock_guard lock(_operation);
+    return _cacheByteBudget;
+}
+
+void ImagesUndoManager::setCacheByteBudget(qint64 bytes) {
+    const std::lock_guard lock(_operation);
+    _cacheByteBudget = std::max<qint64>(bytes, 0);
+}
+
+qint64 ImagesUndoManager::cachedBytes() const {
+    return _store.cachedBytes();
+}
+
+void ImagesUndoManager::makeRoom(qint64 bytes) {
+    if (_maxCacheCount < static_cast<unsigned>(curCacheCount())) {
+        evictOne();
+    }
+    // Images that cannot be written come back to the cache: no more attempts than there are images.
+    for (int tries = curCacheCount();
+         tries > 0 && _cacheByteBudget > 0 && cachedBytes() + bytes > _cacheByteBudget && evictOne();
+         --tries) {
+    }
+}
+
+void ImagesUndoManager::removeOneObjectFromCache() {
+    const std::lock_guard lock(_operation);
+    evictOne();
+}
+
+bool ImagesUndoManager::evictOne() {
+    const QString name = farthestFrom(_store.cachedNames(), undoItems(), redoItems(), currentStringItem());
+    if (name.isNull() || pathWithName(name).isNull()) {
+        return false;
+    }
+    if (SnapshotStore::Task write = _store.evict(name, pathWithName(name))) {
+        startWrite(std::move(write));
+    }
+    return true;
+}
+
+void ImagesUndoManager::didReceiveMemoryWarning() {
+    const std::lock_guard lock(_operation);
+    evictOne();
+    evictOne();
+    _maxCacheCount = static_cast<unsigned>(std::max(curCacheCount(), 3) - 2);
+}
+
+void ImagesUndoManager::pack(const std::shared_ptr<Snapshot>& image) {
+    if (canPack() && image->heldBytes() >= kWorthPacking) {
+        _packing->run([weak = std::weak_ptr(image)] {
+            if (const auto still = weak.lock()) {
+                still->pack();
+            }
+        });
+    }
+}
+
+// ---- Files ----
+
+QString ImagesUndoManager::tempDirectory() const {
+    const std::lock_guard lock(_operation);
+    return _folder ? _folder->path() : QString();
+}
+
+bool ImagesUndoManager::setTempDirectory(const QString& path) {
+    const std::lock_guard lock(_operation);
+    QString problem;
+    if (_folder && QFileInfo(path).absoluteFilePath() == _folder->path()) {
+        return true;
+    }
+    auto folder = TempFolder::claim(path, &problem);
+    if (!folder) {
+        qCWarning(lcHistory, "Undo steps cannot be kept in \"%ls\": %ls", qUtf16Printable(path),
+                  qUtf16Printable(problem));
+        return false;
+    }
+    _files->wait();
+    _store.moveFiles(folder->path());
+    _folder = std::move(folder);
+    return true;
+}
+
+QString ImagesUndoManager::filePathExtension() const {
+    const std::lock_guard lock(_operation);
+    return _pathExtension;
+}
+
+void ImagesUndoManager::setFilePathExtension(const QString& extension) {
+    const std::lock_guard lock(_operation);
+    if (extension.contains(QLatin1Char('/')) || extension.contains(QChar(0))) {
+        qCWarning(lcHistory, "\"%ls\" is no file extension", qUtf16Printable(extension));
+        return;
+    }
+    _pathExtension = extension;
+}
+
+QString ImagesUndoManager::pathWithName(const QString& name) const {
+    const std::lock_guard lock(_operation);
+    if (!_folder || name.isEmpty() || name.contains(QLatin1Char('/')) || name.contains(QChar(0)) ||
+        name == QLatin1String(".") || name == QLatin1String("..")) {
+        return {};
+    }
+    const QString path = _folder->path() + QLatin1Char('/') + name;
+    return _pathExtension.isNull() ? path : path + QLatin1Char('.') + _pathExtension;
+}
+
+// The name whose file this path is, so that all that happens to the file is known in one place.
+QString ImagesUndoManager::nameOfPath(const QString& path) const {
+    QString name = QFileInfo(path).fileName();
+    if (!_pathExtension.isNull()) {
+        name.chop(_pathExtension.size() + 1);
+    }
+    return pathWithName(name) == path ? name : path;
+}
+
+void ImagesUndoManager::writeData(const QByteArray& data, const QString& path) {
+    const std::lock_guard lock(_operation);
+    if (path.isNull()) {
+        return;
+    }
+    const QString name = nameOfPath(path);
+    if (data.isNull()) {
+        startWrite(_store.remove({name}, [path](const QString&) { return path; }));
+        return;
+    }
+    const QByteArray owned = ownedData(data);
+    if (owned.isNull()) {
+        refused("there is no memory for these data");
+        return;
+    }
+    startWrite(_store.write(name, path, std::make_shared<Snapshot>(owned)));
+}
+
+void ImagesUndoManager::writeImage(const QImage& image, const QString& path) {
+    const std::lock_guard lock(_operation);
+    if (image.isNull()) {
+        writeData({}, path);
+    } else if (!path.isNull()) {
+        startWrite(_store.write(nameOfPath(path), path, std::make_shared<Snapshot>(image)));
+    }
+}
+
+void ImagesUndoManager::removeImageWithNames(const QStringList& names) {
+    const std::lock_guard lock(_operation);
+    if (!names.isEmpty()) {
+        asynOperator(_store.remove(names, [this](const QString& name) { return pathWithName(name); }));
+    }
+}
+
+void ImagesUndoManager::clearAllTempFiles() {
+    const std::lock_guard lock(_operation);
+    if (_folder) {
+        auto empty = _store.empty(_folder->path(), !_folder->madeHere());
+        asynOperator([empty = std::move(empty), folder = _folder.get()] {
+            empty();
+            folder->restore();
+        });
+    }
+    reset();
+}
+
+// The folder may have been cleared away under the history's feet: what is written from now on need not be lost.
+bool ImagesUndoManager::writeIntoFolder(const QString& path, const QByteArray& data) const {
+    return _writer(path, data) ||
+           (_folder && path.startsWith(_folder->path() + QLatin1Char('/')) &&
+            !QFileInfo::exists(_folder->path()) && _folder->restore() && _writer(path, data));
+}
+
+void ImagesUndoManager::startWrite(SnapshotStore::Task write) {
+    asynOperator([this, ticket = beginProcess(), write = std::move(write)] {
+        write();
+        endProcess(ticket);
+    });
+}
+
+void ImagesUndoManager::waitForWrites() {
+    {
+        const std::lock_guard lock(_operation);  // another thread may be writing itself
+    }
+    _files->wait();
+}
+
+void ImagesUndoManager::waitForCompression() {
+    _packing->wait();
+}
+
+bool ImagesUndoManager::isMainThread() const {
+    const auto* application = QCoreApplication::instance();
+    return application ? application->thread() == QThread::currentThread()
+                       : std::this_thread::get_id() == _maker;
+}
+
+void ImagesUndoManager::asynOperator(std::function<void()> task) {
+    if (isMainThread()) {
+        _files->run(std::move(task));
+    } else {
+        task();
+    }
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "History/Packing.h"
+
+#ifdef DABCANVAS_HAVE_LZ4
+#include <lz4.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+namespace {
+// Each block stands alone behind its compressed size: snapshots may be larger than LZ4 takes at once.
+constexpr qsizetype kBlock = 4 << 20;
+using BlockSize = std::int32_t;
+}  // namespace
+
+bool canPack() {
+    return true;
+}
+
+QByteArray packed(const QByteArray& raw) {
+    const qsizetype most = raw.size() / 4 * 3;
+    QByteArray result;
+    std::vector<char> block(static_cast<std::size_t>(LZ4_compressBound(static_cast<int>(kBlock))));
+    for (qsizetype at = 0; at < raw.size(); at += kBlock) {
+        const int length = static_cast<int>(std::min(kBlock, raw.size() - at));
+        const BlockSize size =
+            LZ4_compress_default(raw.constData() + at, block.data(), length, static_cast<int>(block.size()));
+        if (size <= 0 || result.size() + size > most) {
+            return {};
+        }
+        result.append(reinterpret_cast<const char*>(&size), sizeof size);
+        result.append(block.data(), size);
+    }
+    result.squeeze();
+    return result;
+}
+
+QByteArray unpacked(const QByteArray& packed, qsizetype rawSize) {
+    QByteArray raw(rawSize, Qt::Uninitialized);
+    qsizetype from = 0;
+    for (qsizetype to = 0; to < rawSize; to += kBlock) {
+        const int length = static_cast<int>(std::min(kBlock, rawSize - to));
+        BlockSize size = 0;
+        if (packed.size() - from < qsizetype{sizeof size}) {
+            return {};
+        }
+        std::memcpy(&size, packed.constData() + from, sizeof size);
+        from += sizeof size;
+        if (size <= 0 || size > packed.size() - from ||
+            LZ4_decompress_safe(packed.constData() + from, raw.data() + to, size, length) != length) {
+            return {};
+        }
+        from += size;
+    }
+    return raw;
+}
+#else
+bool canPack() {
+    return false;
+}
+QByteArray packed(const QByteArray&) {
+    return {};
+}
+QByteArray unpacked(const QByteArray&, qsizetype) {
+    return {};
+}
+#endif

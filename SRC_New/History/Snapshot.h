@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// One remembered image: bytes, held raw at first and perhaps compressed later, or a picture that becomes the bytes
+// of a PNG file when they are asked for.
+//
+// Units    bytes.
+// Thread   any; data() and pack() of one snapshot may run at once.
+// Errors   never throws: null data, with one log line, when memory cannot be had or the picture is none.
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <atomic>
+#include <mutex>
+
+class Snapshot {
+public:
+    explicit Snapshot(const QByteArray& raw) : _raw(raw), _held(raw.size()) {}
+    explicit Snapshot(const QImage& picture) : _picture(picture), _held(picture.sizeInBytes()) {}
+
+    // The bytes as they were given, never null for data that were not.
+    QByteArray data() const;
+    // Bytes of memory that this holds, whoever else shares them.
+    qint64 heldBytes() const { return _held; }
+    // Replaces the raw bytes by compressed ones where that saves enough memory. Takes long; data() goes on
+    // meanwhile. Does nothing in a build without LZ4.
+    void pack();
+
+private:
+    mutable std::mutex _mutex;
+    mutable QByteArray _raw;
+    QByteArray _packed;
+    qsizetype _rawSize = 0;  // of what is packed
+    mutable QImage _picture;
+    mutable std::atomic<qint64> _held;
+};

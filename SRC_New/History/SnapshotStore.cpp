@@ -1,0 +1,379 @@
+// SPDX-License-Identifier: MIT
+#include "History/SnapshotStore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <filesystem>
+#include <new>
+#include <utility>
+#include <vector>
+
+#include "History/HistoryLog.h"
+
+namespace {
+
+bool renameOver(const QString& from, const QString& to) {
+    std::error_code error;
+    std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), error);
+    return !error;
+}
+
+QByteArray contentsOf(const QString& path, qint64 expected, bool* whole) {
+    QFile file(path);
+    *whole = false;
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
+        (expected >= 0 && file.size() != expected)) {
+        return {};
+    }
+    QByteArray data(static_cast<qsizetype>(file.size()), Qt::Uninitialized);
+    *whole = file.read(data.data(), data.size()) == data.size();
+    return *whole ? data : QByteArray();
+}
+
+}  // namespace
+
+// Not forced onto the disk: after a crash of the machine the history is of no use.
+bool writeWholeFile(const QString& path, const QByteArray& data) {
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered) &&
+           file.write(data.constData(), data.size()) == data.size() && file.flush();
+}
+
+// ---- Memory ----
+
+std::shared_ptr<Snapshot> SnapshotStore::cache(const QString& name, const QByteArray& data) {
+    auto image = std::make_shared<Snapshot>(data);
+    const std::lock_guard lock(_mutex);
+    Record& record = cached(name, image);
+    record.ticket = ++_lastTicket;
+    record.fileSize = -1;
+    return image;
+}
+
+std::shared_ptr<Snapshot> SnapshotStore::cacheFileContents(const QString& name, const QByteArray& data) {
+    auto image = std::make_shared<Snapshot>(data);
+    const std::lock_guard lock(_mutex);
+    cached(name, image);
+    return image;
+}
+
+SnapshotStore::Record& SnapshotStore::cached(const QString& name, std::shared_ptr<Snapshot> image) {
+    Record& record = _records[name];
+    record.held = std::move(image);
+    if (record.place == 0) {
+        record.place = ++_lastPlace;
+        _order.emplace(record.place, name);
+    }
+    return record;
+}
+
+void SnapshotStore::uncache(Record& record) {
+    _order.erase(record.place);
+    record.formerPlace = std::exchange(record.place, 0);
+}
+
+QStringList SnapshotStore::cachedNames() const {
+    const std::lock_guard lock(_mutex);
+    QStringList names;
+    names.reserve(static_cast<qsizetype>(_order.size()));
+    for (const auto& [place, name] : _order) {
+        names.append(name);
+    }
+    return names;
+}
+
+int SnapshotStore::cachedCount() const {
+    const std::lock_guard lock(_mutex);
+    return static_cast<int>(_order.size());
+}
+
+qint64 SnapshotStore::cachedBytes() const {
+    const std::lock_guard lock(_mutex);
+    qint64 bytes = 0;
+    for (const auto& [place, name] : _order) {
+        bytes += _records.constFind(name)->held->heldBytes();
+    }
+    return bytes;
+}
+
+qint64 SnapshotStore::cachedBytesOf(const QString& name) const {
+    const std::lock_guard lock(_mutex);
+    const auto record = _records.constFind(name);
+    return record == _records.cend() || record->place == 0 ? 0 : record->held->heldBytes();
+}
+
+// ---- Disk ----
+
+SnapshotStore::Task SnapshotStore::evict(const QString& name, const QString& path) {
+    const std::lock_guard lock(_mutex);
+    const auto record = _records.find(name);
+    if (record == _records.end() || record->place == 0) {
+        return {};
+    }
+    if (record->fileSize >= 0 && QFileInfo(record->path).size() == record->fileSize) {
+        uncache(*record);
+        record->held.reset();
+        return {};
+    }
+    if (record->path.isNull()) {
+        record->path = path;
+    }
+    if (record->path.isNull()) {
+        return {};  // there is nowhere to write it to
+    }
+    uncache(*record);
+    return writing(name, *record, true);
+}
+
+SnapshotStore::Task SnapshotStore::write(const QString& name, const QString& path,
+                                         std::shared_ptr<Snapshot> image) {
+    const std::lock_guard lock(_mutex);
+    Record& record = _records[name];
+    if (record.place != 0) {
+        uncache(record);
+    }
+    record.held = std::move(image);
+    record.fileSize = -1;
+    if (record.path.isNull()) {
+        record.path = path;
+    }
+    return writing(name, record, name != path);
+}
+
+SnapshotStore::Task SnapshotStore::writing(const QString& name, Record& record, bool mayReturn) {
+    record.ticket = ++_lastTicket;
+    return [this, name, ticket = record.ticket, mayReturn] { runWrite(name, ticket, mayReturn); };
+}
+
+bool SnapshotStore::isCurrent(const QString& name, std::uint64_t ticket) const {
+    const auto record = _records.constFind(name);
+    return record != _records.cend() && record->ticket == ticket;
+}
+
+// The file grows under another name and takes its own only while nobody has asked for anything newer.
+void SnapshotStore::runWrite(const QString& name, std::uint64_t ticket, bool mayReturn) {
+    std::shared_ptr<Snapshot> image;
+    QString path;
+    {
+        const std::lock_guard lock(_mutex);
+        if (!isCurrent(name, ticket)) {
+            return;
+        }
+        const Record& record = *_records.constFind(name);
+        image = record.held;
+        path = record.path;
+    }
+    const QString part = QStringLiteral("%1.%2.part").arg(path).arg(ticket);
+    const QByteArray data = image->data();
+    bool done = !data.isNull() && _writer(part, data);
+
+    const std::lock_guard disk(_disk);
+    {
+        const std::lock_guard lock(_mutex);
+        if (!isCurrent(name, ticket)) {
+            QFile::remove(part);
+            return;
+        }
+    }
+    done = done && renameOver(part, path);
+    if (!done) {
+        QFile::remove(part);
+    }
+    const std::lock_guard lock(_mutex);
+    if (!isCurrent(name, ticket)) {
+        return;  // whoever asked for something newer waits for the disk now
+    }
+    if (!done) {
+        failed(name, path, mayReturn);
+    } else if (mayReturn) {
+        Record& record = _records[name];
+        record.fileSize = data.size();
+        record.held.reset();
+        _saidFull = false;
+    } else {
+        _records.remove(name);
+    }
+}
+
+void SnapshotStore::failed(const QString& name, const QString& path, bool mayReturn) {
+    if (!mayReturn) {
+        qCWarning(lcHistory, "%ls cannot be written", qUtf16Printable(path));
+        _records.remove(name);
+        return;
+    }
+    if (!std::exchange(_saidFull, true)) {
+        qCWarning(lcHistory, "%ls cannot be written; undo steps stay in memory until it can",
+                  qUtf16Printable(path));
+    }
+    Record& record = _records[name];
+    record.place = record.formerPlace != 0 ? record.formerPlace : ++_lastPlace;
+    _order.emplace(record.place, name);
+}
+
+SnapshotStore::Task SnapshotStore::remove(const QStringList& names,
+                                          const std::function<QString(const QString&)>& pathOf) {
+    struct Gone {
+        QString name, path;
+        std::uint64_t ticket;
+    };
+    std::vector<Gone> all;
+    {
+        const std::lock_guard lock(_mutex);
+        for (const QString& name : names) {
+            Record& record = _records[name];
+            if (record.place != 0) {
+                uncache(record);
+            }
+            const QString path = record.path.isNull() ? pathOf(name) : record.path;
+            record = Record();
+            record.path = path;  // kept until the file has gone, as the name may come back before
+            record.ticket = ++_lastTicket;
+            all.push_back({name, path, record.ticket});
+        }
+    }
+    return [this, all = std::move(all)] {
+        for (const Gone& gone : all) {
+            const std::lock_guard disk(_disk);
+            {
+                const std::lock_guard lock(_mutex);
+                if (!isCurrent(gone.name, gone.ticket)) {
+                    continue;
+                }
+            }
+            if (!gone.path.isNull() && !QFileInfo(gone.path).isDir()) {
+                QFile::remove(gone.path);
+            }
+            const std::lock_guard lock(_mutex);
+            if (isCurrent(gone.name, gone.ticket)) {
+                _records.remove(gone.name);
+            }
+        }
+    };
+}
+
+SnapshotStore::Task SnapshotStore::empty(const QString& folder, bool onlyOwn) {
+    QStringList paths;
+    std::uint64_t before = 0;
+    {
+        const std::lock_guard lock(_mutex);
+        before = ++_lastTicket;
+        for (auto record = _records.begin(); record != _records.end(); ++record) {
+            if (record->path == record.key()) {
+                continue;  // somebody's own file
+            }
+            if (!record->path.isNull()) {
+                paths.append(record->path);
+            }
+            if (record->held && record->place == 0) {  // on its way to the disk: turn back
+                record->place = record->formerPlace != 0 ? record->formerPlace : ++_lastPlace;
+                _order.emplace(record->place, record.key());
+            }
+            record->ticket = before;
+            record->fileSize = -1;
+        }
+        _records.removeIf([](const auto& record) { return !record.value().held; });
+    }
+    if (!onlyOwn) {
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        for (const QFileInfo& entry : QDir(folder).entryInfoList(all)) {
+            paths.append(entry.filePath());
+        }
+    }
+    return [this, paths, before] {
+        const std::lock_guard disk(_disk);
+        QStringList newer;
+        {
+            const std::lock_guard lock(_mutex);
+            for (const Record& record : std::as_const(_records)) {
+                if (record.ticket > before && record.fileSize >= 0) {
+                    newer.append(record.path);
+                }
+            }
+        }
+        for (const QString& path : paths) {
+            if (newer.contains(path)) {
+                continue;
+            }
+            const QFileInfo info(path);
+            if (info.isDir() && !info.isSymLink()) {
+                QDir(path).removeRecursively();
+            } else {
+                QFile::remove(path);
+            }
+        }
+    };
+}
+
+void SnapshotStore::moveFiles(const QString& toFolder) {
+    const std::lock_guard disk(_disk);
+    const std::lock_guard lock(_mutex);
+    for (auto record = _records.begin(); record != _records.end(); ++record) {
+        if (record->path == record.key()) {
+            continue;  // somebody's own file
+        }
+        const QString path = toFolder + QLatin1Char('/') + QFileInfo(record->path).fileName();
+        if (record->fileSize >= 0 && QFile::rename(record->path, path)) {
+            record->path = path;
+            continue;
+        }
+        if (record->fileSize >= 0 && !record->held) {
+            qCWarning(lcHistory, "%ls cannot be moved: this undo step is lost",
+                      qUtf16Printable(record->path));
+        }
+        record->fileSize = -1;
+        record->path.clear();
+    }
+}
+
+// ---- Reading ----
+
+SnapshotStore::Read SnapshotStore::read(const QString& name, const QString& fallback) const {
+    std::shared_ptr<Snapshot> image;
+    QString path = fallback;
+    qint64 size = -1;
+    {
+        const std::lock_guard lock(_mutex);
+        const auto record = _records.constFind(name);
+        if (record != _records.cend()) {
+            image = record->held;
+            path = record->path.isNull() ? fallback : record->path;
+            size = record->fileSize;
+        }
+    }
+    if (image) {
+        return {image->data(), false};
+    }
+    if (path.isNull() || (size < 0 && !QFileInfo(path).isFile())) {
+        return {};
+    }
+    try {
+        bool whole = false;
+        Read read{contentsOf(path, size, &whole), true};
+        if (!whole) {
+            qCWarning(lcHistory, "%ls is gone or damaged: this undo step is lost", qUtf16Printable(path));
+        }
+        return read;
+    } catch (const std::bad_alloc&) {
+        qCWarning(lcHistory, "There is no memory to read %ls", qUtf16Printable(path));
+        return {};
+    }
+}
+
+QString SnapshotStore::fileOf(const QString& name) const {
+    const std::lock_guard lock(_mutex);
+    const auto record = _records.constFind(name);
+    return record != _records.cend() && record->fileSize >= 0 ? record->path : QString();
+}
+
+QStringList SnapshotStore::names() const {
+    const std::lock_guard lock(_mutex);
+    QStringList names;
+    for (auto record = _records.cbegin(); record != _records.cend(); ++record) {
+        if (record->path != record.key()) {
+            names.append(record.key());
+        }
+    }
+    return names;
+}

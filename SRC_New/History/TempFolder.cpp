@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+#include "History/TempFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSysInfo>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#endif
+
+namespace {
+
+constexpr int kNumbers = 10000;
+
+QString lockPathOf(const QString& folder) {
+    return folder + QLatin1String(".lock");
+}
+
+bool makeFolder(const QString& path) {
+#ifdef Q_OS_UNIX
+    return ::mkdir(QFile::encodeName(path).constData(), 0700) ==
+           0;  // the pictures are nobody else's business
+#else
+    return QDir().mkdir(path);
+#endif
+}
+
+void removeFolder(const QString& path) {
+    const QFileInfo info(path);
+    if (info.isDir() && !info.isSymLink()) {
+        QDir(path).removeRecursively();
+    }
+}
+
+}  // namespace
+
+#ifdef Q_OS_UNIX
+namespace {
+
+// Who made the folder: a lock held on another machine may look free from here.
+QByteArray ownerText(bool made) {
+    return (made ? "made " : "found ") + QSysInfo::machineUniqueId() + ' ' +
+           QSysInfo::machineHostName().toUtf8() + '\n';
+}
+
+bool isStillAt(int file, const QByteArray& path) {
+    struct stat opened {};
+    struct stat there {};
+    return ::fstat(file, &opened) == 0 && ::lstat(path.constData(), &there) == 0 &&
+           opened.st_ino == there.st_ino && opened.st_dev == there.st_dev;
+}
+
+bool isMine(int file) {
+    struct stat info {};
+    return ::fstat(file, &info) == 0 && S_ISREG(info.st_mode) && info.st_uid == ::geteuid();
+}
+
+QByteArray textIn(int file) {
+    char text[512];
+    const ssize_t length = ::pread(file, text, sizeof text, 0);
+    return length > 0 ? QByteArray(text, static_cast<qsizetype>(length)) : QByteArray();
+}
+
+}  // namespace
+
+// The file is made by whoever has the folder, never taken over: so nobody can mistake a dead one's for his own.
+bool TempFolder::lock(bool made, QString* problem) {
+    const QByteArray path = QFile::encodeName(lockPathOf(_path));
+    const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (file < 0) {
+        if (errno != EEXIST) {
+            *problem = QString::fromLocal8Bit(std::strerror(errno));
+        }
+        return false;
+    }
+    // A file system without locks refuses them with other errors; then the file alone is the claim.
+    const bool taken = ::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (taken || !isStillAt(file, path)) {
+        ::close(file);  // somebody who clears up got hold of it before it was locked, and removes it
+        return false;
+    }
+    const QByteArray owner = ownerText(made);
+    if (::write(file, owner.constData(), static_cast<std::size_t>(owner.size())) != owner.size() ||
+        ::fsync(file) != 0) {
+        *problem = QString::fromLocal8Bit(std::strerror(errno));
+        ::unlink(path.constData());
+        ::close(file);
+        return false;
+    }
+    _lockFile = file;
+    return true;
+}
+
+void TempFolder::unlock() {
+    if (_lockFile >= 0) {
+        const QByteArray path = QFile::encodeName(lockPathOf(_path));
+        if (isStillAt(_lockFile, path)) {
+            ::unlink(path.constData());
+        }
+        ::close(_lockFile);
+        _lockFile = -1;
+    }
+}
+
+// Whether a process lives is not asked by its number, which another may have by now: only the lock tells, and the
+// system takes it from the dead.
+void TempFolder::removeIfAbandoned(const QString& path) {
+    const QByteArray lockPath = QFile::encodeName(lockPathOf(path));
+    const int file = ::open(lockPath.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    if (file < 0) {
+        return;
+    }
+    if (isMine(file) && ::flock(file, LOCK_EX | LOCK_NB) == 0 && isStillAt(file, lockPath)) {
+        const QByteArray owner = textIn(file);
+        const bool made = owner == ownerText(true);
+        if (made) {
+            removeFolder(path);
+        }
+        if (made || owner == ownerText(false) || (owner.isEmpty() && !QFileInfo::exists(path))) {
+            ::unlink(lockPath.constData());
+        }
+    }
+    ::close(file);
+}
+#else
+bool TempFolder::lock(bool, QString* problem) {
+    _lock = std::make_unique<QLockFile>(lockPathOf(_path));
+    _lock->setStaleLockTime(0);  // age says nothing; Qt still recognises the dead
+    if (_lock->tryLock(0)) {
+        return true;
+    }
+    if (_lock->error() != QLockFile::LockFailedError) {
+        *problem = QStringLiteral("its lock file cannot be made");
+    }
+    _lock.reset();
+    return false;
+}
+
+void TempFolder::unlock() {
+    _lock.reset();
+}
+
+void TempFolder::removeIfAbandoned(const QString& path) {
+    QLockFile lock(lockPathOf(path));
+    lock.setStaleLockTime(0);
+    if (QFileInfo::exists(lockPathOf(path)) && lock.tryLock(0)) {
+        removeFolder(path);
+    }
+}
+#endif
+
+TempFolder::~TempFolder() {
+    if (_madeHere) {
+        removeFolder(_path);
+    }
+    unlock();
+}
+
+bool TempFolder::restore() const {
+    return QFileInfo(_path).isDir() || (QDir().mkpath(QFileInfo(_path).path()) && makeFolder(_path));
+}
+
+std::unique_ptr<TempFolder> TempFolder::claimOne(const QString& path, bool mayStandThere, QString* problem) {
+    auto folder = std::unique_ptr<TempFolder>(new TempFolder);
+    folder->_path = path;
+    const bool found = QFileInfo(path).isDir();
+    if ((found && !mayStandThere) || !folder->lock(!found, problem)) {
+        return nullptr;
+    }
+    folder->_madeHere = !found && makeFolder(path);
+    if (found || folder->_madeHere) {
+        return folder;
+    }
+    if (!QFileInfo::exists(path)) {
+        *problem = QStringLiteral("it cannot be made");
+    }
+    return nullptr;
+}
+
+std::unique_ptr<TempFolder> TempFolder::claim(const QString& path, QString* problem) {
+    problem->clear();
+    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    if (path.isEmpty() || path.contains(QChar(0)) || QFileInfo(absolute).fileName().isEmpty()) {
+        *problem = QStringLiteral("this is not a path of a folder");
+        return nullptr;
+    }
+    if (!QDir().mkpath(QFileInfo(absolute).path())) {
+        *problem = QStringLiteral("the folder above it cannot be made");
+        return nullptr;
+    }
+#ifdef Q_OS_UNIX  // elsewhere nothing tells what was made from what was found
+    removeIfAbandoned(absolute);
+#endif
+    auto folder = claimOne(absolute, true, problem);
+    if (!folder && problem->isEmpty()) {
+        *problem = QStringLiteral("it is in use, or no folder");
+    }
+    return folder;
+}
+
+std::unique_ptr<TempFolder> TempFolder::claimNumbered(const QString& parent, int number, QString* problem) {
+    problem->clear();
+    if (parent.isEmpty() || !QDir().mkpath(parent)) {
+        *problem = QStringLiteral("the folder above it cannot be made");
+        return nullptr;
+    }
+    // The generator is not seeded, so other processes ask for the same number: the next free one does as well.
+    for (int i = 0; i < kNumbers; ++i) {
+        const int digits = (number % kNumbers + i) % kNumbers;
+        auto folder =
+            claimOne(QStringLiteral("%1/TempDirectory%2").arg(parent).arg(digits, 4, 10, QLatin1Char('0')),
+                     false, problem);
+        if (folder || !problem->isEmpty()) {
+            return folder;
+        }
+    }
+    *problem = QStringLiteral("all its numbers are taken");
+    return nullptr;
+}
+
+void TempFolder::removeAbandoned(const QString& parent) {
+    const QStringList locks = QDir(parent).entryList(
+        {QStringLiteral("TempDirectory[0-9][0-9][0-9][0-9].lock")}, QDir::Files | QDir::System);
+    for (const QString& lock : locks) {
+        removeIfAbandoned(parent + QLatin1Char('/') + lock.chopped(5));
+    }
+}

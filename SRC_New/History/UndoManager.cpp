@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "History/UndoManager.h"
+
+namespace {
+
+constexpr std::uint64_t kCountBits = 0xffffffffu;
+
+// The semaphore for one scope.
+class Compound {
+public:
+    explicit Compound(QSemaphore& semaphore) : _semaphore(semaphore) { _semaphore.acquire(); }
+    ~Compound() { _semaphore.release(); }
+    Compound(const Compound&) = delete;
+    Compound& operator=(const Compound&) = delete;
+
+private:
+    QSemaphore& _semaphore;
+};
+
+}  // namespace
+
+std::unique_ptr<UndoManager> UndoManager::init() {
+    return std::unique_ptr<UndoManager>(new UndoManager);
+}
+
+std::unique_ptr<UndoManager> UndoManager::initWithCurrentItem(const QString& item) {
+    auto manager = init();
+    manager->setCurrentItem(item);
+    return manager;
+}
+
+QString UndoManager::currentStringItem() const {
+    const std::lock_guard lock(_fields);
+    return _selectItem;
+}
+
+void UndoManager::setCurrentItem(const QString& item) {
+    if (item.isNull()) {
+        return;
+    }
+    const std::lock_guard lock(_fields);
+    _selectItem = item;
+}
+
+QStringList UndoManager::undoItems() const {
+    const std::lock_guard lock(_fields);
+    return _undoItems;
+}
+
+QStringList UndoManager::redoItems() const {
+    const std::lock_guard lock(_fields);
+    return _redoItems;
+}
+
+bool UndoManager::canUndo() const {
+    const std::lock_guard lock(_fields);
+    return !_undoItems.isEmpty();
+}
+
+bool UndoManager::canRedo() const {
+    const std::lock_guard lock(_fields);
+    return !_redoItems.isEmpty();
+}
+
+bool UndoManager::addItemWithString(const QString& item) {
+    if (item.isNull()) {
+        return false;
+    }
+    const Compound compound(_itemAccessSemaphore);
+    const std::lock_guard lock(_fields);
+    // Deliberate: one item an add, so a lowered step count takes effect gradually; and a count of 0 keeps one.
+    if (!_undoItems.isEmpty() && static_cast<std::uint64_t>(_undoItems.size()) >= _undoStepCount) {
+        _undoItems.removeFirst();
+    }
+    _undoItems.append(_selectItem);
+    _selectItem = item;
+    _redoItems.clear();
+    return true;
+}
+
+void UndoManager::dropOldestUndoItem() {
+    const Compound compound(_itemAccessSemaphore);
+    const std::lock_guard lock(_fields);
+    _undoItems.removeFirst();
+}
+
+bool UndoManager::undo() {
+    return step(_undoItems, _redoItems);
+}
+
+bool UndoManager::redo() {
+    return step(_redoItems, _undoItems);
+}
+
+bool UndoManager::step(QStringList& from, QStringList& to) {
+    const Compound compound(_itemAccessSemaphore);
+    const std::lock_guard lock(_fields);
+    if (from.isEmpty() || processCount() != 0) {
+        return false;
+    }
+    to.append(_selectItem);
+    _selectItem = from.takeLast();
+    return true;
+}
+
+void UndoManager::clearUndoItems() {
+    const std::lock_guard lock(_fields);
+    _undoItems.clear();
+}
+
+void UndoManager::clearRedoItems() {
+    const std::lock_guard lock(_fields);
+    _redoItems.clear();
+}
+
+void UndoManager::reset() {
+    const Compound compound(_itemAccessSemaphore);
+    clearUndoItems();
+    clearRedoItems();
+    forgetProcesses();
+}
+
+void UndoManager::resetWithCurrentItem(const QString& item) {
+    const Compound compound(_itemAccessSemaphore);
+    clearUndoItems();
+    setCurrentItem(item);
+    clearRedoItems();
+    forgetProcesses();
+}
+
+unsigned UndoManager::processCount() const {
+    return static_cast<unsigned>(_processes & kCountBits);
+}
+
+UndoManager::ProcessTicket UndoManager::beginProcess() {
+    return static_cast<ProcessTicket>(++_processes >> 32);
+}
+
+void UndoManager::endProcess(ProcessTicket ticket) {
+    std::uint64_t seen = _processes;
+    while (seen >> 32 == ticket && (seen & kCountBits) != 0 &&
+           !_processes.compare_exchange_weak(seen, seen - 1)) {
+    }
+}
+
+void UndoManager::forgetProcesses() {
+    std::uint64_t seen = _processes;
+    while (!_processes.compare_exchange_weak(seen, ((seen >> 32) + 1) << 32)) {
+    }
+}

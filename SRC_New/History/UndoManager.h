@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// An undo history of strings: a current item, the earlier ones and the undone ones.
+//
+// Thread   any. add, undo, redo and the resets exclude each other; queries do not wait for them.
+// Errors   never throws. A null string is no item: false, or nothing happens. An empty string is one.
+#pragma once
+
+#include <QSemaphore>
+#include <QString>
+#include <QStringList>
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+
+class UndoManager {
+public:
+    // Empty stacks, the current item "InitString", or the one given. The step count is 0: set it first, as with 0
+    // at most one undo item is ever kept.
+    static std::unique_ptr<UndoManager> init();
+    static std::unique_ptr<UndoManager> initWithCurrentItem(const QString& item);
+
+    virtual ~UndoManager() = default;
+    UndoManager(const UndoManager&) = delete;
+    UndoManager& operator=(const UndoManager&) = delete;
+
+    QString currentStringItem() const;
+    void setCurrentItem(const QString& item);
+    QStringList undoItems() const;  // oldest first
+    QStringList redoItems() const;  // the one undone last stands last
+
+    // The current item becomes the last undo item, `item` the current one; what could be redone is dropped. When
+    // the step count is reached, one undo item, the oldest, is dropped.
+    virtual bool addItemWithString(const QString& item);
+    bool canUndo() const;
+    bool canRedo() const;
+    // False, and nothing changed, when there is nothing to undo or processCount() is not 0.
+    virtual bool undo();
+    virtual bool redo();
+
+    // The most undo items wanted. Lowering it drops nothing at once.
+    unsigned undoStepCount() const { return _undoStepCount; }
+    virtual void setUndoStepCount(unsigned count) { _undoStepCount = count; }
+
+    virtual void clearUndoItems();
+    virtual void clearRedoItems();
+    // Clears both stacks and sets processCount() to 0; the current item stays, or becomes `item`.
+    virtual void reset();
+    virtual void resetWithCurrentItem(const QString& item);
+
+    // How many background operations run that undo and redo must not overtake. One that a reset overtook no longer
+    // counts: its end lowers nothing.
+    unsigned processCount() const;
+    using ProcessTicket = std::uint32_t;
+    ProcessTicket beginProcess();
+    void endProcess(ProcessTicket ticket);  // once for each beginProcess(), on any thread
+
+protected:
+    UndoManager() = default;
+    void dropOldestUndoItem();  // of at least one
+
+private:
+    bool step(QStringList& from, QStringList& to);
+    void forgetProcesses();
+
+    QSemaphore _itemAccessSemaphore{1};  // held for the length of a compound change
+    mutable std::mutex _fields;          // held for moments: guards the three below
+    QStringList _undoItems;
+    QStringList _redoItems;
+    QString _selectItem = QStringLiteral("InitString");
+    std::atomic<std::uint64_t> _processes{0};  // high half: resets so far, low half: the count
+    std::atomic<unsigned> _undoStepCount{0};
+};

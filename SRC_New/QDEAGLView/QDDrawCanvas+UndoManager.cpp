@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+// Undo and redo: whole pictures of the canvas, kept by an ImagesUndoManager.
+#include <QDateTime>
+#include <cstdio>
+#include <new>
+#include <utility>
+
+#include "History/ImagesUndoManager.h"
+#include "QDEAGLView/LeafDrawing.h"
+#include "QDEAGLView/QDDrawCanvasScopes.h"
+
+namespace {
+
+double now() {
+    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000;
+}
+
+// Null when memory is short.
+QByteArray bytesOf(qsizetype size) {
+    try {
+        return QByteArray(size, '\0');
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
+void tellNoMemory(int line) {
+    std::printf("创建数据失败(%s:%d)!", "SRC_New/QDEAGLView/QDDrawView", line);
+}
+
+}  // namespace
+
+// Notes whether undo and redo are possible, and tells the delegate of what has changed meanwhile.
+struct QDDrawCanvas::UndoStatus {
+    explicit UndoStatus(QDDrawCanvas& canvas)
+        : _canvas(canvas), _canUndo(canvas.canUndo()), _canRedo(canvas.canRedo()) {}
+    ~UndoStatus() {
+        if (_canvas._delegate != nullptr && _canvas.canUndo() != _canUndo) {
+            _canvas._delegate->drawViewDidUpdateUndoStatus(_canvas, !_canUndo);
+        }
+        if (_canvas._delegate != nullptr && _canvas.canRedo() != _canRedo) {
+            _canvas._delegate->drawViewDidUpdateRedoStatus(_canvas, !_canRedo);
+        }
+    }
+    UndoStatus(const UndoStatus&) = delete;
+    UndoStatus& operator=(const UndoStatus&) = delete;
+
+private:
+    QDDrawCanvas& _canvas;
+    bool _canUndo, _canRedo;
+};
+
+qsizetype QDDrawCanvas::snapshotBytes() const {
+    return qsizetype{_esContext->backingWidth()} * _esContext->backingHeight() * 4;
+}
+
+// The canvas's pixels, bottom row first; null, with the fixed message, when there is no memory for them.
+QByteArray QDDrawCanvas::snapshot(int line) {
+    QByteArray data = bytesOf(snapshotBytes());
+    if (data.isNull()) {
+        tellNoMemory(line);
+        return {};
+    }
+    const QRectF whole(QPointF(0, 0), bufferSize());
+    if (!readDataBufferRect(reinterpret_cast<unsigned char*>(data.data()), whole)) {
+        return {};
+    }
+    return data;
+}
+
+// The history begins with the canvas as it was made. That was transparent, so nothing need be read, and a canvas whose
+// history nobody asks for has none.
+ImagesUndoManager& QDDrawCanvas::history() {
+    if (_undoManager == nullptr) {
+        const QByteArray blank = bytesOf(snapshotBytes());
+        if (blank.isNull()) {
+            tellNoMemory(kLoadLine);
+            _undoManager = ImagesUndoManager::init();
+        } else {
+            _undoManager = ImagesUndoManager::initWithCurrentImageOfData(blank);
+            _undoManager->resetWithImageDataOfCurrentItem(blank);
+        }
+        _curImageData = blank;
+        _undoManager->setFilePathExtension({});  // raw pixels
+        _markTimeInterval = 0;
+        _preTimeInterval = now();
+    }
+    return *_undoManager;
+}
+
+QByteArray QDDrawCanvas::loadUndoManager() {
+    history();
+    return _curImageData;
+}
+
+QByteArray QDDrawCanvas::resetUndoManager() {
+    _leafDrawView->finishPending();
+    ImagesUndoManager& images = history();
+    const UndoStatus status(*this);
+    const QByteArray data = snapshot(kResetLine);
+    if (data.isNull()) {
+        images.resetWithImageDataOfCurrentItem(images.currentImageDataOfItem());
+        return {};
+    }
+    _curImageData = data;
+    _edited = false;
+    images.resetWithImageDataOfCurrentItem(data);
+    return data;
+}
+
+QByteArray QDDrawCanvas::markAction() {
+    const double time = now();
+    if (!_edited || (_autoMark && time - _preTimeInterval < static_cast<double>(_markTimeInterval) &&
+                     time >= _preTimeInterval)) {
+        return {};
+    }
+    ImagesUndoManager& images = history();
+    _preTimeInterval = time;
+    const UndoStatus status(*this);
+    QByteArray data = snapshot(kMarkLine);
+    if (data.isNull()) {
+        qCWarning(lcDabcanvas, "Create Buffer Error!");
+        return {};
+    }
+    _curImageData = data;
+    _edited = false;
+    images.addItemWithImageData(data);
+    return data;
+}
+
+// The mark of a step that has just been drawn; null where none is to be recorded.
+QByteArray QDDrawCanvas::autoMarked() {
+    return _autoMark ? markAction() : QByteArray();
+}
+
+QImage QDDrawCanvas::currentImage() {
+    return _curImageData.isEmpty()
+               ? image()
+               : ESContext::imageWithData(reinterpret_cast<const unsigned char*>(_curImageData.constData()),
+                                          bufferSize());
+}
+
+bool QDDrawCanvas::canUndo() const {
+    return _undoManager != nullptr && _undoManager->canUndo();
+}
+
+bool QDDrawCanvas::canRedo() const {
+    return _undoManager != nullptr && _undoManager->canRedo();
+}
+
+QByteArray QDDrawCanvas::undo() {
+    _leafDrawView->finishPending();
+    return _stroke != Stroke::drawing && canUndo() ? step(&ImagesUndoManager::undo) : QByteArray();
+}
+
+QByteArray QDDrawCanvas::redo() {
+    _leafDrawView->finishPending();
+    return _stroke != Stroke::drawing && canRedo() ? step(&ImagesUndoManager::redo) : QByteArray();
+}
+
+QByteArray QDDrawCanvas::step(bool (ImagesUndoManager::*go)()) {
+    const UndoStatus status(*this);
+    if (!(_undoManager.get()->*go)()) {
+        return {};
+    }
+    const QByteArray data = _undoManager->currentImageDataOfItem();
+    if (data.size() == snapshotBytes()) {
+        _curImageData = data;
+        const QSizeF size = bufferSize();
+        setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true);
+        if (isSmudgeType()) {
+            updateSmudgeBGTexture();
+        }
+    } else {
+        qCWarning(lcDabcanvas, "a step of the history is lost; the canvas is cleared");
+        const bool marks = std::exchange(_autoMark, false);  // clearing is no step of its own here
+        clear();
+        _autoMark = marks;
+    }
+    return _curImageData;
+}
