@@ -3,10 +3,13 @@
 
 #include <QColorDialog>
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QImageReader>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QUrl>
 
 namespace dabcanvas::dabpainter {
 
@@ -39,14 +42,18 @@ UnsavedAnswer askUnsaved(QWidget* parent, const QString& name) {
     }
 }
 
-bool confirmClear(QWidget* parent) {
-    QMessageBox box(QMessageBox::Question, QString(), tr("Clear the whole canvas?"), QMessageBox::Cancel,
-                    parent);
-    box.setInformativeText(tr("It has changes that are not saved, and clearing cannot be taken back."));
-    QPushButton* clear = box.addButton(tr("Clear"), QMessageBox::AcceptRole);
-    box.setDefaultButton(clear);
+bool confirm(QWidget* parent, const QString& question, const QString& detail, const QString& button) {
+    QMessageBox box(QMessageBox::Question, QString(), question, QMessageBox::Cancel, parent);
+    box.setInformativeText(detail);
+    QPushButton* yes = box.addButton(button, QMessageBox::AcceptRole);
+    box.setDefaultButton(yes);
     box.exec();
-    return box.clickedButton() == clear;
+    return box.clickedButton() == yes;
+}
+
+bool confirmClear(QWidget* parent) {
+    return confirm(parent, tr("Clear the whole canvas?"),
+                   tr("It has changes that are not saved, and clearing cannot be taken back."), tr("Clear"));
 }
 
 QStringList pickImages(QWidget* parent, const QString& title, bool several) {
@@ -56,13 +63,35 @@ QStringList pickImages(QWidget* parent, const QString& title, bool several) {
     return name.isEmpty() ? QStringList() : QStringList(name);
 }
 
-QString pickSaveName(QWidget* parent, const QString& suggested) {
+QString pickName(QWidget* parent, const QString& title, const QString& suggested, const QString& filter,
+                 const QString& suffix) {
     // Not getSaveFileName(): it would ask about overwriting before the suffix is added.
-    QFileDialog dialog(parent, tr("Save As"), suggested, tr("PNG image (*.png)"));
+    QFileDialog dialog(parent, title, suggested, filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("png"));
+    dialog.setDefaultSuffix(suffix);
     dialog.selectFile(suggested);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString pickSaveName(QWidget* parent, const QString& suggested) {
+    return pickName(parent, tr("Save As"), suggested, tr("PNG image (*.png)"), QStringLiteral("png"));
+}
+
+QString pickBrushName(QWidget* parent, const QString& suggested) {
+    return pickName(parent, tr("Export Brush"), suggested, tr("Brush (*.xbf)"), QStringLiteral("xbf"));
+}
+
+QStringList pickBrushes(QWidget* parent) {
+    return QFileDialog::getOpenFileNames(parent, tr("Import Brushes"), QString(),
+                                         tr("Brushes (*.xbf)") + QStringLiteral(";;") + tr("All files (*)"));
+}
+
+QString askName(QWidget* parent, const QString& title, const QString& suggested) {
+    return QInputDialog::getText(parent, title, tr("Name:"), QLineEdit::Normal, suggested);
+}
+
+void showFolder(const QString& path) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 QColor pickColor(QWidget* parent, const QColor& now, const QString& title) {
@@ -76,7 +105,8 @@ void tell(QWidget* parent, const QString& what) {
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved, confirmClear, pickImages, pickSaveName, pickColor, tell};
+    return {askUnsaved, confirmClear, pickImages,  pickSaveName,  pickColor, tell,
+            confirm,    askName,      pickBrushes, pickBrushName, showFolder};
 }
 
 }  // namespace dabcanvas::dabpainter
