@@ -58,7 +58,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _presetDock = addDock(tr("Brushes"), QStringLiteral("presetDock"), _presets);
     _panel = new BrushPanel(_brush, _prompts);
     _dock = addDock(tr("Brush settings"), QStringLiteral("brushDock"), _panel);
-    resizeDocks({_presetDock, _dock}, {1, 3}, Qt::Vertical);
+    resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
     setAcceptDrops(true);
 
     makeFileMenu();

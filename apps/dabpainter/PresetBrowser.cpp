@@ -247,8 +247,8 @@ bool PresetBrowser::choose(const PresetId& id) {
     BrushPreset content;
     const QString fault = _library.read(id, content);
     if (!succeeds(fault)) {
-        _library.setProblem(id, fault);
-        _model->refresh();
+        refresh();
+        _model->setProblem(id, fault);
         return false;
     }
     if (!_brush.takePreset(content))
@@ -272,7 +272,7 @@ bool PresetBrowser::saveNew() {
         return overwrite(PresetId(same->id));
     PresetId now;
     const bool saved = succeeds(_library.add(name, *params, now));
-    _model->refresh();
+    refresh();
     if (saved) {
         _brush.comesFrom(BrushPreset{*params, QDBrushManager::kVersion});
         setChosen(now, name);
@@ -290,7 +290,7 @@ bool PresetBrowser::overwrite(const PresetId& id) {
                           tr("It takes the present settings, and what it was is lost."), tr("Replace")))
         return false;
     const bool saved = succeeds(_library.replace(preset, *params));
-    _model->refresh();
+    refresh();
     if (saved) {
         _brush.comesFrom(BrushPreset{*params, QDBrushManager::kVersion});
         setChosen(id, preset.name);
@@ -308,7 +308,7 @@ bool PresetBrowser::rename(const PresetId& id) {
         return false;
     PresetId now;
     const bool renamed = succeeds(_library.rename(preset, name, now));
-    _model->refresh();
+    refresh();
     if (renamed && id == _chosen)
         setChosen(now, name);
     return renamed;
@@ -326,7 +326,7 @@ bool PresetBrowser::remove(const PresetId& id) {
     if (!_prompts.confirm(window(), what, tr("This cannot be taken back."), tr("Delete")))
         return false;
     const bool removed = succeeds(_library.removeFile(preset));
-    _model->refresh();
+    refresh();
     if (removed && id.path == _chosen.path) {
         _brush.comesFrom({});  // which goes on as it is
         setChosen({}, {});

@@ -32,6 +32,7 @@ struct Preset {
     bool own = false;
     qint64 size = 0, time = 0;  // of the file, by which a change is noticed
 
+    bool operator==(const Preset&) const = default;
     // Files are written with one brush, so that those with several stay as they are.
     bool isEditable() const { return own && siblings == 0 && problem.isEmpty(); }
 };

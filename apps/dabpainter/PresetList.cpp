@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QUrl>
+#include <algorithm>
 
 #include "PresetPreviews.h"
 #include "Widgets.h"
@@ -21,28 +22,36 @@ constexpr int kPad = 4;
 PresetListModel::PresetListModel(PresetLibrary& library, PresetPreviews& previews, QObject* parent)
     : QAbstractListModel(parent), _library(library), _previews(previews) {
     connect(&previews, &PresetPreviews::painted, this, [this](const PresetId& id) { rowChanged(rowOf(id)); });
-    connect(&previews, &PresetPreviews::damaged, this, [this](const PresetId& id, const QString& problem) {
-        _library.setProblem(id, problem);
-        rowChanged(rowOf(id));
-    });
+    connect(&previews, &PresetPreviews::damaged, this, &PresetListModel::setProblem);
 }
 
 void PresetListModel::refresh() {
-    beginResetModel();
     _library.refresh();
+    if (_shown == _library.presets())
+        return;
+    beginResetModel();
+    _shown = _library.presets();
     endResetModel();
 }
 
+void PresetListModel::setProblem(const PresetId& id, const QString& problem) {
+    _library.setProblem(id, problem);
+    const int row = rowOf(id);
+    if (row > 0)
+        _shown[std::size_t(row) - 1].problem = problem;
+    rowChanged(row);
+}
+
 const Preset* PresetListModel::presetAt(int row) const {
-    const auto i = std::size_t(row) - 1;
-    return row > 0 && i < _library.presets().size() ? &_library.presets()[i] : nullptr;
+    return row > 0 && row <= int(_shown.size()) ? &_shown[std::size_t(row) - 1] : nullptr;
 }
 
 int PresetListModel::rowOf(const PresetId& id) const {
     if (id.path.isEmpty())
         return 0;
-    const Preset* preset = _library.find(id);
-    return preset ? int(preset - _library.presets().data()) + 1 : -1;
+    const auto found =
+        std::find_if(_shown.begin(), _shown.end(), [&](const Preset& preset) { return preset.id == id; });
+    return found == _shown.end() ? -1 : int(found - _shown.begin()) + 1;
 }
 
 void PresetListModel::setChosen(const PresetId& id, bool modified) {
@@ -61,7 +70,7 @@ void PresetListModel::rowChanged(int row) {
 }
 
 int PresetListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(_library.presets().size()) + 1;
+    return parent.isValid() ? 0 : int(_shown.size()) + 1;
 }
 
 QString PresetListModel::toolTip(const Preset* preset) const {
@@ -118,7 +127,7 @@ QMimeData* PresetListModel::mimeData(const QModelIndexList& indexes) const {
 // ---- One item
 
 QSize PresetDelegate::pictureSize() {
-    return QSize(108, 40);
+    return QSize(91, 36);
 }
 
 QSize PresetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {

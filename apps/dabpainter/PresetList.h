@@ -22,6 +22,8 @@ public:
 
     // Reads the folders again.
     void refresh();
+    // What was found out only by reading all of it.
+    void setProblem(const PresetId& id, const QString& problem);
     // Null for the first row and for what is no row.
     const Preset* presetAt(int row) const;
     int rowOf(const PresetId& id) const;  // -1 when it is not there
@@ -41,6 +43,7 @@ private:
 
     PresetLibrary& _library;
     PresetPreviews& _previews;
+    std::vector<Preset> _shown;  // as the library was when last looked at
     PresetId _chosen;
     bool _modified = false;
 };

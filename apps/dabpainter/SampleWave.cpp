@@ -74,8 +74,9 @@ void SampleWave::paintBackground() {
              blend == ESBlendTypeMultiply)
         _canvas->setImageInBufferRect(stripes(_canvas->bufferSize().toSize()),
                                       QRectF(QPointF(0, 0), _canvas->bufferSize()));
-    else
-        _canvas->clearWithColor(ESColor::grey(color.lightnessF() > 0.75f ? 0.35f : 1.0f), false);
+    else  // what is erased is shown as light as white
+        _canvas->clearWithColor(
+            ESColor::grey(color.lightnessF() > 0.75f || blend == ESBlendTypeErase ? 0.35f : 1.0f), false);
 }
 
 void SampleWave::enterSample(int i) {

@@ -4,8 +4,10 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QUrl>
 #include <map>
@@ -203,7 +205,7 @@ TEST_F(PresetBrowserTest, NamesThatCollideLoseNothing) {
 
 TEST(PresetFileNameTest, EveryNameMakesAFile) {
     const std::map<QString, QString> kNames = {
-        {QStringLiteral("../../etc"), QStringLiteral("__.._etc")},
+        {QStringLiteral("../../etc"), QStringLiteral("_._.._etc")},
         {QStringLiteral(" . "), QStringLiteral("_")},
         {QStringLiteral("Con.brush"), QStringLiteral("_Con.brush")},
         {QStringLiteral("lpt1"), QStringLiteral("_lpt1")},
@@ -320,6 +322,48 @@ TEST_F(PresetBrowserTest, InstalledPresetsAreOnlyRead) {
     EXPECT_EQ(presets().list()->model()->rowCount(), 2);
     presets().search()->setText(QStringLiteral("no such"));
     EXPECT_EQ(presets().list()->model()->rowCount(), 0);
+}
+
+TEST_F(PresetBrowserTest, TheListIsWorkedByMouseAndKeyboard) {
+    const PresetId one = save(QStringLiteral("One"), 11), two = save(QStringLiteral("Two"), 22);
+    QListView& list = *presets().list();
+    const auto click = [&](int row) {
+        const QPointF at = list.visualRect(list.model()->index(row, 0)).center();
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(list.viewport(), &event);
+        }
+    };
+    const auto press = [&](int key) {
+        for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress}) {
+            QKeyEvent event(type, key, Qt::NoModifier);
+            event.ignore();
+            QApplication::sendEvent(&list, &event);
+            EXPECT_TRUE(event.isAccepted());
+        }
+    };
+    settle();
+    click(1);
+    EXPECT_EQ(presets().chosen(), one);
+    EXPECT_EQ(radius(), 11);
+    list.setCurrentIndex(list.model()->index(2, 0));
+    press(Qt::Key_Return);
+    EXPECT_EQ(radius(), 22);
+    press(Qt::Key_Delete);
+    EXPECT_FALSE(QFileInfo::exists(two.path));
+    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("One")});
+}
+
+TEST_F(PresetBrowserTest, NoPresetIsTakenDuringAStroke) {
+    const PresetId id = save(QStringLiteral("One"), 11);
+    set(BrushKey::radius, 50.0f);
+    _window->view()->drawingWithBeginPoint(QPointF(20, 20));
+    EXPECT_FALSE(presets().choose(id));
+    _window->view()->drawingWithEndPoint(QPointF(40, 20));
+    EXPECT_EQ(radius(), 50);
+    EXPECT_TRUE(presets().choose(id));
 }
 
 TEST_F(PresetBrowserTest, PicturesShowTheBrushAndFollowItsFile) {
