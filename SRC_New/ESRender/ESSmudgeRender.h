@@ -79,7 +79,8 @@ public:
     QRectF drawPoints(const LPPoint* points, std::size_t count, std::int32_t renderType,
                       const TextureBindBlock& withTextureBindBlock = {});
 
-    // The dabs drawn since the last call, in plain colour, with the flow by which each exchanged what was there.
+    // The dabs drawn since the last call, in plain colour, with the flow by which each exchanged what was there. Valid
+    // until dabs are drawn again.
     std::span<const Dab> takeCoverage();
     // Keeps the layer, the bound framebuffer, as it is now inside a rectangle: what later dabs change is told from it.
     void keepLayer(const QRectF& rect);

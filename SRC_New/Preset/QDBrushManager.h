@@ -45,8 +45,7 @@ public:
     // A record of these entries; nothing is checked.
     static BrushParam paramWithID(int id, const QString& method, const QVariant& propertyValue,
                                   int propertyType);
-    // A record as it was read from a file, whose text or data stays the caller's. An unknown type gives int
-    // 0.
+    // A record as read from a file, whose text or data stays the caller's. An unknown type gives int 0.
     static BrushParam paramFromParamData(const _XBFParamData& data);
 
     // Files

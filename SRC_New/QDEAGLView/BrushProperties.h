@@ -157,7 +157,8 @@ struct BrushProperty {
     BrushKey key;
     const char* name;  // as the property, its getter and, capitalised after "set", its setter are called
     BrushGroup group;
-    std::uint16_t presetId = 0;   // in presets; 0: never stored. A control's three numbers have the three ids above it
+    std::uint16_t presetId =
+        0;  // in presets; 0: never stored. A control's three numbers have the three ids above it
     std::optional<float> reset{};  // what resetParams() sets (a control to three of it); none: left alone
     PresetForm presetForm = PresetForm::plain;
     Field field;  // where the stored value stands

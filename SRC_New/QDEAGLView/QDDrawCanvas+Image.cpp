@@ -11,7 +11,6 @@
 #include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
-using dabcanvas::isZero;
 using dabcanvas::mergeRect;
 using dabcanvas::nearestInt;
 
@@ -222,18 +221,14 @@ QRect QDDrawCanvas::scissorBox() const {
     return QRect(topLeft, size) & whole;
 }
 
-// The background is to be the canvas that the image meets, with what a stroke in progress has drawn; its
-// layers must not be composited once more over the image.
+// An image meets the canvas with what a stroke in progress has drawn.
 void QDDrawCanvas::settleBeforePlacing() {
     compositePending();
     if (_neglectTextureUpdate) {
         _mayMergePending = false;  // what lies between later rectangles may be the image
         return;
     }
-    if (!isZero(_updateRect) || !isZero(_layerContent[ESRenderTypeLine]) ||
-        !isZero(_layerContent[ESRenderTypeSubLine])) {
-        finishLayers();
-    }
+    settleLayers();
 }
 
 // What was recorded for undo is in buffer pixels already.

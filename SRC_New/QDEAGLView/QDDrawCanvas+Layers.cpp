@@ -13,6 +13,9 @@ using dabcanvas::mergeRect;
 
 namespace {
 
+// Rectangles that wait where nobody looks at the canvas and they cannot be merged.
+constexpr std::size_t kMostPending = 1024;
+
 double areaOf(const QRectF& rect) {
     return rect.width() * rect.height();
 }
@@ -22,12 +25,13 @@ double areaOf(const QRectF& rect) {
 // ---- Drawing into a layer
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer) {
+    _leafDrawView->finishPending();
     return dabcanvas::roundedRect(drawRun(points, count, layer));
 }
 
 // Returns the whole pixels that the run touched.
 QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderType layer) {
-    if (points == nullptr) {
+    if (points == nullptr || layer < ESRenderTypeCanvas || layer >= kRenderTypeCount) {
         return {};
     }
     const ESCurrentScope current(*_esContext);
@@ -40,17 +44,28 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
     }
     ESLineRender* render = layer == ESRenderTypeLine ? _extenRender.get() : _subRender.get();
     const std::uint64_t before = render->dabsDrawn();
+    if (layer == ESRenderTypeCanvas) {
+        compositePending();  // which lies below
+    }
     _esContext->beginRenderForType(layer);
     _esContext->setBlendModelForType(ESRenderTypeLine);
     const QRectF touched = render->drawPoints(points, count);
     _esContext->finishRender();
     _stats.dabs += render->dabsDrawn() - before;
     const QRectF covered = touched.toAlignedRect();
-    mergeRect(_layerContent[layer], covered);
+    if (layer == ESRenderTypeCanvas) {
+        _edited = true;
+        mergeRect(_drawRect, covered);
+        mergeRect(_updateRect, covered);
+        noteChanged(covered);
+    } else {
+        mergeRect(_layerContent[layer], covered);
+    }
     return covered;
 }
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count) {
+    _leafDrawView->finishPending();
     _tempRect = drawRun(points, count, ESRenderTypeLine);
     mergeRect(_lineRenderRect, _tempRect);
     return _tempRect;
@@ -78,6 +93,9 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
         compositePending();
         _pendingSmudge = smudge;
     }
+    if (_pending.size() >= kMostPending) {
+        compositePending();
+    }
     mergeRect(_strokeRect, _tempRect);
     mergeRect(_updateRect, _tempRect);
     // The composite itself waits until the canvas is looked at: its pixels depend on the layer alone, and
@@ -96,9 +114,7 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
     }
     noteChanged(_tempRect);
     if (online) {
-        const QSizeF toView = scale();
-        redisplayRect(QRectF(_tempRect.x() * toView.width(), _tempRect.y() * toView.height(),
-                             _tempRect.width() * toView.width(), _tempRect.height() * toView.height()));
+        redisplayBufferRect(_tempRect);
     }
 }
 
@@ -165,6 +181,7 @@ void QDDrawCanvas::resetWithRenderRect(const QRectF& area) {
     }
     _esContext->finishRender();
     noteChanged(rect);
+    redisplayBufferRect(rect);
 }
 
 void QDDrawCanvas::updateBGImage(const QByteArray&) {
@@ -233,6 +250,9 @@ void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
     _leafDrawView->finishPending();
     _edited = true;
     _pending.clear();  // it would be cleared at once
+    // All that a layer holds, not just what the present stroke's line drew there.
+    mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
+    mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
     clearExtenBuffer();
     clearSubBuffer();
     clearSmudgeBuffer();
@@ -301,6 +321,12 @@ void QDDrawCanvas::noteChanged(const QRectF& rect) {
     const QRect changed = rect.toAlignedRect() & QRect(QPoint(0, 0), bufferSize().toSize());
     _staleRect = _staleRect.united(changed);
     mergeRect(_smudgeStale, changed);
+}
+
+void QDDrawCanvas::redisplayBufferRect(const QRectF& rect) {
+    const QSizeF toView = scale();
+    redisplayRect(QRectF(rect.x() * toView.width(), rect.y() * toView.height(), rect.width() * toView.width(),
+                         rect.height() * toView.height()));
 }
 
 void QDDrawCanvas::redisplayAll() {

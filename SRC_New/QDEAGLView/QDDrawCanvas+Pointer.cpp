@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QLineF>
 #include <QLoggingCategory>
+#include <QScopedValueRollback>
 
 #include "QDEAGLView/QDDrawCanvas.h"
 
@@ -67,6 +68,7 @@ void QDDrawCanvas::endWithTouch(const QDDrawTouch& touch) {
         }
         startProcess();
     }
+    const QScopedValueRollback ends(_pointerEnds, true);
     QPointF point = localPointWithTouch(touch);
     if (!_lineMove && QLineF(_lastPoint, point).length() >= kSlidWithoutMoving) {
         // Deliberate: a press that slid without any move is discarded, and only the callbacks tell of its end.
@@ -97,6 +99,7 @@ void QDDrawCanvas::cancelAt(QPointF point, float pressure, bool withdraw) {
     if (_brush.enableRecogition && !_canAddPoint) {
         return;
     }
+    const QScopedValueRollback ends(_pointerEnds, true);
     const bool moved = !_lineFinish && _lineMove;
     const bool tooShort = _moveCount <= kShortStroke && _adjustCancelLine;
     if (moved && (withdraw || tooShort)) {
@@ -158,7 +161,10 @@ void QDDrawCanvas::cancelWithTouches(const QList<QDDrawTouch>& touches) {
 // ---- Touch events, refused while a mouse or pen draws
 
 void QDDrawCanvas::touchesBeganWithEvent(const QDDrawTouch& event) {
-    _normalMoing = !_digitPenMoving && beginWithTouch(event);
+    _normalMoing = !_digitPenMoving;
+    if (_normalMoing && !beginWithTouch(event)) {
+        _normalMoing = false;
+    }
 }
 
 void QDDrawCanvas::touchesMovedWithEvent(const QDDrawTouch& event) {
@@ -187,7 +193,10 @@ void QDDrawCanvas::touchesCancelledWithEvent(const QDDrawTouch& event) {
 
 void QDDrawCanvas::mouseDown(const QDDrawTouch& event) {
     if (!_normalMoing) {
-        _digitPenMoving = beginWithTouch(event);
+        _digitPenMoving = true;
+        if (!beginWithTouch(event)) {
+            _digitPenMoving = false;
+        }
     }
 }
 
@@ -208,15 +217,19 @@ void QDDrawCanvas::mouseUp(const QDDrawTouch& event) {
 // ---- What the display does to a pointer's stroke
 
 void QDDrawCanvas::endPointerStroke() {
-    if (_normalMoing || _digitPenMoving) {
-        cancelAt(_lastPoint, _lastPressure, false);
-    }
-    _normalMoing = _digitPenMoving = false;
+    leavePointerStroke(false);
 }
 
 void QDDrawCanvas::withdrawPointerStroke() {
+    leavePointerStroke(true);
+}
+
+void QDDrawCanvas::leavePointerStroke(bool withdraw) {
+    if (_pointerEnds) {
+        return;  // called back while it ends
+    }
     if (_normalMoing || _digitPenMoving) {
-        cancelAt(_lastPoint, _lastPressure, true);
+        cancelAt(_lastPoint, _lastPressure, withdraw);
     }
     _normalMoing = _digitPenMoving = false;
 }

@@ -203,23 +203,31 @@ QVariant QDDrawCanvas::brushValue(const BrushProperty& property) const {
 
 // ---- Brush kind and blending
 
-// What a stroke in progress has drawn stays as it is; a layer never holds strokes of two kinds.
-void QDDrawCanvas::settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition) {
+// Before the brush may change to one that draws elsewhere; whether it will. What a stroke in progress has
+// drawn stays as it is, but for a preview's: a layer never holds strokes of two kinds.
+bool QDDrawCanvas::settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition) {
     const bool smudges = brushType == kSmudgeBrush && !isDebug && !enableRecogition;
-    if (smudges != isSmudgeType()) {
-        finishLayers();
+    const bool previews = brushType == kPreviewBrush && !enableRecogition;
+    if (smudges == isSmudgeType() && previews == usesPreview()) {
+        return false;
     }
-    if (_stroke == Stroke::drawing && usesPreview() && (brushType != kPreviewBrush || enableRecogition)) {
+    if (!usesPreview()) {
+        finishLayers();
+        if (_stroke == Stroke::drawing && !previews) {
+            (smudges ? *_smudgeRender : *_extenRender).resetLineProporty();
+        }
+    } else if (_stroke == Stroke::drawing) {
         dropStroke();
     }
+    return true;
 }
 
 void QDDrawCanvas::setBrushType(std::int32_t value) {
-    settleStrokeKind(value, _brush.isDebug, _brush.enableRecogition);
+    const bool changes = settleStrokeKind(value, _brush.isDebug, _brush.enableRecogition);
     assign(BrushKey::brushType, value);
     showLeafDrawView(value == kPreviewBrush);
     setRepeatedlyRenderEnabled(_brush.repeatedlyRenderEnabled);
-    if (isSmudgeType()) {
+    if (changes && isSmudgeType()) {
         updateSmudgeBGTexture();
         warmUpSmudging();
     }
@@ -231,9 +239,9 @@ void QDDrawCanvas::setIsDebug(bool value) {
 }
 
 void QDDrawCanvas::setEnableRecogition(bool value) {
-    settleStrokeKind(_brush.brushType, _brush.isDebug, value);
+    const bool changes = settleStrokeKind(_brush.brushType, _brush.isDebug, value);
     assign(BrushKey::enableRecogition, value);
-    if (!value && isSmudgeType()) {
+    if (changes && isSmudgeType()) {
         updateSmudgeBGTexture();
     }
 }
@@ -265,7 +273,18 @@ void QDDrawCanvas::setBlendFragmentShaderString(const QString& value) {
 void QDDrawCanvas::setRepeatedlyRenderEnabled(bool value) {
     settleDrawn();
     assign(BrushKey::repeatedlyRenderEnabled, value);
+    if (needRepeatedlyRender() == _esRender->repeatedlyRenderEnabled()) {
+        return;
+    }
+    // In mid-stroke: what was drawn without a mask must not be masked, nor the other way round.
+    const bool inALine = _stroke == Stroke::drawing && !usesPreview();
+    if (inALine) {
+        finishLayers();
+    }
     _esRender->setRepeatedlyRenderEnabled(needRepeatedlyRender());
+    if (inALine && needRepeatedlyRender()) {
+        startSubLine();
+    }
 }
 
 void QDDrawCanvas::setGaussianRadius(float value) {

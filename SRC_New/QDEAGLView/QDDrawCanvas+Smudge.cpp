@@ -28,6 +28,7 @@ void QDDrawCanvas::updateSmudgeBGTexture() {
     if (!current) {
         return;
     }
+    settleLayers();
     const QRectF whole(QPointF(0, 0), bufferSize());
     _smudgeRenderRect = whole;
     if (isZero(_smudgeStale)) {

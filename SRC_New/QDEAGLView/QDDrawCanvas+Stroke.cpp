@@ -11,6 +11,7 @@
 #include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
+using dabcanvas::isZero;
 using dabcanvas::mergeRect;
 
 namespace {
@@ -92,9 +93,13 @@ void QDDrawCanvas::drawingWithBeginPoint(QPointF point, float pressure, float al
     if (!acceptsSample(point, pressure, altitude)) {
         return;  // the first sample that can be used begins instead
     }
-    _stroke = Stroke::drawing;
+    // Begun only after the callbacks: a brush that these choose is the one that the stroke begins with.
     point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawBegin, point);
     tell(&QDDrawViewDelegate::drawViewWillDrawBegin, point);
+    if (_stroke != Stroke::awaited) {
+        return;  // a callback had it ended, as a dialogue that it opens does
+    }
+    _stroke = Stroke::drawing;
     point = bufferPoint(point);
     beginStroke(point, pressure, altitude);
     tell(&QDDrawViewDelegate::drawViewDidDrawBegin, point);
@@ -110,6 +115,9 @@ void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float a
     }
     point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawMove, point);
     tell(&QDDrawViewDelegate::drawViewWillDrawMove, point);
+    if (_stroke != Stroke::drawing) {
+        return;
+    }
     point = bufferPoint(point);
     if (usesPreview()) {
         takeSample(point, pressure, altitude);
@@ -140,7 +148,9 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
     tell(&QDDrawViewDelegate::drawViewWillDrawEnd, point);
     point = bufferPoint(point);
     _isAppendLine = true;
-    if (usesPreview()) {
+    if (_stroke != Stroke::drawing) {
+        // A callback ended it, and is told of the end all the same.
+    } else if (usesPreview()) {
         _leafDrawView->drawWithEnd(point);  // which places the stroke, later
     } else {
         drawSegment(point, pressure, altitude, true, false, online);
@@ -151,7 +161,6 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
 }
 
 void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
-    const StrokeScope scope(*this);
     _lineRenderRect = QRectF();
     _subLineRenderRect = QRectF();
     _strokeRect = QRectF();
@@ -162,11 +171,22 @@ void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
         return;
     }
     if (needRepeatedlyRender()) {
-        _subRender->resetLineProporty();
-        startLine(*_subLineParaObj, point, pressure, altitude);
+        startSubLine();
     }
+    const StrokeScope scope(*this);
     (isSmudgeType() ? *_smudgeRender : *_extenRender).resetLineProporty();
     startLine(*_lineParaObj, point, pressure, altitude);
+}
+
+// At the last sample, in mid-stroke too: what the line process keeps for all lines stays the main line's.
+void QDDrawCanvas::startSubLine() {
+    const LPSharedState mainLine = _strokeState;
+    {
+        const StrokeScope scope(*this);
+        _subRender->resetLineProporty();
+        startLine(*_subLineParaObj, _lastRenderObject, _lastPressure, _lastAltitude);
+    }
+    _strokeState = mainLine;
 }
 
 // The point that the distance filter measures from, and where a stroke whose end is unusable ends.
@@ -186,6 +206,15 @@ void QDDrawCanvas::finishLayers() {
     updateBGImage();
 }
 
+// The background is to be the canvas with all that was drawn so far; the layers must not be composited once
+// more over what comes next.
+void QDDrawCanvas::settleLayers() {
+    if (!isZero(_updateRect) || !isZero(_layerContent[ESRenderTypeLine]) ||
+        !isZero(_layerContent[ESRenderTypeSubLine])) {
+        finishLayers();
+    }
+}
+
 // Nothing of the stroke stays, as if it had never been begun.
 void QDDrawCanvas::withdrawStroke(QPointF point) {
     _stroke = Stroke::none;
@@ -203,16 +232,21 @@ void QDDrawCanvas::withdrawStroke(QPointF point) {
     }
     clearExtenBuffer();
     clearSubBuffer();
+    resetWithRenderRect(_strokeRect);
     if (isSmudgeType()) {
         updateSmudgeBGTexture();
     }
-    resetWithRenderRect(_strokeRect);
 }
 
-// A stroke that drew nothing is over without an end.
+// A stroke is over without an end. What it may have drawn stays; a preview never reaches the canvas.
 void QDDrawCanvas::dropStroke() {
-    if (std::exchange(_stroke, Stroke::none) == Stroke::drawing && usesPreview()) {
+    if (std::exchange(_stroke, Stroke::none) != Stroke::drawing) {
+        return;
+    }
+    if (usesPreview()) {
         _leafDrawView->drawWithCanceled(_lastRenderObject);
+    } else {
+        finishLayers();
     }
 }
 

@@ -67,7 +67,9 @@ public:
     // once; the pixels are the same without.
     // A sample that is not finite is refused, with one log line a stroke, and the stroke goes on: a refused begin
     // leaves the beginning to the first good move, a refused end ends where the stroke got to. Moves and ends
-    // without a begin do nothing; a begin without an end before it ends that stroke as it stands.
+    // without a begin do nothing; a begin without an end before it ends that stroke as it stands (a preview's
+    // leaves nothing).
+    // A brush of another kind in mid-stroke leaves what was drawn as it is, beyond the reach of withdrawing.
     void drawingWithBeginPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
     // Does nothing more than two callbacks for a point within 1.0 buffer pixel of the last accepted one.
     void drawingWithMoveToPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
@@ -185,6 +187,7 @@ public:
     // The canvas as premultiplied RGBA, upright, bufferSize() large; null when it cannot be read.
     QImage image();
     // The same, kept between calls: only what changed since the last call is read back. Valid until the next.
+    // A preview's stroke that has ended is not in it until it is placed; leafDrawView() shows it so long.
     const QImage& displayImage();
 
     QSizeF bufferSize() const;
@@ -219,9 +222,10 @@ public:
     // Puts the area touched last from the stroke's layer onto the canvas.
     void updateImage(bool online);
     void updateImage(bool online, bool smudge);
-    // Repaints an area, in buffer pixels, as it was before the stroke.
+    // Repaints an area, in buffer pixels, as it was before the stroke, and asks the display to show it.
     void resetWithRenderRect(const QRectF& rect);
-    // Makes the smudge layer show the present canvas. Smudge strokes begin with that by themselves.
+    // Makes the smudge layer show the present canvas, for which the layers' strokes are finished. Smudge
+    // strokes begin with that by themselves.
     void updateSmudgeBGTexture();
     // Makes the present canvas the background of what is drawn next. mark: the undo step just recorded, or null.
     void updateBGImage(const QByteArray& mark = {});
@@ -549,11 +553,14 @@ private:
     QPointF viewPoint(QPointF point) const;
     bool usesPreview() const { return _brush.brushType == kPreviewBrush && !_brush.enableRecogition; }
     void beginStroke(QPointF point, float pressure, float altitude);
+    void startSubLine();
     void takeSample(QPointF point, float pressure, float altitude);
     void finishLayers();
+    void settleLayers();
     void withdrawStroke(QPointF point);
     void dropStroke();
     void cancelAt(QPointF point, float pressure, bool withdraw);
+    void leavePointerStroke(bool withdraw);
     void startProcess();
     QRectF drawRun(const LPPoint* points, std::size_t count, ESRenderType layer);
     ESRenderType mainLayer() const { return isSmudgeType() ? ESRenderTypeSmudge : ESRenderTypeLine; }
@@ -564,7 +571,7 @@ private:
     void drawSegment(QPointF point, float pressure, float altitude, bool end, bool dropFirst, bool online);
 
     void settleDrawn();
-    void settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition);
+    bool settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition);
     void compositePending();
     void compositeRect(const QRectF& rect);
     void compositeSmudge(const QRectF& rect);
@@ -573,6 +580,7 @@ private:
     void sendPreviewColor();
     void clearLayer(ESRenderType layer, QRectF& rect);
     void noteChanged(const QRectF& rect);
+    void redisplayBufferRect(const QRectF& rect);
     void redisplayAll();
 
     // Placing, in steps
@@ -664,6 +672,7 @@ private:
     bool _adjustCancelLine = true;
     bool _normalMoing = false;
     bool _digitPenMoving = false;
+    bool _pointerEnds = false;  // its end is on the way, in callbacks
     bool _canAddPoint = false;
     bool _isProcess = false;      // a stroke is being recognised
     double _lastProcessTime = 0;  // when one last was, in seconds since 1970

@@ -122,6 +122,9 @@ bool QDDrawView::touchEvent(QTouchEvent& event) {
     if (event.device() != nullptr && event.device()->type() == QInputDevice::DeviceType::TouchPad) {
         return false;  // which moves the mouse
     }
+    if (event.type() == QEvent::TouchBegin) {
+        _fingersIgnored = false;  // the end of earlier ones may have been lost
+    }
     if (event.type() == QEvent::TouchCancel) {
         if (_pointer == Pointer::finger) {
             _pointer = Pointer::none;
@@ -179,7 +182,13 @@ bool QDDrawView::event(QEvent* event) {
         case QEvent::TouchCancel:
             return touchEvent(static_cast<QTouchEvent&>(*event)) || QWidget::event(event);
         case QEvent::WindowDeactivate:
+        case QEvent::WindowBlocked:
             forgetPointer();
+            break;
+        case QEvent::EnabledChange:
+            if (!isEnabled()) {
+                forgetPointer();  // its events come no more
+            }
             break;
         default:
             break;

@@ -8,8 +8,9 @@ class QDDrawCanvas;
 // What a host hears of a canvas's strokes. Every callback is optional.
 //
 // They run on the thread that enters the stroke, inside the call that caused them, with the host's own GL context
-// current. A callback may draw on other canvases, change the brush and take the delegate off; it may not destroy
-// the canvas or enter a stroke of the same one. A delegate is not owned.
+// current. A callback may draw on other canvases, change the brush, take the delegate off and open a
+// dialogue, which ends a pointer's stroke where it got to; it may not destroy the canvas or enter a stroke
+// of the same one. A delegate is not owned.
 class QDDrawViewDelegate {
 public:
     virtual ~QDDrawViewDelegate() = default;

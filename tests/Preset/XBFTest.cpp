@@ -5,7 +5,6 @@
 
 #include <climits>
 #include <cstring>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -141,78 +140,39 @@ TEST(XBF, BytesThatATypeDoesNotNameAreWrittenAsTheyLieInMemory) {
                   record(1, kXBFText, std::string(reinterpret_cast<char*>(&pointer), 8), number(4) + text));
 }
 
-TEST(XBF, ADataBlockThatCannotBeReadAgainIsRefused) {
-    char byte = 0;
-    const Stream stream = streamOf();
-    for (const _XBFTexture& texture :
-         {_XBFTexture{{-1, 1}, 1, &byte}, _XBFTexture{{INT_MAX, INT_MAX}, INT_MAX, &byte},
-          _XBFTexture{{1, 1}, 1, nullptr}}) {
-        _XBFParamValue value = emptyValue();
-        value.textureValue = texture;
-        EXPECT_FALSE(AddValue(stream.get(), 1, "setIt:", kXBFData, value));
-    }
-    EXPECT_EQ(bytesOf(stream), "");
-}
-
 // Reading
 
-TEST(XBF, LengthsBelowOneMeanNothing) {
-    EXPECT_EQ(ReadBrushName(streamOf(number(0)).get()), nullptr);
+TEST(XBF, LengthsBelowOneMeanNothingAndATerminatorOwnsNothing) {
     EXPECT_EQ(ReadBrushName(streamOf(number(-5u) + "later").get()), nullptr);
     const std::string noMethod = number(5) + number(-1u) + number(kXBFInt) + number(8) + std::string(12, 0);
-    const Stream stream = streamOf(noMethod + textRecord(0) + textRecord(-1u) + kTerminator);
-    const _XBFParamData data = NextParamData(stream.get());
-    EXPECT_STREQ(data.name, "");
-    EXPECT_EQ(data.value.intValue, 8);
-    for (int i = 0; i < 2; ++i) {
-        const _XBFParamData text = NextParamData(stream.get());
-        EXPECT_EQ(text.id, 1);
-        EXPECT_EQ(text.value.textValue, nullptr);
+    const Stream stream = streamOf(noMethod + textRecord(0) + textRecord(-1u) +
+                                   record(0, kXBFText, {}, number(3) + "abc") + record(6, kXBFInt));
+    for (const int id : {5, 1, 1, 0, 6}) {
+        const _XBFParamData data = NextParamData(stream.get());
+        EXPECT_EQ(data.id, id);
+        EXPECT_EQ(data.value.textValue, id == 5 ? reinterpret_cast<char*>(8) : nullptr);
     }
-    EXPECT_EQ(readOne(stream.get()).first, XBFRead::terminator);
 }
 
 TEST(XBF, ADataBlockHasTheProductOfItsFactorsWhateverTheirSigns) {
-    for (const std::uint32_t sign : {1u, -1u}) {
-        for (const std::uint32_t width : {6u, 5000u}) {  // read by way of a buffer, and in one go
-            const std::string bytes(std::size_t{width} * 4, 'd');
-            const Stream stream = streamOf(dataRecord(sign * width, sign * 2, 2, bytes) + kTerminator);
-            _XBFParamData data = NextParamData(stream.get());
-            ASSERT_EQ(XBFDataSize(data.value.textureValue), static_cast<std::int64_t>(bytes.size()));
-            EXPECT_EQ(std::string(data.value.textureValue.data, bytes.size()), bytes);
-            XBFFreeParamData(&data);
-            EXPECT_EQ(readOne(stream.get()).first, XBFRead::terminator);
-        }
+    for (const std::uint32_t width : {6u, 5000u}) {  // read by way of a buffer, and in one go
+        const std::string bytes(std::size_t{width} * 4, 'd');
+        const Stream stream = streamOf(dataRecord(-width, -2u, 2, bytes) + kTerminator);
+        _XBFParamData data = NextParamData(stream.get());
+        ASSERT_EQ(XBFDataSize(data.value.textureValue), static_cast<std::int64_t>(bytes.size()));
+        EXPECT_EQ(std::string(data.value.textureValue.data, bytes.size()), bytes);
+        // What cannot be read again is not written.
+        _XBFParamValue negative = data.value;
+        negative.textureValue.depth = -2;
+        XBFFreeParamData(&data);
+        EXPECT_FALSE(AddValue(stream.get(), 1, "", kXBFData, negative));
+        EXPECT_FALSE(AddValue(stream.get(), 1, "", kXBFData, data.value));
+        EXPECT_EQ(readOne(stream.get()).first, XBFRead::terminator);
     }
 }
 
-TEST(XBF, SkippingGoesAsFarAsReading) {
-    const Stream stream = streamOf(textRecord(4, "6162") + dataRecord(3000, 1, 1, std::string(3000, 'd')) +
-                                   record(9, 4711) + kTerminator + "behind");
-    for (const XBFRead expected : {XBFRead::ok, XBFRead::ok, XBFRead::ok, XBFRead::terminator}) {
-        const long start = std::ftell(stream.get());
-        _XBFParamData skipped;
-        EXPECT_EQ(TrySkipParamData(stream.get(), &skipped), expected);
-        const long end = std::ftell(stream.get());
-        std::fseek(stream.get(), start, SEEK_SET);
-        const auto [result, id] = readOne(stream.get());
-        EXPECT_EQ(result, expected);
-        EXPECT_EQ(id, skipped.id);
-        EXPECT_EQ(std::ftell(stream.get()), end);
-    }
-}
-
-TEST(XBF, ATerminatorWithAPayloadOwnsNothingAndKeepsThePlace) {
-    const Stream stream =
-        streamOf(record(0, kXBFText, {}, number(3) + "abc") + record(6, kXBFInt) + kTerminator);
-    const _XBFParamData data = NextParamData(stream.get());
-    EXPECT_EQ(data.id, 0);
-    EXPECT_EQ(data.value.textValue, nullptr);
-    EXPECT_EQ(readOne(stream.get()), std::pair(XBFRead::ok, 6));
-}
-
-// Damage: the length that a piece claims is refused before anything is allocated by it, which a file that only
-// ends too early is not.
+// Damage: the length that a piece claims is refused before anything is allocated by it, which a file that
+// only ends too early is not.
 TEST(XBF, HostileLengthsStopTheReading) {
     const std::uint32_t huge = INT_MAX;
     const struct {
@@ -221,12 +181,10 @@ TEST(XBF, HostileLengthsStopTheReading) {
         XBFRead expected;
     } rows[] = {
         {"text", textRecord(huge, "61"), XBFRead::tooLong},
-        {"text by one", textRecord(3, "61"), XBFRead::tooLong},
         {"data", dataRecord(huge, 1, 1, "d"), XBFRead::tooLong},
         {"data by one", dataRecord(1, 2001, 1, std::string(2000, 'd')), XBFRead::tooLong},
-        {"large product", dataRecord(huge, huge, 2, "d"), XBFRead::tooLong},
         {"overflow", dataRecord(huge, huge, 3, "d"), XBFRead::badSize},
-        {"overflow to a small product", dataRecord(1u << 31, 1u << 31, 1u << 31, "d"), XBFRead::badSize},
+        {"overflow to a small product", dataRecord(1u << 31, 1u << 31, 4, "d"), XBFRead::badSize},
         {"negative", dataRecord(-2u, 3, 1, "d"), XBFRead::badSize},
         {"method", number(1) + number(huge) + std::string(100, 'm'), XBFRead::tooLong},
         {"short method", number(1) + number(30) + "m", XBFRead::cutShort},
@@ -248,15 +206,6 @@ TEST(XBF, HostileLengthsStopTheReading) {
     EXPECT_EQ(TryReadBrushName(streamOf("In").get(), &name), XBFRead::cutShort);
     EXPECT_EQ(TryReadBrushName(streamOf("").get(), &name), XBFRead::endOfFile);
     EXPECT_EQ(name, nullptr);
-}
-
-TEST(XBF, AStreamThatCannotBeReadSaysSo) {
-    const Stream folder(std::fopen(DABCANVAS_TEST_DATA, "rb"), XBFClose);  // which opens, on a POSIX system
-    if (folder) {
-        XBFInfo info;
-        EXPECT_EQ(TryReadXBFInfo(folder.get(), &info), XBFRead::failed);
-        EXPECT_FALSE(XBFLooksRight(folder.get()));
-    }
 }
 
 TEST(XBF, WhatLooksLikeAnXBFFile) {
@@ -284,7 +233,6 @@ TEST(XBF, WhatLooksLikeAnXBFFile) {
         {"another kind and a long name", otherKind(12, 100000), false},
         {"another kind and a long method", otherKind(23, 40), false},
         {"another kind and an unknown type", otherKind(40, 7), false},
-        {"another kind, cut", withKind(5, good).substr(0, 30), false},
         {"PNG", "\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\1\0\0\0\1\0\x08\6\0\0\0"s + std::string(5000, 'p'), false},
         {"text", "A text file says something else.\n" + std::string(5000, 't'), false},
         {"program", "\x7F\x45LF\2\1\1\0\0\0\0\0\0\0\0\0\3\0\x3E\0"s + std::string(5000, 0), false},

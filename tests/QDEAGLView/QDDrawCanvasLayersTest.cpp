@@ -33,6 +33,34 @@ TEST_F(CanvasLayersTest, AWithdrawnStrokeDisappears) {
     }
 }
 
+TEST_F(CanvasLayersTest, EveryChangeIsShownAgain) {
+    class Shown : public QDDrawCanvas {
+    public:
+        Shown() : QDDrawCanvas(QRectF(0, 0, 200, 150)) {}
+        bool make() { return initCanvas(); }
+        QRectF asked;
+
+    protected:
+        void redisplayRect(const QRectF& rect) override { asked = asked.united(rect); }
+    } canvas;
+    ASSERT_TRUE(canvas.make());
+    canvas.mouseDown({{30, 40}});
+    for (int i = 1; i < 6; ++i) {
+        canvas.mouseDragged({{30.0 + i * 20, 40}});
+    }
+    const QRect stroke = painted(canvas.displayImage());
+    ASSERT_FALSE(stroke.isEmpty());
+    canvas.asked = QRectF();
+    canvas.mouseUp({{130, 40}});
+    EXPECT_TRUE(canvas.asked.contains(QRectF(stroke))) << "a withdrawn stroke leaves the screen";
+    EXPECT_TRUE(painted(canvas.displayImage()).isEmpty());
+
+    const LPPoint dab{{100, 100}, 20, {1, 1, 1}};  // straight into the canvas
+    canvas.drawPoints(&dab, 1, ESRenderTypeCanvas);
+    EXPECT_TRUE(imagesMatch(canvas.displayImage(), canvas.image()));
+    EXPECT_FALSE(painted(canvas.displayImage()).isEmpty());
+}
+
 TEST_F(CanvasLayersTest, TheNextStrokeStartsFromWhatTheLastOneLeft) {
     auto canvas = makeCanvas();
     canvas->setOpacity(0.5f);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <functional>
 #include <limits>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "QDEAGLView/QDDrawCanvas.h"
@@ -12,6 +14,15 @@ namespace {
 class Ends : public QDDrawViewDelegate {
 public:
     std::vector<QPointF> should, did;
+    std::function<void(QDDrawCanvas&)> atBegin, atMove, atEnd;
+    static void call(const std::function<void(QDDrawCanvas&)>& callback, QDDrawCanvas& canvas) {
+        if (callback) {
+            callback(canvas);
+        }
+    }
+    void drawViewWillDrawBegin(QDDrawCanvas& canvas, QPointF) override { call(atBegin, canvas); }
+    void drawViewWillDrawMove(QDDrawCanvas& canvas, QPointF) override { call(atMove, canvas); }
+    void drawViewWillDrawEnd(QDDrawCanvas& canvas, QPointF) override { call(atEnd, canvas); }
     QPointF drawViewShouldDrawEnd(QDDrawCanvas&, QPointF p) override {
         should.push_back(p);
         return p;
@@ -173,6 +184,73 @@ TEST_F(CanvasPointerTest, APointerThatIsGoneEndsItsStroke) {
     expectIdle();
     canvas->endPointerStroke();  // nothing to end
     EXPECT_EQ(ends.did.size(), 2u);
+}
+
+// A dialogue opened in a callback takes the pointer away.
+TEST_F(CanvasPointerTest, ACallbackMayEndThePointersStroke) {
+    const auto leave = [](QDDrawCanvas& c) {
+        EXPECT_TRUE(c.digitPenMoving());
+        c.endPointerStroke();
+    };
+    for (const auto& [name, callback] : {std::pair{"begin", &Ends::atBegin}, std::pair{"move", &Ends::atMove},
+                                         std::pair{"end", &Ends::atEnd}}) {
+        for (const int brush : {0, 3, 4}) {
+            for (const int drags : {5, 14}) {
+                SCOPED_TRACE(std::string(name) + ", brush type " + std::to_string(brush));
+                ends = {};
+                ends.*callback = leave;
+                canvas->setBrushType(brush);
+                canvas->mouseDown(at(20));
+                drag(drags);
+                canvas->mouseUp(at(20 + drags * 8));
+                expectIdle();
+                EXPECT_EQ(ends.did.size(), callback == &Ends::atBegin ? 0u : 1u);
+            }
+        }
+    }
+    ends = {};
+}
+
+TEST_F(CanvasPointerTest, TheKindOfBrushMayChangeInMidStroke) {
+    // Chosen at the beginning, a brush is the stroke's.
+    for (const int from : {0, 3, 4}) {
+        canvas->clear();
+        canvas->setBrushType(from);
+        ends.atBegin = [](QDDrawCanvas& c) { c.setBrushType(0); };
+        canvas->mouseDown(at(20));
+        drag(12);
+        canvas->mouseUp(at(116));
+        EXPECT_FALSE(isBlank()) << "from " << from;
+    }
+    ends = {};
+    // A second line masks only what is drawn from then on.
+    canvas->clear();
+    canvas->setRepeatedlyRenderEnabled(true);
+    paintWave(*canvas, 40);
+    canvas->setRepeatedlyRenderEnabled(false);
+    paintWave(*canvas, 100, 30, [&](int move) {
+        if (move == 15) {
+            const QImage half = canvas->image();
+            canvas->setRepeatedlyRenderEnabled(true);
+            EXPECT_TRUE(imagesMatch(canvas->image(), half));
+        } else if (move == 25) {
+            EXPECT_LT(painted(canvas->image().copy(0, 75, 200, 75)).left(), 30);
+            EXPECT_GT(painted(canvas->image().copy(0, 75, 200, 75)).right(), 130);
+        }
+    });
+    canvas->setRepeatedlyRenderEnabled(false);
+    // What was drawn stays, whatever becomes of the next stroke.
+    canvas->drawingWithBeginPoint({20, 75});
+    canvas->drawingWithMoveToPoint({90, 75});
+    canvas->drawingWithMoveToPoint({160, 75});
+    canvas->setBrushType(4);
+    canvas->drawingWithEndPoint({180, 75});
+    canvas->setBrushType(0);
+    const QImage before = canvas->image();
+    canvas->mouseDown(at(20));
+    drag(7, 20);
+    canvas->mouseUp(at(160));
+    EXPECT_TRUE(imagesMatch(canvas->image(), before));
 }
 
 TEST_F(CanvasPointerTest, RefusedStrokesLeaveEveryFlagIdle) {

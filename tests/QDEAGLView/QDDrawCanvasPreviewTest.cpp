@@ -87,6 +87,16 @@ TEST_F(CanvasPreviewTest, ReachesTheCanvasInTheOrderOfStrokes) {
     EXPECT_EQ(both.pixelColor(70, 40), QColor(255, 0, 0));
     EXPECT_TRUE(canvas->edited());
 
+    // Dabs drawn by hand lie above it, too.
+    canvas->clear();
+    useLeaf(*canvas);
+    begin(*canvas, QRectF(20, 20, 100, 100));
+    canvas->drawingWithEndPoint({20, 120});
+    canvas->setRenderColor(ESColor::rgba(0, 0, 1));
+    canvas->drawPoint({70, 70}, 20);
+    canvas->updateImage(false);
+    EXPECT_EQ(canvas->image().pixelColor(70, 70), QColor(0, 0, 255));
+
     // A clear after the end clears the stroke, too; flow is its opacity.
     useLeaf(*canvas);
     begin(*canvas, QRectF(20, 20, 100, 100));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <functional>
 #include <string>
 
 #include "QDEAGLView/QDDrawCanvas.h"
@@ -214,6 +215,17 @@ TEST_F(CanvasSmudgeTest, SmudgesTheCanvasAsItIsNow) {
     drag(*canvas, {20, 75}, {180, 75});
     EXPECT_EQ(canvas->image().pixelColor(100, 75), QColor(255, 0, 0));
 
+    // In the middle of a stroke, too, whose own past does not come back.
+    canvas->clearWithColor(ESColor::rgba(0, 0, 1), true);
+    canvas->drawingWithBeginPoint({20, 75});
+    canvas->drawingWithMoveToPoint({60, 75});
+    canvas->drawingWithMoveToPoint({100, 75});
+    canvas->clearWithColor(ESColor::rgba(1, 0, 0), true);
+    canvas->drawingWithMoveToPoint({100, 90});
+    canvas->drawingWithEndPoint({60, 90});
+    EXPECT_EQ(painted(canvas->image()), canvas->image().rect());
+    EXPECT_EQ(canvas->image().pixelColor(60, 75), QColor(255, 0, 0));
+
     // A kind of brush that changes in mid-stroke keeps what was drawn.
     canvas->setRenderColor(ESColor::rgba(0, 0, 1));
     canvas->setLoadQuantity(1);
@@ -228,6 +240,46 @@ TEST_F(CanvasSmudgeTest, SmudgesTheCanvasAsItIsNow) {
     const QImage both = canvas->image();
     EXPECT_GT(both.pixelColor(50, 40).blue(), 60);
     EXPECT_GT(both.pixelColor(150, 40).blue(), 230);
+}
+
+TEST_F(CanvasSmudgeTest, SettingTheBrushAgainInMidStrokeLosesNothing) {
+    const auto smudged = [](const std::function<void(QDDrawCanvas&)>& inTheMiddle) {
+        auto canvas = makeCanvas();
+        paintStripes(*canvas);
+        useFinger(*canvas);
+        paintWave(*canvas, 75, 30, [&](int move) {
+            if (move == 15) {
+                inTheMiddle(*canvas);
+            }
+        });
+        return canvas->image();
+    };
+    const QImage plain = smudged([](QDDrawCanvas&) {});
+    EXPECT_TRUE(imagesMatch(smudged([](QDDrawCanvas& c) { c.setBrushType(3); }), plain));
+    EXPECT_TRUE(imagesMatch(smudged([](QDDrawCanvas& c) { c.setEnableRecogition(false); }), plain));
+    // The layer has half the canvas's resolution; what it is filled from anew differs by little.
+    EXPECT_TRUE(imagesMatch(smudged([](QDDrawCanvas& c) { c.updateSmudgeBGTexture(); }), plain, 24));
+}
+
+TEST_F(CanvasSmudgeTest, AStrokeThatTurnsIntoASmudgePicksUpWhereItIs) {
+    auto canvas = makeCanvas(300, 60);
+    canvas->setHardness(1);
+    canvas->clearWithColor(ESColor::rgba(0, 0, 1), true);
+    canvas->setRenderColor(ESColor::rgba(1, 0, 0));
+    drag(*canvas, {30, 0}, {30, 60});
+    useFinger(*canvas);
+    drag(*canvas, {20, 30}, {30, 30});  // ends in the red
+    canvas->setBrushType(0);
+    canvas->setRenderColor(ESColor::rgba(0, 0, 1));
+    canvas->drawingWithBeginPoint({180, 30});
+    canvas->drawingWithMoveToPoint({200, 30});
+    canvas->drawingWithMoveToPoint({220, 30});
+    canvas->setBrushType(3);
+    for (int i = 1; i <= 6; ++i) {
+        canvas->drawingWithMoveToPoint({220.0 + i * 10, 30});
+    }
+    canvas->drawingWithEndPoint({290, 30});
+    EXPECT_EQ(redIn(canvas->image(), QRect(150, 0, 150, 60)), 0);
 }
 
 }  // namespace

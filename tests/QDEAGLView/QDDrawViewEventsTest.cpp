@@ -236,6 +236,27 @@ TEST_F(DrawViewEventsTest, AStrokeEndsWithItsWindow) {
     delete view;  // quietly
 }
 
+TEST_F(DrawViewEventsTest, ALostEndBlocksNoOtherPointer) {
+    touch(QEvent::TouchBegin, {{{20, 30}, Finger::Pressed}, {{120, 30}, Finger::Pressed}});
+    window.hide();  // and the end of the pinch goes elsewhere
+    window.show();
+    touch(QEvent::TouchBegin, {{{20, 110}, Finger::Pressed}});
+    touch(QEvent::TouchUpdate, {{{80, 110}, Finger::Updated}});
+    touch(QEvent::TouchUpdate, {{{150, 110}, Finger::Updated}});
+    view->setEnabled(false);
+    view->setEnabled(true);
+    expectIdle();
+    touch(QEvent::TouchBegin, {{{20, 110}, Finger::Pressed}});
+    touch(QEvent::TouchUpdate, {{{80, 110}, Finger::Updated}});
+    touch(QEvent::TouchEnd, {{{150, 110}, Finger::Released}});
+    EXPECT_GT(mark().top(), 80);
+    touch(QEvent::TouchBegin, {{{20, 110}, Finger::Pressed}});
+    view->setEnabled(false);
+    view->setEnabled(true);
+    mouseStroke(40);
+    EXPECT_LT(mark().top(), 40);
+}
+
 TEST_F(DrawViewEventsTest, AnotherWindowShowsTheSamePicture) {
     mouseStroke(75);
     const QImage before = view->image();

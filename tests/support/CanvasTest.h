@@ -15,7 +15,7 @@
 class CanvasTest : public ::testing::Test {
 protected:
     // Without OpenGL nothing of a canvas can be tested: the program fails at once.
-    std::unique_ptr<QDDrawCanvas> makeCanvas(int width = 200, int height = 150) {
+    static std::unique_ptr<QDDrawCanvas> makeCanvas(int width = 200, int height = 150) {
         auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height));
         if (!canvas) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";

@@ -1,16 +1,14 @@
-// SPDX-License-Identifier: MIT
-// A file spelled byte by byte: pairs of digits, "text", ?? for a byte that means nothing, # for a comment.
+// SPDX-License-Identifier: MIT A file spelled byte by byte, in words: 0F, "text", ?? for a byte that means
+// nothing, # to the end of the line.
 #pragma once
 
-#include <cctype>
 #include <fstream>
 #include <string>
 
 struct HexFile {
-    std::string bytes;  // with a filling for those that mean nothing
-    std::string means;  // 1 where a byte means something
+    std::string bytes, means;  // with a filling for the bytes that mean nothing, and 0 at their places
 
-    // `written`, with the filling where bytes mean nothing; to be equal to `bytes`.
+    // `written`, which is to be equal to `bytes`, with the filling.
     std::string filled(std::string written) const {
         for (std::size_t i = 0; i < written.size() && i < means.size(); ++i) {
             written[i] = means[i] ? written[i] : bytes[i];
@@ -22,26 +20,15 @@ struct HexFile {
 inline HexFile hexFile(const std::string& path) {
     HexFile file;
     std::ifstream in(path);
-    const auto add = [&](char byte, bool means) {
-        file.bytes += byte;
-        file.means += static_cast<char>(means);
-    };
-    for (std::string line; std::getline(in, line);) {
-        for (std::size_t i = 0; i < line.size() && line[i] != '#';) {
-            if (line[i] == '"') {
-                while (++i < line.size() && line[i] != '"') {
-                    add(line[i], true);
-                }
-                ++i;
-            } else if (std::isspace(static_cast<unsigned char>(line[i]))) {
-                ++i;
-            } else {
-                const std::string pair = line.substr(i, 2);
-                const bool means = pair != "??";
-                add(static_cast<char>(means ? std::stoi(pair, nullptr, 16) : 0xAA), means);
-                i += 2;
-            }
+    for (std::string word; in >> word;) {
+        if (word[0] == '#') {
+            std::getline(in, word);
+        } else if (word[0] == '"') {
+            file.bytes += word.substr(1, word.size() - 2);
+        } else {
+            file.bytes += static_cast<char>(word == "??" ? 0xAA : std::stoi(word, nullptr, 16));
         }
+        file.means.resize(file.bytes.size(), static_cast<char>(word != "??"));
     }
     return file;
 }

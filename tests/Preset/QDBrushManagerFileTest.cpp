@@ -1,0 +1,344 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "Preset/QDBrushManager.h"
+#include "support/HexFile.h"
+#include "support/LogCapture.h"
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#endif
+
+namespace {
+
+BrushParam param(int id, const char* method, const QVariant& value, int type) {
+    return QDBrushManager::paramWithID(id, QString::fromLatin1(method), value, type);
+}
+
+HexFile spelled(const char* name) {
+    return hexFile(std::string(DABCANVAS_TEST_DATA "/xbf/") + name + ".hex");
+}
+
+class QDBrushManagerFile : public ::testing::Test {
+protected:
+    QByteArray content() const {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void setContent(const QByteArray& bytes) const {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    void setContent(const std::string& bytes) const { setContent(QByteArray::fromStdString(bytes)); }
+    // The only brush of the file, which must be whole.
+    QVariantMap onlyBrush() const {
+        QString problem;
+        const auto brushes = QDBrushManager::brushesWithXBFPath(path, nullptr, &problem);
+        EXPECT_EQ(problem, QString());
+        EXPECT_TRUE(brushes && brushes->size() == 1);
+        return brushes && brushes->size() == 1 ? brushes->front() : QVariantMap();
+    }
+    // What one value of a type reads back as.
+    QVariant saved(const QVariant& value, int type) const {
+        EXPECT_TRUE(QDBrushManager::saveParams(BrushParams{param(1, "setIt:", value, type)}, 200, {}, path));
+        return BrushRecords::paramValueForKey(BrushRecords::brushParams(onlyBrush()), 1);
+    }
+
+    qsizetype filesInFolder() const {
+        return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size();
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(QStringLiteral("水彩 brush.xbf"));
+};
+
+// Bytes
+
+TEST_F(QDBrushManagerFile, EveryTypeIsSpelledAsItsFileSaysBothWays) {
+    const QByteArray data("\0\1\2\3\4\5\6\7\x08\xFF", 10);
+    const auto color = [](float green) { return QVariant::fromValue(ESColor::rgba(1, green, 0.2f, 0)); };
+    const char* const setColor = "setRenderColor:";
+    const QString key = QStringLiteral("Quick"), text = QStringLiteral("ab\u00E9"),
+                  empty = QStringLiteral("");
+    const struct {
+        const char* name;
+        BrushParams written, read;  // the same, when there is only one
+    } rows[] = {
+        {"bool", {param(0x2003, "setFlipX:", true, kXBFBool)}, {}},
+        {"int", {param(0x300C, "setTrackNum:", -2, kXBFInt)}, {}},
+        {"float", {param(0x2002, "setRadius:", 12.5f, kXBFFloat)}, {}},
+        {"double", {param(0x7FFF, "", -0.1, kXBFDouble)}, {}},
+        {"color",
+         {param(0x1003, setColor, color(0.5f), kXBFColor)},
+         {param(0x1003, setColor, color(127 / 255.0f), kXBFColor)}},
+        {"character",
+         {param(1, "setKey:", key, kXBFCharacter)},
+         {param(1, "setKey:", key.left(1), kXBFCharacter)}},
+        {"text", {param(0x9001, "setShaders:", text, kXBFText)}, {}},
+        {"data", {param(0x800F, "setMaskImage:", data, kXBFData)}, {}},
+        {"preset",
+         {param(0x1001, "setBrushType:", 2, kXBFInt), param(0x2002, "setRadius:", 0.25f, kXBFFloat),
+          param(0x2001, "setTextureImages:", QByteArray("PN"), kXBFData), param(1, "setIt:", 0, 4098),
+          param(0x2002, "setRadius:", 0.5f, kXBFFloat), param(0x9002, "", empty, kXBFText)},
+         {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const HexFile file = spelled(row.name);
+        ASSERT_TRUE(QDBrushManager::saveParams(row.written, 200, QStringLiteral("Ink"), path));
+        EXPECT_EQ(QByteArray::fromStdString(file.filled(content().toStdString())).toHex(' '),
+                  QByteArray::fromStdString(file.bytes).toHex(' '));
+        setContent(file.bytes);
+        const QVariantMap brush = onlyBrush();
+        EXPECT_EQ(BrushRecords::brushName(brush), QStringLiteral("Ink"));
+        EXPECT_EQ(BrushRecords::brushVersion(brush), 200);
+        const BrushParams& expected = row.read.isEmpty() ? row.written : row.read;
+        const BrushParams params = BrushRecords::brushParams(brush);
+        EXPECT_EQ(params, expected);
+        for (qsizetype i = 0; i < std::min(params.size(), expected.size()); ++i) {
+            EXPECT_EQ(BrushRecords::paramValue(params[i]).typeId(),
+                      BrushRecords::paramValue(expected[i]).typeId());
+        }
+    }
+    const BrushParams params = BrushRecords::brushParams(onlyBrush());
+    EXPECT_EQ(BrushRecords::paramValueForKey(params, 0x2002).toFloat(), 0.25f);  // the first one's
+    EXPECT_FALSE(BrushRecords::paramValueForKey(params, 0x2003).isValid());
+}
+
+// Deliberate: what a type does not name is the record's before. A boolean after a double shows it.
+TEST_F(QDBrushManagerFile, TheValueIsClearedOnceNotForEveryRecord) {
+    ASSERT_TRUE(QDBrushManager::saveParams(
+        BrushParams{param(1, "", 1.0 / 3, kXBFDouble), param(2, "", true, kXBFBool)}, 200, {}, path));
+    const QByteArray bytes = content();
+    constexpr qsizetype kFirst = 12 + 4 + 12, kSecond = kFirst + 16 + 12;
+    EXPECT_EQ(bytes.mid(kFirst, 16).toHex(), QByteArray("555555555555d53f0000000000000000"));
+    EXPECT_EQ(bytes.mid(kSecond, 16).toHex(), QByteArray("015555555555d53f0000000000000000"));
+    EXPECT_EQ(bytes.mid(kSecond + 16 + 12, 8), QByteArray(8, 0));  // the terminator's
+}
+
+TEST_F(QDBrushManagerFile, ColoursAreCutButDoNotFadeFromSaveToSave) {
+    for (int stored = 0; stored <= 255; ++stored) {
+        const QVariant color = QVariant::fromValue(ESColor::rgba(static_cast<float>(stored / 255.0), 0, 0));
+        ASSERT_EQ(saved(color, kXBFColor), color) << stored;
+    }
+    EXPECT_EQ(saved(QColor(51, 102, 153), kXBFColor), QVariant::fromValue(ESColor::rgba(0.2f, 0.4f, 0.6f)));
+}
+
+TEST_F(QDBrushManagerFile, ValuesOfAnotherTypeAreConverted) {
+    const struct {
+        const char* name;
+        QVariant value;
+        int type;
+        QVariant expected;
+    } rows[] = {
+        {"bool kept as float", 1.0f, kXBFBool, true},
+        {"half as bool", 0.5, kXBFBool, true},
+        {"text as float", QStringLiteral("2.5"), kXBFFloat, 2.5f},
+        {"nothing as int", QVariant(), kXBFInt, 0},
+        {"nothing as colour", QVariant(), kXBFColor, QVariant::fromValue(ESColor::rgba(0, 0, 0, 0))},
+        {"colour as int", QVariant::fromValue(ESColor::grey(1)), kXBFInt, 0},
+        {"nothing as character", QVariant(), kXBFCharacter, QString()},
+        {"nothing as text", QVariant(), kXBFText, QString()},
+        {"nothing as data", QVariant(), kXBFData, QByteArray()},
+        {"a character of two bytes", QStringLiteral("\u00E9"), kXBFCharacter, QStringLiteral("\u00C3")},
+        {"a reserved type", 7, 4099, 0},
+        {"an unknown type", 7, 1, 0},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(saved(row.value, row.type), row.expected);
+    }
+}
+
+TEST_F(QDBrushManagerFile, NothingButTheFrameWithoutParameters) {
+    ASSERT_TRUE(QDBrushManager::saveParams(BrushParams(), 7, QStringLiteral("Füller"), path));
+    EXPECT_EQ(content().size(), 12 + 4 + 7 + 28);
+    EXPECT_EQ(BrushRecords::brushParams(onlyBrush()), BrushParams());
+    EXPECT_EQ(BrushRecords::brushName(onlyBrush()), QStringLiteral("Füller"));
+    ASSERT_TRUE(QDBrushManager::saveParams(BrushParams(), 7, {}, path));
+    EXPECT_EQ(onlyBrush().value(kBrushNameKey), QVariant(QStringLiteral("")));
+}
+
+// Reading
+
+TEST_F(QDBrushManagerFile, SeveralBrushesAndTheirNames) {
+    const std::string one = spelled("text").bytes.substr(12);
+    const std::string two = spelled("data").bytes.substr(12).replace(4, 3, "\xFFn\xC3");
+    setContent(std::string("\5\0\0\0\1\x10\0\0\3\0\0\0", 12) + one + two + one + "behind the last one");
+    int version = 0, same = 0;
+    QString problem;
+    const auto brushes = QDBrushManager::brushesWithXBFPath(path, &version, &problem);
+    EXPECT_EQ(problem, QString());
+    QStringList names;
+    for (const QVariantMap& brush : brushes.value_or(QList<QVariantMap>())) {
+        names += BrushRecords::brushName(brush);
+        EXPECT_EQ(BrushRecords::brushParams(brush).size(), 1);
+        EXPECT_EQ(BrushRecords::brushVersion(brush), 5);
+    }
+    EXPECT_EQ(names.join(' '), QStringLiteral("Ink \uFFFDn\uFFFD Ink"));
+    EXPECT_EQ(QDBrushManager::brushNamesWithXBFPath(path, &same), names);
+    EXPECT_TRUE(version == 5 && same == 5);
+}
+
+// Cut anywhere, a file gives the records that are whole, says once that it is damaged, and where.
+TEST_F(QDBrushManagerFile, AFileCutAnywhereGivesWhatIsWhole) {
+    const std::string whole = spelled("preset").bytes;
+    // Where the name and each record end.
+    const std::size_t ends[] = {19, 60, 98, 145, 179, 217, 249, 277};
+    ASSERT_EQ(whole.size(), ends[7]);
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        SCOPED_TRACE(size);
+        setContent(whole.substr(0, size));
+        LogCapture log;
+        QString problem;
+        const auto brushes = QDBrushManager::brushesWithXBFPath(path, nullptr, &problem);
+        EXPECT_FALSE(problem.isEmpty());
+        EXPECT_EQ(log.lines().size(), 1);
+        EXPECT_TRUE(log.has(problem) && log.has(path));
+        ASSERT_EQ(brushes.has_value(), size >= 12);
+        if (brushes) {
+            ASSERT_EQ(brushes->size(), size >= ends[0] ? 1 : 0);
+            const auto records =
+                std::count_if(ends + 1, ends + 7, [&](std::size_t end) { return end <= size; });
+            if (!brushes->isEmpty()) {
+                EXPECT_EQ(BrushRecords::brushParams(brushes->front()).size(), records);
+            }
+        }
+    }
+}
+
+TEST_F(QDBrushManagerFile, AnotherCountOrLengthSaysWhereItIsWrong) {
+    const struct {
+        std::size_t place;
+        const char* length;
+        qsizetype brushes;
+        const char* problem;
+    } rows[] = {
+        {8, "\0\0\0\0", 0, ""},
+        {8, "\xFF\xFF\xFF\xFF", 0, ""},
+        {8, "\xFF\xFF\xFF\x7F", 1, "name of brush 2 of 2147483647: the file ends before it"},
+        {12, "\xFF\xFF\xFF\x7F", 0, "name of brush 1 of 1: it claims more bytes than the file holds"},
+        {127, "\0\0\0\x10", 1, "record 3 of brush 1 of 1: it claims more bytes than the file holds"},
+        {127, "\xFF\xFF\xFF\xFF", 1, "record 3 of brush 1 of 1: its size is not possible"},
+    };
+    for (const auto& row : rows) {
+        setContent(spelled("preset").bytes.replace(row.place, 4, row.length, 4));
+        const LogCapture log;
+        int version = 0;
+        QString problem;
+        const auto brushes = QDBrushManager::brushesWithXBFPath(path, &version, &problem);
+        EXPECT_EQ(brushes ? brushes->size() : -1, row.brushes);
+        EXPECT_EQ(version, 200);
+        EXPECT_EQ(problem, QLatin1String(row.problem));
+    }
+}
+
+TEST_F(QDBrushManagerFile, WhatIsNoBrushFileIsSaidSo) {
+    setContent(QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) + QByteArray(100, 0));
+    const struct {
+        QString path;
+        const char* problem;
+    } rows[] = {{path, "this is not an XBF file"},
+                {folder.path(), "the file cannot be read"},
+                {folder.filePath(QStringLiteral("none.xbf")), std::strerror(ENOENT)},
+                {path + QChar(0) + QStringLiteral(".png"), std::strerror(EINVAL)},
+                {QString(), ""}};
+    for (const auto& row : rows) {
+        const LogCapture log;
+        int version = -1;
+        QString problem, same;
+        EXPECT_FALSE(QDBrushManager::brushesWithXBFPath(row.path, &version, &problem));
+        EXPECT_FALSE(QDBrushManager::brushNamesWithXBFPath(row.path, &version, &same));
+        EXPECT_TRUE(!problem.isEmpty() && problem.contains(QLatin1String(row.problem))) << row.problem;
+        EXPECT_EQ(same, problem);
+        EXPECT_EQ(version, -1);
+        EXPECT_EQ(log.lines().size(), 2);
+    }
+}
+
+// Writing
+
+// Whatever is refused leaves the old file, and nothing beside it.
+TEST_F(QDBrushManagerFile, ARefusedSaveLeavesTheOldFile) {
+    const BrushParams good{param(1, "setIt:", 1, kXBFInt)};
+    ASSERT_TRUE(QDBrushManager::saveParams(good, 200, {}, path));
+    const QByteArray before = content();
+#ifdef Q_OS_UNIX
+    const QString pipe = folder.filePath(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(pipe.toUtf8().constData(), 0600), 0);
+#endif
+    const struct {
+        const char* name;
+        std::optional<BrushParams> params;
+        QString path;
+    } rows[] = {
+        {"no list", std::nullopt, path},
+        {"a record that would end the brush", BrushParams{good.front(), BrushParam()}, path},
+        {"no path", good, QString()},
+        {"no folder", good, folder.filePath(QStringLiteral("none/a.xbf"))},
+        {"a file as folder", good, path + QStringLiteral("/a.xbf")},
+        {"a folder", good, folder.path()},
+#ifdef Q_OS_UNIX
+        {"a pipe", good, pipe},
+#endif
+        {"a path with a NUL", good, path + QChar(0) + QStringLiteral("a")},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const LogCapture log;
+        QString problem;
+        EXPECT_FALSE(QDBrushManager::saveParams(row.params, 200, {}, row.path, &problem));
+        EXPECT_FALSE(problem.isEmpty());
+        EXPECT_EQ(log.lines().size(), 1);
+        EXPECT_TRUE(log.has(problem));
+        EXPECT_EQ(content(), before);
+        EXPECT_EQ(filesInFolder(), 1);
+    }
+}
+
+#ifdef Q_OS_UNIX
+// A limit on file sizes stands for a full disk.
+TEST_F(QDBrushManagerFile, AFullDiskLeavesTheOldFile) {
+    ASSERT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, path));
+    const QByteArray before = content();
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    for (const qsizetype size : {3'000, 100'000}) {  // found out when flushing, and when writing
+        const rlimit small{1024, old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        const LogCapture log;
+        EXPECT_FALSE(QDBrushManager::saveParams(BrushParams{param(1, "", QByteArray(size, 'd'), kXBFData)},
+                                                200, {}, path));
+        setrlimit(RLIMIT_FSIZE, &old);
+        EXPECT_TRUE(log.has(QString::fromLocal8Bit(std::strerror(EFBIG))));
+        EXPECT_EQ(content(), before);
+        EXPECT_EQ(filesInFolder(), 1);
+    }
+    std::signal(SIGXFSZ, handler);
+}
+
+TEST_F(QDBrushManagerFile, LinksAreFollowedAndPermissionsStay) {
+    const QString link = folder.filePath(QStringLiteral("link.xbf"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("水彩 brush.xbf"), link));
+    EXPECT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, link));  // dangling as yet
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+    const auto before = QFile::permissions(path);
+    EXPECT_TRUE(QDBrushManager::saveParams(BrushParams(), 201, {}, link));
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(BrushRecords::brushVersion(onlyBrush()), 201);
+    EXPECT_EQ(QFile::permissions(path), before);
+}
+#endif
+
+}  // namespace
