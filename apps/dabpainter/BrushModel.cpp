@@ -2,9 +2,12 @@
 #include "BrushModel.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "BrushPresentation.h"
+#include "ESRender/ESImageRender.h"
+#include "Preset/QDBrushManager.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpainter {
@@ -27,7 +30,43 @@ QVariant readyTips(QDDrawCanvas& canvas) {
     return tips;
 }
 
+bool isColor(const BrushProperty& property) {
+    return property.type() == BrushValueType::color;
+}
+
+// Up to what is lost on the way through files and other canvases.
+bool nearlySameBrushValue(const QVariant& a, const QVariant& b) {
+    if (a.typeId() == QMetaType::Float && b.typeId() == QMetaType::Float) {
+        const float x = a.toFloat(), y = b.toFloat();
+        return std::abs(x - y) <= 1e-5f * std::max({1.0f, std::abs(x), std::abs(y)});
+    }
+    if (a.typeId() == QMetaType::QImage && b.typeId() == QMetaType::QImage) {
+        const auto x = a.value<QImage>(), y = b.value<QImage>();
+        return sameBrushValue(a, b) || x.convertToFormat(y.format()) == y;
+    }
+    return sameBrushValue(a, b);
+}
+
 }  // namespace
+
+void applyPreset(QDDrawCanvas& canvas, const BrushPreset& preset) {
+    for (const BrushProperty& property : brushProperties()) {
+        // What a canvas otherwise leaves as it is when a preset does not name it.
+        const bool isPlain = !isColor(property) && property.type() != BrushValueType::image &&
+                             property.type() != BrushValueType::images;
+        if (property.presetId != 0 && !property.reset && isPlain)
+            canvas.setBrushValue(property, brushDefault(property));
+    }
+    canvas.resetWithParams(preset.params, preset.version);
+    constexpr quint32 kBlendText = 0x9006;
+    if (BrushRecords::paramValueForKey(preset.params, kBlendText).isValid()) {
+        // A blend mode by its program's text, which only presets made elsewhere hold: from here on by its number.
+        const auto type = ESImageRender::blendTypeOfFragmentShaderString(canvas.blendFragmentShaderString());
+        canvas.setBlendType(std::int32_t(type != 0 ? type : std::uint32_t{ESBlendTypeNormal}));
+    }
+    if (canvas.textureType() == 0 && canvas.textureImages().isEmpty())
+        canvas.setTextureType(1);  // it came without the images that were to be its tip
+}
 
 bool sameBrushValue(const QVariant& a, const QVariant& b) {
     if (a.typeId() != b.typeId())
@@ -73,6 +112,7 @@ void BrushModel::attach(QDDrawCanvas* canvas) {
         _knowsDefaults = true;
     }
     applyAll(*canvas);
+    readBack();
 }
 
 bool BrushModel::setValue(BrushKey key, const QVariant& value) {
@@ -99,6 +139,10 @@ bool BrushModel::setValue(BrushKey key, const QVariant& value) {
 }
 
 void BrushModel::resetAll() {
+    if (_preset) {
+        takePreset(BrushPreset(*_preset));
+        return;
+    }
     for (const BrushProperty& property : brushProperties()) {
         if (!isHidden(property))
             reset(property.key);
@@ -110,12 +154,68 @@ void BrushModel::resetAll() {
     }
 }
 
+std::optional<BrushParams> BrushModel::params() const {
+    return _overridden == BrushKey::count ? QDBrushManager::paramsOfDrawView(_canvas) : std::nullopt;
+}
+
+bool BrushModel::takePreset(const BrushPreset& preset) {
+    if (!_canvas || _overridden != BrushKey::count)
+        return false;
+    applyPreset(*_canvas, preset);
+    _presetValues = valuesOf(*_canvas);
+    if (!_presetsSetColors) {
+        for (const BrushProperty& property : brushProperties()) {
+            if (isColor(property))
+                _canvas->setBrushValue(property, value(property.key));
+        }
+    }
+    _preset = preset;
+    const std::vector<QVariant> before = std::exchange(_values, valuesOf(*_canvas));
+    for (const BrushProperty& property : brushProperties()) {
+        if (!sameBrushValue(before[std::size_t(property.key)], value(property.key)))
+            emit changed(property.key);
+    }
+    emit presetChanged();
+    return true;
+}
+
+void BrushModel::comesFrom(const std::optional<BrushPreset>& preset) {
+    // What it makes of a canvas is known only by doing so.
+    const auto canvas = preset ? QDDrawCanvas::initWithFrame(QRectF(0, 0, 16, 16)) : nullptr;
+    _preset.reset();
+    if (canvas) {
+        applyPreset(*canvas, *preset);
+        _preset = preset;
+        _presetValues = valuesOf(*canvas);
+    }
+    emit presetChanged();
+}
+
+bool BrushModel::isModified() const {
+    const std::vector<QVariant>& base = _preset ? _presetValues : _defaults;
+    return std::any_of(brushProperties().begin(), brushProperties().end(), [&](const BrushProperty& row) {
+        const bool counts = row.presetId != 0 && !isHidden(row) &&
+                            (!isColor(row) || (_preset && _presetsSetColors)) &&
+                            (row.key != kTips || value(kTipType).toInt() == 0) &&
+                            (row.key != BrushKey::relationValue || relates());
+        return counts && !nearlySameBrushValue(value(row.key), base[std::size_t(row.key)]);
+    });
+}
+
+// Whether the second line's size follows the first one's, so that relationValue means something.
+bool BrushModel::relates() const {
+    const int type = value(BrushKey::slRadiusRelationType).toInt();
+    return type == 1 || type == 2;
+}
+
 void BrushModel::apply(QDDrawCanvas& canvas, const std::vector<BrushKey>& keys) const {
     const auto has = [&](BrushKey key) { return std::find(keys.begin(), keys.end(), key) != keys.end(); };
     if (has(kTips))
         canvas.setBrushValue(brushProperty(kTips), value(kTips));
     for (const BrushProperty& property : brushProperties()) {
-        if (property.key == kTips || isHidden(property))
+        // Unless it relates the sizes of the two lines, it would but move the second one's.
+        if (property.key == kTips || isHidden(property) ||
+            (property.key == BrushKey::relationValue && !relates()))
             continue;
         // After new tips the type is set as well, as it says whether they are the ones to be used.
         if (has(property.key) || (property.key == kTipType && has(kTips)))
@@ -140,6 +240,15 @@ void BrushModel::endOverride() {
     const BrushKey key = std::exchange(_overridden, BrushKey::count);
     if (_canvas && key != BrushKey::count)
         _canvas->setBrushValue(brushProperty(key), value(key));
+}
+
+std::vector<QVariant> BrushModel::valuesOf(const QDDrawCanvas& canvas) const {
+    std::vector<QVariant> values;
+    for (const BrushProperty& property : brushProperties()) {
+        const bool isLoaded = property.key != kTips || canvas.textureType() == 0;
+        values.push_back(isLoaded ? canvas.brushValue(property) : value(kTips));
+    }
+    return values;
 }
 
 void BrushModel::readBack() {

@@ -188,13 +188,13 @@ BrushPanel::BrushPanel(BrushModel& model, const Prompts& prompts, QWidget* paren
     search->setObjectName(QStringLiteral("search"));
     search->setPlaceholderText(tr("Search settings"));
     search->setClearButtonEnabled(true);
-    auto* resetAll = new QPushButton(tr("Reset all"));
-    resetAll->setToolTip(tr("Gives every brush setting its default"));
-    resetAll->setObjectName(QStringLiteral("resetAll"));
+    _resetAll = new QPushButton;
+    _resetAll->setObjectName(QStringLiteral("resetAll"));
+    nameReset();
     auto* line = new QHBoxLayout;
     line->setContentsMargins(kMargin, 0, kMargin, 0);
     line->addWidget(search, 1);
-    line->addWidget(resetAll);
+    line->addWidget(_resetAll);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, kMargin, 0, 0);
@@ -204,7 +204,14 @@ BrushPanel::BrushPanel(BrushModel& model, const Prompts& prompts, QWidget* paren
     layout->addWidget(makeGroups(), 1);
 
     connect(search, &QLineEdit::textChanged, this, &BrushPanel::filter);
-    connect(resetAll, &QPushButton::clicked, &model, &BrushModel::resetAll);
+    connect(_resetAll, &QPushButton::clicked, &model, &BrushModel::resetAll);
+    connect(&model, &BrushModel::presetChanged, this, &BrushPanel::nameReset);
+}
+
+void BrushPanel::nameReset() {
+    _resetAll->setText(_model.preset() ? tr("Reset to preset") : tr("Reset all"));
+    _resetAll->setToolTip(_model.preset() ? tr("Gives every brush setting what the chosen brush has")
+                                          : tr("Gives every brush setting its default"));
 }
 
 BrushRow* BrushPanel::makeRow(const BrushProperty& property) {

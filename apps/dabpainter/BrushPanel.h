@@ -8,6 +8,7 @@
 #include "BrushModel.h"
 
 class QLabel;
+class QPushButton;
 class QSettings;
 class QToolButton;
 class QVBoxLayout;
@@ -85,6 +86,7 @@ private:
     BrushRow* makeRow(const BrushProperty& property);
     QWidget* makeTop();
     QWidget* makeGroups();
+    void nameReset();
 
     BrushModel& _model;
     const Prompts& _prompts;
@@ -92,6 +94,7 @@ private:
     std::vector<BrushRow*> _rows;
     std::vector<BrushSection*> _sections;
     QLabel* _nothing;
+    QPushButton* _resetAll;
 };
 
 }  // namespace dabcanvas::dabpainter

@@ -149,6 +149,10 @@ void readBrush(QSettings& settings, BrushModel& model) {
         const QVariant stored = settings.value(QLatin1String(property.name));
         if (!stored.isValid() || brushPresentation(property).place == BrushPlace::hidden)
             continue;
+        // Follows from the sizes of the two lines, when these do not follow from it.
+        if (property.key == BrushKey::relationValue &&
+            model.value(BrushKey::slRadiusRelationType).toInt() == 0)
+            continue;
         const QVariant value = fromStored(property, stored);
         if (value.isValid())
             model.setValue(property.key, value);

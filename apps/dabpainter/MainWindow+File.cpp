@@ -13,6 +13,7 @@
 #include "CanvasViewport.h"
 #include "ImageFiles.h"
 #include "MainWindow.h"
+#include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 
 namespace dabcanvas::dabpainter {
@@ -58,6 +59,7 @@ bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)
         _brushRead = true;
         defaultColors();  // of a first start
         readBrush(_settings, _brush);
+        _presets->readState(_settings);
     }
     _viewport->setView(std::move(made));
     _pointer->watchView();

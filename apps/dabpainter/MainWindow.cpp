@@ -7,11 +7,14 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QDragEnterEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 
@@ -20,6 +23,7 @@
 #include "BrushStorage.h"
 #include "CanvasPointer.h"
 #include "CanvasViewport.h"
+#include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 
 namespace dabcanvas::dabpainter {
@@ -27,25 +31,35 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr double kZoomStep = 1.25;
-constexpr int kStateVersion = 1;
+constexpr int kStateVersion = 2;
 
 QKeySequence key(const char* text) {
     return QKeySequence(QString::fromLatin1(text));
 }
 
+QStringList brushFilesOf(const QMimeData& data) {
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        const QString path = url.toLocalFile();
+        if (path.endsWith(QLatin1String(".xbf"), Qt::CaseInsensitive))
+            paths << path;
+    }
+    return paths;
+}
+
 }  // namespace
 
-MainWindow::MainWindow(QSettings& settings, Prompts prompts)
+MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders)
     : _settings(settings), _prompts(std::move(prompts)), _viewport(new CanvasViewport) {
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
     setCentralWidget(_viewport);
+    _presets = new PresetBrowser(_brush, _prompts, std::move(folders), [this] { return _pointer->isIdle(); });
+    _presetDock = addDock(tr("Brushes"), QStringLiteral("presetDock"), _presets);
     _panel = new BrushPanel(_brush, _prompts);
-    _dock = new QDockWidget(tr("Brush"));
-    _dock->setObjectName(QStringLiteral("brushDock"));
-    _dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
-    _dock->setWidget(_panel);
-    addDockWidget(Qt::RightDockWidgetArea, _dock);
+    _dock = addDock(tr("Brush settings"), QStringLiteral("brushDock"), _panel);
+    resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
+    setAcceptDrops(true);
 
     makeFileMenu();
     makeEditMenu();
@@ -79,12 +93,24 @@ MainWindow::~MainWindow() {
     // While this is still a window that their last signals can reach; the pointer goes before what it
     // watches.
     delete _pointer;
-    delete _dock;
+    for (QDockWidget* dock : {_dock, _presetDock}) {
+        disconnect(dock, &QDockWidget::visibilityChanged, nullptr, nullptr);  // which looks at both
+        delete dock;
+    }
     delete _viewport;
 }
 
 QDDrawView* MainWindow::view() const {
     return _viewport->view();
+}
+
+QDockWidget* MainWindow::addDock(const QString& title, const QString& name, QWidget* widget) {
+    auto* dock = new QDockWidget(title);
+    dock->setObjectName(name);
+    dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    dock->setWidget(widget);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    return dock;
 }
 
 // ---- Menus
@@ -139,7 +165,12 @@ void MainWindow::makeBrushMenu() {
     connect(pick, &QAction::toggled, _pointer, &CanvasPointer::setPicking);
     connect(_pointer, &CanvasPointer::pickingChanged, pick, &QAction::setChecked);
     menu->addSeparator();
-    addTo(menu, tr("&Reset All Settings"), {}, [this] { _brush.resetAll(); });
+    menu->addAction(_presets->saveAction());
+    menu->addAction(_presets->importAction());
+    QAction* reset = addTo(menu, tr("&Reset All Settings"), {}, [this] { _brush.resetAll(); });
+    connect(&_brush, &BrushModel::presetChanged, reset, [this, reset] {
+        reset->setText(_brush.preset() ? tr("&Reset to Preset") : tr("&Reset All Settings"));
+    });
 }
 
 void MainWindow::makeViewMenu() {
@@ -159,10 +190,16 @@ void MainWindow::makeViewMenu() {
             _viewport->fit();
     });
     menu->addSeparator();
-    QAction* panel = addTo(menu, tr("Brush &Panel"), {}, [this] { _dock->setVisible(!_dock->isVisible()); });
+    const auto isAnyShown = [this] { return !_dock->isHidden() || !_presetDock->isHidden(); };
+    QAction* panel = addTo(menu, tr("Brush &Panels"), {}, [this, isAnyShown] {
+        const bool show = !isAnyShown();
+        _presetDock->setVisible(show);
+        _dock->setVisible(show);
+    });
     panel->setCheckable(true);
-    connect(_dock, &QDockWidget::visibilityChanged, panel,
-            [this, panel] { panel->setChecked(!_dock->isHidden()); });
+    for (const QDockWidget* dock : {_presetDock, _dock})
+        connect(dock, &QDockWidget::visibilityChanged, panel,
+                [panel, isAnyShown] { panel->setChecked(isAnyShown()); });
     // On the canvas alone: elsewhere the tabulator goes from field to field.
     removeAction(panel);
     _viewport->addAction(panel);
@@ -253,6 +290,17 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    // What is dragged out of the list is here already.
+    if (!event->source() && !brushFilesOf(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    _presets->importFiles(brushFilesOf(*event->mimeData()));
+}
+
 void MainWindow::readState() {
     if (!restoreGeometry(_settings.value(QStringLiteral("window/geometry")).toByteArray()))
         resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(QSize(1440, 900)));
@@ -267,8 +315,10 @@ void MainWindow::writeState() {
     _settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
     _settings.setValue(QStringLiteral("window/state"), saveState(kStateVersion));
     _panel->writeState(_settings);
-    if (_brushRead)
+    if (_brushRead) {
         writeBrush(_settings, _brush);
+        _presets->writeState(_settings);
+    }
     _settings.sync();
 }
 

@@ -5,6 +5,7 @@
 
 #include "BrushModel.h"
 #include "NewCanvasDialog.h"
+#include "PresetLibrary.h"
 #include "Prompts.h"
 
 class QAction;
@@ -19,6 +20,7 @@ namespace dabcanvas::dabpainter {
 class BrushPanel;
 class CanvasPointer;
 class CanvasViewport;
+class PresetBrowser;
 
 // The application's window: one canvas, the brush and the file the canvas goes to.
 class MainWindow : public QMainWindow {
@@ -26,7 +28,7 @@ class MainWindow : public QMainWindow {
 
 public:
     // The settings must outlive the window.
-    MainWindow(QSettings& settings, Prompts prompts);
+    MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders);
     ~MainWindow() override;
 
     // Each makes a canvas in place of the present one. False, after a message, when it cannot be had; then
@@ -45,6 +47,7 @@ public:
 
     BrushModel& brush() { return _brush; }
     BrushPanel& panel() { return *_panel; }
+    PresetBrowser& presets() { return *_presets; }
     CanvasViewport& viewport() { return *_viewport; }
     CanvasPointer& pointer() { return *_pointer; }
     QDDrawView* view() const;
@@ -52,8 +55,12 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Brush files, from elsewhere.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
+    QDockWidget* addDock(const QString& title, const QString& name, QWidget* widget);
     void makeFileMenu();
     void makeEditMenu();
     void makeCanvasMenu();
@@ -101,7 +108,8 @@ private:
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;
     BrushPanel* _panel;
-    QDockWidget* _dock;
+    PresetBrowser* _presets;
+    QDockWidget *_presetDock, *_dock;
     QAction *_undo, *_redo;
     QLabel *_sizeLabel, *_zoomLabel, *_positionLabel, *_pressureLabel, *_driverLabel;
     bool _brushRead = false;

@@ -3,10 +3,13 @@
 
 #include <QColorDialog>
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QImageReader>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QUrl>
 
 namespace dabcanvas::dabpainter {
 
@@ -39,6 +42,15 @@ UnsavedAnswer askUnsaved(QWidget* parent, const QString& name) {
     }
 }
 
+bool confirm(QWidget* parent, const QString& question, const QString& detail, const QString& button) {
+    QMessageBox box(QMessageBox::Question, QString(), question, QMessageBox::Cancel, parent);
+    box.setInformativeText(detail);
+    QPushButton* yes = box.addButton(button, QMessageBox::AcceptRole);
+    box.setDefaultButton(yes);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
 QStringList pickImages(QWidget* parent, const QString& title, bool several) {
     if (several)
         return QFileDialog::getOpenFileNames(parent, title, QString(), imageFilter());
@@ -46,13 +58,35 @@ QStringList pickImages(QWidget* parent, const QString& title, bool several) {
     return name.isEmpty() ? QStringList() : QStringList(name);
 }
 
-QString pickSaveName(QWidget* parent, const QString& suggested) {
+QString pickName(QWidget* parent, const QString& title, const QString& suggested, const QString& filter,
+                 const QString& suffix) {
     // Not getSaveFileName(): it would ask about overwriting before the suffix is added.
-    QFileDialog dialog(parent, tr("Save As"), suggested, tr("PNG image (*.png)"));
+    QFileDialog dialog(parent, title, suggested, filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("png"));
+    dialog.setDefaultSuffix(suffix);
     dialog.selectFile(suggested);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString pickSaveName(QWidget* parent, const QString& suggested) {
+    return pickName(parent, tr("Save As"), suggested, tr("PNG image (*.png)"), QStringLiteral("png"));
+}
+
+QString pickBrushName(QWidget* parent, const QString& suggested) {
+    return pickName(parent, tr("Export Brush"), suggested, tr("Brush (*.xbf)"), QStringLiteral("xbf"));
+}
+
+QStringList pickBrushes(QWidget* parent) {
+    return QFileDialog::getOpenFileNames(parent, tr("Import Brushes"), QString(),
+                                         tr("Brushes (*.xbf)") + QStringLiteral(";;") + tr("All files (*)"));
+}
+
+QString askName(QWidget* parent, const QString& title, const QString& suggested) {
+    return QInputDialog::getText(parent, title, tr("Name:"), QLineEdit::Normal, suggested);
+}
+
+void showFolder(const QString& path) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 QColor pickColor(QWidget* parent, const QColor& now, const QString& title) {
@@ -66,7 +100,8 @@ void tell(QWidget* parent, const QString& what) {
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved, pickImages, pickSaveName, pickColor, tell};
+    return {askUnsaved, pickImages, pickSaveName, pickColor,     tell,
+            confirm,    askName,    pickBrushes,  pickBrushName, showFolder};
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -19,6 +19,14 @@ struct Prompts {
     std::function<QString(QWidget*, const QString& suggested)> pickSaveName;             // empty: given up
     std::function<QColor(QWidget*, const QColor& now, const QString& title)> pickColor;  // invalid: given up
     std::function<void(QWidget*, const QString& what)> tell;
+    // Whether to do what the button says.
+    std::function<bool(QWidget*, const QString& question, const QString& detail, const QString& button)>
+        confirm;
+    std::function<QString(QWidget*, const QString& title, const QString& suggested)>
+        askName;  // empty: given up
+    std::function<QStringList(QWidget*)> pickBrushes;
+    std::function<QString(QWidget*, const QString& suggested)> pickBrushName;  // to save as; empty: given up
+    std::function<void(const QString& path)> showFolder;
 };
 
 // Message boxes and file dialogs of Qt's own.

@@ -4,12 +4,10 @@
 #include <QImage>
 #include <QTimer>
 #include <QWidget>
-#include <memory>
 #include <vector>
 
 #include "BrushModel.h"
-
-class QDDrawCanvas;
+#include "SampleWave.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -20,7 +18,6 @@ class SampleStroke : public QWidget {
 
 public:
     explicit SampleStroke(const BrushModel& model, QWidget* parent = nullptr);
-    ~SampleStroke() override;
     QSize sizeHint() const override;
 
     // Whether what is shown is the present brush.
@@ -34,20 +31,15 @@ protected:
 
 private:
     void brushChanged(BrushKey key);
+    void takeEverything();
     void begin();
-    bool prepareCanvas();
-    void takeBrush();
-    void paintBackground();
     void paintSome();
-    void enterSample(int i);
     void abandon();
 
     const BrushModel& _model;
-    std::unique_ptr<QDDrawCanvas> _canvas;
-    bool _unavailable = false;
+    SampleWave _wave;
     std::vector<BrushKey> _toTake;
-    int _next = 0;  // sample of the wave; 0 while none is being painted
-    QTimer _wait;   // until the brush has come to rest
+    QTimer _wait;  // until the brush has come to rest
     QTimer _paint;
     QImage _shown;
 };

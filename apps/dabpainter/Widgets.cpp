@@ -66,6 +66,18 @@ QPainterPath glyphPath(Glyph glyph) {
             path.moveTo(12, 2.4);
             path.lineTo(13.6, 4);
             break;
+        case Glyph::add:
+            path.moveTo(8, 3);
+            path.lineTo(8, 13);
+            path.moveTo(3, 8);
+            path.lineTo(13, 8);
+            break;
+        case Glyph::menu:
+            for (const double y : {4.5, 8.0, 11.5}) {
+                path.moveTo(3, y);
+                path.lineTo(13, y);
+            }
+            break;
     }
     return path;
 }

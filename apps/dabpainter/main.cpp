@@ -8,6 +8,7 @@
 
 #include "CommandLine.h"
 #include "MainWindow.h"
+#include "PresetLibrary.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
 namespace {
@@ -39,7 +40,7 @@ int runWindow(const CommandLine& line) {
         return giveUp(QStringLiteral("There is no OpenGL 3.2 to paint with; the log says what is missing."));
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Dabcanvas"),
                        QStringLiteral("dabpainter"));
-    MainWindow window(settings, standardPrompts());
+    MainWindow window(settings, standardPrompts(), standardPresetFolders());
     CanvasPlan plan;
     plan.size = line.size.value_or(plan.size);
     if (!window.startCanvas(plan))

@@ -14,6 +14,7 @@
 #include "BrushModel.h"
 #include "CanvasViewport.h"
 #include "MainWindow.h"
+#include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 
 namespace dabcanvas::dabpainter {
@@ -35,8 +36,17 @@ protected:
         prompts.pickSaveName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.pickColor = [](QWidget*, const QColor&, const QString&) { return QColor(40, 200, 120); };
         prompts.tell = [this](QWidget*, const QString& what) { _told << what; };
+        prompts.confirm = [this](QWidget*, const QString& question, const QString&, const QString&) {
+            _questions << question;
+            return _confirmed;
+        };
+        prompts.askName = [this](QWidget*, const QString&, const QString&) { return _name; };
+        prompts.pickBrushes = [this](QWidget*) { return _images; };
+        prompts.pickBrushName = [this](QWidget*, const QString&) { return _saveName; };
+        prompts.showFolder = [](const QString&) {};
         _window.reset();
-        _window = std::make_unique<MainWindow>(*_settings, prompts);
+        _window = std::make_unique<MainWindow>(*_settings, prompts,
+                                               PresetFolders{path("brushes"), {path("installed")}});
         _window->resize(1000, 700);
         if (!_window->startCanvas({QSize(200, 150), Qt::white})) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";
@@ -70,8 +80,9 @@ protected:
     QTemporaryDir _folder;
     std::optional<QSettings> _settings;
     UnsavedAnswer _answer = UnsavedAnswer::cancel;
-    QStringList _images, _told;
-    QString _saveName;
+    QStringList _images, _told, _questions;
+    QString _saveName, _name;
+    bool _confirmed = true;
     int _asked = 0;
     std::unique_ptr<MainWindow> _window;
 };

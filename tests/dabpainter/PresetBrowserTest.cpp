@@ -1,0 +1,399 @@
+// SPDX-License-Identifier: MIT
+#include "PresetBrowser.h"
+
+#include <QDir>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QUrl>
+#include <map>
+
+#include "BrushPanel.h"
+#include "BrushPresentation.h"
+#include "PainterTest.h"
+#include "Preset/QDBrushManager.h"
+#include "PresetList.h"
+#include "support/LogCapture.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+class PresetBrowserTest : public PainterTest {
+protected:
+    PresetBrowser& presets() { return _window->presets(); }
+    BrushModel& brush() { return _window->brush(); }
+    void set(BrushKey key, const QVariant& value) { EXPECT_TRUE(brush().setValue(key, value)); }
+    float radius() { return brush().value(BrushKey::radius).toFloat(); }
+
+    // Saves the present brush with this size.
+    PresetId save(const QString& name, float size) {
+        set(BrushKey::radius, size);
+        _name = name;
+        EXPECT_TRUE(presets().saveNew());
+        return presets().chosen();
+    }
+    QString saveElsewhere(const QString& file, const QString& name) {
+        EXPECT_TRUE(QDBrushManager::saveParamsWithDrawView(_window->view(), name, path(file)));
+        return path(file);
+    }
+    QString saveBytes(const QString& file, const QByteArray& bytes) {
+        QFile out(path(file));
+        EXPECT_TRUE(out.open(QIODevice::WriteOnly));
+        EXPECT_EQ(out.write(bytes), bytes.size());
+        return out.fileName();
+    }
+    static QByteArray bytesOf(const QString& file) {
+        QFile in(file);
+        EXPECT_TRUE(in.open(QIODevice::ReadOnly));
+        return in.readAll();
+    }
+    // As the list shows them, from the first one that is a preset.
+    QStringList shownNames() {
+        QStringList names;
+        const QAbstractItemModel* model = presets().list()->model();
+        for (int row = 1; row < model->rowCount(); ++row)
+            names << model->index(row, 0).data().toString();
+        return names;
+    }
+    QString status() {
+        settle();
+        return presets().findChild<QLabel*>(QStringLiteral("presetStatus"))->text();
+    }
+};
+
+// ---- Saving and applying
+
+TEST_F(PresetBrowserTest, EverySettingComesBackAndTheColoursStay) {
+    for (const BrushProperty& property : brushProperties()) {
+        if (property.presetId != 0)
+            set(property.key, otherValue(property, brush().value(property.key)));
+    }
+    set(BrushKey::textureType, 0);
+    std::map<BrushKey, QVariant> before;
+    for (const BrushProperty& property : brushProperties())
+        before[property.key] = brush().value(property.key);
+    const PresetId id = save(QStringLiteral("  Rough \n chalk: 1/2 "), radius());
+    EXPECT_EQ(presets().chosenName(), QStringLiteral("Rough chalk: 1/2"));
+    EXPECT_EQ(QFileInfo(id.path).fileName(), QStringLiteral("Rough chalk_ 1_2.xbf"));
+    EXPECT_EQ(status(), presets().chosenName());
+
+    ASSERT_TRUE(presets().choose({}));
+    EXPECT_FALSE(brush().isModified());
+    for (const bool colors : {false, true}) {
+        SCOPED_TRACE(colors);
+        const ESColor green = ESColor::rgba(0, 1, 0);
+        set(BrushKey::renderColor, QVariant::fromValue(green));
+        set(BrushKey::backRenderColor, QVariant::fromValue(green));
+        brush().setPresetsSetColors(colors);
+        std::map<BrushKey, int> reports;
+        const auto watch =
+            QObject::connect(&brush(), &BrushModel::changed, [&](BrushKey key) { ++reports[key]; });
+        ASSERT_TRUE(presets().choose(id));
+        QObject::disconnect(watch);
+        EXPECT_FALSE(brush().isModified());
+        for (const BrushProperty& property : brushProperties()) {
+            if (property.presetId == 0)
+                continue;
+            const bool isColor = property.type() == BrushValueType::color;
+            // A file's colours have eight bits.
+            if (isColor && colors)
+                EXPECT_NEAR(brush().value(property.key).value<ESColor>().green(), 0.4, 0.01);
+            else if (isColor)
+                EXPECT_EQ(brush().value(property.key).value<ESColor>(), green);
+            else
+                EXPECT_TRUE(sameBrushValue(brush().value(property.key), before[property.key]))
+                    << property.name;
+            EXPECT_TRUE(sameBrushValue(_window->view()->brushValue(property), brush().value(property.key)))
+                << property.name;
+            EXPECT_LE(reports[property.key], 1) << property.name;
+        }
+    }
+}
+
+TEST_F(PresetBrowserTest, ResettingGoesBackToTheChosenPreset) {
+    auto* button = _window->panel().findChild<QPushButton*>(QStringLiteral("resetAll"));
+    const QString plain = button->text();
+    const PresetId id = save(QStringLiteral("Wide"), 90);
+    EXPECT_NE(button->text(), plain);
+    set(BrushKey::radius, 20.0f);
+    EXPECT_EQ(status(), QStringLiteral("Wide – modified"));
+    button->click();
+    EXPECT_EQ(radius(), 90);
+    EXPECT_EQ(status(), QStringLiteral("Wide"));
+    ASSERT_TRUE(presets().choose({}));
+    EXPECT_EQ(button->text(), plain);
+    EXPECT_TRUE(brush().isDefault(BrushKey::radius));
+}
+
+TEST_F(PresetBrowserTest, APresetIsTheSameBrushWhateverWasSetBefore) {
+    const auto one = QDBrushManager::paramWithID(0x1006, QString(), 0.5f, kXBFFloat);
+    ASSERT_TRUE(QDBrushManager::saveParams(BrushParams{one}, 200, QStringLiteral("Bare"),
+                                           path(QStringLiteral("bare.xbf"))));
+    ASSERT_TRUE(presets().importFiles({path(QStringLiteral("bare.xbf"))}));
+    EXPECT_EQ(brush().value(BrushKey::opacity).toFloat(), 0.5f);
+    const BrushParams params = *brush().params();
+    set(BrushKey::maxRadius, 0.25f);
+    set(BrushKey::moveRadianEnable, true);
+    set(BrushKey::textureType, 3);
+    ASSERT_TRUE(presets().choose(presets().chosen()));
+    EXPECT_EQ(*brush().params(), params);
+    EXPECT_NE(brush().value(BrushKey::textureType).toInt(), 0) << "it has no image for a tip";
+}
+
+TEST_F(PresetBrowserTest, BrushAndPresetAreThereInTheNextRun) {
+    set(BrushKey::repeatedlyRenderEnabled, true);
+    set(BrushKey::slRadiusRelationType, 2);
+    save(QStringLiteral("Twins"), 40);
+    for (const bool modified : {false, true}) {
+        SCOPED_TRACE(modified);
+        if (modified)
+            set(BrushKey::opacity, 0.3f);
+        ASSERT_TRUE(_window->close());
+        makeWindow();
+        EXPECT_EQ(presets().chosenName(), QStringLiteral("Twins"));
+        EXPECT_EQ(brush().isModified(), modified);
+        EXPECT_EQ(brush().value(BrushKey::opacity).toFloat(), modified ? 0.3f : 1.0f);
+        ASSERT_TRUE(_window->startCanvas({QSize(30, 30), Qt::white}));
+        EXPECT_EQ(brush().isModified(), modified);
+    }
+    brush().resetAll();
+    EXPECT_EQ(brush().value(BrushKey::opacity).toFloat(), 1);
+    EXPECT_EQ(radius(), 40);
+    ASSERT_TRUE(_window->close());
+    ASSERT_TRUE(QFile::remove(presets().chosen().path));
+    makeWindow();
+    EXPECT_EQ(presets().chosenName(), QString());
+    EXPECT_EQ(radius(), 40) << "the brush does not go with its preset";
+    EXPECT_EQ(_told, QStringList());
+}
+
+// ---- Files
+
+TEST_F(PresetBrowserTest, NamesThatCollideLoseNothing) {
+    const PresetId first = save(QStringLiteral("a/b"), 10);
+    EXPECT_NE(save(QStringLiteral("a:b"), 20), first) << "another name, though the file's would be the same";
+    EXPECT_TRUE(_questions.isEmpty());
+    _confirmed = false;
+    set(BrushKey::radius, 30.0f);
+    _name = QStringLiteral("A/B");
+    EXPECT_FALSE(presets().saveNew());
+    EXPECT_FALSE(presets().overwrite(first));
+    EXPECT_FALSE(presets().remove(first));
+    EXPECT_EQ(_questions.size(), 3);
+    ASSERT_TRUE(presets().choose(first));
+    EXPECT_EQ(radius(), 10);
+
+    _confirmed = true;
+    set(BrushKey::radius, 30.0f);
+    EXPECT_TRUE(presets().overwrite(first));
+    EXPECT_FALSE(brush().isModified());
+    _name = QStringLiteral("a*b");
+    EXPECT_TRUE(presets().rename(first));
+    EXPECT_EQ(presets().chosenName(), QStringLiteral("a*b"));
+    EXPECT_EQ(shownNames(), (QStringList{QStringLiteral("a*b"), QStringLiteral("a:b")}));
+    const PresetId renamed = presets().chosen();
+    EXPECT_TRUE(presets().remove(renamed));
+    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("a:b")});
+    EXPECT_EQ(radius(), 30) << "the brush stays";
+    EXPECT_FALSE(brush().preset());
+}
+
+TEST(PresetFileNameTest, EveryNameMakesAFile) {
+    const std::map<QString, QString> kNames = {
+        {QStringLiteral("../../etc"), QStringLiteral("_._.._etc")},
+        {QStringLiteral(" . "), QStringLiteral("_")},
+        {QStringLiteral("Con.brush"), QStringLiteral("_Con.brush")},
+        {QStringLiteral("lpt1"), QStringLiteral("_lpt1")},
+        {QStringLiteral("a\x01<b>?"), QStringLiteral("a__b__")},
+        {QString(500, QLatin1Char('x')), QString(80, QLatin1Char('x'))},
+        {QStringLiteral("Größe 3."), QStringLiteral("Größe 3")}};
+    for (const auto& [name, file] : kNames)
+        EXPECT_EQ(presetFileName(name), file) << qPrintable(name);
+}
+
+TEST_F(PresetBrowserTest, ADamagedFileLeavesTheBrushAsItWas) {
+    const QByteArray whole = bytesOf(saveElsewhere(QStringLiteral("whole.xbf"), QStringLiteral("Whole")));
+    set(BrushKey::radius, 77.0f);
+    const LogCapture quiet;
+    const std::map<QString, QByteArray> kBad = {
+        {QStringLiteral("empty.xbf"), ""},
+        {QStringLiteral("text.xbf"), "this is no brush, but a text that is long enough"},
+        {QStringLiteral("cut.xbf"), whole.left(whole.size() / 2)}};
+    for (const auto& [name, bytes] : kBad) {
+        SCOPED_TRACE(qPrintable(name));
+        _told.clear();
+        EXPECT_FALSE(presets().importFiles({saveBytes(name, bytes)}));
+        ASSERT_EQ(_told.size(), 1);
+        EXPECT_TRUE(_told[0].contains(name));
+        EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("brushes/")) + name));
+        // And when it stands in the folder.
+        ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("brushes"))));
+        const QString there = saveBytes(QStringLiteral("brushes/") + name, bytes);
+        EXPECT_FALSE(presets().choose({there, 0}));
+        EXPECT_EQ(_told.size(), 2);
+    }
+    EXPECT_FALSE(presets().choose({path(QStringLiteral("missing.xbf")), 0}));
+    EXPECT_EQ(radius(), 77);
+    EXPECT_FALSE(brush().preset());
+    const QAbstractItemModel* model = presets().list()->model();
+    ASSERT_EQ(model->rowCount(), 4);
+    for (int row = 1; row < 4; ++row)
+        EXPECT_FALSE(model->index(row, 0).data(PresetListModel::problemRole).toString().isEmpty()) << row;
+}
+
+TEST_F(PresetBrowserTest, DroppedFilesAreImportedOnceAndTheLastIsChosen) {
+    const QString one = saveElsewhere(QStringLiteral("one.xbf"), QStringLiteral("One"));
+    set(BrushKey::radius, 55.0f);
+    const QString two = saveElsewhere(QStringLiteral("two.XBF"), QStringLiteral("Two"));
+    ASSERT_TRUE(presets().choose({}));
+    const auto drop = [&](const QStringList& files) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& file : files)
+            urls << QUrl::fromLocalFile(file);
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QApplication::sendEvent(_window.get(), &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(_window.get(), &event);
+        return true;
+    };
+    EXPECT_FALSE(drop({savedImage(QStringLiteral("picture.png"), Qt::red)}));
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_TRUE(drop({one, two}));
+        EXPECT_EQ(presets().chosenName(), QStringLiteral("Two"));
+        EXPECT_EQ(radius(), 55);
+        EXPECT_EQ(shownNames(), (QStringList{QStringLiteral("One"), QStringLiteral("Two")}));
+    }
+    // Another file of this name is another brush.
+    EXPECT_TRUE(drop({saveElsewhere(QStringLiteral("one.xbf"), QStringLiteral("One"))}));
+    EXPECT_EQ(shownNames().count(QStringLiteral("One")), 2);
+    EXPECT_EQ(_told, QStringList());
+
+    _saveName = path(QStringLiteral("out.xbf"));
+    EXPECT_TRUE(presets().exportTo(presets().chosen()));
+    EXPECT_EQ(bytesOf(_saveName), bytesOf(presets().chosen().path));
+}
+
+TEST_F(PresetBrowserTest, EveryBrushOfAFileIsAPresetOfItsOwn) {
+    const QByteArray small = bytesOf(saveElsewhere(QStringLiteral("small.xbf"), QStringLiteral("Small")));
+    set(BrushKey::radius, 66.0f);
+    const QByteArray large = bytesOf(saveElsewhere(QStringLiteral("large.xbf"), QStringLiteral("Large")));
+    QByteArray both = small + large.mid(int(kXBFHeaderSize));
+    both[8] = 2;  // how many brushes the header says there are
+    ASSERT_TRUE(presets().importFiles({saveBytes(QStringLiteral("both.xbf"), both)}));
+    EXPECT_EQ(shownNames(), (QStringList{QStringLiteral("Large"), QStringLiteral("Small")}));
+    EXPECT_EQ(radius(), 66) << "the last one was chosen";
+    const PresetId first{presets().chosen().path, 0};
+    ASSERT_TRUE(presets().choose(first));
+    EXPECT_EQ(radius(), 32);
+    EXPECT_FALSE(presets().overwrite(first));
+    EXPECT_FALSE(presets().rename(first));
+    EXPECT_EQ(bytesOf(first.path), both);
+    // Only what lies before the damage is usable.
+    const LogCapture quiet;
+    saveBytes(QStringLiteral("brushes/both.xbf"), both.left(both.size() - 40));
+    EXPECT_TRUE(presets().choose(first));
+    EXPECT_FALSE(presets().choose({first.path, 1}));
+}
+
+TEST_F(PresetBrowserTest, InstalledPresetsAreOnlyRead) {
+    ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("installed"))));
+    const QString file = saveElsewhere(QStringLiteral("installed/i.xbf"), QStringLiteral("Installed"));
+    makeWindow();
+    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("Installed")});
+    const PresetId id{file, 0};
+    ASSERT_TRUE(presets().choose(id));
+    EXPECT_FALSE(presets().overwrite(id));
+    EXPECT_FALSE(presets().rename(id));
+    EXPECT_FALSE(presets().remove(id));
+    save(QStringLiteral("Installed"), 12);  // the user's own of this name
+    EXPECT_EQ(shownNames().size(), 2);
+    EXPECT_TRUE(_questions.isEmpty());
+    presets().search()->setText(QStringLiteral("inST"));
+    EXPECT_EQ(presets().list()->model()->rowCount(), 2);
+    presets().search()->setText(QStringLiteral("no such"));
+    EXPECT_EQ(presets().list()->model()->rowCount(), 0);
+}
+
+TEST_F(PresetBrowserTest, TheListIsWorkedByMouseAndKeyboard) {
+    const PresetId one = save(QStringLiteral("One"), 11), two = save(QStringLiteral("Two"), 22);
+    QListView& list = *presets().list();
+    const auto click = [&](int row) {
+        const QPointF at = list.visualRect(list.model()->index(row, 0)).center();
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(list.viewport(), &event);
+        }
+    };
+    const auto press = [&](int key) {
+        for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress}) {
+            QKeyEvent event(type, key, Qt::NoModifier);
+            event.ignore();
+            QApplication::sendEvent(&list, &event);
+            EXPECT_TRUE(event.isAccepted());
+        }
+    };
+    settle();
+    click(1);
+    EXPECT_EQ(presets().chosen(), one);
+    EXPECT_EQ(radius(), 11);
+    list.setCurrentIndex(list.model()->index(2, 0));
+    press(Qt::Key_Return);
+    EXPECT_EQ(radius(), 22);
+    press(Qt::Key_Delete);
+    EXPECT_FALSE(QFileInfo::exists(two.path));
+    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("One")});
+}
+
+TEST_F(PresetBrowserTest, NoPresetIsTakenDuringAStroke) {
+    const PresetId id = save(QStringLiteral("One"), 11);
+    set(BrushKey::radius, 50.0f);
+    _window->view()->drawingWithBeginPoint(QPointF(20, 20));
+    EXPECT_FALSE(presets().choose(id));
+    _window->view()->drawingWithEndPoint(QPointF(40, 20));
+    EXPECT_EQ(radius(), 50);
+    EXPECT_TRUE(presets().choose(id));
+}
+
+TEST_F(PresetBrowserTest, PicturesShowTheBrushAndFollowItsFile) {
+    save(QStringLiteral("Thin"), 3);
+    const PresetId id = save(QStringLiteral("Thick"), 30);
+    const auto picture = [&](const QString& name) {
+        const QAbstractItemModel* model = presets().list()->model();
+        const auto found = model->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly);
+        found.value(0).data(PresetListModel::pictureRole);
+        while (!presets().previews().isIdle())
+            settle();
+        return found.value(0).data(PresetListModel::pictureRole).value<QImage>();
+    };
+    const auto ink = [](const QImage& image) {
+        int dark = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                dark += image.pixelColor(x, y).lightness() < 128;
+        }
+        return dark;
+    };
+    const int thin = ink(picture(QStringLiteral("Thin"))), thick = ink(picture(QStringLiteral("Thick")));
+    EXPECT_GT(thin, 50);
+    EXPECT_GT(thick, 2 * thin);
+    set(BrushKey::radius, 3.0f);
+    set(BrushKey::opacity, 0.75f);
+    ASSERT_TRUE(presets().overwrite(id));
+    EXPECT_LT(ink(picture(QStringLiteral("Thick"))), 2 * thin);
+}
+
+}  // namespace
+
+}  // namespace dabcanvas::dabpainter
