@@ -109,6 +109,7 @@ QByteArray QDDrawCanvas::resetUndoManager() {
 }
 
 QByteArray QDDrawCanvas::markAction() {
+    _leafDrawView->finishPending();
     const double time = now();
     if (!_edited || (_autoMark && time - _preTimeInterval < static_cast<double>(_markTimeInterval) &&
                      time >= _preTimeInterval)) {

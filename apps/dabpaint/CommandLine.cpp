@@ -109,6 +109,13 @@ QString takeColor(const QString& text, std::optional<QColor>& color) {
                        .arg(text);
 }
 
+QString takeCount(const QString& text, int& count) {
+    bool isNumber = false;
+    count = text.toInt(&isNumber);
+    return isNumber && count >= 0 ? QString()
+                                  : QStringLiteral("--undo is a number of strokes, not \"%1\"").arg(text);
+}
+
 Option outputOption(QString& output) {
     return {"--output", "-o", true, [&output](const QString& value) {
                 output = value;
@@ -138,6 +145,7 @@ CommandLine readPaint(const QStringList& arguments) {
         settingOption(paint.settings),
         {"--background", nullptr, true,
          [&](const QString& value) { return takeColor(value, paint.background); }},
+        {"--undo", nullptr, true, [&](const QString& value) { return takeCount(value, paint.undo); }},
         flag("--repeatable", paint.repeatable),
         flag("--stats", paint.stats),
         helpFlag(help),

@@ -16,6 +16,7 @@
 #include "BrushPlan.h"
 #include "Console.h"
 #include "ESContext/ESCurrentScope.h"
+#include "History/ImagesUndoManager.h"
 #include "PictureFile.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 #include "Recording.h"
@@ -142,6 +143,8 @@ public:
         QString wrong = begin();
         if (wrong.isEmpty())
             wrong = paintAll();
+        if (wrong.isEmpty())
+            wrong = undoLast();
         if (!wrong.isEmpty())
             return wrong;
         painting = {_canvas->image(), _canvas->strokeStats(), _canvas->rendererName()};
@@ -196,6 +199,14 @@ private:
     QString paintAll() {
         const ESCurrentScope current(_canvas->esContext());  // nobody else draws meanwhile
         Progress progress(_job.samples);
+        std::size_t left = 0;
+        for (const Recording& recording : _job.recordings)
+            left += recording.strokes.size();
+        const auto undone = static_cast<std::size_t>(_options.undo);
+        if (undone > 0) {
+            _canvas->undoManager().setUndoStepCount(static_cast<unsigned>(_options.undo));
+            _canvas->resetUndoManager();
+        }
         for (std::size_t i = 0; i < _job.recordings.size(); ++i) {
             // Every recording starts afresh.
             QString wrong = i > 0 ? useBrush(_job.plan.brush()) : QString();
@@ -206,8 +217,14 @@ private:
                     wrong = useBrush(change.brush);
                 if (wrong.isEmpty())
                     wrong = apply(change.steps);
-                if (wrong.isEmpty())
-                    paintSamples(*_canvas, strokes[j].samples, [&progress] { progress.advance(); });
+                if (!wrong.isEmpty())
+                    break;
+                paintSamples(*_canvas, strokes[j].samples, [&progress] { progress.advance(); });
+                --left;
+                if (undone > 0 && left == undone)
+                    _canvas->resetUndoManager();  // what remains
+                else if (left < undone)
+                    _isStep.push_back(!_canvas->markAction().isNull());
             }
             if (!wrong.isEmpty())
                 return wrong;
@@ -215,8 +232,19 @@ private:
         return {};
     }
 
+    // A stroke that drew nothing is no step.
+    QString undoLast() {
+        for (const bool isStep : _isStep) {
+            _canvas->undoManager().waitForWrites();
+            if (isStep && _canvas->undo().isNull())
+                return QStringLiteral("a stroke cannot be undone");
+        }
+        return {};
+    }
+
     const PaintOptions& _options;
     const Job& _job;
+    std::vector<bool> _isStep;  // of the strokes to be undone
     std::unique_ptr<QDDrawCanvas> _canvas;
     std::vector<std::pair<const BrushProperty*, QVariant>> _created;  // the brush of a new canvas
     std::map<const BrushProperty*, QVariant> _base;  // what recordings' settings are undone to

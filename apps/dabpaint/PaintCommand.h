@@ -20,6 +20,7 @@ struct PaintOptions {
     QString brush;   // an XBF file; empty for the default brush
     std::vector<Assignment> settings;
     std::optional<QColor> background;
+    int undo = 0;  // strokes taken back at the end
     bool repeatable = false;
     bool stats = false;
 };

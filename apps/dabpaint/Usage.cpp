@@ -42,7 +42,7 @@ constexpr const char* kPaint = R"(NAME
 SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [--size WxH] [--brush FILE.xbf]
                    [--set PROPERTY=VALUE]... [--background COLOUR]
-                   [--repeatable] [--stats]
+                   [--undo N] [--repeatable] [--stats]
 
 DESCRIPTION
     Paints the strokes of every RECORDING, in order, onto one canvas and writes
@@ -76,6 +76,9 @@ OPTIONS
         What the canvas is cleared with: #rrggbb, #rrggbbaa, a name, or
         transparent. Without it the first background that a recording names,
         else white.
+
+    --undo N
+        Takes the last N strokes back, by undo, before the picture is written.
 
     --repeatable
         Takes fixed random numbers, so that two runs give the same bytes.

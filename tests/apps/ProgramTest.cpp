@@ -169,6 +169,32 @@ TEST_F(PaintTest, RepeatableRunsGiveTheSameBytes) {
     EXPECT_NE(bytes[0], bytes[2]);
 }
 
+TEST_F(PaintTest, UndoneStrokesWereNeverPainted) {
+    const auto recording = [&](const char* name, int strokes) {
+        QByteArray text;
+        for (int i = 0; i < strokes; ++i) {
+            const QByteArray y = QByteArray::number(10 + i * 9);
+            text += (i > 0 ? "," : "") + QByteArray(R"({"set": {"brushType": )") +
+                    (i % 2 != 0 ? "3"
+                     : i == 2   ? "4"
+                                : "0") +
+                    R"(}, "samples": [[10, )" + y + R"(, 1, 0], [60, )" + y + R"(, 1, 0], [90, 50, 1, 0]]})";
+        }
+        return write(name, R"({"canvas": {"width": 100, "height": 80}, "strokes": [)" + text + "]}");
+    };
+    const QStringList repeatable{QStringLiteral("--repeatable")};
+    const QString all = recording("all.json", 7);
+    for (const int undone : {0, 1, 4, 7, 50}) {
+        const QImage rest = paint({recording("rest.json", std::max(7 - undone, 1))}, repeatable);
+        const QImage left =
+            paint({all}, repeatable + QStringList{QStringLiteral("--undo"), QString::number(undone)});
+        if (undone < 7)
+            EXPECT_EQ(left, rest) << undone << " undone";
+        else
+            EXPECT_EQ(left.pixelColor(30, 10), QColor(Qt::white)) << undone << " undone";
+    }
+}
+
 TEST_F(PaintTest, StatsCountWhatWasPainted) {
     paint({stroke("a.json", kSolid), kRecordings + QStringLiteral("hover.dat")}, {QStringLiteral("--stats")});
     const QJsonObject stats = QJsonDocument::fromJson(_printed).object();
