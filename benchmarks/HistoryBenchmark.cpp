@@ -7,9 +7,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <memory>
 #include <vector>
 
@@ -78,6 +80,13 @@ void settle(ImagesUndoManager& history) {
     history.waitForCompression();
 }
 
+// What this thread has worked, whatever others did meanwhile.
+double threadSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
 // Times the work and a copy of a snapshot in turn; `prepare` comes before each turn and is not timed.
 template <typename Prepare, typename Work>
 void compare(benchmark::State& state, const Prepare& prepare, const Work& work) {
@@ -85,16 +94,21 @@ void compare(benchmark::State& state, const Prepare& prepare, const Work& work) 
     std::vector<char> to(from);
     Rounds own;
     Rounds copy;
+    std::vector<double> worked;
     for (auto _ : state) {
         prepare();
+        const double before = threadSeconds();
         state.SetIterationTime(own.time(work));
+        worked.push_back(threadSeconds() - before);
         copy.time([&] {
             std::memcpy(to.data(), from.data(), from.size());
             benchmark::DoNotOptimize(to.data());
             benchmark::ClobberMemory();
         });
     }
+    std::sort(worked.begin(), worked.end());
     state.counters["own_us"] = own.medianMicros();
+    state.counters["thread_us"] = worked[worked.size() / 2] * 1e6;
     state.counters["copy_us"] = copy.medianMicros();
     state.counters["own/copy"] = own.median() / copy.median();
 }

@@ -145,6 +145,18 @@ TEST_F(HistoryFaultTest, ALostOrDamagedFileReadsAsNothing) {
     }
 }
 
+TEST_F(HistoryFaultTest, AStepThatWasReadBackSurvivesItsFile) {
+    auto history = spilled();
+    EXPECT_TRUE(history->undo() && history->undo());
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0));
+    ASSERT_TRUE(QFile::remove(history->currentPathOfItem()));
+    while (history->curCacheCount() > 0) {
+        history->removeOneObjectFromCache();
+    }
+    history->waitForWrites();
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0));
+}
+
 TEST_F(HistoryFaultTest, WithoutAFolderStepsStayInMemory) {
     ASSERT_TRUE(writeWholeFile(inCache("file"), "in the way"));
     qputenv("XDG_CACHE_HOME", QFile::encodeName(inCache("file")));

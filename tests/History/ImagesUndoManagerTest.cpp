@@ -2,6 +2,7 @@
 #include "History/ImagesUndoManager.h"
 
 #include <QCoreApplication>
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -175,18 +176,30 @@ TEST_F(ImagesUndoManagerTest, UndoWaitsItsTurnWhileAWriteRuns) {
 }
 
 TEST_F(ImagesUndoManagerTest, AWriteThatIsOvertakenLeavesNoFile) {
-    WriteGate gate;
-    GatedHistory history(gate);
-    history.setMaxCacheCount(0);
-    add(history, 1, 1);
-    gate.awaitWrite();
-    history.addItemWithString("other");
-    history.reset();  // the step that is being written is gone
-    EXPECT_EQ(history.processCount(), 0u);
-    gate.open();
-    history.waitForWrites();
-    EXPECT_EQ(history.processCount(), 0u);
-    EXPECT_EQ(entries(history.tempDirectory()), QStringList());
+    for (const bool stepGoes : {true, false}) {
+        SCOPED_TRACE(stepGoes ? "its step is dropped" : "the folder is emptied");
+        WriteGate gate;
+        GatedHistory history(gate);
+        history.setMaxCacheCount(0);
+        history.addItemWithImageData(sketch(1));
+        gate.awaitWrite();
+        if (stepGoes) {
+            history.addItemWithString("other");
+            history.reset();
+        } else {
+            history.clearAllTempFiles();
+        }
+        EXPECT_EQ(history.processCount(), 0u);
+        std::promise<void> deleted;  // in vain: the file comes only now
+        history.asynOperator([&] { deleted.set_value(); });
+        deleted.get_future().wait();
+        gate.open();
+        history.waitForWrites();
+        EXPECT_EQ(history.processCount(), 0u);
+        EXPECT_EQ(entries(history.tempDirectory()), QStringList());
+        EXPECT_EQ(history.currentImageDataOfItem().isNull(), stepGoes);
+        EXPECT_EQ(history.curCacheCount(), stepGoes ? 0 : 1);
+    }
 }
 
 TEST_F(ImagesUndoManagerTest, TheLastWriteOfANameWins) {
