@@ -3,11 +3,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QStandardPaths>
-#include <QThread>
 #include <algorithm>
-#include <cstdlib>
-#include <new>
 #include <utility>
 
 #include "Brushes/ImageData.h"
@@ -29,19 +25,6 @@ constexpr qsizetype kWorthPacking = 4096;
 bool refused(const char* what) {
     qCWarning(lcHistory, "An undo step needs an image: %s", what);
     return false;
-}
-
-// Shares the data, or copies what somebody else may free; null when there is no memory for that.
-QByteArray ownedData(const QByteArray& data) {
-    QByteArray shared = data;
-    if (shared.data_ptr().d_ptr() != nullptr || shared.isEmpty()) {
-        return shared;
-    }
-    try {
-        return QByteArray(data.constData(), data.size());
-    } catch (const std::bad_alloc&) {
-        return {};
-    }
 }
 
 }  // namespace
@@ -91,18 +74,6 @@ ImagesUndoManager::ImagesUndoManager(FileWriter writer)
     }
 }
 
-void ImagesUndoManager::startFolder() {
-    const QString caches = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-    QString problem;
-    _folder = TempFolder::claimNumbered(caches, std::abs(Tools::randInteger() % 10000), &problem);
-    if (!_folder) {
-        qCWarning(lcHistory, "There is no folder for undo steps in \"%ls\" (%ls): they stay in memory",
-                  qUtf16Printable(caches), qUtf16Printable(problem));
-        return;
-    }
-    asynOperator([caches] { TempFolder::removeAbandoned(caches); });
-}
-
 ImagesUndoManager::~ImagesUndoManager() {
     {
         const std::lock_guard lock(_quitting->mutex);
@@ -122,7 +93,7 @@ ImagesUndoManager::~ImagesUndoManager() {
 bool ImagesUndoManager::addItemWithImageData(const QByteArray& data) {
     const QByteArray owned = ownedData(data);
     if (owned.isNull()) {
-        return refused("these data are null");
+        return refused("these data are null, or there is no memory for a copy");
     }
     const std::lock_guard lock(_operation);
     const QStringList items = undoItems();
@@ -143,7 +114,7 @@ bool ImagesUndoManager::addItemWithImage(const QImage& image) {
 bool ImagesUndoManager::setCurrentItemWithImageData(const QByteArray& data) {
     const QByteArray owned = ownedData(data);
     if (owned.isNull()) {
-        return refused("these data are null");
+        return refused("these data are null, or there is no memory for a copy");
     }
     const std::lock_guard lock(_operation);
     keepCurrent(owned);
@@ -355,148 +326,5 @@ void ImagesUndoManager::pack(const std::shared_ptr<Snapshot>& image) {
                 still->pack();
             }
         });
-    }
-}
-
-// ---- Files ----
-
-QString ImagesUndoManager::tempDirectory() const {
-    const std::lock_guard lock(_operation);
-    return _folder ? _folder->path() : QString();
-}
-
-bool ImagesUndoManager::setTempDirectory(const QString& path) {
-    const std::lock_guard lock(_operation);
-    QString problem;
-    if (_folder && QFileInfo(path).absoluteFilePath() == _folder->path()) {
-        return true;
-    }
-    auto folder = TempFolder::claim(path, &problem);
-    if (!folder) {
-        qCWarning(lcHistory, "Undo steps cannot be kept in \"%ls\": %ls", qUtf16Printable(path),
-                  qUtf16Printable(problem));
-        return false;
-    }
-    _files->wait();
-    _store.moveFiles(folder->path());
-    _folder = std::move(folder);
-    return true;
-}
-
-QString ImagesUndoManager::filePathExtension() const {
-    const std::lock_guard lock(_operation);
-    return _pathExtension;
-}
-
-void ImagesUndoManager::setFilePathExtension(const QString& extension) {
-    const std::lock_guard lock(_operation);
-    if (extension.contains(QLatin1Char('/')) || extension.contains(QChar(0))) {
-        qCWarning(lcHistory, "\"%ls\" is no file extension", qUtf16Printable(extension));
-        return;
-    }
-    _pathExtension = extension;
-}
-
-QString ImagesUndoManager::pathWithName(const QString& name) const {
-    const std::lock_guard lock(_operation);
-    if (!_folder || name.isEmpty() || name.contains(QLatin1Char('/')) || name.contains(QChar(0)) ||
-        name == QLatin1String(".") || name == QLatin1String("..")) {
-        return {};
-    }
-    const QString path = _folder->path() + QLatin1Char('/') + name;
-    return _pathExtension.isNull() ? path : path + QLatin1Char('.') + _pathExtension;
-}
-
-// The name whose file this path is, so that all that happens to the file is known in one place.
-QString ImagesUndoManager::nameOfPath(const QString& path) const {
-    QString name = QFileInfo(path).fileName();
-    if (!_pathExtension.isNull()) {
-        name.chop(_pathExtension.size() + 1);
-    }
-    return pathWithName(name) == path ? name : path;
-}
-
-void ImagesUndoManager::writeData(const QByteArray& data, const QString& path) {
-    const std::lock_guard lock(_operation);
-    if (path.isNull()) {
-        return;
-    }
-    const QString name = nameOfPath(path);
-    if (data.isNull()) {
-        startWrite(_store.remove({name}, [path](const QString&) { return path; }));
-        return;
-    }
-    const QByteArray owned = ownedData(data);
-    if (owned.isNull()) {
-        refused("there is no memory for these data");
-        return;
-    }
-    startWrite(_store.write(name, path, std::make_shared<Snapshot>(owned)));
-}
-
-void ImagesUndoManager::writeImage(const QImage& image, const QString& path) {
-    const std::lock_guard lock(_operation);
-    if (image.isNull()) {
-        writeData({}, path);
-    } else if (!path.isNull()) {
-        startWrite(_store.write(nameOfPath(path), path, std::make_shared<Snapshot>(image)));
-    }
-}
-
-void ImagesUndoManager::removeImageWithNames(const QStringList& names) {
-    const std::lock_guard lock(_operation);
-    if (!names.isEmpty()) {
-        asynOperator(_store.remove(names, [this](const QString& name) { return pathWithName(name); }));
-    }
-}
-
-void ImagesUndoManager::clearAllTempFiles() {
-    const std::lock_guard lock(_operation);
-    if (_folder) {
-        auto empty = _store.empty(_folder->path(), !_folder->madeHere());
-        asynOperator([empty = std::move(empty), folder = _folder.get()] {
-            empty();
-            folder->restore();
-        });
-    }
-    reset();
-}
-
-// The folder may have been cleared away under the history's feet: what is written from now on need not be lost.
-bool ImagesUndoManager::writeIntoFolder(const QString& path, const QByteArray& data) const {
-    return _writer(path, data) ||
-           (_folder && path.startsWith(_folder->path() + QLatin1Char('/')) &&
-            !QFileInfo::exists(_folder->path()) && _folder->restore() && _writer(path, data));
-}
-
-void ImagesUndoManager::startWrite(SnapshotStore::Task write) {
-    asynOperator([this, ticket = beginProcess(), write = std::move(write)] {
-        write();
-        endProcess(ticket);
-    });
-}
-
-void ImagesUndoManager::waitForWrites() {
-    {
-        const std::lock_guard lock(_operation);  // another thread may be writing itself
-    }
-    _files->wait();
-}
-
-void ImagesUndoManager::waitForCompression() {
-    _packing->wait();
-}
-
-bool ImagesUndoManager::isMainThread() const {
-    const auto* application = QCoreApplication::instance();
-    return application ? application->thread() == QThread::currentThread()
-                       : std::this_thread::get_id() == _maker;
-}
-
-void ImagesUndoManager::asynOperator(std::function<void()> task) {
-    if (isMainThread()) {
-        _files->run(std::move(task));
-    } else {
-        task();
     }
 }

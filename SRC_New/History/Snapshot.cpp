@@ -7,6 +7,18 @@
 #include "History/HistoryLog.h"
 #include "History/Packing.h"
 
+QByteArray ownedData(const QByteArray& data) {
+    QByteArray shared = data;
+    if (shared.data_ptr().d_ptr() != nullptr || shared.isEmpty()) {
+        return shared;
+    }
+    try {
+        return QByteArray(data.constData(), data.size());
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
 QByteArray Snapshot::data() const {
     QByteArray compressed;
     try {

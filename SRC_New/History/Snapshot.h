@@ -12,6 +12,10 @@
 #include <atomic>
 #include <mutex>
 
+// Shares the data; copies those that do not own their bytes (QByteArray::fromRawData), as somebody else may free them.
+// Null when there is no memory for a copy.
+QByteArray ownedData(const QByteArray& data);
+
 class Snapshot {
 public:
     explicit Snapshot(const QByteArray& raw) : _raw(raw), _held(raw.size()) {}

@@ -136,10 +136,15 @@ SnapshotStore::Task SnapshotStore::write(const QString& name, const QString& pat
     }
     record.held = std::move(image);
     record.fileSize = -1;
-    if (record.path.isNull()) {
-        record.path = path;
+    const QString former = std::exchange(record.path, path);
+    Task write = writing(name, record, name != path);
+    if (former.isNull() || former == path) {
+        return write;
     }
-    return writing(name, record, name != path);
+    return [write = std::move(write), former] {
+        write();
+        QFile::remove(former);  // which names nothing any more
+    };
 }
 
 SnapshotStore::Task SnapshotStore::writing(const QString& name, Record& record, bool mayReturn) {

@@ -165,7 +165,7 @@ TempFolder::~TempFolder() {
 }
 
 bool TempFolder::restore() const {
-    return QFileInfo(_path).isDir() || (QDir().mkpath(QFileInfo(_path).path()) && makeFolder(_path));
+    return (QDir().mkpath(QFileInfo(_path).path()) && makeFolder(_path)) || QFileInfo(_path).isDir();
 }
 
 std::unique_ptr<TempFolder> TempFolder::claimOne(const QString& path, bool mayStandThere, QString* problem) {

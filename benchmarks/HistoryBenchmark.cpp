@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+// What undo steps cost: keeping a snapshot of the canvas and getting it back, beside copying as many bytes, and the
+// memory and disk that a sketch's steps take.
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <memory>
+#include <vector>
+
+#include "History/ImagesUndoManager.h"
+#include "QDEAGLView/QDDrawCanvas.h"
+#include "support/Measuring.h"
+#include "support/Recording.h"
+
+using namespace dabcanvas::bench;
+
+namespace {
+
+constexpr double kSketchWidth = 1024;
+
+// Somebody sketches on white paper: stroke by stroke of the pen session, as large as the canvas, each time round in
+// another colour.
+class Sketch {
+public:
+    explicit Sketch(const benchmark::State& state)
+        : _size(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))),
+          _canvas(QDDrawCanvas::initWithFrame(QRectF(QPointF(0, 0), _size))) {
+        if (!_canvas) {
+            std::fprintf(stderr, "a canvas of %d x %d pixels cannot be made\n", _size.width(),
+                         _size.height());
+            std::exit(1);
+        }
+        _canvas->clearWithColor(ESColor::grey(1), false);
+        _canvas->setRadius(static_cast<float>(6 * scale()));
+        _canvas->setRadiusControl({1, 0, 0});
+    }
+
+    // The canvas's bytes after one more stroke.
+    QByteArray nextStep() {
+        const auto& strokes = penSession().strokes;
+        const Stroke& stroke = strokes[_steps % strokes.size()];
+        _canvas->setRenderColor(
+            QColor::fromHsv(static_cast<int>(_steps / strokes.size() * 70 % 360), 255, 90));
+        ++_steps;
+        const auto at = [&](const Sample& sample) { return QPointF(sample.x, sample.y) * scale(); };
+        _canvas->drawingWithBeginPoint(at(stroke.front()), stroke.front().pressure, -1, false);
+        for (const Sample& sample : stroke) {
+            _canvas->drawingWithMoveToPoint(at(sample), sample.pressure, -1, false);
+        }
+        _canvas->drawingWithEndPoint(at(stroke.back()), stroke.back().pressure, -1, false);
+        QByteArray pixels(qsizetype{4} * _size.width() * _size.height(), Qt::Uninitialized);
+        _canvas->readData(reinterpret_cast<unsigned char*>(pixels.data()), QRectF(QPointF(0, 0), _size));
+        return pixels;
+    }
+
+private:
+    double scale() const { return _size.width() / kSketchWidth; }
+
+    QSize _size;
+    std::unique_ptr<QDDrawCanvas> _canvas;
+    std::size_t _steps = 0;
+};
+
+std::unique_ptr<ImagesUndoManager> historyOf(const QByteArray& first) {
+    auto history = ImagesUndoManager::initWithCurrentImageOfData(first);
+    history->setFilePathExtension(QString());
+    return history;
+}
+
+void settle(ImagesUndoManager& history) {
+    history.waitForWrites();
+    history.waitForCompression();
+}
+
+// What this thread has worked, whatever others did meanwhile.
+double threadSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+// Times the work and a copy of a snapshot in turn; `prepare` comes before each turn and is not timed.
+template <typename Prepare, typename Work>
+void compare(benchmark::State& state, const Prepare& prepare, const Work& work) {
+    const std::vector<char> from(static_cast<std::size_t>(state.range(0) * state.range(1) * 4), 1);
+    std::vector<char> to(from);
+    Rounds own;
+    Rounds copy;
+    std::vector<double> worked;
+    for (auto _ : state) {
+        prepare();
+        const double before = threadSeconds();
+        state.SetIterationTime(own.time(work));
+        worked.push_back(threadSeconds() - before);
+        copy.time([&] {
+            std::memcpy(to.data(), from.data(), from.size());
+            benchmark::DoNotOptimize(to.data());
+            benchmark::ClobberMemory();
+        });
+    }
+    std::sort(worked.begin(), worked.end());
+    state.counters["own_us"] = own.medianMicros();
+    state.counters["thread_us"] = worked[worked.size() / 2] * 1e6;
+    state.counters["copy_us"] = copy.medianMicros();
+    state.counters["own/copy"] = own.median() / copy.median();
+}
+
+// What the painter waits for after a stroke, while an older step leaves the cache each time.
+void addStep(benchmark::State& state) {
+    Sketch sketch(state);
+    auto history = historyOf(sketch.nextStep());
+    history->setMaxCacheCount(2);
+    for (int i = 0; i < 3; ++i) {
+        history->addItemWithImageData(sketch.nextStep());
+    }
+    QByteArray pixels;
+    compare(
+        state,
+        [&] {
+            settle(*history);
+            pixels = sketch.nextStep();
+        },
+        [&] { history->addItemWithImageData(pixels); });
+}
+
+void readCachedStep(benchmark::State& state) {
+    Sketch sketch(state);
+    auto history = historyOf(sketch.nextStep());
+    settle(*history);
+    compare(
+        state, [] {}, [&] { benchmark::DoNotOptimize(history->currentImageDataOfItem().constData()); });
+}
+
+void readSpilledStep(benchmark::State& state) {
+    Sketch sketch(state);
+    auto history = historyOf(sketch.nextStep());
+    compare(
+        state,
+        [&] {
+            settle(*history);
+            history->removeOneObjectFromCache();
+            settle(*history);
+        },
+        [&] { benchmark::DoNotOptimize(history->currentImageDataOfItem().constData()); });
+}
+
+// A hundred strokes, with the limits as they are at first.
+void hundredSteps(benchmark::State& state) {
+    constexpr int kSteps = 100;
+    for (auto _ : state) {
+        Sketch sketch(state);
+        auto history = historyOf(sketch.nextStep());
+        Rounds adding;
+        for (int i = 0; i < kSteps; ++i) {
+            const QByteArray pixels = sketch.nextStep();
+            adding.time([&] { history->addItemWithImageData(pixels); });
+        }
+        settle(*history);
+        double disk = 0;
+        for (const QFileInfo& file : QDir(history->tempDirectory()).entryInfoList(QDir::Files)) {
+            disk += static_cast<double>(file.size());
+        }
+        const double raw = static_cast<double>(state.range(0) * state.range(1) * 4);
+        const double memory = static_cast<double>(history->cachedBytes());
+        state.SetIterationTime(adding.median());
+        state.counters["memory_MiB"] = memory / (1 << 20);
+        state.counters["memory/raw"] = memory / raw / history->curCacheCount();
+        state.counters["disk_MiB"] = disk / (1 << 20);
+    }
+    state.SetLabel(penSession().label);
+}
+
+void onBothSizes(benchmark::internal::Benchmark* row) {
+    row->Args({1024, 768})->Args({3840, 2160})->UseManualTime()->Unit(benchmark::kMicrosecond);
+}
+BENCHMARK(addStep)->Apply(onBothSizes)->Iterations(40);
+BENCHMARK(readCachedStep)->Apply(onBothSizes)->Iterations(40);
+BENCHMARK(readSpilledStep)->Apply(onBothSizes)->Iterations(40);
+BENCHMARK(hundredSteps)->Apply(onBothSizes)->Iterations(1);
+
+}  // namespace
+
+// Steps are written in the background for the main thread of an application only.
+int main(int argc, char** argv) {
+    const QTemporaryDir caches;
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(caches.path()));
+    const QCoreApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+}

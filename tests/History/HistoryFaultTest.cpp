@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+// What goes wrong outside: disks, memory, other processes, the own death.
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+
+#include "History/HistoryTest.h"
+#include "History/Packing.h"
+#include "History/TempFolder.h"
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool kSanitized = true;  // memory is not limited as usual then
+#else
+constexpr bool kSanitized = false;
+#endif
+
+namespace {
+
+// A limit of this process for one scope.
+class Limited {
+public:
+    Limited(__rlimit_resource resource, rlim_t limit) : _resource(resource) {
+        getrlimit(_resource, &_before);
+        const rlimit limits{limit, _before.rlim_max};
+        setrlimit(_resource, &limits);
+    }
+    ~Limited() { setrlimit(_resource, &_before); }
+    Limited(const Limited&) = delete;
+    Limited& operator=(const Limited&) = delete;
+
+private:
+    __rlimit_resource _resource;
+    rlimit _before{};
+};
+
+class HistoryFaultTest : public HistoryTest {
+protected:
+    // A history whose first two steps, sketches 0 and 1, are in files.
+    static std::unique_ptr<ImagesUndoManager> spilled() {
+        auto history = ImagesUndoManager::initWithCurrentImageOfData(sketch(0));
+        history->setUndoStepCount(2);
+        for (int i = 1; i <= 2; ++i) {
+            history->addItemWithImageData(sketch(i));
+        }
+        history->removeOneObjectFromCache();
+        history->waitForWrites();
+        return history;
+    }
+    // Runs this in a process that ends without cleaning up.
+    template <typename Work>
+    static void inDyingProcess(const Work& work) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            work();
+            raise(SIGKILL);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        ASSERT_TRUE(WIFSIGNALED(status));
+    }
+};
+
+}  // namespace
+
+TEST_F(HistoryFaultTest, ADiskThatTakesNothingCostsNoStep) {
+    const auto former = std::signal(SIGXFSZ, SIG_IGN);
+    for (const bool full : {true, false}) {
+        SCOPED_TRACE(full ? "the disk is full" : "the folder is none any more");
+        auto history = ImagesUndoManager::initWithCurrentImageOfData(sketch(0));
+        history->setUndoStepCount(4);
+        history->waitForWrites();
+        const QString folder = history->tempDirectory();
+        {
+            LogCapture log;
+            const Limited files(RLIMIT_FSIZE, full ? 1000 : RLIM_INFINITY);
+            if (!full) {
+                QDir().rmdir(folder);
+                ASSERT_TRUE(writeWholeFile(folder, "in the way"));
+            }
+            for (int i = 1; i <= 6; ++i) {
+                history->addItemWithImageData(sketch(i));
+                history->waitForWrites();
+            }
+            EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+            EXPECT_EQ(history->curCacheCount(), 5);
+            EXPECT_EQ(entries(folder), QStringList());
+        }
+        QFile::remove(folder);
+        history->didReceiveMemoryWarning();
+        history->waitForWrites();
+        EXPECT_EQ(entries(folder).size(), 2) << "now that it can";
+        for (int i = 6; i >= 2; --i) {
+            EXPECT_TRUE(history->currentImageDataOfItem() == sketch(i)) << i;
+            history->waitForWrites();
+            EXPECT_EQ(history->undo(), i > 2);
+        }
+    }
+    std::signal(SIGXFSZ, former);
+}
+
+TEST_F(HistoryFaultTest, ADroppedStepDoesNotReturnWhenItsWriteFails) {
+    WriteGate gate;
+    GatedHistory history(gate);
+    gate.setDiskFull();
+    history.addItemWithImageData(sketch(1));
+    history.removeOneObjectFromCache();
+    gate.awaitWrite();
+    history.removeImageWithNames({history.currentStringItem()});
+    gate.open();
+    history.waitForWrites();
+    EXPECT_EQ(history.curCacheCount(), 0);
+    EXPECT_EQ(entries(history.tempDirectory()), QStringList());
+}
+
+TEST_F(HistoryFaultTest, ALostOrDamagedFileReadsAsNothing) {
+    const struct {
+        const char* claim;
+        void (*damage)(const QString& path);
+    } rows[] = {
+        {"cut short", [](const QString& path) { QFile::resize(path, 100); }},
+        {"grown", [](const QString& path) { QFile::resize(path, 1 << 20); }},
+        {"deleted", [](const QString& path) { QFile::remove(path); }},
+        {"folder removed", [](const QString& path) { QDir(QFileInfo(path).path()).removeRecursively(); }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.claim);
+        auto history = spilled();
+        row.damage(history->pathWithName("InitString"));
+        history->undo();
+        history->undo();
+        LogCapture log;
+        EXPECT_TRUE(history->currentImageDataOfItem().isNull());
+        EXPECT_EQ(log.lines().size(), 1);
+        EXPECT_TRUE(history->redo());
+        history->addItemWithImageData(sketch(3));
+        history->removeOneObjectFromCache();
+        history->removeOneObjectFromCache();
+        history->waitForWrites();
+        EXPECT_TRUE(history->currentImageDataOfItem() == sketch(3)) << "what comes after is safe";
+        EXPECT_EQ(log.lines().size(), 1);
+    }
+}
+
+TEST_F(HistoryFaultTest, AStepThatWasReadBackSurvivesItsFile) {
+    auto history = spilled();
+    EXPECT_TRUE(history->undo() && history->undo());
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0));
+    ASSERT_TRUE(QFile::remove(history->currentPathOfItem()));
+    while (history->curCacheCount() > 0) {
+        history->removeOneObjectFromCache();
+    }
+    history->waitForWrites();
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0));
+}
+
+TEST_F(HistoryFaultTest, WithoutAFolderStepsStayInMemory) {
+    ASSERT_TRUE(writeWholeFile(inCache("file"), "in the way"));
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(inCache("file")));
+    LogCapture log;
+    auto history = ImagesUndoManager::initWithCurrentImageOfData(sketch(0));
+    EXPECT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(history->tempDirectory().isNull());
+    history->setUndoStepCount(3);
+    for (int i = 1; i <= 3; ++i) {
+        history->addItemWithImageData(sketch(i));
+    }
+    while (history->undo()) {
+    }
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0));
+    EXPECT_EQ(log.lines().size(), 1);
+}
+
+TEST_F(HistoryFaultTest, AStepThatMemoryCannotHoldReadsAsNothing) {
+    if (kSanitized) {
+        return;
+    }
+    constexpr qsizetype kLarge = 96 << 20;
+    auto history = ImagesUndoManager::initWithCurrentImageOfData(sketch(0, kLarge));
+    for (const bool inMemory : {true, false}) {
+        SCOPED_TRACE(inMemory ? "compressed in memory" : "in its file");
+        history->waitForCompression();
+        if (inMemory && !canPack()) {
+            continue;  // nothing is needed then
+        }
+        if (!inMemory) {
+            history->removeOneObjectFromCache();
+            history->waitForWrites();
+        }
+        QFile status("/proc/self/statm");
+        ASSERT_TRUE(status.open(QIODevice::ReadOnly));
+        const auto used = status.readAll().split(' ').first().toULongLong() * 4096;
+        {
+            LogCapture log;
+            const Limited memory(RLIMIT_AS, used + kLarge / 2);
+            EXPECT_TRUE(history->currentImageDataOfItem().isNull());
+            EXPECT_EQ(log.lines().size(), 1);
+        }
+        EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0, kLarge)) << "it is still there";
+    }
+}
+
+TEST_F(HistoryFaultTest, AProcessKilledWhileWritingLeavesNoHalfFile) {
+    QString folder, file;
+    QString problem;
+    const QString parent = inCache("killed");
+    folder = parent + "/TempDirectory0007";
+    file = folder + "/step";
+    inDyingProcess([&] {
+        auto claimed = TempFolder::claimNumbered(parent, 7, &problem);
+        SnapshotStore store([](const QString& path, const QByteArray& data) -> bool {
+            writeWholeFile(path, data.left(1000));
+            raise(SIGKILL);
+            return false;
+        });
+        store.write("step", file, std::make_shared<Snapshot>(sketch(1)))();
+    });
+    EXPECT_EQ(entries(folder).size(), 1) << "what there was of it";
+    EXPECT_FALSE(QFile::exists(file));
+    TempFolder::removeAbandoned(parent);
+    EXPECT_EQ(entries(parent), QStringList());
+}
+
+// Folders
+
+TEST_F(HistoryFaultTest, NoTwoHistoriesShareAFolder) {
+    std::srand(1);
+    auto first = ImagesUndoManager::init();
+    std::srand(1);
+    auto second = ImagesUndoManager::init();
+    std::srand(1);
+    const QString wanted =
+        QStringLiteral("TempDirectory%1").arg(std::rand() % 10000, 4, 10, QLatin1Char('0'));
+    EXPECT_EQ(QFileInfo(first->tempDirectory()).fileName(), wanted);
+    EXPECT_NE(first->tempDirectory(), second->tempDirectory());
+    EXPECT_TRUE(QFileInfo(second->tempDirectory()).isDir());
+    EXPECT_EQ(QFileInfo(first->tempDirectory()).path(), caches());
+}
+
+TEST_F(HistoryFaultTest, OnlyTheDeadsOwnFoldersAreRemoved) {
+    const QString parent = caches();
+    QString problem;
+    auto alive = TempFolder::claimNumbered(parent, 1, &problem);
+    ASSERT_TRUE(alive) << qPrintable(problem);
+    for (int number = 2; number <= 5; ++number) {
+        inDyingProcess([&] {
+            auto dead = TempFolder::claimNumbered(parent, number, &problem).release();
+            writeWholeFile(dead->path() + "/step", sketch(number));
+        });
+    }
+    const auto path = [&](const char* name) { return parent + "/TempDirectory000" + name; };
+    // Another machine's; another user's, which only root can try; and one without a lock, of whoever it may be.
+    ASSERT_TRUE(writeWholeFile(path("3.lock"), "made another-machine host\n"));
+    const bool root = geteuid() == 0;
+    ASSERT_TRUE(!root || ::chown(QFile::encodeName(path("4.lock")).constData(), 12345, 12345) == 0);
+    QFile::remove(path("5.lock"));
+    QDir().mkpath(parent + "/Pictures");
+
+    auto history = ImagesUndoManager::init();
+    history->waitForWrites();
+    EXPECT_TRUE(QFile::exists(alive->path()));
+    EXPECT_FALSE(QFile::exists(path("2")) || QFile::exists(path("2.lock")));
+    EXPECT_TRUE(QFile::exists(path("3/step")));
+    EXPECT_EQ(QFile::exists(path("4/step")), root);
+    EXPECT_TRUE(QFile::exists(path("5/step")));
+    EXPECT_TRUE(QFile::exists(parent + "/Pictures"));
+}
+
+TEST_F(HistoryFaultTest, AFolderOnesOwnIsNotRemovedWithItsDeadUser) {
+    const QString mine = inCache("mine"), made = inCache("made");
+    QDir().mkpath(mine);
+    QString problem;
+    inDyingProcess([&] {
+        for (const QString& path : {mine, made}) {
+            auto folder = TempFolder::claim(path, &problem).release();
+            writeWholeFile(folder->path() + "/step", "x");
+        }
+    });
+    for (const QString& path : {mine, made}) {
+        const auto folder = TempFolder::claim(path, &problem);
+        ASSERT_TRUE(folder) << qPrintable(problem);
+        EXPECT_EQ(QFile::exists(path + "/step"), path == mine);
+    }
+}
