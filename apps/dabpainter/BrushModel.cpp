@@ -60,7 +60,7 @@ void applyPreset(QDDrawCanvas& canvas, const BrushPreset& preset) {
     canvas.resetWithParams(preset.params, preset.version);
     constexpr quint32 kBlendText = 0x9006;
     if (BrushRecords::paramValueForKey(preset.params, kBlendText).isValid()) {
-        // A blend mode by its program's text, which only presets made elsewhere hold: from here on by its number.
+        // A blend mode by its program's text, as presets made elsewhere hold: from here on by its number.
         const auto type = ESImageRender::blendTypeOfFragmentShaderString(canvas.blendFragmentShaderString());
         canvas.setBlendType(std::int32_t(type != 0 ? type : std::uint32_t{ESBlendTypeNormal}));
     }

@@ -51,8 +51,8 @@ public:
 
     // What a preset made of it holds; none without a canvas or during an override.
     std::optional<BrushParams> params() const;
-    // Makes a preset the brush; every property that differs is reported once, when all are as they shall be. False,
-    // and nothing changed, without a canvas or during an override.
+    // Makes a preset the brush; every property that differs is reported once, when all are as they shall be.
+    // False, and nothing changed, without a canvas or during an override.
     bool takePreset(const BrushPreset& preset);
     // The brush counts as made from this preset, or from none, and stays as it is.
     void comesFrom(const std::optional<BrushPreset>& preset);

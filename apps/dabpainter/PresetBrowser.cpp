@@ -210,7 +210,6 @@ void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
     const int row = _model->rowOf(id);
     if (row >= 0)
         _list->scrollTo(_filtered->mapFromSource(_model->index(row)));
-    emit chosenChanged();
 }
 
 void PresetBrowser::showChosen() {

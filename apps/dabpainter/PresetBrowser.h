@@ -56,13 +56,10 @@ public:
     QAction* saveAction() const { return _save; }
     QAction* importAction() const { return _import; }
 
-    // Which preset it was and whether presets set the colour. The brush itself must have been read before, and is
-    // left as it is.
+    // Which preset it was and whether presets set the colour. The brush itself must have been read before,
+    // and is left as it is.
     void readState(QSettings& settings);
     void writeState(QSettings& settings) const;
-
-signals:
-    void chosenChanged();  // also its name
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

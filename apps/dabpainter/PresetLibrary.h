@@ -45,7 +45,7 @@ public:
     explicit PresetLibrary(PresetFolders folders) : _folders(std::move(folders)) {}
     const PresetFolders& folders() const { return _folders; }
 
-    // Looks at the folders again, and into files that are new or changed. The user's come first, then by name.
+    // Looks at the folders again, and into files that are new or changed. The user's come first, by name.
     void refresh();
     const std::vector<Preset>& presets() const { return _presets; }
     const Preset* find(const PresetId& id) const;

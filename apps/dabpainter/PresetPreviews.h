@@ -13,8 +13,8 @@
 
 namespace dabcanvas::dabpainter {
 
-// Paints the pictures of presets when somebody wants to see them, one after another between the other events, and
-// keeps them until a file changes.
+// Paints the pictures of presets when somebody wants to see them, one after another between the other
+// events, and keeps them until a file changes.
 class PresetPreviews : public QObject {
     Q_OBJECT
 
@@ -22,8 +22,8 @@ public:
     // mayPaint: asked before each slice, so that nothing slows down the user's own stroke.
     PresetPreviews(const PresetLibrary& library, std::function<bool()> mayPaint, QObject* parent = nullptr);
 
-    // Size in points, and pixels per point; the colours are the presets' own or ink. Others than before: all are
-    // painted again.
+    // Size in points, and pixels per point; the colours are the presets' own or ink. Others than before: all
+    // are painted again.
     void setLook(QSize size, qreal ratio, bool ownColors);
     // Null when it is not there yet; then it will be, if the preset can be read.
     QImage picture(const Preset& preset);

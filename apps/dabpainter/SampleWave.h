@@ -9,8 +9,8 @@ class QDDrawCanvas;
 
 namespace dabcanvas::dabpainter {
 
-// A wave that shows how a brush paints, on a canvas of its own. It is painted a few samples at a time, so that the
-// user's own stroke need not wait for it.
+// A wave that shows how a brush paints, on a canvas of its own. It is painted a few samples at a time, so
+// that the user's own stroke need not wait for it.
 //
 // Sizes   buffer pixels.
 class SampleWave {
@@ -25,8 +25,8 @@ public:
     // Makes a canvas of this size when there is none yet. False when it cannot be had, now and from then on.
     bool prepare(QSize size);
 
-    // Begins the wave with the canvas's brush, in whose place one of dots times its size is set, or one as large as
-    // there is room for.
+    // Begins the wave with the canvas's brush, in whose place one of dots times its size is set, or one as
+    // large as there is room for.
     void begin(float dots);
     // Goes on for about these milliseconds. True when the wave is complete.
     bool paint(int milliseconds);
