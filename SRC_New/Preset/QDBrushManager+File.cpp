@@ -65,7 +65,11 @@ void fillValue(_XBFParamValue& value, int type, const QVariant& property, QByteA
             break;
         case kXBFData:
             payload = property.toByteArray();
-            value.textureValue = {{static_cast<int>(payload.size()), 1}, 1, payload.data()};
+            // One by one: a whole record would bring bytes of the stack along, into the file.
+            value.textureValue.size.width = static_cast<int>(payload.size());
+            value.textureValue.size.height = 1;
+            value.textureValue.depth = 1;
+            value.textureValue.data = payload.data();
             break;
         default:
             break;
