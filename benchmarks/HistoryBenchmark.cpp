@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What undo steps cost: keeping a snapshot of the canvas and getting it back, beside copying as many bytes, and the
-// memory and disk that a sketch's steps take.
+// What undo steps cost: keeping a snapshot of the canvas and getting it back, beside copying as many bytes,
+// and the memory and disk that a sketch's steps take.
 #include <benchmark/benchmark.h>
 
 #include <QCoreApplication>
@@ -26,8 +26,8 @@ namespace {
 
 constexpr double kSketchWidth = 1024;
 
-// Somebody sketches on white paper: stroke by stroke of the pen session, as large as the canvas, each time round in
-// another colour.
+// Somebody sketches on white paper: stroke by stroke of the pen session, as large as the canvas, each time
+// round in another colour.
 class Sketch {
 public:
     explicit Sketch(const benchmark::State& state)

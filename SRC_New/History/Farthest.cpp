@@ -5,7 +5,8 @@
 
 namespace {
 
-// How far each item of a stack is from the current one, the last being nearest. Of equal items the first counts.
+// How far each item of a stack is from the current one, the last being nearest. Of equal items the first
+// counts.
 QHash<QString, qsizetype> distances(const QStringList& stack) {
     QHash<QString, qsizetype> all;
     for (qsizetype i = stack.size(); i-- > 0;) {

@@ -132,7 +132,8 @@ void ImagesUndoManager::clearAllTempFiles() {
     reset();
 }
 
-// The folder may have been cleared away under the history's feet: what is written from now on need not be lost.
+// The folder may have been cleared away under the history's feet: what is written from now on need not be
+// lost.
 bool ImagesUndoManager::writeIntoFolder(const QString& path, const QByteArray& data) const {
     return _writer(path, data) ||
            (_folder && path.startsWith(_folder->path() + QLatin1Char('/')) &&

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
-// An undo history of images. Each step's item is the name of an image, which is in memory (the cache) or, when it is
-// far from the current step, in a file of a private folder.
+// An undo history of images. Each step's item is the name of an image, which is in memory (the cache) or,
+// when it is far from the current step, in a file of a private folder.
 //
-// Units    bytes. An image is whatever bytes it is given as, such as raw pixels or a PNG file; the same bytes come
-//          back. In memory they may be held compressed, in files never.
-// Owns     the folder, alone: no other history, of this process or another, gets the same. It goes with the history.
-//          Folders that dead processes of the same user and machine left behind go when the next history starts.
-// Data     is shared, not copied; of data that do not own their bytes (QByteArray::fromRawData) a copy is taken.
-// Thread   any, one call at a time goes ahead. Files are written and deleted in the background when the application's
-//          main thread asks (without an application: the thread that made the history), else at once by the caller.
-//          While writes run, undo() and redo() refuse; they do not wait.
+// Units    bytes. An image is whatever bytes it is given as, such as raw pixels or a PNG file; the same bytes
+//          come back. In memory they may be held compressed, in files never.
+// Owns     the folder, alone: no other history, of this process or another, gets the same. It goes with the
+//          history. Folders that dead processes of the same user and machine left behind go when the next
+//          history starts.
+// Data     is shared, not copied; of data that do not own their bytes (QByteArray::fromRawData) a copy is
+//          taken.
+// Thread   any, one call at a time goes ahead. Files are written and deleted in the background when the
+//          application's main thread asks (without an application: the thread that made the history), else at
+//          once by the caller. While writes run, undo() and redo() refuse; they do not wait.
 // Life     to be destroyed before main() returns. The destructor waits for what runs in the background.
-// Errors   never throws. An image that cannot be written stays in memory, with one log line until the disk takes
-//          images again. An image whose file is gone or damaged reads as null, with a log line.
+// Errors   never throws. An image that cannot be written stays in memory, with one log line until the disk
+//          takes images again. An image whose file is gone or damaged reads as null, with a log line.
 #pragma once
 
 #include <QByteArray>
@@ -32,8 +34,8 @@ class TempFolder;
 
 class ImagesUndoManager : public UndoManager {
 public:
-    // A history of up to 100 steps, whose current item has no image, or the one given. When no folder can be made,
-    // one log line, and the history lives in memory alone.
+    // A history of up to 100 steps, whose current item has no image, or the one given. When no folder can be
+    // made, one log line, and the history lives in memory alone.
     static std::unique_ptr<ImagesUndoManager> init();
     static std::unique_ptr<ImagesUndoManager> initWithCurrentImageOfItem(const QImage& image);
     static std::unique_ptr<ImagesUndoManager> initWithCurrentImageOfData(const QByteArray& data);
@@ -70,13 +72,13 @@ public:
 
     // 0 counts as 1. Half of it, at least 1, becomes maxCacheCount().
     void setUndoStepCount(unsigned count) override;
-    // How many images memory holds, 50 at first. Deliberate: room is made before an image is added and only when there
-    // are more already, so there may be one more. 0: every image goes to its file at once.
+    // How many images memory holds, 50 at first. Deliberate: room is made before an image is added and only
+    // when there are more already, so there may be one more. 0: every image goes to its file at once.
     unsigned maxCacheCount() const;
     void setMaxCacheCount(unsigned count);
     int curCacheCount() const;
-    // The most bytes of memory for cached images, beside the count; 0, as at first, for no such limit. The image added
-    // last stays in memory also when it is larger.
+    // The most bytes of memory for cached images, beside the count; 0, as at first, for no such limit. The
+    // image added last stays in memory also when it is larger.
     qint64 cacheByteBudget() const;
     void setCacheByteBudget(qint64 bytes);
     qint64 cachedBytes() const;
@@ -89,9 +91,9 @@ public:
 
     // Null when there is no folder.
     QString tempDirectory() const;
-    // Moves to another folder, which is made when missing; the old one is deleted. Of a folder that was there before,
-    // only the history's own files are ever deleted. Waits for writes. False, after one log line, and nothing changed
-    // when it cannot be had or another history has it.
+    // Moves to another folder, which is made when missing; the old one is deleted. Of a folder that was there
+    // before, only the history's own files are ever deleted. Waits for writes. False, after one log line, and
+    // nothing changed when it cannot be had or another history has it.
     bool setTempDirectory(const QString& path);
     // Extension of files to come, "png" at first; null for none. Has no slash in it.
     QString filePathExtension() const;
@@ -99,8 +101,8 @@ public:
     // Null for a name that no file can have.
     QString pathWithName(const QString& name) const;
 
-    // Writes a file, of any path, in the background: whole or not at all. Null data delete the file there, never a
-    // folder; a null path does nothing.
+    // Writes a file, of any path, in the background: whole or not at all. Null data delete the file there,
+    // never a folder; a null path does nothing.
     void writeData(const QByteArray& data, const QString& path);
     void writeImage(const QImage& image, const QString& path);
     // Drops the images of these names; their steps, if any, are without.

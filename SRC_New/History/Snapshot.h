@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One remembered image: bytes, held raw at first and perhaps compressed later, or a picture that becomes the bytes
-// of a PNG file when they are asked for.
+// One remembered image: bytes, held raw at first and perhaps compressed later, or a picture that becomes the
+// bytes of a PNG file when they are asked for.
 //
 // Units    bytes.
 // Thread   any; data() and pack() of one snapshot may run at once.
@@ -12,8 +12,8 @@
 #include <atomic>
 #include <mutex>
 
-// Shares the data; copies those that do not own their bytes (QByteArray::fromRawData), as somebody else may free them.
-// Null when there is no memory for a copy.
+// Shares the data; copies those that do not own their bytes (QByteArray::fromRawData), as somebody else may
+// free them. Null when there is no memory for a copy.
 QByteArray ownedData(const QByteArray& data);
 
 class Snapshot {

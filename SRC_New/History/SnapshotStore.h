@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Where the images of a history are: by name in memory, in a file of their own, or in both. What to keep where is
-// the caller's decision; this sees to it that no bytes are lost on the way and no file outlives its name.
+// Where the images of a history are: by name in memory, in a file of their own, or in both. What to keep
+// where is the caller's decision; this sees to it that no bytes are lost on the way and no file outlives its
+// name.
 //
-// Tasks    what takes long comes back as a task, to be run once, on any thread, while this lives; a null task means
-//          there is nothing to do. Whatever order tasks run in, the last one asked for wins: a late write never
-//          brings back a file that was dropped, nor replaces a newer one.
+// Tasks    what takes long comes back as a task, to be run once, on any thread, while this lives; a null task
+//          means there is nothing to do. Whatever order tasks run in, the last one asked for wins: a late
+//          write never brings back a file that was dropped, nor replaces a newer one.
 // Thread   any.
 // Errors   never throws. An image that cannot be written stays in memory.
 #pragma once
@@ -46,16 +47,16 @@ public:
 
     // ---- Disk ----
 
-    // Takes a name out of the cache into its file. When the file cannot be written, it returns to the cache, to its
-    // old place.
+    // Takes a name out of the cache into its file. When the file cannot be written, it returns to the cache,
+    // to its old place.
     Task evict(const QString& name, const QString& path);
-    // Writes an image without caching it; one that cannot be written is cached then. A name that is the path means a
-    // file of somebody's own: written, and forgotten, whether that went well or not.
+    // Writes an image without caching it; one that cannot be written is cached then. A name that is the path
+    // means a file of somebody's own: written, and forgotten, whether that went well or not.
     Task write(const QString& name, const QString& path, std::shared_ptr<Snapshot> image);
     // Forgets these names at once; the task deletes the files, at the paths given where it knows no other.
     Task remove(const QStringList& names, const std::function<QString(const QString&)>& pathOf);
-    // The task deletes all files of the names and everything else that is in the folder now, unless `onlyOwn`. What
-    // is in memory stays.
+    // The task deletes all files of the names and everything else that is in the folder now, unless
+    // `onlyOwn`. What is in memory stays.
     Task empty(const QString& folder, bool onlyOwn);
     // Moves all files to another folder, while no task runs. What cannot be moved counts as lost.
     void moveFiles(const QString& toFolder);

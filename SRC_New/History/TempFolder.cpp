@@ -71,7 +71,8 @@ QByteArray textIn(int file) {
 
 }  // namespace
 
-// The file is made by whoever has the folder, never taken over: so nobody can mistake a dead one's for his own.
+// The file is made by whoever has the folder, never taken over: so nobody can mistake a dead one's for his
+// own.
 bool TempFolder::lock(bool made, QString* problem) {
     const QByteArray path = QFile::encodeName(lockPathOf(_path));
     const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
@@ -110,8 +111,8 @@ void TempFolder::unlock() {
     }
 }
 
-// Whether a process lives is not asked by its number, which another may have by now: only the lock tells, and the
-// system takes it from the dead.
+// Whether a process lives is not asked by its number, which another may have by now: only the lock tells, and
+// the system takes it from the dead.
 void TempFolder::removeIfAbandoned(const QString& path) {
     const QByteArray lockPath = QFile::encodeName(lockPathOf(path));
     const int file = ::open(lockPath.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
@@ -212,7 +213,8 @@ std::unique_ptr<TempFolder> TempFolder::claimNumbered(const QString& parent, int
         *problem = QStringLiteral("the folder above it cannot be made");
         return nullptr;
     }
-    // The generator is not seeded, so other processes ask for the same number: the next free one does as well.
+    // The generator is not seeded, so other processes ask for the same number: the next free one does as
+    // well.
     for (int i = 0; i < kNumbers; ++i) {
         const int digits = (number % kNumbers + i) % kNumbers;
         auto folder =

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A folder that belongs to one owner of one process for as long as this object lives. The claim is a lock file
-// beside it, "<folder>.lock", that the system lets go of when the process ends, in whatever way.
+// A folder that belongs to one owner of one process for as long as this object lives. The claim is a lock
+// file beside it, "<folder>.lock", that the system lets go of when the process ends, in whatever way.
 //
 // Thread   one at a time.
 // Errors   never throws: null or false, and `problem` says why in words.
@@ -15,13 +15,13 @@
 
 class TempFolder {
 public:
-    // The folder of this path, made when it is missing, with those above it. Null when somebody has claimed it, or it
-    // cannot be had. What a dead process of this machine and user had made there is removed first.
+    // The folder of this path, made when it is missing, with those above it. Null when somebody has claimed
+    // it, or it cannot be had. What a dead process of this machine and user had made there is removed first.
     static std::unique_ptr<TempFolder> claim(const QString& path, QString* problem);
     // A new folder "TempDirectory" + four digits in `parent`: number modulo 10000, or the next that is free.
     static std::unique_ptr<TempFolder> claimNumbered(const QString& parent, int number, QString* problem);
-    // Removes what dead processes left of such folders in `parent`. Folders of other users or machines stay, and
-    // those of whoever is alive.
+    // Removes what dead processes left of such folders in `parent`. Folders of other users or machines stay,
+    // and those of whoever is alive.
     static void removeAbandoned(const QString& parent);
 
     ~TempFolder();  // with all that is in it, if it was made here

@@ -68,7 +68,7 @@ bool UndoManager::addItemWithString(const QString& item) {
     }
     const Compound compound(_itemAccessSemaphore);
     const std::lock_guard lock(_fields);
-    // Deliberate: one item an add, so a lowered step count takes effect gradually; and a count of 0 keeps one.
+    // Deliberate: one item an add, so a lowered step count takes effect gradually; 0 keeps one.
     if (!_undoItems.isEmpty() && static_cast<std::uint64_t>(_undoItems.size()) >= _undoStepCount) {
         _undoItems.removeFirst();
     }

@@ -15,8 +15,8 @@
 
 class UndoManager {
 public:
-    // Empty stacks, the current item "InitString", or the one given. The step count is 0: set it first, as with 0
-    // at most one undo item is ever kept.
+    // Empty stacks, the current item "InitString", or the one given. The step count is 0: set it first, as
+    // with 0 at most one undo item is ever kept.
     static std::unique_ptr<UndoManager> init();
     static std::unique_ptr<UndoManager> initWithCurrentItem(const QString& item);
 
@@ -29,8 +29,8 @@ public:
     QStringList undoItems() const;  // oldest first
     QStringList redoItems() const;  // the one undone last stands last
 
-    // The current item becomes the last undo item, `item` the current one; what could be redone is dropped. When
-    // the step count is reached, one undo item, the oldest, is dropped.
+    // The current item becomes the last undo item, `item` the current one; what could be redone is dropped.
+    // When the step count is reached, one undo item, the oldest, is dropped.
     virtual bool addItemWithString(const QString& item);
     bool canUndo() const;
     bool canRedo() const;
@@ -48,8 +48,8 @@ public:
     virtual void reset();
     virtual void resetWithCurrentItem(const QString& item);
 
-    // How many background operations run that undo and redo must not overtake. One that a reset overtook no longer
-    // counts: its end lowers nothing.
+    // How many background operations run that undo and redo must not overtake. One that a reset overtook no
+    // longer counts: its end lowers nothing.
     unsigned processCount() const;
     using ProcessTicket = std::uint32_t;
     ProcessTicket beginProcess();

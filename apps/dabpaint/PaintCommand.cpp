@@ -157,6 +157,8 @@ private:
         if (!canvas)
             return canvas.problem().what;
         _canvas = std::move(*canvas);
+        if (_options.undo > 0)
+            _canvas->undoManager();  // takes a random number, which the strokes' must not depend on
         if (_options.repeatable)
             makeRepeatable(*_canvas);
         _canvas->setProfiling(_options.stats);

@@ -252,7 +252,8 @@ TEST_F(HistoryFaultTest, OnlyTheDeadsOwnFoldersAreRemoved) {
         });
     }
     const auto path = [&](const char* name) { return parent + "/TempDirectory000" + name; };
-    // Another machine's; another user's, which only root can try; and one without a lock, of whoever it may be.
+    // Another machine's; another user's, which only root can try; and one without a lock, of whoever it may
+    // be.
     ASSERT_TRUE(writeWholeFile(path("3.lock"), "made another-machine host\n"));
     const bool root = geteuid() == 0;
     ASSERT_TRUE(!root || ::chown(QFile::encodeName(path("4.lock")).constData(), 12345, 12345) == 0);
