@@ -110,9 +110,14 @@ void apply(QDDrawCanvas& canvas, const BrushProperty& row, int part, const QVari
         case BrushValueType::color:
             typed = QVariant::fromValue(value.value<ESColor>());
             break;
-        case BrushValueType::image:
-            typed = imageOf(value);
+        case BrushValueType::image: {
+            const QImage image = imageOf(value);
+            if (image.isNull()) {
+                return;  // the default stays
+            }
+            typed = image;
             break;
+        }
         default:
             return;
     }
