@@ -61,6 +61,8 @@ public:
         return pixels;
     }
 
+    QDDrawCanvas& canvas() { return *_canvas; }
+
 private:
     double scale() const { return _size.width() / kSketchWidth; }
 
@@ -152,6 +154,39 @@ void readSpilledStep(benchmark::State& state) {
         [&] { benchmark::DoNotOptimize(history->currentImageDataOfItem().constData()); });
 }
 
+// What a stroke's end waits for where it is marked: the whole canvas is read, and kept.
+void markStroke(benchmark::State& state) {
+    Sketch sketch(state);
+    sketch.canvas().resetUndoManager();
+    compare(
+        state,
+        [&] {
+            sketch.nextStep();
+            settle(sketch.canvas().undoManager());
+        },
+        [&] { sketch.canvas().markAction(); });
+}
+
+// Undo, up to the pixels to show.
+void undoStroke(benchmark::State& state) {
+    Sketch sketch(state);
+    sketch.canvas().resetUndoManager();
+    sketch.nextStep();
+    sketch.canvas().markAction();
+    compare(
+        state,
+        [&] {
+            settle(sketch.canvas().undoManager());
+            sketch.canvas().redo();
+            sketch.canvas().displayImage();
+            settle(sketch.canvas().undoManager());
+        },
+        [&] {
+            sketch.canvas().undo();
+            benchmark::DoNotOptimize(sketch.canvas().displayImage().constBits());
+        });
+}
+
 // A hundred strokes, with the limits as they are at first.
 void hundredSteps(benchmark::State& state) {
     constexpr int kSteps = 100;
@@ -182,6 +217,8 @@ void onBothSizes(benchmark::internal::Benchmark* row) {
     row->Args({1024, 768})->Args({3840, 2160})->UseManualTime()->Unit(benchmark::kMicrosecond);
 }
 BENCHMARK(addStep)->Apply(onBothSizes)->Iterations(40);
+BENCHMARK(markStroke)->Apply(onBothSizes)->Iterations(40);
+BENCHMARK(undoStroke)->Apply(onBothSizes)->Iterations(40);
 BENCHMARK(readCachedStep)->Apply(onBothSizes)->Iterations(40);
 BENCHMARK(readSpilledStep)->Apply(onBothSizes)->Iterations(40);
 BENCHMARK(hundredSteps)->Apply(onBothSizes)->Iterations(1);
