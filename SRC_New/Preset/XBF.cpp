@@ -96,7 +96,10 @@ _XBFParamValue decodeInline(std::int32_t type, const Byte* in) {
             value.textValue = nullptr;
             break;
         case kXBFData:
-            value.textureValue = {{getSigned32(in), getSigned32(in + 4)}, getSigned32(in + 8), nullptr};
+            value.textureValue.size.width = getSigned32(in);
+            value.textureValue.size.height = getSigned32(in + 4);
+            value.textureValue.depth = getSigned32(in + 8);
+            value.textureValue.data = nullptr;
             break;
         default:
             std::memcpy(&value, in, kXBFInlineSize);

@@ -127,7 +127,9 @@ TEST(XBF, AMethodIsCutTo39BytesAndTheRestOfALongerOneIsSkipped) {
 
 TEST(XBF, BytesThatATypeDoesNotNameAreWrittenAsTheyLieInMemory) {
     _XBFParamValue value = emptyValue();
-    value.textureValue = {{0x11111111, 0x22222222}, 0x33333333, nullptr};
+    value.textureValue.size.width = 0x11111111;
+    value.textureValue.size.height = 0x22222222;
+    value.textureValue.depth = 0x33333333;
     value.boolValue = 1;
     char text[] = "6162";
     _XBFParamValue pointer = emptyValue();
