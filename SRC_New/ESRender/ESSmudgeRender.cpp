@@ -29,6 +29,11 @@ constexpr std::size_t kCorners = 4;
 
 constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8;
 
+// The one of OpenGL 4.5, rather than the older extension's.
+bool hasStandardBarrier() {
+    return epoxy_gl_version() >= 45 || epoxy_has_gl_extension("GL_ARB_texture_barrier");
+}
+
 }  // namespace
 
 // Places, or texture coordinates, of a dab's corners.
@@ -47,6 +52,7 @@ std::unique_ptr<ESSmudgeRender> ESSmudgeRender::init() {
     render->_showProgram = makeShowProgram(false);
     render->_fillProgram = makeShowProgram(true);
     render->_useTextureBarrier = hasTextureBarrier();
+    render->_hasStandardBarrier = hasStandardBarrier();
     return render;
 }
 
@@ -129,8 +135,7 @@ ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) {
 }
 
 bool ESSmudgeRender::hasTextureBarrier() {
-    return epoxy_gl_version() >= 45 || epoxy_has_gl_extension("GL_ARB_texture_barrier") ||
-           epoxy_has_gl_extension("GL_NV_texture_barrier");
+    return hasStandardBarrier() || epoxy_has_gl_extension("GL_NV_texture_barrier");
 }
 
 // ---- Textures
@@ -235,6 +240,10 @@ QRectF ESSmudgeRender::drawDabs(const LPPoint* points, std::size_t count, const 
     }
     takeBrush();
     program()->bind();
+    // Each dab fills the same buffer anew, so where its vertices stand is said once a run.
+    dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
+    dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
+    dabcanvas::setVertexAttribute(_bgCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, bgS));
     _viewSize.set(bufferSize().width(), bufferSize().height());
     if (brushTexture() != nullptr && brushTexture()->useAtPosition(texturePos())) {
         _brushUnit.set(texturePos() - GL_TEXTURE0);
@@ -271,7 +280,7 @@ QRectF ESSmudgeRender::drawDabs(const LPPoint* points, std::size_t count, const 
 // A point picks up where the point before it was drawn; a stroke's first has no such place and picks up nothing.
 void ESSmudgeRender::beginPoint(float mix) {
     const float moist = std::exchange(_hasPlace, true) ? _moistQuantity : 0.0f;
-    const float dry = 1 - moist;
+    const float dry = 1 - moist;  // as the dab program reckons
     _exchange = _loadQuantity * (1 - mix) + mix * (1 - dry * dry * dry);
     _moist.set(moist);
     _mix.set(mix);
@@ -317,7 +326,7 @@ QRect ESSmudgeRender::texelBox(const Corners& corners) const {
 void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
     if (_useTextureBarrier && !read.intersects(written)) {
         glBindTexture(GL_TEXTURE_2D, _smudgeTex);
-        if (epoxy_gl_version() >= 45 || epoxy_has_gl_extension("GL_ARB_texture_barrier")) {
+        if (_hasStandardBarrier) {
             glTextureBarrier();
         } else {
             glTextureBarrierNV();
@@ -366,9 +375,6 @@ void ESSmudgeRender::drawDab(const Dab& dab) {
                        static_cast<float>(corners.at[i].y())};
     }
     glBufferData(GL_ARRAY_BUFFER, sizeof vertices, vertices, GL_STATIC_DRAW);
-    dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
-    dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
-    dabcanvas::setVertexAttribute(_bgCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, bgS));
     _tipCell.set(cell[0], cell[1], cell[4], cell[5]);
     setDabUniforms(dab);
     checkGLStep(kSourcePath, __LINE__);

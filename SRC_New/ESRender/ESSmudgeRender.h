@@ -139,6 +139,7 @@ private:
     std::vector<Dab> _coverage;
     bool _coverageTaken = false;
     bool _useTextureBarrier = false;
+    bool _hasStandardBarrier = false;  // asked once: the driver compares names
 
     ShowProgram _showProgram, _fillProgram;
     GLint _bgCoordIndex = -1;
