@@ -1,29 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "Recognition/Unitily.h"
 
-#include <cmath>
+#include "Recognition/ShapeFeatures.h"
+#include "Recognition/ShapeMaking.h"
+#include "Recognition/ShapeModel.h"
+#include "Recognition/StrokePath.h"
+
+#include <cstddef>
+
+namespace {
+constexpr std::size_t kFewestPoints = 5;
+}
 
 ShapeRecord Unitily::recogniseWithPoints(std::span<const ShapePoint> points) {
-    ShapeRecord shape;
-    if (points.size() < 5) {
-        return shape;
+    if (points.size() < kFewestPoints) {
+        return {};
     }
-    // For a start: a line between the ends, when every point is near it.
-    const ShapePoint from = points.front();
-    const ShapePoint to = points.back();
-    const double dx = to.x - from.x;
-    const double dy = to.y - from.y;
-    const double length = std::hypot(dx, dy);
-    if (!(length > 0)) {
-        return shape;
+    const StrokePath stroke = StrokePath::of(points);
+    if (stroke.isEmpty()) {
+        return {};
     }
-    for (const ShapePoint& point : points) {
-        if (!(std::abs((point.x - from.x) * dy - (point.y - from.y) * dx) < 0.05 * length * length)) {
-            return shape;
-        }
-    }
-    shape.kind = ShapeKind::line;
-    shape.corners = {from, to};
-    shape.confidence = 1;
+    const ShapeFits fits(stroke);
+    const ShapeVerdict verdict = judgeShape(ShapeFeatures(stroke, fits));
+    ShapeRecord shape = makeShape(verdict.kind, verdict.legs, stroke, fits);
+    // A kind that no outline could be made of is nothing, and unsure.
+    shape.confidence = shape.kind == verdict.kind ? verdict.confidence : 0;
     return shape;
 }
