@@ -5,7 +5,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
+#include <utility>
+#include <vector>
 
 namespace {
 constexpr double kPi = std::numbers::pi;
@@ -71,54 +74,68 @@ std::optional<Ellipse> directFit(const Path& path) {
     return {};
 }
 
-// One step of Gauss and Newton's on the distances to the nearest points, damped; the new sum of squares.
-double sumOfSquares(const Ellipse& e, const Path& path) {
-    double sum = 0;
-    for (const Vec2& p : path) {
-        sum += (p - e.at(e.nearest(p))).squaredNorm();
-    }
-    return sum;
-}
+// How far each point lies outside the outline, and where on it the nearest point is.
+struct Comparison {
+    std::vector<double> distances;
+    std::vector<Vec2> normals;     // of the outline, in the frame of its axes
+    std::vector<Vec2> parameters;  // cosines and sines
+    double sum = 0;                // of the squares
 
+    Comparison(const Ellipse& e, const Path& path) {
+        const EllipseFrame frame(e);
+        distances.reserve(path.size());
+        normals.reserve(path.size());
+        parameters.reserve(path.size());
+        for (const Vec2& p : path) {
+            const Vec2 local = frame.inward(p);
+            const Vec2 t = frame.nearest(local);
+            const Vec2 normal = Vec2(t.x() * e.b, t.y() * e.a).normalized();
+            parameters.push_back(t);
+            normals.push_back(normal);
+            distances.push_back(normal.dot(local - frame.at(t)));
+            sum += distances.back() * distances.back();
+        }
+    }
+};
+
+// Levenberg and Marquardt's way down the sum of squared distances.
 Ellipse refined(Ellipse e, const Path& path) {
     constexpr int kRounds = 8;
-    double sum = sumOfSquares(e, path);
+    constexpr double kSettled = 1e-3;  // an improvement by less than this part is the last
+    Comparison now(e, path);
     double damping = 1e-3;
     for (int round = 0; round < kRounds; ++round) {
         Eigen::Matrix<double, 5, 5> normal = Eigen::Matrix<double, 5, 5>::Zero();
         Vec5 slope = Vec5::Zero();
-        for (const Vec2& p : path) {
-            const double t = e.nearest(p);
-            const double ct = std::cos(t);
-            const double st = std::sin(t);
-            const Vec2 local = e.inward(p);
-            Vec2 normalHere(ct / e.a, st / e.b);
-            normalHere.normalize();
-            const double distance = normalHere.dot(local - Vec2(e.a * ct, e.b * st));
+        const double cr = std::cos(e.angle);
+        const double sr = std::sin(e.angle);
+        for (std::size_t i = 0; i < path.size(); ++i) {
             // How the distance changes with centre, axes and angle: the outline's movement along its normal.
-            const double cr = std::cos(e.angle);
-            const double sr = std::sin(e.angle);
+            const Vec2& n = now.normals[i];
+            const Vec2& t = now.parameters[i];
             Vec5 change;
-            change << normalHere.x() * cr - normalHere.y() * sr, normalHere.x() * sr + normalHere.y() * cr,
-                normalHere.x() * ct, normalHere.y() * st,
-                -normalHere.x() * e.b * st + normalHere.y() * e.a * ct;
+            change << n.x() * cr - n.y() * sr, n.x() * sr + n.y() * cr, n.x() * t.x(), n.y() * t.y(),
+                n.y() * e.a * t.x() - n.x() * e.b * t.y();
             normal += change * change.transpose();
-            slope += change * distance;
+            slope += change * now.distances[i];
         }
-        Eigen::Matrix<double, 5, 5> damped = normal;
-        damped.diagonal() *= 1 + damping;
-        damped.diagonal().array() += 1e-12;
-        const Vec5 step = damped.ldlt().solve(slope);
+        normal.diagonal() *= 1 + damping;
+        normal.diagonal().array() += 1e-12;
+        const Vec5 step = normal.ldlt().solve(slope);
         Ellipse next = e;
         next.centre += step.head<2>();
         next.a += step[2];
         next.b += step[3];
         next.angle += step[4];
-        const double nextSum = isSound(next) ? sumOfSquares(next, path) : sum;
-        if (nextSum < sum) {
-            const bool settled = sum - nextSum < 1e-4 * sum;
+        if (!isSound(next)) {
+            damping *= 10;
+            continue;
+        }
+        Comparison then(next, path);
+        if (then.sum < now.sum) {
+            const bool settled = now.sum - then.sum < kSettled * now.sum;
             e = next;
-            sum = nextSum;
+            now = std::move(then);
             damping = std::max(damping / 10, 1e-9);
             if (settled) {
                 break;
@@ -135,48 +152,48 @@ Ellipse refined(Ellipse e, const Path& path) {
 }
 }  // namespace
 
-Vec2 Ellipse::inward(const Vec2& point) const {
-    const Vec2 d = point - centre;
-    const double c = std::cos(angle);
-    const double s = std::sin(angle);
-    return {d.x() * c + d.y() * s, d.y() * c - d.x() * s};
+EllipseFrame::EllipseFrame(const Ellipse& ellipse)
+    : _ellipse(ellipse), _cosine(std::cos(ellipse.angle)), _sine(std::sin(ellipse.angle)) {}
+
+Vec2 EllipseFrame::inward(const Vec2& point) const {
+    const Vec2 d = point - _ellipse.centre;
+    return {d.x() * _cosine + d.y() * _sine, d.y() * _cosine - d.x() * _sine};
 }
 
-Vec2 Ellipse::outward(const Vec2& point) const {
-    const double c = std::cos(angle);
-    const double s = std::sin(angle);
-    return centre + Vec2(point.x() * c - point.y() * s, point.x() * s + point.y() * c);
-}
-
-double Ellipse::nearest(const Vec2& point) const {
+Vec2 EllipseFrame::nearest(const Vec2& local) const {
     // By the evolute: each round replaces the outline by its circle of curvature at the latest guess. Converges
     // from everywhere, in the first quadrant.
-    const Vec2 local = inward(point);
+    constexpr int kRounds = 3;
+    const double a = _ellipse.a;
+    const double b = _ellipse.b;
     const double px = std::abs(local.x());
     const double py = std::abs(local.y());
     double tx = std::numbers::sqrt2 / 2;
     double ty = tx;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < kRounds; ++i) {
         const double ex = (a * a - b * b) * tx * tx * tx / a;
         const double ey = (b * b - a * a) * ty * ty * ty / b;
-        const double rx = a * tx - ex;
-        const double ry = b * ty - ey;
-        const double qx = px - ex;
-        const double qy = py - ey;
-        const double r = std::hypot(rx, ry);
-        const double q = std::max(std::hypot(qx, qy), 1e-12);
-        tx = std::clamp((qx * r / q + ex) / a, 0.0, 1.0);
-        ty = std::clamp((qy * r / q + ey) / b, 0.0, 1.0);
-        const double t = std::max(std::hypot(tx, ty), 1e-12);
-        tx /= t;
-        ty /= t;
+        const Vec2 radius(a * tx - ex, b * ty - ey);
+        const Vec2 towards(px - ex, py - ey);
+        const double reach = std::sqrt(radius.squaredNorm() / std::max(towards.squaredNorm(), 1e-24));
+        tx = std::clamp((towards.x() * reach + ex) / a, 0.0, 1.0);
+        ty = std::clamp((towards.y() * reach + ey) / b, 0.0, 1.0);
+        const double norm = std::max(std::sqrt(tx * tx + ty * ty), 1e-12);
+        tx /= norm;
+        ty /= norm;
     }
-    return std::atan2(std::copysign(ty, local.y()), std::copysign(tx, local.x()));
+    return {std::copysign(tx, local.x()), std::copysign(ty, local.y())};
 }
 
 std::optional<Ellipse> fitEllipse(const Path& path) {
-    const std::optional<Ellipse> start = directFit(path);
-    return start ? std::optional(refined(*start, path)) : std::nullopt;
+    // Every second point tells as much.
+    Path half;
+    half.reserve(path.size() / 2 + 1);
+    for (std::size_t i = 0; i < path.size(); i += 2) {
+        half.push_back(path[i]);
+    }
+    const std::optional<Ellipse> start = directFit(half);
+    return start ? std::optional(refined(*start, half)) : std::nullopt;
 }
 
 std::optional<Ellipse> fitCircle(const Path& path) {
@@ -221,9 +238,12 @@ EllipseTour tourOf(const Ellipse& ellipse, const Path& path) {
     double there = 0;
     double forward = 0;
     double backward = 0;
+    const EllipseFrame frame(ellipse);
     for (std::size_t i = 0; i < path.size(); ++i) {
-        const double t = ellipse.nearest(path[i]);
-        const double squared = (path[i] - ellipse.at(t)).squaredNorm();
+        const Vec2 local = frame.inward(path[i]);
+        const Vec2 nearest = frame.nearest(local);
+        const double t = std::atan2(nearest.y(), nearest.x());
+        const double squared = (local - frame.at(nearest)).squaredNorm();
         sum += squared;
         tour.furthest = std::max(tour.furthest, squared);
         if (i == 0) {

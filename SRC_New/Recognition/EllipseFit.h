@@ -11,12 +11,21 @@ struct Ellipse {
     double a = 0;      // half axes, above 0, a along `angle`
     double b = 0;      // never longer than a after fitting
     double angle = 0;  // of a's axis, from x towards y
+};
 
+// An ellipse ready to be compared with many points.
+class EllipseFrame {
+public:
+    explicit EllipseFrame(const Ellipse& ellipse);
     Vec2 inward(const Vec2& point) const;  // into the frame of its axes
-    Vec2 outward(const Vec2& point) const;
-    Vec2 at(double t) const { return outward({a * std::cos(t), b * std::sin(t)}); }
-    // The parameter of the point nearest to `point`, from -pi to pi.
-    double nearest(const Vec2& point) const;
+    // Cosine and sine of the parameter of the outline's point nearest to `local`, a point in that frame.
+    Vec2 nearest(const Vec2& local) const;
+    Vec2 at(const Vec2& parameter) const { return {_ellipse.a * parameter.x(), _ellipse.b * parameter.y()}; }
+
+private:
+    Ellipse _ellipse;
+    double _cosine;
+    double _sine;
 };
 
 // How a path runs along an ellipse.

@@ -61,8 +61,7 @@ Path smoothed(const Path& path, double sigma) {
 }
 
 // Where the stroke proper begins, when it begins with a hook: a short piece after which the pen turns back.
-std::size_t endOfHook(const Path& path) {
-    const double spacing = (path[1] - path[0]).norm();
+std::size_t endOfHook(const Path& path, double spacing) {
     const auto limit = static_cast<std::size_t>(kHookLength / spacing);
     const auto reach = std::max<std::size_t>(2, static_cast<std::size_t>(0.02 / spacing));
     double sharpest = kHookTurn;
@@ -88,7 +87,8 @@ double diagonalOf(const Path& path, Vec2& centre) {
         high = high.cwiseMax(point);
     }
     centre = low + (high - low) / 2;
-    return (high - low).norm();
+    const Vec2 extent = high - low;
+    return std::hypot(extent.x(), extent.y());  // norm() squares, which tiny and huge strokes do not survive
 }
 
 void fitToFrame(Path& path, const Vec2& centre, double scale) {
@@ -138,10 +138,11 @@ StrokePath StrokePath::of(std::span<const ShapePoint> stroke) {
     fitToFrame(path, result.centre, result.scale);
 
     path = evenlySpaced(path, kFinePoints);
-    path = smoothed(path, kPixelNoise / (path[1] - path[0]).norm());
-    const std::size_t start = endOfHook(path);
+    const double spacing = lengthOf(path) / (kFinePoints - 1);
+    path = smoothed(path, kPixelNoise / spacing);
+    const std::size_t start = endOfHook(path, spacing);
     std::reverse(path.begin(), path.end());
-    const std::size_t end = endOfHook(path);
+    const std::size_t end = endOfHook(path, spacing);
     std::reverse(path.begin(), path.end());
     path = Path(path.begin() + static_cast<std::ptrdiff_t>(start),
                 path.end() - static_cast<std::ptrdiff_t>(end));

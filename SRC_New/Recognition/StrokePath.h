@@ -12,7 +12,6 @@
 using Vec2 = Eigen::Vector2d;
 using Path = std::vector<Vec2>;
 
-// How far one end of a stroke lies from the other: across the empty place, when they do not meet, or past it.
 struct StrokePath {
     static constexpr int kPoints = 129;
 
