@@ -44,12 +44,16 @@ def outcomes_accepted(rows):
     return accepted
 
 
+# What all non-shapes count for, beside all shapes. A shape refused annoys oftener than scrawl made straight.
+OTHERS = 0.3
+
+
 def balanced(rows):
-    """Every label counts as much as its number's root, non-shapes as much as all shapes together."""
+    """Every label counts as much as its number's root, non-shapes OTHERS times as much as all shapes together."""
     count = collections.Counter(row["label"] for row in rows)
     weight = {label: n ** -0.5 for label, n in count.items()}
     shapes = sum(n * weight[label] for label, n in count.items() if label not in ("none", "either"))
-    weight["none"] = shapes / max(count["none"], 1)
+    weight["none"] = OTHERS * shapes / max(count["none"], 1)
     values = np.array([weight[row["label"]] for row in rows], np.float32)
     return values / values.mean()
 
