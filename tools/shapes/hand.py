@@ -5,6 +5,7 @@ A shape is a list of legs, arrays of points of which each begins where the one b
 leg, more are a curve. Pixels, y down; times in milliseconds.
 """
 
+import zlib
 from dataclasses import dataclass, field
 
 import numpy as np
@@ -39,9 +40,11 @@ class Hand:
     shift: float = 0.0         # corners: standard deviation of their displacement
     bow: float = 0.0           # legs: standard deviation of the height of the bow, share of the leg
     bow_bias: float = 0.0      # the same side always, as an arm that turns about the elbow gives
+    bow_most: float = 0.3      # share of the leg
     sway: float = 0.0          # legs: an S instead of a bow
     rounding: float = 0.0      # corners: how far before the corner the turn begins, share of the shorter leg
     rounding_spread: float = 0.5
+    rounding_most: float = 0.42
     overshoot: float = 0.0     # corners: mean distance past the corner
     overshoot_odds: float = 0.0
     overlap: float = 0.0       # closed shapes: share of the way round drawn twice; negative is a gap
@@ -64,6 +67,11 @@ class Hand:
     whole: bool = False        # whole pixels
     merge: float = 0.0         # pixels: samples nearer than this to the one before are not reported
     extra: dict = field(default_factory=dict)  # for the note
+
+
+def generator(*keys):
+    """Random numbers that follow from these numbers and words alone."""
+    return np.random.default_rng([key if isinstance(key, int) else zlib.crc32(key.encode()) for key in keys])
 
 
 def arc_length(points):
@@ -116,6 +124,7 @@ def _bent(leg, step, hand, rng):
     u = np.linspace(0.0, 1.0, count)
     lean = np.exp(rng.normal(0.0, 0.25))
     height = hand.bow_bias + rng.normal(0.0, hand.bow) if hand.bow or hand.bow_bias else 0.0
+    height = min(max(height, -hand.bow_most), hand.bow_most)
     off = height * np.sin(np.pi * u**lean)
     if hand.sway:
         off += rng.normal(0.0, hand.sway) * np.sin(2.0 * np.pi * u)
@@ -147,7 +156,7 @@ def _rounded(lines, hand, size, rng):
         reach = hand.rounding * np.exp(rng.normal(0.0, hand.rounding_spread))
         whole = [arc_length(line)[-1] for line in (first, second)]
         # A long radius is a slip, not a habit: it does not grow with the leg for ever.
-        far = min(reach * min(whole), 0.42 * min(whole), 0.25 * size)
+        far = min(reach * min(whole), hand.rounding_most * min(whole), 0.25 * size)
         m = int(far / max(whole[0] / (len(first) - 1), 1e-9))
         n = int(far / max(whole[1] / (len(second) - 1), 1e-9))
         if m < 1 or n < 1:

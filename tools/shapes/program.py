@@ -4,7 +4,7 @@ and strokes that are none of them."""
 
 import numpy as np
 
-from .hand import Hand, Meant, along, arc_length, draw, middle_start
+from .hand import Hand, Meant, along, arc_length, draw, generator, middle_start
 
 TAU = 2.0 * np.pi
 
@@ -230,6 +230,14 @@ def sharpest(curve, share=0.06):
 
 def smooth(rng, style):
     while True:
+        if rng.random() < 0.5:  # a heading that swings to and fro
+            t = np.linspace(0, 1, 160)
+            swing, turns = rng.uniform(0.8, 2.1), rng.uniform(0.9, 2.4)
+            heading = swing * np.sin(TAU * turns * t + rng.uniform(0, TAU)) + rng.uniform(-0.8, 0.8) * t
+            curve = np.cumsum(np.column_stack((np.cos(heading), np.sin(heading))), axis=0)
+            if min(turning(curve)) > 60:
+                return none(style, curve)
+            continue
         n = int(rng.integers(4, 7))
         if rng.random() < 0.5:
             p = np.column_stack((np.arange(n), rng.normal(0, 0.9, n)))
@@ -325,8 +333,14 @@ def any_hand(rng, size, slop, settings):
         dt=1000.0 / rate, jitter=rng.uniform(0.02, 0.12), whole=rng.random() < 0.4)
 
 
+def strokes(kind, count, seed, settings):
+    """Strokes of a kind: the shape that is meant, in its place, who draws it, how fast, and times and points."""
+    rng = generator(seed, "program", kind)  # of its own: a kind's strokes are the same whichever others are made
+    for _ in range(count):
+        yield stroke(kind, rng, settings)
+
+
 def stroke(kind, rng, settings):
-    """One stroke of a kind: the shape that is meant, in its place, with its times and points."""
     styles = KINDS[kind]
     shares = np.array([share for _, _, share in styles], float)
     name, make, _ = styles[rng.choice(len(styles), p=shares / shares.sum())]
@@ -351,7 +365,7 @@ def stroke(kind, rng, settings):
         f"size {size:.0f} slop {slop:.2f} rate {1000.0 / hand.dt:.0f} {'integer' if hand.whole else 'float'}")
     times, points = draw(meant, hand, size, rng)
     speed = "slow" if hand.speed < 300 else "medium" if hand.speed < 700 else "fast"
-    return meant, speed, times, points
+    return meant, "program", speed, times, points
 
 
 def place(meant, size, slop, rng):
