@@ -6,8 +6,8 @@ Needs Python 3 and numpy; the same strokes come out every time for the same argu
 
     tools/shape_strokes.py -o FOLDER [--seed 1] [--count 200] [--family program|people] [--only KIND,...]
 
-FOLDER gets strokes.csv (a row a sample), labels.csv (a row a stroke) and ideal.csv (the meant outlines, where a shape was
-meant; a closed one repeats its first point). `--count` is for each kind. Families:
+FOLDER gets strokes.csv (a row a sample), labels.csv (a row a stroke) and ideal.csv (the meant outlines where a shape
+was meant; a closed one repeats its first point). `--count` is for each kind. Families:
 
     people     signs, shapes and doodles by virtual writers who keep their habits; six strokes of each kind a writer
     program    shapes of random proportions, turned anyhow, by hands of random sloppiness
@@ -28,7 +28,10 @@ FAMILIES = {"people": people, "program": program}
 
 def span(text):
     low, _, high = text.partition("-")
-    return float(low), float(high or low)
+    low, high = float(low), float(high or low)
+    if not 0 <= low <= high < float("inf"):
+        raise ValueError
+    return low, high
 
 
 def arguments():
@@ -38,11 +41,17 @@ def arguments():
     parser.add_argument("--count", type=int, default=200, help="strokes of each kind")
     parser.add_argument("--family", choices=FAMILIES, default="people")
     parser.add_argument("--only", default="", help="kinds, with commas between")
-    parser.add_argument("--size", type=span, default=(30, 700), metavar="LOW-HIGH", help="pixels; this and the next for the family program")
+    parser.add_argument("--size", type=span, default=(30, 700), metavar="LOW-HIGH",
+                        help="pixels; this and the next for the family program")
     parser.add_argument("--slop", type=span, default=(0, 1.1), metavar="LOW-HIGH", help="1 is hasty")
     parser.add_argument("--rate", type=span, default=(50, 200), metavar="LOW-HIGH", help="samples a second")
     parser.add_argument("--speed", type=span, default=(190, 1150), metavar="LOW-HIGH", help="pixels a second")
-    return parser.parse_args()
+    options = parser.parse_args()
+    if min(options.count, options.seed) < 0:
+        parser.error("--count and --seed are not negative")
+    if 0 in (options.size[0], options.rate[0], options.speed[0]):
+        parser.error("--size, --rate and --speed are above 0")
+    return options
 
 
 class Writer:
@@ -78,7 +87,10 @@ def main():
     if unknown:
         sys.exit(f"shape_strokes: no such kind: {', '.join(unknown)}; there are {', '.join(family.KINDS)}")
     settings = {name: getattr(options, name) for name in ("size", "slop", "rate", "speed")}
-    writer = Writer(options.folder)
+    try:
+        writer = Writer(options.folder)
+    except OSError as error:
+        sys.exit(f"shape_strokes: {error}")
     for kind in kinds:
         drawn = family.strokes(kind, options.count, options.seed, settings)
         for i, (meant, subject, speed, times, points) in enumerate(drawn):

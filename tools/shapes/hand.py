@@ -6,7 +6,7 @@ leg, more are a curve. Pixels, y down; times in milliseconds.
 """
 
 import zlib
-from dataclasses import dataclass, field
+from dataclasses import dataclass
 
 import numpy as np
 
@@ -35,7 +35,7 @@ class Meant:
 
 @dataclass
 class Hand:
-    """How a stroke is drawn. Lengths are shares of `size`, the larger side of the meant shape, unless said otherwise."""
+    """How a stroke is drawn. Lengths are shares of the larger side of the meant shape, unless said otherwise."""
 
     shift: float = 0.0         # corners: standard deviation of their displacement
     bow: float = 0.0           # legs: standard deviation of the height of the bow, share of the leg
@@ -51,6 +51,7 @@ class Hand:
     drift: float = 0.0         # closed shapes: how far off its place the end is, standard deviation
     wobble: float = 0.0        # slow wandering
     wobble_turns: float = 2.5  # how often it turns, about
+    quiver: float = 0.0        # quicker wandering
     tremor: float = 0.0        # pixels
     tremor_hz: float = 9.5
     noise: float = 0.0         # pixels, independent from sample to sample
@@ -66,7 +67,6 @@ class Hand:
     uneven: float = 0.0        # odds that a sample comes late, by up to three times dt
     whole: bool = False        # whole pixels
     merge: float = 0.0         # pixels: samples nearer than this to the one before are not reported
-    extra: dict = field(default_factory=dict)  # for the note
 
 
 def generator(*keys):
@@ -232,6 +232,13 @@ def trace(legs, closed, hand, size, rng):
         high = rng.normal(0.0, 1.0, (3, 2)) * hand.wobble * size * np.array([[0.75], [0.55], [0.35]])
         phase = rng.uniform(0.0, 2.0 * np.pi, (3, 2))
         for k in range(3):
+            line = line + high[k] * np.sin(2.0 * np.pi * u[:, None] * waves[k] + phase[k])
+    if hand.quiver:
+        long = s[-1] / max(size, 1e-9)  # as many to the same length, whatever the shape
+        waves = rng.uniform(3.0, 8.0, (2, 2)) * long
+        high = rng.normal(0.0, 0.7 * hand.quiver * size, (2, 2))
+        phase = rng.uniform(0.0, 2.0 * np.pi, (2, 2))
+        for k in range(2):
             line = line + high[k] * np.sin(2.0 * np.pi * u[:, None] * waves[k] + phase[k])
     corners = list(ends[:-1])
     if hand.hook_start:

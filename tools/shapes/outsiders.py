@@ -28,7 +28,8 @@ def pigtail(r):
     run_in, run_out = v("in", 0.35, 0.6), v("out", 0.35, 0.75)
     p = [(0.5 - run_in, v("start", 0.85, 1.0)), (0.5 - 0.4 * run_in, v("rise", 0.82, 0.95)), (0.5, cross),
          (0.5 + wide + left, 0.45 * cross), (0.5 + 0.55 * wide + left, 0.06), (0.5 - 0.35 * wide + left, 0.05),
-         (0.5 - wide + left * 0.7, 0.42 * cross), (0.5 - 0.4 * wide, cross + 0.12), (0.5 + 0.45 * run_out, v("dip", 0.92, 1.04)),
+         (0.5 - wide + left * 0.7, 0.42 * cross), (0.5 - 0.4 * wide, cross + 0.12),
+         (0.5 + 0.45 * run_out, v("dip", 0.92, 1.04)),
          (0.5 + run_out, v("end", 0.75, 0.98))]
     curve = spline(r.shaken(p, 0.018))
     return nothing(r, curve * (r.one_of("mirror", *[1] * 9, -1), r.one_of("upside", *[1] * 14, -1)))
@@ -36,9 +37,10 @@ def pigtail(r):
 
 def question_mark(r):
     v = r.vary
-    wide, bend = v("wide", 0.5, 0.9), v("bend", 0.5, 0.68)
-    stem, foot = v("stem", 0.38, 0.6) * wide, v("foot", -0.08, 0.08)
-    hook = [(v("start x", 0.0, 0.18), v("start y", 0.18, 0.42)), (0.12 * wide, v("shoulder", 0.06, 0.16)), (0.5 * wide, 0.0),
+    wide, bend = v("wide", 0.5, 0.9), v("bend", 0.53, 0.66)
+    stem, foot = v("stem", 0.42, 0.6) * wide, v("foot", -0.03, 0.1)
+    hook = [(v("start x", -0.02, 0.1), v("start y", 0.2, 0.36)), (0.12 * wide, v("shoulder", 0.06, 0.16)),
+            (0.5 * wide, 0.0),
             (0.9 * wide, 0.1), (wide, v("belly", 0.24, 0.36)), (0.82 * wide, 0.44)]
     if r.chance("curled", 0.2):
         hook.insert(0, (hook[0][0] + 0.12, hook[0][1] + 0.06))
@@ -66,7 +68,8 @@ def brace(r):
              (0.06, 0.97), (arm, low)]
         legs = through(r, p, 0.012)
     elif how == "printed":
-        p = [(arm, top), (0.35 * arm, 0.02), (0.02, 0.12), (0.02, mid - 0.17), (-0.25 * nose, mid - 0.05), (-nose, mid, 1),
+        p = [(arm, top), (0.35 * arm, 0.02), (0.02, 0.12), (0.02, mid - 0.17), (-0.25 * nose, mid - 0.05),
+             (-nose, mid, 1),
              (-0.25 * nose, mid + 0.05), (0.02, mid + 0.17), (0.02, 0.88), (0.35 * arm, 0.98), (arm, low)]
         legs = through(r, p, 0.015)
     elif how == "pointed":  # two bows that meet in a point
@@ -84,7 +87,8 @@ def brace(r):
              (b * 0.8, 0.58), (b * 0.6, 0.68), (0.05, 0.84), (0.03, 0.96), (b * 0.9, 1.0)]
         legs = through(r, p, 0.02)
     else:  # goes out along the nose and back
-        p = [(arm, top), (0.3 * arm, 0.02), (0.05, 0.15), (0.16, 0.3), (0.2, mid - 0.06), (0.02, mid), (-nose, mid + 0.01, 1),
+        p = [(arm, top), (0.3 * arm, 0.02), (0.05, 0.15), (0.16, 0.3), (0.2, mid - 0.06), (0.02, mid),
+             (-nose, mid + 0.01, 1),
              (0.05, mid + 0.03), (0.2, mid + 0.1), (0.08, 0.78), (0.04, 0.9), (0.3 * arm, 0.99), (arm, low)]
         legs = through(r, p, 0.018)
     wide = v("wide", 0.8, 1.4)
@@ -118,11 +122,12 @@ def spiral(r):
 
 
 def wave(r):
-    periods, high = r.vary("periods", 1.25, 4), r.vary("high", 0.16, 0.5)
+    periods, high = r.vary("periods", 1.5, 4), r.vary("high", 0.11, 0.27)
     t = np.linspace(0, 1, 200)
     grow = 1 + r.vary("grow", -0.4, 0.4) * (t - 0.5)
     a = TAU * periods * t + r.vary("phase", 0, TAU)
-    return nothing(r, np.column_stack((t * periods * 0.9, high * grow * np.sin(a + r.vary("skew", -0.5, 0.5) * np.sin(a)))))
+    a = a + r.vary("skew", -0.5, 0.5) * np.sin(a)
+    return nothing(r, np.column_stack((t * periods * 0.9, high * grow * np.sin(a))))
 
 
 def s_curve(r):
@@ -135,14 +140,15 @@ def s_curve(r):
     heading = np.cumsum(bend)
     curve = np.cumsum(np.column_stack((np.cos(heading), np.sin(heading))) * step[:, None], axis=0)
     a = r.vary("turn", 0, TAU, 0.02)
-    return nothing(r, curve @ np.array([[np.cos(a), np.sin(a)], [-np.sin(a), np.cos(a)]]) * (r.one_of("mirror", 1, -1), 1))
+    curve = curve @ np.array([[np.cos(a), np.sin(a)], [-np.sin(a), np.cos(a)]])
+    return nothing(r, curve * (r.one_of("mirror", 1, -1), 1))
 
 
 def hook(r):
     """A J, a cane: a stem that ends in a half circle or more."""
-    wide, sweep = r.vary("wide", 0.16, 0.3), np.radians(r.vary("sweep", 160, 235))
+    wide, sweep = r.vary("wide", 0.15, 0.25), np.radians(r.vary("sweep", 165, 235))
     bend = ellipse_arc(wide, wide * r.vary("flat", 0.8, 1.3), 0, sweep, 60)
-    stem = np.column_stack((np.full(30, 0.0), np.linspace(-r.vary("stem", 0.65, 1.1), -0.02, 30)))
+    stem = np.column_stack((np.full(30, 0.0), np.linspace(-r.vary("stem", 0.75, 1.15), -0.02, 30)))
     curve = np.concatenate((stem + bend[0], bend))
     if r.chance("reversed", 0.4):
         curve = curve[::-1]
@@ -169,20 +175,22 @@ def scribble(r):
 
 def tangle(r):
     """A doodle that goes anywhere, with loops."""
-    while True:
-        n = int(r.rng.integers(7, 13))
-        curve = spline(r.rng.normal(0, 1, (n, 2)), 20)
-        if sum(turning(curve)) > 700:
-            return nothing(r, curve)
+    noise = r.rng.normal(0, 1, 260)
+    bend = r.vary("bias", -0.06, 0.06) + 0.11 * np.convolve(noise, np.hanning(40) / 4.0, "valid")
+    heading = np.cumsum(bend)
+    step = 1 + 0.5 * np.sin(np.linspace(0, r.vary("breath", 4, 14), len(bend)))
+    meant = nothing(r, np.cumsum(np.column_stack((np.cos(heading), np.sin(heading))) * step[:, None], axis=0))
+    return meant if sum(turning(meant.legs[0])) > 600 else tangle(r)
 
 
 def meander(r):
+    """A line that bends to both sides, with no corner and no plan."""
     while True:
-        n = int(r.rng.integers(5, 8))
-        step = np.column_stack((r.rng.uniform(0.4, 1.0, n), r.rng.normal(0, 0.8, n)))
-        curve = spline(np.cumsum(step, axis=0), 24)
-        left, right = turning(curve)
-        if min(left, right) > 70 and sharpest(curve) < 60:
+        t = np.linspace(0, 1, 180)
+        heading = sum(r.rng.normal(0, a) * np.sin(TAU * f * t + r.rng.uniform(0, TAU))
+                      for a, f in ((1.0, 0.7), (0.9, 1.4), (0.5, 2.2)))
+        curve = np.cumsum(np.column_stack((np.cos(heading), np.sin(heading))), axis=0)
+        if min(turning(curve)) > 75 and sharpest(curve) < 60:
             return nothing(r, curve)
 
 
@@ -195,7 +203,8 @@ def loops(r):
 
 
 def infinity(r):
-    t = r.vary("start", 0, TAU, 0.02) + r.one_of("way", -1, 1) * np.linspace(0, TAU * (1 + r.vary("over", -0.04, 0.08)), 200)
+    sweep = r.one_of("way", -1, 1) * TAU * (1 + r.vary("over", -0.04, 0.08))
+    t = r.vary("start", 0, TAU, 0.02) + np.linspace(0, sweep, 200)
     d = 1 + np.sin(t)**2
     x, y = np.cos(t) / d, np.sin(t) * np.cos(t) / d * r.vary("high", 0.9, 1.7)
     lop = 1 + r.vary("lopsided", -0.25, 0.25) * np.tanh(3 * x)
@@ -248,11 +257,15 @@ def polygon(r):
         p = [(0, 0), (0, 1), (1, 1), (1, 1 - c), (c, 1 - c), (c, 0)]
     else:  # plus
         c = v("arm", 0.28, 0.4)
-        p = [(c, 0), (1 - c, 0), (1 - c, c), (1, c), (1, 1 - c), (1 - c, 1 - c), (1 - c, 1), (c, 1), (c, 1 - c), (0, 1 - c),
+        p = [(c, 0), (1 - c, 0), (1 - c, c), (1, c), (1, 1 - c), (1 - c, 1 - c), (1 - c, 1), (c, 1), (c, 1 - c),
+             (0, 1 - c),
              (0, c), (c, c)]
     p = r.shaken(p, 0.02)
     k = r.one_of("first", 0, 0, 0, 1, 2)
-    return nothing(r, legs_through(np.roll(p, -k, axis=0), True), closed=True)
+    meant = nothing(r, legs_through(np.roll(p, -k, axis=0), True), closed=True)
+    if r.kind == "hourglass":  # straight legs that cross
+        meant.label, meant.accept, meant.folds = "either", "foldline|none", 4
+    return meant
 
 
 def half_disc(r):

@@ -5,8 +5,8 @@ much that is no shape. Upright as meant, give or take the writer's tilt; y down.
 import numpy as np
 
 from . import outsiders
-from .hand import Meant, arc_length, draw, generator, middle_start
-from .program import TAU, ellipse_arc, legs_through, polar, walk
+from .hand import Meant, along, arc_length, draw, generator, middle_start
+from .program import TAU, ellipse_arc, legs_through, polar, turning, walk
 from .writers import SPEEDS, Repetition, Writer
 
 STROKES_A_WRITER = 6  # of each kind, two at each speed
@@ -17,6 +17,9 @@ def outline_of(legs):
 
 
 def fold(r, corners, accept="", label="foldline"):
+    corners = np.asarray(corners, float)
+    if label == "foldline" and r.chance("from the other end", 0.08):
+        corners = corners[::-1]
     return Meant(r.kind, label, legs_through(corners), folds=len(corners) - 1, accept=accept)
 
 
@@ -29,8 +32,10 @@ def arrow(r):
     length = r.vary("length", 0.2, 0.5)
     spread = [np.radians(r.vary(name, 20, 52)) for name in ("first", "second")]
     longer = np.exp(r.vary("unequal", -0.35, 0.35))
-    first = tip - polar(side * spread[0], length * longer)
-    second = tip - polar(-side * spread[1], length / longer)
+    # Long barbs stand off, or they would be taken for the shaft.
+    barbs = [min(part, 0.25 + angle * 0.4) for part, angle in zip((length * longer, length / longer), spread)]
+    first = tip - polar(side * spread[0], barbs[0])
+    second = tip - polar(-side * spread[1], barbs[1])
     # Nobody comes back to the very tip.
     miss = r.vary("miss", 0.0, 0.06, 0.3) * length * polar(rng.uniform(0, TAU), 2.0)
     legs = legs_through([(0, 0), tip, first, tip + miss, second])
@@ -47,7 +52,7 @@ def circle(r):
     if r.chance("elsewhere", 0.15):
         start += r.one_of("where", np.pi / 2, np.pi, -np.pi / 2)
     way = -1 if r.chance("anticlockwise", 0.7) else 1
-    over = r.vary("over", -0.08, 0.14, 0.18)
+    over = r.vary("over", -0.07, 0.08, 0.15)
     if r.chance("much", 0.12):
         over = r.vary("more", 0.08, 0.25)
     t = start + way * np.linspace(0, TAU * (1 + over), 220)
@@ -59,7 +64,7 @@ def circle(r):
     radius = (1 + egg * np.cos(t - turn) + flat * np.cos(2 * (t - turn)) + corners * np.cos(
         rng.integers(3, 6) * t + rng.uniform(0, TAU)))
     # The end lands inside or outside of the start.
-    radius *= 1 + r.vary("inward", -0.12, 0.08, 0.2) * np.clip((np.arange(220) / 219 - 0.3) / 0.7, 0, 1)**1.5
+    radius *= 1 + r.vary("inward", -0.1, 0.06, 0.2) * np.clip((np.arange(220) / 219 - 0.3) / 0.7, 0, 1)**1.5
     p = np.column_stack((np.cos(t) * ratio, np.sin(t))) * radius[:, None]
     meant = Meant("circle", "ellipse", [p])
     return meant  # how round it was meant nobody knows: no outline to compare with
@@ -91,7 +96,8 @@ def closed_polygon(r, label, corners, first=0):
 
 def rectangle(r):
     high = np.exp(r.vary("ratio", -0.6, 0.35))
-    return closed_polygon(r, "rectangle", [(0, 0), (0, high), (1, high), (1, 0)], r.one_of("first", 0, 0, 0, 0, 1, 2, 3))
+    return closed_polygon(r, "rectangle", [(0, 0), (0, high), (1, high), (1, 0)],
+                          r.one_of("first", 0, 0, 0, 0, 1, 2, 3))
 
 
 def triangle(r):
@@ -126,11 +132,11 @@ def check(r):
     legs = legs_through([first, (0, 0), last])
     meant = Meant(r.kind, "foldline", legs, folds=2)
     meant.outline = outline_of(legs)
-    if r.chance("bowed", 0.5):  # the long leg swings out
+    if r.chance("bowed", 0.65):  # the long leg swings out
         u = np.linspace(0, 1, 40)[:, None]
         side = np.array([last[1], -last[0]])
         legs[1] = u * last + side * r.vary("swing", 0.0, 0.13, 0.2) * np.sin(np.pi * u**0.7)
-    if r.chance("curl", 0.3):  # the pen comes in level before it falls
+    if r.chance("curl", 0.4):  # the pen comes in level before it falls
         level = r.vary("level", 0.05, 0.2)
         start = first + (-level * short * 0.9, level * short * 0.4)
         t = np.linspace(0, 1, 30)[:, None]
@@ -146,24 +152,29 @@ def bracket(r):
 
 
 def line(r):
-    meant = Meant(r.kind, "line", legs_through([(0, 0), polar(r.one_of("way", 0, 0, np.pi / 2, -np.pi / 4, np.pi / 4, np.pi)
-                                                             + np.radians(r.vary("off", -7, 7)))]))
-    return meant
+    way = r.vary("any way", -np.pi, np.pi, 0.02)
+    if r.chance("straight", 0.6):
+        way = np.pi / 4 * r.one_of("way", 0, 0, 0, 4, 2, 2, -2, 1, -1, 3)
+    return Meant(r.kind, "line", legs_through([(0, 0), polar(way + np.radians(r.vary("off", -6, 6)))]))
 
 
 def fold_line(r):
     v = r.vary
     kind = r.kind
     if kind == "z":
-        corners = [(0, v("a", -.05, .05)), (1, 0), (v("b", -.1, .1), v("high", 0.7, 1.2)), (v("c", .85, 1.1), v("high", .7, 1.2))]
+        corners = [(0, v("a", -.05, .05)), (1, 0), (v("b", -.1, .1), v("high", 0.7, 1.2)),
+                   (v("c", .85, 1.1), v("high", .7, 1.2))]
     elif kind == "n":
-        corners = [(0, 1), (v("a", -.05, .1), 0), (v("wide", .5, .9), v("low", .9, 1.05)), (v("wide", .5, .9), v("top", -.1, .1))]
+        corners = [(0, 1), (v("a", -.05, .1), 0), (v("wide", .5, .9), v("low", .9, 1.05)),
+                   (v("wide", .5, .9), v("top", -.1, .1))]
     elif kind == "w":
         w = v("wide", 0.7, 1.3)
-        corners = [(0, 0), (0.25 * w, v("a", .85, 1)), (0.5 * w, v("mid", 0.0, 0.4)), (0.75 * w, v("b", .85, 1)), (w, v("c", -.1, .1))]
+        corners = [(0, 0), (0.25 * w, v("a", .85, 1)), (0.5 * w, v("mid", 0.0, 0.4)),
+                   (0.75 * w, v("b", .85, 1)), (w, v("c", -.1, .1))]
     elif kind == "m":
         w = v("wide", 0.7, 1.2)
-        corners = [(0, 1), (v("in", 0.02, .22) * w, 0), (0.5 * w, v("mid", 0.45, 0.95)), ((1 - v("in", 0.02, .22)) * w, 0), (w, 1)]
+        corners = [(0, 1), (v("in", 0.02, .22) * w, 0), (0.5 * w, v("mid", 0.45, 0.95)),
+                   ((1 - v("in", 0.02, .22)) * w, 0), (w, 1)]
     elif kind == "L":
         corners = [(0, 0), (v("a", -.06, .06), 1), (v("foot", 0.4, 0.9), 1 + v("b", -.05, .05))]
     elif kind == "seven":
@@ -178,7 +189,8 @@ def fold_line(r):
         n = r.one_of("legs", 3, 4, 5)
         high = v("high", 0.5, 1.2)
         corners = [(0.5 * i, high if i % 2 else 0.0) for i in range(n + 1)]
-    return fold(r, corners)
+    mirror = (r.one_of("mirror", 1, -1), r.one_of("upside", 1, -1)) if kind in ("stairs", "zigzag") else (1, 1)
+    return fold(r, np.asarray(corners) * mirror)
 
 
 def arc(r):
@@ -201,13 +213,15 @@ EITHER = "foldline|none"
 def cross_x(r):
     v = r.vary
     top, low = v("top", 0.0, 0.3), v("low", 0.85, 1.1)
-    p = np.array([(0, top), (1, low), (v("side", 0.85, 1.1), v("high", -0.1, 0.1)), (v("a", -0.05, 0.2), v("b", 0.85, 1.1))])
+    p = np.array([(0, top), (1, low), (v("side", 0.85, 1.1), v("high", -0.1, 0.1)),
+                  (v("a", -0.05, 0.2), v("b", 0.85, 1.1))])
     return fold(r, p * (v("wide", 0.6, 1.05), 1), EITHER, "either")
 
 
 def delete_mark(r):
     v = r.vary
-    p = np.array([(v("c", 0.0, 0.3), v("a", -0.05, 0.2)), (1, v("b", 0.85, 1.1)), (0, v("d", 0.9, 1.1)), (v("e", 0.75, 1.1), 0)])
+    p = np.array([(v("c", 0.0, 0.3), v("a", -0.05, 0.2)), (1, v("b", 0.85, 1.1)), (0, v("d", 0.9, 1.1)),
+                  (v("e", 0.75, 1.1), 0)])
     return fold(r, p * (v("wide", 0.65, 1.25), 1), EITHER, "either")
 
 
@@ -230,7 +244,8 @@ SHAPES = {
     "caret": (caret, 1, 1), "v": (vee, 1, 1), "check": (check, 1, 1), "left_sq_bracket": (bracket, 1, 0.6),
     "right_sq_bracket": (bracket, 1, 0.6),
     "x": (cross_x, 1, 1), "delete_mark": (delete_mark, 1, 1), "star": (star, 1, 1),
-    "line": (line, 1, 0), "z": (fold_line, 1, 1), "n": (fold_line, 1, 1), "w": (fold_line, 1, 1), "m": (fold_line, 1, 1),
+    "line": (line, 1, 0), "z": (fold_line, 1, 1), "n": (fold_line, 1, 1), "w": (fold_line, 1, 1),
+    "m": (fold_line, 1, 1),
     "L": (fold_line, 1, 1), "seven": (fold_line, 1, 1), "stairs": (fold_line, 1, 0.5), "lightning": (fold_line, 1, 1),
     "zigzag": (fold_line, 2, 1), "parallelogram": (parallelogram, 2, 0), "arc": (arc, 2, 0),
     "ellipse": (turned_ellipse, 1, 0),
@@ -256,12 +271,21 @@ def stroke(kind, index, rng, seed):
     hand = writer.hand(speed, size, rng)
     if meant.label == "ellipse" and not meant.closed:
         hand.wobble *= 1.2
+    if kind == "arrow":  # the way back from the first barb is often a loop rather than a corner
+        hand.rounding *= writer.habit(kind, "round", 0.7, 3.5)
+    if len(meant.legs) == 1 and meant.label != "line":
+        hand.speed *= 1.5 if meant.label == "ellipse" or kind == "pigtail" else 1.2  # nowhere to stop
     if meant.label == "foldline":  # any rounder and it would be a bow
-        hand.rounding_most, hand.bow_most = 0.24, 0.075
+        hand.rounding_most, hand.bow_most = 0.24, 0.085
+    elif meant.closed and straight:
+        hand.rounding_most, hand.bow_most = 0.27 if len(meant.legs) < 5 else 0.15, 0.085
     if meant.label == "none":
         hand.wobble *= 1.4
+    # However fast, a hand is not seen at fewer places than these: on straight lines few, in bends more.
     length = sum(arc_length(leg)[-1] for leg in meant.legs)
-    hand.least_ms = max(hand.least_ms, hand.dt * (9 if meant.label == "line" else max(18, 6 * length / size)))
+    bent = sum(sum(turning(along(leg, 60 + len(leg) // 4))) for leg in meant.legs if len(leg) > 2)
+    least = 9 if meant.label == "line" else max(18, 6 * length / size, 8 + bent / 15)
+    hand.least_ms = max(hand.least_ms, hand.dt * least)
     times, points = draw(meant, hand, size, rng)
     meant.note = (meant.note + " " if meant.note else "") + f"size {size:.0f} {writer.device}"
     return meant, writer.name, speed, times, points

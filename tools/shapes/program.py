@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""Shapes of random proportions, turned anyhow and drawn by a hand of random sloppiness: every kind the recogniser names,
-and strokes that are none of them."""
+"""Shapes of random proportions, turned anyhow and drawn by a hand of random sloppiness.
+
+Every kind that the recogniser names, and strokes that are none of them.
+"""
 
 import numpy as np
 
@@ -351,6 +353,8 @@ def stroke(kind, rng, settings):
     size = low * (high / low)**rng.random()
     slop = rng.uniform(*settings["slop"])
     hand = any_hand(rng, size, slop, settings)
+    if meant.closed and len(meant.legs) > 1:
+        hand.rounding_most = 0.27 if len(meant.legs) < 5 else 0.15  # any rounder and a pentagon would be a circle
     if kind in ("ellipse", "arc"):
         hand.wobble *= 1.7  # what corners and bows are to the others
     place(meant, size, slop, rng)

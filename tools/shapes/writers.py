@@ -6,7 +6,7 @@ import numpy as np
 from .hand import Hand, generator
 
 SPEEDS = ("slow", "medium", "fast")
-PACE = {"slow": 0.62, "medium": 1.0, "fast": 1.65}
+PACE = {"slow": 0.62, "medium": 1.0, "fast": 1.75}
 CARE = {"slow": 0.85, "medium": 1.0, "fast": 1.25}  # how sloppiness grows with haste
 
 
@@ -25,9 +25,9 @@ class Writer:
         self.tidy = float(np.exp(r.normal(0.0, 0.3)).clip(0.5, 1.7))  # small is tidy
         device = r.choice(["palm", "mouse", "tablet", "touch"], p=[0.4, 0.25, 0.2, 0.15])
         self.device = str(device)
-        self.size = 140.0 * np.exp(r.normal(0.0, 0.25 if device == "palm" else 0.5)) * (1.0 if device == "palm" else 1.4)
-        self.size = float(np.clip(self.size, 55, 480))
-        self.pace = 400.0 * np.exp(r.normal(0.0, 0.3))
+        usual, spread = (140.0, 0.25) if device == "palm" else (196.0, 0.5)
+        self.size = float(np.clip(usual * np.exp(r.normal(0.0, spread)), 55, 480))
+        self.pace = 450.0 * np.exp(r.normal(0.0, 0.3))
         self.dt = {"palm": r.uniform(8.5, 16), "mouse": r.uniform(8, 16), "tablet": r.uniform(5, 8),
                    "touch": r.uniform(8, 17)}[self.device]
         self.merge = {"palm": r.choice([1.0, 2.0, 3.0]), "mouse": r.choice([1.0, 2.0]), "tablet": 0.0,
@@ -35,14 +35,15 @@ class Writer:
         self.whole = device in ("palm", "mouse") or r.random() < 0.4
         self.jitter = r.uniform(0.15, 0.4) if device in ("palm", "mouse") else r.uniform(0.02, 0.12)
         self.uneven = r.uniform(0.02, 0.1) if device in ("palm", "mouse") else 0.0
-        self.tremor = r.uniform(0.1, 0.5) * (1.4 if device == "mouse" else 1.0)
-        self.noise = r.uniform(0.0, 0.25)
+        self.tremor = r.uniform(0.1, 0.75) * (1.3 if device == "mouse" else 1.0)
+        self.noise = r.uniform(0.0, 0.3)
         self.wobble = r.uniform(0.0025, 0.008)
+        self.quiver = r.uniform(0.0, 0.004)
         self.shift = r.uniform(0.008, 0.022)
-        self.bow = r.uniform(0.012, 0.034)
+        self.bow = r.uniform(0.012, 0.042)
         self.bow_bias = r.normal(0.0, 0.014)
         self.sway = r.uniform(0.003, 0.014)
-        self.rounding = float(np.exp(r.normal(np.log(0.065), 0.6)).clip(0.01, 0.24))
+        self.rounding = float(np.exp(r.normal(np.log(0.05), 0.75)).clip(0.008, 0.24))
         self.overshoot = r.uniform(0.01, 0.035)
         self.overshoot_odds = r.choice([0.0, 0.15, 0.4])
         self.overlap = r.normal(0.0, 0.018)
@@ -74,7 +75,8 @@ class Writer:
             rounding=self.rounding * CARE[speed], rounding_spread=0.45,
             overshoot=self.overshoot, overshoot_odds=self.overshoot_odds,
             overlap=float(np.clip(rng.normal(self.overlap, self.overlap_spread * care), -0.075, 0.075)),
-            drift=self.drift * care, wobble=self.wobble * care, wobble_turns=rng.uniform(1.2, 3.5),
+            drift=self.drift * care, wobble=self.wobble * care, quiver=self.quiver * care,
+            wobble_turns=rng.uniform(1.2, 3.5),
             tremor=self.tremor * (size / 140.0)**0.4, tremor_hz=rng.uniform(8.0, 11.0), noise=self.noise,
             hook_start=rng.uniform(0.012, 0.045) if rng.random() < self.hook_odds else 0.0,
             hook_end=rng.uniform(0.012, 0.04) if rng.random() < self.hook_end_odds else 0.0,
@@ -105,5 +107,6 @@ class Repetition:
     def shaken(self, points, by=0.03):
         """Places, each moved as this writer always does and a little more."""
         p = np.asarray(points, float)
-        fixed = np.array([[self.writer.habit(self.kind, f"{i}{axis}", -1.0, 1.0) for axis in "xy"] for i in range(len(p))])
+        fixed = np.array([[self.writer.habit(self.kind, f"{i}{axis}", -1.0, 1.0) for axis in "xy"]
+                          for i in range(len(p))])
         return p + fixed * by * 1.3 + self.rng.normal(0.0, by * 0.6 * self.writer.repeat, p.shape)
