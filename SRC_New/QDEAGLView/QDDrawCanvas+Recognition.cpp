@@ -16,6 +16,18 @@ namespace {
 
 constexpr std::size_t kTooFewPoints = 4;
 
+// One recognition at a time, and the drawing of its shape with it.
+class Turn {
+public:
+    explicit Turn(std::binary_semaphore& semaphore) : _semaphore(semaphore) { _semaphore.acquire(); }
+    ~Turn() { _semaphore.release(); }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+
+private:
+    std::binary_semaphore& _semaphore;
+};
+
 ShapeRecord scaled(ShapeRecord shape, double factor) {
     for (ShapePoint& corner : shape.corners) {
         corner = {corner.x * factor, corner.y * factor};
@@ -120,9 +132,11 @@ void QDDrawCanvas::endSketch(QPointF point, bool online) {
     for (ShapePoint& at : points) {
         at = {at.x / unit, at.y / unit};
     }
-    _recognizeSemaphore.acquire();
-    const bool drawn = drawOutline(Unitily::recogniseWithPoints(points), online);
-    _recognizeSemaphore.release();
+    bool drawn = false;
+    {
+        const Turn turn(_recognizeSemaphore);
+        drawn = drawOutline(Unitily::recogniseWithPoints(points), online);
+    }
     if (drawn) {
         finishLayers(true);
     }
