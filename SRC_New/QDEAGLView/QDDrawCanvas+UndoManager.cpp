@@ -2,6 +2,7 @@
 // Undo and redo: whole pictures of the canvas, kept by an ImagesUndoManager.
 #include <QDateTime>
 #include <cstdio>
+#include <cstring>
 #include <new>
 #include <utility>
 
@@ -68,6 +69,49 @@ QByteArray QDDrawCanvas::snapshot(int line) {
     return data;
 }
 
+// Brings curImageData() up to the canvas; only what changed since is read. Empty without the memory.
+void QDDrawCanvas::refreshImageData(int line) {
+    const QRect whole(QPoint(0, 0), bufferSize().toSize());
+    const QRect stale = _imageStale.toAlignedRect() & whole;
+    const auto areaOf = [](const QRect& rect) { return qint64{rect.width()} * rect.height(); };
+    if (_curImageData.size() == snapshotBytes() && areaOf(stale) <= areaOf(whole) / 2) {
+        if (stale.isEmpty() || refreshImageData(stale)) {
+            _imageStale = QRectF();
+            return;
+        }
+    }
+    _curImageData = {};  // before there is a second one
+    setCurImageData(snapshot(line));
+}
+
+bool QDDrawCanvas::refreshImageData(const QRect& part) {
+    const qsizetype rowBytes = qsizetype{part.width()} * 4;
+    QByteArray rows = bytesOf(rowBytes * part.height());
+    if (rows.isNull() || !readDataBufferRect(reinterpret_cast<unsigned char*>(rows.data()), part)) {
+        return false;
+    }
+    try {
+        _curImageData.detach();  // from the history, which keeps it as a step
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    const qsizetype bottom = bufferSize().toSize().height() - part.y() - part.height();
+    char* to = _curImageData.data() + (bottom * _esContext->backingWidth() + part.x()) * 4;
+    for (int row = 0; row < part.height(); ++row, to += qsizetype{_esContext->backingWidth()} * 4) {
+        std::memcpy(to, rows.constData() + row * rowBytes, static_cast<std::size_t>(rowBytes));
+    }
+    return true;
+}
+
+void QDDrawCanvas::setCurImageData(const QByteArray& data) {
+    _curImageData = data;
+    _imageStale = QRectF();
+}
+
+void QDDrawCanvas::setEdited(bool edited) {
+    _edited = _editedBefore = edited;
+}
+
 // The history begins with the canvas as it was made. That was transparent, so nothing need be read, and a canvas whose
 // history nobody asks for has none.
 ImagesUndoManager& QDDrawCanvas::history() {
@@ -80,7 +124,10 @@ ImagesUndoManager& QDDrawCanvas::history() {
             _undoManager = ImagesUndoManager::initWithCurrentImageOfData(blank);
             _undoManager->resetWithImageDataOfCurrentItem(blank);
         }
-        _curImageData = blank;
+        if (!_isSketch) {  // which has yet to be taken back
+            _curImageData = blank;
+            _imageStale = QRectF(QPointF(0, 0), bufferSize());
+        }
         _undoManager->setFilePathExtension({});  // raw pixels
         _markTimeInterval = 0;
         _preTimeInterval = now();
@@ -95,6 +142,7 @@ QByteArray QDDrawCanvas::loadUndoManager() {
 
 QByteArray QDDrawCanvas::resetUndoManager() {
     _leafDrawView->finishPending();
+    settleSketch();
     ImagesUndoManager& images = history();
     const UndoStatus status(*this);
     const QByteArray data = snapshot(kResetLine);
@@ -102,14 +150,15 @@ QByteArray QDDrawCanvas::resetUndoManager() {
         images.resetWithImageDataOfCurrentItem(images.currentImageDataOfItem());
         return {};
     }
-    _curImageData = data;
-    _edited = false;
+    setCurImageData(data);
+    setEdited(false);
     images.resetWithImageDataOfCurrentItem(data);
     return data;
 }
 
 QByteArray QDDrawCanvas::markAction() {
     _leafDrawView->finishPending();
+    settleSketch();
     const double time = now();
     if (!_edited || (_autoMark && time - _preTimeInterval < static_cast<double>(_markTimeInterval) &&
                      time >= _preTimeInterval)) {
@@ -123,8 +172,8 @@ QByteArray QDDrawCanvas::markAction() {
         qCWarning(lcDabcanvas, "Create Buffer Error!");
         return {};
     }
-    _curImageData = data;
-    _edited = false;
+    setCurImageData(data);
+    setEdited(false);
     images.addItemWithImageData(data);
     return data;
 }
@@ -169,6 +218,7 @@ QByteArray QDDrawCanvas::step(bool (ImagesUndoManager::*go)()) {
         _curImageData = data;
         const QSizeF size = bufferSize();
         setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true);
+        setCurImageData(data);  // dabs that were finished on the way may have changed it
         if (isSmudgeType()) {
             updateSmudgeBGTexture();
         }
