@@ -37,7 +37,7 @@ def outcomes_accepted(rows):
     accepted = np.zeros((len(rows), len(OUTCOMES)), np.float32)
     for i, row in enumerate(rows):
         for kind in row["accept"].split("|"):
-            if kind == "foldline" and row["label"] == "foldline":
+            if kind == "foldline" and row["legs"]:
                 accepted[i, OUTCOMES.index(f"fold{min(max(int(row['legs']), 2), 5)}")] = 1
             else:
                 accepted[i, KIND_OF == KINDS.index(kind)] = 1
@@ -86,7 +86,7 @@ def main():
     parser.add_argument("--features", required=True, help="the program shape_features of the build")
     parser.add_argument("--train", nargs="+", required=True)
     parser.add_argument("--test", nargs="*", default=[])
-    parser.add_argument("--epochs", type=int, default=30)
+    parser.add_argument("--epochs", type=int, default=25)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("-o", "--output")
     arguments = parser.parse_args()

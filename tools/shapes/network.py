@@ -46,7 +46,7 @@ class Network:
         return softmax(scores / 2)
 
     def train(self, features, accepted, importance, epochs, rng, batch=256, rate=2e-3, decay=1e-4, dropped=0.1,
-              noise=0.05):
+              noise=0.12):
         """Adam on the chance of any accepted outcome. Features are dropped and shaken, so that none is relied on."""
         inputs = ((features - self.mean) * self.scale).astype(np.float32)
         parameters = self.weights + self.biases
