@@ -7,11 +7,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <algorithm>
+#include <cstdio>
 
 #include "Preset/QDBrushManager.h"
+#include "Preset/ReplacingFile.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -250,9 +251,11 @@ QString PresetLibrary::importFile(const QString& path, PresetId& now) {
         }
     }
     const QString target = freePath(source.completeBaseName());
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        return unwritable(target, file.errorString());
+    ReplacingFile file(target);
+    if (file.file())
+        std::fwrite(content.constData(), 1, std::size_t(content.size()), file.file());
+    if (!file.commit())
+        return unwritable(target, file.problem());
     now.path = target;
     refresh();
     return {};

@@ -13,10 +13,9 @@
 #include "support/HexFile.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
-#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <csignal>
+#include "support/FullDisk.h"
 #endif
 
 namespace {
@@ -307,25 +306,21 @@ TEST_F(QDBrushManagerFile, ARefusedSaveLeavesTheOldFile) {
 }
 
 #ifdef Q_OS_UNIX
-// A limit on file sizes stands for a full disk.
 TEST_F(QDBrushManagerFile, AFullDiskLeavesTheOldFile) {
     ASSERT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, path));
     const QByteArray before = content();
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     for (const qsizetype size : {3'000, 100'000}) {  // found out when flushing, and when writing
-        const rlimit small{1024, old.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
         const LogCapture log;
-        EXPECT_FALSE(QDBrushManager::saveParams(BrushParams{param(1, "", QByteArray(size, 'd'), kXBFData)},
-                                                200, {}, path));
-        setrlimit(RLIMIT_FSIZE, &old);
+        const BrushParams params{param(1, "", QByteArray(size, 'd'), kXBFData)};
+        const bool saved = [&] {
+            const FullDisk full;
+            return QDBrushManager::saveParams(params, 200, {}, path);
+        }();
+        EXPECT_FALSE(saved);
         EXPECT_TRUE(log.has(QString::fromLocal8Bit(std::strerror(EFBIG))));
         EXPECT_EQ(content(), before);
         EXPECT_EQ(filesInFolder(), 1);
     }
-    std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(QDBrushManagerFile, LinksAreFollowedAndPermissionsStay) {
