@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <QColor>
 #include <QLoggingCategory>
 #include <cerrno>
 #include <cstdlib>
@@ -8,6 +7,7 @@
 #include <memory>
 
 #include "Preset/HexText.h"
+#include "Preset/ParamNumbers.h"
 #include "Preset/QDBrushManager.h"
 #include "Preset/ReplacingFile.h"
 
@@ -31,8 +31,7 @@ short storedComponent(float component) {
 }
 
 _RGBAType storedColor(const QVariant& value) {
-    const ESColor color =
-        value.metaType().id() == QMetaType::QColor ? ESColor(value.value<QColor>()) : value.value<ESColor>();
+    const ESColor color = dabcanvas::colorOf(value);
     return {storedComponent(color.red()), storedComponent(color.green()), storedComponent(color.blue()),
             storedComponent(color.alpha())};
 }
@@ -42,13 +41,13 @@ _RGBAType storedColor(const QVariant& value) {
 void fillValue(_XBFParamValue& value, int type, const QVariant& property, QByteArray& payload) {
     switch (type) {
         case kXBFBool:
-            value.boolValue = property.toBool();
+            value.boolValue = dabcanvas::booleanOf(property);
             break;
         case kXBFInt:
-            value.intValue = property.toInt();
+            value.intValue = dabcanvas::integerOf(property);
             break;
         case kXBFFloat:
-            value.floatValue = property.toFloat();
+            value.floatValue = dabcanvas::floatOf(property);
             break;
         case kXBFDouble:
             value.doubleValue = property.toDouble();

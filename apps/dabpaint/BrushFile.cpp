@@ -4,12 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
 
-#include "Brushes/ImageData.h"
-#include "LogCatcher.h"
 #include "Preset/BrushParamValues.h"
 #include "Preset/QDBrushManager.h"
 #include "QDEAGLView/QDDrawCanvas.h"
@@ -21,28 +18,6 @@ namespace {
 struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
-
-bool isImage(const BrushProperty& property) {
-    return property.type() == BrushValueType::image || property.type() == BrushValueType::images;
-}
-
-// What a canvas would leave out when it takes this record; empty for nothing.
-QString flawOf(const BrushParam& param) {
-    int part = -1;
-    const BrushProperty* property = brushPropertyOfPresetId(std::uint32_t(BrushRecords::key(param)), &part);
-    const QVariant value = BrushRecords::paramValue(param);
-    if (!property)
-        return {};
-    const int stored = value.metaType().id();
-    if ((stored == QMetaType::Float || stored == QMetaType::Double) && !std::isfinite(value.toFloat()))
-        return QStringLiteral("%1 is not a finite number").arg(QLatin1String(property->name));
-    if (isImage(*property) && !value.toByteArray().isEmpty()) {
-        const LogCatcher log;
-        if (imageWithData(value.toByteArray()).isNull())
-            return QStringLiteral("%1 is not an image that can be read").arg(QLatin1String(property->name));
-    }
-    return {};
-}
 
 }  // namespace
 
@@ -80,11 +55,8 @@ Result<std::shared_ptr<const Brush>> readBrush(const QString& path) {
     const QVariantMap& last = contents->brushes.last();
     auto brush = std::make_shared<Brush>(
         Brush{BrushRecords::brushName(last), contents->version, BrushRecords::brushParams(last)});
-    for (const BrushParam& param : brush->params) {
-        const QString flaw = flawOf(param);
-        if (!flaw.isEmpty())
-            return Problem{0, {}, QStringLiteral("the brush file is damaged: %1").arg(flaw)};
-    }
+    if (const QString flaw = QDBrushManager::flawOfParams(brush->params); !flaw.isEmpty())
+        return Problem{0, {}, QStringLiteral("the brush file is damaged: %1").arg(flaw)};
     return std::shared_ptr<const Brush>(std::move(brush));
 }
 

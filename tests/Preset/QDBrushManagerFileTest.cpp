@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <limits>
 
 #include "Preset/QDBrushManager.h"
 #include "support/HexFile.h"
@@ -144,6 +145,8 @@ TEST_F(QDBrushManagerFile, ValuesOfAnotherTypeAreConverted) {
         {"half as bool", 0.5, kXBFBool, true},
         {"text as float", QStringLiteral("2.5"), kXBFFloat, 2.5f},
         {"nothing as int", QVariant(), kXBFInt, 0},
+        {"a fraction as int", -2.9, kXBFInt, -2},
+        {"too much as int", 1e30f, kXBFInt, std::numeric_limits<qint32>::max()},
         {"nothing as colour", QVariant(), kXBFColor, QVariant::fromValue(ESColor::rgba(0, 0, 0, 0))},
         {"colour as int", QVariant::fromValue(ESColor::grey(1)), kXBFInt, 0},
         {"nothing as character", QVariant(), kXBFCharacter, QString()},
