@@ -159,7 +159,8 @@ QString PresetLibrary::read(const PresetId& id, BrushPreset& preset) const {
     if (!isWhole)
         return fault(id.path, problem.isEmpty() ? tr("it does not hold this brush") : problem);
     preset = {BrushRecords::brushParams(brushes->at(id.index)), version};
-    return {};
+    const QString flaw = QDBrushManager::flawOfParams(preset.params);
+    return flaw.isEmpty() ? QString() : fault(id.path, flaw);
 }
 
 // ---- The user's folder
@@ -235,8 +236,12 @@ QString PresetLibrary::importFile(const QString& path, PresetId& now) {
         return fault(path, tr("there is no such file"));
     QString problem;
     const auto brushes = QDBrushManager::brushesWithXBFPath(path, nullptr, &problem);
-    if (!brushes || brushes->isEmpty() || !problem.isEmpty())
-        return fault(path, problem.isEmpty() ? tr("it holds no brush") : problem);
+    if (brushes && problem.isEmpty())
+        problem = brushes->isEmpty()
+                      ? tr("it holds no brush")
+                      : QDBrushManager::flawOfParams(BrushRecords::brushParams(brushes->last()));
+    if (!problem.isEmpty())
+        return fault(path, problem);
     if (const QString wrong = makeOwnFolder(); !wrong.isEmpty())
         return wrong;
     now.index = int(brushes->size()) - 1;
