@@ -3,12 +3,13 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 
-#include "Preset/BrushParamValues.h"
 #include "Preset/QDBrushManager.h"
+#include "QDEAGLView/BrushProperties.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpaint {
@@ -37,7 +38,13 @@ Result<BrushFileContents> readBrushFile(const QString& path) {
 }
 
 double Brush::radius() const {
-    return double(BrushParamValues(params).radius());
+    const BrushProperty& row = brushProperty(BrushKey::radius);
+    float radius = row.reset.value_or(row.created);
+    for (const BrushParam& param : params) {
+        if (BrushRecords::key(param) == row.presetId)
+            radius = std::clamp(BrushRecords::paramValue(param).toFloat(), row.low, row.high);
+    }
+    return double(radius);
 }
 
 void Brush::applyTo(QDDrawCanvas& canvas) const {
