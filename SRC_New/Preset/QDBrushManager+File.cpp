@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <cerrno>
 #include <cstdlib>
@@ -223,13 +224,16 @@ template <typename Result, typename Read>
 std::optional<Result> readFile(const QString& path, QString* problem, const Read& read) {
     QString wrong;
     std::optional<Result> result;
-    const bool cut = path.contains(QChar(0));  // the file system would see another path
-    errno = EINVAL;
-    if (const XBFStream file(cut ? nullptr : XBFOpen(path.isNull() ? nullptr : path.toUtf8().constData()));
-        file) {
+    const QFileInfo info(path);
+    if (path.contains(QChar(0))) {
+        wrong = QStringLiteral("this is not a path");  // the file system would see another one
+    } else if (info.exists() && !info.isFile()) {
+        wrong =
+            QStringLiteral("it is not a plain file");  // a pipe might keep whoever opens it waiting for ever
+    } else if (const XBFStream file(XBFOpen(path.isNull() ? nullptr : path.toUtf8().constData())); file) {
         result = read(file.get(), &wrong);
     } else {
-        wrong = QString::fromLocal8Bit(std::strerror(errno));
+        wrong = QString::fromLocal8Bit(std::strerror(path.isNull() ? EINVAL : errno));
     }
     if (!wrong.isEmpty()) {
         qCWarning(lcDabcanvasPreset, "%s %s: %s",

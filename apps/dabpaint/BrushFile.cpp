@@ -23,8 +23,8 @@ struct CloseFile {
 }  // namespace
 
 Result<BrushFileContents> readBrushFile(const QString& path) {
-    if (QFileInfo(path).isDir())
-        return Problem{0, {}, QStringLiteral("cannot be read: it is a folder")};
+    if (const QFileInfo info(path); info.exists() && !info.isFile())
+        return Problem{0, {}, QStringLiteral("cannot be read: it is not a plain file")};
     const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(QFile::encodeName(path).constData(), "rb"));
     if (!file)
         return Problem{
