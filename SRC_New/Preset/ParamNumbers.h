@@ -36,6 +36,10 @@ inline bool booleanOf(const QVariant& value) {
     return value.typeId() == QMetaType::QString ? value.toBool() : value.toDouble() != 0;
 }
 
+inline bool isColor(const QVariant& value) {
+    return value.typeId() == qMetaTypeId<ESColor>() || value.typeId() == QMetaType::QColor;
+}
+
 // No colour for what is none.
 inline ESColor colorOf(const QVariant& value) {
     return value.typeId() == QMetaType::QColor ? ESColor(value.value<QColor>()) : value.value<ESColor>();

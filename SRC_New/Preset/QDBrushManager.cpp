@@ -86,7 +86,7 @@ void capture(const QDDrawCanvas& canvas, const BrushProperty& row, BrushParams& 
 }
 
 // A record's value as its property takes it. None, with a flaw, for what no canvas takes; none without a flaw for no
-// image, and for a colour that is none.
+// image, and where a colour should be and is not.
 QVariant valueFor(const BrushProperty& row, const QVariant& value, PresetImages& images, QString& flaw) {
     QString wrong;
     QVariant typed;
@@ -103,8 +103,8 @@ QVariant valueFor(const BrushProperty& row, const QVariant& value, PresetImages&
             wrong = QStringLiteral("is not a finite number");
             break;
         case BrushValueType::color:
-            if (const auto color = colorOf(value); color.componentCount() > 0) {
-                typed = QVariant::fromValue(color);
+            if (isColor(value)) {
+                typed = QVariant::fromValue(colorOf(value));
             }
             break;
         case BrushValueType::image:

@@ -291,6 +291,10 @@ TEST_F(BrushPresetTest, WhatACanvasDoesNotTakeIsLeftOutAndToldOnce) {
     EXPECT_EQ(canvas->renderColor(), ESColor::rgba(1, 0, 0));
     ASSERT_TRUE(canvas->resetWithParams(BrushParams{record(0x1003, QColor(Qt::green))}, 200));
     EXPECT_EQ(canvas->renderColor(), ESColor::rgba(0, 1, 0));
+    auto other = makeCanvas(60, 40);
+    other->setRenderColor(ESColor());  // which is kept like any other
+    ASSERT_TRUE(canvas->resetWithParams(QDBrushManager::paramsOfDrawView(other.get()), 200));
+    EXPECT_EQ(canvas->renderColor(), ESColor());
 
     dabcanvas::PresetImages images(100);
     EXPECT_FALSE(images.read(tip).isNull());
