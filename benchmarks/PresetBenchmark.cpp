@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Brush presets on the disk: saving and opening one with four 256 px tips, and the names of a thousand.
+// Brush presets: saving and opening one with four 256 px tips, capturing it from a canvas and applying it to one, and
+// the names of a thousand.
 #include <benchmark/benchmark.h>
+#include <epoxy/gl.h>
 
 #include <QFile>
 #include <QImage>
@@ -9,9 +11,13 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 #include "Brushes/ImageData.h"
+#include "ESContext/ESCurrentScope.h"
+#include "Preset/BrushParamValues.h"
 #include "Preset/QDBrushManager.h"
+#include "QDEAGLView/QDDrawCanvas.h"
 #include "support/Measuring.h"
 
 using namespace dabcanvas::bench;
@@ -141,8 +147,77 @@ void listPresets(benchmark::State& state) {
     report(state, own, file);
 }
 
+// A canvas whose brush is a preset of four tips of its own, by `seed`.
+std::unique_ptr<QDDrawCanvas> canvasWithTips(unsigned seed) {
+    auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, 512, 512));
+    require(canvas != nullptr, "making a canvas");
+    QList<QImage> tips;
+    for (unsigned i = 0; i < kTips; ++i) {
+        tips.append(imageWithData(tipData(seed + i)));
+    }
+    canvas->setTextureType(0);
+    canvas->setTextureImages(tips);
+    return canvas;
+}
+
+// Up to where the driver has done what it was told: what is drawn next need not wait for it.
+void finish(QDDrawCanvas& canvas) {
+    const ESCurrentScope current(canvas.esContext());
+    glFinish();
+}
+
+// Against encoding the tips as PNG, which is most of it.
+void capturePreset(benchmark::State& state) {
+    const auto canvas = canvasWithTips(1);
+    Rounds own, encoding;
+    for (auto _ : state) {
+        state.SetIterationTime(own.time([&] {
+            const auto params = QDBrushManager::paramsOfDrawView(canvas.get());
+            require(params && params->size() > kTips, "capturing");
+        }));
+        encoding.time([&] {
+            for (const QImage& tip : canvas->textureImages()) {
+                require(!dataOfPNGFile(tip).isEmpty(), "encoding");
+            }
+        });
+    }
+    state.counters["own_us"] = own.medianMicros();
+    state.counters["own/encoding"] = own.median() / encoding.median();
+}
+
+// Two presets in turn, each until the GPU has it. Against decoding the tips of one, and against that and handing them
+// to the canvas.
+void applyPreset(benchmark::State& state) {
+    const auto canvas = canvasWithTips(1);
+    const BrushParams presets[] = {*QDBrushManager::paramsOfDrawView(canvas.get()),
+                                   *QDBrushManager::paramsOfDrawView(canvasWithTips(9).get())};
+    std::size_t turn = 0;
+    Rounds own, decoding, setting;
+    for (auto _ : state) {
+        const BrushParams& preset = presets[++turn % 2];
+        state.SetIterationTime(own.time([&] {
+            require(canvas->resetWithParams(preset, QDBrushManager::kVersion), "applying");
+            finish(*canvas);
+        }));
+        QList<QImage> tips;
+        decoding.time([&] {
+            tips = BrushParamValues(preset).textureImages();
+            require(tips.size() == kTips, "decoding");
+        });
+        setting.time([&] {
+            canvas->setTextureImages(tips);
+            finish(*canvas);
+        });
+    }
+    state.counters["own_us"] = own.medianMicros();
+    state.counters["own/decoding"] = own.median() / decoding.median();
+    state.counters["own/least"] = own.median() / (decoding.median() + setting.median());
+}
+
 BENCHMARK(savePreset)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(100);
 BENCHMARK(openPreset)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(200);
+BENCHMARK(capturePreset)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(50);
+BENCHMARK(applyPreset)->UseManualTime()->Unit(benchmark::kMicrosecond)->Iterations(100);
 BENCHMARK(listPresets)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
 
 }  // namespace

@@ -1,6 +1,6 @@
-// SPDX-License-Identifier: MIT Any bytes, read as a brush file: by the plain functions, with and without
-// values, and by the class. All must find the same records; what the class read is saved, and must come back
-// with the same ids and types.
+// SPDX-License-Identifier: MIT
+// Any bytes, read as a brush file: by the plain functions, with and without values, and by the class. All
+// must find the same records; what the class read is saved, and must come back with the same ids and types.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>

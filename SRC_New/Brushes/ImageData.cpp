@@ -11,12 +11,17 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcImageData, "dabcanvas.brushes.image")
 
-QImage readImage(QImageReader& reader, const QString& source) {
+QImage readImage(QImageReader& reader, const QString& source, QString* problem = nullptr) {
     reader.setDecideFormatFromContent(true);
     QImage image = reader.read();
+    if (problem) {
+        *problem = image.isNull() ? reader.errorString() : QString();
+    }
     if (image.isNull()) {
-        qCWarning(lcImageData, "Cannot read an image from %s: %s", qUtf8Printable(source),
-                  qUtf8Printable(reader.errorString()));
+        if (!problem) {
+            qCWarning(lcImageData, "Cannot read an image from %s: %s", qUtf8Printable(source),
+                      qUtf8Printable(reader.errorString()));
+        }
         return {};
     }
     image.convertTo(QImage::Format_RGBA8888_Premultiplied);
@@ -37,12 +42,12 @@ QImage onWhite(const QImage& image) {
 
 }  // namespace
 
-QImage imageWithData(const QByteArray& data) {
+QImage imageWithData(const QByteArray& data, QString* problem) {
     QBuffer buffer;
     buffer.setData(data);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    return readImage(reader, QStringLiteral("%1 bytes of data").arg(data.size()));
+    return readImage(reader, QStringLiteral("%1 bytes of data").arg(data.size()), problem);
 }
 
 QImage imageWithContentsOfFile(const QString& path) {

@@ -10,10 +10,11 @@
 // Images   read images are Format_RGBA8888_Premultiplied at the file's pixel size; images to write may have
 //          any format.
 // Thread   any. Needs no QGuiApplication.
-// Errors   never throws: a null image or empty data, with one log line that says why.
+// Errors   never throws: a null image or empty data, with one log line that says why. A `problem`, when given,
+//          receives the reason instead of the log, or becomes empty.
 
 // Reads any image format this Qt has a plugin for, recognised by content.
-QImage imageWithData(const QByteArray& data);
+QImage imageWithData(const QByteArray& data, QString* problem = nullptr);
 QImage imageWithContentsOfFile(const QString& path);
 
 // Keeps transparency. Reading the data back gives the same premultiplied pixels.

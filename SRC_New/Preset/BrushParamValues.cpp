@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Preset/BrushParamValues.h"
 
+#include <QLoggingCategory>
+
 #include "Brushes/ImageData.h"
 #include "Preset/ParamNumbers.h"
+#include "Preset/PresetImages.h"
+
+Q_DECLARE_LOGGING_CATEGORY(lcDabcanvasPreset)
 
 using namespace dabcanvas;
 using namespace BrushRecords;
@@ -44,13 +49,21 @@ QImage BrushParamValues::image(BrushKey key) const {
 
 QList<QImage> BrushParamValues::textureImages() const {
     QList<QImage> images;
+    PresetImages reader;
+    int skipped = 0;
     for (const BrushParam& param : _params) {
         if (static_cast<std::uint32_t>(key(param)) == brushProperty(BrushKey::textureImages).presetId) {
-            const QImage made = imageWithData(paramValue(param).toByteArray());
+            const QImage made = reader.read(paramValue(param).toByteArray());
             if (!made.isNull()) {
                 images.append(made);
+            } else {
+                ++skipped;
             }
         }
+    }
+    if (skipped > 0) {
+        qCWarning(lcDabcanvasPreset, "%d of a preset's textureImages cannot be read; they are left out",
+                  skipped);
     }
     return images;
 }

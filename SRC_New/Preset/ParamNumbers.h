@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
-// What numbers a parameter's value stands for, whatever class it has; nothing for embedders.
+// What number or colour a parameter's value stands for, whatever class it has; nothing for embedders.
 #pragma once
 
+#include <QColor>
 #include <QVariant>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
+
+#include "ESRender/ESColor.h"
 
 namespace dabcanvas {
 
@@ -31,6 +34,15 @@ inline std::int32_t integerOf(const QVariant& value) {
 
 inline bool booleanOf(const QVariant& value) {
     return value.typeId() == QMetaType::QString ? value.toBool() : value.toDouble() != 0;
+}
+
+inline bool isColor(const QVariant& value) {
+    return value.typeId() == qMetaTypeId<ESColor>() || value.typeId() == QMetaType::QColor;
+}
+
+// No colour for what is none.
+inline ESColor colorOf(const QVariant& value) {
+    return value.typeId() == QMetaType::QColor ? ESColor(value.value<QColor>()) : value.value<ESColor>();
 }
 
 }  // namespace dabcanvas

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <QColor>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <cerrno>
 #include <cstdlib>
@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "Preset/HexText.h"
+#include "Preset/ParamNumbers.h"
 #include "Preset/QDBrushManager.h"
 #include "Preset/ReplacingFile.h"
 
@@ -31,8 +32,7 @@ short storedComponent(float component) {
 }
 
 _RGBAType storedColor(const QVariant& value) {
-    const ESColor color =
-        value.metaType().id() == QMetaType::QColor ? ESColor(value.value<QColor>()) : value.value<ESColor>();
+    const ESColor color = dabcanvas::colorOf(value);
     return {storedComponent(color.red()), storedComponent(color.green()), storedComponent(color.blue()),
             storedComponent(color.alpha())};
 }
@@ -42,13 +42,13 @@ _RGBAType storedColor(const QVariant& value) {
 void fillValue(_XBFParamValue& value, int type, const QVariant& property, QByteArray& payload) {
     switch (type) {
         case kXBFBool:
-            value.boolValue = property.toBool();
+            value.boolValue = dabcanvas::booleanOf(property);
             break;
         case kXBFInt:
-            value.intValue = property.toInt();
+            value.intValue = dabcanvas::integerOf(property);
             break;
         case kXBFFloat:
-            value.floatValue = property.toFloat();
+            value.floatValue = dabcanvas::floatOf(property);
             break;
         case kXBFDouble:
             value.doubleValue = property.toDouble();
@@ -224,13 +224,16 @@ template <typename Result, typename Read>
 std::optional<Result> readFile(const QString& path, QString* problem, const Read& read) {
     QString wrong;
     std::optional<Result> result;
-    const bool cut = path.contains(QChar(0));  // the file system would see another path
-    errno = EINVAL;
-    if (const XBFStream file(cut ? nullptr : XBFOpen(path.isNull() ? nullptr : path.toUtf8().constData()));
-        file) {
+    const QFileInfo info(path);
+    if (path.contains(QChar(0))) {
+        wrong = QStringLiteral("this is not a path");  // the file system would see another one
+    } else if (info.exists() && !info.isFile()) {
+        wrong =
+            QStringLiteral("it is not a plain file");  // a pipe might keep whoever opens it waiting for ever
+    } else if (const XBFStream file(XBFOpen(path.isNull() ? nullptr : path.toUtf8().constData())); file) {
         result = read(file.get(), &wrong);
     } else {
-        wrong = QString::fromLocal8Bit(std::strerror(errno));
+        wrong = QString::fromLocal8Bit(std::strerror(path.isNull() ? EINVAL : errno));
     }
     if (!wrong.isEmpty()) {
         qCWarning(lcDabcanvasPreset, "%s %s: %s",

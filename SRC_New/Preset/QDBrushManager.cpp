@@ -3,10 +3,12 @@
 #include "Preset/QDBrushManager.h"
 
 #include <QLoggingCategory>
+#include <cmath>
 
 #include "Brushes/ImageData.h"
 #include "Preset/LegacyModes.h"
 #include "Preset/ParamNumbers.h"
+#include "Preset/PresetImages.h"
 #include "QDEAGLView/BrushProperties.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
@@ -83,47 +85,101 @@ void capture(const QDDrawCanvas& canvas, const BrushProperty& row, BrushParams& 
     }
 }
 
-QImage imageOf(const QVariant& value) {
-    const QByteArray data = value.toByteArray();
-    return data.isEmpty() ? QImage() : imageWithData(data);
-}
-
-// Sets one property, or one part of a control, from a record's value.
-void apply(QDDrawCanvas& canvas, const BrushProperty& row, int part, const QVariant& value) {
+// A record's value as its property takes it. None, with a flaw, for what no canvas takes; none without a flaw for no
+// image, and where a colour should be and is not.
+QVariant valueFor(const BrushProperty& row, const QVariant& value, PresetImages& images, QString& flaw) {
+    QString wrong;
     QVariant typed;
     switch (row.type()) {
         case BrushValueType::boolean:
-            typed = booleanOf(value);
-            break;
+            return booleanOf(value);
         case BrushValueType::integer:
-            typed = integerOf(value);
-            break;
+            return integerOf(value);
         case BrushValueType::real:
-            typed = floatOf(value);
-            break;
-        case BrushValueType::control: {
-            auto control = canvas.brushValue(row).value<LPControlParams>();
-            (part == 0 ? control.speed : part == 1 ? control.pressure : control.altitude) = floatOf(value);
-            typed = QVariant::fromValue(control);
-            break;
-        }
-        case BrushValueType::color:
-            typed = QVariant::fromValue(value.value<ESColor>());
-            break;
-        case BrushValueType::image: {
-            const QImage image = imageOf(value);
-            if (image.isNull()) {
-                return;  // the default stays
+        case BrushValueType::control:  // one of its parts
+            if (const float number = floatOf(value); std::isfinite(number)) {
+                return number;
             }
-            typed = image;
+            wrong = QStringLiteral("is not a finite number");
             break;
+        case BrushValueType::color:
+            if (isColor(value)) {
+                typed = QVariant::fromValue(colorOf(value));
+            }
+            break;
+        case BrushValueType::image:
+        case BrushValueType::images:
+            if (const QImage image = images.read(value.toByteArray()); !image.isNull()) {
+                typed = image;
+            }
+            wrong = images.problem();
+            break;
+        case BrushValueType::text:
+            break;
+    }
+    if (!wrong.isEmpty()) {
+        flaw = QLatin1String(row.name) + QLatin1Char(' ') + wrong;
+    }
+    return typed;
+}
+
+// Sets one property, or one part of a control.
+void apply(QDDrawCanvas& canvas, const BrushProperty& row, int part, const QVariant& value) {
+    QVariant whole = value;
+    if (row.type() == BrushValueType::control) {
+        auto control = canvas.brushValue(row).value<LPControlParams>();
+        (part == 0 ? control.speed : part == 1 ? control.pressure : control.altitude) = value.toFloat();
+        whole = QVariant::fromValue(control);
+    }
+    canvas.setBrushValue(row, whole);
+}
+
+// What is to be done after all records have been applied.
+struct Remains {
+    QList<QImage> tips;
+    LegacyModes legacy;
+    std::optional<float> slRadius, relationValue;
+};
+
+Remains applyAll(QDDrawCanvas& canvas, const BrushParams& params) {
+    Remains remains;
+    PresetImages images;
+    QString firstFlaw;
+    int flaws = 0;
+    for (const BrushParam& param : params) {
+        const auto id = static_cast<std::uint32_t>(key(param));
+        const QVariant value = paramValue(param);
+        int part = -1;
+        const BrushProperty* row = brushPropertyOfPresetId(id, &part);
+        if (row == nullptr) {
+            if (id == kBlendShaderId) {
+                canvas.setBlendFragmentShaderString(value.toString());
+            } else {  // of other ids nothing is taken
+                remains.legacy.take(id, booleanOf(value), wholeOf(value.toDouble()));
+            }
+            continue;
         }
-        default:
-            return;
+        QString flaw;
+        const QVariant typed = valueFor(*row, value, images, flaw);
+        if (!flaw.isEmpty() && flaws++ == 0) {
+            firstFlaw = flaw;
+        }
+        if (row->key == BrushKey::textureImages && typed.isValid()) {
+            remains.tips.append(typed.value<QImage>());
+        } else if (typed.isValid()) {
+            apply(canvas, *row, part, typed);
+        }
+        if (row->key == BrushKey::slRadius) {
+            remains.slRadius = canvas.slRadius();
+        } else if (row->key == BrushKey::relationValue) {
+            remains.relationValue = canvas.relationValue();
+        }
     }
-    if (!canvas.setBrushValue(row, typed)) {
-        qCWarning(lcDabcanvasPreset, "a preset's %s is not finite; the default stays", row.name);
+    if (flaws > 0) {
+        qCWarning(lcDabcanvasPreset, "a preset's %s; the default stays (values left out: %d)",
+                  qUtf8Printable(firstFlaw), flaws);
     }
+    return remains;
 }
 
 void migrate(QDDrawCanvas& canvas, const LegacyModes& legacy) {
@@ -156,8 +212,22 @@ std::optional<BrushParams> QDBrushManager::paramsOfDrawView(const QDDrawCanvas* 
 
 bool QDBrushManager::saveParamsWithDrawView(const QDDrawCanvas* view, const QString& withName,
                                             const QString& inPath, QString* problem) {
-    return view != nullptr && !inPath.isNull() &&
-           saveParams(paramsOfDrawView(view), kVersion, withName, inPath, problem);
+    return saveParams(paramsOfDrawView(view), kVersion, withName, inPath, problem);
+}
+
+QString QDBrushManager::flawOfParams(const BrushParams& params) {
+    PresetImages images;
+    QString flaw;
+    for (const BrushParam& param : params) {
+        int part = -1;
+        if (const auto* row = brushPropertyOfPresetId(static_cast<std::uint32_t>(key(param)), &part)) {
+            valueFor(*row, paramValue(param), images, flaw);
+        }
+        if (!flaw.isEmpty()) {
+            break;
+        }
+    }
+    return flaw;
 }
 
 bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const std::optional<BrushParams>& withParams,
@@ -165,41 +235,19 @@ bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const std::optional<Brush
     if (view == nullptr || !withParams) {
         return false;
     }
+    view->holdTip();
     view->resetParams();
-    QList<QImage> tips;
-    LegacyModes legacy;
-    std::optional<float> slRadius, relationValue;
-    for (const BrushParam& param : *withParams) {
-        const auto id = static_cast<std::uint32_t>(key(param));
-        const QVariant value = paramValue(param);
-        int part = -1;
-        if (id == brushProperty(BrushKey::textureImages).presetId) {
-            const QImage tip = imageOf(value);
-            if (!tip.isNull()) {
-                tips.append(tip);
-            }
-        } else if (const BrushProperty* row = brushPropertyOfPresetId(id, &part)) {
-            apply(*view, *row, part, value);
-            if (row->key == BrushKey::slRadius) {
-                slRadius = view->slRadius();
-            } else if (row->key == BrushKey::relationValue) {
-                relationValue = view->relationValue();
-            }
-        } else if (id == kBlendShaderId) {
-            view->setBlendFragmentShaderString(value.toString());
-        } else {
-            legacy.take(id, booleanOf(value), wholeOf(value.toDouble()));  // of other ids nothing is taken
-        }
-    }
+    const Remains remains = applyAll(*view, *withParams);
     if (version == LegacyModes::kVersion) {
-        migrate(*view, legacy);
+        migrate(*view, remains.legacy);
     }
+    view->releaseTip(view->textureType() != 0 || remains.tips.isEmpty());
     if (view->textureType() == 0) {
-        view->setTextureImages(tips);
+        view->setTextureImages(remains.tips);
     }
-    if (slRadius && relationValue) {
+    if (remains.slRadius && remains.relationValue) {
         // Setting either changes the other, by the radius of that moment. A preset holds both as they were.
-        view->restoreSubLine(*slRadius, *relationValue);
+        view->restoreSubLine(*remains.slRadius, *remains.relationValue);
     }
     if (view->repeatedlyRenderEnabled() && view->slRadiusRelationType() == 0) {
         view->setSlRadiusRelationType(2);
@@ -211,6 +259,9 @@ bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const QString& withXBFFil
     int version = 0;
     const auto brushes = brushesWithXBFPath(withXBFFile, &version);
     if (!brushes || brushes->isEmpty()) {
+        if (brushes) {
+            qCWarning(lcDabcanvasPreset, "The brush file %s holds no brush", qUtf8Printable(withXBFFile));
+        }
         return false;
     }
     return resetDrawView(view, brushParams(brushes->last()), version);

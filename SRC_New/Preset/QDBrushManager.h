@@ -35,10 +35,15 @@ public:
     static bool saveParamsWithDrawView(const QDDrawCanvas* view, const QString& withName,
                                        const QString& inPath, QString* problem = nullptr);
     // Makes records the brush: first every property takes its default, see QDDrawCanvas::resetParams(). Records of
-    // unknown ids are skipped. False, and nothing changed, without a canvas or a list.
+    // unknown ids are skipped; what flawOfParams() tells of is left out, with one log line for all of it. False, and
+    // nothing changed, without a canvas or a list.
     static bool resetDrawView(QDDrawCanvas* view, const std::optional<BrushParams>& withParams, int version);
     // The same with the last brush of a file, of a damaged one with what was whole. False when it has none.
     static bool resetDrawView(QDDrawCanvas* view, const QString& withXBFFile);
+    // The first value that no canvas takes, such as "maskImage is not an image that can be read"; empty when all of
+    // them are good. An image is bad that cannot be decoded or makes all of them larger than 2^28 pixels, a number
+    // that is not finite.
+    static QString flawOfParams(const BrushParams& params);
 
     // Records
 
@@ -52,8 +57,8 @@ public:
 
     // Writes a preset of one brush. It is written beside the path first and then takes the old file's place,
     // so that there is always a whole file. Links are followed, and permissions stay.
-    //   params    no list: nothing is written. A value of another type than its record says is converted as
-    //             QVariant does, to 0 or an empty value at the worst. Text reaches up to U+00FF (HexText.h).
+    //   params    no list: nothing is written. A value of another type than its record says is converted, to 0 or
+    //             an empty value at the worst; integers are cut, not rounded. Text reaches up to U+00FF (HexText.h).
     //             A record of id 0, which would end the brush, is refused.
     //   withName  up to a NUL character
     // False where nothing was written.

@@ -110,6 +110,10 @@ bool ReplacingFile::findTarget(const QString& path) {
 bool ReplacingFile::close() {
     errno = 0;
     const bool flushed = std::fflush(_file) == 0 && !std::ferror(_file) && onTheDisk(_file);
+    if (!flushed && errno == 0) {  // an earlier write failed; another one tells why
+        std::fputc(0, _file);
+        std::fflush(_file);
+    }
     int error = errno;
     // Closed in any case; a disk on the network may only now say that it is full.
     const bool closed = XBFClose(std::exchange(_file, nullptr)) == 0;

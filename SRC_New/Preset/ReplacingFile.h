@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT A file that is written beside its path and takes the path's place only when
-// all of it is on the disk; until then, and when anything fails, whatever stood there stays.
+// SPDX-License-Identifier: MIT
+// A file that is written beside its path and takes the path's place only when all of it is on the disk; until then, and
+// when anything fails, whatever stood there stays.
 //
 // Path     links are followed to the file they name. Its permissions stay; what is no plain file is refused.
 // Thread   one at a time.

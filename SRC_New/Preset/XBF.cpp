@@ -419,8 +419,7 @@ XBFInfo ReadXBFInfo(std::FILE* file) {
 XBFRead TryReadXBFInfo(std::FILE* file, XBFInfo* info) {
     Byte bytes[kXBFHeaderSize] = {};
     XBFRead result = XBFRead::failed;
-    if (file) {
-        std::fseek(file, 0, SEEK_SET);
+    if (file && std::fseek(file, 0, SEEK_SET) == 0) {
         result = readFirst(file, bytes, sizeof bytes);
     }
     info->versionAndKind = get(bytes, 8);

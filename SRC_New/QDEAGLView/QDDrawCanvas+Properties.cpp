@@ -383,6 +383,7 @@ void QDDrawCanvas::setTextureImages(const QList<QImage>& value) {
                  [](const QImage& image) { return !image.isNull(); });
     if (images.isEmpty()) {
         _brush.textureImages.clear();
+        _drawnTip = {};
         _brush.textureType = 0;
         _textureTool.setTextureType(0);
         return;
@@ -395,6 +396,9 @@ void QDDrawCanvas::setTextureImages(const QList<QImage>& value) {
 
 // Type 0 paints with the tips handed in; any other draws one at the present radius.
 void QDDrawCanvas::regenerateTip() {
+    if (_tipIsHeld) {
+        return;
+    }
     if (_brush.textureType == 0) {
         _drawnTip = {};
         if (!_storedTips.isEmpty()) {
@@ -407,6 +411,14 @@ void QDDrawCanvas::regenerateTip() {
     if (wanted != _drawnTip) {
         _drawnTip = wanted;
         useTips({_textureTool.textureImageWithSize(wanted.size)});
+    }
+}
+
+// A preset may change what a drawn tip looks like thousands of times, and a large one takes long to draw.
+void QDDrawCanvas::releaseTip(bool regenerate) {
+    _tipIsHeld = false;
+    if (regenerate) {
+        regenerateTip();
     }
 }
 

@@ -673,6 +673,8 @@ private:
     void sendToRenders(const BrushProperty& row, const Value& value);
     void applyCreatedValues();
     void regenerateTip();
+    void holdTip() { _tipIsHeld = true; }
+    void releaseTip(bool regenerate);
     void useTips(const QList<QImage>& tips);
     void setSubRadius(float radius);
     void takeRelationValue();
@@ -697,6 +699,7 @@ private:
         bool operator==(const DrawnTip&) const = default;
     };
     DrawnTip _drawnTip;
+    bool _tipIsHeld = false;    // regenerated once, when it is released
     QList<QImage> _storedTips;  // what texture type 0 paints with: the tips last handed in
 
     LPLineParams* _lineParaObj = nullptr;

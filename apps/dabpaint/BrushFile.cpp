@@ -3,15 +3,13 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <cerrno>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
 
-#include "Brushes/ImageData.h"
-#include "LogCatcher.h"
-#include "Preset/BrushParamValues.h"
 #include "Preset/QDBrushManager.h"
+#include "QDEAGLView/BrushProperties.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpaint {
@@ -22,33 +20,11 @@ struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-bool isImage(const BrushProperty& property) {
-    return property.type() == BrushValueType::image || property.type() == BrushValueType::images;
-}
-
-// What a canvas would leave out when it takes this record; empty for nothing.
-QString flawOf(const BrushParam& param) {
-    int part = -1;
-    const BrushProperty* property = brushPropertyOfPresetId(std::uint32_t(BrushRecords::key(param)), &part);
-    const QVariant value = BrushRecords::paramValue(param);
-    if (!property)
-        return {};
-    const int stored = value.metaType().id();
-    if ((stored == QMetaType::Float || stored == QMetaType::Double) && !std::isfinite(value.toFloat()))
-        return QStringLiteral("%1 is not a finite number").arg(QLatin1String(property->name));
-    if (isImage(*property) && !value.toByteArray().isEmpty()) {
-        const LogCatcher log;
-        if (imageWithData(value.toByteArray()).isNull())
-            return QStringLiteral("%1 is not an image that can be read").arg(QLatin1String(property->name));
-    }
-    return {};
-}
-
 }  // namespace
 
 Result<BrushFileContents> readBrushFile(const QString& path) {
-    if (QFileInfo(path).isDir())
-        return Problem{0, {}, QStringLiteral("cannot be read: it is a folder")};
+    if (const QFileInfo info(path); info.exists() && !info.isFile())
+        return Problem{0, {}, QStringLiteral("cannot be read: it is not a plain file")};
     const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(QFile::encodeName(path).constData(), "rb"));
     if (!file)
         return Problem{
@@ -62,7 +38,13 @@ Result<BrushFileContents> readBrushFile(const QString& path) {
 }
 
 double Brush::radius() const {
-    return double(BrushParamValues(params).radius());
+    const BrushProperty& row = brushProperty(BrushKey::radius);
+    float radius = row.reset.value_or(row.created);
+    for (const BrushParam& param : params) {
+        if (BrushRecords::key(param) == row.presetId)
+            radius = std::clamp(BrushRecords::paramValue(param).toFloat(), row.low, row.high);
+    }
+    return double(radius);
 }
 
 void Brush::applyTo(QDDrawCanvas& canvas) const {
@@ -80,11 +62,8 @@ Result<std::shared_ptr<const Brush>> readBrush(const QString& path) {
     const QVariantMap& last = contents->brushes.last();
     auto brush = std::make_shared<Brush>(
         Brush{BrushRecords::brushName(last), contents->version, BrushRecords::brushParams(last)});
-    for (const BrushParam& param : brush->params) {
-        const QString flaw = flawOf(param);
-        if (!flaw.isEmpty())
-            return Problem{0, {}, QStringLiteral("the brush file is damaged: %1").arg(flaw)};
-    }
+    if (const QString flaw = QDBrushManager::flawOfParams(brush->params); !flaw.isEmpty())
+        return Problem{0, {}, QStringLiteral("the brush file is damaged: %1").arg(flaw)};
     return std::shared_ptr<const Brush>(std::move(brush));
 }
 

@@ -31,8 +31,8 @@ struct Brush {
     int version = 0;
     BrushParams params;
 
-    double radius() const;  // 0 when it does not say
-    // Makes it the canvas's brush, colour and all.
+    double radius() const;  // as a canvas takes it
+    // Makes it the canvas's brush, colour and all. A few properties that it does not name stay as they are.
     void applyTo(QDDrawCanvas& canvas) const;
 };
 

@@ -128,10 +128,17 @@ Option settingOption(std::vector<Assignment>& settings) {
             [&settings](const QString& value) { return takeSetting(value, settings); }};
 }
 
+// The message for a name that is no preset's.
+QString presetRefusal(const QString& file) {
+    if (file == QLatin1String("-"))
+        return QStringLiteral("a preset is read from a file, not from standard input");
+    return file.isEmpty() ? QStringLiteral("the brush's name is empty") : QString();
+}
+
 Option brushOption(QString& brush) {
     return {"--brush", nullptr, true, [&brush](const QString& value) {
                 brush = value;
-                return value.isEmpty() ? QStringLiteral("the brush's name is empty") : QString();
+                return presetRefusal(value);
             }};
 }
 
@@ -265,7 +272,7 @@ CommandLine readPreset(const QStringList& arguments) {
     const QString wrong =
         walkArguments(which < 0 ? arguments : arguments.mid(1), options, [&](const QString& file) {
             files << file;
-            return QString();
+            return which == 1 ? QString() : presetRefusal(file);
         });
     if (help)
         return HelpOptions{QStringLiteral("preset")};

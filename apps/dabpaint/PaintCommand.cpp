@@ -174,10 +174,11 @@ private:
 
     // Makes a preset the brush, or the one of a new canvas, with the command line's settings.
     QString useBrush(const std::shared_ptr<const Brush>& brush) {
+        // First, as a preset need not name everything.
+        if (!useCreatedBrush())
+            return QStringLiteral("the canvas does not take its first brush again");
         if (brush)
             brush->applyTo(*_canvas);
-        else if (!useCreatedBrush())
-            return QStringLiteral("the canvas does not take its first brush again");
         return apply(_job.plan.fixed());
     }
 

@@ -11,6 +11,22 @@
 
 namespace dabcanvas::dabpaint {
 
+namespace {
+
+// A disk that fills up first takes a part without an error; only the next attempt tells why. And what is still
+// in the buffer must go before QSaveFile::commit(), which does not look at whether that went well.
+bool writeWhole(QFileDevice& file, const QByteArray& bytes) {
+    for (qint64 done = 0; done < bytes.size();) {
+        const qint64 part = file.write(bytes.constData() + done, bytes.size() - done);
+        if (part <= 0)
+            return false;
+        done += part;
+    }
+    return file.flush() || file.flush();
+}
+
+}  // namespace
+
 bool PictureFile::fail(const QString& reason) {
     _error = reason;
     return false;
@@ -43,13 +59,11 @@ bool PictureFile::write(const QByteArray& bytes) {
     }
     if (!isPlainFile()) {
         QFile device(_path);
-        const bool written =
-            device.open(QIODevice::WriteOnly) && device.write(bytes) == bytes.size() && device.flush();
+        const bool written = device.open(QIODevice::WriteOnly) && writeWhole(device, bytes);
         return written || fail(device.errorString());
     }
     QSaveFile file(_path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    const bool written = file.open(QIODevice::WriteOnly) && writeWhole(file, bytes) && file.commit();
     return written || fail(file.errorString());
 }
 

@@ -25,6 +25,39 @@ constexpr struct {
               {kXBFDouble, "double"}, {kXBFColor, "colour"}, {kXBFCharacter, "character"},
               {kXBFText, "text"},     {kXBFData, "data"}};
 
+// What is understood besides properties: a blend mode by its program, programs that nobody runs, and what presets of
+// version 100 have in the place of controls.
+constexpr struct {
+    std::uint32_t id;
+    const char* name;
+} kOthers[] = {{0x9001, "line vertex shader"},
+               {0x9002, "line fragment shader"},
+               {0x9003, "second line vertex shader"},
+               {0x9004, "second line fragment shader"},
+               {0x9006, "blend shader"},
+               {0x3001, "size dynamics"},
+               {0x3003, "radius mode"},
+               {0x300E, "radian mode"},
+               {0x3012, "roundness mode"},
+               {0x4001, "distribution dynamics"},
+               {0x4004, "distribution mode"},
+               {0x4008, "distributionCount mode"},
+               {0x5001, "color dynamics"},
+               {0x5003, "color mode"},
+               {0x6001, "flow dynamics"},
+               {0x6007, "flow mode"},
+               {0x8001, "texture dynamics"},
+               {0x8005, "texture mode"}};
+
+// Empty for an id that means nothing.
+QString otherName(std::uint32_t id) {
+    for (const auto& row : kOthers) {
+        if (row.id == id)
+            return QLatin1String(row.name);
+    }
+    return {};
+}
+
 QString typeName(int code) {
     for (const auto& row : kTypes) {
         if (row.code == code)
@@ -75,11 +108,15 @@ QString dataText(const QByteArray& data) {
 }
 
 QString quoted(const QString& text) {
+    const auto points = text.toUcs4();
     QString shown;
-    for (const QChar c : text.left(kMostText))
-        shown += c.isPrint() ? c : QLatin1Char(' ');  // one line, whatever it holds
+    for (const auto point : points.mid(0, kMostText)) {
+        const char32_t c = QChar::isPrint(point) ? point : U' ';  // one line, whatever it holds
+        shown += QString::fromUcs4(&c, 1);
+    }
     shown = QLatin1Char('"') + shown + QLatin1Char('"');
-    return text.size() <= kMostText ? shown : shown + QStringLiteral("... (%1 characters)").arg(text.size());
+    return points.size() <= kMostText ? shown
+                                      : shown + QStringLiteral("... (%1 characters)").arg(points.size());
 }
 
 QString valueText(const Record& record) {
@@ -138,8 +175,11 @@ QJsonValue valueJson(const Record& record) {
 }
 
 QString recordName(const Record& record) {
-    if (!record.property)
-        return QStringLiteral("unknown id 0x%1").arg(record.id, 4, 16, QLatin1Char('0'));
+    if (!record.property) {
+        const QString other = otherName(record.id);
+        return other.isEmpty() ? QStringLiteral("unknown id 0x%1").arg(record.id, 4, 16, QLatin1Char('0'))
+                               : other;
+    }
     const QString part = record.partName();
     return part.isEmpty() ? record.propertyName() : record.propertyName() + QStringLiteral(", ") + part;
 }
@@ -157,7 +197,7 @@ QByteArray presetAsText(const QString& file, const BrushFileContents& contents) 
         for (const BrushParam& param : BrushRecords::brushParams(brush)) {
             const Record record(param);
             text += QStringLiteral("  ") + recordName(record).leftJustified(kNameWidth) + valueText(record);
-            if (!record.property)
+            if (!record.property && otherName(record.id).isEmpty())
                 text += QStringLiteral(" (%1, %2)")
                             .arg(typeName(record.type), quoted(BrushRecords::method(param)));
             text += QLatin1Char('\n');

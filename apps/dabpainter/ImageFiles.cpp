@@ -83,9 +83,12 @@ QString writePngFile(const QString& path, const QImage& image) {
     if (!file.open(QIODevice::WriteOnly))
         return failed(file.errorString());
     QImageWriter writer(&file, "png");
-    if (!writer.write(image)) {
+    // What is still in the buffer must go before commit(), which does not look at whether that went well. Of a disk
+    // that fills up, only the second attempt tells why.
+    if (!writer.write(image) || !(file.flush() || file.flush())) {
+        const QString why = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
         file.cancelWriting();
-        return failed(file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString());
+        return failed(why);
     }
     return file.commit() ? QString() : failed(file.errorString());
 }

@@ -7,11 +7,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <algorithm>
+#include <cstdio>
 
 #include "Preset/QDBrushManager.h"
+#include "Preset/ReplacingFile.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -158,7 +159,8 @@ QString PresetLibrary::read(const PresetId& id, BrushPreset& preset) const {
     if (!isWhole)
         return fault(id.path, problem.isEmpty() ? tr("it does not hold this brush") : problem);
     preset = {BrushRecords::brushParams(brushes->at(id.index)), version};
-    return {};
+    const QString flaw = QDBrushManager::flawOfParams(preset.params);
+    return flaw.isEmpty() ? QString() : fault(id.path, flaw);
 }
 
 // ---- The user's folder
@@ -234,8 +236,12 @@ QString PresetLibrary::importFile(const QString& path, PresetId& now) {
         return fault(path, tr("there is no such file"));
     QString problem;
     const auto brushes = QDBrushManager::brushesWithXBFPath(path, nullptr, &problem);
-    if (!brushes || brushes->isEmpty() || !problem.isEmpty())
-        return fault(path, problem.isEmpty() ? tr("it holds no brush") : problem);
+    if (brushes && problem.isEmpty())
+        problem = brushes->isEmpty()
+                      ? tr("it holds no brush")
+                      : QDBrushManager::flawOfParams(BrushRecords::brushParams(brushes->last()));
+    if (!problem.isEmpty())
+        return fault(path, problem);
     if (const QString wrong = makeOwnFolder(); !wrong.isEmpty())
         return wrong;
     now.index = int(brushes->size()) - 1;
@@ -250,9 +256,11 @@ QString PresetLibrary::importFile(const QString& path, PresetId& now) {
         }
     }
     const QString target = freePath(source.completeBaseName());
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        return unwritable(target, file.errorString());
+    ReplacingFile file(target);
+    if (file.file())
+        std::fwrite(content.constData(), 1, std::size_t(content.size()), file.file());
+    if (!file.commit())
+        return unwritable(target, file.problem());
     now.path = target;
     refresh();
     return {};

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Capturing a canvas's brush and applying presets.
+#include <QColor>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -10,10 +14,12 @@
 #include "ESRender/ESImageRender.h"
 #include "LineProcess/LPProperties.h"
 #include "Preset/BrushParamValues.h"
+#include "Preset/PresetImages.h"
 #include "Preset/QDBrushManager.h"
 #include "QDEAGLView/BrushProperties.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
+#include "support/LogCapture.h"
 
 using namespace BrushRecords;
 
@@ -231,6 +237,84 @@ TEST_F(BrushPresetTest, RecordsApplyInOrderAndUnknownOnesAreSkipped) {
     const QString erase = ESImageRender::eraseFSHString();
     ASSERT_TRUE(canvas->resetWithParams(BrushParams{record(0x9006, erase)}, 200));
     EXPECT_TRUE(canvas->blendFragmentShaderString().contains(QStringLiteral("void main")));
+}
+
+// A drawn tip may be 1280 pixels wide, and a few kilobytes can change its size a thousand times.
+TEST_F(BrushPresetTest, TheTipIsDrawnOnceWhateverAPresetSays) {
+    const auto imagesMade = [] { return QImage(1, 1, QImage::Format_RGB32).cacheKey() >> 32; };
+    BrushParams params{record(0x200A, 3)};
+    for (int i = 0; i < 100; ++i) {
+        params << record(0x2002, 20.0f + static_cast<float>(i % 2)) << record(0x200A, 1 + i % 3);
+    }
+    const qint64 before = imagesMade();
+    ASSERT_TRUE(canvas->resetWithParams(params, 200));
+    EXPECT_LT(imagesMade() - before, 50);
+    ASSERT_EQ(canvas->textureImages().size(), 1);
+    EXPECT_EQ(canvas->textureImages()[0].width(), 21);
+    const QImage drawn = canvas->textureImages()[0];
+    canvas->setTextureType(2);
+    canvas->setTextureType(1);
+    EXPECT_EQ(canvas->textureImages()[0], drawn);
+    canvas->setTextureImages({});
+    canvas->setTextureType(1);
+    EXPECT_EQ(canvas->textureImages(), QList<QImage>{drawn}) << "after a brush without images";
+}
+
+TEST_F(BrushPresetTest, WhatACanvasDoesNotTakeIsLeftOutAndToldOnce) {
+    const QVariant nan = std::nanf("");
+    const QByteArray tip = UIImagePNGRepresentation(dotted(8, 0));
+    const struct {
+        const char* name;
+        BrushParams params;
+        const char* flaw;
+    } rows[] = {
+        {"numbers", {record(0x3103, nan), record(0x2002, nan)}, "radiusControl is not a finite number"},
+        {"images", {record(0x800F, "x"), record(0x2001, "x")}, "maskImage is not an image that can be"},
+        {"huge",
+         {record(0x2001, QByteArray("P6 20000 20000 255\n")), record(0x2002, nan)},
+         "textureImages is too large"},
+        {"no image", {record(0x800F, QByteArray()), record(0x2001, tip)}, ""},
+        {"no colour", {record(0x1003, 5)}, ""}};
+    canvas->setRenderColor(ESColor::rgba(1, 0, 0));
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QString flaw = QDBrushManager::flawOfParams(row.params);
+        EXPECT_EQ(flaw.left(qstrlen(row.flaw)), QLatin1String(row.flaw)) << flaw.toStdString();
+        EXPECT_EQ(flaw.isEmpty(), *row.flaw == 0);
+        const LogCapture log;
+        ASSERT_TRUE(canvas->resetWithParams(row.params, 200));
+        EXPECT_EQ(log.lines().size(), *row.flaw == 0 ? 0 : 1);
+        EXPECT_TRUE(*row.flaw == 0 || log.has(QLatin1String(row.flaw)));
+        EXPECT_EQ(canvas->radius(), 32);
+        EXPECT_TRUE(canvas->maskImage().isNull());
+    }
+    EXPECT_EQ(canvas->renderColor(), ESColor::rgba(1, 0, 0));
+    ASSERT_TRUE(canvas->resetWithParams(BrushParams{record(0x1003, QColor(Qt::green))}, 200));
+    EXPECT_EQ(canvas->renderColor(), ESColor::rgba(0, 1, 0));
+    auto other = makeCanvas(60, 40);
+    other->setRenderColor(ESColor());  // which is kept like any other
+    ASSERT_TRUE(canvas->resetWithParams(QDBrushManager::paramsOfDrawView(other.get()), 200));
+    EXPECT_EQ(canvas->renderColor(), ESColor());
+
+    dabcanvas::PresetImages images(100);
+    EXPECT_FALSE(images.read(tip).isNull());
+    EXPECT_TRUE(images.read(tip).isNull()) << "128 pixels in all";
+    EXPECT_TRUE(images.problem().startsWith(QStringLiteral("is too large")));
+}
+
+TEST_F(BrushPresetTest, WhatCannotBeDoneIsSaid) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("none.xbf"));
+    {
+        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(XBFCreate(qPrintable(path)), XBFClose);
+        AddXBFInfo(file.get(), XBFInfoMake(200, 0));
+    }
+    const LogCapture log;
+    EXPECT_FALSE(canvas->resetWithXBFPath(path));
+    EXPECT_TRUE(log.has(path + QStringLiteral(" holds no brush")));
+    QString problem;
+    EXPECT_FALSE(QDBrushManager::saveParamsWithDrawView(nullptr, {}, path, &problem));
+    EXPECT_TRUE(!problem.isEmpty() && log.has(problem));
 }
 
 TEST_F(BrushPresetTest, GettersReadWithoutACanvas) {

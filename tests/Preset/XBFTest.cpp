@@ -210,6 +210,17 @@ TEST(XBF, HostileLengthsStopTheReading) {
     EXPECT_EQ(name, nullptr);
 }
 
+#ifndef _WIN32
+// From a pipe the header could be read, but only once; without a place to go back to, nothing of it counts.
+TEST(XBF, AStreamThatCannotSeekIsSaidToFail) {
+    const std::unique_ptr<std::FILE, decltype(&pclose)> pipe(popen("printf 'a header of 12 and more'", "r"),
+                                                             pclose);
+    XBFInfo info;
+    EXPECT_EQ(TryReadXBFInfo(pipe.get(), &info), XBFRead::failed);
+    EXPECT_EQ(info.count, 0u);
+}
+#endif
+
 TEST(XBF, WhatLooksLikeAnXBFFile) {
     const std::string good = hexFile(DABCANVAS_TEST_DATA "/xbf/preset.hex").bytes;
     const auto withKind = [&](std::uint32_t kind, std::string bytes) {

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <map>
 
+#include "Preset/QDBrushManager.h"
 #include "apps/Program.h"
 
 namespace dabcanvas::dabpaint {
@@ -129,6 +130,8 @@ TEST_F(PresetProgramTest, WhatIsNotWholeIsRefused) {
         ASSERT_TRUE(QFile::remove(named));
     }
     expectOneLine(make("none/a.xbf", {}), 1, "none/a.xbf: cannot be written");
+    expectOneLine(preset("show", {QStringLiteral("-")}), 2, "not from standard input");
+    expectOneLine(preset("make -o a.xbf --name a --brush", {QStringLiteral("-")}), 2, "standard input");
     expectOneLine(make("a.xbf", {"gaussianRadius=3"}), 2, "does not keep gaussianRadius");
     EXPECT_EQ(filesThere(), before);
 }
@@ -154,6 +157,53 @@ TEST_F(PresetProgramTest, BrushThenRecordingThenSettings) {
                       {write("grey.json",
                              R"({"strokes": [{"set": {"minRadius": 1, "hardness": 1}, )" + kLine + "}]}")}),
               QColor(Qt::black));
+}
+
+// A preset made elsewhere may say nothing of colour and size, or say it twice.
+TEST_F(PresetProgramTest, ABrushOfFewRecordsTakesThePlaceOfAllBefore) {
+    const auto record = [](int id, float value) {
+        return QDBrushManager::paramWithID(id, QString(), value, kXBFFloat);
+    };
+    const struct {
+        const char* name;
+        BrushParams params;
+        int width;  // of the picture: to the last sample, and the brush's size beyond
+    } rows[] = {{"bare", {record(0x3006, 1)}, 80 + 32},
+                {"twice", {record(0x2002, 5), record(0x3006, 1), record(0x2002, 100)}, 80 + 100},
+                {"huge", {record(0x2002, 1e6f)}, 80 + 1280}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ASSERT_TRUE(QDBrushManager::saveParams(row.params, 200, QLatin1String(row.name), path("few.xbf")));
+        const Ended ended =
+            runProgram({QStringLiteral("paint"), write("r.json", "{\"strokes\": [{" + kLine + "}]}"),
+                        QStringLiteral("-o"), path("out.png"), QStringLiteral("--brush"), path("few.xbf")});
+        EXPECT_EQ(ended.status, 0) << ended.err.constData();
+        EXPECT_EQ(QImage(path("out.png")).width(), row.width);
+    }
+    ASSERT_TRUE(QDBrushManager::saveParams(rows[0].params, 200, QString(), path("few.xbf")));
+    const auto recording = [](const QByteArray& set) {
+        return "{\"strokes\": [{" + set + "\"samples\": [[0, 0]]}, {\"brush\": \"few.xbf\", " + kLine + "}]}";
+    };
+    const QColor plain = painted(recording({}));
+    EXPECT_LT(plain.lightness(), 128);
+    EXPECT_EQ(painted(recording(R"("set": {"maxRadius": 0, "renderColor": "#00ff00"}, )")), plain);
+    EXPECT_EQ(painted(recording({}), {QStringLiteral("--brush"), path("red.xbf")}), plain);
+}
+
+TEST_F(PresetProgramTest, ShowNamesWhateverIsUnderstood) {
+    const auto record = [](int id, const QVariant& value, int type) {
+        return QDBrushManager::paramWithID(id, QStringLiteral("setIt:"), value, type);
+    };
+    ASSERT_TRUE(QDBrushManager::saveParams(
+        BrushParams{record(0x3001, true, kXBFBool), record(0x3003, 11, kXBFInt),
+                    record(0x9006, QStringLiteral("void"), kXBFText), record(0x7777, 1, kXBFInt)},
+        100, QString::fromUtf8("🖌 水彩\n\xC2\x9B"), path("old.xbf")));
+    const std::string shown = preset("show", {path("old.xbf")}).out.toStdString();
+    for (const char* line :
+         {": \"🖌 水彩  \", version 100\n", "  size dynamics                 yes\n",
+          "  radius mode                   11\n", "  blend shader                  \"void\"\n",
+          "  unknown id 0x7777             1 (integer, \"setIt:\")\n"})
+        EXPECT_THAT(shown, ::testing::HasSubstr(line));
 }
 
 TEST_F(PresetProgramTest, PreviewsGoIntoAFolderOrOntoASheet) {

@@ -6,9 +6,15 @@
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <cerrno>
+#include <cstring>
 
+#include "PictureFile.h"
 #include "apps/Program.h"
 #include "apps/Samples.h"
+#ifdef Q_OS_UNIX
+#include "support/FullDisk.h"
+#endif
 
 namespace dabcanvas::dabpaint {
 namespace {
@@ -80,6 +86,24 @@ TEST_F(ProgramTest, FullOutputIsAFailure) {
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr("cannot write to standard output"));
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(ProgramTest, AFullDiskLeavesTheOldPicture) {
+    const QString picture = write("a.png", "old");
+    for (const qsizetype size : {3'000, 100'000}) {  // found out when flushing, and when writing
+        PictureFile file(picture);
+        const bool written = [&] {
+            const FullDisk full;
+            return file.write(QByteArray(size, 'p'));
+        }();
+        EXPECT_FALSE(written);
+        EXPECT_EQ(file.errorString(), QString::fromLocal8Bit(std::strerror(EFBIG)));
+        QFile old(picture);
+        EXPECT_TRUE(old.open(QIODevice::ReadOnly) && old.readAll() == "old");
+        EXPECT_EQ(filesThere().size(), 1);
+    }
+}
+#endif
 
 // ---- Painting (needs OpenGL)
 

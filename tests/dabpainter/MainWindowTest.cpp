@@ -8,10 +8,16 @@
 #include <QStatusBar>
 #include <QTabletEvent>
 #include <QTouchEvent>
+#include <cerrno>
+#include <cstring>
 
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
+#include "Preset/QDBrushManager.h"
 #include "support/LogCapture.h"
+#ifdef Q_OS_UNIX
+#include "support/FullDisk.h"
+#endif
 
 namespace dabcanvas::dabpainter {
 
@@ -192,6 +198,26 @@ TEST_F(MainWindowTest, NothingIsLostUnasked) {
     EXPECT_TRUE(_window->close());
     EXPECT_EQ(QImage(_saveName).pixelColor(100, 75), saved.pixelColor(100, 75));
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(MainWindowTest, AFullDiskLeavesTheOldFiles) {
+    paint();
+    const QString picture = savedImage(QStringLiteral("a.png"), Qt::red);
+    const QString brush = path(QStringLiteral("b.xbf"));
+    ASSERT_TRUE(QDBrushManager::saveParamsWithDrawView(_window->view(), QStringLiteral("B"), brush));
+    {
+        const FullDisk full;
+        EXPECT_FALSE(_window->saveTo(picture));
+        EXPECT_FALSE(_window->presets().importFiles({brush}));
+    }
+    EXPECT_EQ(_told.filter(QString::fromLocal8Bit(std::strerror(EFBIG))).size(), 2)
+        << qPrintable(_told.join(QLatin1Char('\n')));
+    EXPECT_TRUE(_window->isUnsaved());
+    EXPECT_EQ(QImage(picture).size(), QSize(24, 16));
+    const auto every = QDir::Files | QDir::Hidden;
+    EXPECT_EQ(QDir(path(QStringLiteral("brushes"))).entryList(every).size(), 0);
+}
+#endif
 
 // ---- Image files
 

@@ -219,8 +219,14 @@ TEST(PresetFileNameTest, EveryNameMakesAFile) {
 TEST_F(PresetBrowserTest, ADamagedFileLeavesTheBrushAsItWas) {
     const QByteArray whole = bytesOf(saveElsewhere(QStringLiteral("whole.xbf"), QStringLiteral("Whole")));
     set(BrushKey::radius, 77.0f);
+    QImage paper(8, 8, QImage::Format_ARGB32);
+    paper.fill(Qt::black);
+    set(BrushKey::maskImage, paper);
+    QByteArray noImage = bytesOf(saveElsewhere(QStringLiteral("paper.xbf"), QStringLiteral("Paper")));
+    set(BrushKey::maskImage, QImage());
     const LogCapture quiet;
     const std::map<QString, QByteArray> kBad = {
+        {QStringLiteral("image.xbf"), noImage.replace("PNG", "GNP")},
         {QStringLiteral("empty.xbf"), ""},
         {QStringLiteral("text.xbf"), "this is no brush, but a text that is long enough"},
         {QStringLiteral("cut.xbf"), whole.left(whole.size() / 2)}};
@@ -241,8 +247,8 @@ TEST_F(PresetBrowserTest, ADamagedFileLeavesTheBrushAsItWas) {
     EXPECT_EQ(radius(), 77);
     EXPECT_FALSE(brush().preset());
     const QAbstractItemModel* model = presets().list()->model();
-    ASSERT_EQ(model->rowCount(), 4);
-    for (int row = 1; row < 4; ++row)
+    ASSERT_EQ(model->rowCount(), 5);
+    for (int row = 1; row < 5; ++row)
         EXPECT_FALSE(model->index(row, 0).data(PresetListModel::problemRole).toString().isEmpty()) << row;
 }
 

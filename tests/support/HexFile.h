@@ -1,5 +1,6 @@
-// SPDX-License-Identifier: MIT A file spelled byte by byte, in words: 0F, "text", ?? for a byte that means
-// nothing, # to the end of the line.
+// SPDX-License-Identifier: MIT
+// A file spelled byte by byte, in words: 0F, "text", ?? for a byte that means nothing, # to the end of the
+// line.
 #pragma once
 
 #include <fstream>
