@@ -102,13 +102,27 @@ TEST_F(HistoryFaultTest, ADiskThatTakesNothingCostsNoStep) {
     std::signal(SIGXFSZ, former);
 }
 
+TEST_F(HistoryFaultTest, LateTasksUndoNothingNewer) {
+    SnapshotStore store(writeWholeFile);
+    const QString one = inCache("step.png"), two = inCache("step");
+    const auto write = [&](const QString& path, int number) {
+        return store.write("step", path, std::make_shared<Snapshot>(sketch(number)));
+    };
+    write(one, 1)();
+    const auto second = write(two, 2), third = write(one, 3);
+    third();
+    second();
+    EXPECT_TRUE(store.read("step", one).data == sketch(3));
+    EXPECT_FALSE(QFile::exists(two));
+}
+
 TEST_F(HistoryFaultTest, ADroppedStepDoesNotReturnWhenItsWriteFails) {
     WriteGate gate;
     GatedHistory history(gate);
     gate.setDiskFull();
     history.addItemWithImageData(sketch(1));
     history.removeOneObjectFromCache();
-    gate.awaitWrite();
+    gate.awaitWrites();
     history.removeImageWithNames({history.currentStringItem()});
     gate.open();
     history.waitForWrites();
@@ -155,6 +169,22 @@ TEST_F(HistoryFaultTest, AStepThatWasReadBackSurvivesItsFile) {
     }
     history->waitForWrites();
     EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0));
+}
+
+TEST_F(HistoryFaultTest, AFolderThatGoesWhileWritesRunComesBackForAll) {
+    for (int round = 0; round < 20; ++round) {
+        WriteGate gate;
+        GatedHistory history(gate);
+        history.setMaxCacheCount(0);
+        history.addItemWithImageData(sketch(1));
+        history.addItemWithImageData(sketch(2));
+        gate.awaitWrites(2);
+        ASSERT_TRUE(QDir(history.tempDirectory()).removeRecursively());
+        gate.open();
+        history.waitForWrites();
+        EXPECT_EQ(entries(history.tempDirectory()).size(), 2);
+        EXPECT_EQ(history.curCacheCount(), 0);
+    }
 }
 
 TEST_F(HistoryFaultTest, WithoutAFolderStepsStayInMemory) {
@@ -238,6 +268,63 @@ TEST_F(HistoryFaultTest, NoTwoHistoriesShareAFolder) {
     EXPECT_NE(first->tempDirectory(), second->tempDirectory());
     EXPECT_TRUE(QFileInfo(second->tempDirectory()).isDir());
     EXPECT_EQ(QFileInfo(first->tempDirectory()).path(), caches());
+}
+
+// All caches are cleared away, and whoever starts next gets the number that has become free.
+TEST_F(HistoryFaultTest, AFolderLostToAnotherHistoryIsLeftAlone) {
+    std::srand(1);
+    auto loser = spilled();
+    const QString folder = loser->tempDirectory();
+    ASSERT_TRUE(QDir(caches()).removeRecursively());
+    std::srand(1);
+    auto other = ImagesUndoManager::initWithCurrentImageOfData(sketch(10));
+    ASSERT_EQ(other->tempDirectory(), folder);
+    other->addItemWithImageData(sketch(11));
+    other->removeOneObjectFromCache();
+    other->waitForWrites();
+    const QStringList files = entries(folder);
+    EXPECT_EQ(files.size(), 1);
+
+    LogCapture log;
+    loser->undo();
+    loser->undo();
+    EXPECT_TRUE(loser->currentImageDataOfItem().isNull()) << "the other's has the same name and size";
+    EXPECT_TRUE(loser->currentImageItem().isNull());
+    loser->addItemWithImageData(sketch(3));
+    loser->removeOneObjectFromCache();
+    loser->waitForWrites();
+    EXPECT_TRUE(loser->currentImageDataOfItem() == sketch(3));
+    EXPECT_EQ(log.lines().size(), 2) << "one step lost, none can be written";
+    for (const bool ended : {false, true}) {
+        if (ended) {
+            loser.reset();
+        } else {
+            loser->removeImageWithNames({QStringLiteral("InitString")});
+            loser->clearAllTempFiles();
+            loser->waitForWrites();
+        }
+        EXPECT_EQ(entries(folder), files);
+    }
+    EXPECT_TRUE(other->undo());
+    EXPECT_TRUE(other->currentImageDataOfItem() == sketch(10));
+}
+
+TEST_F(HistoryFaultTest, AFolderThatCannotBeEmptiedIsNotForgotten) {
+    const QString parent = inCache("parent"), path = parent + "/TempDirectory0001";
+    QDir().mkpath(parent);
+    const auto any = static_cast<QFile::Permissions>(0x7777);
+    ASSERT_TRUE(QFile::setPermissions(inCache(QString()), any) && QFile::setPermissions(parent, any));
+    inDyingProcess([&] {
+        if (geteuid() == 0 && setuid(12345) != 0) {  // root may write anywhere
+            _exit(1);
+        }
+        QString problem;
+        auto folder = TempFolder::claimNumbered(parent, 1, &problem);
+        writeWholeFile(path + "/step", sketch(1));
+        QFile::setPermissions(path, QFile::ReadOwner);
+        folder.reset();
+    });
+    EXPECT_EQ(entries(parent), QStringList());
 }
 
 TEST_F(HistoryFaultTest, OnlyTheDeadsOwnFoldersAreRemoved) {
