@@ -617,7 +617,8 @@ private:
     QByteArray snapshot(int line);
     ImagesUndoManager& history();
     QByteArray autoMarked();
-    QByteArray step(bool (ImagesUndoManager::*go)());
+    using HistoryStep = bool (ImagesUndoManager::*)();
+    QByteArray step(HistoryStep go, HistoryStep back);
 
     // Placing, in steps
     struct Source;
