@@ -400,7 +400,7 @@ bool SnapshotStore::has(const QString& name, const QString& fallback) const {
     const Record record = find(name);
     const QString path = record.path.isNull() ? fallback : record.path;
     const QFileInfo file(path);
-    return record.held || (!path.isNull() && _isOurs(path) && file.isFile() &&
+    return record.held || (!path.isNull() && _isOurs(path) && file.isFile() && file.isReadable() &&
                            (record.fileSize < 0 || file.size() == record.fileSize));
 }
 

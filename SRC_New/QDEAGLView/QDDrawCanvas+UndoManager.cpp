@@ -166,26 +166,19 @@ QByteArray QDDrawCanvas::step(HistoryStep go, HistoryStep back) {
     if (!(_undoManager.get()->*go)()) {
         return {};
     }
-    const auto stayHere = [&] {
-        _undoManager->waitForWrites();  // which reading the step may have begun
-        (_undoManager.get()->*back)();
-        return QByteArray();
-    };
     QString problem;
     const QByteArray data = _undoManager->currentImageDataOfItem(&problem);
-    if (data.isNull() && _undoManager->hasCurrentImage()) {
+    if (data.isNull() && _undoManager->hasCurrentImage()) {  // but no memory for it
         if (!problem.isEmpty()) {
             qCWarning(lcDabcanvas, "%ls", qUtf16Printable(problem));
         }
-        return stayHere();
+        (_undoManager.get()->*back)();
+        return {};
     }
     if (data.size() == snapshotBytes()) {
-        const QByteArray before = std::exchange(_curImageData, data);
+        _curImageData = data;
         const QSizeF size = bufferSize();
-        if (!setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true) && !scissorBox().isEmpty()) {
-            _curImageData = before;
-            return stayHere();
-        }
+        setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true);
         if (isSmudgeType()) {
             updateSmudgeBGTexture();
         }

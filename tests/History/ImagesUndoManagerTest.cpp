@@ -158,6 +158,14 @@ TEST_F(ImagesUndoManagerTest, TheOldestStepGoesWithItsImage) {
     EXPECT_FALSE(QFile::exists(history->pathWithName("InitString")));
     EXPECT_EQ(history->undoItems().first(), second);
     expectSteps(*history, 1, 5);
+    // Deliberate: when the limit was lowered, two go with each step until it is kept.
+    history->setUndoStepCount(1);
+    for (const int left : {3, 2, 1, 1}) {
+        add(*history, 6, 6);
+        EXPECT_EQ(history->undoItems().size(), left);
+    }
+    history->waitForWrites();
+    EXPECT_EQ(history->curCacheCount() + entries(history->tempDirectory()).size(), 2);
 }
 
 // Writes in progress
@@ -300,6 +308,9 @@ TEST_F(ImagesUndoManagerTest, WritesAndDeletesFilesOfAnyPath) {
 TEST_F(ImagesUndoManagerTest, FilesWrittenByHandDoNotReplaceWhatIsInMemory) {
     auto history = ImagesUndoManager::initWithCurrentImageOfData(sketch(1));
     const QString file = history->currentPathOfItem();
+    history->removeOneObjectFromCache();
+    history->waitForWrites();
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(1)) << "in memory and in its file";
     for (const QByteArray& data : {sketch(2), QByteArray()}) {
         history->writeData(data, file);
         history->waitForWrites();
@@ -307,10 +318,12 @@ TEST_F(ImagesUndoManagerTest, FilesWrittenByHandDoNotReplaceWhatIsInMemory) {
         EXPECT_EQ(history->curCacheCount(), 1);
         EXPECT_TRUE(history->currentImageDataOfItem() == sketch(1));
     }
-    history->writeData(sketch(2), file);
-    history->removeOneObjectFromCache();
-    history->waitForWrites();
-    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(1));
+    for (int i = 0; i < 2; ++i) {
+        history->writeData(sketch(2), file);
+        history->removeOneObjectFromCache();
+        history->waitForWrites();
+        EXPECT_TRUE(history->currentImageDataOfItem() == sketch(1));
+    }
     history->removeOneObjectFromCache();
     history->writeData(sketch(2), file);
     history->waitForWrites();
@@ -363,6 +376,25 @@ TEST_F(ImagesUndoManagerTest, MovesToAnotherFolderWithItsSteps) {
     ASSERT_TRUE(QDir().mkpath(inCache("mine/InitString")));
     EXPECT_TRUE(other->setTempDirectory(inCache("mine")));
     EXPECT_TRUE(other->currentImageDataOfItem() == sketch(0));
+}
+
+TEST_F(ImagesUndoManagerTest, MovesOnlyWhenWritesHaveEnded) {
+    WriteGate gate;
+    GatedHistory history(gate);
+    history.setMaxCacheCount(0);
+    history.addItemWithImageData(sketch(1));
+    gate.awaitWrites();
+    const QString other = inCache("other");
+    std::thread opener([&] {
+        while (!QFile::exists(other)) {
+            std::this_thread::yield();
+        }
+        gate.open();
+    });
+    EXPECT_TRUE(history.setTempDirectory(other));
+    opener.join();
+    EXPECT_EQ(entries(other).size(), 1);
+    EXPECT_TRUE(history.currentImageDataOfItem() == sketch(1));
 }
 
 TEST_F(ImagesUndoManagerTest, TheApplicationsEndEmptiesTheFolder) {

@@ -118,6 +118,11 @@ TEST_F(CanvasUndoTest, TheDelegateHearsOfChangesOnly) {
     EXPECT_EQ(statuses.take(), Told{"no undo"});
     EXPECT_FALSE(canvas->canUndo());
     EXPECT_TRUE(imagesMatch(canvas->image(), present));
+    canvas->setAutoMark(false);
+    const QImage drawn = paint(75);
+    canvas->resetUndoManager();
+    EXPECT_TRUE(canvas->markAction().isNull()) << "nothing was drawn since";
+    EXPECT_TRUE(imagesMatch(canvas->image(), drawn));
 }
 
 TEST_F(CanvasUndoTest, MarksOnlyWhatWasDrawnAndNotTooOften) {
