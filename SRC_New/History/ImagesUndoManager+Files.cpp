@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The folder of a history, and what happens to the files in it.
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QThread>
@@ -33,7 +34,7 @@ QString ImagesUndoManager::tempDirectory() const {
 bool ImagesUndoManager::setTempDirectory(const QString& path) {
     const std::lock_guard lock(_operation);
     const QString present = _folder ? _folder->path() : QString();
-    const QString wanted = QFileInfo(path).absoluteFilePath();
+    const QString wanted = path.isEmpty() ? path : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (wanted == present) {
         return true;
     }
@@ -93,7 +94,8 @@ void ImagesUndoManager::writeData(const QByteArray& data, const QString& path) {
     }
     const QString name = nameOfPath(path);
     if (data.isNull()) {
-        startWrite(_store.remove({name}, [path](const QString&) { return path; }));
+        SnapshotStore::Task task = _store.replaceFile(name, path, nullptr);
+        startWrite(task ? std::move(task) : _store.remove({name}, [path](const QString&) { return path; }));
         return;
     }
     const QByteArray owned = ownedData(data);
@@ -101,7 +103,7 @@ void ImagesUndoManager::writeData(const QByteArray& data, const QString& path) {
         qCWarning(lcHistory, "There is no memory to write %ls", qUtf16Printable(path));
         return;
     }
-    startWrite(_store.write(name, path, std::make_shared<Snapshot>(owned)));
+    putIntoFile(name, path, std::make_shared<Snapshot>(owned));
 }
 
 void ImagesUndoManager::writeImage(const QImage& image, const QString& path) {
@@ -109,8 +111,14 @@ void ImagesUndoManager::writeImage(const QImage& image, const QString& path) {
     if (image.isNull()) {
         writeData({}, path);
     } else if (!path.isNull()) {
-        startWrite(_store.write(nameOfPath(path), path, std::make_shared<Snapshot>(image)));
+        putIntoFile(nameOfPath(path), path, std::make_shared<Snapshot>(image));
     }
+}
+
+void ImagesUndoManager::putIntoFile(const QString& name, const QString& path,
+                                    const std::shared_ptr<Snapshot>& image) {
+    SnapshotStore::Task task = _store.replaceFile(name, path, image);
+    startWrite(task ? std::move(task) : _store.write(name, path, image));
 }
 
 void ImagesUndoManager::removeImageWithNames(const QStringList& names) {
@@ -132,12 +140,18 @@ void ImagesUndoManager::clearAllTempFiles() {
     reset();
 }
 
+// What is outside the folder is the caller's business.
+bool ImagesUndoManager::isOurs(const QString& path) const {
+    return !_folder || !path.startsWith(_folder->path() + QLatin1Char('/')) || _folder->isOurs();
+}
+
 // The folder may have been cleared away under the history's feet: what is written from now on need not be
 // lost.
 bool ImagesUndoManager::writeIntoFolder(const QString& path, const QByteArray& data) const {
-    return _writer(path, data) ||
-           (_folder && path.startsWith(_folder->path() + QLatin1Char('/')) &&
-            !QFileInfo::exists(_folder->path()) && _folder->restore() && _writer(path, data));
+    const unsigned before = _folder ? _folder->timesMade() : 0;
+    return (isOurs(path) && _writer(path, data)) ||
+           (_folder && path.startsWith(_folder->path() + QLatin1Char('/')) && _folder->restore() &&
+            _folder->timesMade() != before && _writer(path, data));
 }
 
 void ImagesUndoManager::startWrite(SnapshotStore::Task write) {

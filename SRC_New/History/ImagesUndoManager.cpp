@@ -56,7 +56,8 @@ std::unique_ptr<ImagesUndoManager> ImagesUndoManager::initWithCurrentImageOfData
 
 ImagesUndoManager::ImagesUndoManager(FileWriter writer)
     : _writer(std::move(writer)),
-      _store([this](const QString& path, const QByteArray& data) { return writeIntoFolder(path, data); }),
+      _store([this](const QString& path, const QByteArray& data) { return writeIntoFolder(path, data); },
+             [this](const QString& path) { return isOurs(path); }),
       _quitting(std::make_shared<Quitting>()),
       _packing(std::make_unique<BackgroundQueue>(1)),
       _files(std::make_unique<BackgroundQueue>(kFileThreads)) {
@@ -157,10 +158,15 @@ void ImagesUndoManager::keepCurrent(const QByteArray& data) {
     pack(_store.cache(name, data));
 }
 
-QByteArray ImagesUndoManager::currentImageDataOfItem() {
+QByteArray ImagesUndoManager::currentImageDataOfItem(QString* problem) {
     const std::lock_guard lock(_operation);
     const QString name = currentStringItem();
     const SnapshotStore::Read read = _store.read(name, pathWithName(name));
+    if (problem) {
+        *problem = read.problem;
+    } else if (!read.problem.isEmpty()) {
+        qCWarning(lcHistory, "%ls", qUtf16Printable(read.problem));
+    }
     if (read.fromFile && !read.data.isNull() && _maxCacheCount != 0) {
         makeRoom(read.data.size());
         pack(_store.cacheFileContents(name, read.data));
@@ -168,10 +174,16 @@ QByteArray ImagesUndoManager::currentImageDataOfItem() {
     return read.data;
 }
 
+bool ImagesUndoManager::hasCurrentImage() const {
+    const std::lock_guard lock(_operation);
+    const QString name = currentStringItem();
+    return _store.has(name, pathWithName(name));
+}
+
 QImage ImagesUndoManager::currentImageItem() const {
     const std::lock_guard lock(_operation);
     const QString path = currentPathOfItem();
-    return QFileInfo(path).isFile() ? imageWithContentsOfFile(path) : QImage();
+    return isOurs(path) && QFileInfo(path).isFile() ? imageWithContentsOfFile(path) : QImage();
 }
 
 QString ImagesUndoManager::currentPathOfItem() const {

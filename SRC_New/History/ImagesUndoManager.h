@@ -54,7 +54,10 @@ public:
     bool resetWithImageOfCurrentItem(const QImage& image);
 
     // The current step's image; null when it has none. May read a file, for which the caller waits.
-    QByteArray currentImageDataOfItem();
+    // `problem` takes what would be logged about that file.
+    QByteArray currentImageDataOfItem(QString* problem = nullptr);
+    // Whether it has one that could be had, if only there were enough memory.
+    bool hasCurrentImage() const;
     // The image in the current step's file. Deliberate: null for one that is only in memory.
     QImage currentImageItem() const;
     QString currentPathOfItem() const;
@@ -102,7 +105,7 @@ public:
     QString pathWithName(const QString& name) const;
 
     // Writes a file, of any path, in the background: whole or not at all. Null data delete the file there,
-    // never a folder; a null path does nothing.
+    // never a folder; a null path does nothing. An image in memory does not change with its step's file.
     void writeData(const QByteArray& data, const QString& path);
     void writeImage(const QImage& image, const QString& path);
     // Drops the images of these names; their steps, if any, are without.
@@ -115,7 +118,8 @@ public:
     // Returns when nothing is being compressed either, so that cachedBytes() has settled.
     void waitForCompression();
 
-    // Runs a task in the background, or at once when this is not the main thread.
+    // Runs a task in the background, or at once when this is not the main thread. The task must not call this
+    // history.
     void asynOperator(std::function<void()> task);
 
 protected:
@@ -126,8 +130,10 @@ private:
 
     bool isMainThread() const;
     void startFolder();
+    bool isOurs(const QString& path) const;
     bool writeIntoFolder(const QString& path, const QByteArray& data) const;
     void startWrite(SnapshotStore::Task write);
+    void putIntoFile(const QString& name, const QString& path, const std::shared_ptr<Snapshot>& image);
     void keepCurrent(const QByteArray& data);
     void makeRoom(qint64 bytes);
     bool evictOne();

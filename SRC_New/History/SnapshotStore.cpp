@@ -27,9 +27,13 @@ QByteArray contentsOf(const QString& path, qint64 expected, bool* whole) {
         (expected >= 0 && file.size() != expected)) {
         return {};
     }
-    QByteArray data(static_cast<qsizetype>(file.size()), Qt::Uninitialized);
-    *whole = file.read(data.data(), data.size()) == data.size();
-    return *whole ? data : QByteArray();
+    try {
+        QByteArray data(static_cast<qsizetype>(file.size()), Qt::Uninitialized);
+        *whole = file.read(data.data(), data.size()) == data.size();
+        return *whole ? data : QByteArray();
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
 }
 
 }  // namespace
@@ -112,7 +116,8 @@ SnapshotStore::Task SnapshotStore::evict(const QString& name, const QString& pat
     if (record == _records.end() || record->place == 0) {
         return {};
     }
-    if (record->fileSize >= 0 && QFileInfo(record->path).size() == record->fileSize) {
+    if (record->fileSize >= 0 && _isOurs(record->path) &&
+        QFileInfo(record->path).size() == record->fileSize) {
         uncache(*record);
         record->held.reset();
         return {};
@@ -141,9 +146,30 @@ SnapshotStore::Task SnapshotStore::write(const QString& name, const QString& pat
     if (former.isNull() || former == path) {
         return write;
     }
-    return [write = std::move(write), former] {
+    return [this, write = std::move(write), name, former] {
         write();
-        QFile::remove(former);  // which names nothing any more
+        const std::lock_guard disk(_disk);
+        if (find(name).path != former && _isOurs(former)) {
+            QFile::remove(former);  // which names nothing any more
+        }
+    };
+}
+
+SnapshotStore::Task SnapshotStore::replaceFile(const QString& name, const QString& path,
+                                               std::shared_ptr<Snapshot> image) {
+    const std::lock_guard lock(_mutex);
+    const auto record = _records.find(name);
+    if (record == _records.end() || record->place == 0) {
+        return {};
+    }
+    record->fileSize = -1;
+    record->ticket = ++_lastTicket;
+    return [this, name, path, ticket = record->ticket, image = std::move(image)] {
+        if (!image) {
+            removeFile(name, ticket, path);
+        } else if (!writeFile(name, ticket, path, image->data()) && isLatest(name, ticket)) {
+            qCWarning(lcHistory, "%ls cannot be written", qUtf16Printable(path));
+        }
     };
 }
 
@@ -157,7 +183,38 @@ bool SnapshotStore::isCurrent(const QString& name, std::uint64_t ticket) const {
     return record != _records.cend() && record->ticket == ticket;
 }
 
+bool SnapshotStore::isLatest(const QString& name, std::uint64_t ticket) const {
+    const std::lock_guard lock(_mutex);
+    return isCurrent(name, ticket);
+}
+
+SnapshotStore::Record SnapshotStore::find(const QString& name) const {
+    const std::lock_guard lock(_mutex);
+    return _records.value(name);
+}
+
 // The file grows under another name and takes its own only while nobody has asked for anything newer.
+bool SnapshotStore::writeFile(const QString& name, std::uint64_t ticket, const QString& path,
+                              const QByteArray& data) {
+    const QString part = QStringLiteral("%1.%2.part").arg(path).arg(ticket);
+    const bool written = !data.isNull() && _writer(part, data);
+    const std::lock_guard disk(_disk);
+    if (written && isLatest(name, ticket) && renameOver(part, path)) {
+        return true;
+    }
+    if (_isOurs(part)) {
+        QFile::remove(part);
+    }
+    return false;
+}
+
+void SnapshotStore::removeFile(const QString& name, std::uint64_t ticket, const QString& path) {
+    const std::lock_guard disk(_disk);
+    if (isLatest(name, ticket) && !path.isNull() && _isOurs(path) && !QFileInfo(path).isDir()) {
+        QFile::remove(path);
+    }
+}
+
 void SnapshotStore::runWrite(const QString& name, std::uint64_t ticket, bool mayReturn) {
     std::shared_ptr<Snapshot> image;
     QString path;
@@ -170,25 +227,12 @@ void SnapshotStore::runWrite(const QString& name, std::uint64_t ticket, bool may
         image = record.held;
         path = record.path;
     }
-    const QString part = QStringLiteral("%1.%2.part").arg(path).arg(ticket);
     const QByteArray data = image->data();
-    bool done = !data.isNull() && _writer(part, data);
+    const bool done = writeFile(name, ticket, path, data);
 
-    const std::lock_guard disk(_disk);
-    {
-        const std::lock_guard lock(_mutex);
-        if (!isCurrent(name, ticket)) {
-            QFile::remove(part);
-            return;
-        }
-    }
-    done = done && renameOver(part, path);
-    if (!done) {
-        QFile::remove(part);
-    }
     const std::lock_guard lock(_mutex);
     if (!isCurrent(name, ticket)) {
-        return;  // whoever asked for something newer waits for the disk now
+        return;  // whoever asked for something newer sees to the file
     }
     if (!done) {
         failed(name, path, mayReturn);
@@ -240,16 +284,7 @@ SnapshotStore::Task SnapshotStore::remove(const QStringList& names,
     }
     return [this, all = std::move(all)] {
         for (const Gone& gone : all) {
-            const std::lock_guard disk(_disk);
-            {
-                const std::lock_guard lock(_mutex);
-                if (!isCurrent(gone.name, gone.ticket)) {
-                    continue;
-                }
-            }
-            if (!gone.path.isNull() && !QFileInfo(gone.path).isDir()) {
-                QFile::remove(gone.path);
-            }
+            removeFile(gone.name, gone.ticket, gone.path);
             const std::lock_guard lock(_mutex);
             if (isCurrent(gone.name, gone.ticket)) {
                 _records.remove(gone.name);
@@ -298,7 +333,7 @@ SnapshotStore::Task SnapshotStore::empty(const QString& folder, bool onlyOwn) {
             }
         }
         for (const QString& path : paths) {
-            if (newer.contains(path)) {
+            if (newer.contains(path) || !_isOurs(path)) {
                 continue;
             }
             const QFileInfo info(path);
@@ -319,13 +354,20 @@ void SnapshotStore::moveFiles(const QString& toFolder) {
             continue;  // somebody's own file
         }
         const QString path = toFolder + QLatin1Char('/') + QFileInfo(record->path).fileName();
-        if (record->fileSize >= 0 && QFile::rename(record->path, path)) {
+        const bool ours = record->fileSize >= 0 && _isOurs(record->path);
+        if (ours && QFile::rename(record->path, path)) {
             record->path = path;
             continue;
         }
         if (record->fileSize >= 0 && !record->held) {
-            qCWarning(lcHistory, "%ls cannot be moved: this undo step is lost",
-                      qUtf16Printable(record->path));
+            bool whole = false;
+            const QByteArray data = ours ? contentsOf(record->path, record->fileSize, &whole) : QByteArray();
+            if (whole) {
+                cached(record.key(), std::make_shared<Snapshot>(data));
+            } else {
+                qCWarning(lcHistory, "%ls cannot be moved: this undo step is lost",
+                          qUtf16Printable(record->path));
+            }
         }
         record->fileSize = -1;
         record->path.clear();
@@ -335,35 +377,31 @@ void SnapshotStore::moveFiles(const QString& toFolder) {
 // ---- Reading ----
 
 SnapshotStore::Read SnapshotStore::read(const QString& name, const QString& fallback) const {
-    std::shared_ptr<Snapshot> image;
-    QString path = fallback;
-    qint64 size = -1;
-    {
-        const std::lock_guard lock(_mutex);
-        const auto record = _records.constFind(name);
-        if (record != _records.cend()) {
-            image = record->held;
-            path = record->path.isNull() ? fallback : record->path;
-            size = record->fileSize;
-        }
+    const Record record = find(name);
+    if (record.held) {
+        return {record.held->data(), false, {}};
     }
-    if (image) {
-        return {image->data(), false};
-    }
-    if (path.isNull() || (size < 0 && !QFileInfo(path).isFile())) {
+    const QString path = record.path.isNull() ? fallback : record.path;
+    const bool there = !path.isNull() && _isOurs(path) && QFileInfo(path).isFile();
+    if (!there && record.fileSize < 0) {
         return {};
     }
-    try {
-        bool whole = false;
-        Read read{contentsOf(path, size, &whole), true};
-        if (!whole) {
-            qCWarning(lcHistory, "%ls is gone or damaged: this undo step is lost", qUtf16Printable(path));
-        }
-        return read;
-    } catch (const std::bad_alloc&) {
-        qCWarning(lcHistory, "There is no memory to read %ls", qUtf16Printable(path));
-        return {};
+    bool whole = false;
+    Read read{there ? contentsOf(path, record.fileSize, &whole) : QByteArray(), true, {}};
+    if (!whole) {
+        read.problem = (has(name, fallback) ? QStringLiteral("%1 cannot be read")
+                                            : QStringLiteral("%1 is gone or damaged: this undo step is lost"))
+                           .arg(path);
     }
+    return read;
+}
+
+bool SnapshotStore::has(const QString& name, const QString& fallback) const {
+    const Record record = find(name);
+    const QString path = record.path.isNull() ? fallback : record.path;
+    const QFileInfo file(path);
+    return record.held || (!path.isNull() && _isOurs(path) && file.isFile() && file.isReadable() &&
+                           (record.fileSize < 0 || file.size() == record.fileSize));
 }
 
 QString SnapshotStore::fileOf(const QString& name) const {

@@ -23,13 +23,17 @@
 
 // Writes all the data to a new file of this path; false, leaving whatever it likes there, when it cannot.
 using FileWriter = std::function<bool(const QString& path, const QByteArray& data)>;
+// Whether what lies at this path may be read and deleted; false when it has become somebody else's.
+using PathCheck = std::function<bool(const QString& path)>;
 bool writeWholeFile(const QString& path, const QByteArray& data);
 
 class SnapshotStore {
 public:
     using Task = std::function<void()>;
 
-    explicit SnapshotStore(FileWriter writer) : _writer(std::move(writer)) {}
+    explicit SnapshotStore(
+        FileWriter writer, PathCheck isOurs = [](const QString&) { return true; })
+        : _writer(std::move(writer)), _isOurs(std::move(isOurs)) {}
     SnapshotStore(const SnapshotStore&) = delete;
     SnapshotStore& operator=(const SnapshotStore&) = delete;
 
@@ -53,12 +57,15 @@ public:
     // Writes an image without caching it; one that cannot be written is cached then. A name that is the path
     // means a file of somebody's own: written, and forgotten, whether that went well or not.
     Task write(const QString& name, const QString& path, std::shared_ptr<Snapshot> image);
+    // Puts a picture into the file of a name, null: deletes it, while what is cached stays the name's image. Null
+    // when the name is not cached.
+    Task replaceFile(const QString& name, const QString& path, std::shared_ptr<Snapshot> image);
     // Forgets these names at once; the task deletes the files, at the paths given where it knows no other.
     Task remove(const QStringList& names, const std::function<QString(const QString&)>& pathOf);
     // The task deletes all files of the names and everything else that is in the folder now, unless
     // `onlyOwn`. What is in memory stays.
     Task empty(const QString& folder, bool onlyOwn);
-    // Moves all files to another folder, while no task runs. What cannot be moved counts as lost.
+    // Moves all files to another folder, while no task runs. What cannot be moved returns to the cache.
     void moveFiles(const QString& toFolder);
 
     // ---- Reading ----
@@ -66,9 +73,12 @@ public:
     struct Read {
         QByteArray data;  // null when neither memory nor file has it
         bool fromFile = false;
+        QString
+            problem;  // in words: a file that was written is gone, or not as long as it was, or unreadable
     };
-    // One log line when a file that was written is gone or not as long as it was.
     Read read(const QString& name, const QString& path) const;
+    // Whether read() would find the image, given the memory.
+    bool has(const QString& name, const QString& path) const;
     // Where the name's file is, null when none was written.
     QString fileOf(const QString& name) const;
     QStringList names() const;  // of all images, wherever they are, in no order
@@ -87,10 +97,15 @@ private:
     void uncache(Record& record);
     Task writing(const QString& name, Record& record, bool mayReturn);
     void runWrite(const QString& name, std::uint64_t ticket, bool mayReturn);
+    bool writeFile(const QString& name, std::uint64_t ticket, const QString& path, const QByteArray& data);
+    void removeFile(const QString& name, std::uint64_t ticket, const QString& path);
     bool isCurrent(const QString& name, std::uint64_t ticket) const;
+    bool isLatest(const QString& name, std::uint64_t ticket) const;
+    Record find(const QString& name) const;
     void failed(const QString& name, const QString& path, bool mayReturn);
 
     const FileWriter _writer;
+    const PathCheck _isOurs;
     std::mutex _disk;           // files get their final names, or go, one at a time; taken before _mutex
     mutable std::mutex _mutex;  // everything below; never held while files are read or written
     QHash<QString, Record> _records;

@@ -33,11 +33,15 @@ bool makeFolder(const QString& path) {
 #endif
 }
 
-void removeFolder(const QString& path) {
+// Whether it is gone.
+bool removeFolder(const QString& path) {
     const QFileInfo info(path);
-    if (info.isDir() && !info.isSymLink()) {
-        QDir(path).removeRecursively();
+    if (!info.isDir() || info.isSymLink()) {
+        return true;
     }
+    QFile::setPermissions(path,
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);  // it may be read-only
+    return QDir(path).removeRecursively();
 }
 
 }  // namespace
@@ -100,12 +104,15 @@ bool TempFolder::lock(bool made, QString* problem) {
     return true;
 }
 
-void TempFolder::unlock() {
+bool TempFolder::holdsLock() const {
+    return isStillAt(_lockFile, QFile::encodeName(lockPathOf(_path)));
+}
+
+void TempFolder::unlock(bool forget) {
+    if (forget && holdsLock()) {
+        ::unlink(QFile::encodeName(lockPathOf(_path)).constData());
+    }
     if (_lockFile >= 0) {
-        const QByteArray path = QFile::encodeName(lockPathOf(_path));
-        if (isStillAt(_lockFile, path)) {
-            ::unlink(path.constData());
-        }
         ::close(_lockFile);
         _lockFile = -1;
     }
@@ -121,11 +128,9 @@ void TempFolder::removeIfAbandoned(const QString& path) {
     }
     if (isMine(file) && ::flock(file, LOCK_EX | LOCK_NB) == 0 && isStillAt(file, lockPath)) {
         const QByteArray owner = textIn(file);
-        const bool made = owner == ownerText(true);
-        if (made) {
-            removeFolder(path);
-        }
-        if (made || owner == ownerText(false) || (owner.isEmpty() && !QFileInfo::exists(path))) {
+        if (owner == ownerText(true)
+                ? removeFolder(path)
+                : owner == ownerText(false) || (owner.isEmpty() && !QFileInfo::exists(path))) {
             ::unlink(lockPath.constData());
         }
     }
@@ -145,7 +150,11 @@ bool TempFolder::lock(bool, QString* problem) {
     return false;
 }
 
-void TempFolder::unlock() {
+bool TempFolder::holdsLock() const {
+    return _lock != nullptr;
+}
+
+void TempFolder::unlock(bool) {
     _lock.reset();
 }
 
@@ -159,14 +168,37 @@ void TempFolder::removeIfAbandoned(const QString& path) {
 #endif
 
 TempFolder::~TempFolder() {
-    if (_madeHere) {
-        removeFolder(_path);
-    }
-    unlock();
+    const bool gone = !_madeHere || !lockAgain() || removeFolder(_path);
+    unlock(gone);
 }
 
-bool TempFolder::restore() const {
-    return (QDir().mkpath(QFileInfo(_path).path()) && makeFolder(_path)) || QFileInfo(_path).isDir();
+bool TempFolder::isOurs() const {
+    const std::lock_guard lock(_claim);
+    return holdsLock();
+}
+
+bool TempFolder::restore() {
+    const std::lock_guard guard(_claim);
+    if (!QDir().mkpath(QFileInfo(_path).path()) || !lockAgain()) {
+        return false;
+    }
+    if (makeFolder(_path)) {
+        ++_timesMade;
+    }
+    return QFileInfo(_path).isDir();
+}
+
+bool TempFolder::lockAgain() {
+    if (holdsLock()) {
+        return true;
+    }
+    unlock(false);
+    QString problem;
+    if (!lock(_madeHere, &problem)) {
+        return false;
+    }
+    ++_timesMade;
+    return true;
 }
 
 std::unique_ptr<TempFolder> TempFolder::claimOne(const QString& path, bool mayStandThere, QString* problem) {
@@ -200,7 +232,8 @@ std::unique_ptr<TempFolder> TempFolder::claim(const QString& path, QString* prob
 #ifdef Q_OS_UNIX  // elsewhere nothing tells what was made from what was found
     removeIfAbandoned(absolute);
 #endif
-    auto folder = claimOne(absolute, true, problem);
+    const QString canonical = QFileInfo(absolute).canonicalFilePath();  // empty where nothing is
+    auto folder = claimOne(canonical.isEmpty() ? absolute : canonical, true, problem);
     if (!folder && problem->isEmpty()) {
         *problem = QStringLiteral("it is in use, or no folder");
     }

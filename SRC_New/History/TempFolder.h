@@ -2,12 +2,14 @@
 // A folder that belongs to one owner of one process for as long as this object lives. The claim is a lock
 // file beside it, "<folder>.lock", that the system lets go of when the process ends, in whatever way.
 //
-// Thread   one at a time.
+// Thread   isOurs(), restore() and timesMade() from any, the rest one at a time.
 // Errors   never throws: null or false, and `problem` says why in words.
 #pragma once
 
 #include <QString>
+#include <atomic>
 #include <memory>
+#include <mutex>
 
 #ifndef Q_OS_UNIX
 #include <QLockFile>
@@ -24,15 +26,21 @@ public:
     // and those of whoever is alive.
     static void removeAbandoned(const QString& parent);
 
-    ~TempFolder();  // with all that is in it, if it was made here
+    // With all that is in it, if it was made here. What cannot be removed is left for whoever starts next.
+    ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
 
     QString path() const { return _path; }
     // False for one that stood there before: what is in it may be somebody's.
     bool madeHere() const { return _madeHere; }
-    // Makes it again when it has gone; whether it is there.
-    bool restore() const;
+    // False once the claim was cleared away from outside: somebody else may have the folder now, with files of
+    // the same names.
+    bool isOurs() const;
+    // Makes the folder and its claim again when they have gone. False when that cannot be, or when somebody else
+    // has claimed it meanwhile.
+    bool restore();
+    unsigned timesMade() const { return _timesMade; }
 
 private:
     TempFolder() = default;
@@ -40,10 +48,14 @@ private:
     static std::unique_ptr<TempFolder> claimOne(const QString& path, bool mayStandThere, QString* problem);
     static void removeIfAbandoned(const QString& path);
     bool lock(bool made, QString* problem);
-    void unlock();
+    bool holdsLock() const;
+    void unlock(bool forget);
+    bool lockAgain();
 
     QString _path;
     bool _madeHere = false;
+    std::atomic<unsigned> _timesMade{1};
+    mutable std::mutex _claim;  // guards the lock
 #ifdef Q_OS_UNIX
     int _lockFile = -1;
 #else

@@ -129,14 +129,14 @@ ImagesUndoManager& QDDrawCanvas::history() {
             _imageStale = QRectF(QPointF(0, 0), bufferSize());
         }
         _undoManager->setFilePathExtension({});  // raw pixels
-        _markTimeInterval = 0;
-        _preTimeInterval = now();
     }
     return *_undoManager;
 }
 
 QByteArray QDDrawCanvas::loadUndoManager() {
-    history();
+    history().setFilePathExtension({});
+    _markTimeInterval = 0;
+    _preTimeInterval = now();
     return _curImageData;
 }
 
@@ -200,20 +200,30 @@ bool QDDrawCanvas::canRedo() const {
 
 QByteArray QDDrawCanvas::undo() {
     _leafDrawView->finishPending();
-    return _stroke != Stroke::drawing && canUndo() ? step(&ImagesUndoManager::undo) : QByteArray();
+    return _stroke != Stroke::drawing && canUndo() ? step(&ImagesUndoManager::undo, &ImagesUndoManager::redo)
+                                                   : QByteArray();
 }
 
 QByteArray QDDrawCanvas::redo() {
     _leafDrawView->finishPending();
-    return _stroke != Stroke::drawing && canRedo() ? step(&ImagesUndoManager::redo) : QByteArray();
+    return _stroke != Stroke::drawing && canRedo() ? step(&ImagesUndoManager::redo, &ImagesUndoManager::undo)
+                                                   : QByteArray();
 }
 
-QByteArray QDDrawCanvas::step(bool (ImagesUndoManager::*go)()) {
+QByteArray QDDrawCanvas::step(HistoryStep go, HistoryStep back) {
     const UndoStatus status(*this);
     if (!(_undoManager.get()->*go)()) {
         return {};
     }
-    const QByteArray data = _undoManager->currentImageDataOfItem();
+    QString problem;
+    const QByteArray data = _undoManager->currentImageDataOfItem(&problem);
+    if (data.isNull() && _undoManager->hasCurrentImage()) {  // but no memory for it
+        if (!problem.isEmpty()) {
+            qCWarning(lcDabcanvas, "%ls", qUtf16Printable(problem));
+        }
+        (_undoManager.get()->*back)();
+        return {};
+    }
     if (data.size() == snapshotBytes()) {
         _curImageData = data;
         const QSizeF size = bufferSize();
@@ -223,7 +233,10 @@ QByteArray QDDrawCanvas::step(bool (ImagesUndoManager::*go)()) {
             updateSmudgeBGTexture();
         }
     } else {
-        qCWarning(lcDabcanvas, "a step of the history is lost; the canvas is cleared");
+        qCWarning(
+            lcDabcanvas, "%ls; the canvas is cleared",
+            qUtf16Printable(problem.isEmpty() ? QStringLiteral("An undo step has no image of this canvas")
+                                              : problem));
         const bool marks = std::exchange(_autoMark, false);  // clearing is no step of its own here
         clear();
         _autoMark = marks;

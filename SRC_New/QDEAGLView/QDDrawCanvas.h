@@ -330,14 +330,16 @@ public:
     // the last one, or too shortly after it, or without the memory.
     QByteArray markAction();
     // Make the step before, or after, the canvas. Null, and nothing changed, when there is none, a stroke is in progress
-    // or a step is still being written to disk. A step that was lost clears the canvas, with a log line.
+    // or a step is still being written to disk; and, with a log line, without the memory. A step that was lost clears
+    // the canvas, with a log line.
     QByteArray undo();
     QByteArray redo();
     bool canUndo() const;
     bool canRedo() const;
     // Makes the present canvas the only step.
     QByteArray resetUndoManager();
-    // Makes the history, if there is none yet, and gives the last step's picture.
+    // Makes the history, if there is none yet, and gives the last step's picture. Sets markTimeInterval() to 0, and
+    // times the next step from now.
     QByteArray loadUndoManager();
     // The last step's picture, or the canvas's where there is no step.
     QImage currentImage();
@@ -648,7 +650,8 @@ private:
     bool refreshImageData(const QRect& part);
     ImagesUndoManager& history();
     QByteArray autoMarked();
-    QByteArray step(bool (ImagesUndoManager::*go)());
+    using HistoryStep = bool (ImagesUndoManager::*)();
+    QByteArray step(HistoryStep go, HistoryStep back);
 
     // Placing, in steps
     struct Source;

@@ -243,7 +243,10 @@ private:
             if (isStep && _canvas->undo().isNull())
                 return QStringLiteral("a stroke cannot be undone");
         }
-        return {};
+        // A lost step clears the canvas, which the next one to be undone makes good.
+        return _isStep.empty() || _canvas->undoManager().hasCurrentImage()
+                   ? QString()
+                   : QStringLiteral("the picture before the undone strokes is lost");
     }
 
     const PaintOptions& _options;

@@ -102,13 +102,44 @@ TEST_F(HistoryFaultTest, ADiskThatTakesNothingCostsNoStep) {
     std::signal(SIGXFSZ, former);
 }
 
+TEST_F(HistoryFaultTest, LateTasksUndoNothingNewer) {
+    SnapshotStore store(writeWholeFile);
+    const QString one = inCache("step.png"), two = inCache("step");
+    const auto write = [&](const QString& path, int number) {
+        return store.write("step", path, std::make_shared<Snapshot>(sketch(number)));
+    };
+    write(one, 1)();
+    const auto second = write(two, 2), third = write(one, 3);
+    third();
+    second();
+    EXPECT_TRUE(store.read("step", one).data == sketch(3));
+    EXPECT_FALSE(QFile::exists(two));
+    const auto emptied = store.empty(inCache(QString()), true);
+    write(one, 4)();
+    emptied();
+    EXPECT_TRUE(store.read("step", one).data == sketch(4));
+    const auto removed = store.remove({"step"}, [](const QString&) { return QString(); });
+    write(one, 5)();
+    removed();
+    EXPECT_TRUE(store.read("step", one).data == sketch(5));
+}
+
+TEST_F(HistoryFaultTest, WhatCannotBeWrittenReturnsToItsPlace) {
+    SnapshotStore store([](const QString&, const QByteArray&) { return false; });
+    store.cache("a", sketch(1));
+    store.cache("b", sketch(2));
+    const LogCapture log;
+    store.evict("a", inCache("a"))();
+    EXPECT_EQ(store.cachedNames(), (QStringList{"a", "b"}));
+}
+
 TEST_F(HistoryFaultTest, ADroppedStepDoesNotReturnWhenItsWriteFails) {
     WriteGate gate;
     GatedHistory history(gate);
     gate.setDiskFull();
     history.addItemWithImageData(sketch(1));
     history.removeOneObjectFromCache();
-    gate.awaitWrite();
+    gate.awaitWrites();
     history.removeImageWithNames({history.currentStringItem()});
     gate.open();
     history.waitForWrites();
@@ -155,6 +186,22 @@ TEST_F(HistoryFaultTest, AStepThatWasReadBackSurvivesItsFile) {
     }
     history->waitForWrites();
     EXPECT_TRUE(history->currentImageDataOfItem() == sketch(0));
+}
+
+TEST_F(HistoryFaultTest, AFolderThatGoesWhileWritesRunComesBackForAll) {
+    for (int round = 0; round < 20; ++round) {
+        WriteGate gate;
+        GatedHistory history(gate);
+        history.setMaxCacheCount(0);
+        history.addItemWithImageData(sketch(1));
+        history.addItemWithImageData(sketch(2));
+        gate.awaitWrites(2);
+        ASSERT_TRUE(QDir(history.tempDirectory()).removeRecursively());
+        gate.open();
+        history.waitForWrites();
+        EXPECT_EQ(entries(history.tempDirectory()).size(), 2);
+        EXPECT_EQ(history.curCacheCount(), 0);
+    }
 }
 
 TEST_F(HistoryFaultTest, WithoutAFolderStepsStayInMemory) {
@@ -240,6 +287,80 @@ TEST_F(HistoryFaultTest, NoTwoHistoriesShareAFolder) {
     EXPECT_EQ(QFileInfo(first->tempDirectory()).path(), caches());
 }
 
+// All caches are cleared away, and whoever starts next gets the number that has become free.
+TEST_F(HistoryFaultTest, AFolderLostToAnotherHistoryIsLeftAlone) {
+    for (const bool inMemory : {false, true}) {
+        SCOPED_TRACE(inMemory ? "its step was read before" : "its step is in a file");
+        std::srand(1);
+        auto loser = spilled();
+        if (inMemory) {
+            EXPECT_TRUE(loser->undo() && loser->undo());
+            EXPECT_TRUE(loser->currentImageDataOfItem() == sketch(0));
+        }
+        const QString folder = loser->tempDirectory();
+        ASSERT_TRUE(QDir(caches()).removeRecursively());
+        std::srand(1);
+        auto other = ImagesUndoManager::initWithCurrentImageOfData(sketch(10));
+        ASSERT_EQ(other->tempDirectory(), folder);
+        other->addItemWithImageData(sketch(11));
+        other->removeOneObjectFromCache();
+        other->waitForWrites();
+        const QStringList files = entries(folder);
+        EXPECT_EQ(files.size(), 1);
+
+        LogCapture log;
+        while (loser->undo()) {
+        }
+        loser->clearRedoItems();
+        loser->removeOneObjectFromCache();  // in vain: it cannot be written now
+        loser->waitForWrites();
+        const QByteArray first = loser->currentImageDataOfItem();
+        EXPECT_TRUE(inMemory ? first == sketch(0) : first.isNull()) << "the other's has this name and size";
+        EXPECT_TRUE(loser->currentImageItem().isNull());
+        EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+        for (const bool ended : {false, true}) {
+            if (ended) {
+                loser.reset();
+            } else {
+                loser->removeImageWithNames({QStringLiteral("InitString")});
+                loser->waitForWrites();
+                loser->clearAllTempFiles();
+                loser->waitForWrites();
+            }
+            EXPECT_EQ(entries(folder), files);
+        }
+        EXPECT_TRUE(other->undo());
+        EXPECT_TRUE(other->currentImageDataOfItem() == sketch(10));
+    }
+}
+
+TEST_F(HistoryFaultTest, ReadOnlyFoldersAreRemovedNowOrAtTheNextStart) {
+    const QString parent = inCache("parent");
+    QDir().mkpath(parent);
+    const auto any = static_cast<QFile::Permissions>(0x7777);
+    ASSERT_TRUE(QFile::setPermissions(inCache(QString()), any) && QFile::setPermissions(parent, any));
+    inDyingProcess([&] {
+        if (geteuid() == 0 && setuid(12345) != 0) {  // root may write anywhere
+            _exit(1);
+        }
+        const auto readOnly = QFile::ReadOwner | QFile::ExeOwner;
+        for (const bool within : {false, true}) {
+            QString problem;
+            auto folder = TempFolder::claimNumbered(parent, 1, &problem);
+            const QString locked = within ? folder->path() + "/sub" : folder->path();
+            QDir().mkpath(locked);
+            writeWholeFile(locked + "/step", sketch(1));
+            QFile::setPermissions(locked, readOnly);
+            folder.reset();
+            QFile::setPermissions(locked, readOnly | QFile::WriteOwner);
+        }
+        if (entries(parent).size() == 2) {
+            TempFolder::removeAbandoned(parent);
+        }
+    });
+    EXPECT_EQ(entries(parent), QStringList());
+}
+
 TEST_F(HistoryFaultTest, OnlyTheDeadsOwnFoldersAreRemoved) {
     const QString parent = caches();
     QString problem;
@@ -260,6 +381,7 @@ TEST_F(HistoryFaultTest, OnlyTheDeadsOwnFoldersAreRemoved) {
     QFile::remove(path("5.lock"));
     QDir().mkpath(parent + "/Pictures");
 
+    EXPECT_FALSE(TempFolder::claim(path("3"), &problem));
     auto history = ImagesUndoManager::init();
     history->waitForWrites();
     EXPECT_TRUE(QFile::exists(alive->path()));

@@ -60,22 +60,22 @@ public:
     FileWriter writer() {
         return [this](const QString& path, const QByteArray& data) {
             std::unique_lock lock(_mutex);
-            _begun = true;
+            ++_begun;
             _changed.notify_all();
             _changed.wait(lock, [this] { return _open; });
             return writeWholeFile(path, _full ? data.left(data.size() / 2) : data) && !_full;
         };
     }
-    void awaitWrite() {
+    void awaitWrites(int count = 1) {
         std::unique_lock lock(_mutex);
-        _changed.wait(lock, [this] { return _begun; });
+        _changed.wait(lock, [&] { return _begun >= count; });
     }
 
 private:
     std::mutex _mutex;
     std::condition_variable _changed;
     bool _open = false;
-    bool _begun = false;
+    int _begun = 0;
     std::atomic<bool> _full{false};
 };
 

@@ -158,6 +158,14 @@ TEST_F(ImagesUndoManagerTest, TheOldestStepGoesWithItsImage) {
     EXPECT_FALSE(QFile::exists(history->pathWithName("InitString")));
     EXPECT_EQ(history->undoItems().first(), second);
     expectSteps(*history, 1, 5);
+    // Deliberate: when the limit was lowered, two go with each step until it is kept.
+    history->setUndoStepCount(1);
+    for (const int left : {3, 2, 1, 1}) {
+        add(*history, 6, 6);
+        EXPECT_EQ(history->undoItems().size(), left);
+    }
+    history->waitForWrites();
+    EXPECT_EQ(history->curCacheCount() + entries(history->tempDirectory()).size(), 2);
 }
 
 // Writes in progress
@@ -182,7 +190,7 @@ TEST_F(ImagesUndoManagerTest, AWriteThatIsOvertakenLeavesNoFile) {
         GatedHistory history(gate);
         history.setMaxCacheCount(0);
         history.addItemWithImageData(sketch(1));
-        gate.awaitWrite();
+        gate.awaitWrites();
         if (stepGoes) {
             history.addItemWithString("other");
             history.reset();
@@ -207,7 +215,7 @@ TEST_F(ImagesUndoManagerTest, TheLastWriteOfANameWins) {
     GatedHistory history(gate);
     history.setMaxCacheCount(0);
     history.setCurrentItemWithImageData(sketch(1));
-    gate.awaitWrite();
+    gate.awaitWrites();
     history.setCurrentItemWithImageData(sketch(2, 1000));
     EXPECT_TRUE(history.currentImageDataOfItem() == sketch(2, 1000)) << "on its way to the disk";
     gate.open();
@@ -297,6 +305,31 @@ TEST_F(ImagesUndoManagerTest, WritesAndDeletesFilesOfAnyPath) {
     EXPECT_EQ(QImage(file).size(), QSize(3, 2));
 }
 
+TEST_F(ImagesUndoManagerTest, FilesWrittenByHandDoNotReplaceWhatIsInMemory) {
+    auto history = ImagesUndoManager::initWithCurrentImageOfData(sketch(1));
+    const QString file = history->currentPathOfItem();
+    history->removeOneObjectFromCache();
+    history->waitForWrites();
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(1)) << "in memory and in its file";
+    for (const QByteArray& data : {sketch(2), QByteArray()}) {
+        history->writeData(data, file);
+        history->waitForWrites();
+        EXPECT_EQ(QFile::exists(file), !data.isNull());
+        EXPECT_EQ(history->curCacheCount(), 1);
+        EXPECT_TRUE(history->currentImageDataOfItem() == sketch(1));
+    }
+    for (int i = 0; i < 2; ++i) {
+        history->writeData(sketch(2), file);
+        history->removeOneObjectFromCache();
+        history->waitForWrites();
+        EXPECT_TRUE(history->currentImageDataOfItem() == sketch(1));
+    }
+    history->removeOneObjectFromCache();
+    history->writeData(sketch(2), file);
+    history->waitForWrites();
+    EXPECT_TRUE(history->currentImageDataOfItem() == sketch(2)) << "in its file only";
+}
+
 TEST_F(ImagesUndoManagerTest, NamesThatAreNoFileNamesStayInMemory) {
     auto history = ImagesUndoManager::init();
     history->setMaxCacheCount(0);
@@ -323,14 +356,45 @@ TEST_F(ImagesUndoManagerTest, MovesToAnotherFolderWithItsSteps) {
     expectSteps(*history, 0, 2);
 
     auto other = ImagesUndoManager::init();
-    const LogCapture log;
+    EXPECT_TRUE(other->setTempDirectory(other->tempDirectory() + "/"));
+    ASSERT_TRUE(QFile::link(inCache("mine"), inCache("link")));
+    LogCapture log;
     EXPECT_FALSE(other->setTempDirectory(inCache("mine")));
+    EXPECT_FALSE(other->setTempDirectory(inCache("link")));
     EXPECT_FALSE(other->setTempDirectory(inCache("mine/letter")));
     EXPECT_FALSE(other->setTempDirectory(other->tempDirectory() + "/inside"));
-    EXPECT_EQ(log.lines().size(), 3);
+    EXPECT_EQ(log.lines().size(), 4);
     history->clearAllTempFiles();
     history.reset();
     EXPECT_EQ(entries(inCache("mine")), QStringList("letter")) << "what was there stays, and nothing else";
+
+    // A file that cannot be moved costs no step.
+    other->setFilePathExtension(QString());
+    other->setCurrentItemWithImageData(sketch(0));
+    other->removeOneObjectFromCache();
+    other->waitForWrites();
+    ASSERT_TRUE(QDir().mkpath(inCache("mine/InitString")));
+    EXPECT_TRUE(other->setTempDirectory(inCache("mine")));
+    EXPECT_TRUE(other->currentImageDataOfItem() == sketch(0));
+}
+
+TEST_F(ImagesUndoManagerTest, MovesOnlyWhenWritesHaveEnded) {
+    WriteGate gate;
+    GatedHistory history(gate);
+    history.setMaxCacheCount(0);
+    history.addItemWithImageData(sketch(1));
+    gate.awaitWrites();
+    const QString other = inCache("other");
+    std::thread opener([&] {
+        while (!QFile::exists(other)) {
+            std::this_thread::yield();
+        }
+        gate.open();
+    });
+    EXPECT_TRUE(history.setTempDirectory(other));
+    opener.join();
+    EXPECT_EQ(entries(other).size(), 1);
+    EXPECT_TRUE(history.currentImageDataOfItem() == sketch(1));
 }
 
 TEST_F(ImagesUndoManagerTest, TheApplicationsEndEmptiesTheFolder) {

@@ -87,6 +87,18 @@ TEST_F(CanvasPreviewTest, ReachesTheCanvasInTheOrderOfStrokes) {
     EXPECT_EQ(both.pixelColor(70, 40), QColor(255, 0, 0));
     EXPECT_TRUE(canvas->edited());
 
+    // Undo takes back the stroke that ended last, placed or not.
+    canvas->setAutoMark(true);
+    canvas->markAction();
+    useLeaf(*canvas);
+    begin(*canvas, QRectF(20, 20, 100, 100));
+    canvas->drawingWithEndPoint({20, 120});
+    EXPECT_TRUE(canvas->leafDrawView().isPending());
+    EXPECT_FALSE(canvas->undo().isNull());
+    EXPECT_TRUE(imagesMatch(canvas->image(), both));
+    EXPECT_TRUE(canvas->canRedo());
+    canvas->setAutoMark(false);
+
     // Dabs drawn by hand lie above it, too.
     canvas->clear();
     useLeaf(*canvas);

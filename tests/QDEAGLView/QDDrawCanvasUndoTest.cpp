@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include <sys/resource.h>
+
+#include <QFile>
 #include <string>
 #include <vector>
 
 #include "History/ImagesUndoManager.h"
+#include "History/Packing.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
+#include "support/LogCapture.h"
 
 namespace {
 
@@ -113,6 +118,11 @@ TEST_F(CanvasUndoTest, TheDelegateHearsOfChangesOnly) {
     EXPECT_EQ(statuses.take(), Told{"no undo"});
     EXPECT_FALSE(canvas->canUndo());
     EXPECT_TRUE(imagesMatch(canvas->image(), present));
+    canvas->setAutoMark(false);
+    const QImage drawn = paint(75);
+    canvas->resetUndoManager();
+    EXPECT_TRUE(canvas->markAction().isNull()) << "nothing was drawn since";
+    EXPECT_TRUE(imagesMatch(canvas->image(), drawn));
 }
 
 TEST_F(CanvasUndoTest, MarksOnlyWhatWasDrawnAndNotTooOften) {
@@ -135,6 +145,23 @@ TEST_F(CanvasUndoTest, MarksOnlyWhatWasDrawnAndNotTooOften) {
     canvas->undo();
     EXPECT_FALSE(painted(canvas->image()).isEmpty());
 
+    // The interval holds from when it is set, before the first step too.
+    for (const bool loaded : {false, true}) {
+        auto fresh = makeCanvas(120, 90);
+        fresh->setAutoMark(true);
+        fresh->setMarkTimeInterval(3600);
+        paintWave(*fresh, 20, 12);
+        paintWave(*fresh, 40, 12);
+        EXPECT_EQ(fresh->undoManager().undoItems().size(), 1);
+        if (loaded) {
+            fresh->setMarkTimeInterval(3600);
+            EXPECT_FALSE(fresh->loadUndoManager().isNull());
+            EXPECT_EQ(fresh->markTimeInterval(), 0);
+        }
+        paintWave(*fresh, 60, 12);
+        EXPECT_EQ(fresh->undoManager().undoItems().size(), loaded ? 2 : 1);
+    }
+
     // Not in the middle of a stroke.
     const QImage before = canvas->image();
     canvas->drawingWithBeginPoint({10, 10});
@@ -144,6 +171,66 @@ TEST_F(CanvasUndoTest, MarksOnlyWhatWasDrawnAndNotTooOften) {
     canvas->drawingWithEndPoint({100, 10});
     canvas->undo();
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
+}
+
+TEST_F(CanvasUndoTest, ALostStepClearsTheCanvasAndNothingElse) {
+    paint(20);
+    const QImage last = paint(60);
+    ImagesUndoManager& steps = canvas->undoManager();
+    statuses.take();
+    steps.removeOneObjectFromCache();
+    steps.removeOneObjectFromCache();
+    steps.waitForWrites();
+    ASSERT_TRUE(QFile::remove(steps.pathWithName(steps.undoItems().last())));
+    {
+        const LogCapture log;
+        canvas->undo();
+        EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+    }
+    EXPECT_TRUE(painted(canvas->image()).isEmpty());
+    EXPECT_EQ(statuses.take(), Told{"redo"});
+    EXPECT_FALSE(canvas->redo().isNull());
+    EXPECT_TRUE(imagesMatch(canvas->image(), last));
+}
+
+TEST_F(CanvasUndoTest, WithoutMemoryTheCanvasKeepsItsPicture) {
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    auto large = makeCanvas(4000, 3000);
+    large->setAutoMark(true);
+    large->setDelegate(&statuses);
+    paintWave(*large, 300, 12);
+    paintWave(*large, 600, 12);
+    large->undoManager().waitForCompression();
+    const auto withoutMemory = [&](auto what) {
+        QFile status(QStringLiteral("/proc/self/statm"));
+        EXPECT_TRUE(status.open(QIODevice::ReadOnly));
+        const auto used = status.readAll().split(' ').first().toULongLong() * 4096;
+        rlimit before{};
+        getrlimit(RLIMIT_AS, &before);
+        const rlimit tight{used + (24 << 20), before.rlim_max};
+        setrlimit(RLIMIT_AS, &tight);
+        const bool done = !what().isNull();
+        setrlimit(RLIMIT_AS, &before);
+        return done;
+    };
+    statuses.take();
+    const QImage shown = large->image();
+    if (canPack()) {
+        const LogCapture log;
+        EXPECT_FALSE(withoutMemory([&] { return large->undo(); }));
+        EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+    }
+    EXPECT_TRUE(imagesMatch(large->image(), shown));
+    EXPECT_TRUE(imagesMatch(large->currentImage(), shown));
+    EXPECT_FALSE(large->canRedo());
+    large->setAutoMark(false);
+    paintWave(*large, 900, 12);
+    EXPECT_FALSE(withoutMemory([&] { return large->markAction(); }));
+    EXPECT_EQ(statuses.take(), Told{});
+    EXPECT_FALSE(large->markAction().isNull()) << "the stroke is still to be recorded";
+    EXPECT_FALSE(large->undo().isNull());
+    EXPECT_TRUE(imagesMatch(large->image(), shown));
+#endif
 }
 
 TEST_F(CanvasUndoTest, TheStepLimitDropsTheOldest) {
