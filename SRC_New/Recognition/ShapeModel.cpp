@@ -16,7 +16,7 @@ static_assert(kInputs == ShapeFeatures::kCount,
               "the model was trained on other features: run tools/train_shapes.py");
 
 // A stroke that is no surer a shape than this stays as it was drawn.
-constexpr double kSureEnough = 0.5;
+constexpr double kSureEnough = 0.4;
 
 // In the order of the network's outputs.
 struct Outcome {

@@ -126,7 +126,7 @@ class Network:
             out.write("// clang-format on\n")
 
 
-def kinds_of(chances, sure=0.5):
+def kinds_of(chances, sure=0.4):
     """The judged kind of each row, as kSureEnough in ShapeModel.cpp has it, and the chances of all kinds."""
     kinds = np.zeros((len(chances), len(KINDS)))
     for outcome, kind in enumerate(KIND_OF):
