@@ -214,11 +214,9 @@ TEST_F(CanvasRecognitionTest, TheRecordedCanvasFollowsTheCanvas) {
     EXPECT_TRUE(isCanvas()) << "after a line";
     canvas->clearWithColor(ESColor::grey(0.5f), true);
     EXPECT_TRUE(isCanvas()) << "after a clear";
-    canvas->setImage(solidImage({33, 21}, Qt::red), QRectF(80, 60, 33, 21));
+    canvas->drawPoint({100, 80}, 40);  // in a layer as yet
+    canvas->updateImage(true);
     const QByteArray picture = bytesOf(*canvas);
-    canvas->loadUndoManager();  // which begins with the canvas as it was made
-    scribble(*canvas);
-    EXPECT_EQ(bytesOf(*canvas), picture);
     canvas->setCurImageData(QByteArray(7, '\0'));  // which is no canvas
     scribble(*canvas);
     EXPECT_EQ(bytesOf(*canvas), picture);
@@ -227,6 +225,21 @@ TEST_F(CanvasRecognitionTest, TheRecordedCanvasFollowsTheCanvas) {
     scribble(*canvas);
     EXPECT_EQ(canvas->image().pixelColor(100, 75).alpha(), 0);
     EXPECT_EQ(canvas->image().pixelColor(5, 5).alpha(), 255);
+}
+
+TEST_F(CanvasRecognitionTest, AHistoryMadeLateKeepsThePicture) {
+    for (const bool inStroke : {false, true}) {
+        auto canvas = makeCanvas(201, 151);
+        canvas->setImage(patternImage({201, 151}), QRectF(0, 0, 201, 151));
+        canvas->setEnableRecogition(true);
+        const QByteArray picture = bytesOf(*canvas);
+        if (inStroke) {
+            sketchLine(*canvas);
+        }
+        canvas->loadUndoManager();  // which begins with the canvas as it was made
+        inStroke ? endTangled(*canvas) : scribble(*canvas);
+        EXPECT_EQ(bytesOf(*canvas), picture);
+    }
 }
 
 TEST_F(CanvasRecognitionTest, UndoGivesTheStepWhateverIsFinishedOnTheWay) {
