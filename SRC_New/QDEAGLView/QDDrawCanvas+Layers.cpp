@@ -189,6 +189,7 @@ void QDDrawCanvas::updateBGImage(const QByteArray& mark) {
     if (!current) {
         return;
     }
+    settleSketch();
     compositePending();
     const StageTimer timer(*this, Stage::compositing);
     _esContext->beginRenderForType(ESRenderTypeCanvas);

@@ -307,7 +307,7 @@ public:
     QRectF scissorRect() const { return _scissorRect; }
     void setScissorRect(const QRectF& rect);
     // A recorded canvas: readData() of all of it. Empty for none. While enableRecogition() is on it is the canvas
-    // without the present stroke, and what that is taken back to.
+    // without the present stroke, and what that is taken back to, be it another picture that the host sets.
     QByteArray curImageData() const { return _curImageData; }
     void setCurImageData(const QByteArray& data);
     // Everything that was composited or placed since the last clear, in buffer pixels.
@@ -646,6 +646,7 @@ private:
     QByteArray snapshot(int line);
     void refreshImageData(int line);
     bool refreshImageData(const QRect& part);
+    void takeImageData(const QByteArray& data);
     ImagesUndoManager& history();
     QByteArray autoMarked();
     QByteArray step(bool (ImagesUndoManager::*go)());
@@ -763,7 +764,8 @@ private:
     bool _globalScissor = false;
     QRectF _scissorRect;
     QByteArray _curImageData;
-    QRectF _imageStale;  // where it may differ from the canvas, in buffer pixels
+    QRectF _imageStale;          // where it may differ from the canvas, in buffer pixels
+    bool _imageIsGiven = false;  // by the host
 
     bool _profiling = false;
     StrokeStats _stats;

@@ -225,6 +225,8 @@ TEST_F(CanvasRecognitionTest, TheRecordedCanvasFollowsTheCanvas) {
     scribble(*canvas);
     EXPECT_EQ(canvas->image().pixelColor(100, 75).alpha(), 0);
     EXPECT_EQ(canvas->image().pixelColor(5, 5).alpha(), 255);
+    canvas->updateBGImage();
+    EXPECT_TRUE(isCanvas()) << "recorded again";
 }
 
 TEST_F(CanvasRecognitionTest, AHistoryMadeLateKeepsThePicture) {
@@ -270,6 +272,7 @@ TEST_F(CanvasRecognitionTest, WhatHappensInMidStrokeHappensToTheCanvasWithoutThe
         {"clear but for layers", [](QDDrawCanvas& c) { c.clearESBufferWithColor(ESColor::grey(1), true); }},
         {"step", [](QDDrawCanvas& c) { c.markAction(); }},
         {"first step", [](QDDrawCanvas& c) { c.resetUndoManager(); }},
+        {"new background", [](QDDrawCanvas& c) { c.updateBGImage(); }},
         {"second line", [](QDDrawCanvas& c) { c.setRepeatedlyRenderEnabled(true); }},
         {"other brush", [](QDDrawCanvas& c) { c.setBrushType(3); }},
         {"on again", [](QDDrawCanvas& c) { c.setEnableRecogition(true); }},
