@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Strokes that are meant as shapes: a sketch is drawn like any stroke, taken back at its end, and the shape that is
-// recognised in it drawn in its place.
+// Strokes that are meant as shapes: a sketch is drawn like any stroke, taken
+// back at its end, and the shape that is recognised in it drawn in its place.
 #include <utility>
 #include <vector>
 
