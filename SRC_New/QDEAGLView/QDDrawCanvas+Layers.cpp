@@ -189,6 +189,7 @@ void QDDrawCanvas::updateBGImage(const QByteArray& mark) {
     if (!current) {
         return;
     }
+    settleSketch();
     compositePending();
     const StageTimer timer(*this, Stage::compositing);
     _esContext->beginRenderForType(ESRenderTypeCanvas);
@@ -251,7 +252,6 @@ void QDDrawCanvas::clearOnline(bool online) {
 
 void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
     _leafDrawView->finishPending();
-    settleSketch();
     setEdited(true);
     _pending.clear();  // it would be cleared at once
     // All that a layer holds, not just what the present stroke's line drew there.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Strokes that are meant as shapes: a sketch is drawn like any stroke, taken back at its end, and the shape that is
-// recognised in it drawn in its place.
+// Strokes that are meant as shapes: a sketch is drawn like any stroke, taken
+// back at its end, and the shape that is recognised in it drawn in its place.
 #include <utility>
 #include <vector>
 
@@ -64,7 +64,9 @@ void QDDrawCanvas::setEnableRecogition(bool value) {
 
 // The points are kept in buffer pixels: recogPointScale may change before they are recognised.
 void QDDrawCanvas::beginSketch(QPointF point) {
-    refreshImageData(kRecognitionLine);
+    if (!_imageIsGiven) {
+        refreshImageData(kRecognitionLine);
+    }
     _editedBefore = _edited;
     _points.assign(1, {point.x(), point.y()});
     _isSketch = true;
@@ -96,14 +98,18 @@ void QDDrawCanvas::takeBackSketch() {
     if (area.isEmpty()) {
         return;
     }
+    QImage rows;
     if (_curImageData.size() == snapshotBytes()) {
-        // The same bytes for the canvas and its background.
-        const QImage rows(reinterpret_cast<const uchar*>(_curImageData.constData()), buffer.width(),
-                          buffer.height(), qsizetype{buffer.width()} * 4,
-                          QImage::Format_RGBA8888_Premultiplied);
+        const QImage all(reinterpret_cast<const uchar*>(_curImageData.constData()), buffer.width(),
+                         buffer.height(), qsizetype{buffer.width()} * 4,
+                         QImage::Format_RGBA8888_Premultiplied);
         const int bottom = buffer.height() - area.y() - area.height();
+        rows = all.copy(area.x(), bottom, area.width(), area.height());
+    }
+    if (!rows.isNull()) {
+        // The same bytes for the canvas and its background.
         _esContext->beginRenderForType(ESRenderTypeCanvas);
-        _esRender->copyToBG(rows.copy(area.x(), bottom, area.width(), area.height()), area);
+        _esRender->copyToBG(rows, area);
         _esContext->finishRender();
         noteChanged(area);
         redisplayBufferRect(area);

@@ -168,7 +168,6 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
 
 void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
     if (_brush.enableRecogition) {
-        settleLayers();  // what was drawn without a stroke is not to be taken back with it
         beginSketch(point);
     }
     _lineRenderRect = QRectF();

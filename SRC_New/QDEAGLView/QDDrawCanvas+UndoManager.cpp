@@ -77,11 +77,12 @@ void QDDrawCanvas::refreshImageData(int line) {
     if (_curImageData.size() == snapshotBytes() && areaOf(stale) <= areaOf(whole) / 2) {
         if (stale.isEmpty() || refreshImageData(stale)) {
             _imageStale = QRectF();
+            _imageIsGiven = false;
             return;
         }
     }
     _curImageData = {};  // before there is a second one
-    setCurImageData(snapshot(line));
+    takeImageData(snapshot(line));
 }
 
 bool QDDrawCanvas::refreshImageData(const QRect& part) {
@@ -103,9 +104,18 @@ bool QDDrawCanvas::refreshImageData(const QRect& part) {
     return true;
 }
 
-void QDDrawCanvas::setCurImageData(const QByteArray& data) {
+// The canvas as it is.
+void QDDrawCanvas::takeImageData(const QByteArray& data) {
     _curImageData = data;
     _imageStale = QRectF();
+    _imageIsGiven = false;
+}
+
+// Any other picture: sketches are taken back to it until the canvas is recorded the next time.
+void QDDrawCanvas::setCurImageData(const QByteArray& data) {
+    _curImageData = data;
+    _imageStale = QRectF(QPointF(0, 0), bufferSize());
+    _imageIsGiven = data.size() == snapshotBytes();
 }
 
 void QDDrawCanvas::setEdited(bool edited) {
@@ -125,8 +135,8 @@ ImagesUndoManager& QDDrawCanvas::history() {
             _undoManager->resetWithImageDataOfCurrentItem(blank);
         }
         if (!_isSketch) {  // which has yet to be taken back
-            _curImageData = blank;
-            _imageStale = QRectF(QPointF(0, 0), bufferSize());
+            setCurImageData(blank);
+            _imageIsGiven = false;
         }
         _undoManager->setFilePathExtension({});  // raw pixels
     }
@@ -150,7 +160,7 @@ QByteArray QDDrawCanvas::resetUndoManager() {
         images.resetWithImageDataOfCurrentItem(images.currentImageDataOfItem());
         return {};
     }
-    setCurImageData(data);
+    takeImageData(data);
     setEdited(false);
     images.resetWithImageDataOfCurrentItem(data);
     return data;
@@ -172,7 +182,7 @@ QByteArray QDDrawCanvas::markAction() {
         qCWarning(lcDabcanvas, "Create Buffer Error!");
         return {};
     }
-    setCurImageData(data);
+    takeImageData(data);
     setEdited(false);
     images.addItemWithImageData(data);
     return data;
@@ -228,7 +238,7 @@ QByteArray QDDrawCanvas::step(HistoryStep go, HistoryStep back) {
         _curImageData = data;
         const QSizeF size = bufferSize();
         setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true);
-        setCurImageData(data);  // dabs that were finished on the way may have changed it
+        takeImageData(data);  // dabs that were finished on the way may have changed it
         if (isSmudgeType()) {
             updateSmudgeBGTexture();
         }

@@ -125,15 +125,16 @@ public:
 
     // ---- Shapes ----
 
-    // While enableRecogition() is on, a stroke is only a sketch: at its end it is taken off the canvas, and where it
-    // was meant as a shape, that shape is drawn in its place, as one step of the history. A stroke that is none, or
-    // of 4 points or fewer, or without an end, leaves the canvas and edited() as they were. Brush types 3 and 4 draw
-    // plain dabs meanwhile. Switching in mid-stroke leaves what was drawn of it so far.
+    // While enableRecogition() is on, a stroke is only a sketch: at its end it is taken off the canvas, and
+    // where it was meant as a shape, that shape is drawn in its place, as one step of the history. A stroke
+    // that is none, or of 4 points or fewer, or without an end, leaves the canvas and edited() as they were.
+    // Brush types 3 and 4 draw plain dabs meanwhile. Switching in mid-stroke leaves what was drawn of it so
+    // far.
 
-    // Draws a shape's outline with the present brush, at full pressure and without the tapers of a stroke, and
-    // records a step when autoMark() is on. The record's unit is the one that points are recognised in: buffer
-    // pixels divided by recogPointScale(). False, and nothing drawn, for none; after a log line in mid-stroke and for
-    // a record that lacks corners or is not finite or beyond reason.
+    // Draws a shape's outline with the present brush, at full pressure and without the tapers of a stroke,
+    // and records a step when autoMark() is on. The record's unit is the one that points are recognised in:
+    // buffer pixels divided by recogPointScale(). False, and nothing drawn, for none; after a log line in
+    // mid-stroke and for a record that lacks corners or is not finite or beyond reason.
     bool drawShape(const ShapeRecord& shape);
 
     // Kept for callers; they lock nothing.
@@ -306,8 +307,9 @@ public:
     void setGlobalScissor(bool value) { _globalScissor = value; }
     QRectF scissorRect() const { return _scissorRect; }
     void setScissorRect(const QRectF& rect);
-    // A recorded canvas: readData() of all of it. Empty for none. While enableRecogition() is on it is the canvas
-    // without the present stroke, and what that is taken back to.
+    // A recorded canvas: readData() of all of it. Empty for none. While enableRecogition() is on it is the
+    // canvas without the present stroke, and what that is taken back to, be it another picture that the host
+    // sets.
     QByteArray curImageData() const { return _curImageData; }
     void setCurImageData(const QByteArray& data);
     // Everything that was composited or placed since the last clear, in buffer pixels.
@@ -648,6 +650,7 @@ private:
     QByteArray snapshot(int line);
     void refreshImageData(int line);
     bool refreshImageData(const QRect& part);
+    void takeImageData(const QByteArray& data);
     ImagesUndoManager& history();
     QByteArray autoMarked();
     using HistoryStep = bool (ImagesUndoManager::*)();
@@ -769,7 +772,8 @@ private:
     bool _globalScissor = false;
     QRectF _scissorRect;
     QByteArray _curImageData;
-    QRectF _imageStale;  // where it may differ from the canvas, in buffer pixels
+    QRectF _imageStale;          // where it may differ from the canvas, in buffer pixels
+    bool _imageIsGiven = false;  // by the host
 
     bool _profiling = false;
     StrokeStats _stats;

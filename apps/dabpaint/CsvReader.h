@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Comma-separated values, row by row: fields in double quotes may hold commas, line ends and, doubled, quotes. Lines
-// end with LF, CR or both; blank ones are left out, as is a byte order mark.
+// Comma-separated values, row by row: fields in double quotes may hold commas, line ends and, doubled, quotes.
+// Lines end with LF, CR or both; blank ones are left out, as is a byte order mark.
 #pragma once
 
 #include <deque>

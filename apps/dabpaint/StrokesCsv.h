@@ -16,8 +16,8 @@ struct NamedStroke {
     std::vector<ShapePoint> points;  // in the order of their rows
 };
 
-// The strokes in the order in which their names first come; the rows of one need not follow each other. The first row
-// names the columns. Linear in the size of the bytes.
+// The strokes in the order in which their names first come; the rows of one need not follow each other. The
+// first row names the columns. Linear in the size of the bytes.
 Result<std::vector<NamedStroke>> readStrokesCsv(const QByteArray& bytes);
 
 // Appends text as one field, in quotes where it needs them.
