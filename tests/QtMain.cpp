@@ -6,15 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 int main(int argc, char** argv) {
-#ifdef __GLIBC__
-    // Large blocks go back to the system when they are freed: tests that take the memory away find none left over.
-    mallopt(M_MMAP_THRESHOLD, 1 << 20);
-#endif
     ::testing::InitGoogleTest(&argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");  // no display is needed, and none may be there
