@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Makes the sample recordings of samples/: a painting, a signature and a sketch.
+"""Makes the sample recordings of samples/: a painting, a signature, a sketch and some shapes.
 
 Needs nothing but Python 3; the same bytes come out every time.
 
     tools/make_samples.py [folder]     the default is samples beside this folder
 """
 
+import json
 import math
 import sys
 from pathlib import Path
@@ -119,10 +120,50 @@ def sketch():
     return "".join(rows)
 
 
+# Shapes as a hand draws them, and two strokes that are none. Corners, in the order drawn.
+SHAPES = (
+    ("#20506e", [(60, 92), (330, 84)]),
+    ("#20506e", [(392, 60), (422, 122), (508, 34)]),
+    ("#20506e", [(640, 52), (566, 56), (562, 136), (644, 140)]),
+    ("#a03c28", [(96, 226), (302, 218), (310, 356), (92, 364), (94, 230)]),
+    ("#a03c28", [(434, 216), (528, 360), (352, 356), (430, 222)]),
+    ("#a03c28", [(632, 226), (800, 220), (740, 352), (566, 358), (630, 230)]),
+    ("#2f6b3a", [(150 + 78 * math.cos(0.2 * i - 1.4), 486 + 74 * math.sin(0.2 * i - 1.4)) for i in range(33)]),
+    ("#2f6b3a", [(394 + 108 * math.cos(0.2 * i) - 14 * math.sin(0.2 * i), 488 + 46 * math.sin(0.2 * i))
+                 for i in range(32)]),
+    ("#2f6b3a", [(610 + 88 * math.cos(0.15 * i + 2.9), 530 + 86 * math.sin(0.15 * i + 2.9)) for i in range(26)]),
+    ("#6a4a8c", [(716, 132), (872, 46), (824, 48), (870, 44), (854, 92)]),
+    ("#7a7a7a", [(760, 440), (792, 410), (824, 440), (856, 474), (888, 442), (920, 408), (948, 436)]),
+    ("#7a7a7a", [(840 + (6 + 4.2 * i) * math.cos(0.5 * i), 576 + (6 + 2.6 * i) * math.sin(0.5 * i)) for i in range(25)]),
+)
+
+
+def shapes():
+    hand = Hand(31)
+    strokes = []
+    for colour, corners in SHAPES:
+        points = corners[:1]
+        straight = len(corners) < 7  # the others are curves already
+        for corner in corners[1:]:
+            pieces = max(2, int(math.dist(points[-1], corner) / 14)) if straight else 1
+            x, y = points[-1]
+            bow = hand.around(0, 3) if straight else 0
+            for piece in range(1, pieces + 1):
+                share = piece / pieces
+                lean = bow * math.sin(math.pi * share)
+                points.append((x + (corner[0] - x) * share + lean, y + (corner[1] - y) * share + lean))
+        samples = hand.trace(points, pace=7, tremor=1.0, pressure=(0.35, 0.8, 0.4), rise=0.06, fall=0.1)
+        strokes.append({"set": {"radius": 9, "renderColor": colour}, "samples": samples})
+    head = {"canvas": {"width": 980, "height": 680, "background": "#fbf8f0ff"}}
+    lines = ",\n".join(json.dumps(stroke) for stroke in strokes)
+    return json.dumps(head)[:-1] + ',\n"strokes":[\n' + lines + "\n]}\n"
+
+
 def main():
     folder = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).resolve().parent.parent / "samples"
     folder.mkdir(parents=True, exist_ok=True)
-    for name, text in (("garden.json", painting()), ("signature.inkml", signature()), ("sketch.dat", sketch())):
+    for name, text in (("garden.json", painting()), ("signature.inkml", signature()), ("sketch.dat", sketch()),
+                       ("shapes.json", shapes())):
         (folder / name).write_text(text, encoding="utf-8", newline="\n")
 
 

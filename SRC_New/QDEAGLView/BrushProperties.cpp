@@ -27,7 +27,7 @@ const BrushProperty kBrushProperties[] = {
     {.key = K::isDebug, .name = "isDebug", .group = G::brush, .field = &B::isDebug, .set = &C::setIsDebug,
      .about = "Switches off the smudge behaviour of brush type 3."},
     {.key = K::enableRecogition, .name = "enableRecogition", .group = G::recognition, .field = &B::enableRecogition, .set = &C::setEnableRecogition,
-     .about = "Marks strokes as shapes to be recognised; brush type 3 does not smudge meanwhile."},
+     .about = "Puts the shape that a stroke was meant as in its place, or nothing; brush types 3 and 4 draw plain dabs meanwhile."},
     {.key = K::gaussianRadius, .name = "gaussianRadius", .group = G::brush, .field = &B::gaussianRadius, .set = &C::setGaussianRadius, .created = 1, .low = 1,
      .about = "Blur of the live preview brush when its stroke is placed, in preview pixels."},
     {.key = K::blendType, .name = "blendType", .group = G::brush, .presetId = 0x1002, .reset = 1, .field = &B::blendType, .set = &C::setBlendType, .created = 1,

@@ -253,7 +253,7 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
     if (!putOnCanvas(source, size, centre, radian)) {
         return false;
     }
-    _edited = _edited || !isUndo;
+    setEdited(_edited || !isUndo);
     redisplayAll();
     if (!_neglectTextureUpdate) {
         updateBGImage(isUndo ? _curImageData : autoMarked());  // which may call the delegate

@@ -184,11 +184,12 @@ void QDDrawCanvas::resetWithRenderRect(const QRectF& area) {
     redisplayBufferRect(rect);
 }
 
-void QDDrawCanvas::updateBGImage(const QByteArray&) {
+void QDDrawCanvas::updateBGImage(const QByteArray& mark) {
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return;
     }
+    settleSketch();
     compositePending();
     const StageTimer timer(*this, Stage::compositing);
     _esContext->beginRenderForType(ESRenderTypeCanvas);
@@ -197,6 +198,9 @@ void QDDrawCanvas::updateBGImage(const QByteArray&) {
     }
     _updateRect = QRectF();
     _mayMergePending = true;
+    if (mark.isNull() && _brush.enableRecogition) {
+        refreshImageData(kBackgroundLine);  // a step that was recorded has the picture already
+    }
 }
 
 // ---- Clearing
@@ -248,7 +252,7 @@ void QDDrawCanvas::clearOnline(bool online) {
 
 void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
     _leafDrawView->finishPending();
-    _edited = true;
+    setEdited(true);
     _pending.clear();  // it would be cleared at once
     // All that a layer holds, not just what the present stroke's line drew there.
     mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
@@ -269,6 +273,7 @@ void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
         if (!current) {
             return;
         }
+        settleSketch();
         _pending.clear();
         _esContext->beginRenderForType(ESRenderTypeCanvas);
         const QRectF whole(QPointF(0, 0), bufferSize());
@@ -323,6 +328,7 @@ void QDDrawCanvas::noteChanged(const QRectF& rect) {
     const QRect changed = rect.toAlignedRect() & QRect(QPoint(0, 0), bufferSize().toSize());
     _staleRect = _staleRect.united(changed);
     mergeRect(_smudgeStale, changed);
+    mergeRect(_imageStale, changed);
 }
 
 void QDDrawCanvas::redisplayBufferRect(const QRectF& rect) {

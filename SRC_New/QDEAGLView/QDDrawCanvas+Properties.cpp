@@ -238,14 +238,6 @@ void QDDrawCanvas::setIsDebug(bool value) {
     assign(BrushKey::isDebug, value);
 }
 
-void QDDrawCanvas::setEnableRecogition(bool value) {
-    const bool changes = settleStrokeKind(_brush.brushType, _brush.isDebug, value);
-    assign(BrushKey::enableRecogition, value);
-    if (changes && isSmudgeType()) {
-        updateSmudgeBGTexture();
-    }
-}
-
 void QDDrawCanvas::setBlendType(std::int32_t value) {
     const ESCurrentScope current(*_esContext);
     if (!current) {

@@ -88,6 +88,7 @@ void QDDrawCanvas::drawingWithBeginPoint(QPointF point, float pressure, float al
     _leafDrawView->finishPending();  // strokes come onto the canvas in their order
     if (_stroke == Stroke::drawing) {
         finishLayers();  // a stroke that was never ended stays as it is
+        _isSketch = false;
     }
     _stroke = Stroke::awaited;
     if (!acceptsSample(point, pressure, altitude)) {
@@ -129,6 +130,9 @@ void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float a
         const bool firstMove = !std::exchange(_isAppendLine, true);
         takeSample(point, pressure, altitude);
         drawSegment(point, pressure, altitude, false, firstMove, online);
+        if (_isSketch) {
+            _points.push_back({point.x(), point.y()});
+        }
     }
     tell(&QDDrawViewDelegate::drawViewDidDrawMove, point);
 }
@@ -150,6 +154,8 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
     _isAppendLine = true;
     if (_stroke != Stroke::drawing) {
         // A callback ended it, and is told of the end all the same.
+    } else if (_isSketch) {
+        endSketch(point, online);
     } else if (usesPreview()) {
         _leafDrawView->drawWithEnd(point);  // which places the stroke, later
     } else {
@@ -161,6 +167,9 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
 }
 
 void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
+    if (_brush.enableRecogition) {
+        beginSketch(point);
+    }
     _lineRenderRect = QRectF();
     _subLineRenderRect = QRectF();
     _strokeRect = QRectF();
@@ -196,8 +205,9 @@ void QDDrawCanvas::takeSample(QPointF point, float pressure, float altitude) {
     _lastAltitude = altitude;
 }
 
-// Between strokes the layers are empty and the background is the canvas.
+// Between strokes the layers are empty and the background is the canvas. A sketch stays on neither.
 void QDDrawCanvas::finishLayers(bool asStep) {
+    settleSketch();
     mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
     clearExtenBuffer();
     // Also of a sub-line that was switched off in the middle of the stroke.
@@ -226,6 +236,11 @@ void QDDrawCanvas::withdrawStroke(QPointF point) {
     if (!current) {
         return;
     }
+    if (_isSketch) {
+        takeBackSketch();
+        _isSketch = false;
+        return;
+    }
     _pending.clear();  // all of it lies within what is repainted
     for (const ESRenderType layer : {ESRenderTypeLine, ESRenderTypeSubLine}) {
         mergeRect(layer == ESRenderTypeLine ? _lineRenderRect : _subLineRenderRect, _layerContent[layer]);
@@ -247,6 +262,7 @@ void QDDrawCanvas::dropStroke() {
         _leafDrawView->drawWithCanceled(_lastRenderObject);
     } else {
         finishLayers();
+        _isSketch = false;
     }
 }
 

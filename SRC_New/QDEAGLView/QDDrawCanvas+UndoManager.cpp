@@ -2,6 +2,7 @@
 // Undo and redo: whole pictures of the canvas, kept by an ImagesUndoManager.
 #include <QDateTime>
 #include <cstdio>
+#include <cstring>
 #include <new>
 #include <utility>
 
@@ -68,6 +69,59 @@ QByteArray QDDrawCanvas::snapshot(int line) {
     return data;
 }
 
+// Brings curImageData() up to the canvas; only what changed since is read. Empty without the memory.
+void QDDrawCanvas::refreshImageData(int line) {
+    const QRect whole(QPoint(0, 0), bufferSize().toSize());
+    const QRect stale = _imageStale.toAlignedRect() & whole;
+    const auto areaOf = [](const QRect& rect) { return qint64{rect.width()} * rect.height(); };
+    if (_curImageData.size() == snapshotBytes() && areaOf(stale) <= areaOf(whole) / 2) {
+        if (stale.isEmpty() || refreshImageData(stale)) {
+            _imageStale = QRectF();
+            _imageIsGiven = false;
+            return;
+        }
+    }
+    _curImageData = {};  // before there is a second one
+    takeImageData(snapshot(line));
+}
+
+bool QDDrawCanvas::refreshImageData(const QRect& part) {
+    const qsizetype rowBytes = qsizetype{part.width()} * 4;
+    QByteArray rows = bytesOf(rowBytes * part.height());
+    if (rows.isNull() || !readDataBufferRect(reinterpret_cast<unsigned char*>(rows.data()), part)) {
+        return false;
+    }
+    try {
+        _curImageData.detach();  // from the history, which keeps it as a step
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    const qsizetype bottom = bufferSize().toSize().height() - part.y() - part.height();
+    char* to = _curImageData.data() + (bottom * _esContext->backingWidth() + part.x()) * 4;
+    for (int row = 0; row < part.height(); ++row, to += qsizetype{_esContext->backingWidth()} * 4) {
+        std::memcpy(to, rows.constData() + row * rowBytes, static_cast<std::size_t>(rowBytes));
+    }
+    return true;
+}
+
+// The canvas as it is.
+void QDDrawCanvas::takeImageData(const QByteArray& data) {
+    _curImageData = data;
+    _imageStale = QRectF();
+    _imageIsGiven = false;
+}
+
+// Any other picture: sketches are taken back to it until the canvas is recorded the next time.
+void QDDrawCanvas::setCurImageData(const QByteArray& data) {
+    _curImageData = data;
+    _imageStale = QRectF(QPointF(0, 0), bufferSize());
+    _imageIsGiven = data.size() == snapshotBytes();
+}
+
+void QDDrawCanvas::setEdited(bool edited) {
+    _edited = _editedBefore = edited;
+}
+
 // The history begins with the canvas as it was made. That was transparent, so nothing need be read, and a canvas whose
 // history nobody asks for has none.
 ImagesUndoManager& QDDrawCanvas::history() {
@@ -80,7 +134,10 @@ ImagesUndoManager& QDDrawCanvas::history() {
             _undoManager = ImagesUndoManager::initWithCurrentImageOfData(blank);
             _undoManager->resetWithImageDataOfCurrentItem(blank);
         }
-        _curImageData = blank;
+        if (!_isSketch) {  // which has yet to be taken back
+            setCurImageData(blank);
+            _imageIsGiven = false;
+        }
         _undoManager->setFilePathExtension({});  // raw pixels
     }
     return *_undoManager;
@@ -95,6 +152,7 @@ QByteArray QDDrawCanvas::loadUndoManager() {
 
 QByteArray QDDrawCanvas::resetUndoManager() {
     _leafDrawView->finishPending();
+    settleSketch();
     ImagesUndoManager& images = history();
     const UndoStatus status(*this);
     const QByteArray data = snapshot(kResetLine);
@@ -102,14 +160,15 @@ QByteArray QDDrawCanvas::resetUndoManager() {
         images.resetWithImageDataOfCurrentItem(images.currentImageDataOfItem());
         return {};
     }
-    _curImageData = data;
-    _edited = false;
+    takeImageData(data);
+    setEdited(false);
     images.resetWithImageDataOfCurrentItem(data);
     return data;
 }
 
 QByteArray QDDrawCanvas::markAction() {
     _leafDrawView->finishPending();
+    settleSketch();
     const double time = now();
     if (!_edited || (_autoMark && time - _preTimeInterval < static_cast<double>(_markTimeInterval) &&
                      time >= _preTimeInterval)) {
@@ -123,8 +182,8 @@ QByteArray QDDrawCanvas::markAction() {
         qCWarning(lcDabcanvas, "Create Buffer Error!");
         return {};
     }
-    _curImageData = data;
-    _edited = false;
+    takeImageData(data);
+    setEdited(false);
     images.addItemWithImageData(data);
     return data;
 }
@@ -179,6 +238,7 @@ QByteArray QDDrawCanvas::step(HistoryStep go, HistoryStep back) {
         _curImageData = data;
         const QSizeF size = bufferSize();
         setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true);
+        takeImageData(data);  // dabs that were finished on the way may have changed it
         if (isSmudgeType()) {
             updateSmudgeBGTexture();
         }

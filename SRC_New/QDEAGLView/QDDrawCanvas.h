@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <semaphore>
 #include <vector>
 
 #include "Brushes/TexturesTool.h"
@@ -23,6 +24,7 @@
 #include "QDEAGLView/BrushSettings.h"
 #include "QDEAGLView/QDDrawTouch.h"
 #include "QDEAGLView/QDDrawViewDelegate.h"
+#include "Recognition/ShapeRecord.h"
 
 struct LPLineParams;
 class ESImageRender;
@@ -120,6 +122,20 @@ public:
     // Draws brush type 4. Its strokes are put onto the canvas by the event loop after their end, or as soon as the
     // canvas is read or drawn on.
     LeafDrawing& leafDrawView() { return *_leafDrawView; }
+
+    // ---- Shapes ----
+
+    // While enableRecogition() is on, a stroke is only a sketch: at its end it is taken off the canvas, and
+    // where it was meant as a shape, that shape is drawn in its place, as one step of the history. A stroke
+    // that is none, or of 4 points or fewer, or without an end, leaves the canvas and edited() as they were.
+    // Brush types 3 and 4 draw plain dabs meanwhile. Switching in mid-stroke leaves what was drawn of it so
+    // far.
+
+    // Draws a shape's outline with the present brush, at full pressure and without the tapers of a stroke,
+    // and records a step when autoMark() is on. The record's unit is the one that points are recognised in:
+    // buffer pixels divided by recogPointScale(). False, and nothing drawn, for none; after a log line in
+    // mid-stroke and for a record that lacks corners or is not finite or beyond reason.
+    bool drawShape(const ShapeRecord& shape);
 
     // Kept for callers; they lock nothing.
     void lock() {}
@@ -291,9 +307,11 @@ public:
     void setGlobalScissor(bool value) { _globalScissor = value; }
     QRectF scissorRect() const { return _scissorRect; }
     void setScissorRect(const QRectF& rect);
-    // A recorded canvas: readData() of all of it. Empty for none.
+    // A recorded canvas: readData() of all of it. Empty for none. While enableRecogition() is on it is the
+    // canvas without the present stroke, and what that is taken back to, be it another picture that the host
+    // sets.
     QByteArray curImageData() const { return _curImageData; }
-    void setCurImageData(const QByteArray& data) { _curImageData = data; }
+    void setCurImageData(const QByteArray& data);
     // Everything that was composited or placed since the last clear, in buffer pixels.
     QRectF drawRect() const { return _drawRect; }
 
@@ -370,7 +388,8 @@ public:
     bool isDebug() const { return _brush.isDebug; }
     void setIsDebug(bool value);
     bool enableRecogition() const { return _brush.enableRecogition; }
-    void setEnableRecogition(bool value);
+    void setEnableRecogition(
+        bool value);  // on: takes curImageData() from the canvas, unless autoMark() is on
     float gaussianRadius() const { return _brush.gaussianRadius; }
     void setGaussianRadius(float value);
     std::int32_t blendType() const { return _brush.blendType; }
@@ -599,6 +618,16 @@ private:
     Run appendToLine(LPLineParams& record, QPointF point, float pressure, float altitude, bool end);
     void drawSegment(QPointF point, float pressure, float altitude, bool end, bool dropFirst, bool online);
 
+    // Recognition, in steps
+    void beginSketch(QPointF point);
+    void settleSketch();
+    void takeBackSketch();
+    void endSketch(QPointF point, bool online);
+    bool drawOutline(const ShapeRecord& shape, bool online);
+    QRectF drawRuns(const std::vector<std::vector<LPPoint>>& runs, ESRenderType layer);
+    double recognitionScale() const;
+    void setEdited(bool edited);
+
     void settleDrawn();
     bool settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition);
     void compositePending();
@@ -613,10 +642,15 @@ private:
     void redisplayAll();
 
     // The history
-    static constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;  // of the fixed message
+    // Of the fixed message
+    static constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;
+    static constexpr int kRecognitionLine = 699, kBackgroundLine = 2246;
     struct UndoStatus;
     qsizetype snapshotBytes() const;
     QByteArray snapshot(int line);
+    void refreshImageData(int line);
+    bool refreshImageData(const QRect& part);
+    void takeImageData(const QByteArray& data);
     ImagesUndoManager& history();
     QByteArray autoMarked();
     using HistoryStep = bool (ImagesUndoManager::*)();
@@ -723,6 +757,12 @@ private:
     bool _isProcess = false;      // a stroke is being recognised
     double _lastProcessTime = 0;  // when one last was, in seconds since 1970
 
+    // Of a stroke that is to be recognised
+    bool _isSketch = false;
+    bool _editedBefore = false;       // edited() without it
+    std::vector<ShapePoint> _points;  // buffer pixels
+    std::binary_semaphore _recognizeSemaphore{1};
+
     bool _needScale = false;
     QSizeF _scale{1, 1};
     QSizeF _outScale{1, 1};  // view size over buffer size, whether they differ or not
@@ -732,6 +772,8 @@ private:
     bool _globalScissor = false;
     QRectF _scissorRect;
     QByteArray _curImageData;
+    QRectF _imageStale;          // where it may differ from the canvas, in buffer pixels
+    bool _imageIsGiven = false;  // by the host
 
     bool _profiling = false;
     StrokeStats _stats;

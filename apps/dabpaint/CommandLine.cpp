@@ -153,6 +153,7 @@ CommandLine readPaint(const QStringList& arguments) {
         {"--background", nullptr, true,
          [&](const QString& value) { return takeColor(value, paint.background); }},
         {"--undo", nullptr, true, [&](const QString& value) { return takeCount(value, paint.undo); }},
+        flag("--recognise", paint.recognise),
         flag("--repeatable", paint.repeatable),
         flag("--stats", paint.stats),
         helpFlag(help),
@@ -172,6 +173,37 @@ CommandLine readPaint(const QStringList& arguments) {
     if (paint.stats && paint.output == QLatin1String("-"))
         return UsageFault{QStringLiteral("--stats and -o - would both write to standard output")};
     return paint;
+}
+
+CommandLine readShapes(const QStringList& arguments) {
+    ShapesOptions shapes;
+    bool help = false;
+    const std::vector<Option> options = {
+        outputOption(shapes.output),
+        {"--outlines", nullptr, true,
+         [&](const QString& value) {
+             shapes.outlines = value;
+             return value.isEmpty() ? QStringLiteral("the outlines' name is empty") : QString();
+         }},
+        helpFlag(help)};
+    const QString wrong = walkArguments(arguments, options, [&](const QString& file) {
+        shapes.inputs << file;
+        return QString();
+    });
+    if (help)
+        return HelpOptions{QStringLiteral("shapes")};
+    if (!wrong.isEmpty())
+        return UsageFault{wrong};
+    if (shapes.inputs.isEmpty())
+        shapes.inputs << QStringLiteral("-");
+    if (shapes.output.isEmpty())
+        shapes.output = QStringLiteral("-");
+    if (shapes.output == shapes.outlines)
+        return UsageFault{
+            shapes.output == QLatin1String("-")
+                ? QStringLiteral("the shapes and their outlines would both go to standard output")
+                : QStringLiteral("the shapes and their outlines would both go to %1").arg(shapes.output)};
+    return shapes;
 }
 
 CommandLine readDabs(const QStringList& arguments) {
@@ -304,11 +336,14 @@ int print(const QByteArray& text) {
 
 CommandLine readCommandLine(const QStringList& arguments) {
     if (arguments.isEmpty())
-        return UsageFault{QStringLiteral("a command is missing: paint, preset, dabs, properties or help")};
+        return UsageFault{
+            QStringLiteral("a command is missing: paint, shapes, preset, dabs, properties or help")};
     const QString& command = arguments.first();
     const QStringList rest = arguments.mid(1);
     if (command == QLatin1String("paint"))
         return readPaint(rest);
+    if (command == QLatin1String("shapes"))
+        return readShapes(rest);
     if (command == QLatin1String("preset"))
         return readPreset(rest);
     if (command == QLatin1String("dabs"))
@@ -327,6 +362,7 @@ CommandLine readCommandLine(const QStringList& arguments) {
 int runDabpaint(const QStringList& arguments) {
     return std::visit(Overloaded{
                           [](const PaintOptions& options) { return runPaint(options); },
+                          [](const ShapesOptions& options) { return runShapes(options); },
                           [](const DabsOptions& options) { return runDabs(options); },
                           [](const PresetShowOptions& options) { return runPresetShow(options); },
                           [](const PresetMakeOptions& options) { return runPresetMake(options); },

@@ -9,6 +9,7 @@
 #include "DabsCommand.h"
 #include "PaintCommand.h"
 #include "PresetCommand.h"
+#include "ShapesCommand.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -27,8 +28,8 @@ struct UsageFault {
 };
 
 using CommandLine =
-    std::variant<PaintOptions, DabsOptions, PropertiesOptions, PresetShowOptions, PresetMakeOptions,
-                 PresetPreviewOptions, HelpOptions, VersionOptions, UsageFault>;
+    std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions, PresetShowOptions,
+                 PresetMakeOptions, PresetPreviewOptions, HelpOptions, VersionOptions, UsageFault>;
 
 // Reads the arguments after the program's name. Touches no file.
 CommandLine readCommandLine(const QStringList& arguments);

@@ -51,6 +51,10 @@ std::optional<double> numberFromText(QByteArrayView text) {
 }
 
 void appendNumber(std::string& out, float value) {
+    appendNumber(out, static_cast<double>(value));
+}
+
+void appendNumber(std::string& out, double value) {
     char text[32];
     const auto written = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 9);
     out.append(text, written.ptr);

@@ -19,6 +19,7 @@ std::optional<double> numberFromText(QByteArrayView text);
 
 // Appends what printf's "%.9g" writes, enough to tell every float from its neighbours.
 void appendNumber(std::string& out, float value);
+void appendNumber(std::string& out, double value);
 
 // The shortest text that reads back as the same float.
 QString shortestText(float value);

@@ -163,6 +163,7 @@ private:
             makeRepeatable(*_canvas);
         _canvas->setProfiling(_options.stats);
         _canvas->clearWithColor(ESColor(_job.background), false);
+        _canvas->setEnableRecogition(_options.recognise);
         for (const BrushProperty& property : brushProperties())
             _created.emplace_back(&property, _canvas->brushValue(property));
         const QString wrong = _job.plan.brush() ? useBrush(_job.plan.brush()) : apply(_job.plan.fixed());

@@ -20,7 +20,8 @@ struct PaintOptions {
     QString brush;   // an XBF file; empty for the default brush
     std::vector<Assignment> settings;
     std::optional<QColor> background;
-    int undo = 0;  // strokes taken back at the end
+    int undo = 0;            // strokes taken back at the end
+    bool recognise = false;  // strokes are meant as shapes
     bool repeatable = false;
     bool stats = false;
 };

@@ -10,6 +10,7 @@ constexpr const char* kTool = R"(NAME
 
 SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [OPTION]...
+    dabpaint shapes [INPUT.csv]... [-o OUT.csv] [--outlines OUT.csv]
     dabpaint preset show | make | preview ...
     dabpaint dabs INPUT.json [--header]
     dabpaint properties [--json]
@@ -18,6 +19,7 @@ SYNOPSIS
 
 DESCRIPTION
     paint       paints recordings of pen strokes onto a canvas and writes it as PNG
+    shapes      tells the shapes that strokes were meant as
     preset      shows, makes and previews brush presets
     dabs        runs samples through the line process alone and prints its dabs
     properties  lists the brush properties that paint --set and recordings take
@@ -42,7 +44,7 @@ constexpr const char* kPaint = R"(NAME
 SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [--size WxH] [--brush FILE.xbf]
                    [--set PROPERTY=VALUE]... [--background COLOUR]
-                   [--undo N] [--repeatable] [--stats]
+                   [--undo N] [--recognise] [--repeatable] [--stats]
 
 DESCRIPTION
     Paints the strokes of every RECORDING, in order, onto one canvas and writes
@@ -79,6 +81,11 @@ OPTIONS
 
     --undo N
         Takes the last N strokes back, by undo, before the picture is written.
+
+    --recognise
+        Paints, in place of each stroke, the line, fold line, triangle, rectangle,
+        parallelogram, ellipse, arc or arrow that it was meant as. A stroke that
+        is none of them leaves nothing.
 
     --repeatable
         Takes fixed random numbers, so that two runs give the same bytes.
@@ -135,6 +142,52 @@ EXAMPLES
     dabpaint paint session.dat -o session.png --set radius=24 --set radiusControl=1,0,0
     dabpaint paint session.dat -o chalk.png --brush chalk.xbf --set radius=60
     dabpaint paint a.json b.inkml -o both.png --size 1024x768 --repeatable --stats
+)";
+
+constexpr const char* kShapes = R"(NAME
+    dabpaint shapes - tell the shapes that strokes were meant as
+
+SYNOPSIS
+    dabpaint shapes [INPUT.csv]... [-o OUT.csv] [--outlines OUT.csv]
+
+DESCRIPTION
+    Reads strokes from tables of comma-separated values, one row a point, and
+    prints one row a stroke. The first row of INPUT.csv names the columns, of
+    which sample_id, x and y are read, wherever they stand. The points of a
+    stroke are the rows with its sample_id, in their order; other rows may lie
+    between. Without an INPUT.csv, and for -, standard input is read.
+
+        sample_id,kind,legs,confidence,geometry
+
+    kind        line, foldline, triangle, rectangle, parallelogram, ellipse, arc,
+                arrow or none
+    legs        of a fold line, how many straight legs it has
+    confidence  0 to 1: how sure the kind is
+    geometry    "x y x y ..." of the corners in the order drawn; an arrow's are
+                its tail, tip, one barb's end, the tip again and the other's. Of
+                ellipses and arcs "cx cy a b rotation start end": the centre, the
+                half axes and angles in radians. The point at angle t, with
+                r for rotation, is
+                    x = cx + a cos t cos r + b sin t sin r
+                    y = cy - a cos t sin r + b sin t cos r
+
+    Coordinates may be of any unit; y is taken to point down. Strokes come in the
+    order in which their names do, file by file.
+
+OPTIONS
+    -o OUT.csv, --output OUT.csv
+        Where to write the rows, else standard output. Files appear only whole.
+
+    --outlines OUT.csv
+        Also writes the recognised shapes as polylines, rows "sample_id,x,y". A
+        closed shape ends where it begins.
+
+EXIT STATUS
+    0 done, 1 the work failed, 2 the command line is wrong.
+
+EXAMPLES
+    dabpaint shapes strokes.csv
+    dabpaint shapes a.csv b.csv -o shapes.csv --outlines outlines.csv
 )";
 
 constexpr const char* kPreset = R"(NAME
@@ -264,7 +317,7 @@ constexpr const char* kHelp = R"(NAME
     dabpaint help - print the help of a command
 
 SYNOPSIS
-    dabpaint help [paint | preset | dabs | properties]
+    dabpaint help [paint | shapes | preset | dabs | properties]
 
 DESCRIPTION
     Without a command, prints the help of the tool.
@@ -279,8 +332,8 @@ EXAMPLES
 constexpr struct {
     const char* topic;
     const char* text;
-} kTopics[] = {
-    {"paint", kPaint}, {"preset", kPreset}, {"dabs", kDabs}, {"properties", kProperties}, {"help", kHelp}};
+} kTopics[] = {{"paint", kPaint}, {"shapes", kShapes},         {"preset", kPreset},
+               {"dabs", kDabs},   {"properties", kProperties}, {"help", kHelp}};
 
 }  // namespace
 

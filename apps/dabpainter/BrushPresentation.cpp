@@ -211,7 +211,7 @@ BrushPresentation brushPresentation(const BrushProperty& property) {
     BrushPresentation shown;
     shown.order = int(given ? given - kHints : std::ssize(kHints) + std::ptrdiff_t(property.key));
     shown.label = hint.label ? QString::fromUtf8(hint.label) : labelFromName(QLatin1String(property.name));
-    // Shapes are not recognised yet, so that nothing of it would have an effect.
+    // Recognising shapes is a mode of the window's, whatever the brush.
     shown.place = property.group == BrushGroup::recognition ? BrushPlace::hidden : hint.place;
     shown.choices = hint.choices;
     shown.bend = hint.bend;

@@ -316,6 +316,10 @@ void CanvasPointer::leaveDab(QPointF at) {
     _model.apply(*view, {BrushKey::pointsDistanceEnabled, BrushKey::startRadius, BrushKey::endRadius});
 }
 
+void CanvasPointer::drawViewDidDrawBegin(QDDrawCanvas& canvas, QPointF) {
+    _recordedBefore = canvas.enableRecogition() ? canvas.curImageData() : QByteArray();
+}
+
 void CanvasPointer::drawViewDidDrawMove(QDDrawCanvas&, QPointF) {
     _marked = true;
 }
@@ -324,8 +328,13 @@ void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) {
     // A press that slid away ends, too, but leaves nothing, as does a finger's stroke that a pinch takes
     // back: that one still moves when it ends.
     const bool withdrawn = _manyFingers && canvas.lineMove();
-    if (_marked && !withdrawn)
-        emit strokeEnded();
+    if (!_marked || withdrawn)
+        return;
+    // A shape is a step, with a picture of its own.
+    const QByteArray before = std::exchange(_recordedBefore, {});
+    const bool isGone = canvas.enableRecogition() && !canvas.edited() && !before.isNull() &&
+                        canvas.curImageData().constData() == before.constData();
+    emit(isGone ? noShapeFound() : strokeEnded());
 }
 
 // ---- Fingers

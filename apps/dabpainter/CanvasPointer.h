@@ -36,6 +36,7 @@ public:
     bool isIdle() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void drawViewDidDrawBegin(QDDrawCanvas& canvas, QPointF) override;
     void drawViewDidDrawMove(QDDrawCanvas&, QPointF bufferPoint) override;
     void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) override;
     void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool canUndo) override { emit canUndoChanged(canUndo); }
@@ -46,6 +47,7 @@ signals:
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
     void strokeEnded();
+    void noShapeFound();  // a stroke that was to be one is gone
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);
     void picked(const QColor& color);
@@ -84,6 +86,7 @@ private:
     bool _down = false, _marked = false, _manyFingers = false;
     QPointF _downAt;  // buffer pixels
     float _downPressure = 1;
+    QByteArray _recordedBefore;  // of a stroke that is to be a shape
 
     // Of the last pinch event
     QPointF _pinchCenter;

@@ -64,6 +64,7 @@ bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)
     _viewport->setView(std::move(made));
     _pointer->watchView();
     startHistory();
+    view()->setEnableRecogition(_shapes->isChecked());
     _driverLabel->setText(view()->rendererName());
     showCanvasFacts();
     return true;

@@ -14,6 +14,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QUrl>
 #include <algorithm>
 #include <cmath>
@@ -32,6 +33,7 @@ namespace {
 
 constexpr double kZoomStep = 1.25;
 constexpr int kStateVersion = 2;
+constexpr int kMessageTime = 2500;  // milliseconds
 
 QKeySequence key(const char* text) {
     return QKeySequence(QString::fromLatin1(text));
@@ -74,6 +76,8 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
         _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor(color)));
     });
     connect(_pointer, &CanvasPointer::strokeEnded, this, &MainWindow::markChanged);
+    connect(_pointer, &CanvasPointer::noShapeFound, this,
+            [this] { statusBar()->showMessage(tr("No shape was recognised"), kMessageTime); });
     connect(_pointer, &CanvasPointer::moved, this, &MainWindow::showPosition);
     connect(_pointer, &CanvasPointer::left, _positionLabel, &QLabel::clear);
     connect(_pointer, &CanvasPointer::pressureChanged, this, [this](float pressure) {
@@ -165,6 +169,18 @@ void MainWindow::makeBrushMenu() {
     connect(pick, &QAction::toggled, _pointer, &CanvasPointer::setPicking);
     connect(_pointer, &CanvasPointer::pickingChanged, pick, &QAction::setChecked);
     menu->addSeparator();
+    _shapes = addTo(menu, tr("Reco&gnise Shapes"), {key("Shift+R")}, [] {});
+    _shapes->setCheckable(true);
+    _shapes->setIconText(tr("Shapes"));
+    _shapes->setToolTip(
+        tr("Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)"));
+    connect(_shapes, &QAction::toggled, this, &MainWindow::recogniseShapes);
+    auto* buttons = new QToolBar(tr("Shapes"));
+    buttons->setObjectName(QStringLiteral("shapesBar"));
+    buttons->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    buttons->addAction(_shapes);
+    addToolBar(buttons);
+    menu->addSeparator();
     menu->addAction(_presets->saveAction());
     menu->addAction(_presets->importAction());
     QAction* reset = addTo(menu, tr("&Reset All Settings"), {}, [this] { _brush.resetAll(); });
@@ -234,6 +250,15 @@ void MainWindow::defaultColors() {
     _brush.setValue(BrushKey::backRenderColor, QVariant::fromValue(ESColor::rgba(1, 1, 1)));
 }
 
+void MainWindow::recogniseShapes(bool on) {
+    if (view())
+        view()->setEnableRecogition(on);
+    _shapesLabel->setVisible(on);
+    statusBar()->showMessage(
+        on ? tr("Strokes become shapes; what is none is taken away") : tr("Strokes stay as they are drawn"),
+        kMessageTime);
+}
+
 // ---- Window
 
 void MainWindow::toggleFullScreen() {
@@ -264,6 +289,10 @@ void MainWindow::makeStatusBar() {
     _positionLabel = addLabel(0);
     wide(_positionLabel, QStringLiteral("-16384, -16384"));
     _pressureLabel = addLabel(1);
+    _shapesLabel = new QLabel(tr("Shapes"));
+    _shapesLabel->setContentsMargins(6, 0, 6, 0);
+    _shapesLabel->setVisible(false);
+    statusBar()->addPermanentWidget(_shapesLabel);
     _driverLabel = new QLabel;
     _driverLabel->setContentsMargins(6, 0, 6, 0);
     statusBar()->addPermanentWidget(_driverLabel);

@@ -92,6 +92,7 @@ private:
     void stepHardness(int direction);
     void swapColors();
     void defaultColors();
+    void recogniseShapes(bool on);
 
     void toggleFullScreen();
     void showPosition(QPointF bufferPoint);
@@ -110,7 +111,8 @@ private:
     BrushPanel* _panel;
     PresetBrowser* _presets;
     QDockWidget *_presetDock, *_dock;
-    QAction *_undo, *_redo;
+    QAction *_undo, *_redo, *_shapes;
+    QLabel* _shapesLabel;
     QLabel *_sizeLabel, *_zoomLabel, *_positionLabel, *_pressureLabel, *_driverLabel;
     bool _brushRead = false;
     bool _wasMaximized = false;

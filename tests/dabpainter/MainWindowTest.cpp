@@ -5,11 +5,13 @@
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QPointingDevice>
+#include <QStatusBar>
 #include <QTabletEvent>
 #include <QTouchEvent>
 #include <cerrno>
 #include <cstring>
 
+#include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
 #include "support/LogCapture.h"
@@ -304,6 +306,44 @@ TEST_F(MainWindowTest, UndoAndRedoFollowTheCanvas) {
     EXPECT_EQ(_window->view()->image(), stroke);
     paint();
     EXPECT_FALSE(redo->isEnabled());
+}
+
+// ---- Shapes
+
+TEST_F(MainWindowTest, StrokesBecomeShapesWhileTheSwitchIsOn) {
+    QAction* shapes = nullptr;
+    for (QAction* action : _window->actions()) {
+        if (action->shortcut() == QKeySequence(QStringLiteral("Shift+R")))
+            shapes = action;
+    }
+    ASSERT_NE(shapes, nullptr);
+    shapes->trigger();
+    ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::white}));  // on every canvas
+    EXPECT_TRUE(_window->view()->enableRecogition());
+    _window->brush().setValue(BrushKey::radius, 8.0f);
+    const QImage blank = _window->view()->image();
+    QList<QPointF> spiral;
+    for (int i = 0; i < 60; ++i)
+        spiral << inView(100 + i * std::cos(i * 0.5), 75 + i * std::sin(i * 0.5));
+    drag(spiral);
+    EXPECT_EQ(_window->view()->image(), blank);
+    EXPECT_FALSE(_window->isUnsaved());
+    EXPECT_EQ(_window->statusBar()->currentMessage(), QStringLiteral("No shape was recognised"));
+    EXPECT_FALSE(_window->view()->canUndo());
+    paint();
+    EXPECT_TRUE(_window->isUnsaved());
+    EXPECT_LT(pixel(100, 75).lightness(), 200);
+    _window->view()->undoManager().waitForWrites();
+    _window->view()->undo();
+    EXPECT_EQ(_window->view()->image(), blank);
+    EXPECT_FALSE(_window->view()->canUndo());
+    shapes->trigger();
+    drag(spiral);
+    EXPECT_NE(_window->view()->image(), blank);
+    // It is no part of the brush.
+    shapes->trigger();
+    _window->brush().resetAll();
+    EXPECT_TRUE(_window->view()->enableRecogition());
 }
 
 }  // namespace

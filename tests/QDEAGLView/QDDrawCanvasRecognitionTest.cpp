@@ -1,0 +1,393 @@
+// SPDX-License-Identifier: MIT
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "History/ImagesUndoManager.h"
+#include "QDEAGLView/QDDrawCanvas.h"
+#include "support/CanvasTest.h"
+#include "support/LogCapture.h"
+
+namespace {
+
+using K = BrushKey;
+using Settings = std::vector<std::pair<BrushKey, QVariant>>;
+
+void set(QDDrawCanvas& canvas, const Settings& settings) {
+    for (const auto& [key, value] : settings) {
+        EXPECT_TRUE(canvas.setBrushValue(brushProperty(key), value));
+    }
+}
+
+QByteArray bytesOf(QDDrawCanvas& canvas) {
+    QByteArray bytes(canvas.image().sizeInBytes(), '\0');
+    const QRectF whole(QPointF(0, 0), canvas.bufferSize());
+    EXPECT_TRUE(canvas.readDataBufferRect(reinterpret_cast<unsigned char*>(bytes.data()), whole));
+    return bytes;
+}
+
+class CanvasRecognitionTest : public CanvasTest {
+protected:
+    // A canvas with something on it to lose.
+    static std::unique_ptr<QDDrawCanvas> makePatterned(int width = 201, int height = 151) {
+        auto canvas = makeCanvas(width, height);
+        canvas->setImage(patternImage({width, height}), QRectF(0, 0, width, height));
+        canvas->resetUndoManager();
+        canvas->setRadius(12);
+        return canvas;
+    }
+    static ShapeRecord line(ShapePoint from, ShapePoint to) {
+        ShapeRecord shape;
+        shape.kind = ShapeKind::line;
+        shape.corners = {from, to};
+        return shape;
+    }
+    // The part of a stroke before its last point, from (20, 40) rightwards.
+    static void sketchLine(QDDrawCanvas& canvas) {
+        canvas.drawingWithBeginPoint({20, 40});
+        for (int i = 1; i < 15; ++i) {
+            canvas.drawingWithMoveToPoint({20.0 + i * 10, 40});
+        }
+    }
+    static void endLine(QDDrawCanvas& canvas) { canvas.drawingWithEndPoint({170, 40}); }
+    // Goes on as a spiral, which is no shape, and ends.
+    static void endTangled(QDDrawCanvas& canvas) {
+        const QPointF middle(canvas.bufferSize().width() / 2, canvas.bufferSize().height() / 2);
+        for (int i = 0; i < 60; ++i) {
+            canvas.drawingWithMoveToPoint(middle +
+                                          QPointF(std::cos(i * 0.5), std::sin(i * 0.5)) * (5 + i * 0.7));
+        }
+        canvas.drawingWithEndPoint(middle);
+    }
+    static void scribble(QDDrawCanvas& canvas) {
+        canvas.drawingWithBeginPoint({20, 70});
+        endTangled(canvas);
+    }
+};
+
+// ---- Sketches that are no shapes
+
+TEST_F(CanvasRecognitionTest, AnUnrecognisedStrokeLeavesNoTrace) {
+    const std::pair<const char*, Settings> rows[] = {
+        {"plain", {}},
+        {"second line", {{K::repeatedlyRenderEnabled, true}, {K::slRadius, 30.0f}}},
+        {"erasing", {{K::blendType, 5}}},
+        {"replacing, faint", {{K::blendType, 2}, {K::opacity, 0.3f}}},
+        {"smudge brush", {{K::brushType, 3}}},
+        {"preview brush", {{K::brushType, 4}}},
+    };
+    for (const auto& [name, settings] : rows) {
+        for (const QSize size : {QSize(200, 150), QSize(333, 127), QSize(71, 93)}) {
+            SCOPED_TRACE(testing::Message() << name << ", " << size.width() << " x " << size.height());
+            auto canvas = makePatterned(size.width(), size.height());
+            set(*canvas, settings);
+            canvas->setAutoMark(size.width() == 333);
+            canvas->setEnableRecogition(true);
+            const QImage before = canvas->image();
+            scribble(*canvas);
+            sketchLine(*canvas);
+            EXPECT_NE(canvas->image(), before);
+            endTangled(*canvas);
+            canvas->drawingWithBeginPoint({20, 20});
+            canvas->drawingWithMoveToPoint({60, 20});
+            canvas->drawingWithEndPoint({90, 20});  // 3 points are too few for the straightest line
+            EXPECT_TRUE(imagesMatch(canvas->image(), before));
+            EXPECT_EQ(canvas->curImageData(), bytesOf(*canvas));
+            EXPECT_FALSE(canvas->edited() || canvas->canUndo());
+            canvas->setEnableRecogition(false);
+            scribble(*canvas);
+            EXPECT_NE(canvas->image(), before);
+        }
+    }
+}
+
+TEST_F(CanvasRecognitionTest, WithdrawnAndAbandonedSketchesLeaveNoTrace) {
+    auto canvas = makePatterned();
+    canvas->setEnableRecogition(true);
+    const QImage before = canvas->image();
+    const auto at = [](double x) { return QDDrawTouch{QPointF(x, 75), 1}; };
+    const auto drag = [&](int moves) {
+        canvas->mouseDown(at(20));
+        for (int i = 1; i <= moves; ++i) {
+            canvas->mouseDragged(at(20 + i * 10));
+        }
+    };
+    drag(5);
+    canvas->mouseUp(at(80));  // too short to be meant
+    EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    drag(12);
+    canvas->withdrawPointerStroke();
+    EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    sketchLine(*canvas);
+    canvas->drawingWithBeginPoint({20, 100});  // without an end before
+    EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    canvas->drawingWithEndPoint({20, 100});
+    EXPECT_FALSE(canvas->edited());
+    drag(12);
+    canvas->mouseUp(at(150));
+    EXPECT_TRUE(canvas->edited());
+}
+
+// ---- Sketches that are
+
+TEST_F(CanvasRecognitionTest, ALineReplacesItsSketchWhereItWas) {
+    struct Scaled : QDDrawCanvas {
+        Scaled() : QDDrawCanvas(QRectF(0, 0, 201, 151)) {}
+        bool make() { return initCanvas(); }
+        QRectF displayFrame() const override { return shown; }
+        QRectF shown{0, 0, 201, 151};
+    };
+    for (const float unit : {1.0f, 2.5f, 0.0f}) {  // 0 divides by nothing
+        SCOPED_TRACE(unit);
+        const double divisor = unit > 0 ? static_cast<double>(unit) : 1.0;
+        auto expected = makeCanvas(201, 151);
+        set(*expected, {{K::radius, 9.0f}, {K::recogPointScale, unit}});
+        EXPECT_TRUE(expected->drawShape(line({20 / divisor, 40 / divisor}, {170 / divisor, 40 / divisor})));
+        Scaled canvas;
+        ASSERT_TRUE(canvas.make());
+        set(canvas, {{K::radius, 9.0f}, {K::recogPointScale, unit}, {K::enableRecogition, true}});
+        canvas.shown = QRectF(0, 0, 402, 453);
+        canvas.updateScaleInfo();
+        for (int i = 0; i <= 15; ++i) {
+            const QPointF at(40.0 + i * 20, 120);
+            i == 0 ? canvas.drawingWithBeginPoint(at) : canvas.drawingWithMoveToPoint(at);
+        }
+        canvas.drawingWithEndPoint({340, 120});
+        // Rounding may move the recognised ends by a hair.
+        EXPECT_TRUE(imagesMatch(canvas.image(), expected->image(), 2));
+        EXPECT_EQ(canvas.curImageData(), bytesOf(canvas));
+    }
+}
+
+TEST_F(CanvasRecognitionTest, AShapeIsOneStepAndTheEndIsToldOfLast) {
+    struct Recorder : QDDrawViewDelegate {
+        std::string calls;
+        QByteArray shownAtEnd;
+        QPointF drawViewShouldDrawEnd(QDDrawCanvas&, QPointF p) override {
+            calls += "should end, ";
+            return p;
+        }
+        void drawViewWillDrawEnd(QDDrawCanvas&, QPointF) override { calls += "will end, "; }
+        void drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) override {
+            calls += "did end";
+            shownAtEnd = bytesOf(canvas);
+        }
+        void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool) override { calls += "undo, "; }
+    } recorder;
+    auto canvas = makePatterned();
+    canvas->setAutoMark(true);
+    canvas->setEnableRecogition(true);
+    canvas->setDelegate(&recorder);
+    const QByteArray before = bytesOf(*canvas);
+    sketchLine(*canvas);
+    endLine(*canvas);
+    EXPECT_EQ(recorder.calls, "should end, will end, undo, did end");
+    const QByteArray shape = bytesOf(*canvas);
+    EXPECT_EQ(recorder.shownAtEnd, shape);
+    scribble(*canvas);
+    canvas->undoManager().waitForWrites();
+    EXPECT_EQ(canvas->undo(), before);
+    EXPECT_FALSE(canvas->canUndo());
+    canvas->undoManager().waitForWrites();
+    EXPECT_EQ(canvas->redo(), shape);
+    scribble(*canvas);
+    EXPECT_EQ(bytesOf(*canvas), shape);
+}
+
+// ---- The recorded canvas
+
+TEST_F(CanvasRecognitionTest, TheRecordedCanvasFollowsTheCanvas) {
+    auto canvas = makePatterned();
+    canvas->setCurImageData({});
+    canvas->setAutoMark(true);
+    canvas->setEnableRecogition(true);
+    EXPECT_TRUE(canvas->curImageData().isEmpty());  // the next step brings it
+    canvas->setEnableRecogition(false);
+    canvas->setAutoMark(false);
+    canvas->setEnableRecogition(true);
+    const auto isCanvas = [&] { return canvas->curImageData() == bytesOf(*canvas); };
+    EXPECT_TRUE(isCanvas());
+    canvas->drawImage(solidImage({33, 21}, Qt::red), QRectF(17, 90, 33, 21));
+    EXPECT_TRUE(isCanvas()) << "after an image";
+    sketchLine(*canvas);
+    endLine(*canvas);
+    EXPECT_TRUE(isCanvas()) << "after a line";
+    canvas->clearWithColor(ESColor::grey(0.5f), true);
+    EXPECT_TRUE(isCanvas()) << "after a clear";
+    canvas->drawPoint({100, 80}, 40);  // in a layer as yet
+    canvas->updateImage(true);
+    const QByteArray picture = bytesOf(*canvas);
+    canvas->setCurImageData(QByteArray(7, '\0'));  // which is no canvas
+    scribble(*canvas);
+    EXPECT_EQ(bytesOf(*canvas), picture);
+    // What the host records is what a sketch is taken back to.
+    canvas->setCurImageData(QByteArray(picture.size(), '\0'));
+    scribble(*canvas);
+    EXPECT_EQ(canvas->image().pixelColor(100, 75).alpha(), 0);
+    EXPECT_EQ(canvas->image().pixelColor(5, 5).alpha(), 255);
+    canvas->updateBGImage();
+    EXPECT_TRUE(isCanvas()) << "recorded again";
+}
+
+TEST_F(CanvasRecognitionTest, AHistoryMadeLateKeepsThePicture) {
+    for (const bool inStroke : {false, true}) {
+        auto canvas = makeCanvas(201, 151);
+        canvas->setImage(patternImage({201, 151}), QRectF(0, 0, 201, 151));
+        canvas->setEnableRecogition(true);
+        const QByteArray picture = bytesOf(*canvas);
+        if (inStroke) {
+            sketchLine(*canvas);
+        }
+        canvas->loadUndoManager();  // which begins with the canvas as it was made
+        inStroke ? endTangled(*canvas) : scribble(*canvas);
+        EXPECT_EQ(bytesOf(*canvas), picture);
+    }
+}
+
+TEST_F(CanvasRecognitionTest, UndoGivesTheStepWhateverIsFinishedOnTheWay) {
+    auto canvas = makePatterned();
+    canvas->setEnableRecogition(true);
+    const QByteArray first = bytesOf(*canvas);
+    sketchLine(*canvas);
+    endLine(*canvas);
+    canvas->markAction();
+    canvas->drawPoint({100, 100}, 40);  // in a layer until undo finishes it
+    canvas->updateImage(true);
+    canvas->undoManager().waitForWrites();
+    EXPECT_EQ(canvas->undo(), first);
+    EXPECT_EQ(canvas->curImageData(), first);
+    scribble(*canvas);
+    EXPECT_EQ(bytesOf(*canvas), first);
+}
+
+// ---- In mid-stroke
+
+TEST_F(CanvasRecognitionTest, WhatHappensInMidStrokeHappensToTheCanvasWithoutTheSketch) {
+    const QRectF under(50.5, 20.5, 60, 60);
+    const QImage square = solidImage({60, 60}, QColor(0, 90, 0, 128));
+    const std::pair<const char*, std::function<void(QDDrawCanvas&)>> rows[] = {
+        {"image", [&](QDDrawCanvas& c) { c.drawImage(square, under); }},
+        {"image in its place", [&](QDDrawCanvas& c) { c.setImage(square, under.translated(0.5, 0.5)); }},
+        {"clear", [](QDDrawCanvas& c) { c.clearWithColor(ESColor::grey(1), true); }},
+        {"clear but for layers", [](QDDrawCanvas& c) { c.clearESBufferWithColor(ESColor::grey(1), true); }},
+        {"step", [](QDDrawCanvas& c) { c.markAction(); }},
+        {"first step", [](QDDrawCanvas& c) { c.resetUndoManager(); }},
+        {"new background", [](QDDrawCanvas& c) { c.updateBGImage(); }},
+        {"second line", [](QDDrawCanvas& c) { c.setRepeatedlyRenderEnabled(true); }},
+        {"other brush", [](QDDrawCanvas& c) { c.setBrushType(3); }},
+        {"on again", [](QDDrawCanvas& c) { c.setEnableRecogition(true); }},
+    };
+    for (const bool marks : {false, true}) {
+        for (const auto& [name, act] : rows) {
+            SCOPED_TRACE(testing::Message() << name << (marks ? ", steps by themselves" : ""));
+            auto expected = makePatterned();
+            auto canvas = makePatterned();
+            expected->setAutoMark(marks);
+            canvas->setAutoMark(marks);
+            canvas->setEnableRecogition(true);
+            sketchLine(*canvas);
+            act(*expected);
+            act(*canvas);
+            EXPECT_EQ(canvas->curImageData(), bytesOf(*expected));
+            endTangled(*canvas);
+            EXPECT_TRUE(imagesMatch(canvas->image(), expected->image()));
+            EXPECT_EQ(canvas->edited(), expected->edited());
+        }
+    }
+}
+
+TEST_F(CanvasRecognitionTest, SwitchingInMidStrokeLeavesWhatWasDrawn) {
+    auto off = makePatterned();
+    auto plain = makePatterned();
+    off->setEnableRecogition(true);
+    for (QDDrawCanvas* canvas : {off.get(), plain.get()}) {
+        sketchLine(*canvas);
+        canvas->setEnableRecogition(false);
+        endTangled(*canvas);
+    }
+    EXPECT_TRUE(imagesMatch(off->image(), plain->image()));
+    auto on = makePatterned();
+    sketchLine(*on);
+    const QImage sketched = on->image();
+    on->setEnableRecogition(true);
+    endTangled(*on);
+    EXPECT_TRUE(imagesMatch(on->image(), sketched));
+    EXPECT_TRUE(on->edited());
+}
+
+// ---- Shapes drawn
+
+TEST_F(CanvasRecognitionTest, EveryKindIsDrawnAlongItsWholeOutlineAndNowhereElse) {
+    const LPControlParams pressure{1, 0, 0};
+    const Settings hard = {{K::hardness, 1.0f}, {K::radius, 8.0f}};
+    const std::pair<const char*, Settings> rows[] = {
+        {"hard", {}},
+        {"soft", {{K::hardness, 0.0f}, {K::flow, 0.2f}, {K::radius, 18.0f}}},
+        {"tapered", {{K::startRadius, 0.05f}, {K::strokeControlValue, 60.0f}, {K::endRadius, 0.05f}}},
+        {"sized by pressure", {{K::radiusControl, QVariant::fromValue(pressure)}, {K::minRadius, 0.01f}}},
+        {"second line", {{K::repeatedlyRenderEnabled, true}, {K::slRadius, 6.0f}}},
+        {"smudge brush", {{K::brushType, 3}, {K::enableRecogition, true}}},
+        {"one dab a sample", {{K::pointsDistanceEnabled, false}}},
+    };
+    ShapeRecord shape = line({}, {});
+    shape.centre = {100, 75};
+    shape.a = 70;
+    shape.b = 30;
+    shape.startAngle = 5.5;
+    shape.endAngle = 9;
+    for (const auto& [name, settings] : rows) {
+        auto canvas = makeCanvas();
+        set(*canvas, hard);
+        set(*canvas, settings);
+        const int reach = static_cast<int>(canvas->radius() / 2) + 1;
+        for (int kind = 1; kind <= static_cast<int>(ShapeKind::arrow); ++kind) {
+            shape.kind = static_cast<ShapeKind>(kind);
+            SCOPED_TRACE(std::string(name) + ", " + std::string(nameOfShapeKind(shape.kind)));
+            shape.corners = {{40, 30}, {150, 34}, {160, 110}, {50, 120}};
+            shape.corners.resize(shape.kind == ShapeKind::line       ? 2
+                                 : shape.kind == ShapeKind::triangle ? 3
+                                                                     : 4);
+            canvas->clear();
+            EXPECT_TRUE(canvas->drawShape(shape));
+            const QImage image = canvas->image();
+            QImage elsewhere = image;
+            int least = 255, most = 0;
+            const std::vector<ShapePoint> outline = outlineOfShape(shape);
+            for (std::size_t i = 1; i < outline.size(); ++i) {
+                const double dx = outline[i].x - outline[i - 1].x, dy = outline[i].y - outline[i - 1].y;
+                const double pieces = std::ceil(std::hypot(dx, dy));
+                for (int j = 0; j <= static_cast<int>(pieces); ++j) {
+                    const QPoint at(static_cast<int>(outline[i - 1].x + dx * j / pieces),
+                                    static_cast<int>(outline[i - 1].y + dy * j / pieces));
+                    least = std::min(least, image.pixelColor(at).alpha());
+                    most = std::max(most, image.pixelColor(at).alpha());
+                    fillRect(elsewhere, QRect(at.x() - reach, at.y() - reach, 2 * reach + 1, 2 * reach + 1),
+                             Qt::transparent);
+                }
+            }
+            EXPECT_GT(2 * least, most - 64) << "a gap, or a place drawn twice";
+            EXPECT_TRUE(painted(elsewhere).isEmpty());
+        }
+    }
+}
+
+TEST_F(CanvasRecognitionTest, WhatCannotBeDrawnIsRefused) {
+    auto canvas = makePatterned();
+    canvas->setAutoMark(true);
+    canvas->setEnableRecogition(true);
+    const LogCapture log;
+    EXPECT_FALSE(canvas->drawShape({}));
+    EXPECT_TRUE(log.lines().isEmpty());
+    EXPECT_FALSE(canvas->drawShape(line({1, 1}, {1e12, 1})));
+    EXPECT_TRUE(log.has(QStringLiteral("a line of these points")));
+    canvas->drawingWithBeginPoint({20, 20});
+    EXPECT_FALSE(canvas->drawShape(line({1, 1}, {50, 1})));
+    EXPECT_TRUE(log.has(QStringLiteral("stroke is in progress")));
+    canvas->drawingWithEndPoint({20, 20});
+    EXPECT_EQ(log.lines().size(), 2);
+    EXPECT_FALSE(canvas->canUndo());
+    EXPECT_TRUE(canvas->drawShape(line({1, 1}, {50, 1})));
+    EXPECT_TRUE(canvas->canUndo());
+}
+
+}  // namespace

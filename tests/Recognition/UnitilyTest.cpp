@@ -1,0 +1,303 @@
+// SPDX-License-Identifier: MIT
+#include "Recognition/Unitily.h"
+
+#include "Strokes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <ostream>
+#include <string>
+
+void PrintTo(ShapeKind kind, std::ostream* out) {
+    *out << nameOfShapeKind(kind);
+}
+
+namespace {
+constexpr double kPi = std::numbers::pi;
+
+double distanceTo(const Stroke& outline, const ShapePoint& p) {
+    double nearest = std::numeric_limits<double>::infinity();
+    for (std::size_t i = 1; i < outline.size(); ++i) {
+        const ShapePoint& a = outline[i - 1];
+        const double dx = outline[i].x - a.x;
+        const double dy = outline[i].y - a.y;
+        const double squared = dx * dx + dy * dy;
+        const double along =
+            squared > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / squared, 0.0, 1.0) : 0;
+        nearest = std::min(nearest, std::hypot(p.x - a.x - along * dx, p.y - a.y - along * dy));
+    }
+    return nearest;
+}
+
+// The furthest that a point of either lies from the other.
+double apart(const Stroke& one, const Stroke& other) {
+    double furthest = 0;
+    for (const ShapePoint& p : one) {
+        furthest = std::max(furthest, distanceTo(other, p));
+    }
+    for (const ShapePoint& p : other) {
+        furthest = std::max(furthest, distanceTo(one, p));
+    }
+    return furthest;
+}
+
+struct Meant {
+    const char* name;
+    ShapeKind kind;
+    Stroke outline;  // about 200 across
+    int legs = 0;
+};
+
+const std::vector<Meant>& meantShapes() {
+    static const std::vector<Meant> kShapes = {
+        {"Line", ShapeKind::line, drawn({{-100, 0}, {100, 0}})},
+        {"V", ShapeKind::foldLine, drawn({{-60, -90}, {0, 90}, {60, -90}}), 2},
+        {"Check", ShapeKind::foldLine, drawn({{-70, 20}, {-20, 80}, {80, -80}}), 2},
+        {"Bracket", ShapeKind::foldLine, drawn({{40, -100}, {-40, -100}, {-40, 100}, {40, 100}}), 3},
+        {"Z", ShapeKind::foldLine, drawn({{-70, -70}, {70, -70}, {-70, 70}, {70, 70}}), 3},
+        {"W", ShapeKind::foldLine, drawn({{-100, -60}, {-50, 60}, {0, -60}, {50, 60}, {100, -60}}), 4},
+        {"Triangle", ShapeKind::triangle, drawn({{-90, 60}, {90, 70}, {-10, -90}, {-90, 60}})},
+        {"Rectangle", ShapeKind::rectangle,
+         drawn({{-100, -60}, {100, -60}, {100, 60}, {-100, 60}, {-100, -60}})},
+        {"Square", ShapeKind::rectangle, drawn({{-70, -70}, {70, -70}, {70, 70}, {-70, 70}, {-70, -70}})},
+        {"Parallelogram", ShapeKind::parallelogram,
+         drawn({{-110, 50}, {50, 50}, {110, -50}, {-50, -50}, {-110, 50}})},
+        {"Rhombus", ShapeKind::parallelogram, drawn({{-100, 0}, {0, 55}, {100, 0}, {0, -55}, {-100, 0}})},
+        {"Circle", ShapeKind::ellipse, round(90, 90, 10, 370)},
+        {"Ellipse", ShapeKind::ellipse, round(100, 50, -80, 280)},
+        {"HalfCircle", ShapeKind::arc, round(100, 100, 180, 360)},
+        {"LongArc", ShapeKind::arc, round(90, 90, 20, 280)},
+        {"Arrow", ShapeKind::arrow, drawn({{-110, 0}, {100, 0}, {60, -35}, {100, 0}, {60, 35}})},
+    };
+    return kShapes;
+}
+
+class ShapesAreRecognised : public testing::TestWithParam<Meant> {};
+INSTANTIATE_TEST_SUITE_P(Unitily, ShapesAreRecognised, testing::ValuesIn(meantShapes()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+// However large, turned, mirrored, shaky and finely sampled; closed shapes from any point of their outline.
+TEST_P(ShapesAreRecognised, HoweverDrawn) {
+    const Meant& meant = GetParam();
+    for (const double size : {0.12, 1.0, 10.0}) {
+        for (const double turn : {0.0, 17.0, 45.0, 100.0, 230.0}) {
+            for (const bool mirrored : {false, true}) {
+                for (const std::size_t every : {1, 3}) {
+                    Stroke stroke;
+                    for (std::size_t i = 0; i < meant.outline.size(); i += every) {
+                        stroke.push_back(
+                            {mirrored ? -meant.outline[i].x : meant.outline[i].x, meant.outline[i].y});
+                    }
+                    stroke.push_back({mirrored ? -meant.outline.back().x : meant.outline.back().x,
+                                      meant.outline.back().y});
+                    const Stroke ideal = placed(stroke, turn, size);
+                    const Stroke hand = placed(shaky(stroke, 200), turn, size);
+                    const ShapeRecord shape = Unitily::recogniseWithPoints(hand);
+                    SCOPED_TRACE(testing::Message() << "size " << size << " turn " << turn << " mirrored "
+                                                    << mirrored << " every " << every);
+                    EXPECT_EQ(shape.kind, meant.kind);
+                    EXPECT_EQ(shape.legs(), meant.legs);
+                    EXPECT_GT(shape.confidence, 0.5);
+                    EXPECT_LE(shape.confidence, 1);
+                    EXPECT_LT(apart(outlineOfShape(shape, size), ideal), 200 * size * 0.06);
+                }
+            }
+        }
+    }
+}
+
+TEST_P(ShapesAreRecognised, FromTheOtherEndAndFromWithin) {
+    const Meant& meant = GetParam();
+    if (meant.kind == ShapeKind::arrow) {
+        GTEST_SKIP() << "an arrow is drawn from its tail";
+    }
+    Stroke stroke = shaky(meant.outline, 200);
+    std::reverse(stroke.begin(), stroke.end());
+    EXPECT_EQ(Unitily::recogniseWithPoints(placed(stroke, 8)).kind, meant.kind);
+    const ShapePoint& first = meant.outline.front();
+    const ShapePoint& last = meant.outline.back();
+    if (std::hypot(first.x - last.x, first.y - last.y) < 1) {
+        for (const std::size_t from : {7, 23, 61}) {
+            Stroke turned = meant.outline;
+            turned.pop_back();
+            std::rotate(turned.begin(), turned.begin() + static_cast<std::ptrdiff_t>(from % turned.size()),
+                        turned.end());
+            turned.push_back(turned.front());
+            SCOPED_TRACE(from);
+            EXPECT_EQ(Unitily::recogniseWithPoints(placed(shaky(turned, 200, 0.004), 8)).kind, meant.kind);
+        }
+    }
+}
+
+Stroke joined(Stroke one, const Stroke& other) {
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
+
+Stroke wave(int waves, double height) {
+    Stroke stroke;
+    for (int i = 0; i <= 40 * waves; ++i) {
+        stroke.push_back({i * 300.0 / (40 * waves), height * std::sin(i * 2 * kPi / 40)});
+    }
+    return stroke;
+}
+
+TEST(UnitilyTest, WhatIsNoShapeIsNothing) {
+    Stroke loops;
+    for (int i = 0; i < 240; ++i) {
+        loops.push_back({i * 1.2 + 40 * std::sin(i * 0.15), 40 * std::cos(i * 0.15)});
+    }
+    Stroke eight;
+    for (int i = 0; i <= 100; ++i) {
+        eight.push_back({50 * std::sin(i * 4 * kPi / 100), 100 * std::cos(i * 2 * kPi / 100)});
+    }
+    Stroke scribble;
+    for (int i = 0; i < 15; ++i) {
+        scribble.push_back({i * 15.0, i % 2 == 0 ? 0.0 : 150.0});
+    }
+    const std::pair<const char*, Stroke> cases[] = {
+        {"spiral", round(20, 20, 0, 1100, 6)},
+        {"scribble", drawn(scribble)},
+        {"loops", loops},
+        {"wave", wave(2, 50)},
+        {"S", wave(1, 60)},
+        {"question mark", joined(placed(round(50, 50, 180, 440), 0, 1, {0, 0}), drawn({{0, 55}, {0, 130}}))},
+        {"pentagon", drawn({{0, -100}, {95, -31}, {59, 81}, {-59, 81}, {-95, -31}, {0, -100}})},
+        {"hexagon", drawn({{100, 0}, {50, 87}, {-50, 87}, {-100, 0}, {-50, -87}, {50, -87}, {100, 0}})},
+        {"trapezoid", drawn({{-100, 60}, {100, 60}, {45, -60}, {-45, -60}, {-100, 60}})},
+        {"half disc", joined(round(100, 100, 180, 360), drawn({{100, 0}, {-100, 0}}))},
+        {"figure of eight", eight},
+    };
+    for (const auto& [name, stroke] : cases) {
+        for (const double turn : {0.0, 30.0, 200.0}) {
+            SCOPED_TRACE(testing::Message() << name << " turned by " << turn);
+            const ShapeRecord shape = Unitily::recogniseWithPoints(placed(shaky(stroke, 200), turn));
+            EXPECT_EQ(shape.kind, ShapeKind::none);
+            EXPECT_TRUE(shape.corners.empty());
+            EXPECT_FALSE(shape);
+        }
+    }
+}
+
+// Tidying
+TEST(UnitilyTest, NearlyLevelLinesAreLevel) {
+    for (const double level : {0.0, 45.0, 90.0, 135.0, 180.0, 270.0}) {
+        for (const double off : {-2.0, 1.5}) {
+            const Stroke stroke = placed(shaky(drawn({{-100, 0}, {100, 0}}), 200, 0.003), level + off);
+            const ShapeRecord line = Unitily::recogniseWithPoints(stroke);
+            ASSERT_EQ(line.kind, ShapeKind::line);
+            const double angle =
+                std::atan2(line.corners[1].y - line.corners[0].y, line.corners[1].x - line.corners[0].x);
+            EXPECT_NEAR(std::remainder(angle - level * kPi / 180, 2 * kPi), 0, 1e-9) << level + off;
+        }
+    }
+    const ShapeRecord slanting = Unitily::recogniseWithPoints(placed(drawn({{-100, 0}, {100, 0}}), 8));
+    ASSERT_EQ(slanting.kind, ShapeKind::line);
+    EXPECT_GT(slanting.corners[1].y - slanting.corners[0].y, 20) << "eight degrees are meant";
+}
+
+TEST(UnitilyTest, SidesAndAnglesBecomeEqual) {
+    const auto side = [](const ShapeRecord& shape, std::size_t i) {
+        const ShapePoint& a = shape.corners[i];
+        const ShapePoint& b = shape.corners[(i + 1) % shape.corners.size()];
+        return std::hypot(b.x - a.x, b.y - a.y);
+    };
+    const ShapeRecord square = Unitily::recogniseWithPoints(
+        placed(drawn({{-70, -72}, {72, -70}, {70, 76}, {-72, 74}, {-68, -70}}), 20));
+    ASSERT_EQ(square.kind, ShapeKind::rectangle);
+    EXPECT_NEAR(side(square, 0), side(square, 1), 1e-9);
+    EXPECT_NEAR(side(square, 0), side(square, 2), 1e-9);
+    EXPECT_NEAR(
+        std::hypot(square.corners[2].x - square.corners[0].x, square.corners[2].y - square.corners[0].y),
+        side(square, 0) * std::numbers::sqrt2, 1e-9);
+
+    const ShapeRecord oblong =
+        Unitily::recogniseWithPoints(drawn({{0, 0}, {201, 3}, {199, 101}, {2, 99}, {0, 2}}));
+    ASSERT_EQ(oblong.kind, ShapeKind::rectangle);
+    EXPECT_EQ(oblong.corners[0].y, oblong.corners[1].y) << "level";
+    EXPECT_NEAR(oblong.corners[1].x, oblong.corners[2].x, 1e-9) << "upright";
+    EXPECT_NEAR(side(oblong, 0), 200, 4);
+
+    const ShapeRecord triangle =
+        Unitily::recogniseWithPoints(drawn({{0, 0}, {100, 171}, {-101, 170}, {-1, 1}}));
+    ASSERT_EQ(triangle.kind, ShapeKind::triangle);
+    std::vector<double> sides = {side(triangle, 0), side(triangle, 1), side(triangle, 2)};
+    std::sort(sides.begin(), sides.end());
+    EXPECT_LT(std::min(sides[1] - sides[0], sides[2] - sides[1]), 1e-6);
+
+    const ShapeRecord rhombus =
+        Unitily::recogniseWithPoints(drawn({{-100, 0}, {2, 55}, {101, 1}, {0, -57}, {-99, -1}}));
+    ASSERT_EQ(rhombus.kind, ShapeKind::parallelogram);
+    EXPECT_NEAR(side(rhombus, 0), side(rhombus, 1), 1e-9);
+
+    const ShapeRecord circle = Unitily::recogniseWithPoints(placed(round(90, 85, 30, 380), 12));
+    ASSERT_EQ(circle.kind, ShapeKind::ellipse);
+    EXPECT_EQ(circle.a, circle.b);
+    EXPECT_NEAR(circle.a, 87.5, 2);
+}
+
+// The record's angles, in the sense that outlines are drawn in.
+TEST(UnitilyTest, AnArcEndsWhereItWasDrawnTo) {
+    for (const double turn : {0.0, 70.0, 130.0, 250.0}) {
+        for (const auto& [from, to] :
+             {std::pair(200.0, 330.0), std::pair(330.0, 130.0), std::pair(-30.0, 200.0)}) {
+            for (const double b : {100.0, 60.0}) {
+                const Stroke stroke = placed(round(100, b, from, to), turn);
+                const ShapeRecord arc = Unitily::recogniseWithPoints(stroke);
+                SCOPED_TRACE(testing::Message() << turn << " from " << from << " to " << to << " b " << b);
+                ASSERT_EQ(arc.kind, ShapeKind::arc);
+                EXPECT_GE(arc.startAngle, 0);
+                EXPECT_LT(arc.startAngle, 2 * kPi);
+                EXPECT_GE(arc.rotation, 0);
+                EXPECT_LT(arc.rotation, kPi);
+                EXPECT_LT(apart(outlineOfShape(arc), stroke), 6);
+            }
+        }
+    }
+}
+
+// Bad input
+TEST(UnitilyTest, NothingIsMadeOfNothing) {
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double kHuge = std::numeric_limits<double>::max();
+    const std::pair<const char*, Stroke> cases[] = {
+        {"none", {}},
+        {"four", {{0, 0}, {1, 0}, {2, 0}, {3, 0}}},
+        {"one spot", Stroke(50, {7, 7})},
+        {"not a number", Stroke(50, {kNan, 3})},
+        {"as far as it goes", {{-kHuge, 0}, {kHuge, 0}, {0, kHuge}, {0, -kHuge}, {1, 1}}},
+    };
+    for (const auto& [name, stroke] : cases) {
+        EXPECT_FALSE(Unitily::recogniseWithPoints(stroke)) << name;
+    }
+}
+
+TEST(UnitilyTest, OddInputIsNoHindrance) {
+    const Stroke box = drawn({{0, 0}, {200, 0}, {200, 100}, {0, 100}, {0, 0}});
+    Stroke holes;
+    for (const ShapePoint& p : box) {
+        holes.push_back(p);
+        holes.push_back({std::numeric_limits<double>::infinity(), p.y});
+        holes.push_back(p);
+        holes.push_back({p.x, std::numeric_limits<double>::quiet_NaN()});
+    }
+    EXPECT_EQ(Unitily::recogniseWithPoints(holes).kind, ShapeKind::rectangle);
+    EXPECT_EQ(
+        Unitily::recogniseWithPoints(drawn({{0, 0}, {200, 0}, {200, 100}, {0, 100}, {0, 0}}, 0.0006)).kind,
+        ShapeKind::rectangle)
+        << "a million points";
+    EXPECT_EQ(Unitily::recogniseWithPoints(placed(box, 0, 1e-200, {0, 0})).kind, ShapeKind::rectangle);
+    EXPECT_EQ(Unitily::recogniseWithPoints(placed(box, 0, 1e300, {0, 0})).kind, ShapeKind::rectangle);
+    EXPECT_EQ(Unitily::recogniseWithPoints(Stroke{{0, 0}, {50, 1}, {100, 0}, {150, -1}, {200, 0}}).kind,
+              ShapeKind::line);
+    EXPECT_EQ(
+        Unitily::recogniseWithPoints(Stroke{{0, 0}, {100, 0}, {0, 0}, {100, 0}, {0, 0}, {100, 0}, {0, 0}})
+            .kind,
+        ShapeKind::none)
+        << "to and fro on one line";
+}
+}  // namespace

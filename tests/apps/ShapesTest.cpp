@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// The shapes command and paint --recognise.
+#include <QImage>
+#include <cmath>
+
+#include "apps/Program.h"
+
+namespace dabcanvas::dabpaint {
+namespace {
+
+const QString kShapes = QStringLiteral("shapes");
+
+// A level line and a stroke that is too short, their rows mixed.
+QByteArray twoStrokes() {
+    QByteArray rows = "\xEF\xBB\xBFy,t,\"sample_id\",x\r\n";
+    for (int i = 0; i < 9; ++i) {
+        rows += "20.5,1,\"a \"\"line\"\", level\"," + QByteArray::number(10 + 5 * i) + "\r\n";
+        rows += i < 4 ? "8,,7,-1e0\r\n\r\n" : "";
+    }
+    return rows;
+}
+const char kHeader[] = "sample_id,kind,legs,confidence,geometry\n";
+const char kTwoRows[] = R"("a ""line"", level",line,,[01](\.[0-9]+)?,10 20\.5 50 20\.5)"
+                        "\n7,none,,[01](\\.[0-9]+)?,\n";
+
+TEST_F(ProgramTest, ShapesComeStrokeByStrokeFromAnyInput) {
+    const auto isTable = [](const std::string& rows) { return ::testing::MatchesRegex(kHeader + rows); };
+    for (const QStringList& arguments : {QStringList{kShapes}, QStringList{kShapes, QStringLiteral("-")}}) {
+        const Ended ended = runProgram(arguments, twoStrokes(), {QStringLiteral("LC_ALL=de_DE.UTF-8")});
+        EXPECT_EQ(ended.status, 0) << ended.err.constData();
+        EXPECT_THAT(ended.out.toStdString(), isTable(kTwoRows));
+    }
+    // A name counts within its file only.
+    const QString file = write("in.csv", twoStrokes().replace("\r\n", "\r"));
+    const Ended ended = runProgram({kShapes, file, QStringLiteral("-"), QStringLiteral("-o"), path("out.csv"),
+                                    QStringLiteral("--outlines"), path("lines.csv")},
+                                   twoStrokes());
+    EXPECT_EQ(ended.status, 0) << ended.err.constData();
+    EXPECT_TRUE(ended.out.isEmpty());
+    const auto written = [&](const char* name) {
+        QFile out(path(name));
+        EXPECT_TRUE(out.open(QIODevice::ReadOnly));
+        return out.readAll().toStdString();
+    };
+    EXPECT_THAT(written("out.csv"), isTable(std::string(kTwoRows) + kTwoRows));
+    const std::string line = "\"a \"\"line\"\", level\",10,20.5\n\"a \"\"line\"\", level\",50,20.5\n";
+    EXPECT_EQ(written("lines.csv"), "sample_id,x,y\n" + line + line);
+}
+
+TEST_F(ProgramTest, BadTablesAreToldWithTheirLineAndLeaveNoFile) {
+    const std::pair<QByteArray, const char*> table[] = {
+        {"", "in.csv: the table is empty"},
+        {"sample_id,X,y\n", "in.csv:1: the first row names no column x"},
+        {"sample_id,x,y,x\n", "in.csv:1: the first row names two columns x"},
+        {"sample_id,x,y\na,1,2\n\na,1\n", "in.csv:4: 2 field(s) where the first row has 3"},
+        {"sample_id,x,y\na,1,0x2\n", "in.csv:2: y is \"0x2\", not a finite number"},
+        {"sample_id,x,y\na,1e999,2\n", "in.csv:2: x is \"1e999\""},
+        {"sample_id,x,y\na,,2\n", "in.csv:2: x is \"\""},
+        {"sample_id,x,y\n,1,2\n", "in.csv:2: sample_id is empty"},
+        {"sample_id,x,y\n\"a\nb\",1,2\n\"c,1,2\n", "in.csv:4: a quoted field is not closed"},
+        {"sample_id,x,y\n\"a\nb\"c,1,2\n", "in.csv:3: a quoted field goes on after its closing quote"},
+    };
+    for (const auto& [bytes, message] : table) {
+        const QString file = write("in.csv", bytes);
+        expectOneLine(runProgram({kShapes, file, QStringLiteral("-o"), path("out.csv"),
+                                  QStringLiteral("--outlines"), path("lines.csv")}),
+                      1, message);
+    }
+    const QString good = write("in.csv", twoStrokes());
+    expectOneLine(runProgram({kShapes, good, path("none.csv")}), 1, "none.csv: cannot be read");
+    expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), path("no/a"), QStringLiteral("-o"),
+                              path("out.csv")}),
+                  1, "no/a: cannot be written");
+    expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), QStringLiteral("-")}), 2,
+                  "would both go to standard output");
+    EXPECT_EQ(filesThere(), QStringList(QStringLiteral("in.csv")));
+}
+
+// A line, a spiral and a line, drawn within no time.
+TEST_F(ProgramTest, RecognisedRecordingsKeepTheirShapesAlone) {
+    QByteArray rows;
+    for (const int stroke : {0, 1, 2}) {
+        for (int i = 0; i < 40; ++i) {
+            const double r = stroke == 1 ? i * 0.5 : 0;
+            rows += "0 " + QByteArray::number(stroke == 1 ? 75 + r * std::cos(i * 0.5) : 10.0 + i * 3) + ' ' +
+                    QByteArray::number(20 + 40 * stroke + r * std::sin(i * 0.5)) + " 1\n";
+        }
+        rows += "0 0 0 0\n";
+    }
+    const QString recording = write("a.dat", rows);
+    const auto paint = [&](const QStringList& more) {
+        const Ended ended = runProgram(QStringList{QStringLiteral("paint"), recording, QStringLiteral("-o"),
+                                                   path("a.png"), QStringLiteral("--size=150x120"),
+                                                   QStringLiteral("--set"), QStringLiteral("radius=6")} +
+                                       more);
+        EXPECT_EQ(ended.status, 0) << ended.err.constData();
+        std::vector<bool> painted;
+        for (const int y : {20, 60, 100})
+            painted.push_back(qGray(QImage(path("a.png")).pixel(75, y)) < 200);
+        return painted;
+    };
+    const QString recognise = QStringLiteral("--recognise");
+    EXPECT_EQ(paint({}), (std::vector<bool>{true, true, true}));
+    EXPECT_EQ(paint({recognise}), (std::vector<bool>{true, false, true}));
+    // One of the two was no step.
+    EXPECT_EQ(paint({recognise, QStringLiteral("--undo=2")}), (std::vector<bool>{true, false, false}));
+}
+
+}  // namespace
+}  // namespace dabcanvas::dabpaint

@@ -1,0 +1,2 @@
+# SPDX-License-Identifier: MIT
+"""What tools/shape_strokes.py is made of."""
