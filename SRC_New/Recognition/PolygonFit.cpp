@@ -9,6 +9,7 @@
 namespace {
 constexpr double kTrim = 0.12;        // of a leg at each end: corners are rounded there
 constexpr double kLeastTurn = 0.17;   // radians; lines that turn less have no sure crossing
+constexpr double kOvershoot = 0.03;   // diagonals that a pen may go past a corner
 constexpr double kCornerReach = 0.3;  // diagonals that a crossing may lie from where the path turns
 
 std::size_t at(int index) {
@@ -135,7 +136,14 @@ PolygonFit fitPolyline(const Path& path, const LegFit& legs, int count) {
     for (int i = 1; i < count; ++i) {
         const Vec2 turn = path[at(breaks[at(i)])];
         const std::optional<Vec2> corner = crossing(lines[at(i - 1)], lines[at(i)]);
-        fit.corners.push_back(corner && (*corner - turn).norm() < kCornerReach / 2 ? *corner : turn);
+        if (!corner || (*corner - turn).norm() > kCornerReach / 2) {
+            fit.corners.push_back(turn);
+            continue;
+        }
+        // Bowed legs: their lines meet before the pen turned. The corner was meant between the two.
+        const Vec2 outward = (lines[at(i - 1)].direction - lines[at(i)].direction).normalized();
+        const double beyond = (turn - *corner).dot(outward);
+        fit.corners.push_back(beyond > kOvershoot ? Vec2((*corner + turn) / 2) : *corner);
     }
     fit.corners.push_back(lines.back().foot(path.back()));
     measure(fit, path, false);

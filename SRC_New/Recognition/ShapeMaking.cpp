@@ -249,12 +249,12 @@ Corners tidyTriangle(Corners corners) {
     }
     // One side level or upright: the one that nearly is.
     double turn = 0;
-    double least45 = kLevelShape;
+    double smallest = kLevelTriangle;
     for (int i = 0; i < 3; ++i) {
         const double angle = angleOf(corners[at((i + 1) % 3)] - corners[at(i)]);
         const double needed = std::round(angle / (kPi / 2)) * (kPi / 2) - angle;
-        if (std::abs(needed) <= least45) {
-            least45 = std::abs(needed);
+        if (std::abs(needed) <= smallest) {
+            smallest = std::abs(needed);
             turn = needed;
         }
     }
@@ -270,7 +270,7 @@ Corners tidyFoldLine(const Path& path, const PolygonFit& fit) {
         const Vec2 one = fit.corners[at(i - 1)] - fit.corners[at(i)];
         const Vec2 other = fit.corners[at(i + 1)] - fit.corners[at(i)];
         const double angle = std::abs(std::atan2(one.x() * other.y() - one.y() * other.x(), one.dot(other)));
-        allRight = allRight && std::abs(angle - kPi / 2) <= kRightCorner + 0.05;
+        allRight = allRight && std::abs(angle - kPi / 2) <= kRightCorners;
     }
     std::vector<StraightLine> lines;
     if (allRight) {
