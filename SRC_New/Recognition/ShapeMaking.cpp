@@ -270,7 +270,7 @@ Corners tidyFoldLine(const Path& path, const PolygonFit& fit) {
         const Vec2 one = fit.corners[at(i - 1)] - fit.corners[at(i)];
         const Vec2 other = fit.corners[at(i + 1)] - fit.corners[at(i)];
         const double angle = std::abs(std::atan2(one.x() * other.y() - one.y() * other.x(), one.dot(other)));
-        allRight = allRight && std::abs(angle - kPi / 2) <= kRightCorner + 0.05;
+        allRight = allRight && std::abs(angle - kPi / 2) <= kRightCornerOfFold;
     }
     std::vector<StraightLine> lines;
     if (allRight) {
@@ -359,8 +359,26 @@ Corners arrowOf(const Path& path, const LegFit& legs) {
 }
 
 double wrapped(double angle, double period) {
-    const double rest = std::fmod(angle, period);
-    return rest < 0 ? rest + period : rest;
+    double rest = std::fmod(angle, period);
+    if (rest < 0) {
+        rest += period;
+    }
+    return rest > 0 && rest < period ? rest : 0;  // neither -0 nor, by rounding, the period itself
+}
+
+// An ellipse along a piece of which the stroke runs to and fro may go on far beyond it.
+bool staysNear(const Path& path, const Ellipse& ellipse, double from, double to) {
+    constexpr int kSamples = 32;
+    for (int i = 0; i <= kSamples; ++i) {
+        const double t = from + (to - from) * i / kSamples;
+        const Vec2 local(ellipse.a * std::cos(t), ellipse.b * std::sin(t));
+        const Vec2 point = ellipse.centre + Eigen::Rotation2Dd(ellipse.angle) * local;
+        const auto isNear = [&](const Vec2& drawn) { return (drawn - point).norm() <= kFurthestBeyond; };
+        if (std::none_of(path.begin(), path.end(), isNear)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // Axes and place of the record, which turns the other way and begins at the lesser angle.
@@ -372,7 +390,7 @@ void setRound(ShapeRecord& shape, const Ellipse& ellipse, const StrokePath& stro
 }
 
 bool makeEllipse(ShapeRecord& shape, const StrokePath& stroke, const ShapeFits& fits) {
-    if (!fits.ellipse) {
+    if (!fits.ellipse || !staysNear(stroke.points, *fits.ellipse, 0, 2 * kPi)) {
         return false;
     }
     Ellipse ellipse = *fits.ellipse;
@@ -408,7 +426,7 @@ bool makeArc(ShapeRecord& shape, const StrokePath& stroke, const ShapeFits& fits
     const double from = std::min(tour.start, tour.end) + shift;
     shape.startAngle = wrapped(from, 2 * kPi);
     shape.endAngle = shape.startAngle + std::min(tour.sweep(), 2 * kPi);
-    return tour.sweep() > 0;
+    return tour.sweep() > 0 && staysNear(stroke.points, best, tour.start, tour.end);
 }
 }  // namespace
 

@@ -20,6 +20,8 @@ inline constexpr double kLevelEllipse = degrees(5);
 // Corners of triangles and of fold lines that are right angles: a hand's angles are off by up to eight degrees,
 // and 75 and 105 degrees are seldom meant.
 inline constexpr double kRightCorner = degrees(6);
+// Of a fold line whose every corner is that near: one that is meant would show in the others too.
+inline constexpr double kRightCornerOfFold = degrees(9);
 // Sides that are equal, as the longer divided by the shorter. A hand's squares are up to a tenth longer one way.
 inline constexpr double kEqualSides = 1.1;
 inline constexpr double kEqualSidesOfTriangle = 1.06;
@@ -34,4 +36,6 @@ inline constexpr double kEqualBarbAngles = degrees(16);
 
 // What is tidied may lie this much further from the stroke than before, in the stroke's diagonals, on average.
 inline constexpr double kMostMoved = 0.015;
+// No point of an ellipse or arc lies further from the stroke, in its diagonals: gaps that a hand leaves are smaller.
+inline constexpr double kFurthestBeyond = 0.2;
 }  // namespace ShapeTidying
