@@ -303,8 +303,10 @@ Corners tidyFoldLine(const Path& path, const PolygonFit& fit) {
 
 // How many legs a stroke with many has: as many as make it much nearer than one fewer.
 int manyLegs(const LegFit& legs) {
+    constexpr double kTremor = 0.008;    // diagonals; what is left is no leg
+    constexpr double kMuchNearer = 0.6;  // as a part of the distance with one leg fewer
     for (int count = kManyLegs; count < LegFit::kMostLegs; ++count) {
-        if (legs.rms(count) < 0.008 || legs.rms(count + 1) > 0.6 * legs.rms(count)) {
+        if (legs.rms(count) < kTremor || legs.rms(count + 1) > kMuchNearer * legs.rms(count)) {
             return count;
         }
     }

@@ -213,6 +213,11 @@ CommandLine readShapes(const QStringList& arguments) {
             shapes.output == QLatin1String("-")
                 ? QStringLiteral("the shapes and their outlines would both go to standard output")
                 : QStringLiteral("the shapes and their outlines would both go to %1").arg(shapes.output)};
+    for (const QString& input : shapes.inputs) {
+        if (input != QLatin1String("-") &&
+            (isSameFile(input, shapes.output) || isSameFile(input, shapes.outlines)))
+            return UsageFault{QStringLiteral("%1 is what is read; write elsewhere").arg(input)};
+    }
     return shapes;
 }
 

@@ -76,6 +76,9 @@ TEST_F(ProgramTest, BadTablesAreToldWithTheirLineAndLeaveNoFile) {
     expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), path("./a.csv"),
                               QStringLiteral("-o"), path("a.csv")}),
                   2, "would both go to");
+    expectOneLine(
+        runProgram({kShapes, QStringLiteral("-"), good, QStringLiteral("--outlines"), path("./in.csv")}), 2,
+        "in.csv is what is read");
     EXPECT_EQ(filesThere(), QStringList(QStringLiteral("in.csv")));
 }
 
