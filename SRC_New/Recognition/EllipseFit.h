@@ -32,7 +32,7 @@ private:
 struct EllipseTour {
     double rms = 0;  // of the distances
     double furthest = 0;
-    double start = 0;  // parameters of the path's ends; start - end tells direction and sweep
+    double start = 0;  // parameters of the path's ends; end - start tells direction and sweep
     double end = 0;
     double backward = 0;  // how much of the turning went the other way, in radians
 

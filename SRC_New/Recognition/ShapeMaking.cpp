@@ -303,8 +303,10 @@ Corners tidyFoldLine(const Path& path, const PolygonFit& fit) {
 
 // How many legs a stroke with many has: as many as make it much nearer than one fewer.
 int manyLegs(const LegFit& legs) {
+    constexpr double kTremor = 0.008;    // diagonals; what is left is no leg
+    constexpr double kMuchNearer = 0.6;  // as a part of the distance with one leg fewer
     for (int count = kManyLegs; count < LegFit::kMostLegs; ++count) {
-        if (legs.rms(count) < 0.008 || legs.rms(count + 1) > 0.6 * legs.rms(count)) {
+        if (legs.rms(count) < kTremor || legs.rms(count + 1) > kMuchNearer * legs.rms(count)) {
             return count;
         }
     }
@@ -359,8 +361,26 @@ Corners arrowOf(const Path& path, const LegFit& legs) {
 }
 
 double wrapped(double angle, double period) {
-    const double rest = std::fmod(angle, period);
-    return rest < 0 ? rest + period : rest;
+    double rest = std::fmod(angle, period);
+    if (rest < 0) {
+        rest += period;
+    }
+    return rest > 0 && rest < period ? rest : 0;  // neither -0 nor, by rounding, the period itself
+}
+
+// An ellipse along a piece of which the stroke runs to and fro may go on far beyond it.
+bool staysNear(const Path& path, const Ellipse& ellipse, double from, double to) {
+    constexpr int kSamples = 32;
+    for (int i = 0; i <= kSamples; ++i) {
+        const double t = from + (to - from) * i / kSamples;
+        const Vec2 local(ellipse.a * std::cos(t), ellipse.b * std::sin(t));
+        const Vec2 point = ellipse.centre + Eigen::Rotation2Dd(ellipse.angle) * local;
+        const auto isNear = [&](const Vec2& drawn) { return (drawn - point).norm() <= kFurthestBeyond; };
+        if (std::none_of(path.begin(), path.end(), isNear)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // Axes and place of the record, which turns the other way and begins at the lesser angle.
@@ -372,7 +392,7 @@ void setRound(ShapeRecord& shape, const Ellipse& ellipse, const StrokePath& stro
 }
 
 bool makeEllipse(ShapeRecord& shape, const StrokePath& stroke, const ShapeFits& fits) {
-    if (!fits.ellipse) {
+    if (!fits.ellipse || !staysNear(stroke.points, *fits.ellipse, 0, 2 * kPi)) {
         return false;
     }
     Ellipse ellipse = *fits.ellipse;
@@ -408,7 +428,7 @@ bool makeArc(ShapeRecord& shape, const StrokePath& stroke, const ShapeFits& fits
     const double from = std::min(tour.start, tour.end) + shift;
     shape.startAngle = wrapped(from, 2 * kPi);
     shape.endAngle = shape.startAngle + std::min(tour.sweep(), 2 * kPi);
-    return tour.sweep() > 0;
+    return tour.sweep() > 0 && staysNear(stroke.points, best, tour.start, tour.end);
 }
 }  // namespace
 

@@ -124,13 +124,21 @@ Round rounded(const ShapeRecord& shape) {
     return round;
 }
 
-// For outlines too small to have runs.
+// For outlines too small to have runs; those of a larger ellipse or arc have none when they are too long.
 constexpr int kFewPieces = 16;
+constexpr double kSmall = 4;
+
+bool isTooLong(const Round& round, const Points& run) {
+    return run.empty() && round.a + round.b > kSmall;
+}
 
 Places aroundEllipse(const Round& round, double spacing) {
     Points outline = pointsOf(LineProcess::processEllipsesWithCenter(
         round.centre, static_cast<float>(round.a), static_cast<float>(round.b),
         static_cast<float>(round.rotation), 1));
+    if (isTooLong(round, outline)) {
+        return {};
+    }
     if (outline.empty()) {
         round.append(0, 2 * kPi, kFewPieces, outline);
     } else {
@@ -146,6 +154,9 @@ Places alongArc(const Round& round, double spacing) {
         LineProcess::processArcWithCenter(round.centre, static_cast<float>(round.a),
                                           static_cast<float>(round.b), static_cast<float>(round.rotation),
                                           static_cast<float>(round.start), static_cast<float>(round.end), 1));
+    if (isTooLong(round, outline)) {
+        return {};
+    }
     // A run stops short of its last sample, which is one short of the end.
     const double samples = std::floor((round.a + round.b) * kPi / 2);
     const double left = outline.empty() ? 1 : 1 / samples;

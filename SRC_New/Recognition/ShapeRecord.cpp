@@ -19,7 +19,11 @@ std::vector<ShapePoint> roundOutline(const ShapeRecord& shape, double step) {
     const double start = shape.kind == ShapeKind::ellipse ? 0 : shape.startAngle;
     const double end = shape.kind == ShapeKind::ellipse ? 2 * 3.141592653589793 : shape.endAngle;
     const double length = std::max(shape.a, shape.b) * (end - start);
-    const int pieces = static_cast<int>(std::clamp(std::ceil(length / step), 16.0, kMostPoints));
+    if (!std::isfinite(length)) {
+        return {};
+    }
+    const double wanted = std::ceil(length / step);
+    const int pieces = wanted > 16 ? static_cast<int>(std::min(wanted, kMostPoints)) : 16;
     const double sr = std::sin(shape.rotation);
     const double cr = std::cos(shape.rotation);
     std::vector<ShapePoint> outline;

@@ -58,5 +58,6 @@ struct ShapeRecord {
 std::string_view nameOfShapeKind(ShapeKind kind);
 
 // The shape as one pen stroke: a closed one repeats its first point, an arrow goes back over its tip, a
-// round one has a point about every `step` of its outline. Empty for none.
+// round one has a point about every `step` of its outline, but no fewer than 17 and no more than 100,001. Empty for
+// none, and for a round one whose half axes or angles are not finite.
 std::vector<ShapePoint> outlineOfShape(const ShapeRecord& shape, double step = 1);

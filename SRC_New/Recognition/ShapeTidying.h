@@ -38,4 +38,6 @@ inline constexpr double kEqualBarbAngles = degrees(10);
 
 // What is tidied may lie this much further from the stroke than before, in the stroke's diagonals, on average.
 inline constexpr double kMostMoved = 0.015;
+// No point of an ellipse or arc lies further from the stroke, in its diagonals: gaps that a hand leaves are smaller.
+inline constexpr double kFurthestBeyond = 0.2;
 }  // namespace ShapeTidying

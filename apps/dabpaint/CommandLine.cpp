@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -175,6 +177,14 @@ CommandLine readPaint(const QStringList& arguments) {
     return paint;
 }
 
+// "a.csv" and "./a.csv" too.
+bool isSameFile(const QString& one, const QString& other) {
+    const auto whole = [](const QString& path) {
+        return path == QLatin1String("-") ? path : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    };
+    return whole(one) == whole(other);
+}
+
 CommandLine readShapes(const QStringList& arguments) {
     ShapesOptions shapes;
     bool help = false;
@@ -198,11 +208,16 @@ CommandLine readShapes(const QStringList& arguments) {
         shapes.inputs << QStringLiteral("-");
     if (shapes.output.isEmpty())
         shapes.output = QStringLiteral("-");
-    if (shapes.output == shapes.outlines)
+    if (isSameFile(shapes.output, shapes.outlines))
         return UsageFault{
             shapes.output == QLatin1String("-")
                 ? QStringLiteral("the shapes and their outlines would both go to standard output")
                 : QStringLiteral("the shapes and their outlines would both go to %1").arg(shapes.output)};
+    for (const QString& input : shapes.inputs) {
+        if (input != QLatin1String("-") &&
+            (isSameFile(input, shapes.output) || isSameFile(input, shapes.outlines)))
+            return UsageFault{QStringLiteral("%1 is what is read; write elsewhere").arg(input)};
+    }
     return shapes;
 }
 

@@ -223,10 +223,16 @@ TEST(ShapePlacesTest, IncompleteAndAbsurdShapesHaveNone) {
         }
     }
     shape.kind = ShapeKind::ellipse;
-    for (const double size : {0.0, -1.0, 1e9, 1e300, std::nan("")}) {
+    shape.endAngle = 6;
+    for (const double size : {0.0, -1.0, 1e6, 2e6, 1e9, 1e300, std::nan("")}) {
         shape.a = shape.b = size;
-        EXPECT_TRUE(placesOnShape(shape, 1).empty()) << size;
+        for (const ShapeKind kind : {ShapeKind::ellipse, ShapeKind::arc}) {
+            shape.kind = kind;
+            EXPECT_TRUE(placesOnShape(shape, 1).empty()) << size;
+            EXPECT_EQ(outlineOfShape(shape).empty(), std::isnan(size)) << size;
+        }
     }
+    shape.kind = ShapeKind::ellipse;
     shape.a = shape.b = 0.01;  // smaller than any run
     EXPECT_EQ(placesOnShape(shape, 1).front().size(), 1u);
     shape.kind = ShapeKind::arc;

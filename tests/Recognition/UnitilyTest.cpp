@@ -110,11 +110,19 @@ TEST_P(ShapesAreRecognised, HoweverDrawn) {
     }
 }
 
-TEST_P(ShapesAreRecognised, FromTheOtherEndAndFromWithin) {
+// An arrow alone is drawn from its tail.
+std::vector<Meant> shapesOfEitherEnd() {
+    std::vector<Meant> shapes = meantShapes();
+    std::erase_if(shapes, [](const Meant& meant) { return meant.kind == ShapeKind::arrow; });
+    return shapes;
+}
+
+class ShapesOfEitherEndAreRecognised : public testing::TestWithParam<Meant> {};
+INSTANTIATE_TEST_SUITE_P(Unitily, ShapesOfEitherEndAreRecognised, testing::ValuesIn(shapesOfEitherEnd()),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_P(ShapesOfEitherEndAreRecognised, FromTheOtherEndAndFromWithin) {
     const Meant& meant = GetParam();
-    if (meant.kind == ShapeKind::arrow) {
-        GTEST_SKIP() << "an arrow is drawn from its tail";
-    }
     Stroke stroke = shaky(meant.outline, 200);
     std::reverse(stroke.begin(), stroke.end());
     EXPECT_EQ(Unitily::recogniseWithPoints(placed(stroke, 8)).kind, meant.kind);
@@ -237,7 +245,50 @@ TEST(UnitilyTest, SidesAndAnglesBecomeEqual) {
     const ShapeRecord circle = Unitily::recogniseWithPoints(placed(round(90, 85, 30, 380), 12));
     ASSERT_EQ(circle.kind, ShapeKind::ellipse);
     EXPECT_EQ(circle.a, circle.b);
+    EXPECT_EQ(circle.rotation, 0);
+    EXPECT_FALSE(std::signbit(circle.rotation)) << "which prints as -0";
     EXPECT_NEAR(circle.a, 87.5, 2);
+}
+
+TEST(UnitilyTest, AFoldLineGoesToTheSpikeOfBentLegs) {
+    const auto bent = [](ShapePoint from, ShapePoint by, ShapePoint to) {
+        Stroke stroke;
+        for (int i = 0; i <= 30; ++i) {
+            const double t = i / 30.0;
+            const double u = 1 - t;
+            stroke.push_back({u * u * from.x + 2 * u * t * by.x + t * t * to.x,
+                              u * u * from.y + 2 * u * t * by.y + t * t * to.y});
+        }
+        return stroke;
+    };
+    for (const double turn : {0.0, 40.0, 190.0}) {
+        const Stroke check =
+            placed(joined(bent({-60, 0}, {-15, 30}, {0, 100}), bent({0, 100}, {5, -20}, {70, -100})), turn);
+        const ShapeRecord fold = Unitily::recogniseWithPoints(check);
+        SCOPED_TRACE(turn);
+        ASSERT_EQ(fold.kind, ShapeKind::foldLine);
+        ASSERT_EQ(fold.legs(), 2);
+        const ShapePoint tip = placed({{0, 100}}, turn).front();
+        EXPECT_LT(std::hypot(fold.corners[1].x - tip.x, fold.corners[1].y - tip.y), 6);
+    }
+}
+
+// The nearest ellipse to a thin triangle is a piece of a long one.
+TEST(UnitilyTest, NothingGoesFarBeyondItsStroke) {
+    for (const double height : {4.0, 7.0, 10.0, 14.0, 20.0}) {
+        for (const double apex : {30.0, 100.0, 150.0, 190.0}) {
+            for (const double turn : {20.0, 200.0}) {
+                const Stroke thin =
+                    placed(shaky(drawn({{0, 0}, {200, 0}, {apex, height}, {0, 0}}), 200), turn);
+                const ShapeRecord shape = Unitily::recogniseWithPoints(thin);
+                SCOPED_TRACE(testing::Message() << height << " high, apex at " << apex << ", turned by "
+                                                << turn << ": " << nameOfShapeKind(shape.kind));
+                for (const ShapePoint& p : outlineOfShape(shape)) {
+                    ASSERT_LT(distanceTo(thin, p), 50);
+                }
+            }
+        }
+    }
 }
 
 // The record's angles, in the sense that outlines are drawn in.

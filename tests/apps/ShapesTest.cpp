@@ -73,6 +73,12 @@ TEST_F(ProgramTest, BadTablesAreToldWithTheirLineAndLeaveNoFile) {
                   1, "no/a: cannot be written");
     expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), QStringLiteral("-")}), 2,
                   "would both go to standard output");
+    expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), path("./a.csv"),
+                              QStringLiteral("-o"), path("a.csv")}),
+                  2, "would both go to");
+    expectOneLine(
+        runProgram({kShapes, QStringLiteral("-"), good, QStringLiteral("--outlines"), path("./in.csv")}), 2,
+        "in.csv is what is read");
     EXPECT_EQ(filesThere(), QStringList(QStringLiteral("in.csv")));
 }
 
