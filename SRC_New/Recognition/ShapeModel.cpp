@@ -17,6 +17,8 @@ static_assert(kInputs == ShapeFeatures::kCount,
 
 // A stroke that is no surer a shape than this stays as it was drawn.
 constexpr double kSureEnough = 0.4;
+// So does one that may be several kinds, none of them likely.
+constexpr double kLikelyKind = 0.3;
 
 // In the order of the network's outputs.
 struct Outcome {
@@ -96,7 +98,7 @@ ShapeVerdict judgeShape(const ShapeFeatures& features) {
     }
     const auto shape = std::max_element(kinds.begin() + 1, kinds.end());
     ShapeVerdict verdict;
-    if (1 - kinds[0] < kSureEnough) {
+    if (1 - kinds[0] < kSureEnough || *shape < kLikelyKind) {
         verdict.confidence = kinds[0];
         return verdict;
     }

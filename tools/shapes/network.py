@@ -126,10 +126,10 @@ class Network:
             out.write("// clang-format on\n")
 
 
-def kinds_of(chances, sure=0.4):
-    """The judged kind of each row, as kSureEnough in ShapeModel.cpp has it, and the chances of all kinds."""
+def kinds_of(chances, sure=0.4, likely=0.3):
+    """The judged kind of each row, by kSureEnough and kLikelyKind of ShapeModel.cpp, and the chances of all kinds."""
     kinds = np.zeros((len(chances), len(KINDS)))
     for outcome, kind in enumerate(KIND_OF):
         kinds[:, kind] += chances[:, outcome]
     best = kinds[:, 1:].argmax(1) + 1
-    return np.where(1 - kinds[:, 0] >= sure, best, 0), kinds
+    return np.where((1 - kinds[:, 0] >= sure) & (kinds[:, 1:].max(1) >= likely), best, 0), kinds
