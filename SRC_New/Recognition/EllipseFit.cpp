@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+namespace dabcanvas {
+
 namespace {
 constexpr double kPi = std::numbers::pi;
 constexpr double kLongest = 20;  // half axes beyond this, in the stroke's diagonals, are a straight line's
@@ -261,3 +263,5 @@ EllipseTour tourOf(const Ellipse& ellipse, const Path& path) {
     tour.backward = std::min(forward, backward);
     return tour;
 }
+
+}  // namespace dabcanvas

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace dabcanvas {
+
 struct Ellipse {
     Vec2 centre = Vec2::Zero();
     double a = 0;      // half axes, above 0, a along `angle`
@@ -43,3 +45,5 @@ struct EllipseTour {
 std::optional<Ellipse> fitEllipse(const Path& path);
 std::optional<Ellipse> fitCircle(const Path& path);
 EllipseTour tourOf(const Ellipse& ellipse, const Path& path);
+
+}  // namespace dabcanvas

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <limits>
 
+namespace dabcanvas {
+
 namespace {
 constexpr int kStride = 2;       // legs meet at every second point only, for a quarter of the work
 constexpr int kShortestLeg = 2;  // in such nodes; shorter ones follow noise
@@ -101,3 +103,5 @@ std::vector<int> LegFit::breaks(int legs) const {
 double LegFit::rms(int legs) const {
     return std::sqrt(_cost[at(legs)][at(_nodes - 1)] / ((_nodes - 1) * kStride + 1));
 }
+
+}  // namespace dabcanvas

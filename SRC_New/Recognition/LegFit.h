@@ -7,6 +7,8 @@
 #include <array>
 #include <vector>
 
+namespace dabcanvas {
+
 // A straight line, through `point` along `direction` (a unit vector).
 struct StraightLine {
     Vec2 point = Vec2::Zero();
@@ -55,3 +57,5 @@ private:
     std::array<std::vector<double>, kMostLegs + 1> _cost;
     std::array<std::vector<int>, kMostLegs + 1> _from;
 };
+
+}  // namespace dabcanvas

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <limits>
 
+namespace dabcanvas {
+
 namespace {
 constexpr double kTrim = 0.12;        // of a leg at each end: corners are rounded there
 constexpr double kLeastTurn = 0.17;   // radians; lines that turn less have no sure crossing
@@ -148,3 +150,5 @@ PolygonFit fitPolyline(const Path& path, const LegFit& legs, int count) {
     measure(fit, path, false);
     return fit;
 }
+
+}  // namespace dabcanvas

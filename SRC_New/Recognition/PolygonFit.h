@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+namespace dabcanvas {
+
 struct PolygonFit {
     std::vector<Vec2> corners;  // in the order drawn
     double rms = 0;             // distances of the path's points from the outline
@@ -29,3 +31,5 @@ PolygonFit fitPolyline(const Path& path, const LegFit& legs, int count);
 // Where two lines meet; nothing when they hardly turn.
 std::optional<Vec2> crossing(const StraightLine& one, const StraightLine& other);
 double distanceToSegment(const Vec2& point, const Vec2& from, const Vec2& to);
+
+}  // namespace dabcanvas

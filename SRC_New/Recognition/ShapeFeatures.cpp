@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <numbers>
 
+namespace dabcanvas {
+
 namespace {
 constexpr double kPi = std::numbers::pi;
 constexpr double kFarOff = 0.3;  // stands for the distance of a fit that there is none of
@@ -370,3 +372,5 @@ ShapeFeatures::ShapeFeatures(const StrokePath& stroke, const ShapeFits& fits) {
     measurePolygons(out, fits);
     measureArrow(out, path, fits.legs);
 }
+
+}  // namespace dabcanvas

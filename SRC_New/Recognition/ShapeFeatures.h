@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+namespace dabcanvas {
+
 // Everything that is fitted to a stroke, so that measuring and drawing work on the same fits.
 struct ShapeFits {
     explicit ShapeFits(const StrokePath& stroke);
@@ -40,3 +42,5 @@ struct ShapeFeatures {
 
     ShapeFeatures(const StrokePath& stroke, const ShapeFits& fits);
 };
+
+}  // namespace dabcanvas

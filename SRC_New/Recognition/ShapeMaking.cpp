@@ -11,6 +11,8 @@
 #include <numbers>
 #include <utility>
 
+namespace dabcanvas {
+
 namespace {
 using namespace ShapeTidying;
 constexpr double kPi = std::numbers::pi;
@@ -482,3 +484,5 @@ ShapeRecord makeShape(ShapeKind kind, int legs, const StrokePath& stroke, const 
     }
     return shape;
 }
+
+}  // namespace dabcanvas

@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace dabcanvas {
+
 namespace {
 // kInputs, kHidden1, kHidden2, kOutputs; kMean and kScale of the inputs; of each layer the weights, a row an
 // output, in steps of that row's kStep, and kBias.
@@ -107,3 +109,5 @@ ShapeVerdict judgeShape(const ShapeFeatures& features) {
     verdict.legs = verdict.kind == ShapeKind::foldLine ? kOutcomes[best].legs : 0;
     return verdict;
 }
+
+}  // namespace dabcanvas

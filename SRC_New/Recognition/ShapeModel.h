@@ -5,6 +5,8 @@
 #include "Recognition/ShapeFeatures.h"
 #include "Recognition/ShapeRecord.h"
 
+namespace dabcanvas {
+
 struct ShapeVerdict {
     ShapeKind kind = ShapeKind::none;
     double confidence = 0;  // 0..1: the probability that the kind is right
@@ -14,3 +16,5 @@ struct ShapeVerdict {
 // A small neural network, trained by tools/train_shapes.py on strokes of many made-up hands. A stroke and its
 // mirror image get the same verdict.
 ShapeVerdict judgeShape(const ShapeFeatures& features);
+
+}  // namespace dabcanvas

@@ -4,6 +4,8 @@
 
 #include <numbers>
 
+namespace dabcanvas {
+
 namespace ShapeTidying {
 constexpr double degrees(double value) {
     return value * std::numbers::pi / 180;
@@ -41,3 +43,5 @@ inline constexpr double kMostMoved = 0.015;
 // No point of an ellipse or arc lies further from the stroke, in its diagonals: gaps that a hand leaves are smaller.
 inline constexpr double kFurthestBeyond = 0.2;
 }  // namespace ShapeTidying
+
+}  // namespace dabcanvas

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstddef>
 
+namespace dabcanvas {
+
 namespace {
 constexpr int kFinePoints = 512;      // what smoothing works on
 constexpr double kPixelNoise = 0.01;  // standard deviation of the smoothing, in diagonals
@@ -160,3 +162,5 @@ StrokePath StrokePath::of(std::span<const ShapePoint> stroke) {
     result.length = lengthOf(path);
     return result;
 }
+
+}  // namespace dabcanvas

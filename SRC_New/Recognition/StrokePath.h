@@ -9,6 +9,8 @@
 #include <span>
 #include <vector>
 
+namespace dabcanvas {
+
 using Vec2 = Eigen::Vector2d;
 using Path = std::vector<Vec2>;
 
@@ -36,3 +38,5 @@ struct StrokePath {
 // `count` points, evenly spaced along `path`, its ends included. `path` has a length above 0.
 Path evenlySpaced(const Path& path, int count);
 double lengthOf(const Path& path);
+
+}  // namespace dabcanvas

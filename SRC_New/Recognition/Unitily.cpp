@@ -8,6 +8,8 @@
 
 #include <cstddef>
 
+using namespace dabcanvas;
+
 namespace {
 constexpr std::size_t kFewestPoints = 5;
 }

@@ -10,7 +10,10 @@
 #include <string>
 #include <vector>
 
+using namespace dabcanvas;
+
 namespace {
+
 void measure(const std::string& name, const std::vector<ShapePoint>& points, std::ostream& out) {
     const StrokePath stroke = StrokePath::of(points);
     if (points.size() < 5 || stroke.isEmpty()) {
