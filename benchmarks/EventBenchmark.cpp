@@ -3,12 +3,10 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <vector>
 
 #include "QDEAGLView/QDDrawCanvas.h"
+#include "support/Canvas.h"
 #include "support/Measuring.h"
 #include "support/Recording.h"
 
@@ -17,17 +15,6 @@ using namespace dabcanvas::bench;
 namespace {
 
 constexpr std::int32_t kPaint = 0, kSmudge = 3;
-
-std::unique_ptr<QDDrawCanvas> makeCanvas(int width, int height) {
-    auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height));
-    if (!canvas) {
-        std::fprintf(stderr, "a canvas cannot be made\n");
-        std::exit(1);
-    }
-    canvas->clearWithColor(ESColor::grey(1), false);
-    canvas->setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.7f));
-    return canvas;
-}
 
 double percentile(std::vector<double>& values, double part) {
     const auto at =

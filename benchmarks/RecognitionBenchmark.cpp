@@ -3,29 +3,16 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <vector>
 
 #include "QDEAGLView/QDDrawCanvas.h"
 #include "Recognition/Unitily.h"
+#include "support/Canvas.h"
 #include "support/Measuring.h"
 
 using namespace dabcanvas::bench;
 
 namespace {
-
-std::unique_ptr<QDDrawCanvas> makeCanvas(int width, int height) {
-    auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height));
-    if (!canvas) {
-        std::fprintf(stderr, "a canvas cannot be made\n");
-        std::exit(1);
-    }
-    canvas->clearWithColor(ESColor::grey(1), false);
-    canvas->setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.7f));
-    return canvas;
-}
 
 // An ellipse 600 x 400 large and a freehand stroke along it, each up to the pixels to show.
 void drawShape(benchmark::State& state) {

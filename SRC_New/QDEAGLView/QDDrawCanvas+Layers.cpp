@@ -234,6 +234,15 @@ void QDDrawCanvas::clearSubBuffer() {
     clearLayer(ESRenderTypeSubLine, _subLineRenderRect);
 }
 
+// All that they hold, not just what the present stroke's lines drew there: a sub-line may have been switched off in the
+// middle of the stroke.
+void QDDrawCanvas::emptyLineLayers() {
+    mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
+    mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
+    clearExtenBuffer();
+    clearSubBuffer();
+}
+
 void QDDrawCanvas::clearSmudgeBuffer() {
     clearLayer(ESRenderTypeSmudge, _smudgeRenderRect);
 }
@@ -254,11 +263,7 @@ void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
     _leafDrawView->finishPending();
     setEdited(true);
     _pending.clear();  // it would be cleared at once
-    // All that a layer holds, not just what the present stroke's line drew there.
-    mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
-    mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
-    clearExtenBuffer();
-    clearSubBuffer();
+    emptyLineLayers();
     clearSmudgeBuffer();
     clearESBufferWithColor(color, online);
 }

@@ -86,11 +86,7 @@ void QDDrawCanvas::takeBackSketch() {
         return;
     }
     _pending.clear();  // all of it lies within what is repainted
-    for (const ESRenderType layer : {ESRenderTypeLine, ESRenderTypeSubLine}) {
-        mergeRect(layer == ESRenderTypeLine ? _lineRenderRect : _subLineRenderRect, _layerContent[layer]);
-    }
-    clearExtenBuffer();
-    clearSubBuffer();
+    emptyLineLayers();
     _edited = _editedBefore;
     _mayMergePending = true;
     const QSize buffer = bufferSize().toSize();

@@ -208,11 +208,7 @@ void QDDrawCanvas::takeSample(QPointF point, float pressure, float altitude) {
 // Between strokes the layers are empty and the background is the canvas. A sketch stays on neither.
 void QDDrawCanvas::finishLayers(bool asStep) {
     settleSketch();
-    mergeRect(_lineRenderRect, _layerContent[ESRenderTypeLine]);
-    clearExtenBuffer();
-    // Also of a sub-line that was switched off in the middle of the stroke.
-    mergeRect(_subLineRenderRect, _layerContent[ESRenderTypeSubLine]);
-    clearSubBuffer();
+    emptyLineLayers();
     updateBGImage(asStep ? autoMarked() : QByteArray());
 }
 
@@ -242,11 +238,7 @@ void QDDrawCanvas::withdrawStroke(QPointF point) {
         return;
     }
     _pending.clear();  // all of it lies within what is repainted
-    for (const ESRenderType layer : {ESRenderTypeLine, ESRenderTypeSubLine}) {
-        mergeRect(layer == ESRenderTypeLine ? _lineRenderRect : _subLineRenderRect, _layerContent[layer]);
-    }
-    clearExtenBuffer();
-    clearSubBuffer();
+    emptyLineLayers();
     resetWithRenderRect(_strokeRect);
     if (isSmudgeType()) {
         updateSmudgeBGTexture();

@@ -611,6 +611,7 @@ private:
     void leavePointerStroke(bool withdraw);
     void startProcess();
     QRectF drawRun(const LPPoint* points, std::size_t count, ESRenderType layer);
+    void emptyLineLayers();
     ESRenderType mainLayer() const { return isSmudgeType() ? ESRenderTypeSmudge : ESRenderTypeLine; }
     QRectF& mainRect() { return isSmudgeType() ? _smudgeRenderRect : _lineRenderRect; }
     void startLine(LPLineParams& record, QPointF point, float pressure, float altitude);
