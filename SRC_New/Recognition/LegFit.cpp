@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Recognition/LegFit.h"
 
+#include "Recognition/PathGeometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -12,10 +14,6 @@ namespace {
 constexpr int kStride = 2;       // legs meet at every second point only, for a quarter of the work
 constexpr int kShortestLeg = 2;  // in such nodes; shorter ones follow noise
 constexpr double kDetour = 0.5;  // a detour counts as distance from the line, by this factor
-
-std::size_t at(int index) {
-    return static_cast<std::size_t>(index);
-}
 }  // namespace
 
 PathMoments::PathMoments(const Path& path) : _sums(path.size() + 1) {

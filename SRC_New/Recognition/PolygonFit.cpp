@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Recognition/PolygonFit.h"
 
+#include "Recognition/PathGeometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -14,10 +16,6 @@ constexpr double kLeastTurn = 0.17;   // radians; lines that turn less have no s
 constexpr double kCornerReach = 0.3;  // diagonals that a crossing may lie from where the path turns
 constexpr double kSpike = 0.02;       // diagonals that a path may turn outside the crossing
 
-std::size_t at(int index) {
-    return static_cast<std::size_t>(index);
-}
-
 // The line along the middle part of a leg, directed as the leg is drawn.
 StraightLine trimmedLine(const PathMoments& moments, const Path& path, int first, int last) {
     const int trim = static_cast<int>((last - first) * kTrim);
@@ -29,14 +27,9 @@ StraightLine trimmedLine(const PathMoments& moments, const Path& path, int first
 }
 
 void measure(PolygonFit& fit, const Path& path, bool closed) {
-    const std::size_t sides = closed ? fit.corners.size() : fit.corners.size() - 1;
     double sum = 0;
     for (const Vec2& point : path) {
-        double nearest = std::numeric_limits<double>::infinity();
-        for (std::size_t i = 0; i < sides; ++i) {
-            nearest = std::min(
-                nearest, distanceToSegment(point, fit.corners[i], fit.corners[(i + 1) % fit.corners.size()]));
-        }
+        const double nearest = distanceToOutline(point, fit.corners, closed);
         sum += nearest * nearest;
         fit.furthest = std::max(fit.furthest, nearest);
     }
@@ -105,11 +98,17 @@ std::optional<Vec2> crossing(const StraightLine& one, const StraightLine& other)
     return one.point + along * one.direction;
 }
 
-double distanceToSegment(const Vec2& point, const Vec2& from, const Vec2& to) {
-    const Vec2 side = to - from;
-    const double squared = side.squaredNorm();
-    const double along = squared > 0 ? std::clamp((point - from).dot(side) / squared, 0.0, 1.0) : 0;
-    return (point - from - along * side).norm();
+double distanceToOutline(const Vec2& point, const std::vector<Vec2>& corners, bool closed) {
+    const std::size_t sides = closed ? corners.size() : corners.size() - 1;
+    double nearest = std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i < sides; ++i) {
+        const Vec2& from = corners[i];
+        const Vec2 side = corners[(i + 1) % corners.size()] - from;
+        const double squared = side.squaredNorm();
+        const double along = squared > 0 ? std::clamp((point - from).dot(side) / squared, 0.0, 1.0) : 0;
+        nearest = std::min(nearest, (point - from - along * side).norm());
+    }
+    return nearest;
 }
 
 std::optional<PolygonFit> fitPolygon(const Path& path, const LegFit& legs, int corners) {

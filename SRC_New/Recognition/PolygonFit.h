@@ -30,6 +30,7 @@ PolygonFit fitPolyline(const Path& path, const LegFit& legs, int count);
 
 // Where two lines meet; nothing when they hardly turn.
 std::optional<Vec2> crossing(const StraightLine& one, const StraightLine& other);
-double distanceToSegment(const Vec2& point, const Vec2& from, const Vec2& to);
+// To the nearest side; a closed outline has one from its last corner to its first. Of two corners at least.
+double distanceToOutline(const Vec2& point, const std::vector<Vec2>& corners, bool closed);
 
 }  // namespace dabcanvas

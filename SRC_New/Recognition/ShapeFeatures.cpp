@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Recognition/ShapeFeatures.h"
 
+#include "Recognition/PathGeometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -11,14 +13,6 @@ namespace dabcanvas {
 namespace {
 constexpr double kPi = std::numbers::pi;
 constexpr double kFarOff = 0.3;  // stands for the distance of a fit that there is none of
-
-std::size_t at(int index) {
-    return static_cast<std::size_t>(index);
-}
-
-double turnBetween(const Vec2& before, const Vec2& after) {
-    return std::atan2(before.x() * after.y() - before.y() * after.x(), before.dot(after));
-}
 
 // Collects numbers, scaled so that differences that matter are about 1 each.
 class Writer {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Recognition/ShapeMaking.h"
 
+#include "Recognition/PathGeometry.h"
 #include "Recognition/ShapeTidying.h"
 
 #include <Eigen/Eigenvalues>
@@ -18,10 +19,6 @@ using namespace ShapeTidying;
 constexpr double kPi = std::numbers::pi;
 using Corners = std::vector<Vec2>;
 
-std::size_t at(int index) {
-    return static_cast<std::size_t>(index);
-}
-
 double angleOf(const Vec2& direction) {
     return std::atan2(direction.y(), direction.x());
 }
@@ -38,14 +35,8 @@ double levelled(double angle, double step, double tolerance) {
 
 double meanDistance(const Path& path, const Corners& corners, bool closed) {
     double sum = 0;
-    const std::size_t sides = closed ? corners.size() : corners.size() - 1;
     for (const Vec2& point : path) {
-        double nearest = 10;
-        for (std::size_t i = 0; i < sides; ++i) {
-            nearest =
-                std::min(nearest, distanceToSegment(point, corners[i], corners[(i + 1) % corners.size()]));
-        }
-        sum += nearest;
+        sum += distanceToOutline(point, corners, closed);
     }
     return sum / static_cast<double>(path.size());
 }
@@ -195,7 +186,7 @@ double cornerAngle(const Corners& corners, int corner) {
     const int count = static_cast<int>(corners.size());
     const Vec2 one = corners[at((corner + count - 1) % count)] - corners[at(corner)];
     const Vec2 other = corners[at((corner + 1) % count)] - corners[at(corner)];
-    return std::abs(std::atan2(one.x() * other.y() - one.y() * other.x(), one.dot(other)));
+    return std::abs(turnBetween(one, other));
 }
 
 Corners tidyTriangle(Corners corners) {
@@ -269,10 +260,7 @@ Corners tidyFoldLine(const Path& path, const PolygonFit& fit) {
     const int count = static_cast<int>(fit.sides.size());
     bool allRight = true;
     for (int i = 1; i < count; ++i) {
-        const Vec2 one = fit.corners[at(i - 1)] - fit.corners[at(i)];
-        const Vec2 other = fit.corners[at(i + 1)] - fit.corners[at(i)];
-        const double angle = std::abs(std::atan2(one.x() * other.y() - one.y() * other.x(), one.dot(other)));
-        allRight = allRight && std::abs(angle - kPi / 2) <= kRightCorners;
+        allRight = allRight && std::abs(cornerAngle(fit.corners, i) - kPi / 2) <= kRightCorners;
     }
     std::vector<StraightLine> lines;
     if (allRight) {
@@ -345,11 +333,8 @@ Corners arrowOf(const Path& path, const LegFit& legs) {
     barb = Eigen::Rotation2Dd(turn) * barb;
     other = Eigen::Rotation2Dd(turn) * other;
     const Vec2 back = -half.normalized();
-    const auto angleToShaft = [&](const Vec2& v) {
-        return std::atan2(back.x() * v.y() - back.y() * v.x(), back.dot(v));
-    };
-    const double one = angleToShaft(barb);
-    const double two = angleToShaft(other);
+    const double one = turnBetween(back, barb);
+    const double two = turnBetween(back, other);
     const double lengths =
         std::max(barb.norm(), other.norm()) / std::max(std::min(barb.norm(), other.norm()), 1e-9);
     if (one * two < 0 && lengths <= kEqualBarbs &&

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Recognition/StrokePath.h"
 
+#include "Recognition/PathGeometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -71,8 +73,7 @@ std::size_t endOfHook(const Path& path, double spacing) {
     for (std::size_t i = 2; i < limit && i + 2 * reach < path.size(); ++i) {
         const Vec2 before = path[i] - path[i - std::min(reach, i)];
         const Vec2 after = path[i + reach] - path[i];
-        const double turn =
-            std::abs(std::atan2(before.x() * after.y() - before.y() * after.x(), before.dot(after)));
+        const double turn = std::abs(turnBetween(before, after));
         if (turn > sharpest) {
             sharpest = turn;
             end = i;

@@ -110,25 +110,20 @@ TEST_P(ShapesAreRecognised, HoweverDrawn) {
     }
 }
 
-// An arrow alone is drawn from its tail.
-std::vector<Meant> shapesOfEitherEnd() {
-    std::vector<Meant> shapes = meantShapes();
-    std::erase_if(shapes, [](const Meant& meant) { return meant.kind == ShapeKind::arrow; });
-    return shapes;
-}
-
-class ShapesOfEitherEndAreRecognised : public testing::TestWithParam<Meant> {};
-INSTANTIATE_TEST_SUITE_P(Unitily, ShapesOfEitherEndAreRecognised, testing::ValuesIn(shapesOfEitherEnd()),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-TEST_P(ShapesOfEitherEndAreRecognised, FromTheOtherEndAndFromWithin) {
-    const Meant& meant = GetParam();
-    Stroke stroke = shaky(meant.outline, 200);
-    std::reverse(stroke.begin(), stroke.end());
-    EXPECT_EQ(Unitily::recogniseWithPoints(placed(stroke, 8)).kind, meant.kind);
-    const ShapePoint& first = meant.outline.front();
-    const ShapePoint& last = meant.outline.back();
-    if (std::hypot(first.x - last.x, first.y - last.y) < 1) {
+TEST(UnitilyTest, ShapesMayBeginAtTheOtherEndOrWithin) {
+    for (const Meant& meant : meantShapes()) {
+        if (meant.kind == ShapeKind::arrow) {
+            continue;  // it alone is drawn from its tail
+        }
+        SCOPED_TRACE(meant.name);
+        Stroke stroke = shaky(meant.outline, 200);
+        std::reverse(stroke.begin(), stroke.end());
+        EXPECT_EQ(Unitily::recogniseWithPoints(placed(stroke, 8)).kind, meant.kind);
+        const ShapePoint& first = meant.outline.front();
+        const ShapePoint& last = meant.outline.back();
+        if (std::hypot(first.x - last.x, first.y - last.y) > 1) {
+            continue;
+        }
         for (const std::size_t from : {7, 23, 61}) {
             Stroke turned = meant.outline;
             turned.pop_back();
