@@ -5,6 +5,7 @@
 #include <string>
 
 #include "LineProcess/StrokeFixture.h"
+#include "TestFolders.h"
 
 namespace {
 

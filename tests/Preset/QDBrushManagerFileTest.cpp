@@ -11,6 +11,7 @@
 #include <limits>
 
 #include "Preset/QDBrushManager.h"
+#include "TestFolders.h"
 #include "support/HexFile.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX

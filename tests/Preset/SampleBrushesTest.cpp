@@ -7,6 +7,7 @@
 
 #include "Brushes/ImageData.h"
 #include "Preset/QDBrushManager.h"
+#include "TestFolders.h"
 #include "support/CanvasTest.h"
 
 namespace {

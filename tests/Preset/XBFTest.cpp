@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "TestFolders.h"
 #include "support/HexFile.h"
 
 namespace {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How well recorded and generated strokes are recognised, where their files are at hand.
 #include "Recognition/Unitily.h"
+#include "TestFolders.h"
 
 #include <gtest/gtest.h>
 

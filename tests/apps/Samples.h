@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "Recording.h"
+#include "TestFolders.h"
 
 namespace dabcanvas::dabpaint {
 
