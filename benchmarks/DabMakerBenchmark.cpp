@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "ESRender/Dab.h"
+#include "Dabs/Dab.h"
 #include "LineProcess/LPRandom.h"
 
 namespace {

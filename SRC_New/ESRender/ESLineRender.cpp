@@ -5,7 +5,7 @@
 #include <array>
 #include <cmath>
 
-#include "ESRender/DabBounds.h"
+#include "Dabs/DabBounds.h"
 #include "ESRender/LineShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESShaderTools.h"
@@ -24,6 +24,11 @@ struct Vertex {
 static_assert(sizeof(Vertex) == 24);
 constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
 constexpr GLsizei kCorners = 4;
+
+QRectF partOf(const dabcanvas::DabBounds& bounds) {
+    const dabcanvas::DabBounds::Part part = bounds.onBuffer();
+    return {part.x, part.y, part.width, part.height};
+}
 
 }  // namespace
 
@@ -155,13 +160,12 @@ void ESLineRender::takeTips() {
 }
 
 QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
-    dabcanvas::DabBounds bounds(bufferSize());
+    dabcanvas::DabBounds bounds{bufferSize().width(), bufferSize().height()};
     if (count == 0 || points == nullptr || program() == nullptr) {
-        return bounds.cutTo(bufferSize());
+        return partOf(bounds);
     }
     takeBrush();
-    beginDrawing(_needMaskTexture && _maskTexture != nullptr && _maskTexture->isEnabled(),
-                 _dabs.settings.colorFul);
+    beginDrawing();
     _dabs.make(points, count, [&](const Dab& dab) {
         bounds.grow(dab);
         if (needScissor()) {
@@ -171,14 +175,14 @@ QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
     });
     // One drain a run: asking after each dab would stall drivers that work ahead.
     drainGLErrors(kSourcePath, __LINE__);
-    return bounds.cutTo(bufferSize());
+    return partOf(bounds);
 }
 
 void ESLineRender::drawDabs(std::span<const Dab> dabs) {
     if (dabs.empty() || program() == nullptr) {
         return;
     }
-    beginDrawing(false, false);
+    beginDrawing();
     for (const Dab& dab : dabs) {
         drawDab(dab);
     }
@@ -194,7 +198,9 @@ void ESLineRender::takeBrush() {
 }
 
 // Everything that stays the same for a run of dabs.
-void ESLineRender::beginDrawing(bool mask, bool multicolour) {
+void ESLineRender::beginDrawing() {
+    const bool mask = _needMaskTexture && _maskTexture != nullptr && _maskTexture->isEnabled();
+    const bool multicolour = _dabs.settings.colorFul;
     chooseProgram(mask, multicolour);
     program()->bind();
     if (!_tipCellsUploaded) {

@@ -17,7 +17,7 @@
 #include <type_traits>
 
 #include "ESRender/CachedUniform.h"
-#include "ESRender/Dab.h"
+#include "Dabs/Dab.h"
 #include "ESRender/ESBaseRender.h"
 #include "LineProcess/Tingle.h"
 
@@ -44,7 +44,7 @@ public:
     // drawn.
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
 
-    // Draws dabs that another renderer made, with this one's tips, in their plain colour and without paper.
+    // Draws dabs that were made elsewhere, with this renderer's tips, paper and multicolour.
     void drawDabs(std::span<const Dab> dabs);
 
     // Dabs drawn since the renderer was made.
@@ -140,7 +140,7 @@ private:
     }
 
     void takeTips();
-    void beginDrawing(bool mask, bool multicolour);
+    void beginDrawing();
     void chooseProgram(bool mask, bool multicolour);
     void setMaskUniforms(bool useMask);
     void uploadTipCells();

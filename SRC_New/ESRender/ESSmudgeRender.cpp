@@ -5,13 +5,15 @@
 #include <array>
 #include <cmath>
 
-#include "ESRender/DabBounds.h"
+#include "Dabs/DabBounds.h"
 #include "ESRender/LineShaderNames.h"
 #include "ESRender/SmudgeShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
+
+using dabcanvas::SmudgeDab;
 
 namespace {
 
@@ -32,6 +34,11 @@ constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBefore
 // The one of OpenGL 4.5, rather than the older extension's.
 bool hasStandardBarrier() {
     return epoxy_gl_version() >= 45 || epoxy_has_gl_extension("GL_ARB_texture_barrier");
+}
+
+QRectF partOf(const dabcanvas::DabBounds& bounds) {
+    const dabcanvas::DabBounds::Part part = bounds.onBuffer();
+    return {part.x, part.y, part.width, part.height};
 }
 
 }  // namespace
@@ -204,16 +211,7 @@ void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture
 
 void ESSmudgeRender::resetLineProporty() {
     ESLineRender::resetLineProporty();
-    _hasPlace = false;
-    _texturePosition = {0, 0};
-    _textureSize_2 = 0;
-}
-
-float ESSmudgeRender::mixQuantityAtPointIndex(std::int64_t index) const {
-    if (!(_smudgeControlValue > 0)) {
-        return _mixQuantity;
-    }
-    return _mixQuantity * std::min(_smudgeControlValue, static_cast<float>(index - 1)) / _smudgeControlValue;
+    _smudges.reset();
 }
 
 QRectF ESSmudgeRender::drawPoints(const LPPoint* points, std::size_t count) {
@@ -225,12 +223,21 @@ QRectF ESSmudgeRender::drawPoints(const LPPoint* points, std::size_t count, std:
     if (points == nullptr || count == 0) {
         return {};
     }
-    return renderType == ESSmudgeDrawDabs ? drawDabs(points, count, withTextureBindBlock)
-                                          : show(points, count, withTextureBindBlock);
+    if (renderType != ESSmudgeDrawDabs) {
+        return show(points, count, withTextureBindBlock);
+    }
+    takeBrush();
+    _made.clear();
+    _smudges.make(_dabs, points, count, [&](const SmudgeDab& dab) { _made.push_back(dab); });
+    return draw(_made, _smudges.settings.load, withTextureBindBlock);
 }
 
-QRectF ESSmudgeRender::drawDabs(const LPPoint* points, std::size_t count, const TextureBindBlock& bind) {
-    dabcanvas::DabBounds bounds(bufferSize());
+QRectF ESSmudgeRender::drawSmudges(std::span<const SmudgeDab> dabs, float load) {
+    return draw(dabs, load, {});
+}
+
+QRectF ESSmudgeRender::draw(std::span<const SmudgeDab> dabs, float load, const TextureBindBlock& bind) {
+    dabcanvas::DabBounds bounds{bufferSize().width(), bufferSize().height()};
     if (program() == nullptr || !hasOwnTextures()) {
         return {};
     }
@@ -238,7 +245,6 @@ QRectF ESSmudgeRender::drawDabs(const LPPoint* points, std::size_t count, const 
         _coverage.clear();
         _coverageTaken = false;
     }
-    takeBrush();
     program()->bind();
     // Each dab fills the same buffer anew, so where its vertices stand is said once a run.
     dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
@@ -256,49 +262,31 @@ QRectF ESSmudgeRender::drawDabs(const LPPoint* points, std::size_t count, const 
         _sourceSize = bufferSize();
     }
     _bgUnit.set(_smudgePos - GL_TEXTURE0);
-    _load.set(_loadQuantity);
+    _load.set(load);
     glActiveTexture(_smudgePos);
     glDisable(GL_BLEND);
 
-    std::int64_t present = 0;
-    _dabs.make(points, count, [&](const Dab& dab) {
-        if (_dabs.pointIndex() != present) {
-            present = _dabs.pointIndex();
-            beginPoint(_smudgeControl ? mixQuantityAtPointIndex(present) : _mixQuantity);
-        }
-        if (_exchange > 0) {
-            bounds.grow(dab);
-            drawDab(dab);
-        }
-    });
+    for (const SmudgeDab& dab : dabs) {
+        bounds.grow(dab.dab);
+        drawDab(dab);
+    }
     glEnable(GL_BLEND);
     useSmudgeTexture();  // not a copy of it
     drainGLErrors(kSourcePath, __LINE__);
-    return bounds.cutTo(bufferSize());
-}
-
-// A point picks up where the point before it was drawn; a stroke's first has no such place and picks up nothing.
-void ESSmudgeRender::beginPoint(float mix) {
-    const float moist = std::exchange(_hasPlace, true) ? _moistQuantity : 0.0f;
-    const float dry = 1 - moist;  // as the dab program reckons
-    _exchange = _loadQuantity * (1 - mix) + mix * (1 - dry * dry * dry);
-    _moist.set(moist);
-    _mix.set(mix);
-    _pickUpPosition = std::exchange(_texturePosition, {std::nearbyint(_dabs.point().position.x),
-                                                       std::nearbyint(_dabs.point().position.y)});
-    _pickUpHalf = std::exchange(_textureSize_2, std::nearbyint(_dabs.halfSizeOfPoint()));
+    return partOf(bounds);
 }
 
 // Turned and mirrored as the dab itself is, so that the picture it carries along is not.
-ESSmudgeRender::Corners ESSmudgeRender::pickUpCorners(const Dab& dab) const {
+ESSmudgeRender::Corners ESSmudgeRender::pickUpCorners(const SmudgeDab& smudge) const {
+    const Dab& dab = smudge.dab;
     const double c = std::cos(dab.radian), s = std::sin(dab.radian);
     const double width = _sourceSize.width(), height = _sourceSize.height();
     Corners corners;
     for (std::size_t i = 0; i < kCorners; ++i) {
-        const double x = kSquare[i][0] * dab.flipX * _pickUpHalf;
-        const double y = kSquare[i][1] * dab.flipY * _pickUpHalf * dab.roundness;
-        corners.at[i] = QPointF((_pickUpPosition.x + x * c + y * s) / width,
-                                (height - (_pickUpPosition.y + y * c - x * s)) / height);
+        const double x = kSquare[i][0] * dab.flipX * smudge.pickUpHalf;
+        const double y = kSquare[i][1] * dab.flipY * smudge.pickUpHalf * dab.roundness;
+        corners.at[i] = QPointF((smudge.pickUp.x + x * c + y * s) / width,
+                                (height - (smudge.pickUp.y + y * c - x * s)) / height);
     }
     return corners;
 }
@@ -344,20 +332,21 @@ void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
     }
 }
 
-void ESSmudgeRender::drawDab(const Dab& dab) {
-    const QSizeF extent = dabcanvas::DabBounds::extentOf(dab);
+void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
+    const Dab& dab = smudge.dab;
+    const dabcanvas::Extent extent = dabcanvas::DabBounds::extentOf(dab);
     const double toTexelX = _layerSize.width() / bufferSize().width();
     const double toTexelY = _layerSize.height() / bufferSize().height();
     const QRect layer(QPoint(0, 0), _layerSize);
-    const QRect written = QRectF((dab.x - extent.width()) * toTexelX - 1,
-                                 (bufferSize().height() - dab.y - extent.height()) * toTexelY - 1,
-                                 2 * extent.width() * toTexelX + 2, 2 * extent.height() * toTexelY + 2)
+    const QRect written = QRectF((dab.x - extent.width) * toTexelX - 1,
+                                 (bufferSize().height() - dab.y - extent.height) * toTexelY - 1,
+                                 2 * extent.width * toTexelX + 2, 2 * extent.height * toTexelY + 2)
                               .toAlignedRect() &
                           layer;
     if (written.isEmpty()) {
         return;
     }
-    const Corners corners = pickUpCorners(dab);
+    const Corners corners = pickUpCorners(smudge);
     provideLayer(texelBox(corners), written);
 
     static constexpr float kWhole[10] = {0, 0, 0, 1, 1, 1, 1, 0, 0, 0};
@@ -377,13 +366,15 @@ void ESSmudgeRender::drawDab(const Dab& dab) {
     glBufferData(GL_ARRAY_BUFFER, sizeof vertices, vertices, GL_STATIC_DRAW);
     _tipCell.set(cell[0], cell[1], cell[4], cell[5]);
     setDabUniforms(dab);
+    _moist.set(smudge.moist);
+    _mix.set(smudge.mix);
     checkGLStep(kSourcePath, __LINE__);
     glDrawArrays(GL_TRIANGLE_FAN, 0, kCorners);
     glFlush();
     ++_dabsDrawn;
 
     Dab covered = dab;
-    covered.flow *= _exchange;
+    covered.flow *= smudge.exchange;
     covered.color = RgbTypeMake(0, 0, 0);
     _coverage.push_back(covered);
 }
@@ -400,7 +391,7 @@ std::span<const Dab> ESSmudgeRender::takeCoverage() {
 
 QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const TextureBindBlock& bind) {
     const ShowProgram& show = bind ? _fillProgram : _showProgram;
-    dabcanvas::DabBounds bounds(bufferSize());
+    dabcanvas::DabBounds bounds{bufferSize().width(), bufferSize().height()};
     if (show.program == nullptr || !hasOwnTextures()) {
         return {};
     }
@@ -448,5 +439,5 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
         glDrawArrays(GL_TRIANGLE_FAN, 0, kCorners);
     }
     drainGLErrors(kSourcePath, __LINE__);
-    return bounds.cutTo(bufferSize());
+    return partOf(bounds);
 }

@@ -17,6 +17,7 @@
 #include <span>
 #include <vector>
 
+#include "Dabs/SmudgeDabs.h"
 #include "ESRender/ESLineRender.h"
 
 // How drawPoints() draws: dabs, or the rectangles in which canvas and layer meet.
@@ -46,25 +47,25 @@ public:
     // ---- paint; 0..1 each
 
     // How readily canvas colour is taken along, from a dry brush to a wet one.
-    void setMoistQuantity(float value) { _moistQuantity = value; }
-    float moistQuantity() const { return _moistQuantity; }
+    void setMoistQuantity(float value) { _smudges.settings.moist = value; }
+    float moistQuantity() const { return _smudges.settings.moist; }
     // How much of its own colour the brush carries.
-    void setLoadQuantity(float value) { _loadQuantity = value; }
-    float loadQuantity() const { return _loadQuantity; }
+    void setLoadQuantity(float value) { _smudges.settings.load = value; }
+    float loadQuantity() const { return _smudges.settings.load; }
     // What a dab is made of: 0 its own colour alone, 1 picked up colour alone.
-    void setMixQuantity(float value) { _mixQuantity = value; }
-    float mixQuantity() const { return _mixQuantity; }
+    void setMixQuantity(float value) { _smudges.settings.mix = value; }
+    float mixQuantity() const { return _smudges.settings.mix; }
     // Lets that grow from 0 over the first dabs of a stroke, and over how many.
-    void setSmudgeControl(bool value) { _smudgeControl = value; }
-    bool smudgeControl() const { return _smudgeControl; }
-    void setSmudgeControlValue(float value) { _smudgeControlValue = value; }
-    float smudgeControlValue() const { return _smudgeControlValue; }
+    void setSmudgeControl(bool value) { _smudges.settings.control = value; }
+    bool smudgeControl() const { return _smudges.settings.control; }
+    void setSmudgeControlValue(float value) { _smudges.settings.controlValue = value; }
+    float smudgeControlValue() const { return _smudges.settings.controlValue; }
     // The ramp at a dab, counted from 1; the whole mixQuantity at once when its length is not above 0.
-    float mixQuantityAtPointIndex(std::int64_t index) const;
+    float mixQuantityAtPointIndex(std::int64_t index) const { return _smudges.settings.grownMix(index); }
 
     // Place, in buffer pixels, and half size of the dab that the next point picks up from.
-    LPPosition texturePosition() const { return _texturePosition; }
-    float textureSize_2() const { return _textureSize_2; }
+    LPPosition texturePosition() const { return _smudges.place(); }
+    float textureSize_2() const { return _smudges.half(); }
 
     // ---- draw
 
@@ -78,6 +79,9 @@ public:
     // smudges are put into it onto the canvas, with it the picture that the block binds is reduced into the layer.
     QRectF drawPoints(const LPPoint* points, std::size_t count, std::int32_t renderType,
                       const TextureBindBlock& withTextureBindBlock = {});
+
+    // The same of dabs that were made elsewhere, with this renderer's tips.
+    QRectF drawSmudges(std::span<const dabcanvas::SmudgeDab> dabs, float load);
 
     // The dabs drawn since the last call, in plain colour, with the flow by which each exchanged what was there. Valid
     // until dabs are drawn again.
@@ -108,17 +112,16 @@ private:
     };
 
     static ShowProgram makeShowProgram(bool fill);
-    QRectF drawDabs(const LPPoint* points, std::size_t count, const TextureBindBlock& bind);
+    QRectF draw(std::span<const dabcanvas::SmudgeDab> dabs, float load, const TextureBindBlock& bind);
     QRectF show(const LPPoint* points, std::size_t count, const TextureBindBlock& bind);
-    void beginPoint(float mix);
-    Corners pickUpCorners(const Dab& dab) const;
+    Corners pickUpCorners(const dabcanvas::SmudgeDab& smudge) const;
     QRect texelBox(const Corners& corners) const;
     void provideLayer(const QRect& read, const QRect& written);
-    void drawDab(const Dab& dab);
+    void drawDab(const dabcanvas::SmudgeDab& smudge);
     bool hasOwnTextures();
 
-    float _moistQuantity = 0.3f, _loadQuantity = 1, _mixQuantity = 1, _smudgeControlValue = 25;
-    bool _smudgeControl = true;
+    dabcanvas::SmudgeMaker _smudges;
+    std::vector<dabcanvas::SmudgeDab> _made;  // of the present call
 
     GLuint _smudgeTex = 0;
     GLenum _smudgePos = GL_TEXTURE7;
@@ -127,13 +130,6 @@ private:
     GLuint _beforeTexture = 0;
     GLuint _coverageTexture = 0, _canvasTexture = 0;  // the canvas's
 
-    LPPosition _texturePosition{0, 0};
-    float _textureSize_2 = 0;
-    bool _hasPlace = false;
-    // Of the present point
-    LPPosition _pickUpPosition{0, 0};
-    float _pickUpHalf = 0;
-    float _exchange = 0;  // share of what is under full coverage that a dab exchanges
     QSizeF _sourceSize;   // buffer pixels that the smudge texture shows
 
     std::vector<Dab> _coverage;

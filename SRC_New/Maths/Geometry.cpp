@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "Pixels/Rotation.h"
+
 QSizeF CGSizeApplyScale(const QSizeF& size, const QSizeF& scale) {
     return {size.width() / scale.width(), size.height() / scale.height()};
 }
@@ -18,12 +20,8 @@ QRectF CGRectApplyScale(const QRectF& rect, const QSizeF& scale) {
 }
 
 QSizeF CGSizeApplyRotation(const QSizeF& halfSize, float angle) {
-    const auto width = static_cast<float>(halfSize.width());
-    const auto height = static_cast<float>(halfSize.height());
-    const float diagonal = std::sqrt(width * width + height * height);
-    const float corner = std::atan2(height, width);
-    return {diagonal * std::max(std::abs(std::cos(angle - corner)), std::abs(std::cos(angle + corner))),
-            diagonal * std::max(std::abs(std::sin(angle - corner)), std::abs(std::sin(angle + corner)))};
+    const dabcanvas::Extent extent = dabcanvas::turned({halfSize.width(), halfSize.height()}, angle);
+    return {extent.width, extent.height};
 }
 
 QPointF offsetWithCenter(const QPointF& center, const QPointF& point, double radian) {

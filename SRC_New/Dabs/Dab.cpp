@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ESRender/Dab.h"
+#include "Dabs/Dab.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+
+#include "Dabs/Dab.h"
+#include "Pixels/Rect.h"
+#include "Pixels/Rotation.h"
+
+namespace dabcanvas {
+
+// The area that dabs were drawn into so far, with a margin of one pixel; buffer pixels, top-left origin.
+struct DabBounds {
+    double bufferWidth, bufferHeight;
+    double minX = bufferWidth, minY = bufferHeight, maxX = 0, maxY = 0;
+
+    // Half the size of the upright rectangle around a dab.
+    static Extent extentOf(const Dab& dab) {
+        const Extent extent{dab.halfSize, dab.halfSize * dab.roundness};
+        return dab.radian != 0 ? turned(extent, dab.radian) : extent;
+    }
+
+    void grow(const Dab& dab) {
+        const Extent extent = extentOf(dab);
+        minX = std::min(minX, dab.x - extent.width - 1);
+        minY = std::min(minY, dab.y - extent.height - 1);
+        maxX = std::max(maxX, dab.x + extent.width + 1);
+        maxY = std::max(maxY, dab.y + extent.height + 1);
+    }
+
+    // The part of it that lies on the buffer; sizes are 0 where none does.
+    struct Part {
+        double x, y, width, height;
+    };
+    Part onBuffer() const {
+        const double x = std::max(0.0, minX);
+        const double y = std::max(0.0, minY);
+        return {x, y, std::max(0.0, std::min(maxX, bufferWidth) - x),
+                std::max(0.0, std::min(maxY, bufferHeight) - y)};
+    }
+    Rect pixelsOnBuffer() const {
+        const Part part = onBuffer();
+        return Rect::covering(part.x, part.y, part.x + part.width, part.y + part.height);
+    }
+};
+
+}  // namespace dabcanvas

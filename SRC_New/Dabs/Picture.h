@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// Tips and papers as plain pixels that several brushes, canvases and threads may share: never changed once made.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "Pixels/PixelView.h"
+
+namespace dabcanvas {
+
+// Keeps whatever holds its pixels alive.
+struct Picture {
+    PixelView pixels;  // premultiplied; null for an image that is none
+    double density = 1;  // pixels a point, of images for dense screens: a tip counts in points
+    std::shared_ptr<const void> owner;
+};
+
+// The tips of a brush, in the order in which dabs name them.
+using TipSet = std::vector<Picture>;
+
+}  // namespace dabcanvas

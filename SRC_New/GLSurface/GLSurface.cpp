@@ -1,0 +1,354 @@
+// SPDX-License-Identifier: MIT
+#include "GLSurface/GLSurface.h"
+
+#include <epoxy/gl.h>
+
+#include <iterator>
+#include <utility>
+
+#include "Dabs/DabBounds.h"
+#include "ESRender/ESImageRender.h"
+#include "ESRender/ESLineRender.h"
+#include "ESRender/ESSmudgeRender.h"
+#include "ESRender/Utilities/ESGLErrors.h"
+#include "GLSurface/GLPictures.h"
+
+namespace dabcanvas {
+namespace {
+
+// Filtering between the smudge layer's resolution and the picture's reaches this far, in buffer pixels.
+constexpr int kSmudgeReach = 4;
+constexpr GLenum kSmudgeUnit = GL_TEXTURE7;
+
+// The one dab that covers a rectangle when its renderer's roundness is the rectangle's height over its width.
+LPPoint dabOf(const Rect& rect) {
+    return {{static_cast<float>(rect.x + rect.width * 0.5), static_cast<float>(rect.y + rect.height * 0.5)},
+            static_cast<float>(rect.width),
+            {1.0f, 1.0f, 1.0f}};
+}
+
+float roundnessOf(const Rect& rect) {
+    return static_cast<float>(static_cast<double>(rect.height) / rect.width);
+}
+
+}  // namespace
+
+// ---- Making
+
+std::unique_ptr<GLSurface> GLSurface::make(const Size& size) {
+    auto context = ESContext::init();
+    if (!context) {
+        return nullptr;
+    }
+    std::unique_ptr<GLSurface> surface(new GLSurface(size, std::move(context)));
+    const SurfaceScope scope(*surface);
+    return scope && surface->makeRenders() ? std::move(surface) : nullptr;
+}
+
+GLSurface::GLSurface(const Size& size, std::unique_ptr<ESContext> context)
+    : PaintSurface(size),
+      _context(std::move(context)),
+      _line{.render = {}, .tipUnit = GL_TEXTURE1, .tips = {}, .paper = {}},
+      _subLine{.render = {}, .tipUnit = GL_TEXTURE2, .tips = {}, .paper = {}},
+      _smudge{.render = {}, .tipUnit = GL_TEXTURE6, .tips = {}, .paper = {}},
+      _smudgeStale(Rect::of(size)) {}
+
+bool GLSurface::makeRenders() {
+    const QSizeF buffer(size().width, size().height);
+    if (!_context->createBufferWithSize(buffer)) {
+        return false;
+    }
+    for (const GLenum capability : {GL_STENCIL_TEST, GL_DEPTH_TEST, GL_SCISSOR_TEST}) {
+        ESContext::setEnable(false, capability);
+    }
+    _context->setViewSize(buffer);
+    _compositor = ESImageRender::initWithBufferSize(buffer);
+    _line.render = ESLineRender::init();
+    _subLine.render = ESLineRender::init();
+    if (!_compositor || !_line.render || !_subLine.render) {
+        qCWarning(lcDabcanvasGL, "a surface cannot be made: a shader program did not build");
+        return false;
+    }
+    _compositor->setLineTextureID(_context->lineTexture(), GL_TEXTURE4);
+    _compositor->setSubLineTextureID(_context->subLineTexture(), GL_TEXTURE5);
+    _line.render->setBufferSize(buffer);
+    _subLine.render->setBufferSize(buffer);
+    commit(PictureId::first, Rect::of(size()));
+    warmUp();
+    return true;
+}
+
+// Drivers finish compiling when a program first draws, which would make the first segment of the first stroke late. So
+// each draws once where nothing is.
+void GLSurface::warmUp() {
+    const LPPoint outside{{-100, -100}, 1, {1, 1, 1}};
+    _context->beginRenderForType(ESRenderTypeLine);
+    _context->setBlendModelForType(ESRenderTypeLine);
+    _line.render->drawPoints(&outside, 1);
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    blend({-100, -100, 1, 1}, ESBlendTypeNormal, 1, false);
+    _context->finishRender();
+}
+
+GLSurface::~GLSurface() {
+    const ESCurrentScope current(*_context);
+    if (current) {
+        return;  // the renderers' names are deleted where they were made
+    }
+    // Deleting their names would hit the host's; they go with the context.
+    static_cast<void>(_compositor.release());
+    for (DabRender* of : {&_line, &_subLine, &_smudge}) {
+        static_cast<void>(of->render.release());
+    }
+}
+
+bool GLSurface::enter() {
+    _scopes.emplace_back(*_context);
+    if (!_scopes.back()) {
+        _scopes.pop_back();
+        return false;
+    }
+    return true;
+}
+
+void GLSurface::leave() {
+    _scopes.pop_back();
+}
+
+std::string GLSurface::name() {
+    const auto* name = reinterpret_cast<const char*>(glGetString(GL_RENDERER));
+    return name != nullptr ? name : "";
+}
+
+void GLSurface::finish() {
+    glFinish();  // drivers work ahead
+}
+
+void GLSurface::noteChanged(PictureId picture, const Rect& rect) {
+    const Rect changed = rect.intersected(Rect::of(size()));
+    noteTouched(picture, changed);
+    _smudgeStale = _smudgeStale.united(changed);
+}
+
+// ---- Dabs
+
+void GLSurface::takeTips(DabRender& of, const DabStyle& style) {
+    if (style.tips == of.tips) {
+        return;
+    }
+    of.tips = style.tips;
+    QList<QImage> images;
+    for (const Picture& tip : *style.tips) {
+        images.append(imageOf(tip));
+    }
+    of.render->setTextureImages(images, of.tipUnit);
+}
+
+void GLSurface::takeStyle(DabRender& of, const DabStyle& style) {
+    ESLineRender& render = *of.render;
+    takeTips(of, style);
+    if (style.paper != of.paper) {
+        of.paper = style.paper;
+        render.setMaskImage(style.paper ? imageOf(*style.paper) : QImage());
+    }
+    render.setNeedMaskTexture(style.paper != nullptr);
+    render.setMaskScale(style.paperScale);
+    render.setColorFul(style.multicolour);
+    render.setHueTingle(style.hueTingle);
+    render.setSaturationTingle(style.saturationTingle);
+    render.setBrightnessTingle(style.brightnessTingle);
+}
+
+Rect GLSurface::drawInto(ESRenderType target, DabRender& with, std::span<const Dab> dabs,
+                         const DabStyle& style) {
+    _context->beginRenderForType(target);
+    takeStyle(with, style);
+    _context->setBlendModelForType(ESRenderTypeLine);
+    with.render->drawDabs(dabs);
+    _context->finishRender();
+    DabBounds bounds{static_cast<double>(size().width), static_cast<double>(size().height)};
+    for (const Dab& dab : dabs) {
+        bounds.grow(dab);
+    }
+    return bounds.pixelsOnBuffer();
+}
+
+Rect GLSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
+    return drawInto(layer == PaintLayer::subLine ? ESRenderTypeSubLine : ESRenderTypeLine,
+                    dabRenderOf(layer), dabs, style);
+}
+
+Rect GLSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
+    const Rect touched = drawInto(ESRenderTypeCanvas, _subLine, dabs, style);
+    noteChanged(picture, touched);
+    return touched;
+}
+
+void GLSurface::clear(PaintLayer layer, const Rect& rect) {
+    const bool smudge = layer == PaintLayer::smudge;
+    if (smudge && !_smudge.render) {
+        return;  // there is none yet
+    }
+    _context->beginRenderForType(smudge                       ? ESRenderTypeSmudge
+                                 : layer == PaintLayer::line ? ESRenderTypeLine
+                                                              : ESRenderTypeSubLine);
+    if (smudge) {
+        _smudgeStale = Rect::of(size());
+    } else {
+        _context->scissorRect(QRectF(rect.x, rect.y, rect.width, rect.height));
+    }
+    _compositor->clear();
+    _context->finishRender();
+}
+
+// ---- Smudging
+
+// Made on first use: most brushes never smudge.
+ESSmudgeRender* GLSurface::smudgeRender() {
+    if (!_smudge.render) {
+        auto render = ESSmudgeRender::init();
+        if (!render) {
+            qCWarning(lcDabcanvasGL, "nothing can be smudged: a shader program did not build");
+            return nullptr;
+        }
+        render->setBufferSize(QSizeF(size().width, size().height));
+        render->setSmudgeTextureID(_context->smudgeTexture(), kSmudgeUnit);
+        _smudge.render = std::move(render);
+    }
+    return static_cast<ESSmudgeRender*>(_smudge.render.get());
+}
+
+bool GLSurface::prepareSmudge(PictureId) {
+    const bool isNew = !_smudge.render;
+    ESSmudgeRender* const render = smudgeRender();
+    if (render == nullptr) {
+        return false;
+    }
+    const Rect rect = std::exchange(_smudgeStale, Rect()).grownBy(kSmudgeReach).intersected(Rect::of(size()));
+    if (!rect.isEmpty()) {
+        _context->beginRenderForType(ESRenderTypeSmudge);
+        _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
+        render->setRoundness(roundnessOf(rect));
+        const LPPoint dab = dabOf(rect);
+        render->drawPoints(&dab, 1, ESSmudgeDrawShow, [&] {
+            glActiveTexture(kSmudgeUnit);
+            glBindTexture(GL_TEXTURE_2D, _compositor->backgroundTexture());
+            return QSizeF(size().width, size().height);
+        });
+        render->keepLayer(QRectF(rect.x, rect.y, rect.width, rect.height));
+        _context->finishRender();
+    }
+    if (isNew) {
+        warmUpSmudging();
+    }
+    return true;
+}
+
+// As warmUp() does: two dabs without flow, the second of which takes up colour, and a look at where no dab was.
+void GLSurface::warmUpSmudging() {
+    const Dab dab{.x = 2, .y = 2, .halfSize = 2, .radian = 0, .roundness = 1, .flipX = 1, .flipY = 1,
+                  .flow = 0, .color = {0, 0, 0}, .random = 0, .tip = 0};
+    const SmudgeDab dabs[] = {{dab, {0, 0}, 0, 0, 0, 1}, {dab, {3, 2}, 2, 1, 1, 1}};
+    auto* const render = static_cast<ESSmudgeRender*>(_smudge.render.get());
+    _context->beginRenderForType(ESRenderTypeSmudge);
+    render->drawSmudges(dabs, 1);
+    render->takeCoverage();
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    showSmudges({0, 0, 1, 1}, 1);
+    _context->finishRender();
+}
+
+Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
+    ESSmudgeRender* const render = smudgeRender();
+    if (render == nullptr || dabs.empty()) {
+        return {};
+    }
+    _context->beginRenderForType(ESRenderTypeSmudge);
+    takeTips(_smudge, style);
+    _context->setBlendModelForType(ESRenderTypeLine);
+    render->drawSmudges(dabs, load);
+    _context->finishRender();
+
+    // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
+    const DabStyle plain{.tips = style.tips, .paper = {}};
+    const Rect covered = drawInto(ESRenderTypeLine, _line, render->takeCoverage(), plain);
+    return covered.isEmpty() ? covered : covered.grownBy(kSmudgeReach).intersected(Rect::of(size()));
+}
+
+// Puts one rectangle of the smudge layer onto the picture, which is the target.
+void GLSurface::showSmudges(const Rect& rect, float opacity) {
+    auto& render = static_cast<ESSmudgeRender&>(*_smudge.render);
+    _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
+    render.setShowSources(_context->lineTexture(), _compositor->backgroundTexture());
+    render.setOpacity(opacity);
+    render.setRoundness(roundnessOf(rect));
+    const LPPoint dab = dabOf(rect);
+    render.drawPoints(&dab, 1, ESSmudgeDrawShow);
+}
+
+// ---- Layers and picture
+
+// Draws one rectangle in a blend mode onto the picture, which is the target.
+void GLSurface::blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked) {
+    // The program has mixed source and background already: its result replaces what is there.
+    _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
+    ESImageRender& render = *_compositor;
+    if (render.blendType() != blendType) {
+        render.setBlendType(blendType);
+    }
+    render.setFlipX(false);
+    render.setFlipY(true);
+    render.setUseLargeTexture(false);
+    render.setRepeatedlyRenderEnabled(masked);
+    render.setRadian(0);
+    render.setOpacity(opacity);
+    render.setRoundness(roundnessOf(rect));
+    const LPPoint dab = dabOf(rect);
+    render.drawPoints(&dab, 1);
+}
+
+void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) {
+    if (style.smudged && !_smudge.render) {
+        return;  // nothing was smudged
+    }
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    for (const Rect& rect : rects) {
+        const Rect cut = rect.intersected(Rect::of(size()));
+        if (cut.isEmpty()) {
+            continue;
+        }
+        if (style.smudged) {
+            showSmudges(cut, style.opacity);
+        } else {
+            blend(cut, style.blendType, style.opacity, style.masked);
+        }
+        noteChanged(picture, cut);
+    }
+    _context->finishRender();
+}
+
+void GLSurface::revert(PictureId picture, const Rect& rect) {
+    const Rect cut = rect.intersected(Rect::of(size()));
+    if (cut.isEmpty()) {
+        return;
+    }
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    blend(cut, ESBlendTypeReset, 1, false);
+    _context->finishRender();
+    noteChanged(picture, cut);
+}
+
+void GLSurface::commit(PictureId, const Rect& rect) {
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    _compositor->updateBGTextureAtOrigin(QPointF(rect.x, rect.y), QSizeF(rect.width, rect.height),
+                                         GL_TEXTURE3);
+}
+
+void GLSurface::fill(PictureId picture, const PaintColor& color) {
+    _context->beginRenderForType(ESRenderTypeCanvas);
+    _compositor->clearWithRed(color.red, color.green, color.blue, color.alpha);
+    _context->finishRender();
+    noteChanged(picture, Rect::of(size()));
+}
+
+}  // namespace dabcanvas

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// Paint in the memory of an OpenGL driver, put there by the renderers of ESRender over one ESContext.
+//
+// Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab that needs one.
+// Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
+#pragma once
+
+#include <QImage>
+#include <deque>
+#include <memory>
+#include <vector>
+
+#include "ESContext/ESContext.h"
+#include "ESContext/ESCurrentScope.h"
+#include "Surface/PaintSurface.h"
+
+class ESImageRender;
+class ESLineRender;
+class ESSmudgeRender;
+
+namespace dabcanvas {
+
+class GLSurface final : public PaintSurface {
+public:
+    // Transparent. Null, after one log line, when there is no OpenGL 3.2 or a side is not from 1 to the driver's limit.
+    static std::unique_ptr<GLSurface> make(const Size& size);
+    ~GLSurface() override;
+
+    // For hosts that draw with OpenGL themselves.
+    ESContext& context() { return *_context; }
+
+    std::string name() override;
+    void finish() override;
+
+    Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
+    Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;
+    void clear(PaintLayer layer, const Rect& rect) override;
+    bool prepareSmudge(PictureId picture) override;
+    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) override;
+
+    void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) override;
+    void revert(PictureId picture, const Rect& rect) override;
+    void commit(PictureId picture, const Rect& rect) override;
+    void fill(PictureId picture, const PaintColor& color) override;
+    bool place(PictureId picture, const Placed& placed) override;
+
+    bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
+    bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
+
+private:
+    // A renderer, and what its textures were made of.
+    struct DabRender {
+        std::unique_ptr<ESLineRender> render;
+        GLenum tipUnit;
+        std::shared_ptr<const TipSet> tips;
+        std::shared_ptr<const Picture> paper;
+    };
+
+    GLSurface(const Size& size, std::unique_ptr<ESContext> context);
+    bool makeRenders();
+    void warmUp();
+    ESSmudgeRender* smudgeRender();
+    void warmUpSmudging();
+
+    bool enter() override;
+    void leave() override;
+
+    DabRender& dabRenderOf(PaintLayer layer) { return layer == PaintLayer::subLine ? _subLine : _line; }
+    void takeTips(DabRender& of, const DabStyle& style);
+    void takeStyle(DabRender& of, const DabStyle& style);
+    Rect drawInto(ESRenderType target, DabRender& with, std::span<const Dab> dabs, const DabStyle& style);
+    void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked);
+    void showSmudges(const Rect& rect, float opacity);
+    void noteChanged(PictureId picture, const Rect& rect);
+
+    std::unique_ptr<ESContext> _context;
+    std::unique_ptr<ESImageRender> _compositor;
+    DabRender _line, _subLine, _smudge;  // the last one's render is an ESSmudgeRender
+    Rect _smudgeStale;                   // where the smudge layer may differ from the background
+    std::vector<std::uint8_t> _band;     // rows on their way to or from the caller's
+    std::deque<ESCurrentScope> _scopes;
+};
+
+}  // namespace dabcanvas

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// Somebody else's pixels: premultiplied RGBA, 8 bits a channel, rows top to bottom, `stride` bytes from one row to the
+// next. A negative stride stands for rows that lie bottom row first in memory; `bytes` is the top row's all the same.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "Pixels/Rect.h"
+
+namespace dabcanvas {
+
+template <typename Byte>
+struct BasicPixelView {
+    Byte* bytes = nullptr;
+    Size size;
+    std::ptrdiff_t stride = 0;
+
+    // Rows without gaps in one block.
+    static BasicPixelView topRowFirst(Byte* block, const Size& size) {
+        return {block, size, std::ptrdiff_t{size.width} * 4};
+    }
+    static BasicPixelView bottomRowFirst(Byte* block, const Size& size) {
+        const std::ptrdiff_t row = std::ptrdiff_t{size.width} * 4;
+        return {block + row * (size.height - 1), size, -row};
+    }
+
+    bool isNull() const { return bytes == nullptr || size.width <= 0 || size.height <= 0; }
+    Byte* row(int y) const { return bytes + stride * y; }
+    Byte* at(int x, int y) const { return row(y) + std::ptrdiff_t{x} * 4; }
+    // A rectangle of it, which must lie inside.
+    BasicPixelView part(const Rect& rect) const {
+        return {at(rect.x, rect.y), {rect.width, rect.height}, stride};
+    }
+    // The rows lie bottom row first and without gaps, as OpenGL reads and writes them.
+    bool isBottomUpBlock() const { return stride == -std::ptrdiff_t{size.width} * 4; }
+
+    operator BasicPixelView<const Byte>() const { return {bytes, size, stride}; }
+};
+
+using PixelView = BasicPixelView<const std::uint8_t>;
+using MutablePixelView = BasicPixelView<std::uint8_t>;
+
+}  // namespace dabcanvas

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// The one place that paint lies in: a picture, the background that strokes are blended with, and the layers that
+// strokes are drawn into. What a canvas does to paint is one of these operations; when it does them, and in which
+// order, is decided above, once for every kind of surface.
+//
+// Units    buffer pixels, whole ones in rectangles, top-left origin; angles counter-clockwise in radians. A rectangle
+//          may reach beyond the surface: what lies there is left out.
+// Pixels   premultiplied. Rows that come in or go out have 8 bits a channel, and what is written is read byte for byte;
+//          how much a surface keeps of what is drawn is its own.
+// Owns     everything that paint lies in. Tips, papers and pixel views are the caller's; a style's pictures are kept
+//          for as long as the surface draws with them.
+// Thread   one thread at a time. Operations come inside a SurfaceScope, except size() and touched().
+// Errors   never throws. An operation that cannot be done logs why, changes nothing and returns an empty rectangle or
+//          false; a surface whose device is gone does nothing at all, see isLost().
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+
+#include "Dabs/Dab.h"
+#include "Dabs/Picture.h"
+#include "Dabs/SmudgeDabs.h"
+#include "Pixels/PixelView.h"
+#include "Pixels/Rect.h"
+#include "Surface/TileSet.h"
+
+namespace dabcanvas {
+
+// One picture of a surface: what is shown of it, and its background. A surface has one today.
+enum class PictureId : std::uint32_t { first = 0 };
+
+// Where dabs add up, each transparent when made. The smudge layer shows a picture instead, see prepareSmudge().
+enum class PaintLayer : std::uint8_t { line, subLine, smudge };
+
+// What stays the same for a run of dabs.
+struct DabStyle {
+    std::shared_ptr<const TipSet> tips;  // at least one; a dab names its own
+    std::shared_ptr<const Picture> paper;  // null: smooth
+    float paperScale = 1;                  // a tile's side over the paper's, in pixels
+    // The tip's own colours, the dab's where the tip is black, varied by the dab's random number within these.
+    bool multicolour = false;
+    float hueTingle = 0, saturationTingle = 0, brightnessTingle = 0;
+};
+
+// How a layer goes onto a picture: the blended result replaces what is there.
+struct CompositeStyle {
+    std::uint32_t blendType = 1;  // a blend mode, see ESBlendType
+    float opacity = 1;            // 0..1
+    bool masked = false;          // the line layer counts where the sub-line layer has paint
+    bool smudged = false;         // what smudging brought, in place of line and blend mode
+};
+
+// A picture to be put onto another, stretched to a rectangle and turned about its centre.
+struct Placed {
+    PixelView pixels;
+    double width = 0, height = 0, centreX = 0, centreY = 0;
+    double radian = 0;
+    bool replaces = false;  // transparent parts included; else over what is there
+    Rect clip;              // nothing beyond is touched
+};
+
+struct PaintColor {
+    float red = 0, green = 0, blue = 0, alpha = 0;  // premultiplied
+};
+
+class PaintSurface {
+public:
+    explicit PaintSurface(const Size& size) : _size(size), _touched(size) {}
+    virtual ~PaintSurface() = default;
+    PaintSurface(const PaintSurface&) = delete;
+    PaintSurface& operator=(const PaintSurface&) = delete;
+
+    const Size& size() const { return _size; }
+    // What draws, in words: the driver's renderer, say.
+    virtual std::string name() = 0;
+    // The device that paint lay in is gone for good, and the paint with it.
+    virtual bool isLost() { return false; }
+    // Waits until all that was asked for is done, for those who measure.
+    virtual void finish() {}
+
+    // ---- layers
+
+    // Dabs over what the layer holds. Returns the pixels that may have changed.
+    virtual Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) = 0;
+    // The same straight onto the picture, past background and layers.
+    virtual Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) = 0;
+    virtual void clear(PaintLayer layer, const Rect& rect) = 0;
+
+    // Makes the smudge layer show the picture's background; only what changed since it last did is worked on. Before
+    // the first dab of a stroke. False without the memory for it.
+    virtual bool prepareSmudge(PictureId picture) = 0;
+    // Each dab takes up colour where the one before it lay and exchanges it for what lies under it. Returns the pixels
+    // that a composite may change.
+    virtual Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) = 0;
+
+    // ---- pictures
+
+    // The picture becomes its background with the layers blended onto it.
+    virtual void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) = 0;
+    // The picture becomes its background.
+    virtual void revert(PictureId picture, const Rect& rect) = 0;
+    // The background becomes the picture.
+    virtual void commit(PictureId picture, const Rect& rect) = 0;
+    // One colour all over; the background stays.
+    virtual void fill(PictureId picture, const PaintColor& color) = 0;
+    // Another picture over it; the background stays. False, and nothing changed, without the memory.
+    virtual bool place(PictureId picture, const Placed& placed) = 0;
+
+    // ---- rows
+
+    // Both copy size()-wide rectangles of rows byte for byte; `rect` must lie inside and be as large as the rows.
+    virtual bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) = 0;
+    // Into the picture and its background.
+    virtual bool write(PictureId picture, const Rect& rect, const PixelView& rows) = 0;
+
+    // The tiles of a picture that operations touched since they were last forgotten, for whoever keeps its history.
+    const TileSet& touched(PictureId) const { return _touched; }
+    void forgetTouched(PictureId) { _touched.clear(); }
+
+protected:
+    void noteTouched(PictureId, const Rect& rect) { _touched.add(rect); }
+
+private:
+    friend class SurfaceScope;
+    // Scopes nest; false when the device cannot be had just now.
+    virtual bool enter() { return true; }
+    virtual void leave() {}
+
+    Size _size;
+    TileSet _touched;
+};
+
+// Operations on a surface come inside one. Costs next to nothing inside another of the same surface; whatever device
+// the host was using is its own again when the outermost one ends.
+class SurfaceScope {
+public:
+    explicit SurfaceScope(PaintSurface& surface) : _surface(surface), _entered(surface.enter()) {}
+    ~SurfaceScope() {
+        if (_entered) {
+            _surface.leave();
+        }
+    }
+    SurfaceScope(const SurfaceScope&) = delete;
+    SurfaceScope& operator=(const SurfaceScope&) = delete;
+
+    explicit operator bool() const { return _entered; }
+
+private:
+    PaintSurface& _surface;
+    bool _entered;
+};
+
+}  // namespace dabcanvas
