@@ -12,7 +12,7 @@
 
 #include "ESContext/ESContext.h"
 #include "ESContext/ESCurrentScope.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/Measuring.h"
 
 using namespace dabcanvas::bench;

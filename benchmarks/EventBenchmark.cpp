@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/Canvas.h"
 #include "support/Measuring.h"
 #include "support/Recording.h"

@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "History/ImagesUndoManager.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/Measuring.h"
 #include "support/Recording.h"
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/Measuring.h"
 
 using namespace dabcanvas::bench;

@@ -14,7 +14,7 @@
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPStroke.h"
 #include "LineProcess/LPTrace.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/Measuring.h"
 #include "support/Recording.h"
 #ifdef DABCANVAS_HAVE_MYPAINT

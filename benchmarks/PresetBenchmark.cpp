@@ -17,7 +17,7 @@
 #include "ESContext/ESCurrentScope.h"
 #include "Preset/BrushParamValues.h"
 #include "Preset/QDBrushManager.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/Measuring.h"
 
 using namespace dabcanvas::bench;

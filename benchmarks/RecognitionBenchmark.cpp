@@ -5,7 +5,7 @@
 #include <cmath>
 #include <vector>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "Recognition/Unitily.h"
 #include "support/Canvas.h"
 #include "support/Measuring.h"

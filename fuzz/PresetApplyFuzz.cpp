@@ -10,7 +10,7 @@
 #include <QGuiApplication>
 
 #include "Preset/QDBrushManager.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace {
 

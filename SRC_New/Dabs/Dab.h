@@ -7,6 +7,8 @@
 #include "LineProcess/ColorTypes.h"
 #include "LineProcess/LPTypes.h"
 
+namespace dabcanvas {
+
 // What one dab is, apart from how it reaches the GPU: the stroke's points go in, jittered dabs come out.
 // Plain C++ without GL; the renderers of this folder hand the dabs on.
 
@@ -128,3 +130,5 @@ private:
     float _thinFlow = 1;
     Dab _dab{};
 };
+
+}  // namespace dabcanvas

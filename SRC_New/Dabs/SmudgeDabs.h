@@ -11,11 +11,11 @@ namespace dabcanvas {
 // A dab, and the square it takes up colour from: turned, squeezed and mirrored as the dab itself. Buffer pixels.
 struct SmudgeDab {
     Dab dab;
-    LPPosition pickUp;    // the square's centre
-    float pickUpHalf;     // half its side
-    float moist;          // how readily canvas colour is taken along; 0 where there is none to take yet
-    float mix;            // 0: of the brush's own colour, 1: of what is taken up
-    float exchange;       // share of what is under full coverage that is exchanged
+    LPPosition pickUp;  // the square's centre
+    float pickUpHalf;   // half its side
+    float moist;        // how readily canvas colour is taken along; 0 where there is none to take yet
+    float mix;          // 0: of the brush's own colour, 1: of what is taken up
+    float exchange;     // share of what is under full coverage that is exchanged
 };
 
 // The canvas's properties of the same names tell what each does; 0..1, but for controlValue.

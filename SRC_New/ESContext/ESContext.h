@@ -30,15 +30,7 @@
 #include "ESContext/ESGLTypes.h"
 #include "ESContext/ESOpenGLView.h"
 #include "LineProcess/LPTypes.h"
-
-// The render targets; the value is also the index into the framebuffers.
-enum ESRenderType : std::int32_t {
-    ESRenderTypeCanvas = 0,   // the canvas image, a renderbuffer
-    ESRenderTypeLine = 1,     // the line layer, lineTexture()
-    ESRenderTypeSubLine = 2,  // the sub-line layer, subLineTexture()
-    ESRenderTypeSmudge = 3,   // the smudge layer, smudgeTexture(), half size each way
-};
-inline constexpr int kRenderTypeCount = 4;
+#include "Surface/RenderType.h"
 
 class ESContext {
 public:

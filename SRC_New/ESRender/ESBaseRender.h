@@ -23,7 +23,7 @@
 #include <memory>
 #include <vector>
 
-#include "ESRender/ESColor.h"
+#include "Brushes/ESColor.h"
 #include "ESRender/Texture/TextureObject.h"
 #include "ESRender/Utilities/ESProgram.h"
 #include "ESRender/Utilities/ESProgromObject.h"

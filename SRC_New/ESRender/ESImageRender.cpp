@@ -6,12 +6,12 @@
 #include <cstddef>
 
 #include "ESRender/ImageShaderNames.h"
-#include "ESRender/Placement.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
 #include "Maths/Geometry.h"
+#include "Surface/Placement.h"
 
 using dabcanvas::Placement;
 
@@ -47,6 +47,11 @@ void readAs(Placement::Reading reading) {
                     : averaged ? GL_LINEAR_MIPMAP_LINEAR
                                : GL_LINEAR);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, exact ? GL_NEAREST : GL_LINEAR);
+}
+
+// The rectangle of a dab: radius is the width, roundness times that the height.
+Placement placementOf(const LPPoint& dab, float roundness, double radian) {
+    return Placement({dab.position.x, dab.position.y}, dab.radius, double{dab.radius} * roundness, radian);
 }
 
 }  // namespace
@@ -337,13 +342,14 @@ void ESImageRender::setTextureData(const unsigned char* data, const QSize& dataS
 }
 
 QRect ESImageRender::placedRect(const LPPoint& point) const {
-    return Placement(point, _roundness, _radian).touched();
+    const dabcanvas::Rect touched = placementOf(point, _roundness, _radian).touched();
+    return {touched.x, touched.y, touched.width, touched.height};
 }
 
 bool ESImageRender::isCopy(const LPPoint& point, const QSize& imageSize) const {
-    const Placement placement(point, _roundness, _radian);
+    const Placement placement = placementOf(point, _roundness, _radian);
     return _background.texture != 0 && !placement.isTurned() &&
-           placement.readingOf(imageSize) == Placement::Reading::texelOnPixel;
+           placement.readingOf({imageSize.width(), imageSize.height()}) == Placement::Reading::texelOnPixel;
 }
 
 void ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
@@ -376,18 +382,18 @@ bool ESImageRender::usePlaceProgram() {
 }
 
 void ESImageRender::drawPlaced(const LPPoint& point) {
-    const Placement placement(point, _roundness, _radian);
+    const Placement placement = placementOf(point, _roundness, _radian);
     const bool smoothEdges = !placement.isOnPixelEdges() && usePlaceProgram();
     if (smoothEdges) {
         bindSources();
         _placedSize.set(placement.width(), placement.height());
         _replace.set(_blendType == ESBlendTypeReplace);
     }
-    readAs(placement.readingOf(brushTexture()->pixSize()));
+    readAs(placement.readingOf({brushTexture()->pixSize().width(), brushTexture()->pixSize().height()}));
 
     // A pixel is covered in part up to half a pixel beyond the edge.
     const double rim = smoothEdges ? 1 : 0;
-    const std::array<QPointF, 4> places = placement.corners(rim, _flipX, _flipY);
+    const std::array<dabcanvas::Point, 4> places = placement.corners(rim, _flipX, _flipY);
     const float* const cell = brushTexture()->verties();
     const auto s = [&](double part) { return static_cast<float>(cell[0] + (cell[4] - cell[0]) * part); };
     const auto t = [&](double part) { return static_cast<float>(cell[1] + (cell[3] - cell[1]) * part); };
@@ -398,8 +404,8 @@ void ESImageRender::drawPlaced(const LPPoint& point) {
     std::array<Vertex, 4> corners{};
     for (std::size_t i = 0; i < corners.size(); ++i) {
         // The vertex shader mirrors what it is given, which is turned already.
-        corners[i] = {static_cast<float>(_flipX ? -places[i].x() : places[i].x()),
-                      static_cast<float>(_flipY ? -places[i].y() : places[i].y()),
+        corners[i] = {static_cast<float>(_flipX ? -places[i].x : places[i].x),
+                      static_cast<float>(_flipY ? -places[i].y : places[i].y),
                       0,
                       1,
                       coords[i][0],

@@ -379,7 +379,7 @@ void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
     _coverage.push_back(covered);
 }
 
-std::span<const Dab> ESSmudgeRender::takeCoverage() {
+std::span<const dabcanvas::Dab> ESSmudgeRender::takeCoverage() {
     if (_coverageTaken) {
         return {};
     }

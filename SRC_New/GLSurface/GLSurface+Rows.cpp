@@ -21,8 +21,8 @@ namespace {
 constexpr std::ptrdiff_t kBandBytes = 1 << 20;
 
 int bandRows(const Rect& rect) {
-    return static_cast<int>(std::clamp<std::ptrdiff_t>(kBandBytes / (std::ptrdiff_t{rect.width} * 4), 1,
-                                                       rect.height));
+    return static_cast<int>(
+        std::clamp<std::ptrdiff_t>(kBandBytes / (std::ptrdiff_t{rect.width} * 4), 1, rect.height));
 }
 
 QRectF qRectOf(const Rect& rect) {
@@ -140,8 +140,8 @@ bool GLSurface::place(PictureId picture, const Placed& placed) {
     }
     const QRectF touched = render.drawPoints(&dab, 1);
     _context->finishRender();
-    noteChanged(picture,
-                clip.intersected(Rect::covering(touched.left(), touched.top(), touched.right(), touched.bottom())));
+    noteChanged(picture, clip.intersected(Rect::covering(touched.left(), touched.top(), touched.right(),
+                                                         touched.bottom())));
     return true;
 }
 

@@ -35,14 +35,18 @@ float roundnessOf(const Rect& rect) {
 
 // ---- Making
 
-std::unique_ptr<GLSurface> GLSurface::make(const Size& size) {
+std::unique_ptr<GLSurface> GLSurface::make(const QSizeF& size) {
     auto context = ESContext::init();
     if (!context) {
         return nullptr;
     }
-    std::unique_ptr<GLSurface> surface(new GLSurface(size, std::move(context)));
-    const SurfaceScope scope(*surface);
-    return scope && surface->makeRenders() ? std::move(surface) : nullptr;
+    const ESCurrentScope current(*context);
+    if (!current || !context->createBufferWithSize(size)) {
+        return nullptr;
+    }
+    const Size pixels{context->backingWidth(), context->backingHeight()};
+    std::unique_ptr<GLSurface> surface(new GLSurface(pixels, std::move(context)));
+    return surface->makeRenders() ? std::move(surface) : nullptr;
 }
 
 GLSurface::GLSurface(const Size& size, std::unique_ptr<ESContext> context)
@@ -55,9 +59,6 @@ GLSurface::GLSurface(const Size& size, std::unique_ptr<ESContext> context)
 
 bool GLSurface::makeRenders() {
     const QSizeF buffer(size().width, size().height);
-    if (!_context->createBufferWithSize(buffer)) {
-        return false;
-    }
     for (const GLenum capability : {GL_STENCIL_TEST, GL_DEPTH_TEST, GL_SCISSOR_TEST}) {
         ESContext::setEnable(false, capability);
     }
@@ -174,8 +175,8 @@ Rect GLSurface::drawInto(ESRenderType target, DabRender& with, std::span<const D
 }
 
 Rect GLSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
-    return drawInto(layer == PaintLayer::subLine ? ESRenderTypeSubLine : ESRenderTypeLine,
-                    dabRenderOf(layer), dabs, style);
+    return drawInto(layer == PaintLayer::subLine ? ESRenderTypeSubLine : ESRenderTypeLine, dabRenderOf(layer),
+                    dabs, style);
 }
 
 Rect GLSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
@@ -189,9 +190,9 @@ void GLSurface::clear(PaintLayer layer, const Rect& rect) {
     if (smudge && !_smudge.render) {
         return;  // there is none yet
     }
-    _context->beginRenderForType(smudge                       ? ESRenderTypeSmudge
+    _context->beginRenderForType(smudge                      ? ESRenderTypeSmudge
                                  : layer == PaintLayer::line ? ESRenderTypeLine
-                                                              : ESRenderTypeSubLine);
+                                                             : ESRenderTypeSubLine);
     if (smudge) {
         _smudgeStale = Rect::of(size());
     } else {
@@ -246,8 +247,17 @@ bool GLSurface::prepareSmudge(PictureId) {
 
 // As warmUp() does: two dabs without flow, the second of which takes up colour, and a look at where no dab was.
 void GLSurface::warmUpSmudging() {
-    const Dab dab{.x = 2, .y = 2, .halfSize = 2, .radian = 0, .roundness = 1, .flipX = 1, .flipY = 1,
-                  .flow = 0, .color = {0, 0, 0}, .random = 0, .tip = 0};
+    const Dab dab{.x = 2,
+                  .y = 2,
+                  .halfSize = 2,
+                  .radian = 0,
+                  .roundness = 1,
+                  .flipX = 1,
+                  .flipY = 1,
+                  .flow = 0,
+                  .color = {0, 0, 0},
+                  .random = 0,
+                  .tip = 0};
     const SmudgeDab dabs[] = {{dab, {0, 0}, 0, 0, 0, 1}, {dab, {3, 2}, 2, 1, 1, 1}};
     auto* const render = static_cast<ESSmudgeRender*>(_smudge.render.get());
     _context->beginRenderForType(ESRenderTypeSmudge);

@@ -5,7 +5,7 @@
 // Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
 #pragma once
 
-#include <QImage>
+#include <QSizeF>
 #include <deque>
 #include <memory>
 #include <vector>
@@ -22,8 +22,9 @@ namespace dabcanvas {
 
 class GLSurface final : public PaintSurface {
 public:
-    // Transparent. Null, after one log line, when there is no OpenGL 3.2 or a side is not from 1 to the driver's limit.
-    static std::unique_ptr<GLSurface> make(const Size& size);
+    // Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2 or a side is not
+    // from 1 to the driver's limit.
+    static std::unique_ptr<GLSurface> make(const QSizeF& size);
     ~GLSurface() override;
 
     // For hosts that draw with OpenGL themselves.

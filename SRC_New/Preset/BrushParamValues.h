@@ -8,7 +8,7 @@
 
 #include "LineProcess/LPTypes.h"
 #include "Preset/BrushRecords.h"
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 
 // Looks at the parameter records of a preset by property name, without applying them to a canvas. Of several records of
 // one id the first counts; what is absent is 0, false, null or empty.

@@ -15,7 +15,7 @@
 #include <QVariantMap>
 #include <cstdint>
 
-#include "ESRender/ESColor.h"
+#include "Brushes/ESColor.h"
 #include "Preset/XBF.h"
 
 using BrushParam = QVariantMap;

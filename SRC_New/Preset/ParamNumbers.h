@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "ESRender/ESColor.h"
+#include "Brushes/ESColor.h"
 
 namespace dabcanvas {
 

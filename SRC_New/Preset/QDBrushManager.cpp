@@ -9,8 +9,8 @@
 #include "Preset/LegacyModes.h"
 #include "Preset/ParamNumbers.h"
 #include "Preset/PresetImages.h"
-#include "QDEAGLView/BrushProperties.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Brushes/BrushProperties.h"
+#include "Canvas/QDDrawCanvas.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvasPreset)
 

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 
 // The live preview on screen: a transparent widget over a canvas view, whose child it is. It shows what its
 // LeafDrawing holds, stretched into its bounds, and lets all pointer events through.

@@ -8,7 +8,7 @@
 #include "Maths/Geometry.h"
 #include "Maths/Rounding.h"
 #include "QDEAGLView/CanvasRects.h"
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 using dabcanvas::mergeRect;

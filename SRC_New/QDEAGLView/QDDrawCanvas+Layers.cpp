@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "QDEAGLView/CanvasRects.h"
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 using dabcanvas::dabOf;

@@ -6,7 +6,7 @@
 #include <QLoggingCategory>
 #include <QScopedValueRollback>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "LineProcess/LPProperties.h"
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 namespace {

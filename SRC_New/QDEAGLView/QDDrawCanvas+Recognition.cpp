@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "QDEAGLView/CanvasRects.h"
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 #include "Recognition/ShapeDabs.h"
 #include "Recognition/Unitily.h"

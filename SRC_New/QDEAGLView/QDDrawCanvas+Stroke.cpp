@@ -8,7 +8,7 @@
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPStroke.h"
 #include "QDEAGLView/CanvasRects.h"
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 using dabcanvas::isZero;

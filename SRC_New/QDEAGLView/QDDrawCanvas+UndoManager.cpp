@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "History/ImagesUndoManager.h"
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Making and destroying a canvas.
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -8,7 +8,7 @@
 #include "ESRender/Utilities/ESResource.h"
 #include "History/ImagesUndoManager.h"
 #include "LineProcess/LPProperties.h"
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
 Q_LOGGING_CATEGORY(lcDabcanvas, "dabcanvas.canvas")

@@ -8,7 +8,7 @@
 #include "ESContext/ESCurrentScope.h"
 #include "ESRender/ESImageRender.h"
 #include "ESRender/ESSmudgeRender.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 class QTouchEvent;
 

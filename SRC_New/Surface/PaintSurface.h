@@ -36,7 +36,7 @@ enum class PaintLayer : std::uint8_t { line, subLine, smudge };
 
 // What stays the same for a run of dabs.
 struct DabStyle {
-    std::shared_ptr<const TipSet> tips;  // at least one; a dab names its own
+    std::shared_ptr<const TipSet> tips;    // at least one; a dab names its own
     std::shared_ptr<const Picture> paper;  // null: smooth
     float paperScale = 1;                  // a tile's side over the paper's, in pixels
     // The tip's own colours, the dab's where the tip is black, varied by the dab's random number within these.
@@ -50,6 +50,8 @@ struct CompositeStyle {
     float opacity = 1;            // 0..1
     bool masked = false;          // the line layer counts where the sub-line layer has paint
     bool smudged = false;         // what smudging brought, in place of line and blend mode
+
+    friend bool operator==(const CompositeStyle&, const CompositeStyle&) = default;
 };
 
 // A picture to be put onto another, stretched to a rectangle and turned about its centre.
@@ -76,7 +78,7 @@ public:
     // What draws, in words: the driver's renderer, say.
     virtual std::string name() = 0;
     // The device that paint lay in is gone for good, and the paint with it.
-    virtual bool isLost() { return false; }
+    virtual bool isLost() const { return false; }
     // Waits until all that was asked for is done, for those who measure.
     virtual void finish() {}
 

@@ -9,8 +9,8 @@
 #include <cstring>
 
 #include "Preset/QDBrushManager.h"
-#include "QDEAGLView/BrushProperties.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Brushes/BrushProperties.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpaint {
 

@@ -18,7 +18,7 @@
 #include "ESContext/ESCurrentScope.h"
 #include "History/ImagesUndoManager.h"
 #include "PictureFile.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "Recording.h"
 #include "ToolCanvas.h"
 

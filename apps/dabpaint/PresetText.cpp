@@ -9,7 +9,7 @@
 #include "Numbers.h"
 #include "Preset/ParamNumbers.h"
 #include "PropertyValue.h"
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 
 namespace dabcanvas::dabpaint {
 

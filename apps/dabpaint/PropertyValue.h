@@ -6,7 +6,7 @@
 #include <QVariant>
 #include <optional>
 
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 #include "Recording.h"
 
 namespace dabcanvas::dabpaint {

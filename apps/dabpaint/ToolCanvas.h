@@ -8,7 +8,7 @@
 #include <memory>
 
 #include "Problem.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "Recording.h"
 
 namespace dabcanvas::dabpaint {

@@ -8,7 +8,7 @@
 #include "BrushPresentation.h"
 #include "ESRender/ESImageRender.h"
 #include "Preset/QDBrushManager.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpainter {
 

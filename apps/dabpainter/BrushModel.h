@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "Preset/BrushRecords.h"
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 
 class QDDrawCanvas;
 

@@ -5,7 +5,7 @@
 #include <QString>
 #include <span>
 
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 
 namespace dabcanvas::dabpainter {
 

@@ -7,7 +7,7 @@
 #include <QPointF>
 
 #include "BrushModel.h"
-#include "QDEAGLView/QDDrawViewDelegate.h"
+#include "Canvas/QDDrawViewDelegate.h"
 
 class QKeyEvent;
 class QMouseEvent;

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpainter {
 

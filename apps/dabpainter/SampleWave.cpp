@@ -7,7 +7,7 @@
 #include <numbers>
 
 #include "ESRender/ESImageRender.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpainter {
 

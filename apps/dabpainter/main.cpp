@@ -9,7 +9,7 @@
 #include "CommandLine.h"
 #include "MainWindow.h"
 #include "PresetLibrary.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace dabcanvas::bench {
 

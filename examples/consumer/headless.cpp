@@ -3,7 +3,7 @@
 #include <QImage>
 #include <cstdio>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 
 int main(int argc, char** argv) {
     if (argc != 2) {

@@ -16,8 +16,8 @@
 #include "Preset/BrushParamValues.h"
 #include "Preset/PresetImages.h"
 #include "Preset/QDBrushManager.h"
-#include "QDEAGLView/BrushProperties.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Brushes/BrushProperties.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 
 #include <QMetaProperty>
 #include <cstring>

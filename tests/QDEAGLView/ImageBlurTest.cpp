@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QDEAGLView/ImageBlur.h"
+#include "Preview/ImageBlur.h"
 
 #include <algorithm>
 #include <cmath>

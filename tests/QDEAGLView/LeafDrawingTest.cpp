@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 
 #include <QCoreApplication>
 #include <QPainter>

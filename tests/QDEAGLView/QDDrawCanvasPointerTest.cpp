@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <QApplication>
 #include <string>
 
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"
 

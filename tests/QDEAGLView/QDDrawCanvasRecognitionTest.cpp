@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "History/ImagesUndoManager.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 

@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 
 namespace {

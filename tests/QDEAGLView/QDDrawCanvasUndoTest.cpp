@@ -7,7 +7,7 @@
 
 #include "History/ImagesUndoManager.h"
 #include "History/Packing.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 

@@ -9,7 +9,7 @@
 
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "LineProcess/LPRandom.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "support/Images.h"
 
 class CanvasTest : public ::testing::Test {

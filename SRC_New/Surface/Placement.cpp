@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ESRender/Placement.h"
+#include "Surface/Placement.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <numbers>
-
-#include "Maths/Rounding.h"
 
 namespace dabcanvas {
 namespace {
@@ -21,7 +19,7 @@ bool isWhole(double value) {
 // Far off any buffer, and far from where integers or single precision end.
 int pixelAt(double edge) {
     constexpr double kFar = 1e6;
-    return truncatedInt(std::clamp(edge, -kFar, kFar));
+    return std::isnan(edge) ? 0 : static_cast<int>(std::clamp(edge, -kFar, kFar));
 }
 
 bool isSame(double length, int texels) {
@@ -30,8 +28,8 @@ bool isSame(double length, int texels) {
 
 }  // namespace
 
-Placement::Placement(const LPPoint& dab, float roundness, double radian)
-    : _centre(dab.position.x, dab.position.y), _width(dab.radius), _height(double{dab.radius} * roundness) {
+Placement::Placement(Point centre, double width, double height, double radian)
+    : _centre(centre), _width(width), _height(height) {
     radian = std::remainder(radian, 2 * std::numbers::pi);
     const double quarters = std::nearbyint(radian / (std::numbers::pi / 2));
     const double off = radian - quarters * (std::numbers::pi / 2);
@@ -45,44 +43,41 @@ Placement::Placement(const LPPoint& dab, float roundness, double radian)
         _cosine = std::cos(radian);
         _sine = std::sin(radian);
     }
-    const QPointF half(std::fabs(_width * _cosine) / 2 + std::fabs(_height * _sine) / 2,
-                       std::fabs(_width * _sine) / 2 + std::fabs(_height * _cosine) / 2);
-    const QPointF first = _centre - half;
-    const QPointF last = _centre + half;
-    _onPixelEdges =
-        isQuarterTurn && isWhole(first.x()) && isWhole(first.y()) && isWhole(last.x()) && isWhole(last.y());
+    const Point half{std::fabs(_width * _cosine) / 2 + std::fabs(_height * _sine) / 2,
+                     std::fabs(_width * _sine) / 2 + std::fabs(_height * _cosine) / 2};
+    _onPixelEdges = isQuarterTurn && isWhole(_centre.x - half.x) && isWhole(_centre.y - half.y) &&
+                    isWhole(_centre.x + half.x) && isWhole(_centre.y + half.y);
 }
 
-QRect Placement::touched() const {
+Rect Placement::touched() const {
     const double rim = _onPixelEdges ? 0 : 0.5;
     const double halfWidth = _width / 2 + rim;
     const double halfHeight = _height / 2 + rim;
-    const QPointF half(std::fabs(halfWidth * _cosine) + std::fabs(halfHeight * _sine),
-                       std::fabs(halfWidth * _sine) + std::fabs(halfHeight * _cosine));
-    const QPointF first = _centre - half;
-    const QPointF last = _centre + half;
+    const Point half{std::fabs(halfWidth * _cosine) + std::fabs(halfHeight * _sine),
+                     std::fabs(halfWidth * _sine) + std::fabs(halfHeight * _cosine)};
     const auto lower = [this](double edge) {
         return pixelAt(_onPixelEdges ? std::nearbyint(edge) : std::floor(edge));
     };
     const auto upper = [this](double edge) {
-        return pixelAt(_onPixelEdges ? std::nearbyint(edge) : std::ceil(edge)) - 1;
+        return pixelAt(_onPixelEdges ? std::nearbyint(edge) : std::ceil(edge));
     };
-    return QRect(QPoint(lower(first.x()), lower(first.y())), QPoint(upper(last.x()), upper(last.y())));
+    return Rect::between(lower(_centre.x - half.x), lower(_centre.y - half.y), upper(_centre.x + half.x),
+                         upper(_centre.y + half.y));
 }
 
-std::array<QPointF, 4> Placement::corners(double rim, bool flipX, bool flipY) const {
+std::array<Point, 4> Placement::corners(double rim, bool flipX, bool flipY) const {
     const double x = (_width / 2 + rim) * (flipX ? -1 : 1);
     const double y = (_height / 2 + rim) * (flipY ? -1 : 1);
     const auto turned = [this](double right, double up) {
-        return QPointF(right * _cosine - up * _sine, right * _sine + up * _cosine);
+        return Point{right * _cosine - up * _sine, right * _sine + up * _cosine};
     };
     return {turned(-x, -y), turned(x, -y), turned(x, y), turned(-x, y)};
 }
 
-Placement::Reading Placement::readingOf(const QSize& texels) const {
-    const bool sameWidth = isSame(_width, texels.width());
-    const bool sameHeight = isSame(_height, texels.height());
-    if ((_width < texels.width() && !sameWidth) || (_height < texels.height() && !sameHeight)) {
+Placement::Reading Placement::readingOf(const Size& texels) const {
+    const bool sameWidth = isSame(_width, texels.width);
+    const bool sameHeight = isSame(_height, texels.height);
+    if ((_width < texels.width && !sameWidth) || (_height < texels.height && !sameHeight)) {
         return Reading::averaged;
     }
     return sameWidth && sameHeight && _onPixelEdges ? Reading::texelOnPixel : Reading::interpolated;

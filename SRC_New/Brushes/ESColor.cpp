@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ESRender/ESColor.h"
+#include "Brushes/ESColor.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QDEAGLView/LeafFill.h"
+#include "Preview/LeafFill.h"
 
 #include <algorithm>
 #include <array>

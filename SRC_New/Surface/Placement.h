@@ -1,23 +1,24 @@
 // SPDX-License-Identifier: MIT
-// Where a placed image lies on the buffer and how its texture is to be read there. Plain geometry, no GL.
+// Where a placed image lies on the buffer and how its pixels are to be read there. Plain geometry.
 //
 // Units    buffer pixels, top-left origin; angles in radians, counter-clockwise as seen on screen.
 #pragma once
 
-#include <QPointF>
-#include <QRect>
-#include <QSize>
 #include <array>
 
-#include "LineProcess/LPTypes.h"
+#include "Pixels/Rect.h"
 
 namespace dabcanvas {
 
+// In buffer pixels, between which it may lie.
+struct Point {
+    double x = 0, y = 0;
+};
+
 class Placement {
 public:
-    // The rectangle of a dab: radius is the width, roundness times that the height. A turn that is a quarter
-    // turn but for rounding is taken as one.
-    Placement(const LPPoint& dab, float roundness, double radian);
+    // A turn that is a quarter turn but for rounding is taken as one.
+    Placement(Point centre, double width, double height, double radian);
 
     double width() const { return _width; }
     double height() const { return _height; }
@@ -26,21 +27,21 @@ public:
     bool isOnPixelEdges() const { return _onPixelEdges; }
     bool isTurned() const { return _cosine != 1; }
     // The pixels that are covered, at least in part; a margin of one where edges cut through them.
-    QRect touched() const;
+    Rect touched() const;
     // The corners as offsets from the centre that count upwards, from the top left clockwise (of a source
     // that is mirrored by nothing), `rim` pixels beyond the edges.
-    std::array<QPointF, 4> corners(double rim, bool flipX, bool flipY) const;
+    std::array<Point, 4> corners(double rim, bool flipX, bool flipY) const;
 
-    // How a texture of these many texels is read so that it neither blurs nor flickers.
+    // How a picture of this size is read so that it neither blurs nor flickers.
     enum class Reading {
         texelOnPixel,  // as it is
         interpolated,  // enlarged, turned or between pixels
-        averaged,      // reduced: mip levels
+        averaged,      // reduced
     };
-    Reading readingOf(const QSize& texels) const;
+    Reading readingOf(const Size& texels) const;
 
 private:
-    QPointF _centre;
+    Point _centre;
     double _width, _height;
     double _cosine, _sine;
     bool _onPixelEdges;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QDEAGLView/LeafDrawing.h"
+#include "Preview/LeafDrawing.h"
 
 #include <QLoggingCategory>
 #include <QPainter>
@@ -9,7 +9,7 @@
 #include <initializer_list>
 #include <utility>
 
-#include "QDEAGLView/ImageBlur.h"
+#include "Preview/ImageBlur.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 

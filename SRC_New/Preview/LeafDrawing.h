@@ -10,8 +10,8 @@
 #include <functional>
 #include <optional>
 
-#include "ESRender/ESColor.h"
-#include "QDEAGLView/LeafFill.h"
+#include "Brushes/ESColor.h"
+#include "Preview/LeafFill.h"
 
 // The live preview brush: while the pointer moves, the area that it encloses is shown as one filled, smoothed
 // path, drawn on the CPU; at the end of the stroke it is softened and handed over, to be placed on the

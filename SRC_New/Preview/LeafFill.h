@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ESRender/ESColor.h"
+#include "Brushes/ESColor.h"
 
 // An area that grows curve by curve, filled with antialiasing by the winding rule: the live preview's
 // outline.

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// When a step of a canvas's history is due, and putting a step back. The pictures themselves are kept by an
+// ImagesUndoManager, which is made when it is first asked for: a canvas whose history nobody wants has none.
+//
+// Before a call the caller has seen to it that nothing is on its way onto the canvas: no preview that has ended, no sketch
+// that is yet to be taken back.
+#pragma once
+
+#include <QByteArray>
+#include <functional>
+#include <memory>
+
+#include "Canvas/EditFlag.h"
+#include "Canvas/RecordedCanvas.h"
+
+class ImagesUndoManager;
+
+namespace dabcanvas {
+
+class CanvasHistory {
+public:
+    CanvasHistory(PaintLayers& layers, RecordedCanvas& record, EditFlag& edits);
+    ~CanvasHistory();
+
+    bool autoMark = false;
+    float markTimeInterval = 0;  // seconds
+
+    // Makes it, if there is none yet. sketching: a sketch has yet to be taken back to what is recorded.
+    ImagesUndoManager& images(bool sketching);
+    QByteArray load(bool sketching);
+    // Makes the present canvas the only step; null without the memory.
+    QByteArray reset();
+    // Records the canvas as a step; null, and nothing recorded, when nothing was drawn since the last, or too shortly
+    // after it, or without the memory.
+    QByteArray mark();
+
+    // unrecorded: the canvas holds, or will hold, what no step does.
+    bool canUndo(bool unrecorded) const;
+    bool canRedo(bool unrecorded) const;
+    // What became of a step back or forth.
+    enum class Outcome : std::uint8_t {
+        refused,   // nothing changed
+        restored,  // the canvas is the step
+        lost,      // the step has no picture of this canvas; the caller is to clear it
+    };
+    // What was drawn since the last step is recorded first.
+    Outcome undo();
+    Outcome redo();
+
+private:
+    using Step = bool (ImagesUndoManager::*)();
+    QByteArray record();
+    bool recordUnrecorded();
+    void noteRecorded(const QByteArray& data);
+    Outcome go(Step there, Step back);
+
+    PaintLayers& _layers;
+    RecordedCanvas& _record;
+    EditFlag& _edits;
+    std::unique_ptr<ImagesUndoManager> _images;
+    double _lastMark = 0;  // when the last step was recorded, in seconds since 1970
+};
+
+}  // namespace dabcanvas

@@ -1,0 +1,305 @@
+// SPDX-License-Identifier: MIT
+#include "Canvas/PaintLayers.h"
+
+#include <utility>
+
+#include "Surface/BlendType.h"
+
+namespace dabcanvas {
+namespace {
+
+constexpr PictureId kPicture = PictureId::first;
+// Rectangles that wait where nobody looks at the picture and they cannot be merged.
+constexpr std::size_t kMostPending = 1024;
+
+}  // namespace
+
+PaintLayers::PaintLayers(std::unique_ptr<PaintSurface> surface, StageClock& clock)
+    : _surface(std::move(surface)), _clock(clock), _uncommitted(whole()), _stale(whole()) {}
+
+bool PaintLayers::linesHoldPaint() const {
+    return !contentOf(PaintLayer::line).isEmpty() || !contentOf(PaintLayer::subLine).isEmpty();
+}
+
+void PaintLayers::noteChanged(const Rect& area) {
+    const Rect changed = area.intersected(whole());
+    if (changed.isEmpty()) {
+        return;
+    }
+    _stale = _stale.united(changed);
+    if (onChanged) {
+        onChanged(changed);
+    }
+}
+
+// ---- A stroke
+
+Rect PaintLayers::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
+    const SurfaceScope scope(*_surface);
+    if (!scope || dabs.empty()) {
+        return {};
+    }
+    const Rect touched = _surface->draw(layer, dabs, style);
+    contentOf(layer) = contentOf(layer).united(touched);
+    return touched;
+}
+
+Rect PaintLayers::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
+    const SurfaceScope scope(*_surface);
+    if (!scope || dabs.empty()) {
+        return {};
+    }
+    if (contentOf(PaintLayer::line).isEmpty() && !prepareSmudge()) {
+        return {};
+    }
+    const Rect touched = _surface->smudge(dabs, style, load);
+    // How much was exchanged stands in the line layer.
+    contentOf(PaintLayer::line) = contentOf(PaintLayer::line).united(touched);
+    return touched;
+}
+
+Rect PaintLayers::drawOnPicture(std::span<const Dab> dabs, const DabStyle& style) {
+    const SurfaceScope scope(*_surface);
+    if (!scope || dabs.empty()) {
+        return {};
+    }
+    flush();  // what is due lies below
+    const Rect touched = _surface->draw(kPicture, dabs, style);
+    _painted = _painted.united(touched);
+    _uncommitted = _uncommitted.united(touched);
+    noteChanged(touched);
+    return touched;
+}
+
+void PaintLayers::beginStroke() {
+    flush();  // what waits is not the stroke's to withdraw
+    _strokeArea = {};
+}
+
+// Before composites come in another style: what was drawn so far shows the old one, and what follows may no longer touch
+// more than it drew.
+void PaintLayers::settleDrawn() {
+    flush();
+    if (linesHoldPaint()) {
+        _mayMerge = false;
+    }
+}
+
+void PaintLayers::setStyle(const CompositeStyle& style) {
+    if (style != _style) {
+        settleDrawn();
+        _style = style;
+    }
+}
+
+void PaintLayers::show(const Rect& area, bool smudged) {
+    if (area.isEmpty()) {
+        return;
+    }
+    if (smudged != _pendingSmudged) {
+        settleDrawn();
+        _pendingSmudged = smudged;
+    }
+    if (_pending.size() >= kMostPending) {
+        flush();
+    }
+    _painted = _painted.united(area);
+    _strokeArea = _strokeArea.united(area);
+    _uncommitted = _uncommitted.united(area);
+    // Rectangles that overlap become one, which composites the same pixels wherever the picture is the background with
+    // the layers above it, except where replacing would clear what lies between them.
+    const bool merges = !_pending.empty() && _mayMerge && _style.blendType != ESBlendTypeReplace;
+    const Rect both = merges ? _pending.back().united(area) : Rect();
+    if (merges && both.area() <= _pending.back().area() + area.area()) {
+        _pending.back() = both;
+    } else {
+        _pending.push_back(area);
+    }
+    noteChanged(area);
+}
+
+void PaintLayers::flush() {
+    if (_pending.empty()) {
+        return;
+    }
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return;
+    }
+    const StageClock::Stage stage(_clock, &StrokeStats::compositingSeconds, _surface.get());
+    CompositeStyle style = _style;
+    style.smudged = _pendingSmudged;
+    _surface->composite(kPicture, _pending, style);
+    _pending.clear();
+}
+
+bool PaintLayers::isUnfinished() const {
+    return linesHoldPaint() || !_uncommitted.isEmpty();
+}
+
+void PaintLayers::finish() {
+    emptyLines();
+    commit();
+}
+
+void PaintLayers::settle() {
+    if (isUnfinished()) {
+        finish();
+    }
+}
+
+void PaintLayers::withdraw(const std::function<bool(const Rect& drawn)>& restore) {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return;
+    }
+    _pending.clear();  // all of it lies within the stroke's area
+    emptyLines();
+    const Rect area = std::exchange(_strokeArea, Rect());
+    if (!restore || !restore(area)) {
+        revert(area);
+    }
+    // The picture is the background there.
+    if (area.contains(_uncommitted)) {
+        _uncommitted = {};
+    }
+    _mayMerge = _uncommitted.isEmpty();
+}
+
+// ---- The picture
+
+void PaintLayers::commit() {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return;
+    }
+    flush();
+    const StageClock::Stage stage(_clock, &StrokeStats::compositingSeconds, _surface.get());
+    if (!_uncommitted.isEmpty()) {
+        _surface->commit(kPicture, _uncommitted);
+    }
+    _uncommitted = {};
+    _strokeArea = {};
+    // What the layers still hold goes onto this background once more wherever it is shown.
+    _mayMerge = !linesHoldPaint();
+}
+
+void PaintLayers::revert(const Rect& area) {
+    const Rect cut = area.intersected(whole());
+    const SurfaceScope scope(*_surface);
+    if (!scope || cut.isEmpty()) {
+        return;
+    }
+    settleDrawn();
+    _surface->revert(kPicture, cut);
+    noteChanged(cut);
+}
+
+void PaintLayers::fill(const PaintColor& color) {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return;
+    }
+    _pending.clear();  // it would be painted over at once
+    _surface->fill(kPicture, color);
+    _uncommitted = whole();
+    _painted = {};
+    noteChanged(whole());
+}
+
+bool PaintLayers::place(const Placed& placed, const Rect& touched) {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return false;
+    }
+    flush();
+    const StageClock::Stage stage(_clock, &StrokeStats::compositingSeconds, _surface.get());
+    if (!_surface->place(kPicture, placed)) {
+        return false;
+    }
+    const Rect changed = touched.intersected(placed.clip).intersected(whole());
+    _painted = _painted.united(changed);
+    _uncommitted = _uncommitted.united(changed);
+    noteChanged(changed);
+    return true;
+}
+
+bool PaintLayers::paint(const Rect& area, const PixelView& rows) {
+    if (!restore(area, rows)) {
+        return false;
+    }
+    _painted = _painted.united(area);
+    return true;
+}
+
+bool PaintLayers::restore(const Rect& area, const PixelView& rows) {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return false;
+    }
+    flush();
+    const StageClock::Stage stage(_clock, &StrokeStats::compositingSeconds, _surface.get());
+    if (!_surface->write(kPicture, area, rows)) {
+        return false;
+    }
+    if (area.contains(_uncommitted)) {
+        _uncommitted = {};
+    }
+    noteChanged(area);
+    return true;
+}
+
+bool PaintLayers::read(const Rect& area, const MutablePixelView& rows) {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return false;
+    }
+    flush();
+    return _surface->read(kPicture, area, rows);
+}
+
+// Only where something was drawn, so that ending a stroke costs the same on any canvas.
+void PaintLayers::empty(PaintLayer layer) {
+    Rect& content = contentOf(layer);
+    const SurfaceScope scope(*_surface);
+    if (!scope || content.isEmpty()) {
+        return;
+    }
+    flush();
+    _mayMerge = false;  // what it held is on the picture, and now on no layer
+    _surface->clear(layer, std::exchange(content, Rect()));
+}
+
+void PaintLayers::emptyLines() {
+    empty(PaintLayer::line);
+    empty(PaintLayer::subLine);
+}
+
+bool PaintLayers::prepareSmudge() {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return false;
+    }
+    settle();
+    contentOf(PaintLayer::smudge) = whole();
+    return _surface->prepareSmudge(kPicture);
+}
+
+// ---- Looking
+
+const QImage& PaintLayers::display() {
+    const QSize size(this->size().width, this->size().height);
+    if (_display.size() != size) {
+        _display = QImage(size, QImage::Format_RGBA8888_Premultiplied);
+        _stale = whole();
+    }
+    if (!_stale.isEmpty() && !_display.isNull()) {
+        const MutablePixelView all{_display.bits(), this->size(), _display.bytesPerLine()};
+        if (read(_stale, all.part(_stale))) {
+            _stale = {};
+        }
+    }
+    return _display;
+}
+
+}  // namespace dabcanvas

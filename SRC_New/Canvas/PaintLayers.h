@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+// When paint moves: what the layers hold, which composites are due, what has changed since somebody last looked. The
+// one owner of a canvas's surface; whatever touches paint goes through here.
+//
+// Composites wait until the picture is looked at, as every change of target makes a driver draw what it has gathered.
+// Look or no look, the pixels are the same.
+//
+// Units    buffer pixels.
+// Thread   one at a time.
+#pragma once
+
+#include <QImage>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Canvas/StageClock.h"
+#include "Surface/PaintSurface.h"
+
+namespace dabcanvas {
+
+class PaintLayers {
+public:
+    PaintLayers(std::unique_ptr<PaintSurface> surface, StageClock& clock);
+
+    PaintSurface& surface() { return *_surface; }
+    const Size& size() const { return _surface->size(); }
+    bool isLost() const { return _surface->isLost(); }
+    Rect whole() const { return Rect::of(size()); }
+
+    // ---- a stroke
+
+    // What is drawn from now on is taken back by withdraw(), until the next commit().
+    void beginStroke();
+    Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style);
+    // The first dabs into empty layers begin with what the picture looks like then.
+    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load);
+    // Straight onto the picture.
+    Rect drawOnPicture(std::span<const Dab> dabs, const DabStyle& style);
+
+    // Layers go onto the picture in this style from now on; what was drawn so far, in the one before.
+    void setStyle(const CompositeStyle& style);
+    const CompositeStyle& style() const { return _style; }
+    // A composite of this area is due, of what was smudged or of the line.
+    void show(const Rect& area, bool smudged);
+    // Draws what is due.
+    void flush();
+
+    // The layers hold something, or the picture differs from its background.
+    bool isUnfinished() const;
+    // The stroke is part of the picture, its layers are empty, the picture is the background.
+    void finish();
+    // The same where there is something unfinished.
+    void settle();
+    // Nothing of the stroke stays: its layers are emptied and what it put onto the picture is reverted, or first done to
+    // that area by the caller, who returns whether it was.
+    void withdraw(const std::function<bool(const Rect& drawn)>& restore = {});
+    // All that it put onto the picture so far.
+    const Rect& strokeArea() const { return _strokeArea; }
+
+    // ---- the picture
+
+    // The picture becomes the background, with what was drawn so far, which no stroke takes back any more.
+    void commit();
+    // The picture becomes the background again there.
+    void revert(const Rect& area);
+    // Composites that are due are not drawn: the picture is painted over at once.
+    void forgetDue() { _pending.clear(); }
+    // One colour all over; what is due is forgotten, what the layers hold stays.
+    void fill(const PaintColor& color);
+    // `touched`: the pixels that it changes at most.
+    bool place(const Placed& placed, const Rect& touched);
+    // Into picture and background, over what was drawn so far: new paint, or what was there before.
+    bool paint(const Rect& area, const PixelView& rows);
+    bool restore(const Rect& area, const PixelView& rows);
+    // What was drawn so far is below from now on, though it is not finished.
+    void drawnIsBelow() { _mayMerge = false; }
+    bool read(const Rect& area, const MutablePixelView& rows);
+
+    void empty(PaintLayer layer);
+    void emptyLines();
+    // Makes the smudge layer show the background.
+    bool prepareSmudge();
+
+    // ---- looking
+
+    // The picture as premultiplied RGBA; only what changed since the last call is read. Valid until the next.
+    const QImage& display();
+    // Everything that was composited or placed since the last fill.
+    const Rect& painted() const { return _painted; }
+
+    // Told of every area of the picture that changes.
+    std::function<void(const Rect&)> onChanged;
+
+private:
+    Rect& contentOf(PaintLayer layer) { return _content[static_cast<std::size_t>(layer)]; }
+    const Rect& contentOf(PaintLayer layer) const { return _content[static_cast<std::size_t>(layer)]; }
+    bool linesHoldPaint() const;
+    void noteChanged(const Rect& area);
+    void settleDrawn();
+
+    std::unique_ptr<PaintSurface> _surface;
+    StageClock& _clock;
+    CompositeStyle _style;
+    Rect _content[3];            // what the layers hold
+    std::vector<Rect> _pending;  // composites that are due
+    bool _pendingSmudged = false;
+    bool _mayMerge = true;       // the picture is the background with the layers above it
+    Rect _strokeArea;
+    Rect _uncommitted;  // where the picture may differ from its background
+    Rect _painted;
+    Rect _stale;  // where the displayed image may differ from the picture
+    QImage _display;
+};
+
+}  // namespace dabcanvas

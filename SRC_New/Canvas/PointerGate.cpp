@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include "Canvas/PointerGate.h"
+
+#include <QDateTime>
+#include <QLineF>
+#include <QLoggingCategory>
+#include <utility>
+
+namespace dabcanvas {
+namespace {
+
+// Every mouse and pen stroke ends through the cancel path, so its line is for those who ask for it.
+Q_LOGGING_CATEGORY(lcPointer, "dabcanvas.pointer", QtWarningMsg)
+
+constexpr std::uint64_t kShortStroke = 9;   // moves; a stroke of more is a line
+constexpr double kRecognitionPause = 1.0;   // seconds between the end of a recognised stroke and the next
+constexpr double kSlidWithoutMoving = 1.0;  // view points
+
+double now() {
+    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000;
+}
+
+}  // namespace
+
+// The pointer's stroke ends, in callbacks that may end it once more or destroy the canvas.
+class PointerGate::Ending {
+public:
+    explicit Ending(PointerGate& gate)
+        : alive(gate._life), _gate(gate), _before(std::exchange(gate._ends, true)) {}
+    ~Ending() {
+        if (alive) {
+            _gate._ends = _before;
+        }
+    }
+    Ending(const Ending&) = delete;
+    Ending& operator=(const Ending&) = delete;
+
+    const Alive alive;
+
+private:
+    PointerGate& _gate;
+    bool _before;
+};
+
+// ---- One pointer's stroke
+
+bool PointerGate::begin(QPointF point, float pressure) {
+    if (!_canvas.canBegin()) {
+        return false;
+    }
+    if (_canvas.recognises()) {
+        const double passed = now() - _lastProcessTime;
+        if (_isProcess && passed >= 0 && passed < kRecognitionPause) {
+            return false;
+        }
+        _isProcess = false;
+        canAddPoint = true;
+    }
+    lineFinish = false;
+    lineMove = false;
+    moveCount = 0;
+    lastPoint = point;
+    _entry.begin(point, pressure, -1.0f);
+    return true;
+}
+
+void PointerGate::move(QPointF point, float pressure) {
+    if (_canvas.recognises() && !canAddPoint) {
+        return;
+    }
+    lineMove = true;
+    ++moveCount;
+    lastPoint = point;
+    _entry.move(point, pressure, -1.0f, true);
+}
+
+void PointerGate::end(QPointF point, float pressure) {
+    if (_canvas.recognises()) {
+        if (!canAddPoint) {
+            return;
+        }
+        startProcess();
+    }
+    const Ending ending(*this);
+    const bool slid = !lineMove && QLineF(lastPoint, point).length() >= kSlidWithoutMoving;
+    if (slid) {
+        // Deliberate: a press that slid without any move is discarded, and only the callbacks tell of its end.
+        _entry.tellEnd(point, [](QPointF) {});
+        if (!ending.alive) {
+            return;
+        }
+        _entry.drop();
+    } else {
+        lineMove = false;
+        _entry.end(point, pressure, -1.0f, true);
+    }
+    if (!ending.alive) {
+        return;
+    }
+    lineFinish = true;
+    if (!slid) {
+        moveCount = 0;
+    }
+    _isProcess = false;
+}
+
+void PointerGate::leave(QPointF point, float pressure, bool withdraw) {
+    qCDebug(lcPointer, "cancelWithTouch:");
+    if (_canvas.recognises() && !canAddPoint) {
+        return;
+    }
+    const Ending ending(*this);
+    const bool moved = !lineFinish && lineMove;
+    const bool tooShort = moveCount <= kShortStroke && adjustCancelLine;
+    if (moved && (withdraw || tooShort)) {
+        _entry.tellEnd(point, [this, alive = Alive(_life)](QPointF place) {
+            startProcess();
+            _entry.withdraw(place);
+            if (alive) {
+                _isProcess = false;
+            }
+        });
+    } else if (moved) {
+        if (_canvas.recognises()) {
+            startProcess();
+        }
+        lineMove = false;
+        _entry.end(point, pressure, -1.0f, true);
+    } else {
+        _entry.drop();  // a click leaves nothing
+    }
+    if (ending.alive) {
+        _isProcess = false;
+        lineFinish = true;
+        lineMove = false;
+        moveCount = 0;
+    }
+}
+
+// No more points until the next begin.
+void PointerGate::startProcess() {
+    canAddPoint = false;
+    _isProcess = true;
+    _lastProcessTime = now();
+}
+
+// ---- Touch, refused while a mouse or pen draws
+
+void PointerGate::touchBegan(QPointF point, float pressure) {
+    normalMoing = !digitPenMoving;
+    const Alive alive(_life);
+    if (normalMoing && !begin(point, pressure) && alive) {
+        normalMoing = false;
+    }
+}
+
+void PointerGate::touchMoved(QPointF point, float pressure) {
+    if (!digitPenMoving && normalMoing) {
+        move(point, pressure);
+    } else {
+        normalMoing = false;
+    }
+}
+
+void PointerGate::touchEnded(QPointF point, float pressure) {
+    const Alive alive(_life);
+    if (!digitPenMoving && normalMoing) {
+        end(point, pressure);
+    }
+    if (alive) {
+        normalMoing = false;
+    }
+}
+
+void PointerGate::touchCancelled(QPointF point, float pressure) {
+    const Alive alive(_life);
+    if (!digitPenMoving && normalMoing) {
+        cancel(point, pressure);
+    }
+    if (alive) {
+        normalMoing = false;
+    }
+}
+
+// ---- Mouse and pen, refused while a finger draws
+
+void PointerGate::mouseDown(QPointF point, float pressure) {
+    if (normalMoing) {
+        return;
+    }
+    digitPenMoving = true;
+    const Alive alive(_life);
+    if (!begin(point, pressure) && alive) {
+        digitPenMoving = false;
+    }
+}
+
+void PointerGate::mouseDragged(QPointF point, float pressure) {
+    if (!normalMoing && digitPenMoving) {
+        move(point, pressure);
+    }
+}
+
+// Deliberate: the cancel path, not the end path. A stroke long enough is finished there all the same.
+void PointerGate::mouseUp(QPointF point, float pressure) {
+    const Alive alive(_life);
+    if (!normalMoing && digitPenMoving) {
+        cancel(point, pressure);
+    }
+    if (alive) {
+        digitPenMoving = false;
+    }
+}
+
+// ---- What the display does to a pointer's stroke
+
+void PointerGate::abandon(bool withdraw) {
+    if (_ends) {
+        return;  // called back while it ends
+    }
+    const Alive alive(_life);
+    if (normalMoing || digitPenMoving) {
+        leave(lastPoint, _entry.lastSample().pressure, withdraw);
+    }
+    if (alive) {
+        normalMoing = digitPenMoving = false;
+    }
+}
+
+}  // namespace dabcanvas

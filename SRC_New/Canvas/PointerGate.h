@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+// From pointer events to the stages of a stroke: which of two devices is heard, what begins a stroke, and what withdraws
+// a short one. A stroke belongs to the kind of device that began it: while a finger draws, mouse and pen are refused,
+// and the other way round.
+//
+// Units    view points, as the display says them.
+#pragma once
+
+#include <QPointF>
+#include <cstdint>
+
+#include "Canvas/Life.h"
+#include "Canvas/StrokeEntry.h"
+
+namespace dabcanvas {
+
+class PointerGate {
+public:
+    // What the gate must know of the canvas.
+    struct Canvas {
+        virtual bool canBegin() const = 0;     // something is shown that a point could lie on, and can be drawn on
+        virtual bool recognises() const = 0;  // strokes are to be recognised
+
+    protected:
+        ~Canvas() = default;
+    };
+
+    PointerGate(StrokeEntry& entry, const Canvas& canvas) : _entry(entry), _canvas(canvas) {}
+
+    // ---- the steps of one pointer's stroke, whatever the device; false when it was refused
+
+    bool begin(QPointF point, float pressure);
+    void move(QPointF point, float pressure);
+    void end(QPointF point, float pressure);
+    // Of up to nine moves it is withdrawn, unless adjustCancelLine is off; else it is finished. A click draws nothing.
+    void cancel(QPointF point, float pressure) { leave(point, pressure, false); }
+
+    // ---- devices
+
+    void touchBegan(QPointF point, float pressure);
+    void touchMoved(QPointF point, float pressure);
+    void touchEnded(QPointF point, float pressure);
+    void touchCancelled(QPointF point, float pressure);
+    void mouseDown(QPointF point, float pressure);
+    void mouseDragged(QPointF point, float pressure);
+    void mouseUp(QPointF point, float pressure);
+
+    // The pointer will not be heard of again: its stroke ends where it got to, or nothing of it stays.
+    void abandon(bool withdraw);
+
+    bool isLining() const { return !lineFinish && lineMove && moveCount > 9; }
+
+    // Of the pointer's stroke, for hosts to look at and to set.
+    bool lineFinish = false, lineMove = false;
+    std::uint64_t moveCount = 0;
+    QPointF lastPoint;
+    bool adjustCancelLine = true;
+    bool canAddPoint = false;  // points are taken while strokes are recognised: from a begin to its end
+    bool normalMoing = false, digitPenMoving = false;  // a touch stroke, a mouse or pen stroke is in progress
+
+private:
+    class Ending;
+
+    void leave(QPointF point, float pressure, bool withdraw);
+    void startProcess();
+
+    StrokeEntry& _entry;
+    const Canvas& _canvas;
+    const Life _life;
+    bool _ends = false;           // its end is on the way, in callbacks
+    bool _isProcess = false;      // a stroke is being recognised
+    double _lastProcessTime = 0;  // when one last was, in seconds since 1970
+};
+
+}  // namespace dabcanvas

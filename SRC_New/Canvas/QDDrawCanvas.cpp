@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+// Making and destroying a canvas, its strokes, brush and history. Each member hands on to the part whose concern it is.
+#include "Canvas/QDDrawCanvas.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "Canvas/CanvasLog.h"
+#include "Canvas/QDDrawCanvasParts.h"
+#include "GLSurface/MakeGLSurface.h"
+
+using namespace dabcanvas;
+
+Q_LOGGING_CATEGORY(lcDabcanvas, "dabcanvas.canvas")
+
+// ---- Making
+
+QDDrawCanvas::QDDrawCanvas(const QRectF& frame) : _inside(new Inside{.host = Host(*this, frame), .parts = {}}) {}
+
+QDDrawCanvas::~QDDrawCanvas() {
+    _inside->host.mustNotBeNeeded();
+}
+
+std::unique_ptr<QDDrawCanvas> QDDrawCanvas::initWithFrame(const QRectF& frame) {
+    std::unique_ptr<QDDrawCanvas> canvas(new QDDrawCanvas(frame));
+    return canvas->initCanvas() ? std::move(canvas) : nullptr;
+}
+
+bool QDDrawCanvas::initCanvas() {
+    const MustStay stays(*this);
+    const Host::Call call(_inside->host);
+    auto surface = makeGLSurface(_inside->host.shownFrame().size());
+    if (!surface) {
+        return false;
+    }
+    _inside->parts = std::make_unique<Parts>(_inside->host, std::move(surface));
+    Parts& parts = *_inside->parts;
+    _inside->host.watch(parts);
+    parts.preview->setComplention([this](const QImage& image, QSizeF) {
+        // The preview stands for the whole buffer, at whatever size it is shown.
+        const QSizeF buffer = bufferSize();
+        const QSizeF& view = _inside->parts->outScale;
+        drawImage(image, QRectF(0, 0, buffer.width() * view.width(), buffer.height() * view.height()));
+    });
+    return true;
+}
+
+QDDrawCanvas::MustStay::MustStay(const QDDrawCanvas& canvas) : _canvas(canvas) {
+    ++_canvas._inside->host.neededBy;
+}
+
+QDDrawCanvas::MustStay::~MustStay() {
+    --_canvas._inside->host.neededBy;
+}
+
+QRectF QDDrawCanvas::displayFrame() const {
+    return _inside->host.frame;
+}
+
+std::unique_ptr<LeafDrawing> QDDrawCanvas::makeLeafDrawView(const QRectF& frame) {
+    return std::make_unique<LeafDrawing>(frame.size());
+}
+
+QDDrawViewDelegate* QDDrawCanvas::delegate() const {
+    return _inside->host.delegate;
+}
+
+void QDDrawCanvas::setDelegate(QDDrawViewDelegate* delegate) {
+    _inside->host.delegate = delegate;
+}
+
+LeafDrawing& QDDrawCanvas::leafDrawView() {
+    return *_inside->parts->preview;
+}
+
+PaintSurface& QDDrawCanvas::surface() {
+    return _inside->parts->layers.surface();
+}
+
+GLSurface* QDDrawCanvas::glSurface() {
+    return asGLSurface(surface());
+}
+
+QString QDDrawCanvas::rendererName() {
+    const SurfaceScope scope(surface());
+    return scope ? QString::fromStdString(surface().name()) : QString();
+}
+
+// ---- Strokes
+
+void QDDrawCanvas::drawingWithBeginPoint(QPointF point, float pressure, float altitude, bool) {
+    _inside->parts->entry.begin(point, pressure, altitude);
+}
+
+void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float altitude, bool online) {
+    _inside->parts->entry.move(point, pressure, altitude, online);
+}
+
+void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float altitude, bool online) {
+    _inside->parts->entry.end(point, pressure, altitude, online);
+}
+
+bool QDDrawCanvas::isDrawing() const {
+    return _inside->parts->isDrawing();
+}
+
+bool QDDrawCanvas::drawShape(const ShapeRecord& shape) {
+    return _inside->parts->drawShape(shape);
+}
+
+void QDDrawCanvas::setRepeatableRandom(bool repeatable) {
+    Parts& parts = *_inside->parts;
+    parts.painter.setRepeatable(repeatable);
+    if (!parts.isDrawing()) {
+        parts.painter.restartRandom();
+    }
+}
+
+void QDDrawCanvas::setRandomSeed(std::uint32_t seed) {
+    Parts& parts = *_inside->parts;
+    parts.painter.setSeed(seed);
+    if (!parts.isDrawing()) {
+        parts.painter.restartRandom();
+    }
+}
+
+void QDDrawCanvas::setProfiling(bool profiling) {
+    _inside->parts->clock.isOn = profiling;
+}
+
+const StrokeStats& QDDrawCanvas::strokeStats() const {
+    return _inside->parts->clock.stats;
+}
+
+// ---- Brush
+
+BrushValue QDDrawCanvas::storedValue(BrushKey key) const {
+    return _inside->parts->brush.value(key);
+}
+
+void QDDrawCanvas::store(BrushKey key, const BrushValue& value) {
+    _inside->parts->brush.set(key, value);
+}
+
+bool QDDrawCanvas::setBrushValue(const BrushProperty& property, const QVariant& value) {
+    const auto typed = brushValueOf(property, value);
+    return typed && _inside->parts->brush.set(property.key, *typed);
+}
+
+QVariant QDDrawCanvas::brushValue(const BrushProperty& property) const {
+    return variantOf(storedValue(property.key));
+}
+
+const BrushSettings& QDDrawCanvas::brush() const {
+    return _inside->parts->brush.settings();
+}
+
+void QDDrawCanvas::resetParams() {
+    const Host::Call call(_inside->host);
+    _inside->parts->brush.reset();
+}
+
+void QDDrawCanvas::restoreSubLine(float slRadius, float relationValue) {
+    _inside->parts->brush.restoreSubLine(slRadius, relationValue);
+}
+
+bool QDDrawCanvas::isSmudgeType() const {
+    return _inside->parts->kind() == StrokeKind::smudge;
+}
+
+bool QDDrawCanvas::needRepeatedlyRender() const {
+    return _inside->parts->brush.isMasked();
+}
+
+bool QDDrawCanvas::needColorTendency() const {
+    return brushType() != 3;  // which smudges
+}
+
+const LPLineParams& QDDrawCanvas::lineParaObj() const {
+    return std::as_const(_inside->parts->brush).line();
+}
+
+const LPLineParams& QDDrawCanvas::subLineParaObj() const {
+    return std::as_const(_inside->parts->brush).subLine();
+}
+
+bool QDDrawCanvas::enableDevicePress() const {
+    return _inside->host.wantsDevicePress;
+}
+
+void QDDrawCanvas::setEnableDevicePress(bool value) {
+    _inside->host.wantsDevicePress = value;
+}
+
+float QDDrawCanvas::normalPress() const {
+    return _inside->host.normalPress;
+}
+
+void QDDrawCanvas::setNormalPress(float value) {
+    _inside->host.normalPress = value;
+}
+
+// ---- History
+
+bool QDDrawCanvas::edited() const {
+    return _inside->parts->edits.edited;
+}
+
+bool QDDrawCanvas::isContextLost() const {
+    return _inside->parts->isLost();
+}
+
+bool QDDrawCanvas::autoMark() const {
+    return _inside->parts->history.autoMark;
+}
+
+void QDDrawCanvas::setAutoMark(bool autoMark) {
+    _inside->parts->history.autoMark = autoMark;
+}
+
+float QDDrawCanvas::markTimeInterval() const {
+    return _inside->parts->history.markTimeInterval;
+}
+
+void QDDrawCanvas::setMarkTimeInterval(float seconds) {
+    _inside->parts->history.markTimeInterval = seconds;
+}
+
+QByteArray QDDrawCanvas::markAction() {
+    return _inside->parts->mark();
+}
+
+QByteArray QDDrawCanvas::undo() {
+    return _inside->parts->undo();
+}
+
+QByteArray QDDrawCanvas::redo() {
+    return _inside->parts->redo();
+}
+
+bool QDDrawCanvas::canUndo() const {
+    return _inside->parts->canUndo();
+}
+
+bool QDDrawCanvas::canRedo() const {
+    return _inside->parts->canRedo();
+}
+
+QByteArray QDDrawCanvas::resetUndoManager() {
+    return _inside->parts->resetHistory();
+}
+
+QByteArray QDDrawCanvas::loadUndoManager() {
+    Parts& parts = *_inside->parts;
+    return parts.history.load(parts.sketch.isOn());
+}
+
+ImagesUndoManager& QDDrawCanvas::undoManager() {
+    Parts& parts = *_inside->parts;
+    return parts.history.images(parts.sketch.isOn());
+}
+
+QByteArray QDDrawCanvas::curImageData() const {
+    return _inside->parts->record.data();
+}
+
+void QDDrawCanvas::setCurImageData(const QByteArray& data) {
+    _inside->parts->record.give(data);
+}

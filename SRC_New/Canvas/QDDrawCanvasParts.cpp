@@ -1,0 +1,477 @@
+// SPDX-License-Identifier: MIT
+#include "Canvas/QDDrawCanvasParts.h"
+
+#include <utility>
+
+#include "Canvas/CanvasLog.h"
+
+using namespace dabcanvas;
+
+namespace {
+
+// Of the fixed message
+constexpr int kRecognitionLine = 699, kBackgroundLine = 2246;
+
+PaintColor paintOf(const ESColor& color) {
+    const float alpha = color.alpha();
+    return {color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha};
+}
+
+}  // namespace
+
+QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> surface)
+    : host(hostOfCanvas),
+      layers(std::move(surface), clock),
+      painter(brush, layers, clock),
+      entry(*this, host, view),
+      pointer(entry, *this),
+      record(layers),
+      sketch(layers, record, edits),
+      placing(layers, [this] { settle(); }),
+      history(layers, record, edits) {
+    preview = host.makePreview(QRectF(QPointF(0, 0), bufferSize()));
+    brush.setListener(this);
+    layers.setStyle(brush.compositeStyle());
+    layers.commit();
+    preview->setGaussianRadius(brush.present().gaussianRadius);
+    sendPreviewColor();
+    updateScale();
+}
+
+// ---- What must be done first
+
+bool QDDrawCanvas::Parts::finishPreview() {
+    const Alive alive(host.life);
+    preview->finishPending();
+    return static_cast<bool>(alive);
+}
+
+void QDDrawCanvas::Parts::settleSketch() {
+    if (sketch.isOn()) {
+        redisplay(sketch.settle());
+    }
+}
+
+void QDDrawCanvas::Parts::settle() {
+    if (layers.isUnfinished()) {
+        finishStroke(false);
+    }
+}
+
+void QDDrawCanvas::Parts::finishStroke(bool asStep) {
+    settleSketch();
+    layers.emptyLines();
+    updateBackground(asStep ? autoMarked() : QByteArray());
+}
+
+void QDDrawCanvas::Parts::updateBackground(const QByteArray& mark) {
+    const Host::Call call(host);
+    settleSketch();
+    layers.commit();
+    edits.keepStroke();
+    if (mark.isNull() && recognises()) {
+        record.refresh(kBackgroundLine);  // a step that was recorded has the picture already
+    }
+}
+
+void QDDrawCanvas::Parts::prepareSmudge() {
+    const Host::Call call(host);
+    settle();
+    layers.prepareSmudge();
+}
+
+// ---- A stroke
+
+bool QDDrawCanvas::Parts::canBegin() const {
+    return !host.shownFrame().isEmpty() && !isLost();
+}
+
+bool QDDrawCanvas::Parts::strokeIsDue(bool unended) {
+    const Host::Call call(host);
+    if (unended) {
+        leaveDrawn();
+    }
+    return finishPreview() && !isLost();  // strokes come onto the canvas in their order
+}
+
+void QDDrawCanvas::Parts::strokeBegan(const StrokeSample& sample) {
+    const Host::Call call(host);
+    painter.restartRandom();
+    layers.beginStroke();
+    edits.keepStroke();
+    if (recognises()) {
+        sketch.begin(sample.place);
+    }
+    if (kind() == StrokeKind::preview) {
+        preview->drawWithBegin(sample.place);
+    } else {
+        painter.begin(sample);
+    }
+}
+
+void QDDrawCanvas::Parts::strokeMoved(const StrokeSample& sample, bool online) {
+    const Host::Call call(host);
+    if (kind() == StrokeKind::preview) {
+        preview->drawWithMove(sample.place);
+        return;
+    }
+    showDrawn(painter.extend(sample), online);
+    if (sketch.isOn()) {
+        sketch.add(sample.place);
+    }
+}
+
+void QDDrawCanvas::Parts::strokeEnded(const StrokeSample& sample, bool online) {
+    const Host::Call call(host);
+    if (sketch.isOn()) {
+        endSketch(sample.place, online);
+    } else if (kind() == StrokeKind::preview) {
+        preview->drawWithEnd(sample.place);  // which places the stroke, later
+    } else {
+        showDrawn(painter.end(sample), online);
+        finishStroke(true);
+    }
+}
+
+// As if it had never been begun.
+void QDDrawCanvas::Parts::strokeWithdrawn(QPointF place) {
+    const Host::Call call(host);
+    if (kind() == StrokeKind::preview) {
+        preview->drawWithCanceled(place);
+    } else if (sketch.isOn()) {
+        settleSketch();
+        sketch.drop();
+    } else {
+        const Rect area = layers.strokeArea();
+        layers.withdraw();
+        edits.withdrawStroke();
+        redisplay(area);
+        if (kind() == StrokeKind::smudge) {
+            prepareSmudge();
+        }
+    }
+}
+
+void QDDrawCanvas::Parts::strokeDropped() {
+    const Host::Call call(host);
+    leaveDrawn();
+}
+
+// Without an end. What it may have drawn stays, as a step of its own; a preview or a sketch never reaches the canvas.
+void QDDrawCanvas::Parts::leaveDrawn() {
+    if (kind() == StrokeKind::preview) {
+        preview->drawWithCanceled(entry.lastSample().place);
+        return;
+    }
+    finishStroke(!sketch.isOn() && !layers.strokeArea().isEmpty());
+    sketch.drop();
+}
+
+void QDDrawCanvas::Parts::showDrawn(const std::optional<Rect>& area, bool online) {
+    if (area) {
+        lastTouched = *area;
+        updateImage(online, kind() == StrokeKind::smudge);
+    }
+}
+
+void QDDrawCanvas::Parts::updateImage(bool online, bool smudged) {
+    const Host::Call call(host);
+    if (isLost()) {
+        return;
+    }
+    edits.edited = true;
+    if (lastTouched.isEmpty()) {
+        return;
+    }
+    layers.show(lastTouched, smudged);
+    if (online) {
+        redisplay(lastTouched);
+    }
+}
+
+// ---- Shapes
+
+double QDDrawCanvas::Parts::recognitionUnit() const {
+    const float scale = brush.present().recogPointScale;
+    return scale > 0 ? static_cast<double>(scale) : 1.0;
+}
+
+// What the stroke was meant as takes its place.
+void QDDrawCanvas::Parts::endSketch(QPointF place, bool online) {
+    settleSketch();
+    const ShapeRecord shape = sketch.end(place, recognitionUnit());
+    if (shape && drawOutline(shape, online)) {
+        finishStroke(true);
+    }
+}
+
+bool QDDrawCanvas::Parts::drawShape(const ShapeRecord& shape) {
+    const Host::Call call(host);
+    if (isDrawing()) {
+        qCWarning(lcDabcanvas, "a shape cannot be drawn while a stroke is in progress");
+        return false;
+    }
+    if (!finishPreview() || isLost()) {
+        return false;
+    }
+    settle();
+    if (!shape || !drawOutline(shape, true)) {
+        return false;
+    }
+    finishStroke(true);
+    return true;
+}
+
+// Into the layers and onto the canvas, as a stroke's segments.
+bool QDDrawCanvas::Parts::drawOutline(const ShapeRecord& shape, bool online) {
+    const auto touched = painter.drawOutline(scaled(shape, recognitionUnit()));
+    if (!touched) {
+        const std::string_view kindOfShape = nameOfShapeKind(shape.kind);
+        qCWarning(lcDabcanvas, "no %.*s can be drawn from these points and sizes",
+                  static_cast<int>(kindOfShape.size()), kindOfShape.data());
+        return false;
+    }
+    showDrawn(touched, online);
+    return true;
+}
+
+// Dabs that are no segment of a stroke. They may stay in their layer for good, so that nothing is composited with them
+// but by name: neither what was drawn before nor what lies between later rectangles.
+Rect QDDrawCanvas::Parts::drawPoints(std::span<const LPPoint> points, DrawTarget target) {
+    layers.flush();
+    const Rect touched = painter.drawPoints(points, target);
+    layers.drawnIsBelow();
+    if (target == DrawTarget::picture && !points.empty()) {
+        edits.edited = true;
+    }
+    return touched;
+}
+
+// ---- The brush
+
+// A layer never holds strokes of two kinds. What a stroke in progress has drawn stays as it is, but for a preview's.
+void QDDrawCanvas::Parts::settleKind(StrokeKind after) {
+    if (kind() == StrokeKind::preview) {
+        entry.drop();
+        return;
+    }
+    finishStroke(false);
+    if (isDrawing() && after != StrokeKind::preview) {
+        painter.restartDabs(after);
+    }
+}
+
+void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {
+    const Host::Call call(host);
+    _kindChanges = kindAfter != kind();
+    _recognisesAnew = key == BrushKey::enableRecogition && std::get<bool>(value) != recognises();
+    if (_recognisesAnew) {
+        sketch.drop();  // what a stroke in progress has drawn stays, whatever it was to become
+    }
+    if (_kindChanges) {
+        settleKind(kindAfter);
+    } else if (_recognisesAnew && !recognises() && isDrawing()) {
+        finishStroke(false);
+    }
+}
+
+void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
+    const Host::Call call(host);
+    const bool anew = std::exchange(_recognisesAnew, false);
+    updateStyle();
+    if (std::exchange(_kindChanges, false) && kind() == StrokeKind::smudge) {
+        prepareSmudge();
+    }
+    switch (key) {
+        case BrushKey::brushType:
+            return host.showPreview(brush.present().brushType == 4);
+        case BrushKey::gaussianRadius:
+            return preview->setGaussianRadius(brush.present().gaussianRadius);
+        case BrushKey::renderColor:
+        case BrushKey::flow:
+            return sendPreviewColor();
+        case BrushKey::enableRecogition:
+            if (recognises() && !history.autoMark && !sketch.isOn()) {
+                record.refresh(kRecognitionLine);
+            }
+            if (recognises() && anew && isDrawing()) {
+                sketch.begin(entry.lastSample().place);
+            }
+            return;
+        default:
+            return;
+    }
+}
+
+// How layers go onto the canvas. In mid-stroke, what was drawn without a mask must not be masked, nor the other way round.
+void QDDrawCanvas::Parts::updateStyle() {
+    const CompositeStyle style = brush.compositeStyle();
+    const bool inALine =
+        style.masked != layers.style().masked && isDrawing() && kind() != StrokeKind::preview;
+    if (inALine) {
+        finishStroke(false);
+    }
+    layers.setStyle(style);
+    if (inALine && style.masked) {
+        painter.startSubLine(entry.lastSample());
+    }
+}
+
+// The preview has no flow of its own.
+void QDDrawCanvas::Parts::sendPreviewColor() {
+    const ESColor& color = brush.present().renderColor;
+    preview->setRenderColor(ESColor::rgba(color.red(), color.green(), color.blue(), brush.present().flow));
+}
+
+// ---- The picture
+
+void QDDrawCanvas::Parts::clear(const ESColor& color) {
+    const Host::Call call(host);
+    if (!finishPreview() || isLost()) {
+        return;
+    }
+    edits.setBoth(true);
+    layers.forgetDue();
+    layers.emptyLines();
+    layers.empty(PaintLayer::smudge);
+    clearPicture(color);
+}
+
+void QDDrawCanvas::Parts::clearPicture(const ESColor& color) {
+    const Host::Call call(host);
+    if (isLost()) {
+        return;
+    }
+    settleSketch();
+    layers.forgetDue();
+    if (isDrawing()) {
+        layers.emptyLines();  // what it drew so far is cleared with the canvas, and must not come back
+    }
+    layers.fill(paintOf(color));
+    host.redisplayAll();
+    updateBackground(autoMarked());
+}
+
+// All of it or, with false, nothing.
+bool QDDrawCanvas::Parts::place(const PlacedImage& image, const Spot& spot, bool isUndo) {
+    const Host::Call call(host);
+    if (image.image.isNull()) {
+        qCWarning(lcDabcanvas, "there is no image to place");
+        return false;
+    }
+    if (!spot.isUsable() || !finishPreview() || isLost() || !placing.put(image, spot)) {
+        return false;
+    }
+    if (!isUndo) {
+        edits.setBoth(true);
+    }
+    host.redisplayAll();
+    if (!placing.rules.neglects) {
+        updateBackground(isUndo ? record.data() : autoMarked());
+        if (!isUndo && kind() == StrokeKind::smudge) {
+            prepareSmudge();
+        }
+    }
+    return true;
+}
+
+bool QDDrawCanvas::Parts::read(const Rect& part, const MutablePixelView& rows) {
+    return layers.read(part, rows) && !isLost();
+}
+
+void QDDrawCanvas::Parts::updateScale() {
+    const QSizeF frame = host.shownFrame().size();
+    const QSizeF buffer = bufferSize();
+    if (!(frame.width() > 0 && frame.height() > 0)) {
+        return;  // nothing is shown, and nothing could be scaled to it
+    }
+    outScale = QSizeF(frame.width() / buffer.width(), frame.height() / buffer.height());
+    view.perPixel = frame != buffer ? outScale : QSizeF(1, 1);
+}
+
+void QDDrawCanvas::Parts::redisplay(const Rect& area) {
+    if (!area.isEmpty()) {
+        const QSizeF& to = view.perPixel;
+        host.redisplay(QRectF(area.x * to.width(), area.y * to.height(), area.width * to.width(),
+                              area.height * to.height()));
+    }
+}
+
+// ---- The history
+
+bool QDDrawCanvas::Parts::isLost() const {
+    return layers.isLost();
+}
+
+// Whether the canvas holds, or will hold, what no step does. A stroke in progress cannot be undone and does not count.
+bool QDDrawCanvas::Parts::isUnrecorded() const {
+    return (isDrawing() ? edits.withoutStroke : edits.edited) || preview->isPending();
+}
+
+bool QDDrawCanvas::Parts::canUndo() const {
+    return !host.isLossTold() && history.canUndo(isUnrecorded());
+}
+
+bool QDDrawCanvas::Parts::canRedo() const {
+    return !host.isLossTold() && history.canRedo(isUnrecorded());
+}
+
+QByteArray QDDrawCanvas::Parts::mark() {
+    const Host::Call call(host);
+    if (!finishPreview()) {
+        return {};
+    }
+    settleSketch();
+    return history.mark();
+}
+
+// The mark of a step that has just been drawn; null where none is to be recorded.
+QByteArray QDDrawCanvas::Parts::autoMarked() {
+    return history.autoMark ? mark() : QByteArray();
+}
+
+QByteArray QDDrawCanvas::Parts::resetHistory() {
+    const Host::Call call(host);
+    if (!finishPreview() || isLost()) {
+        return {};
+    }
+    settleSketch();
+    return history.reset();
+}
+
+QByteArray QDDrawCanvas::Parts::undo() {
+    const Host::Call call(host);
+    if (!finishPreview() || isDrawing() || !canUndo()) {
+        return {};
+    }
+    return stepped(history.undo());
+}
+
+QByteArray QDDrawCanvas::Parts::redo() {
+    const Host::Call call(host);
+    if (!finishPreview() || isDrawing() || !canRedo()) {
+        return {};
+    }
+    return stepped(history.redo());
+}
+
+QByteArray QDDrawCanvas::Parts::stepped(CanvasHistory::Outcome outcome) {
+    switch (outcome) {
+        case CanvasHistory::Outcome::refused:
+            return {};
+        case CanvasHistory::Outcome::lost: {
+            const bool marks = std::exchange(history.autoMark, false);  // clearing is no step of its own here
+            clear({});
+            history.autoMark = marks;
+            edits.setBoth(false);  // it is what the step has become
+            break;
+        }
+        case CanvasHistory::Outcome::restored:
+            host.redisplayAll();
+            if (kind() == StrokeKind::smudge) {
+                prepareSmudge();
+            }
+            break;
+    }
+    return record.data();
+}

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// The parts of a canvas, and the order in which one is asked after another: what has to be finished before a stroke, an
+// image, a look or a step. What the parts themselves do stands in their own headers.
+#pragma once
+
+#include "Canvas/BrushState.h"
+#include "Canvas/CanvasHistory.h"
+#include "Canvas/EditFlag.h"
+#include "Canvas/ImagePlacing.h"
+#include "Canvas/PaintLayers.h"
+#include "Canvas/PointerGate.h"
+#include "Canvas/QDDrawCanvasHost.h"
+#include "Canvas/RecordedCanvas.h"
+#include "Canvas/ShapeSketch.h"
+#include "Canvas/StrokeEntry.h"
+#include "Canvas/StrokePainter.h"
+#include "Preview/LeafDrawing.h"
+
+class QDDrawCanvas::Parts final : public dabcanvas::StrokeEntry::Listener,
+                                  public dabcanvas::BrushState::Listener,
+                                  public dabcanvas::PointerGate::Canvas,
+                                  public Host::Watched {
+public:
+    Parts(Host& host, std::unique_ptr<dabcanvas::PaintSurface> surface);
+
+    Host& host;
+    dabcanvas::StageClock clock;
+    dabcanvas::EditFlag edits;
+    dabcanvas::PaintLayers layers;
+    dabcanvas::BrushState brush;
+    dabcanvas::StrokePainter painter;
+    dabcanvas::ViewScale view;
+    dabcanvas::StrokeEntry entry;
+    dabcanvas::PointerGate pointer;
+    dabcanvas::RecordedCanvas record;
+    dabcanvas::ShapeSketch sketch;
+    dabcanvas::ImagePlacing placing;
+    dabcanvas::CanvasHistory history;
+    std::unique_ptr<LeafDrawing> preview;
+    dabcanvas::Rect lastTouched;  // by dabs that are yet to be shown, see updateImage()
+
+    // ---- what must be done first
+
+    // A preview's stroke comes onto the canvas before anything else does. False when the canvas is gone: its complention
+    // may be the host's.
+    [[nodiscard]] bool finishPreview();
+    void settleSketch();
+    // The background is to be the canvas with all that was drawn so far.
+    void settle();
+    // Between strokes the layers are empty and the background is the canvas. A sketch stays on neither.
+    void finishStroke(bool asStep);
+
+    // ---- what several parts do together
+
+    void updateImage(bool online, bool smudged);
+    void updateBackground(const QByteArray& mark);
+    void prepareSmudge();
+    bool drawShape(const ShapeRecord& shape);
+    dabcanvas::Rect drawPoints(std::span<const LPPoint> points, dabcanvas::DrawTarget target);
+    void clear(const ESColor& color);
+    void clearPicture(const ESColor& color);
+    // isUndo: what was recorded, which is no edit.
+    bool place(const dabcanvas::PlacedImage& image, const dabcanvas::Spot& spot, bool isUndo);
+    bool read(const dabcanvas::Rect& part, const dabcanvas::MutablePixelView& rows);
+    QByteArray mark();
+    QByteArray autoMarked();
+    QByteArray resetHistory();
+    QByteArray undo();
+    QByteArray redo();
+    void updateScale();
+    void redisplay(const dabcanvas::Rect& area);
+
+    bool isDrawing() const { return entry.isDrawing(); }
+    dabcanvas::StrokeKind kind() const { return brush.kind(); }
+    QSizeF bufferSize() const { return QSizeF(layers.size().width, layers.size().height); }
+    // View size over buffer size, whether they differ or not.
+    QSizeF outScale{1, 1};
+
+    // ---- what the parts and the host hear
+
+    bool canUndo() const override;
+    bool canRedo() const override;
+    bool isLost() const override;
+    bool acceptsPoint(QPointF point) override { return entry.accepts(point, 0, 0); }
+    bool canBegin() const override;
+    bool recognises() const override { return brush.present().enableRecogition; }
+
+private:
+    bool strokeIsDue(bool unended) override;
+    void strokeBegan(const dabcanvas::StrokeSample& sample) override;
+    bool ignoresNearMoves() const override { return kind() != dabcanvas::StrokeKind::preview; }
+    void strokeMoved(const dabcanvas::StrokeSample& sample, bool online) override;
+    void strokeEnded(const dabcanvas::StrokeSample& sample, bool online) override;
+    void strokeWithdrawn(QPointF place) override;
+    void strokeDropped() override;
+    void brushWillChange(dabcanvas::BrushKey key, const dabcanvas::BrushValue& value,
+                         dabcanvas::StrokeKind kindAfter) override;
+    void brushChanged(dabcanvas::BrushKey key) override;
+
+    void leaveDrawn();
+    void showDrawn(const std::optional<dabcanvas::Rect>& area, bool online);
+    void endSketch(QPointF place, bool online);
+    bool drawOutline(const ShapeRecord& shape, bool online);
+    double recognitionUnit() const;
+    void settleKind(dabcanvas::StrokeKind after);
+    void updateStyle();
+    void sendPreviewColor();
+    bool isUnrecorded() const;
+    QByteArray stepped(dabcanvas::CanvasHistory::Outcome outcome);
+
+    bool _kindChanges = false;      // by the property that is being set
+    bool _recognisesAnew = false;  // so does recognition
+};
+
+struct QDDrawCanvas::Inside {
+    Host host;
+    std::unique_ptr<Parts> parts;
+};

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "Canvas/RecordedCanvas.h"
+
+#include <cstdio>
+#include <new>
+#include <utility>
+
+namespace dabcanvas {
+namespace {
+
+constexpr PictureId kPicture = PictureId::first;
+
+// Beyond this share of the canvas everything is read at once.
+constexpr std::int64_t kMostTiles = 2;
+
+}  // namespace
+
+QByteArray bytesOf(qsizetype size) {
+    try {
+        return QByteArray(size, '\0');
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
+void tellNoMemory(int line) {
+    std::printf("创建数据失败(%s:%d)!", "SRC_New/QDEAGLView/QDDrawView", line);
+}
+
+void RecordedCanvas::take(const QByteArray& data) {
+    _data = data;
+    _isCanvas = true;
+    _given = false;
+    _layers.surface().forgetTouched(kPicture);
+}
+
+void RecordedCanvas::give(const QByteArray& data) {
+    _data = data;
+    _isCanvas = false;
+    _given = hasCanvasSize();
+}
+
+bool RecordedCanvas::takeGiven() {
+    return std::exchange(_given, false);
+}
+
+QByteArray RecordedCanvas::snapshot(int line) {
+    QByteArray data = bytesOf(bytesOfCanvas());
+    if (data.isNull()) {
+        tellNoMemory(line);
+        return {};
+    }
+    auto* const bytes = reinterpret_cast<std::uint8_t*>(data.data());
+    return _layers.read(_layers.whole(), MutablePixelView::bottomRowFirst(bytes, _layers.size())) ? data
+                                                                                                  : QByteArray();
+}
+
+void RecordedCanvas::refresh(int line) {
+    if (_isCanvas && hasCanvasSize() && refreshTiles()) {
+        _given = false;
+        return;
+    }
+    _data = {};  // before there is a second one
+    const QByteArray data = snapshot(line);
+    take(data);
+    _isCanvas = !data.isNull();
+}
+
+bool RecordedCanvas::refreshTiles() {
+    _layers.flush();
+    std::int64_t area = 0;
+    const TileSet& touched = _layers.surface().touched(kPicture);
+    touched.forEachRun([&](const Rect& run) { area += run.area(); });
+    if (area == 0) {
+        return true;
+    }
+    if (area * kMostTiles > _layers.whole().area()) {
+        return false;
+    }
+    auto* const bytes = reinterpret_cast<std::uint8_t*>(_data.data());
+    const auto rows = MutablePixelView::bottomRowFirst(bytes, _layers.size());
+    bool all = true;
+    touched.forEachRun([&](const Rect& run) { all = _layers.read(run, rows.part(run)) && all; });
+    if (all) {
+        _layers.surface().forgetTouched(kPicture);
+    }
+    return all;
+}
+
+bool RecordedCanvas::restore(const Rect& area) {
+    if (!hasCanvasSize()) {
+        return false;
+    }
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(_data.constData());
+    return area.isEmpty() ||
+           _layers.restore(area, PixelView::bottomRowFirst(bytes, _layers.size()).part(area));
+}
+
+}  // namespace dabcanvas

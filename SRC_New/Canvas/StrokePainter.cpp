@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: MIT
+#include "Canvas/StrokePainter.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <memory>
+#include <random>
+#include <utility>
+
+#include "LineProcess/LPProperties.h"
+#include "LineProcess/LPStroke.h"
+#include "Recognition/ShapeDabs.h"
+
+namespace dabcanvas {
+namespace {
+
+constexpr double kClosest = 1.0;  // buffer pixels
+
+// The line process takes 0 where the device gives no tilt; -1 stands for that within a rounding error.
+float lineAltitude(float altitude) {
+    return std::fabs(altitude + 1) < 0.0001f ? 0.0f : altitude;
+}
+
+LPPosition linePosition(QPointF point) {
+    return {static_cast<float>(point.x()), static_cast<float>(point.y())};
+}
+
+bool isNear(QPointF a, QPointF b) {
+    return std::fabs(a.x() - b.x()) < kClosest && std::fabs(a.y() - b.y()) < kClosest;
+}
+
+}  // namespace
+
+// One run of line-process calls: this canvas's copy of what the line process keeps for a thread is in it, its random
+// numbers included, so that strokes of several canvases may interleave. May nest.
+class StrokePainter::LineScope {
+public:
+    explicit LineScope(StrokePainter& painter) : _painter(painter) {
+        if (!std::exchange(painter._stateIsIn, true)) {
+            _outer = Outer{lpSharedState(), _lpParaObj};
+            lpSetSharedState(painter._state);
+        }
+    }
+    ~LineScope() {
+        if (_outer) {
+            _painter._state = lpSharedState();
+            lpSetSharedState(_outer->state);
+            lpSetParaObj(_outer->record);
+            _painter._stateIsIn = false;
+        }
+    }
+    LineScope(const LineScope&) = delete;
+    LineScope& operator=(const LineScope&) = delete;
+
+private:
+    struct Outer {
+        LPSharedState state;
+        LPLineParams* record;
+    };
+    StrokePainter& _painter;
+    std::optional<Outer> _outer;  // none in a nested one
+};
+
+// The points of one append call, owned.
+struct StrokePainter::Run {
+    std::unique_ptr<LPPoint, decltype(&std::free)> points{nullptr, &std::free};
+    std::size_t count = 0;
+
+    std::span<const LPPoint> from(std::size_t first) const {
+        return {points.get() + first, count - first};
+    }
+};
+
+StrokePainter::StrokePainter(BrushState& brush, PaintLayers& layers, StageClock& clock)
+    : _brush(brush), _layers(layers), _clock(clock), _generator(std::random_device()()) {
+    _state.generator = &_generator;
+}
+
+// ---- Strokes
+
+DrawTarget StrokePainter::mainTarget() const {
+    return _brush.kind() == StrokeKind::smudge ? DrawTarget::smudge : DrawTarget::line;
+}
+
+void StrokePainter::begin(const StrokeSample& sample) {
+    _hasMoved = false;
+    _last = sample.place;
+    if (_brush.isMasked()) {
+        startSubLine(sample);
+    }
+    const LineScope scope(*this);
+    resetMaker(mainTarget());
+    startLine(_brush.line(), sample);
+}
+
+// What the line process keeps for all lines stays the main line's.
+void StrokePainter::startSubLine(const StrokeSample& sample) {
+    const LPSharedState mainLine = _state;
+    {
+        const LineScope scope(*this);
+        resetMaker(DrawTarget::subLine);
+        startLine(_brush.subLine(), sample);
+    }
+    _state = mainLine;
+}
+
+void StrokePainter::startLine(LPLineParams& record, const StrokeSample& sample) {
+    const StageClock::Stage stage(_clock, &StrokeStats::geometrySeconds);
+    lpSetParaObj(&record);
+    lpStartLineWithParams(linePosition(sample.place), sample.pressure, lineAltitude(sample.altitude));
+}
+
+StrokePainter::Run StrokePainter::appendToLine(LPLineParams& record, const StrokeSample& sample, bool end) {
+    const StageClock::Stage stage(_clock, &StrokeStats::geometrySeconds);
+    lpSetParaObj(&record);
+    const std::int32_t appended = lpAppendingLineWithParams(linePosition(sample.place), sample.pressure,
+                                                            lineAltitude(sample.altitude), end);
+    Run run;
+    // Without new points the handed-out pointer still is an earlier, freed array.
+    if (appended > 0) {
+        LPPoint* points = nullptr;
+        const std::int32_t count = lpGetLastLineSegmentPoints1V(&points);
+        run.points.reset(points);
+        run.count = points != nullptr && count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    return run;
+}
+
+std::optional<Rect> StrokePainter::extend(const StrokeSample& sample) {
+    return addSample(sample, false);
+}
+
+std::optional<Rect> StrokePainter::end(const StrokeSample& sample) {
+    return addSample(sample, true);
+}
+
+std::optional<Rect> StrokePainter::addSample(const StrokeSample& sample, bool end) {
+    const LineScope scope(*this);
+    ++_clock.stats.samples;
+    const QPointF before = std::exchange(_last, end ? _last : sample.place);
+    const bool isFirst = !std::exchange(_hasMoved, true);
+    std::optional<Rect> touched;
+    if (_brush.isMasked()) {
+        const Run run = appendToLine(_brush.subLine(), sample, end);
+        // Deliberate: a final sub-line run too close to the last point is left out; the main line's never is.
+        if (run.count > 0 && !(end && isNear(sample.place, before))) {
+            touched = drawRun(run.from(0), DrawTarget::subLine);
+        }
+    }
+    const Run run = appendToLine(_brush.line(), sample, end);
+    // Deliberate: the first accepted move leaves out the main line's first dab; the sub-line never drops one.
+    const std::size_t first = isFirst && !end && run.count > 0 ? 1 : 0;
+    if (run.count > first) {
+        touched = touched.value_or(Rect()).united(drawRun(run.from(first), mainTarget()));
+    }
+    return touched;
+}
+
+void StrokePainter::restartDabs(StrokeKind kind) {
+    const LineScope scope(*this);
+    resetMaker(kind == StrokeKind::smudge ? DrawTarget::smudge : DrawTarget::line);
+}
+
+// ---- Dabs
+
+DabMaker& StrokePainter::makerOf(DrawTarget target) {
+    return target == DrawTarget::line     ? _brush.dabs()
+           : target == DrawTarget::smudge ? _brush.smudgeDabs()
+                                          : _brush.subDabs();
+}
+
+void StrokePainter::resetMaker(DrawTarget target) {
+    makerOf(target).reset();
+    if (target == DrawTarget::smudge) {
+        _brush.smudges().reset();
+    }
+}
+
+Rect StrokePainter::drawRun(std::span<const LPPoint> points, DrawTarget target) {
+    const SurfaceScope surface(_layers.surface());
+    if (!surface) {
+        return {};
+    }
+    const StageClock::Stage stage(_clock, &StrokeStats::drawingSeconds, &_layers.surface());
+    DabMaker& maker = makerOf(target);
+    if (target == DrawTarget::smudge) {
+        SmudgeMaker& smudges = _brush.smudges();
+        _madeSmudges.clear();
+        smudges.make(maker, points.data(), points.size(),
+                     [&](const SmudgeDab& dab) { _madeSmudges.push_back(dab); });
+        _clock.stats.dabs += _madeSmudges.size();
+        return _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
+    }
+    _made.clear();
+    maker.make(points.data(), points.size(), [&](const Dab& dab) { _made.push_back(dab); });
+    _clock.stats.dabs += _made.size();
+    switch (target) {
+        case DrawTarget::line:
+            return _layers.draw(PaintLayer::line, _made, _brush.style());
+        case DrawTarget::subLine:
+            return _layers.draw(PaintLayer::subLine, _made, _brush.subStyle());
+        default:
+            return _layers.drawOnPicture(_made, _brush.subStyle());
+    }
+}
+
+Rect StrokePainter::drawPoints(std::span<const LPPoint> points, DrawTarget target) {
+    const LineScope scope(*this);
+    return drawRun(points, target);
+}
+
+Rect StrokePainter::drawRuns(const std::vector<std::vector<LPPoint>>& runs, DrawTarget target) {
+    Rect touched;
+    for (const std::vector<LPPoint>& run : runs) {
+        resetMaker(target);  // each is a stroke of its own
+        touched = touched.united(drawRun(run, target));
+    }
+    return touched;
+}
+
+std::optional<Rect> StrokePainter::drawOutline(const ShapeRecord& shape) {
+    restartRandom();
+    const LineScope scope(*this);
+    const auto mainRuns = dabsOnShape(shape, _brush.line());
+    if (mainRuns.empty()) {
+        return std::nullopt;
+    }
+    Rect touched;
+    if (_brush.isMasked()) {
+        touched = drawRuns(dabsOnShape(shape, _brush.subLine()), DrawTarget::subLine);
+    }
+    return touched.united(drawRuns(mainRuns, mainTarget()));
+}
+
+// ---- Random numbers
+
+void StrokePainter::setRepeatable(bool repeatable) {
+    _brush.setRepeatable(repeatable);
+    _repeats = repeatable;
+    _restartIsDue = repeatable;
+}
+
+void StrokePainter::setSeed(std::uint32_t seed) {
+    _seed = seed;
+    _restartIsDue = true;
+}
+
+void StrokePainter::restartRandom() {
+    if (!std::exchange(_restartIsDue, false) && !_repeats) {
+        return;
+    }
+    _generator.seed(_seed);
+    _state = LPSharedState();
+    _state.generator = &_generator;
+    const LineScope scope(*this);
+    for (const DrawTarget target : {DrawTarget::line, DrawTarget::subLine, DrawTarget::smudge}) {
+        resetMaker(target);
+    }
+}
+
+}  // namespace dabcanvas

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "GLSurface/MakeGLSurface.h"
+
+#include "GLSurface/GLSurface.h"
+
+namespace dabcanvas {
+
+std::unique_ptr<PaintSurface> makeGLSurface(const QSizeF& size) {
+    return GLSurface::make(size);
+}
+
+GLSurface* asGLSurface(PaintSurface& surface) {
+    return dynamic_cast<GLSurface*>(&surface);
+}
+
+}  // namespace dabcanvas

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// Surfaces on OpenGL for those who know nothing of it.
+#pragma once
+
+#include <QSizeF>
+#include <memory>
+
+#include "Surface/PaintSurface.h"
+
+namespace dabcanvas {
+
+class GLSurface;
+
+// As GLSurface::make().
+std::unique_ptr<PaintSurface> makeGLSurface(const QSizeF& size);
+// The surface as what it is; null for one of another kind.
+GLSurface* asGLSurface(PaintSurface& surface);
+
+}  // namespace dabcanvas
