@@ -30,6 +30,7 @@
 #include "ESContext/ESGLTypes.h"
 #include "ESContext/ESOpenGLView.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
 // The render targets; the value is also the index into the framebuffers.
 enum ESRenderType : std::int32_t {
@@ -38,9 +39,11 @@ enum ESRenderType : std::int32_t {
     ESRenderTypeSubLine = 2,  // the sub-line layer, subLineTexture()
     ESRenderTypeSmudge = 3,   // the smudge layer, smudgeTexture(), half size each way
 };
+namespace dabcanvas {
 inline constexpr int kRenderTypeCount = 4;
+}  // namespace dabcanvas
 
-class ESContext {
+class DABCANVAS_RENDER_API ESContext {
 public:
     // ---- make
 
@@ -170,7 +173,7 @@ private:
     void clearBoundTarget();
 
     std::unique_ptr<ESOpenGLView> _openGLView;
-    GLuint _frameBuffer[kRenderTypeCount] = {};
+    GLuint _frameBuffer[dabcanvas::kRenderTypeCount] = {};
     GLuint _renderBuffer = 0;
     GLuint _lineTexture = 0;
     GLuint _sublineTexture = 0;

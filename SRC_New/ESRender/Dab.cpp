@@ -8,6 +8,8 @@
 #include "LineProcess/Tingle.h"
 #include "LineProcess/TingleBlocks.h"
 
+namespace dabcanvas {
+
 namespace {
 
 constexpr float kActive = 0.00001f;  // a jitter amount below this changes nothing
@@ -158,3 +160,5 @@ std::uint32_t DabMaker::jitteredTip() const {
     // An index beyond the atlas means its first tip.
     return tip < s.tipCells ? static_cast<std::uint32_t>(tip) : 0;
 }
+
+}  // namespace dabcanvas

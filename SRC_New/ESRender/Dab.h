@@ -6,6 +6,9 @@
 
 #include "LineProcess/ColorTypes.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
+
+namespace dabcanvas {
 
 // What one dab is, apart from how it reaches the GPU: the stroke's points go in, jittered dabs come out.
 // Plain C++ without GL; the renderers of this folder hand the dabs on.
@@ -75,7 +78,7 @@ struct DabFlags {
 // Turns the points of one stroke into dabs. Keeps the stroke's dab counter and direction from call to call;
 // reset() begins the next stroke. Not to be shared between threads: the jitters draw from process-wide
 // generators.
-class DabMaker {
+class DABCANVAS_RENDER_API DabMaker {
 public:
     static constexpr std::size_t kMostDabsAPoint = 64;
 
@@ -128,3 +131,5 @@ private:
     float _thinFlow = 1;
     Dab _dab{};
 };
+
+}  // namespace dabcanvas

@@ -19,6 +19,7 @@
 
 #include "ESRender/CachedUniform.h"
 #include "ESRender/ESBaseRender.h"
+#include "Maths/Export.h"
 
 // How a source meets the canvas. Any other value, 3 among them, draws as normal.
 enum ESBlendType : std::uint32_t {
@@ -32,7 +33,7 @@ enum ESBlendType : std::uint32_t {
     ESBlendTypeReset = 9,
 };
 
-class ESImageRender : public ESBaseRender {
+class DABCANVAS_RENDER_API ESImageRender : public ESBaseRender {
 public:
     static std::unique_ptr<ESImageRender> init();
     static std::unique_ptr<ESImageRender> initWithBufferSize(const QSizeF& bufferSize);
@@ -155,7 +156,7 @@ private:
 };
 
 // The blend programs as the library carries them, whatever files stand beside it.
-class ImageRenderFSH {
+class DABCANVAS_RENDER_API ImageRenderFSH {
 public:
     static QString normalFSHString();
     static QString replaceFSHString();

@@ -20,13 +20,17 @@
 #include "ESRender/Dab.h"
 #include "ESRender/ESBaseRender.h"
 #include "LineProcess/Tingle.h"
+#include "Maths/Export.h"
 
 namespace dabcanvas {
 struct DabBounds;
 }
 
-class ESLineRender : public ESBaseRender {
+class DABCANVAS_RENDER_API ESLineRender : public ESBaseRender {
 public:
+    using Dab = dabcanvas::Dab;
+    using DabSettings = dabcanvas::DabSettings;
+
     static std::unique_ptr<ESLineRender> init();
     // Null texts stand for the line program; "_Bool" in either is read as "bool".
     static std::unique_ptr<ESLineRender> initWithVertexShaderFromString(
@@ -122,7 +126,7 @@ protected:
     void takeBrush();
     void setDabUniforms(const Dab& dab);
 
-    DabMaker _dabs;
+    dabcanvas::DabMaker _dabs;
     std::uint64_t _dabsDrawn = 0;
 
     GLint _positionIndex = -1;

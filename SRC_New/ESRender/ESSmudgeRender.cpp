@@ -388,7 +388,7 @@ void ESSmudgeRender::drawDab(const Dab& dab) {
     _coverage.push_back(covered);
 }
 
-std::span<const Dab> ESSmudgeRender::takeCoverage() {
+std::span<const dabcanvas::Dab> ESSmudgeRender::takeCoverage() {
     if (_coverageTaken) {
         return {};
     }

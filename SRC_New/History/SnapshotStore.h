@@ -21,6 +21,8 @@
 
 #include "History/Snapshot.h"
 
+namespace dabcanvas {
+
 // Writes all the data to a new file of this path; false, leaving whatever it likes there, when it cannot.
 using FileWriter = std::function<bool(const QString& path, const QByteArray& data)>;
 // Whether what lies at this path may be read and deleted; false when it has become somebody else's.
@@ -114,3 +116,5 @@ private:
     std::uint64_t _lastTicket = 0;
     bool _saidFull = false;
 };
+
+}  // namespace dabcanvas

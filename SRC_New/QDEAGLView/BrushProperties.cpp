@@ -6,6 +6,8 @@
 #include "ESRender/ESSmudgeRender.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
+using namespace dabcanvas;
+
 namespace {
 
 using B = BrushSettings;

@@ -9,6 +9,7 @@
 #include <span>
 #include <variant>
 
+#include "Maths/Export.h"
 #include "QDEAGLView/BrushSettings.h"
 
 class ESBaseRender;
@@ -120,6 +121,8 @@ enum class BrushGroup : std::uint8_t {
     recognition
 };
 
+namespace dabcanvas {
+
 // Which line records a value is sent to, and which renderers.
 enum class Lines : std::uint8_t { none, main, sub, both };
 using Renders = std::uint8_t;
@@ -135,6 +138,8 @@ enum class PresetForm : std::uint8_t {
     // Deliberate: that, and it is stored as 0.0 or 1.0.
     storedAsFloat
 };
+
+}  // namespace dabcanvas
 
 struct BrushProperty {
     // In the order of BrushValueType.
@@ -160,16 +165,16 @@ struct BrushProperty {
     std::uint16_t presetId =
         0;  // in presets; 0: never stored. A control's three numbers have the three ids above it
     std::optional<float> reset{};  // what resetParams() sets (a control to three of it); none: left alone
-    PresetForm presetForm = PresetForm::plain;
+    dabcanvas::PresetForm presetForm = dabcanvas::PresetForm::plain;
     Field field;  // where the stored value stands
     Setter set;
-    float created = 0;   // value of a new canvas (booleans 0 or 1); controls are zero, colours black, images
-                         // and texts empty
-    float low = -kFree;  // stored numbers are clamped to low..high
-    float high = kFree;
+    float created = 0;  // value of a new canvas (booleans 0 or 1); controls are zero, colours black, images
+                        // and texts empty
+    float low = -dabcanvas::kFree;  // stored numbers are clamped to low..high
+    float high = dabcanvas::kFree;
     std::uint8_t lineId = 0;  // property id in the line records; 0: not a line property
-    Lines lines = Lines::none;
-    Renders renders = kNoRender;
+    dabcanvas::Lines lines = dabcanvas::Lines::none;
+    dabcanvas::Renders renders = dabcanvas::kNoRender;
     RenderSetter render{};
     const char* about = "";  // one sentence for a person choosing a brush
 
@@ -177,20 +182,20 @@ struct BrushProperty {
 };
 
 // All properties, in BrushKey order.
-std::span<const BrushProperty> brushProperties();
+DABCANVAS_CANVAS_API std::span<const BrushProperty> brushProperties();
 
 // The row of a key, in constant time.
-const BrushProperty& brushProperty(BrushKey key);
+DABCANVAS_CANVAS_API const BrushProperty& brushProperty(BrushKey key);
 
 // The row with this exact name, or null.
-const BrushProperty* brushPropertyNamed(QStringView name);
+DABCANVAS_CANVAS_API const BrushProperty* brushPropertyNamed(QStringView name);
 
 // What a new canvas starts with, as the QVariant type that QDDrawCanvas::brushValue() returns.
-QVariant brushDefault(const BrushProperty& property);
+DABCANVAS_CANVAS_API QVariant brushDefault(const BrushProperty& property);
 
 // The row of a preset id, with the number of the control's part (0 speed, 1 pressure, 2 altitude; -1 for a property of
 // one value); null for an id that no property has.
-const BrushProperty* brushPropertyOfPresetId(std::uint32_t id, int* part);
+DABCANVAS_CANVAS_API const BrushProperty* brushPropertyOfPresetId(std::uint32_t id, int* part);
 
-const char* brushGroupName(BrushGroup group);
-const char* brushValueTypeName(BrushValueType type);
+DABCANVAS_CANVAS_API const char* brushGroupName(BrushGroup group);
+DABCANVAS_CANVAS_API const char* brushValueTypeName(BrushValueType type);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "QDEAGLView/LeafDrawing.h"
 
-#include <QLoggingCategory>
 #include <QPainter>
 #include <QPointer>
 #include <algorithm>
@@ -9,9 +8,8 @@
 #include <initializer_list>
 #include <utility>
 
+#include "QDEAGLView/CanvasLog.h"
 #include "QDEAGLView/ImageBlur.h"
-
-Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 
 namespace {
 

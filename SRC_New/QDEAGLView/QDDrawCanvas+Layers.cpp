@@ -31,7 +31,7 @@ QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRend
 
 // Returns the whole pixels that the run touched.
 QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderType layer) {
-    if (points == nullptr || layer < ESRenderTypeCanvas || layer >= kRenderTypeCount) {
+    if (points == nullptr || layer < ESRenderTypeCanvas || layer >= dabcanvas::kRenderTypeCount) {
         return {};
     }
     const ESCurrentScope current(*_esContext);

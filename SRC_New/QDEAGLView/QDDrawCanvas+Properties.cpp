@@ -10,6 +10,8 @@
 #include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
 
+using namespace dabcanvas;
+
 namespace {
 
 constexpr float kMostCopies = 1e6f;  // far above what is drawn; keeps the cast to an integer defined

@@ -19,6 +19,7 @@
 #include "Brushes/TexturesTool.h"
 #include "ESContext/ESContext.h"
 #include "LineProcess/LPSharedState.h"
+#include "Maths/Export.h"
 #include "Preset/BrushRecords.h"
 #include "QDEAGLView/BrushProperties.h"
 #include "QDEAGLView/BrushSettings.h"
@@ -53,7 +54,7 @@ struct StrokeStats {
 // Thread   one thread at a time; several canvases of a process may interleave their strokes on one thread.
 // Life     to be destroyed before main() returns: OpenGL and Qt may be gone when static objects go.
 // Errors   never throws; a failure is a log line and a false or null result.
-class QDDrawCanvas {
+class DABCANVAS_CANVAS_API QDDrawCanvas {
 public:
     // A canvas whose buffer is as large as the frame, cleared to transparent, with the default brush. Null, after
     // one log line, when there is no OpenGL 3.2 or a side is not from 1 to the driver's limit.
@@ -726,7 +727,7 @@ private:
     bool _refusedSample = false;  // and said so
 
     // What the layers hold, in buffer pixels; unlike the rectangles of a stroke it outlives a stroke that never ended
-    QRectF _layerContent[kRenderTypeCount];
+    QRectF _layerContent[dabcanvas::kRenderTypeCount];
 
     // Of the canvas, in buffer pixels
     QRectF _updateRect;            // changed since the background was last refreshed

@@ -2,15 +2,13 @@
 // Scopes that the canvas's own sources open; nothing for embedders.
 #pragma once
 
-#include <QLoggingCategory>
 #include <chrono>
 
 #include "ESContext/ESCurrentScope.h"
 #include "ESRender/ESImageRender.h"
 #include "ESRender/ESSmudgeRender.h"
+#include "QDEAGLView/CanvasLog.h"
 #include "QDEAGLView/QDDrawCanvas.h"
-
-Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 
 // One run of line-process calls: this canvas's GL context and its copy of the line process's globals are
 // current, so that strokes of several canvases may interleave. No delegate is called inside one.

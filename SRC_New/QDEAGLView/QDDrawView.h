@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "Maths/Export.h"
 #include "QDEAGLView/QDDrawCanvas.h"
 
 class QTouchEvent;
@@ -28,7 +29,7 @@ class QTouchEvent;
 //          stretched, and points scale.
 // Owner    whoever holds the unique_ptr. With a parent, or once put into a layout, release() it: the parent owns.
 // Thread   the application's main thread, as for every widget.
-class QDDrawView : public QWidget, public QDDrawCanvas {
+class DABCANVAS_VIEW_API QDDrawView : public QWidget, public QDDrawCanvas {
     Q_OBJECT
     Q_PROPERTY(int brushType READ brushType WRITE setBrushType)
     Q_PROPERTY(bool isDebug READ isDebug WRITE setIsDebug)
