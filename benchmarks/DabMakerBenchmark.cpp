@@ -9,6 +9,8 @@
 #include "Dabs/Dab.h"
 #include "LineProcess/LPRandom.h"
 
+using namespace dabcanvas;
+
 namespace {
 
 constexpr std::size_t kRun = 16;  // points handed over at a time, as a segment of a stroke has them

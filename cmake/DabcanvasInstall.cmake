@@ -3,16 +3,21 @@
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Dabcanvas)
+set(DABCANVAS_NEEDS_THREADS OFF)
 set(DABCANVAS_NEEDS_LZ4 OFF)
-if(lz4_FOUND AND NOT BUILD_SHARED_LIBS)
-    set(DABCANVAS_NEEDS_LZ4 ON)
+if(NOT DABCANVAS_BUILD_SHARED)
+    set(DABCANVAS_NEEDS_THREADS ON)
+    set(DABCANVAS_NEEDS_LZ4 ${lz4_FOUND})
 endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DabcanvasConfig.cmake.in
     ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake INSTALL_DESTINATION ${package_folder})
 # Before 1.0 a minor version may change the interface; the libraries' SOVERSION says the same.
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 
-install(EXPORT DabcanvasTargets NAMESPACE Dabcanvas:: DESTINATION ${package_folder})
+foreach(component IN ITEMS Stroke Render Canvas View)
+    install(EXPORT Dabcanvas${component}Targets NAMESPACE Dabcanvas:: DESTINATION ${package_folder})
+endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake ${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake
     DESTINATION ${package_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/samples/brushes DESTINATION ${CMAKE_INSTALL_DATADIR}/dabcanvas)

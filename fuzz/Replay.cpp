@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Runs a fuzz entry over the files of the given folders: xbf_seeds folder...
+// Runs a fuzz entry over the files of the given folders: NAMESeeds folder...
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -15,6 +15,9 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         std::error_code error;
         for (const auto& entry : std::filesystem::directory_iterator(argv[i], error)) {
+            if (!entry.is_regular_file()) {
+                continue;
+            }
             std::ifstream in(entry.path(), std::ios::binary);
             const std::string bytes{std::istreambuf_iterator<char>(in), {}};
             std::fprintf(stderr, "%s\n", entry.path().filename().string().c_str());

@@ -13,6 +13,7 @@
 
 #include "Brushes/BrushSettings.h"
 #include "Dabs/Dab.h"
+#include "Maths/Export.h"
 
 namespace dabcanvas {
 
@@ -90,26 +91,26 @@ struct BrushProperty {
 };
 
 // All properties, in BrushKey order.
-std::span<const BrushProperty> brushProperties();
+DABCANVAS_BRUSHES_API std::span<const BrushProperty> brushProperties();
 
 // The row of a key, in constant time.
-const BrushProperty& brushProperty(BrushKey key);
+DABCANVAS_BRUSHES_API const BrushProperty& brushProperty(BrushKey key);
 
 // The row with this exact name, or null.
-const BrushProperty* brushPropertyNamed(QStringView name);
+DABCANVAS_BRUSHES_API const BrushProperty* brushPropertyNamed(QStringView name);
 
 // What a new canvas starts with.
-QVariant brushDefault(const BrushProperty& property);
+DABCANVAS_BRUSHES_API QVariant brushDefault(const BrushProperty& property);
 
 // Values by their row's type. None for a QVariant of another type, and for numbers that are not finite.
-std::optional<BrushValue> brushValueOf(const BrushProperty& property, const QVariant& value);
-QVariant variantOf(const BrushValue& value);
+DABCANVAS_BRUSHES_API std::optional<BrushValue> brushValueOf(const BrushProperty& property, const QVariant& value);
+DABCANVAS_BRUSHES_API QVariant variantOf(const BrushValue& value);
 
 // The row of a preset id, with the number of the control's part (0 speed, 1 pressure, 2 altitude; -1 for a property of
 // one value); null for an id that no property has.
-const BrushProperty* brushPropertyOfPresetId(std::uint32_t id, int* part);
+DABCANVAS_BRUSHES_API const BrushProperty* brushPropertyOfPresetId(std::uint32_t id, int* part);
 
-const char* brushGroupName(BrushGroup group);
-const char* brushValueTypeName(BrushValueType type);
+DABCANVAS_BRUSHES_API const char* brushGroupName(BrushGroup group);
+DABCANVAS_BRUSHES_API const char* brushValueTypeName(BrushValueType type);
 
 }  // namespace dabcanvas

@@ -8,7 +8,9 @@
 #include <QMetaType>
 #include <array>
 
-class ESColor {
+#include "Maths/Export.h"
+
+class DABCANVAS_BRUSHES_API ESColor {
 public:
     ESColor() = default;  // no colour
     static ESColor grey(float grey, float alpha = 1.0f);

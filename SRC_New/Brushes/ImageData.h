@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QString>
 
+#include "Maths/Export.h"
+
 // Images into encoded data and back, for the brush presets and the undo history.
 //
 // Images   read images are Format_RGBA8888_Premultiplied at the file's pixel size; images to write may have
@@ -14,17 +16,17 @@
 //          receives the reason instead of the log, or becomes empty.
 
 // Reads any image format this Qt has a plugin for, recognised by content.
-QImage imageWithData(const QByteArray& data, QString* problem = nullptr);
-QImage imageWithContentsOfFile(const QString& path);
+DABCANVAS_BRUSHES_API QImage imageWithData(const QByteArray& data, QString* problem = nullptr);
+DABCANVAS_BRUSHES_API QImage imageWithContentsOfFile(const QString& path);
 
 // Keeps transparency. Reading the data back gives the same premultiplied pixels.
-QByteArray dataOfPNGFile(const QImage& image);
+DABCANVAS_BRUSHES_API QByteArray dataOfPNGFile(const QImage& image);
 
 // JPEG has no transparency: what is transparent shows white paper.
-QByteArray dataOfJPEGFile(const QImage& image);
+DABCANVAS_BRUSHES_API QByteArray dataOfJPEGFile(const QImage& image);
 
 // `type` is the name of an image format that Qt writes, such as "PNG" or "BMP", at its default quality.
-QByteArray dataOfImageType(const QImage& image, const char* type);
+DABCANVAS_BRUSHES_API QByteArray dataOfImageType(const QImage& image, const char* type);
 
 // The same as dataOfPNGFile().
-QByteArray UIImagePNGRepresentation(const QImage& image);
+DABCANVAS_BRUSHES_API QByteArray UIImagePNGRepresentation(const QImage& image);

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <memory>
 
+#include "Maths/Export.h"
+
 // Makes the brush tip: the n x n mask that every dab of a stroke stamps, with n = max(size, 3) pixels.
 //
 // Pixels   4 bytes each, red, green, blue, alpha, rows top to bottom. Colour is always 0 and alpha carries
@@ -16,7 +18,7 @@
 // Thread   any one at a time. Needs no QGuiApplication.
 // Errors   never throws. A tip above kMaxSize or beyond the memory at hand is logged and refused:
 //          textureImageWithSize() then answers with the stored image, textureDataWithSize() with null.
-class TexturesTool {
+class DABCANVAS_BRUSHES_API TexturesTool {
 public:
     // What textureType() names. Any other value draws a fully transparent tip.
     enum TextureType : std::int32_t { kStoredImage = 0, kSoftDisc = 1, kRing = 2, kRoundedRectangle = 3 };

@@ -3,4 +3,7 @@
 
 #include <QLoggingCategory>
 
-Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
+#include "Maths/Export.h"
+
+// "dabcanvas.canvas": every message of the canvas and of the widget that shows it.
+DABCANVAS_CANVAS_API const QLoggingCategory& lcDabcanvas();

@@ -43,6 +43,7 @@
 #include "Canvas/QDDrawTouch.h"
 #include "Canvas/QDDrawViewDelegate.h"
 #include "Canvas/StageClock.h"
+#include "Maths/Export.h"
 #include "Preset/BrushRecords.h"
 #include "Recognition/ShapeRecord.h"
 #include "Surface/RenderType.h"
@@ -58,7 +59,7 @@ struct PlacedImage;
 struct Rect;
 }  // namespace dabcanvas
 
-class QDDrawCanvas {
+class DABCANVAS_CANVAS_API QDDrawCanvas {
 public:
     // ---- Make
 

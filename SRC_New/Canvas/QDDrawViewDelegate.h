@@ -3,6 +3,8 @@
 
 #include <QPointF>
 
+#include "Maths/Export.h"
+
 class QDDrawCanvas;
 
 // What a host hears of a canvas's strokes. Every callback is optional.
@@ -11,7 +13,7 @@ class QDDrawCanvas;
 // current. A callback may draw on other canvases, change the brush, take the delegate off and open a
 // dialogue, which ends a pointer's stroke where it got to; it may not destroy the canvas or enter a stroke
 // of the same one. A delegate is not owned.
-class QDDrawViewDelegate {
+class DABCANVAS_CANVAS_API QDDrawViewDelegate {
 public:
     virtual ~QDDrawViewDelegate() = default;
 

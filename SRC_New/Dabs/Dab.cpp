@@ -9,6 +9,7 @@
 #include "LineProcess/TingleBlocks.h"
 
 namespace dabcanvas {
+
 namespace {
 
 constexpr float kActive = 0.00001f;  // a jitter amount below this changes nothing

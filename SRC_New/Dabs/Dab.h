@@ -6,6 +6,9 @@
 
 #include "LineProcess/ColorTypes.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
+
+namespace dabcanvas {
 
 namespace dabcanvas {
 
@@ -77,7 +80,7 @@ struct DabFlags {
 // Turns the points of one stroke into dabs. Keeps the stroke's dab counter and direction from call to call;
 // reset() begins the next stroke. Not to be shared between threads: the jitters draw from process-wide
 // generators.
-class DabMaker {
+class DABCANVAS_DABS_API DabMaker {
 public:
     static constexpr std::size_t kMostDabsAPoint = 64;
 

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "Dabs/Dab.h"
-#include "Pixels/Rect.h"
-#include "Pixels/Rotation.h"
+#include "Maths/Rect.h"
+#include "Maths/Rotation.h"
 
 namespace dabcanvas {
 

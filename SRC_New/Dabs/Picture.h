@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "Pixels/PixelView.h"
+#include "Maths/PixelView.h"
 
 namespace dabcanvas {
 

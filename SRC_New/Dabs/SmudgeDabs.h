@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "Dabs/Dab.h"
+#include "Maths/Export.h"
 
 namespace dabcanvas {
 
@@ -25,12 +26,12 @@ struct SmudgeSettings {
     float controlValue = 25;  // over so many
 
     // mix as grown by the point with this number, counted from 1; all of it at once when controlValue is not above 0.
-    float grownMix(std::int64_t index) const;
+    DABCANVAS_DABS_API float grownMix(std::int64_t index) const;
 };
 
 // Adds to the dabs of a stroke what smudging needs. Keeps the pick-up place from call to call; reset() begins the next
 // stroke.
-class SmudgeMaker {
+class DABCANVAS_DABS_API SmudgeMaker {
 public:
     SmudgeSettings settings;
 

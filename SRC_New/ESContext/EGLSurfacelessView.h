@@ -13,8 +13,9 @@
 #include <memory>
 
 #include "ESContext/ESOpenGLView.h"
+#include "Maths/Export.h"
 
-class EGLSurfacelessView final : public ESOpenGLView {
+class DABCANVAS_RENDER_API EGLSurfacelessView final : public ESOpenGLView {
 public:
     // Leaves whatever was current on this thread as it was; nothing is made current.
     static std::unique_ptr<EGLSurfacelessView> create(QString* reason = nullptr);

@@ -6,7 +6,9 @@
 #include <memory>
 #include <utility>
 
-class ESBufferAccess {
+#include "Maths/Export.h"
+
+class DABCANVAS_RENDER_API ESBufferAccess {
 public:
     explicit ESBufferAccess(std::shared_ptr<QSemaphore> semaphore) : _semaphore(std::move(semaphore)) {
         if (_semaphore) {

@@ -63,7 +63,7 @@ void defineLayerTexture(GLuint texture, const QSize& size) {
 }
 
 bool isRenderType(std::int64_t type) {
-    return type >= 0 && type < kRenderTypeCount;
+    return type >= 0 && type < dabcanvas::kRenderTypeCount;
 }
 
 }  // namespace
@@ -114,7 +114,7 @@ void ESContext::setOpenGLView(std::unique_ptr<ESOpenGLView> openGLView) {
         destoryBuffer();
     }
     // Had the old context been out of reach, its names must not be taken for the new one's.
-    std::fill_n(_frameBuffer, kRenderTypeCount, 0u);
+    std::fill_n(_frameBuffer, dabcanvas::kRenderTypeCount, 0u);
     _renderBuffer = _lineTexture = _sublineTexture = _smudgeTexture = 0;
     _backingWidth = _backingHeight = 0;
     _openGLView = std::move(openGLView);

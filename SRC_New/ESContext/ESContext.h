@@ -30,9 +30,10 @@
 #include "ESContext/ESGLTypes.h"
 #include "ESContext/ESOpenGLView.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 #include "Surface/RenderType.h"
 
-class ESContext {
+class DABCANVAS_RENDER_API ESContext {
 public:
     // ---- make
 
@@ -162,7 +163,7 @@ private:
     void clearBoundTarget();
 
     std::unique_ptr<ESOpenGLView> _openGLView;
-    GLuint _frameBuffer[kRenderTypeCount] = {};
+    GLuint _frameBuffer[dabcanvas::kRenderTypeCount] = {};
     GLuint _renderBuffer = 0;
     GLuint _lineTexture = 0;
     GLuint _sublineTexture = 0;

@@ -103,7 +103,7 @@ QImage ESContext::imageForType(ESRenderType type) {
 }
 
 QImage ESContext::newCGImageForType(ESRenderType type) {
-    if (type < 0 || type >= kRenderTypeCount || !makeCurrent() || !_frameBuffer[type]) {
+    if (type < 0 || type >= dabcanvas::kRenderTypeCount || !makeCurrent() || !_frameBuffer[type]) {
         return {};
     }
     const QSize size = sizeForType(type);

@@ -13,11 +13,12 @@
 #include <optional>
 
 #include "ESContext/ESHostContext.h"
+#include "Maths/Export.h"
 
 class ESContext;
 class ESOpenGLView;
 
-class ESCurrentScope {
+class DABCANVAS_RENDER_API ESCurrentScope {
 public:
     explicit ESCurrentScope(ESContext& context);
     explicit ESCurrentScope(ESOpenGLView* view);  // null: the scope is false and does nothing

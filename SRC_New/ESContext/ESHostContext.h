@@ -7,10 +7,12 @@
 // Thread   restore() must run on the thread that took the record.
 #pragma once
 
+#include "Maths/Export.h"
+
 class QOpenGLContext;
 class QSurface;
 
-struct ESHostContext {
+struct DABCANVAS_RENDER_API ESHostContext {
     // EGL; all null when no EGL context was current.
     void* eglDisplay = nullptr;
     void* eglContext = nullptr;

@@ -10,8 +10,9 @@
 #include <QRectF>
 
 #include "ESContext/ESHostContext.h"
+#include "Maths/Export.h"
 
-class ESOpenGLView {
+class DABCANVAS_RENDER_API ESOpenGLView {
 public:
     ESOpenGLView() = default;
     virtual ~ESOpenGLView() = default;

@@ -12,11 +12,12 @@
 #include <memory>
 
 #include "ESContext/ESOpenGLView.h"
+#include "Maths/Export.h"
 
 class QOffscreenSurface;
 class QOpenGLContext;
 
-class QtOffscreenView final : public ESOpenGLView {
+class DABCANVAS_RENDER_API QtOffscreenView final : public ESOpenGLView {
 public:
     // Leaves whatever was current on this thread as it was; nothing is made current.
     static std::unique_ptr<QtOffscreenView> create(QString* reason = nullptr);

@@ -5,11 +5,13 @@
 #include <QString>
 #include <cstdint>
 
+#include "Maths/Export.h"
+
 namespace dabcanvas {
 
 // The mode whose fragment text this is, with "_Bool" or "bool"; 0 for none.
-std::uint32_t blendTypeOfProgram(const QString& fragmentText);
+DABCANVAS_RENDER_API std::uint32_t blendTypeOfProgram(const QString& fragmentText);
 // The fragment text of a mode, with "bool".
-QString programOfBlendType(std::uint32_t blendType);
+DABCANVAS_RENDER_API QString programOfBlendType(std::uint32_t blendType);
 
 }  // namespace dabcanvas

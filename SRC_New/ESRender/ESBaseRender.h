@@ -28,8 +28,9 @@
 #include "ESRender/Utilities/ESProgram.h"
 #include "ESRender/Utilities/ESProgromObject.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
-class ESBaseRender {
+class DABCANVAS_RENDER_API ESBaseRender {
 public:
     // ---- make
 

@@ -19,9 +19,10 @@
 
 #include "ESRender/CachedUniform.h"
 #include "ESRender/ESBaseRender.h"
+#include "Maths/Export.h"
 #include "Surface/BlendType.h"
 
-class ESImageRender : public ESBaseRender {
+class DABCANVAS_RENDER_API ESImageRender : public ESBaseRender {
 public:
     static std::unique_ptr<ESImageRender> init();
     static std::unique_ptr<ESImageRender> initWithBufferSize(const QSizeF& bufferSize);
@@ -144,7 +145,7 @@ private:
 };
 
 // The blend programs as the library carries them, whatever files stand beside it.
-class ImageRenderFSH {
+class DABCANVAS_RENDER_API ImageRenderFSH {
 public:
     static QString normalFSHString();
     static QString replaceFSHString();

@@ -20,12 +20,13 @@
 #include "Dabs/Dab.h"
 #include "ESRender/ESBaseRender.h"
 #include "LineProcess/Tingle.h"
+#include "Maths/Export.h"
 
 namespace dabcanvas {
 struct DabBounds;
 }
 
-class ESLineRender : public ESBaseRender {
+class DABCANVAS_RENDER_API ESLineRender : public ESBaseRender {
 public:
     using Dab = dabcanvas::Dab;
     using DabSettings = dabcanvas::DabSettings;

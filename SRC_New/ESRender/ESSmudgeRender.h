@@ -19,11 +19,12 @@
 
 #include "Dabs/SmudgeDabs.h"
 #include "ESRender/ESLineRender.h"
+#include "Maths/Export.h"
 
 // How drawPoints() draws: dabs, or the rectangles in which canvas and layer meet.
 enum ESSmudgeDraw : std::int32_t { ESSmudgeDrawDabs = 0, ESSmudgeDrawShow = 1 };
 
-class ESSmudgeRender : public ESLineRender {
+class DABCANVAS_RENDER_API ESSmudgeRender : public ESLineRender {
 public:
     static std::unique_ptr<ESSmudgeRender> init();
     ~ESSmudgeRender() override;

@@ -12,6 +12,7 @@
 
 #include "ESContext/ESContext.h"
 #include "ESContext/ESCurrentScope.h"
+#include "Maths/Export.h"
 #include "Surface/PaintSurface.h"
 
 class ESImageRender;
@@ -20,7 +21,7 @@ class ESSmudgeRender;
 
 namespace dabcanvas {
 
-class GLSurface final : public PaintSurface {
+class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
 public:
     // Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2 or a side is not
     // from 1 to the driver's limit.

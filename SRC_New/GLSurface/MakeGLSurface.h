@@ -5,6 +5,7 @@
 #include <QSizeF>
 #include <memory>
 
+#include "Maths/Export.h"
 #include "Surface/PaintSurface.h"
 
 namespace dabcanvas {
@@ -12,8 +13,8 @@ namespace dabcanvas {
 class GLSurface;
 
 // As GLSurface::make().
-std::unique_ptr<PaintSurface> makeGLSurface(const QSizeF& size);
+DABCANVAS_RENDER_API std::unique_ptr<PaintSurface> makeGLSurface(const QSizeF& size);
 // The surface as what it is; null for one of another kind.
-GLSurface* asGLSurface(PaintSurface& surface);
+DABCANVAS_RENDER_API GLSurface* asGLSurface(PaintSurface& surface);
 
 }  // namespace dabcanvas

@@ -4,6 +4,8 @@
 #include <system_error>
 #include <utility>
 
+namespace dabcanvas {
+
 BackgroundQueue::~BackgroundQueue() {
     {
         const std::lock_guard lock(_mutex);
@@ -59,3 +61,5 @@ void BackgroundQueue::work() {
         }
     }
 }
+
+}  // namespace dabcanvas

@@ -12,6 +12,8 @@
 #include <thread>
 #include <vector>
 
+namespace dabcanvas {
+
 class BackgroundQueue {
 public:
     using Task = std::function<void()>;
@@ -36,3 +38,5 @@ private:
     bool _ending = false;
     std::vector<std::thread> _threads;
 };
+
+}  // namespace dabcanvas

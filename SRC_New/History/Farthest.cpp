@@ -3,6 +3,8 @@
 
 #include <QHash>
 
+namespace dabcanvas {
+
 namespace {
 
 // How far each item of a stack is from the current one, the last being nearest. Of equal items the first
@@ -47,3 +49,5 @@ QString farthestFrom(const QStringList& cachedNames, const QStringList& undoItem
     }
     return chosen;
 }
+
+}  // namespace dabcanvas

@@ -14,6 +14,8 @@
 #include "History/TempFolder.h"
 #include "Maths/Tools.h"
 
+using namespace dabcanvas;
+
 void ImagesUndoManager::startFolder() {
     const QString caches = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     QString problem;

@@ -14,6 +14,8 @@
 #include "History/TempFolder.h"
 #include "Maths/Tools.h"
 
+using namespace dabcanvas;
+
 Q_LOGGING_CATEGORY(lcHistory, "dabcanvas.history")
 
 namespace {

@@ -28,11 +28,14 @@
 
 #include "History/SnapshotStore.h"
 #include "History/UndoManager.h"
+#include "Maths/Export.h"
 
+namespace dabcanvas {
 class BackgroundQueue;
 class TempFolder;
+}  // namespace dabcanvas
 
-class ImagesUndoManager : public UndoManager {
+class DABCANVAS_HISTORY_API ImagesUndoManager : public UndoManager {
 public:
     // A history of up to 100 steps, whose current item has no image, or the one given. When no folder can be
     // made, one log line, and the history lives in memory alone.
@@ -123,7 +126,7 @@ public:
     void asynOperator(std::function<void()> task);
 
 protected:
-    explicit ImagesUndoManager(FileWriter writer = writeWholeFile);
+    explicit ImagesUndoManager(dabcanvas::FileWriter writer = dabcanvas::writeWholeFile);
 
 private:
     struct Quitting;
@@ -132,25 +135,27 @@ private:
     void startFolder();
     bool isOurs(const QString& path) const;
     bool writeIntoFolder(const QString& path, const QByteArray& data) const;
-    void startWrite(SnapshotStore::Task write);
-    void putIntoFile(const QString& name, const QString& path, const std::shared_ptr<Snapshot>& image);
+    void startWrite(dabcanvas::SnapshotStore::Task write);
+    void putIntoFile(const QString& name, const QString& path,
+                     const std::shared_ptr<dabcanvas::Snapshot>& image);
     void keepCurrent(const QByteArray& data);
     void makeRoom(qint64 bytes);
     bool evictOne();
-    void pack(const std::shared_ptr<Snapshot>& image);
+    void pack(const std::shared_ptr<dabcanvas::Snapshot>& image);
     QString nameOfPath(const QString& path) const;
     void letGoOfUnused(const QStringList& names);
     void letGoOfOthers();
 
     mutable std::recursive_mutex _operation;  // one call at a time; the tasks in the background never take it
-    FileWriter _writer;
-    std::unique_ptr<TempFolder> _folder;
+    dabcanvas::FileWriter _writer;
+    std::unique_ptr<dabcanvas::TempFolder> _folder;
     QString _pathExtension = QStringLiteral("png");
     unsigned _maxCacheCount = 50;
     qint64 _cacheByteBudget = 0;
-    SnapshotStore _store;
+    dabcanvas::SnapshotStore _store;
     std::shared_ptr<Quitting> _quitting;
     const std::thread::id _maker = std::this_thread::get_id();
-    std::unique_ptr<BackgroundQueue> _packing;  // the queues end first, as their tasks use all the others
-    std::unique_ptr<BackgroundQueue> _files;
+    std::unique_ptr<dabcanvas::BackgroundQueue>
+        _packing;  // the queues end first, as their tasks use all the others
+    std::unique_ptr<dabcanvas::BackgroundQueue> _files;
 };

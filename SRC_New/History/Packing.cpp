@@ -8,7 +8,11 @@
 #include <cstdint>
 #include <cstring>
 #include <vector>
+#endif
 
+namespace dabcanvas {
+
+#ifdef DABCANVAS_HAVE_LZ4
 namespace {
 // Each block stands alone behind its compressed size: snapshots may be larger than LZ4 takes at once.
 constexpr qsizetype kBlock = 4 << 20;
@@ -67,3 +71,5 @@ QByteArray unpacked(const QByteArray&, qsizetype) {
     return {};
 }
 #endif
+
+}  // namespace dabcanvas

@@ -7,9 +7,13 @@
 
 #include <QByteArray>
 
+namespace dabcanvas {
+
 // Whether this build can compress; without, packed() is always null.
 bool canPack();
 // Null when less than a quarter would be saved.
 QByteArray packed(const QByteArray& raw);
 // What packed() was given, whose size this must be told; null when the bytes are not from there.
 QByteArray unpacked(const QByteArray& packed, qsizetype rawSize);
+
+}  // namespace dabcanvas

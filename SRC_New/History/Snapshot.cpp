@@ -7,6 +7,8 @@
 #include "History/HistoryLog.h"
 #include "History/Packing.h"
 
+namespace dabcanvas {
+
 QByteArray ownedData(const QByteArray& data) {
     QByteArray shared = data;
     if (shared.data_ptr().d_ptr() != nullptr || shared.isEmpty()) {
@@ -60,3 +62,5 @@ void Snapshot::pack() {
     } catch (const std::bad_alloc&) {  // it stays raw
     }
 }
+
+}  // namespace dabcanvas

@@ -12,6 +12,8 @@
 #include <atomic>
 #include <mutex>
 
+namespace dabcanvas {
+
 // Shares the data; copies those that do not own their bytes (QByteArray::fromRawData), as somebody else may
 // free them. Null when there is no memory for a copy.
 QByteArray ownedData(const QByteArray& data);
@@ -37,3 +39,5 @@ private:
     mutable QImage _picture;
     mutable std::atomic<qint64> _held;
 };
+
+}  // namespace dabcanvas

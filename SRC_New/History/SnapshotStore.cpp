@@ -12,6 +12,8 @@
 
 #include "History/HistoryLog.h"
 
+namespace dabcanvas {
+
 namespace {
 
 bool renameOver(const QString& from, const QString& to) {
@@ -420,3 +422,5 @@ QStringList SnapshotStore::names() const {
     }
     return names;
 }
+
+}  // namespace dabcanvas

@@ -20,12 +20,15 @@
 #include <mutex>
 
 #include "History/Snapshot.h"
+#include "Maths/Export.h"
+
+namespace dabcanvas {
 
 // Writes all the data to a new file of this path; false, leaving whatever it likes there, when it cannot.
 using FileWriter = std::function<bool(const QString& path, const QByteArray& data)>;
 // Whether what lies at this path may be read and deleted; false when it has become somebody else's.
 using PathCheck = std::function<bool(const QString& path)>;
-bool writeWholeFile(const QString& path, const QByteArray& data);
+DABCANVAS_HISTORY_API bool writeWholeFile(const QString& path, const QByteArray& data);
 
 class SnapshotStore {
 public:
@@ -114,3 +117,5 @@ private:
     std::uint64_t _lastTicket = 0;
     bool _saidFull = false;
 };
+
+}  // namespace dabcanvas

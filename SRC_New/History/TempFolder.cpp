@@ -16,6 +16,8 @@
 #include <cstring>
 #endif
 
+namespace dabcanvas {
+
 namespace {
 
 constexpr int kNumbers = 10000;
@@ -268,3 +270,5 @@ void TempFolder::removeAbandoned(const QString& parent) {
         removeIfAbandoned(parent + QLatin1Char('/') + lock.chopped(5));
     }
 }
+
+}  // namespace dabcanvas

@@ -15,6 +15,8 @@
 #include <QLockFile>
 #endif
 
+namespace dabcanvas {
+
 class TempFolder {
 public:
     // The folder of this path, made when it is missing, with those above it. Null when somebody has claimed
@@ -62,3 +64,5 @@ private:
     std::unique_ptr<QLockFile> _lock;
 #endif
 };
+
+}  // namespace dabcanvas

@@ -12,8 +12,9 @@
 #include <mutex>
 
 #include "History/UndoManager.h"
+#include "Maths/Export.h"
 
-class UndoContainer {
+class DABCANVAS_HISTORY_API UndoContainer {
 public:
     UndoContainer() = default;
     UndoContainer(const UndoContainer&) = delete;

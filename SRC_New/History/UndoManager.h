@@ -13,7 +13,9 @@
 #include <memory>
 #include <mutex>
 
-class UndoManager {
+#include "Maths/Export.h"
+
+class DABCANVAS_HISTORY_API UndoManager {
 public:
     // Empty stacks, the current item "InitString", or the one given. The step count is 0: set it first, as
     // with 0 at most one undo item is ever kept.

@@ -2,6 +2,8 @@
 // Colours as three floats, each 0..1, and the conversions that the colour jitter uses.
 #pragma once
 
+#include "Maths/Export.h"
+
 struct RgbType {
     float r;
     float g;
@@ -15,11 +17,11 @@ struct HsvType {
     float v;
 };
 
-RgbType RgbTypeMake(float r, float g, float b);
-HsvType HsvTypeMake(float h, float s, float v);
+DABCANVAS_STROKE_API RgbType RgbTypeMake(float r, float g, float b);
+DABCANVAS_STROKE_API HsvType HsvTypeMake(float h, float s, float v);
 
 // Pure red has hue 1, grey has hue and saturation 0.
-HsvType Rgb_to_Hsv(RgbType colour);
+DABCANVAS_STROKE_API HsvType Rgb_to_Hsv(RgbType colour);
 
 // A hue that is negative, not a number or 7/6 and above gives black: wrap it first.
-RgbType Hsv_to_Rgb(HsvType colour);
+DABCANVAS_STROKE_API RgbType Hsv_to_Rgb(HsvType colour);

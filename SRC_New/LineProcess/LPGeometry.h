@@ -6,29 +6,33 @@
 #pragma once
 
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
-float lpEuclidDistanceOfTwoPosition(const LPPosition* a, const LPPosition* b);
-void lpGetMidPosition(const LPPosition* a, const LPPosition* b, LPPosition* out);
+DABCANVAS_STROKE_API float lpEuclidDistanceOfTwoPosition(const LPPosition* a, const LPPosition* b);
+DABCANVAS_STROKE_API void lpGetMidPosition(const LPPosition* a, const LPPosition* b, LPPosition* out);
 
 // Of the vectors from o to a and from o to b.
-float lpDotProduct(const LPPosition* o, const LPPosition* a, const LPPosition* b);
-float lpCrossProduct(const LPPosition* o, const LPPosition* a, const LPPosition* b);
+DABCANVAS_STROKE_API float lpDotProduct(const LPPosition* o, const LPPosition* a, const LPPosition* b);
+DABCANVAS_STROKE_API float lpCrossProduct(const LPPosition* o, const LPPosition* a, const LPPosition* b);
 
 // Whether the three lie on one line with p1 not outside p0..p2, within 0.101 of either product.
-bool lp3PositionInLineWithOrder(const LPPosition* p0, const LPPosition* p1, const LPPosition* p2);
+DABCANVAS_STROKE_API bool lp3PositionInLineWithOrder(const LPPosition* p0, const LPPosition* p1,
+                                                     const LPPosition* p2);
 
 // f is a fraction of the segment, in spite of the name; outside 0..1 it extends the segment.
-void lpGetPositionInSegmentGivenLength(const LPPosition* a, const LPPosition* b, LPPosition* out, float f);
-void lpGetPositionInBezierGivenT(const LPPosition* p0, const LPPosition* p1, const LPPosition* p2,
-                                 LPPosition* out, float t);
+DABCANVAS_STROKE_API void lpGetPositionInSegmentGivenLength(const LPPosition* a, const LPPosition* b,
+                                                            LPPosition* out, float f);
+DABCANVAS_STROKE_API void lpGetPositionInBezierGivenT(const LPPosition* p0, const LPPosition* p1,
+                                                      const LPPosition* p2, LPPosition* out, float t);
 
 // The three numbers that the arc length depends on: the squared speed at t is A t^2 + B t + C.
-void lpGetParaOfBezierLength(const LPPosition* p0, const LPPosition* p1, const LPPosition* p2, float* A,
-                             float* B, float* C);
+DABCANVAS_STROKE_API void lpGetParaOfBezierLength(const LPPosition* p0, const LPPosition* p1,
+                                                  const LPPosition* p2, float* A, float* B, float* C);
 
 // Arc length from 0 to t. Always finite, also where a curve turns back on itself.
-float lpLengthOfQuadraticBezierGivenParam(float A, float B, float C, float t);
+DABCANVAS_STROKE_API float lpLengthOfQuadraticBezierGivenParam(float A, float B, float C, float t);
 
 // The parameter, from tStart on, at which the arc length equals length: within 0.01 of it, or within
 // 0.001 of the parameter.
-float lpGetTInBezierGivenLengthAndParam(float A, float B, float C, float length, float tStart);
+DABCANVAS_STROKE_API float lpGetTInBezierGivenLengthAndParam(float A, float B, float C, float length,
+                                                             float tStart);

@@ -12,6 +12,7 @@
 #include <cstdint>
 
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
 // Lengths are in the caller's drawing unit. The number in brackets is the property id.
 struct LPLineParams {
@@ -59,24 +60,24 @@ static_assert(sizeof(LPLineParams) == 144 && offsetof(LPLineParams, pointsDistan
                   offsetof(LPLineParams, minPointsDistance) == 140,
               "clients allocate and address the record by this layout");
 
-extern LPLineParams _lpDefaultParaObj;
-extern LPLineParams* _lpParaObj;  // the current record; at first the default one
+DABCANVAS_STROKE_API extern LPLineParams _lpDefaultParaObj;
+DABCANVAS_STROKE_API extern LPLineParams* _lpParaObj;  // the current record; at first the default one
 
 // Makes the record current, null meaning the default one. Returns the one that was current before.
-LPLineParams* lpSetParaObj(LPLineParams* record);
+DABCANVAS_STROKE_API LPLineParams* lpSetParaObj(LPLineParams* record);
 
 // Where the current record keeps the property; null for an id that has none (4, 12, 19, below 1, above 20).
-void* lpGetPropertyPointer(int id);
+DABCANVAS_STROKE_API void* lpGetPropertyPointer(int id);
 
 // Store into the property's place and return that place; an id without a property is refused with null.
 // No property is a double: lpSetPropertyd() covers the next field too, though never what follows the record.
-void* lpSetPropertyi(int id, std::int32_t value);
-void* lpSetPropertyf(int id, float value);
-void* lpSetPropertyd(int id, double value);
-void* lpSetPropertyb(int id, bool value);
+DABCANVAS_STROKE_API void* lpSetPropertyi(int id, std::int32_t value);
+DABCANVAS_STROKE_API void* lpSetPropertyf(int id, float value);
+DABCANVAS_STROKE_API void* lpSetPropertyd(int id, double value);
+DABCANVAS_STROKE_API void* lpSetPropertyb(int id, bool value);
 
 // Read 32, 32, 64 or 8 bits at the property's place; 0 for an id without a property.
-std::int32_t lpGetPropertyi(int id);
-float lpGetPropertyf(int id);
-double lpGetPropertyd(int id);
-bool lpGetPropertyb(int id);
+DABCANVAS_STROKE_API std::int32_t lpGetPropertyi(int id);
+DABCANVAS_STROKE_API float lpGetPropertyf(int id);
+DABCANVAS_STROKE_API double lpGetPropertyd(int id);
+DABCANVAS_STROKE_API bool lpGetPropertyb(int id);

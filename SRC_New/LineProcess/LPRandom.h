@@ -2,11 +2,13 @@
 // The random numbers of the line process. The generator and the half-used normal pair are process-wide.
 #pragma once
 
+#include "Maths/Export.h"
+
 // Uniform in [0, 1). The first call of the process seeds rand() from the clock; to repeat a run, call it
 // once and give srand() a fixed seed afterwards. Nothing else here seeds anything.
-float lpRandom();
+DABCANVAS_STROKE_API float lpRandom();
 
-float lpUniformRandom(float low, float high);
+DABCANVAS_STROKE_API float lpUniformRandom(float low, float high);
 
 // Normally distributed; every other call uses up the second number of a pair.
-float lpGaussianRandom(float mean, float deviation);
+DABCANVAS_STROKE_API float lpGaussianRandom(float mean, float deviation);

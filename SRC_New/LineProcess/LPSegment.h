@@ -13,24 +13,27 @@
 
 #include "LineProcess/LPTrace.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
-extern float newSegPressure;  // values at the end of the segment being built
-extern float newSegAltitude;
-extern float newSegSpeed;
-extern float newSegValue;   // not used here
-extern float newSegRadius;  // not used here
-extern bool needStartDur;   // the start taper is active
-extern bool needEnd;        // this is the last segment and it has a taper
-extern float minRadius;     // floor of the radius under jitter, in drawing units
+DABCANVAS_STROKE_API extern float newSegPressure;  // values at the end of the segment being built
+DABCANVAS_STROKE_API extern float newSegAltitude;
+DABCANVAS_STROKE_API extern float newSegSpeed;
+DABCANVAS_STROKE_API extern float newSegValue;   // not used here
+DABCANVAS_STROKE_API extern float newSegRadius;  // not used here
+DABCANVAS_STROKE_API extern bool needStartDur;   // the start taper is active
+DABCANVAS_STROKE_API extern bool needEnd;        // this is the last segment and it has a taper
+DABCANVAS_STROKE_API extern float minRadius;     // floor of the radius under jitter, in drawing units
 
 // Works out the dab that lies distance into a segment of segmentLength and appends it to the trace when its
 // radius is above 0. Returns the radius in any case, 0 standing for one that is not finite.
-float lpDoStroke(float distance, float segmentLength, const LPPosition* at, LPTrace* trace);
+DABCANVAS_STROKE_API float lpDoStroke(float distance, float segmentLength, const LPPosition* at,
+                                      LPTrace* trace);
 
 // Append the dabs of a straight segment or a curve and return how many.
-std::int32_t lpDoSegment(const LPPosition* from, const LPPosition* to, LPTrace* trace);
-std::int32_t lpDoBezierCurve(const LPPosition* p0, const LPPosition* p1, const LPPosition* p2,
-                             LPTrace* trace);
+DABCANVAS_STROKE_API std::int32_t lpDoSegment(const LPPosition* from, const LPPosition* to, LPTrace* trace);
+DABCANVAS_STROKE_API std::int32_t lpDoBezierCurve(const LPPosition* p0, const LPPosition* p1,
+                                                  const LPPosition* p2, LPTrace* trace);
 
 // The stroke's first dab and its first segment. Returns the number of dabs in the trace.
-std::int32_t lpDoStartStroke(const LPPosition* from, const LPPosition* to, LPTrace* trace);
+DABCANVAS_STROKE_API std::int32_t lpDoStartStroke(const LPPosition* from, const LPPosition* to,
+                                                  LPTrace* trace);

@@ -11,6 +11,7 @@
 #include <cstdint>
 
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
 struct LPSharedState {
     // As in LPSegment.h.
@@ -30,5 +31,5 @@ struct LPSharedState {
     std::int64_t debugDraws = 0;           // values HSVTingle() took from the table in debug mode
 };
 
-LPSharedState lpSharedState();
-void lpSetSharedState(const LPSharedState& state);
+DABCANVAS_STROKE_API LPSharedState lpSharedState();
+DABCANVAS_STROKE_API void lpSetSharedState(const LPSharedState& state);

@@ -13,25 +13,27 @@
 #include <cstdint>
 
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
-extern LPPoint* _lpPoints;              // the dabs of the last call; null when there were none
-extern std::int32_t _lpNumberOfPoints;  // how many
+DABCANVAS_STROKE_API extern LPPoint* _lpPoints;  // the dabs of the last call; null when there were none
+DABCANVAS_STROKE_API extern std::int32_t _lpNumberOfPoints;  // how many
 
 // Begin a stroke. Produces no dab; the first comes with the first accepted move. The short forms stand for
 // full pressure and altitude 1.
-void lpStartLine(LPPosition position);
-void lpStartLineWithPressure(LPPosition position, float pressure);
-void lpStartLineWithParams(LPPosition position, float pressure, float altitude);
+DABCANVAS_STROKE_API void lpStartLine(LPPosition position);
+DABCANVAS_STROKE_API void lpStartLineWithPressure(LPPosition position, float pressure);
+DABCANVAS_STROKE_API void lpStartLineWithParams(LPPosition position, float pressure, float altitude);
 
 // Add one sample; end marks the last one, which tapers to endRadius and ends the stroke at the sample itself.
 // Return how many dabs lpGetLastLineSegmentPoints1V() hands out. On 0 its pointer must not be read: after
 // a sample that was only gathered it is the array of an earlier call. Null with a count above 0 means that
 // there was no memory for the copy.
 // Deliberate: the short forms append with altitude 0, though they start with 1.
-std::int32_t lpAppendingLine(LPPosition position, bool end);
-std::int32_t lpAppendingLineWithPressure(LPPosition position, float pressure, bool end);
-std::int32_t lpAppendingLineWithParams(LPPosition position, float pressure, float altitude, bool end);
+DABCANVAS_STROKE_API std::int32_t lpAppendingLine(LPPosition position, bool end);
+DABCANVAS_STROKE_API std::int32_t lpAppendingLineWithPressure(LPPosition position, float pressure, bool end);
+DABCANVAS_STROKE_API std::int32_t lpAppendingLineWithParams(LPPosition position, float pressure,
+                                                            float altitude, bool end);
 
 // Stores the last call's dabs in *out, unless out is null, and returns their number. The array is a fresh
 // one each time, the caller's to free() exactly once.
-std::int32_t lpGetLastLineSegmentPoints1V(LPPoint** out);
+DABCANVAS_STROKE_API std::int32_t lpGetLastLineSegmentPoints1V(LPPoint** out);

@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
 struct LPTrace {
     LPPoint* points;
@@ -15,20 +16,20 @@ struct LPTrace {
     std::uint32_t capacity;
 };
 
-extern LPTrace _lpTrace;
+DABCANVAS_STROKE_API extern LPTrace _lpTrace;
 
 // Drops what the trace owns and makes room for 10 points. When that fails, points is null though
 // capacity reads 10; the trace stays safe to use.
-void lpInitTrace(LPTrace* trace);
+DABCANVAS_STROKE_API void lpInitTrace(LPTrace* trace);
 
 // Forgets the points and keeps the room.
-void lpClrTrace(LPTrace* trace);
+DABCANVAS_STROKE_API void lpClrTrace(LPTrace* trace);
 
 // Frees the points and leaves the trace empty. Always returns 0.
-std::int32_t lpFreeTrace(LPTrace* trace);
+DABCANVAS_STROKE_API std::int32_t lpFreeTrace(LPTrace* trace);
 
 // Makes room for 16 more points, or 30 more from a capacity of 16 on. On failure the old points stay.
-bool lpReAllocTrace(LPTrace* trace);
+DABCANVAS_STROKE_API bool lpReAllocTrace(LPTrace* trace);
 
 // Appends a copy of the point, growing first when full. False: no room, the point is dropped.
-bool lpAddPointInTrace(LPTrace* trace, const LPPoint* point);
+DABCANVAS_STROKE_API bool lpAddPointInTrace(LPTrace* trace, const LPPoint* point);

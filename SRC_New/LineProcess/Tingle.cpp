@@ -30,7 +30,7 @@ constexpr double kMostTips = 9007199254740992.0;  // 2^53, beyond all atlases; w
 int debugModel = 0;
 
 float tableValue(std::int64_t index) {
-    return FloatValue[index & (kTingleTableSize - 1)];
+    return FloatValue[index & (dabcanvas::kTingleTableSize - 1)];
 }
 
 float uniform() {
@@ -109,11 +109,11 @@ void SetDebugModel(int model) {
 }
 
 float PreRandD(int index) {
-    return FloatValue[index & (kTingleTableSize - 1)];
+    return FloatValue[index & (dabcanvas::kTingleTableSize - 1)];
 }
 
 std::int32_t PreRandI(int index) {
-    return IntValue[index & (kTingleTableSize - 1)];
+    return IntValue[index & (dabcanvas::kTingleTableSize - 1)];
 }
 
 float RadiusTingle(float radius, float minimum, float amount) {

@@ -3,7 +3,7 @@
 #include "LineProcess/TingleTables.h"
 
 // clang-format off
-const float FloatValue[kTingleTableSize] = {
+const float FloatValue[dabcanvas::kTingleTableSize] = {
     0.3965f, 0.8405f, 0.3533f, 0.4466f, 0.1118f, 0.3012f, 0.9606f, 0.4631f, 0.7128f, 0.6388f, 0.0150f, 0.1943f,
     0.8045f, 0.3585f, 0.2009f, 0.2627f, 0.8418f, 0.0138f, 0.6091f, 0.1866f, 0.0204f, 0.8731f, 0.7243f, 0.9424f,
     0.0321f, 0.1597f, 0.6847f, 0.9622f, 0.8091f, 0.3148f, 0.6733f, 0.3020f, 0.6465f, 0.8163f, 0.2317f, 0.6920f,
@@ -92,7 +92,7 @@ const float FloatValue[kTingleTableSize] = {
     0.9681f, 0.7376f, 0.3144f, 0.1694f,
 };
 
-const std::int32_t IntValue[kTingleTableSize] = {
+const std::int32_t IntValue[dabcanvas::kTingleTableSize] = {
     423, 753, 217, 42, 467, 725, 6, 456, 129, 593, 501, 924, 167, 114, 321, 444,
     591, 239, 962, 756, 953, 483, 139, 753, 220, 399, 374, 405, 729, 665, 90, 943,
     549, 106, 229, 287, 43, 303, 72, 675, 808, 148, 163, 716, 923, 630, 261, 95,

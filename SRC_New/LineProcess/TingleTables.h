@@ -4,7 +4,11 @@
 
 #include <cstdint>
 
-inline constexpr int kTingleTableSize = 1024;
+#include "Maths/Export.h"
 
-extern const float FloatValue[kTingleTableSize];       // uniform, 0.0011..0.9995
-extern const std::int32_t IntValue[kTingleTableSize];  // uniform, 2..1023
+namespace dabcanvas {
+inline constexpr int kTingleTableSize = 1024;
+}  // namespace dabcanvas
+
+DABCANVAS_STROKE_API extern const float FloatValue[dabcanvas::kTingleTableSize];       // uniform, 0.0011..0.9995
+DABCANVAS_STROKE_API extern const std::int32_t IntValue[dabcanvas::kTingleTableSize];  // uniform, 2..1023

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "Pixels/Rotation.h"
+#include "Maths/Rotation.h"
 
 QSizeF CGSizeApplyScale(const QSizeF& size, const QSizeF& scale) {
     return {size.width() / scale.width(), size.height() / scale.height()};

@@ -3,15 +3,19 @@
 // Each loader writes its whole output. Angles are radians.
 #pragma once
 
-void mat4f_LoadIdentity(float* m);
-void mat4f_LoadScale(float sx, float sy, float sz, float* m);
-void mat4f_LoadXRotation(float radians, float* m);
-void mat4f_LoadYRotation(float radians, float* m);
-void mat4f_LoadZRotation(float radians, float* m);
-void mat4f_LoadTranslation(float tx, float ty, float tz, float* m);
+#include "Maths/Export.h"
+
+DABCANVAS_BRUSHES_API void mat4f_LoadIdentity(float* m);
+DABCANVAS_BRUSHES_API void mat4f_LoadScale(float sx, float sy, float sz, float* m);
+DABCANVAS_BRUSHES_API void mat4f_LoadXRotation(float radians, float* m);
+DABCANVAS_BRUSHES_API void mat4f_LoadYRotation(float radians, float* m);
+DABCANVAS_BRUSHES_API void mat4f_LoadZRotation(float radians, float* m);
+DABCANVAS_BRUSHES_API void mat4f_LoadTranslation(float tx, float ty, float tz, float* m);
 // As OpenGL means them: the eye looks down -z and depth maps nearZ..farZ to -1..1. The field of view is the
 // vertical one.
-void mat4f_LoadPerspective(float fieldOfView, float aspect, float nearZ, float farZ, float* m);
-void mat4f_LoadOrtho(float left, float right, float bottom, float top, float nearZ, float farZ, float* m);
+DABCANVAS_BRUSHES_API void mat4f_LoadPerspective(float fieldOfView, float aspect, float nearZ, float farZ,
+                                                float* m);
+DABCANVAS_BRUSHES_API void mat4f_LoadOrtho(float left, float right, float bottom, float top, float nearZ,
+                                          float farZ, float* m);
 // out = a x b. `out` may be a or b.
-void mat4f_MultiplyMat4f(const float* a, const float* b, float* out);
+DABCANVAS_BRUSHES_API void mat4f_MultiplyMat4f(const float* a, const float* b, float* out);

@@ -5,7 +5,9 @@
 #include <QString>
 #include <cstdint>
 
-class Tools {
+#include "Maths/Export.h"
+
+class DABCANVAS_BRUSHES_API Tools {
 public:
     // The local time as "yyyyMMddHHmmssSSS", digits in every locale. Unique in this process and increasing
     // from call to call, on all threads together, also when the clock is set back (it then counts on from

@@ -16,6 +16,7 @@
 #include <cstdint>
 
 #include "Brushes/ESColor.h"
+#include "Maths/Export.h"
 #include "Preset/XBF.h"
 
 using BrushParam = QVariantMap;
@@ -35,16 +36,16 @@ inline const QString kBrushParamsKey = QStringLiteral("BrushParams");    // Brus
 // Reading them. What an entry lacks, or holds as something that Qt cannot convert, is empty or 0.
 namespace BrushRecords {
 
-QString brushName(const QVariantMap& brush);
-BrushParams brushParams(const QVariantMap& brush);
-int brushVersion(const QVariantMap& brush);
+DABCANVAS_CANVAS_API QString brushName(const QVariantMap& brush);
+DABCANVAS_CANVAS_API BrushParams brushParams(const QVariantMap& brush);
+DABCANVAS_CANVAS_API int brushVersion(const QVariantMap& brush);
 
-int key(const BrushParam& param);
-QString method(const BrushParam& param);
-QVariant paramValue(const BrushParam& param);
-int type(const BrushParam& param);
+DABCANVAS_CANVAS_API int key(const BrushParam& param);
+DABCANVAS_CANVAS_API QString method(const BrushParam& param);
+DABCANVAS_CANVAS_API QVariant paramValue(const BrushParam& param);
+DABCANVAS_CANVAS_API int type(const BrushParam& param);
 
 // The value of the first record of this id; invalid when there is none. Later records of the id are ignored.
-QVariant paramValueForKey(const BrushParams& params, quint32 id);
+DABCANVAS_CANVAS_API QVariant paramValueForKey(const BrushParams& params, quint32 id);
 
 }  // namespace BrushRecords

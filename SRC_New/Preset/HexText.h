@@ -4,24 +4,26 @@
 
 #include <QString>
 
+#include "Maths/Export.h"
+
 namespace HexText {
 
 // Upper-case digits without leading zeros; "0" for anything below 1.
-QString hexStringWithValue(qint64 value);
+DABCANVAS_CANVAS_API QString hexStringWithValue(qint64 value);
 // The one digit of a value, which is clamped to 0..15.
-QString hexCharWithValue(qint64 value);
+DABCANVAS_CANVAS_API QString hexCharWithValue(qint64 value);
 
 // The value of one digit in either case; 0 for anything else.
-qint64 valueWithHexChar(const QString& digit);
+DABCANVAS_CANVAS_API qint64 valueWithHexChar(const QString& digit);
 // The value of a row of digits; 0 when empty. Only the low 64 bits remain of a longer row.
-qint64 valueWithHexString(const QString& digits);
-qint64 hexValue(const QString& digits);  // the same
+DABCANVAS_CANVAS_API qint64 valueWithHexString(const QString& digits);
+DABCANVAS_CANVAS_API qint64 hexValue(const QString& digits);  // the same
 
 // Every UTF-16 unit of a text as two digits, and of a text read from them. Units above 0xFF give three or
 // four digits, deliberately: they are not told apart when read, so only text within U+00FF comes back as it
 // was.
-QString hexString(const QString& text);
+DABCANVAS_CANVAS_API QString hexString(const QString& text);
 // A last digit without a partner is ignored.
-QString baseString(const QString& digits);
+DABCANVAS_CANVAS_API QString baseString(const QString& digits);
 
 }  // namespace HexText

@@ -15,11 +15,12 @@
 #include <cstdio>
 #include <optional>
 
+#include "Maths/Export.h"
 #include "Preset/BrushRecords.h"
 
 class QDDrawCanvas;
 
-class QDBrushManager {
+class DABCANVAS_CANVAS_API QDBrushManager {
 public:
     QDBrushManager() = delete;
 

@@ -11,7 +11,9 @@
 #include <cstdio>
 #include <filesystem>
 
-class ReplacingFile {
+#include "Maths/Export.h"
+
+class DABCANVAS_CANVAS_API ReplacingFile {
 public:
     explicit ReplacingFile(const QString& path);
     ~ReplacingFile();  // without commit(), nothing remains of it

@@ -20,6 +20,8 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "Maths/Export.h"
+
 // The codes that tell how a value is stored. 4098 and 4099 are reserved and have no encoding.
 enum XBFPropertyType : std::int32_t {
     kXBFBool = 4097,
@@ -97,16 +99,16 @@ static_assert(sizeof(_XBFParamData) == 72 && offsetof(_XBFParamData, name) == 4 
 
 // Opens a file for writing and reading, created or emptied, or an existing one for reading; `path` is UTF-8.
 // NULL with a message on standard output, which deliberately has no line end, when that fails.
-std::FILE* XBFCreate(const char* path);
-std::FILE* XBFOpen(const char* path);
+DABCANVAS_CANVAS_API std::FILE* XBFCreate(const char* path);
+DABCANVAS_CANVAS_API std::FILE* XBFOpen(const char* path);
 
 // Each writes one piece at the stream's place and answers true without looking at whether the disk took it:
 // ask ferror() and fclose(). False, and nothing written, for a NULL stream or a piece that the file cannot
 // hold: a name or text of 2 GiB, a data block whose size is negative, overflows or has no data.
-bool AddXBFInfo(std::FILE* file, XBFInfo info);        // goes to the start of the stream first
-bool AddBrushName(std::FILE* file, const char* name);  // NULL is the empty name
-bool AddValue(std::FILE* file, std::uint32_t id, const char* method, std::uint32_t type,
-              _XBFParamValue value);
+DABCANVAS_CANVAS_API bool AddXBFInfo(std::FILE* file, XBFInfo info);  // goes to the start of the stream first
+DABCANVAS_CANVAS_API bool AddBrushName(std::FILE* file, const char* name);  // NULL is the empty name
+DABCANVAS_CANVAS_API bool AddValue(std::FILE* file, std::uint32_t id, const char* method, std::uint32_t type,
+                                   _XBFParamValue value);
 
 // How reading a piece went.
 enum class XBFRead : std::uint8_t {
@@ -119,34 +121,35 @@ enum class XBFRead : std::uint8_t {
     noMemory,
     failed,  // the stream reports an error, cannot seek, or is NULL
 };
-const char* XBFReadText(XBFRead read);  // "the file ends inside it", to go into a message
+DABCANVAS_CANVAS_API const char* XBFReadText(
+    XBFRead read);  // "the file ends inside it", to go into a message
 
 // The header, from the start of the stream. What the stream does not hold is 0.
-XBFInfo ReadXBFInfo(std::FILE* file);
-XBFRead TryReadXBFInfo(std::FILE* file, XBFInfo* info);
+DABCANVAS_CANVAS_API XBFInfo ReadXBFInfo(std::FILE* file);
+DABCANVAS_CANVAS_API XBFRead TryReadXBFInfo(std::FILE* file, XBFInfo* info);
 
 // The brush's name, NUL-terminated, the caller's to free(). NULL is the empty name, and in the first form
 // also one that could not be read.
-char* ReadBrushName(std::FILE* file);
-XBFRead TryReadBrushName(std::FILE* file, char** name);
+DABCANVAS_CANVAS_API char* ReadBrushName(std::FILE* file);
+DABCANVAS_CANVAS_API XBFRead TryReadBrushName(std::FILE* file, char** name);
 
 // The next record. Of a method name longer than 39 bytes the rest is skipped. Whatever stops the reading
 // gives a record of id 0 without text or data; a NULL stream gives the id 0x30303030 ("0000").
-_XBFParamData NextParamData(std::FILE* file);
-XBFRead TryNextParamData(std::FILE* file, _XBFParamData* data);
+DABCANVAS_CANVAS_API _XBFParamData NextParamData(std::FILE* file);
+DABCANVAS_CANVAS_API XBFRead TryNextParamData(std::FILE* file, _XBFParamData* data);
 // The same, but goes past the text or data and leaves its pointer NULL.
-XBFRead TrySkipParamData(std::FILE* file, _XBFParamData* data);
+DABCANVAS_CANVAS_API XBFRead TrySkipParamData(std::FILE* file, _XBFParamData* data);
 
 // Size of a data block in bytes: the product of its three factors, any of which may be negative; -1 when the
 // product is negative or overflows.
-std::int64_t XBFDataSize(const _XBFTexture& texture);
+DABCANVAS_CANVAS_API std::int64_t XBFDataSize(const _XBFTexture& texture);
 
 // Frees text or data and clears the pointer.
-void XBFFreeParamData(_XBFParamData* data);
+DABCANVAS_CANVAS_API void XBFFreeParamData(_XBFParamData* data);
 
-int XBFClose(std::FILE* file);  // fclose(); EOF for NULL
+DABCANVAS_CANVAS_API int XBFClose(std::FILE* file);  // fclose(); EOF for NULL
 
 // Whether a stream can be an XBF file at all, damaged or not. There is no magic number: a header of kind 4097
 // is enough, and without it all that follows must make sense, namely as many brushes as the file has room
 // for, a name that fits and a first record of a known type. Leaves the stream at its start.
-bool XBFLooksRight(std::FILE* file);
+DABCANVAS_CANVAS_API bool XBFLooksRight(std::FILE* file);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Preview/LeafDrawing.h"
 
-#include <QLoggingCategory>
 #include <QPainter>
 #include <QPointer>
 #include <algorithm>
@@ -9,9 +8,8 @@
 #include <initializer_list>
 #include <utility>
 
+#include "Canvas/CanvasLog.h"
 #include "Preview/ImageBlur.h"
-
-Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 
 namespace {
 

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "Brushes/ESColor.h"
+#include "Maths/Export.h"
 #include "Preview/LeafFill.h"
 
 // The live preview brush: while the pointer moves, the area that it encloses is shown as one filled, smoothed
@@ -35,7 +36,7 @@
 // Thread   the one that made it; the end of a stroke comes through that thread's event loop.
 // Errors   never throws. A point that is not finite is ignored, with one log line a stroke. A bitmap beyond
 //          the memory at hand is logged at the beginning of a stroke, which then draws nothing.
-class LeafDrawing {
+class DABCANVAS_CANVAS_API LeafDrawing {
 public:
     // Frame: the size of the canvas in buffer pixels. A side that is no number or 0 or less gives a bitmap of
     // 1 pixel.

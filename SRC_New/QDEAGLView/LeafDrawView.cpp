@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "QDEAGLView/LeafDrawView.h"
 
-#include <QLoggingCategory>
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
 
-Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
+#include "Canvas/CanvasLog.h"
+
 
 std::unique_ptr<LeafDrawView> LeafDrawView::initWithFrame(const QRectF& frame, QWidget* parent) {
     for (const double number : {frame.x(), frame.y(), frame.width(), frame.height()}) {

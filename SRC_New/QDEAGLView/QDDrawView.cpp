@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "QDEAGLView/QDDrawView.h"
 
-#include <QLoggingCategory>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWidget>
 
+#include "Canvas/CanvasLog.h"
 #include "QDEAGLView/LeafDrawView.h"
-
-Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
 
 namespace {
 

@@ -6,6 +6,7 @@
 
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 #include "Recognition/ShapeRecord.h"
 
 // One run of dabs for each time that a pen would be put down, placed as placesOnShape() says. Spacing, size
@@ -14,4 +15,5 @@
 // are (1, 1, 1). Empty where placesOnShape() is, and a run where the settings leave its dabs no size. Uses
 // the line process, so it is not for two threads at a time; its state and the selected record stay as they
 // were.
-std::vector<std::vector<LPPoint>> dabsOnShape(const ShapeRecord& shape, const LPLineParams& line);
+DABCANVAS_SHAPES_API std::vector<std::vector<LPPoint>> dabsOnShape(const ShapeRecord& shape,
+                                                                   const LPLineParams& line);

@@ -39,7 +39,7 @@ void appendEvenly(const Points& points, double spacing, Places& places) {
         length += distance(points[i - 1], points[i]);
     }
     const double wanted =
-        std::clamp(std::round(length / spacing), 1.0, static_cast<double>(kMostShapePoints));
+        std::clamp(std::round(length / spacing), 1.0, static_cast<double>(dabcanvas::kMostShapePoints));
     const auto pieces = static_cast<std::size_t>(wanted);
     double walked = 0;
     std::size_t placed = 0;
@@ -180,7 +180,7 @@ bool isDrawable(const ShapeRecord& shape) {
         case ShapeKind::line:
             return fits(2, 2);
         case ShapeKind::foldLine:
-            return fits(2, kMostShapePoints);
+            return fits(2, dabcanvas::kMostShapePoints);
         case ShapeKind::triangle:
             return fits(3, 3);
         case ShapeKind::rectangle:
@@ -192,7 +192,8 @@ bool isDrawable(const ShapeRecord& shape) {
             break;
     }
     return std::isfinite(shape.centre.x) && std::isfinite(shape.centre.y) && shape.a > 0 && shape.b > 0 &&
-           shape.a + shape.b < static_cast<double>(kMostShapePoints) && std::isfinite(shape.rotation) &&
+           shape.a + shape.b < static_cast<double>(dabcanvas::kMostShapePoints) &&
+           std::isfinite(shape.rotation) &&
            (shape.kind == ShapeKind::ellipse ||
             (std::isfinite(shape.startAngle) && std::isfinite(shape.endAngle) &&
              shape.endAngle > shape.startAngle));

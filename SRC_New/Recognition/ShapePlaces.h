@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 #include "Recognition/ShapeRecord.h"
 
 // The places of a shape's dabs, one list for each time that a pen would be put down: an arrow takes two, its
@@ -12,4 +13,5 @@
 // corner and both ends of an open outline have a dab of their own and a closed one shows no seam. Empty for
 // none, for a record that lacks corners or half axes, for numbers that are not finite, for outlines that are
 // longer than kMostShapePoints, and for a spacing that is not above 0.
-std::vector<std::vector<LPPosition>> placesOnShape(const ShapeRecord& shape, double spacing);
+DABCANVAS_SHAPES_API std::vector<std::vector<LPPosition>> placesOnShape(const ShapeRecord& shape,
+                                                                        double spacing);

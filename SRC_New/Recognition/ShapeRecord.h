@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Maths/Export.h"
+
 struct ShapePoint {
     double x = 0;
     double y = 0;
@@ -55,9 +57,9 @@ struct ShapeRecord {
 };
 
 // "line", "foldline", "triangle", "rectangle", "parallelogram", "ellipse", "arc", "arrow", "none".
-std::string_view nameOfShapeKind(ShapeKind kind);
+DABCANVAS_SHAPES_API std::string_view nameOfShapeKind(ShapeKind kind);
 
 // The shape as one pen stroke: a closed one repeats its first point, an arrow goes back over its tip, a
 // round one has a point about every `step` of its outline, but no fewer than 17 and no more than 100,001. Empty for
 // none, and for a round one whose half axes or angles are not finite.
-std::vector<ShapePoint> outlineOfShape(const ShapeRecord& shape, double step = 1);
+DABCANVAS_SHAPES_API std::vector<ShapePoint> outlineOfShape(const ShapeRecord& shape, double step = 1);

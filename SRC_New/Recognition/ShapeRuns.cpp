@@ -24,8 +24,8 @@ bool areFinite(Numbers... numbers) {
 // How many points a line is given; more than can be for one that is too long or not finite.
 std::int64_t pointsOn(const ShapePoint& from, const ShapePoint& to) {
     const double points = std::hypot(to.x - from.x, to.y - from.y) + 1;
-    return points < static_cast<double>(kMostShapePoints) ? static_cast<std::int64_t>(points)
-                                                          : kMostShapePoints + 1;
+    return points < static_cast<double>(dabcanvas::kMostShapePoints) ? static_cast<std::int64_t>(points)
+                                                                     : dabcanvas::kMostShapePoints + 1;
 }
 
 // Calls take(from, to) for every line of the outline.
@@ -42,7 +42,9 @@ void forEachLine(int type, const ShapePoint* points, std::int64_t count, const T
 
 // The number of samples of an outline; 0 for one that cannot be sampled.
 int samplesOf(double wanted) {
-    return wanted >= 1 && wanted <= static_cast<double>(kMostShapePoints) ? static_cast<int>(wanted) : 0;
+    return wanted >= 1 && wanted <= static_cast<double>(dabcanvas::kMostShapePoints)
+               ? static_cast<int>(wanted)
+               : 0;
 }
 
 bool isRoundOutline(const ShapePoint& center, float width, float height, float radian, float pointSize) {
@@ -62,9 +64,9 @@ ShapeRun LineProcess::processLineWithType(int type, const ShapePoint* points, fl
     }
     std::int64_t total = 0;
     forEachLine(type, points, count, [&](const ShapePoint& from, const ShapePoint& to) {
-        total = std::min(total + pointsOn(from, to), kMostShapePoints + 1);
+        total = std::min(total + pointsOn(from, to), dabcanvas::kMostShapePoints + 1);
     });
-    if (total == 0 || total > kMostShapePoints) {
+    if (total == 0 || total > dabcanvas::kMostShapePoints) {
         return {};
     }
     auto* const run = static_cast<LPPoint*>(std::malloc(static_cast<std::size_t>(total) * sizeof(LPPoint)));
@@ -119,7 +121,7 @@ ShapeRun LineProcess::processArcWithCenter(ShapePoint center, float width, float
 }
 
 ShapePoint* CreateArc(int n, float cx, float cy, float a, float b, float rotation, float start, float end) {
-    if (n < 1 || n > kMostShapePoints || !areFinite(cx, cy, a, b, rotation, start, end)) {
+    if (n < 1 || n > dabcanvas::kMostShapePoints || !areFinite(cx, cy, a, b, rotation, start, end)) {
         return nullptr;
     }
     auto* const samples =

@@ -12,16 +12,19 @@
 #include <cstdint>
 
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 #include "Recognition/ShapeRecord.h"
 
+namespace dabcanvas {
 inline constexpr std::int64_t kMostShapePoints = std::int64_t{1} << 22;
+}  // namespace dabcanvas
 
 struct ShapeRun {
     LPPoint* points = nullptr;
     std::uint64_t count = 0;
 };
 
-class LineProcess {
+class DABCANVAS_SHAPES_API LineProcess {
 public:
     // A polygon or polyline through the corners. type 2 closes it, and begins with the side that does; 3
     // leaves it open; any other draws the separate lines from corner 0 to 1, 2 to 3 and so on. Two corners
@@ -45,6 +48,7 @@ public:
 // n points along an elliptical arc of half axes a and b, the end left out; an end below the start is a turn
 // later, and what is a turn or more is the whole ellipse from angle 0. With nothing between start and end the
 // points are (0, 0). Null for an n below 1.
-ShapePoint* CreateArc(int n, float cx, float cy, float a, float b, float rotation, float start, float end);
+DABCANVAS_SHAPES_API ShapePoint* CreateArc(int n, float cx, float cy, float a, float b, float rotation,
+                                           float start, float end);
 // The whole ellipse.
-ShapePoint* CreateEllipses(int n, float cx, float cy, float a, float b, float rotation);
+DABCANVAS_SHAPES_API ShapePoint* CreateEllipses(int n, float cx, float cy, float a, float b, float rotation);

@@ -2,11 +2,12 @@
 // Recognises the shape that a freehand stroke was meant as.
 #pragma once
 
-#include "Recognition/ShapeRecord.h"
-
 #include <span>
 
-class Unitily {
+#include "Maths/Export.h"
+#include "Recognition/ShapeRecord.h"
+
+class DABCANVAS_SHAPES_API Unitily {
 public:
     // The shape of one stroke, tidied up: nearly level lines become level, nearly right angles right, and
     // so on; it stays within a few percent of what was drawn.

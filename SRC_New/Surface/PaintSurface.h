@@ -22,8 +22,9 @@
 #include "Dabs/Dab.h"
 #include "Dabs/Picture.h"
 #include "Dabs/SmudgeDabs.h"
-#include "Pixels/PixelView.h"
-#include "Pixels/Rect.h"
+#include "Maths/Export.h"
+#include "Maths/PixelView.h"
+#include "Maths/Rect.h"
 #include "Surface/TileSet.h"
 
 namespace dabcanvas {
@@ -67,7 +68,7 @@ struct PaintColor {
     float red = 0, green = 0, blue = 0, alpha = 0;  // premultiplied
 };
 
-class PaintSurface {
+class DABCANVAS_DABS_API PaintSurface {
 public:
     explicit PaintSurface(const Size& size) : _size(size), _touched(size) {}
     virtual ~PaintSurface() = default;

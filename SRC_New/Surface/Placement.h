@@ -6,7 +6,8 @@
 
 #include <array>
 
-#include "Pixels/Rect.h"
+#include "Maths/Export.h"
+#include "Maths/Rect.h"
 
 namespace dabcanvas {
 
@@ -15,7 +16,7 @@ struct Point {
     double x = 0, y = 0;
 };
 
-class Placement {
+class DABCANVAS_DABS_API Placement {
 public:
     // A turn that is a quarter turn but for rounding is taken as one.
     Placement(Point centre, double width, double height, double radian);

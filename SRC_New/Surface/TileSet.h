@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "Pixels/Rect.h"
+#include "Maths/Rect.h"
 
 namespace dabcanvas {
 

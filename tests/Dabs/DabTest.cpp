@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+using namespace dabcanvas;
+
 namespace {
 
 constexpr float kPi = 3.14159265f;

@@ -165,7 +165,8 @@ INSTANTIATE_TEST_SUITE_P(
                                  r.setRadiusTingle(1);
                                  r.setStartRadianEnable(true);
                              }},
-                      Jitter{"ThinLine", [](ESLineRender& r) { r.setLineProcessType(kNoThinDabs); }},
+                      Jitter{"ThinLine",
+                             [](ESLineRender& r) { r.setLineProcessType(dabcanvas::kNoThinDabs); }},
                       Jitter{"Clipped", [](ESLineRender& r) { r.setNeedScissor(true); }}),
     byName);
 

@@ -15,6 +15,8 @@
 #include "History/ImagesUndoManager.h"
 #include "support/LogCapture.h"
 
+using namespace dabcanvas;
+
 class HistoryTest : public ::testing::Test {
 protected:
     void SetUp() override {

@@ -21,6 +21,8 @@
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 
+using namespace dabcanvas;
+
 using namespace BrushRecords;
 
 namespace {

@@ -13,6 +13,8 @@
 #include "support/CanvasTest.h"
 #include "support/Named.h"
 
+using namespace dabcanvas;
+
 namespace {
 
 using BrushPropertiesTest = CanvasTest;

@@ -11,6 +11,8 @@
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 
+using namespace dabcanvas;
+
 namespace {
 
 class Statuses : public QDDrawViewDelegate {

@@ -24,7 +24,9 @@
 #include <array>
 #include <memory>
 
-class TextureObject {
+#include "Maths/Export.h"
+
+class DABCANVAS_RENDER_API TextureObject {
 public:
     static constexpr int kMaxImages = 16;
     static constexpr int kMaxImageSide = 2048;

@@ -15,7 +15,9 @@
 #include <QString>
 #include <memory>
 
-class ESProgram {
+#include "Maths/Export.h"
+
+class DABCANVAS_RENDER_API ESProgram {
 public:
     // Compiles and attaches both sources; the vertex array and the buffer stay bound. Never null: a failure
     // shows in link(). A null text (not an empty one) means that there is no source.

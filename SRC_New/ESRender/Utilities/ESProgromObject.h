@@ -8,8 +8,9 @@
 #include <memory>
 
 #include "ESRender/Utilities/ESProgram.h"
+#include "Maths/Export.h"
 
-class ESProgromObject {
+class DABCANVAS_RENDER_API ESProgromObject {
 public:
     ESProgromObject() = default;
     // Deliberate: validates the program one last time before letting go of it.

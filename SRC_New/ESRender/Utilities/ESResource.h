@@ -9,18 +9,20 @@
 #include <QImage>
 #include <QString>
 
+#include "Maths/Export.h"
+
 namespace dabcanvas {
 
 // A path QFile can open: on disk or in the library (":/dabcanvas/…"). Empty when there is no such resource.
-QString resourcePath(const QString& name);
+DABCANVAS_RENDER_API QString resourcePath(const QString& name);
 
 // The same with another folder in place of the library's.
-QString resourcePathIn(const QString& folder, const QString& name);
+DABCANVAS_RENDER_API QString resourcePathIn(const QString& folder, const QString& name);
 
 // The folder that holds the library, found once.
-QString libraryFolder();
+DABCANVAS_RENDER_API QString libraryFolder();
 
 // The image resource of that name; null when it is missing or cannot be decoded.
-QImage imageNamed(const QString& name);
+DABCANVAS_RENDER_API QImage imageNamed(const QString& name);
 
 }  // namespace dabcanvas

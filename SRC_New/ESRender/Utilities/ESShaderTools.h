@@ -4,7 +4,9 @@
 
 #include <QString>
 
-class ESShaderTools {
+#include "Maths/Export.h"
+
+class DABCANVAS_RENDER_API ESShaderTools {
 public:
     // A resource by its name with extension, see ESResource.h.
     static QString readFile(const QString& name);

@@ -8,9 +8,11 @@
 #include <cstdint>
 #include <limits>
 
-class ProgramDictionary : public QHash<QString, QVariant> {
+#include "Maths/Export.h"
+
+class DABCANVAS_RENDER_API ProgramDictionary : public QHash<QString, QVariant> {
 public:
-    static constexpr std::int64_t kNoType = std::numeric_limits<std::int64_t>::max();
+    static constexpr std::int64_t kNoType = (std::numeric_limits<std::int64_t>::max)();
 
     // "Type:" followed by the type in decimal.
     static QString keyFromType(std::uint64_t type);

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "Pixels/Rect.h"
+#include "Maths/Rect.h"
 
 namespace dabcanvas {
 
