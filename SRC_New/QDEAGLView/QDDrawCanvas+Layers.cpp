@@ -34,7 +34,7 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
     if (points == nullptr || layer < ESRenderTypeCanvas || layer >= kRenderTypeCount) {
         return {};
     }
-    const ESCurrentScope current(*_esContext);
+    const StrokeScope current(*this);
     if (!current) {
         return {};
     }

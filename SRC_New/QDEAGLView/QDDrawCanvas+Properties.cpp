@@ -29,6 +29,18 @@ std::uint32_t wholeCount(float value) {
     return static_cast<std::uint32_t>(std::clamp(value, 0.0f, kMostCopies));
 }
 
+// A line record is selected while this lives; then the one that was, which may be a host's.
+class SelectedLine {
+public:
+    explicit SelectedLine(LPLineParams* record) : _before(lpSetParaObj(record)) {}
+    ~SelectedLine() { lpSetParaObj(_before); }
+    SelectedLine(const SelectedLine&) = delete;
+    SelectedLine& operator=(const SelectedLine&) = delete;
+
+private:
+    LPLineParams* _before;
+};
+
 }  // namespace
 
 // ---- The plain rule: clamp, store, send to the line records, send to the renderers
@@ -36,6 +48,7 @@ std::uint32_t wholeCount(float value) {
 // False, with a log line, for a number that is not finite: it would spread through every calculation.
 template <typename Value>
 bool QDDrawCanvas::storeClamped(const BrushProperty& row, Value& value) {
+    dabcanvas::checkThread(*_esContext);
     if (!isFiniteValue(value)) {
         qCWarning(lcDabcanvas, "%s was given a number that is not finite; it keeps its value", row.name);
         return false;
@@ -56,7 +69,7 @@ void QDDrawCanvas::sendToLines(const BrushProperty& row, Value value) {
         if (record == nullptr) {
             return;
         }
-        lpSetParaObj(record);
+        const SelectedLine line(record);
         if constexpr (std::is_same_v<Value, bool>) {
             lpSetPropertyb(row.lineId, value);
         } else if constexpr (std::is_same_v<Value, std::int32_t>) {
@@ -214,6 +227,7 @@ bool QDDrawCanvas::settleStrokeKind(std::int32_t brushType, bool isDebug, bool e
     if (!usesPreview()) {
         finishLayers();
         if (_stroke == Stroke::drawing && !previews) {
+            const StrokeScope scope(*this);
             (smudges ? *_smudgeRender : *_extenRender).resetLineProporty();
         }
     } else if (_stroke == Stroke::drawing) {
@@ -304,10 +318,12 @@ void QDDrawCanvas::setFlow(float value) {
 
 void QDDrawCanvas::setTrackNum(std::int32_t value) {
     assign(BrushKey::trackNum, value);
-    lpSetParaObj(_lineParaObj);
-    lpSetPropertyi(17, value);
+    {
+        const SelectedLine line(_lineParaObj);
+        lpSetPropertyi(17, value);
+    }
     // Deliberate: the sub-line never gathers.
-    lpSetParaObj(_subLineParaObj);
+    const SelectedLine line(_subLineParaObj);
     lpSetPropertyi(17, 0);
 }
 
@@ -318,7 +334,7 @@ void QDDrawCanvas::setRadiusControl(const LPControlParams& value) {
     }
     // Deliberate: the ids do not stand in the order of the record.
     for (LPLineParams* record : {_lineParaObj, _subLineParaObj}) {
-        lpSetParaObj(record);
+        const SelectedLine line(record);
         lpSetPropertyf(6, stored.speed);
         lpSetPropertyf(7, stored.pressure);
         lpSetPropertyf(8, stored.altitude);
@@ -374,6 +390,7 @@ void QDDrawCanvas::setTextureControlValue(float value) {
     _textureTool.setTextureControlValue(_brush.textureControlValue);
     if (_brush.textureType == 2 || _brush.textureType == 3) {
         regenerateTip();
+    _drawnTip = {};
     }
 }
 
@@ -389,7 +406,6 @@ void QDDrawCanvas::setTextureImages(const QList<QImage>& value) {
         return;
     }
     _storedTips = images;
-    _drawnTip = {};
     _textureTool.setImage(images.first());
     useTips(images);
 }
@@ -457,7 +473,7 @@ void QDDrawCanvas::setSlTextureImage(const QImage& value) {
 
 void QDDrawCanvas::setSubRadius(float radius) {
     _brush.slRadius = std::max(radius, 1.0f);
-    lpSetParaObj(_subLineParaObj);
+    const SelectedLine line(_subLineParaObj);
     lpSetPropertyf(1, _brush.slRadius);
 }
 

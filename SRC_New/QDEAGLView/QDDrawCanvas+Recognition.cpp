@@ -168,16 +168,17 @@ bool QDDrawCanvas::drawOutline(const ShapeRecord& shape, bool online) {
     if (!shape) {
         return false;
     }
+    restartRandom();
+    const StrokeScope scope(*this);
+    if (!scope) {
+        return false;
+    }
     const ShapeRecord onBuffer = scaled(shape, recognitionScale());
     const auto mainRuns = dabsOnShape(onBuffer, *_lineParaObj);
     if (mainRuns.empty()) {
         const std::string_view kind = nameOfShapeKind(shape.kind);
         qCWarning(lcDabcanvas, "a %.*s of these points and sizes cannot be drawn",
                   static_cast<int>(kind.size()), kind.data());
-        return false;
-    }
-    const StrokeScope scope(*this);
-    if (!scope) {
         return false;
     }
     _lineRenderRect = _subLineRenderRect = _tempRect = QRectF();

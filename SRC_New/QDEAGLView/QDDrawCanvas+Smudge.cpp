@@ -56,7 +56,7 @@ void QDDrawCanvas::warmUpSmudging() {
     if (std::exchange(_smudgeIsWarm, true)) {
         return;
     }
-    const ESCurrentScope current(*_esContext);
+    const StrokeScope current(*this);
     if (!current) {
         return;
     }

@@ -167,6 +167,7 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
 }
 
 void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
+    restartRandom();
     if (_brush.enableRecogition) {
         beginSketch(point);
     }

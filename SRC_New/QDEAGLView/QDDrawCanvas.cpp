@@ -2,6 +2,7 @@
 // Making and destroying a canvas.
 #include "QDEAGLView/QDDrawCanvas.h"
 
+#include <QRandomGenerator>
 #include <cstdio>
 #include <cstdlib>
 
@@ -68,8 +69,7 @@ bool QDDrawCanvas::initOpenGLESData() {
     }
     _esRender->setLineTextureID(context.lineTexture(), GL_TEXTURE4);
     _esRender->setSubLineTextureID(context.subLineTexture(), GL_TEXTURE5);
-    for (ESLineRender* render :
-         {_extenRender.get(), _subRender.get(), static_cast<ESLineRender*>(_smudgeRender.get())}) {
+    for (ESLineRender* render : lineRenders()) {
         render->setBufferSize(backing);
     }
     _smudgeRender->setSmudgeTextureID(context.smudgeTexture(), GL_TEXTURE7);
@@ -154,7 +154,10 @@ void QDDrawCanvas::releaseLineRecords() {
     }
 }
 
-QDDrawCanvas::QDDrawCanvas(const QRectF& frame) : _frame(frame) {}
+QDDrawCanvas::QDDrawCanvas(const QRectF& frame)
+    : _frame(frame), _generator(QRandomGenerator::global()->generate()) {
+    _strokeState.generator = &_generator;
+}
 
 QDDrawCanvas::~QDDrawCanvas() {
     _leafDrawView.reset();
@@ -189,6 +192,10 @@ void QDDrawCanvas::placePreview(const QImage& image) {
     drawImage(image, QRectF(0, 0, buffer.width() * _outScale.width(), buffer.height() * _outScale.height()));
 }
 
+std::array<ESLineRender*, 3> QDDrawCanvas::lineRenders() const {
+    return {_extenRender.get(), _subRender.get(), _smudgeRender.get()};
+}
+
 QSizeF QDDrawCanvas::bufferSize() const {
     return QSizeF(_esContext->backingWidth(), _esContext->backingHeight());
 }
@@ -203,7 +210,34 @@ QString QDDrawCanvas::rendererName() {
 }
 
 void QDDrawCanvas::setRepeatableRandom(bool repeatable) {
-    _extenRender->setIsDebug(repeatable);
-    _subRender->setIsDebug(repeatable);
-    _smudgeRender->setIsDebug(repeatable);
+    for (ESLineRender* render : lineRenders()) {
+        render->setIsDebug(repeatable);
+    }
+    _repeatsStrokes = repeatable;
+    _restartsRandom = repeatable;
+    if (_stroke != Stroke::drawing) {
+        restartRandom();
+    }
+}
+
+void QDDrawCanvas::setRandomSeed(std::uint32_t seed) {
+    _seed = seed;
+    _restartsRandom = true;
+    if (_stroke != Stroke::drawing) {
+        restartRandom();
+    }
+}
+
+// Where it is due, before a stroke: nothing of an earlier one leads to what comes next.
+void QDDrawCanvas::restartRandom() {
+    if (!std::exchange(_restartsRandom, false) && !_repeatsStrokes) {
+        return;
+    }
+    _generator.seed(_seed);
+    _strokeState = LPSharedState();
+    _strokeState.generator = &_generator;
+    const StrokeScope scope(*this);
+    for (ESLineRender* render : lineRenders()) {
+        render->resetLineProporty();
+    }
 }

@@ -8,6 +8,7 @@
 #include <QSizeF>
 #include <QString>
 #include <QVariant>
+#include <array>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
@@ -50,7 +51,9 @@ struct StrokeStats {
 //          keeps it.
 // Owns     its GL context, layers, renderers and line records. Whatever GL context the caller had current is
 //          current again when a member function returns, and while a delegate is called.
-// Thread   one thread at a time; several canvases of a process may interleave their strokes on one thread.
+// Thread   one thread at a time, asserted in debug builds, and not while an ESCurrentScope of it lives on another.
+//          Several canvases of a process may interleave their strokes on one thread, and canvases on different
+//          threads are independent.
 // Life     to be destroyed before main() returns: OpenGL and Qt may be gone when static objects go.
 // Errors   never throws; a failure is a log line and a false or null result.
 class QDDrawCanvas {
@@ -349,9 +352,16 @@ public:
 
     // ---- Measuring ----
 
-    // Fixed random sequences instead of drand48() for dabs, so that a session on a new canvas repeats. Sizes
-    // jitter by rand() and drand48() all the same: call lpRandom() once and seed both for the same bytes.
+    // Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After
+    // switching this on, or a seed, the same calls paint the same bytes, whatever was painted before; in mid-stroke
+    // that begins with the next one.
+
+    // On: every stroke begins its sequences anew and so repeats by itself. Dabs take fixed values by their number in
+    // the stroke, which ties the attributes of a dab to each other. Off: numbers run on.
     void setRepeatableRandom(bool repeatable);
+    // Begins the canvas's generator, which until then was seeded by chance, and which runs on from stroke to stroke.
+    // While strokes repeat, only the sizes of their dabs depend on it.
+    void setRandomSeed(std::uint32_t seed);
     // Times each stage, waiting for the GL work of each: honest shares, but slower strokes.
     void setProfiling(bool profiling) { _profiling = profiling; }
     const StrokeStats& strokeStats() const { return _stats; }
@@ -680,6 +690,11 @@ private:
     void sendToRenders(const BrushProperty& row, const Value& value);
     void applyCreatedValues();
     void regenerateTip();
+    void drawTip() const;
+    void sendTip();
+    void sendTips(const QList<QImage>& tips);
+    std::array<ESLineRender*, 3> lineRenders() const;
+    void restartRandom();
     void holdTip() { _tipIsHeld = true; }
     void releaseTip(bool regenerate);
     void useTips(const QList<QImage>& tips);
@@ -711,7 +726,12 @@ private:
 
     LPLineParams* _lineParaObj = nullptr;
     LPLineParams* _subLineParaObj = nullptr;
-    LPSharedState _strokeState{};  // this canvas's copy of the line process's globals
+    LPSharedState _strokeState{};   // this canvas's copy of what the line process keeps for a thread
+    bool _strokeStateIsIn = false;  // it is in the line process now
+    LPGenerator _generator;         // whose address _strokeState holds
+    std::uint32_t _seed = 0;        // of repeatable strokes
+    bool _repeatsStrokes = false;
+    bool _restartsRandom = false;  // with the next stroke
 
     // Of the present stroke, in buffer pixels
     QRectF _lineRenderRect;
