@@ -32,7 +32,7 @@ struct BrushSettings {
     std::int32_t textureType = 0;
     float hardness = 0;
     float textureControlValue = 0;
-    QList<QImage> textureImages;
+    mutable QList<QImage> textureImages;  // a drawn one is made when it is looked at
     bool flipX = false;
     bool flipY = false;
     bool needMaskTexture = false;

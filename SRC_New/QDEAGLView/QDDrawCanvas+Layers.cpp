@@ -38,6 +38,7 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
     if (!current) {
         return {};
     }
+    sendTip();
     const StageTimer timer(*this, Stage::drawing);
     if (layer == ESRenderTypeSmudge) {
         return drawSmudges(points, count);

@@ -211,6 +211,9 @@ bool QDDrawCanvas::setBrushValue(const BrushProperty& property, const QVariant& 
 }
 
 QVariant QDDrawCanvas::brushValue(const BrushProperty& property) const {
+    if (property.key == BrushKey::textureImages) {
+        drawTip();
+    }
     return std::visit([&](auto field) { return QVariant::fromValue(_brush.*field); }, property.field);
 }
 
@@ -390,7 +393,6 @@ void QDDrawCanvas::setTextureControlValue(float value) {
     _textureTool.setTextureControlValue(_brush.textureControlValue);
     if (_brush.textureType == 2 || _brush.textureType == 3) {
         regenerateTip();
-    _drawnTip = {};
     }
 }
 
@@ -400,7 +402,7 @@ void QDDrawCanvas::setTextureImages(const QList<QImage>& value) {
                  [](const QImage& image) { return !image.isNull(); });
     if (images.isEmpty()) {
         _brush.textureImages.clear();
-        _drawnTip = {};
+        _wantedTip = _drawnTip = {};
         _brush.textureType = 0;
         _textureTool.setTextureType(0);
         return;
@@ -410,27 +412,23 @@ void QDDrawCanvas::setTextureImages(const QList<QImage>& value) {
     useTips(images);
 }
 
-// Type 0 paints with the tips handed in; any other draws one at the present radius.
+// Type 0 paints with the tips handed in; any other with one of the present radius, which is drawn later: these settings
+// may change thousands of times, by a slider or a preset, and a large tip takes long to draw.
 void QDDrawCanvas::regenerateTip() {
     if (_tipIsHeld) {
         return;
     }
-    if (_brush.textureType == 0) {
-        _drawnTip = {};
-        if (!_storedTips.isEmpty()) {
-            useTips(_storedTips);
-        }
-        return;
-    }
-    const DrawnTip wanted{_brush.textureType, static_cast<int>(_brush.radius), _brush.hardness,
-                          _brush.textureControlValue};
-    if (wanted != _drawnTip) {
-        _drawnTip = wanted;
-        useTips({_textureTool.textureImageWithSize(wanted.size)});
+    if (_brush.textureType != 0) {
+        _wantedTip = {_brush.textureType, static_cast<int>(_brush.radius), _brush.hardness,
+                      _brush.textureControlValue};
+    } else if (!_storedTips.isEmpty()) {
+        useTips(_storedTips);
+    } else {
+        _wantedTip = _drawnTip = {};
     }
 }
 
-// A preset may change what a drawn tip looks like thousands of times, and a large one takes long to draw.
+// A preset may set the type, and with it the tips, many times.
 void QDDrawCanvas::releaseTip(bool regenerate) {
     _tipIsHeld = false;
     if (regenerate) {
@@ -444,6 +442,37 @@ void QDDrawCanvas::useTips(const QList<QImage>& tips) {
         return;
     }
     _brush.textureImages = tips;
+    _wantedTip = _drawnTip = _sentTip = {};
+    sendTips(tips);
+}
+
+void QDDrawCanvas::drawTip() const {
+    if (_wantedTip.type != 0 && _wantedTip != _drawnTip) {
+        _drawnTip = _wantedTip;
+        _brush.textureImages = {_textureTool.textureImageWithSize(_wantedTip.size)};
+    }
+}
+
+// Before dabs are drawn, with the context current. Tips that were handed in are there already.
+void QDDrawCanvas::sendTip() {
+    drawTip();
+    DrawnTip wanted = _wantedTip;
+    QList<QImage> tips = _brush.textureImages;
+    if (tips.isEmpty()) {
+        TexturesTool tool;
+        tool.setTextureType(TexturesTool::kSoftDisc);
+        wanted = {TexturesTool::kSoftDisc, static_cast<int>(_brush.radius), tool.hardness(), 0};
+        if (wanted != _sentTip) {
+            tips = {tool.textureImageWithSize(wanted.size)};
+        }
+    }
+    if (wanted.type != 0 && wanted != _sentTip) {
+        _sentTip = wanted;
+        sendTips(tips);
+    }
+}
+
+void QDDrawCanvas::sendTips(const QList<QImage>& tips) {
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     _extenRender->setTextureImages(tips, GL_TEXTURE1);
     _smudgeRender->setTextureImages(tips, GL_TEXTURE6);

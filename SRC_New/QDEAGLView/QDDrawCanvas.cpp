@@ -107,6 +107,7 @@ bool QDDrawCanvas::initData() {
 // each draws once where nothing is.
 void QDDrawCanvas::warmUp() {
     const LPPoint outside{{-100, -100}, 1, {1, 1, 1}};
+    sendTip();
     _esContext->beginRenderForType(ESRenderTypeLine);
     _esContext->setBlendModelForType(ESRenderTypeLine);
     _extenRender->drawPoints(&outside, 1);

@@ -381,7 +381,10 @@ public:
     // finite.
     bool setBrushValue(const BrushProperty& property, const QVariant& value);
     QVariant brushValue(const BrushProperty& property) const;
-    const BrushSettings& brush() const { return _brush; }
+    const BrushSettings& brush() const {
+        drawTip();
+        return _brush;
+    }
     // The records that the line and the sub-line are drawn by; the canvas's, to look at.
     const LPLineParams& lineParaObj() const { return *_lineParaObj; }
     const LPLineParams& subLineParaObj() const { return *_subLineParaObj; }
@@ -434,7 +437,14 @@ public:
     void setHardness(float value);
     float textureControlValue() const { return _brush.textureControlValue; }
     void setTextureControlValue(float value);
-    QList<QImage> textureImages() const { return _brush.textureImages; }
+    // The tips that dabs have. Of a texture type that draws them, the one at the present radius is drawn when it is
+    // asked for here or the next dab needs it, not at every change of what it depends on.
+    QList<QImage> textureImages() const {
+        drawTip();
+        return _brush.textureImages;
+    }
+    // None: textureType() becomes 0, and dabs have the tip of a new canvas, which is not among textureImages().
+    // Deliberate: only a tip's alpha counts, the brush colour fills it; its own colours show with colorFul() alone.
     void setTextureImages(const QList<QImage>& value);
     bool flipX() const { return _brush.flipX; }
     void setFlipX(bool value) { assign(BrushKey::flipX, value); }
@@ -713,16 +723,18 @@ private:
     std::unique_ptr<ESSmudgeRender> _smudgeRender;
     std::unique_ptr<LeafDrawing> _leafDrawView;
     TexturesTool _textureTool;
-    // What the present tip was drawn from; type 0 when it was handed in.
+    // What a tip is drawn from; type 0 when it was handed in.
     struct DrawnTip {
         std::int32_t type = 0;
         int size = 0;
         float hardness = 0, controlValue = 0;
         bool operator==(const DrawnTip&) const = default;
     };
-    DrawnTip _drawnTip;
-    bool _tipIsHeld = false;    // regenerated once, when it is released
-    QList<QImage> _storedTips;  // what texture type 0 paints with: the tips last handed in
+    DrawnTip _wantedTip;         // what the brush asks for
+    mutable DrawnTip _drawnTip;  // what textureImages() were drawn from
+    DrawnTip _sentTip;           // what the renderers have
+    bool _tipIsHeld = false;     // regenerated once, when it is released
+    QList<QImage> _storedTips;   // what texture type 0 paints with: the tips last handed in
 
     LPLineParams* _lineParaObj = nullptr;
     LPLineParams* _subLineParaObj = nullptr;
