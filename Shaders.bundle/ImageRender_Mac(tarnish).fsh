@@ -35,5 +35,6 @@ void main() {
     float sB = 1.0 - B.a;
     float ra = B.a * sL + L.a;
     vec3 Q = min(sB + B.rgb, sL + L.rgb);
-    fragColor = vec4(Q - (1.0 - ra), ra);
+    // Rounding, here and in the layers' bytes, must not leave a channel above its alpha: it would show as a bright speck.
+    fragColor = vec4(clamp(Q - (1.0 - ra), 0.0, ra), ra);
 }

@@ -14,8 +14,8 @@
 #include "History/ImagesUndoManager.h"
 #include "LineProcess/LPTypes.h"
 #include "Preset/QDBrushManager.h"
-#include "QDEAGLView/LeafDrawing.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "Preview/LeafDrawing.h"
+#include "Canvas/QDDrawCanvas.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 #include "LineProcess/Tingle.h"
 #include "LineProcess/TingleBlocks.h"
+#include "LineProcess/TingleInternal.h"
 
 namespace dabcanvas {
 
@@ -19,13 +19,9 @@ bool isActive(const LPControlParams& control) {
     return control.pressure != 0 || control.altitude != 0 || control.speed != 0;
 }
 
-float mirrored(bool flip, bool atRandom, bool debug, std::int64_t index) {
+float mirrored(bool flip, bool atRandom, std::int64_t index) {
     const float sign = flip ? -1.0f : 1.0f;
-    if (!atRandom) {
-        return sign;
-    }
-    const int random = debug ? PreRandI(static_cast<int>(index & 1023)) : std::abs(std::rand());
-    return random % 2 != 0 ? -sign : sign;
+    return atRandom && dabcanvas::coinAt(index) ? -sign : sign;
 }
 
 }  // namespace
@@ -51,8 +47,8 @@ void DabMaker::reset() {
     _pointIndex = 0;
     _lastPosition = {0, 0};
     _direction = 0;
-    const double turn = settings.isDebug ? PreRandD(0) : drand48();
-    _startRadian = static_cast<float>(6.283185307179586 * turn);
+    SetDebugModel(settings.isDebug ? 1 : 0);
+    _startRadian = static_cast<float>(6.283185307179586 * static_cast<double>(dabcanvas::uniformAt(0)));
 }
 
 void DabMaker::beginRun() {
@@ -112,8 +108,7 @@ const Dab& DabMaker::makeDab() {
         dab.color = jitteredColor();
     }
     if (s.colorFul) {
-        dab.random =
-            static_cast<float>(s.isDebug ? PreRandD(static_cast<int>(_pointIndex & 1023)) : drand48());
+        dab.random = dabcanvas::uniformAt(_pointIndex);
     }
     dab.flow =
         _thinFlow * (_flags.flowTingle ? flowTingleBlock(_point, s.flow, s.flowTingle, s.decay, s.minFlow,
@@ -135,8 +130,8 @@ const Dab& DabMaker::makeDab() {
         dab.halfSize =
             std::max(radiusTingleBlock(_halfSize, s.minRadius * s.radius * 0.5f, s.radiusTingle), 0.0f);
     }
-    dab.flipX = mirrored(s.flipX, s.flipXTingle, s.isDebug, _pointIndex);
-    dab.flipY = mirrored(s.flipY, s.flipYTingle, s.isDebug, _pointIndex);
+    dab.flipX = mirrored(s.flipX, s.flipXTingle, _pointIndex);
+    dab.flipY = mirrored(s.flipY, s.flipYTingle, _pointIndex);
     return dab;
 }
 

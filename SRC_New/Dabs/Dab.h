@@ -55,7 +55,7 @@ struct DabSettings {
     LPControlParams colorControl{};
     float hueTingle = 0, saturationTingle = 0, brightnessTingle = 0;
     bool colorFul = false;
-    bool isDebug = false;  // repeatable random sequences instead of the system's generators
+    bool isDebug = false;  // repeatable random sequences instead of a generator's
     int lineProcessType = 0;
     std::uint32_t numberOfTips = 0;  // tip images handed in; an atlas may hold fewer
     std::uint32_t tipCells = 1;      // cells of the tip's atlas
@@ -78,8 +78,8 @@ struct DabFlags {
 };
 
 // Turns the points of one stroke into dabs. Keeps the stroke's dab counter and direction from call to call;
-// reset() begins the next stroke. Not to be shared between threads: the jitters draw from process-wide
-// generators.
+// reset() begins the next stroke. On one thread at a time: the jitters use that thread's state, and the generator
+// that its LPSharedState brings, or the C library's.
 class DABCANVAS_DABS_API DabMaker {
 public:
     static constexpr std::size_t kMostDabsAPoint = 64;

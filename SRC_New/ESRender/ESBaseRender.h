@@ -70,8 +70,10 @@ public:
 
     // Source loaders. Null (not empty) when there is no such file. Read as Latin-1: sources are ASCII.
     static QString stringWithPath(const QString& path);
-    static QString stringWithFileName(const QString& fileName);  // a resource, see ESResource.h
-    static QByteArray sourceWithString(const QString& string);   // zero-terminated ASCII
+    // A resource, see ESResource.h. Read once a process: a file that changes later is taken by the next process. One
+    // that was missing is looked for again.
+    static QString stringWithFileName(const QString& fileName);
+    static QByteArray sourceWithString(const QString& string);  // zero-terminated ASCII
     static QByteArray sourceWithPath(const QString& path);
     static QByteArray sourceWithFileName(const QString& fileName);
 

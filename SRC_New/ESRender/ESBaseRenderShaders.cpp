@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The part of ESBaseRender that finds shader sources and keeps the programs built from them.
 #include <QFile>
+#include <QHash>
+#include <QMutex>
+#include <QMutexLocker>
 #include <algorithm>
 
 #include "ESRender/ESBaseRender.h"
@@ -109,7 +112,18 @@ QString ESBaseRender::stringWithPath(const QString& path) {
 }
 
 QString ESBaseRender::stringWithFileName(const QString& fileName) {
-    return stringWithPath(dabcanvas::resourcePath(fileName));
+    static QMutex mutex;
+    static QHash<QString, QString> known;
+    const QMutexLocker lock(&mutex);
+    const auto read = known.constFind(fileName);
+    if (read != known.constEnd()) {
+        return *read;
+    }
+    const QString text = stringWithPath(dabcanvas::resourcePath(fileName));
+    if (!text.isNull()) {
+        known.insert(fileName, text);
+    }
+    return text;
 }
 
 QByteArray ESBaseRender::sourceWithString(const QString& string) {

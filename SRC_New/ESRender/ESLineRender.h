@@ -63,6 +63,7 @@ public:
     // ---- brush; the canvas's properties of the same names tell ranges and meaning
 
     using ESBaseRender::setTextureImage;
+    // Deliberate: outside of multicolour (setColorFul()) a tip's own colour is ignored; its alpha is the shape.
     void setTextureImage(const QImage& image, GLenum atPosition) override;
     void setTextureImages(const QList<QImage>& images, GLenum atPosition) override;
     void setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) override;

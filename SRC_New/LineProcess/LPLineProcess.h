@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The whole line process: strokes, their dabs, and the jitter of the dabs' attributes. Plain functions over
-// plain records, on one thread at a time; no Qt and no GL.
+// plain records, with a state of its own on every thread; no Qt and no GL.
 #pragma once
 
 #include "LineProcess/ColorTypes.h"

@@ -97,8 +97,8 @@ Value load(int id) {
 
 }  // namespace
 
-LPLineParams _lpDefaultParaObj = kDefaults;
-LPLineParams* _lpParaObj = &_lpDefaultParaObj;
+thread_local LPLineParams _lpDefaultParaObj = kDefaults;
+thread_local LPLineParams* _lpParaObj = &_lpDefaultParaObj;
 
 LPLineParams* lpSetParaObj(LPLineParams* record) {
     LPLineParams* const before = _lpParaObj;

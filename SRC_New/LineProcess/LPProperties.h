@@ -2,10 +2,11 @@
 // The record that configures a line and carries the state of its stroke, and its numbered properties.
 //
 // Use      one record a line (the canvas has two). Select a record with lpSetParaObj() just before every
-//          call: the selection is process-wide and another caller may have moved it.
+//          call: another caller on the thread may have moved the selection.
 // Memory   the client allocates the record, by its size, and sets every property that it relies on; the
 //          state fields are reset when a stroke starts. Neither is ever freed here.
-// Thread   no locks; make every call of this library from one thread at a time.
+// Thread   the selection and the default record are one per thread, on purpose: strokes on different threads
+//          are independent. No locks; a record belongs to one thread at a time.
 #pragma once
 
 #include <cstddef>
@@ -60,8 +61,8 @@ static_assert(sizeof(LPLineParams) == 144 && offsetof(LPLineParams, pointsDistan
                   offsetof(LPLineParams, minPointsDistance) == 140,
               "clients allocate and address the record by this layout");
 
-DABCANVAS_STROKE_API extern LPLineParams _lpDefaultParaObj;
-DABCANVAS_STROKE_API extern LPLineParams* _lpParaObj;  // the current record; at first the default one
+DABCANVAS_STROKE_API extern thread_local LPLineParams _lpDefaultParaObj;
+DABCANVAS_STROKE_API extern thread_local LPLineParams* _lpParaObj;  // the current record; at first the default one
 
 // Makes the record current, null meaning the default one. Returns the one that was current before.
 DABCANVAS_STROKE_API LPLineParams* lpSetParaObj(LPLineParams* record);

@@ -20,11 +20,10 @@ double polarScale(double S) {
 }  // namespace
 
 float lpRandom() {
-    static bool seeded = false;
-    if (!seeded) {
-        seeded = true;
+    [[maybe_unused]] static const bool seeded = [] {
         std::srand(static_cast<unsigned>(std::time(nullptr)));
-    }
+        return true;
+    }();
     return std::min(static_cast<float>(std::rand()) * kRandScale, kBelowOne);
 }
 
@@ -33,9 +32,9 @@ float lpUniformRandom(float low, float high) {
 }
 
 float lpGaussianRandom(float mean, float deviation) {
-    static int phase = 0;
-    static double S = 0.0;
-    static double V2 = 0.0;
+    thread_local int phase = 0;
+    thread_local double S = 0.0;
+    thread_local double V2 = 0.0;
     double X = 0.0;
     if (phase == 0) {
         double V1 = 0.0;

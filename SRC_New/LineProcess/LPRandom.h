@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The random numbers of the line process. The generator and the half-used normal pair are process-wide.
+// Random numbers from the C library's rand(), which the whole process shares; the half-used normal pair is one
+// per thread. For clients: strokes that a canvas draws have a generator of their own, see LPSharedState.h.
 #pragma once
 
 #include "Maths/Export.h"

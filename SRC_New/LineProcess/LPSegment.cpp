@@ -8,17 +8,17 @@
 #include "LineProcess/LPArc.h"
 #include "LineProcess/LPGeometry.h"
 #include "LineProcess/LPProperties.h"
-#include "LineProcess/LPRandom.h"
 #include "LineProcess/LPSettings.h"
+#include "LineProcess/TingleInternal.h"
 
-float newSegPressure = 1.0f;
-float newSegAltitude = 1.0f;
-float newSegSpeed = 1.0f;
-float newSegValue = 1.0f;
-float newSegRadius = 0.0f;
-bool needStartDur = false;
-bool needEnd = false;
-float minRadius = 0.0f;
+constinit thread_local float newSegPressure = 1.0f;
+constinit thread_local float newSegAltitude = 1.0f;
+constinit thread_local float newSegSpeed = 1.0f;
+constinit thread_local float newSegValue = 1.0f;
+constinit thread_local float newSegRadius = 0.0f;
+constinit thread_local bool needStartDur = false;
+constinit thread_local bool needEnd = false;
+constinit thread_local float minRadius = 0.0f;
 
 namespace {
 
@@ -42,13 +42,17 @@ inline void append(LPTrace* trace, const LPPoint& dab) {
     }
 }
 
-// The settings that a segment's dabs depend on, read once and made finite.
+// The settings that a segment's dabs depend on, read once and made finite. The values of the thread are read once
+// too: each look at one costs more than a dab's arithmetic with it.
 struct DabRule {
     float radius, low, high, tingle;
     LPControlParams control;
     float startRadius, endRadius, taperLength;
     float strokeLength, lastRadius;
-    LPControlParams from;
+    LPControlParams from, to;
+    float leastRadius;  // under jitter
+    bool ends;
+    bool& starts;  // the start taper is active
 
     explicit DabRule(const LPLineParams& line)
         : radius(finiteOr(line.radius, 20.0f)),
@@ -62,7 +66,11 @@ struct DabRule {
           taperLength(line.strokeControlValue),
           strokeLength(line.strokeLength),
           lastRadius(line.lastRadius),
-          from{line.segPressure, line.segAltitude, line.segSpeed} {}
+          from{line.segPressure, line.segAltitude, line.segSpeed},
+          to{newSegPressure, newSegAltitude, newSegSpeed},
+          leastRadius(minRadius),
+          ends(needEnd),
+          starts(needStartDur) {}
 
     LPControlParams inputsAt(float f) const;
     float relativeRadius(const LPControlParams& inputs) const;
@@ -73,11 +81,11 @@ struct DabRule {
 
 LPControlParams DabRule::inputsAt(float f) const {
     LPControlParams inputs = {kNoPressure, 0.0f, 0.0f};
-    if (newSegPressure != kNoPressure) {
-        inputs.pressure = clampedToUnit(from.pressure + (newSegPressure - from.pressure) * f);
+    if (to.pressure != kNoPressure) {
+        inputs.pressure = clampedToUnit(from.pressure + (to.pressure - from.pressure) * f);
     }
-    inputs.altitude = clampedToUnit(from.altitude + (newSegAltitude - from.altitude) * f);
-    inputs.speed = clampedToUnit(from.speed + (newSegSpeed - from.speed) * f);
+    inputs.altitude = clampedToUnit(from.altitude + (to.altitude - from.altitude) * f);
+    inputs.speed = clampedToUnit(from.speed + (to.speed - from.speed) * f);
     return inputs;
 }
 
@@ -120,22 +128,22 @@ float DabRule::startRamp(float t) const {
 
 float DabRule::radiusAt(float distance, float f, const LPControlParams& inputs) const {
     float r = relativeRadius(inputs) * radius;
-    if (needStartDur) {
+    if (starts) {
         const float t = distance + strokeLength;
         if (t <= taperLength) {
             const float ramp = startRamp(t);
             r = ramp < r ? ramp : r;
         } else {
-            needStartDur = false;
+            starts = false;
         }
     }
-    if (needEnd) {
+    if (ends) {
         r = lastRadius + (radius * endRadius - lastRadius) * f;
     }
     if (std::fabs(tingle) >= kSlack) {
         const float least = (1.0f - tingle) * r;
-        r = least + (r - least) * lpRandom();
-        r = r < minRadius ? minRadius : r;
+        r = least + (r - least) * dabcanvas::lineRandom();
+        r = r < leastRadius ? leastRadius : r;
     }
     return r;
 }

@@ -3,7 +3,7 @@
 // LPStroke.h is what clients call; these are its parts.
 //
 // State    the current record (LPProperties.h) gives the settings and where the walk left off; the globals
-//          below give the segment's end values and the tapers. All are process-wide, see LPSharedState.h.
+//          below give the segment's end values and the tapers. All are one per thread, see LPSharedState.h.
 // Settings that are not finite count as their defaults, a negative spacing as 0. No setting makes a walk
 //          endless: a step is at least minPointsDistance and 0.001, or 0.01 where the former is not above 0,
 //          and a segment has at most some 2^17 steps.
@@ -15,14 +15,14 @@
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
 
-DABCANVAS_STROKE_API extern float newSegPressure;  // values at the end of the segment being built
-DABCANVAS_STROKE_API extern float newSegAltitude;
-DABCANVAS_STROKE_API extern float newSegSpeed;
-DABCANVAS_STROKE_API extern float newSegValue;   // not used here
-DABCANVAS_STROKE_API extern float newSegRadius;  // not used here
-DABCANVAS_STROKE_API extern bool needStartDur;   // the start taper is active
-DABCANVAS_STROKE_API extern bool needEnd;        // this is the last segment and it has a taper
-DABCANVAS_STROKE_API extern float minRadius;     // floor of the radius under jitter, in drawing units
+DABCANVAS_STROKE_API extern constinit thread_local float newSegPressure;  // values at the end of the segment being built
+DABCANVAS_STROKE_API extern constinit thread_local float newSegAltitude;
+DABCANVAS_STROKE_API extern constinit thread_local float newSegSpeed;
+DABCANVAS_STROKE_API extern constinit thread_local float newSegValue;   // not used here
+DABCANVAS_STROKE_API extern constinit thread_local float newSegRadius;  // not used here
+DABCANVAS_STROKE_API extern constinit thread_local bool needStartDur;   // the start taper is active
+DABCANVAS_STROKE_API extern constinit thread_local bool needEnd;        // this is the last segment and it has a taper
+DABCANVAS_STROKE_API extern constinit thread_local float minRadius;     // floor of the radius under jitter, in drawing units
 
 // Works out the dab that lies distance into a segment of segmentLength and appends it to the trace when its
 // radius is above 0. Returns the radius in any case, 0 standing for one that is not finite.

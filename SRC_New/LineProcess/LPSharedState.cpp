@@ -21,6 +21,7 @@ LPSharedState lpSharedState() {
     state.scatterStart[1] = tingle.scatterStart[1];
     state.pIndex = tingle.pIndex;
     state.debugDraws = tingle.debugDraws;
+    state.generator = tingle.generator;
     return state;
 }
 
@@ -37,5 +38,7 @@ void lpSetSharedState(const LPSharedState& state) {
                               state.lastPosition,
                               {state.scatterStart[0], state.scatterStart[1]},
                               state.pIndex,
-                              state.debugDraws};
+                              state.debugDraws,
+                              state.generator,
+                              dabcanvas::tingleState.debug};
 }

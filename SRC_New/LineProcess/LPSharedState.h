@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: MIT
-// The process-wide state of a stroke, to take out and put back.
+// The state of a stroke that a thread keeps, to take out and put back.
 //
 // Records are separate, but the tapers, the segment's end values and the jitter's memory of the last place
-// are one set for all. Where two canvases draw at the same time, each keeps an LPSharedState: it puts its own
-// in before a run of calls and takes it out after. Cheap to copy; owns nothing. The random generators are
-// left out, as they are meant to run on, and so are the trace and the handed-out dabs, which no call needs
-// from an earlier one.
+// are one set for all lines of a thread: one a thread and not one a process, on purpose, so that threads draw
+// independently. Where two canvases take turns on a thread, each keeps an LPSharedState: it puts its own in
+// before a run of calls and takes it out after; so a stroke may also go on on another thread. Cheap to copy; owns
+// nothing. Left out are the trace and the handed-out dabs, which no call needs from an earlier one, the debug flag,
+// and the C library's generators.
 #pragma once
 
 #include <cstdint>
+#include <random>
 
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
+
+// Quick, as a dab may draw a dozen numbers; its upper bits are the random ones.
+using LPGenerator =
+    std::linear_congruential_engine<std::uint64_t, 6364136223846793005u, 1442695040888963407u, 0>;
 
 struct LPSharedState {
     // As in LPSegment.h.
@@ -29,6 +35,9 @@ struct LPSharedState {
     float scatterStart[2] = {0.0f, 0.0f};  // where the copies at lastPosition start, each 0..1
     std::int64_t pIndex = 0;               // copies placed at lastPosition, less one
     std::int64_t debugDraws = 0;           // values HSVTingle() took from the table in debug mode
+    // What lines and dabs draw their random numbers from while this state is in, in place of rand() and drand48(),
+    // which then are neither read nor moved. Null: from those. The caller's; it runs on meanwhile.
+    LPGenerator* generator = nullptr;
 };
 
 DABCANVAS_STROKE_API LPSharedState lpSharedState();

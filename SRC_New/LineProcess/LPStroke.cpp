@@ -14,8 +14,8 @@
 #include "LineProcess/LPSettings.h"
 #include "LineProcess/LPTrace.h"
 
-LPPoint* _lpPoints = nullptr;
-std::int32_t _lpNumberOfPoints = 0;
+constinit thread_local LPPoint* _lpPoints = nullptr;
+constinit thread_local std::int32_t _lpNumberOfPoints = 0;
 
 namespace {
 

@@ -3,10 +3,14 @@
 //
 // Use      lpStartLine...() at pointer-down, lpAppendingLine...() at every move, and once more with end true
 //          at pointer-up; after each, fetch the dabs. Select the record with lpSetParaObj() just before
-//          every call, as it is process-wide.
+//          every call, as it is the whole thread's.
 // Samples  positions in the record's own unit (the canvas passes buffer pixels), within 1e18 of 0; pressure
 //          0..1, or exactly -1 throughout when the device gives none; altitude 0..1. A coordinate, pressure
 //          or altitude that is not finite is read as its previous value.
+// Thread   the handed-out dabs and all that a stroke keeps outside of its record are one per thread, on purpose:
+//          strokes on different threads are independent. LPSharedState.h takes a stroke along.
+// Spacing  is pointsDistance times the dab's radius. Deliberate: on curves that are nearly straight, but not quite, it
+//          may be up to twice that, see lpLengthOfQuadraticBezierGivenParam() in LPGeometry.h.
 // Cost     a call works on its new segment alone, however long the stroke.
 #pragma once
 
@@ -15,8 +19,8 @@
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
 
-DABCANVAS_STROKE_API extern LPPoint* _lpPoints;  // the dabs of the last call; null when there were none
-DABCANVAS_STROKE_API extern std::int32_t _lpNumberOfPoints;  // how many
+DABCANVAS_STROKE_API extern constinit thread_local LPPoint* _lpPoints;  // the dabs of the last call; null when there were none
+DABCANVAS_STROKE_API extern constinit thread_local std::int32_t _lpNumberOfPoints;  // how many
 
 // Begin a stroke. Produces no dab; the first comes with the first accepted move. The short forms stand for
 // full pressure and altitude 1.

@@ -12,11 +12,23 @@ constexpr std::uint32_t kSmallCapacity = 16;
 constexpr std::uint32_t kSmallGrowth = 16;
 constexpr std::uint32_t kGrowth = 30;
 
+// A thread may end in the middle of a stroke.
+struct EndOfThread {
+    ~EndOfThread() { lpFreeTrace(&_lpTrace); }
+};
+
+void freeAtEndOfThread(const LPTrace* trace) {
+    if (trace == &_lpTrace) {
+        [[maybe_unused]] thread_local const EndOfThread end;
+    }
+}
+
 }  // namespace
 
-LPTrace _lpTrace = {nullptr, 0, 0};
+constinit thread_local LPTrace _lpTrace = {nullptr, 0, 0};
 
 void lpInitTrace(LPTrace* trace) {
+    freeAtEndOfThread(trace);
     if (trace->capacity != 0) {
         std::free(trace->points);
     }
@@ -42,6 +54,7 @@ std::int32_t lpFreeTrace(LPTrace* trace) {
 }
 
 bool lpReAllocTrace(LPTrace* trace) {
+    freeAtEndOfThread(trace);
     const std::uint32_t growth = trace->capacity < kSmallCapacity ? kSmallGrowth : kGrowth;
     LPPoint* grown = nullptr;
     if (trace->capacity <= std::numeric_limits<std::uint32_t>::max() - growth) {

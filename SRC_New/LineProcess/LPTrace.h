@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// A growable array of dabs, and the one instance that a stroke's segments are built into.
+// A growable array of dabs, and the one instance a thread that a stroke's segments are built into.
 //
-// Owns     its points, from malloc; capacity 0 means that it owns nothing.
+// Owns     its points, from malloc; capacity 0 means that it owns nothing. What a thread's instance still owns
+//          at the thread's end goes with it.
 // Errors   a message on standard output, without a line end, and a false result.
 #pragma once
 
@@ -16,7 +17,7 @@ struct LPTrace {
     std::uint32_t capacity;
 };
 
-DABCANVAS_STROKE_API extern LPTrace _lpTrace;
+DABCANVAS_STROKE_API extern constinit thread_local LPTrace _lpTrace;
 
 // Drops what the trace owns and makes room for 10 points. When that fails, points is null though
 // capacity reads 10; the trace stays safe to use.

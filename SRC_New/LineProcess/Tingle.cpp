@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "LineProcess/LPRandom.h"
 #include "LineProcess/LPSettings.h"
 #include "LineProcess/TingleInternal.h"
 #include "LineProcess/TingleTables.h"
@@ -27,13 +28,18 @@ constexpr double kTurn = 6.283185307179586;
 constexpr int kMostCopies = 64;
 constexpr double kMostTips = 9007199254740992.0;  // 2^53, beyond all atlases; whole in a double
 
-int debugModel = 0;
-
 float tableValue(std::int64_t index) {
     return FloatValue[index & (dabcanvas::kTingleTableSize - 1)];
 }
 
+float uniformOf(LPGenerator& generator) {
+    return static_cast<float>(generator() >> 40) * 0x1p-24f;  // as many bits as a float has
+}
+
 float uniform() {
+    if (tingleState.generator != nullptr) {
+        return uniformOf(*tingleState.generator);
+    }
     // Rounding to float can reach 1; the next value below keeps the interval open.
     return std::min(std::fabs(static_cast<float>(drand48())), 0x1.fffffep-1f);
 }
@@ -69,10 +75,21 @@ bool holdsTilt(const LPControlParams& control, const LPControlParams& inputs) {
 
 namespace dabcanvas {
 
-TingleState tingleState;
+constinit thread_local TingleState tingleState;
 
 float uniformAt(std::int64_t index) {
-    return debugModel != 0 ? tableValue(index) : uniform();
+    return tingleState.debug ? tableValue(index) : uniform();
+}
+
+bool coinAt(std::int64_t index) {
+    if (tingleState.debug) {
+        return IntValue[index & (kTingleTableSize - 1)] % 2 != 0;
+    }
+    return tingleState.generator != nullptr ? (*tingleState.generator)() >> 63 != 0 : std::rand() % 2 != 0;
+}
+
+float lineRandom() {
+    return tingleState.generator != nullptr ? uniformOf(*tingleState.generator) : lpRandom();
 }
 
 float influence(const LPControlParams& inputs, const LPControlParams& control) {
@@ -105,7 +122,7 @@ std::uint64_t countOfCopies(std::uint64_t count, std::uint64_t index, float amou
 }  // namespace dabcanvas
 
 void SetDebugModel(int model) {
-    debugModel = model;
+    tingleState.debug = model != 0;
 }
 
 float PreRandD(int index) {
@@ -117,7 +134,9 @@ std::int32_t PreRandI(int index) {
 }
 
 float RadiusTingle(float radius, float minimum, float amount) {
-    const double cut = static_cast<double>(radius - minimum) * drand48() * static_cast<double>(amount);
+    const double drawn =
+        tingleState.generator != nullptr ? static_cast<double>(uniformOf(*tingleState.generator)) : drand48();
+    const double cut = static_cast<double>(radius - minimum) * drawn * static_cast<double>(amount);
     return finiteOr(static_cast<float>(static_cast<double>(radius) - cut), finiteOr(radius, 0.0f));
 }
 
@@ -296,7 +315,7 @@ RgbType HSVTingle(RgbType colour, float hueAmount, float saturationAmount, float
         return colour;
     }
     const auto swing = [](float amount) {
-        const float u = debugModel != 0 ? tableValue(tingleState.debugDraws++) : uniform();
+        const float u = tingleState.debug ? tableValue(tingleState.debugDraws++) : uniform();
         return finiteOr((2.0f * u - 1.0f) * amount, 0.0f);
     };
     HsvType hsv = Rgb_to_Hsv(colour);

@@ -6,8 +6,9 @@
 //   index    number of the dab's point in the stroke, from 1 on
 //   control  signed strengths of pressure, altitude and speed; 0 is none
 //
-// Random   from drand48(), which nothing here seeds, or in debug mode from fixed tables by the index.
-// Thread   the debug flag, the last direction and the last place are process-wide, see LPSharedState.h.
+// Random   from the generator that LPSharedState brings, without one from drand48(), which nothing here seeds; or in
+//          debug mode from fixed tables by the index.
+// Thread   the debug flag, the last direction and the last place are one per thread, on purpose, see LPSharedState.h.
 // Errors   every result is finite: where an input leads to none, the base comes back, or what is said below.
 #pragma once
 
@@ -24,7 +25,7 @@ DABCANVAS_STROKE_API void SetDebugModel(int model);
 DABCANVAS_STROKE_API float PreRandD(int index);
 DABCANVAS_STROKE_API std::int32_t PreRandI(int index);
 
-// A radius between radius and minimum. Uses drand48() in debug mode as well.
+// A radius between radius and minimum. Draws in debug mode as well.
 DABCANVAS_STROKE_API float RadiusTingle(float radius, float minimum, float amount);
 
 // The direction of to - from in radians, -3 pi / 2 to pi / 2: the left half plane lies below -pi / 2. Two

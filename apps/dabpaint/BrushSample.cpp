@@ -109,7 +109,7 @@ Result<QImage> brushSample(const Brush& brush, const std::vector<BrushPlan::Step
     if (!made)
         return made.problem();
     QDDrawCanvas& canvas = **made;
-    seedRandom();  // the canvas's own fixed numbers would tie a dab's tip to its colour
+    canvas.setRandomSeed(1);  // the canvas's own fixed numbers would tie a dab's tip to its colour
     brush.applyTo(canvas);
     for (const auto& [property, value] : settings) {
         if (!canvas.setBrushValue(*property, *value))

@@ -160,7 +160,7 @@ private:
         if (_options.undo > 0)
             _canvas->undoManager();  // takes a random number, which the strokes' must not depend on
         if (_options.repeatable)
-            makeRepeatable(*_canvas);
+            _canvas->setRepeatableRandom(true);
         _canvas->setProfiling(_options.stats);
         _canvas->clearWithColor(ESColor(_job.background), false);
         _canvas->setEnableRecogition(_options.recognise);

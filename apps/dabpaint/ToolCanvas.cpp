@@ -3,9 +3,7 @@
 
 #include <QBuffer>
 #include <QImageWriter>
-#include <cstdlib>
 
-#include "LineProcess/LPRandom.h"
 #include "LogCatcher.h"
 
 namespace dabcanvas::dabpaint {
@@ -23,17 +21,6 @@ Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size) {
     if (!log.lines().isEmpty())
         wrong += QStringLiteral(" (%1)").arg(log.lines().first());
     return Problem{0, {}, wrong};
-}
-
-void makeRepeatable(QDDrawCanvas& canvas) {
-    canvas.setRepeatableRandom(true);
-    seedRandom();
-}
-
-void seedRandom() {
-    lpRandom();  // its first call seeds from the clock; after that the seed given here stays
-    std::srand(1);
-    ::srand48(1);
 }
 
 QString encodePng(const QImage& image, QByteArray& bytes) {

@@ -16,12 +16,6 @@ namespace dabcanvas::dabpaint {
 // An empty canvas of this many pixels with the default brush.
 Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size);
 
-// Takes fixed random numbers from here on, from their beginning.
-void makeRepeatable(QDDrawCanvas& canvas);
-
-// Begins the process's random numbers anew, which the canvas takes its jitter from unless it is repeatable.
-void seedRandom();
-
 // Paints one stroke; `advance` is called after every sample.
 template <typename Advance>
 void paintSamples(QDDrawCanvas& canvas, const std::vector<RecordedSample>& samples, const Advance& advance) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <cstring>
 #include <set>
+#include <thread>
 
 #include "LineProcess/StrokeFixture.h"
 
@@ -47,7 +48,7 @@ TEST_F(StrokeTest, StoresReachTheirFieldAndNotPastTheRecord) {
     lpSetParaObj(&_line);
 }
 
-// Two canvases draw a stroke each, taking turns at every sample.
+// Two canvases draw a stroke each, taking turns at every sample or on a thread each.
 TEST_F(StrokeTest, InterleavedStrokesDoNotDisturbEachOther) {
     const auto place = [](int stroke, int i) {
         const float t = static_cast<float>(i);
@@ -68,6 +69,7 @@ TEST_F(StrokeTest, InterleavedStrokesDoNotDisturbEachOther) {
     constexpr int kSamples = 14;
     Dabs alone[2];
     Dabs together[2];
+    Dabs threaded[2];
     SetDebugModel(1);
     const auto step = [&](int stroke, int i, Dabs& out) {
         lpSetParaObj(&lines[stroke]);
@@ -95,11 +97,27 @@ TEST_F(StrokeTest, InterleavedStrokesDoNotDisturbEachOther) {
             }
         }
     }
+    std::vector<std::thread> painters;
     for (int stroke = 0; stroke < 2; ++stroke) {
-        ASSERT_EQ(alone[stroke].size(), together[stroke].size());
-        EXPECT_EQ(std::memcmp(alone[stroke].data(), together[stroke].data(),
-                              alone[stroke].size() * sizeof(LPPoint)),
-                  0);
+        painters.emplace_back([&, stroke] {
+            SetDebugModel(1);
+            for (int round = 0; round < 200; ++round) {
+                threaded[stroke].clear();
+                lpSetSharedState(fresh);
+                for (int i = 0; i < kSamples - stroke; ++i) {
+                    step(stroke, i, threaded[stroke]);
+                }
+            }
+        });
+    }
+    for (std::thread& painter : painters) {
+        painter.join();
+    }
+    for (int stroke = 0; stroke < 2; ++stroke) {
+        for (const Dabs* dabs : {&together[stroke], &threaded[stroke]}) {
+            ASSERT_EQ(alone[stroke].size(), dabs->size());
+            EXPECT_EQ(std::memcmp(alone[stroke].data(), dabs->data(), dabs->size() * sizeof(LPPoint)), 0);
+        }
     }
     lpSetParaObj(&_line);
 }

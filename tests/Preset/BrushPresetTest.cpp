@@ -257,6 +257,12 @@ TEST_F(BrushPresetTest, TheTipIsDrawnOnceWhateverAPresetSays) {
     canvas->setTextureType(2);
     canvas->setTextureType(1);
     EXPECT_EQ(canvas->textureImages()[0], drawn);
+    const qint64 beforeSlider = imagesMade();
+    for (int i = 0; i < 200; ++i) {
+        canvas->setRadius(20.0f + static_cast<float>(i % 100));
+    }
+    canvas->setRadius(21);
+    EXPECT_LT(imagesMade() - beforeSlider, 5) << "nobody looked";
     canvas->setTextureImages({});
     canvas->setTextureType(1);
     EXPECT_EQ(canvas->textureImages(), QList<QImage>{drawn}) << "after a brush without images";

@@ -286,13 +286,21 @@ TEST_F(BrushPropertiesTest, TheSecondLineFollowsTheFirst) {
     EXPECT_FLOAT_EQ(canvas->slRadius(), 1);
 }
 
-TEST_F(BrushPropertiesTest, WithoutTipsTheTextureTypeIsZeroAndTheLastTipStays) {
+TEST_F(BrushPropertiesTest, WithoutTipsTheTextureTypeIsZeroAndDabsHaveANewCanvassTip) {
     auto canvas = makeCanvas();
+    auto fresh = makeCanvas();
     canvas->setTextureImages(twoTips());
     canvas->setTextureImages({});
     EXPECT_EQ(canvas->textureType(), 0);
-    paintWave(*canvas);
-    EXPECT_FALSE(painted(canvas->image()).isNull());
+    for (const float radius : {32.0f, 80.0f}) {
+        for (QDDrawCanvas* one : {canvas.get(), fresh.get()}) {
+            one->setRadius(radius);
+            paintWave(*one);
+        }
+        EXPECT_TRUE(imagesMatch(canvas->image(), fresh->image())) << radius;
+    }
+    EXPECT_TRUE(canvas->textureImages().isEmpty());
+    canvas->setRadius(32);
     canvas->setTextureType(1);
     EXPECT_EQ(canvas->textureImages().first().width(), 32) << "drawn at the radius";
     canvas->setTextureType(0);

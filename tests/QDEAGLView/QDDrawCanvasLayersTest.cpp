@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <string>
 
 #include "ESRender/ESImageRender.h"
@@ -102,6 +103,30 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
         return canvas->image();
     };
     EXPECT_TRUE(imagesMatch(paint(false), paint(true)));
+}
+// A premultiplied channel above its alpha is no colour, and shows as a bright speck.
+TEST_P(CanvasBlendTest, NoChannelIsEverAboveItsAlpha) {
+    auto canvas = makeCanvas();
+    canvas->setRepeatedlyRenderEnabled(true);
+    canvas->setFlow(0.3f);
+    canvas->setHueTingle(0.8f);
+    for (int stroke = 0; stroke < 6; ++stroke) {
+        canvas->setBrushType(stroke == 4 ? 3 : 0);
+        canvas->setOpacity(stroke % 2 == 0 ? 0.5f : 0.83f);
+        canvas->setBlendType(stroke == 0 ? 1 : GetParam());
+        canvas->setRenderColor(ESColor::rgba(0.15f * static_cast<float>(stroke), 0.9f, 0.4f));
+        paintWave(*canvas, 40 + 12 * stroke, 30, [&](int move) {
+            for (int layer = 0; move % 10 == 0 && layer < kRenderTypeCount; ++layer) {
+                const QImage pixels = canvas->esContext().imageForType(static_cast<ESRenderType>(layer));
+                const auto* const bytes = pixels.constBits();
+                int above = 0;
+                for (qsizetype i = 0; i < pixels.sizeInBytes(); i += 4) {
+                    above += std::max({bytes[i], bytes[i + 1], bytes[i + 2]}) > bytes[i + 3] ? 1 : 0;
+                }
+                ASSERT_EQ(above, 0) << "layer " << layer << ", stroke " << stroke;
+            }
+        });
+    }
 }
 TEST_P(CanvasBlendTest, ShownPixelsAreTheCanvas) {
     auto canvas = makeCanvas(211, 133);

@@ -108,8 +108,6 @@ TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
     drag(5, 20);
     canvas->mouseUp(at(120));
     for (QDDrawCanvas* one : {canvas.get(), fresh.get()}) {
-        srand(1);
-        srand48(1);
         paintWave(*one, 90);
     }
     EXPECT_TRUE(imagesMatch(canvas->image(), fresh->image()));

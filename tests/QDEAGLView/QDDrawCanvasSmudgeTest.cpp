@@ -179,8 +179,6 @@ TEST_F(CanvasSmudgeTest, LookingEarlyOrWithdrawingChangesNothing) {
     auto looked = makeCanvas();
     auto withdrawn = makeCanvas();
     for (QDDrawCanvas* one : {canvas.get(), looked.get(), withdrawn.get()}) {
-        srand(1);
-        srand48(1);
         paintStripes(*one);
         useFinger(*one);
         one->setOpacity(0.7f);

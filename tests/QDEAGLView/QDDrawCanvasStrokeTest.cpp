@@ -158,6 +158,19 @@ void across(QDDrawCanvas& canvas, double y) {
     canvas.drawingWithEndPoint({180, y + 8});
 }
 
+// What is drawn by chance for the lines and for the dabs, a point's copies apart from it.
+void jitter(QDDrawCanvas& canvas) {
+    canvas.setRadius(20);
+    canvas.setRadiusTingle(0.6f);
+    canvas.setRenderColor(ESColor::rgba(0.8f, 0.3f, 0.2f));
+    canvas.setHueTingle(0.7f);
+    canvas.setStartRadianEnable(true);
+    canvas.setFlipXTingle(true);
+    canvas.setColorFul(true);
+    canvas.setDistribution(0.2f);
+    canvas.setDistributionCount(2);
+}
+
 TEST_F(CanvasStrokeTest, NoStrokeLeavesAnythingToTheNext) {
     struct Mishap {
         const char* name;
@@ -188,6 +201,7 @@ TEST_F(CanvasStrokeTest, NoStrokeLeavesAnythingToTheNext) {
     for (const Mishap& mishap : mishaps) {
         SCOPED_TRACE(mishap.name);
         auto canvas = makeCanvas();
+        jitter(*canvas);
         mishap.happen(*canvas);
         const QImage first = canvas->image();
         EXPECT_FALSE(painted(first).isNull());
@@ -197,6 +211,7 @@ TEST_F(CanvasStrokeTest, NoStrokeLeavesAnythingToTheNext) {
         canvas->setRepeatedlyRenderEnabled(false);
         across(*canvas, 120);
         auto fresh = makeCanvas();
+        jitter(*fresh);
         fresh->setRepeatedlyRenderEnabled(true);
         across(*fresh, 118);
         fresh->setRepeatedlyRenderEnabled(false);
@@ -204,6 +219,43 @@ TEST_F(CanvasStrokeTest, NoStrokeLeavesAnythingToTheNext) {
         EXPECT_TRUE(imagesMatch(canvas->image().copy(0, 0, 200, 80), first.copy(0, 0, 200, 80)));
         EXPECT_TRUE(imagesMatch(canvas->image().copy(0, 80, 200, 70), fresh->image().copy(0, 80, 200, 70)));
     }
+}
+
+// The host's generators are neither moved nor listened to, and a seed begins a canvas's own.
+TEST_F(CanvasStrokeTest, ChanceIsTheCanvassOwn) {
+    std::srand(3);
+    srand48(3);
+    const int first = std::rand();
+    const double other = drand48();
+    ShapeRecord line;
+    line.kind = ShapeKind::line;
+    line.corners = {{20, 110}, {150, 130}};
+    QImage pictures[4];
+    const std::uint32_t seeds[] = {5, 5, 6, 6};
+    std::srand(3);
+    srand48(3);
+    for (int i = 0; i < 4; ++i) {
+        auto canvas = makeCanvas();
+        canvas->setRepeatableRandom(i == 2);
+        jitter(*canvas);
+        if (i == 1) {
+            across(*canvas, 60);
+            canvas->drawPoint({50, 60}, 30);
+            canvas->clear();
+        }
+        canvas->setRandomSeed(seeds[i]);
+        across(*canvas, 60);
+        canvas->drawShape(line);
+        const QRectF touched = canvas->drawPoint({50, 60}, 30);
+        EXPECT_FALSE(touched.isEmpty());
+        canvas->updateImage(true);
+        pictures[i] = canvas->image();
+    }
+    EXPECT_EQ(std::rand(), first);
+    EXPECT_EQ(drand48(), other);
+    EXPECT_TRUE(imagesMatch(pictures[0], pictures[1])) << "whatever was painted before";
+    EXPECT_NE(pictures[0], pictures[3]) << "another seed";
+    EXPECT_NE(pictures[2], pictures[3]) << "fixed values";
 }
 
 TEST_F(CanvasStrokeTest, WithoutABeginNothingIsDrawn) {
@@ -244,7 +296,7 @@ TEST_F(CanvasStrokeTest, ADelegateMayTakeItselfOffAndHasTheHostsContext) {
 // Several canvases, and the host's own context
 
 TEST_F(CanvasStrokeTest, StrokesOfTwoCanvasesMayInterleave) {
-    // The tapers' flags are one set for the whole process: only one canvas tapers at its start.
+    // The tapers' flags are one set for the whole thread: only one canvas tapers at its start.
     const auto prepare = [](QDDrawCanvas& canvas, float radius, float taper) {
         canvas.setRadius(radius);
         canvas.setStrokeControlValue(taper);

@@ -8,7 +8,6 @@
 #include <memory>
 
 #include "ESRender/Utilities/ESGLErrors.h"
-#include "LineProcess/LPRandom.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "support/Images.h"
 
@@ -22,9 +21,6 @@ protected:
             std::abort();
         }
         canvas->setRepeatableRandom(true);
-        lpRandom();  // seeds from the clock once
-        srand(1);
-        srand48(1);
         return canvas;
     }
 

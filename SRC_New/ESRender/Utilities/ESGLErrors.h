@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #ifndef DABCANVAS_GL_CHECKS
-#if !defined(NDEBUG) || defined(__SANITIZE_ADDRESS__)
+#if !defined(NDEBUG) || defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define DABCANVAS_GL_CHECKS 1
 #else
 #define DABCANVAS_GL_CHECKS 0

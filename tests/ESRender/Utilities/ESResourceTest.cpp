@@ -83,6 +83,9 @@ TEST(ESResourceTest, TextsAreNullOnlyWhenThereIsNoFile) {
     EXPECT_TRUE(ESShaderTools::readFileWithPath(folder.path()).isNull()) << "a folder";
     EXPECT_TRUE(ESShaderTools::readFile(QStringLiteral("Shaders.bundle/None.fsh")).isNull());
     EXPECT_EQ(ESShaderTools::readFile(kShader), ESBaseRender::baseRenderVertexShaderString());
+    EXPECT_EQ(ESBaseRender::stringWithFileName(kShader).constData(),
+              ESBaseRender::stringWithFileName(kShader).constData())
+        << "read once";
     EXPECT_EQ(ESBaseRender::stringWithPath(umlaut).size(), 2) << "byte by byte";
     EXPECT_EQ(ESShaderTools::readFileWithPath(umlaut).size(), 1) << "UTF-8";
     EXPECT_EQ(ESBaseRender::sourceWithPath(umlaut), QByteArray("\xC3\xA4"));
