@@ -11,6 +11,7 @@
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
 #include "Maths/Geometry.h"
+#include "Maths/Rounding.h"
 #include "Surface/Placement.h"
 
 using dabcanvas::Placement;
@@ -91,7 +92,7 @@ struct ESImageRender::Bounds {
     static int wholePixel(double edge) {
         edge = std::clamp(edge, -1e6, 1e6);  // far off any buffer
         const double nearest = std::nearbyint(edge);
-        return static_cast<int>(std::fabs(edge - nearest) < 1e-3 ? nearest : edge);
+        return dabcanvas::truncatedInt(std::fabs(edge - nearest) < 1e-3 ? nearest : edge);
     }
 };
 

@@ -12,6 +12,7 @@
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
+#include "Maths/Rounding.h"
 
 using dabcanvas::SmudgeDab;
 
@@ -302,10 +303,13 @@ QRect ESSmudgeRender::texelBox(const Corners& corners) const {
     }
     const double width = _layerSize.width(), height = _layerSize.height();
     // What lies outside of the layer reads as its rim.
-    const int x0 = static_cast<int>(std::clamp(std::floor(left * width) - 1, 0.0, width - 1));
-    const int x1 = static_cast<int>(std::clamp(std::ceil(right * width) + 1, x0 + 1.0, width));
-    const int y0 = static_cast<int>(std::clamp(std::floor(bottom * height) - 1, 0.0, height - 1));
-    const int y1 = static_cast<int>(std::clamp(std::ceil(top * height) + 1, y0 + 1.0, height));
+    const auto texel = [](double edge, double first, double last) {
+        return dabcanvas::truncatedInt(std::clamp(edge, first, last));
+    };
+    const int x0 = texel(std::floor(left * width) - 1, 0, width - 1);
+    const int x1 = texel(std::ceil(right * width) + 1, x0 + 1, width);
+    const int y0 = texel(std::floor(bottom * height) - 1, 0, height - 1);
+    const int y1 = texel(std::ceil(top * height) + 1, y0 + 1, height);
     return {x0, y0, x1 - x0, y1 - y0};
 }
 
@@ -337,15 +341,14 @@ void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
     const dabcanvas::Extent extent = dabcanvas::DabBounds::extentOf(dab);
     const double toTexelX = _layerSize.width() / bufferSize().width();
     const double toTexelY = _layerSize.height() / bufferSize().height();
-    const QRect layer(QPoint(0, 0), _layerSize);
-    const QRect written = QRectF((dab.x - extent.width) * toTexelX - 1,
-                                 (bufferSize().height() - dab.y - extent.height) * toTexelY - 1,
-                                 2 * extent.width * toTexelX + 2, 2 * extent.height * toTexelY + 2)
-                              .toAlignedRect() &
-                          layer;
-    if (written.isEmpty()) {
-        return;
+    const QRectF touched((dab.x - extent.width) * toTexelX - 1,
+                         (bufferSize().height() - dab.y - extent.height) * toTexelY - 1,
+                         2 * extent.width * toTexelX + 2, 2 * extent.height * toTexelY + 2);
+    const QRectF inLayer = touched & QRectF(QPointF(0, 0), _layerSize);
+    if (!(inLayer.width() > 0 && inLayer.height() > 0)) {
+        return;  // nor is one drawn whose place is not finite
     }
+    const QRect written = inLayer.toAlignedRect();
     const Corners corners = pickUpCorners(smudge);
     provideLayer(texelBox(corners), written);
 

@@ -167,6 +167,11 @@ Places alongArc(const Round& round, double spacing) {
     return places;
 }
 
+bool isDrawableRound(const ShapeRecord& shape) {
+    return std::isfinite(shape.centre.x) && std::isfinite(shape.centre.y) && shape.a > 0 && shape.b > 0 &&
+           shape.a + shape.b < static_cast<double>(dabcanvas::kMostShapePoints) && std::isfinite(shape.rotation);
+}
+
 bool isDrawable(const ShapeRecord& shape) {
     const auto fits = [&](std::size_t least, std::size_t most) {
         return shape.corners.size() >= least && shape.corners.size() <= most &&
@@ -176,7 +181,7 @@ bool isDrawable(const ShapeRecord& shape) {
     };
     switch (shape.kind) {
         case ShapeKind::none:
-            return false;
+            break;
         case ShapeKind::line:
             return fits(2, 2);
         case ShapeKind::foldLine:
@@ -188,15 +193,12 @@ bool isDrawable(const ShapeRecord& shape) {
         case ShapeKind::arrow:
             return fits(4, 4);
         case ShapeKind::ellipse:
+            return isDrawableRound(shape);
         case ShapeKind::arc:
-            break;
+            return isDrawableRound(shape) && std::isfinite(shape.startAngle) &&
+                   std::isfinite(shape.endAngle) && shape.endAngle > shape.startAngle;
     }
-    return std::isfinite(shape.centre.x) && std::isfinite(shape.centre.y) && shape.a > 0 && shape.b > 0 &&
-           shape.a + shape.b < static_cast<double>(dabcanvas::kMostShapePoints) &&
-           std::isfinite(shape.rotation) &&
-           (shape.kind == ShapeKind::ellipse ||
-            (std::isfinite(shape.startAngle) && std::isfinite(shape.endAngle) &&
-             shape.endAngle > shape.startAngle));
+    return false;  // none, or a number that is no kind
 }
 
 }  // namespace

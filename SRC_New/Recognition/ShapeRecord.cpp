@@ -10,7 +10,8 @@ std::string_view nameOfShapeKind(ShapeKind kind) {
     static constexpr std::array<std::string_view, 9> kNames = {
         "none", "line", "foldline", "triangle", "rectangle", "parallelogram", "ellipse", "arc", "arrow"};
     static_assert(kNames.size() == static_cast<std::size_t>(ShapeKind::arrow) + 1);
-    return kNames[static_cast<std::size_t>(kind)];
+    const auto index = static_cast<std::size_t>(kind);
+    return index < kNames.size() ? kNames[index] : "unknown shape";
 }
 
 namespace {

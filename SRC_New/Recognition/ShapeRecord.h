@@ -56,7 +56,8 @@ struct ShapeRecord {
     bool isRound() const { return kind == ShapeKind::ellipse || kind == ShapeKind::arc; }
 };
 
-// "line", "foldline", "triangle", "rectangle", "parallelogram", "ellipse", "arc", "arrow", "none".
+// "line", "foldline", "triangle", "rectangle", "parallelogram", "ellipse", "arc", "arrow", "none"; "unknown shape" for
+// what the enumeration has no name of.
 DABCANVAS_SHAPES_API std::string_view nameOfShapeKind(ShapeKind kind);
 
 // The shape as one pen stroke: a closed one repeats its first point, an arrow goes back over its tip, a

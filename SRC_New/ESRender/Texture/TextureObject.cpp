@@ -5,6 +5,7 @@
 #include <bit>
 #include <cstring>
 
+#include "ESRender/Texture/ScaledPixels.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "Maths/Rounding.h"
@@ -94,7 +95,7 @@ std::unique_ptr<TextureObject> TextureObject::initWithPicture(const QImage& pict
     const QSize fitting = picture.size().boundedTo(QSize(limit, limit));
     QImage pixels = picture;
     if (fitting != picture.size()) {
-        pixels = picture.scaled(fitting, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        pixels = dabcanvas::scaledPixels(picture, fitting);
     }
     pixels = std::move(pixels).convertToFormat(kFormat);
     if (pixels.isNull()) {
@@ -249,11 +250,8 @@ QImage TextureObject::createTextureDataWithImageData(const unsigned char* data, 
 void TextureObject::bindTextureData(QImage& context, const QImage& image, const QRect& rect, int index) {
     _verties[static_cast<std::size_t>(index)] =
         cellOf(flipped(rect, context.height()), context.width(), context.height());
-    QImage source = image.convertToFormat(kFormat);
-    if (source.size() != rect.size() && !rect.isEmpty()) {
-        source = source.scaled(rect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                     .convertToFormat(kFormat);
-    }
+    const bool fits = image.size() == rect.size() || rect.isEmpty();
+    const QImage source = fits ? image.convertToFormat(kFormat) : dabcanvas::scaledPixels(image, rect.size());
     if (source.isNull() || rect.isEmpty()) {
         return;  // an image that cannot be drawn leaves its place transparent
     }
