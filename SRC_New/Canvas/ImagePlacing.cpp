@@ -81,8 +81,10 @@ bool ImagePlacing::put(const PlacedImage& image, const Spot& spot) {
     if (copies ? copy(image, placed, touched) : draw(image, spot, touched)) {
         return true;
     }
-    qCWarning(lcDabcanvas, "there is no memory to place an image of %d x %d pixels", image.image.width(),
-              image.image.height());
+    if (!_layers.isLost()) {
+        qCWarning(lcDabcanvas, "there is no memory to place an image of %d x %d pixels", image.image.width(),
+                  image.image.height());
+    }
     return false;
 }
 

@@ -10,7 +10,7 @@
 #include "Preset/ParamNumbers.h"
 #include "Preset/PresetImages.h"
 #include "Brushes/BrushProperties.h"
-#include "Canvas/QDDrawCanvas.h"
+#include "Canvas/QDDrawCanvasParts.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvasPreset)
 
@@ -235,13 +235,12 @@ bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const std::optional<Brush
     if (view == nullptr || !withParams) {
         return false;
     }
-    view->holdTip();
+    const QDDrawCanvas::Host::Call call(view->_inside->host);
     view->resetParams();
     const Remains remains = applyAll(*view, *withParams);
     if (version == LegacyModes::kVersion) {
         migrate(*view, remains.legacy);
     }
-    view->releaseTip(view->textureType() != 0 || remains.tips.isEmpty());
     if (view->textureType() == 0) {
         view->setTextureImages(remains.tips);
     }

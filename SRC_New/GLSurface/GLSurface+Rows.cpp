@@ -9,6 +9,7 @@
 #include <numbers>
 
 #include "ESRender/ESImageRender.h"
+#include "ESRender/Texture/ScaledPixels.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "GLSurface/GLPictures.h"
 #include "GLSurface/GLSurface.h"
@@ -53,8 +54,8 @@ QImage evenlyReduced(const QImage& picture, double width, double height) {
     const auto side = [&](int pixels, double reduction) {
         return reduction > least * kUneven ? std::max(nearestInt(pixels * least / reduction), 1) : pixels;
     };
-    const QImage reduced = picture.scaled(side(picture.width(), across), side(picture.height(), down),
-                                          Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage reduced =
+        scaledPixels(picture, {side(picture.width(), across), side(picture.height(), down)});
     return reduced.isNull() ? picture : reduced;  // short of memory: blurred is better than nothing
 }
 
@@ -66,7 +67,7 @@ bool GLSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) 
     }
     if (rows.isBottomUpBlock()) {
         _context->readData(rows.row(rect.height - 1), qRectOf(rect));
-        return true;
+        return !isLost();
     }
     const int most = bandRows(rect);
     try {
@@ -79,7 +80,7 @@ bool GLSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) 
         _context->readData(_band.data(), qRectOf({rect.x, rect.y + y, part.width, part.height}));
         copyRows(MutablePixelView::bottomRowFirst(_band.data(), {part.width, part.height}), rows.part(part));
     }
-    return true;
+    return !isLost();
 }
 
 bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows) {
@@ -88,10 +89,11 @@ bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
     const auto send = [&](const PixelView& block, const Rect& to) {
-        _compositor->copyToBG(imageOf(block), QRect(to.x, to.y, to.width, to.height));
+        return _compositor->copyToBG(imageOf(block), QRect(to.x, to.y, to.width, to.height));
     };
+    bool sent = true;
     if (rows.isBottomUpBlock()) {
-        send(rows, rect);
+        sent = send(rows, rect);
     } else {
         const int most = bandRows(rect);
         try {
@@ -99,16 +101,16 @@ bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows
         } catch (const std::bad_alloc&) {
             return false;
         }
-        for (int y = 0; y < rect.height; y += most) {
+        for (int y = 0; sent && y < rect.height; y += most) {
             const Rect part{0, y, rect.width, std::min(most, rect.height - y)};
             const auto band = MutablePixelView::bottomRowFirst(_band.data(), {part.width, part.height});
             copyRows(rows.part(part), band);
-            send(band, {rect.x, rect.y + y, part.width, part.height});
+            sent = send(band, {rect.x, rect.y + y, part.width, part.height});
         }
     }
     _context->finishRender();
     noteChanged(picture, rect);
-    return true;
+    return sent;
 }
 
 bool GLSurface::place(PictureId picture, const Placed& placed) {
@@ -118,20 +120,20 @@ bool GLSurface::place(PictureId picture, const Placed& placed) {
     }
     ESImageRender& render = *_compositor;
     render.setTextureImage(evenlyReduced(imageOf(placed.pixels), placed.width, placed.height), GL_TEXTURE0);
-    if (render.brushTexture() == nullptr) {
-        return false;
-    }
     const LPPoint dab{{static_cast<float>(placed.centreX), static_cast<float>(placed.centreY)},
                       static_cast<float>(placed.width),
                       {1.0f, 1.0f, 1.0f}};
+    render.setRadian(static_cast<float>(std::remainder(placed.radian, 2 * std::numbers::pi)));
+    render.setRoundness(static_cast<float>(placed.height / placed.width));
+    if (!render.isReadyToPlace(dab)) {
+        return false;  // there was no room for it
+    }
     _context->beginRenderForType(ESRenderTypeCanvas);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
     render.setBlendType(placed.replaces ? ESBlendTypeReplace : ESBlendTypeNormal);
     render.setFlipX(false);
     render.setFlipY(placed.pixels.stride > 0);
     render.setUseLargeTexture(true);
-    render.setRadian(static_cast<float>(std::remainder(placed.radian, 2 * std::numbers::pi)));
-    render.setRoundness(static_cast<float>(placed.height / placed.width));
     render.setOpacity(1);
     render.setRepeatedlyRenderEnabled(false);
     if (clip != Rect::of(size())) {

@@ -92,14 +92,14 @@ void GLSurface::warmUp() {
 }
 
 GLSurface::~GLSurface() {
-    const ESCurrentScope current(*_context);
-    if (current) {
-        return;  // the renderers' names are deleted where they were made
-    }
-    // Deleting their names would hit the host's; they go with the context.
-    static_cast<void>(_compositor.release());
+    const ESCurrentScope current(_context->openGLView());  // be it lost or not
+    // Each goes while the context is current. Without it, deleting their names would hit the host's; they go with it.
+    const auto release = [&](auto& render) {
+        current ? render.reset() : static_cast<void>(render.release());
+    };
+    release(_compositor);
     for (DabRender* of : {&_line, &_subLine, &_smudge}) {
-        static_cast<void>(of->render.release());
+        release(of->render);
     }
 }
 

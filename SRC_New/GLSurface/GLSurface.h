@@ -32,6 +32,7 @@ public:
     ESContext& context() { return *_context; }
 
     std::string name() override;
+    bool isLost() const override { return _context->isLost(); }
     void finish() override;
 
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;

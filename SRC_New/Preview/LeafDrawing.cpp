@@ -3,15 +3,17 @@
 
 #include <QPainter>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
 #include <utility>
 
-#include "Canvas/CanvasLog.h"
 #include "Preview/ImageBlur.h"
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcPreview, "dabcanvas.preview")
 
 constexpr double kGraphScale = 0.6;  // bitmap pixels per buffer pixel
 // Points further out are moved here, in bitmap pixels: the fill's fixed-point arithmetic ends somewhere.
@@ -43,14 +45,18 @@ QRectF boundsWithin(const QSizeF& size, std::initializer_list<QPointF> points) {
 LeafDrawing::LeafDrawing(const QSizeF& frame)
     : _frame(frame), _graphSize(graphSide(frame.width()), graphSide(frame.height())) {}
 
-LeafDrawing::~LeafDrawing() = default;
+LeafDrawing::~LeafDrawing() {
+    if (_inHook) {
+        qFatal("A preview was destroyed by its own display hook, which is to note what changed");
+    }
+}
 
 bool LeafDrawing::acceptsPoint(QPointF point) {
     if (std::isfinite(point.x()) && std::isfinite(point.y())) {
         return true;
     }
     if (!std::exchange(_refusedPoint, true)) {  // once a stroke: a broken device sends many
-        qCWarning(lcDabcanvas, "the preview ignores a point that is not finite: (%g, %g)", point.x(),
+        qCWarning(lcPreview, "the preview ignores a point that is not finite: (%g, %g)", point.x(),
                   point.y());
     }
     return false;
@@ -62,7 +68,7 @@ bool LeafDrawing::makeBitmap(QPointF begin) {
         _bitmap.fill(Qt::transparent);
     }
     if (_bitmap.isNull() || !_fill.begin(_bitmap.size(), begin)) {
-        qCWarning(lcDabcanvas, "no memory for a preview of %g x %g pixels", _graphSize.width(),
+        qCWarning(lcPreview, "no memory for a preview of %g x %g pixels", _graphSize.width(),
                   _graphSize.height());
         return false;
     }
@@ -169,7 +175,7 @@ void LeafDrawing::setRenderColor(const ESColor& color) {
 
 void LeafDrawing::setGaussianRadius(float radius) {
     if (!std::isfinite(radius)) {
-        qCWarning(lcDabcanvas, "a preview's blur radius cannot be %g", static_cast<double>(radius));
+        qCWarning(lcPreview, "a preview's blur radius cannot be %g", static_cast<double>(radius));
         return;
     }
     _gaussianRadius = std::max(radius, 1.0f);
@@ -187,6 +193,7 @@ void LeafDrawing::updateDrawViewForOnline(bool online) {
 void LeafDrawing::redisplay(const QRectF& bitmapRect) {
     // A display that interpolates mixes in the next pixel.
     const QRectF changed = QRectF(bitmapRect.toAlignedRect()).adjusted(-1, -1, 1, 1) & wholeRect();
+    const QScopedValueRollback inHook(_inHook, true);
     const QSizeF shown = frameSize();
     const double x = shown.width() / _graphSize.width(), y = shown.height() / _graphSize.height();
     redisplayRect(QRectF(changed.x() * x, changed.y() * y, changed.width() * x, changed.height() * y));

@@ -52,6 +52,7 @@ void QDDrawView::paintEvent(QPaintEvent* event) {
 }
 
 void QDDrawView::resizeEvent(QResizeEvent* event) {
+    const MustStay stays(*this);
     QWidget::resizeEvent(event);
     updateScaleInfo();
     if (rect().isEmpty()) {
