@@ -2,6 +2,9 @@
 # What find_package(Dabcanvas) reads. The libraries, their headers and resources are installed where they are made.
 include(CMakePackageConfigHelpers)
 
+# Each stands on those before it.
+set(components Stroke Shapes Dabs Brushes History Render Canvas View)
+list(JOIN components " " DABCANVAS_COMPONENTS)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Dabcanvas)
 set(DABCANVAS_NEEDS_THREADS OFF)
 set(DABCANVAS_NEEDS_LZ4 OFF)
@@ -14,7 +17,7 @@ configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DabcanvasConfig.cmake.in
 # Before 1.0 a minor version may change the interface; the libraries' SOVERSION says the same.
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 
-foreach(component IN ITEMS Stroke Render Canvas View)
+foreach(component IN LISTS components)
     install(EXPORT Dabcanvas${component}Targets NAMESPACE Dabcanvas:: DESTINATION ${package_folder})
 endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake ${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake

@@ -10,7 +10,6 @@
 
 #include <QPointF>
 #include <optional>
-#include <random>
 #include <vector>
 
 #include "Canvas/BrushState.h"
@@ -86,7 +85,7 @@ private:
     bool _hasMoved = false;      // the first move of the stroke was taken
     LPSharedState _state;        // this canvas's copy of what the line process keeps for a thread
     bool _stateIsIn = false;     // it is in the line process now
-    std::mt19937 _generator;     // whose address _state holds
+    LPGenerator _generator;      // whose address _state holds
     std::uint32_t _seed = 0;
     bool _repeats = false;       // strokes repeat
     bool _restartIsDue = false;  // with the next stroke

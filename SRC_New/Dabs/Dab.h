@@ -10,8 +10,6 @@
 
 namespace dabcanvas {
 
-namespace dabcanvas {
-
 // What one dab is, apart from how it reaches the GPU: the stroke's points go in, jittered dabs come out.
 // Plain C++ without GL; the renderers of this folder hand the dabs on.
 
