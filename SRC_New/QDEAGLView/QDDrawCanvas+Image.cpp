@@ -5,6 +5,7 @@
 #include <numbers>
 #include <utility>
 
+#include "ESRender/Texture/ScaledPixels.h"
 #include "Maths/Geometry.h"
 #include "Maths/Rounding.h"
 #include "QDEAGLView/CanvasRects.h"
@@ -13,6 +14,7 @@
 
 using dabcanvas::mergeRect;
 using dabcanvas::nearestInt;
+using dabcanvas::scaledPixels;
 
 namespace {
 
@@ -74,8 +76,8 @@ QImage evenlyReduced(const QImage& picture, const QSizeF& size) {
     const auto side = [&](int pixels, double reduction) {
         return reduction > least * kUneven ? std::max(nearestInt(pixels * least / reduction), 1) : pixels;
     };
-    const QImage reduced = picture.scaled(side(picture.width(), across), side(picture.height(), down),
-                                          Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QImage reduced =
+        scaledPixels(picture, {side(picture.width(), across), side(picture.height(), down)});
     return reduced.isNull() ? picture : reduced;  // short of memory: blurred is better than nothing
 }
 
@@ -212,13 +214,14 @@ QRect QDDrawCanvas::scissorBox() const {
     if (!_globalScissor) {
         return whole;
     }
-    const QSize size(nearestInt(_scissorRect.width()), nearestInt(_scissorRect.height()));
+    // What is far larger than the canvas is cut to it before it becomes whole pixels.
+    const QSizeF size(std::round(_scissorRect.width()), std::round(_scissorRect.height()));
     if (size.isEmpty()) {
         return {};
     }
-    const int bottomUp = nearestInt(buffer.height() - _scissorRect.bottom());
-    const QPoint topLeft(nearestInt(_scissorRect.x()), buffer.height() - bottomUp - size.height());
-    return QRect(topLeft, size) & whole;
+    const double bottom = buffer.height() - std::round(buffer.height() - _scissorRect.bottom());
+    const QPointF topLeft(std::round(_scissorRect.x()), bottom - size.height());
+    return (QRectF(topLeft, size) & QRectF(whole)).toRect();
 }
 
 // An image meets the canvas with what a stroke in progress has drawn.
@@ -253,7 +256,9 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
     if (!putOnCanvas(source, size, centre, radian)) {
         return false;
     }
-    setEdited(_edited || !isUndo);
+    if (!isUndo) {
+        setEdited(true);
+    }
     redisplayAll();
     if (!_neglectTextureUpdate) {
         updateBGImage(isUndo ? _curImageData : autoMarked());  // which may call the delegate

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The layers: drawing into them, putting them onto the canvas, clearing, and reading the canvas back.
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "QDEAGLView/CanvasRects.h"
@@ -20,13 +21,36 @@ double areaOf(const QRectF& rect) {
     return rect.width() * rect.height();
 }
 
+bool isFinite(const LPPoint& point) {
+    return std::isfinite(point.position.x) && std::isfinite(point.position.y) &&
+           std::isfinite(point.radius) && std::isfinite(point.params.pressure) &&
+           std::isfinite(point.params.altitude) && std::isfinite(point.params.speed);
+}
+
 }  // namespace
 
 // ---- Drawing into a layer
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer) {
+    return dabcanvas::roundedRect(drawHostRun(points, count, layer));
+}
+
+// Dabs that are no segment of a stroke. They may stay in their layer for good, so that nothing is composited with them
+// but by name: neither what was drawn before nor what lies between later rectangles.
+QRectF QDDrawCanvas::drawHostRun(const LPPoint* points, std::size_t count, ESRenderType layer) {
+    if (points != nullptr && !std::all_of(points, points + count, isFinite)) {
+        qCWarning(lcDabcanvas, "a run of dabs with a number that is not finite was refused");
+        return {};
+    }
     _leafDrawView->finishPending();
-    return dabcanvas::roundedRect(drawRun(points, count, layer));
+    const StrokeScope scope(*this);
+    if (!scope) {
+        return {};
+    }
+    compositePending();
+    const QRectF touched = drawRun(points, count, layer);
+    _mayMergePending = false;
+    return touched;
 }
 
 // Returns the whole pixels that the run touched.
@@ -44,9 +68,6 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
     }
     ESLineRender* render = layer == ESRenderTypeLine ? _extenRender.get() : _subRender.get();
     const std::uint64_t before = render->dabsDrawn();
-    if (layer == ESRenderTypeCanvas) {
-        compositePending();  // which lies below
-    }
     _esContext->beginRenderForType(layer);
     _esContext->setBlendModelForType(ESRenderTypeLine);
     const QRectF touched = render->drawPoints(points, count);
@@ -65,8 +86,7 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
 }
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count) {
-    _leafDrawView->finishPending();
-    _tempRect = drawRun(points, count, ESRenderTypeLine);
+    _tempRect = drawHostRun(points, count, ESRenderTypeLine);
     mergeRect(_lineRenderRect, _tempRect);
     return _tempRect;
 }
@@ -90,7 +110,7 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
     }
     mergeRect(_drawRect, _tempRect);
     if (smudge != _pendingSmudge) {
-        compositePending();
+        settleDrawn();
         _pendingSmudge = smudge;
     }
     if (_pending.size() >= kMostPending) {
@@ -100,7 +120,8 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
     mergeRect(_updateRect, _tempRect);
     // The composite itself waits until the canvas is looked at: its pixels depend on the layer alone, and
     // every change of target makes the driver draw what it had gathered. Rectangles that overlap become one,
-    // which composites the same pixels, except where replacing would clear what lies between them.
+    // which composites the same pixels wherever the canvas is the background with the layers above it, except
+    // where replacing would clear what lies between them.
     if (!_pending.empty() && _mayMergePending && _esRender->blendType() != ESBlendTypeReplace) {
         QRectF& last = _pending.back();
         const QRectF both = last.united(_tempRect);
@@ -122,9 +143,13 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
 // follows may no longer touch more than it drew.
 void QDDrawCanvas::settleDrawn() {
     compositePending();
-    if (!isZero(_layerContent[ESRenderTypeLine]) || !isZero(_layerContent[ESRenderTypeSubLine])) {
+    if (lineLayersHoldDabs()) {
         _mayMergePending = false;
     }
+}
+
+bool QDDrawCanvas::lineLayersHoldDabs() const {
+    return !isZero(_layerContent[ESRenderTypeLine]) || !isZero(_layerContent[ESRenderTypeSubLine]);
 }
 
 void QDDrawCanvas::compositePending() {
@@ -161,15 +186,16 @@ void QDDrawCanvas::compositeRect(const QRectF& rect) {
 }
 
 void QDDrawCanvas::resetWithRenderRect(const QRectF& area) {
-    const QRectF rect = area & QRectF(QPointF(0, 0), bufferSize());
-    if (!(rect.width() > 0 && rect.height() > 0)) {
+    const bool isFinite = std::isfinite(area.x() + area.width()) && std::isfinite(area.y() + area.height());
+    const QRectF rect = (area & QRectF(QPointF(0, 0), bufferSize())).toAlignedRect();
+    if (!isFinite || rect.isEmpty()) {
         return;  // nothing of it is on the canvas
     }
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return;
     }
-    compositePending();
+    settleDrawn();
     _esContext->beginRenderForType(ESRenderTypeCanvas);
     const std::uint32_t blendType = _esRender->blendType();
     if (blendType != ESBlendTypeReset) {
@@ -197,7 +223,8 @@ void QDDrawCanvas::updateBGImage(const QByteArray& mark) {
         _esRender->updateBGTextureAtOrigin(_updateRect.topLeft(), _updateRect.size(), GL_TEXTURE3);
     }
     _updateRect = QRectF();
-    _mayMergePending = true;
+    _mayMergePending = !lineLayersHoldDabs();
+    keepDrawn();
     if (mark.isNull() && _brush.enableRecogition) {
         refreshImageData(kBackgroundLine);  // a step that was recorded has the picture already
     }
@@ -214,6 +241,7 @@ void QDDrawCanvas::clearLayer(ESRenderType layer, QRectF& rect) {
         return;
     }
     compositePending();
+    _mayMergePending = false;  // what it held is on the canvas, and now on no layer
     _esContext->beginRenderForType(layer);
     rect = QRectF();
     if (layer == ESRenderTypeSmudge) {
@@ -280,6 +308,9 @@ void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
         }
         settleSketch();
         _pending.clear();
+        if (_stroke == Stroke::drawing) {
+            emptyLineLayers();  // what it drew so far is cleared with the canvas, and must not come back
+        }
         _esContext->beginRenderForType(ESRenderTypeCanvas);
         const QRectF whole(QPointF(0, 0), bufferSize());
         mergeRect(_updateRect, whole);

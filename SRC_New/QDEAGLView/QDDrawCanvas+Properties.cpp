@@ -483,10 +483,13 @@ void QDDrawCanvas::setSlRadiusRelationType(std::int32_t value) {
 
 void QDDrawCanvas::setRelationValue(float value) {
     float stored = value;
-    if (!storeClamped(brushProperty(BrushKey::relationValue), stored)) {
-        return;
+    const float radius = _brush.slRadiusRelationType == 2 ? _brush.radius * value : _brush.radius + value;
+    if (!isFiniteValue(radius)) {
+        stored = radius;  // refused with what it would make of the second line
     }
-    setSubRadius(_brush.slRadiusRelationType == 2 ? _brush.radius * stored : _brush.radius + stored);
+    if (storeClamped(brushProperty(BrushKey::relationValue), stored)) {
+        setSubRadius(radius);
+    }
 }
 
 void QDDrawCanvas::setSlDistbCount(float value) {

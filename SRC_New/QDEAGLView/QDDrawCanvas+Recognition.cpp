@@ -67,7 +67,6 @@ void QDDrawCanvas::beginSketch(QPointF point) {
     if (!_imageIsGiven) {
         refreshImageData(kRecognitionLine);
     }
-    _editedBefore = _edited;
     _points.assign(1, {point.x(), point.y()});
     _isSketch = true;
 }
@@ -87,13 +86,20 @@ void QDDrawCanvas::takeBackSketch() {
     }
     _pending.clear();  // all of it lies within what is repainted
     emptyLineLayers();
-    _edited = _editedBefore;
-    _mayMergePending = true;
     const QSize buffer = bufferSize().toSize();
-    const QRect area = std::exchange(_strokeRect, QRectF()).toAlignedRect() & QRect(QPoint(0, 0), buffer);
-    if (area.isEmpty()) {
-        return;
+    const QRect whole(QPoint(0, 0), buffer);
+    // Another picture than the canvas had takes all of it.
+    const QRect drawn = std::exchange(_strokeRect, QRectF()).toAlignedRect() & whole;
+    const QRect area = std::exchange(_imageIsGiven, false) ? whole : drawn;
+    if (!area.isEmpty()) {
+        restoreImageData(area);
     }
+    noteTakenBack(area);
+}
+
+// Canvas and background become curImageData() there.
+void QDDrawCanvas::restoreImageData(const QRect& area) {
+    const QSize buffer = bufferSize().toSize();
     QImage rows;
     if (_curImageData.size() == snapshotBytes()) {
         const QImage all(reinterpret_cast<const uchar*>(_curImageData.constData()), buffer.width(),
@@ -102,21 +108,18 @@ void QDDrawCanvas::takeBackSketch() {
         const int bottom = buffer.height() - area.y() - area.height();
         rows = all.copy(area.x(), bottom, area.width(), area.height());
     }
-    if (!rows.isNull()) {
-        // The same bytes for the canvas and its background.
-        _esContext->beginRenderForType(ESRenderTypeCanvas);
-        _esRender->copyToBG(rows, area);
-        _esContext->finishRender();
-        noteChanged(area);
-        redisplayBufferRect(area);
-    } else {
+    if (rows.isNull()) {
         resetWithRenderRect(area);  // there was no memory for it
+        return;
     }
-    // Nothing differs there any more.
-    for (QRectF* const rect : {&_updateRect, &_imageStale}) {
-        if (QRectF(area).contains(*rect)) {
-            *rect = QRectF();
-        }
+    // The same bytes for the canvas and its background.
+    _esContext->beginRenderForType(ESRenderTypeCanvas);
+    _esRender->copyToBG(rows, area);
+    _esContext->finishRender();
+    noteChanged(area);
+    redisplayBufferRect(area);
+    if (QRectF(area).contains(_imageStale)) {
+        _imageStale = QRectF();  // nothing differs any more
     }
 }
 
@@ -155,7 +158,6 @@ bool QDDrawCanvas::drawShape(const ShapeRecord& shape) {
     }
     _leafDrawView->finishPending();
     settleLayers();
-    _strokeRect = QRectF();
     if (!drawOutline(shape, true)) {
         return false;
     }
@@ -172,7 +174,7 @@ bool QDDrawCanvas::drawOutline(const ShapeRecord& shape, bool online) {
     const auto mainRuns = dabsOnShape(onBuffer, *_lineParaObj);
     if (mainRuns.empty()) {
         const std::string_view kind = nameOfShapeKind(shape.kind);
-        qCWarning(lcDabcanvas, "a %.*s of these points and sizes cannot be drawn",
+        qCWarning(lcDabcanvas, "no %.*s can be drawn from these points and sizes",
                   static_cast<int>(kind.size()), kind.data());
         return false;
     }

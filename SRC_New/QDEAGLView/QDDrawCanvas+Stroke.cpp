@@ -85,14 +85,12 @@ QPointF QDDrawCanvas::viewPoint(QPointF point) const {
 
 void QDDrawCanvas::drawingWithBeginPoint(QPointF point, float pressure, float altitude, bool) {
     _refusedSample = false;
-    _leafDrawView->finishPending();  // strokes come onto the canvas in their order
-    if (_stroke == Stroke::drawing) {
-        finishLayers();  // a stroke that was never ended stays as it is
-        _isSketch = false;
+    if (std::exchange(_stroke, Stroke::awaited) == Stroke::drawing) {
+        leaveDrawn();
     }
-    _stroke = Stroke::awaited;
-    if (!acceptsSample(point, pressure, altitude)) {
-        return;  // the first sample that can be used begins instead
+    _leafDrawView->finishPending();  // strokes come onto the canvas in their order
+    if (_stroke != Stroke::awaited || !acceptsSample(point, pressure, altitude)) {
+        return;  // ended in a callback about those before; or the first sample that can be used begins instead
     }
     // Begun only after the callbacks: a brush that these choose is the one that the stroke begins with.
     point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawBegin, point);
@@ -167,12 +165,13 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
 }
 
 void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
+    compositePending();  // what waits is not the stroke's to withdraw
+    keepDrawn();
     if (_brush.enableRecogition) {
         beginSketch(point);
     }
     _lineRenderRect = QRectF();
     _subLineRenderRect = QRectF();
-    _strokeRect = QRectF();
     _isAppendLine = false;
     takeSample(point, pressure, altitude);
     if (usesPreview()) {
@@ -212,18 +211,25 @@ void QDDrawCanvas::finishLayers(bool asStep) {
     updateBGImage(asStep ? autoMarked() : QByteArray());
 }
 
+// What the stroke has drawn so far is beyond the reach of withdrawing.
+void QDDrawCanvas::keepDrawn() {
+    _strokeRect = QRectF();
+    _editedBefore = _edited;
+}
+
 // The background is to be the canvas with all that was drawn so far; the layers must not be composited once
 // more over what comes next.
 void QDDrawCanvas::settleLayers() {
-    if (!isZero(_updateRect) || !isZero(_layerContent[ESRenderTypeLine]) ||
-        !isZero(_layerContent[ESRenderTypeSubLine])) {
+    if (!isZero(_updateRect) || lineLayersHoldDabs()) {
         finishLayers();
     }
 }
 
 // Nothing of the stroke stays, as if it had never been begun.
 void QDDrawCanvas::withdrawStroke(QPointF point) {
-    _stroke = Stroke::none;
+    if (std::exchange(_stroke, Stroke::none) != Stroke::drawing) {
+        return;  // a callback had it ended
+    }
     if (usesPreview()) {
         _leafDrawView->drawWithCanceled(point);
         return;
@@ -240,22 +246,37 @@ void QDDrawCanvas::withdrawStroke(QPointF point) {
     _pending.clear();  // all of it lies within what is repainted
     emptyLineLayers();
     resetWithRenderRect(_strokeRect);
+    noteTakenBack(std::exchange(_strokeRect, QRectF()));
     if (isSmudgeType()) {
         updateSmudgeBGTexture();
     }
 }
 
-// A stroke is over without an end. What it may have drawn stays; a preview never reaches the canvas.
-void QDDrawCanvas::dropStroke() {
-    if (std::exchange(_stroke, Stroke::none) != Stroke::drawing) {
-        return;
+// The area is as it was before the stroke, on the canvas and in the background alike, and the line layers are empty.
+void QDDrawCanvas::noteTakenBack(const QRectF& area) {
+    _edited = _editedBefore;
+    if (area.contains(_updateRect)) {
+        _updateRect = QRectF();
     }
+    _mayMergePending = isZero(_updateRect);
+}
+
+// A stroke is over without an end.
+void QDDrawCanvas::dropStroke() {
+    if (std::exchange(_stroke, Stroke::none) == Stroke::drawing) {
+        leaveDrawn();
+    }
+}
+
+// What it may have drawn stays, as a step of its own; a preview or a sketch never reaches the canvas.
+void QDDrawCanvas::leaveDrawn() {
     if (usesPreview()) {
         _leafDrawView->drawWithCanceled(_lastRenderObject);
-    } else {
-        finishLayers();
-        _isSketch = false;
+        return;
     }
+    const bool stays = !_isSketch && !isZero(_strokeRect);
+    finishLayers(stays);
+    _isSketch = false;
 }
 
 void QDDrawCanvas::startLine(LPLineParams& record, QPointF point, float pressure, float altitude) {

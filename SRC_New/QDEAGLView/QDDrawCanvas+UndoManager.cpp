@@ -7,8 +7,11 @@
 #include <utility>
 
 #include "History/ImagesUndoManager.h"
+#include "QDEAGLView/CanvasRects.h"
 #include "QDEAGLView/LeafDrawing.h"
 #include "QDEAGLView/QDDrawCanvasScopes.h"
+
+using dabcanvas::isZero;
 
 namespace {
 
@@ -122,6 +125,12 @@ void QDDrawCanvas::setEdited(bool edited) {
     _edited = _editedBefore = edited;
 }
 
+// A step recorded in mid-stroke holds what withdrawing the stroke takes back: the canvas without it is another picture.
+void QDDrawCanvas::noteRecorded() {
+    _edited = false;
+    _editedBefore = !isZero(_strokeRect);
+}
+
 // The history begins with the canvas as it was made. That was transparent, so nothing need be read, and a canvas whose
 // history nobody asks for has none.
 ImagesUndoManager& QDDrawCanvas::history() {
@@ -161,7 +170,7 @@ QByteArray QDDrawCanvas::resetUndoManager() {
         return {};
     }
     takeImageData(data);
-    setEdited(false);
+    noteRecorded();
     images.resetWithImageDataOfCurrentItem(data);
     return data;
 }
@@ -183,7 +192,7 @@ QByteArray QDDrawCanvas::markAction() {
         return {};
     }
     takeImageData(data);
-    setEdited(false);
+    noteRecorded();
     images.addItemWithImageData(data);
     return data;
 }
@@ -194,7 +203,7 @@ QByteArray QDDrawCanvas::autoMarked() {
 }
 
 QImage QDDrawCanvas::currentImage() {
-    return _curImageData.isEmpty()
+    return _curImageData.size() != snapshotBytes()
                ? image()
                : ESContext::imageWithData(reinterpret_cast<const unsigned char*>(_curImageData.constData()),
                                           bufferSize());

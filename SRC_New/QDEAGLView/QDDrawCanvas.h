@@ -70,9 +70,10 @@ public:
     // once; the pixels are the same without.
     // A sample that is not finite is refused, with one log line a stroke, and the stroke goes on: a refused begin
     // leaves the beginning to the first good move, a refused end ends where the stroke got to. Moves and ends
-    // without a begin do nothing; a begin without an end before it ends that stroke as it stands (a preview's
-    // leaves nothing).
-    // A brush of another kind in mid-stroke leaves what was drawn as it is, beyond the reach of withdrawing.
+    // without a begin do nothing; a begin without an end before it ends that stroke as it stands, as a step of its
+    // own (a preview's leaves nothing). A begin during whose callbacks the stroke is ended begins nothing.
+    // A brush of another kind in mid-stroke leaves what was drawn as it is, beyond the reach of withdrawing; so do a
+    // clear, an image and updateBGImage().
     void drawingWithBeginPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
     // Does nothing more than two callbacks for a point within 1.0 buffer pixel of the last accepted one.
     void drawingWithMoveToPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
@@ -146,7 +147,9 @@ public:
     // What a display tells of its devices. A stroke belongs to the kind of device that began it: while a finger
     // draws, mouse and pen are refused, and the other way round. A mouse or pen stroke ends through the cancel
     // path: one of up to nine moves is withdrawn, as if never drawn, unless adjustCancelLine is off; any other is
-    // finished. A click draws nothing. While the frame is empty no stroke begins.
+    // finished. Withdrawing puts edited() back to what it was before the stroke. A step recorded in mid-stroke
+    // stays a step of its own: as the canvas is then unlike it, edited() is on. A click draws nothing. While the
+    // frame is empty no stroke begins.
     void touchesBeganWithEvent(const QDDrawTouch& event);
     void touchesMovedWithEvent(const QDDrawTouch& event);
     void touchesEndedWithEvent(const QDDrawTouch& event);
@@ -216,7 +219,8 @@ public:
     void clear();
     void clearOnline(bool online);
     void clearWithColor(const ESColor& color, bool online);
-    // Clears the canvas image alone; a colour of no components, like none given, is transparent.
+    // Clears the canvas image alone, with what a stroke in progress has drawn so far; dabs that wait in a layer stay
+    // there. A colour of no components, like none given, is transparent.
     void clearESBufferOnline(bool online);
     void clearESBufferWithColor(const ESColor& color, bool online);
 
@@ -226,8 +230,9 @@ public:
     void clearSmudgeBuffer();
 
     // Runs of dabs, or a single one, straight into a layer, in buffer pixels; the touched rectangle comes back,
-    // rounded to whole pixels. Without a layer named they go into the line's, and updateImage() puts them onto the
-    // canvas; the end of the next stroke clears them from the layer, as clearExtenBuffer() does at once.
+    // rounded to whole pixels. A run with a number that is not finite is refused as a whole, with a log line.
+    // Without a layer named they go into the line's, and updateImage() puts them onto the canvas; the end of the
+    // next stroke clears them from the layer, as clearExtenBuffer() does at once.
     QRectF drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer);
     QRectF drawPoints(const LPPoint* points, std::size_t count);
     QRectF drawPoint(QPointF point, float size);
@@ -235,7 +240,8 @@ public:
     // Puts the area touched last from the stroke's layer onto the canvas.
     void updateImage(bool online);
     void updateImage(bool online, bool smudge);
-    // Repaints an area, in buffer pixels, as it was before the stroke, and asks the display to show it.
+    // Repaints every pixel that an area touches, in buffer pixels, as it was before the stroke, and asks the display to
+    // show it. An area that is not finite or touches none changes nothing.
     void resetWithRenderRect(const QRectF& rect);
     // Makes the smudge layer show the present canvas, for which the layers' strokes are finished. Smudge
     // strokes begin with that by themselves.
@@ -301,15 +307,15 @@ public:
     // it.
     bool neglectTextureUpdate() const { return _neglectTextureUpdate; }
     void setNeglectTextureUpdate(bool value) { _neglectTextureUpdate = value; }
-    // Placing touches only what lies in scissorRect(): buffer pixels, rounded to whole ones. One that is not
-    // finite is refused with a log line; an empty one lets nothing through.
+    // Placing touches only what lies in scissorRect(): buffer pixels, rounded to whole ones. It may be far larger than
+    // the canvas; one that is not finite is refused with a log line; an empty one lets nothing through.
     bool globalScissor() const { return _globalScissor; }
     void setGlobalScissor(bool value) { _globalScissor = value; }
     QRectF scissorRect() const { return _scissorRect; }
     void setScissorRect(const QRectF& rect);
     // A recorded canvas: readData() of all of it. Empty for none. While enableRecogition() is on it is the
     // canvas without the present stroke, and what that is taken back to, be it another picture that the host
-    // sets.
+    // sets, which then becomes the whole canvas.
     QByteArray curImageData() const { return _curImageData; }
     void setCurImageData(const QByteArray& data);
     // Everything that was composited or placed since the last clear, in buffer pixels.
@@ -343,7 +349,7 @@ public:
     // Makes the history, if there is none yet, and gives the last step's picture. Sets markTimeInterval() to 0, and
     // times the next step from now.
     QByteArray loadUndoManager();
-    // The last step's picture, or the canvas's where there is no step.
+    // The last step's picture, or the canvas's where there is no step or curImageData() is of another size.
     QImage currentImage();
     ImagesUndoManager& undoManager() { return history(); }
 
@@ -605,12 +611,17 @@ private:
     void takeSample(QPointF point, float pressure, float altitude);
     void finishLayers(bool asStep = false);
     void settleLayers();
+    void keepDrawn();
     void withdrawStroke(QPointF point);
+    void noteTakenBack(const QRectF& area);
     void dropStroke();
+    void leaveDrawn();
     void cancelAt(QPointF point, float pressure, bool withdraw);
     void leavePointerStroke(bool withdraw);
     void startProcess();
     QRectF drawRun(const LPPoint* points, std::size_t count, ESRenderType layer);
+    QRectF drawHostRun(const LPPoint* points, std::size_t count, ESRenderType layer);
+    bool lineLayersHoldDabs() const;
     void emptyLineLayers();
     ESRenderType mainLayer() const { return isSmudgeType() ? ESRenderTypeSmudge : ESRenderTypeLine; }
     QRectF& mainRect() { return isSmudgeType() ? _smudgeRenderRect : _lineRenderRect; }
@@ -623,11 +634,13 @@ private:
     void beginSketch(QPointF point);
     void settleSketch();
     void takeBackSketch();
+    void restoreImageData(const QRect& area);
     void endSketch(QPointF point, bool online);
     bool drawOutline(const ShapeRecord& shape, bool online);
     QRectF drawRuns(const std::vector<std::vector<LPPoint>>& runs, ESRenderType layer);
     double recognitionScale() const;
     void setEdited(bool edited);
+    void noteRecorded();
 
     void settleDrawn();
     bool settleStrokeKind(std::int32_t brushType, bool isDebug, bool enableRecogition);
@@ -717,7 +730,8 @@ private:
     QRectF _lineRenderRect;
     QRectF _subLineRenderRect;
     QRectF _smudgeRenderRect;
-    QRectF _strokeRect;  // all that the stroke put onto the canvas
+    QRectF _strokeRect;          // what withdrawing it repaints
+    bool _editedBefore = false;  // edited() without that
     QRectF _tempRect;
     QPointF _lastRenderObject;
     float _lastPressure = -1, _lastAltitude = -1;
@@ -732,10 +746,10 @@ private:
     QRectF _updateRect;            // changed since the background was last refreshed
     std::vector<QRectF> _pending;  // to be composited before the canvas is next looked at
     bool _smudgeIsWarm = false;
-    bool _pendingSmudge = false;  // from the smudge layer
-    QRectF _smudgeStale;          // where the smudge layer may differ from the canvas
-    bool _mayMergePending = true;
-    QRect _staleRect;  // changed since displayImage() was last called
+    bool _pendingSmudge = false;   // from the smudge layer
+    QRectF _smudgeStale;           // where the smudge layer may differ from the canvas
+    bool _mayMergePending = true;  // the canvas is the background with the layers above it
+    QRect _staleRect;              // changed since displayImage() was last called
     QImage _displayImage;
     bool _edited = false;
     bool _autoMark = false;
@@ -760,7 +774,6 @@ private:
 
     // Of a stroke that is to be recognised
     bool _isSketch = false;
-    bool _editedBefore = false;       // edited() without it
     std::vector<ShapePoint> _points;  // buffer pixels
     std::binary_semaphore _recognizeSemaphore{1};
 

@@ -275,6 +275,9 @@ TEST_F(BrushPropertiesTest, TheSecondLineFollowsTheFirst) {
     EXPECT_FLOAT_EQ(canvas->relationValue(), 0.5f);
     canvas->setRadius(40);
     EXPECT_FLOAT_EQ(canvas->slRadius(), 20);
+    canvas->setRelationValue(3e38f);
+    EXPECT_FLOAT_EQ(canvas->slRadius(), 20) << "none that is not finite";
+    EXPECT_FLOAT_EQ(canvas->relationValue(), 0.5f);
     canvas->setSlRadiusRelationType(1);
     EXPECT_FLOAT_EQ(canvas->relationValue(), -20);
     canvas->setRadius(15);

@@ -101,6 +101,13 @@ TEST_F(CanvasImageTest, EveryKindOfImageIsTakenForItsPixels) {
         image.setDevicePixelRatio(2);
         ASSERT_TRUE(canvas->setImage(image, QRectF(7, 9, 43, 31)));
         EXPECT_TRUE(imagesMatch(canvas->imageWithRect(QRectF(7, 9, 43, 31)), image));
+        // Scaled, too: one axis by more than the other, as by its own pixels.
+        const QRectF narrow(7, 9, 5, 31);
+        ASSERT_TRUE(canvas->setImage(image, narrow));
+        const QImage scaled = canvas->imageWithRect(narrow);
+        image.setDevicePixelRatio(1);
+        ASSERT_TRUE(canvas->setImage(image.convertToFormat(QImage::Format_RGBA8888), narrow));
+        EXPECT_TRUE(imagesMatch(scaled, canvas->imageWithRect(narrow)));
     }
     const QImage window(source.constBits() + 8, 30, 31, source.bytesPerLine(), source.format());
     ASSERT_TRUE(canvas->setImage(window, QRectF(0, 0, 30, 31)));
@@ -279,7 +286,17 @@ TEST_F(CanvasImageTest, OnlyWhatTheScissorLetsThroughIsTouched) {
     ASSERT_TRUE(canvas->setImage(part(), _at));
     EXPECT_TRUE(imagesMatch(canvas->displayImage(), withPart(before, {60, 70}, part().copy(10, 10, 20, 9))));
     const QImage after = canvas->image();
-    canvas->clearWithColor(ESColor::rgba(0.2f, 0.4f, 0.6f, 0.8f), false);
+    const auto clear = [&] { canvas->clearWithColor(ESColor::rgba(0.2f, 0.4f, 0.6f, 0.8f), false); };
+    for (const QRectF all : {QRectF(0, 0, 2e9, 2e9), QRectF(-1e10, -1e10, 2e10, 2e10)}) {
+        clear();
+        canvas->setScissorRect(all);
+        canvas->setNeglectTextureUpdate(all.x() < 0);  // drawn, not copied
+        EXPECT_TRUE(canvas->setImage(part(), _at));
+        EXPECT_TRUE(imagesMatch(canvas->image(), placedOn(before)));
+    }
+    canvas->setNeglectTextureUpdate(false);
+    clear();
+    canvas->setScissorRect(QRectF(60.3, 69.6, 20, 9));
     ASSERT_TRUE(canvas->setData(bottomUp(part()), {40, 24}, _at));
     EXPECT_TRUE(imagesMatch(canvas->image(), after));
     canvas->setNeglectTextureUpdate(true);  // drawn, not copied
@@ -382,6 +399,7 @@ TEST_F(CanvasImageTest, BadInputIsRefusedWithOneLine) {
     const QByteArray data = bottomUp(part());
     const QSize size = part().size();
     unsigned char bytes[16];
+    const LPPoint dabs[] = {{{20, 20}, 9, {1, 1, 1}}, {{static_cast<float>(kInfinity), 9}, 9, {1, 1, 1}}};
     const std::pair<const char*, std::function<bool()>> kRows[] = {
         {"null image", [&] { return canvas->drawImage(QImage(), good); }},
         {"no size", [&] { return canvas->drawImage(part(), QRectF(10, 10, 0, 0)); }},
@@ -402,6 +420,11 @@ TEST_F(CanvasImageTest, BadInputIsRefusedWithOneLine) {
         {"reading no pixel", [&] { return canvas->readData(bytes, QRectF(3, 3, 0.5, 5)); }},
         {"reading NaN", [&] { return canvas->readDataBufferRect(bytes, QRectF(kNaN, 3, 2, 2)); }},
         {"reading to nowhere", [&] { return canvas->readData(nullptr, good); }},
+        {"endless dab", [&] { return !canvas->drawPoints(dabs, 2, ESRenderTypeSmudge).isEmpty(); }},
+        {"NaN dab",
+         [&] {
+             return !canvas->drawPoint({30, 30}, static_cast<float>(kNaN)).isEmpty();
+         }},
         {"NaN scissor", [&] { return canvas->setScissorRect(QRectF(0, 0, kNaN, 1)), false; }},
     };
     for (const auto& [name, call] : kRows) {

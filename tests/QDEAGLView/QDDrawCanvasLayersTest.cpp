@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <limits>
+#include <random>
 #include <string>
 
 #include "ESRender/ESImageRender.h"
@@ -7,6 +9,8 @@
 namespace {
 
 using CanvasLayersTest = CanvasTest;
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kEndless = std::numeric_limits<double>::infinity();
 
 // Withdrawing and backgrounds
 
@@ -25,9 +29,13 @@ TEST_F(CanvasLayersTest, AWithdrawnStrokeDisappears) {
             EXPECT_NE(canvas->image(), before) << "blend type " << blendType;
         }
         const QImage drawn = canvas->image();
-        canvas->resetWithRenderRect(QRectF(10, 10, 20, 0));
-        EXPECT_TRUE(imagesMatch(canvas->image(), drawn)) << "an empty rectangle withdraws nothing";
-        canvas->resetWithRenderRect(QRectF(0, 0, 200, 150));
+        for (const QRectF none :
+             {QRectF(10, 10, 20, 0), QRectF(10, kNaN, 20, 20), QRectF(-kEndless, 0, kEndless, 9)}) {
+            canvas->resetWithRenderRect(none);
+            EXPECT_TRUE(imagesMatch(canvas->image(), drawn)) << "an empty rectangle withdraws nothing";
+        }
+        canvas->resetWithRenderRect(QRectF(0, 0, 1e-300, 9));  // of which single precision makes nothing
+        canvas->resetWithRenderRect(QRectF(-1e10, -1e10, 2e10, 2e10));
         EXPECT_TRUE(imagesMatch(canvas->image(), before)) << "blend type " << blendType;
         EXPECT_EQ(canvas->blendType(), blendType);
     }
@@ -79,44 +87,75 @@ TEST_F(CanvasLayersTest, TheNextStrokeStartsFromWhatTheLastOneLeft) {
     EXPECT_NEAR(twice, 192, 2) << "two strokes do";
 }
 
-// Looking at the canvas after every segment, or never: composites that wait must give the same pixels.
+// What may happen to a stroke before it is next looked at.
+const std::function<void(QDDrawCanvas&, QPointF)> kHappenings[] = {
+    [](QDDrawCanvas& c, QPointF at) { c.setOpacity(static_cast<float>(0.2 + at.x() / 300)); },
+    [](QDDrawCanvas& c, QPointF at) { c.setBlendType(static_cast<int>(at.y()) % 10); },
+    [](QDDrawCanvas& c, QPointF at) { c.setRepeatedlyRenderEnabled(at.x() < 90); },
+    [](QDDrawCanvas& c, QPointF at) { c.setBrushType(at.x() < 80 ? 3 : 0); },
+    [](QDDrawCanvas& c, QPointF) { c.clearESBufferWithColor(ESColor::rgba(0.2f, 0.5f, 0.9f, 0.6f), false); },
+    [](QDDrawCanvas& c, QPointF) { c.clear(); },
+    [](QDDrawCanvas& c, QPointF) { c.clearExtenBuffer(); },
+    [](QDDrawCanvas& c, QPointF) { c.updateBGImage(); },
+    [](QDDrawCanvas& c, QPointF at) { c.resetWithRenderRect(QRectF(at, QSizeF(30.5, 20))); },
+    [](QDDrawCanvas& c, QPointF at) { c.drawPoint(at, 25); },  // and not composited
+    [](QDDrawCanvas& c, QPointF at) {
+        c.drawPoint(at, 25);
+        c.updateImage(false);
+    },
+    [](QDDrawCanvas& c, QPointF at) {
+        const LPPoint dab{{static_cast<float>(at.x()), 60}, 30, {1, 1, 1}};
+        c.drawPoints(&dab, 1, at.y() < 75 ? ESRenderTypeCanvas : ESRenderTypeSubLine);
+    },
+    [](QDDrawCanvas& c, QPointF at) {
+        c.setNeglectTextureUpdate(at.y() < 75);
+        c.drawImage(patternImage({30, 20}), QRectF(at, QSizeF(33, 20)));
+        c.setNeglectTextureUpdate(false);
+    },
+    [](QDDrawCanvas& c, QPointF at) {
+        c.mouseDown({at});
+        c.mouseDragged({at + QPointF(25, 9)});
+        c.mouseDragged({at + QPointF(40, 0)});
+        c.mouseUp({at});  // withdrawn
+        c.drawingWithBeginPoint(at);
+    },
+};
+
+// Looking at the canvas now and then, or never: composites that wait must give the same pixels.
 class CanvasBlendTest : public CanvasTest, public ::testing::WithParamInterface<int> {};
 TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
-    const auto paint = [&](bool look) {
-        auto canvas = makeCanvas();
-        canvas->clearWithColor(ESColor::rgba(0.9f, 0.7f, 0.3f, 0.8f), false);
-        canvas->setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.8f));
-        canvas->setBlendType(GetParam());
-        canvas->setFlow(0.4f);
-        canvas->setOpacity(0.8f);
-        paintWave(*canvas, 75, 30, [&](int i) {
-            if (look) {
-                canvas->image();
+    const std::unique_ptr<QDDrawCanvas> canvases[] = {makeCanvas(211, 133), makeCanvas(211, 133)};
+    for (std::size_t mostly = 0; mostly < std::size(kHappenings); ++mostly) {
+        SCOPED_TRACE(mostly);
+        const auto paint = [&](QDDrawCanvas& canvas, bool look) {
+            canvas.setBrushType(0);
+            canvas.setBlendType(GetParam());
+            canvas.setOpacity(0.8f);
+            canvas.setFlow(0.4f);
+            canvas.setRadius(14);
+            canvas.setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.8f));
+            canvas.clearWithColor(ESColor::rgba(0.9f, 0.7f, 0.3f, 0.8f), false);
+            std::mt19937 random(static_cast<unsigned>(mostly));
+            const auto next = [&] { return QPointF(random() % 190 + 10, random() % 110 + 10); };
+            canvas.drawingWithBeginPoint(next());
+            for (int move = 0; move < 20; ++move) {
+                canvas.drawingWithMoveToPoint(next());
+                const QPointF at = next();
+                const auto other = random() % std::size(kHappenings);
+                if (const auto dice = random() % 10; dice < 3) {
+                    kHappenings[dice == 0 ? other : mostly](canvas, at);
+                }
+                if (random() % 3 == 0 && look) {
+                    canvas.displayImage();
+                }
             }
-            if (i == 15) {
-                canvas->setOpacity(0.5f);  // what is drawn keeps the old settings
-            } else if (i == 22) {
-                canvas->setBlendType(5);
-            }
-        });
-        return canvas->image();
-    };
-    EXPECT_TRUE(imagesMatch(paint(false), paint(true)));
-}
-TEST_P(CanvasBlendTest, ShownPixelsAreTheCanvas) {
-    auto canvas = makeCanvas(211, 133);
-    canvas->setBlendType(GetParam());
-    canvas->clearWithColor(ESColor::grey(0.5f, 1), true);
-    paintWave(*canvas, 60, 20, [&](int i) {
-        if (i % 3 == 0) {
-            canvas->displayImage();
-        }
-    });
-    EXPECT_TRUE(imagesMatch(canvas->displayImage(), canvas->image()));
-    canvas->resetWithRenderRect(QRectF(20, 20, 40, 40));
-    EXPECT_TRUE(imagesMatch(canvas->displayImage(), canvas->image()));
-    canvas->clear();
-    EXPECT_TRUE(imagesMatch(canvas->displayImage(), canvas->image()));
+            canvas.drawingWithEndPoint(next());
+            EXPECT_TRUE(imagesMatch(canvas.displayImage(), canvas.image()));
+        };
+        paint(*canvases[0], false);
+        paint(*canvases[1], true);
+        EXPECT_TRUE(imagesMatch(canvases[0]->image(), canvases[1]->image()));
+    }
 }
 INSTANTIATE_TEST_SUITE_P(Types, CanvasBlendTest, ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 9),
                          [](const auto& row) { return "Blend" + std::to_string(row.param); });

@@ -86,6 +86,8 @@ TEST_F(CanvasPointerTest, AShortMouseStrokeIsWithdrawnAndALongOneFinished) {
 
 TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
     paintWave(*canvas);
+    EXPECT_TRUE(canvas->edited());
+    canvas->markAction();
     for (const bool secondLine : {false, true}) {
         for (const int blend : {1, 2, 5, 8}) {
             SCOPED_TRACE("blend type " + std::to_string(blend) + (secondLine ? " with a second line" : ""));
@@ -99,6 +101,7 @@ TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
             canvas->mouseUp(at(90));
             EXPECT_TRUE(imagesMatch(canvas->image(), before));
             EXPECT_TRUE(imagesMatch(canvas->displayImage(), before));
+            EXPECT_FALSE(canvas->edited());
         }
     }
     // And nothing of it comes back with the next stroke.

@@ -145,6 +145,16 @@ TEST_F(CanvasPreviewTest, WithdrawnOrAbandonedItLeavesNothing) {
     useLeaf(*canvas);
     drag(12);
     canvas->mouseUp({{150, 120}});
+
+    // Its step is told of when the next stroke begins, which a host may end there and then.
+    struct Leaver : QDDrawViewDelegate {
+        void drawViewDidUpdateUndoStatus(QDDrawCanvas& c, bool) override { c.endPointerStroke(); }
+    } leaver;
+    canvas->setDelegate(&leaver);
+    canvas->setAutoMark(true);
+    drag(12);
+    EXPECT_TRUE(canvas->canUndo());
+    EXPECT_FALSE(canvas->isDrawing());
     EXPECT_FALSE(painted(canvas->image()).isEmpty());
 }
 

@@ -255,12 +255,19 @@ TEST_F(CanvasStrokeTest, StrokesOfTwoCanvasesMayInterleave) {
         canvas.setDistributionCount(2);
         canvas.setEndRadius(0.3f);
         canvas.setRadiusControl({0, 0, 0.8f});
+        canvas.setHueTingle(0.9f);
+        canvas.setRenderColor(ESColor::rgba(0.8f, 0.3f, 0.2f));
+    };
+    const auto dabAfter = [](QDDrawCanvas& canvas) {
+        canvas.drawPoint({60, 120}, 30);
+        canvas.updateImage(false);
     };
     auto alone = makeCanvas();
     auto otherAlone = makeCanvas();
     prepare(*alone, 20, 90);
     prepare(*otherAlone, 33, 0);
     paintWave(*alone);
+    dabAfter(*alone);
     paintWave(*otherAlone, 60, 12);
 
     auto first = makeCanvas();
@@ -275,6 +282,7 @@ TEST_F(CanvasStrokeTest, StrokesOfTwoCanvasesMayInterleave) {
         }
         paintWaveSample(*second, 60, 12, i - 2);
     }
+    dabAfter(*first);
     EXPECT_TRUE(imagesMatch(first->image(), alone->image()));
     EXPECT_TRUE(imagesMatch(second->image(), otherAlone->image()));
 }

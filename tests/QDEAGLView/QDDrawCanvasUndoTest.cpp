@@ -97,6 +97,21 @@ TEST_F(CanvasUndoTest, ImagesAndClearsAreSteps) {
     canvas->mouseUp({{60, 60}});
     EXPECT_TRUE(imagesMatch(canvas->image(), stroke));
     EXPECT_TRUE(canvas->canRedo()) << "a withdrawn stroke is no step";
+    // What is recorded in the middle of one stays a step; the canvas without it is another.
+    canvas->mouseDown({{20, 20}});
+    canvas->mouseDragged({{60, 60}});
+    EXPECT_FALSE(canvas->markAction().isNull());
+    canvas->mouseUp({{60, 60}});
+    EXPECT_FALSE(canvas->markAction().isNull());
+    EXPECT_TRUE(imagesMatch(canvas->currentImage(), stroke));
+    // A stroke without an end is one of its own.
+    canvas->drawingWithBeginPoint({20, 60});
+    canvas->drawingWithMoveToPoint({50, 60});
+    canvas->drawingWithMoveToPoint({80, 60});
+    const QImage unended = canvas->image();
+    paint(20);
+    canvas->undo();
+    EXPECT_TRUE(imagesMatch(canvas->image(), unended));
 }
 
 TEST_F(CanvasUndoTest, TheDelegateHearsOfChangesOnly) {
