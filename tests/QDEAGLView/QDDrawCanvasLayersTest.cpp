@@ -133,11 +133,15 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
             canvas.setBlendType(GetParam());
             canvas.setOpacity(0.8f);
             canvas.setFlow(0.4f);
+            canvas.setRadius(14);
             canvas.setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.8f));
             canvas.clearWithColor(ESColor::rgba(0.9f, 0.7f, 0.3f, 0.8f), false);
             std::mt19937 random(static_cast<unsigned>(mostly));
-            paintWave(canvas, 75, 30, [&](int) {
-                const QPointF at(random() % 150, random() % 120);
+            const auto next = [&] { return QPointF(random() % 190 + 10, random() % 110 + 10); };
+            canvas.drawingWithBeginPoint(next());
+            for (int move = 0; move < 20; ++move) {
+                canvas.drawingWithMoveToPoint(next());
+                const QPointF at = next();
                 const auto other = random() % std::size(kHappenings);
                 if (const auto dice = random() % 10; dice < 3) {
                     kHappenings[dice == 0 ? other : mostly](canvas, at);
@@ -145,7 +149,8 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
                 if (random() % 3 == 0 && look) {
                     canvas.displayImage();
                 }
-            });
+            }
+            canvas.drawingWithEndPoint(next());
             EXPECT_TRUE(imagesMatch(canvas.displayImage(), canvas.image()));
         };
         paint(*canvases[0], false);
