@@ -22,7 +22,8 @@ private:
     bool _bound = false;
 };
 
-EGLContext makeContext(EGLDisplay display) {
+// What the driver is asked for besides: to tell of a reset, which it may not know how to.
+EGLContext makeContext(EGLDisplay display, bool tellsOfResets) {
     EGLConfig config = EGL_NO_CONFIG_KHR;
     if (!epoxy_has_egl_extension(display, "EGL_KHR_no_config_context")) {
         const EGLint wanted[] = {EGL_SURFACE_TYPE, 0, EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT, EGL_NONE};
@@ -39,8 +40,22 @@ EGLContext makeContext(EGLDisplay display) {
         attributes.insert(attributes.end(),
                           {EGL_CONTEXT_RELEASE_BEHAVIOR_KHR, EGL_CONTEXT_RELEASE_BEHAVIOR_NONE_KHR});
     }
+    if (tellsOfResets) {
+        attributes.insert(attributes.end(), {EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY_KHR,
+                                             EGL_LOSE_CONTEXT_ON_RESET_KHR});
+    }
     attributes.push_back(EGL_NONE);
     return eglCreateContext(display, config, EGL_NO_CONTEXT, attributes.data());
+}
+
+EGLContext makeContext(EGLDisplay display) {
+    if (epoxy_has_egl_extension(display, "EGL_EXT_create_context_robustness")) {
+        const EGLContext context = makeContext(display, true);
+        if (context != EGL_NO_CONTEXT) {
+            return context;
+        }
+    }
+    return makeContext(display, false);
 }
 
 // Whether an initialised display can give what is needed; tried by making a context.
@@ -131,6 +146,7 @@ bool EGLSurfacelessView::makeCurrent() {
     if (eglMakeCurrent(_display, EGL_NO_SURFACE, EGL_NO_SURFACE, _context)) {
         return true;
     }
+    _isLost = eglGetError() == EGL_CONTEXT_LOST;
     if (host.hasGLX()) {
         host.restoreNative();
     }

@@ -6,6 +6,7 @@
 //          user in the process, whose contexts would die with it.
 // Flushing the context is made with release behaviour "none" where the driver knows it, so that letting go
 //          of it for the host's context does not flush.
+// Resets   of the graphics card are told of where the driver can.
 // Errors   create() returns null and says in *reason what is missing; it never ends the process.
 #pragma once
 
@@ -22,6 +23,7 @@ public:
 
     bool makeCurrent() override;
     bool isCurrent() const override;
+    bool isLost() const override { return _isLost; }
     void doneCurrent() override;
     void restoreHost(const ESHostContext& host) override;
 
@@ -30,4 +32,5 @@ private:
 
     void* _display;  // EGLDisplay, shared, not ours to terminate
     void* _context;  // EGLContext, ours
+    bool _isLost = false;
 };

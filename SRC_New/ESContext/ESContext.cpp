@@ -118,10 +118,33 @@ void ESContext::setOpenGLView(std::unique_ptr<ESOpenGLView> openGLView) {
     _renderBuffer = _lineTexture = _sublineTexture = _smudgeTexture = 0;
     _backingWidth = _backingHeight = 0;
     _openGLView = std::move(openGLView);
+    _isLost = false;
 }
 
 bool ESContext::makeCurrent() {
-    return _openGLView && _openGLView->makeCurrent();
+    if (_isLost || !_openGLView) {
+        return false;
+    }
+    if (_openGLView->makeCurrent()) {
+        return true;
+    }
+    if (_openGLView->isLost()) {
+        noteLost();
+    }
+    return false;
+}
+
+void ESContext::noteLost() {
+    if (!std::exchange(_isLost, true)) {
+        qCWarning(lcDabcanvasGL, "The OpenGL context was lost; nothing is drawn in it any more");
+    }
+}
+
+bool ESContext::checkLost() {
+    if (!_isLost && dabcanvas::drainFindsLostContext(kFile, __LINE__)) {
+        noteLost();
+    }
+    return _isLost;
 }
 
 bool ESContext::changeToCurrentContext() {
@@ -321,6 +344,7 @@ void ESContext::finishRender() {
     if (makeCurrent()) {
         _openGLView->flushBuffer();
         glDisable(GL_SCISSOR_TEST);
+        checkLost();
     }
 }
 

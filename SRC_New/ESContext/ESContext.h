@@ -10,6 +10,8 @@
 //          disturb their host's context hold an ESCurrentScope around their calls; only init() and the
 //          destructor restore by themselves.
 // Thread   whichever has this context current; bufferAccess, when set, serialises buffers and reads.
+// Loss     a driver may reset a context, and with it all pictures, for good. Steps that draw or read ask for it
+//          when they end; one log line, isLost() from then on, and nothing is drawn or read any more.
 // Errors   never throws. createBufferWithSize() logs the bad size or the incomplete target and returns
 //          false; what it had made of an incomplete set stays for destoryBuffer().
 #pragma once
@@ -77,6 +79,11 @@ public:
     void finishRender();
     ESRenderType currentRenderType() const { return static_cast<ESRenderType>(_currentRenderType); }
 
+    // Whether the driver has taken the context away, as far as was found. Another view is a new chance.
+    bool isLost() const { return _isLost; }
+    // The same, after asking the driver, whose context must be current.
+    bool checkLost();
+
     static void setEnable(bool enable, GLenum forProperty);
     static bool enableForProporty(GLenum capability);
 
@@ -114,7 +121,7 @@ public:
     void readData(unsigned char* bytes, const QRectF& rect);
 
     // The canvas, or a part of it, right way up as Format_RGBA8888_Premultiplied; null when the rectangle is
-    // not enabled or memory is short. The two names do the same here.
+    // not enabled, memory is short or the context is lost. The two names do the same here.
     QImage image();
     QImage imageWithRect(const QRectF& rect);
     QImage newCGImageWithRect(const QRectF& rect);
@@ -162,7 +169,9 @@ public:
 private:
     explicit ESContext(std::unique_ptr<ESOpenGLView> view);
 
+    friend class ESCurrentScope;
     bool makeCurrent();
+    void noteLost();
     bool sizeIsUsable(const QSizeF& size, QSize& pixels);
     bool makeLayer(ESRenderType type, GLuint& texture, const QSize& size, int line);
     bool checkFramebuffer(int line);
@@ -179,6 +188,7 @@ private:
     GLint _backingHeight = 0;
     QSize _smudgeSize;  // fixed at creation
     std::int64_t _currentRenderType = 0;
+    bool _isLost = false;
     std::shared_ptr<QSemaphore> _bufferAccess;
     QSizeF _viewSize{0, 0};
     QByteArray _data;

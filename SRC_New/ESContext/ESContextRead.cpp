@@ -74,6 +74,7 @@ void ESContext::readData(unsigned char* bytes, const QRectF& rect) {
     const int width = std::clamp(nearestInt(rows.right()) - x, 0, _backingWidth);
     const int height = std::clamp(nearestInt(rows.bottom()) - y, 0, _backingHeight);
     glReadPixels(x, y, width, height, GL_RGBA, GL_UNSIGNED_BYTE, bytes);
+    checkLost();
 }
 
 QImage ESContext::image() {
@@ -95,6 +96,9 @@ QImage ESContext::newCGImageWithRect(const QRectF& rect) {
         return {};
     }
     readData(image.bits(), rect);
+    if (_isLost) {
+        return {};
+    }
     return std::move(image).mirrored(false, true);  // in place
 }
 
@@ -124,6 +128,9 @@ QImage ESContext::newCGImageForType(ESRenderType type) {
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     glReadPixels(origin.x(), origin.y(), size.width(), size.height(), GL_RGBA, GL_UNSIGNED_BYTE,
                  _data.data());
+    if (checkLost()) {
+        return {};
+    }
     return flippedImage(reinterpret_cast<const unsigned char*>(_data.constData()), size, kLayerImageLine);
 }
 
@@ -164,6 +171,9 @@ bool ESContext::updateImage(QImage& image, const QRect& rect) {
     glReadPixels(part.x(), _backingHeight - part.y() - part.height(), part.width(), part.height(), GL_RGBA,
                  GL_UNSIGNED_BYTE, _scratch.data());
     glBindFramebuffer(GL_READ_FRAMEBUFFER, _frameBuffer[_currentRenderType]);
+    if (checkLost()) {
+        return false;
+    }
     const qsizetype stride = image.bytesPerLine();
     for (int row = 0; row < part.height(); ++row) {
         std::memcpy(bits + (part.bottom() - row) * stride + part.x() * 4,

@@ -4,7 +4,12 @@
 #include "ESContext/ESContext.h"
 #include "ESContext/ESOpenGLView.h"
 
-ESCurrentScope::ESCurrentScope(ESContext& context) : ESCurrentScope(context.openGLView()) {}
+ESCurrentScope::ESCurrentScope(ESContext& context)
+    : ESCurrentScope(context.isLost() ? nullptr : context.openGLView()) {
+    if (_view && !_current && _view->isLost()) {
+        context.noteLost();
+    }
+}
 
 ESCurrentScope::ESCurrentScope(ESOpenGLView* view) : _view(view) {
     if (!view) {

@@ -19,7 +19,7 @@ class ESOpenGLView;
 
 class ESCurrentScope {
 public:
-    explicit ESCurrentScope(ESContext& context);
+    explicit ESCurrentScope(ESContext& context);  // false, too, once the context is lost
     explicit ESCurrentScope(ESOpenGLView* view);  // null: the scope is false and does nothing
     ~ESCurrentScope();
     ESCurrentScope(const ESCurrentScope&) = delete;

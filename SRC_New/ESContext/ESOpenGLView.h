@@ -27,6 +27,8 @@ public:
     // refuses, with what was current before still current.
     virtual bool makeCurrent() = 0;
     virtual bool isCurrent() const = 0;
+    // Why makeCurrent() failed: the platform has taken the context away, for good.
+    virtual bool isLost() const { return false; }
     // Leaves no context current on this thread when this view's was; otherwise does nothing.
     virtual void doneCurrent() = 0;
 

@@ -37,6 +37,7 @@ std::unique_ptr<QtOffscreenView> QtOffscreenView::create(QString* reason) {
     // Only framebuffer objects are drawn into: the surface needs neither of these.
     format.setDepthBufferSize(0);
     format.setStencilBufferSize(0);
+    format.setOption(QSurfaceFormat::ResetNotification);  // where the driver can
 
     std::unique_ptr<QtOffscreenView> view(new QtOffscreenView);
     view->_context->setFormat(format);
@@ -91,6 +92,10 @@ bool QtOffscreenView::isCurrent() const {
     // Qt does not notice when another context is made current past it, so the window system is asked too.
     return QOpenGLContext::currentContext() == _context.get() &&
            ESHostContext::capture().sameNativeContext(_native);
+}
+
+bool QtOffscreenView::isLost() const {
+    return !_context->isValid();
 }
 
 void QtOffscreenView::doneCurrent() {

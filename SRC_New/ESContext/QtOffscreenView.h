@@ -24,6 +24,7 @@ public:
 
     bool makeCurrent() override;
     bool isCurrent() const override;
+    bool isLost() const override;
     void doneCurrent() override;
     void restoreHost(const ESHostContext& host) override;
 

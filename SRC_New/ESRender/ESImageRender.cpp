@@ -35,13 +35,10 @@ void readTexelOnPixel() {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
 }
 
-// Of the bound texture, which needs no mip levels until it is reduced.
+// Of the bound texture.
 void readAs(Placement::Reading reading) {
     const bool exact = reading == Placement::Reading::texelOnPixel;
     const bool averaged = reading == Placement::Reading::averaged;
-    if (averaged) {
-        glGenerateMipmap(GL_TEXTURE_2D);
-    }
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER,
                     exact      ? GL_NEAREST
                     : averaged ? GL_LINEAR_MIPMAP_LINEAR
@@ -227,6 +224,9 @@ QRectF ESImageRender::drawPoints(const LPPoint* points, std::size_t count) {
     if (count > 0 && points != nullptr && program() != nullptr && bindSources()) {
         for (std::size_t i = 0; i < count; ++i) {
             if (_useLargeTexture) {
+                if (!isReadyToPlace(points[i])) {
+                    break;
+                }
                 bounds.grow(placedRect(points[i]));
             } else {
                 bounds.grow(points[i], _roundness, _radian);
@@ -325,7 +325,27 @@ void ESImageRender::setTextureImage(const QImage& image, GLenum atPosition) {
     glActiveTexture(atPosition);
     _brushTexture.reset();  // gives its memory back first
     _brushTexture = TextureObject::initWithPicture(image);
+    _hasLevels = false;
     _texturePos = atPosition;
+}
+
+// Mip levels may take more memory than the picture did, and are made only for what is reduced.
+bool ESImageRender::isReadyToPlace(const LPPoint& point) {
+    if (brushTexture() == nullptr) {
+        return false;
+    }
+    const Placement placement(point, _roundness, _radian);
+    if (_hasLevels || placement.readingOf(brushTexture()->pixSize()) != Placement::Reading::averaged) {
+        return true;
+    }
+    drainGLErrors(kSourcePath, __LINE__);  // what is found below must be the levels'
+    brushTexture()->useAtPosition(texturePos());
+    glGenerateMipmap(GL_TEXTURE_2D);
+    _hasLevels = dabcanvas::takeGLErrors() == 0;
+    if (!_hasLevels) {
+        _brushTexture.reset();
+    }
+    return _hasLevels;
 }
 
 void ESImageRender::setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) {
@@ -346,12 +366,16 @@ bool ESImageRender::isCopy(const LPPoint& point, const QSize& imageSize) const {
            placement.readingOf(imageSize) == Placement::Reading::texelOnPixel;
 }
 
-void ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
+bool ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
     if (!useBGTexture()) {
-        return;
+        return false;
     }
     const int y = static_cast<int>(bufferSize().height()) - rect.y() - rect.height();
+    drainGLErrors(kSourcePath, __LINE__);  // what is found below must be this copy's
     dabcanvas::copyRowsToTexture(rows, QPoint(rect.x(), y));
+    if (dabcanvas::takeGLErrors() > 0) {
+        return false;
+    }
     GLint target = 0;
     glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &target);
     GLuint source = 0;
@@ -364,6 +388,7 @@ void ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
     glBindFramebuffer(GL_READ_FRAMEBUFFER, static_cast<GLuint>(target));
     glDeleteFramebuffers(1, &source);
     drainGLErrors(kSourcePath, __LINE__);
+    return true;
 }
 
 // Switches to the program of smooth edges, in place of the blend type's; false where that is a host's own or

@@ -77,7 +77,7 @@ public:
     // Copies an RGBA8888_Premultiplied image, bottom row first, to a rectangle of its size, of the background
     // texture and the bound framebuffer. What mode replace makes of an image that isCopy(), for copying its
     // bytes twice; drawing takes a driver without a GPU ten times as long.
-    void copyToBG(const QImage& rows, const QRect& rect);
+    bool copyToBG(const QImage& rows, const QRect& rect);
     GLuint backgroundTexture() const { return _background.texture; }  // to read; 0 before the first copy
     // Bind a role's texture on its unit; false for a role without one.
     bool useBGTexture() const { return _background.use(); }
@@ -90,6 +90,9 @@ public:
     void setTextureImage(const QImage& image, GLenum atPosition = GL_TEXTURE0) override;
     void setTextureData(const unsigned char* data, const QSize& dataSize,
                         GLenum atPosition = GL_TEXTURE0) override;
+    // Whether that image can be drawn as this dab: a reduced one needs mip levels, which are made here or, at the
+    // latest, by drawPoints(). False, and the image dropped, without a line, when there is no memory for them.
+    bool isReadyToPlace(const LPPoint& point);
     // The source is this renderer's brush texture, a placed image, rather than the line layer. drawPoints()
     // drops it. In its own size on whole pixels, unturned or by quarters, it gives its exact pixels; enlarged
     // it is interpolated, reduced it is averaged; where its edges cut through pixels these are blended, with
@@ -145,6 +148,7 @@ private:
     std::uint32_t _blendType = ESBlendTypeNormal;
     bool _flipX = false, _flipY = false;
     float _radian = 0, _roundness = 1;
+    bool _hasLevels = false;  // the image to place
     bool _useLargeTexture = false, _repeatedlyRenderEnabled = false;
     Role _background, _line, _subLine;
 

@@ -5,6 +5,7 @@
 #include <limits>
 #include <vector>
 
+#include "ESContext/EGLSurfacelessView.h"
 #include "support/GLTest.h"
 #include "support/LogCapture.h"
 #include "support/Named.h"
@@ -181,6 +182,40 @@ TEST_F(ESContextTest, BlendModelsOfTheTargets) {
             EXPECT_EQ(value, expected) << "target " << kAllTypes[i] << ", state " << std::hex << name;
         }
     }
+}
+
+// A platform that takes the context away.
+class Taken : public ESOpenGLView {
+public:
+    bool isTaken = false;
+    bool makeCurrent() override { return !isTaken && _view->makeCurrent(); }
+    bool isCurrent() const override { return !isTaken && _view->isCurrent(); }
+    bool isLost() const override { return isTaken; }
+    void doneCurrent() override { _view->doneCurrent(); }
+    void restoreHost(const ESHostContext& host) override { _view->restoreHost(host); }
+
+private:
+    std::unique_ptr<ESOpenGLView> _view = EGLSurfacelessView::create();
+};
+
+TEST_F(ESContextTest, AContextThatIsTakenAwayIsLostForGood) {
+    auto view = std::make_unique<Taken>();
+    Taken& platform = *view;
+    _current.reset();
+    _context->setOpenGLView(std::move(view));
+    ASSERT_TRUE(_context->createBufferWithSize({16, 16}));
+    LogCapture log;
+    platform.doneCurrent();
+    platform.isTaken = true;
+    EXPECT_FALSE(ESCurrentScope(*_context));
+    EXPECT_TRUE(_context->isLost());
+    platform.isTaken = false;
+    EXPECT_FALSE(ESCurrentScope(*_context));
+    EXPECT_TRUE(_context->image().isNull());
+    EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+    _context->setOpenGLView(EGLSurfacelessView::create());
+    EXPECT_FALSE(_context->isLost());
+    _current.emplace(*_context);
 }
 
 TEST_F(ESContextTest, ANullOrUselessViewGivesNoContext) {

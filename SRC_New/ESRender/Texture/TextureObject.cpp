@@ -300,7 +300,7 @@ void TextureObject::upload(const QImage& picture) {
                  nullptr);
     dabcanvas::copyRowsToTexture(picture, {0, 0});
     glBindTexture(GL_TEXTURE_2D, 0);
-    if (drainGLErrors(kFile, __LINE__) > 0) {
+    if (dabcanvas::takeGLErrors() > 0) {  // what places the picture says that there is no memory
         destoryTexture();
     }
     // The picture's top row came first.

@@ -30,19 +30,51 @@ const char* errorName(GLenum error) {
     }
 }
 
-}  // namespace
+struct Drained {
+    int errors = 0;
+    bool lost = false;
+};
 
-int drainGLErrors(const char* file, int line) {
-    int count = 0;
-    for (; count < kMostErrors; ++count) {
+template <typename Hear>
+Drained drain(Hear hear) {
+    Drained drained;
+    while (drained.errors < kMostErrors) {
         const GLenum error = glGetError();
         if (error == GL_NO_ERROR) {
             break;
         }
-        qCWarning(lcDabcanvasGL, "GLError %s set in File:%s Line:%d\n", errorName(error), file, line);
+        if (error == GL_CONTEXT_LOST) {
+            drained.lost = true;
+            break;
+        }
+        hear(error);
+        ++drained.errors;
     }
-    found += static_cast<std::uint64_t>(count);
-    return count;
+    return drained;
+}
+
+Drained drainAndLog(const char* file, int line) {
+    const Drained drained = drain([&](GLenum error) {
+        qCWarning(lcDabcanvasGL, "GLError %s set in File:%s Line:%d\n", errorName(error), file, line);
+    });
+    found += static_cast<std::uint64_t>(drained.errors);
+    return drained;
+}
+
+}  // namespace
+
+int drainGLErrors(const char* file, int line) {
+    const Drained drained = drainAndLog(file, line);
+    return drained.errors + (drained.lost ? 1 : 0);
+}
+
+bool dabcanvas::drainFindsLostContext(const char* file, int line) {
+    return drainAndLog(file, line).lost;
+}
+
+int dabcanvas::takeGLErrors() {
+    const Drained drained = drain([](GLenum) {});
+    return drained.errors + (drained.lost ? 1 : 0);
 }
 
 std::uint64_t dabcanvas::drainedGLErrors() {

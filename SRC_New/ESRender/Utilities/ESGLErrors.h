@@ -17,7 +17,8 @@
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvasGL)
 
 // Empties the GL error queue, logs each error as "GLError %s set in File:%s Line:%d\n" and returns how many
-// it found. `file` is a source path from "SRC_New/" on. Gives up after 64, as a lost context may never end.
+// it found. `file` is a source path from "SRC_New/" on. Ends, without a line, at a lost context's error, which comes
+// for ever and counts as one: whoever owns the context tells of it, once.
 int drainGLErrors(const char* file, int line);
 
 // The drain of one drawing step. glGetError makes a driver with a thread of its own wait, so release builds
@@ -30,7 +31,13 @@ static inline void checkGLStep([[maybe_unused]] const char* file, [[maybe_unused
 
 namespace dabcanvas {
 
-// How many errors drainGLErrors() has found in this process; tests compare it before and after.
+// The same, and whether the last one was a lost context's.
+bool drainFindsLostContext(const char* file, int line);
+
+// Empties the queue without a line, for a caller that words what failed; how many errors it found.
+int takeGLErrors();
+
+// How many errors drainGLErrors() has logged in this process; tests compare it before and after.
 std::uint64_t drainedGLErrors();
 
 }  // namespace dabcanvas
