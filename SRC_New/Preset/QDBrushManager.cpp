@@ -10,7 +10,7 @@
 #include "Preset/ParamNumbers.h"
 #include "Preset/PresetImages.h"
 #include "QDEAGLView/BrushProperties.h"
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "QDEAGLView/QDDrawCanvasScopes.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvasPreset)
 
@@ -235,6 +235,7 @@ bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const std::optional<Brush
     if (view == nullptr || !withParams) {
         return false;
     }
+    const QDDrawCanvas::Call call(*view);
     view->holdTip();
     view->resetParams();
     const Remains remains = applyAll(*view, *withParams);

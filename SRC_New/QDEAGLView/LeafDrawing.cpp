@@ -4,6 +4,7 @@
 #include <QLoggingCategory>
 #include <QPainter>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
@@ -45,7 +46,11 @@ QRectF boundsWithin(const QSizeF& size, std::initializer_list<QPointF> points) {
 LeafDrawing::LeafDrawing(const QSizeF& frame)
     : _frame(frame), _graphSize(graphSide(frame.width()), graphSide(frame.height())) {}
 
-LeafDrawing::~LeafDrawing() = default;
+LeafDrawing::~LeafDrawing() {
+    if (_inHook) {
+        qFatal("A preview was destroyed by its own display hook, which is to note what changed");
+    }
+}
 
 bool LeafDrawing::acceptsPoint(QPointF point) {
     if (std::isfinite(point.x()) && std::isfinite(point.y())) {
@@ -189,6 +194,7 @@ void LeafDrawing::updateDrawViewForOnline(bool online) {
 void LeafDrawing::redisplay(const QRectF& bitmapRect) {
     // A display that interpolates mixes in the next pixel.
     const QRectF changed = QRectF(bitmapRect.toAlignedRect()).adjusted(-1, -1, 1, 1) & wholeRect();
+    const QScopedValueRollback inHook(_inHook, true);
     const QSizeF shown = frameSize();
     const double x = shown.width() / _graphSize.width(), y = shown.height() / _graphSize.height();
     redisplayRect(QRectF(changed.x() * x, changed.y() * y, changed.width() * x, changed.height() * y));

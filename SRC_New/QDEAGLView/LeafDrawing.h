@@ -112,7 +112,7 @@ public:
     static QImage coreBlurImage(const QImage& image, float blurNumber);
 
 protected:
-    // ---- Display hooks ----
+    // ---- Display hooks; they may not destroy the preview, which ends the process with a log line ----
 
     // How large the preview is shown, in view points.
     virtual QSizeF frameSize() const { return _frame; }
@@ -145,6 +145,7 @@ private:
     QRectF _updateRect;
     bool _isClear = true;
     bool _refusedPoint = false;  // and said so
+    bool _inHook = false;
 
     ESColor _renderColor;
     float _gaussianRadius = 1;

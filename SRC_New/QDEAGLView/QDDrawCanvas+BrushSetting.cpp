@@ -96,6 +96,7 @@ QVariant resetValue(const BrushProperty& row) {
 }  // namespace
 
 void QDDrawCanvas::resetParams() {
+    const Call call(*this);
     for (const BrushKey key : kResetOrder) {
         setBrushValue(brushProperty(key), resetValue(brushProperty(key)));
     }

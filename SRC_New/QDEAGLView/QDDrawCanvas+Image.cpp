@@ -107,12 +107,15 @@ QImage QDDrawCanvas::imageWithRect(const QRectF& rect) {
 }
 
 QImage QDDrawCanvas::newCGImageWithRect(const QRectF& rect) {
+    const Call call(*this);
+    if (!finishPreview()) {
+        return {};
+    }
     const QRectF part = withWholeEdges(CGRectApplyScale(rect, scale()));
     const ESCurrentScope current(*_esContext);
     if (!current || !isOnCanvas(*_esContext, part)) {
         return {};
     }
-    _leafDrawView->finishPending();
     compositePending();
     return _esContext->newCGImageWithRect(part);
 }
@@ -122,6 +125,11 @@ bool QDDrawCanvas::readData(unsigned char* bytes, const QRectF& rect) {
 }
 
 bool QDDrawCanvas::readDataBufferRect(unsigned char* bytes, const QRectF& bufferRect) {
+    const Call call(*this);
+    return finishPreview() && readPixels(bytes, bufferRect);
+}
+
+bool QDDrawCanvas::readPixels(unsigned char* bytes, const QRectF& bufferRect) {
     const QRectF part = withWholeEdges(bufferRect);
     const ESCurrentScope current(*_esContext);
     if (!current || !isOnCanvas(*_esContext, part)) {
@@ -131,10 +139,9 @@ bool QDDrawCanvas::readDataBufferRect(unsigned char* bytes, const QRectF& buffer
         qCWarning(lcDabcanvas, "there is no memory given to read the canvas into");
         return false;
     }
-    _leafDrawView->finishPending();
     compositePending();
     _esContext->readData(bytes, part);
-    return true;
+    return !isContextLost();
 }
 
 // ---- The forms of placing
@@ -242,6 +249,7 @@ bool QDDrawCanvas::placeInView(const Source& source, const QSizeF& size, const Q
 // All of it or, with false, nothing.
 bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF& centre, double radian,
                          bool isUndo) {
+    const Call call(*this);
     if (source.picture.isNull()) {
         qCWarning(lcDabcanvas, "there is no image to place");
         return false;
@@ -249,14 +257,13 @@ bool QDDrawCanvas::place(const Source& source, const QSizeF& size, const QPointF
     if (!isPlaceable(size, centre, radian)) {
         return false;
     }
-    _leafDrawView->finishPending();  // which may place, too
-    if (!putOnCanvas(source, size, centre, radian)) {
+    if (!finishPreview() || !putOnCanvas(source, size, centre, radian)) {
         return false;
     }
     setEdited(_edited || !isUndo);
     redisplayAll();
     if (!_neglectTextureUpdate) {
-        updateBGImage(isUndo ? _curImageData : autoMarked());  // which may call the delegate
+        updateBGImage(isUndo ? _curImageData : autoMarked());
         if (!isUndo && isSmudgeType()) {
             updateSmudgeBGTexture();
         }
@@ -284,8 +291,10 @@ bool QDDrawCanvas::putOnCanvas(const Source& source, const QSizeF& size, const Q
     const bool copies = source.blendType == ESBlendTypeReplace && !_neglectTextureUpdate &&
                         render.isCopy(dab, source.picture.size());
     if (!(copies ? copyPlaced(source, placed, touched) : drawPlaced(source, dab, touched))) {
-        qCWarning(lcDabcanvas, "there is no memory to place an image of %d x %d pixels",
-                  source.picture.width(), source.picture.height());
+        if (!_esContext->checkLost()) {
+            qCWarning(lcDabcanvas, "there is no memory to place an image of %d x %d pixels",
+                      source.picture.width(), source.picture.height());
+        }
         return false;
     }
     mergeRect(_drawRect, touched);
@@ -302,9 +311,9 @@ bool QDDrawCanvas::copyPlaced(const Source& source, const QRect& placed, const Q
     settleBeforePlacing();
     const StageTimer timer(*this, Stage::compositing);
     _esContext->beginRenderForType(ESRenderTypeCanvas);
-    _esRender->copyToBG(rows, touched);
+    const bool copied = _esRender->copyToBG(rows, touched);
     _esContext->finishRender();
-    return true;
+    return copied;
 }
 
 // Draws with the radian and roundness that the compositor has, and leaves it as strokes need it.
@@ -314,7 +323,7 @@ bool QDDrawCanvas::drawPlaced(const Source& source, const LPPoint& dab, const QR
     const float radian = render.radian();
     const float roundness = render.roundness();
     render.setTextureImage(evenlyReduced(source.picture, QSizeF(width, width * roundness)), GL_TEXTURE0);
-    if (render.brushTexture() == nullptr) {
+    if (!render.isReadyToPlace(dab)) {
         return false;
     }
     settleBeforePlacing();

@@ -25,7 +25,10 @@ double areaOf(const QRectF& rect) {
 // ---- Drawing into a layer
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer) {
-    _leafDrawView->finishPending();
+    const Call call(*this);
+    if (!finishPreview()) {
+        return {};
+    }
     return dabcanvas::roundedRect(drawRun(points, count, layer));
 }
 
@@ -65,7 +68,10 @@ QRectF QDDrawCanvas::drawRun(const LPPoint* points, std::size_t count, ESRenderT
 }
 
 QRectF QDDrawCanvas::drawPoints(const LPPoint* points, std::size_t count) {
-    _leafDrawView->finishPending();
+    const Call call(*this);
+    if (!finishPreview()) {
+        return {};
+    }
     _tempRect = drawRun(points, count, ESRenderTypeLine);
     mergeRect(_lineRenderRect, _tempRect);
     return _tempRect;
@@ -84,6 +90,10 @@ void QDDrawCanvas::updateImage(bool online) {
 }
 
 void QDDrawCanvas::updateImage(bool online, bool smudge) {
+    const Call call(*this);
+    if (isContextLost()) {
+        return;
+    }
     _edited = true;
     if (_tempRect.width() <= 0 || _tempRect.height() <= 0) {
         return;
@@ -161,6 +171,7 @@ void QDDrawCanvas::compositeRect(const QRectF& rect) {
 }
 
 void QDDrawCanvas::resetWithRenderRect(const QRectF& area) {
+    const Call call(*this);
     const QRectF rect = area & QRectF(QPointF(0, 0), bufferSize());
     if (!(rect.width() > 0 && rect.height() > 0)) {
         return;  // nothing of it is on the canvas
@@ -185,6 +196,7 @@ void QDDrawCanvas::resetWithRenderRect(const QRectF& area) {
 }
 
 void QDDrawCanvas::updateBGImage(const QByteArray& mark) {
+    const Call call(*this);
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return;
@@ -248,7 +260,10 @@ void QDDrawCanvas::clearSmudgeBuffer() {
 }
 
 void QDDrawCanvas::clear() {
-    const QSizeF frame = displayFrame().size();
+    if (isContextLost()) {
+        return;
+    }
+    const QSizeF frame = shownFrame().size();
     const QRectF whole(0, 0, frame.width() / scale().width(), frame.height() / scale().height());
     _lineRenderRect = _subLineRenderRect = _smudgeRenderRect = whole;
     std::fill(std::begin(_layerContent), std::end(_layerContent), QRectF(QPointF(0, 0), bufferSize()));
@@ -260,7 +275,10 @@ void QDDrawCanvas::clearOnline(bool online) {
 }
 
 void QDDrawCanvas::clearWithColor(const ESColor& color, bool online) {
-    _leafDrawView->finishPending();
+    const Call call(*this);
+    if (!finishPreview() || isContextLost()) {
+        return;
+    }
     setEdited(true);
     _pending.clear();  // it would be cleared at once
     emptyLineLayers();
@@ -273,6 +291,7 @@ void QDDrawCanvas::clearESBufferOnline(bool online) {
 }
 
 void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
+    const Call call(*this);
     {
         const ESCurrentScope current(*_esContext);
         if (!current) {
@@ -297,13 +316,16 @@ void QDDrawCanvas::clearESBufferWithColor(const ESColor& color, bool online) {
         noteChanged(whole);
     }
     redisplayAll();
-    updateBGImage(autoMarked());  // which may call the delegate
+    updateBGImage(autoMarked());
 }
 
 // ---- Reading and showing
 
 QImage QDDrawCanvas::image() {
-    _leafDrawView->finishPending();
+    const Call call(*this);
+    if (!finishPreview()) {
+        return {};
+    }
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return {};
@@ -322,8 +344,9 @@ const QImage& QDDrawCanvas::displayImage() {
         const ESCurrentScope current(*_esContext);
         if (current) {
             compositePending();
-            _esContext->updateImage(_displayImage, _staleRect);
-            _staleRect = QRect();
+            if (_esContext->updateImage(_displayImage, _staleRect)) {
+                _staleRect = QRect();
+            }
         }
     }
     return _displayImage;
@@ -336,18 +359,8 @@ void QDDrawCanvas::noteChanged(const QRectF& rect) {
     mergeRect(_imageStale, changed);
 }
 
-void QDDrawCanvas::redisplayBufferRect(const QRectF& rect) {
-    const QSizeF toView = scale();
-    redisplayRect(QRectF(rect.x() * toView.width(), rect.y() * toView.height(), rect.width() * toView.width(),
-                         rect.height() * toView.height()));
-}
-
-void QDDrawCanvas::redisplayAll() {
-    redisplayRect(QRectF(QPointF(0, 0), displayFrame().size()));
-}
-
 void QDDrawCanvas::updateScaleInfo() {
-    const QSizeF frame = displayFrame().size();
+    const QSizeF frame = shownFrame().size();
     const QSizeF buffer = bufferSize();
     if (!(frame.width() > 0 && frame.height() > 0)) {
         return;  // nothing is shown, and nothing could be scaled to it

@@ -4,9 +4,9 @@
 #include <QDateTime>
 #include <QLineF>
 #include <QLoggingCategory>
-#include <QScopedValueRollback>
+#include <utility>
 
-#include "QDEAGLView/QDDrawCanvas.h"
+#include "QDEAGLView/QDDrawCanvasScopes.h"
 
 namespace {
 
@@ -23,6 +23,25 @@ double now() {
 
 }  // namespace
 
+// The pointer's stroke ends, in callbacks that may end it once more or destroy the canvas.
+struct QDDrawCanvas::PointerEnding {
+    explicit PointerEnding(QDDrawCanvas& canvas)
+        : alive(canvas), _canvas(canvas), _before(std::exchange(canvas._pointerEnds, true)) {}
+    ~PointerEnding() {
+        if (alive) {
+            _canvas._pointerEnds = _before;
+        }
+    }
+    PointerEnding(const PointerEnding&) = delete;
+    PointerEnding& operator=(const PointerEnding&) = delete;
+
+    const Alive alive;
+
+private:
+    QDDrawCanvas& _canvas;
+    bool _before;
+};
+
 QPointF QDDrawCanvas::localPointWithTouch(const QDDrawTouch& touch) const {
     return touch.locationInWindow - displayFrame().topLeft();
 }
@@ -30,8 +49,8 @@ QPointF QDDrawCanvas::localPointWithTouch(const QDDrawTouch& touch) const {
 // ---- One pointer's stroke
 
 bool QDDrawCanvas::beginWithTouch(const QDDrawTouch& touch) {
-    if (displayFrame().isEmpty()) {
-        return false;  // nothing is shown that a point could lie on
+    if (shownFrame().isEmpty() || isContextLost()) {
+        return false;  // nothing is shown that a point could lie on, or nothing can be drawn
     }
     if (_brush.enableRecogition) {
         const double passed = now() - _lastProcessTime;
@@ -41,7 +60,7 @@ bool QDDrawCanvas::beginWithTouch(const QDDrawTouch& touch) {
         _isProcess = false;
         _canAddPoint = true;
     }
-    const QPointF point = localPointWithTouch(touch);
+    const QPointF point = pointOf(touch);
     _lineFinish = false;
     _lineMove = false;
     _moveCount = 0;
@@ -54,7 +73,7 @@ void QDDrawCanvas::moveWithTouch(const QDDrawTouch& touch) {
     if (_brush.enableRecogition && !_canAddPoint) {
         return;
     }
-    const QPointF point = localPointWithTouch(touch);
+    const QPointF point = pointOf(touch);
     _lineMove = true;
     ++_moveCount;
     _lastPoint = point;
@@ -68,20 +87,28 @@ void QDDrawCanvas::endWithTouch(const QDDrawTouch& touch) {
         }
         startProcess();
     }
-    const QScopedValueRollback ends(_pointerEnds, true);
-    QPointF point = localPointWithTouch(touch);
+    const PointerEnding ending(*this);
+    QPointF point = pointOf(touch);
     if (!_lineMove && QLineF(_lastPoint, point).length() >= kSlidWithoutMoving) {
         // Deliberate: a press that slid without any move is discarded, and only the callbacks tell of its end.
-        point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawEnd, point);
-        tell(&QDDrawViewDelegate::drawViewWillDrawEnd, point);
-        tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point);
+        if (!announce(&QDDrawViewDelegate::drawViewShouldDrawEnd, &QDDrawViewDelegate::drawViewWillDrawEnd,
+                      point) ||
+            !tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point)) {
+            return;
+        }
         dropStroke();
+        if (!ending.alive) {
+            return;
+        }
         _lineFinish = true;
         _isProcess = false;
         return;
     }
     _lineMove = false;
     drawingWithEndPoint(point, touch.pressure, -1.0f);
+    if (!ending.alive) {
+        return;
+    }
     _lineFinish = true;
     _moveCount = 0;
     if (_brush.enableRecogition) {
@@ -91,7 +118,7 @@ void QDDrawCanvas::endWithTouch(const QDDrawTouch& touch) {
 
 void QDDrawCanvas::cancelWithTouch(const QDDrawTouch& touch) {
     qCDebug(lcPointer, "cancelWithTouch:");
-    cancelAt(localPointWithTouch(touch), touch.pressure, false);
+    cancelAt(pointOf(touch), touch.pressure, false);
 }
 
 // withdraw: whatever its length.
@@ -99,26 +126,38 @@ void QDDrawCanvas::cancelAt(QPointF point, float pressure, bool withdraw) {
     if (_brush.enableRecogition && !_canAddPoint) {
         return;
     }
-    const QScopedValueRollback ends(_pointerEnds, true);
+    const PointerEnding ending(*this);
     const bool moved = !_lineFinish && _lineMove;
     const bool tooShort = _moveCount <= kShortStroke && _adjustCancelLine;
     if (moved && (withdraw || tooShort)) {
-        point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawEnd, point);
-        tell(&QDDrawViewDelegate::drawViewWillDrawEnd, point);
+        if (!announce(&QDDrawViewDelegate::drawViewShouldDrawEnd, &QDDrawViewDelegate::drawViewWillDrawEnd,
+                      point)) {
+            return;
+        }
         startProcess();
         withdrawStroke(bufferPoint(point));
+        if (!ending.alive) {
+            return;
+        }
         _isProcess = false;
-        tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point);
+        if (!tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point)) {
+            return;
+        }
     } else if (moved) {
         if (_brush.enableRecogition) {
             startProcess();
         }
         _lineMove = false;
         drawingWithEndPoint(point, pressure, -1.0f);
-        _lineFinish = true;
+        if (!ending.alive) {
+            return;
+        }
         _isProcess = false;
     } else {
         dropStroke();  // a click leaves nothing
+        if (!ending.alive) {
+            return;
+        }
     }
     _lineFinish = true;
     _lineMove = false;
@@ -177,14 +216,22 @@ void QDDrawCanvas::touchesMovedWithEvent(const QDDrawTouch& event) {
 
 void QDDrawCanvas::touchesEndedWithEvent(const QDDrawTouch& event) {
     if (!_digitPenMoving && _normalMoing) {
+        const Alive alive(*this);
         endWithTouch(event);
+        if (!alive) {
+            return;
+        }
     }
     _normalMoing = false;
 }
 
 void QDDrawCanvas::touchesCancelledWithEvent(const QDDrawTouch& event) {
     if (!_digitPenMoving && _normalMoing) {
+        const Alive alive(*this);
         cancelWithTouch(event);
+        if (!alive) {
+            return;
+        }
     }
     _normalMoing = false;
 }
@@ -209,7 +256,11 @@ void QDDrawCanvas::mouseDragged(const QDDrawTouch& event) {
 // Deliberate: the cancel path, not the end path. A stroke long enough is finished there all the same.
 void QDDrawCanvas::mouseUp(const QDDrawTouch& event) {
     if (!_normalMoing && _digitPenMoving) {
+        const Alive alive(*this);
         cancelWithTouch(event);
+        if (!alive) {
+            return;
+        }
     }
     _digitPenMoving = false;
 }
@@ -228,8 +279,12 @@ void QDDrawCanvas::leavePointerStroke(bool withdraw) {
     if (_pointerEnds) {
         return;  // called back while it ends
     }
+    const Alive alive(*this);
     if (_normalMoing || _digitPenMoving) {
         cancelAt(_lastPoint, _lastPressure, withdraw);
+    }
+    if (!alive) {
+        return;
     }
     _normalMoing = _digitPenMoving = false;
 }

@@ -223,9 +223,10 @@ bool QDDrawCanvas::settleStrokeKind(std::int32_t brushType, bool isDebug, bool e
 }
 
 void QDDrawCanvas::setBrushType(std::int32_t value) {
+    const Call call(*this);
     const bool changes = settleStrokeKind(value, _brush.isDebug, _brush.enableRecogition);
     assign(BrushKey::brushType, value);
-    showLeafDrawView(value == kPreviewBrush);
+    _showsLeaf = value == kPreviewBrush;
     setRepeatedlyRenderEnabled(_brush.repeatedlyRenderEnabled);
     if (changes && isSmudgeType()) {
         updateSmudgeBGTexture();
@@ -234,6 +235,7 @@ void QDDrawCanvas::setBrushType(std::int32_t value) {
 }
 
 void QDDrawCanvas::setIsDebug(bool value) {
+    const Call call(*this);
     settleStrokeKind(_brush.brushType, value, _brush.enableRecogition);
     assign(BrushKey::isDebug, value);
 }
@@ -263,6 +265,7 @@ void QDDrawCanvas::setBlendFragmentShaderString(const QString& value) {
 }
 
 void QDDrawCanvas::setRepeatedlyRenderEnabled(bool value) {
+    const Call call(*this);
     settleDrawn();
     assign(BrushKey::repeatedlyRenderEnabled, value);
     if (needRepeatedlyRender() == _esRender->repeatedlyRenderEnabled()) {

@@ -41,6 +41,10 @@ ShapeRecord scaled(ShapeRecord shape, double factor) {
 }  // namespace
 
 void QDDrawCanvas::setEnableRecogition(bool value) {
+    const Call call(*this);
+    if (!finishPreview()) {
+        return;
+    }
     const bool switched = value != _brush.enableRecogition;
     if (switched) {
         // What a stroke in progress has drawn stays, whatever it was to become.
@@ -153,7 +157,10 @@ bool QDDrawCanvas::drawShape(const ShapeRecord& shape) {
         qCWarning(lcDabcanvas, "a shape cannot be drawn while a stroke is in progress");
         return false;
     }
-    _leafDrawView->finishPending();
+    const Call call(*this);
+    if (!finishPreview() || isContextLost()) {
+        return false;
+    }
     settleLayers();
     _strokeRect = QRectF();
     if (!drawOutline(shape, true)) {

@@ -24,6 +24,7 @@ QRectF widened(const QRectF& rect, const QRectF& whole) {
 }  // namespace
 
 void QDDrawCanvas::updateSmudgeBGTexture() {
+    const Call call(*this);
     const ESCurrentScope current(*_esContext);
     if (!current) {
         return;

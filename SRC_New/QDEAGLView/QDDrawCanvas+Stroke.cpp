@@ -58,23 +58,6 @@ bool QDDrawCanvas::acceptsSample(QPointF point, float pressure, float altitude) 
     return false;
 }
 
-// The delegate is asked anew before every call: a callback may take it off.
-void QDDrawCanvas::tell(void (QDDrawViewDelegate::*callback)(QDDrawCanvas&, QPointF), QPointF point) {
-    if (_delegate != nullptr) {
-        (_delegate->*callback)(*this, point);
-    }
-}
-
-// A filter that makes the point unusable is not followed.
-QPointF QDDrawCanvas::filteredPoint(QPointF (QDDrawViewDelegate::*filter)(QDDrawCanvas&, QPointF),
-                                    QPointF point) {
-    if (_delegate == nullptr) {
-        return point;
-    }
-    const QPointF filtered = (_delegate->*filter)(*this, point);
-    return acceptsSample(filtered, 0, 0) ? filtered : point;
-}
-
 QPointF QDDrawCanvas::bufferPoint(QPointF point) const {
     return QPointF(point.x() / scale().width(), point.y() / scale().height());
 }
@@ -84,26 +67,33 @@ QPointF QDDrawCanvas::viewPoint(QPointF point) const {
 }
 
 void QDDrawCanvas::drawingWithBeginPoint(QPointF point, float pressure, float altitude, bool) {
-    _refusedSample = false;
-    _leafDrawView->finishPending();  // strokes come onto the canvas in their order
-    if (_stroke == Stroke::drawing) {
-        finishLayers();  // a stroke that was never ended stays as it is
-        _isSketch = false;
+    const Alive alive(*this);
+    {
+        const Call call(*this);
+        _refusedSample = false;
+        if (!finishPreview()) {  // strokes come onto the canvas in their order
+            return;
+        }
+        if (_stroke == Stroke::drawing) {
+            finishLayers();  // a stroke that was never ended stays as it is
+            _isSketch = false;
+        }
+        _stroke = isContextLost() ? Stroke::none : Stroke::awaited;
     }
-    _stroke = Stroke::awaited;
-    if (!acceptsSample(point, pressure, altitude)) {
+    if (!alive || _stroke != Stroke::awaited || !acceptsSample(point, pressure, altitude)) {
         return;  // the first sample that can be used begins instead
     }
     // Begun only after the callbacks: a brush that these choose is the one that the stroke begins with.
-    point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawBegin, point);
-    tell(&QDDrawViewDelegate::drawViewWillDrawBegin, point);
-    if (_stroke != Stroke::awaited) {
-        return;  // a callback had it ended, as a dialogue that it opens does
+    if (!announce(&QDDrawViewDelegate::drawViewShouldDrawBegin, &QDDrawViewDelegate::drawViewWillDrawBegin,
+                  point) ||
+        _stroke != Stroke::awaited) {
+        return;  // a callback had it ended, as a dialogue that it opens does, or the canvas is gone
     }
-    _stroke = Stroke::drawing;
     point = bufferPoint(point);
     beginStroke(point, pressure, altitude);
-    tell(&QDDrawViewDelegate::drawViewDidDrawBegin, point);
+    if (alive) {
+        static_cast<void>(tell(&QDDrawViewDelegate::drawViewDidDrawBegin, point));
+    }
 }
 
 void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float altitude, bool online) {
@@ -114,27 +104,16 @@ void QDDrawCanvas::drawingWithMoveToPoint(QPointF point, float pressure, float a
         drawingWithBeginPoint(point, pressure, altitude, online);
         return;
     }
-    point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawMove, point);
-    tell(&QDDrawViewDelegate::drawViewWillDrawMove, point);
-    if (_stroke != Stroke::drawing) {
+    if (!announce(&QDDrawViewDelegate::drawViewShouldDrawMove, &QDDrawViewDelegate::drawViewWillDrawMove,
+                  point) ||
+        _stroke != Stroke::drawing) {
         return;
     }
     point = bufferPoint(point);
-    if (usesPreview()) {
-        takeSample(point, pressure, altitude);
-        _leafDrawView->drawWithMove(point);
-    } else {
-        if (distanceOf(point, _lastRenderObject) <= static_cast<float>(kClosest)) {
-            return;
-        }
-        const bool firstMove = !std::exchange(_isAppendLine, true);
-        takeSample(point, pressure, altitude);
-        drawSegment(point, pressure, altitude, false, firstMove, online);
-        if (_isSketch) {
-            _points.push_back({point.x(), point.y()});
-        }
+    const Alive alive(*this);
+    if (moveStroke(point, pressure, altitude, online) && alive) {
+        static_cast<void>(tell(&QDDrawViewDelegate::drawViewDidDrawMove, point));
     }
-    tell(&QDDrawViewDelegate::drawViewDidDrawMove, point);
 }
 
 void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float altitude, bool online) {
@@ -148,25 +127,22 @@ void QDDrawCanvas::drawingWithEndPoint(QPointF point, float pressure, float alti
         pressure = _lastPressure;
         altitude = _lastAltitude;
     }
-    point = filteredPoint(&QDDrawViewDelegate::drawViewShouldDrawEnd, point);
-    tell(&QDDrawViewDelegate::drawViewWillDrawEnd, point);
-    point = bufferPoint(point);
-    _isAppendLine = true;
-    if (_stroke != Stroke::drawing) {
-        // A callback ended it, and is told of the end all the same.
-    } else if (_isSketch) {
-        endSketch(point, online);
-    } else if (usesPreview()) {
-        _leafDrawView->drawWithEnd(point);  // which places the stroke, later
-    } else {
-        drawSegment(point, pressure, altitude, true, false, online);
-        finishLayers(true);
+    if (!announce(&QDDrawViewDelegate::drawViewShouldDrawEnd, &QDDrawViewDelegate::drawViewWillDrawEnd,
+                  point)) {
+        return;
     }
-    _stroke = Stroke::none;
-    tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point);
+    point = bufferPoint(point);
+    const Alive alive(*this);
+    endStroke(point, pressure, altitude, online);
+    if (alive) {
+        static_cast<void>(tell(&QDDrawViewDelegate::drawViewDidDrawEnd, point));
+    }
 }
 
 void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
+    const Call call(*this);
+    _stroke = Stroke::drawing;
+    _editedBefore = _edited;
     if (_brush.enableRecogition) {
         beginSketch(point);
     }
@@ -185,6 +161,42 @@ void QDDrawCanvas::beginStroke(QPointF point, float pressure, float altitude) {
     const StrokeScope scope(*this);
     (isSmudgeType() ? *_smudgeRender : *_extenRender).resetLineProporty();
     startLine(*_lineParaObj, point, pressure, altitude);
+}
+
+// False for a move that lies too near to be followed.
+bool QDDrawCanvas::moveStroke(QPointF point, float pressure, float altitude, bool online) {
+    const Call call(*this);
+    if (usesPreview()) {
+        takeSample(point, pressure, altitude);
+        _leafDrawView->drawWithMove(point);
+        return true;
+    }
+    if (distanceOf(point, _lastRenderObject) <= static_cast<float>(kClosest)) {
+        return false;
+    }
+    const bool firstMove = !std::exchange(_isAppendLine, true);
+    takeSample(point, pressure, altitude);
+    drawSegment(point, pressure, altitude, false, firstMove, online);
+    if (_isSketch) {
+        _points.push_back({point.x(), point.y()});
+    }
+    return true;
+}
+
+void QDDrawCanvas::endStroke(QPointF point, float pressure, float altitude, bool online) {
+    const Call call(*this);
+    _isAppendLine = true;
+    if (_stroke != Stroke::drawing) {
+        // A callback ended it, and is told of the end all the same.
+    } else if (_isSketch) {
+        endSketch(point, online);
+    } else if (usesPreview()) {
+        _leafDrawView->drawWithEnd(point);  // which places the stroke, later
+    } else {
+        drawSegment(point, pressure, altitude, true, false, online);
+        finishLayers(true);
+    }
+    _stroke = Stroke::none;
 }
 
 // At the last sample, in mid-stroke too: what the line process keeps for all lines stays the main line's.
@@ -223,6 +235,7 @@ void QDDrawCanvas::settleLayers() {
 
 // Nothing of the stroke stays, as if it had never been begun.
 void QDDrawCanvas::withdrawStroke(QPointF point) {
+    const Call call(*this);
     _stroke = Stroke::none;
     if (usesPreview()) {
         _leafDrawView->drawWithCanceled(point);
@@ -240,6 +253,7 @@ void QDDrawCanvas::withdrawStroke(QPointF point) {
     _pending.clear();  // all of it lies within what is repainted
     emptyLineLayers();
     resetWithRenderRect(_strokeRect);
+    _edited = _editedBefore;
     if (isSmudgeType()) {
         updateSmudgeBGTexture();
     }
@@ -247,6 +261,7 @@ void QDDrawCanvas::withdrawStroke(QPointF point) {
 
 // A stroke is over without an end. What it may have drawn stays; a preview never reaches the canvas.
 void QDDrawCanvas::dropStroke() {
+    const Call call(*this);
     if (std::exchange(_stroke, Stroke::none) != Stroke::drawing) {
         return;
     }
@@ -286,6 +301,9 @@ QDDrawCanvas::Run QDDrawCanvas::appendToLine(LPLineParams& record, QPointF point
 void QDDrawCanvas::drawSegment(QPointF point, float pressure, float altitude, bool end, bool dropFirst,
                                bool online) {
     const StrokeScope scope(*this);
+    if (!scope) {
+        return;
+    }
     ++_stats.samples;
     QRectF segmentRect;
     bool drewSub = false;

@@ -31,26 +31,6 @@ void tellNoMemory(int line) {
 
 }  // namespace
 
-// Notes whether undo and redo are possible, and tells the delegate of what has changed meanwhile.
-struct QDDrawCanvas::UndoStatus {
-    explicit UndoStatus(QDDrawCanvas& canvas)
-        : _canvas(canvas), _canUndo(canvas.canUndo()), _canRedo(canvas.canRedo()) {}
-    ~UndoStatus() {
-        if (_canvas._delegate != nullptr && _canvas.canUndo() != _canUndo) {
-            _canvas._delegate->drawViewDidUpdateUndoStatus(_canvas, !_canUndo);
-        }
-        if (_canvas._delegate != nullptr && _canvas.canRedo() != _canRedo) {
-            _canvas._delegate->drawViewDidUpdateRedoStatus(_canvas, !_canRedo);
-        }
-    }
-    UndoStatus(const UndoStatus&) = delete;
-    UndoStatus& operator=(const UndoStatus&) = delete;
-
-private:
-    QDDrawCanvas& _canvas;
-    bool _canUndo, _canRedo;
-};
-
 qsizetype QDDrawCanvas::snapshotBytes() const {
     return qsizetype{_esContext->backingWidth()} * _esContext->backingHeight() * 4;
 }
@@ -151,13 +131,17 @@ QByteArray QDDrawCanvas::loadUndoManager() {
 }
 
 QByteArray QDDrawCanvas::resetUndoManager() {
-    _leafDrawView->finishPending();
+    const Call call(*this);
+    if (!finishPreview() || isContextLost()) {
+        return {};
+    }
     settleSketch();
     ImagesUndoManager& images = history();
-    const UndoStatus status(*this);
     const QByteArray data = snapshot(kResetLine);
     if (data.isNull()) {
-        images.resetWithImageDataOfCurrentItem(images.currentImageDataOfItem());
+        if (!isContextLost()) {
+            images.resetWithImageDataOfCurrentItem(images.currentImageDataOfItem());
+        }
         return {};
     }
     takeImageData(data);
@@ -167,19 +151,28 @@ QByteArray QDDrawCanvas::resetUndoManager() {
 }
 
 QByteArray QDDrawCanvas::markAction() {
-    _leafDrawView->finishPending();
+    const Call call(*this);
+    if (!finishPreview()) {
+        return {};
+    }
     settleSketch();
-    const double time = now();
-    if (!_edited || (_autoMark && time - _preTimeInterval < static_cast<double>(_markTimeInterval) &&
-                     time >= _preTimeInterval)) {
+    const double passed = now() - _preTimeInterval;
+    const bool tooSoon = _autoMark && passed >= 0 && passed < static_cast<double>(_markTimeInterval);
+    return tooSoon ? QByteArray() : record();
+}
+
+// Null where nothing was drawn since the last step, and without the memory or the context.
+QByteArray QDDrawCanvas::record() {
+    if (!_edited || isContextLost()) {
         return {};
     }
     ImagesUndoManager& images = history();
-    _preTimeInterval = time;
-    const UndoStatus status(*this);
+    _preTimeInterval = now();
     QByteArray data = snapshot(kMarkLine);
     if (data.isNull()) {
-        qCWarning(lcDabcanvas, "Create Buffer Error!");
+        if (!isContextLost()) {
+            qCWarning(lcDabcanvas, "Create Buffer Error!");
+        }
         return {};
     }
     takeImageData(data);
@@ -200,29 +193,52 @@ QImage QDDrawCanvas::currentImage() {
                                           bufferSize());
 }
 
+// Whether the canvas holds, or will hold, what no step does. A stroke in progress cannot be undone and does not count.
+bool QDDrawCanvas::isUnrecorded() const {
+    const bool edited = _stroke == Stroke::drawing ? _editedBefore : _edited;
+    return edited || (_leafDrawView != nullptr && _leafDrawView->isPending());
+}
+
 bool QDDrawCanvas::canUndo() const {
-    return _undoManager != nullptr && _undoManager->canUndo();
+    return !_lossTold && (isUnrecorded() || (_undoManager != nullptr && _undoManager->canUndo()));
 }
 
 bool QDDrawCanvas::canRedo() const {
-    return _undoManager != nullptr && _undoManager->canRedo();
+    return !_lossTold && !isUnrecorded() && _undoManager != nullptr && _undoManager->canRedo();
 }
 
 QByteArray QDDrawCanvas::undo() {
-    _leafDrawView->finishPending();
-    return _stroke != Stroke::drawing && canUndo() ? step(&ImagesUndoManager::undo, &ImagesUndoManager::redo)
-                                                   : QByteArray();
+    const Call call(*this);
+    if (!finishPreview() || _stroke == Stroke::drawing || !canUndo() || !recordUnrecorded()) {
+        return {};
+    }
+    return step(&ImagesUndoManager::undo, &ImagesUndoManager::redo);
 }
 
 QByteArray QDDrawCanvas::redo() {
-    _leafDrawView->finishPending();
-    return _stroke != Stroke::drawing && canRedo() ? step(&ImagesUndoManager::redo, &ImagesUndoManager::undo)
-                                                   : QByteArray();
+    const Call call(*this);
+    if (!finishPreview() || _stroke == Stroke::drawing || !canRedo()) {
+        return {};
+    }
+    return step(&ImagesUndoManager::redo, &ImagesUndoManager::undo);
+}
+
+// False when what was drawn since the last step cannot become one now.
+bool QDDrawCanvas::recordUnrecorded() {
+    if (!_edited) {
+        return true;
+    }
+    ImagesUndoManager& images = history();
+    if (images.processCount() != 0 || record().isNull()) {
+        return false;  // undo() would be refused in any case
+    }
+    images
+        .waitForWrites();  // of an older step that gave way to this one: undo() must not be refused for that
+    return true;
 }
 
 QByteArray QDDrawCanvas::step(HistoryStep go, HistoryStep back) {
-    const UndoStatus status(*this);
-    if (!(_undoManager.get()->*go)()) {
+    if (isContextLost() || !(_undoManager.get()->*go)()) {
         return {};
     }
     QString problem;
@@ -234,15 +250,7 @@ QByteArray QDDrawCanvas::step(HistoryStep go, HistoryStep back) {
         (_undoManager.get()->*back)();
         return {};
     }
-    if (data.size() == snapshotBytes()) {
-        _curImageData = data;
-        const QSizeF size = bufferSize();
-        setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true);
-        takeImageData(data);  // dabs that were finished on the way may have changed it
-        if (isSmudgeType()) {
-            updateSmudgeBGTexture();
-        }
-    } else {
+    if (data.size() != snapshotBytes()) {
         qCWarning(
             lcDabcanvas, "%ls; the canvas is cleared",
             qUtf16Printable(problem.isEmpty() ? QStringLiteral("An undo step has no image of this canvas")
@@ -250,6 +258,30 @@ QByteArray QDDrawCanvas::step(HistoryStep go, HistoryStep back) {
         const bool marks = std::exchange(_autoMark, false);  // clearing is no step of its own here
         clear();
         _autoMark = marks;
+        setEdited(false);  // it is what the step has become
+    } else if (!restore(data)) {
+        (_undoManager.get()->*back)();
+        return {};
     }
     return _curImageData;
+}
+
+// Puts a step's picture onto the canvas, all of it. False, and nothing changed, without the memory.
+bool QDDrawCanvas::restore(const QByteArray& data) {
+    const bool scissor = std::exchange(_globalScissor, false);
+    const bool neglect = std::exchange(_neglectTextureUpdate, false);
+    const QByteArray before = std::exchange(_curImageData, data);
+    const QSizeF size = bufferSize();
+    const bool restored = setData(data, size.toSize(), QRectF(QPointF(0, 0), size), true);
+    _globalScissor = scissor;
+    _neglectTextureUpdate = neglect;
+    if (!restored) {
+        _curImageData = before;
+        return false;
+    }
+    takeImageData(data);  // dabs that were finished on the way may have changed it
+    if (isSmudgeType()) {
+        updateSmudgeBGTexture();
+    }
+    return true;
 }

@@ -36,6 +36,8 @@ std::unique_ptr<QDDrawCanvas> QDDrawCanvas::initWithFrame(const QRectF& frame) {
 }
 
 bool QDDrawCanvas::initCanvas() {
+    const MustStay stays(*this);
+    const Call call(*this);
     _esContext = ESContext::init();
     if (!_esContext) {
         return false;
@@ -49,7 +51,7 @@ bool QDDrawCanvas::initCanvas() {
 
 bool QDDrawCanvas::initOpenGLESData() {
     ESContext& context = *_esContext;
-    if (!context.createBufferWithSize(displayFrame().size())) {
+    if (!context.createBufferWithSize(shownFrame().size())) {
         return false;
     }
     for (const GLenum capability : {GL_STENCIL_TEST, GL_DEPTH_TEST, GL_SCISSOR_TEST}) {
@@ -157,9 +159,16 @@ void QDDrawCanvas::releaseLineRecords() {
 QDDrawCanvas::QDDrawCanvas(const QRectF& frame) : _frame(frame) {}
 
 QDDrawCanvas::~QDDrawCanvas() {
+    if (_neededBy > 0) {
+        qFatal(
+            "A canvas was destroyed by a call of its own that cannot do without it: a question about its "
+            "display, or "
+            "an event that hides or resizes it");
+    }
+    _life.reset();
     _leafDrawView.reset();
     if (_esContext) {
-        const ESCurrentScope current(*_esContext);
+        const ESCurrentScope current(_esContext->openGLView());  // be it lost or not
         // Each goes while its own layer is current. Without the context, deleting their names would hit the host's;
         // they go with ours.
         const auto release = [&](ESRenderType layer, auto& render) {

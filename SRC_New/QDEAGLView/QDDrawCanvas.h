@@ -53,6 +53,10 @@ struct StrokeStats {
 // Thread   one thread at a time; several canvases of a process may interleave their strokes on one thread.
 // Life     to be destroyed before main() returns: OpenGL and Qt may be gone when static objects go.
 // Errors   never throws; a failure is a log line and a false or null result.
+// Loss     a driver may take the GL context away, and all pixels in it, as a graphics card that is reset does. One log
+//          line then, the delegate hears of it, and isContextLost() holds for good: what draws, places, reads or clears
+//          does nothing and returns false or null, without further lines; no stroke begins; the history stays as it is,
+//          to be had from undoManager(), and displayImage() what was last shown. Another canvas can go on from these.
 class QDDrawCanvas {
 public:
     // A canvas whose buffer is as large as the frame, cleared to transparent, with the default brush. Null, after
@@ -107,6 +111,9 @@ public:
     void setEnableDevicePress(bool value) { _enableDevicePress = value; }
     float normalPress() const { return _normalPress; }
     void setNormalPress(float value) { _normalPress = value; }
+
+    // Whether the driver has taken the GL context away; found by what draws or reads next.
+    bool isContextLost() const;
 
     // Whether a stroke has begun and not ended yet.
     bool isDrawing() const { return _stroke != Stroke::none; }
@@ -331,11 +338,14 @@ public:
     // Records the canvas as a step and drops what was undone. Null, and nothing recorded, when nothing was drawn since
     // the last one, or too shortly after it, or without the memory.
     QByteArray markAction();
-    // Make the step before, or after, the canvas. Null, and nothing changed, when there is none, a stroke is in progress
-    // or a step is still being written to disk; and, with a log line, without the memory. A step that was lost clears
-    // the canvas, with a log line.
+    // Make the step before, or after, the canvas, whatever globalScissor() and neglectTextureUpdate() hold back
+    // otherwise. What was drawn since the last step is lost to neither: undo() records it first, at whatever interval,
+    // and redo() finds nothing then. Null, and nothing changed, when there is none, a stroke is in progress or a step is
+    // still being written to disk; and, with a log line, without the memory. A step that was lost clears the canvas,
+    // with a log line.
     QByteArray undo();
     QByteArray redo();
+    // Whether there is a step to go to; in mid-stroke, whether there will be without the stroke.
     bool canUndo() const;
     bool canRedo() const;
     // Makes the present canvas the only step.
@@ -565,12 +575,27 @@ protected:
     explicit QDDrawCanvas(const QRectF& frame);
     bool initCanvas();
 
+    // Held by a display where the canvas must not be destroyed by what it calls meanwhile, as a window system goes on
+    // with it; destroying it then ends the process, with a log line.
+    class MustStay {
+    public:
+        explicit MustStay(const QDDrawCanvas& canvas) : _canvas(canvas) { ++canvas._neededBy; }
+        ~MustStay() { --_canvas._neededBy; }
+        MustStay(const MustStay&) = delete;
+        MustStay& operator=(const MustStay&) = delete;
+
+    private:
+        const QDDrawCanvas& _canvas;
+    };
+
     // ---- Display hooks ----
+
+    // displayFrame(), localPointWithTouch() and makeLeafDrawView() are questions: they may not destroy the canvas. The
+    // others may. These come at the end of the call that caused them, with the host's own GL context current.
 
     // Where the canvas is shown, in view points; its size against bufferSize() gives scale().
     virtual QRectF displayFrame() const { return _frame; }
-    // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once: the
-    // canvas's GL context may be current.
+    // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once.
     virtual void redisplayRect(const QRectF&) {}
     // What shows brush type 4 over the canvas; frame is the buffer, in pixels. Called once, by initCanvas(). Never null.
     virtual std::unique_ptr<LeafDrawing> makeLeafDrawView(const QRectF& frame);
@@ -586,6 +611,21 @@ private:
     enum class Stage { geometry, drawing, compositing };
     struct StageTimer;
 
+    // The host's calls and what it hears
+    class Alive;
+    struct Call;
+    struct PointerEnding;
+    using Filter = QPointF (QDDrawViewDelegate::*)(QDDrawCanvas&, QPointF);
+    using Callback = void (QDDrawViewDelegate::*)(QDDrawCanvas&, QPointF);
+    QRectF shownFrame() const;
+    QPointF pointOf(const QDDrawTouch& touch) const;
+    [[nodiscard]] bool tell(Callback callback, QPointF point);
+    [[nodiscard]] bool announce(Filter should, Callback will, QPointF& point);
+    [[nodiscard]] bool finishPreview();
+    void redisplayBufferRect(const QRectF& rect);
+    void redisplayAll();
+    void tellHost(bool couldUndo, bool couldRedo);
+
     bool initOpenGLESData();
     bool initData();
     void initLineProporty();
@@ -595,12 +635,12 @@ private:
 
     // Stroke stages, in steps
     bool acceptsSample(QPointF point, float pressure, float altitude);
-    QPointF filteredPoint(QPointF (QDDrawViewDelegate::*filter)(QDDrawCanvas&, QPointF), QPointF point);
-    void tell(void (QDDrawViewDelegate::*callback)(QDDrawCanvas&, QPointF), QPointF point);
     QPointF bufferPoint(QPointF point) const;
     QPointF viewPoint(QPointF point) const;
     bool usesPreview() const { return _brush.brushType == kPreviewBrush && !_brush.enableRecogition; }
     void beginStroke(QPointF point, float pressure, float altitude);
+    bool moveStroke(QPointF point, float pressure, float altitude, bool online);
+    void endStroke(QPointF point, float pressure, float altitude, bool online);
     void startSubLine();
     void takeSample(QPointF point, float pressure, float altitude);
     void finishLayers(bool asStep = false);
@@ -639,23 +679,25 @@ private:
     void sendPreviewColor();
     void clearLayer(ESRenderType layer, QRectF& rect);
     void noteChanged(const QRectF& rect);
-    void redisplayBufferRect(const QRectF& rect);
-    void redisplayAll();
+    bool readPixels(unsigned char* bytes, const QRectF& bufferRect);
 
     // The history
     // Of the fixed message
     static constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;
     static constexpr int kRecognitionLine = 699, kBackgroundLine = 2246;
-    struct UndoStatus;
     qsizetype snapshotBytes() const;
     QByteArray snapshot(int line);
     void refreshImageData(int line);
     bool refreshImageData(const QRect& part);
     void takeImageData(const QByteArray& data);
     ImagesUndoManager& history();
+    QByteArray record();
     QByteArray autoMarked();
+    bool isUnrecorded() const;
+    bool recordUnrecorded();
     using HistoryStep = bool (ImagesUndoManager::*)();
     QByteArray step(HistoryStep go, HistoryStep back);
+    bool restore(const QByteArray& data);
 
     // Placing, in steps
     struct Source;
@@ -689,6 +731,13 @@ private:
 
     QRectF _frame;
     QDDrawViewDelegate* _delegate = nullptr;
+    std::shared_ptr<void> _life = std::make_shared<char>();  // goes with the canvas, which Alive sees
+    mutable int _neededBy = 0;                               // holders of MustStay
+    // For the end of the host's call
+    int _calls = 0;  // nested
+    std::vector<QRectF> _toShow;
+    std::optional<bool> _showsLeaf;
+    bool _lossTold = false;
     BrushSettings _brush;
 
     std::unique_ptr<ESContext> _esContext;
@@ -738,6 +787,7 @@ private:
     QRect _staleRect;  // changed since displayImage() was last called
     QImage _displayImage;
     bool _edited = false;
+    bool _editedBefore = false;  // the same without the present stroke
     bool _autoMark = false;
     std::unique_ptr<ImagesUndoManager> _undoManager;
     float _markTimeInterval = 0;  // seconds
@@ -760,7 +810,6 @@ private:
 
     // Of a stroke that is to be recognised
     bool _isSketch = false;
-    bool _editedBefore = false;       // edited() without it
     std::vector<ShapePoint> _points;  // buffer pixels
     std::binary_semaphore _recognizeSemaphore{1};
 

@@ -4,6 +4,7 @@
 
 #include <QLoggingCategory>
 #include <chrono>
+#include <memory>
 
 #include "ESContext/ESCurrentScope.h"
 #include "ESRender/ESImageRender.h"
@@ -11,6 +12,38 @@
 #include "QDEAGLView/QDDrawCanvas.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvas)
+
+// Whether a canvas is still there after something that may have destroyed it. Where it is not, no member may be touched.
+class QDDrawCanvas::Alive {
+public:
+    explicit Alive(const QDDrawCanvas& canvas) : _life(canvas._life) {}
+    explicit operator bool() const { return !_life.expired(); }
+
+private:
+    std::weak_ptr<void> _life;
+};
+
+// One call of the host's: the first local of every function that may change what the host is to hear of. That waits for
+// the end of the outermost one, when none of the canvas's scopes is open and no member is needed any more: hearing it,
+// the host may destroy the canvas.
+struct QDDrawCanvas::Call {
+    explicit Call(QDDrawCanvas& canvas)
+        : _canvas(canvas), _alive(canvas), _canUndo(canvas.canUndo()), _canRedo(canvas.canRedo()) {
+        ++canvas._calls;
+    }
+    ~Call() {
+        if (_alive && --_canvas._calls == 0) {
+            _canvas.tellHost(_canUndo, _canRedo);
+        }
+    }
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+
+private:
+    QDDrawCanvas& _canvas;
+    Alive _alive;
+    bool _canUndo, _canRedo;
+};
 
 // One run of line-process calls: this canvas's GL context and its copy of the line process's globals are
 // current, so that strokes of several canvases may interleave. No delegate is called inside one.

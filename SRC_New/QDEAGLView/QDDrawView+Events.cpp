@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What Qt tells of mouse, pen and fingers, as pointer events of the canvas.
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPointingDevice>
 #include <QTabletEvent>
 #include <QTouchEvent>
@@ -29,7 +30,11 @@ void QDDrawView::pressed(Pointer pointer, const QDDrawTouch& touch) {
     if (_pointer != Pointer::none && _pointer != pointer) {
         return;
     }
+    const QPointer<QDDrawView> alive(this);
     pointer == Pointer::finger ? touchesBeganWithEvent(touch) : mouseDown(touch);
+    if (!alive) {
+        return;  // a callback destroyed the view
+    }
     _pointer = normalMoing() || digitPenMoving() ? pointer : Pointer::none;
 }
 
@@ -46,9 +51,12 @@ void QDDrawView::released(Pointer pointer, const QDDrawTouch& touch) {
     }
 }
 
-void QDDrawView::forgetPointer() {
+// False when a callback destroyed the view.
+bool QDDrawView::forgetPointer() {
+    const QPointer<QDDrawView> alive(this);
     _pointer = Pointer::none;
     endPointerStroke();
+    return !alive.isNull();
 }
 
 // ---- Mouse
@@ -71,8 +79,8 @@ void QDDrawView::mousePressEvent(QMouseEvent* event) {
 
 void QDDrawView::mouseMoveEvent(QMouseEvent* event) {
     if ((event->buttons() & Qt::LeftButton) == 0) {
-        if (_pointer == Pointer::mouse) {
-            forgetPointer();  // its release went elsewhere
+        if (_pointer == Pointer::mouse && !forgetPointer()) {  // its release went elsewhere
+            return;
         }
         QWidget::mouseMoveEvent(event);
     } else if (isOurs(*event)) {
@@ -119,6 +127,7 @@ void QDDrawView::tabletEvent(QTabletEvent* event) {
 // ---- Fingers
 
 bool QDDrawView::touchEvent(QTouchEvent& event) {
+    const QPointer<QDDrawView> alive(this);
     if (event.device() != nullptr && event.device()->type() == QInputDevice::DeviceType::TouchPad) {
         return false;  // which moves the mouse
     }
@@ -130,7 +139,9 @@ bool QDDrawView::touchEvent(QTouchEvent& event) {
             _pointer = Pointer::none;
             touchesCancelledWithEvent(touchAt(lastPoint(), 0));
         }
-        _fingersIgnored = false;
+        if (alive) {
+            _fingersIgnored = false;
+        }
         return true;
     }
     if (event.points().size() > 1 && !std::exchange(_fingersIgnored, true) && _pointer == Pointer::finger) {
@@ -139,7 +150,7 @@ bool QDDrawView::touchEvent(QTouchEvent& event) {
         const bool pinch = event.timestamp() - _fingerDown < kPinchMilliseconds || !isLining();
         pinch ? withdrawPointerStroke() : endPointerStroke();
     }
-    if (!_fingersIgnored && !event.points().isEmpty()) {
+    if (alive && !_fingersIgnored && !event.points().isEmpty()) {
         const QEventPoint& finger = event.points().first();
         const bool measures = event.pointingDevice() != nullptr &&
                               event.pointingDevice()->hasCapability(QInputDevice::Capability::Pressure);
@@ -160,7 +171,7 @@ bool QDDrawView::touchEvent(QTouchEvent& event) {
                 break;
         }
     }
-    if (event.type() == QEvent::TouchEnd) {
+    if (alive && event.type() == QEvent::TouchEnd) {
         _fingersIgnored = false;
     }
     event.accept();
@@ -170,6 +181,7 @@ bool QDDrawView::touchEvent(QTouchEvent& event) {
 // ---- What ends a stroke besides its pointer
 
 void QDDrawView::hideEvent(QHideEvent* event) {
+    const MustStay stays(*this);
     forgetPointer();
     QWidget::hideEvent(event);
 }
@@ -183,11 +195,13 @@ bool QDDrawView::event(QEvent* event) {
             return touchEvent(static_cast<QTouchEvent&>(*event)) || QWidget::event(event);
         case QEvent::WindowDeactivate:
         case QEvent::WindowBlocked:
-            forgetPointer();
+            if (!forgetPointer()) {
+                return true;
+            }
             break;
         case QEvent::EnabledChange:
-            if (!isEnabled()) {
-                forgetPointer();  // its events come no more
+            if (!isEnabled() && !forgetPointer()) {  // its events come no more
+                return true;
             }
             break;
         default:

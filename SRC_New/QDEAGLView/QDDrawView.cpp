@@ -54,6 +54,7 @@ void QDDrawView::paintEvent(QPaintEvent* event) {
 }
 
 void QDDrawView::resizeEvent(QResizeEvent* event) {
+    const MustStay stays(*this);
     QWidget::resizeEvent(event);
     updateScaleInfo();
     if (rect().isEmpty()) {

@@ -27,6 +27,8 @@ class QTouchEvent;
 // Size     the buffer gets the frame's size at creation and keeps it; a widget of another size shows it
 //          stretched, and points scale.
 // Owner    whoever holds the unique_ptr. With a parent, or once put into a layout, release() it: the parent owns.
+// Life     a delegate may destroy it in any callback, but not in one that ends a stroke because the view is hidden or
+//          resized: Qt goes on with it. deleteLater() is fine there.
 // Thread   the application's main thread, as for every widget.
 class QDDrawView : public QWidget, public QDDrawCanvas {
     Q_OBJECT
@@ -150,7 +152,7 @@ private:
     void pressed(Pointer pointer, const QDDrawTouch& touch);
     void dragged(Pointer pointer, const QDDrawTouch& touch);
     void released(Pointer pointer, const QDDrawTouch& touch);
-    void forgetPointer();
+    bool forgetPointer();
     bool touchEvent(QTouchEvent& event);
 
     Pointer _pointer = Pointer::none;

@@ -8,9 +8,10 @@ class QDDrawCanvas;
 // What a host hears of a canvas's strokes. Every callback is optional.
 //
 // They run on the thread that enters the stroke, inside the call that caused them, with the host's own GL context
-// current. A callback may draw on other canvases, change the brush, take the delegate off and open a
-// dialogue, which ends a pointer's stroke where it got to; it may not destroy the canvas or enter a stroke
-// of the same one. A delegate is not owned.
+// current. A callback may draw on other canvases, change the brush, take the delegate off, open a dialogue, which ends
+// a pointer's stroke where it got to, and destroy the canvas, of which nothing more is heard then; but a view not while
+// it is hidden, resized or asked for its frame: that ends the process, with a log line. It may not enter a stroke of
+// the same canvas. A delegate is not owned.
 class QDDrawViewDelegate {
 public:
     virtual ~QDDrawViewDelegate() = default;
@@ -30,7 +31,10 @@ public:
     virtual void drawViewWillDrawEnd(QDDrawCanvas&, QPointF) {}
     virtual void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) {}
 
-    // Whether undo and redo are possible has changed.
+    // Whether undo and redo are possible has changed. Told when the call that changed it is done.
     virtual void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool /*canUndo*/) {}
     virtual void drawViewDidUpdateRedoStatus(QDDrawCanvas&, bool /*canRedo*/) {}
+    // The driver has taken the GL context away: the canvas cannot be drawn on or read any more. Once; what only displays
+    // the canvas does not tell, the next call that draws does.
+    virtual void drawViewDidLoseContext(QDDrawCanvas&) {}
 };

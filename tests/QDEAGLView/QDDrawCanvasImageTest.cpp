@@ -8,6 +8,7 @@
 
 #include "ESRender/ESImageRender.h"
 #include "support/CanvasTest.h"
+#include "support/FailingDriver.h"
 #include "support/LogCapture.h"
 
 namespace {
@@ -417,6 +418,45 @@ TEST_F(CanvasImageTest, BadInputIsRefusedWithOneLine) {
     }
     EXPECT_TRUE(quiet.lines().isEmpty());
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
+}
+
+TEST_F(CanvasImageTest, WithoutTheDriversMemoryNothingIsPlacedOrUndone) {
+    using Fault = FailingDriver::Fault;
+    const QImage image = noise({300, 260});
+    struct Placing {
+        const char* name;
+        Fault fault;
+        QRectF rect;
+    };
+    for (const Placing& placing : {Placing{"no texture", Fault::noTextureMemory, {10.5, 10, 400, 300}},
+                                   Placing{"no pixels", Fault::noUploadMemory, {10.5, 10, 400, 300}},
+                                   Placing{"no mip levels", Fault::noLevelMemory, {20, 20, 60, 50}},
+                                   Placing{"no copy", Fault::noUploadMemory, {0, 0, 300, 260}}}) {
+        SCOPED_TRACE(placing.name);
+        auto canvas = tintedCanvas();
+        canvas->resetUndoManager();
+        canvas->setAutoMark(true);
+        const QImage before = canvas->image();
+        {
+            const FailingDriver driver(placing.fault);
+            const LogCapture log;
+            EXPECT_FALSE(canvas->setImage(image, placing.rect));
+            EXPECT_EQ(log.lines(), QStringList("there is no memory to place an image of 300 x 260 pixels"));
+        }
+        EXPECT_TRUE(imagesMatch(canvas->image(), before));
+        EXPECT_FALSE(canvas->edited() || canvas->canUndo());
+        EXPECT_TRUE(canvas->setImage(image, placing.rect));
+        const QImage after = canvas->image();
+        {
+            const FailingDriver driver(Fault::noUploadMemory);
+            const LogCapture log;
+            EXPECT_TRUE(canvas->undo().isNull());
+            EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+        }
+        EXPECT_TRUE(imagesMatch(canvas->image(), after));
+        EXPECT_FALSE(canvas->undo().isNull());
+        EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    }
 }
 
 }  // namespace
