@@ -201,6 +201,7 @@ private:
 TEST_F(ESContextTest, AContextThatIsTakenAwayIsLostForGood) {
     auto view = std::make_unique<Taken>();
     Taken& platform = *view;
+    _current.reset();
     _context->setOpenGLView(std::move(view));
     ASSERT_TRUE(_context->createBufferWithSize({16, 16}));
     LogCapture log;
@@ -214,6 +215,7 @@ TEST_F(ESContextTest, AContextThatIsTakenAwayIsLostForGood) {
     EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
     _context->setOpenGLView(EGLSurfacelessView::create());
     EXPECT_FALSE(_context->isLost());
+    _current.emplace(*_context);
 }
 
 TEST_F(ESContextTest, ANullOrUselessViewGivesNoContext) {

@@ -211,10 +211,8 @@ TEST_F(CanvasUndoTest, UndoRecordsFirstWhatNoStepHolds) {
             canvas->setDelegate(&statuses);
             paintWave(*canvas, 20, 12);
             hasSteps ? canvas->markAction() : canvas->resetUndoManager();
-            const QImage before = canvas->image();
             canvas->setAutoMark(edit.marks);
             canvas->setMarkTimeInterval(3600);
-            canvas->undoManager();
             if (!hasSteps && edit.marks) {
                 paintWave(*canvas, 20, 12);  // the first is never too soon
                 canvas->resetUndoManager();
@@ -227,7 +225,7 @@ TEST_F(CanvasUndoTest, UndoRecordsFirstWhatNoStepHolds) {
             EXPECT_EQ(statuses.take(), hasSteps ? Told{} : Told{"undo"});
             const QImage after = canvas->image();
             EXPECT_FALSE(canvas->undo().isNull());
-            EXPECT_TRUE(imagesMatch(canvas->image(), hasSteps ? before : clean));
+            EXPECT_TRUE(imagesMatch(canvas->image(), clean));
             EXPECT_EQ(statuses.take(), hasSteps ? Told{"redo"} : (Told{"no undo", "redo"}));
             EXPECT_FALSE(canvas->redo().isNull());
             EXPECT_TRUE(imagesMatch(canvas->image(), after));

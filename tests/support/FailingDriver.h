@@ -16,6 +16,7 @@ public:
 
     explicit FailingDriver(Fault fault) {
         _pending = GL_NO_ERROR;
+        _getError = epoxy_glGetError;
         switch (fault) {
             case Fault::lostContext:
                 epoxy_glGetError = [] { return GLenum{GL_CONTEXT_LOST}; };
@@ -34,6 +35,8 @@ public:
                 break;
         }
         epoxy_glGetError = [] {
+            while (_getError() != GL_NO_ERROR) {  // what follows from the calls that are left out
+            }
             const GLenum error = _pending;
             _pending = GL_NO_ERROR;
             return error;
@@ -45,15 +48,13 @@ public:
         epoxy_glTexImage2D = _texImage;
         epoxy_glTexSubImage2D = _texSubImage;
         epoxy_glGenerateMipmap = _generateMipmap;
-        while (glGetError() != GL_NO_ERROR) {  // what followed from the calls that were left out
-        }
     }
     FailingDriver(const FailingDriver&) = delete;
     FailingDriver& operator=(const FailingDriver&) = delete;
 
 private:
     static inline GLenum _pending = GL_NO_ERROR;
-    decltype(epoxy_glGetError) _getError = epoxy_glGetError;
+    static inline decltype(epoxy_glGetError) _getError = nullptr;
     decltype(epoxy_glReadPixels) _readPixels = epoxy_glReadPixels;
     decltype(epoxy_glTexImage2D) _texImage = epoxy_glTexImage2D;
     decltype(epoxy_glTexSubImage2D) _texSubImage = epoxy_glTexSubImage2D;
