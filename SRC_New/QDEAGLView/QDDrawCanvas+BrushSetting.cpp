@@ -105,8 +105,8 @@ bool QDDrawCanvas::resetWithParams(const std::optional<BrushParams>& params, int
     return QDBrushManager::resetDrawView(this, params, version);
 }
 
-bool QDDrawCanvas::resetWithXBFPath(const QString& path) {
-    return QDBrushManager::resetDrawView(this, path);
+bool QDDrawCanvas::resetWithXBFPath(const QString& path, QString* problem) {
+    return QDBrushManager::resetDrawView(this, path, problem);
 }
 
 void QDDrawCanvas::restoreSubLine(float slRadius, float relationValue) {

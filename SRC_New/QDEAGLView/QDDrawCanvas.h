@@ -379,9 +379,10 @@ public:
     // Every property that a preset may leave out takes its default; colours, tip images and a few more stay.
     void resetParams();
     // Make a preset, records or a file's last brush, the brush. It replaces the present one as a whole. False, and
-    // nothing changed, without records or when the file cannot be read.
+    // nothing changed, without records or when the file cannot be read or is damaged; `problem` says why, and tells of
+    // a value that was left out though the brush was taken, or becomes empty.
     bool resetWithParams(const std::optional<BrushParams>& params, int version);
-    bool resetWithXBFPath(const QString& path);
+    bool resetWithXBFPath(const QString& path, QString* problem = nullptr);
 
     std::int32_t brushType() const { return _brush.brushType; }
     void setBrushType(std::int32_t value);
