@@ -139,13 +139,13 @@ struct Remains {
     QList<QImage> tips;
     LegacyModes legacy;
     std::optional<float> slRadius, relationValue;
+    QString flaw;  // the first one
+    int flaws = 0;
 };
 
 Remains applyAll(QDDrawCanvas& canvas, const BrushParams& params) {
     Remains remains;
     PresetImages images;
-    QString firstFlaw;
-    int flaws = 0;
     for (const BrushParam& param : params) {
         const auto id = static_cast<std::uint32_t>(key(param));
         const QVariant value = paramValue(param);
@@ -161,8 +161,8 @@ Remains applyAll(QDDrawCanvas& canvas, const BrushParams& params) {
         }
         QString flaw;
         const QVariant typed = valueFor(*row, value, images, flaw);
-        if (!flaw.isEmpty() && flaws++ == 0) {
-            firstFlaw = flaw;
+        if (!flaw.isEmpty() && remains.flaws++ == 0) {
+            remains.flaw = flaw;
         }
         if (row->key == BrushKey::textureImages && typed.isValid()) {
             remains.tips.append(typed.value<QImage>());
@@ -174,10 +174,6 @@ Remains applyAll(QDDrawCanvas& canvas, const BrushParams& params) {
         } else if (row->key == BrushKey::relationValue) {
             remains.relationValue = canvas.relationValue();
         }
-    }
-    if (flaws > 0) {
-        qCWarning(lcDabcanvasPreset, "a preset's %s; the default stays (values left out: %d)",
-                  qUtf8Printable(firstFlaw), flaws);
     }
     return remains;
 }
@@ -230,38 +226,55 @@ QString QDBrushManager::flawOfParams(const BrushParams& params) {
     return flaw;
 }
 
+QString QDBrushManager::becomeBrush(QDDrawCanvas& canvas, const BrushParams& params, int version) {
+    canvas.holdTip();
+    canvas.resetParams();
+    const Remains remains = applyAll(canvas, params);
+    if (version == LegacyModes::kVersion) {
+        migrate(canvas, remains.legacy);
+    }
+    canvas.releaseTip(canvas.textureType() != 0 || remains.tips.isEmpty());
+    if (canvas.textureType() == 0) {
+        canvas.setTextureImages(remains.tips);
+    }
+    if (remains.slRadius && remains.relationValue) {
+        // Setting either changes the other, by the radius of that moment. A preset holds both as they were.
+        canvas.restoreSubLine(*remains.slRadius, *remains.relationValue);
+    }
+    if (canvas.repeatedlyRenderEnabled() && canvas.slRadiusRelationType() == 0) {
+        canvas.setSlRadiusRelationType(2);
+    }
+    if (remains.flaws > 0) {
+        qCWarning(lcDabcanvasPreset, "a preset's %s; the default stays (values left out: %d)",
+                  qUtf8Printable(remains.flaw), remains.flaws);
+    }
+    return remains.flaw;
+}
+
 bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const std::optional<BrushParams>& withParams,
                                    int version) {
     if (view == nullptr || !withParams) {
         return false;
     }
-    const QDDrawCanvas::Host::Call call(view->_inside->host);
-    view->resetParams();
-    const Remains remains = applyAll(*view, *withParams);
-    if (version == LegacyModes::kVersion) {
-        migrate(*view, remains.legacy);
-    }
-    if (view->textureType() == 0) {
-        view->setTextureImages(remains.tips);
-    }
-    if (remains.slRadius && remains.relationValue) {
-        // Setting either changes the other, by the radius of that moment. A preset holds both as they were.
-        view->restoreSubLine(*remains.slRadius, *remains.relationValue);
-    }
-    if (view->repeatedlyRenderEnabled() && view->slRadiusRelationType() == 0) {
-        view->setSlRadiusRelationType(2);
-    }
+    becomeBrush(*view, *withParams, version);
     return true;
 }
 
-bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const QString& withXBFFile) {
+bool QDBrushManager::resetDrawView(QDDrawCanvas* view, const QString& withXBFFile, QString* problem) {
     int version = 0;
-    const auto brushes = brushesWithXBFPath(withXBFFile, &version);
-    if (!brushes || brushes->isEmpty()) {
-        if (brushes) {
-            qCWarning(lcDabcanvasPreset, "The brush file %s holds no brush", qUtf8Printable(withXBFFile));
-        }
-        return false;
+    QString wrong;
+    const auto brushes = brushesWithXBFPath(withXBFFile, &version, &wrong);
+    if (wrong.isEmpty() && (view == nullptr || brushes->isEmpty())) {
+        wrong = view == nullptr ? QStringLiteral("there is no canvas") : QStringLiteral("it holds no brush");
+        qCWarning(lcDabcanvasPreset, "The brush file %s is not applied: %s", qUtf8Printable(withXBFFile),
+                  qUtf8Printable(wrong));
     }
-    return resetDrawView(view, brushParams(brushes->last()), version);
+    const bool applies = wrong.isEmpty();
+    if (applies) {
+        wrong = becomeBrush(*view, brushParams(brushes->last()), version);
+    }
+    if (problem != nullptr) {
+        *problem = wrong;
+    }
+    return applies;
 }

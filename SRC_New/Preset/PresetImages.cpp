@@ -10,13 +10,16 @@ namespace dabcanvas {
 
 bool PresetImages::take(const QSize& size) {
     const qint64 pixels = qint64{size.width()} * size.height();
-    if (pixels > _left) {
+    if (pixels > _most - _taken) {
         _problem = QStringLiteral("is too large: the images of a preset have at most %1 million pixels")
                        .arg(kMostPixels / 1'000'000);
-        return false;
+    } else if (pixels > _held - _taken) {
+        _problem = QStringLiteral("is too large: it claims more pixels than so few bytes can hold");
+    } else {
+        _taken += pixels;
+        return true;
     }
-    _left -= pixels;
-    return true;
+    return false;
 }
 
 QImage PresetImages::read(const QByteArray& data) {
@@ -24,6 +27,7 @@ QImage PresetImages::read(const QByteArray& data) {
     if (data.isEmpty()) {
         return {};
     }
+    _held += data.size() * kPixelsPerByte;
     QBuffer buffer;
     buffer.setData(data);
     buffer.open(QIODevice::ReadOnly);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -77,6 +78,9 @@ void fillValue(_XBFParamValue& value, int type, const QVariant& property, QByteA
 }
 
 QString refusal(const BrushParams& params) {
+    if (params.size() > QDBrushManager::kMostRecords) {
+        return QStringLiteral("a brush has at most %1 records").arg(QDBrushManager::kMostRecords);
+    }
     for (qsizetype i = 0; i < params.size(); ++i) {
         const QVariant value = BrushRecords::paramValue(params[i]);
         if (BrushRecords::key(params[i]) == 0) {
@@ -154,25 +158,22 @@ XBFRead readName(std::FILE* file, QString& name) {
     return result;
 }
 
-// The records up to the terminator, or to what stopped the reading before it.
-XBFRead readParams(std::FILE* file, BrushParams& params) {
-    for (;;) {
+// Goes through the records up to the terminator, or to what stopped the reading before it; `taken` becomes how many
+// there were. In memory a record is many times as large as in the file, so there may only be so many.
+template <typename Next, typename Take>
+XBFRead forEachRecord(std::FILE* file, qsizetype most, qsizetype& taken, const Next& next, const Take& take) {
+    for (taken = 0;; ++taken) {
         _XBFParamData data;
-        const XBFRead result = TryNextParamData(file, &data);
+        const XBFRead result = next(file, &data);
         if (result != XBFRead::ok) {
             return result;
         }
-        params.append(QDBrushManager::paramFromParamData(data));
+        if (taken < most) {
+            take(data);
+        }
         XBFFreeParamData(&data);
-    }
-}
-
-XBFRead skipParams(std::FILE* file, qsizetype& records) {
-    for (records = 0;; ++records) {
-        _XBFParamData data;
-        const XBFRead result = TrySkipParamData(file, &data);
-        if (result != XBFRead::ok) {
-            return result;
+        if (taken == most) {
+            return XBFRead::tooMany;
         }
     }
 }
@@ -198,19 +199,21 @@ QString brushText(int index, int count) {
     return QStringLiteral("brush %1 of %2").arg(index + 1).arg(count);
 }
 
-// Goes through the brushes of a stream. `take` reads the records of each and returns how that went; it is
-// told whether the brush is the last one. Returns what was wrong, if anything.
+// Goes through the brushes of a stream. `take` reads the records of each, at most so many, and returns how that went;
+// it is told whether the brush is the last one. Returns what was wrong, if anything.
 template <typename Take>
 QString forEachBrush(std::FILE* file, const XBFInfo& info, const Take& take) {
     const int count = static_cast<int>(info.count);
+    qsizetype left = QDBrushManager::kMostRecordsOfFile;
     for (int i = 0; i < count; ++i) {
         QString name;
-        XBFRead result = readName(file, name);
+        XBFRead result = left > 0 ? readName(file, name) : XBFRead::tooMany;
         if (result != XBFRead::ok) {
             return problemText(QStringLiteral("name of ") + brushText(i, count), result);
         }
         qsizetype records = 0;
-        result = take(name, i + 1 == count, records);
+        result = take(name, i + 1 == count, std::min<qsizetype>(left, QDBrushManager::kMostRecords), records);
+        left -= records + 1;
         if (result != XBFRead::terminator) {
             return problemText(QStringLiteral("record %1 of ").arg(records + 1) + brushText(i, count),
                                result);
@@ -293,10 +296,11 @@ std::optional<QList<QVariantMap>> QDBrushManager::brushesWithXBFStream(std::FILE
         if (version) {
             *version = fileVersion;
         }
-        wrong = forEachBrush(file, info, [&](const QString& name, bool, qsizetype& records) {
+        wrong = forEachBrush(file, info, [&](const QString& name, bool, qsizetype most, qsizetype& records) {
             BrushParams params;
-            const XBFRead result = readParams(file, params);
-            records = params.size();
+            const XBFRead result =
+                forEachRecord(file, most, records, TryNextParamData,
+                              [&](const _XBFParamData& data) { params.append(paramFromParamData(data)); });
             brushes->append({{kBrushNameKey, name},
                              {kBrushVersionKey, fileVersion},
                              {kBrushParamsKey, QVariant::fromValue(params)}});
@@ -329,10 +333,13 @@ std::optional<QStringList> QDBrushManager::brushNamesWithXBFPath(const QString& 
                 *version = static_cast<int>(info.version());
             }
             QStringList names;
-            *wrong = forEachBrush(file, info, [&](const QString& name, bool last, qsizetype& records) {
-                names.append(name);
-                return last ? XBFRead::terminator : skipParams(file, records);
-            });
+            const auto ignore = [](const _XBFParamData&) {};
+            *wrong = forEachBrush(
+                file, info, [&](const QString& name, bool last, qsizetype most, qsizetype& records) {
+                    names.append(name);
+                    return last ? XBFRead::terminator
+                                : forEachRecord(file, most, records, TrySkipParamData, ignore);
+                });
             return names;
         });
 }

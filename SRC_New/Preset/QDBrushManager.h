@@ -26,6 +26,9 @@ public:
 
     // What files are saved as. 100 marks presets of an older model, which applying migrates.
     static constexpr int kVersion = 200;
+    // How many records a brush and all brushes of a file may have, a brush counting as one: many times what a brush is
+    // made of, and hundreds of whole brushes. What has more is damaged, and not written.
+    static constexpr int kMostRecords = 4096, kMostRecordsOfFile = 65536;
 
     // A canvas's brush
 
@@ -39,11 +42,13 @@ public:
     // unknown ids are skipped; what flawOfParams() tells of is left out, with one log line for all of it. False, and
     // nothing changed, without a canvas or a list.
     static bool resetDrawView(QDDrawCanvas* view, const std::optional<BrushParams>& withParams, int version);
-    // The same with the last brush of a file, of a damaged one with what was whole. False when it has none.
-    static bool resetDrawView(QDDrawCanvas* view, const QString& withXBFFile);
+    // The same with the last brush of a file. False, and nothing changed, also when there is none or the file is damaged
+    // anywhere: who wants what is whole of it reads it with brushesWithXBFPath(). `problem` tells besides of the first
+    // value that was left out, although the brush was taken.
+    static bool resetDrawView(QDDrawCanvas* view, const QString& withXBFFile, QString* problem = nullptr);
     // The first value that no canvas takes, such as "maskImage is not an image that can be read"; empty when all of
-    // them are good. An image is bad that cannot be decoded or makes all of them larger than 2^28 pixels, a number
-    // that is not finite.
+    // them are good. A number is bad that is not finite, an image that cannot be decoded, that makes all of them larger
+    // than 2^28 pixels, or that has more pixels than so few bytes ever hold.
     static QString flawOfParams(const BrushParams& params);
 
     // Records
@@ -78,4 +83,8 @@ public:
     // Only the names, for a listing: values are not read, and nothing behind the last name is looked at.
     static std::optional<QStringList> brushNamesWithXBFPath(const QString& path, int* version = nullptr,
                                                             QString* problem = nullptr);
+
+private:
+    // Returns the first value that was left out, if any.
+    static QString becomeBrush(QDDrawCanvas& canvas, const BrushParams& params, int version);
 };

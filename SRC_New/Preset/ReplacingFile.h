@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-// A file that is written beside its path and takes the path's place only when all of it is on the disk; until then, and
-// when anything fails, whatever stood there stays.
+// A file that takes its path's place only when all of it is on the disk; until then, and when anything fails, whatever
+// stood there stays. Where the system has files without a name, as Linux does, not even a killed writer leaves a trace.
 //
 // Path     links are followed to the file they name. Its permissions stay; what is no plain file is refused.
 // Thread   one at a time.
 // Errors   never throws: no file, or false, with problem() saying why in words.
 #pragma once
 
+#include <QSaveFile>
 #include <QString>
 #include <cstdio>
-#include <filesystem>
 
 #include "Maths/Export.h"
 
@@ -27,12 +27,10 @@ public:
     const QString& problem() const { return _problem; }
 
 private:
-    bool findTarget(const QString& path);
     bool close();
     bool fail(const QString& problem);
 
-    std::filesystem::path _target;
-    std::filesystem::path _temporary;
+    QSaveFile _place;
     std::FILE* _file = nullptr;
     QString _problem;
 };

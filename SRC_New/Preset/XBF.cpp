@@ -404,6 +404,8 @@ const char* XBFReadText(XBFRead read) {
             return "its size is not possible";
         case XBFRead::noMemory:
             return "there is not enough memory for it";
+        case XBFRead::tooMany:
+            return "there are more than a brush file may have";
         case XBFRead::failed:
             return "the file cannot be read";
     }

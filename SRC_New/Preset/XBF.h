@@ -119,7 +119,8 @@ enum class XBFRead : std::uint8_t {
     tooLong,     // a length goes beyond the end of the file
     badSize,     // a data block's size is negative or overflows
     noMemory,
-    failed,  // the stream reports an error, cannot seek, or is NULL
+    tooMany,  // more pieces than a reader takes; none of these functions counts them
+    failed,   // the stream reports an error, cannot seek, or is NULL
 };
 DABCANVAS_CANVAS_API const char* XBFReadText(
     XBFRead read);  // "the file ends inside it", to go into a message

@@ -174,7 +174,8 @@ bool QDDrawView::touchEvent(QTouchEvent& event) {
     if (alive && event.type() == QEvent::TouchEnd) {
         _fingersIgnored = false;
     }
-    event.accept();
+    event.setAccepted(
+        true);  // with its points, which accept() leaves out: Qt sends on only those that were taken
     return true;
 }
 

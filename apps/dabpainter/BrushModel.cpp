@@ -42,7 +42,7 @@ bool nearlySameBrushValue(const QVariant& a, const QVariant& b) {
     }
     if (a.typeId() == QMetaType::QImage && b.typeId() == QMetaType::QImage) {
         const auto x = a.value<QImage>(), y = b.value<QImage>();
-        return sameBrushValue(a, b) || x.convertToFormat(y.format()) == y;
+        return sameBrushValue(a, b) || (!x.isNull() && !y.isNull() && x.convertToFormat(y.format()) == y);
     }
     return sameBrushValue(a, b);
 }
@@ -95,9 +95,25 @@ BrushModel::BrushModel(QObject* parent) : QObject(parent) {
     _values = _defaults;
 }
 
+// For one scope the canvas has the model's own values.
+struct BrushModel::OwnValues {
+    explicit OwnValues(const BrushModel& brush) : model(brush) {
+        for (const auto& [key, value] : model._overrides)
+            model._canvas->setBrushValue(brushProperty(key), model.value(key));
+    }
+    ~OwnValues() {
+        for (const auto& [key, value] : model._overrides)
+            model._canvas->setBrushValue(brushProperty(key), value);
+    }
+    OwnValues(const OwnValues&) = delete;
+    OwnValues& operator=(const OwnValues&) = delete;
+    const BrushModel& model;
+};
+
 void BrushModel::attach(QDDrawCanvas* canvas) {
     _canvas = canvas;
-    _overridden = BrushKey::count;
+    _begun.reset();
+    _overrides.clear();
     if (!canvas)
         return;
     if (!_knowsDefaults) {
@@ -113,6 +129,7 @@ void BrushModel::attach(QDDrawCanvas* canvas) {
     }
     applyAll(*canvas);
     readBack();
+    override();
 }
 
 bool BrushModel::setValue(BrushKey key, const QVariant& value) {
@@ -129,13 +146,28 @@ bool BrushModel::setValue(BrushKey key, const QVariant& value) {
             return false;
         _canvas->setTextureType(_canvas->textureType());  // a drawn tip stays the one in use
         store(key, QVariant::fromValue(tips));
-    } else if (key == _overridden) {
-        store(key, value);
     } else if (!_canvas->setBrushValue(property, value)) {
         return false;
+    } else if (_overrides.contains(key)) {
+        store(key, _canvas->brushValue(property));
     }
     readBack();
+    override();
     return true;
+}
+
+QVariant BrushModel::baseValue(BrushKey key) const {
+    const bool ofPreset = _preset && (!isColor(brushProperty(key)) || _presetsSetColors);
+    return (ofPreset ? _presetValues : _defaults)[std::size_t(key)];
+}
+
+bool BrushModel::isBase(BrushKey key) const {
+    return nearlySameBrushValue(value(key), baseValue(key));
+}
+
+void BrushModel::setPresetsSetColors(bool on) {
+    _presetsSetColors = on;
+    emit presetChanged();
 }
 
 void BrushModel::resetAll() {
@@ -155,12 +187,17 @@ void BrushModel::resetAll() {
 }
 
 std::optional<BrushParams> BrushModel::params() const {
-    return _overridden == BrushKey::count ? QDBrushManager::paramsOfDrawView(_canvas) : std::nullopt;
+    if (!_canvas || _begun)
+        return std::nullopt;
+    const OwnValues own(*this);
+    return QDBrushManager::paramsOfDrawView(_canvas);
 }
 
 bool BrushModel::takePreset(const BrushPreset& preset) {
-    if (!_canvas || _overridden != BrushKey::count)
+    if (!_canvas || _begun)
         return false;
+    for (const auto& [key, value] : std::exchange(_overrides, {}))
+        _canvas->setBrushValue(brushProperty(key), this->value(key));  // a preset may leave them as they are
     applyPreset(*_canvas, preset);
     _presetValues = valuesOf(*_canvas);
     if (!_presetsSetColors) {
@@ -171,6 +208,7 @@ bool BrushModel::takePreset(const BrushPreset& preset) {
     }
     _preset = preset;
     const std::vector<QVariant> before = std::exchange(_values, valuesOf(*_canvas));
+    override();
     for (const BrushProperty& property : brushProperties()) {
         if (!sameBrushValue(before[std::size_t(property.key)], value(property.key)))
             emit changed(property.key);
@@ -231,15 +269,56 @@ void BrushModel::applyAll(QDDrawCanvas& canvas) const {
 }
 
 void BrushModel::beginOverride(BrushKey key, const QVariant& value) {
-    endOverride();
-    if (_canvas && _canvas->setBrushValue(brushProperty(key), value))
-        _overridden = key;
+    _begun = {key, value};
+    override();
 }
 
 void BrushModel::endOverride() {
-    const BrushKey key = std::exchange(_overridden, BrushKey::count);
-    if (_canvas && key != BrushKey::count)
-        _canvas->setBrushValue(brushProperty(key), value(key));
+    _begun.reset();
+    override();
+}
+
+void BrushModel::setPaper(const QColor& paper) {
+    _paper = paper;
+    override();
+}
+
+std::map<BrushKey, QVariant> BrushModel::wantedOverrides() const {
+    std::map<BrushKey, QVariant> wanted;
+    if (_begun)
+        wanted.insert(*_begun);
+    const auto blend = wanted.find(BrushKey::blendType);
+    const int type = value(BrushKey::brushType).toInt();
+    const bool erases =
+        (blend == wanted.end() ? value(BrushKey::blendType) : blend->second).toInt() == ESBlendTypeErase &&
+        type != kSmudgeBrush && type != kLiveFillBrush;  // which know no blend mode
+    if (erases && _paper.isValid()) {
+        // This colour and no other, whatever the brush does to its own.
+        const QVariant paper = QVariant::fromValue(ESColor(_paper));
+        wanted[BrushKey::blendType] = int(ESBlendTypeNormal);
+        wanted[BrushKey::renderColor] = wanted[BrushKey::backRenderColor] = paper;
+        wanted[BrushKey::colorFul] = false;
+        for (const BrushKey jitter :
+             {BrushKey::hueTingle, BrushKey::saturationTingle, BrushKey::brightnessTingle})
+            wanted[jitter] = 0.0f;
+    }
+    return wanted;
+}
+
+void BrushModel::override() {
+    if (!_canvas)
+        return;
+    const auto set = [this](BrushKey key, const QVariant& value) {
+        if (!sameBrushValue(_canvas->brushValue(brushProperty(key)), value))
+            _canvas->setBrushValue(brushProperty(key), value);
+    };
+    const auto wanted = wantedOverrides();
+    for (const auto& [key, value] : std::exchange(_overrides, wanted)) {
+        if (!wanted.contains(key))
+            set(key, this->value(key));
+    }
+    for (const auto& [key, value] : wanted)
+        set(key, value);
 }
 
 std::vector<QVariant> BrushModel::valuesOf(const QDDrawCanvas& canvas) const {
@@ -253,7 +332,7 @@ std::vector<QVariant> BrushModel::valuesOf(const QDDrawCanvas& canvas) const {
 
 void BrushModel::readBack() {
     for (const BrushProperty& property : brushProperties()) {
-        if (property.key != kTips && property.key != _overridden)
+        if (property.key != kTips && !_overrides.contains(property.key))
             store(property.key, _canvas->brushValue(property));
     }
 }

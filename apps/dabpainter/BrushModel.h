@@ -2,9 +2,12 @@
 // The brush one paints with, whatever canvas is shown.
 #pragma once
 
+#include <QColor>
 #include <QObject>
 #include <QVariant>
+#include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "Preset/BrushRecords.h"
@@ -43,10 +46,12 @@ public:
     QVariant value(BrushKey key) const { return _values[std::size_t(key)]; }
     QVariant defaultValue(BrushKey key) const { return _defaults[std::size_t(key)]; }
     bool isDefault(BrushKey key) const { return sameBrushValue(value(key), defaultValue(key)); }
+    // What resetting gives: the preset's, and the default without one or of a colour that presets do not set.
+    QVariant baseValue(BrushKey key) const;
+    bool isBase(BrushKey key) const;
     // False, and nothing changes, when the value is not one of this property or no canvas is attached.
     bool setValue(BrushKey key, const QVariant& value);
-    void reset(BrushKey key) { setValue(key, defaultValue(key)); }
-    // To the preset's values, or without one to the defaults.
+    void reset(BrushKey key) { setValue(key, baseValue(key)); }
     void resetAll();
 
     // What a preset made of it holds; none without a canvas or during an override.
@@ -60,7 +65,7 @@ public:
     // Whether what a preset keeps differs from the preset, or without one from the defaults.
     bool isModified() const;
     // Off, presets leave the two colours alone.
-    void setPresetsSetColors(bool on) { _presetsSetColors = on; }
+    void setPresetsSetColors(bool on);
     bool presetsSetColors() const { return _presetsSetColors; }
 
     // Gives another canvas the values of these properties.
@@ -70,13 +75,19 @@ public:
     // The canvas alone paints with another value for a while; the model keeps its own.
     void beginOverride(BrushKey key, const QVariant& value);
     void endOverride();
+    // What erasing leaves on the canvas, which then has no holes: it paints this colour instead. An invalid one, as at
+    // first: erasing makes transparent.
+    void setPaper(const QColor& paper);
 
 signals:
     void changed(BrushKey key);
-    void presetChanged();  // another one, or none
+    void presetChanged();  // another one, or none, or what of it counts
 
 private:
+    struct OwnValues;
     bool relates() const;
+    std::map<BrushKey, QVariant> wantedOverrides() const;
+    void override();
     std::vector<QVariant> valuesOf(const QDDrawCanvas& canvas) const;
     void readBack();
     void store(BrushKey key, const QVariant& value);
@@ -84,7 +95,9 @@ private:
     QDDrawCanvas* _canvas = nullptr;
     std::vector<QVariant> _values, _defaults;
     bool _knowsDefaults = false;
-    BrushKey _overridden = BrushKey::count;
+    std::optional<std::pair<BrushKey, QVariant>> _begun;
+    QColor _paper;
+    std::map<BrushKey, QVariant> _overrides;  // what the canvas has instead of the values
     std::optional<BrushPreset> _preset;
     std::vector<QVariant> _presetValues;
     bool _presetsSetColors = false;

@@ -97,6 +97,7 @@ BrushRow::BrushRow(const BrushProperty& property, BrushModel& model, const Promp
         if (key == _property.key)
             refresh();
     });
+    connect(&model, &BrushModel::presetChanged, this, &BrushRow::refreshReset);
     refresh();
 }
 
@@ -111,7 +112,11 @@ void BrushRow::edit(const QVariant& value) {
 
 void BrushRow::refresh() {
     _editor->setValue(_model.value(_property.key));
-    _reset->setVisible(!_model.isDefault(_property.key));
+    refreshReset();
+}
+
+void BrushRow::refreshReset() {
+    _reset->setVisible(!_model.isBase(_property.key));
 }
 
 bool BrushRow::matches(const QString& text) const {
@@ -141,7 +146,10 @@ BrushSection::BrushSection(BrushGroup group, QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(_title);
     layout->addWidget(_body);
-    connect(_title, &QToolButton::clicked, this, [this] { setOpen(!_open); });
+    connect(_title, &QToolButton::clicked, this, [this] {
+        setOpen(!_open);
+        emit opened(_open);
+    });
     layOut();
 }
 
@@ -269,8 +277,10 @@ QWidget* BrushPanel::makeGroups() {
     // As the groups are declared, from the tip to the second line.
     std::sort(_sections.begin(), _sections.end(),
               [](const BrushSection* a, const BrushSection* b) { return a->group() < b->group(); });
-    for (BrushSection* section : _sections)
+    for (BrushSection* section : _sections) {
         layout->addWidget(section);
+        connect(section, &BrushSection::opened, this, &BrushPanel::stateChanged);
+    }
     _nothing = new QLabel(tr("No setting is called so."));
     _nothing->setAlignment(Qt::AlignCenter);
     _nothing->setEnabled(false);

@@ -32,6 +32,7 @@ public:
 private:
     void edit(const QVariant& value);
     void refresh();
+    void refreshReset();
 
     const BrushProperty& _property;
     BrushModel& _model;
@@ -52,6 +53,9 @@ public:
     BrushGroup group() const { return _group; }
     bool isOpen() const { return _open; }
     void setOpen(bool open);
+
+signals:
+    void opened(bool open);  // or closed, by the user
 
 private:
     void layOut();
@@ -81,6 +85,7 @@ public:
 signals:
     void swapColors();
     void eyedropper();
+    void stateChanged();  // what writeState() writes
 
 private:
     BrushRow* makeRow(const BrushProperty& property);

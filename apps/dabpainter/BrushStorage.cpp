@@ -131,14 +131,16 @@ QVariant fromStored(const BrushProperty& property, const QVariant& stored) {
 
 }  // namespace
 
-void writeBrush(QSettings& settings, const BrushModel& model) {
-    settings.remove(QLatin1String(kSection));
+void writeBrush(QSettings& settings, const BrushModel& model, const std::set<BrushKey>& keys) {
     settings.beginGroup(QLatin1String(kSection));
-    for (const BrushProperty& property : brushProperties()) {
+    for (const BrushKey key : keys) {
+        const BrushProperty& property = brushProperty(key);
         const bool kept = brushPresentation(property).place != BrushPlace::hidden;
         // Colours always: a first start's are not the canvas's.
-        if (kept && (property.type() == BrushValueType::color || !model.isDefault(property.key)))
-            settings.setValue(QLatin1String(property.name), toStored(property, model.value(property.key)));
+        if (kept && (property.type() == BrushValueType::color || !model.isDefault(key)))
+            settings.setValue(QLatin1String(property.name), toStored(property, model.value(key)));
+        else
+            settings.remove(QLatin1String(property.name));
     }
     settings.endGroup();
 }

@@ -3,13 +3,15 @@
 #pragma once
 
 #include <QSettings>
+#include <set>
 
 #include "BrushModel.h"
 
 namespace dabcanvas::dabpainter {
 
-// Only what differs from the default is written, so that a better default reaches everyone.
-void writeBrush(QSettings& settings, const BrushModel& model);
+// Writes the values of these properties. Only what differs from the default is kept, so that a better default reaches
+// everyone.
+void writeBrush(QSettings& settings, const BrushModel& model, const std::set<BrushKey>& keys);
 
 // Sets what it can read; unknown names and broken values are left out.
 void readBrush(QSettings& settings, BrushModel& model);

@@ -103,9 +103,10 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::TouchEnd:
         case QEvent::TouchCancel:
             filterTouch(*static_cast<QTouchEvent*>(event));
-            // The view has to hear of every finger; beside it nobody else takes them.
-            event->setAccepted(!inView);
-            return !inView;
+            if (inView)
+                return false;  // which has to hear of every finger
+            event->setAccepted(true);
+            return true;
         case QEvent::Wheel: {
             const auto& wheel = *static_cast<QWheelEvent*>(event);
             if (isIdle())

@@ -7,6 +7,7 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace dabcanvas::dabpainter {
 
@@ -73,24 +74,42 @@ ReadImage readImageFile(const QString& path) {
     return converted.isNull() ? failed(tr("out of memory")) : ReadImage{converted, {}};
 }
 
-QString writePngFile(const QString& path, const QImage& image) {
-    const auto failed = [&](const QString& why) {
-        return tr("\"%1\" cannot be saved: %2.").arg(shown(path), why);
-    };
-    if (image.isNull())
-        return failed(tr("the canvas cannot be read"));
+bool isOpaque(const QImage& image) {
+    if (!image.hasAlphaChannel())
+        return true;
+    const QImage alpha = image.convertToFormat(QImage::Format_Alpha8);
+    for (int y = 0; y < alpha.height(); ++y) {
+        const uchar* line = alpha.constScanLine(y);
+        if (std::any_of(line, line + alpha.width(), [](uchar a) { return a != 255; }))
+            return false;
+    }
+    return true;
+}
+
+QString writeWholeFile(const QString& path, const std::function<bool(QIODevice&)>& write) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        return failed(file.errorString());
-    QImageWriter writer(&file, "png");
+        return file.errorString();
     // What is still in the buffer must go before commit(), which does not look at whether that went well. Of a disk
     // that fills up, only the second attempt tells why.
-    if (!writer.write(image) || !(file.flush() || file.flush())) {
-        const QString why = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
-        file.cancelWriting();
-        return failed(why);
+    if (write(file) && (file.flush() || file.flush()))
+        return file.commit() ? QString() : file.errorString();
+    if (file.error() == QFileDevice::NoError) {  // nor does a write that was cut short
+        file.putChar(0);
+        file.flush();
     }
-    return file.commit() ? QString() : failed(file.errorString());
+    const QString why =
+        file.error() != QFileDevice::NoError ? file.errorString() : tr("it cannot be encoded");
+    file.cancelWriting();
+    return why;
+}
+
+QString writePngFile(const QString& path, const QImage& image) {
+    const QString why =
+        image.isNull()
+            ? tr("the canvas cannot be read")
+            : writeWholeFile(path, [&](QIODevice& file) { return QImageWriter(&file, "png").write(image); });
+    return why.isEmpty() ? why : tr("\"%1\" cannot be saved: %2.").arg(shown(path), why);
 }
 
 }  // namespace dabcanvas::dabpainter

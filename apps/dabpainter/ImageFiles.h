@@ -2,8 +2,10 @@
 // Pictures from and to files, in words for the user when it fails.
 #pragma once
 
+#include <QIODevice>
 #include <QImage>
 #include <QString>
+#include <functional>
 
 namespace dabcanvas::dabpainter {
 
@@ -22,7 +24,13 @@ struct ReadImage {
 // The size is looked at before anything is decoded.
 ReadImage readImageFile(const QString& path);
 
-// As PNG; the file appears, or is replaced, only once it is whole. The fault, or nothing.
+// Whether no pixel of it lets anything through.
+bool isOpaque(const QImage& image);
+
+// The file appears, or is replaced, only once all of it is on the disk. Why it is not, or nothing.
+QString writeWholeFile(const QString& path, const std::function<bool(QIODevice&)>& write);
+
+// As PNG. The fault, or nothing.
 QString writePngFile(const QString& path, const QImage& image);
 
 }  // namespace dabcanvas::dabpainter

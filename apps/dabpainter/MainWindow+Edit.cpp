@@ -61,7 +61,10 @@ void MainWindow::setUndoSteps(int steps) {
 
 // Of a canvas as it was opened or made; what it was filled with is no step.
 void MainWindow::startHistory() {
-    view()->undoManager().setUndoStepCount(static_cast<unsigned>(undoSteps()));
+    ImagesUndoManager& history = view()->undoManager();
+    if (!_session.pictures().isEmpty())
+        history.setTempDirectory(_session.pictures());
+    history.setUndoStepCount(static_cast<unsigned>(undoSteps()));
     view()->resetUndoManager();
     view()->setAutoMark(true);
     _undo->setEnabled(false);

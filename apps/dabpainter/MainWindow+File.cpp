@@ -60,6 +60,8 @@ bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)
         defaultColors();  // of a first start
         readBrush(_settings, _brush);
         _presets->readState(_settings);
+        // What was read need not be written; a first start's colours are in no file yet.
+        _unwritten = {BrushKey::renderColor, BrushKey::backRenderColor};
     }
     _viewport->setView(std::move(made));
     _pointer->watchView();
@@ -70,6 +72,12 @@ bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)
     return true;
 }
 
+// An opaque picture has no holes: what is erased of it shows what it was painted on.
+void MainWindow::setPlan(const CanvasPlan& plan) {
+    _plan = plan;
+    _brush.setPaper(plan.background.alpha() == 255 ? plan.background : QColor());
+}
+
 bool MainWindow::startCanvas(const CanvasPlan& plan) {
     const bool made = replaceCanvas(plan.size, [&](QDDrawView& view) {
         view.clearWithColor(colorOf(plan.background), false);
@@ -77,7 +85,7 @@ bool MainWindow::startCanvas(const CanvasPlan& plan) {
     });
     if (!made)
         return false;
-    _plan = plan;
+    setPlan(plan);
     setPath(QString());
     markSaved();  // there is nothing on it that could be lost
     return true;
@@ -111,7 +119,7 @@ bool MainWindow::openImage(const QString& path) {
     });
     if (!opened)
         return false;
-    _plan = {read.image.size(), read.image.hasAlphaChannel() ? Qt::transparent : Qt::white};
+    setPlan({read.image.size(), isOpaque(read.image) ? Qt::white : Qt::transparent});
     setPath(QFileInfo(path).absoluteFilePath());
     markSaved();
     return true;

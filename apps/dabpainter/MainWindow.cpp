@@ -6,8 +6,10 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
 #include <QDockWidget>
 #include <QDragEnterEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
@@ -18,6 +20,7 @@
 #include <QUrl>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "BrushCursor.h"
 #include "BrushPanel.h"
@@ -34,9 +37,20 @@ namespace {
 constexpr double kZoomStep = 1.25;
 constexpr int kStateVersion = 2;
 constexpr int kMessageTime = 2500;  // milliseconds
+constexpr int kWriteDelay = 1000;   // milliseconds from a change of the settings to their file
+constexpr int kMostOldSessions = 4;
 
 QKeySequence key(const char* text) {
     return QKeySequence(QString::fromLatin1(text));
+}
+
+void setIfOther(QSettings& settings, const QString& name, const QVariant& value) {
+    if (settings.value(name) != value)
+        settings.setValue(name, value);
+}
+
+bool endsTyping(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Escape;
 }
 
 QStringList brushFilesOf(const QMimeData& data) {
@@ -51,8 +65,12 @@ QStringList brushFilesOf(const QMimeData& data) {
 
 }  // namespace
 
-MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders)
-    : _settings(settings), _prompts(std::move(prompts)), _viewport(new CanvasViewport) {
+MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& sessions)
+    : _settings(settings),
+      _prompts(std::move(prompts)),
+      _sessions(sessions),
+      _session(sessions),
+      _viewport(new CanvasViewport) {
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
     setCentralWidget(_viewport);
@@ -85,8 +103,21 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
                                              : tr("Pressure %1 %").arg(std::lround(pressure * 100)));
     });
     connect(_viewport, &CanvasViewport::zoomChanged, this, &MainWindow::showCanvasFacts);
+    connect(_presets, &PresetBrowser::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));
     setPath(QString());
     readState();
+    _writeTimer.setSingleShot(true);
+    _writeTimer.setInterval(kWriteDelay);
+    connect(&_writeTimer, &QTimer::timeout, this, [this] {
+        // Nothing slows down a stroke.
+        _pointer->isIdle() ? writeState() : noteChange();
+    });
+    connect(&_brush, &BrushModel::changed, this, [this](BrushKey key) {
+        _unwritten.insert(key);
+        noteChange();
+    });
+    connect(_presets, &PresetBrowser::stateChanged, this, &MainWindow::noteChange);
+    connect(_panel, &BrushPanel::stateChanged, this, &MainWindow::noteChange);
     _viewport->setFocus();
 }
 
@@ -114,6 +145,7 @@ QDockWidget* MainWindow::addDock(const QString& title, const QString& name, QWid
     dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     dock->setWidget(widget);
     addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->installEventFilter(this);
     return dock;
 }
 
@@ -310,11 +342,49 @@ void MainWindow::showCanvasFacts() {
     _zoomLabel->setText(QStringLiteral("%1 %").arg(percent, 0, 'f', percent < 10 ? 1 : 0));
 }
 
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move ||
+        event->type() == QEvent::WindowStateChange)
+        noteChange();
+    return QMainWindow::event(event);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::Resize:
+        case QEvent::Move:
+        case QEvent::ShowToParent:
+        case QEvent::HideToParent:
+            noteChange();
+            break;
+        case QEvent::KeyPress:
+            // A dock of its own is a window, and its keys do not come to this one.
+            if (static_cast<QDockWidget*>(watched)->isFloating()) {
+                keyPressEvent(static_cast<QKeyEvent*>(event));
+                return event->isAccepted();
+            }
+            break;
+        default:
+            break;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// Of the keys that nobody took, those that end typing give the keyboard back to the canvas.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (!endsTyping(*event))
+        return QMainWindow::keyPressEvent(event);
+    activateWindow();
+    _viewport->setFocus();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!_pointer->isIdle() || !mayDiscard()) {
         event->ignore();
         return;
     }
+    if (isFullScreen())
+        toggleFullScreen();
     writeState();
     event->accept();
 }
@@ -337,18 +407,36 @@ void MainWindow::readState() {
     _panel->readState(_settings);
 }
 
+void MainWindow::noteChange() {
+    if (!_writeTimer.isActive())
+        _writeTimer.start();
+}
+
 void MainWindow::writeState() {
-    // A window that comes up without its menu bar would puzzle.
-    if (isFullScreen())
-        toggleFullScreen();
-    _settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
-    _settings.setValue(QStringLiteral("window/state"), saveState(kStateVersion));
+    _writeTimer.stop();
+    if (!isFullScreen()) {  // a window that comes up without its menu bar would puzzle
+        setIfOther(_settings, QStringLiteral("window/geometry"), saveGeometry());
+        setIfOther(_settings, QStringLiteral("window/state"), saveState(kStateVersion));
+    }
     _panel->writeState(_settings);
     if (_brushRead) {
-        writeBrush(_settings, _brush);
+        writeBrush(_settings, _brush, std::exchange(_unwritten, {}));
         _presets->writeState(_settings);
     }
     _settings.sync();
+}
+
+void MainWindow::askAboutOldSessions() {
+    const auto old = SessionFolder::abandoned(_sessions);
+    if (old.folders.size() <= kMostOldSessions)
+        return;
+    const QString size = locale().formattedDataSize(old.bytes);
+    if (_prompts.confirm(
+            this, tr("Delete the undo steps of %1 runs that ended unexpectedly?").arg(old.folders.size()),
+            tr("They take %1 in \"%2\".").arg(size, QDir::toNativeSeparators(_sessions)), tr("Delete"))) {
+        for (const QString& folder : old.folders)
+            QDir(folder).removeRecursively();
+    }
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -2,11 +2,14 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
+#include <set>
 
 #include "BrushModel.h"
 #include "NewCanvasDialog.h"
 #include "PresetLibrary.h"
 #include "Prompts.h"
+#include "SessionFolder.h"
 
 class QAction;
 class QDDrawCanvas;
@@ -27,8 +30,9 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    // The settings must outlive the window.
-    MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders);
+    // The settings must outlive the window. They are written shortly after something changed, so that a run that is
+    // killed loses no more than that. sessions: the folder of the folders of all runs.
+    MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& sessions);
     ~MainWindow() override;
 
     // Each makes a canvas in place of the present one. False, after a message, when it cannot be had; then
@@ -40,6 +44,9 @@ public:
     bool placeImage(const QString& path);
     bool saveTo(const QString& path);
     void clearCanvas();
+
+    // Whether what dead runs left may go, when it has become much.
+    void askAboutOldSessions();
 
     bool isUnsaved() const { return isWindowModified(); }
     // Whether the canvas may go: there is nothing unsaved, or the user saved or gave it up.
@@ -54,6 +61,9 @@ public:
     const CanvasPlan& plan() const { return _plan; }
 
 protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     // Brush files, from elsewhere.
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -77,6 +87,7 @@ private:
     void place();
     bool save();
     bool saveAs();
+    void setPlan(const CanvasPlan& plan);
     void setPath(const QString& path);
     void markChanged();
     void markSaved();
@@ -97,11 +108,14 @@ private:
     void toggleFullScreen();
     void showPosition(QPointF bufferPoint);
     void showCanvasFacts();
+    void noteChange();
     void readState();
     void writeState();
 
     QSettings& _settings;
     Prompts _prompts;
+    QString _sessions;
+    SessionFolder _session;
     BrushModel _brush;
     CanvasPlan _plan;
     QString _path;  // where Save writes; empty until there is one
@@ -115,6 +129,8 @@ private:
     QLabel* _shapesLabel;
     QLabel *_sizeLabel, *_zoomLabel, *_positionLabel, *_pressureLabel, *_driverLabel;
     bool _brushRead = false;
+    std::set<BrushKey> _unwritten;  // since the settings were written
+    QTimer _writeTimer;
     bool _wasMaximized = false;
 };
 

@@ -38,7 +38,7 @@ PresetBrowser::PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFo
       _prompts(prompts),
       _isIdle(std::move(isIdle)),
       _library(std::move(folders)),
-      _previews(_library, _isIdle),
+      _previews(_isIdle),
       _model(new PresetListModel(_library, _previews, this)),
       _filtered(new QSortFilterProxyModel(this)),
       _list(new QListView),
@@ -87,6 +87,7 @@ void PresetBrowser::makeActions() {
         _brush.setPresetsSetColors(on);
         setOwnLook();
         showChosen();
+        emit stateChanged();
     });
 }
 
@@ -142,7 +143,10 @@ void PresetBrowser::makeLayout() {
     connect(save, &QToolButton::clicked, this, &PresetBrowser::saveNew);
     connect(more, &QToolButton::clicked, this,
             [this, more] { popUp(_chosen, more->mapToGlobal(QPoint(0, more->height()))); });
-    connect(_list, &QListView::clicked, this, [this](const QModelIndex& at) { choose(idAt(at)); });
+    connect(_list, &QListView::clicked, this, [this](const QModelIndex& at) {
+        choose(idAt(at));
+        emit chosenByPointer();
+    });
     connect(_list, &QListView::customContextMenuRequested, this, [this](const QPoint& at) {
         const QModelIndex index = _list->indexAt(at);
         popUp(index.isValid() ? idAt(index) : _chosen, _list->viewport()->mapToGlobal(at));
@@ -206,6 +210,7 @@ void PresetBrowser::showEvent(QShowEvent* event) {
 void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
     _chosen = id;
     _chosenName = name;
+    emit stateChanged();
     showChosen();
     const int row = _model->rowOf(id);
     if (row >= 0)

@@ -61,6 +61,10 @@ public:
     void readState(QSettings& settings);
     void writeState(QSettings& settings) const;
 
+signals:
+    void chosenByPointer();  // who did so wants to paint now
+    void stateChanged();     // what writeState() writes
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;

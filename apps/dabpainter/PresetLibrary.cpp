@@ -9,10 +9,9 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <algorithm>
-#include <cstdio>
 
+#include "ImageFiles.h"
 #include "Preset/QDBrushManager.h"
-#include "Preset/ReplacingFile.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -149,7 +148,7 @@ void PresetLibrary::setProblem(const PresetId& id, const QString& problem) {
         set(*file);
 }
 
-QString PresetLibrary::read(const PresetId& id, BrushPreset& preset) const {
+QString PresetLibrary::read(const PresetId& id, BrushPreset& preset) {
     QString problem;
     int version = 0;
     const auto brushes = QDBrushManager::brushesWithXBFPath(id.path, &version, &problem);
@@ -256,11 +255,10 @@ QString PresetLibrary::importFile(const QString& path, PresetId& now) {
         }
     }
     const QString target = freePath(source.completeBaseName());
-    ReplacingFile file(target);
-    if (file.file())
-        std::fwrite(content.constData(), 1, std::size_t(content.size()), file.file());
-    if (!file.commit())
-        return unwritable(target, file.problem());
+    const QString why =
+        writeWholeFile(target, [&](QIODevice& file) { return file.write(content) == content.size(); });
+    if (!why.isEmpty())
+        return unwritable(target, why);
     now.path = target;
     refresh();
     return {};

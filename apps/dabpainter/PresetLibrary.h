@@ -54,8 +54,8 @@ public:
     // What was found out only by reading all of it.
     void setProblem(const PresetId& id, const QString& problem);
 
-    // The whole preset. Its fault names the file.
-    QString read(const PresetId& id, BrushPreset& preset) const;
+    // The whole preset, from its file. Its fault names the file. Any thread.
+    static QString read(const PresetId& id, BrushPreset& preset);
 
     // These change files and then refresh. `now` becomes where the preset is to be found.
     QString add(const QString& name, const BrushParams& params, PresetId& now);

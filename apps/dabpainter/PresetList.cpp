@@ -99,6 +99,8 @@ QVariant PresetListModel::data(const QModelIndex& index, int role) const {
             return _modified;
         case problemRole:
             return preset ? preset->problem : QString();
+        case plainRole:
+            return !preset;
         default:
             return {};
     }
@@ -164,7 +166,7 @@ void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
 
     const auto group = isBroken ? QPalette::Disabled : QPalette::Normal;
     painter->setPen(palette.color(group, isChosen ? QPalette::HighlightedText : QPalette::Text));
-    if (index.row() == 0 || isBroken)
+    if (isBroken || index.data(PresetListModel::plainRole).toBool())
         painter->drawText(frame, Qt::AlignCenter, isBroken ? tr("damaged") : tr("no preset"));
     QString name = index.data(Qt::DisplayRole).toString();
     if (isChosen && index.data(PresetListModel::modifiedRole).toBool())

@@ -16,7 +16,7 @@ class PresetListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    enum Role { pictureRole = Qt::UserRole, chosenRole, modifiedRole, problemRole };
+    enum Role { pictureRole = Qt::UserRole, chosenRole, modifiedRole, problemRole, plainRole };
 
     PresetListModel(PresetLibrary& library, PresetPreviews& previews, QObject* parent = nullptr);
 

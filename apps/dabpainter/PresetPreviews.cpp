@@ -26,8 +26,9 @@ QString keyOf(const Preset& preset) {
 
 }  // namespace
 
-PresetPreviews::PresetPreviews(const PresetLibrary& library, std::function<bool()> mayPaint, QObject* parent)
-    : QObject(parent), _library(library), _mayPaint(std::move(mayPaint)), _pictures(kMostKilobytes) {
+PresetPreviews::PresetPreviews(std::function<bool()> mayPaint, QObject* parent)
+    : QObject(parent), _mayPaint(std::move(mayPaint)), _pictures(kMostKilobytes) {
+    _reader.setMaxThreadCount(1);
     connect(&_timer, &QTimer::timeout, this, &PresetPreviews::go);
 }
 
@@ -39,6 +40,7 @@ void PresetPreviews::setLook(QSize size, qreal ratio, bool ownColors) {
     _ownColors = ownColors;
     _wave.abandon();
     _painting = false;
+    _content.reset();
     _pictures.clear();
     _wanted.clear();
     _timer.stop();
@@ -54,48 +56,62 @@ QImage PresetPreviews::picture(const Preset& preset) {
         _wanted.push_back(preset);
         if (_wanted.size() > kMostWanted)
             _wanted.erase(std::next(_wanted.begin()));
-        if (!_timer.isActive())
+        if (!_timer.isActive() && !_reading)
             _timer.start(0);
     }
     return {};
 }
 
-// Takes up the first one that can be painted; false when there is none.
-bool PresetPreviews::begin() {
-    while (!_wanted.empty()) {
-        const PresetId id = _wanted.front().id;
-        BrushPreset preset;
-        const QString problem = _library.read(id, preset);
-        if (!problem.isEmpty()) {
-            _wanted.pop_front();
-            emit damaged(id, problem);
-            continue;
-        }
-        if (!_wave.prepare(_size * _ratio))
-            break;
-        QDDrawCanvas& canvas = *_wave.canvas();
-        applyPreset(canvas, preset);
-        if (!_ownColors) {
-            canvas.setRenderColor(ESColor(kInk));
-            canvas.setBackRenderColor(ESColor(kSecondInk));
-        }
-        _wave.begin(float(_ratio));
-        return true;
-    }
-    return false;
+void PresetPreviews::read(const PresetId& id) {
+    _reading = true;
+    _timer.stop();
+    _reader.start([this, id] {
+        Content content{id, {}, {}};
+        content.problem = PresetLibrary::read(id, content.preset);
+        const auto take = [this, content] {
+            _reading = false;
+            _content = content;
+            _timer.start(0);
+        };
+        QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+    });
 }
 
-void PresetPreviews::go() {
-    if (!_mayPaint()) {
-        _timer.start(kPause);
-        return;
+// Puts the brush on the canvas of the pictures; false when there is none.
+bool PresetPreviews::begin(const Content& content) {
+    if (!_wave.prepare(_size * _ratio))
+        return false;
+    QDDrawCanvas& canvas = *_wave.canvas();
+    applyPreset(canvas, content.preset);
+    if (!_ownColors) {
+        canvas.setRenderColor(ESColor(kInk));
+        canvas.setBackRenderColor(ESColor(kSecondInk));
     }
+    _wave.begin(float(_ratio));
+    return true;
+}
+
+// One step: the file of the first one that is wanted, then its brush, then the picture slice by slice.
+void PresetPreviews::go() {
+    if (_wanted.empty()) {
+        _content.reset();
+        return _timer.stop();
+    }
+    if (!_mayPaint())
+        return _timer.start(kPause);
     _timer.start(0);
     if (!_painting) {
-        _painting = begin();
-        if (!_painting) {
-            _wanted.clear();
-            _timer.stop();
+        const PresetId id = _wanted.front().id;
+        const std::optional<Content> content = std::exchange(_content, {});
+        if (!content || content->id != id)
+            return read(id);
+        if (!content->problem.isEmpty()) {
+            _wanted.pop_front();
+            emit damaged(id, content->problem);
+        } else {
+            _painting = begin(*content);
+            if (!_painting)
+                _wanted.clear();
         }
         return;
     }

@@ -19,6 +19,27 @@ namespace {
 constexpr int kSliderSteps = 1000;
 constexpr int kThumbnail = 40, kThumbnailGap = 4;
 
+// A point and a comma are both the decimal sign, whatever the locale has: these numbers have no groups of digits, and a
+// point that counted as one would make 125 of 12.5.
+class DecimalBox : public QDoubleSpinBox {
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+    QValidator::State validate(QString& text, int& position) const override {
+        text = withOwnSign(text);
+        return QDoubleSpinBox::validate(text, position);
+    }
+    double valueFromText(const QString& text) const override {
+        return QDoubleSpinBox::valueFromText(withOwnSign(text));
+    }
+
+private:
+    QString withOwnSign(QString text) const {
+        for (const QChar sign : QStringLiteral(".,"))
+            text.replace(sign, locale().decimalPoint());
+        return text;
+    }
+};
+
 class WheelGuard : public QObject {
 public:
     using QObject::QObject;
@@ -145,7 +166,7 @@ void SwatchButton::paintEvent(QPaintEvent*) {
 }
 
 NumberField::NumberField(const BrushPresentation& shown, QWidget* parent)
-    : QWidget(parent), _shown(shown), _slider(new QSlider(Qt::Horizontal)), _box(new QDoubleSpinBox) {
+    : QWidget(parent), _shown(shown), _slider(new QSlider(Qt::Horizontal)), _box(new DecimalBox) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QMessageBox>
 #include <QSettings>
+#include <QStandardPaths>
+#include <QTimer>
 #include <cstdio>
 #include <new>
 
@@ -40,7 +43,9 @@ int runWindow(const CommandLine& line) {
         return giveUp(QStringLiteral("There is no OpenGL 3.2 to paint with; the log says what is missing."));
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Dabcanvas"),
                        QStringLiteral("dabpainter"));
-    MainWindow window(settings, standardPrompts(), standardPresetFolders());
+    const QDir data(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
+    MainWindow window(settings, standardPrompts(), standardPresetFolders(),
+                      data.filePath(QStringLiteral("sessions")));
     CanvasPlan plan;
     plan.size = line.size.value_or(plan.size);
     if (!window.startCanvas(plan))
@@ -48,6 +53,7 @@ int runWindow(const CommandLine& line) {
     window.show();
     if (!line.image.isEmpty())
         window.openImage(line.image);
+    QTimer::singleShot(0, &window, &MainWindow::askAboutOldSessions);
     return QApplication::exec();
 }
 

@@ -280,7 +280,10 @@ TEST_F(BrushPresetTest, WhatACanvasDoesNotTakeIsLeftOutAndToldOnce) {
         {"images", {record(0x800F, "x"), record(0x2001, "x")}, "maskImage is not an image that can be"},
         {"huge",
          {record(0x2001, QByteArray("P6 20000 20000 255\n")), record(0x2002, nan)},
-         "textureImages is too large"},
+         "textureImages is too large: the images"},
+        {"hollow",
+         {record(0x2001, QByteArray("P6 9000 9000 255\n"))},
+         "textureImages is too large: it claims"},
         {"no image", {record(0x800F, QByteArray()), record(0x2001, tip)}, ""},
         {"no colour", {record(0x1003, 5)}, ""}};
     canvas->setRenderColor(ESColor::rgba(1, 0, 0));
@@ -308,20 +311,53 @@ TEST_F(BrushPresetTest, WhatACanvasDoesNotTakeIsLeftOutAndToldOnce) {
     EXPECT_FALSE(images.read(tip).isNull());
     EXPECT_TRUE(images.read(tip).isNull()) << "128 pixels in all";
     EXPECT_TRUE(images.problem().startsWith(QStringLiteral("is too large")));
+    QImage flat(3000, 3000, QImage::Format_Mono);  // as small as a picture of its size can be
+    flat.fill(0);
+    EXPECT_FALSE(dabcanvas::PresetImages().read(UIImagePNGRepresentation(flat)).isNull());
 }
 
+// Of a file all or nothing: half of its records make another brush.
 TEST_F(BrushPresetTest, WhatCannotBeDoneIsSaid) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("none.xbf"));
-    {
-        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(XBFCreate(qPrintable(path)), XBFClose);
-        AddXBFInfo(file.get(), XBFInfoMake(200, 0));
+    const QString path = folder.filePath(QStringLiteral("brush.xbf"));
+    QFile file(path);
+    canvas->setMaskImage(dotted(8, 0));
+    ASSERT_TRUE(QDBrushManager::saveParamsWithDrawView(canvas.get(), {}, path));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
+    file.close();
+    const auto cut = [&](qsizetype by) { return whole.chopped(by); };
+    const struct {
+        const char* name;
+        QByteArray bytes;
+        bool applies;
+        const char* problem;
+    } rows[] = {
+        {"no brush", QByteArray("\xC8\0\0\0\1\x10\0\0\0\0\0\0", 12), false, "it holds no brush"},
+        {"cut in the header", whole.left(8), false, "this is not an XBF file"},
+        {"cut in half", cut(whole.size() / 2), false, "of brush 1 of 1: it claims more bytes"},
+        {"without its terminator", cut(28), false, "of brush 1 of 1: the file ends before it"},
+        {"a bad image", QByteArray(whole).replace("PNG", "GNP"), true, "maskImage is not an image"},
+        {"whole", whole, true, ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(row.bytes) == row.bytes.size());
+        file.close();
+        canvas->setRadius(77);
+        const LogCapture log;
+        QString problem;
+        EXPECT_EQ(canvas->resetWithXBFPath(path, &problem), row.applies);
+        EXPECT_EQ(canvas->radius(), row.applies ? 32 : 77);
+        EXPECT_TRUE(problem.contains(QLatin1String(row.problem))) << problem.toStdString();
+        EXPECT_EQ(problem.isEmpty(), *row.problem == 0);
+        EXPECT_TRUE(problem.isEmpty() ? log.lines().isEmpty() : log.has(problem));
     }
     const LogCapture log;
-    EXPECT_FALSE(canvas->resetWithXBFPath(path));
-    EXPECT_TRUE(log.has(path + QStringLiteral(" holds no brush")));
     QString problem;
     EXPECT_FALSE(QDBrushManager::saveParamsWithDrawView(nullptr, {}, path, &problem));
+    EXPECT_TRUE(!problem.isEmpty() && log.has(problem));
+    EXPECT_FALSE(QDBrushManager::resetDrawView(nullptr, path, &problem));
     EXPECT_TRUE(!problem.isEmpty() && log.has(problem));
 }
 

@@ -15,7 +15,11 @@
 #include "support/HexFile.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "support/FullDisk.h"
 #endif
@@ -253,6 +257,50 @@ TEST_F(QDBrushManagerFile, AnotherCountOrLengthSaysWhereItIsWrong) {
     }
 }
 
+// A record takes 28 bytes of a file and several hundred of memory.
+TEST_F(QDBrushManagerFile, TinyRecordsWithoutEndAreNotTaken) {
+    const std::string record = std::string("\1\0\0\0\0\0\0\0\1\x10\0\0", 12) + std::string(16, 0);
+    const std::string end(28, 0);
+    const auto brushes = [&](int count, int records) {
+        std::string bytes("\5\0\0\0\1\x10\0\0", 8);
+        for (int i = 0; i < 4; ++i) {
+            bytes += static_cast<char>(count >> (8 * i));
+        }
+        for (int i = 0; i < count; ++i) {
+            bytes += std::string(4, 0);
+            for (int j = 0; j < records; ++j) {
+                bytes += record;
+            }
+            bytes += end;
+        }
+        return bytes;
+    };
+    const int most = QDBrushManager::kMostRecords, all = QDBrushManager::kMostRecordsOfFile;
+    const struct {
+        int count, records;
+        const char *problem, *listed;
+    } rows[] = {
+        {1, most, "", ""},
+        {1, most + 1, "record 4097 of brush 1 of 1: there are more than", ""},
+        {all / 2, 1, "", ""},
+        {all / 2 + 1, 1, "name of brush 32769 of 32769: there are more than", "name of brush 32769"},
+        {2, most + 1, "record 4097 of brush 1 of 2", "record 4097 of brush 1 of 2"},
+    };
+    for (const auto& row : rows) {
+        setContent(brushes(row.count, row.records));
+        const LogCapture log;
+        QString problem, listed;
+        const auto read = QDBrushManager::brushesWithXBFPath(path, nullptr, &problem);
+        QDBrushManager::brushNamesWithXBFPath(path, nullptr, &listed);
+        EXPECT_EQ(problem.left(qstrlen(row.problem)), QLatin1String(row.problem));
+        EXPECT_EQ(listed.left(qstrlen(row.listed)), QLatin1String(row.listed));
+        EXPECT_EQ(problem.isEmpty(), *row.problem == 0);
+        EXPECT_EQ(listed.isEmpty(), *row.listed == 0);
+        ASSERT_TRUE(read && !read->isEmpty());
+        EXPECT_LE(BrushRecords::brushParams(read->front()).size(), most);
+    }
+}
+
 TEST_F(QDBrushManagerFile, WhatIsNoBrushFileIsSaidSo) {
     setContent(QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) + QByteArray(100, 0));
     const struct {
@@ -301,6 +349,7 @@ TEST_F(QDBrushManagerFile, ARefusedSaveLeavesTheOldFile) {
         {"a pipe", good, madePipe()},
 #endif
         {"a path with a NUL", good, path + QChar(0) + QStringLiteral("a")},
+        {"more records than are read", BrushParams(QDBrushManager::kMostRecords + 1, good.front()), path},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -332,6 +381,33 @@ TEST_F(QDBrushManagerFile, AFullDiskLeavesTheOldFile) {
         EXPECT_EQ(filesInFolder(), 1);
     }
 }
+
+#ifdef Q_OS_LINUX
+// The system kills who writes more than it may, in the middle of that.
+TEST_F(QDBrushManagerFile, AKilledWriterLeavesTheOldFileAndNothingBesideIt) {
+    const int nameless = ::open(folder.path().toUtf8().constData(), O_TMPFILE | O_RDWR, 0600);
+    if (nameless < 0) {
+        GTEST_SKIP() << "this file system has no files without a name";
+    }
+    ::close(nameless);
+    ASSERT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, path));
+    const QByteArray before = content();
+    const pid_t writer = ::fork();
+    if (writer == 0) {
+        const rlimit noCore{0, 0}, small{1000, 1000};
+        ::setrlimit(RLIMIT_CORE, &noCore);
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        QDBrushManager::saveParams(BrushParams{param(1, "", QByteArray(100'000, 'd'), kXBFData)}, 200, {},
+                                   path);
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(writer, &status, 0), writer);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(filesInFolder(), 1);
+}
+#endif
 
 TEST_F(QDBrushManagerFile, LinksAreFollowedAndPermissionsStay) {
     const QString link = folder.filePath(QStringLiteral("link.xbf"));

@@ -4,8 +4,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QSlider>
+#include <algorithm>
+#include <string>
 
 #include "PainterTest.h"
 #include "Widgets.h"
@@ -79,6 +82,34 @@ TEST_F(BrushPanelTest, SlidersReachBothEndsAndFollowTheValue) {
                         std::pow(10, -shown.decimals) / shown.scale + 1e-6);
             _window->brush().resetAll();
         }
+    }
+}
+
+// A point and a comma, whatever the locale makes of them; and after Return the keys are the canvas's again.
+TEST_F(BrushPanelTest, ATypedNumberIsTheNumber) {
+    const struct {
+        const char *locale, *typed;
+        float radius;
+    } rows[] = {{"de_DE", "12.5", 12.5f}, {"de_DE", "7,5", 7.5f}, {"en_US", "12,5", 12.5f},
+                {"en_US", "12.5", 12.5f}, {"de_CH", "3.5", 3.5f}, {"fr_FR", "4.5", 4.5f}};
+    const auto& all = _window->panel().rows();
+    BrushRow* row =
+        *std::find_if(all.begin(), all.end(), [](auto* r) { return r->key() == BrushKey::radius; });
+    auto* box = row->editor()->findChild<QDoubleSpinBox*>();
+    for (const auto& one : rows) {
+        SCOPED_TRACE(std::string(one.locale) + " " + one.typed);
+        box->setLocale(QLocale(QLatin1String(one.locale)));
+        box->setFocus();
+        box->selectAll();
+        const auto press = [&](int key, const QString& text) {
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+            QApplication::sendEvent(QApplication::focusWidget(), &event);
+        };
+        for (const char c : std::string(one.typed))
+            press(c, QString(QLatin1Char(c)));
+        press(Qt::Key_Return, QStringLiteral("\r"));
+        EXPECT_EQ(_window->brush().value(BrushKey::radius).toFloat(), one.radius);
+        EXPECT_TRUE(_window->viewport().hasFocus());
     }
 }
 

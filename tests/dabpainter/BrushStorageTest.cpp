@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BrushStorage.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 
 #include "BrushPresentation.h"
@@ -28,7 +29,15 @@ TEST_F(BrushStorageTest, EveryValueComesBackInTheNextRun) {
             << property.name;
     }
     const std::vector<QVariant> before = valuesOf(_window->brush());
-    ASSERT_TRUE(_window->close());
+    // The window is not closed, as when a run is killed.
+    const auto isWritten = [&] {
+        QFile file(_settings->fileName());
+        return file.open(QIODevice::ReadOnly) && file.readAll().contains("\nradius=");
+    };
+    const QDeadlineTimer patience(20'000);
+    while (!isWritten() && !patience.hasExpired())
+        settle();
+    ASSERT_TRUE(isWritten());
     makeWindow();
     const std::vector<QVariant> after = valuesOf(_window->brush());
     for (const BrushProperty& property : brushProperties())

@@ -10,12 +10,19 @@
 #include <QTouchEvent>
 #include <cerrno>
 #include <cstring>
+#include <functional>
+#include <string>
 
+#include "ESRender/ESImageRender.h"
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
+#include "SessionFolder.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "support/FullDisk.h"
 #endif
 
@@ -104,7 +111,8 @@ TEST_F(MainWindowTest, AStrokeMayBeginBesideTheCanvas) {
     EXPECT_TRUE(_window->isUnsaved());
 }
 
-TEST_F(MainWindowTest, ThePensOtherEndErases) {
+// On an opaque canvas down to the paper, on another one through it; by the pen's other end as by a brush that erases.
+TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
     const QPointingDevice eraser(QStringLiteral("eraser"), 7, QInputDevice::DeviceType::Stylus,
                                  QPointingDevice::PointerType::Eraser, QInputDevice::Capability::Pressure, 1,
                                  1);
@@ -114,15 +122,68 @@ TEST_F(MainWindowTest, ThePensOtherEndErases) {
                            type == QEvent::TabletMove ? Qt::NoButton : Qt::LeftButton, held);
         QApplication::sendEvent(view, &event);
     };
-    _window->viewport().setZoom(1);
-    pen(QEvent::TabletPress, inView(40, 75), Qt::LeftButton);
-    for (int x = 50; x <= 160; x += 10)
-        pen(QEvent::TabletMove, inView(x, 75), Qt::LeftButton);
-    pen(QEvent::TabletRelease, inView(160, 75), Qt::NoButton);
-    settle();
-    EXPECT_LT(pixel(100, 75).alpha(), 128);
-    EXPECT_EQ(view->blendType(), 1);
-    EXPECT_TRUE(_window->brush().isDefault(BrushKey::blendType));
+    const auto byPen = [&] {
+        view = _window->view();
+        pen(QEvent::TabletPress, inView(40, 75), Qt::LeftButton);
+        for (int x = 50; x <= 160; x += 10)
+            pen(QEvent::TabletMove, inView(x, 75), Qt::LeftButton);
+        pen(QEvent::TabletRelease, inView(160, 75), Qt::NoButton);
+        settle();
+    };
+    BrushModel& brush = _window->brush();
+    const QColor paper(250, 240, 200);
+    QImage grey(200, 150, QImage::Format_ARGB32);  // opaque, whatever its format could hold
+    grey.fill(Qt::gray);
+    ASSERT_TRUE(grey.save(path(QStringLiteral("grey.png"))));
+    const struct {
+        const char* name;
+        std::function<bool()> start;
+        QColor erased;  // transparent: a hole
+    } rows[] = {
+        {"paper",
+         [&] {
+             return _window->startCanvas({QSize(200, 150), paper});
+         },
+         paper},
+        {"a picture", [&] { return _window->openImage(path(QStringLiteral("grey.png"))); }, Qt::white},
+        {"no paper",
+         [&] {
+             return _window->startCanvas({QSize(200, 150), Qt::transparent});
+         },
+         QColor()},
+    };
+    brush.setValue(BrushKey::hardness, 1.0f);
+    brush.setValue(BrushKey::hueTingle, 0.5f);
+    const QVariant ink = QVariant::fromValue(ESColor::rgba(0.8f, 0.1f, 0.1f));
+    brush.setValue(BrushKey::renderColor, ink);
+    for (const auto& row : rows) {
+        for (const bool isPen : {true, false}) {
+            SCOPED_TRACE(std::string(row.name) + (isPen ? ", pen" : ", brush"));
+            ASSERT_TRUE(row.start());
+            _window->viewport().setZoom(1);
+            paint();
+            const QColor painted = pixel(100, 75);
+            if (isPen) {
+                byPen();
+            } else {
+                brush.setValue(BrushKey::blendType, int(ESBlendTypeErase));
+                const auto params = brush.params();
+                ASSERT_TRUE(params);
+                EXPECT_EQ(BrushRecords::paramValueForKey(*params, 0x1002), QVariant(int(ESBlendTypeErase)));
+                EXPECT_EQ(BrushRecords::paramValueForKey(*params, 0x1003), ink);
+                paint();
+            }
+            EXPECT_NE(painted, row.erased);
+            EXPECT_EQ(pixel(100, 75).alpha(), row.erased.isValid() ? 255 : 0);
+            if (row.erased.isValid()) {
+                EXPECT_EQ(pixel(100, 75), row.erased);
+            }
+            brush.setValue(BrushKey::blendType, int(ESBlendTypeNormal));
+            EXPECT_EQ(_window->view()->blendType(), int(ESBlendTypeNormal));
+            EXPECT_EQ(_window->view()->renderColor(), ink.value<ESColor>());
+            EXPECT_EQ(_window->view()->hueTingle(), 0.5f);
+        }
+    }
 }
 
 TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
@@ -216,6 +277,48 @@ TEST_F(MainWindowTest, AFullDiskLeavesTheOldFiles) {
     EXPECT_EQ(QImage(picture).size(), QSize(24, 16));
     const auto every = QDir::Files | QDir::Hidden;
     EXPECT_EQ(QDir(path(QStringLiteral("brushes"))).entryList(every).size(), 0);
+}
+#endif
+
+// ---- From run to run
+
+#ifdef Q_OS_UNIX
+TEST_F(MainWindowTest, WhatDeadRunsLeftGoesWhenTheUserSaysSo) {
+    const auto died = [&](const QByteArray& picture) {
+        const pid_t run = ::fork();
+        if (run == 0) {
+            const SessionFolder session(path(QStringLiteral("sessions")));
+            QFile file(session.pictures());
+            const bool written = file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size();
+            file.close();
+            if (picture.isEmpty())
+                file.remove();
+            ::_exit(written ? 0 : 1);
+        }
+        int status = -1;
+        return ::waitpid(run, &status, 0) == run && status == 0;
+    };
+    const auto folders = [&] {
+        return QDir(path(QStringLiteral("sessions"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+    };
+    EXPECT_EQ(folders(), 1) << "this run's own";
+    EXPECT_TRUE(_window->view()->undoManager().tempDirectory().startsWith(path(QStringLiteral("sessions"))));
+    ASSERT_TRUE(died(""));
+    for (int i = 0; i < 4; ++i)
+        ASSERT_TRUE(died("a picture"));
+    _window->askAboutOldSessions();
+    EXPECT_EQ(folders(), 5) << "what is empty goes, little is kept";
+    EXPECT_TRUE(_questions.isEmpty());
+    ASSERT_TRUE(died("a picture"));
+    for (const bool confirmed : {false, true}) {
+        _confirmed = confirmed;
+        _questions.clear();
+        _window->askAboutOldSessions();
+        EXPECT_EQ(_questions.size(), 1);
+        EXPECT_EQ(folders(), confirmed ? 1 : 6);
+    }
+    _window.reset();
+    EXPECT_EQ(folders(), 0);
 }
 #endif
 

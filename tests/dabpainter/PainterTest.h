@@ -45,8 +45,8 @@ protected:
         prompts.pickBrushName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.showFolder = [](const QString&) {};
         _window.reset();
-        _window = std::make_unique<MainWindow>(*_settings, prompts,
-                                               PresetFolders{path("brushes"), {path("installed")}});
+        _window = std::make_unique<MainWindow>(
+            *_settings, prompts, PresetFolders{path("brushes"), {path("installed")}}, path("sessions"));
         _window->resize(1000, 700);
         if (!_window->startCanvas({QSize(200, 150), Qt::white})) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";

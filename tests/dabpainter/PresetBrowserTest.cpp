@@ -8,8 +8,11 @@
 #include <QListView>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
+#include <QToolButton>
 #include <QUrl>
+#include <algorithm>
 #include <map>
 
 #include "BrushPanel.h"
@@ -120,14 +123,23 @@ TEST_F(PresetBrowserTest, ResettingGoesBackToTheChosenPreset) {
     const QString plain = button->text();
     const PresetId id = save(QStringLiteral("Wide"), 90);
     EXPECT_NE(button->text(), plain);
+    const auto& rows = _window->panel().rows();
+    const auto size =
+        *std::find_if(rows.begin(), rows.end(), [](auto* row) { return row->key() == BrushKey::radius; });
+    EXPECT_TRUE(size->resetButton()->isHidden()) << "it is the preset's";
     set(BrushKey::radius, 20.0f);
     EXPECT_EQ(status(), QStringLiteral("Wide – modified"));
+    size->resetButton()->click();
+    EXPECT_EQ(radius(), 90);
+    set(BrushKey::radius, 32.0f);  // the engine's
+    EXPECT_FALSE(size->resetButton()->isHidden());
     button->click();
     EXPECT_EQ(radius(), 90);
     EXPECT_EQ(status(), QStringLiteral("Wide"));
     ASSERT_TRUE(presets().choose({}));
     EXPECT_EQ(button->text(), plain);
     EXPECT_TRUE(brush().isDefault(BrushKey::radius));
+    EXPECT_TRUE(size->resetButton()->isHidden());
 }
 
 TEST_F(PresetBrowserTest, APresetIsTheSameBrushWhateverWasSetBefore) {
@@ -326,8 +338,24 @@ TEST_F(PresetBrowserTest, InstalledPresetsAreOnlyRead) {
     save(QStringLiteral("Installed"), 12);  // the user's own of this name
     EXPECT_EQ(shownNames().size(), 2);
     EXPECT_TRUE(_questions.isEmpty());
+    const QListView& list = *presets().list();
+    const auto drawn = [&](int row) {
+        QImage image(list.visualRect(list.model()->index(row, 0)).size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        QStyleOptionViewItem option;
+        option.rect = image.rect();
+        list.itemDelegate()->paint(&painter, option, list.model()->index(row, 0));
+        return image;
+    };
+    drawn(1);
+    while (!presets().previews().isIdle())
+        settle();
+    const QImage before = drawn(1), plain = drawn(0);
     presets().search()->setText(QStringLiteral("inST"));
-    EXPECT_EQ(presets().list()->model()->rowCount(), 2);
+    EXPECT_EQ(list.model()->rowCount(), 2);
+    EXPECT_EQ(drawn(0), before) << "a hit looks the same wherever it stands";
+    EXPECT_NE(drawn(0), plain);
     presets().search()->setText(QStringLiteral("no such"));
     EXPECT_EQ(presets().list()->model()->rowCount(), 0);
 }
@@ -353,7 +381,9 @@ TEST_F(PresetBrowserTest, TheListIsWorkedByMouseAndKeyboard) {
         }
     };
     settle();
+    presets().search()->setFocus();
     click(1);
+    EXPECT_TRUE(_window->viewport().hasFocus()) << "the keys go to the canvas again";
     EXPECT_EQ(presets().chosen(), one);
     EXPECT_EQ(radius(), 11);
     list.setCurrentIndex(list.model()->index(2, 0));
