@@ -227,13 +227,12 @@ QString QDBrushManager::flawOfParams(const BrushParams& params) {
 }
 
 QString QDBrushManager::becomeBrush(QDDrawCanvas& canvas, const BrushParams& params, int version) {
-    canvas.holdTip();
+    const QDDrawCanvas::Host::Call call(canvas._inside->host);
     canvas.resetParams();
     const Remains remains = applyAll(canvas, params);
     if (version == LegacyModes::kVersion) {
         migrate(canvas, remains.legacy);
     }
-    canvas.releaseTip(canvas.textureType() != 0 || remains.tips.isEmpty());
     if (canvas.textureType() == 0) {
         canvas.setTextureImages(remains.tips);
     }

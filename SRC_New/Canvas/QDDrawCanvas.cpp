@@ -8,6 +8,7 @@
 #include "Canvas/CanvasLog.h"
 #include "Canvas/QDDrawCanvasParts.h"
 #include "GLSurface/MakeGLSurface.h"
+#include "Preset/QDBrushManager.h"
 
 using namespace dabcanvas;
 
@@ -158,6 +159,14 @@ const BrushSettings& QDDrawCanvas::brush() const {
 void QDDrawCanvas::resetParams() {
     const Host::Call call(_inside->host);
     _inside->parts->brush.reset();
+}
+
+bool QDDrawCanvas::resetWithParams(const std::optional<BrushParams>& params, int version) {
+    return QDBrushManager::resetDrawView(this, params, version);
+}
+
+bool QDDrawCanvas::resetWithXBFPath(const QString& path, QString* problem) {
+    return QDBrushManager::resetDrawView(this, path, problem);
 }
 
 void QDDrawCanvas::restoreSubLine(float slRadius, float relationValue) {

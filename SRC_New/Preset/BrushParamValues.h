@@ -18,79 +18,79 @@ class BrushParamValues {
 public:
     explicit BrushParamValues(const BrushParams& params) : _params(params) {}
 
-    std::int32_t brushType() const { return integer(BrushKey::brushType); }
-    std::int32_t blendType() const { return integer(BrushKey::blendType); }
-    QVariant renderColor() const { return object(BrushKey::renderColor); }
-    float opacity() const { return real(BrushKey::opacity); }
-    float radius() const { return real(BrushKey::radius); }
-    float flow() const { return real(BrushKey::flow); }
-    std::int32_t trackNum() const { return integer(BrushKey::trackNum); }
-    float moistQuantity() const { return real(BrushKey::moistQuantity); }
-    float loadQuantity() const { return real(BrushKey::loadQuantity); }
-    float mixQuantity() const { return real(BrushKey::mixQuantity); }
-    bool smudgeControl() const { return boolean(BrushKey::smudgeControl); }
-    float smudgeControlValue() const { return real(BrushKey::smudgeControlValue); }
-    std::int32_t textureType() const { return integer(BrushKey::textureType); }
-    float hardness() const { return real(BrushKey::hardness); }
-    float textureControlValue() const { return real(BrushKey::textureControlValue); }
-    bool flipX() const { return boolean(BrushKey::flipX); }
-    bool flipY() const { return boolean(BrushKey::flipY); }
-    bool needMaskTexture() const { return boolean(BrushKey::needMaskTexture); }
-    float maskScale() const { return real(BrushKey::maskScale); }
-    QImage maskImage() const { return image(BrushKey::maskImage); }
-    bool pointsDistanceEnabled() const { return boolean(BrushKey::pointsDistanceEnabled); }
-    float pointsDistance() const { return real(BrushKey::pointsDistance); }
-    bool smoothEnabled() const { return boolean(BrushKey::smoothEnabled); }
-    float sensitivity() const { return real(BrushKey::sensitivity); }
-    float speedSencitive() const { return real(BrushKey::speedSencitive); }
-    bool colorFul() const { return boolean(BrushKey::colorFul); }
-    std::int32_t lineProcessType() const { return integer(BrushKey::lineProcessType); }
-    float minRadius() const { return real(BrushKey::minRadius); }
-    float maxRadius() const { return real(BrushKey::maxRadius); }
-    float startRadius() const { return real(BrushKey::startRadius); }
-    float strokeControlValue() const { return real(BrushKey::strokeControlValue); }
-    float endRadius() const { return real(BrushKey::endRadius); }
-    float radiusTingle() const { return real(BrushKey::radiusTingle); }
-    LPControlParams radiusControl() const { return control(BrushKey::radiusControl); }
-    bool disTwoAxes() const { return boolean(BrushKey::disTwoAxes); }
-    float distribution() const { return real(BrushKey::distribution); }
-    LPControlParams distributionControl() const { return control(BrushKey::distributionControl); }
-    float distributionCount() const { return real(BrushKey::distributionCount); }
-    float distributionCountTingle() const { return real(BrushKey::distributionCountTingle); }
-    LPControlParams distributionCountControl() const { return control(BrushKey::distributionCountControl); }
-    float radian() const { return real(BrushKey::radian); }
-    bool startRadianEnable() const { return boolean(BrushKey::startRadianEnable); }
-    bool moveRadianEnable() const { return boolean(BrushKey::moveRadianEnable); }
-    bool flipXTingle() const { return boolean(BrushKey::flipXTingle); }
-    bool flipYTingle() const { return boolean(BrushKey::flipYTingle); }
-    float radianTingle() const { return real(BrushKey::radianTingle); }
-    LPControlParams radianControl() const { return control(BrushKey::radianControl); }
-    float roundness() const { return real(BrushKey::roundness); }
-    float roundnessTingle() const { return real(BrushKey::roundnessTingle); }
-    float minRoundness() const { return real(BrushKey::minRoundness); }
-    LPControlParams roundnessControl() const { return control(BrushKey::roundnessControl); }
-    float minFlow() const { return real(BrushKey::minFlow); }
-    float maxFlow() const { return real(BrushKey::maxFlow); }
-    float flowTingle() const { return real(BrushKey::flowTingle); }
-    LPControlParams flowControl() const { return control(BrushKey::flowControl); }
-    float decay() const { return real(BrushKey::decay); }
-    bool textureTingleEnabled() const { return boolean(BrushKey::textureTingleEnabled); }
-    LPControlParams textureControl() const { return control(BrushKey::textureControl); }
-    QVariant backRenderColor() const { return object(BrushKey::backRenderColor); }
-    float colorTingle() const { return real(BrushKey::colorTingle); }
-    LPControlParams colorControl() const { return control(BrushKey::colorControl); }
-    float hueTingle() const { return real(BrushKey::hueTingle); }
-    float saturationTingle() const { return real(BrushKey::saturationTingle); }
-    float brightnessTingle() const { return real(BrushKey::brightnessTingle); }
-    bool repeatedlyRenderEnabled() const { return boolean(BrushKey::repeatedlyRenderEnabled); }
-    QImage slTextureImage() const { return image(BrushKey::slTextureImage); }
-    float slRadius() const { return real(BrushKey::slRadius); }
-    float slPointsDistance() const { return real(BrushKey::slPointsDistance); }
-    float slDistribution() const { return real(BrushKey::slDistribution); }
-    bool slDistbTwoAxes() const { return boolean(BrushKey::slDistbTwoAxes); }
-    float slDistbCount() const { return real(BrushKey::slDistbCount); }
-    std::int32_t slRadiusRelationType() const { return integer(BrushKey::slRadiusRelationType); }
-    float relationValue() const { return real(BrushKey::relationValue); }
+    std::int32_t brushType() const { return integer(dabcanvas::BrushKey::brushType); }
+    std::int32_t blendType() const { return integer(dabcanvas::BrushKey::blendType); }
+    QVariant renderColor() const { return object(dabcanvas::BrushKey::renderColor); }
+    float opacity() const { return real(dabcanvas::BrushKey::opacity); }
+    float radius() const { return real(dabcanvas::BrushKey::radius); }
+    float flow() const { return real(dabcanvas::BrushKey::flow); }
+    std::int32_t trackNum() const { return integer(dabcanvas::BrushKey::trackNum); }
+    float moistQuantity() const { return real(dabcanvas::BrushKey::moistQuantity); }
+    float loadQuantity() const { return real(dabcanvas::BrushKey::loadQuantity); }
+    float mixQuantity() const { return real(dabcanvas::BrushKey::mixQuantity); }
+    bool smudgeControl() const { return boolean(dabcanvas::BrushKey::smudgeControl); }
+    float smudgeControlValue() const { return real(dabcanvas::BrushKey::smudgeControlValue); }
+    std::int32_t textureType() const { return integer(dabcanvas::BrushKey::textureType); }
+    float hardness() const { return real(dabcanvas::BrushKey::hardness); }
+    float textureControlValue() const { return real(dabcanvas::BrushKey::textureControlValue); }
+    bool flipX() const { return boolean(dabcanvas::BrushKey::flipX); }
+    bool flipY() const { return boolean(dabcanvas::BrushKey::flipY); }
+    bool needMaskTexture() const { return boolean(dabcanvas::BrushKey::needMaskTexture); }
+    float maskScale() const { return real(dabcanvas::BrushKey::maskScale); }
+    QImage maskImage() const { return image(dabcanvas::BrushKey::maskImage); }
+    bool pointsDistanceEnabled() const { return boolean(dabcanvas::BrushKey::pointsDistanceEnabled); }
+    float pointsDistance() const { return real(dabcanvas::BrushKey::pointsDistance); }
+    bool smoothEnabled() const { return boolean(dabcanvas::BrushKey::smoothEnabled); }
+    float sensitivity() const { return real(dabcanvas::BrushKey::sensitivity); }
+    float speedSencitive() const { return real(dabcanvas::BrushKey::speedSencitive); }
+    bool colorFul() const { return boolean(dabcanvas::BrushKey::colorFul); }
+    std::int32_t lineProcessType() const { return integer(dabcanvas::BrushKey::lineProcessType); }
+    float minRadius() const { return real(dabcanvas::BrushKey::minRadius); }
+    float maxRadius() const { return real(dabcanvas::BrushKey::maxRadius); }
+    float startRadius() const { return real(dabcanvas::BrushKey::startRadius); }
+    float strokeControlValue() const { return real(dabcanvas::BrushKey::strokeControlValue); }
+    float endRadius() const { return real(dabcanvas::BrushKey::endRadius); }
+    float radiusTingle() const { return real(dabcanvas::BrushKey::radiusTingle); }
+    LPControlParams radiusControl() const { return control(dabcanvas::BrushKey::radiusControl); }
+    bool disTwoAxes() const { return boolean(dabcanvas::BrushKey::disTwoAxes); }
+    float distribution() const { return real(dabcanvas::BrushKey::distribution); }
+    LPControlParams distributionControl() const { return control(dabcanvas::BrushKey::distributionControl); }
+    float distributionCount() const { return real(dabcanvas::BrushKey::distributionCount); }
+    float distributionCountTingle() const { return real(dabcanvas::BrushKey::distributionCountTingle); }
+    LPControlParams distributionCountControl() const { return control(dabcanvas::BrushKey::distributionCountControl); }
+    float radian() const { return real(dabcanvas::BrushKey::radian); }
+    bool startRadianEnable() const { return boolean(dabcanvas::BrushKey::startRadianEnable); }
+    bool moveRadianEnable() const { return boolean(dabcanvas::BrushKey::moveRadianEnable); }
+    bool flipXTingle() const { return boolean(dabcanvas::BrushKey::flipXTingle); }
+    bool flipYTingle() const { return boolean(dabcanvas::BrushKey::flipYTingle); }
+    float radianTingle() const { return real(dabcanvas::BrushKey::radianTingle); }
+    LPControlParams radianControl() const { return control(dabcanvas::BrushKey::radianControl); }
+    float roundness() const { return real(dabcanvas::BrushKey::roundness); }
+    float roundnessTingle() const { return real(dabcanvas::BrushKey::roundnessTingle); }
+    float minRoundness() const { return real(dabcanvas::BrushKey::minRoundness); }
+    LPControlParams roundnessControl() const { return control(dabcanvas::BrushKey::roundnessControl); }
+    float minFlow() const { return real(dabcanvas::BrushKey::minFlow); }
+    float maxFlow() const { return real(dabcanvas::BrushKey::maxFlow); }
+    float flowTingle() const { return real(dabcanvas::BrushKey::flowTingle); }
+    LPControlParams flowControl() const { return control(dabcanvas::BrushKey::flowControl); }
+    float decay() const { return real(dabcanvas::BrushKey::decay); }
+    bool textureTingleEnabled() const { return boolean(dabcanvas::BrushKey::textureTingleEnabled); }
+    LPControlParams textureControl() const { return control(dabcanvas::BrushKey::textureControl); }
+    QVariant backRenderColor() const { return object(dabcanvas::BrushKey::backRenderColor); }
+    float colorTingle() const { return real(dabcanvas::BrushKey::colorTingle); }
+    LPControlParams colorControl() const { return control(dabcanvas::BrushKey::colorControl); }
+    float hueTingle() const { return real(dabcanvas::BrushKey::hueTingle); }
+    float saturationTingle() const { return real(dabcanvas::BrushKey::saturationTingle); }
+    float brightnessTingle() const { return real(dabcanvas::BrushKey::brightnessTingle); }
+    bool repeatedlyRenderEnabled() const { return boolean(dabcanvas::BrushKey::repeatedlyRenderEnabled); }
+    QImage slTextureImage() const { return image(dabcanvas::BrushKey::slTextureImage); }
+    float slRadius() const { return real(dabcanvas::BrushKey::slRadius); }
+    float slPointsDistance() const { return real(dabcanvas::BrushKey::slPointsDistance); }
+    float slDistribution() const { return real(dabcanvas::BrushKey::slDistribution); }
+    bool slDistbTwoAxes() const { return boolean(dabcanvas::BrushKey::slDistbTwoAxes); }
+    float slDistbCount() const { return real(dabcanvas::BrushKey::slDistbCount); }
+    std::int32_t slRadiusRelationType() const { return integer(dabcanvas::BrushKey::slRadiusRelationType); }
+    float relationValue() const { return real(dabcanvas::BrushKey::relationValue); }
     // Of every record that holds an image, in their order.
     QList<QImage> textureImages() const;
 
@@ -103,12 +103,12 @@ public:
 
 private:
     QVariant stored(std::uint32_t id) const;
-    QVariant object(BrushKey key) const;
-    std::int32_t integer(BrushKey key) const;
-    float real(BrushKey key) const;
-    bool boolean(BrushKey key) const;
-    LPControlParams control(BrushKey key) const;
-    QImage image(BrushKey key) const;
+    QVariant object(dabcanvas::BrushKey key) const;
+    std::int32_t integer(dabcanvas::BrushKey key) const;
+    float real(dabcanvas::BrushKey key) const;
+    bool boolean(dabcanvas::BrushKey key) const;
+    LPControlParams control(dabcanvas::BrushKey key) const;
+    QImage image(dabcanvas::BrushKey key) const;
 
     const BrushParams& _params;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Preview/LeafDrawing.h"
 
+#include <QLoggingCategory>
 #include <QPainter>
 #include <QPointer>
 #include <QScopedValueRollback>

@@ -10,4 +10,6 @@ enum ESRenderType : std::int32_t {
     ESRenderTypeSubLine = 2,  // the sub-line layer
     ESRenderTypeSmudge = 3,   // the smudge layer, half size each way
 };
+namespace dabcanvas {
 inline constexpr int kRenderTypeCount = 4;
+}  // namespace dabcanvas
