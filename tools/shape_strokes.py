@@ -41,11 +41,16 @@ def arguments():
     parser.add_argument("--count", type=int, default=200, help="strokes of each kind")
     parser.add_argument("--family", choices=FAMILIES, default="people")
     parser.add_argument("--only", default="", help="kinds, with commas between")
+    parser.add_argument("--but", default="", help="kinds left out, with commas between")
     parser.add_argument("--size", type=span, default=(30, 700), metavar="LOW-HIGH",
                         help="pixels; this and the next for the family program")
     parser.add_argument("--slop", type=span, default=(0, 1.1), metavar="LOW-HIGH", help="1 is hasty")
     parser.add_argument("--rate", type=span, default=(50, 200), metavar="LOW-HIGH", help="samples a second")
     parser.add_argument("--speed", type=span, default=(190, 1150), metavar="LOW-HIGH", help="pixels a second")
+    parser.add_argument("--haste", type=span, default=(0, 0), metavar="LOW-HIGH",
+                        help="how hurried the fast strokes are, 1 is visibly; this and the next for the family people")
+    parser.add_argument("--hand", choices=("led", "thrown"), default="led",
+                        help="led along the line that is meant, or thrown from corner to corner")
     options = parser.parse_args()
     if min(options.count, options.seed) < 0:
         parser.error("--count and --seed are not negative")
@@ -83,15 +88,16 @@ def main():
     options = arguments()
     family = FAMILIES[options.family]
     kinds = [kind for kind in options.only.split(",") if kind] or list(family.KINDS)
-    unknown = [kind for kind in kinds if kind not in family.KINDS]
+    left_out = [kind for kind in options.but.split(",") if kind]
+    unknown = [kind for kind in kinds + left_out if kind not in family.KINDS]
     if unknown:
         sys.exit(f"shape_strokes: no such kind: {', '.join(unknown)}; there are {', '.join(family.KINDS)}")
-    settings = {name: getattr(options, name) for name in ("size", "slop", "rate", "speed")}
+    settings = {name: getattr(options, name) for name in ("size", "slop", "rate", "speed", "haste", "hand")}
     try:
         writer = Writer(options.folder)
     except OSError as error:
         sys.exit(f"shape_strokes: {error}")
-    for kind in kinds:
+    for kind in [kind for kind in kinds if kind not in left_out]:
         drawn = family.strokes(kind, options.count, options.seed, settings)
         for i, (meant, subject, speed, times, points) in enumerate(drawn):
             writer.add(f"{kind}-{options.seed}-{i:05d}", subject, meant, speed, times, points)

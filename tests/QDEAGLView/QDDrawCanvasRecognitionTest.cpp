@@ -330,6 +330,16 @@ TEST_F(CanvasRecognitionTest, EveryKindIsDrawnAlongItsWholeOutlineAndNowhereElse
         {"second line", {{K::repeatedlyRenderEnabled, true}, {K::slRadius, 6.0f}}},
         {"smudge brush", {{K::brushType, 3}, {K::enableRecogition, true}}},
         {"one dab a sample", {{K::pointsDistanceEnabled, false}}},
+        {"in larger units", {{K::recogPointScale, 2.5f}}},
+    };
+    const auto inUnits = [](ShapeRecord shape, double unit) {
+        for (ShapePoint& corner : shape.corners) {
+            corner = {corner.x / unit, corner.y / unit};
+        }
+        shape.centre = {shape.centre.x / unit, shape.centre.y / unit};
+        shape.a /= unit;
+        shape.b /= unit;
+        return shape;
     };
     ShapeRecord shape = line({}, {});
     shape.centre = {100, 75};
@@ -350,7 +360,7 @@ TEST_F(CanvasRecognitionTest, EveryKindIsDrawnAlongItsWholeOutlineAndNowhereElse
                                  : shape.kind == ShapeKind::triangle ? 3
                                                                      : 4);
             canvas->clear();
-            EXPECT_TRUE(canvas->drawShape(shape));
+            EXPECT_TRUE(canvas->drawShape(inUnits(shape, double{canvas->recogPointScale()})));
             const QImage image = canvas->image();
             QImage elsewhere = image;
             int least = 255, most = 0;

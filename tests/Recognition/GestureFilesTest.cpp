@@ -59,14 +59,17 @@ struct Bar {
 };
 
 class GestureFiles : public testing::TestWithParam<Bar> {};
-INSTANTIATE_TEST_SUITE_P(All, GestureFiles,
-                         testing::Values(Bar{"gestures-pilot", 0.988, 0.97, 0.02, 0.90},
-                                         Bar{"gestures-synthetic", 0.98, 0.96, 0.01, 0.96}),
-                         [](const auto& row) { return std::string(row.param.folder).substr(9); });
+// The hurried ones are strokes of made-up people, all of which were once taken for nothing or something else.
+INSTANTIATE_TEST_SUITE_P(
+    All, GestureFiles,
+    testing::Values(Bar{DABCANVAS_SHARED_DATA "/gestures-pilot", 0.993, 0.985, 0.01, 0.99},
+                    Bar{DABCANVAS_SHARED_DATA "/gestures-synthetic", 0.993, 0.985, 0.01, 0.96},
+                    Bar{DABCANVAS_TEST_DATA "/gestures-hurried", 0.85, 0.5, 0, 0.6}),
+    [](const auto& row) { return fs::path(row.param.folder).filename().string().substr(9); });
 
 TEST_P(GestureFiles, AreRecognised) {
     const Bar& bar = GetParam();
-    const fs::path folder = fs::path(DABCANVAS_SHARED_DATA) / bar.folder;
+    const fs::path folder = bar.folder;
     if (!fs::exists(folder / "labels.csv")) {
         GTEST_SKIP() << folder << " is not here";
     }
@@ -98,7 +101,7 @@ TEST_P(GestureFiles, AreRecognised) {
             all += counts.second;
         }
     }
-    EXPECT_GT(all, 100);
+    EXPECT_GT(all, 10);
     EXPECT_GE(right, bar.named * all) << wrong;
     EXPECT_GE(legs.first, bar.legs * legs.second);
 }

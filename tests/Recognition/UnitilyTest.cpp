@@ -11,6 +11,8 @@
 #include <numbers>
 #include <ostream>
 #include <string>
+#include <utility>
+#include <vector>
 
 void PrintTo(ShapeKind kind, std::ostream* out) {
     *out << nameOfShapeKind(kind);
@@ -18,6 +20,15 @@ void PrintTo(ShapeKind kind, std::ostream* out) {
 
 namespace {
 constexpr double kPi = std::numbers::pi;
+
+double distanceBetween(const ShapePoint& a, const ShapePoint& b) {
+    return std::hypot(b.x - a.x, b.y - a.y);
+}
+
+Stroke joined(Stroke one, const Stroke& other) {
+    one.insert(one.end(), other.begin(), other.end());
+    return one;
+}
 
 double distanceTo(const Stroke& outline, const ShapePoint& p) {
     double nearest = std::numeric_limits<double>::infinity();
@@ -115,30 +126,18 @@ TEST(UnitilyTest, ShapesMayBeginAtTheOtherEndOrWithin) {
         if (meant.kind == ShapeKind::arrow) {
             continue;  // it alone is drawn from its tail
         }
-        SCOPED_TRACE(meant.name);
-        Stroke stroke = shaky(meant.outline, 200);
-        std::reverse(stroke.begin(), stroke.end());
-        EXPECT_EQ(Unitily::recogniseWithPoints(placed(stroke, 8)).kind, meant.kind);
-        const ShapePoint& first = meant.outline.front();
-        const ShapePoint& last = meant.outline.back();
-        if (std::hypot(first.x - last.x, first.y - last.y) > 1) {
-            continue;
-        }
-        for (const std::size_t from : {7, 23, 61}) {
-            Stroke turned = meant.outline;
-            turned.pop_back();
-            std::rotate(turned.begin(), turned.begin() + static_cast<std::ptrdiff_t>(from % turned.size()),
-                        turned.end());
-            turned.push_back(turned.front());
-            SCOPED_TRACE(from);
-            EXPECT_EQ(Unitily::recogniseWithPoints(placed(shaky(turned, 200, 0.004), 8)).kind, meant.kind);
+        Stroke stroke(meant.outline.rbegin(), meant.outline.rend());
+        const bool closed = distanceBetween(stroke.front(), stroke.back()) < 1;
+        for (const std::size_t from : {0, 7, 23, 61}) {
+            if (from > 0 && closed) {
+                const std::size_t within = from % (stroke.size() - 1);
+                stroke = joined({stroke.begin() + static_cast<std::ptrdiff_t>(within), stroke.end() - 1},
+                                {stroke.begin(), stroke.begin() + static_cast<std::ptrdiff_t>(within) + 1});
+            }
+            SCOPED_TRACE(testing::Message() << meant.name << " from " << from);
+            EXPECT_EQ(Unitily::recogniseWithPoints(placed(shaky(stroke, 200, 0.004), 8)).kind, meant.kind);
         }
     }
-}
-
-Stroke joined(Stroke one, const Stroke& other) {
-    one.insert(one.end(), other.begin(), other.end());
-    return one;
 }
 
 Stroke wave(int waves, double height) {
@@ -203,46 +202,127 @@ TEST(UnitilyTest, NearlyLevelLinesAreLevel) {
     EXPECT_GT(slanting.corners[1].y - slanting.corners[0].y, 20) << "eight degrees are meant";
 }
 
-TEST(UnitilyTest, SidesAndAnglesBecomeEqual) {
-    const auto side = [](const ShapeRecord& shape, std::size_t i) {
-        const ShapePoint& a = shape.corners[i];
-        const ShapePoint& b = shape.corners[(i + 1) % shape.corners.size()];
-        return std::hypot(b.x - a.x, b.y - a.y);
+// Lengths of the sides in the order drawn, and degrees at the corners, an open shape's ends left out.
+std::pair<std::vector<double>, std::vector<double>> sidesAndAnglesOf(const ShapeRecord& shape) {
+    Stroke corners = shape.corners;
+    if (shape.isClosed()) {
+        corners.insert(corners.end(), {shape.corners[0], shape.corners[1]});
+    }
+    std::pair<std::vector<double>, std::vector<double>> result;
+    for (std::size_t i = 1; i < corners.size(); ++i) {
+        const double side = distanceBetween(corners[i - 1], corners[i]);
+        if (i > 1) {
+            const double across = distanceBetween(corners[i - 2], corners[i]);
+            const double before = result.first.back();
+            const double cosine = (side * side + before * before - across * across) / (2 * side * before);
+            result.second.push_back(std::acos(std::clamp(cosine, -1.0, 1.0)) * 180 / kPi);
+        }
+        result.first.push_back(side);
+    }
+    if (shape.isClosed()) {
+        result.first.pop_back();
+    }
+    return result;
+}
+
+// Numbers near those that are meant; those that are meant equal, and right angles, to the last digit.
+void expectMeant(const std::vector<double>& numbers, const std::vector<double>& meant, double near) {
+    ASSERT_EQ(numbers.size(), meant.size());
+    for (std::size_t i = 0; i < meant.size(); ++i) {
+        EXPECT_NEAR(numbers[i], meant[i], meant[i] == 90 ? 1e-6 : near) << "number " << i;
+        const auto same =
+            static_cast<std::size_t>(std::find(meant.begin(), meant.end(), meant[i]) - meant.begin());
+        EXPECT_NEAR(numbers[i], numbers[same], 1e-6) << "number " << i << " as number " << same;
+    }
+}
+
+// The small tails of a pen that touches down before the hand moves off, and lifts when it has turned away.
+Stroke hooked(const Stroke& stroke, double length) {
+    const auto tail = [&](const ShapePoint& end, const ShapePoint& within) {
+        const double ahead = std::atan2(within.y - end.y, within.x - end.x) + 1;
+        return ShapePoint{end.x + length * std::cos(ahead), end.y + length * std::sin(ahead)};
     };
-    const ShapeRecord square = Unitily::recogniseWithPoints(
-        placed(drawn({{-70, -72}, {72, -70}, {70, 76}, {-72, 74}, {-68, -70}}), 20));
-    ASSERT_EQ(square.kind, ShapeKind::rectangle);
-    EXPECT_NEAR(side(square, 0), side(square, 1), 1e-9);
-    EXPECT_NEAR(side(square, 0), side(square, 2), 1e-9);
-    EXPECT_NEAR(
-        std::hypot(square.corners[2].x - square.corners[0].x, square.corners[2].y - square.corners[0].y),
-        side(square, 0) * std::numbers::sqrt2, 1e-9);
+    const Stroke down = drawn({tail(stroke.front(), stroke[3]), stroke.front()}, 2);
+    return joined(joined(down, stroke),
+                  drawn({stroke.back(), tail(stroke.back(), stroke[stroke.size() - 4])}, 2));
+}
 
-    const ShapeRecord oblong =
-        Unitily::recogniseWithPoints(drawn({{0, 0}, {201, 3}, {199, 101}, {2, 99}, {0, 2}}));
-    ASSERT_EQ(oblong.kind, ShapeKind::rectangle);
-    EXPECT_EQ(oblong.corners[0].y, oblong.corners[1].y) << "level";
-    EXPECT_NEAR(oblong.corners[1].x, oblong.corners[2].x, 1e-9) << "upright";
-    EXPECT_NEAR(side(oblong, 0), 200, 4);
+TEST(UnitilyTest, SidesAnglesAndEndsAreThoseThatWereMeant) {
+    using enum ShapeKind;
+    struct Row {
+        ShapeKind kind;
+        Stroke corners;  // as a hand places them
+        std::vector<double> sides, angles;
+    };
+    const std::vector<double> right(4, 90);
+    const Row rows[] = {
+        {line, {{-100, 0}, {100, 4}}, {200}, {}},
+        {foldLine, {{-60, -90}, {0, 90}, {50, -90}}, {189.7, 186.8}, {34}},
+        {foldLine, {{0, -90}, {3, 90}, {120, 96}}, {180, 117}, {90}},
+        {foldLine, {{62, -101}, {0, -97}, {2, 100}, {70, 103}}, {62, 197, 68}, {90, 90}},
+        {foldLine, {{-70, -70}, {70, -70}, {-70, 70}, {70, 70}}, {140, 198, 141}, {45, 46}},
+        {rectangle, {{-70, -72}, {72, -70}, {70, 76}, {-72, 74}, {-68, -70}}, {143, 143, 143, 143}, right},
+        {rectangle, {{0, 0}, {121, 2}, {119, 101}, {1, 99}, {0, 1}}, {120, 99, 120, 99}, right},
+        {rectangle, {{0, 0}, {131, 2}, {129, 101}, {1, 99}, {0, 1}}, {130, 99, 130, 99}, right},
+        {rectangle, {{0, 0}, {201, 3}, {199, 101}, {2, 99}, {0, 2}}, {200, 99, 200, 99}, right},
+        {triangle, {{0, 0}, {100, 171}, {-101, 170}, {-1, 1}}, {199, 199, 199}, {60, 60, 60}},
+        {triangle, {{0, 0}, {70, 171}, {-71, 170}, {-1, 1}}, {185, 141, 185}, {67.6, 67.6, 44.8}},
+        {triangle, {{0, 0}, {203, 2}, {-4, 121}, {1, 1}}, {203, 237, 121}, {30.5, 59.5, 90}},
+        {triangle, {{0, 0}, {200, 10}, {60, 120}, {0, 0}}, {200, 178, 134}, {41, 78, 61}},
+        {parallelogram,
+         {{-100, 0}, {2, 55}, {101, 1}, {0, -57}, {-99, -1}},
+         {115, 115, 115, 115},
+         {121, 59, 121, 59}},
+        {parallelogram,
+         {{-110, 50}, {51, 51}, {110, -50}, {-50, -52}, {-110, 50}},
+         {160, 117, 160, 117},
+         {120, 60, 120, 60}},
+    };
+    for (const Row& row : rows) {
+        const Stroke plain = drawn(row.corners);
+        for (const double hook : {0.0, 10.0}) {
+            for (const double turn : {0.0, 20.0, 200.0}) {
+                SCOPED_TRACE(testing::Message() << nameOfShapeKind(row.kind) << " row " << &row - rows
+                                                << " turned by " << turn << ", hooks of " << hook);
+                const Stroke stroke = placed(hook > 0 ? hooked(plain, hook) : plain, turn);
+                ShapeRecord shape = Unitily::recogniseWithPoints(stroke);
+                ASSERT_EQ(shape.kind, row.kind);
+                const Stroke meant = placed(row.corners, turn);
+                const auto isNearer = [&](const ShapePoint& a, const ShapePoint& b) {
+                    return distanceBetween(a, meant.front()) < distanceBetween(b, meant.front());
+                };
+                if (shape.isClosed()) {  // any corner may be its first
+                    Stroke& corners = shape.corners;
+                    std::rotate(corners.begin(), std::min_element(corners.begin(), corners.end(), isNearer),
+                                corners.end());
+                }
+                const auto [sides, angles] = sidesAndAnglesOf(shape);
+                expectMeant(sides, row.sides, 6.5);
+                expectMeant(angles, row.angles, 3);
+                EXPECT_LT(distanceBetween(shape.corners.front(), meant.front()), 7);
+                if (!shape.isClosed()) {
+                    EXPECT_LT(distanceBetween(shape.corners.back(), meant.back()), 7);
+                }
+                if (turn == 0 && row.angles == right) {
+                    EXPECT_NEAR(shape.corners[0].y, shape.corners[1].y, 1e-9) << "level";
+                }
+            }
+        }
+    }
+}
 
-    const ShapeRecord triangle =
-        Unitily::recogniseWithPoints(drawn({{0, 0}, {100, 171}, {-101, 170}, {-1, 1}}));
-    ASSERT_EQ(triangle.kind, ShapeKind::triangle);
-    std::vector<double> sides = {side(triangle, 0), side(triangle, 1), side(triangle, 2)};
-    std::sort(sides.begin(), sides.end());
-    EXPECT_LT(std::min(sides[1] - sides[0], sides[2] - sides[1]), 1e-6);
-
-    const ShapeRecord rhombus =
-        Unitily::recogniseWithPoints(drawn({{-100, 0}, {2, 55}, {101, 1}, {0, -57}, {-99, -1}}));
-    ASSERT_EQ(rhombus.kind, ShapeKind::parallelogram);
-    EXPECT_NEAR(side(rhombus, 0), side(rhombus, 1), 1e-9);
-
+TEST(UnitilyTest, NearlyRoundEllipsesAreCircles) {
     const ShapeRecord circle = Unitily::recogniseWithPoints(placed(round(90, 85, 30, 380), 12));
     ASSERT_EQ(circle.kind, ShapeKind::ellipse);
     EXPECT_EQ(circle.a, circle.b);
     EXPECT_EQ(circle.rotation, 0);
     EXPECT_FALSE(std::signbit(circle.rotation)) << "which prints as -0";
     EXPECT_NEAR(circle.a, 87.5, 2);
+    const ShapeRecord ellipse = Unitily::recogniseWithPoints(placed(round(90, 70, 30, 380), 30));
+    ASSERT_EQ(ellipse.kind, ShapeKind::ellipse);
+    EXPECT_NEAR(ellipse.a, 90, 2);
+    EXPECT_NEAR(ellipse.b, 70, 2);
+    EXPECT_NEAR(ellipse.rotation, kPi - kPi / 6, 0.06);
 }
 
 TEST(UnitilyTest, AFoldLineGoesToTheSpikeOfBentLegs) {
@@ -264,7 +344,7 @@ TEST(UnitilyTest, AFoldLineGoesToTheSpikeOfBentLegs) {
         ASSERT_EQ(fold.kind, ShapeKind::foldLine);
         ASSERT_EQ(fold.legs(), 2);
         const ShapePoint tip = placed({{0, 100}}, turn).front();
-        EXPECT_LT(std::hypot(fold.corners[1].x - tip.x, fold.corners[1].y - tip.y), 6);
+        EXPECT_LT(distanceBetween(fold.corners[1], tip), 6);
     }
 }
 

@@ -284,9 +284,8 @@ def _times(line, corners, hand):
     return t * (duration / max(t[-1], 1e-9))
 
 
-def sample(line, corners, hand, rng):
-    """What the device reports: times in whole milliseconds, x, y."""
-    t = _times(line, corners, hand)
+def report(line, t, hand, rng):
+    """What the device reports of a line passed at the times `t`: times in whole milliseconds, points."""
     count = int(t[-1] / hand.dt) + 2
     gaps = hand.dt * np.maximum(1.0 + rng.normal(0.0, hand.jitter, count), 0.15)
     if hand.uneven:
@@ -320,4 +319,4 @@ def sample(line, corners, hand, rng):
 
 def draw(meant, hand, size, rng):
     line, corners = trace(meant.legs, meant.closed, hand, size, rng)
-    return sample(line, corners, hand, rng)
+    return report(line, _times(line, corners, hand), hand, rng)

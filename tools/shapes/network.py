@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: MIT
 """A small neural network: training, judging, and writing it down as C++."""
+import re
+
 import numpy as np
 
 OUTCOMES = ["none", "line", "fold2", "fold3", "fold4", "fold5", "triangle", "rectangle", "parallelogram",
@@ -23,15 +25,29 @@ def softmax(scores):
 class Network:
     """Layers of weights (inputs x outputs) and biases, on features that `mean` and `scale` bring to about 1."""
 
-    def __init__(self, features, hidden, rng):
+    def __init__(self, mean, scale, weights, biases):
+        self.mean, self.scale, self.weights, self.biases = mean, scale, weights, biases
+
+    @classmethod
+    def untrained(cls, features, hidden, rng):
         both = np.concatenate([features, mirror_image(features)])
-        self.mean = both.mean(0)
-        self.mean[:MIRRORED] = 0
-        self.scale = 1 / (both.std(0) + 1e-3)
+        mean = both.mean(0)
+        mean[:MIRRORED] = 0
         sizes = [features.shape[1], *hidden, len(OUTCOMES)]
-        self.weights = [(rng.standard_normal((a, b)) * np.sqrt(1.6 / a)).astype(np.float32)
-                        for a, b in zip(sizes, sizes[1:])]
-        self.biases = [np.zeros(b, np.float32) for b in sizes[1:]]
+        weights = [(rng.standard_normal((a, b)) * np.sqrt(1.6 / a)).astype(np.float32)
+                   for a, b in zip(sizes, sizes[1:])]
+        return cls(mean, 1 / (both.std(0) + 1e-3), weights, [np.zeros(b, np.float32) for b in sizes[1:]])
+
+    @classmethod
+    def read(cls, path):
+        """What write() wrote."""
+        with open(path, encoding="ascii") as text:
+            found = re.findall(r"> (k\w+) = \{([^}]*)\}", text.read())
+        tables = {name: np.array(body.replace("F", "").split(","), np.float32) for name, body in found}
+        biases = [tables[f"kBias{i}"] for i in (1, 2, 3)]
+        weights = [(tables[f"kWeights{i}"].reshape(len(bias), -1) * tables[f"kStep{i}"][:, None]).T
+                   for i, bias in enumerate(biases, 1)]
+        return cls(tables["kMean"], tables["kScale"], weights, biases)
 
     def layers(self, inputs):
         values = [inputs]
@@ -126,8 +142,11 @@ class Network:
             out.write("// clang-format on\n")
 
 
-def kinds_of(chances, sure=0.4, likely=0.3):
-    """The judged kind of each row, by kSureEnough and kLikelyKind of ShapeModel.cpp, and the chances of all kinds."""
+SURE, LIKELY = 0.45, 0.3  # kSureEnough and kLikelyKind of ShapeModel.cpp
+
+
+def kinds_of(chances, sure=SURE, likely=LIKELY):
+    """The judged kind of each row, and the chances of all kinds."""
     kinds = np.zeros((len(chances), len(KINDS)))
     for outcome, kind in enumerate(KIND_OF):
         kinds[:, kind] += chances[:, outcome]

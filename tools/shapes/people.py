@@ -4,7 +4,7 @@ much that is no shape. Upright as meant, give or take the writer's tilt; y down.
 
 import numpy as np
 
-from . import outsiders
+from . import outsiders, thrown
 from .hand import Meant, along, arc_length, draw, generator, middle_start
 from .program import TAU, ellipse_arc, legs_through, polar, turning, walk
 from .writers import SPEEDS, Repetition, Writer
@@ -254,7 +254,7 @@ KINDS = {**SHAPES, **{name: (maker, 1, 1) for name, maker in outsiders.KINDS.ite
 _writers = {}
 
 
-def stroke(kind, index, rng, seed):
+def stroke(kind, index, rng, seed, settings):
     """The stroke of that number of a kind. Returns the meant shape, the writer's name, the speed, times and points."""
     number = index // STROKES_A_WRITER
     if (seed, number) not in _writers:
@@ -268,7 +268,8 @@ def stroke(kind, index, rng, seed):
         meant.outline = outline_of(meant.legs)
     size = writer.size * writer.habit(kind, "size", 0.75, 1.25) * np.exp(rng.normal(0.0, 0.07 * writer.repeat))
     _place(meant, writer, size, tilt, slant, rng)
-    hand = writer.hand(speed, size, rng)
+    haste = writer.haste(settings["haste"], speed)
+    hand = writer.hand(speed, size, rng, haste)
     if meant.label == "ellipse" and not meant.closed:
         hand.wobble *= 1.2
     if kind == "arrow":  # the way back from the first barb is often a loop rather than a corner
@@ -279,14 +280,19 @@ def stroke(kind, index, rng, seed):
         hand.rounding_most, hand.bow_most = 0.24, 0.085
     elif meant.closed and straight:
         hand.rounding_most, hand.bow_most = 0.27 if len(meant.legs) < 5 else 0.15, 0.085
+    if haste:
+        hand.bow_most = 0.055 if meant.label == "line" else min(hand.bow_most * (1 + 0.4 * haste), 0.12)
     if meant.label == "none":
         hand.wobble *= 1.4
     # However fast, a hand is not seen at fewer places than these: on straight lines few, in bends more.
     length = sum(arc_length(leg)[-1] for leg in meant.legs)
     bent = sum(sum(turning(along(leg, 60 + len(leg) // 4))) for leg in meant.legs if len(leg) > 2)
-    least = 9 if meant.label == "line" else max(18, 6 * length / size, 8 + bent / 15)
+    least = 9 if meant.label == "line" else max(18 - 5 * haste, 6 * length / size, 8 + bent / 15)
     hand.least_ms = max(hand.least_ms, hand.dt * least)
-    times, points = draw(meant, hand, size, rng)
+    if settings["hand"] == "thrown":
+        times, points = thrown.draw(meant, hand, size, haste, rng)
+    else:
+        times, points = draw(meant, hand, size, rng)
     meant.note = (meant.note + " " if meant.note else "") + f"size {size:.0f} {writer.device}"
     return meant, writer.name, speed, times, points
 
@@ -305,7 +311,7 @@ def _place(meant, writer, size, tilt, slant, rng):
         meant.outline = (meant.outline @ grid.T - low) * scale + at
 
 
-def strokes(kind, count, seed, _settings):
+def strokes(kind, count, seed, settings):
     rng = generator(seed, "people", kind)
     for index in range(count):
-        yield stroke(kind, index, rng, seed)
+        yield stroke(kind, index, rng, seed, settings)

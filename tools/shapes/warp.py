@@ -72,6 +72,7 @@ def main():
     parser.add_argument("folder", type=pathlib.Path)
     parser.add_argument("--times", type=int, default=20)
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--but", default="", help="gestures left out, with commas between")
     parser.add_argument("-o", "--output", type=pathlib.Path, required=True)
     arguments = parser.parse_args()
 
@@ -92,6 +93,8 @@ def main():
         writer.writeheader()
         samples.write("sample_id,x,y\n")
         for row in rows:
+            if row["gesture"] in arguments.but.split(","):
+                continue
             stroke = np.array(strokes[row["sample_id"]])
             for i in range(arguments.times):
                 other = warped(stroke, row["label"], rng)

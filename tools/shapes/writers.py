@@ -7,6 +7,7 @@ from .hand import Hand, generator
 
 SPEEDS = ("slow", "medium", "fast")
 PACE = {"slow": 0.62, "medium": 1.0, "fast": 1.75}
+HURRY = {"slow": 0.35, "medium": 0.7, "fast": 1.0}
 CARE = {"slow": 0.85, "medium": 1.0, "fast": 1.25}  # how sloppiness grows with haste
 
 
@@ -68,8 +69,23 @@ class Writer:
         """Whether this writer does so, always."""
         return self.habit(kind, name, 0.0, 1.0) < odds
 
-    def hand(self, speed, size, rng):
-        care = self.tidy * CARE[speed]
+    def haste(self, span, speed):
+        """How hurried this writer is at that speed: 0 not at all, 1 visibly."""
+        return self.habit("", "haste", *span) * HURRY[speed]
+
+    def hand(self, speed, size, rng, haste=0.0):
+        care = self.tidy * CARE[speed] * (1.0 + 0.35 * haste)
+        hand = self.unhurried(speed, size, care, rng)
+        if haste:
+            hand.rounding *= 1.0 + 0.8 * haste
+            hand.overlap = float(np.clip(hand.overlap + rng.normal(0.0, 0.03 * haste), -0.12, 0.12))
+            hand.drift += 0.012 * haste
+            hand.stops *= 1.0 - 0.25 * min(haste, 1.5)
+            hand.speed *= 1.0 + 0.4 * haste
+            hand.hook_end = hand.hook_end or (rng.uniform(0.02, 0.06) if rng.random() < 0.15 * haste else 0.0)
+        return hand
+
+    def unhurried(self, speed, size, care, rng):
         return Hand(
             shift=self.shift * care, bow=self.bow * care, bow_bias=self.bow_bias, sway=self.sway * care,
             rounding=self.rounding * CARE[speed], rounding_spread=0.45,
