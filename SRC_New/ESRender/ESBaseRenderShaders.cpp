@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "ESRender/ESBaseRender.h"
-#include "ESRender/Utilities/ESResource.h"
+#include "ESRender/Utilities/ShaderFiles.h"
 
 bool ESBaseRender::setVertexShaderString(const QString& vertexShaderString,
                                          const QString& fragmentShaderFromString) {
@@ -109,7 +109,7 @@ QString ESBaseRender::stringWithPath(const QString& path) {
 }
 
 QString ESBaseRender::stringWithFileName(const QString& fileName) {
-    return stringWithPath(dabcanvas::resourcePath(fileName));
+    return stringWithPath(dabcanvas::shaderPath(fileName));
 }
 
 QByteArray ESBaseRender::sourceWithString(const QString& string) {
