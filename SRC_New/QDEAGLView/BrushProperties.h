@@ -7,6 +7,7 @@
 #include <limits>
 #include <optional>
 #include <span>
+#include <utility>
 #include <variant>
 
 #include "QDEAGLView/BrushSettings.h"
@@ -167,6 +168,8 @@ struct BrushProperty {
                          // and texts empty
     float low = -kFree;  // stored numbers are clamped to low..high
     float high = kFree;
+    // Of an integer that stands for a choice, the first and the last; others are taken, and as good as the default.
+    std::optional<std::pair<std::int32_t, std::int32_t>> choices{};
     std::uint8_t lineId = 0;  // property id in the line records; 0: not a line property
     Lines lines = Lines::none;
     Renders renders = kNoRender;
