@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ToolCanvas.h"
 
-#include <QBuffer>
-#include <QImageWriter>
 #include <cstdlib>
 
 #include "LineProcess/LPRandom.h"
@@ -34,14 +32,6 @@ void seedRandom() {
     lpRandom();  // its first call seeds from the clock; after that the seed given here stays
     std::srand(1);
     ::srand48(1);
-}
-
-QString encodePng(const QImage& image, QByteArray& bytes) {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "png");
-    return writer.write(image) ? QString()
-                               : QStringLiteral("cannot encode the picture: %1").arg(writer.errorString());
 }
 
 }  // namespace dabcanvas::dabpaint

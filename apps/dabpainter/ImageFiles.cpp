@@ -5,8 +5,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QImageWriter>
-#include <QSaveFile>
+
+#include "OutputFile.h"
+#include "PictureKinds.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -73,24 +74,19 @@ ReadImage readImageFile(const QString& path) {
     return converted.isNull() ? failed(tr("out of memory")) : ReadImage{converted, {}};
 }
 
-QString writePngFile(const QString& path, const QImage& image) {
+QString writeImageFile(const QString& path, const QImage& image) {
     const auto failed = [&](const QString& why) {
         return tr("\"%1\" cannot be saved: %2.").arg(shown(path), why);
     };
     if (image.isNull())
         return failed(tr("the canvas cannot be read"));
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return failed(file.errorString());
-    QImageWriter writer(&file, "png");
-    // What is still in the buffer must go before commit(), which does not look at whether that went well. Of a disk
-    // that fills up, only the second attempt tells why.
-    if (!writer.write(image) || !(file.flush() || file.flush())) {
-        const QString why = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
-        file.cancelWriting();
-        return failed(why);
-    }
-    return file.commit() ? QString() : failed(file.errorString());
+    if (const QString wrong = pictureKindRefusal(path); !wrong.isEmpty())
+        return failed(wrong);
+    QByteArray bytes;
+    if (const QString wrong = encodePicture(image, path, bytes); !wrong.isEmpty())
+        return failed(wrong);
+    OutputFile file(path);
+    return file.write(bytes) ? QString() : failed(file.errorString());
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -22,7 +22,7 @@ struct ReadImage {
 // The size is looked at before anything is decoded.
 ReadImage readImageFile(const QString& path);
 
-// As PNG; the file appears, or is replaced, only once it is whole. The fault, or nothing.
-QString writePngFile(const QString& path, const QImage& image);
+// Of the kind that the suffix says; the file appears, or is replaced, only once it is whole. The fault, or nothing.
+QString writeImageFile(const QString& path, const QImage& image);
 
 }  // namespace dabcanvas::dabpainter
