@@ -2,6 +2,7 @@
 // The smudge layer: it shows the canvas at half its resolution, smudge dabs are drawn into it, and what they changed
 // is put onto the canvas. How much of a canvas pixel they exchanged stands in the line layer, at full resolution:
 // what no dab covered is never touched.
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -16,6 +17,8 @@ namespace {
 
 // Filtering between the two resolutions reaches this far, in buffer pixels.
 constexpr double kReach = 4;
+// The dabs of so many points, up to 64 each, are kept until what they cover is drawn.
+constexpr std::size_t kMostPoints = 1024;
 
 QRectF widened(const QRectF& rect, const QRectF& whole) {
     return rect.adjusted(-kReach, -kReach, kReach, kReach) & whole;
@@ -81,16 +84,19 @@ QRectF QDDrawCanvas::drawSmudges(const LPPoint* points, std::size_t count) {
         updateSmudgeBGTexture();  // the first of a stroke
     }
     const std::uint64_t before = _smudgeRender->dabsDrawn();
-    _esContext->beginRenderForType(ESRenderTypeSmudge);
-    _esContext->setBlendModelForType(ESRenderTypeLine);
-    const QRectF touched = _smudgeRender->drawPoints(points, count);
-    _esContext->finishRender();
-    _stats.dabs += _smudgeRender->dabsDrawn() - before;
+    QRectF touched;
+    for (std::size_t first = 0; first < count; first += kMostPoints) {
+        _esContext->beginRenderForType(ESRenderTypeSmudge);
+        _esContext->setBlendModelForType(ESRenderTypeLine);
+        touched |= _smudgeRender->drawPoints(points + first, std::min(kMostPoints, count - first));
+        _esContext->finishRender();
 
-    _esContext->beginRenderForType(ESRenderTypeLine);
-    _esContext->setBlendModelForType(ESRenderTypeLine);
-    _extenRender->drawDabs(_smudgeRender->takeCoverage());
-    _esContext->finishRender();
+        _esContext->beginRenderForType(ESRenderTypeLine);
+        _esContext->setBlendModelForType(ESRenderTypeLine);
+        _extenRender->drawDabs(_smudgeRender->takeCoverage());
+        _esContext->finishRender();
+    }
+    _stats.dabs += _smudgeRender->dabsDrawn() - before;
     if (touched.isEmpty()) {
         return {};
     }
