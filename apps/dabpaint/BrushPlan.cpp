@@ -98,6 +98,9 @@ std::optional<Problem> BrushPlan::add(const Recording& recording, const QString&
                 if (!value)
                     return Problem{setting.line, setting.element, value.problem().what};
                 step.value = *value;
+                _pixels += pixelsOf(*value);
+                if (const QString refusal = pixelsRefusal(_pixels); !refusal.isEmpty())
+                    return Problem{setting.line, setting.element, refusal};
                 _files += imageFiles(*property, setting, folder);
             }
             if (_fixedProperties.contains(property))

@@ -54,6 +54,7 @@ private:
     std::shared_ptr<const Brush> _brush;
     std::map<QString, std::shared_ptr<const Brush>> _brushFiles;  // by path; many strokes may name one
     QStringList _files;
+    qint64 _pixels = 0;  // of recordings' images, all of which are kept
     std::vector<Step> _fixed;
     std::set<const BrushProperty*> _fixedProperties;
     std::set<const BrushProperty*> _touched;

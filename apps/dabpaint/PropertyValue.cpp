@@ -111,6 +111,8 @@ Result<QVariant> fromImages(const BrushProperty& property, const SettingValue& v
         if (!image)
             return image.problem();
         images << *image;
+        if (const QString refusal = pixelsRefusal(pixelsOf(QVariant::fromValue(images))); !refusal.isEmpty())
+            return Problem{0, {}, refusal};
     }
     return QVariant::fromValue(images);
 }
@@ -158,6 +160,24 @@ BrushRange meantRange(const BrushProperty& property) {
     if (property.choices)
         return {float(property.choices->first), float(property.choices->second)};
     return {property.low, property.high};
+}
+
+qint64 pixelsOf(const QVariant& value) {
+    qint64 pixels = 0;
+    QList<QImage> images;
+    if (value.metaType() == QMetaType::fromType<QImage>())
+        images << value.value<QImage>();
+    else if (value.metaType() == QMetaType::fromType<QList<QImage>>())
+        images = value.value<QList<QImage>>();
+    for (const QImage& image : images)
+        pixels += qint64(image.width()) * image.height();
+    return pixels;
+}
+
+QString pixelsRefusal(qint64 pixels) {
+    return pixels <= kMostPixels
+               ? QString()
+               : QStringLiteral("the images have more than %1 pixels together").arg(kMostPixels);
 }
 
 std::optional<QColor> colorFromText(const QString& text) {

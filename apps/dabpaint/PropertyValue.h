@@ -31,6 +31,11 @@ QString defaultText(const BrushProperty& property);
 
 // What lies outside a property's range is refused, as is what is no value at all: a slip is told, not cut to size.
 
+// Pixels of the images of a value; 0 of any other.
+qint64 pixelsOf(const QVariant& value);
+// The message when a recording's images would have this many together.
+QString pixelsRefusal(qint64 pixels);
+
 // A value from the command line, such as "0.5", "yes", "1,0,0" or "tip.png,other.png".
 Result<QVariant> propertyValueFromText(const BrushProperty& property, const QString& text);
 

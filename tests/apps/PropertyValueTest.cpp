@@ -101,6 +101,14 @@ TEST(PropertyValueTest, ImagesAreFoundBesideTheRecording) {
     ASSERT_TRUE(images);
     EXPECT_EQ(images->value<QList<QImage>>().size(), 2);
 
+    // A few bytes that name large images again and again.
+    QImage large(10000, 10000, QImage::Format_Mono);
+    large.fill(0);
+    ASSERT_TRUE(large.save(folder.filePath(QStringLiteral("large.png"))));
+    setting.value = QStringList(3, QStringLiteral("large.png"));
+    const auto many = propertyValueFromSetting(named("textureImages"), setting, folder.path());
+    EXPECT_TRUE(!many && many.problem().what.contains(QStringLiteral("pixels together")));
+
     for (const QString& text :
          {QStringLiteral("none.png"), QStringLiteral("/dev/zero: it is not a plain file")}) {
         const auto bad = propertyValueFromText(named("textureImages"), text.section(QLatin1Char(':'), 0, 0));
