@@ -102,10 +102,10 @@ TEST(PropertyValueTest, ImagesAreFoundBesideTheRecording) {
     EXPECT_EQ(images->value<QList<QImage>>().size(), 2);
 
     // A few bytes that name large images again and again.
-    QImage large(10000, 10000, QImage::Format_Mono);
+    QImage large(5700, 5700, QImage::Format_Mono);
     large.fill(0);
     ASSERT_TRUE(large.save(folder.filePath(QStringLiteral("large.png"))));
-    setting.value = QStringList(3, QStringLiteral("large.png"));
+    setting.value = QStringList(9, QStringLiteral("large.png"));
     const auto many = propertyValueFromSetting(named("textureImages"), setting, folder.path());
     EXPECT_TRUE(!many && many.problem().what.contains(QStringLiteral("pixels together")));
 
