@@ -428,7 +428,7 @@ def paint_blossom(art, hand, x, y, size):
     for ray in range(7):  # out and back in one star-shaped stroke
         angle, reach = turn + ray * 0.9, size * hand.between(0.32, 0.55)
         stamens += [(x, y), (x + math.cos(angle) * reach, y + math.sin(angle) * reach * squash)]
-    art.stroke(hand.trace(stamens, pace=2.5, tremor=0.1), INK, radius=1.8, minRadius=0.5, opacity=0.8,
+    art.stroke(hand.trace(stamens, pace=2.5, tremor=0.1), INK, radius=2.0, minRadius=0.5, opacity=0.8,
                renderColor="#a92f49")
 
 

@@ -9,6 +9,7 @@
 #include <limits>
 #include <optional>
 #include <span>
+#include <utility>
 #include <variant>
 
 #include "Brushes/BrushSettings.h"
@@ -81,6 +82,8 @@ struct BrushProperty {
                          // and texts empty
     float low = -kFree;  // stored numbers are clamped to low..high
     float high = kFree;
+    // Of an integer that stands for a choice, the first and the last; others are taken, and as good as the default.
+    std::optional<std::pair<int, int>> choices{};
     std::uint8_t lineId = 0;  // property id in the line records; 0: not a line property
     Lines lines = Lines::none;
     DabField dab{};  // what dabs are made from; none where that takes more than copying

@@ -12,6 +12,7 @@
 // Included by whoever defines BRUSH_PROPERTY for what it makes of the rows.
 // clang-format off
 BRUSH_PROPERTY(int, brushType, BrushType, .group = BrushGroup::brush, .presetId = 0x1001, .reset = 0,
+               .choices{{0, 4}},
                .about = "Kind of brush: 3 smudges, 4 is the live preview brush, any other paints dabs.")
 BRUSH_PROPERTY(bool, isDebug, IsDebug, .group = BrushGroup::brush,
                .about = "Switches off the smudge behaviour of brush type 3.")
@@ -22,6 +23,7 @@ BRUSH_PROPERTY(float, gaussianRadius, GaussianRadius, .group = BrushGroup::brush
                .about = "Blur of the live preview brush when its stroke is placed, in preview pixels.")
 BRUSH_PROPERTY(int, blendType, BlendType, .group = BrushGroup::brush, .presetId = 0x1002, .reset = 1,
                .created = 1,
+               .choices{{1, 9}},
                .about = "How a stroke meets the canvas: 1 normal, 2 replace, 4 behind, 5 erase, 6 tarnish "
                         "(darken), 7 brightness (lighten), 8 multiply, 9 reset; any other as normal.")
 BRUSH_PROPERTY(QString, blendFragmentShaderString, BlendFragmentShaderString, .group = BrushGroup::brush,
@@ -59,6 +61,7 @@ BRUSH_PROPERTY(float, smudgeControlValue, SmudgeControlValue, .group = BrushGrou
                .about = "Length of that ramp, in dabs.")
 BRUSH_PROPERTY(int, textureType, TextureType, .group = BrushGroup::tip, .presetId = 0x200A, .reset = 0,
                .created = 1,
+               .choices{{0, 3}},
                .about = "Brush tip: 0 the tip images, 1 soft disc, 2 ring, 3 rounded rectangle.")
 BRUSH_PROPERTY(float, hardness, Hardness, .group = BrushGroup::tip, .presetId = 0x200B, .reset = 0.5f, .low = 0,
                .high = 1,
@@ -103,7 +106,7 @@ BRUSH_PROPERTY(bool, colorFul, ColorFul, .group = BrushGroup::color, .presetId =
                .about = "Multicolour: the tip's own colours paint (the brush colour where it is black), each "
                         "dab varied by the hue, saturation and brightness jitters.")
 BRUSH_PROPERTY(int, lineProcessType, LineProcessType, .group = BrushGroup::size, .presetId = 0x100D,
-               .dab = &DabSettings::lineProcessType,
+               .choices{{0, 7}}, .dab = &DabSettings::lineProcessType,
                .about = "Bits for thin lines: 2 draws no dab smaller than 3 pixels, 4 thins the flow of "
                         "smaller ones instead.")
 BRUSH_PROPERTY(float, minRadius, MinRadius, .group = BrushGroup::size, .presetId = 0x3006, .reset = 0,
@@ -242,6 +245,7 @@ BRUSH_PROPERTY(float, slDistbCount, SlDistbCount, .group = BrushGroup::secondLin
                .about = "Dabs at each place of the second line, whole; at most 64 are drawn.")
 BRUSH_PROPERTY(int, slRadiusRelationType, SlRadiusRelationType, .group = BrushGroup::secondLine,
                .presetId = 0x4012, .reset = 0,
+               .choices{{0, 2}},
                .about = "How the second line's size follows radius: 1 by a difference, 2 by a ratio, any "
                         "other not at all.")
 BRUSH_PROPERTY(float, relationValue, RelationValue, .group = BrushGroup::secondLine, .presetId = 0x4013,

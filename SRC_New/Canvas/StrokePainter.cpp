@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/StrokePainter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <memory>
@@ -15,6 +16,8 @@ namespace dabcanvas {
 namespace {
 
 constexpr double kClosest = 1.0;  // buffer pixels
+// The dabs of so many points, up to 64 each, are made before they are drawn.
+constexpr std::size_t kMostPoints = 1024;
 
 // The line process takes 0 where the device gives no tilt; -1 stands for that within a rounding error.
 float lineAltitude(float altitude) {
@@ -178,10 +181,15 @@ void StrokePainter::resetMaker(DrawTarget target) {
 
 Rect StrokePainter::drawRun(std::span<const LPPoint> points, DrawTarget target) {
     const SurfaceScope surface(_layers.surface());
-    if (!surface) {
-        return {};
+    Rect touched;
+    for (std::size_t first = 0; surface && first < points.size(); first += kMostPoints) {
+        const StageClock::Stage stage(_clock, &StrokeStats::drawingSeconds, &_layers.surface());
+        touched = touched.united(drawSome(points.subspan(first, std::min(kMostPoints, points.size() - first)), target));
     }
-    const StageClock::Stage stage(_clock, &StrokeStats::drawingSeconds, &_layers.surface());
+    return touched;
+}
+
+Rect StrokePainter::drawSome(std::span<const LPPoint> points, DrawTarget target) {
     DabMaker& maker = makerOf(target);
     if (target == DrawTarget::smudge) {
         SmudgeMaker& smudges = _brush.smudges();

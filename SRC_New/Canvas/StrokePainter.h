@@ -71,6 +71,7 @@ private:
     Run appendToLine(LPLineParams& record, const StrokeSample& sample, bool end);
     std::optional<Rect> addSample(const StrokeSample& sample, bool end);
     Rect drawRun(std::span<const LPPoint> points, DrawTarget target);
+    Rect drawSome(std::span<const LPPoint> points, DrawTarget target);
     Rect drawRuns(const std::vector<std::vector<LPPoint>>& runs, DrawTarget target);
     DabMaker& makerOf(DrawTarget target);
     void resetMaker(DrawTarget target);

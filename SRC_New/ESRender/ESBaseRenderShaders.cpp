@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "ESRender/ESBaseRender.h"
-#include "ESRender/Utilities/ESResource.h"
+#include "ESRender/Utilities/ShaderFiles.h"
 
 bool ESBaseRender::setVertexShaderString(const QString& vertexShaderString,
                                          const QString& fragmentShaderFromString) {
@@ -119,7 +119,7 @@ QString ESBaseRender::stringWithFileName(const QString& fileName) {
     if (read != known.constEnd()) {
         return *read;
     }
-    const QString text = stringWithPath(dabcanvas::resourcePath(fileName));
+    const QString text = stringWithPath(dabcanvas::shaderPath(fileName));
     if (!text.isNull()) {
         known.insert(fileName, text);
     }

@@ -125,6 +125,8 @@ ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) {
         program->addAttribute(name);
     }
     if (!program->link()) {
+        qCWarning(lcDabcanvasGL, "The program that %s cannot be built",
+                  fill ? "fills the smudge layer" : "shows smudges on the canvas");
         return show;
     }
     show.position = program->attributeIndex(line::kPosition);

@@ -37,14 +37,13 @@ Result<BrushFileContents> readBrushFile(const QString& path) {
     return contents;
 }
 
-double Brush::radius() const {
-    const BrushProperty& row = brushProperty(BrushKey::radius);
-    float radius = row.reset.value_or(row.created);
+double Brush::number(const BrushProperty& property) const {
+    float number = property.reset.value_or(property.created);
     for (const BrushParam& param : params) {
-        if (BrushRecords::key(param) == row.presetId)
-            radius = std::clamp(BrushRecords::paramValue(param).toFloat(), row.low, row.high);
+        if (property.presetId != 0 && BrushRecords::key(param) == property.presetId)
+            number = std::clamp(BrushRecords::paramValue(param).toFloat(), property.low, property.high);
     }
-    return double(radius);
+    return double(number);
 }
 
 void Brush::applyTo(QDDrawCanvas& canvas) const {

@@ -10,6 +10,7 @@
 
 #include "Preset/BrushRecords.h"
 #include "Problem.h"
+#include "QDEAGLView/BrushProperties.h"
 
 class QDDrawCanvas;
 
@@ -31,7 +32,7 @@ struct Brush {
     int version = 0;
     BrushParams params;
 
-    double radius() const;  // as a canvas takes it
+    double number(const BrushProperty& property) const;  // as a canvas takes it
     // Makes it the canvas's brush, colour and all. A few properties that it does not name stay as they are.
     void applyTo(QDDrawCanvas& canvas) const;
 };

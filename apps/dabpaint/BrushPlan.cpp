@@ -23,7 +23,7 @@ bool impliesStoredTips(const std::vector<BrushPlan::Step>& steps) {
 
 void BrushPlan::seen(const Brush& brush) {
     if (!isFixed(BrushKey::radius))
-        _largestRadius = std::max(_largestRadius, brush.radius());
+        _largestRadius = std::max(_largestRadius, brush.number(brushProperty(BrushKey::radius)));
 }
 
 void BrushPlan::seen(const Step& step) {
@@ -34,7 +34,7 @@ void BrushPlan::seen(const Step& step) {
 void BrushPlan::begin(std::shared_ptr<const Brush> brush) {
     _brush = std::move(brush);
     if (!isFixed(BrushKey::radius))
-        _largestRadius = _brush->radius();
+        _largestRadius = _brush->number(brushProperty(BrushKey::radius));
 }
 
 std::optional<Problem> BrushPlan::addBrush(const BrushReference& reference, const QString& folder,
@@ -46,6 +46,7 @@ std::optional<Problem> BrushPlan::addBrush(const BrushReference& reference, cons
         if (!brush)
             return Problem{reference.line, reference.element, brush.problem().text(path)};
         known = *brush;
+        _files << path;
     }
     seen(*known);
     change.brush = known;
@@ -60,6 +61,7 @@ QString BrushPlan::fix(const std::vector<Assignment>& settings) {
         const auto value = propertyValueFromText(*property, text);
         if (!value)
             return QStringLiteral("--set %1=%2: %3").arg(name, text.left(60), value.problem().what);
+        _files += imageFilesOfText(*property, text);
         // A radius given here is the only one.
         if (property->key == BrushKey::radius)
             _largestRadius = value->toFloat();
@@ -96,6 +98,10 @@ std::optional<Problem> BrushPlan::add(const Recording& recording, const QString&
                 if (!value)
                     return Problem{setting.line, setting.element, value.problem().what};
                 step.value = *value;
+                _pixels += pixelsOf(*value);
+                if (const QString refusal = pixelsRefusal(_pixels); !refusal.isEmpty())
+                    return Problem{setting.line, setting.element, refusal};
+                _files += imageFiles(*property, setting, folder);
             }
             if (_fixedProperties.contains(property))
                 continue;

@@ -42,6 +42,8 @@ public:
     // Every property that a recording sets.
     const std::set<const BrushProperty*>& touched() const { return _touched; }
     double largestRadius() const { return _largestRadius; }
+    // Every file that a setting or a recording's brush was read from.
+    const QStringList& files() const { return _files; }
 
 private:
     void seen(const Step& step);
@@ -51,6 +53,8 @@ private:
 
     std::shared_ptr<const Brush> _brush;
     std::map<QString, std::shared_ptr<const Brush>> _brushFiles;  // by path; many strokes may name one
+    QStringList _files;
+    qint64 _pixels = 0;  // of recordings' images, all of which are kept
     std::vector<Step> _fixed;
     std::set<const BrushProperty*> _fixedProperties;
     std::set<const BrushProperty*> _touched;

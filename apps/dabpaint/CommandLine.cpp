@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include <CLI/CLI.hpp>
+#include <QRegularExpression>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -17,325 +18,281 @@ namespace dabcanvas::dabpaint {
 
 namespace {
 
-// One option of a command. With a value, it takes "--size 4x3" and "--size=4x3", or "-o out.png".
-struct Option {
-    const char* name;
-    const char* letter;  // null for none
-    bool hasValue;
-    std::function<QString(const QString& value)> take;  // the message when the value is wrong
-};
+constexpr int kAny = 1 << 29;  // as many as are given
 
-// Hands options to their takers and everything else to `operand`; the message when something is wrong.
-QString walkArguments(const QStringList& arguments, const std::vector<Option>& options,
-                      const std::function<QString(const QString&)>& operand) {
-    bool optionsEnded = false;
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
-        const QString& argument = arguments[i];
-        QString wrong;
-        if (optionsEnded || !argument.startsWith(QLatin1Char('-')) || argument == QLatin1String("-")) {
-            wrong = operand(argument);
-        } else if (argument == QLatin1String("--")) {
-            optionsEnded = true;
-        } else {
-            const auto equals =
-                argument.startsWith(QLatin1String("--")) ? argument.indexOf(QLatin1Char('=')) : -1;
-            const QString name = equals < 0 ? argument : argument.left(equals);
-            const Option* option = nullptr;
-            QStringList names;
-            for (const Option& known : options) {
-                names << QLatin1String(known.name);
-                if (name == QLatin1String(known.name) ||
-                    (known.letter && name == QLatin1String(known.letter)))
-                    option = &known;
-            }
-            if (!option)
-                return QStringLiteral("unknown option %1%2").arg(name, closeNamesHint(name, names));
-            if (!option->hasValue && equals >= 0)
-                return QStringLiteral("%1 takes no value").arg(name);
-            if (option->hasValue && equals < 0 && i + 1 == arguments.size())
-                return QStringLiteral("%1 needs a value").arg(name);
-            wrong = option->take(!option->hasValue ? QString()
-                                 : equals >= 0     ? argument.mid(equals + 1)
-                                                   : arguments[++i]);
-        }
-        if (!wrong.isEmpty())
-            return wrong;
-    }
-    return {};
+using Taker = std::function<QString(const QString& value)>;  // gives the message when the value is wrong
+
+// An option with a value, or a positional where the name has no dash. A value is checked where it is stored, so that
+// the message says what is wrong with it; the last one given holds.
+CLI::Option* value(CLI::App& app, const char* names, const Taker& take) {
+    const auto check = [take](const std::string& text) {
+        return take(QString::fromStdString(text)).toStdString();
+    };
+    return app.add_option(names)->check(CLI::Validator(check, ""))->take_last()->type_name("value");
 }
 
-Option flag(const char* name, bool& value) {
-    return {name, nullptr, false, [&value](const QString&) {
-                value = true;
-                return QString();
-            }};
+void flag(CLI::App& app, const char* name, bool& on) {
+    app.add_flag(name, on)->disable_flag_override();
 }
 
-Option helpFlag(bool& value) {
-    Option option = flag("--help", value);
-    option.letter = "-h";
-    return option;
+CLI::Option* text(CLI::App& app, const char* names, QString& text) {
+    return value(app, names, [&text](const QString& given) {
+        text = given;
+        return given.isEmpty() ? QStringLiteral("the name is empty") : QString();
+    });
 }
 
-QString takeSize(const QString& text, QSize& size) {
-    const QStringList sides = text.split(QLatin1Char('x'));
-    bool numbers = sides.size() == 2;
-    qint64 side[2] = {};
-    for (qsizetype i = 0; numbers && i < 2; ++i) {
-        // toLongLong() would take blanks and a plus sign too.
-        for (const QChar c : sides[i])
-            numbers = numbers && c >= QLatin1Char('0') && c <= QLatin1Char('9');
-        side[i] = numbers ? sides[i].toLongLong(&numbers) : 0;
-    }
-    if (!numbers)
-        return QStringLiteral("--size is WIDTHxHEIGHT in pixels, such as 800x600, not \"%1\"").arg(text);
-    const QString refusal = sizeRefusal(side[0], side[1]);
-    if (refusal.isEmpty())
-        size = QSize(int(side[0]), int(side[1]));
-    return refusal.isEmpty() ? refusal : QStringLiteral("--size: ") + refusal;
+// One name or more, between options or after them. The library reads "[a]" as a list of names; "./[a]" is a file.
+CLI::Option* files(CLI::App& app, const char* name, QStringList& files, const Taker& refusal = nullptr) {
+    return value(app, name,
+                 [&files, refusal](const QString& file) {
+                     files << file;
+                     return refusal ? refusal(file) : QString();
+                 })
+        ->expected(1, kAny)
+        ->allow_extra_args()
+        ->take_all();
 }
 
-QString takeSetting(const QString& text, std::vector<Assignment>& settings) {
-    const auto equals = text.indexOf(QLatin1Char('='));
-    if (equals <= 0)
-        return QStringLiteral("--set is PROPERTY=VALUE, such as radius=12, not \"%1\"").arg(text);
-    settings.push_back({text.left(equals), text.mid(equals + 1)});
-    return {};
-}
-
-QString takeColor(const QString& text, std::optional<QColor>& color) {
-    color = colorFromText(text);
-    return color ? QString()
-                 : QStringLiteral(
-                       "--background is #rrggbb, #rrggbbaa, a colour's name or transparent, not \"%1\"")
-                       .arg(text);
-}
-
-QString takeCount(const QString& text, int& count) {
-    bool isNumber = false;
-    count = text.toInt(&isNumber);
-    return isNumber && count >= 0 ? QString()
-                                  : QStringLiteral("--undo is a number of strokes, not \"%1\"").arg(text);
-}
-
-Option outputOption(QString& output) {
-    return {"--output", "-o", true, [&output](const QString& value) {
-                output = value;
-                return value.isEmpty() ? QStringLiteral("the output's name is empty") : QString();
-            }};
-}
-
-Option settingOption(std::vector<Assignment>& settings) {
-    return {"--set", nullptr, true,
-            [&settings](const QString& value) { return takeSetting(value, settings); }};
-}
-
-// The message for a name that is no preset's.
 QString presetRefusal(const QString& file) {
     if (file == QLatin1String("-"))
         return QStringLiteral("a preset is read from a file, not from standard input");
     return file.isEmpty() ? QStringLiteral("the brush's name is empty") : QString();
 }
 
-Option brushOption(QString& brush) {
-    return {"--brush", nullptr, true, [&brush](const QString& value) {
-                brush = value;
-                return presetRefusal(value);
-            }};
+void brush(CLI::App& app, QString& brush) {
+    value(app, "--brush", [&brush](const QString& given) { return presetRefusal(brush = given); });
 }
 
-CommandLine readPaint(const QStringList& arguments) {
-    PaintOptions paint;
-    bool help = false;
-    const std::vector<Option> options = {
-        outputOption(paint.output),
-        {"--size", nullptr, true, [&](const QString& value) { return takeSize(value, paint.size); }},
-        brushOption(paint.brush),
-        settingOption(paint.settings),
-        {"--background", nullptr, true,
-         [&](const QString& value) { return takeColor(value, paint.background); }},
-        {"--undo", nullptr, true, [&](const QString& value) { return takeCount(value, paint.undo); }},
-        flag("--recognise", paint.recognise),
-        flag("--repeatable", paint.repeatable),
-        flag("--stats", paint.stats),
-        helpFlag(help),
-    };
-    const QString wrong = walkArguments(arguments, options, [&](const QString& file) {
-        paint.recordings << file;
+void size(CLI::App& app, QSize& size) {
+    value(app, "--size", [&size](const QString& text) {
+        static const QRegularExpression form(QStringLiteral("\\A([0-9]{1,9})x([0-9]{1,9})\\z"));
+        const auto match = form.match(text);
+        if (!match.hasMatch())
+            return QStringLiteral("expected WIDTHxHEIGHT in pixels, such as 800x600, not \"%1\"").arg(text);
+        size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+        return sizeRefusal(size.width(), size.height());
+    });
+}
+
+void settings(CLI::App& app, std::vector<Assignment>& settings) {
+    value(app, "--set", [&settings](const QString& text) {
+        const auto equals = text.indexOf(QLatin1Char('='));
+        settings.push_back({text.left(equals), text.mid(equals + 1)});
+        return equals > 0
+                   ? QString()
+                   : QStringLiteral("expected PROPERTY=VALUE, such as radius=12, not \"%1\"").arg(text);
+    })->take_all();
+}
+
+void count(CLI::App& app, const char* name, qint64 least, const std::function<void(qint64)>& store) {
+    value(app, name, [least, store](const QString& text) {
+        bool isNumber = false;
+        const qint64 number = text.toLongLong(&isNumber);
+        if (!isNumber || number < least || number > std::numeric_limits<int>::max())
+            return QStringLiteral("expected a whole number of at least %1, not \"%2\"").arg(least).arg(text);
+        store(number);
         return QString();
     });
-    if (help)
-        return HelpOptions{QStringLiteral("paint")};
-    if (!wrong.isEmpty())
-        return UsageFault{wrong};
-    if (paint.recordings.isEmpty())
-        return UsageFault{QStringLiteral("paint needs a recording; see dabpaint help paint")};
-    if (paint.output.isEmpty())
-        return UsageFault{QStringLiteral("paint needs -o OUT.png; see dabpaint help paint")};
-    if (paint.stats && paint.output == QLatin1String("-"))
-        return UsageFault{QStringLiteral("--stats and -o - would both write to standard output")};
-    return paint;
 }
 
-// "a.csv" and "./a.csv" too.
-bool isSameFile(const QString& one, const QString& other) {
-    const auto whole = [](const QString& path) {
-        return path == QLatin1String("-") ? path : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    };
-    return whole(one) == whole(other);
-}
-
-CommandLine readShapes(const QStringList& arguments) {
-    ShapesOptions shapes;
-    bool help = false;
-    const std::vector<Option> options = {
-        outputOption(shapes.output),
-        {"--outlines", nullptr, true,
-         [&](const QString& value) {
-             shapes.outlines = value;
-             return value.isEmpty() ? QStringLiteral("the outlines' name is empty") : QString();
-         }},
-        helpFlag(help)};
-    const QString wrong = walkArguments(arguments, options, [&](const QString& file) {
-        shapes.inputs << file;
-        return QString();
+void background(CLI::App& app, std::optional<QColor>& color) {
+    value(app, "--background", [&color](const QString& text) {
+        color = colorFromText(text);
+        return color
+                   ? QString()
+                   : QStringLiteral("expected #rrggbb, #rrggbbaa, a colour's name or transparent, not \"%1\"")
+                         .arg(text);
     });
-    if (help)
-        return HelpOptions{QStringLiteral("shapes")};
-    if (!wrong.isEmpty())
-        return UsageFault{wrong};
-    if (shapes.inputs.isEmpty())
-        shapes.inputs << QStringLiteral("-");
-    if (shapes.output.isEmpty())
-        shapes.output = QStringLiteral("-");
-    if (isSameFile(shapes.output, shapes.outlines))
-        return UsageFault{
-            shapes.output == QLatin1String("-")
-                ? QStringLiteral("the shapes and their outlines would both go to standard output")
-                : QStringLiteral("the shapes and their outlines would both go to %1").arg(shapes.output)};
-    for (const QString& input : shapes.inputs) {
-        if (input != QLatin1String("-") &&
-            (isSameFile(input, shapes.output) || isSameFile(input, shapes.outlines)))
-            return UsageFault{QStringLiteral("%1 is what is read; write elsewhere").arg(input)};
+}
+
+// The words as the library reads them, the last one first.
+std::vector<std::string> wordsOf(const QStringList& arguments) {
+    QStringList words;
+    bool onlyFiles = false;
+    for (const QString& word : arguments) {
+        if (onlyFiles &&
+            (word.startsWith(QLatin1Char('[')) || (word.startsWith(QLatin1Char('-')) && word.size() > 1))) {
+            words << QStringLiteral("./") + word;
+        } else if (onlyFiles || word != QLatin1String("--")) {
+            words << word;
+        } else {
+            onlyFiles = true;  // where the library would leave the command
+        }
+        // "--name=" gives an empty value, where the library would go on to the next word.
+        if (!onlyFiles && word.startsWith(QLatin1String("--")) && word.endsWith(QLatin1Char('='))) {
+            words.last().chop(1);
+            words << QString();
+        }
     }
-    return shapes;
+    std::vector<std::string> backwards;
+    for (auto word = words.crbegin(); word != words.crend(); ++word)
+        backwards.push_back(word->toStdString());
+    return backwards;
 }
 
-CommandLine readDabs(const QStringList& arguments) {
-    DabsOptions dabs;
-    bool help = false;
-    const QString wrong =
-        walkArguments(arguments, {flag("--header", dabs.header), helpFlag(help)}, [&](const QString& file) {
-            if (!dabs.input.isEmpty())
-                return QStringLiteral("dabs takes one input, not %1 as well").arg(file);
-            dabs.input = file;
+// The commands and what they were given.
+class Words {
+public:
+    Words() {
+        _app.require_subcommand(0, 1);
+        flag(_app, "--version", _version);
+        addPaint(command("paint"));
+        addShapes(command("shapes"));
+        addPreset(command("preset"));
+        addDabs(command("dabs"));
+        flag(command("properties"), "--json", _properties.json);
+        value(command("help"), "COMMAND", [this](const QString& topic) {
+            _help.topic = topic;
+            return usageText(topic).isEmpty() ? noCommand(topic, commandNames()) : QString();
+        });
+    }
+
+    CommandLine read(const QStringList& arguments) {
+        std::vector<std::string> words = wordsOf(arguments);
+        try {
+            _app.parse(words);
+        } catch (const CLI::CallForHelp&) {
+            return HelpOptions{given(_app)};
+        } catch (const CLI::ExtrasError&) {
+            return UsageFault{unexpected()};
+        } catch (const CLI::RequiredError& fault) {
+            return UsageFault{QStringLiteral("%1; see dabpaint help %2")
+                                  .arg(QString::fromStdString(fault.what()), given(_app))};
+        } catch (const CLI::ParseError& fault) {
+            static const QRegularExpression override(
+                QStringLiteral("\\A(.*) was given a disallowed flag override\\z"));
+            return UsageFault{QString::fromStdString(fault.what())
+                                  .replace(override, QStringLiteral("--\\1 takes no value"))};
+        }
+        if (_version)
+            return VersionOptions{};
+        return result(given(_app));
+    }
+
+private:
+    CLI::App& command(const char* name) { return *_app.add_subcommand(name); }
+
+    void addPaint(CLI::App& app) {
+        files(app, "RECORDING", _paint.recordings)->required();
+        text(app, "-o,--output", _paint.output)->required();
+        size(app, _paint.size);
+        brush(app, _paint.brush);
+        settings(app, _paint.settings);
+        background(app, _paint.background);
+        count(app, "--undo", 0, [this](qint64 strokes) { _paint.undo = int(strokes); });
+        count(app, "--most-dabs", 1, [this](qint64 dabs) { _paint.mostDabs = dabs; });
+        flag(app, "--recognise", _paint.recognise);
+        flag(app, "--repeatable", _paint.repeatable);
+        flag(app, "--stats", _paint.stats);
+    }
+    void addShapes(CLI::App& app) {
+        files(app, "INPUT", _shapes.inputs);
+        text(app, "-o,--output", _shapes.output);
+        text(app, "--outlines", _shapes.outlines);
+    }
+    void addPreset(CLI::App& app) {
+        app.require_subcommand(0, 1);
+        CLI::App& show = *app.add_subcommand("show");
+        files(show, "FILE", _show.files, presetRefusal)->required();
+        flag(show, "--json", _show.json);
+        CLI::App& make = *app.add_subcommand("make");
+        text(make, "-o,--output", _make.output)->required();
+        brush(make, _make.brush);
+        settings(make, _make.settings);
+        value(make, "--name", [this](const QString& name) {
+            _make.name = name;
             return QString();
-        });
-    if (help)
-        return HelpOptions{QStringLiteral("dabs")};
-    if (!wrong.isEmpty())
-        return UsageFault{wrong};
-    if (dabs.input.isEmpty())
-        return UsageFault{QStringLiteral("dabs needs an input; see dabpaint help dabs")};
-    return dabs;
-}
-
-CommandLine readProperties(const QStringList& arguments) {
-    PropertiesOptions properties;
-    bool help = false;
-    const QString wrong = walkArguments(
-        arguments, {flag("--json", properties.json), helpFlag(help)},
-        [](const QString& file) { return QStringLiteral("properties takes no \"%1\"").arg(file); });
-    if (help)
-        return HelpOptions{QStringLiteral("properties")};
-    if (!wrong.isEmpty())
-        return UsageFault{wrong};
-    return properties;
-}
-
-// The commands below preset differ in their options; files and the output are asked for alike.
-CommandLine readPreset(const QStringList& arguments) {
-    PresetShowOptions show;
-    PresetMakeOptions make;
-    PresetPreviewOptions preview;
-    bool help = false, named = false;
-    QStringList files;
-    QString output;
-    const QStringList commands{QStringLiteral("show"), QStringLiteral("make"), QStringLiteral("preview")};
-    const QString command = arguments.value(0);
-    const auto which = commands.indexOf(command);
-    std::vector<Option> options = {helpFlag(help)};
-    if (which == 0) {
-        options.push_back(flag("--json", show.json));
-    } else if (which == 1) {
-        options.insert(options.end(), {outputOption(output),
-                                       brushOption(make.brush),
-                                       settingOption(make.settings),
-                                       {"--name", nullptr, true, [&](const QString& value) {
-                                            make.name = value;
-                                            named = true;
-                                            return QString();
-                                        }}});
-    } else if (which == 2) {
-        options.insert(
-            options.end(),
-            {outputOption(output),
-             settingOption(preview.settings),
-             flag("--sheet", preview.sheet),
-             {"--size", nullptr, true, [&](const QString& value) { return takeSize(value, preview.size); }}});
+        })->required();
+        CLI::App& preview = *app.add_subcommand("preview");
+        files(preview, "FILE", _preview.files, presetRefusal)->required();
+        text(preview, "-o,--output", _preview.output)->required();
+        size(preview, _preview.size);
+        settings(preview, _preview.settings);
+        flag(preview, "--sheet", _preview.sheet);
     }
-    const QString wrong =
-        walkArguments(which < 0 ? arguments : arguments.mid(1), options, [&](const QString& file) {
-            files << file;
-            return which == 1 ? QString() : presetRefusal(file);
-        });
-    if (help)
-        return HelpOptions{QStringLiteral("preset")};
-    if (which < 0)
-        return UsageFault{command.isEmpty() ? QStringLiteral("preset needs a command: show, make or preview")
-                                            : QStringLiteral("there is no command \"preset %1\"%2")
-                                                  .arg(command, closeNamesHint(command, commands))};
-    if (!wrong.isEmpty())
-        return UsageFault{wrong};
-    const auto needs = [&](const char* what) {
-        return UsageFault{
-            QStringLiteral("preset %1 needs %2; see dabpaint help preset").arg(command, QLatin1String(what))};
-    };
-    if (which == 1 && !files.isEmpty())
-        return UsageFault{QStringLiteral("preset make takes no \"%1\"").arg(files.first())};
-    if (which != 1 && files.isEmpty())
-        return needs("an XBF file");
-    if (which != 0 && output.isEmpty())
-        return needs(which == 1 ? "-o FILE.xbf" : "-o OUT.png");
-    if (which == 1 && !named)
-        return needs("--name NAME");
-    if (which == 1 && output == QLatin1String("-"))
-        return UsageFault{QStringLiteral("a preset is written to a file, not to standard output")};
-    show.files = preview.files = files;
-    make.output = preview.output = output;
-    if (which == 0)
-        return show;
-    if (which == 1)
-        return make;
-    return preview;
-}
+    void addDabs(CLI::App& app) {
+        text(app, "INPUT", _dabs.input)->required();
+        flag(app, "--header", _dabs.header);
+    }
 
-CommandLine readHelp(const QStringList& arguments) {
-    HelpOptions help;
-    bool again = false;
-    const QString wrong = walkArguments(arguments, {helpFlag(again)}, [&](const QString& topic) {
-        if (usageText(topic).isEmpty())
-            return QStringLiteral("there is no command \"%1\"%2")
-                .arg(topic, closeNamesHint(topic, commandNames()));
-        help.topic = topic;
-        return QString();
-    });
-    if (!wrong.isEmpty())
-        return UsageFault{wrong};
-    if (again)
-        help.topic = QStringLiteral("help");
-    return help;
-}
+    // The name of the command that was given; empty for none.
+    static QString given(const CLI::App& app) {
+        const auto commands = app.get_subcommands();
+        return commands.empty() ? QString() : QString::fromStdString(commands.front()->get_name());
+    }
+
+    static QString noCommand(const QString& name, const QStringList& known) {
+        return QStringLiteral("there is no command \"%1\"%2").arg(name, closeNamesHint(name, known));
+    }
+
+    // The message for the first word that has no place.
+    QString unexpected() const {
+        const CLI::App* app = &_app;
+        while (!app->get_subcommands().empty())
+            app = app->get_subcommands().front();
+        const QString word = QString::fromStdString(_app.remaining(true).front());
+        if (word.startsWith(QLatin1Char('-'))) {
+            QStringList known;
+            for (const CLI::Option* option : app->get_options())
+                known << QString::fromStdString(option->get_name());
+            return QStringLiteral("unknown option %1%2").arg(word, closeNamesHint(word, known));
+        }
+        if (app == &_app)
+            return noCommand(word, commandNames());
+        if (app->get_name() == "preset")
+            return noCommand(QStringLiteral("preset ") + word,
+                             {QStringLiteral("preset show"), QStringLiteral("preset make"),
+                              QStringLiteral("preset preview")});
+        return QStringLiteral("%1 takes no \"%2\"").arg(QString::fromStdString(app->get_name()), word);
+    }
+
+    CommandLine result(const QString& command) const {
+        const QString standard = QStringLiteral("-");
+        if (command == QLatin1String("paint") && _paint.stats && _paint.output == standard)
+            return UsageFault{QStringLiteral("--stats and -o - would both write to standard output")};
+        if (command == QLatin1String("paint"))
+            return _paint;
+        if (command == QLatin1String("shapes") && _shapes.output == standard && _shapes.outlines == standard)
+            return UsageFault{
+                QStringLiteral("the shapes and their outlines would both go to standard output")};
+        if (command == QLatin1String("shapes"))
+            return _shapes;
+        if (command == QLatin1String("preset"))
+            return preset(given(*_app.get_subcommand("preset")));
+        if (command == QLatin1String("dabs"))
+            return _dabs;
+        if (command == QLatin1String("properties"))
+            return _properties;
+        if (command == QLatin1String("help"))
+            return _help;
+        return UsageFault{
+            QStringLiteral("a command is missing: paint, shapes, preset, dabs, properties or help")};
+    }
+
+    CommandLine preset(const QString& command) const {
+        if (command == QLatin1String("show"))
+            return _show;
+        if (command == QLatin1String("preview"))
+            return _preview;
+        if (command.isEmpty())
+            return UsageFault{QStringLiteral("preset needs a command: show, make or preview")};
+        if (_make.output == QLatin1String("-"))
+            return UsageFault{QStringLiteral("a preset is written to a file, not to standard output")};
+        return _make;
+    }
+
+    CLI::App _app;
+    bool _version = false;
+    PaintOptions _paint;
+    ShapesOptions _shapes;
+    PresetShowOptions _show;
+    PresetMakeOptions _make;
+    PresetPreviewOptions _preview;
+    DabsOptions _dabs;
+    PropertiesOptions _properties;
+    HelpOptions _help;
+};
 
 template <typename... Visitors>
 struct Overloaded : Visitors... {
@@ -350,28 +307,7 @@ int print(const QByteArray& text) {
 }  // namespace
 
 CommandLine readCommandLine(const QStringList& arguments) {
-    if (arguments.isEmpty())
-        return UsageFault{
-            QStringLiteral("a command is missing: paint, shapes, preset, dabs, properties or help")};
-    const QString& command = arguments.first();
-    const QStringList rest = arguments.mid(1);
-    if (command == QLatin1String("paint"))
-        return readPaint(rest);
-    if (command == QLatin1String("shapes"))
-        return readShapes(rest);
-    if (command == QLatin1String("preset"))
-        return readPreset(rest);
-    if (command == QLatin1String("dabs"))
-        return readDabs(rest);
-    if (command == QLatin1String("properties"))
-        return readProperties(rest);
-    if (command == QLatin1String("help") || command == QLatin1String("--help") ||
-        command == QLatin1String("-h"))
-        return readHelp(rest);
-    if (command == QLatin1String("--version"))
-        return VersionOptions{};
-    return UsageFault{
-        QStringLiteral("there is no command \"%1\"%2").arg(command, closeNamesHint(command, commandNames()))};
+    return Words().read(arguments);
 }
 
 int runDabpaint(const QStringList& arguments) {

@@ -7,6 +7,7 @@
 
 #include "InkmlStyle.h"
 #include "InkmlTrace.h"
+#include "QDEAGLView/BrushProperties.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -39,7 +40,7 @@ struct ChannelPlaces {
 // Turns the traces of a document into strokes.
 class StrokeBuilder {
 public:
-    explicit StrokeBuilder(const InkDocument& document) : _document(document) {}
+    explicit StrokeBuilder(const InkDocument& document) : _document(document), _styles(document) {}
 
     Result<Recording> run() {
         for (const RawTrace& trace : _document.traces) {
@@ -77,7 +78,7 @@ private:
     QString add(const RawTrace& trace) {
         _line = trace.line;
         TraceStyle style;
-        QString wrong = findStyle(_document, trace, style);
+        QString wrong = _styles.find(trace, style);
         if (!wrong.isEmpty())
             return wrong;
         std::size_t stroke = _recording.strokes.size();
@@ -225,6 +226,7 @@ private:
 
     // Gives strokes their brush's settings where it changes; a stroke without a brush has the painter's own.
     void paintWith(double scale) {
+        const BrushProperty& radius = brushProperty(BrushKey::radius);
         QString color;
         std::optional<double> width;
         for (std::size_t i = 0; i < _recording.strokes.size(); ++i) {
@@ -240,8 +242,8 @@ private:
             if (brush.width != width) {
                 width = brush.width;
                 SettingValue value;
-                if (width)
-                    value = *width * scale;
+                if (width)  // which nobody meant as a radius here, so that it is cut to what a brush takes
+                    value = std::clamp(*width * scale, double(radius.low), double(radius.high));
                 stroke.settings.push_back({QStringLiteral("radius"), value, 0, {}});
             }
         }
@@ -262,6 +264,7 @@ private:
     }
 
     const InkDocument& _document;
+    const TraceStyles _styles;
     Recording _recording;
     std::vector<Look> _looks;  // one a stroke
     QHash<QString, std::size_t> _strokeOfTrace;

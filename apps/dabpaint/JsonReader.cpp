@@ -1,54 +1,97 @@
 // SPDX-License-Identifier: MIT
 #include "JsonReader.h"
 
-#include <QStringDecoder>
 #include <algorithm>
-#include <charconv>
-#include <cmath>
-#include <cstdint>
-#include <cstring>
-
-#include "Numbers.h"
+#include <nlohmann/json.hpp>
 
 namespace dabcanvas::dabpaint {
 
 namespace {
 
-bool isNumberByte(char c) {
-    return (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.' || c == 'e' || c == 'E';
-}
+using Kind = JsonReader::Kind;
 
-// JSON writes numbers more strictly than from_chars reads them: no ".5", no "5.", no "007".
-bool isStrictNumber(const char* at, const char* end) {
-    const auto digits = [&] {
-        const char* first = at;
-        while (at != end && *at >= '0' && *at <= '9')
-            ++at;
-        return at - first;
-    };
-    if (at != end && *at == '-')
-        ++at;
-    const bool zero = at != end && *at == '0';
-    const auto whole = digits();
-    if (whole == 0 || (zero && whole > 1))
-        return false;
-    if (at != end && *at == '.' && (++at, digits() == 0))
-        return false;
-    if (at != end && (*at == 'e' || *at == 'E')) {
-        ++at;
-        if (at != end && (*at == '+' || *at == '-'))
-            ++at;
-        if (digits() == 0)
-            return false;
+// Hands the text out byte by byte and counts its lines, which the parser tells of faults only.
+struct CountingBytes {
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    reference operator*() const { return *at; }
+    CountingBytes& operator++() {
+        *line += after ? 1 : 0;
+        after = *at++ == '\n';
+        return *this;
     }
-    return at == end;
+    bool operator==(const CountingBytes& other) const { return at == other.at; }
+    bool operator!=(const CountingBytes& other) const { return at != other.at; }
+
+    const char* at;
+    std::uint32_t* line;
+    bool after = false;  // the parser looks a byte ahead, which must not count yet
+};
+
+// The parser's events, one after the other.
+class Writer : public nlohmann::json_sax<nlohmann::json> {
+public:
+    Writer(JsonReader::Tokens& tokens, const std::uint32_t& line) : _tokens(tokens), _line(line) {}
+
+    bool null() override { return add(Kind::null); }
+    bool boolean(bool value) override { return addNumber(Kind::boolean, value); }
+    bool number_integer(number_integer_t value) override { return addNumber(Kind::number, double(value)); }
+    bool number_unsigned(number_unsigned_t value) override { return addNumber(Kind::number, double(value)); }
+    bool number_float(number_float_t value, const string_t&) override {
+        return addNumber(Kind::number, value);
+    }
+    bool string(string_t& value) override { return addText(Kind::text, value); }
+    bool binary(binary_t&) override { return false; }  // not in JSON
+    bool start_object(std::size_t) override { return add(Kind::object); }
+    bool key(string_t& value) override { return addText(Kind::member, value); }
+    bool end_object() override { return add(Kind::close); }
+    bool start_array(std::size_t) override { return add(Kind::list); }
+    bool end_array() override { return add(Kind::close); }
+    bool parse_error(std::size_t, const std::string&, const nlohmann::detail::exception& fault) override {
+        // "[json.exception.parse_error.101] parse error at line 1, column 5: syntax error ..."
+        std::string what = fault.what();
+        const auto place = what.find("column ");
+        what.erase(0, place == std::string::npos ? what.find(' ') + 1 : place);
+        what.resize(std::min<std::size_t>(what.size(), 200));  // it quotes all of a text that is wrong
+        return addText(Kind::fault, what) && false;
+    }
+
+private:
+    bool add(Kind kind) {
+        constexpr std::uint32_t kLast = (1u << 28) - 1;
+        _tokens.list.push_back({std::uint32_t(kind) & 15u, std::min(_line, kLast) & kLast});
+        return true;
+    }
+    bool addNumber(Kind kind, double number) {
+        _tokens.numbers.push_back(number);
+        return add(kind);
+    }
+    bool addText(Kind kind, std::string& text) {
+        _tokens.texts.push_back(std::move(text));
+        return add(kind);
+    }
+
+    JsonReader::Tokens& _tokens;
+    const std::uint32_t& _line;
+};
+
+const char* nameOf(Kind kind) {
+    constexpr const char* kNames[] = {"an object", "a list", "a text", "a number", "true or false", "null"};
+    return std::size_t(kind) < std::size(kNames) ? kNames[std::size_t(kind)] : "the end of what is there";
 }
 
 }  // namespace
 
-JsonReader::JsonReader(QByteArrayView text) : _at(text.data()), _end(text.data() + text.size()) {
-    if (text.startsWith("\xEF\xBB\xBF"))
-        _at += 3;
+JsonReader::JsonReader(QByteArrayView text) {
+    std::uint32_t line = 1;
+    Writer writer(_tokens, line);
+    const CountingBytes first{text.data(), &line}, last{text.data() + text.size(), &line};
+    nlohmann::json::sax_parse(first, last, &writer);
+    _tokens.list.push_back({std::uint32_t(Kind::end), line});
 }
 
 bool JsonReader::fail(const QString& what) {
@@ -73,234 +116,91 @@ QString JsonReader::path() const {
     return path;
 }
 
-bool JsonReader::skipBlanks() {
-    for (; _at != _end; ++_at) {
-        if (*_at == '\n')
-            ++_line;
-        else if (*_at != ' ' && *_at != '\t' && *_at != '\r')
-            break;
-    }
-    return _at != _end;
-}
-
-JsonReader::Kind JsonReader::peek() {
-    if (_failed || !skipBlanks())
-        return Kind::end;
-    switch (*_at) {
-        case '{':
-            return Kind::object;
-        case '[':
-            return Kind::list;
-        case '"':
-            return Kind::text;
-        case 't':
-        case 'f':
-            return Kind::boolean;
-        case 'n':
-            return Kind::null;
-        default:
-            return *_at == '-' || (*_at >= '0' && *_at <= '9') ? Kind::number : Kind::other;
-    }
-}
-
-QString JsonReader::found() {
-    switch (peek()) {
-        case Kind::object:
-            return QStringLiteral("an object");
-        case Kind::list:
-            return QStringLiteral("a list");
-        case Kind::text:
-            return QStringLiteral("a text");
-        case Kind::number:
-            return QStringLiteral("a number");
-        case Kind::boolean:
-            return QStringLiteral("true or false");
-        case Kind::null:
-            return QStringLiteral("null");
-        case Kind::end:
-            return QStringLiteral("the end of the file");
-        case Kind::other:
-            break;
-    }
-    const auto byte = static_cast<unsigned char>(*_at);
-    if (byte > ' ' && byte < 0x7F)
-        return QStringLiteral("\"%1\"").arg(QLatin1Char(*_at));
-    return QStringLiteral("byte 0x%1").arg(byte, 2, 16, QLatin1Char('0'));
+QString JsonReader::nextText() {
+    return QString::fromStdString(_tokens.texts[_text++]);
 }
 
 bool JsonReader::failExpecting(const char* expected) {
     if (_failed)
         return false;
-    return fail(QStringLiteral("expected %1, found %2").arg(QLatin1String(expected), found()));
+    _line = int(_tokens.list[_at].line);
+    if (peek() == Kind::fault)
+        return fail(nextText());
+    return fail(
+        QStringLiteral("expected %1, found %2").arg(QLatin1String(expected), QLatin1String(nameOf(peek()))));
+}
+
+bool JsonReader::take(Kind kind, const char* expected) {
+    if (_failed || peek() != kind)
+        return failExpecting(expected);
+    _line = int(_tokens.list[_at++].line);
+    return true;
 }
 
 bool JsonReader::beginObject() {
-    if (peek() != Kind::object)
-        return failExpecting("an object");
-    ++_at;
-    _levels.push_back({});
-    return true;
+    const bool begun = take(Kind::object, "an object");
+    if (begun)
+        _levels.push_back({false, -1, {}});
+    return begun;
 }
 
 bool JsonReader::beginList() {
-    if (peek() != Kind::list)
-        return failExpecting("a list");
-    ++_at;
-    _levels.push_back({.list = true, .first = true, .index = -1, .name = {}});
-    return true;
+    const bool begun = take(Kind::list, "a list");
+    if (begun)
+        _levels.push_back({true, -1, {}});
+    return begun;
 }
 
-// Steps over what stands between two members or elements; false at the closing bracket or on an error.
-bool JsonReader::separator(char closing) {
-    if (_failed)
-        return false;
-    Level& level = _levels.back();
-    if (!skipBlanks())
-        return failExpecting(level.list ? "\",\" or \"]\"" : "\",\" or \"}\"");
-    if (*_at == closing) {
-        ++_at;
+// Steps over a closing bracket; true also on an error.
+bool JsonReader::ends() {
+    if (!_failed && peek() == Kind::close) {
         _levels.pop_back();
-        return false;
-    }
-    if (!level.first) {
-        if (*_at != ',')
-            return failExpecting(level.list ? "\",\" or \"]\"" : "\",\" or \"}\"");
         ++_at;
+        return true;
     }
-    level.first = false;
-    return true;
+    return _failed;
 }
 
 bool JsonReader::nextMember(QString& name) {
-    if (!separator('}'))
+    if (ends())
         return false;
     _levels.back().name.clear();
-    if (peek() != Kind::text)
-        return failExpecting("a member's name");
-    if (!readText(name))
+    if (!take(Kind::member, "a member's name"))
         return false;
-    if (!skipBlanks() || *_at != ':')
-        return failExpecting("\":\"");
-    ++_at;
-    _levels.back().name = name;
+    _levels.back().name = name = nextText();
     return true;
 }
 
 bool JsonReader::nextElement() {
-    if (!separator(']'))
+    if (ends())
         return false;
     ++_levels.back().index;
     return true;
 }
 
 bool JsonReader::readNumber(double& value) {
-    if (peek() != Kind::number)
-        return failExpecting("a number");
-    const char* ended = _at;
-    while (ended != _end && isNumberByte(*ended))
-        ++ended;
-    const char* scanned = nullptr;
-    if (!isStrictNumber(_at, ended) || !scanNumber(_at, ended, value, scanned) || scanned != ended)
-        return fail(QStringLiteral("malformed number \"%1\"")
-                        .arg(QString::fromLatin1(_at, std::min<qsizetype>(ended - _at, 40))));
-    if (!std::isfinite(value))
-        return fail(QStringLiteral("number out of range"));
-    _at = ended;
-    return true;
-}
-
-bool JsonReader::literal(const char* word) {
-    const auto size = static_cast<std::ptrdiff_t>(std::strlen(word));
-    if (_end - _at < size || std::memcmp(_at, word, static_cast<std::size_t>(size)) != 0)
-        return false;
-    _at += size;
-    return true;
+    const bool taken = take(Kind::number, "a number");
+    if (taken)
+        value = _tokens.numbers[_number++];
+    return taken;
 }
 
 bool JsonReader::readBoolean(bool& value) {
-    if (peek() == Kind::boolean) {
-        value = *_at == 't';
-        if (literal("true") || literal("false"))
-            return true;
-        return fail(QStringLiteral("expected true or false"));
-    }
-    return failExpecting("true or false");
+    const bool taken = take(Kind::boolean, "true or false");
+    if (taken)
+        value = _tokens.numbers[_number++] != 0;
+    return taken;
 }
 
 bool JsonReader::readText(QString& value) {
-    if (peek() != Kind::text)
-        return failExpecting("a text");
-    ++_at;
-    return readTextAfterQuote(value);
-}
-
-bool JsonReader::readTextAfterQuote(QString& value) {
-    value.clear();
-    const char* plain = _at;
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const auto takePlain = [&] {
-        if (plain != _at)
-            value += QString(decoder.decode(QByteArrayView(plain, _at - plain)));
-        return !decoder.hasError();
-    };
-    for (; _at != _end; ++_at) {
-        const auto byte = static_cast<unsigned char>(*_at);
-        if (byte == '"') {
-            if (!takePlain())
-                return fail(QStringLiteral("the text is not valid UTF-8"));
-            ++_at;
-            return true;
-        }
-        if (byte < 0x20)
-            return fail(QStringLiteral("a line end or control character inside a text"));
-        if (byte == '\\') {
-            if (!takePlain())
-                return fail(QStringLiteral("the text is not valid UTF-8"));
-            ++_at;
-            if (!readEscape(value))
-                return fail(QStringLiteral("malformed escape inside a text"));
-            plain = _at;
-            --_at;
-        }
-    }
-    return fail(QStringLiteral("the text does not end"));
-}
-
-bool JsonReader::readEscape(QString& value) {
-    if (_at == _end)
-        return false;
-    static constexpr char kLetters[] = "\"\\/bfnrt";
-    static constexpr char kMeanings[] = "\"\\/\b\f\n\r\t";
-    const char letter = *_at++;
-    if (letter == 'u') {
-        char16_t unit = 0;
-        if (!readUnit(unit))
-            return false;
-        value += QChar(unit);
-        return true;
-    }
-    const char* known = letter ? std::strchr(kLetters, letter) : nullptr;
-    if (!known)
-        return false;
-    value += QLatin1Char(kMeanings[known - kLetters]);
-    return true;
-}
-
-bool JsonReader::readUnit(char16_t& unit) {
-    std::uint16_t value = 0;
-    if (_end - _at < 4 || std::from_chars(_at, _at + 4, value, 16).ptr != _at + 4)
-        return false;
-    unit = value;
-    _at += 4;
-    return true;
+    const bool taken = take(Kind::text, "a text");
+    if (taken)
+        value = nextText();
+    return taken;
 }
 
 bool JsonReader::finish() {
-    if (_failed)
-        return false;
-    if (skipBlanks())
-        return failExpecting("the end of the file");
-    return true;
+    return peek() == Kind::end ? !_failed : failExpecting("the end of the file");
 }
 
 }  // namespace dabcanvas::dabpaint

@@ -7,66 +7,27 @@
 #include <QJsonObject>
 #include <algorithm>
 #include <memory>
+#include <numeric>
 
 #ifdef Q_OS_UNIX
 #include <sys/resource.h>
-#include <unistd.h>
 #endif
 
 #include "BrushPlan.h"
 #include "Console.h"
+#include "DabEstimate.h"
 #include "ESContext/ESCurrentScope.h"
 #include "History/ImagesUndoManager.h"
-#include "PictureFile.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "OutputFile.h"
+#include "PictureKinds.h"
+#include "Progress.h"
 #include "Recording.h"
 #include "ToolCanvas.h"
 
 namespace dabcanvas::dabpaint {
 
 namespace {
-
-// A share on standard error while somebody watches and the work takes long.
-class Progress {
-public:
-    explicit Progress(qint64 whole) : _whole(whole), _watched(isWatched()) { _clock.start(); }
-    ~Progress() {
-        if (_shown)
-            write("\r\x1B[K");
-    }
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-
-    void advance() {
-        ++_done;
-        if (!_watched || _done % 64 != 0 || _clock.elapsed() < _next)
-            return;
-        _next = _clock.elapsed() + kBetween;
-        _shown = true;
-        write("\rdabpaint: painting, " + QByteArray::number(_done * 100 / _whole) + " %");
-    }
-
-private:
-    static constexpr qint64 kPatience = 1000, kBetween = 200;  // milliseconds
-
-    static bool isWatched() {
-#ifdef Q_OS_UNIX
-        return isatty(STDERR_FILENO) == 1;
-#else
-        return false;
-#endif
-    }
-    static void write(const QByteArray& text) {
-        std::fwrite(text.constData(), 1, std::size_t(text.size()), stderr);
-    }
-
-    QElapsedTimer _clock;
-    qint64 _whole;
-    qint64 _done = 0;
-    qint64 _next = kPatience;
-    bool _watched;
-    bool _shown = false;
-};
 
 struct Job {
     std::vector<Recording> recordings;
@@ -75,7 +36,11 @@ struct Job {
     QColor background = Qt::white;
     qint64 strokes = 0;
     qint64 samples = 0;
+    std::vector<std::vector<double>> dabs;  // estimated, by recording and stroke
+    double allDabs = 0;
 };
+
+constexpr qint64 kUndoBytes = qint64(256) << 20;  // of steps to be undone in memory; the others go to files
 
 struct Painting {
     QImage image;
@@ -97,6 +62,20 @@ QString readRecordings(const PaintOptions& options, Job& job) {
         for (const RecordedStroke& stroke : recording->strokes)
             job.samples += qint64(stroke.samples.size());
         job.recordings.push_back(std::move(*recording));
+    }
+    return {};
+}
+
+QString estimateWork(const PaintOptions& options, Job& job) {
+    for (std::size_t i = 0; i < job.recordings.size(); ++i) {
+        const auto& dabs = job.dabs.emplace_back(estimatedDabs(job.recordings[i], job.plan, i));
+        job.allDabs = std::accumulate(dabs.begin(), dabs.end(), job.allDabs);
+        if (job.allDabs > double(options.mostDabs))
+            return QStringLiteral(
+                       "%1: about %2 dabs would have to be drawn, more than %3; --most-dabs N allows N")
+                .arg(options.recordings[qsizetype(i)])
+                .arg(job.allDabs, 0, 'f', 0)
+                .arg(options.mostDabs);
     }
     return {};
 }
@@ -202,13 +181,14 @@ private:
 
     QString paintAll() {
         const ESCurrentScope current(_canvas->esContext());  // nobody else draws meanwhile
-        Progress progress(_job.samples);
+        Progress progress(_job.allDabs);
         std::size_t left = 0;
         for (const Recording& recording : _job.recordings)
             left += recording.strokes.size();
         const auto undone = static_cast<std::size_t>(_options.undo);
         if (undone > 0) {
             _canvas->undoManager().setUndoStepCount(static_cast<unsigned>(_options.undo));
+            _canvas->undoManager().setCacheByteBudget(kUndoBytes);
             _canvas->resetUndoManager();
         }
         for (std::size_t i = 0; i < _job.recordings.size(); ++i) {
@@ -223,7 +203,9 @@ private:
                     wrong = apply(change.steps);
                 if (!wrong.isEmpty())
                     break;
-                paintSamples(*_canvas, strokes[j].samples, [&progress] { progress.advance(); });
+                const double work =
+                    _job.dabs[i][j] / double(std::max<std::size_t>(strokes[j].samples.size(), 1));
+                paintSamples(*_canvas, strokes[j].samples, [&] { progress.advance(work); });
                 --left;
                 if (undone > 0 && left == undone)
                     _canvas->resetUndoManager();  // what remains
@@ -299,7 +281,10 @@ int runPaint(const PaintOptions& options) {
     QString wrong = job.plan.fix(options.settings);
     if (!wrong.isEmpty())
         return refuse(wrong);
-    PictureFile output(options.output);
+    wrong = pictureKindRefusal(options.output);
+    if (!wrong.isEmpty())
+        return refuse(QStringLiteral("%1: %2").arg(options.output, wrong));
+    OutputFile output(options.output);
     if (!output.check())
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, output.errorString()));
     if (!options.brush.isEmpty()) {
@@ -308,7 +293,14 @@ int runPaint(const PaintOptions& options) {
             return fail(brush.problem().text(options.brush));
         job.plan.begin(std::move(*brush));
     }
-    for (const auto step : {&readRecordings, &chooseSize, &chooseBackground}) {
+    wrong = readRecordings(options, job);
+    if (!wrong.isEmpty())
+        return fail(wrong);
+    wrong = overwritingRefusal({options.output},
+                               options.recordings + job.plan.files() + QStringList(options.brush));
+    if (!wrong.isEmpty())
+        return refuse(wrong);
+    for (const auto step : {&estimateWork, &chooseSize, &chooseBackground}) {
         wrong = step(options, job);
         if (!wrong.isEmpty())
             return fail(wrong);
@@ -321,7 +313,7 @@ int runPaint(const PaintOptions& options) {
     QElapsedTimer encodingClock;
     encodingClock.start();
     QByteArray bytes;
-    wrong = encodePng(painting.image, bytes);
+    wrong = encodePicture(painting.image, options.output, bytes);
     const double encoding = double(encodingClock.nsecsElapsed()) * 1e-9;
     if (!wrong.isEmpty())
         return fail(wrong);

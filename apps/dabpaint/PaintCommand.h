@@ -13,6 +13,9 @@
 
 namespace dabcanvas::dabpaint {
 
+// Some minutes of painting by software.
+inline constexpr qint64 kMostDabs = 50'000'000;
+
 struct PaintOptions {
     QStringList recordings;
     QString output;  // "-" for standard output
@@ -20,6 +23,7 @@ struct PaintOptions {
     QString brush;   // an XBF file; empty for the default brush
     std::vector<Assignment> settings;
     std::optional<QColor> background;
+    qint64 mostDabs = kMostDabs;
     int undo = 0;            // strokes taken back at the end
     bool recognise = false;  // strokes are meant as shapes
     bool repeatable = false;

@@ -3,11 +3,12 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTemporaryDir>
 
 #include "BrushPlan.h"
 #include "Console.h"
 #include "LogCatcher.h"
-#include "PictureFile.h"
+#include "OutputFile.h"
 #include "Preset/QDBrushManager.h"
 #include "PresetText.h"
 #include "ToolCanvas.h"
@@ -40,6 +41,9 @@ int runPresetMake(const PresetMakeOptions& options) {
     QString wrong = plan.fix(options.settings);
     if (!wrong.isEmpty())
         return refuse(wrong);
+    wrong = overwritingRefusal({options.output}, plan.files() + QStringList(options.brush));
+    if (!wrong.isEmpty())
+        return refuse(wrong);
     std::shared_ptr<const Brush> start;
     if (!options.brush.isEmpty()) {
         const auto brush = readBrush(options.brush);
@@ -47,7 +51,7 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(brush.problem().text(options.brush));
         start = *brush;
     }
-    if (PictureFile output(options.output); !output.check())
+    if (OutputFile output(options.output); !output.check())
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, output.errorString()));
     const auto canvas = makeCanvas(QSize(1, 1));  // which clamps and keeps the values; nothing is painted
     if (!canvas)
@@ -62,7 +66,15 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(QStringLiteral("the canvas does not take this value of %1")
                             .arg(QLatin1String(property->name)));
     }
-    const LogCatcher log;  // the message below says it
+    const LogCatcher log;  // the messages below say it
+    // What would not be read again takes no place: read first, from elsewhere.
+    const QTemporaryDir elsewhere;
+    const QString trial = elsewhere.filePath(QStringLiteral("trial.xbf"));
+    if (!QDBrushManager::saveParamsWithDrawView(canvas->get(), options.name, trial, &wrong))
+        return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
+    if (const auto again = readBrush(trial); !again)
+        return fail(
+            QStringLiteral("%1: could not be read again: %2").arg(options.output, again.problem().what));
     if (!QDBrushManager::saveParamsWithDrawView(canvas->get(), options.name, options.output, &wrong))
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
     return kDone;

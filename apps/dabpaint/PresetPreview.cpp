@@ -4,9 +4,9 @@
 #include <set>
 
 #include "BrushSample.h"
-#include "Brushes/ImageData.h"
 #include "Console.h"
-#include "PictureFile.h"
+#include "OutputFile.h"
+#include "PictureKinds.h"
 #include "PresetCommand.h"
 #include "ToolCanvas.h"
 
@@ -16,18 +16,12 @@ namespace {
 
 const QSize kSampleSize(480, 180);
 
-// As the name says: JPEG, or else PNG.
 int writePicture(const QImage& image, const QString& path) {
-    const QString suffix = QFileInfo(path).suffix().toLower();
     QByteArray bytes;
-    QString wrong;
-    if (suffix == QLatin1String("jpg") || suffix == QLatin1String("jpeg"))
-        bytes = dataOfJPEGFile(image);
-    else
-        wrong = encodePng(image, bytes);
-    if (!wrong.isEmpty() || bytes.isEmpty())
-        return fail(wrong.isEmpty() ? QStringLiteral("cannot encode the picture") : wrong);
-    PictureFile file(path);
+    const QString wrong = encodePicture(image, path, bytes);
+    if (!wrong.isEmpty())
+        return fail(wrong);
+    OutputFile file(path);
     return file.write(bytes)
                ? kDone
                : fail(QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString()));
@@ -54,15 +48,21 @@ int runPresetPreview(const PresetPreviewOptions& options) {
     if (!wrong.isEmpty())
         return refuse(wrong);
     QStringList places;
-    if (!options.sheet && QFileInfo(options.output).isDir())
+    const bool toFolder = !options.sheet && QFileInfo(options.output).isDir();
+    if (toFolder)
         wrong = placesInFolder(options, places);
+    else if (const QString kind = pictureKindRefusal(options.output); !kind.isEmpty())
+        return refuse(QStringLiteral("%1: %2").arg(options.output, kind));
     else if (!options.sheet && options.files.size() > 1)
         wrong =
             QStringLiteral("%1: several previews need a folder that exists, or --sheet").arg(options.output);
-    else if (PictureFile file(options.output); !file.check())
+    else if (OutputFile file(options.output); !file.check())
         wrong = QStringLiteral("%1: cannot be written: %2").arg(options.output, file.errorString());
     if (!wrong.isEmpty())
         return fail(wrong);
+    wrong = overwritingRefusal(toFolder ? places : QStringList(options.output), options.files + plan.files());
+    if (!wrong.isEmpty())
+        return refuse(wrong);
 
     int status = kDone;
     std::vector<NamedSample> samples;

@@ -74,8 +74,8 @@ QByteArray propertiesAsJson() {
         row.insert(QStringLiteral("name"), QLatin1String(property.name));
         row.insert(QStringLiteral("group"), QLatin1String(brushGroupName(property.group)));
         row.insert(QStringLiteral("type"), QLatin1String(brushValueTypeName(property.type())));
-        row.insert(QStringLiteral("low"), bound(property.low));
-        row.insert(QStringLiteral("high"), bound(property.high));
+        row.insert(QStringLiteral("low"), bound(meantRange(property).low));
+        row.insert(QStringLiteral("high"), bound(meantRange(property).high));
         row.insert(QStringLiteral("default"), defaultJson(property));
         row.insert(QStringLiteral("about"), QString::fromUtf8(property.about));
         list.append(row);

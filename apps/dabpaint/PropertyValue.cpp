@@ -2,6 +2,7 @@
 #include "PropertyValue.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QImageReader>
 #include <algorithm>
 #include <cmath>
@@ -20,12 +21,13 @@ Problem expecting(const BrushProperty& property) {
 }
 
 QString rangeText(const BrushProperty& property) {
-    if (std::isfinite(property.low) && std::isfinite(property.high))
-        return QStringLiteral(" from %1 to %2").arg(shortestText(property.low), shortestText(property.high));
-    if (std::isfinite(property.low))
-        return QStringLiteral(" of at least %1").arg(shortestText(property.low));
-    if (std::isfinite(property.high))
-        return QStringLiteral(" of at most %1").arg(shortestText(property.high));
+    const auto [low, high] = meantRange(property);
+    if (std::isfinite(low) && std::isfinite(high))
+        return QStringLiteral(" from %1 to %2").arg(shortestText(low), shortestText(high));
+    if (std::isfinite(low))
+        return QStringLiteral(" of at least %1").arg(shortestText(low));
+    if (std::isfinite(high))
+        return QStringLiteral(" of at most %1").arg(shortestText(high));
     return {};
 }
 
@@ -41,8 +43,10 @@ Result<QVariant> fromNumber(const BrushProperty& property, const SettingValue& v
     const auto* written = std::get_if<double>(&value);
     if (!written || !std::isfinite(float(*written)))
         return expecting(property);
-    // What lies outside the range is cut to it, as by the canvas's own setters.
-    const double number = std::clamp(*written, double(property.low), double(property.high));
+    const double number = *written;
+    const BrushRange range = meantRange(property);
+    if (float(number) < range.low || float(number) > range.high)
+        return expecting(property);
     if (property.type() == BrushValueType::real)
         return QVariant(float(number));
     if (number != std::floor(number) || std::abs(number) > std::numeric_limits<std::int32_t>::max())
@@ -71,7 +75,11 @@ Result<QVariant> fromColor(const BrushProperty& property, const SettingValue& va
 }
 
 Result<QImage> readImage(const QString& folder, const QString& path) {
-    QImageReader reader(QDir(folder).filePath(path));
+    const QFileInfo info(QDir(folder).filePath(path));
+    // A pipe or a device may never end.
+    if (info.exists() && !info.isFile())
+        return Problem{0, {}, QStringLiteral("cannot read the image %1: it is not a plain file").arg(path)};
+    QImageReader reader(info.filePath());
     reader.setDecideFormatFromContent(true);
     QImage image = reader.read();
     if (image.isNull())
@@ -103,6 +111,8 @@ Result<QVariant> fromImages(const BrushProperty& property, const SettingValue& v
         if (!image)
             return image.problem();
         images << *image;
+        if (const QString refusal = pixelsRefusal(pixelsOf(QVariant::fromValue(images))); !refusal.isEmpty())
+            return Problem{0, {}, refusal};
     }
     return QVariant::fromValue(images);
 }
@@ -145,6 +155,30 @@ SettingValue valueOfText(BrushValueType type, const QString& text) {
 }
 
 }  // namespace
+
+BrushRange meantRange(const BrushProperty& property) {
+    if (property.choices)
+        return {float(property.choices->first), float(property.choices->second)};
+    return {property.low, property.high};
+}
+
+qint64 pixelsOf(const QVariant& value) {
+    qint64 pixels = 0;
+    QList<QImage> images;
+    if (value.metaType() == QMetaType::fromType<QImage>())
+        images << value.value<QImage>();
+    else if (value.metaType() == QMetaType::fromType<QList<QImage>>())
+        images = value.value<QList<QImage>>();
+    for (const QImage& image : images)
+        pixels += qint64(image.width()) * image.height();
+    return pixels;
+}
+
+QString pixelsRefusal(qint64 pixels) {
+    return pixels <= kMostPixels
+               ? QString()
+               : QStringLiteral("the images have more than %1 pixels together").arg(kMostPixels);
+}
 
 std::optional<QColor> colorFromText(const QString& text) {
     const QByteArray written = text.trimmed().toLatin1();
@@ -244,6 +278,25 @@ Result<QVariant> propertyValueFromSetting(const BrushProperty& property, const S
     if (const auto* text = std::get_if<QString>(&setting.value))
         return QVariant(*text);
     return expecting(property);
+}
+
+QStringList imageFilesOfText(const BrushProperty& property, const QString& text) {
+    Setting setting;
+    setting.value = valueOfText(property.type(), text);
+    return imageFiles(property, setting, QString());
+}
+
+QStringList imageFiles(const BrushProperty& property, const Setting& setting, const QString& folder) {
+    if (property.type() != BrushValueType::image && property.type() != BrushValueType::images)
+        return {};
+    QStringList files;
+    if (const auto* list = std::get_if<QStringList>(&setting.value))
+        files = *list;
+    else if (const auto* one = std::get_if<QString>(&setting.value))
+        files << *one;
+    for (QString& file : files)
+        file = QDir(folder).filePath(file);
+    return files;
 }
 
 QStringList propertyNames() {

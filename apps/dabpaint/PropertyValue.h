@@ -14,6 +14,12 @@ namespace dabcanvas::dabpaint {
 // "#rrggbb", "#rrggbbaa", a colour's name or "transparent"; none for anything else.
 std::optional<QColor> colorFromText(const QString& text);
 
+// What a number may be: the property's range, or its choices.
+struct BrushRange {
+    float low, high;
+};
+BrushRange meantRange(const BrushProperty& property);
+
 // "a number from 0 to 1", as messages and listings say it.
 QString expectedValue(const BrushProperty& property);
 
@@ -23,12 +29,23 @@ QString colorText(const QColor& color);
 // The property's default as a value one could write; empty where it cannot be written.
 QString defaultText(const BrushProperty& property);
 
+// What lies outside a property's range is refused, as is what is no value at all: a slip is told, not cut to size.
+
+// Pixels of the images of a value; 0 of any other.
+qint64 pixelsOf(const QVariant& value);
+// The message when a recording's images would have this many together.
+QString pixelsRefusal(qint64 pixels);
+
 // A value from the command line, such as "0.5", "yes", "1,0,0" or "tip.png,other.png".
 Result<QVariant> propertyValueFromText(const BrushProperty& property, const QString& text);
 
 // A recording's value; image paths are relative to `folder`. The setting must have a value.
 Result<QVariant> propertyValueFromSetting(const BrushProperty& property, const Setting& setting,
                                           const QString& folder);
+
+// The files that such a value names; none of a property that takes no image.
+QStringList imageFilesOfText(const BrushProperty& property, const QString& text);
+QStringList imageFiles(const BrushProperty& property, const Setting& setting, const QString& folder);
 
 // Every property's name, and what one hears who names another.
 QStringList propertyNames();

@@ -9,7 +9,7 @@
 
 #include "Console.h"
 #include "Numbers.h"
-#include "PictureFile.h"
+#include "OutputFile.h"
 #include "Recognition/Unitily.h"
 #include "Recording.h"
 #include "StrokesCsv.h"
@@ -97,7 +97,7 @@ Tables recognised(const std::vector<NamedStroke>& strokes, bool withOutlines) {
     return all;
 }
 
-int tellUnwritable(const QString& path, const PictureFile& file) {
+int tellUnwritable(const QString& path, const OutputFile& file) {
     return fail(QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString()));
 }
 
@@ -105,14 +105,19 @@ int tellUnwritable(const QString& path, const PictureFile& file) {
 
 int runShapes(const ShapesOptions& options) {
     const bool withOutlines = !options.outlines.isEmpty();
-    PictureFile output(options.output);
-    PictureFile outlines(options.outlines);
+    const QString wrong = overwritingRefusal(
+        withOutlines ? QStringList{options.output, options.outlines} : QStringList(options.output),
+        options.inputs);
+    if (!wrong.isEmpty())
+        return refuse(wrong);
+    OutputFile output(options.output);
+    OutputFile outlines(options.outlines);
     if (!output.check())
         return tellUnwritable(options.output, output);
     if (withOutlines && !outlines.check())
         return tellUnwritable(options.outlines, outlines);
     Tables tables{kHeader, kOutlinesHeader};
-    for (const QString& path : options.inputs) {
+    for (const QString& path : options.inputs.isEmpty() ? QStringList(QStringLiteral("-")) : options.inputs) {
         const auto bytes = readFile(path);
         if (!bytes)
             return fail(bytes.problem().text(path));

@@ -8,9 +8,9 @@
 namespace dabcanvas::dabpaint {
 
 struct ShapesOptions {
-    QStringList inputs;  // files, or "-" for standard input
-    QString output;      // "-" for standard output
-    QString outlines;    // empty for none
+    QStringList inputs;                    // files, or "-" for standard input; none means the same
+    QString output = QStringLiteral("-");  // "-" for standard output
+    QString outlines;                      // empty for none
 };
 
 int runShapes(const ShapesOptions& options);

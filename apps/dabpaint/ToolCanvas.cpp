@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ToolCanvas.h"
 
-#include <QBuffer>
-#include <QImageWriter>
-
 #include "LogCatcher.h"
 
 namespace dabcanvas::dabpaint {
@@ -21,14 +18,6 @@ Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size) {
     if (!log.lines().isEmpty())
         wrong += QStringLiteral(" (%1)").arg(log.lines().first());
     return Problem{0, {}, wrong};
-}
-
-QString encodePng(const QImage& image, QByteArray& bytes) {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "png");
-    return writer.write(image) ? QString()
-                               : QStringLiteral("cannot encode the picture: %1").arg(writer.errorString());
 }
 
 }  // namespace dabcanvas::dabpaint

@@ -33,7 +33,4 @@ void paintSamples(QDDrawCanvas& canvas, const std::vector<RecordedSample>& sampl
     }
 }
 
-// The message when it cannot be done.
-QString encodePng(const QImage& image, QByteArray& bytes);
-
 }  // namespace dabcanvas::dabpaint

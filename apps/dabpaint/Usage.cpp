@@ -44,16 +44,20 @@ constexpr const char* kPaint = R"(NAME
 SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [--size WxH] [--brush FILE.xbf]
                    [--set PROPERTY=VALUE]... [--background COLOUR]
-                   [--undo N] [--recognise] [--repeatable] [--stats]
+                   [--undo N] [--most-dabs N] [--recognise] [--repeatable]
+                   [--stats]
 
 DESCRIPTION
     Paints the strokes of every RECORDING, in order, onto one canvas and writes
-    it as PNG. A RECORDING of - is standard input. The picture appears under its
-    name only once it is whole. Painting needs OpenGL 3.2, but no window.
+    the picture. A RECORDING of - is standard input. The picture appears under its
+    name only once it is whole, and never takes the place of a file that is read.
+    Painting needs OpenGL 3.2, but no window.
 
 OPTIONS
     -o OUT.png, --output OUT.png
-        Where to write the picture; - is standard output.
+        Where to write the picture; - is standard output. The suffix says the
+        kind, any that Qt can write here: .png, .jpg, .bmp, .ppm and others. PNG
+        without one. Of kinds that keep no transparency, on white.
 
     --size WxH
         Size of the canvas in pixels, at most 16384 a side and 268435456 in all.
@@ -72,7 +76,8 @@ OPTIONS
         strokes, whatever a recording sets the property to. VALUE is a number,
         yes or no (true/false, 1/0), a colour as #rrggbb or #rrggbbaa or its
         name, pressure,altitude,speed (three numbers) for a control, the path of
-        an image, or several paths with commas between them. May be repeated.
+        an image, or several paths with commas between them. What lies outside
+        the property's range is refused. May be repeated.
 
     --background COLOUR
         What the canvas is cleared with: #rrggbb, #rrggbbaa, a name, or
@@ -81,6 +86,10 @@ OPTIONS
 
     --undo N
         Takes the last N strokes back, by undo, before the picture is written.
+
+    --most-dabs N
+        Refuses recordings that would take more than about N dabs, 50000000
+        unless given, before anything is painted.
 
     --recognise
         Paints, in place of each stroke, the line, fold line, triangle, rectangle,
@@ -221,8 +230,8 @@ OPTIONS
         property and part of a control (null for none), method, type and value.
 
     -o FILE, --output FILE
-        The preset to write; or the picture, as JPEG where the name ends in .jpg,
-        else as PNG; or an existing folder, which gets a NAME.png for NAME.xbf.
+        The preset to write; or the picture, of the kind that its suffix says; or
+        an existing folder, which gets a NAME.png for NAME.xbf.
 
     --name NAME
         What the brush is called.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
+#include <QCommandLineParser>
 #include <QRegularExpression>
 
 #include "ImageFiles.h"
@@ -21,41 +22,37 @@ QString takeSize(const QString& text, std::optional<QSize>& size) {
     return {};
 }
 
+QString imageFault(const QStringList& names, bool sized) {
+    if (names.size() > 1)
+        return QStringLiteral("one image can be opened, not \"%1\" as well").arg(names[1]);
+    if (names.contains(QString()))
+        return QStringLiteral("the image's name is empty");
+    return sized && !names.isEmpty()
+               ? QStringLiteral("--size is for a new canvas; an image has a size of its own")
+               : QString();
+}
+
 }  // namespace
 
 CommandLine readCommandLine(const QStringList& arguments) {
+    QCommandLineParser parser;
+    const QString help = QStringLiteral("help"), version = QStringLiteral("version"),
+                  size = QStringLiteral("size");
+    parser.addOptions(
+        {{{QStringLiteral("h"), help}, QString()}, {version, QString()}, {size, QString(), size}});
     CommandLine line;
-    const auto takeImage = [&](const QString& name) {
-        if (name.isEmpty())
-            line.fault = QStringLiteral("the image's name is empty");
-        else if (!line.image.isEmpty())
-            line.fault = QStringLiteral("one image can be opened, not \"%1\" as well").arg(name);
-        line.image = name;
-    };
-    bool optionsEnded = false;
-    for (qsizetype i = 0; i < arguments.size() && line.fault.isEmpty(); ++i) {
-        const QString& argument = arguments[i];
-        if (optionsEnded || !argument.startsWith(QLatin1Char('-'))) {
-            takeImage(argument);
-        } else if (argument == QLatin1String("--")) {
-            optionsEnded = true;
-        } else if (argument == QLatin1String("--help") || argument == QLatin1String("-h")) {
-            line.help = true;
-        } else if (argument == QLatin1String("--version")) {
-            line.version = true;
-        } else if (argument == QLatin1String("--size")) {
-            if (i + 1 == arguments.size())
-                line.fault = QStringLiteral("--size needs a value");
-            else
-                line.fault = takeSize(arguments[++i], line.size);
-        } else if (argument.startsWith(QLatin1String("--size="))) {
-            line.fault = takeSize(argument.mid(7), line.size);
-        } else {
-            line.fault = QStringLiteral("unknown option %1; see dabpainter --help").arg(argument);
-        }
+    // The parser expects the program's name first.
+    if (!parser.parse(QStringList(QStringLiteral("dabpainter")) + arguments)) {
+        line.fault = QStringLiteral("%1; see dabpainter --help").arg(parser.errorText().chopped(1));
+        return line;
     }
-    if (line.fault.isEmpty() && line.size && !line.image.isEmpty())
-        line.fault = QStringLiteral("--size is for a new canvas; an image has a size of its own");
+    line.help = parser.isSet(help);
+    line.version = parser.isSet(version);
+    line.image = parser.positionalArguments().value(0);
+    if (parser.isSet(size))
+        line.fault = takeSize(parser.value(size), line.size);
+    if (line.fault.isEmpty())
+        line.fault = imageFault(parser.positionalArguments(), line.size.has_value());
     return line;
 }
 

@@ -5,9 +5,10 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QImageWriter>
-#include <QSaveFile>
 #include <algorithm>
+
+#include "OutputFile.h"
+#include "PictureKinds.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -86,30 +87,19 @@ bool isOpaque(const QImage& image) {
     return true;
 }
 
-QString writeWholeFile(const QString& path, const std::function<bool(QIODevice&)>& write) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    // What is still in the buffer must go before commit(), which does not look at whether that went well. Of a disk
-    // that fills up, only the second attempt tells why.
-    if (write(file) && (file.flush() || file.flush()))
-        return file.commit() ? QString() : file.errorString();
-    if (file.error() == QFileDevice::NoError) {  // nor does a write that was cut short
-        file.putChar(0);
-        file.flush();
-    }
-    const QString why =
-        file.error() != QFileDevice::NoError ? file.errorString() : tr("it cannot be encoded");
-    file.cancelWriting();
-    return why;
-}
-
-QString writePngFile(const QString& path, const QImage& image) {
-    const QString why =
-        image.isNull()
-            ? tr("the canvas cannot be read")
-            : writeWholeFile(path, [&](QIODevice& file) { return QImageWriter(&file, "png").write(image); });
-    return why.isEmpty() ? why : tr("\"%1\" cannot be saved: %2.").arg(shown(path), why);
+QString writeImageFile(const QString& path, const QImage& image) {
+    const auto failed = [&](const QString& why) {
+        return tr("\"%1\" cannot be saved: %2.").arg(shown(path), why);
+    };
+    if (image.isNull())
+        return failed(tr("the canvas cannot be read"));
+    if (const QString wrong = pictureKindRefusal(path); !wrong.isEmpty())
+        return failed(wrong);
+    QByteArray bytes;
+    if (const QString wrong = encodePicture(image, path, bytes); !wrong.isEmpty())
+        return failed(wrong);
+    OutputFile file(path);
+    return file.write(bytes) ? QString() : failed(file.errorString());
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -27,10 +27,7 @@ ReadImage readImageFile(const QString& path);
 // Whether no pixel of it lets anything through.
 bool isOpaque(const QImage& image);
 
-// The file appears, or is replaced, only once all of it is on the disk. Why it is not, or nothing.
-QString writeWholeFile(const QString& path, const std::function<bool(QIODevice&)>& write);
-
-// As PNG. The fault, or nothing.
-QString writePngFile(const QString& path, const QImage& image);
+// Of the kind that the suffix says; the file appears, or is replaced, only once it is whole. The fault, or nothing.
+QString writeImageFile(const QString& path, const QImage& image);
 
 }  // namespace dabcanvas::dabpainter

@@ -156,13 +156,14 @@ bool MainWindow::saveTo(const QString& path) {
         return false;
     const QString fault = [&] {
         const BusyCursor busy;
-        return writePngFile(path, view()->image());
+        return writeImageFile(path, view()->image());
     }();
     if (!fault.isEmpty()) {
         _prompts.tell(this, fault);
         return false;
     }
     setPath(QFileInfo(path).absoluteFilePath());
+    _savedPath = _path;
     markSaved();
     statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), 3000);
     return true;
@@ -184,16 +185,16 @@ void MainWindow::place() {
         placeImage(paths.first());
 }
 
-// Only PNG is written, so that a picture of another kind asks for a name first.
+// PNG keeps everything; a picture opened from another kind is not replaced by a poorer copy before a name was asked for.
 bool MainWindow::save() {
-    return isPng(_path) ? saveTo(_path) : saveAs();
+    return isPng(_path) || (!_path.isEmpty() && _path == _savedPath) ? saveTo(_path) : saveAs();
 }
 
 bool MainWindow::saveAs() {
     if (!view() || !_pointer->isIdle())
         return false;
     QString suggested = _path.isEmpty() ? tr("Untitled") : _path;
-    if (!isPng(suggested))
+    if (!isPng(suggested) && suggested != _savedPath)
         suggested = QFileInfo(suggested).dir().filePath(QFileInfo(suggested).completeBaseName()) +
                     QStringLiteral(".png");
     const QString path = _prompts.pickSaveName(this, suggested);
@@ -204,6 +205,7 @@ bool MainWindow::saveAs() {
 
 void MainWindow::setPath(const QString& path) {
     _path = path;
+    _savedPath.clear();
     const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
     setWindowTitle(QStringLiteral("%1[*] – Dabpainter").arg(name));
 }

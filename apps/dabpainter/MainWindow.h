@@ -118,7 +118,8 @@ private:
     SessionFolder _session;
     BrushModel _brush;
     CanvasPlan _plan;
-    QString _path;  // where Save writes; empty until there is one
+    QString _path;       // where Save writes; empty until there is one
+    QString _savedPath;  // the same while it is the last one written
 
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;

@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 #include <algorithm>
 
+#include "OutputFile.h"
 #include "ImageFiles.h"
 #include "Preset/QDBrushManager.h"
 
@@ -255,10 +256,9 @@ QString PresetLibrary::importFile(const QString& path, PresetId& now) {
         }
     }
     const QString target = freePath(source.completeBaseName());
-    const QString why =
-        writeWholeFile(target, [&](QIODevice& file) { return file.write(content) == content.size(); });
-    if (!why.isEmpty())
-        return unwritable(target, why);
+    OutputFile file(target);
+    if (!file.write(content))
+        return unwritable(target, file.errorString());
     now.path = target;
     refresh();
     return {};

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QUrl>
 
+#include "PictureKinds.h"
+
 namespace dabcanvas::dabpainter {
 
 namespace {
@@ -69,7 +71,10 @@ QString pickName(QWidget* parent, const QString& title, const QString& suggested
 }
 
 QString pickSaveName(QWidget* parent, const QString& suggested) {
-    return pickName(parent, tr("Save As"), suggested, tr("PNG image (*.png)"), QStringLiteral("png"));
+    const QString others = QStringLiteral("*.") + writtenPictureSuffixes().join(QStringLiteral(" *."));
+    return pickName(parent, tr("Save As"), suggested,
+                    tr("PNG image (*.png)") + QStringLiteral(";;") + tr("Images (%1)").arg(others),
+                    QStringLiteral("png"));
 }
 
 QString pickBrushName(QWidget* parent, const QString& suggested) {

@@ -18,18 +18,18 @@ CommandLine readWords(const char* words) {
 TEST(CommandLineTest, PaintTakesItsOptionsInAnyOrder) {
     const auto line = readWords(
         "paint a.dat --size=30x40 --set radius=5 -o out.png --set textureImages=a=b.png,c.png b.json "
-        "--background #10203040 --repeatable --stats -- -odd.dat");
+        "--background #10203040 --repeatable --most-dabs 9 --stats -- -odd.dat");
     const auto* paint = std::get_if<PaintOptions>(&line);
     ASSERT_NE(paint, nullptr);
     EXPECT_EQ(paint->recordings,
-              (QStringList{QStringLiteral("a.dat"), QStringLiteral("b.json"), QStringLiteral("-odd.dat")}));
+              (QStringList{QStringLiteral("a.dat"), QStringLiteral("b.json"), QStringLiteral("./-odd.dat")}));
     EXPECT_EQ(paint->output, QStringLiteral("out.png"));
     EXPECT_EQ(paint->size, QSize(30, 40));
     ASSERT_EQ(paint->settings.size(), 2u);
     EXPECT_EQ(paint->settings[1].property, QStringLiteral("textureImages"));
     EXPECT_EQ(paint->settings[1].value, QStringLiteral("a=b.png,c.png"));
     EXPECT_EQ(paint->background, QColor(0x10, 0x20, 0x30, 0x40));
-    EXPECT_TRUE(paint->repeatable && paint->stats);
+    EXPECT_TRUE(paint->repeatable && paint->stats && paint->mostDabs == 9);
 }
 
 TEST(CommandLineTest, PresetCommandsTakeTheirOwnOptions) {
@@ -78,10 +78,12 @@ const BadLine kBadLines[] = {
     {"", "a command is missing"},
     {"pain", "did you mean paint?"},
     {"help pait", "did you mean paint?"},
-    {"paint -o a.png", "needs a recording"},
-    {"paint a.dat", "needs -o"},
-    {"paint a.dat -o", "-o needs a value"},
-    {"paint a.dat --output=", "name is empty"},
+    {"paint -o a.png", "RECORDING is required; see dabpaint help paint"},
+    {"paint a.dat", "--output is required"},
+    {"paint a.dat -o", "--output: 1 required value missing"},
+    {"paint a.dat --output=", "--output: the name is empty"},
+    {"paint a.dat -o b.png --undo -1", "--undo: expected a whole number of at least 0"},
+    {"paint a.dat -o b.png --most-dabs 0", "--most-dabs: expected a whole number of at least 1"},
     {"paint a.dat -o b.png --siez 4x4", "unknown option --siez; did you mean --size"},
     {"paint a.dat -o b.png --stats=yes", "--stats takes no value"},
     {"paint a.dat -o - --stats", "standard output"},
@@ -93,20 +95,19 @@ const BadLine kBadLines[] = {
     {"paint a.dat -o b.png --size 99999999999999999999x5", "WIDTHxHEIGHT"},
     {"paint a.dat -o b.png --set radius", "PROPERTY=VALUE"},
     {"paint a.dat -o b.png --set =3", "PROPERTY=VALUE"},
-    {"paint a.dat -o b.png --background #12", "--background is"},
+    {"paint a.dat -o b.png --background #12", "--background: expected #rrggbb"},
     {"paint a.dat -o b.png --brush=", "brush's name is empty"},
     {"preset", "show, make or preview"},
-    {"preset shw a.xbf", "\"preset shw\"; did you mean show"},
-    {"preset show", "needs an XBF file"},
+    {"preset shw a.xbf", "\"preset shw\"; did you mean preset show"},
+    {"preset show", "FILE is required; see dabpaint help preset"},
     {"preset show a.xbf --name b", "unknown option --name"},
-    {"preset make -o a.xbf", "needs --name"},
-    {"preset make --name a", "needs -o FILE.xbf"},
+    {"preset make -o a.xbf", "--name is required"},
+    {"preset make --name a", "--output is required"},
     {"preset make --name a -o -", "not to standard output"},
     {"preset make b.xbf -o a.xbf --name a", "takes no \"b.xbf\""},
-    {"preset preview a.xbf", "needs -o OUT.png"},
-    {"preset preview -o a.png", "needs an XBF file"},
-    {"dabs", "needs an input"},
-    {"dabs a.json b.json", "one input"},
+    {"preset preview -o a.png", "FILE is required"},
+    {"dabs", "INPUT is required"},
+    {"dabs a.json b.json", "dabs takes no \"b.json\""},
     {"dabs a.json --heder", "did you mean --header"},
     {"properties x", "takes no"},
 };

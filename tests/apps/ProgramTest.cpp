@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include "PictureFile.h"
+#include "OutputFile.h"
 #include "apps/Program.h"
 #include "apps/Samples.h"
 #ifdef Q_OS_UNIX
@@ -51,8 +51,40 @@ TEST_F(ProgramTest, FailedWorkEndsWithOneAndLeavesNoFile) {
     expectOneLine(paintText(R"({"strokes": [{"set": {"radius": "big"}, "samples": [[1, 1]]}]})"), 1,
                   "a:1: strokes[0].set.radius: expected a number from 2");
     expectOneLine(paintText("0 20000 5 1\n"), 1, "a: 20032x37 is too large");
+    // 64 dabs at 131072 places: a way of 2e5 pixels with steps of half a pixel has more.
+    expectOneLine(paintText(R"({"canvas": {"width": 9, "height": 9}, "strokes": [{"set": {"radius": 2,
+        "distributionCount": 64}, "samples": [[0, 0], [1e5, 1e5], [0, 0], [1e5, 1e5], [0, 0], [1e5, 1e5], [0, 0]]}]})"),
+                  1, "a: about 50331655 dabs would have to be drawn, more than 50000000; --most-dabs");
+    expectOneLine(paint(good, path("a.gif")), 2, "a.gif: no picture is written as .gif; the kinds are bmp, ");
     EXPECT_EQ(filesThere(), QStringList(QStringLiteral("a")));
 }
+
+#ifdef Q_OS_UNIX
+// By whatever name: a.json, its link, and what the recording names.
+TEST_F(ProgramTest, WhatIsReadIsNeverOverwritten) {
+    QImage tip(4, 4, QImage::Format_ARGB32);
+    ASSERT_TRUE(tip.save(path("tip.png")));
+    write("a.json", R"({"strokes": [{"set": {"maskImage": "tip.png"}, "samples": [[1, 1]]}]})");
+    write("plain.dat", "0 1 1 1\n");
+    write("t.csv", "sample_id,x,y\n");
+    write("b.xbf", "");
+    for (const char* name : {"a.json", "b.xbf", "t.csv", "tip.png"})
+        ASSERT_TRUE(QFile::link(path(name), path("link") + QLatin1String(name).right(4)));
+    const auto before = filesThere();
+    for (const char* words :
+         {"paint %a.json -o %linkjson", "paint %a.json -o %./tip.png", "paint %a.json -o %link.png",
+          "paint %plain.dat --set maskImage=%tip.png -o %tip.png", "shapes %t.csv -o %link.csv",
+          "shapes %t.csv -o %u.csv --outlines %./u.csv",
+          "preset make --name a --brush %b.xbf -o %link.xbf"}) {
+        const QString line =
+            QString::fromLatin1(words).replace(QLatin1Char('%'), _folder.path() + QLatin1Char('/'));
+        expectOneLine(
+            runProgram(line.split(QLatin1Char(' '))), 2,
+            line.contains(QLatin1String("u.csv")) ? "two results would both go to" : "is what is read");
+    }
+    EXPECT_EQ(filesThere(), before);
+}
+#endif
 
 TEST_F(ProgramTest, HelpVersionAndProperties) {
     for (const auto& [words, start] :
@@ -79,19 +111,24 @@ TEST_F(ProgramTest, DabsPrintsRowsAndRefusesWithTheLine) {
 TEST_F(ProgramTest, FullOutputIsAFailure) {
     if (!QFile::exists(QStringLiteral("/dev/full")))
         GTEST_SKIP() << "the system has no /dev/full";
-    QProcess program;
-    program.setStandardOutputFile(QStringLiteral("/dev/full"));
-    program.start(QStringLiteral(DABPAINT_PROGRAM), {QStringLiteral("properties")});
-    ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
-    EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr("cannot write to standard output"));
+    for (const auto& words :
+         {QStringList{QStringLiteral("properties")}, QStringList{QStringLiteral("shapes")}}) {
+        QProcess program;
+        program.setStandardOutputFile(QStringLiteral("/dev/full"));
+        program.start(QStringLiteral(DABPAINT_PROGRAM), words);
+        program.write("sample_id,x,y\n");
+        program.closeWriteChannel();
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitCode(), 1);
+        EXPECT_THAT(program.readAllStandardError().toStdString(), HasSubstr(std::strerror(ENOSPC)));
+    }
 }
 
 #ifdef Q_OS_UNIX
 TEST_F(ProgramTest, AFullDiskLeavesTheOldPicture) {
     const QString picture = write("a.png", "old");
     for (const qsizetype size : {3'000, 100'000}) {  // found out when flushing, and when writing
-        PictureFile file(picture);
+        OutputFile file(picture);
         const bool written = [&] {
             const FullDisk full;
             return file.write(QByteArray(size, 'p'));

@@ -55,8 +55,8 @@ const Written kWritten[] = {
     {"radius", "12.5", "float 12.5"},
     {"radius", "1e1", "float 10"},
     {"radius", "2", "float 2"},
-    {"radius", "1.9", "float 2"},
-    {"radius", "1281", "float 1280"},
+    {"radius", "1.9", nullptr},
+    {"radius", "1e9", nullptr},
     {"radius", "12,5", nullptr},
     {"radius", "12px", nullptr},
     {"radius", "", nullptr},
@@ -66,7 +66,7 @@ const Written kWritten[] = {
     {"radian", "1e39", nullptr},
     {"blendType", "5", "int 5"},
     {"blendType", "5.5", nullptr},
-    {"blendType", "3e9", nullptr},
+    {"blendType", "99999", nullptr},
     {"flipX", "yes", "bool true"},
     {"flipX", "FALSE", "bool false"},
     {"flipX", "0", "bool false"},
@@ -101,9 +101,20 @@ TEST(PropertyValueTest, ImagesAreFoundBesideTheRecording) {
     ASSERT_TRUE(images);
     EXPECT_EQ(images->value<QList<QImage>>().size(), 2);
 
-    const auto missing = propertyValueFromText(named("textureImages"), QStringLiteral("none.png"));
-    ASSERT_FALSE(missing);
-    EXPECT_THAT(missing.problem().what.toStdString(), ::testing::HasSubstr("cannot read the image none.png"));
+    // A few bytes that name large images again and again.
+    QImage large(5700, 5700, QImage::Format_Mono);
+    large.fill(0);
+    ASSERT_TRUE(large.save(folder.filePath(QStringLiteral("large.png"))));
+    setting.value = QStringList(9, QStringLiteral("large.png"));
+    const auto many = propertyValueFromSetting(named("textureImages"), setting, folder.path());
+    EXPECT_TRUE(!many && many.problem().what.contains(QStringLiteral("pixels together")));
+
+    for (const QString& text :
+         {QStringLiteral("none.png"), QStringLiteral("/dev/zero: it is not a plain file")}) {
+        const auto bad = propertyValueFromText(named("textureImages"), text.section(QLatin1Char(':'), 0, 0));
+        ASSERT_FALSE(bad);
+        EXPECT_TRUE(bad.problem().what.contains(QStringLiteral("cannot read the image ") + text));
+    }
 }
 
 // What `properties` prints as a default must be a value that `paint --set` takes, and mean that default.

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QMouseEvent>
 #include <QPointingDevice>
 #include <QStatusBar>
@@ -331,6 +332,10 @@ TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {
     EXPECT_EQ(pixel(5, 5).alpha(), 128);
     EXPECT_FALSE(_window->isUnsaved());
     EXPECT_TRUE(_window->saveTo(file));
+    EXPECT_TRUE(_window->saveTo(path(QStringLiteral("p.jpg"))));
+    EXPECT_EQ(QImageReader::imageFormat(path(QStringLiteral("p.jpg"))), "jpeg");
+    EXPECT_FALSE(_window->saveTo(path(QStringLiteral("p.gif"))));
+    EXPECT_TRUE(_told.value(0).contains(QStringLiteral("no picture is written as .gif")));
 }
 
 TEST_F(MainWindowTest, APlacedImageIsInTheMiddleAndFits) {

@@ -3,10 +3,10 @@
 
 #include <QFile>
 
-#include "ESRender/Utilities/ESResource.h"
+#include "ESRender/Utilities/ShaderFiles.h"
 
 QString ESShaderTools::readFile(const QString& name) {
-    return readFileWithPath(dabcanvas::resourcePath(name));
+    return readFileWithPath(dabcanvas::shaderPath(name));
 }
 
 QString ESShaderTools::readFileWithPath(const QString& path) {

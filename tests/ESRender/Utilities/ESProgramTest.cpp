@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/Utilities/ESProgram.h"
 
+#include <QDir>
+#include <QTemporaryDir>
+
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESGLTexture.h"
+#include "ESRender/Utilities/ESResource.h"
+#include "ESRender/Utilities/ShaderFiles.h"
 #include "support/GLTest.h"
 #include "support/LogCapture.h"
 #include "support/Named.h"
@@ -51,6 +56,25 @@ TEST_F(ESProgramTest, LocationsAreAskedOfGLOnceMissingOnesToo) {
     EXPECT_EQ(program->uniformIndex("u_shift"), -1);
     EXPECT_TRUE(log.has(QStringLiteral(
         "GLError GL_INVALID_OPERATION set in File:SRC_New/ESRender/Utilities/ESProgram Line:222\n")));
+}
+
+TEST_F(ESProgramTest, AShaderFileThatDoesNotCompileIsNamedAndTheEmbeddedOneUsed) {
+    const QString name = QStringLiteral("Shaders.bundle/BaseLine_Mac.fsh");
+    const QString embedded = dabcanvas::resourcePathIn(QString(), name);
+    const std::pair<QString, bool> kTexts[] = {
+        {kFragment, true}, {kNonsense, false}, {QString(), false}, {QStringLiteral("#version 150\n"), false}};
+    for (const auto& [text, usable] : kTexts) {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Shaders.bundle")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0);
+        file.close();
+        LogCapture log;
+        EXPECT_EQ(dabcanvas::shaderPathIn(folder.path(), name), usable ? file.fileName() : embedded);
+        EXPECT_EQ(dabcanvas::shaderPathIn(folder.path(), name), usable ? file.fileName() : embedded);
+        EXPECT_EQ(log.lines().size(), usable ? 0 : 1);
+        EXPECT_EQ(log.has(file.fileName()), !usable);
+    }
 }
 
 TEST_F(ESProgramTest, DestroyingLeavesNoObjectBehind) {
