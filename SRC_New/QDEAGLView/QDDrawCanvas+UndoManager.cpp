@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Undo and redo: whole pictures of the canvas, kept by an ImagesUndoManager.
-#include <QDateTime>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <new>
@@ -12,8 +12,9 @@
 
 namespace {
 
+// Seconds of a clock that nobody sets back, which would hold steps back until it had caught up.
 double now() {
-    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000;
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
 // Null when memory is short.
@@ -170,8 +171,7 @@ QByteArray QDDrawCanvas::markAction() {
     _leafDrawView->finishPending();
     settleSketch();
     const double time = now();
-    if (!_edited || (_autoMark && time - _preTimeInterval < static_cast<double>(_markTimeInterval) &&
-                     time >= _preTimeInterval)) {
+    if (!_edited || (_autoMark && time - _preTimeInterval < static_cast<double>(_markTimeInterval))) {
         return {};
     }
     ImagesUndoManager& images = history();

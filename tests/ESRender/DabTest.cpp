@@ -61,26 +61,6 @@ TEST(DabTest, CountsStaySensible) {
 
 // Thin lines
 
-TEST(DabTest, ThinPointsGrowOrFlowLess) {
-    struct Row {
-        int bits;
-        float size, half, flow;
-    };
-    const Row rows[] = {{0, 1, 0.5f, 0.8f},           {kNoThinDabs, 1, 1.5f, 0.8f},
-                        {kNoThinDabs, 7, 3.5f, 0.8f}, {kThinFlow, 1.5f, 0.75f, 0.4f},
-                        {kThinFlow, 30, 15, 0.8f},    {kNoThinDabs | kThinFlow, 1.5f, 1.5f, 0.4f}};
-    for (const Row& row : rows) {
-        DabMaker maker = makerWith([&](DabSettings& s) {
-            s.lineProcessType = row.bits;
-            s.flow = 0.8f;
-        });
-        // A thin point before it has no influence.
-        const Dab dab = dabsOf(maker, {pointAt(5, 5, 1), pointAt(5, 5, row.size)}).back();
-        EXPECT_FLOAT_EQ(dab.halfSize, row.half) << "bits " << row.bits << ", size " << row.size;
-        EXPECT_FLOAT_EQ(dab.flow, row.flow) << "bits " << row.bits << ", size " << row.size;
-    }
-}
-
 // Direction
 
 TEST(DabTest, DirectionFollowsTheStrokeFromItsFirstDab) {

@@ -47,63 +47,6 @@ TEST_F(StrokeTest, StoresReachTheirFieldAndNotPastTheRecord) {
     lpSetParaObj(&_line);
 }
 
-// Two canvases draw a stroke each, taking turns at every sample.
-TEST_F(StrokeTest, InterleavedStrokesDoNotDisturbEachOther) {
-    const auto place = [](int stroke, int i) {
-        const float t = static_cast<float>(i);
-        return stroke == 0 ? LPPosition{t * 9.0f, t * t}
-                           : LPPosition{300.0f - t * 25.0f, 40.0f * std::sin(t)};
-    };
-    LPLineParams lines[2] = {_line, _line};
-    lines[0].startRadius = 0.2f;
-    lines[1].endRadius = 0.3f;
-    lines[1].radiusControl.speed = 0.8f;
-    const auto scatter = [](const Dabs& dabs) {
-        Dabs placed = dabs;
-        for (LPPoint& dab : placed) {
-            dab.position = PositionTingle(dab, 1.0f, false, 3, 0.0f, {});
-        }
-        return placed;
-    };
-    constexpr int kSamples = 14;
-    Dabs alone[2];
-    Dabs together[2];
-    SetDebugModel(1);
-    const auto step = [&](int stroke, int i, Dabs& out) {
-        lpSetParaObj(&lines[stroke]);
-        if (i == 0) {
-            lpStartLine(place(stroke, 0));
-            return;
-        }
-        const Dabs more = scatter(append(place(stroke, i), 0.5f, 0.0f, i + 1 == kSamples - stroke));
-        out.insert(out.end(), more.begin(), more.end());
-    };
-    const LPSharedState fresh;
-    for (int stroke = 0; stroke < 2; ++stroke) {
-        lpSetSharedState(fresh);
-        for (int i = 0; i < kSamples - stroke; ++i) {
-            step(stroke, i, alone[stroke]);
-        }
-    }
-    LPSharedState states[2];
-    for (int i = 0; i < kSamples; ++i) {
-        for (int stroke = 0; stroke < 2; ++stroke) {
-            if (i < kSamples - stroke) {
-                lpSetSharedState(states[stroke]);
-                step(stroke, i, together[stroke]);
-                states[stroke] = lpSharedState();
-            }
-        }
-    }
-    for (int stroke = 0; stroke < 2; ++stroke) {
-        ASSERT_EQ(alone[stroke].size(), together[stroke].size());
-        EXPECT_EQ(std::memcmp(alone[stroke].data(), together[stroke].data(),
-                              alone[stroke].size() * sizeof(LPPoint)),
-                  0);
-    }
-    lpSetParaObj(&_line);
-}
-
 TEST_F(StrokeTest, RandomNumbersKeepTheirRangeAndShape) {
     lpRandom();
     std::srand(7);

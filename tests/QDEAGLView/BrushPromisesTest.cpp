@@ -122,7 +122,7 @@ Stroke speedUp() {
     return stroke;
 }
 
-void paint(QDDrawCanvas& canvas, const Stroke& stroke) {
+void paint(QDDrawCanvas& canvas, const Stroke& stroke, const std::function<void(std::size_t)>& after = {}) {
     for (std::size_t i = 0; i < stroke.size(); ++i) {
         const auto [x, y, pressure, altitude] = stroke[i];
         if (i == 0) {
@@ -131,6 +131,9 @@ void paint(QDDrawCanvas& canvas, const Stroke& stroke) {
             canvas.drawingWithMoveToPoint({x, y}, pressure, altitude);
         } else {
             canvas.drawingWithEndPoint({x, y}, pressure, altitude);
+        }
+        if (after) {
+            after(i);
         }
     }
 }
@@ -152,6 +155,13 @@ QImage ball() {
     for (int y = 0; y < 32; ++y) {
         const int half = static_cast<int>(std::sqrt(256 - (y - 15.5) * (y - 15.5)) + 0.5);
         fillRect(tip, QRect(16 - half, y, 2 * half, 1), Qt::black);
+    }
+    return tip;
+}
+QImage stripes() {
+    QImage tip = solidImage({64, 64});
+    for (int x = 0; x < 64; x += 2) {
+        fillRect(tip, QRect(x, 0, 1, 64), Qt::black);
     }
     return tip;
 }
@@ -283,6 +293,8 @@ const Promise kPromises[] = {
      [](P l, P m) { return near(l.marks[2].ratio(), 1, 0.1) && near(m.marks[2].ratio(), 0.5, 0.1); }, [](C& c) { disc(c); c.setTextureType(3); }},
     {"textureImages", "the shape given, upright", images({block(32)}), images({letterL()}),
      [](P l, P m) { return near(l.marks[2].leanX, 0, 0.02) && m.marks[2].leanX < -0.1 && m.marks[2].leanY > 0.05; }},
+    {"textureImages_fine", "fine stripes become an even grey", images({block(64)}), images({stripes()}),
+     [](P l, P m) { return span(l.marks, alphaOf).low > 0.99 && near(m.marks[2].weight, 128, 4) && span(m.marks, alphaOf).high < 0.6; }},
     {"flipX", "left to right and not top to bottom", false, true,
      [](P l, P m) { return near(m.marks[2].leanX, -l.marks[2].leanX, 0.02) && near(m.marks[2].leanY, l.marks[2].leanY, 0.02); }, apart},
     {"flipY", "top to bottom and not left to right", false, true,
@@ -309,6 +321,8 @@ const Promise kPromises[] = {
      [](P l, P m) { return l.marks[2].weight < 4.5 && near(m.marks[2].weight, 9, 0.5); }, [](C& c) { whole(c); c.setRadius(2); c.setPointsDistance(20); }},
     {"lineProcessType_pale", "4: thinner is paler", 0, 4,
      [](P l, P m) { return near(m.marks[2].weight, l.marks[2].weight * 2 / 3, 0.2); }, [](C& c) { whole(c); c.setRadius(2); c.setPointsDistance(20); }},
+    {"lineProcessType_both", "6: as wide, and as pale as a thin one", 2, 6, [](P l, P m) { return near(l.marks[2].weight, 9, 0.5) && near(m.marks[2].weight, 6, 0.5); },
+     [](C& c) { whole(c); c.setRadius(2); c.setPointsDistance(20); }},
     {"minRadius", "in the middle of smallest and largest", 0.5f, 1.0f,
      [](P l, P m) { return near(widthOf(l.marks[4]), 12, 1) && near(widthOf(m.marks[4]), 16, 0); }},
     {"maxRadius", "in the middle of smallest and largest", 0.5f, 1.0f,
@@ -369,6 +383,8 @@ const Promise kPromises[] = {
      [](P l, P m) { return span(l.marks, hueOf).width() < 0.01 && m.pixels(isBlue) > 200 && m.pixels(isRed) > 200; }, vivid},
     {"hueTingle", "hues vary, and nothing else", 0.0f, 0.8f,
      [](P l, P m) { return span(l.marks, hueOf).width() < 0.01 && span(m.marks, hueOf).width() > 0.3 && span(m.marks, saturationOf).width() < 0.05 && span(m.marks, valueOf).width() < 0.02; }, vivid},
+    {"hueTingle_multicolour", "of the tip's own colour as well", 0.0f, 0.8f, [](P l, P m) { return span(l.marks, hueOf).width() < 0.01 && span(m.marks, hueOf).width() > 0.3; },
+     [](C& c) { c.setTextureImages({block(32, QColor(180, 60, 40))}); c.setColorFul(true); }},
     {"saturationTingle", "saturations vary, and nothing else", 0.0f, 0.3f,
      [](P l, P m) { return span(l.marks, saturationOf).width() < 0.01 && span(m.marks, saturationOf).width() > 0.2 && span(m.marks, hueOf).width() < 0.05 && span(m.marks, valueOf).width() < 0.02; }, vivid},
     {"brightnessTingle", "brightness varies, and nothing else", 0.0f, 0.3f,
@@ -422,7 +438,7 @@ INSTANTIATE_TEST_SUITE_P(Properties, BrushPromisesTest, ::testing::ValuesIn(kPro
 struct Influence : Named {
     std::array<float, 3> strengths;  // of pressure, altitude, speed, where they show
     double (*measure)(const Marks&);
-    double differs;  // between the slack and the full end of an input
+    double differs;  // at least, from no pressure to all of it
     Prepare prepare;
 };
 
@@ -431,11 +447,11 @@ const Influence kInfluences[] = {
     {"radiusControl", {1, -1, 1}, [](const Marks& m) { return span(m, widthOf).mean; }, 2, [](C& c) { whole(c); c.setMinRadius(0.1f); }},
     {"distributionControl", {1, -1, 1}, [](const Marks& m) { return span(m, offLine).mean; }, 5, copies},
     {"distributionCountControl", {1, -1, 1}, [](const Marks& m) { return static_cast<double>(m.size()); }, 5, copies},
-    {"radianControl", {0.5f, 0.5f, 0.5f}, [](const Marks& m) { return span(m, leanXOf).mean; }, 0.1, apart},
+    {"radianControl", {0.5f, -0.5f, 0.5f}, [](const Marks& m) { return span(m, leanXOf).mean; }, -0.1, apart},
     {"roundnessControl", {1, -1, 1}, [](const Marks& m) { return span(m, ratioOf).mean; }, 0.2, [](C& c) { whole(c); c.setRoundness(0.5f); }},
     {"flowControl", {1, 1, 1}, [](const Marks& m) { return span(m, alphaOf).mean; }, 0.2, [](C& c) { whole(c); c.setMinFlow(0.1f); }},
     {"textureControl", {1, -1, 1}, [](const Marks& m) { return span(m, leanXOf).mean; }, 0.1, twoTips},
-    {"colorControl", {1, -1, 1}, [](const Marks& m) { return span(m, [](const Mark& k) { return k.color.blueF(); }).mean; }, 0.2, vivid},
+    {"colorControl", {1, -1, 1}, [](const Marks& m) { return span(m, [](const Mark& k) { return k.color.blueF(); }).mean; }, -0.2, vivid},
 };
 // clang-format on
 
@@ -468,13 +484,54 @@ TEST_P(BrushInfluenceTest, FollowsItsOwnInputAlone) {
                     full.push_back(mark);
                 }
             }
-            const double difference = row.measure(full) - row.measure(slack);
-            EXPECT_EQ(std::abs(difference) > row.differs, number == input)
-                << "number " << number << ", input " << input << ": " << difference;
+            // Pressure is given, tilt and speed take away.
+            const double share =
+                (row.measure(full) - row.measure(slack)) / (input == 0 ? row.differs : -row.differs);
+            EXPECT_TRUE(number == input ? share > 1 : std::abs(share) < 1)
+                << "number " << number << ", input " << input << ": " << share;
         }
     }
 }
 INSTANTIATE_TEST_SUITE_P(Controls, BrushInfluenceTest, ::testing::ValuesIn(kInfluences), byName);
+
+// The second line in the middle of a stroke: what lies left of it keeps what it had.
+struct Change : Named {
+    bool masked;
+    Prepare change;
+    bool maskedThen;
+};
+
+const Change kChanges[] = {
+    {"SwitchedOn", false, [](C& c) { c.setRepeatedlyRenderEnabled(true); }, true},
+    {"SwitchedOff", true, [](C& c) { c.setRepeatedlyRenderEnabled(false); }, false},
+    {"AnotherKindThatPaints", true, [](C& c) { c.setBrushType(1); }, true},
+    {"SmudgingAndBack", true, [](C& c) { c.setBrushType(3), c.setBrushType(0); }, true},
+    {"RecognitionAndBack", true, [](C& c) { c.setEnableRecogition(true), c.setEnableRecogition(false); },
+     true},
+    {"BlendTypes", true, [](C& c) { c.setBlendType(4), c.setBlendType(1); }, true},
+};
+
+class SecondLineTest : public CanvasTest, public ::testing::WithParamInterface<Change> {};
+TEST_P(SecondLineTest, MasksFromWhereItChanges) {
+    const Change& row = GetParam();
+    auto canvas = makeCanvas(kWidth, kHeight);
+    apart(*canvas);
+    second(*canvas);
+    canvas->setRepeatedlyRenderEnabled(row.masked);
+    paint(*canvas, level(), [&](std::size_t i) {
+        if (i == 15) {
+            row.change(*canvas);
+        }
+    });
+    const Picture picture(canvas->image());
+    const auto isMasked = [&](int from, int to) {
+        return 3 * picture.pixels(isPainted, QRect(from, 50, to - from, 100)) < (to - from) * 100;
+    };
+    EXPECT_EQ(isMasked(40, 200), row.masked);
+    EXPECT_EQ(isMasked(430, 600), row.maskedThen);
+    EXPECT_GT(picture.pixels(isPainted, QRect(430, 0, 170, kHeight)), 300) << "the stroke went on";
+}
+INSTANTIATE_TEST_SUITE_P(Changes, SecondLineTest, ::testing::ValuesIn(kChanges), byName);
 
 TEST(BrushPromisesTableTest, HasEveryProperty) {
     std::set<std::string> promised;

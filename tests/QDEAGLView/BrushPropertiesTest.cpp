@@ -146,14 +146,6 @@ TEST_F(BrushPropertiesTest, WithoutTipsTheTextureTypeIsZeroAndTheLastTipStays) {
     EXPECT_EQ(canvas->textureImages(), tips) << "the tips handed in come back";
 }
 
-TEST_F(BrushPropertiesTest, ABlendProgramsTextSelectsItsType) {
-    auto canvas = makeCanvas();
-    canvas->setBlendFragmentShaderString(ESImageRender::eraseFSHString());
-    EXPECT_TRUE(canvas->blendFragmentShaderString().contains(QLatin1String("1.0 - L.a")));
-    paintWave(*canvas);
-    EXPECT_TRUE(painted(canvas->image()).isNull()) << "erasing an empty canvas paints nothing";
-}
-
 // The widget's meta-object has every property, under the table's name, with its kind.
 TEST_F(BrushPropertiesTest, TheViewHasEachAsAQtProperty) {
     auto view = QDDrawView::initWithFrame(QRectF(0, 0, 40, 30));
