@@ -31,36 +31,6 @@ DabMaker makerWith(const std::function<void(DabSettings&)>& change) {
     return maker;
 }
 
-// Counts
-
-TEST(DabTest, CountsStaySensible) {
-    const struct {
-        const char* name;
-        std::uint32_t count;
-        float tingle, byPressure;
-        std::size_t least, most;
-    } rows[] = {{"none means one", 0, 0, 0, 1, 1},
-                {"several", 5, 0, 0, 5, 5},
-                {"many are cut", 100000, 0, 0, 64, 64},
-                {"jitter never wraps around", 3, 50, 0, 0, 64},
-                {"pressure against", 40, 0, -1, 0, 2}};
-    for (const auto& row : rows) {
-        DabMaker maker = makerWith([&](DabSettings& s) {
-            s.distributionCount = row.count;
-            s.distributionCountTingle = row.tingle;
-            s.distributionCountControl = {row.byPressure, 0, 0};
-            s.distribution = 1;
-        });
-        for (int i = 0; i < 50; ++i) {
-            const std::size_t count =
-                dabsOf(maker, {pointAt(20.0f + 9.0f * static_cast<float>(i), 30)}).size();
-            EXPECT_TRUE(count >= row.least && count <= row.most) << row.name << ": " << count;
-        }
-    }
-}
-
-// Thin lines
-
 // Direction
 
 TEST(DabTest, DirectionFollowsTheStrokeFromItsFirstDab) {

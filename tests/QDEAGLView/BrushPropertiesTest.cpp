@@ -142,6 +142,8 @@ TEST_F(BrushPropertiesTest, WithoutTipsTheTextureTypeIsZeroAndTheLastTipStays) {
     EXPECT_FALSE(painted(canvas->image()).isNull());
     canvas->setTextureType(1);
     EXPECT_EQ(canvas->textureImages().first().width(), 32) << "drawn at the radius";
+    canvas->setRadius(50);
+    EXPECT_EQ(canvas->textureImages().first().width(), 50) << "and at the next";
     canvas->setTextureType(0);
     EXPECT_EQ(canvas->textureImages(), tips) << "the tips handed in come back";
 }
