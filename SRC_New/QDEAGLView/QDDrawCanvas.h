@@ -741,7 +741,7 @@ private:
     bool _autoMark = false;
     std::unique_ptr<ImagesUndoManager> _undoManager;
     float _markTimeInterval = 0;  // seconds
-    double _preTimeInterval = 0;  // when the last step was recorded, in seconds since 1970
+    double _preTimeInterval = 0;  // when the last step was recorded, by the steady clock, in seconds
     bool _enableDevicePress = true;
     float _normalPress = 0.9f;
 

@@ -506,6 +506,7 @@ const Change kChanges[] = {
     {"SwitchedOff", true, [](C& c) { c.setRepeatedlyRenderEnabled(false); }, false},
     {"AnotherKindThatPaints", true, [](C& c) { c.setBrushType(1); }, true},
     {"SmudgingAndBack", true, [](C& c) { c.setBrushType(3), c.setBrushType(0); }, true},
+    {"ToSmudging", true, [](C& c) { c.setLoadQuantity(1), c.setMixQuantity(0), c.setBrushType(3); }, false},
     {"RecognitionAndBack", true, [](C& c) { c.setEnableRecogition(true), c.setEnableRecogition(false); },
      true},
     {"BlendTypes", true, [](C& c) { c.setBlendType(4), c.setBlendType(1); }, true},
@@ -517,8 +518,14 @@ TEST_P(SecondLineTest, MasksFromWhereItChanges) {
     auto canvas = makeCanvas(kWidth, kHeight);
     apart(*canvas);
     second(*canvas);
+    paint(*canvas, along(20, 20, 600, 20));  // of which the second line must know nothing then
     canvas->setRepeatedlyRenderEnabled(row.masked);
-    paint(*canvas, level(), [&](std::size_t i) {
+    Stroke stroke = level();
+    if (!row.masked) {  // and back over what was not masked
+        const Stroke back = along(610, kLine, 30, kLine);
+        stroke.insert(stroke.end(), back.begin(), back.end());
+    }
+    paint(*canvas, stroke, [&](std::size_t i) {
         if (i == 15) {
             row.change(*canvas);
         }
@@ -529,6 +536,10 @@ TEST_P(SecondLineTest, MasksFromWhereItChanges) {
     };
     EXPECT_EQ(isMasked(40, 200), row.masked);
     EXPECT_EQ(isMasked(430, 600), row.maskedThen);
+    if (row.maskedThen) {
+        EXPECT_EQ(picture.pixels(isPainted, QRect(430, 30, 170, 40)), 0)
+            << "the second line came from elsewhere";
+    }
     EXPECT_GT(picture.pixels(isPainted, QRect(430, 0, 170, kHeight)), 300) << "the stroke went on";
 }
 INSTANTIATE_TEST_SUITE_P(Changes, SecondLineTest, ::testing::ValuesIn(kChanges), byName);
