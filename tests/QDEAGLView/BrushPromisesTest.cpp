@@ -507,6 +507,8 @@ const Change kChanges[] = {
     {"AnotherKindThatPaints", true, [](C& c) { c.setBrushType(1); }, true},
     {"SmudgingAndBack", true, [](C& c) { c.setBrushType(3), c.setBrushType(0); }, true},
     {"ToSmudging", true, [](C& c) { c.setLoadQuantity(1), c.setMixQuantity(0), c.setBrushType(3); }, false},
+    {"WhileSmudging", false,
+     [](C& c) { c.setBrushType(3), c.setRepeatedlyRenderEnabled(true), c.setBrushType(0); }, true},
     {"RecognitionAndBack", true, [](C& c) { c.setEnableRecogition(true), c.setEnableRecogition(false); },
      true},
     {"BlendTypes", true, [](C& c) { c.setBlendType(4), c.setBlendType(1); }, true},
