@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/CanvasHistory.h"
 
-#include <QDateTime>
-
 #include "Canvas/CanvasLog.h"
+#include "Canvas/Clock.h"
 #include "History/ImagesUndoManager.h"
 
 namespace dabcanvas {
@@ -11,10 +10,6 @@ namespace {
 
 // Of the fixed message
 constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;
-
-double now() {
-    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000;
-}
 
 }  // namespace
 
@@ -46,7 +41,7 @@ ImagesUndoManager& CanvasHistory::images(bool sketching) {
 QByteArray CanvasHistory::load(bool sketching) {
     images(sketching).setFilePathExtension({});
     markTimeInterval = 0;
-    _lastMark = now();
+    _lastMark = steadySeconds();
     return _record.data();
 }
 
@@ -65,7 +60,7 @@ QByteArray CanvasHistory::reset() {
 }
 
 QByteArray CanvasHistory::mark() {
-    const double passed = now() - _lastMark;
+    const double passed = steadySeconds() - _lastMark;
     const bool tooSoon = autoMark && passed >= 0 && passed < static_cast<double>(markTimeInterval);
     return tooSoon ? QByteArray() : record();
 }
@@ -76,7 +71,7 @@ QByteArray CanvasHistory::record() {
         return {};
     }
     ImagesUndoManager& steps = images(false);
-    _lastMark = now();
+    _lastMark = steadySeconds();
     const QByteArray data = _record.snapshot(kMarkLine);
     if (data.isNull()) {
         if (!_layers.surface().isLost()) {

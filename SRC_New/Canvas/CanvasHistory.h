@@ -58,7 +58,7 @@ private:
     RecordedCanvas& _record;
     EditFlag& _edits;
     std::unique_ptr<ImagesUndoManager> _images;
-    double _lastMark = 0;  // when the last step was recorded, in seconds since 1970
+    double _lastMark = 0;  // when the last step was recorded
 };
 
 }  // namespace dabcanvas

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/PointerGate.h"
 
-#include <QDateTime>
 #include <QLineF>
 #include <QLoggingCategory>
 #include <utility>
+
+#include "Canvas/Clock.h"
 
 namespace dabcanvas {
 namespace {
@@ -15,10 +16,6 @@ Q_LOGGING_CATEGORY(lcPointer, "dabcanvas.pointer", QtWarningMsg)
 constexpr std::uint64_t kShortStroke = 9;   // moves; a stroke of more is a line
 constexpr double kRecognitionPause = 1.0;   // seconds between the end of a recognised stroke and the next
 constexpr double kSlidWithoutMoving = 1.0;  // view points
-
-double now() {
-    return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000;
-}
 
 }  // namespace
 
@@ -49,7 +46,7 @@ bool PointerGate::begin(QPointF point, float pressure) {
         return false;
     }
     if (_canvas.recognises()) {
-        const double passed = now() - _lastProcessTime;
+        const double passed = steadySeconds() - _lastProcessTime;
         if (_isProcess && passed >= 0 && passed < kRecognitionPause) {
             return false;
         }
@@ -141,7 +138,7 @@ void PointerGate::leave(QPointF point, float pressure, bool withdraw) {
 void PointerGate::startProcess() {
     canAddPoint = false;
     _isProcess = true;
-    _lastProcessTime = now();
+    _lastProcessTime = steadySeconds();
 }
 
 // ---- Touch, refused while a mouse or pen draws

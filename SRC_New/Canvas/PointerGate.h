@@ -69,7 +69,7 @@ private:
     const Life _life;
     bool _ends = false;           // its end is on the way, in callbacks
     bool _isProcess = false;      // a stroke is being recognised
-    double _lastProcessTime = 0;  // when one last was, in seconds since 1970
+    double _lastProcessTime = 0;  // when one last was
 };
 
 }  // namespace dabcanvas

@@ -10,7 +10,7 @@
 
 #include "Preset/BrushRecords.h"
 #include "Problem.h"
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 
 class QDDrawCanvas;
 

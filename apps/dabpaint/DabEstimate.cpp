@@ -5,7 +5,7 @@
 #include <cmath>
 #include <map>
 
-#include "ESRender/Dab.h"
+#include "Dabs/Dab.h"
 #include "LineProcess/LPLineProcess.h"
 
 namespace dabcanvas::dabpaint {

@@ -7,7 +7,7 @@
 
 #include "InkmlStyle.h"
 #include "InkmlTrace.h"
-#include "QDEAGLView/BrushProperties.h"
+#include "Brushes/BrushProperties.h"
 
 namespace dabcanvas::dabpaint {
 

@@ -175,10 +175,7 @@ void MainWindow::makeFileMenu() {
 
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
-    addTo(menu, tr("&Clear"), {key("Delete")}, [this] {
-        if (_pointer->isIdle())
-            clearCanvas();
-    });
+    addTo(menu, tr("&Clear"), {key("Delete")}, [this] { clearCanvas(); });
 }
 
 void MainWindow::makeBrushMenu() {

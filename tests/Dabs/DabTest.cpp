@@ -33,56 +33,6 @@ DabMaker makerWith(const std::function<void(DabSettings&)>& change) {
     return maker;
 }
 
-// Counts
-
-TEST(DabTest, CountsStaySensible) {
-    const struct {
-        const char* name;
-        std::uint32_t count;
-        float tingle, byPressure;
-        std::size_t least, most;
-    } rows[] = {{"none means one", 0, 0, 0, 1, 1},
-                {"several", 5, 0, 0, 5, 5},
-                {"many are cut", 100000, 0, 0, 64, 64},
-                {"jitter never wraps around", 3, 50, 0, 0, 64},
-                {"pressure against", 40, 0, -1, 0, 2}};
-    for (const auto& row : rows) {
-        DabMaker maker = makerWith([&](DabSettings& s) {
-            s.distributionCount = row.count;
-            s.distributionCountTingle = row.tingle;
-            s.distributionCountControl = {row.byPressure, 0, 0};
-            s.distribution = 1;
-        });
-        for (int i = 0; i < 50; ++i) {
-            const std::size_t count =
-                dabsOf(maker, {pointAt(20.0f + 9.0f * static_cast<float>(i), 30)}).size();
-            EXPECT_TRUE(count >= row.least && count <= row.most) << row.name << ": " << count;
-        }
-    }
-}
-
-// Thin lines
-
-TEST(DabTest, ThinPointsGrowOrFlowLess) {
-    struct Row {
-        int bits;
-        float size, half, flow;
-    };
-    const Row rows[] = {{0, 1, 0.5f, 0.8f},           {kNoThinDabs, 1, 1.5f, 0.8f},
-                        {kNoThinDabs, 7, 3.5f, 0.8f}, {kThinFlow, 1.5f, 0.75f, 0.4f},
-                        {kThinFlow, 30, 15, 0.8f},    {kNoThinDabs | kThinFlow, 1.5f, 1.5f, 0.4f}};
-    for (const Row& row : rows) {
-        DabMaker maker = makerWith([&](DabSettings& s) {
-            s.lineProcessType = row.bits;
-            s.flow = 0.8f;
-        });
-        // A thin point before it has no influence.
-        const Dab dab = dabsOf(maker, {pointAt(5, 5, 1), pointAt(5, 5, row.size)}).back();
-        EXPECT_FLOAT_EQ(dab.halfSize, row.half) << "bits " << row.bits << ", size " << row.size;
-        EXPECT_FLOAT_EQ(dab.flow, row.flow) << "bits " << row.bits << ", size " << row.size;
-    }
-}
-
 // Direction
 
 TEST(DabTest, DirectionFollowsTheStrokeFromItsFirstDab) {

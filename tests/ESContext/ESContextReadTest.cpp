@@ -39,19 +39,6 @@ protected:
 
 }  // namespace
 
-TEST_F(ESContextReadTest, ImagesAreRightWayUpAndRawRowsBottomFirst) {
-    EXPECT_TRUE(imagesMatch(_context->image(), _expected));
-    for (const QRect& part :
-         {QRect(2, 5, 7, 11), QRect(0, 22, 37, 1), QRect(36, 0, 1, 23), QRect(11, 8, 13, 9)}) {
-        EXPECT_TRUE(imagesMatch(_context->imageWithRect(part), _expected.copy(part)));
-        QImage raw(part.size(), QImage::Format_RGBA8888_Premultiplied);
-        _context->readData(raw.bits(), part);
-        EXPECT_TRUE(imagesMatch(raw, _expected.copy(part).mirrored()));
-        EXPECT_TRUE(
-            imagesMatch(ESContext::imageWithData(raw.constBits(), part.size()), _expected.copy(part)));
-    }
-}
-
 TEST_F(ESContextReadTest, ReadsComeFromTheCanvasWhateverTargetIsCurrent) {
     _context->beginRenderForType(ESRenderTypeSmudge);
     QImage smudge = paint(QSize(kWidth / 2, kHeight / 2));

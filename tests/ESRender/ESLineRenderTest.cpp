@@ -8,7 +8,6 @@
 #include <functional>
 #include <vector>
 
-#include "ESRender/LineShaderNames.h"
 #include "support/GLTest.h"
 #include "support/Named.h"
 
@@ -67,20 +66,6 @@ QImage expectedLayer(const QImage& tip) {
         }
     }
     return layer;
-}
-
-TEST_F(LineRenderTest, TheProgramHasEveryNameTheRendererSets) {
-    using namespace dabcanvas::line;
-    for (const char* name : {kPosition, kTexCoord}) {
-        EXPECT_GE(_render->program()->attributeIndex(name), 0) << name;
-    }
-    for (const char* name :
-         {kUseMask,          kMaskTexture,      kMaskSize, kMaskBaseCoord, kColor,        kHueTingle,
-          kSaturationTingle, kBrightnessTingle, kColorful, kFlow,          kBrushTexture, kRadian,
-          kViewSize,         kRoundness,        kRand,     kPointSize,     kFlip,         kCenter,
-          kTipCells,         kTipSize}) {
-        EXPECT_GE(_render->program()->uniformIndex(name), 0) << name;
-    }
 }
 
 // Placement

@@ -6,8 +6,6 @@
 #include <limits>
 #include <vector>
 
-#include "ESRender/LineShaderNames.h"
-#include "ESRender/SmudgeShaderNames.h"
 #include "support/GLTest.h"
 
 namespace {
@@ -51,19 +49,6 @@ protected:
     std::unique_ptr<ESSmudgeRender> _render;
     QRectF _touched;
 };
-
-TEST_F(SmudgeRenderTest, ProgramsHaveEveryName) {
-    using namespace dabcanvas;
-    for (const char* name :
-         {smudge::kMoistQuantity, smudge::kLoadQuantity, smudge::kMixQuantity, smudge::kBGTexture,
-          smudge::kTipCell, line::kBrushTexture, line::kColor, line::kFlow, line::kRadian, line::kViewSize,
-          line::kRoundness, line::kFlip, line::kPointSize, line::kCenter}) {
-        EXPECT_GE(_render->program()->uniformIndex(name), 0) << name;
-    }
-    for (const char* name : {line::kPosition, line::kTexCoord, smudge::kBGCoord}) {
-        EXPECT_GE(_render->program()->attributeIndex(name), 0) << name;
-    }
-}
 
 TEST_F(SmudgeRenderTest, TheMixGrowsOverTheFirstDabs) {
     struct Case {

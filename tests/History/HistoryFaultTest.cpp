@@ -124,29 +124,6 @@ TEST_F(HistoryFaultTest, LateTasksUndoNothingNewer) {
     EXPECT_TRUE(store.read("step", one).data == sketch(5));
 }
 
-TEST_F(HistoryFaultTest, WhatCannotBeWrittenReturnsToItsPlace) {
-    SnapshotStore store([](const QString&, const QByteArray&) { return false; });
-    store.cache("a", sketch(1));
-    store.cache("b", sketch(2));
-    const LogCapture log;
-    store.evict("a", inCache("a"))();
-    EXPECT_EQ(store.cachedNames(), (QStringList{"a", "b"}));
-}
-
-TEST_F(HistoryFaultTest, ADroppedStepDoesNotReturnWhenItsWriteFails) {
-    WriteGate gate;
-    GatedHistory history(gate);
-    gate.setDiskFull();
-    history.addItemWithImageData(sketch(1));
-    history.removeOneObjectFromCache();
-    gate.awaitWrites();
-    history.removeImageWithNames({history.currentStringItem()});
-    gate.open();
-    history.waitForWrites();
-    EXPECT_EQ(history.curCacheCount(), 0);
-    EXPECT_EQ(entries(history.tempDirectory()), QStringList());
-}
-
 TEST_F(HistoryFaultTest, ALostOrDamagedFileReadsAsNothing) {
     const struct {
         const char* claim;

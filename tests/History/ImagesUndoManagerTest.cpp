@@ -184,10 +184,15 @@ TEST_F(ImagesUndoManagerTest, UndoWaitsItsTurnWhileAWriteRuns) {
 }
 
 TEST_F(ImagesUndoManagerTest, AWriteThatIsOvertakenLeavesNoFile) {
-    for (const bool stepGoes : {true, false}) {
-        SCOPED_TRACE(stepGoes ? "its step is dropped" : "the folder is emptied");
+    for (const auto& [stepGoes, full] : {std::pair{true, false}, {true, true}, {false, false}}) {
+        SCOPED_TRACE(full       ? "its step is dropped and the disk is full"
+                     : stepGoes ? "its step is dropped"
+                                : "the folder is emptied");
         WriteGate gate;
         GatedHistory history(gate);
+        if (full) {
+            gate.setDiskFull();
+        }
         history.setMaxCacheCount(0);
         history.addItemWithImageData(sketch(1));
         gate.awaitWrites();
@@ -208,20 +213,6 @@ TEST_F(ImagesUndoManagerTest, AWriteThatIsOvertakenLeavesNoFile) {
         EXPECT_EQ(history.currentImageDataOfItem().isNull(), stepGoes);
         EXPECT_EQ(history.curCacheCount(), stepGoes ? 0 : 1);
     }
-}
-
-TEST_F(ImagesUndoManagerTest, TheLastWriteOfANameWins) {
-    WriteGate gate;
-    GatedHistory history(gate);
-    history.setMaxCacheCount(0);
-    history.setCurrentItemWithImageData(sketch(1));
-    gate.awaitWrites();
-    history.setCurrentItemWithImageData(sketch(2, 1000));
-    EXPECT_TRUE(history.currentImageDataOfItem() == sketch(2, 1000)) << "on its way to the disk";
-    gate.open();
-    history.waitForWrites();
-    EXPECT_TRUE(history.currentImageDataOfItem() == sketch(2, 1000));
-    EXPECT_EQ(QFileInfo(history.currentPathOfItem()).size(), 1000);
 }
 
 TEST_F(ImagesUndoManagerTest, EndsWhileWritesRun) {

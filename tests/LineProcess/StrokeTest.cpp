@@ -124,32 +124,11 @@ TEST_F(StrokeTest, StartTaperGrowsAlongTheStrokeAndThenLetsGo) {
     EXPECT_EQ(dabs.front().position.x, 0.0f);
 }
 
-TEST_F(StrokeTest, AStartRadiusOfNextToNothingMeansNoStartTaper) {
-    _line.startRadius = 0.0f;
-    EXPECT_GT(draw({{0, 0}, {50, 0}, {90, 0}}).front().radius, 1.0f);
-}
-
 TEST_F(StrokeTest, WithoutATaperLengthTheStartRadiusSeedsTheSpeed) {
     _line.startRadius = 0.5f;
     _line.strokeControlValue = 0.0f;
     lpStartLine({0, 0});
     EXPECT_EQ(move(20, 0).front().params.speed, 0.5f);
-}
-
-TEST_F(StrokeTest, LastSegmentNarrowsToTheEndRadius) {
-    _line.endRadius = 0.1f;
-    _line.minRadius = _line.maxRadius = 1.0f;
-    lpStartLine({0, 0});
-    move(100, 0);
-    const float before = move(200, 0).back().radius;
-    const Dabs end = finish(300, 0);
-    EXPECT_LT(end.front().radius, before);
-    EXPECT_NEAR(end.back().radius, 2.0, 0.1);
-    for (std::size_t i = 1; i < end.size(); ++i) {
-        EXPECT_LT(end[i].radius, end[i - 1].radius);
-    }
-    lpStartLine({0, 0});
-    EXPECT_FALSE(needEnd);
 }
 
 // Dynamics

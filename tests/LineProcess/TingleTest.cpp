@@ -194,16 +194,6 @@ TEST_F(TingleTest, CopiesSpreadAcrossTheStroke) {
 
 // Colour
 
-TEST_F(TingleTest, ColoursMixByAmountAndByControl) {
-    const RgbType black = {0, 0, 0};
-    const RgbType white = {1, 1, 1};
-    const LPPoint light = dabAt(0, 0, 1, {0, 0, 1});
-    EXPECT_EQ(ColorTingle(light, black, white, 0, 2, kFree).g, 0.0f);
-    EXPECT_FLOAT_EQ(ColorTingle(light, black, white, 0.5f, 2, kFree).g, 0.3533f * 0.5f);
-    EXPECT_FLOAT_EQ(colorTingleBlock(light, black, white, 0, 2, {1, 0, 0}).g, 1.0f);
-    EXPECT_FLOAT_EQ(ColorTingle(light, black, white, 0, 2, {-1, 0, 0}).g, 0.0f);
-}
-
 TEST_F(TingleTest, HueWrapsSoThatNoDabTurnsBlack) {
     SetDebugModel(0);
     bool green = false;

@@ -84,158 +84,6 @@ TEST_F(BrushPropertiesTest, OtherKindsStoreWhatTheyAreGiven) {
     }
 }
 
-// What a value does to a stroke, so that no row is stored and forgotten: each must change the painted pixels.
-struct Effect : Named {
-    QVariant value;
-    std::function<void(QDDrawCanvas&)> prepare = {};
-};
-
-QImage halfBlack() {
-    QImage image = solidImage({40, 40}, Qt::white);
-    fillRect(image, QRect(0, 0, 20, 40), Qt::black);
-    return image;
-}
-
-QList<QImage> twoTips() {
-    QImage dot = solidImage({32, 32}), block = dot;
-    dot.setPixelColor(16, 16, Qt::red);
-    fillRect(block, QRect(6, 4, 22, 16), QColor(200, 30, 30));
-    return {block, dot};
-}
-
-void useTwoTips(QDDrawCanvas& canvas) {
-    canvas.setTextureType(0);
-    canvas.setTextureImages(twoTips());
-}
-
-void scatter(QDDrawCanvas& canvas) {
-    canvas.setDistribution(0.8f);
-    canvas.setDistributionCount(3);
-}
-
-void flat(QDDrawCanvas& canvas) {
-    canvas.setRoundness(0.3f);
-}
-
-void pressureFlow(QDDrawCanvas& canvas) {
-    canvas.setFlowControl({1, 0, 0});
-}
-
-void colored(QDDrawCanvas& canvas) {
-    canvas.setRenderColor(ESColor::rgba(0.8f, 0.3f, 0.2f));
-    canvas.setBackRenderColor(ESColor::rgba(0, 0, 1));
-}
-
-void secondLine(QDDrawCanvas& canvas) {
-    canvas.setRepeatedlyRenderEnabled(true);
-    canvas.setSlRadius(12);
-}
-
-void scatteredSecondLine(QDDrawCanvas& canvas) {
-    secondLine(canvas);
-    canvas.setSlDistribution(1);
-}
-
-void speedRadius(QDDrawCanvas& canvas) {
-    canvas.setRadiusControl({0, 0, 1});
-}
-
-void paper(QDDrawCanvas& canvas) {
-    canvas.setMaskImage(halfBlack());
-    canvas.setNeedMaskTexture(true);
-}
-
-const LPControlParams kAll{0.8f, 0.5f, 0.6f};
-const Effect kEffects[] = {
-    {"blendType", 5, [](QDDrawCanvas& c) { c.clearWithColor(ESColor::grey(0.7f), false); }},
-    {"renderColor", QVariant::fromValue(ESColor::rgba(1, 0, 0))},
-    {"opacity", 0.5f},
-    {"radius", 60.0f},
-    {"flow", 0.3f},
-    {"trackNum", 4},
-    {"textureType", 3},
-    {"hardness", 0.9f},
-    {"textureControlValue", 8.0f, [](QDDrawCanvas& c) { c.setTextureType(2); }},
-    {"textureImages", QVariant::fromValue(twoTips()), [](QDDrawCanvas& c) { c.setTextureType(0); }},
-    {"flipX", true, useTwoTips},
-    {"flipY", true, useTwoTips},
-    {"needMaskTexture", true, [](QDDrawCanvas& c) { c.setMaskImage(halfBlack()); }},
-    {"maskScale", 2.0f, paper},
-    {"maskImage", halfBlack(), [](QDDrawCanvas& c) { c.setNeedMaskTexture(true); }},
-    {"pointsDistanceEnabled", false},
-    {"pointsDistance", 0.9f},
-    {"smoothEnabled", false},
-    {"speedSencitive", 1.0f, speedRadius},
-    {"sensitivity", 6.0f, speedRadius},
-    {"colorFul", true, useTwoTips},
-    {"lineProcessType", 4, [](QDDrawCanvas& c) { c.setRadius(2); }},
-    {"minRadius", 0.6f},
-    {"maxRadius", 0.5f},
-    {"startRadius", 0.05f, [](QDDrawCanvas& c) { c.setStrokeControlValue(80); }},
-    {"strokeControlValue", 80.0f},
-    {"endRadius", 0.9f},
-    {"radiusTingle", 0.7f},
-    {"radiusControl", QVariant::fromValue(kAll)},
-    {"disTwoAxes", true, scatter},
-    {"distribution", 1.0f},
-    {"distributionControl", QVariant::fromValue(kAll), scatter},
-    {"distributionCount", 4.0f, [](QDDrawCanvas& c) { c.setFlow(0.2f); }},
-    {"distributionCountTingle", 1.0f, scatter},
-    {"distributionCountControl", QVariant::fromValue(kAll), scatter},
-    {"radian", 0.7f, flat},
-    {"startRadianEnable", true, flat},
-    {"moveRadianEnable", true, flat},
-    {"flipXTingle", true, useTwoTips},
-    {"flipYTingle", true, useTwoTips},
-    {"radianTingle", 0.5f, flat},
-    {"radianControl", QVariant::fromValue(kAll), flat},
-    {"roundness", 0.4f},
-    {"roundnessTingle", 0.8f},
-    {"roundnessControl", QVariant::fromValue(kAll)},
-    {"minFlow", 0.6f, pressureFlow},
-    {"maxFlow", 0.4f, pressureFlow},
-    {"flowTingle", 0.6f},
-    {"flowControl", QVariant::fromValue(kAll)},
-    {"decay", 20.0f},
-    {"textureTingleEnabled", true, useTwoTips},
-    {"textureControl", QVariant::fromValue(kAll), useTwoTips},
-    {"backRenderColor", QVariant::fromValue(ESColor::rgba(0, 1, 0)),
-     [](QDDrawCanvas& c) { c.setColorTingle(1); }},
-    {"colorTingle", 0.9f, colored},
-    {"colorControl", QVariant::fromValue(kAll), colored},
-    {"hueTingle", 0.9f, colored},
-    {"saturationTingle", 0.9f, colored},
-    {"brightnessTingle", 0.9f, colored},
-    {"repeatedlyRenderEnabled", true, [](QDDrawCanvas& c) { c.setSlRadius(12); }},
-    {"slTextureImage", twoTips()[0], secondLine},
-    {"slRadius", 6.0f, secondLine},
-    {"slPointsDistance", 2.0f, secondLine},
-    {"slDistribution", 1.0f, secondLine},
-    {"slDistbTwoAxes", true, scatteredSecondLine},
-    {"slDistbCount", 5.0f, scatteredSecondLine},
-    {"relationValue", -25.0f, secondLine},
-};
-
-class BrushEffectTest : public CanvasTest, public ::testing::WithParamInterface<Effect> {};
-TEST_P(BrushEffectTest, ShowsInTheStroke) {
-    const Effect& effect = GetParam();
-    const auto paint = [&](bool set) {
-        auto canvas = makeCanvas();
-        if (effect.prepare) {
-            effect.prepare(*canvas);
-        }
-        if (set) {
-            EXPECT_TRUE(
-                canvas->setBrushValue(*brushPropertyNamed(QString::fromLatin1(effect.name)), effect.value));
-        }
-        paintWave(*canvas);
-        return canvas->image();
-    };
-    EXPECT_NE(paint(true), paint(false));
-    EXPECT_EQ(paint(true), paint(true)) << "and repeats";
-}
-INSTANTIATE_TEST_SUITE_P(Properties, BrushEffectTest, ::testing::ValuesIn(kEffects), byName);
-
 // Rules of their own
 
 TEST_F(BrushPropertiesTest, LineValuesReachTheRecordsTheirRowsName) {
@@ -292,7 +140,8 @@ TEST_F(BrushPropertiesTest, TheSecondLineFollowsTheFirst) {
 TEST_F(BrushPropertiesTest, WithoutTipsTheTextureTypeIsZeroAndDabsHaveANewCanvassTip) {
     auto canvas = makeCanvas();
     auto fresh = makeCanvas();
-    canvas->setTextureImages(twoTips());
+    const QList<QImage> tips(2, solidImage({32, 32}, Qt::black));
+    canvas->setTextureImages(tips);
     canvas->setTextureImages({});
     EXPECT_EQ(canvas->textureType(), 0);
     for (const float radius : {32.0f, 80.0f}) {
@@ -306,16 +155,10 @@ TEST_F(BrushPropertiesTest, WithoutTipsTheTextureTypeIsZeroAndDabsHaveANewCanvas
     canvas->setRadius(32);
     canvas->setTextureType(1);
     EXPECT_EQ(canvas->textureImages().first().width(), 32) << "drawn at the radius";
+    canvas->setRadius(50);
+    EXPECT_EQ(canvas->textureImages().first().width(), 50) << "and at the next";
     canvas->setTextureType(0);
-    EXPECT_EQ(canvas->textureImages(), twoTips()) << "the tips handed in come back";
-}
-
-TEST_F(BrushPropertiesTest, ABlendProgramsTextSelectsItsType) {
-    auto canvas = makeCanvas();
-    canvas->setBlendFragmentShaderString(ESImageRender::eraseFSHString());
-    EXPECT_TRUE(canvas->blendFragmentShaderString().contains(QLatin1String("1.0 - L.a")));
-    paintWave(*canvas);
-    EXPECT_TRUE(painted(canvas->image()).isNull()) << "erasing an empty canvas paints nothing";
+    EXPECT_EQ(canvas->textureImages(), tips) << "the tips handed in come back";
 }
 
 // The widget's meta-object has every property, under the table's name, with its kind.

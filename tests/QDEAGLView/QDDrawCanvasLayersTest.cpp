@@ -185,48 +185,6 @@ TEST_P(CanvasBlendTest, NoChannelIsEverAboveItsAlpha) {
 INSTANTIATE_TEST_SUITE_P(Types, CanvasBlendTest, ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 9),
                          [](const auto& row) { return "Blend" + std::to_string(row.param); });
 
-// A layer put onto the canvas lands on the same pixels, whatever the buffer's size.
-struct BufferSize {
-    int width, height;
-};
-class CanvasSizeTest : public CanvasTest, public ::testing::WithParamInterface<BufferSize> {};
-TEST_P(CanvasSizeTest, CompositeEqualsTheLayer) {
-    const auto [width, height] = GetParam();
-    auto canvas = makeCanvas(width, height);
-    // One dab of a tip as large as itself shows every texel of the layer: a lopsided picture, opaque and
-    // transparent.
-    QImage tip = solidImage({64, 64});
-    for (int y = 8; y < 56; ++y) {
-        for (int x = 8; x < (y < 30 ? 20 : 56); ++x) {
-            tip.setPixelColor(x, y, QColor(0, 0, 0, (x * 37 + y * 11) % 5 == 0 ? 128 : 255));
-        }
-    }
-    canvas->setTextureType(0);
-    canvas->setTextureImages({tip});
-    canvas->setRenderColor(ESColor::rgba(1, 1, 1));
-    QImage expected = solidImage({width, height});
-    for (const QPoint corner : {QPoint(0, 0), QPoint(width - 64, 0), QPoint(0, height - 64),
-                                QPoint(width - 64, height - 64), QPoint(width / 2 - 31, height / 2 - 33)}) {
-        canvas->drawPoint(QPointF(corner) + QPointF(32, 32), 64);
-        canvas->updateImage(false);
-        for (int y = 0; y < 64; ++y) {
-            for (int x = 0; x < 64; ++x) {
-                const int a = tip.pixelColor(x, y).alpha();
-                if (a > 0) {
-                    expected.setPixelColor(corner + QPoint(x, y), QColor(255, 255, 255, a));
-                }
-            }
-        }
-    }
-    EXPECT_TRUE(imagesMatch(canvas->image(), expected));
-}
-INSTANTIATE_TEST_SUITE_P(Buffers, CanvasSizeTest,
-                         ::testing::Values(BufferSize{1000, 700}, BufferSize{1001, 801}, BufferSize{257, 129},
-                                           BufferSize{256, 128}),
-                         [](const auto& row) {
-                             return std::to_string(row.param.width) + "x" + std::to_string(row.param.height);
-                         });
-
 // Clearing
 
 TEST_F(CanvasLayersTest, ClearsToTheColourGiven) {

@@ -127,34 +127,6 @@ TEST_F(CanvasSmudgeTest, TransparentEdgesGetNoDarkFringe) {
     }
 }
 
-TEST_F(CanvasSmudgeTest, ColourIsCarriedAndFadesAsTheQuantitiesSay) {
-    const auto carried = [&](float moist, float load, float mix) {
-        auto canvas = makeCanvas(240, 60);
-        canvas->clearWithColor(ESColor::rgba(0, 0, 1), true);
-        canvas->setRenderColor(ESColor::rgba(1, 0, 0));
-        canvas->setHardness(1);
-        canvas->setRadius(60);
-        drag(*canvas, {20, 0}, {20, 60});  // red up to 50
-        useFinger(*canvas, 24);
-        canvas->setRenderColor(ESColor::rgba(0, 1, 0));
-        canvas->setMoistQuantity(moist);
-        canvas->setLoadQuantity(load);
-        canvas->setMixQuantity(mix);
-        drag(*canvas, {20, 30}, {220, 30}, 40);
-        return canvas->image();
-    };
-    const QRect near(54, 28, 8, 5), far(66, 28, 8, 5);
-    const QImage wet = carried(1, 0, 1), damp = carried(0.3f, 0, 1), half = carried(1, 0, 0.6f);
-    EXPECT_GT(redIn(wet, near), 0.3);
-    EXPECT_GT(redIn(damp, near), redIn(damp, far));
-    EXPECT_GT(redIn(wet, far), redIn(damp, far) + 0.02);
-    EXPECT_GT(redIn(wet, far), redIn(half, far) + 0.02);
-    EXPECT_GT(redIn(damp, near), 0.02);
-    EXPECT_EQ(redIn(carried(0, 0, 1), near), 0) << "a dry brush takes nothing along";
-    EXPECT_EQ(damp.pixelColor(150, 30).green(), 0) << "and no colour of its own";
-    EXPECT_GT(carried(1, 1, 0.5f).pixelColor(150, 30).green(), 100) << "unless loaded";
-}
-
 TEST_F(CanvasSmudgeTest, TheFirstDabMixesNothingWhileTheRampIsOn) {
     auto canvas = makeCanvas();
     paintStripes(*canvas);

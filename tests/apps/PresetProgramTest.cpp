@@ -136,26 +136,55 @@ TEST_F(PresetProgramTest, WhatIsNotWholeIsRefused) {
     EXPECT_EQ(filesThere(), before);
 }
 
-TEST_F(PresetProgramTest, BrushThenRecordingThenSettings) {
+// Of all that say the same thing, the nearest to the command line's own options wins; every pair is tried, and the
+// background and the size come from each of theirs meanwhile.
+TEST_F(PresetProgramTest, TheNearestSourceOfASettingWins) {
     ASSERT_EQ(make("blue.xbf", {"radius=24", "minRadius=1", "hardness=1", "renderColor=#0000ff"}).status, 0);
-    const QStringList red{QStringLiteral("--brush"), path("red.xbf")};
-    const QStringList green{QStringLiteral("--set"), QStringLiteral("renderColor=#00ff00")};
-    const auto recording = [](const QByteArray& whole, const QByteArray& stroke) {
-        return "{" + whole + "\"strokes\": [{\"samples\": [[0, 0]]}, {" + stroke + kLine + "}]}";
-    };
-    const QByteArray brush = R"("brush": "blue.xbf", )", set = R"("set": {"renderColor": "#ffff00"}, )";
-    EXPECT_EQ(painted(recording({}, {}), red), QColor(Qt::red));
-    EXPECT_EQ(painted(recording({}, set), red), QColor(Qt::yellow));
-    EXPECT_EQ(painted(recording(brush, {}), red), QColor(Qt::blue));
-    EXPECT_EQ(painted(recording({}, brush), red), QColor(Qt::blue));
-    EXPECT_EQ(painted(recording({}, set + brush)), QColor(Qt::yellow));
-    EXPECT_EQ(painted(recording(brush, set), red + green), QColor(Qt::green));
-    // The next recording starts with what the command line says.
-    const QString plain = write("plain.json", recording({}, {}));
-    EXPECT_EQ(painted(recording(brush, {}), red + QStringList(plain)), QColor(Qt::red));
-    EXPECT_EQ(painted(recording(brush, {}),
-                      {write("grey.json",
-                             R"({"strokes": [{"set": {"minRadius": 1, "hardness": 1}, )" + kLine + "}]}")}),
+    ASSERT_EQ(make("cyan.xbf", {"radius=24", "minRadius=1", "hardness=1", "renderColor=#00ffff"}).status, 0);
+    const QColor colors[] = {Qt::black, Qt::red, Qt::blue, Qt::cyan, Qt::yellow, Qt::green};
+    constexpr int kSources = 5;
+    for (int i = 0; i < kSources; ++i) {
+        for (int j = i + 1; j < kSources; ++j) {
+            SCOPED_TRACE(::testing::Message() << "sources " << i << " and " << j);
+            const auto has = [&](int source) { return source == i || source == j; };
+            const int canvas = (i + 2 * j) % 4;  // bits: the recording's own, the command line's
+            const QByteArray own = R"("canvas": {"width": 110, "height": 70, "background": "#777777"}, )";
+            QStringList words{
+                QStringLiteral("paint"), QStringLiteral("-o"), path("out.png"),
+                write("r.json", "{" + (canvas & 1 ? own : QByteArray()) +
+                                    (has(1) ? R"("brush": "blue.xbf", )" : "") +
+                                    R"("strokes": [{"samples": [[0, 0]]}, {)" +
+                                    (has(2) ? R"("brush": "cyan.xbf", )" : "") +
+                                    (has(3) ? R"("set": {"renderColor": "#ffff00"}, )" : "") + kLine + "}]}"),
+                write("grey.json",
+                      R"({"canvas": {"background": "#123456"}, "strokes": [{"samples": [[0, 0]]}]})")};
+            for (const auto& [given, text] :
+                 {std::pair{has(0), "--brush " + path("red.xbf")},
+                  {has(4), QStringLiteral("--set renderColor=#00ff00")},
+                  {(canvas & 2) != 0, QStringLiteral("--background #ffffff --size 100x60")}}) {
+                words += given ? text.split(QLatin1Char(' ')) : QStringList();
+            }
+            const Ended ended = runProgram(words);
+            ASSERT_EQ(ended.status, 0) << ended.err.constData();
+            const QImage image(path("out.png"));
+            const QColor paint = image.pixelColor(50, 30);  // of a soft brush where no preset is
+            EXPECT_TRUE(std::abs(paint.red() - colors[j + 1].red()) < 32 &&
+                        std::abs(paint.green() - colors[j + 1].green()) < 32 &&
+                        std::abs(paint.blue() - colors[j + 1].blue()) < 32)
+                << paint.name().toStdString();
+            EXPECT_EQ(image.pixelColor(98, 52), QColor(canvas & 2   ? "#ffffff"
+                                                       : canvas & 1 ? "#777777"
+                                                                    : "#123456"));
+            if (canvas != 0) {
+                EXPECT_EQ(image.size(), canvas & 2 ? QSize(100, 60) : QSize(110, 70));
+            }
+        }
+    }
+    // The next recording starts with what the command line says, or with a new canvas's brush.
+    const QByteArray yellow = R"({"strokes": [{"set": {"renderColor": "#ffff00"}, )" + kLine + "}]}";
+    const QString plain = write("plain.json", R"({"strokes": [{)" + kLine + "}]}");
+    EXPECT_EQ(painted(yellow, {QStringLiteral("--brush"), path("red.xbf"), plain}), QColor(Qt::red));
+    EXPECT_EQ(painted(yellow, {plain, QStringLiteral("--set"), QStringLiteral("hardness=1")}),
               QColor(Qt::black));
 }
 

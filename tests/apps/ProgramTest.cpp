@@ -177,16 +177,6 @@ protected:
 
 const QByteArray kSolid = R"("radius": 20, "minRadius": 1, "hardness": 1, "pointsDistance": 0.05)";
 
-TEST_F(PaintTest, PaintsInTheColourOnTheBackground) {
-    const QString file =
-        stroke("a.json", kSolid + R"(, "renderColor": "#ff0000")", R"("width": 100, "height": 60)");
-    const QImage image = paint({file}, {QStringLiteral("--background"), QStringLiteral("#0000ff")});
-    ASSERT_EQ(image.size(), QSize(100, 60));
-    EXPECT_EQ(image.pixelColor(50, 30), QColor(Qt::red));
-    EXPECT_EQ(image.pixelColor(50, 55), QColor(Qt::blue));
-    EXPECT_EQ(filesThere().size(), 2);
-}
-
 TEST_F(PaintTest, BackgroundsAndSizesByDefault) {
     const QImage white = paint({stroke("a.json", kSolid)});
     EXPECT_EQ(white.size(), QSize(112, 62));  // the last sample and the default brush beyond it
@@ -198,16 +188,6 @@ TEST_F(PaintTest, BackgroundsAndSizesByDefault) {
     EXPECT_EQ(clear.size(), QSize(90, 40));
     EXPECT_EQ(clear.pixelColor(0, 0).alpha(), 0);
     EXPECT_EQ(clear.pixelColor(50, 30), QColor(Qt::black));
-}
-
-TEST_F(PaintTest, TheCommandLineWinsAndRecordingsStartAfresh) {
-    const QByteArray canvas = R"("width": 100, "height": 60)";
-    const QString red = stroke("red.json", kSolid + R"(, "renderColor": "#ff0000")", canvas);
-    const QImage green = paint({red}, {QStringLiteral("--set"), QStringLiteral("renderColor=#00ff00")});
-    EXPECT_EQ(green.pixelColor(50, 30), QColor(0, 255, 0));
-    const QString plain = stroke("plain.json", kSolid, canvas);
-    EXPECT_EQ(paint({red, plain}).pixelColor(50, 30), QColor(Qt::black));
-    EXPECT_EQ(paint({plain, red}).pixelColor(50, 30), QColor(Qt::red));
 }
 
 TEST_F(PaintTest, ADotIsPainted) {

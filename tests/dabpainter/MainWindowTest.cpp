@@ -228,6 +228,35 @@ TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
     EXPECT_TRUE(_window->isUnsaved());
 }
 
+TEST_F(MainWindowTest, NothingElseHappensInTheMiddleOfAStroke) {
+    paint();
+    _window->view()->undo();
+    paint();
+    _images = {savedImage(QStringLiteral("a.png"), Qt::red)};
+    _saveName = path(QStringLiteral("b.png"));
+    _answer = UnsavedAnswer::discard;
+    const double zoom = _window->viewport().zoom();
+    const QDDrawView* const view = _window->view();
+    for (const char* text : {"&Undo", "&Open…", "&Place Image…", "&Save", "Save &As…", "&Clear", "Zoom &In",
+                             "Zoom &Out", "&Actual Pixels", "&Whole Canvas", "&Quit"}) {
+        SCOPED_TRACE(text);
+        const auto actions = _window->findChildren<QAction*>();
+        const auto action = std::find_if(actions.begin(), actions.end(),
+                                         [&](QAction* a) { return a->text() == QString::fromUtf8(text); });
+        ASSERT_NE(action, actions.end());
+        send(QEvent::MouseButtonPress, inView(30, 40), Qt::LeftButton);
+        send(QEvent::MouseMove, inView(90, 40), Qt::LeftButton);
+        const QImage before = _window->view()->image();
+        (*action)->trigger();
+        settle();
+        ASSERT_EQ(_window->view(), view);
+        EXPECT_EQ(_window->view()->image(), before);
+        EXPECT_EQ(_window->viewport().zoom(), zoom);
+        EXPECT_TRUE(_window->isVisible() && _window->isUnsaved() && !QFile::exists(_saveName));
+        send(QEvent::MouseButtonRelease, inView(90, 40), Qt::NoButton);
+    }
+}
+
 // ---- What is unsaved
 
 TEST_F(MainWindowTest, NothingIsLostUnasked) {
