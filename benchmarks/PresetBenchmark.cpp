@@ -14,7 +14,7 @@
 #include <memory>
 
 #include "Brushes/ImageData.h"
-#include "ESContext/ESCurrentScope.h"
+#include "Surface/PaintSurface.h"
 #include "Preset/BrushParamValues.h"
 #include "Preset/QDBrushManager.h"
 #include "Canvas/QDDrawCanvas.h"
@@ -162,7 +162,7 @@ std::unique_ptr<QDDrawCanvas> canvasWithTips(unsigned seed) {
 
 // Up to where the driver has done what it was told: what is drawn next need not wait for it.
 void finish(QDDrawCanvas& canvas) {
-    const ESCurrentScope current(canvas.esContext());
+    const dabcanvas::SurfaceScope current(canvas.surface());
     glFinish();
 }
 

@@ -17,6 +17,8 @@
 #include "Preview/LeafDrawing.h"
 #include "Canvas/QDDrawCanvas.h"
 
+using namespace dabcanvas;
+
 namespace {
 
 constexpr int kMostCalls = 1000;   // of one input, those in callbacks included

@@ -7,6 +7,7 @@
 
 #include "LineProcess/LPSharedState.h"
 #include "LineProcess/LPTypes.h"
+#include "Maths/Export.h"
 
 namespace dabcanvas {
 
@@ -23,9 +24,9 @@ struct TingleState {
 extern constinit thread_local TingleState tingleState;
 
 // The random value of a dab, in [0, 1): by its index from the table in debug mode.
-float uniformAt(std::int64_t index);
+DABCANVAS_STROKE_API float uniformAt(std::int64_t index);
 // One of two, as even, the same way.
-bool coinAt(std::int64_t index);
+DABCANVAS_STROKE_API bool coinAt(std::int64_t index);
 // For the sizes of a line's dabs, in debug mode too: lpRandom(), unless there is a generator.
 float lineRandom();
 

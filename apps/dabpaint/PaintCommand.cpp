@@ -16,7 +16,7 @@
 #include "BrushPlan.h"
 #include "Console.h"
 #include "DabEstimate.h"
-#include "ESContext/ESCurrentScope.h"
+#include "Surface/PaintSurface.h"
 #include "History/ImagesUndoManager.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "OutputFile.h"
@@ -180,7 +180,7 @@ private:
     }
 
     QString paintAll() {
-        const ESCurrentScope current(_canvas->esContext());  // nobody else draws meanwhile
+        const SurfaceScope current(_canvas->surface());  // nobody else draws meanwhile
         Progress progress(_job.allDabs);
         std::size_t left = 0;
         for (const Recording& recording : _job.recordings)

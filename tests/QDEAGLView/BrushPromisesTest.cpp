@@ -15,6 +15,12 @@
 #include "support/Marks.h"
 #include "support/Named.h"
 
+using dabcanvas::BrushKey;
+using dabcanvas::BrushProperty;
+using dabcanvas::brushProperties;
+using dabcanvas::brushProperty;
+using dabcanvas::brushPropertyNamed;
+
 namespace {
 
 constexpr int kWidth = 640, kHeight = 200;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ESRender/ESImageRender.h"
+#include "GLSurface/GLSurface.h"
 #include "support/CanvasTest.h"
 
 namespace {
@@ -170,8 +171,8 @@ TEST_P(CanvasBlendTest, NoChannelIsEverAboveItsAlpha) {
         canvas->setBlendType(stroke == 0 ? 1 : GetParam());
         canvas->setRenderColor(ESColor::rgba(0.15f * static_cast<float>(stroke), 0.9f, 0.4f));
         paintWave(*canvas, 40 + 12 * stroke, 30, [&](int move) {
-            for (int layer = 0; move % 10 == 0 && layer < kRenderTypeCount; ++layer) {
-                const QImage pixels = canvas->esContext().imageForType(static_cast<ESRenderType>(layer));
+            for (int layer = 0; move % 10 == 0 && layer < dabcanvas::kRenderTypeCount; ++layer) {
+                const QImage pixels = canvas->glSurface()->context().imageForType(static_cast<ESRenderType>(layer));
                 const auto* const bytes = pixels.constBits();
                 int above = 0;
                 for (qsizetype i = 0; i < pixels.sizeInBytes(); i += 4) {

@@ -10,6 +10,7 @@
 
 namespace {
 
+using namespace dabcanvas;
 using K = BrushKey;
 using Settings = std::vector<std::pair<BrushKey, QVariant>>;
 

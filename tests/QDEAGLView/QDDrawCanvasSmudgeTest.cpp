@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Canvas/QDDrawCanvas.h"
+#include "GLSurface/GLSurface.h"
 #include "support/CanvasTest.h"
 
 namespace {
@@ -136,7 +137,7 @@ TEST_F(CanvasSmudgeTest, TheFirstDabMixesNothingWhileTheRampIsOn) {
     const LPPoint dabs[] = {{{90, 75}, 30, {1, 1, 1}}, {{100, 75}, 30, {1, 1, 1}}};
     const auto layerAfter = [&](std::size_t count) {
         canvas->drawPoints(dabs, count, ESRenderTypeSmudge);
-        return canvas->esContext().imageForType(ESRenderTypeSmudge);
+        return canvas->glSurface()->context().imageForType(ESRenderTypeSmudge);
     };
     const QImage before = layerAfter(0);
     EXPECT_FALSE(painted(before).isEmpty());

@@ -136,9 +136,8 @@ TEST_F(BrushPanelTest, SearchShowsTheRowsThatMatch) {
 TEST(BrushPresentationTest, APropertyThatNobodyDescribedIsPresentable) {
     const BrushProperty jitter{.key = BrushKey::count,
                                .name = "edgeRadiusTingle",
-                               .group = BrushGroup::shape,
                                .field = &BrushSettings::radiusTingle,
-                               .set = &QDDrawCanvas::setRadiusTingle};
+                               .group = BrushGroup::shape};
     const BrushPresentation shown = brushPresentation(jitter);
     EXPECT_EQ(shown.label, QStringLiteral("Edge size jitter"));
     EXPECT_EQ(shown.place, BrushPlace::panel);
