@@ -10,9 +10,9 @@
 #include <functional>
 #include <memory>
 
+#include "Canvas/QDDrawCanvas.h"
 #include "ESContext/ESContext.h"
 #include "ESContext/ESCurrentScope.h"
-#include "Canvas/QDDrawCanvas.h"
 #include "support/Measuring.h"
 
 using namespace dabcanvas::bench;

@@ -15,8 +15,8 @@
 #include <memory>
 #include <vector>
 
-#include "History/ImagesUndoManager.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "History/ImagesUndoManager.h"
 #include "support/Measuring.h"
 #include "support/Recording.h"
 

@@ -11,10 +11,10 @@
 #include <sys/resource.h>
 #endif
 
+#include "Canvas/QDDrawCanvas.h"
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPStroke.h"
 #include "LineProcess/LPTrace.h"
-#include "Canvas/QDDrawCanvas.h"
 #include "support/Measuring.h"
 #include "support/Recording.h"
 #ifdef DABCANVAS_HAVE_MYPAINT

@@ -14,10 +14,10 @@
 #include <memory>
 
 #include "Brushes/ImageData.h"
-#include "Surface/PaintSurface.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "Preset/BrushParamValues.h"
 #include "Preset/QDBrushManager.h"
-#include "Canvas/QDDrawCanvas.h"
+#include "Surface/PaintSurface.h"
 #include "support/Measuring.h"
 
 using namespace dabcanvas::bench;

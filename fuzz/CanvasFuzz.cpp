@@ -11,11 +11,11 @@
 #include <limits>
 #include <vector>
 
+#include "Canvas/QDDrawCanvas.h"
 #include "History/ImagesUndoManager.h"
 #include "LineProcess/LPTypes.h"
 #include "Preset/QDBrushManager.h"
 #include "Preview/LeafDrawing.h"
-#include "Canvas/QDDrawCanvas.h"
 
 using namespace dabcanvas;
 

@@ -9,8 +9,8 @@
 
 #include <QGuiApplication>
 
-#include "Preset/QDBrushManager.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Preset/QDBrushManager.h"
 
 namespace {
 

@@ -106,7 +106,8 @@ DABCANVAS_BRUSHES_API const BrushProperty* brushPropertyNamed(QStringView name);
 DABCANVAS_BRUSHES_API QVariant brushDefault(const BrushProperty& property);
 
 // Values by their row's type. None for a QVariant of another type, and for numbers that are not finite.
-DABCANVAS_BRUSHES_API std::optional<BrushValue> brushValueOf(const BrushProperty& property, const QVariant& value);
+DABCANVAS_BRUSHES_API std::optional<BrushValue> brushValueOf(const BrushProperty& property,
+                                                             const QVariant& value);
 DABCANVAS_BRUSHES_API QVariant variantOf(const BrushValue& value);
 
 // The row of a preset id, with the number of the control's part (0 speed, 1 pressure, 2 altitude; -1 for a property of

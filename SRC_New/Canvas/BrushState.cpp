@@ -297,7 +297,7 @@ void BrushState::setSubRadius(float radius) {
 // How its size relates to radius: their ratio for type 2, else their difference.
 void BrushState::takeRelationValue() {
     _settings.relationValue = _settings.slRadiusRelationType == 2 ? _settings.slRadius / _settings.radius
-                                                                   : _settings.slRadius - _settings.radius;
+                                                                  : _settings.slRadius - _settings.radius;
 }
 
 void BrushState::restoreSubLine(float slRadius, float relationValue) {
@@ -311,7 +311,7 @@ StrokeKind BrushState::kindOf(int brushType, bool isDebug, bool enableRecogition
     if (enableRecogition) {
         return StrokeKind::dabs;
     }
-    return brushType == kPreviewBrush            ? StrokeKind::preview
+    return brushType == kPreviewBrush              ? StrokeKind::preview
            : brushType == kSmudgeBrush && !isDebug ? StrokeKind::smudge
                                                    : StrokeKind::dabs;
 }
@@ -332,18 +332,69 @@ void BrushState::reset() {
     using K = BrushKey;
     // Some setters act on others, so the order counts.
     static constexpr BrushKey kOrder[] = {
-        K::brushType, K::blendType, K::moistQuantity, K::loadQuantity, K::mixQuantity, K::colorFul,
-        K::opacity, K::flow, K::textureType, K::hardness, K::radius, K::flipX, K::flipY, K::radian,
-        K::roundness, K::pointsDistanceEnabled, K::pointsDistance, K::radiusTingle, K::radiusControl,
-        K::minRadius, K::sensitivity, K::speedSencitive, K::startRadius, K::strokeControlValue,
-        K::endRadius, K::trackNum, K::radianTingle, K::radianControl, K::roundnessTingle,
-        K::roundnessControl, K::minRoundness, K::flipXTingle, K::flipYTingle, K::disTwoAxes,
-        K::distribution, K::distributionControl, K::distributionCount, K::distributionCountTingle,
-        K::distributionCountControl, K::textureTingleEnabled, K::textureControl, K::needMaskTexture,
-        K::maskScale, K::maskImage, K::repeatedlyRenderEnabled, K::slTextureImage, K::slRadius,
-        K::slPointsDistance, K::slDistribution, K::slDistbTwoAxes, K::slDistbCount, K::slRadiusRelationType,
-        K::relationValue, K::colorTingle, K::colorControl, K::hueTingle, K::saturationTingle,
-        K::brightnessTingle, K::flowTingle, K::flowControl, K::decay, K::minFlow, K::smoothEnabled,
+        K::brushType,
+        K::blendType,
+        K::moistQuantity,
+        K::loadQuantity,
+        K::mixQuantity,
+        K::colorFul,
+        K::opacity,
+        K::flow,
+        K::textureType,
+        K::hardness,
+        K::radius,
+        K::flipX,
+        K::flipY,
+        K::radian,
+        K::roundness,
+        K::pointsDistanceEnabled,
+        K::pointsDistance,
+        K::radiusTingle,
+        K::radiusControl,
+        K::minRadius,
+        K::sensitivity,
+        K::speedSencitive,
+        K::startRadius,
+        K::strokeControlValue,
+        K::endRadius,
+        K::trackNum,
+        K::radianTingle,
+        K::radianControl,
+        K::roundnessTingle,
+        K::roundnessControl,
+        K::minRoundness,
+        K::flipXTingle,
+        K::flipYTingle,
+        K::disTwoAxes,
+        K::distribution,
+        K::distributionControl,
+        K::distributionCount,
+        K::distributionCountTingle,
+        K::distributionCountControl,
+        K::textureTingleEnabled,
+        K::textureControl,
+        K::needMaskTexture,
+        K::maskScale,
+        K::maskImage,
+        K::repeatedlyRenderEnabled,
+        K::slTextureImage,
+        K::slRadius,
+        K::slPointsDistance,
+        K::slDistribution,
+        K::slDistbTwoAxes,
+        K::slDistbCount,
+        K::slRadiusRelationType,
+        K::relationValue,
+        K::colorTingle,
+        K::colorControl,
+        K::hueTingle,
+        K::saturationTingle,
+        K::brightnessTingle,
+        K::flowTingle,
+        K::flowControl,
+        K::decay,
+        K::minFlow,
+        K::smoothEnabled,
     };
     for (const BrushKey key : kOrder) {
         set(key, resetValue(brushProperty(key)));
@@ -359,7 +410,8 @@ void BrushState::derive() {
     _derived = true;
     const BrushSettings& from = _settings;
     for (const BrushProperty& row : brushProperties()) {
-        for (const auto& [which, maker] : {std::pair{kMain, &_dabs}, {kSub, &_subDabs}, {kSmudge, &_smudgeDabs}}) {
+        for (const auto& [which, maker] :
+             {std::pair{kMain, &_dabs}, {kSub, &_subDabs}, {kSmudge, &_smudgeDabs}}) {
             if ((row.dabs & which) != 0) {
                 copyDabField(row, from, maker->settings);
             }

@@ -47,7 +47,9 @@ public:
     // Size and relation of the second line as a pair: setting either alone changes the other.
     void restoreSubLine(float slRadius, float relationValue);
 
-    StrokeKind kind() const { return kindOf(_settings.brushType, _settings.isDebug, _settings.enableRecogition); }
+    StrokeKind kind() const {
+        return kindOf(_settings.brushType, _settings.isDebug, _settings.enableRecogition);
+    }
     // A second line masks the first.
     bool isMasked() const;
 

@@ -59,7 +59,8 @@ std::shared_ptr<const TipSet> BrushTips::pictures(float radius) const {
         _discSize = discSize;
         auto made = std::make_shared<TipSet>();
         if (present.isEmpty()) {
-            made->push_back(pictureOf(drawn({TexturesTool::kSoftDisc, discSize, TexturesTool().hardness(), 0})));
+            made->push_back(
+                pictureOf(drawn({TexturesTool::kSoftDisc, discSize, TexturesTool().hardness(), 0})));
         }
         for (const QImage& image : present) {
             made->push_back(pictureOf(image));

@@ -44,7 +44,7 @@ private:
     Drawing _wanted;  // type 0: nothing is to be drawn
     mutable Drawing _made;
     mutable QList<QImage> _images;
-    mutable int _discSize = -1;  // of the disc that _pictures is; -1 for any other
+    mutable int _discSize = -1;                       // of the disc that _pictures is; -1 for any other
     mutable std::shared_ptr<const TipSet> _pictures;  // null: to be made of the images
 };
 

@@ -144,6 +144,9 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back) {
     _layers.settle();
     const auto* const bytes = reinterpret_cast<const std::uint8_t*>(data.constData());
     if (!_layers.paint(_layers.whole(), PixelView::bottomRowFirst(bytes, _layers.size()))) {
+        if (!_layers.isLost()) {
+            qCWarning(lcDabcanvas, "there is no memory to put a step back");
+        }
         (_images.get()->*back)();
         return Outcome::refused;
     }

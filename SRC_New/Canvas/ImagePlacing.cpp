@@ -63,11 +63,11 @@ Rect ImagePlacing::clip() const {
 
 bool ImagePlacing::put(const PlacedImage& image, const Spot& spot) {
     // The surface calculates in single precision.
-    const Spot rounded{static_cast<float>(spot.width),
-                       static_cast<double>(static_cast<float>(spot.width)) *
-                           static_cast<float>(spot.height / spot.width),
-                       {static_cast<float>(spot.centre.x), static_cast<float>(spot.centre.y)},
-                       spot.radian};
+    const Spot rounded{
+        static_cast<float>(spot.width),
+        static_cast<double>(static_cast<float>(spot.width)) * static_cast<float>(spot.height / spot.width),
+        {static_cast<float>(spot.centre.x), static_cast<float>(spot.centre.y)},
+        spot.radian};
     const Placement placement(rounded.centre, rounded.width, rounded.height,
                               static_cast<float>(std::remainder(spot.radian, 2 * std::numbers::pi)));
     const Rect placed = placement.touched();

@@ -105,7 +105,7 @@ private:
     Rect _content[3];            // what the layers hold
     std::vector<Rect> _pending;  // composites that are due
     bool _pendingSmudged = false;
-    bool _mayMerge = true;       // the picture is the background with the layers above it
+    bool _mayMerge = true;  // the picture is the background with the layers above it
     Rect _strokeArea;
     Rect _uncommitted;  // where the picture may differ from its background
     Rect _painted;

@@ -18,7 +18,8 @@ class PointerGate {
 public:
     // What the gate must know of the canvas.
     struct Canvas {
-        virtual bool canBegin() const = 0;     // something is shown that a point could lie on, and can be drawn on
+        virtual bool canBegin()
+            const = 0;  // something is shown that a point could lie on, and can be drawn on
         virtual bool recognises() const = 0;  // strokes are to be recognised
 
     protected:

@@ -5,12 +5,12 @@
 #include <QLoggingCategory>
 #include <cmath>
 
+#include "Brushes/BrushProperties.h"
 #include "Brushes/ImageData.h"
+#include "Canvas/QDDrawCanvasParts.h"
 #include "Preset/LegacyModes.h"
 #include "Preset/ParamNumbers.h"
 #include "Preset/PresetImages.h"
-#include "Brushes/BrushProperties.h"
-#include "Canvas/QDDrawCanvasParts.h"
 
 Q_DECLARE_LOGGING_CATEGORY(lcDabcanvasPreset)
 

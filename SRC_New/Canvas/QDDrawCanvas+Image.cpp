@@ -249,10 +249,9 @@ bool QDDrawCanvas::placeInView(const PlacedImage& image, const QSizeF& size, con
                                double radian, bool isUndo) {
     const QSizeF& view = _inside->parts->outScale;
     return isUndo ? _inside->parts->place(image, spotOf(size, centre, radian), true)
-                  : _inside->parts->place(image,
-                                          spotOf(CGSizeApplyScale(size, view),
-                                                 CGPointApplyScale(centre, view), radian),
-                                          false);
+                  : _inside->parts->place(
+                        image, spotOf(CGSizeApplyScale(size, view), CGPointApplyScale(centre, view), radian),
+                        false);
 }
 
 bool QDDrawCanvas::drawImage(const QImage& image, const QRectF& inRect, bool isUndo) {
@@ -307,9 +306,8 @@ bool QDDrawCanvas::setData(const QByteArray& data, const QSize& dataSize, const 
 bool QDDrawCanvas::setData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize,
                            const QPointF& atCenter, double radian, bool isUndo) {
     const QImage picture = pictureOfData(data, dataSize);
-    return !picture.isNull() &&
-           placeInView({.image = picture, .topRowFirst = false, .replaces = true}, inSize, atCenter, radian,
-                       isUndo);
+    return !picture.isNull() && placeInView({.image = picture, .topRowFirst = false, .replaces = true},
+                                            inSize, atCenter, radian, isUndo);
 }
 
 // ---- What placing is restricted by

@@ -10,9 +10,9 @@ bool QDDrawCanvas::beginWithTouch(const QDDrawTouch& touch) {
     return _inside->parts->pointer.begin(_inside->host.pointOf(touch), touch.pressure);
 }
 
-#define POINTER_EVENT(name, step)                                                          \
-    void QDDrawCanvas::name(const QDDrawTouch& touch) {                                    \
-        _inside->parts->pointer.step(_inside->host.pointOf(touch), touch.pressure);        \
+#define POINTER_EVENT(name, step)                                                   \
+    void QDDrawCanvas::name(const QDDrawTouch& touch) {                             \
+        _inside->parts->pointer.step(_inside->host.pointOf(touch), touch.pressure); \
     }
 POINTER_EVENT(moveWithTouch, move)
 POINTER_EVENT(endWithTouch, end)
@@ -62,12 +62,12 @@ void QDDrawCanvas::cancelWithTouches(const QList<QDDrawTouch>& touches) {
 
 // ---- State of the pointer's stroke
 
-#define POINTER_STATE(type, name, setName)              \
-    type QDDrawCanvas::name() const {                   \
-        return _inside->parts->pointer.name;            \
-    }                                                   \
-    void QDDrawCanvas::setName(type value) {            \
-        _inside->parts->pointer.name = value;           \
+#define POINTER_STATE(type, name, setName)    \
+    type QDDrawCanvas::name() const {         \
+        return _inside->parts->pointer.name;  \
+    }                                         \
+    void QDDrawCanvas::setName(type value) {  \
+        _inside->parts->pointer.name = value; \
     }
 POINTER_STATE(bool, adjustCancelLine, setAdjustCancelLine)
 POINTER_STATE(bool, lineFinish, setLineFinish)

@@ -16,7 +16,8 @@ Q_LOGGING_CATEGORY(lcDabcanvas, "dabcanvas.canvas")
 
 // ---- Making
 
-QDDrawCanvas::QDDrawCanvas(const QRectF& frame) : _inside(new Inside{.host = Host(*this, frame), .parts = {}}) {}
+QDDrawCanvas::QDDrawCanvas(const QRectF& frame)
+    : _inside(new Inside{.host = Host(*this, frame), .parts = {}}) {}
 
 QDDrawCanvas::~QDDrawCanvas() {
     _inside->host.mustNotBeNeeded();
@@ -140,10 +141,12 @@ BrushValue QDDrawCanvas::storedValue(BrushKey key) const {
 }
 
 void QDDrawCanvas::store(BrushKey key, const BrushValue& value) {
+    const Host::Call call(_inside->host);
     _inside->parts->brush.set(key, value);
 }
 
 bool QDDrawCanvas::setBrushValue(const BrushProperty& property, const QVariant& value) {
+    const Host::Call call(_inside->host);
     const auto typed = brushValueOf(property, value);
     return typed && _inside->parts->brush.set(property.key, *typed);
 }

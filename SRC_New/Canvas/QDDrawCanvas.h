@@ -114,9 +114,13 @@ public:
     //   enableRecogition  on: takes curImageData() from the canvas, unless autoMark() is on.
     template <typename Type>
     using BrushArgument = std::conditional_t<std::is_arithmetic_v<Type>, Type, const Type&>;
-#define BRUSH_PROPERTY(type, name, Name, ...)                                            \
-    type name() const { return std::get<type>(storedValue(dabcanvas::BrushKey::name)); } \
-    void set##Name(BrushArgument<type> value) { store(dabcanvas::BrushKey::name, value); }
+#define BRUSH_PROPERTY(type, name, Name, ...)                          \
+    type name() const {                                                \
+        return std::get<type>(storedValue(dabcanvas::BrushKey::name)); \
+    }                                                                  \
+    void set##Name(BrushArgument<type> value) {                        \
+        store(dabcanvas::BrushKey::name, value);                       \
+    }
 #include "Brushes/BrushPropertyList.h"
 
     // By row, for tools. False when the QVariant holds something else than the row's type or a number that is not
@@ -133,8 +137,12 @@ public:
     bool resetWithXBFPath(const QString& path, QString* problem = nullptr);
 
     // Map a brush radius to and from a value of which 1.0 is the middle of the brush's radius range.
-    float inRadiusForRadius(float radius) const { return 2 * radius / (maxRadius() + minRadius()); }
-    float radiusForInRadius(float value) const { return (maxRadius() + minRadius()) * value * 0.5f; }
+    float inRadiusForRadius(float radius) const {
+        return 2 * radius / (maxRadius() + minRadius());
+    }
+    float radiusForInRadius(float value) const {
+        return (maxRadius() + minRadius()) * value * 0.5f;
+    }
 
     // ---- Clear, fill, look
 
@@ -191,8 +199,8 @@ public:
     bool drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
                    const QPointF& anchorPoint);
     bool drawData(const QByteArray& data, const QSize& dataSize, const QRectF& inRect, bool isUndo = false);
-    bool drawData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize, const QPointF& atCenter,
-                  double radian, bool isUndo = false);
+    bool drawData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize,
+                  const QPointF& atCenter, double radian, bool isUndo = false);
     bool setImage(const QImage& image, const QRectF& inRect, bool isUndo = false);
     bool setImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
                   bool isUndo = false);

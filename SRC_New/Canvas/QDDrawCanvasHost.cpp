@@ -31,7 +31,8 @@ constexpr StageCallbacks kCallbacks[] = {
 void QDDrawCanvas::Host::mustNotBeNeeded() const {
     if (neededBy > 0) {
         qFatal(
-            "A canvas was destroyed by a call of its own that cannot do without it: a question about its display, or an "
+            "A canvas was destroyed by a call of its own that cannot do without it: a question about its "
+            "display, or an "
             "event that hides or resizes it");
     }
 }

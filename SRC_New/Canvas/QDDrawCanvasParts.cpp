@@ -252,7 +252,9 @@ Rect QDDrawCanvas::Parts::drawPoints(std::span<const LPPoint> points, DrawTarget
 // A layer never holds strokes of two kinds. What a stroke in progress has drawn stays as it is, but for a preview's.
 void QDDrawCanvas::Parts::settleKind(StrokeKind after) {
     if (kind() == StrokeKind::preview) {
-        entry.drop();
+        if (isDrawing()) {
+            entry.drop();
+        }
         return;
     }
     finishStroke(false);
@@ -262,7 +264,6 @@ void QDDrawCanvas::Parts::settleKind(StrokeKind after) {
 }
 
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {
-    const Host::Call call(host);
     _kindChanges = kindAfter != kind();
     _recognisesAnew = key == BrushKey::enableRecogition && std::get<bool>(value) != recognises();
     if (_recognisesAnew) {
@@ -276,7 +277,6 @@ void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value,
 }
 
 void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
-    const Host::Call call(host);
     const bool anew = std::exchange(_recognisesAnew, false);
     updateStyle();
     if (std::exchange(_kindChanges, false) && kind() == StrokeKind::smudge) {

@@ -108,7 +108,7 @@ private:
     bool isUnrecorded() const;
     QByteArray stepped(dabcanvas::CanvasHistory::Outcome outcome);
 
-    bool _kindChanges = false;      // by the property that is being set
+    bool _kindChanges = false;     // by the property that is being set
     bool _recognisesAnew = false;  // so does recognition
 };
 

@@ -51,8 +51,9 @@ QByteArray RecordedCanvas::snapshot(int line) {
         return {};
     }
     auto* const bytes = reinterpret_cast<std::uint8_t*>(data.data());
-    return _layers.read(_layers.whole(), MutablePixelView::bottomRowFirst(bytes, _layers.size())) ? data
-                                                                                                  : QByteArray();
+    return _layers.read(_layers.whole(), MutablePixelView::bottomRowFirst(bytes, _layers.size()))
+               ? data
+               : QByteArray();
 }
 
 void RecordedCanvas::refresh(int line) {

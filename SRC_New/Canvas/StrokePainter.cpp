@@ -69,9 +69,7 @@ struct StrokePainter::Run {
     std::unique_ptr<LPPoint, decltype(&std::free)> points{nullptr, &std::free};
     std::size_t count = 0;
 
-    std::span<const LPPoint> from(std::size_t first) const {
-        return {points.get() + first, count - first};
-    }
+    std::span<const LPPoint> from(std::size_t first) const { return {points.get() + first, count - first}; }
 };
 
 StrokePainter::StrokePainter(BrushState& brush, PaintLayers& layers, StageClock& clock)
@@ -184,7 +182,8 @@ Rect StrokePainter::drawRun(std::span<const LPPoint> points, DrawTarget target) 
     Rect touched;
     for (std::size_t first = 0; surface && first < points.size(); first += kMostPoints) {
         const StageClock::Stage stage(_clock, &StrokeStats::drawingSeconds, &_layers.surface());
-        touched = touched.united(drawSome(points.subspan(first, std::min(kMostPoints, points.size() - first)), target));
+        touched = touched.united(
+            drawSome(points.subspan(first, std::min(kMostPoints, points.size() - first)), target));
     }
     return touched;
 }

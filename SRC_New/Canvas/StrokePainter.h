@@ -82,11 +82,11 @@ private:
     std::vector<Dab> _made;  // of the present run
     std::vector<SmudgeDab> _madeSmudges;
 
-    QPointF _last;               // sample before
-    bool _hasMoved = false;      // the first move of the stroke was taken
-    LPSharedState _state;        // this canvas's copy of what the line process keeps for a thread
-    bool _stateIsIn = false;     // it is in the line process now
-    LPGenerator _generator;      // whose address _state holds
+    QPointF _last;            // sample before
+    bool _hasMoved = false;   // the first move of the stroke was taken
+    LPSharedState _state;     // this canvas's copy of what the line process keeps for a thread
+    bool _stateIsIn = false;  // it is in the line process now
+    LPGenerator _generator;   // whose address _state holds
     std::uint32_t _seed = 0;
     bool _repeats = false;       // strokes repeat
     bool _restartIsDue = false;  // with the next stroke

@@ -16,8 +16,8 @@
 #include <span>
 #include <type_traits>
 
-#include "ESRender/CachedUniform.h"
 #include "Dabs/Dab.h"
+#include "ESRender/CachedUniform.h"
 #include "ESRender/ESBaseRender.h"
 #include "LineProcess/Tingle.h"
 #include "Maths/Export.h"

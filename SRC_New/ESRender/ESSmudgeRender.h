@@ -131,7 +131,7 @@ private:
     GLuint _beforeTexture = 0;
     GLuint _coverageTexture = 0, _canvasTexture = 0;  // the canvas's
 
-    QSizeF _sourceSize;   // buffer pixels that the smudge texture shows
+    QSizeF _sourceSize;  // buffer pixels that the smudge texture shows
 
     std::vector<Dab> _coverage;
     bool _coverageTaken = false;

@@ -78,9 +78,12 @@ bool GLSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) 
     for (int y = 0; y < rect.height; y += most) {
         const Rect part{0, y, rect.width, std::min(most, rect.height - y)};
         _context->readData(_band.data(), qRectOf({rect.x, rect.y + y, part.width, part.height}));
+        if (isLost()) {
+            return false;  // with no pixels
+        }
         copyRows(MutablePixelView::bottomRowFirst(_band.data(), {part.width, part.height}), rows.part(part));
     }
-    return !isLost();
+    return true;
 }
 
 bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows) {
@@ -110,7 +113,7 @@ bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows
     }
     _context->finishRender();
     noteChanged(picture, rect);
-    return sent;
+    return sent && !_context->checkLost();
 }
 
 bool GLSurface::place(PictureId picture, const Placed& placed) {
@@ -126,7 +129,8 @@ bool GLSurface::place(PictureId picture, const Placed& placed) {
     render.setRadian(static_cast<float>(std::remainder(placed.radian, 2 * std::numbers::pi)));
     render.setRoundness(static_cast<float>(placed.height / placed.width));
     if (!render.isReadyToPlace(dab)) {
-        return false;  // there was no room for it
+        _context->checkLost();
+        return false;  // or there was no room for it
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);

@@ -62,7 +62,8 @@ static_assert(sizeof(LPLineParams) == 144 && offsetof(LPLineParams, pointsDistan
               "clients allocate and address the record by this layout");
 
 DABCANVAS_STROKE_API extern thread_local LPLineParams _lpDefaultParaObj;
-DABCANVAS_STROKE_API extern thread_local LPLineParams* _lpParaObj;  // the current record; at first the default one
+DABCANVAS_STROKE_API extern thread_local LPLineParams*
+    _lpParaObj;  // the current record; at first the default one
 
 // Makes the record current, null meaning the default one. Returns the one that was current before.
 DABCANVAS_STROKE_API LPLineParams* lpSetParaObj(LPLineParams* record);

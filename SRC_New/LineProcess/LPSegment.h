@@ -15,14 +15,17 @@
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
 
-DABCANVAS_STROKE_API extern constinit thread_local float newSegPressure;  // values at the end of the segment being built
+DABCANVAS_STROKE_API extern constinit thread_local float
+    newSegPressure;  // values at the end of the segment being built
 DABCANVAS_STROKE_API extern constinit thread_local float newSegAltitude;
 DABCANVAS_STROKE_API extern constinit thread_local float newSegSpeed;
 DABCANVAS_STROKE_API extern constinit thread_local float newSegValue;   // not used here
 DABCANVAS_STROKE_API extern constinit thread_local float newSegRadius;  // not used here
 DABCANVAS_STROKE_API extern constinit thread_local bool needStartDur;   // the start taper is active
-DABCANVAS_STROKE_API extern constinit thread_local bool needEnd;        // this is the last segment and it has a taper
-DABCANVAS_STROKE_API extern constinit thread_local float minRadius;     // floor of the radius under jitter, in drawing units
+DABCANVAS_STROKE_API extern constinit thread_local bool
+    needEnd;  // this is the last segment and it has a taper
+DABCANVAS_STROKE_API extern constinit thread_local float
+    minRadius;  // floor of the radius under jitter, in drawing units
 
 // Works out the dab that lies distance into a segment of segmentLength and appends it to the trace when its
 // radius is above 0. Returns the radius in any case, 0 standing for one that is not finite.

@@ -19,7 +19,8 @@
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
 
-DABCANVAS_STROKE_API extern constinit thread_local LPPoint* _lpPoints;  // the dabs of the last call; null when there were none
+DABCANVAS_STROKE_API extern constinit thread_local LPPoint*
+    _lpPoints;  // the dabs of the last call; null when there were none
 DABCANVAS_STROKE_API extern constinit thread_local std::int32_t _lpNumberOfPoints;  // how many
 
 // Begin a stroke. Produces no dab; the first comes with the first accepted move. The short forms stand for

@@ -14,8 +14,8 @@ DABCANVAS_BRUSHES_API void mat4f_LoadTranslation(float tx, float ty, float tz, f
 // As OpenGL means them: the eye looks down -z and depth maps nearZ..farZ to -1..1. The field of view is the
 // vertical one.
 DABCANVAS_BRUSHES_API void mat4f_LoadPerspective(float fieldOfView, float aspect, float nearZ, float farZ,
-                                                float* m);
+                                                 float* m);
 DABCANVAS_BRUSHES_API void mat4f_LoadOrtho(float left, float right, float bottom, float top, float nearZ,
-                                          float farZ, float* m);
+                                           float farZ, float* m);
 // out = a x b. `out` may be a or b.
 DABCANVAS_BRUSHES_API void mat4f_MultiplyMat4f(const float* a, const float* b, float* out);

@@ -6,9 +6,9 @@
 #include <QVariant>
 #include <cstdint>
 
+#include "Brushes/BrushProperties.h"
 #include "LineProcess/LPTypes.h"
 #include "Preset/BrushRecords.h"
-#include "Brushes/BrushProperties.h"
 
 // Looks at the parameter records of a preset by property name, without applying them to a canvas. Of several records of
 // one id the first counts; what is absent is 0, false, null or empty.
@@ -57,7 +57,9 @@ public:
     LPControlParams distributionControl() const { return control(dabcanvas::BrushKey::distributionControl); }
     float distributionCount() const { return real(dabcanvas::BrushKey::distributionCount); }
     float distributionCountTingle() const { return real(dabcanvas::BrushKey::distributionCountTingle); }
-    LPControlParams distributionCountControl() const { return control(dabcanvas::BrushKey::distributionCountControl); }
+    LPControlParams distributionCountControl() const {
+        return control(dabcanvas::BrushKey::distributionCountControl);
+    }
     float radian() const { return real(dabcanvas::BrushKey::radian); }
     bool startRadianEnable() const { return boolean(dabcanvas::BrushKey::startRadianEnable); }
     bool moveRadianEnable() const { return boolean(dabcanvas::BrushKey::moveRadianEnable); }

@@ -7,7 +7,6 @@
 
 #include "Canvas/CanvasLog.h"
 
-
 std::unique_ptr<LeafDrawView> LeafDrawView::initWithFrame(const QRectF& frame, QWidget* parent) {
     for (const double number : {frame.x(), frame.y(), frame.width(), frame.height()}) {
         if (!(std::abs(number) <= QWIDGETSIZE_MAX)) {

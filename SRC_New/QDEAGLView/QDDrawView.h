@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <memory>
 
-#include "Canvas/QDDrawCanvas.h"
 #include "Maths/Export.h"
+#ifndef Q_MOC_RUN  // which reads every file once, and is to read the list of properties below
+#include "Canvas/QDDrawCanvas.h"
+#endif
 
 class QTouchEvent;
 
@@ -61,7 +63,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-    QRectF displayFrame() const override { return QRectF(rect()); }
+    QRectF displayFrame() const override {
+        return QRectF(rect());
+    }
     void redisplayRect(const QRectF& viewRect) override;
     std::unique_ptr<LeafDrawing> makeLeafDrawView(const QRectF& frame) override;
     void showLeafDrawView(bool shown) override;

@@ -169,7 +169,8 @@ Places alongArc(const Round& round, double spacing) {
 
 bool isDrawableRound(const ShapeRecord& shape) {
     return std::isfinite(shape.centre.x) && std::isfinite(shape.centre.y) && shape.a > 0 && shape.b > 0 &&
-           shape.a + shape.b < static_cast<double>(dabcanvas::kMostShapePoints) && std::isfinite(shape.rotation);
+           shape.a + shape.b < static_cast<double>(dabcanvas::kMostShapePoints) &&
+           std::isfinite(shape.rotation);
 }
 
 bool isDrawable(const ShapeRecord& shape) {

@@ -8,9 +8,9 @@
 #include <cstdio>
 #include <cstring>
 
-#include "Preset/QDBrushManager.h"
 #include "Brushes/BrushProperties.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Preset/QDBrushManager.h"
 
 namespace dabcanvas::dabpaint {
 

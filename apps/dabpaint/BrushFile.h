@@ -8,9 +8,9 @@
 #include <memory>
 #include <vector>
 
+#include "Brushes/BrushProperties.h"
 #include "Preset/BrushRecords.h"
 #include "Problem.h"
-#include "Brushes/BrushProperties.h"
 
 class QDDrawCanvas;
 

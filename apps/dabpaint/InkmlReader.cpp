@@ -5,9 +5,9 @@
 #include <cmath>
 #include <utility>
 
+#include "Brushes/BrushProperties.h"
 #include "InkmlStyle.h"
 #include "InkmlTrace.h"
-#include "Brushes/BrushProperties.h"
 
 namespace dabcanvas::dabpaint {
 

@@ -14,15 +14,15 @@
 #endif
 
 #include "BrushPlan.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "Console.h"
 #include "DabEstimate.h"
-#include "Surface/PaintSurface.h"
 #include "History/ImagesUndoManager.h"
-#include "Canvas/QDDrawCanvas.h"
 #include "OutputFile.h"
 #include "PictureKinds.h"
 #include "Progress.h"
 #include "Recording.h"
+#include "Surface/PaintSurface.h"
 #include "ToolCanvas.h"
 
 namespace dabcanvas::dabpaint {

@@ -6,10 +6,10 @@
 #include <QJsonArray>
 #include <cmath>
 
+#include "Brushes/BrushProperties.h"
 #include "Numbers.h"
 #include "Preset/ParamNumbers.h"
 #include "PropertyValue.h"
-#include "Brushes/BrushProperties.h"
 
 namespace dabcanvas::dabpaint {
 

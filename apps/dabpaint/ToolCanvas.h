@@ -7,8 +7,8 @@
 #include <QSize>
 #include <memory>
 
-#include "Problem.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Problem.h"
 #include "Recording.h"
 
 namespace dabcanvas::dabpaint {

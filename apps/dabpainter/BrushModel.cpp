@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "BrushPresentation.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "ESRender/ESImageRender.h"
 #include "Preset/QDBrushManager.h"
-#include "Canvas/QDDrawCanvas.h"
 
 namespace dabcanvas::dabpainter {
 

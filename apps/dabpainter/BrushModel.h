@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "Preset/BrushRecords.h"
 #include "Brushes/BrushProperties.h"
+#include "Preset/BrushRecords.h"
 
 class QDDrawCanvas;
 

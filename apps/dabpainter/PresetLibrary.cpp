@@ -10,8 +10,8 @@
 #include <QStandardPaths>
 #include <algorithm>
 
-#include "OutputFile.h"
 #include "ImageFiles.h"
+#include "OutputFile.h"
 #include "Preset/QDBrushManager.h"
 
 namespace dabcanvas::dabpainter {

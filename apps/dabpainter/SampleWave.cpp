@@ -6,8 +6,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "ESRender/ESImageRender.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "ESRender/ESImageRender.h"
 
 namespace dabcanvas::dabpainter {
 

@@ -9,10 +9,10 @@
 #include <cstdio>
 #include <new>
 
+#include "Canvas/QDDrawCanvas.h"
 #include "CommandLine.h"
 #include "MainWindow.h"
 #include "PresetLibrary.h"
-#include "Canvas/QDDrawCanvas.h"
 
 namespace {
 

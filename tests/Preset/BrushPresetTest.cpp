@@ -10,14 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "Brushes/BrushProperties.h"
 #include "Brushes/ImageData.h"
+#include "Canvas/QDDrawCanvas.h"
 #include "ESRender/ESImageRender.h"
 #include "LineProcess/LPProperties.h"
 #include "Preset/BrushParamValues.h"
 #include "Preset/PresetImages.h"
 #include "Preset/QDBrushManager.h"
-#include "Brushes/BrushProperties.h"
-#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 

@@ -9,15 +9,15 @@
 #include <string>
 #include <vector>
 
-#include "ESRender/ESImageRender.h"
 #include "Brushes/BrushProperties.h"
+#include "ESRender/ESImageRender.h"
 #include "support/CanvasTest.h"
 #include "support/Marks.h"
 #include "support/Named.h"
 
 using dabcanvas::BrushKey;
-using dabcanvas::BrushProperty;
 using dabcanvas::brushProperties;
+using dabcanvas::BrushProperty;
 using dabcanvas::brushProperty;
 using dabcanvas::brushPropertyNamed;
 

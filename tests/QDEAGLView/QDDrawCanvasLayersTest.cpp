@@ -172,7 +172,8 @@ TEST_P(CanvasBlendTest, NoChannelIsEverAboveItsAlpha) {
         canvas->setRenderColor(ESColor::rgba(0.15f * static_cast<float>(stroke), 0.9f, 0.4f));
         paintWave(*canvas, 40 + 12 * stroke, 30, [&](int move) {
             for (int layer = 0; move % 10 == 0 && layer < dabcanvas::kRenderTypeCount; ++layer) {
-                const QImage pixels = canvas->glSurface()->context().imageForType(static_cast<ESRenderType>(layer));
+                const QImage pixels =
+                    canvas->glSurface()->context().imageForType(static_cast<ESRenderType>(layer));
                 const auto* const bytes = pixels.constBits();
                 int above = 0;
                 for (qsizetype i = 0; i < pixels.sizeInBytes(); i += 4) {

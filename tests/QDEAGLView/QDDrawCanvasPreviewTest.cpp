@@ -142,17 +142,17 @@ TEST_F(CanvasPreviewTest, WithdrawnOrAbandonedItLeavesNothing) {
     canvas->mouseUp({{150, 120}});
     EXPECT_TRUE(painted(canvas->image()).isEmpty());
 
-    useLeaf(*canvas);
-    drag(12);
-    canvas->mouseUp({{150, 120}});
-
-    // Its step is told of when the next stroke begins, which a host may end there and then.
+    // That there is a step to go back from is told when the stroke has ended; a host may end the pointer's once more.
     struct Leaver : QDDrawViewDelegate {
-        void drawViewDidUpdateUndoStatus(QDDrawCanvas& c, bool) override { c.endPointerStroke(); }
+        void drawViewDidUpdateUndoStatus(QDDrawCanvas& c, bool) override { c.endPointerStroke(), ++told; }
+        int told = 0;
     } leaver;
     canvas->setDelegate(&leaver);
     canvas->setAutoMark(true);
+    useLeaf(*canvas);
     drag(12);
+    canvas->mouseUp({{150, 120}});
+    EXPECT_EQ(leaver.told, 1);
     EXPECT_TRUE(canvas->canUndo());
     EXPECT_FALSE(canvas->isDrawing());
     EXPECT_FALSE(painted(canvas->image()).isEmpty());

@@ -3,8 +3,8 @@
 #include <utility>
 #include <vector>
 
-#include "History/ImagesUndoManager.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "History/ImagesUndoManager.h"
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "Canvas/QDDrawCanvas.h"
 #include "History/ImagesUndoManager.h"
 #include "History/Packing.h"
-#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 #include "support/LogCapture.h"
 

@@ -7,8 +7,8 @@
 #include <functional>
 #include <memory>
 
-#include "ESRender/Utilities/ESGLErrors.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "ESRender/Utilities/ESGLErrors.h"
 #include "support/Images.h"
 
 class CanvasTest : public ::testing::Test {
