@@ -13,7 +13,7 @@
 
 #include "Maths/Export.h"
 
-class DABCANVAS_CANVAS_API ReplacingFile {
+class ReplacingFile {
 public:
     explicit ReplacingFile(const QString& path);
     ~ReplacingFile();  // without commit(), nothing remains of it
