@@ -145,7 +145,7 @@ void stages(benchmark::State& state) {
     const std::unique_ptr<QDDrawCanvas> canvas = makeCanvas();
     paint(*canvas, recording);
     canvas->setProfiling(true);
-    const StrokeStats before = canvas->strokeStats();
+    const dabcanvas::StrokeStats before = canvas->strokeStats();
     double whole = 0;
     for (auto _ : state) {
         const auto start = std::chrono::steady_clock::now();  // the clock that the stages are timed by
@@ -154,7 +154,7 @@ void stages(benchmark::State& state) {
         whole += spent.count();
         state.SetIterationTime(spent.count());
     }
-    const StrokeStats after = canvas->strokeStats();
+    const dabcanvas::StrokeStats after = canvas->strokeStats();
     state.SetLabel(recording.label);
     state.counters["ms"] = whole * 1e3 / static_cast<double>(state.iterations());
     const auto share = [&](const char* name, double spent) { state.counters[name] = 100 * spent / whole; };
