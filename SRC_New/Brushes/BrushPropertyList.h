@@ -9,8 +9,11 @@
 // order in which presets are captured. A property of a new name needs a row here, and the code that uses it; one that
 // dabs use, a field of DabSettings too.
 //
-// Included by whoever defines BRUSH_PROPERTY for what it makes of the rows.
+// Included by whoever defines BRUSH_PROPERTY for what it makes of the rows; for anyone else it is empty.
 // clang-format off
+#ifndef BRUSH_PROPERTY
+#define BRUSH_PROPERTY(...)
+#endif
 BRUSH_PROPERTY(int, brushType, BrushType, .group = BrushGroup::brush, .presetId = 0x1001, .reset = 0,
                .choices{{0, 4}},
                .about = "Kind of brush: 3 smudges, 4 is the live preview brush, any other paints dabs.")

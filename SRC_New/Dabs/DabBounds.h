@@ -22,10 +22,10 @@ struct DabBounds {
 
     void grow(const Dab& dab) {
         const Extent extent = extentOf(dab);
-        minX = std::min(minX, dab.x - extent.width - 1);
-        minY = std::min(minY, dab.y - extent.height - 1);
-        maxX = std::max(maxX, dab.x + extent.width + 1);
-        maxY = std::max(maxY, dab.y + extent.height + 1);
+        minX = (std::min)(minX, dab.x - extent.width - 1);
+        minY = (std::min)(minY, dab.y - extent.height - 1);
+        maxX = (std::max)(maxX, dab.x + extent.width + 1);
+        maxY = (std::max)(maxY, dab.y + extent.height + 1);
     }
 
     // The part of it that lies on the buffer; sizes are 0 where none does.
@@ -33,10 +33,10 @@ struct DabBounds {
         double x, y, width, height;
     };
     Part onBuffer() const {
-        const double x = std::max(0.0, minX);
-        const double y = std::max(0.0, minY);
-        return {x, y, std::max(0.0, std::min(maxX, bufferWidth) - x),
-                std::max(0.0, std::min(maxY, bufferHeight) - y)};
+        const double x = (std::max)(0.0, minX);
+        const double y = (std::max)(0.0, minY);
+        return {x, y, (std::max)(0.0, (std::min)(maxX, bufferWidth) - x),
+                (std::max)(0.0, (std::min)(maxY, bufferHeight) - y)};
     }
     Rect pixelsOnBuffer() const {
         const Part part = onBuffer();

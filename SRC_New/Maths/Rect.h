@@ -20,7 +20,7 @@ struct Rect {
 
     static Rect of(const Size& size) { return {0, 0, size.width, size.height}; }
     static Rect between(int left, int top, int right, int bottom) {
-        return {left, top, std::max(right - left, 0), std::max(bottom - top, 0)};
+        return {left, top, (std::max)(right - left, 0), (std::max)(bottom - top, 0)};
     }
     // Every pixel that the edges enclose, at least in part. Edges far off any buffer are taken as nearer; an edge that
     // is no number makes it empty.
@@ -40,16 +40,16 @@ struct Rect {
     std::int64_t area() const { return isEmpty() ? 0 : std::int64_t{width} * height; }
 
     Rect intersected(const Rect& other) const {
-        return between(std::max(x, other.x), std::max(y, other.y), std::min(right(), other.right()),
-                       std::min(bottom(), other.bottom()));
+        return between(std::max(x, other.x), (std::max)(y, other.y), (std::min)(right(), other.right()),
+                       (std::min)(bottom(), other.bottom()));
     }
     // The smallest one around both; an empty one adds nothing.
     Rect united(const Rect& other) const {
         if (isEmpty() || other.isEmpty()) {
             return isEmpty() ? other : *this;
         }
-        return between(std::min(x, other.x), std::min(y, other.y), std::max(right(), other.right()),
-                       std::max(bottom(), other.bottom()));
+        return between(std::min(x, other.x), (std::min)(y, other.y), (std::max)(right(), other.right()),
+                       (std::max)(bottom(), other.bottom()));
     }
     bool contains(const Rect& other) const { return united(other) == *this; }
     bool meets(const Rect& other) const { return !intersected(other).isEmpty(); }

@@ -17,8 +17,8 @@ inline Extent turned(const Extent& half, float angle) {
     const auto height = static_cast<float>(half.height);
     const float diagonal = std::sqrt(width * width + height * height);
     const float corner = std::atan2(height, width);
-    return {diagonal * std::max(std::abs(std::cos(angle - corner)), std::abs(std::cos(angle + corner))),
-            diagonal * std::max(std::abs(std::sin(angle - corner)), std::abs(std::sin(angle + corner)))};
+    return {diagonal * (std::max)(std::abs(std::cos(angle - corner)), std::abs(std::cos(angle + corner))),
+            diagonal * (std::max)(std::abs(std::sin(angle - corner)), std::abs(std::sin(angle + corner)))};
 }
 
 }  // namespace dabcanvas
