@@ -40,7 +40,7 @@ struct Rect {
     std::int64_t area() const { return isEmpty() ? 0 : std::int64_t{width} * height; }
 
     Rect intersected(const Rect& other) const {
-        return between(std::max(x, other.x), (std::max)(y, other.y), (std::min)(right(), other.right()),
+        return between((std::max)(x, other.x), (std::max)(y, other.y), (std::min)(right(), other.right()),
                        (std::min)(bottom(), other.bottom()));
     }
     // The smallest one around both; an empty one adds nothing.
@@ -48,7 +48,7 @@ struct Rect {
         if (isEmpty() || other.isEmpty()) {
             return isEmpty() ? other : *this;
         }
-        return between(std::min(x, other.x), (std::min)(y, other.y), (std::max)(right(), other.right()),
+        return between((std::min)(x, other.x), (std::min)(y, other.y), (std::max)(right(), other.right()),
                        (std::max)(bottom(), other.bottom()));
     }
     bool contains(const Rect& other) const { return united(other) == *this; }
