@@ -35,7 +35,7 @@ class BackgroundQueue;
 class TempFolder;
 }  // namespace dabcanvas
 
-class DABCANVAS_HISTORY_API ImagesUndoManager : public UndoManager {
+class DABCANVAS_CANVAS_API ImagesUndoManager : public UndoManager {
 public:
     // A history of up to 100 steps, whose current item has no image, or the one given. When no folder can be
     // made, one log line, and the history lives in memory alone.

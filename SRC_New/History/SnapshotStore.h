@@ -28,7 +28,7 @@ namespace dabcanvas {
 using FileWriter = std::function<bool(const QString& path, const QByteArray& data)>;
 // Whether what lies at this path may be read and deleted; false when it has become somebody else's.
 using PathCheck = std::function<bool(const QString& path)>;
-DABCANVAS_HISTORY_API bool writeWholeFile(const QString& path, const QByteArray& data);
+DABCANVAS_CANVAS_API bool writeWholeFile(const QString& path, const QByteArray& data);
 
 class SnapshotStore {
 public:

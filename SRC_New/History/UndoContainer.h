@@ -14,7 +14,7 @@
 #include "History/UndoManager.h"
 #include "Maths/Export.h"
 
-class DABCANVAS_HISTORY_API UndoContainer {
+class DABCANVAS_CANVAS_API UndoContainer {
 public:
     UndoContainer() = default;
     UndoContainer(const UndoContainer&) = delete;

@@ -15,7 +15,7 @@
 
 #include "Maths/Export.h"
 
-class DABCANVAS_HISTORY_API UndoManager {
+class DABCANVAS_CANVAS_API UndoManager {
 public:
     // Empty stacks, the current item "InitString", or the one given. The step count is 0: set it first, as
     // with 0 at most one undo item is ever kept.
