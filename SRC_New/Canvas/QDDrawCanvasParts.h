@@ -61,7 +61,11 @@ public:
     void clearPicture(const ESColor& color);
     // isUndo: what was recorded, which is no edit.
     bool place(const dabcanvas::PlacedImage& image, const dabcanvas::Spot& spot, bool isUndo);
+    // The same of places in view points, but for what was recorded, which is in buffer pixels already.
+    bool placeInView(const dabcanvas::PlacedImage& image, const QSizeF& size, const QPointF& centre,
+                     double radian, bool isUndo);
     bool read(const dabcanvas::Rect& part, const dabcanvas::MutablePixelView& rows);
+    QImage imageOf(const dabcanvas::Rect& part);
     QByteArray mark();
     QByteArray autoMarked();
     QByteArray resetHistory();
