@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The parts of a canvas, and the order in which one is asked after another: what has to be finished before a stroke, an
-// image, a look or a step. What the parts themselves do stands in their own headers.
+// image, a look or a step. What the parts themselves do stands in their own headers; none of them knows the canvas, but
+// for the host.
+//
+// Thread   the canvas's, for all of them: one at a time.
+// Life     after whatever may call the host back, a part asks Alive before it touches a member.
 #pragma once
 
 #include "Canvas/BrushState.h"
