@@ -3,6 +3,7 @@
 //
 // Values    go by the rows of BrushPropertyList.h. Numbers out of range are clamped, numbers that are not finite refused
 //           with a log line. What is derived of them is made anew before the next dab that needs it.
+// Hears     whoever listens is told before and after each change; no host is called back.
 // Owns      the two line records, the makers of dabs with what they remember of a stroke, tips and papers.
 #pragma once
 

@@ -2,6 +2,9 @@
 // When a step of a canvas's history is due, and putting a step back. The pictures themselves are kept by an
 // ImagesUndoManager, which is made when it is first asked for: a canvas whose history nobody wants has none.
 //
+// Errors   null and Outcome::refused, with nothing changed, without the memory or the surface; each says why in a log line
+//          where nobody else does.
+//
 // Before a call the caller has seen to it that nothing is on its way onto the canvas: no preview that has ended, no sketch
 // that is yet to be taken back.
 #pragma once

@@ -39,11 +39,11 @@ public:
 
     // What hosts restrict placing by.
     struct Rules {
-        bool scissors = false;  // nothing outside of scissor() is touched
+        bool scissors = false;  // nothing outside of the scissor is touched
         bool neglects = false;  // the background stays, and a stroke in progress is not finished
     };
     Rules rules;
-    // In buffer pixels, rounded to whole ones; (x, y, width, height) as the host gave it.
+    // Buffer pixels, as the host gave them; placing rounds to whole ones.
     struct Box {
         double x = 0, y = 0, width = 0, height = 0;
     };

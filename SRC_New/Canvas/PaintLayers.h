@@ -5,8 +5,10 @@
 // Composites wait until the picture is looked at, as every change of target makes a driver draw what it has gathered.
 // Look or no look, the pixels are the same.
 //
-// Units    buffer pixels.
+// Units    buffer pixels; rectangles may reach beyond the picture.
 // Thread   one at a time.
+// Errors   where the surface cannot be had, or is lost, nothing is drawn: empty rectangles and false. Composites that
+//          were due stay due.
 #pragma once
 
 #include <QImage>

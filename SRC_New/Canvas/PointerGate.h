@@ -3,7 +3,8 @@
 // a short one. A stroke belongs to the kind of device that began it: while a finger draws, mouse and pen are refused,
 // and the other way round.
 //
-// Units    view points, as the display says them.
+// Units    view points, as the display says them; pressure 0..1.
+// Life     the host may destroy the canvas, and this with it, in any callback.
 #pragma once
 
 #include <QPointF>
@@ -18,9 +19,10 @@ class PointerGate {
 public:
     // What the gate must know of the canvas.
     struct Canvas {
-        virtual bool canBegin()
-            const = 0;  // something is shown that a point could lie on, and can be drawn on
-        virtual bool recognises() const = 0;  // strokes are to be recognised
+        // Something is shown that a point could lie on, and can be drawn on.
+        virtual bool canBegin() const = 0;
+        // Strokes are to be recognised.
+        virtual bool recognises() const = 0;
 
     protected:
         ~Canvas() = default;

@@ -86,11 +86,12 @@ const QImage& QDDrawCanvas::displayImage() {
 }
 
 QImage QDDrawCanvas::image() {
-    return imageOf(_inside->parts->layers.whole());
+    return _inside->parts->imageOf(_inside->parts->layers.whole());
 }
 
 QImage QDDrawCanvas::imageWithRect(const QRectF& rect) {
-    return imageOf(readPart(CGRectApplyScale(rect, scale()), _inside->parts->layers.size()));
+    Parts& parts = *_inside->parts;
+    return parts.imageOf(readPart(CGRectApplyScale(rect, scale()), parts.layers.size()));
 }
 
 QImage QDDrawCanvas::newCGImageWithRect(const QRectF& rect) {
@@ -98,9 +99,9 @@ QImage QDDrawCanvas::newCGImageWithRect(const QRectF& rect) {
 }
 
 // Null for an empty part and where there is no memory.
-QImage QDDrawCanvas::imageOf(const Rect& part) {
-    const Host::Call call(_inside->host);
-    if (part.isEmpty() || !_inside->parts->finishPreview()) {
+QImage QDDrawCanvas::Parts::imageOf(const Rect& part) {
+    const Host::Call call(host);
+    if (part.isEmpty() || !finishPreview()) {
         return {};
     }
     QImage image(part.width, part.height, kDataFormat);
@@ -108,7 +109,7 @@ QImage QDDrawCanvas::imageOf(const Rect& part) {
         qCWarning(lcDabcanvas, "there is no memory for an image of %d x %d pixels", part.width, part.height);
         return image;
     }
-    return _inside->parts->read(part, viewOf(image)) ? image : QImage();
+    return read(part, viewOf(image)) ? image : QImage();
 }
 
 bool QDDrawCanvas::readData(unsigned char* bytes, const QRectF& rect) {
@@ -245,13 +246,13 @@ QRectF QDDrawCanvas::drawRect() const {
 // ---- The forms of placing
 
 // What was recorded for undo is in buffer pixels already.
-bool QDDrawCanvas::placeInView(const PlacedImage& image, const QSizeF& size, const QPointF& centre,
-                               double radian, bool isUndo) {
-    const QSizeF& view = _inside->parts->outScale;
-    return isUndo ? _inside->parts->place(image, spotOf(size, centre, radian), true)
-                  : _inside->parts->place(
-                        image, spotOf(CGSizeApplyScale(size, view), CGPointApplyScale(centre, view), radian),
-                        false);
+bool QDDrawCanvas::Parts::placeInView(const PlacedImage& image, const QSizeF& size, const QPointF& centre,
+                                      double radian, bool isUndo) {
+    return isUndo
+               ? place(image, spotOf(size, centre, radian), true)
+               : place(image,
+                       spotOf(CGSizeApplyScale(size, outScale), CGPointApplyScale(centre, outScale), radian),
+                       false);
 }
 
 bool QDDrawCanvas::drawImage(const QImage& image, const QRectF& inRect, bool isUndo) {
@@ -260,7 +261,7 @@ bool QDDrawCanvas::drawImage(const QImage& image, const QRectF& inRect, bool isU
 
 bool QDDrawCanvas::drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter,
                              double radian, bool isUndo) {
-    return placeInView({.image = image}, inSize, atCenter, radian, isUndo);
+    return _inside->parts->placeInView({.image = image}, inSize, atCenter, radian, isUndo);
 }
 
 bool QDDrawCanvas::drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter,
@@ -276,8 +277,8 @@ bool QDDrawCanvas::drawData(const QByteArray& data, const QSize& dataSize, const
 bool QDDrawCanvas::drawData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize,
                             const QPointF& atCenter, double radian, bool isUndo) {
     const QImage picture = pictureOfData(data, dataSize);
-    return !picture.isNull() &&
-           placeInView({.image = picture, .topRowFirst = false}, inSize, atCenter, radian, isUndo);
+    return !picture.isNull() && _inside->parts->placeInView({.image = picture, .topRowFirst = false}, inSize,
+                                                            atCenter, radian, isUndo);
 }
 
 bool QDDrawCanvas::setImage(const QImage& image, const QRectF& inRect, bool isUndo) {
@@ -286,7 +287,7 @@ bool QDDrawCanvas::setImage(const QImage& image, const QRectF& inRect, bool isUn
 
 bool QDDrawCanvas::setImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
                             bool isUndo) {
-    return placeInView({.image = image, .replaces = true}, inSize, atCenter, radian, isUndo);
+    return _inside->parts->placeInView({.image = image, .replaces = true}, inSize, atCenter, radian, isUndo);
 }
 
 bool QDDrawCanvas::setImageInBufferRect(const QImage& image, const QRectF& rect, bool isUndo) {
@@ -306,8 +307,9 @@ bool QDDrawCanvas::setData(const QByteArray& data, const QSize& dataSize, const 
 bool QDDrawCanvas::setData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize,
                            const QPointF& atCenter, double radian, bool isUndo) {
     const QImage picture = pictureOfData(data, dataSize);
-    return !picture.isNull() && placeInView({.image = picture, .topRowFirst = false, .replaces = true},
-                                            inSize, atCenter, radian, isUndo);
+    return !picture.isNull() &&
+           _inside->parts->placeInView({.image = picture, .topRowFirst = false, .replaces = true}, inSize,
+                                       atCenter, radian, isUndo);
 }
 
 // ---- What placing is restricted by

@@ -14,15 +14,13 @@
 //          points divided by scale(). The buffer takes the size of the frame at creation and keeps it.
 // Owns     all that it paints with. Whatever GL context the caller had current is current again when a member function
 //          returns, and while a delegate is called.
-// Thread   one thread at a time, asserted in debug builds. Several canvases of a process may interleave their strokes
-//          on one thread, and canvases on different threads are independent.
+// Thread   one at a time, asserted in debug builds. Canvases are independent, also where they take turns on a thread.
 // Life     to be destroyed before main() returns: OpenGL and Qt may be gone when static objects go. A host may destroy
 //          it in any callback, see QDDrawViewDelegate.h.
 // Errors   never throws; a failure is a log line and a false or null result.
-// Loss     a driver may take its device away, and all pixels in it, as a graphics card that is reset does. One log line
-//          then, the delegate hears of it, and isContextLost() holds for good: what draws, places, reads or clears does
-//          nothing and returns false or null, without further lines; no stroke begins; the history stays as it is, to be
-//          had from undoManager(), and displayImage() what was last shown. Another canvas can go on from these.
+// Loss     a driver may take its device away, as a graphics card that is reset does. After one log line isContextLost()
+//          holds for good: what draws, places, reads or clears does nothing and returns false or null. Another canvas
+//          can go on from undoManager() and displayImage().
 #pragma once
 
 #include <QByteArray>
@@ -55,18 +53,14 @@ class LeafDrawing;
 namespace dabcanvas {
 class GLSurface;
 class PaintSurface;
-struct PlacedImage;
-struct Rect;
 }  // namespace dabcanvas
 
 class DABCANVAS_CANVAS_API QDDrawCanvas {
 public:
     // ---- Make
-
     // As large as the frame, transparent, with the default brush. Null, after one log line, when there is no OpenGL 3.2
     // or a side is not from 1 to the driver's limit.
     static std::unique_ptr<QDDrawCanvas> initWithFrame(const QRectF& frame);
-
     virtual ~QDDrawCanvas();
     QDDrawCanvas(const QDDrawCanvas&) = delete;
     QDDrawCanvas& operator=(const QDDrawCanvas&) = delete;
@@ -75,42 +69,32 @@ public:
     void setDelegate(QDDrawViewDelegate* delegate);  // not owned; null for none
 
     // ---- Paint
-
     // One stroke is a begin, any number of moves and an end; nothing is drawn at begin. Pressure and altitude (pen
     // tilt, 0 upright to 1 flat) are 0..1, -1 when not given. online: ask the display to show each segment at once; the
-    // pixels are the same without.
-    // A sample that is not finite is refused, with one log line a stroke, and the stroke goes on: a refused begin leaves
-    // the beginning to the first good move, a refused end ends where the stroke got to. Moves and ends without a begin
-    // do nothing; a begin without an end before it ends that stroke as it stands, as a step of its own (a preview's
-    // leaves nothing). A begin during whose callbacks the stroke is ended begins nothing.
-    // A brush of another kind in mid-stroke leaves what was drawn as it is, beyond the reach of withdrawing; so do a
-    // clear, an image and updateBGImage().
+    // pixels are the same without. A move within 1.0 buffer pixel of the last accepted one draws nothing.
+    // A sample that is not finite is refused, with one log line a stroke: a refused begin leaves the beginning to the
+    // first good move, a refused end ends where the stroke got to. Moves and ends without a begin do nothing; a begin
+    // in mid-stroke first ends that stroke as it stands, as a step of its own (a preview's leaves nothing). What was
+    // drawn before a clear, an image, updateBGImage() or a brush of another kind in mid-stroke cannot be withdrawn.
     void drawingWithBeginPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
-    // Does nothing more than two callbacks for a point within 1.0 buffer pixel of the last accepted one.
     void drawingWithMoveToPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
     void drawingWithEndPoint(QPointF point, float pressure = -1, float altitude = -1, bool online = true);
-    // Whether a stroke has begun and not ended yet.
-    bool isDrawing() const;
+    bool isDrawing() const;  // a stroke has begun and not ended yet
 
-    // Draws a shape's outline with the present brush, at full pressure and without the tapers of a stroke, and records a
-    // step when autoMark() is on. The record's unit is the one that points are recognised in: buffer pixels divided by
-    // recogPointScale(). False, and nothing drawn, for none; after a log line in mid-stroke and for a record that lacks
-    // corners or is not finite or beyond reason.
-    bool drawShape(const ShapeRecord& shape);
     // While enableRecogition() is on, a stroke is only a sketch: at its end it is taken off the canvas, and where it was
     // meant as a shape, that is drawn in its place, as one step of the history. A stroke that is none, or of 4 points or
     // fewer, or without an end, leaves the canvas and edited() as they were. Brush types 3 and 4 draw plain dabs
-    // meanwhile. Switching in mid-stroke leaves what was drawn of it so far.
+    // meanwhile. drawShape() draws such an outline without a stroke, at full pressure and without tapers; its unit is
+    // buffer pixels divided by recogPointScale(). False, and nothing drawn, for none; after a log line in mid-stroke and
+    // for a record that lacks corners or is not finite or beyond reason.
+    bool drawShape(const ShapeRecord& shape);
 
     // ---- Brush
-
-    // Getter and setter of every property, from `float opacity() const; void setOpacity(float value);` on: a pair for
+    // Getter and setter of every property, such as `float opacity() const; void setOpacity(float value);`: a pair for
     // each row of BrushPropertyList.h, which says type, range, default and meaning. Numbers out of range are clamped,
-    // numbers that are not finite refused with a log line. Setting takes effect with the next segment; a drawn tip is
-    // drawn when it is asked for or the next dab needs it. What is special:
-    //   textureImages     none: textureType becomes 0, and dabs have the tip of a new canvas, which is not among them.
-    //                     Deliberate: only a tip's alpha counts, the brush colour fills it; its own colours show with
-    //                     colorFul alone.
+    // numbers that are not finite refused with a log line. Setting takes effect with the next segment. What is special:
+    //   textureImages     none: textureType becomes 0, and dabs are soft discs.
+    //                     Deliberate: only a tip's alpha counts, but for colorFul, which shows its own colours.
     //   enableRecogition  on: takes curImageData() from the canvas, unless autoMark() is on.
     template <typename Type>
     using BrushArgument = std::conditional_t<std::is_arithmetic_v<Type>, Type, const Type&>;
@@ -123,16 +107,15 @@ public:
     }
 #include "Brushes/BrushPropertyList.h"
 
-    // By row, for tools. False when the QVariant holds something else than the row's type or a number that is not
-    // finite.
+    // By row, for tools. False for a QVariant of another type than the row's and for numbers that are not finite.
     bool setBrushValue(const dabcanvas::BrushProperty& property, const QVariant& value);
     QVariant brushValue(const dabcanvas::BrushProperty& property) const;
     const dabcanvas::BrushSettings& brush() const;
 
     // Every property that a preset may leave out takes its default; colours, tip images and a few more stay.
     void resetParams();
-    // Make a preset, records or a file's last brush, the brush. It replaces the present one as a whole. False, and
-    // nothing changed, without records or when the file cannot be read.
+    // A preset, as records or a file's last brush, takes the whole brush's place. False, and nothing changed, without
+    // records or when the file cannot be read.
     bool resetWithParams(const std::optional<BrushParams>& params, int version);
     bool resetWithXBFPath(const QString& path, QString* problem = nullptr);
 
@@ -145,11 +128,10 @@ public:
     }
 
     // ---- Clear, fill, look
-
     // The canvas as premultiplied RGBA, upright, bufferSize() large; null when it cannot be read.
     QImage image();
-    // The same, kept between calls: only what changed since the last call is read back. Valid until the next.
-    // A preview's stroke that has ended is not in it until it is placed; leafDrawView() shows it so long.
+    // The same, valid until the next call: only what changed since the last one is read back. A preview's stroke that
+    // has ended is not in it until it is placed; leafDrawView() shows it so long.
     const QImage& displayImage();
 
     // Clears the canvas and all layers, to transparent or a colour; one of no components is transparent.
@@ -162,40 +144,31 @@ public:
     QSizeF scale() const;
     // To be called when the frame has changed its size: points and redisplay rectangles scale from then on.
     void updateScaleInfo();
-    // Whether the canvas was drawn on or cleared since the last step.
-    bool edited() const;
-    // Whether the device that it paints with is gone; found by what draws or reads next.
-    bool isContextLost() const;
+    bool edited() const;         // the canvas was drawn on or cleared since the last step
+    bool isContextLost() const;  // see Loss; found by what draws or reads next
 
     // ---- Images
-
-    // Reading back: rectangles in view points (readDataBufferRect(): buffer pixels) that lie on the canvas and cover a
-    // pixel at least; between pixels, those whole ones that lie between the edges cut to integers, the lower ones as
-    // counted from the canvas's bottom. Null or false, after a log line, for any other.
+    // Reading back: rectangles in view points (readDataBufferRect(): buffer pixels) on the canvas and at least a pixel
+    // large, edges cut to integers as counted from the bottom left; null or false, after a log line, for any other.
+    // Bytes are premultiplied RGBA, 4 a pixel, bottom row first, rows without gaps, in the caller's room.
     QImage imageWithRect(const QRectF& rect);
-    // Premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps. The caller provides the room.
     bool readData(unsigned char* bytes, const QRectF& rect);
     bool readDataBufferRect(unsigned char* bytes, const QRectF& bufferRect);
 
     // Placing: the draw family composites an image over what is there, the set family puts it in its place, transparent
-    // parts included. The image is stretched to the rectangle and turned about its centre, counter-clockwise, by
-    // radians.
+    // parts included. The image is stretched to the rectangle and turned about its centre, counter-clockwise, in
+    // radians; anchorPoint: about a point of the view instead. A stroke in progress goes on above the image.
     //
     // Units    view points; buffer pixels in forms that name the buffer and with isUndo, which is for putting back what
     //          was recorded: it leaves edited() as it is. Device pixel ratios play no role.
-    // Data     premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps, dataSize pixels: what
-    //          readData() gives, so that setData() of it is the same picture again.
-    // Pixels   exact where the image keeps its size on whole pixels, also turned by quarters; interpolated when
-    //          enlarged, averaged when reduced; where its edges cut through pixels these are blended smoothly, in both
-    //          families. An image larger than the driver's largest texture is scaled down to it first.
-    // Strokes  one in progress goes on above the image: what it drew so far is finished below.
-    // Errors   false, and nothing changed: after a log line for a null image, data shorter than dataSize says, numbers
-    //          that are not finite, sides not from a millionth to a million buffer pixels, and without the memory;
-    //          quietly for what lies outside of the canvas.
+    // Data     dataSize pixels of what readData() gives, so that setData() of it is the same picture again.
+    // Pixels   exact where the image keeps its size on whole pixels, also turned by quarters; interpolated when enlarged
+    //          and averaged when reduced, as one beyond the driver's largest texture is first; edges are smooth.
+    // Errors   false, and nothing changed: quietly for what lies outside of the canvas; after a log line for a null image,
+    //          too little data, sides not from a millionth to a million buffer pixels, and without the memory.
     bool drawImage(const QImage& image, const QRectF& inRect, bool isUndo = false);
     bool drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
                    bool isUndo = false);
-    // Turned about a point of the view instead of the centre.
     bool drawImage(const QImage& image, const QSizeF& inSize, const QPointF& atCenter, double radian,
                    const QPointF& anchorPoint);
     bool drawData(const QByteArray& data, const QSize& dataSize, const QRectF& inRect, bool isUndo = false);
@@ -211,41 +184,37 @@ public:
     bool setData(const QByteArray& data, const QSize& dataSize, const QSizeF& inSize, const QPointF& atCenter,
                  double radian, bool isUndo = false);
 
-    // Placing touches only what lies in scissorRect(): buffer pixels, rounded to whole ones. It may be far larger than
-    // the canvas; one that is not finite is refused with a log line; an empty one lets nothing through.
+    // Placing touches only what lies in scissorRect(): buffer pixels, rounded to whole ones. An empty one lets nothing
+    // through; one that is not finite is refused with a log line.
     bool globalScissor() const;
     void setGlobalScissor(bool value);
     QRectF scissorRect() const;
     void setScissorRect(const QRectF& rect);
 
     // ---- Undo
-
-    // Steps are whole pictures of the canvas, as bytes: premultiplied RGBA, bottom row first, bufferSize() large. The
-    // first is the canvas as it was made; a host that prepares a picture first calls resetUndoManager() then. How many
-    // there are, and where they are kept, is undoManager()'s. Nothing of a history is made before it is asked for.
-
+    // Steps are whole pictures of the canvas, as readData() gives them. The first is the canvas as it was made; a host
+    // that prepares a picture calls resetUndoManager() then. How many there are, and where they are kept, is
+    // undoManager()'s. Nothing of a history is made before it is asked for.
+    //
     // Record a step at the end of every stroke, after every image placed and every clear.
     bool autoMark() const;
     void setAutoMark(bool autoMark);
     // Recorded by itself, steps are at least this many seconds apart; what is drawn in between goes into the next one.
     float markTimeInterval() const;
     void setMarkTimeInterval(float seconds);
-
     // Records the canvas as a step and drops what was undone. Null, and nothing recorded, when nothing was drawn since
     // the last one, or too shortly after it, or without the memory.
     QByteArray markAction();
     // Make the step before, or after, the canvas, whatever globalScissor() and neglectTextureUpdate() hold back
-    // otherwise. What was drawn since the last step is lost to neither: undo() records it first, at whatever interval,
-    // and redo() finds nothing then. Null, and nothing changed, when there is none, a stroke is in progress or a step is
-    // still being written to disk; and, with a log line, without the memory. A step that was lost clears the canvas,
-    // with a log line.
+    // otherwise. undo() first records what was drawn since the last step, at whatever interval; redo() finds nothing
+    // then. Null, and nothing changed, when there is none, a stroke is in progress or a step is still being written to
+    // disk; and, with a log line, without the memory. A step that was lost clears the canvas, with a log line.
     QByteArray undo();
     QByteArray redo();
     // Whether there is a step to go to; in mid-stroke, whether there will be without the stroke.
     bool canUndo() const;
     bool canRedo() const;
-    // Makes the present canvas the only step.
-    QByteArray resetUndoManager();
+    QByteArray resetUndoManager();  // makes the present canvas the only step
     // Makes the history, if there is none yet, and gives the last step's picture. Sets markTimeInterval() to 0, and
     // times the next step from now.
     QByteArray loadUndoManager();
@@ -254,35 +223,27 @@ public:
     ImagesUndoManager& undoManager();
 
     // ---- Repeat and measure
-
-    // Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After
-    // switching this on, or a seed, the same calls paint the same bytes, whatever was painted before; in mid-stroke that
-    // begins with the next one.
-    // On: every stroke begins its sequences anew and so repeats by itself. Dabs take fixed values by their number in the
-    // stroke, which ties the attributes of a dab to each other. Off: numbers run on.
+    // Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After either
+    // call the same strokes paint the same bytes, from the next one on. On: every stroke repeats by itself; its dabs
+    // take fixed values by their number, which ties the attributes of a dab to each other. Off: numbers run on.
     void setRepeatableRandom(bool repeatable);
-    // Begins the canvas's generator, which until then was seeded by chance, and which runs on from stroke to stroke.
-    // While strokes repeat, only the sizes of their dabs depend on it.
+    // Begins the generator, which until then was seeded by chance. While strokes repeat, only dab sizes depend on it.
     void setRandomSeed(std::uint32_t seed);
     // Times each stage, waiting for the surface at each: honest shares, but slower strokes.
     void setProfiling(bool profiling);
     const dabcanvas::StrokeStats& strokeStats() const;
 
-    // What paint lies in. A host that enters many strokes in a row holds a SurfaceScope of it meanwhile: going to its
-    // device once is cheaper than for every call.
+    // What paint lies in. A SurfaceScope of it, held while many strokes are entered, is cheaper than one for every call.
     dabcanvas::PaintSurface& surface();
-    // The same for hosts that draw with OpenGL themselves; null where that is not what it paints with.
-    dabcanvas::GLSurface* glSurface();
-    // What draws, in words.
-    QString rendererName();
+    dabcanvas::GLSurface*
+    glSurface();             // for hosts that draw with OpenGL themselves; null where this does not
+    QString rendererName();  // what draws, in words
 
     // ---- Pointer events
-
     // What a display tells of its devices. A stroke belongs to the kind of device that began it: while a finger draws,
     // mouse and pen are refused, and the other way round. A mouse or pen stroke ends through the cancel path: one of up
-    // to nine moves is withdrawn, as if never drawn, unless adjustCancelLine is off; any other is finished. Withdrawing
-    // puts edited() back to what it was before the stroke. A step recorded in mid-stroke stays a step of its own: as the
-    // canvas is then unlike it, edited() is on. A click draws nothing. While the frame is empty no stroke begins.
+    // to nine moves is withdrawn, as if never drawn, unless adjustCancelLine is off; any other is finished. A step that
+    // was recorded in mid-stroke stays a step. A click draws nothing. While the frame is empty no stroke begins.
     void touchesBeganWithEvent(const QDDrawTouch& event);
     void touchesMovedWithEvent(const QDDrawTouch& event);
     void touchesEndedWithEvent(const QDDrawTouch& event);
@@ -290,21 +251,18 @@ public:
     void mouseDown(const QDDrawTouch& event);
     void mouseDragged(const QDDrawTouch& event);
     void mouseUp(const QDDrawTouch& event);
-    // Where a pointer is, in view points.
-    virtual QPointF localPointWithTouch(const QDDrawTouch& touch) const;
-    // Ends the stroke of a pointer that will not be heard of again, where it got to, as a cancelled one.
+    virtual QPointF localPointWithTouch(const QDDrawTouch& touch) const;  // in view points
+    // A pointer will not be heard of again: its stroke ends where it got to, as a cancelled one, or is taken back,
+    // however long it is.
     void endPointerStroke();
-    // Takes the pointer's stroke back, however long it is.
     void withdrawPointerStroke();
     bool adjustCancelLine() const;
     void setAdjustCancelLine(bool value);
 
-    // Draws brush type 4. Its strokes are put onto the canvas by the event loop after their end, or as soon as the
-    // canvas is read or drawn on.
+    // Draws brush type 4; a stroke comes onto the canvas by the event loop, or when that is read or drawn on before.
     LeafDrawing& leafDrawView();
 
     // ---- Kept for callers of old
-
     // Without altitude, or without pressure and altitude: the forms above do.
     void drawingWithBeginPoint(QPointF point, std::same_as<bool> auto online) {
         drawingWithBeginPoint(point, -1.0f, -1.0f, online);
@@ -325,8 +283,7 @@ public:
         drawingWithEndPoint(point, pressure, -1.0f, online);
     }
 
-    // The steps of one pointer's stroke, whatever the device; the events above choose among them. A begin is false when
-    // the stroke was refused. Of a set of touches the first counts.
+    // The steps of one pointer's stroke: use the events above. A begin is false when refused; of a set the first counts.
     bool beginWithTouch(const QDDrawTouch& touch);
     void moveWithTouch(const QDDrawTouch& touch);
     void endWithTouch(const QDDrawTouch& touch);
@@ -336,9 +293,8 @@ public:
     void endWithTouches(const QList<QDDrawTouch>& touches);
     void cancelWithTouches(const QList<QDDrawTouch>& touches);
 
-    // Their state, which isDrawing() tells as far as a host needs it: has the pointer's stroke ended, moved, and how
-    // often (more than nine moves make a line of it), its last point in view points, whether points are taken, whether a
-    // touch stroke or one of mouse or pen is in progress.
+    // Their state; isDrawing() tells what a host needs. Has the pointer's stroke ended, moved, how often (above nine it
+    // is a line); its last view point; are points taken; is a touch stroke, or one of mouse or pen, in progress.
     bool lineFinish() const;
     void setLineFinish(bool value);
     bool lineMove() const;
@@ -355,33 +311,30 @@ public:
     bool digitPenMoving() const;
     void setDigitPenMoving(bool value);
 
-    // For the host's own use, never read here: whether the device's pressure is wanted, and which one else.
+    // For the host's own use, never read here: is the device's pressure wanted, and which one else.
     bool enableDevicePress() const;
     void setEnableDevicePress(bool value);
     float normalPress() const;
     void setNormalPress(float value);
-    // What brushType and its fellows come to.
-    bool isSmudgeType() const;
+    bool isSmudgeType() const;  // what brushType and its fellows come to
     bool needRepeatedlyRender() const;
     bool needColorTendency() const;
-    // The records that the line and the sub-line are drawn by; the canvas's, to look at. brush() says the same.
+    // The records that line and sub-line are drawn by; the canvas's, to look at. brush() says the same.
     const LPLineParams& lineParaObj() const;
     const LPLineParams& subLineParaObj() const;
-    // They lock nothing: see Thread.
-    void lock() {}
+    void lock() {}  // nothing: see Thread
     void unlock() {}
 
     // Strokes do all of this by themselves. Runs of dabs, or a single one, straight into a layer, in buffer pixels; the
-    // touched rectangle comes back, in whole pixels. A run with a number that is not finite is refused as a whole, with a
-    // log line. Without a layer named they go into the line's, and updateImage() puts the area touched last onto the
-    // canvas; the end of the next stroke clears them from the layer, as clearExtenBuffer() does at once.
+    // touched rectangle comes back, in whole pixels. A number that is not finite refuses the run, with a log line.
+    // Without a layer named they go into the line's, and updateImage() puts the area touched last onto the canvas; the
+    // end of the next stroke clears them from the layer, as clearExtenBuffer() does at once.
     QRectF drawPoints(const LPPoint* points, std::size_t count, ESRenderType layer);
     QRectF drawPoints(const LPPoint* points, std::size_t count);
     QRectF drawPoint(QPointF point, float size);
     void updateImage(bool online);
     void updateImage(bool online, bool smudge);
-    // Repaints every pixel that an area touches, in buffer pixels, as it was before the stroke, and asks the display to
-    // show it. An area that is not finite or touches none changes nothing.
+    // Repaints every pixel that an area touches, in buffer pixels, as it was before the stroke, and has it shown.
     void resetWithRenderRect(const QRectF& rect);
     // Makes the smudge layer show the present canvas, for which the layers' strokes are finished.
     void updateSmudgeBGTexture();
@@ -391,30 +344,26 @@ public:
     void clearExtenBuffer();
     void clearSubBuffer();
     void clearSmudgeBuffer();
-    // As clear() and clearWithColor(), but the canvas image alone, with what a stroke in progress has drawn so far; dabs
-    // that wait in a layer stay there.
+    // As clear(), but the canvas and what a stroke in progress has drawn so far; dabs that wait in a layer stay there.
     void clearESBufferOnline(bool online);
     void clearESBufferWithColor(const ESColor& color, bool online);
     QImage newCGImageWithRect(const QRectF& rect);  // imageWithRect()
-    // Placing changes the canvas alone, not the background that strokes and drawn images are blended with, and a stroke
-    // in progress is not finished: for a caller that puts the canvas back as the background has it.
+    // Placing changes the canvas alone, not the background that strokes are blended with, and a stroke in progress is
+    // not finished: for a caller that puts the canvas back as the background has it.
     bool neglectTextureUpdate() const;
     void setNeglectTextureUpdate(bool value);
-    // A recorded canvas: readData() of all of it. Empty for none. While enableRecogition() is on it is the canvas without
-    // the present stroke, and what that is taken back to, be it another picture that the host sets, which then becomes
-    // the whole canvas.
+    // A recorded canvas: readData() of all of it, or empty. While enableRecogition() is on it is what the present stroke
+    // is taken back to, be it another picture that the host sets, which then becomes the whole canvas.
     QByteArray curImageData() const;
     void setCurImageData(const QByteArray& data);
-    // Everything that was composited or placed since the last clear, in buffer pixels.
-    QRectF drawRect() const;
+    QRectF drawRect() const;  // what was composited or placed since the last clear, in buffer pixels
 
 protected:
     // A display derives from this and calls initCanvas() before anything else; false leaves an object to be destroyed.
     explicit QDDrawCanvas(const QRectF& frame);
     bool initCanvas();
 
-    // Held by a display where the canvas must not be destroyed by what it calls meanwhile, as a window system goes on
-    // with it; destroying it then ends the process, with a log line.
+    // Held by a display while the canvas must not be destroyed: that ends the process then, with a log line.
     class MustStay {
     public:
         explicit MustStay(const QDDrawCanvas& canvas);
@@ -427,28 +376,22 @@ protected:
     };
 
     // ---- Display hooks
-
     // displayFrame(), localPointWithTouch() and makeLeafDrawView() are questions: they may not destroy the canvas. The
-    // others may. These come at the end of the call that caused them, with the host's own GL context current.
-
+    // others may: they come at the end of the call that caused them, with the host's own GL context current.
+    //
     // Where the canvas is shown, in view points; its size against bufferSize() gives scale().
     virtual QRectF displayFrame() const;
     // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once.
     virtual void redisplayRect(const QRectF&) {}
     // What shows brush type 4 over the canvas; frame is the buffer, in pixels. Called once, by initCanvas(). Never null.
     virtual std::unique_ptr<LeafDrawing> makeLeafDrawView(const QRectF& frame);
-    // Brush type 4 was chosen, or another.
-    virtual void showLeafDrawView(bool) {}
+    virtual void showLeafDrawView(bool) {}  // brush type 4 was chosen, or another
 
 private:
     friend class QDBrushManager;
-
     dabcanvas::BrushValue storedValue(dabcanvas::BrushKey key) const;
     void store(dabcanvas::BrushKey key, const dabcanvas::BrushValue& value);
     void restoreSubLine(float slRadius, float relationValue);
-    QImage imageOf(const dabcanvas::Rect& part);
-    bool placeInView(const dabcanvas::PlacedImage& image, const QSizeF& size, const QPointF& centre,
-                     double radian, bool isUndo);
 
     class Host;
     class Parts;

@@ -37,9 +37,21 @@ void QDDrawCanvas::Host::mustNotBeNeeded() const {
     }
 }
 
+// Whether the calling thread was in no call yet.
+bool QDDrawCanvas::Host::takeThread() {
+    const std::thread::id own = std::this_thread::get_id(), user = _user.exchange(own);
+#if !defined(NDEBUG) || defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    if (user != std::thread::id() && user != own) {
+        qFatal("a canvas was used by two threads at once");
+    }
+#endif
+    return user == std::thread::id();
+}
+
 QDDrawCanvas::Host::Call::Call(Host& host)
     : _host(host),
       _alive(host.life),
+      _isOutermost(host.takeThread()),
       _canUndo(host._watched != nullptr && host._watched->canUndo()),
       _canRedo(host._watched != nullptr && host._watched->canRedo()) {
     ++host._calls;
@@ -48,6 +60,9 @@ QDDrawCanvas::Host::Call::Call(Host& host)
 QDDrawCanvas::Host::Call::~Call() {
     if (_alive && --_host._calls == 0) {
         _host.tellAll(_canUndo, _canRedo);
+    }
+    if (_alive && _isOutermost) {
+        _host._user = std::thread::id();
     }
 }
 

@@ -3,7 +3,9 @@
 // Whatever the host does meanwhile, be it destroying the canvas, nothing here touches a member of one that is gone.
 #pragma once
 
+#include <atomic>
 #include <optional>
+#include <thread>
 #include <vector>
 
 #include "Canvas/Life.h"
@@ -41,7 +43,8 @@ public:
 
     // One call of the host's: the first local of every function that may change what the host is to hear of. That waits
     // for the end of the outermost one, when none of the canvas's scopes is open and no member is needed any more:
-    // hearing it, the host may destroy the canvas.
+    // hearing it, the host may destroy the canvas. Ends debug builds when another thread is in one: members are no
+    // matter of two.
     class Call {
     public:
         explicit Call(Host& host);
@@ -52,6 +55,7 @@ public:
     private:
         Host& _host;
         dabcanvas::Alive _alive;
+        bool _isOutermost;  // until what waited for its end was told
         bool _canUndo, _canRedo;
     };
 
@@ -74,10 +78,12 @@ public:
     bool isLossTold() const { return _lossTold; }
 
 private:
+    bool takeThread();
     void tellAll(bool couldUndo, bool couldRedo);
 
     QDDrawCanvas& _canvas;
-    Watched* _watched = nullptr;  // null until the canvas is made
+    Watched* _watched = nullptr;           // null until the canvas is made
+    std::atomic<std::thread::id> _user{};  // the thread that is in a call
     int _calls = 0;
     std::vector<QRectF> _toShow;
     std::optional<bool> _showsPreview;

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The parts of a canvas, and the order in which one is asked after another: what has to be finished before a stroke, an
-// image, a look or a step. What the parts themselves do stands in their own headers.
+// image, a look or a step. What the parts themselves do stands in their own headers; none of them knows the canvas, but
+// for the host.
+//
+// Thread   the canvas's, for all of them: one at a time.
+// Life     after whatever may call the host back, a part asks Alive before it touches a member.
 #pragma once
 
 #include "Canvas/BrushState.h"
@@ -61,7 +65,11 @@ public:
     void clearPicture(const ESColor& color);
     // isUndo: what was recorded, which is no edit.
     bool place(const dabcanvas::PlacedImage& image, const dabcanvas::Spot& spot, bool isUndo);
+    // The same of places in view points, but for what was recorded, which is in buffer pixels already.
+    bool placeInView(const dabcanvas::PlacedImage& image, const QSizeF& size, const QPointF& centre,
+                     double radian, bool isUndo);
     bool read(const dabcanvas::Rect& part, const dabcanvas::MutablePixelView& rows);
+    QImage imageOf(const dabcanvas::Rect& part);
     QByteArray mark();
     QByteArray autoMarked();
     QByteArray resetHistory();

@@ -76,7 +76,7 @@ public:
     template <typename Meanwhile>
     void tellEnd(QPointF point, Meanwhile&& meanwhile);
 
-    // A stroke has begun and not ended yet; or its begin was refused, and the first good move begins it.
+    // A stroke has begun and not ended yet. While its begin was refused and a good move is awaited, it has not.
     bool isDrawing() const { return _state == State::drawing; }
     bool isIdle() const { return _state == State::none; }
     // Buffer pixels.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+// What one dab is, apart from what draws it: the points of a stroke go in, jittered dabs come out. Plain C++.
 #pragma once
 
 #include <cstddef>
@@ -9,9 +10,6 @@
 #include "Maths/Export.h"
 
 namespace dabcanvas {
-
-// What one dab is, apart from how it reaches the GPU: the stroke's points go in, jittered dabs come out.
-// Plain C++ without GL; the renderers of this folder hand the dabs on.
 
 // One quad to draw. Buffer pixels with a top-left origin; angles counter-clockwise in radians.
 struct Dab {

@@ -9,7 +9,8 @@
 //          how much a surface keeps of what is drawn is its own.
 // Owns     everything that paint lies in. Tips, papers and pixel views are the caller's; a style's pictures are kept
 //          for as long as the surface draws with them.
-// Thread   one thread at a time. Operations come inside a SurfaceScope, except size() and touched().
+// Thread   one thread at a time. Operations come inside a SurfaceScope, except size(), isLost() and what tells of touched
+//          tiles.
 // Errors   never throws. An operation that cannot be done logs why, changes nothing and returns an empty rectangle or
 //          false; a surface whose device is gone does nothing at all, see isLost().
 #pragma once
