@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "ESRender/Utilities/ESGLErrors.h"
 #include "Preview/LeafDrawing.h"
 
 using dabcanvas::Alive;
@@ -40,6 +41,7 @@ void QDDrawCanvas::Host::mustNotBeNeeded() const {
 QDDrawCanvas::Host::Call::Call(Host& host)
     : _host(host),
       _alive(host.life),
+      _callerBefore(host.entered()),
       _canUndo(host._watched != nullptr && host._watched->canUndo()),
       _canRedo(host._watched != nullptr && host._watched->canRedo()) {
     ++host._calls;
@@ -49,6 +51,20 @@ QDDrawCanvas::Host::Call::~Call() {
     if (_alive && --_host._calls == 0) {
         _host.tellAll(_canUndo, _canRedo);
     }
+    if (_alive) {
+        _host._caller = _callerBefore;
+    }
+}
+
+// The calling thread is in a call from now on. Returns which one was.
+std::thread::id QDDrawCanvas::Host::entered() {
+    const std::thread::id before = _caller.exchange(std::this_thread::get_id());
+#if DABCANVAS_GL_CHECKS
+    if (before != std::thread::id() && before != std::this_thread::get_id()) {
+        qFatal("a canvas was used by two threads at once");
+    }
+#endif
+    return before;
 }
 
 // ---- Questions

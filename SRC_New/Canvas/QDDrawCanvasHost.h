@@ -3,7 +3,9 @@
 // Whatever the host does meanwhile, be it destroying the canvas, nothing here touches a member of one that is gone.
 #pragma once
 
+#include <atomic>
 #include <optional>
+#include <thread>
 #include <vector>
 
 #include "Canvas/Life.h"
@@ -42,6 +44,7 @@ public:
     // One call of the host's: the first local of every function that may change what the host is to hear of. That waits
     // for the end of the outermost one, when none of the canvas's scopes is open and no member is needed any more:
     // hearing it, the host may destroy the canvas.
+    // Debug and sanitizer builds end here when another thread is in the middle of one.
     class Call {
     public:
         explicit Call(Host& host);
@@ -52,6 +55,7 @@ public:
     private:
         Host& _host;
         dabcanvas::Alive _alive;
+        std::thread::id _callerBefore;
         bool _canUndo, _canRedo;
     };
 
@@ -74,11 +78,13 @@ public:
     bool isLossTold() const { return _lossTold; }
 
 private:
+    std::thread::id entered();
     void tellAll(bool couldUndo, bool couldRedo);
 
     QDDrawCanvas& _canvas;
     Watched* _watched = nullptr;  // null until the canvas is made
     int _calls = 0;
+    std::atomic<std::thread::id> _caller{};  // of the outermost one
     std::vector<QRectF> _toShow;
     std::optional<bool> _showsPreview;
     bool _lossTold = false;

@@ -8,8 +8,6 @@
 #pragma once
 
 #include <QRectF>
-#include <atomic>
-#include <thread>
 
 #include "ESContext/ESHostContext.h"
 #include "Maths/Export.h"
@@ -44,10 +42,6 @@ public:
     virtual ESHostContext saveHost() const { return ESHostContext::capture(); }
     virtual void restoreHost(const ESHostContext& host) = 0;
 
-    // The thread that paints with it at present, for a canvas to check that no other one does.
-    std::atomic<std::thread::id>& user() { return _user; }
-
 private:
     QRectF _frame{0, 0, 1024, 1024};
-    std::atomic<std::thread::id> _user{};
 };
