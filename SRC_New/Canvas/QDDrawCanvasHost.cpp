@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "ESRender/Utilities/ESGLErrors.h"
 #include "Preview/LeafDrawing.h"
 
 using dabcanvas::Alive;

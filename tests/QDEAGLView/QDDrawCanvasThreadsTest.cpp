@@ -2,6 +2,7 @@
 // Canvases on threads of their own.
 #include <thread>
 
+#include "ESRender/Utilities/ESGLErrors.h"
 #include "support/CanvasTest.h"
 
 namespace {
