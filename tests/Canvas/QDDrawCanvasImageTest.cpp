@@ -341,7 +341,7 @@ TEST_F(CanvasImageTest, AStrokeGoesOnAboveTheImage) {
 }
 
 TEST_F(CanvasImageTest, WhatIsBelowTheImageStaysThere) {
-    const auto paint = [&](bool dabBefore) {
+    const auto paint = [&](bool dabBefore, bool copied) {
         auto canvas = tintedCanvas();
         const auto dabAt = [&](QPointF at) {
             canvas->drawPoint(at, 50);
@@ -351,11 +351,14 @@ TEST_F(CanvasImageTest, WhatIsBelowTheImageStaysThere) {
             dabAt({80, 60});
         }
         const QImage cover = patternImage({150, 200}, 99);
-        EXPECT_TRUE(canvas->drawImage(cover, QSizeF(150, 200), QPointF(100, 75), kQuarter));
+        EXPECT_TRUE(
+            copied ? canvas->setImage(cover.transformed(QTransform().rotate(-90)), QRectF(0, 0, 200, 150))
+                   : canvas->drawImage(cover, QSizeF(150, 200), QPointF(100, 75), kQuarter));
         dabAt({95, 75});
         return canvas->image();
     };
-    EXPECT_TRUE(imagesMatch(paint(true), paint(false)));
+    EXPECT_TRUE(imagesMatch(paint(true, false), paint(false, false)));
+    EXPECT_TRUE(imagesMatch(paint(true, true), paint(false, true)));
 }
 
 TEST_F(CanvasImageTest, StrokesAreBlendedAsBeforeAfterPlacing) {
