@@ -31,7 +31,8 @@ TEST_F(CanvasStrokeTest, PointsScaleFromViewToBufferAndRedisplayBack) {
     canvas.drawingWithEndPoint({300, 200}, -1, -1, false);
     EXPECT_EQ(told,
               "should begin 90, will begin 100, did begin 50, should move 200, will move 200, did move 100, "
-              "should move 300, will move 300, did move 150, should end 300, will end 300, did end 150, ");
+              "should move 300, will move 300, did move 150, should end 300, will end 300, undo 0, "
+              "did end 150, ");
     ASSERT_EQ(canvas.redisplayed.size(), 2u) << "one a segment, none for the end that was not online";
     // The first segment's dabs lie from x 50 to 75 of the buffer, at y 50.
     EXPECT_TRUE(canvas.redisplayed[0].contains(QPointF(120, 100)));
