@@ -137,22 +137,6 @@ TEST(TexturesToolShape, HardSquareFillsTheTipButForItsCorners) {
     EXPECT_EQ(at(1, 1), 0);
 }
 
-TEST(TexturesToolShape, EveryTipIsSymmetricAwayFromTheCentre) {
-    for (const int type : {kDisc, kRing, kRectangle}) {
-        for (const int n : {3, 8, 9, 64, 65}) {
-            for (const float control : {0.3f, 1.0f, 3.0f}) {
-                QImage tip = toolOf(type, 0.4f, control).textureImageWithSize(n);
-                const int first = (n + 1) / 2 - 2, last = n / 2 + 1;
-                fillRect(tip, QRect(QPoint(first, first), QPoint(last, last)), Qt::transparent);
-                EXPECT_TRUE(imagesMatch(tip.mirrored(true, false), tip))
-                    << type << " " << n << " " << control;
-                EXPECT_TRUE(imagesMatch(tip.mirrored(false, true), tip))
-                    << type << " " << n << " " << control;
-            }
-        }
-    }
-}
-
 // Values out of range
 
 TEST(TexturesToolValues, HardnessBelowZeroOrNotANumberDrawsAsZero) {

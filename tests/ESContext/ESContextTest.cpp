@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <limits>
+#include <tuple>
 #include <vector>
 
 #include "ESContext/EGLSurfacelessView.h"
@@ -162,25 +163,20 @@ TEST_F(ESContextTest, DabsClipToTheirUnionAndNoDabsToNothing) {
 }
 
 TEST_F(ESContextTest, BlendModelsOfTheTargets) {
-    const GLint factors[][2] = {{GL_ZERO, GL_ONE_MINUS_SRC_ALPHA},
-                                {GL_ONE, GL_ONE_MINUS_SRC_ALPHA},
-                                {GL_ONE, GL_ZERO},
-                                {GL_ONE, GL_ONE_MINUS_SRC_ALPHA}};
-    for (std::size_t i = 0; i < 4; ++i) {
+    constexpr int kRest = GL_ONE_MINUS_SRC_ALPHA;
+    for (const auto& [type, source, rest] : {std::tuple(ESRenderTypeCanvas, GL_ZERO, kRest),
+                                             {ESRenderTypeLine, GL_ONE, kRest},
+                                             {ESRenderTypeSubLine, GL_ONE, GL_ZERO},
+                                             {ESRenderTypeSmudge, GL_ONE, kRest}}) {
         _context->setBlendWithSCFactor(GL_DST_COLOR, GL_ONE, GL_ZERO, GL_ZERO);
         _context->setBlendModeWithColorEquation(GL_MAX, GL_MIN);
-        _context->setBlendModelForType(kAllTypes[i]);
-        const auto [source, destination] = factors[i];
-        for (const auto& [name, expected] : {std::pair{GL_BLEND_SRC_RGB, source},
-                                             {GL_BLEND_SRC_ALPHA, source},
-                                             {GL_BLEND_DST_RGB, destination},
-                                             {GL_BLEND_DST_ALPHA, destination},
-                                             {GL_BLEND_EQUATION_RGB, GL_FUNC_ADD},
-                                             {GL_BLEND_EQUATION_ALPHA, GL_FUNC_ADD}}) {
-            GLint value = -1;
-            glGetIntegerv(static_cast<GLenum>(name), &value);
-            EXPECT_EQ(value, expected) << "target " << kAllTypes[i] << ", state " << std::hex << name;
+        _context->setBlendModelForType(type);
+        std::vector<GLint> state;
+        for (const GLenum name : {GL_BLEND_SRC_RGB, GL_BLEND_SRC_ALPHA, GL_BLEND_DST_RGB, GL_BLEND_DST_ALPHA,
+                                  GL_BLEND_EQUATION_RGB, GL_BLEND_EQUATION_ALPHA}) {
+            glGetIntegerv(name, &state.emplace_back());
         }
+        EXPECT_EQ(state, (std::vector<GLint>{source, source, rest, rest, GL_FUNC_ADD, GL_FUNC_ADD})) << type;
     }
 }
 

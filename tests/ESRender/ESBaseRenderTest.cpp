@@ -43,6 +43,7 @@ TEST_F(ESBaseRenderTest, EachPointIsASquareOfItsSizeInTheFlatColour) {
     _render->setFlow(0.6f);
     const LPPoint points[] = {{{10, 8}, 6, {}}, {{30, 20}, 4, {}}};
     EXPECT_EQ(_render->drawPoints(points, 2), QRectF(6, 4, 27, 19));
+    EXPECT_EQ(_render->drawPoints(nullptr, 3), QRectF(kWidth, kHeight, -kWidth, -kHeight)) << "none inverts";
     // The colour is not premultiplied, so these bytes read as plain RGBA.
     QImage expected(kWidth, kHeight, QImage::Format_RGBA8888);
     expected.fill(Qt::transparent);
@@ -50,17 +51,6 @@ TEST_F(ESBaseRenderTest, EachPointIsASquareOfItsSizeInTheFlatColour) {
     fillRect(expected, QRect(28, 18, 4, 4), QColor(255, 51, 0, 153));
     expected.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
     EXPECT_TRUE(imagesMatch(_context->image(), expected));
-}
-
-TEST_F(ESBaseRenderTest, ReturnedRectanglesHaveAMarginAndNoPointsInvertTheBuffer) {
-    _render->setBufferSize({400, 300});
-    const LPPoint point = {{100, 50}, 10, {}};
-    EXPECT_EQ(_render->drawPoints(&point, 1), QRectF(94, 44, 12, 12));
-    const QRectF nothing(400, 300, -400, -300);
-    EXPECT_EQ(_render->drawPoints(&point, 0), nothing);
-    EXPECT_EQ(_render->drawPoints(nullptr, 3), nothing);
-    EXPECT_EQ(ESBaseRender::initWithBufferSize({400, 300})->drawPoints(&point, 1), nothing)
-        << "without a program";
 }
 
 TEST_F(ESBaseRenderTest, RenderersDrawWithTheirOwnVertexDataWhicheverWasMadeLast) {

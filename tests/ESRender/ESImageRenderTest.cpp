@@ -196,20 +196,6 @@ TEST_F(ImageRenderTest, EachTexelLandsOnItsPixel) {
     }
 }
 
-TEST_F(ImageRenderTest, APlacedImageIsUprightExactAndDroppedAfterwards) {
-    make(120, 90);
-    const QImage image = patternImage(QSize(64, 32));
-    _render->setTextureImage(image, GL_TEXTURE0);
-    _render->setUseLargeTexture(true);
-    _render->setBlendType(ESBlendTypeReplace);
-    const QImage result = composite(QRectF(20, 10, 64, 32));
-    EXPECT_TRUE(imagesMatch(result.copy(20, 10, 64, 32), image));
-    EXPECT_EQ(_render->brushTexture(), nullptr);
-    EXPECT_TRUE(imagesMatch(composite(QRectF(20, 10, 64, 32)), result))
-        << "without a source nothing is drawn";
-    EXPECT_EQ(_render->drawPoints(nullptr, 0), QRectF(120, 90, -120, -90)) << "inverted: nothing drawn";
-}
-
 // Programs
 
 TEST_F(ImageRenderTest, AProgramsTextTellsItsType) {

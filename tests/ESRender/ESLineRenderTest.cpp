@@ -87,18 +87,6 @@ TEST_F(LineRenderTest, ATipOfItsOwnSizeIsDrawnTexelOnPixelUprightAndUnmirrored) 
         << "counter-clockwise";
 }
 
-TEST_F(LineRenderTest, ColourAndFlowArePremultiplied) {
-    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
-    _render->setRenderColor(ESColor::rgba(1, 0.5f, 0));
-    _render->setFlow(0.5f);
-    const QImage layer = draw({{{100, 75}, 32, {1, 0, 1}}});
-    const uchar* pixel = layer.constScanLine(75) + 4 * 100;
-    EXPECT_NEAR(pixel[0], 128, 1);
-    EXPECT_NEAR(pixel[1], 64, 1);
-    EXPECT_EQ(pixel[2], 0);
-    EXPECT_NEAR(pixel[3], 128, 1);
-}
-
 TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
     _render->setTextureImage(blockTip(32), GL_TEXTURE1);
     draw({{{100, 50}, 10, {1, 0, 1}}});
@@ -209,19 +197,5 @@ TEST_F(LineRenderTest, PaperTilesFromTheTopLeftAndHoldsBackWhereItIsBlack) {
 }
 
 // Multicolour
-
-TEST_F(LineRenderTest, MulticolourPaintsTheTipsOwnColoursAndTheBrushesWhereItIsBlack) {
-    QImage tip = blockTip(32);
-    fillRect(tip, QRect(0, 0, 16, 32), QColor(200, 40, 60));
-    _render->setTextureImage(tip, GL_TEXTURE1);
-    _render->setRenderColor(ESColor::rgba(0, 0, 1));
-    _render->setColorFul(true);
-    const QImage layer = draw({{{100, 75}, 32, {1, 0, 1}}});
-    const QColor left = layer.pixelColor(90, 75);
-    EXPECT_NEAR(left.red(), 200, 2);
-    EXPECT_NEAR(left.green(), 40, 2);
-    EXPECT_GT(left.blue(), 60) << "between the tip's own blue and the brush's";
-    EXPECT_EQ(layer.pixelColor(110, 75), QColor(0, 0, 255));
-}
 
 }  // namespace

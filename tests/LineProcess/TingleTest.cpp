@@ -194,21 +194,6 @@ TEST_F(TingleTest, CopiesSpreadAcrossTheStroke) {
 
 // Colour
 
-TEST_F(TingleTest, HueWrapsSoThatNoDabTurnsBlack) {
-    SetDebugModel(0);
-    bool green = false;
-    bool blue = false;
-    for (int i = 0; i < 2000; ++i) {
-        const RgbType c = HSVTingle({1, 0, 0}, 1.0f, 0, 0);
-        ASSERT_NEAR(std::max(c.r, std::max(c.g, c.b)), 1.0, 1e-5);
-        green = green || c.g > 0.99f;
-        blue = blue || c.b > 0.99f;
-        const RgbType grey = HSVTingle({0.5f, 0.5f, 0.5f}, 1.0f, 1.0f, 0);
-        ASSERT_TRUE(grey.r == 0.5f && grey.g == 0.5f && grey.b == 0.5f);
-    }
-    EXPECT_TRUE(green && blue);
-}
-
 TEST(ColorTypesTest, KnownColoursConvert) {
     EXPECT_EQ(Rgb_to_Hsv({1, 0, 0}).h, 1.0f);
     EXPECT_EQ(Rgb_to_Hsv({0.5f, 0.5f, 0.5f}).s, 0.0f);

@@ -126,23 +126,6 @@ TEST(XBF, AMethodIsCutTo39BytesAndTheRestOfALongerOneIsSkipped) {
     }
 }
 
-TEST(XBF, BytesThatATypeDoesNotNameAreWrittenAsTheyLieInMemory) {
-    _XBFParamValue value = emptyValue();
-    value.textureValue.size.width = 0x11111111;
-    value.textureValue.size.height = 0x22222222;
-    value.textureValue.depth = 0x33333333;
-    value.boolValue = 1;
-    char text[] = "6162";
-    _XBFParamValue pointer = emptyValue();
-    pointer.textValue = text;
-    const Stream stream = streamOf();
-    AddValue(stream.get(), 1, "setIt:", kXBFBool, value);
-    AddValue(stream.get(), 1, "setIt:", kXBFText, pointer);
-    EXPECT_EQ(bytesOf(stream),
-              record(1, kXBFBool, "\1\x11\x11\x11\x22\x22\x22\x22\x33\x33\x33\x33") +
-                  record(1, kXBFText, std::string(reinterpret_cast<char*>(&pointer), 8), number(4) + text));
-}
-
 // Reading
 
 TEST(XBF, LengthsBelowOneMeanNothingAndATerminatorOwnsNothing) {

@@ -215,6 +215,7 @@ TEST_F(DrawViewEventsTest, AStrokeEndsWithItsWindow) {
         {"no room",
          [&] {
              view->resize(0, 0);
+             mouse(QEvent::MouseButtonPress, {20, 20});  // on nothing
              view->resize(200, 150);
          }},
         {"release lost", [&] {

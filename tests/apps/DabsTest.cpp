@@ -38,18 +38,6 @@ void expectRows(const QByteArray& rows, const std::vector<std::vector<double>>& 
     }
 }
 
-TEST(DabsTest, EvenSpacingAlongAStraightLine) {
-    // Radius 10 throughout, no taper: a dab every 10 x 0.2.
-    const QByteArray rows = dabsOf(R"({"strokes": [{"set": {"radius": 10, "minRadius": 1, "maxRadius": 1,
-        "endRadius": 0, "pointsDistance": 0.2, "smoothEnabled": false}, "samples": [[0, 0], [10, 0, -1, 0]], "end": false}]})");
-    expectRows(rows, {{1, 0, 0, 10, -1, 0, 1},
-                      {1, 2, 0, 10, -1, 0, 0.988},
-                      {1, 4, 0, 10, -1, 0, 0.976},
-                      {1, 6, 0, 10, -1, 0, 0.964},
-                      {1, 8, 0, 10, -1, 0, 0.952},
-                      {1, 10, 0, 10, -1, 0, 0.94}});
-}
-
 TEST(DabsTest, SettingsStayAndSamplesCountOverTheFile) {
     // One dab a sample. Radius 10 at the middle of 0.2 and 1 is 6; the end tapers to 0.1 of 10. The speed at
     // a move of 10 is 1 - 10/50 with weight 0.3; an end measures none, and blends the speed before with

@@ -115,18 +115,15 @@ TEST_F(PresetProgramTest, WhatIsNotWholeIsRefused) {
         {"text.xbf", "text.xbf: this is not an XBF file"},
         {"image.xbf", "damaged: maskImage is not an image"},
         {"none.xbf", "none.xbf: cannot be read"}};
-    const QString recording = write("r.json", R"({"strokes": [{)" + kLine + "}]}");
+    write("r.json", R"({"strokes": [{)" + kLine + "}]}");
     const auto before = filesThere();
     for (const auto& [name, message] : kBad) {
         SCOPED_TRACE(name);
-        expectOneLine(runProgram({QStringLiteral("paint"), recording, QStringLiteral("-o"), path("out.png"),
-                                  QStringLiteral("--brush"), path(name)}),
-                      1, message);
-        expectOneLine(preset("preview -o", {path("out.png"), path(name)}), 1, message);
+        expectOneLine(run(std::string("paint %r.json -o %out.png --brush %") + name), 1, message);
+        expectOneLine(run(std::string("preset preview -o %out.png %") + name), 1, message);
         const QString named = write(
             "named.json", "{\n\"brush\": \"" + QByteArray(name) + "\", \"strokes\": [{" + kLine + "}]}");
-        expectOneLine(runProgram({QStringLiteral("paint"), named, QStringLiteral("-o"), path("out.png")}), 1,
-                      "named.json:2: brush: ");
+        expectOneLine(run("paint %named.json -o %out.png"), 1, "named.json:2: brush: ");
         ASSERT_TRUE(QFile::remove(named));
     }
     expectOneLine(make("none/a.xbf", {}), 1, "none/a.xbf: cannot be written");
@@ -203,9 +200,8 @@ TEST_F(PresetProgramTest, ABrushOfFewRecordsTakesThePlaceOfAllBefore) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         ASSERT_TRUE(QDBrushManager::saveParams(row.params, 200, QLatin1String(row.name), path("few.xbf")));
-        const Ended ended =
-            runProgram({QStringLiteral("paint"), write("r.json", "{\"strokes\": [{" + kLine + "}]}"),
-                        QStringLiteral("-o"), path("out.png"), QStringLiteral("--brush"), path("few.xbf")});
+        write("r.json", "{\"strokes\": [{" + kLine + "}]}");
+        const Ended ended = run("paint %r.json -o %out.png --brush %few.xbf");
         EXPECT_EQ(ended.status, 0) << ended.err.constData();
         EXPECT_EQ(QImage(path("out.png")).width(), row.width);
     }

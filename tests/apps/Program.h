@@ -44,6 +44,14 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
         return file.fileName();
     }
+    // Runs the program with these words; % is the folder.
+    Ended run(const std::string& words, const QByteArray& input = {}) const {
+        const QString line = QString::fromStdString(words);
+        return runProgram(QString(line)
+                              .replace(QLatin1Char('%'), _folder.path() + QLatin1Char('/'))
+                              .split(QLatin1Char(' ')),
+                          input);
+    }
     QStringList filesThere() const {
         return QDir(_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }

@@ -31,10 +31,8 @@ TEST_F(ProgramTest, ShapesComeStrokeByStrokeFromAnyInput) {
         EXPECT_THAT(ended.out.toStdString(), isTable(kTwoRows));
     }
     // A name counts within its file only.
-    const QString file = write("in.csv", twoStrokes().replace("\r\n", "\r"));
-    const Ended ended = runProgram({kShapes, file, QStringLiteral("-"), QStringLiteral("-o"), path("out.csv"),
-                                    QStringLiteral("--outlines"), path("lines.csv")},
-                                   twoStrokes());
+    write("in.csv", twoStrokes().replace("\r\n", "\r"));
+    const Ended ended = run("shapes %in.csv - -o %out.csv --outlines %lines.csv", twoStrokes());
     EXPECT_EQ(ended.status, 0) << ended.err.constData();
     EXPECT_TRUE(ended.out.isEmpty());
     const auto written = [&](const char* name) {
@@ -61,24 +59,14 @@ TEST_F(ProgramTest, BadTablesAreToldWithTheirLineAndLeaveNoFile) {
         {"sample_id,x,y\n\"a\nb\"c,1,2\n", "in.csv:3: a quoted field goes on after its closing quote"},
     };
     for (const auto& [bytes, message] : table) {
-        const QString file = write("in.csv", bytes);
-        expectOneLine(runProgram({kShapes, file, QStringLiteral("-o"), path("out.csv"),
-                                  QStringLiteral("--outlines"), path("lines.csv")}),
-                      1, message);
+        write("in.csv", bytes);
+        expectOneLine(run("shapes %in.csv -o %out.csv --outlines %lines.csv"), 1, message);
     }
-    const QString good = write("in.csv", twoStrokes());
-    expectOneLine(runProgram({kShapes, good, path("none.csv")}), 1, "none.csv: cannot be read");
-    expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), path("no/a"), QStringLiteral("-o"),
-                              path("out.csv")}),
-                  1, "no/a: cannot be written");
-    expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), QStringLiteral("-")}), 2,
-                  "would both go to standard output");
-    expectOneLine(runProgram({kShapes, good, QStringLiteral("--outlines"), path("./a.csv"),
-                              QStringLiteral("-o"), path("a.csv")}),
-                  2, "would both go to");
-    expectOneLine(
-        runProgram({kShapes, QStringLiteral("-"), good, QStringLiteral("--outlines"), path("./in.csv")}), 2,
-        "in.csv is what is read");
+    write("in.csv", twoStrokes());
+    expectOneLine(run("shapes %in.csv %none.csv"), 1, "none.csv: cannot be read");
+    expectOneLine(run("shapes %in.csv --outlines %no/a -o %out.csv"), 1, "no/a: cannot be written");
+    expectOneLine(run("shapes %in.csv --outlines -"), 2, "would both go to standard output");
+    expectOneLine(run("shapes - %in.csv --outlines %./in.csv"), 2, "in.csv is what is read");
     EXPECT_EQ(filesThere(), QStringList(QStringLiteral("in.csv")));
 }
 
@@ -93,23 +81,19 @@ TEST_F(ProgramTest, RecognisedRecordingsKeepTheirShapesAlone) {
         }
         rows += "0 0 0 0\n";
     }
-    const QString recording = write("a.dat", rows);
-    const auto paint = [&](const QStringList& more) {
-        const Ended ended = runProgram(QStringList{QStringLiteral("paint"), recording, QStringLiteral("-o"),
-                                                   path("a.png"), QStringLiteral("--size=150x120"),
-                                                   QStringLiteral("--set"), QStringLiteral("radius=6")} +
-                                       more);
+    write("a.dat", rows);
+    const auto paint = [&](const char* more) {
+        const Ended ended = run(std::string("paint %a.dat -o %a.png --size=150x120 --set radius=6") + more);
         EXPECT_EQ(ended.status, 0) << ended.err.constData();
         std::vector<bool> painted;
         for (const int y : {20, 60, 100})
             painted.push_back(qGray(QImage(path("a.png")).pixel(75, y)) < 200);
         return painted;
     };
-    const QString recognise = QStringLiteral("--recognise");
-    EXPECT_EQ(paint({}), (std::vector<bool>{true, true, true}));
-    EXPECT_EQ(paint({recognise}), (std::vector<bool>{true, false, true}));
+    EXPECT_EQ(paint(""), (std::vector<bool>{true, true, true}));
+    EXPECT_EQ(paint(" --recognise"), (std::vector<bool>{true, false, true}));
     // One of the two was no step.
-    EXPECT_EQ(paint({recognise, QStringLiteral("--undo=2")}), (std::vector<bool>{true, false, false}));
+    EXPECT_EQ(paint(" --recognise --undo=2"), (std::vector<bool>{true, false, false}));
 }
 
 }  // namespace

@@ -50,6 +50,15 @@ protected:
     QPointF inView(double x, double y) {
         return _window->viewport().pointOfBuffer({x, y}) - _window->view()->pos();
     }
+    QAction* action(const char* text) {
+        const auto actions = _window->findChildren<QAction*>();
+        const auto found = std::find_if(actions.begin(), actions.end(), [&](QAction* one) {
+            return one->text() == QString::fromUtf8(text) ||
+                   one->shortcut() == QKeySequence(QLatin1String(text));
+        });
+        EXPECT_NE(found, actions.end()) << text;
+        return *found;
+    }
     QColor pixel(int x, int y) { return _window->view()->image().pixelColor(x, y); }
 };
 
@@ -240,14 +249,10 @@ TEST_F(MainWindowTest, NothingElseHappensInTheMiddleOfAStroke) {
     for (const char* text : {"&Undo", "&Open…", "&Place Image…", "&Save", "Save &As…", "&Clear", "Zoom &In",
                              "Zoom &Out", "&Actual Pixels", "&Whole Canvas", "&Quit"}) {
         SCOPED_TRACE(text);
-        const auto actions = _window->findChildren<QAction*>();
-        const auto action = std::find_if(actions.begin(), actions.end(),
-                                         [&](QAction* a) { return a->text() == QString::fromUtf8(text); });
-        ASSERT_NE(action, actions.end());
         send(QEvent::MouseButtonPress, inView(30, 40), Qt::LeftButton);
         send(QEvent::MouseMove, inView(90, 40), Qt::LeftButton);
         const QImage before = _window->view()->image();
-        (*action)->trigger();
+        action(text)->trigger();
         settle();
         ASSERT_EQ(_window->view(), view);
         EXPECT_EQ(_window->view()->image(), before);
@@ -419,15 +424,7 @@ TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
 }
 
 TEST_F(MainWindowTest, UndoAndRedoFollowTheCanvas) {
-    const auto action = [&](const char* text) {
-        for (QAction* one : _window->actions()) {
-            if (one->text() == QLatin1String(text))
-                return one;
-        }
-        return static_cast<QAction*>(nullptr);
-    };
     QAction *undo = action("&Undo"), *redo = action("&Redo");
-    ASSERT_TRUE(undo && redo);
     EXPECT_FALSE(undo->isEnabled());
     const QImage blank = _window->view()->image();
     paint();
@@ -448,12 +445,7 @@ TEST_F(MainWindowTest, UndoAndRedoFollowTheCanvas) {
 // ---- Shapes
 
 TEST_F(MainWindowTest, StrokesBecomeShapesWhileTheSwitchIsOn) {
-    QAction* shapes = nullptr;
-    for (QAction* action : _window->actions()) {
-        if (action->shortcut() == QKeySequence(QStringLiteral("Shift+R")))
-            shapes = action;
-    }
-    ASSERT_NE(shapes, nullptr);
+    QAction* shapes = action("Shift+R");
     shapes->trigger();
     ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::white}));  // on every canvas
     EXPECT_TRUE(_window->view()->enableRecogition());
@@ -470,13 +462,8 @@ TEST_F(MainWindowTest, StrokesBecomeShapesWhileTheSwitchIsOn) {
     paint();
     EXPECT_TRUE(_window->isUnsaved());
     EXPECT_LT(pixel(100, 75).lightness(), 200);
-    _window->view()->undoManager().waitForWrites();
-    _window->view()->undo();
-    EXPECT_EQ(_window->view()->image(), blank);
-    EXPECT_FALSE(_window->view()->canUndo());
     shapes->trigger();
-    drag(spiral);
-    EXPECT_NE(_window->view()->image(), blank);
+    EXPECT_FALSE(_window->view()->enableRecogition());
     // It is no part of the brush.
     shapes->trigger();
     _window->brush().resetAll();

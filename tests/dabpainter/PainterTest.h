@@ -16,6 +16,7 @@
 #include "MainWindow.h"
 #include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "support/BrushValues.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -89,33 +90,10 @@ protected:
 
 // A value of the property that is neither its default nor the present one.
 inline QVariant otherValue(const BrushProperty& property, const QVariant& now) {
-    switch (property.type()) {
-        case BrushValueType::boolean:
-            return !now.toBool();
-        case BrushValueType::integer:
-            return now.toInt() == 2 ? 4 : 2;
-        case BrushValueType::real: {
-            const float low = std::isfinite(property.low) ? property.low : 0;
-            const float high = std::isfinite(property.high) ? property.high : low + 8;
-            const float middle = low + (high - low) * 0.375f;
-            return middle == now.toFloat() ? middle * 0.5f + low * 0.5f : middle;
-        }
-        case BrushValueType::control:
-            return QVariant::fromValue(LPControlParams{0.25f, -0.5f, 1});
-        case BrushValueType::color:
-            return QVariant::fromValue(ESColor::rgba(0.2f, 0.4f, 0.6f));
-        case BrushValueType::image:
-        case BrushValueType::images: {
-            QImage image(6, 4, QImage::Format_RGBA8888_Premultiplied);
-            image.fill(QColor(10, 60, 90, 128));
-            return property.type() == BrushValueType::image
-                       ? QVariant(image)
-                       : QVariant::fromValue(QList<QImage>{image, image});
-        }
-        case BrushValueType::text:
-            break;
-    }
-    return QStringLiteral("other");
+    if (property.type() == BrushValueType::text)
+        return QStringLiteral("other");
+    const QVariant one = someValue(property, 2);
+    return one == now ? someValue(property, 1) : one;
 }
 
 }  // namespace dabcanvas::dabpainter

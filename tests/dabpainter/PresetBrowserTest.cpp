@@ -105,7 +105,7 @@ TEST_F(PresetBrowserTest, EverySettingComesBackAndTheColoursStay) {
             const bool isColor = property.type() == BrushValueType::color;
             // A file's colours have eight bits.
             if (isColor && colors)
-                EXPECT_NEAR(brush().value(property.key).value<ESColor>().green(), 0.4, 0.01);
+                EXPECT_NEAR(brush().value(property.key).value<ESColor>().green(), 0.5, 0.01);
             else if (isColor)
                 EXPECT_EQ(brush().value(property.key).value<ESColor>(), green);
             else

@@ -2,10 +2,12 @@
 // A canvas to paint on, headless.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "Canvas/QDDrawCanvas.h"
 #include "ESRender/Utilities/ESGLErrors.h"
@@ -30,6 +32,50 @@ protected:
 private:
     std::uint64_t _errors = 0;
 };
+
+// A canvas shown at another size than its buffer's, and what it asks to be shown again.
+class ShownCanvas : public QDDrawCanvas {
+public:
+    explicit ShownCanvas(const QSize& buffer, const QSize& shown = {})
+        : QDDrawCanvas(QRectF(QPointF(), buffer)) {
+        EXPECT_TRUE(initCanvas());
+        _shown = QRectF(QPointF(), shown.isEmpty() ? buffer : shown);
+        updateScaleInfo();
+        redisplayed.clear();
+    }
+    QRectF displayFrame() const override { return _shown.isNull() ? QDDrawCanvas::displayFrame() : _shown; }
+    void redisplayRect(const QRectF& rect) override { redisplayed.push_back(rect); }
+    QRectF redisplayedArea() const {
+        QRectF area;
+        for (const QRectF& rect : redisplayed) {
+            area |= rect;
+        }
+        return area;
+    }
+    std::vector<QRectF> redisplayed;
+
+private:
+    QRectF _shown;
+};
+
+// A stroke without its end, or with it.
+inline void beginThrough(QDDrawCanvas& canvas, const std::vector<QPointF>& points) {
+    canvas.drawingWithBeginPoint(points.front());
+    std::for_each(points.begin() + 1, points.end(), [&](QPointF to) { canvas.drawingWithMoveToPoint(to); });
+}
+inline void paintThrough(QDDrawCanvas& canvas, std::vector<QPointF> points) {
+    const QPointF last = points.back();
+    points.pop_back();
+    beginThrough(canvas, points);
+    canvas.drawingWithEndPoint(last);
+}
+// A mouse's, before its button goes up.
+inline void dragMouse(QDDrawCanvas& canvas, QPointF from, QPointF step, int moves) {
+    for (int i = 0; i <= moves; ++i) {
+        const QDDrawTouch at{from + i * step, 1};
+        i == 0 ? canvas.mouseDown(at) : canvas.mouseDragged(at);
+    }
+}
 
 // One sample of the stroke below, from 0, its begin, to its end.
 inline void paintWaveSample(QDDrawCanvas& canvas, double y, int moves, int i) {

@@ -150,17 +150,3 @@ TEST_F(TextureObjectTest, AKeptBlockServesEveryLoadAndLeavesNothingOfTheLast) {
     EXPECT_FALSE(TextureObject::initWithImages({small, small}, -5)->didInit());
     EXPECT_TRUE(log.has(QStringLiteral("TextureObject:203")));
 }
-
-TEST_F(TextureObjectTest, UsingBindsOnTheUnitAskedFor) {
-    glActiveTexture(GL_TEXTURE5);
-    const auto texture = TextureObject::initWithImage(patternImage({4, 4}));
-    GLint bound = -1;
-    glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
-    EXPECT_EQ(bound, 0) << "uploads end unbound";
-    EXPECT_TRUE(texture->useAtPosition(GL_TEXTURE2));
-    GLint active = 0;
-    glGetIntegerv(GL_ACTIVE_TEXTURE, &active);
-    glGetIntegerv(GL_TEXTURE_BINDING_2D, &bound);
-    EXPECT_EQ(active, GL_TEXTURE2);
-    EXPECT_EQ(static_cast<GLuint>(bound), texture->textureID());
-}

@@ -78,10 +78,7 @@ TEST_F(CanvasPreviewTest, ReachesTheCanvasInTheOrderOfStrokes) {
     canvas->setRenderColor(ESColor::rgba(0, 0, 1));  // too late for the stroke
     canvas->setBrushType(0);
     canvas->setHardness(1);
-    canvas->drawingWithBeginPoint({10, 70});
-    canvas->drawingWithMoveToPoint({60, 70});
-    canvas->drawingWithMoveToPoint({140, 70});
-    canvas->drawingWithEndPoint({160, 70});
+    paintThrough(*canvas, {{10, 70}, {60, 70}, {140, 70}, {160, 70}});
     const QImage both = canvas->image();
     EXPECT_EQ(both.pixelColor(70, 70), QColor(0, 0, 255));
     EXPECT_EQ(both.pixelColor(70, 40), QColor(255, 0, 0));

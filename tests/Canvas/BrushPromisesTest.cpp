@@ -196,6 +196,7 @@ void ring(C& c) { disc(c); c.setTextureType(2); c.setTextureControlValue(3); }
 void scattered(C& c) { whole(c); c.setRadius(6); c.setPointsDistance(40.0f / 6); c.setDistribution(10); }
 void copies(C& c) { scattered(c); c.setDisTwoAxes(true); c.setDistributionCount(4); }
 void vivid(C& c) { whole(c); c.setRenderColor(ESColor::rgba(0.7f, 0.3f, 0.2f)); c.setBackRenderColor(ESColor::rgba(0, 0, 1)); }
+void vividBlue(C& c) { whole(c); c.setRenderColor(ESColor::rgba(0, 0, 1)); }
 void twoTips(C& c) { c.setTextureImages({block(32), letterL()}); }
 void pressedFlow(C& c) { whole(c); c.setFlowControl({1, 0, 0}); }
 void fastRadius(C& c) { whole(c); c.setMinRadius(0.1f); c.setRadiusControl({0, 0, 1}); }
@@ -323,6 +324,7 @@ const Promise kPromises[] = {
      [](P l, P m) { return m.marks.back().box.width() < l.marks.back().box.width() - 2; }, fastRadius, speedUp},
     {"colorFul", "the tip's colour, not the brush's", false, true,
      [](P l, P m) { return l.pixels(isRed) == 0 && m.pixels(isRed) > 500; }, [](C& c) { c.setTextureImages({block(32, Qt::red)}); c.setRenderColor(ESColor::rgba(0, 0, 1)); }},
+    {"colorFul_black", "the brush's where the tip is black", false, true, [](P l, P m) { return same(l, m) && m.pixels(isBlue) > 500; }, vividBlue},
     {"lineProcessType_wide", "2: nothing is thinner than 3 pixels", 0, 2,
      [](P l, P m) { return l.marks[2].weight < 4.5 && near(m.marks[2].weight, 9, 0.5); }, [](C& c) { whole(c); c.setRadius(2); c.setPointsDistance(20); }},
     {"lineProcessType_pale", "4: thinner is paler", 0, 4,

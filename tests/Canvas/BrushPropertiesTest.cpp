@@ -31,11 +31,10 @@ TEST_F(BrushPropertiesTest, RowsStandInKeyOrderUnderUniqueNames) {
     EXPECT_EQ(brushPropertyNamed(u"Radius"), nullptr);
 }
 
-// Every row at once: the created value, what is stored of values in and out of range, and refusal of the
-// wrong kind.
 TEST_F(BrushPropertiesTest, EveryNumberStartsAtItsDefaultAndIsClampedToItsRange) {
     auto canvas = makeCanvas(32, 32);
     for (const BrushProperty& row : brushProperties()) {
+        EXPECT_FALSE(canvas->setBrushValue(row, QVariant())) << row.name;
         if (row.type() != BrushValueType::real) {
             continue;
         }
@@ -52,35 +51,6 @@ TEST_F(BrushPropertiesTest, EveryNumberStartsAtItsDefaultAndIsClampedToItsRange)
         EXPECT_FALSE(canvas->setBrushValue(row, std::numeric_limits<double>::infinity())) << row.name;
         EXPECT_FALSE(canvas->setBrushValue(row, QStringLiteral("12"))) << row.name;
         EXPECT_FLOAT_EQ(canvas->brushValue(row).toFloat(), before) << row.name;
-    }
-}
-
-TEST_F(BrushPropertiesTest, OtherKindsStoreWhatTheyAreGiven) {
-    auto canvas = makeCanvas(32, 32);
-    const QImage tip = solidImage({9, 5}, Qt::black);
-    const QVariant values[] = {true,
-                               2,
-                               {},  // numbers: above
-                               QVariant::fromValue(LPControlParams{0.25f, -0.5f, 1}),
-                               QVariant::fromValue(ESColor::rgba(0.25f, 0.5f, 0.75f, 1)),
-                               tip,
-                               QVariant::fromValue(QList<QImage>{tip, tip}),
-                               {}};
-    for (const BrushProperty& row : brushProperties()) {
-        const QVariant& value = values[static_cast<std::size_t>(row.type())];
-        if (!value.isValid()) {
-            continue;
-        }
-        ASSERT_TRUE(canvas->setBrushValue(row, value)) << row.name;
-        const QVariant stored = canvas->brushValue(row);
-        if (row.type() == BrushValueType::control) {
-            const auto control = stored.value<LPControlParams>();
-            EXPECT_TRUE(control.pressure == 0.25f && control.altitude == -0.5f && control.speed == 1)
-                << row.name;
-        } else {
-            EXPECT_EQ(stored, value) << row.name;
-        }
-        EXPECT_FALSE(canvas->setBrushValue(row, QVariant())) << row.name;
     }
 }
 
@@ -107,6 +77,7 @@ TEST_F(BrushPropertiesTest, LineValuesReachTheRecordsTheirRowsName) {
         EXPECT_EQ(stored(canvas->subLineParaObj(), row), row.lines == Lines::main ? subBefore : value)
             << row.name;
     }
+    lpSetParaObj(nullptr);
     canvas->setTrackNum(3);
     canvas->setRadiusControl({0.1f, 0.2f, 0.3f});
     canvas->setSlRadius(9);

@@ -6,6 +6,7 @@
 #include "Canvas/QDDrawCanvas.h"
 #include "History/ImagesUndoManager.h"
 #include "support/CanvasTest.h"
+#include "support/Hearer.h"
 #include "support/LogCapture.h"
 
 namespace {
@@ -107,12 +108,7 @@ TEST_F(CanvasRecognitionTest, WithdrawnAndAbandonedSketchesLeaveNoTrace) {
     canvas->setEnableRecogition(true);
     const QImage before = canvas->image();
     const auto at = [](double x) { return QDDrawTouch{QPointF(x, 75), 1}; };
-    const auto drag = [&](int moves) {
-        canvas->mouseDown(at(20));
-        for (int i = 1; i <= moves; ++i) {
-            canvas->mouseDragged(at(20 + i * 10));
-        }
-    };
+    const auto drag = [&](int moves) { dragMouse(*canvas, {20, 75}, {10, 0}, moves); };
     drag(5);
     canvas->mouseUp(at(80));  // too short to be meant
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
@@ -139,23 +135,14 @@ TEST_F(CanvasRecognitionTest, WithdrawnAndAbandonedSketchesLeaveNoTrace) {
 // ---- Sketches that are
 
 TEST_F(CanvasRecognitionTest, ALineReplacesItsSketchWhereItWas) {
-    struct Scaled : QDDrawCanvas {
-        Scaled() : QDDrawCanvas(QRectF(0, 0, 201, 151)) {}
-        bool make() { return initCanvas(); }
-        QRectF displayFrame() const override { return shown; }
-        QRectF shown{0, 0, 201, 151};
-    };
     for (const float unit : {1.0f, 2.5f, 0.0f}) {  // 0 divides by nothing
         SCOPED_TRACE(unit);
         const double divisor = unit > 0 ? static_cast<double>(unit) : 1.0;
         auto expected = makeCanvas(201, 151);
         set(*expected, {{K::radius, 9.0f}, {K::recogPointScale, unit}});
         EXPECT_TRUE(expected->drawShape(line({20 / divisor, 40 / divisor}, {170 / divisor, 40 / divisor})));
-        Scaled canvas;
-        ASSERT_TRUE(canvas.make());
+        ShownCanvas canvas({201, 151}, {402, 453});
         set(canvas, {{K::radius, 9.0f}, {K::recogPointScale, unit}, {K::enableRecogition, true}});
-        canvas.shown = QRectF(0, 0, 402, 453);
-        canvas.updateScaleInfo();
         for (int i = 0; i <= 15; ++i) {
             const QPointF at(40.0 + i * 20, 120);
             i == 0 ? canvas.drawingWithBeginPoint(at) : canvas.drawingWithMoveToPoint(at);
@@ -168,30 +155,26 @@ TEST_F(CanvasRecognitionTest, ALineReplacesItsSketchWhereItWas) {
 }
 
 TEST_F(CanvasRecognitionTest, AShapeIsOneStepAndTheEndIsToldOfLast) {
-    struct Recorder : QDDrawViewDelegate {
-        std::string calls;
-        QByteArray shownAtEnd;
-        QPointF drawViewShouldDrawEnd(QDDrawCanvas&, QPointF p) override {
-            calls += "should end, ";
-            return p;
-        }
-        void drawViewWillDrawEnd(QDDrawCanvas&, QPointF) override { calls += "will end, "; }
-        void drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) override {
-            calls += "did end";
-            shownAtEnd = bytesOf(canvas);
-        }
-        void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool) override { calls += "undo, "; }
-    } recorder;
+    Hearer hearer;
+    std::string told;
+    QByteArray shownAtEnd;
     auto canvas = makePatterned();
     canvas->setAutoMark(true);
     canvas->setEnableRecogition(true);
-    canvas->setDelegate(&recorder);
     const QByteArray before = bytesOf(*canvas);
     sketchLine(*canvas);
+    hearer.hear = [&](const char* what, QPointF&) {
+        told += std::string(what) + ", ";
+        if (told.ends_with("did end, ")) {
+            shownAtEnd = bytesOf(*canvas);
+        }
+    };
+    canvas->setDelegate(&hearer);
     endLine(*canvas);
-    EXPECT_EQ(recorder.calls, "should end, will end, undo, did end");
+    canvas->setDelegate(nullptr);
+    EXPECT_EQ(told, "should end, will end, undo, did end, ");
     const QByteArray shape = bytesOf(*canvas);
-    EXPECT_EQ(recorder.shownAtEnd, shape);
+    EXPECT_EQ(shownAtEnd, shape);
     scribble(*canvas);
     canvas->undoManager().waitForWrites();
     EXPECT_EQ(canvas->undo(), before);

@@ -14,42 +14,23 @@
 #include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"
 #include "support/FailingDriver.h"
+#include "support/Hearer.h"
 #include "support/LogCapture.h"
 
 namespace {
-
-// Hears everything that a canvas tells, and writes it down.
-class Hearer : public QDDrawViewDelegate {
-public:
-    std::function<void(const char*)> hear;
-
-    QPointF drawViewShouldDrawBegin(QDDrawCanvas&, QPointF p) override { return hear("should begin"), p; }
-    QPointF drawViewShouldDrawMove(QDDrawCanvas&, QPointF p) override { return hear("should move"), p; }
-    QPointF drawViewShouldDrawEnd(QDDrawCanvas&, QPointF p) override { return hear("should end"), p; }
-    void drawViewWillDrawBegin(QDDrawCanvas&, QPointF) override { hear("will begin"); }
-    void drawViewDidDrawBegin(QDDrawCanvas&, QPointF) override { hear("did begin"); }
-    void drawViewWillDrawMove(QDDrawCanvas&, QPointF) override { hear("will move"); }
-    void drawViewDidDrawMove(QDDrawCanvas&, QPointF) override { hear("did move"); }
-    void drawViewWillDrawEnd(QDDrawCanvas&, QPointF) override { hear("will end"); }
-    void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) override { hear("did end"); }
-    void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool can) override { hear(can ? "undo" : "no undo"); }
-    void drawViewDidUpdateRedoStatus(QDDrawCanvas&, bool can) override { hear(can ? "redo" : "no redo"); }
-    void drawViewDidLoseContext(QDDrawCanvas&) override { hear("lost"); }
-};
 
 // Whose display hooks are heard, too.
 template <typename Base>
 class Displayed : public Base {
 public:
     template <typename... Arguments>
-    explicit Displayed(std::function<void(const char*)>& hear, Arguments... arguments)
-        : Base(arguments...), _hear(hear) {}
+    explicit Displayed(Hearer& hearer, Arguments... arguments) : Base(arguments...), _hearer(hearer) {}
     bool make() { return Base::initCanvas(); }
     std::function<void()> atFrame;
 
 protected:
-    void redisplayRect(const QRectF&) override { _hear("redisplay"); }
-    void showLeafDrawView(bool) override { _hear("show preview"); }
+    void redisplayRect(const QRectF&) override { _hearer.say("redisplay"); }
+    void showLeafDrawView(bool) override { _hearer.say("show preview"); }
     QRectF displayFrame() const override {
         if (atFrame) {
             atFrame();
@@ -58,7 +39,7 @@ protected:
     }
 
 private:
-    std::function<void(const char*)>& _hear;
+    Hearer& _hearer;
 };
 
 QDDrawTouch at(double x, double y = 40) {
@@ -121,7 +102,7 @@ std::vector<Session> sessions() {
     const Step whole = [](C& c) { c.setImage(patternImage({80, 60}), QRectF(0, 0, 80, 60)); };
     const Step complention = [](C& c) {
         c.leafDrawView().setComplention([hearer = static_cast<Hearer*>(c.delegate())](const QImage&, QSizeF) {
-            hearer->hear("complention");
+            hearer->say("complention");
         });
     };
     const Steps pressed{mouse(QEvent::MouseButtonPress, 10), mouse(QEvent::MouseMove, 30),
@@ -182,7 +163,7 @@ std::vector<std::string> paint(const Session& session, std::size_t fatal) {
     Hearer hearer;
     std::unique_ptr<QDDrawCanvas> canvas;
     std::vector<std::string> told;
-    hearer.hear = [&](const char* what) {
+    hearer.hear = [&](const char* what, QPointF&) {
         if (canvas) {
             told.emplace_back(what);
             if (told.size() == fatal) {
@@ -196,9 +177,9 @@ std::vector<std::string> paint(const Session& session, std::size_t fatal) {
     };
     const QRectF frame(0, 0, 80, 60);
     if (session.inView) {
-        make(std::make_unique<Displayed<QDDrawView>>(hearer.hear, frame));
+        make(std::make_unique<Displayed<QDDrawView>>(hearer, frame));
     } else {
-        make(std::make_unique<Displayed<QDDrawCanvas>>(hearer.hear, frame));
+        make(std::make_unique<Displayed<QDDrawCanvas>>(hearer, frame));
     }
     canvas->setDelegate(&hearer);
     canvas->setAutoMark(true);
@@ -235,7 +216,8 @@ TEST_F(CanvasLifeTest, TheHostMayDestroyTheCanvasWhateverItHears) {
 
 TEST_F(CanvasLifeTest, WhereTheCanvasIsNeededItsEndIsTheProcesss) {
     ::testing::FLAGS_gtest_death_test_style = "threadsafe";
-    std::function<void(const char*)> deaf = [](const char*) {};
+    Hearer deaf;
+    deaf.hear = [](const char*, QPointF&) {};
     EXPECT_DEATH(
         {
             auto canvas = std::make_unique<Displayed<QDDrawCanvas>>(deaf, QRectF(0, 0, 80, 60));
@@ -248,7 +230,9 @@ TEST_F(CanvasLifeTest, WhereTheCanvasIsNeededItsEndIsTheProcesss) {
         {
             Hearer hearer;
             auto view = QDDrawView::initWithFrame(QRectF(0, 0, 80, 60));
-            hearer.hear = [&](const char* what) { std::string(what) == "will end" ? view.reset() : void(); };
+            hearer.hear = [&](const char* what, QPointF&) {
+                std::string(what) == "will end" ? view.reset() : void();
+            };
             view->setDelegate(&hearer);
             view->show();
             view->mouseDown(at(10));
@@ -302,7 +286,7 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
         auto canvas = makeCanvas(80, 60);
         Hearer hearer;
         std::vector<std::string> told;
-        hearer.hear = [&](const char* what) { told.emplace_back(what); };
+        hearer.hear = [&](const char* what, QPointF&) { told.emplace_back(what); };
         canvas->setAutoMark(true);
         paintWave(*canvas, 20, 12);
         paintWave(*canvas, 40, 12);

@@ -9,90 +9,30 @@
 #include "LineProcess/LPTrace.h"
 #include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"
+#include "support/Hearer.h"
 
 namespace {
 
 using CanvasStrokeTest = CanvasTest;
 
-// Writes down every callback with its point; "should" may move the point.
-class Recorder : public QDDrawViewDelegate {
-public:
-    std::vector<std::string> calls;
-    QPointF beginAt{-1, -1};
-
-    QPointF drawViewShouldDrawBegin(QDDrawCanvas&, QPointF p) override {
-        note("should begin", p);
-        return beginAt.x() < 0 ? p : beginAt;
-    }
-    void drawViewWillDrawBegin(QDDrawCanvas&, QPointF p) override { note("will begin", p); }
-    void drawViewDidDrawBegin(QDDrawCanvas&, QPointF p) override { note("did begin", p); }
-    QPointF drawViewShouldDrawMove(QDDrawCanvas&, QPointF p) override {
-        note("should move", p);
-        return p;
-    }
-    void drawViewWillDrawMove(QDDrawCanvas&, QPointF p) override { note("will move", p); }
-    void drawViewDidDrawMove(QDDrawCanvas&, QPointF p) override { note("did move", p); }
-    QPointF drawViewShouldDrawEnd(QDDrawCanvas&, QPointF p) override {
-        note("should end", p);
-        return p;
-    }
-    void drawViewWillDrawEnd(QDDrawCanvas&, QPointF p) override { note("will end", p); }
-    void drawViewDidDrawEnd(QDDrawCanvas&, QPointF p) override { note("did end", p); }
-
-private:
-    void note(const char* what, QPointF p) {
-        calls.push_back(std::string(what) + " " + std::to_string(std::lround(p.x())) + "," +
-                        std::to_string(std::lround(p.y())));
-    }
-};
-
-// A canvas shown at another size than its buffer's.
-class ScaledCanvas : public QDDrawCanvas {
-public:
-    explicit ScaledCanvas(const QRectF& frame) : QDDrawCanvas(frame), shownAt(frame) {}
-    bool make() { return initCanvas(); }
-    QRectF shownAt;
-    std::vector<QRectF> redisplayed;
-
-protected:
-    QRectF displayFrame() const override { return shownAt; }
-    void redisplayRect(const QRectF& rect) override { redisplayed.push_back(rect); }
-};
-
-// Callbacks
-
-TEST_F(CanvasStrokeTest, CallbacksComeInOrderAndAFilteredMoveEndsEarly) {
-    auto canvas = makeCanvas();
-    Recorder recorder;
-    recorder.beginAt = QPointF(10, 10);
-    canvas->setDelegate(&recorder);
-    canvas->drawingWithBeginPoint({50, 50});
-    canvas->drawingWithMoveToPoint({11, 10});  // one pixel, no more, from the moved begin
-    canvas->drawingWithMoveToPoint({11.01, 10});
-    canvas->drawingWithMoveToPoint({30, 10});
-    canvas->drawingWithEndPoint({40, 10});
-    EXPECT_EQ(recorder.calls, (std::vector<std::string>{
-                                  "should begin 50,50", "will begin 10,10", "did begin 10,10",
-                                  "should move 11,10", "will move 11,10", "should move 11,10",
-                                  "will move 11,10", "did move 11,10", "should move 30,10", "will move 30,10",
-                                  "did move 30,10", "should end 40,10", "will end 40,10", "did end 40,10"}));
-}
-
 TEST_F(CanvasStrokeTest, PointsScaleFromViewToBufferAndRedisplayBack) {
-    ScaledCanvas canvas(QRectF(0, 0, 200, 150));
-    ASSERT_TRUE(canvas.make());
-    canvas.shownAt = QRectF(0, 0, 400, 300);
-    canvas.updateScaleInfo();
+    ShownCanvas canvas({200, 150}, {400, 300});
     EXPECT_EQ(canvas.scale(), QSizeF(2, 2));
-    Recorder recorder;
-    canvas.setDelegate(&recorder);
-    canvas.redisplayed.clear();
-    canvas.drawingWithBeginPoint({100, 100});
+    Hearer hearer;
+    std::string told;
+    hearer.hear = [&](const char* what, QPointF& p) {
+        told += std::string(what) + ' ' + std::to_string(std::lround(p.x())) + ", ";
+        p.rx() += p.x() == 90 ? 10 : 0;
+    };
+    canvas.setDelegate(&hearer);
+    canvas.drawingWithBeginPoint({90, 100});  // moved by 10
     canvas.drawingWithMoveToPoint({200, 100});
     canvas.drawingWithMoveToPoint({300, 100});
     canvas.drawingWithEndPoint({300, 200}, -1, -1, false);
-    EXPECT_EQ(recorder.calls[1], "will begin 100,100");
-    EXPECT_EQ(recorder.calls[2], "did begin 50,50");
+    EXPECT_EQ(told,
+              "should begin 90, will begin 100, did begin 50, should move 200, will move 200, did move 100, "
+              "should move 300, will move 300, did move 150, should end 300, will end 300, undo 0, "
+              "did end 150, ");
     ASSERT_EQ(canvas.redisplayed.size(), 2u) << "one a segment, none for the end that was not online";
     // The first segment's dabs lie from x 50 to 75 of the buffer, at y 50.
     EXPECT_TRUE(canvas.redisplayed[0].contains(QPointF(120, 100)));
@@ -119,21 +59,6 @@ TEST_F(CanvasStrokeTest, OnlyTheFirstAcceptedMoveDropsItsFirstDab) {
     EXPECT_EQ(dabs, (std::vector<std::uint64_t>{0, 0, 1, 2}));
 }
 
-TEST_F(CanvasStrokeTest, SamplesThatAreNotFiniteAreRefusedAndTheStrokeGoesOn) {
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const float infinite = std::numeric_limits<float>::infinity();
-    auto clean = makeCanvas();
-    auto spoiled = makeCanvas();
-    paintWave(*clean, 75, 12);
-    paintWave(*spoiled, 75, 12, [&](int) {
-        spoiled->drawingWithMoveToPoint({nan, 10});
-        spoiled->drawingWithMoveToPoint({10, 1e300});
-        spoiled->drawingWithMoveToPoint({10, 10}, infinite);
-        spoiled->drawingWithMoveToPoint({10, 10}, 0.5f, -infinite);
-    });
-    EXPECT_TRUE(imagesMatch(spoiled->image(), clean->image()));
-}
-
 // The first stage leaves pressure alone and takes a tilt of -1 as upright.
 TEST_F(CanvasStrokeTest, AltitudeNotGivenIsUprightAndPressureNotGivenHasNoInfluence) {
     const auto paint = [this](float altitude) {
@@ -152,10 +77,7 @@ TEST_F(CanvasStrokeTest, AltitudeNotGivenIsUprightAndPressureNotGivenHasNoInflue
 // Strokes that do not go as they should
 
 void across(QDDrawCanvas& canvas, double y) {
-    canvas.drawingWithBeginPoint({20, y});
-    canvas.drawingWithMoveToPoint({60, y + 5});
-    canvas.drawingWithMoveToPoint({120, y});
-    canvas.drawingWithEndPoint({180, y + 8});
+    paintThrough(canvas, {{20, y}, {60, y + 5}, {120, y}, {180, y + 8}});
 }
 
 // What is drawn by chance for the lines and for the dabs, a point's copies apart from it.
@@ -180,20 +102,17 @@ TEST_F(CanvasStrokeTest, NoStrokeLeavesAnythingToTheNext) {
         {"ended", [](QDDrawCanvas& c) { across(c, 25); }},
         {"never ended",
          [](QDDrawCanvas& c) {
-             c.drawingWithBeginPoint({20, 25});
-             c.drawingWithMoveToPoint({90, 30});
+             beginThrough(c, {{20, 25}, {90, 30}});
          }},
         {"end refused",
          [](QDDrawCanvas& c) {
-             c.drawingWithBeginPoint({20, 25});
-             c.drawingWithMoveToPoint({90, 30});
+             beginThrough(c, {{20, 25}, {90, 30}});
              c.drawingWithEndPoint({std::nan(""), 0});
          }},
         {"sub-line switched off",
          [](QDDrawCanvas& c) {
              c.setRepeatedlyRenderEnabled(true);
-             c.drawingWithBeginPoint({20, 25});
-             c.drawingWithMoveToPoint({90, 30});
+             beginThrough(c, {{20, 25}, {90, 30}});
              c.setRepeatedlyRenderEnabled(false);
              c.drawingWithEndPoint({120, 25});
          }},
@@ -256,21 +175,6 @@ TEST_F(CanvasStrokeTest, ChanceIsTheCanvassOwn) {
     EXPECT_TRUE(imagesMatch(pictures[0], pictures[1])) << "whatever was painted before";
     EXPECT_NE(pictures[0], pictures[3]) << "another seed";
     EXPECT_NE(pictures[2], pictures[3]) << "fixed values";
-}
-
-TEST_F(CanvasStrokeTest, WithoutABeginNothingIsDrawn) {
-    auto canvas = makeCanvas();
-    canvas->drawingWithMoveToPoint({80, 60});
-    canvas->drawingWithEndPoint({90, 60});
-    EXPECT_TRUE(painted(canvas->image()).isNull());
-    // A refused begin leaves the beginning to the first move.
-    canvas->drawingWithBeginPoint({std::nan(""), 60});
-    canvas->drawingWithMoveToPoint({80, 60});
-    canvas->drawingWithMoveToPoint({120, 60});
-    canvas->drawingWithEndPoint({140, 60});
-    EXPECT_GT(painted(canvas->image()).left(), 60);
-    canvas->drawingWithMoveToPoint({20, 140}, false);
-    EXPECT_LT(painted(canvas->image()).bottom(), 100);
 }
 
 TEST_F(CanvasStrokeTest, ADelegateMayTakeItselfOffAndHasTheHostsContext) {

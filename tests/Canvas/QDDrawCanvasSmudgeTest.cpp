@@ -4,7 +4,6 @@
 #include <string>
 
 #include "Canvas/QDDrawCanvas.h"
-#include "GLSurface/GLSurface.h"
 #include "support/CanvasTest.h"
 
 namespace {
@@ -128,25 +127,6 @@ TEST_F(CanvasSmudgeTest, TransparentEdgesGetNoDarkFringe) {
     }
 }
 
-TEST_F(CanvasSmudgeTest, TheFirstDabMixesNothingWhileTheRampIsOn) {
-    auto canvas = makeCanvas();
-    paintStripes(*canvas);
-    useFinger(*canvas);
-    canvas->setSmudgeControl(true);
-    canvas->setSmudgeControlValue(4);
-    const LPPoint dabs[] = {{{90, 75}, 30, {1, 1, 1}}, {{100, 75}, 30, {1, 1, 1}}};
-    const auto layerAfter = [&](std::size_t count) {
-        canvas->drawPoints(dabs, count, ESRenderTypeSmudge);
-        return canvas->glSurface()->context().imageForType(ESRenderTypeSmudge);
-    };
-    const QImage before = layerAfter(0);
-    EXPECT_FALSE(painted(before).isEmpty());
-    canvas->drawingWithBeginPoint({90, 75});
-    EXPECT_TRUE(imagesMatch(layerAfter(1), before));
-    canvas->drawingWithBeginPoint({90, 75});
-    EXPECT_NE(layerAfter(2), before);
-}
-
 TEST_F(CanvasSmudgeTest, LookingEarlyOrWithdrawingChangesNothing) {
     auto canvas = makeCanvas();
     auto withdrawn = makeCanvas();
@@ -156,10 +136,7 @@ TEST_F(CanvasSmudgeTest, LookingEarlyOrWithdrawingChangesNothing) {
         one->setOpacity(0.7f);
     }
     const QImage before = withdrawn->image();
-    withdrawn->mouseDown({{20, 40}});
-    for (int i = 1; i < 9; ++i) {
-        withdrawn->mouseDragged({{20.0 + i * 18, 40.0}});
-    }
+    dragMouse(*withdrawn, {20, 40}, {18, 0}, 8);
     EXPECT_NE(withdrawn->image(), before);
     withdrawn->mouseUp({{170, 40}});
     EXPECT_TRUE(imagesMatch(withdrawn->image(), before));
@@ -186,9 +163,7 @@ TEST_F(CanvasSmudgeTest, SmudgesTheCanvasAsItIsNow) {
 
     // In the middle of a stroke, too, whose own past does not come back.
     canvas->clearWithColor(ESColor::rgba(0, 0, 1), true);
-    canvas->drawingWithBeginPoint({20, 75});
-    canvas->drawingWithMoveToPoint({60, 75});
-    canvas->drawingWithMoveToPoint({100, 75});
+    beginThrough(*canvas, {{20, 75}, {60, 75}, {100, 75}});
     canvas->clearWithColor(ESColor::rgba(1, 0, 0), true);
     canvas->drawingWithMoveToPoint({100, 90});
     canvas->drawingWithEndPoint({60, 90});
@@ -199,9 +174,7 @@ TEST_F(CanvasSmudgeTest, SmudgesTheCanvasAsItIsNow) {
     canvas->setRenderColor(ESColor::rgba(0, 0, 1));
     canvas->setLoadQuantity(1);
     canvas->setMixQuantity(0.2f);
-    canvas->drawingWithBeginPoint({20, 40});
-    canvas->drawingWithMoveToPoint({60, 40});
-    canvas->drawingWithMoveToPoint({90, 40});
+    beginThrough(*canvas, {{20, 40}, {60, 40}, {90, 40}});
     canvas->setIsDebug(true);
     canvas->drawingWithMoveToPoint({130, 40});
     canvas->drawingWithMoveToPoint({170, 40});
@@ -240,9 +213,7 @@ TEST_F(CanvasSmudgeTest, AStrokeThatTurnsIntoASmudgePicksUpWhereItIs) {
     drag(*canvas, {20, 30}, {30, 30});  // ends in the red
     canvas->setBrushType(0);
     canvas->setRenderColor(ESColor::rgba(0, 0, 1));
-    canvas->drawingWithBeginPoint({180, 30});
-    canvas->drawingWithMoveToPoint({200, 30});
-    canvas->drawingWithMoveToPoint({220, 30});
+    beginThrough(*canvas, {{180, 30}, {200, 30}, {220, 30}});
     canvas->setBrushType(3);
     for (int i = 1; i <= 6; ++i) {
         canvas->drawingWithMoveToPoint({220.0 + i * 10, 30});

@@ -24,9 +24,7 @@ TEST_F(CanvasLayersTest, AWithdrawnStrokeDisappears) {
         const QImage before = canvas->image();
         canvas->setBlendType(blendType);
         canvas->setOpacity(0.7f);
-        canvas->drawingWithBeginPoint({10, 10});
-        canvas->drawingWithMoveToPoint({100, 120});
-        canvas->drawingWithMoveToPoint({180, 20});
+        beginThrough(*canvas, {{10, 10}, {100, 120}, {180, 20}});
         if (blendType != ESBlendTypeReset) {
             EXPECT_NE(canvas->image(), before) << "blend type " << blendType;
         }
@@ -44,49 +42,19 @@ TEST_F(CanvasLayersTest, AWithdrawnStrokeDisappears) {
 }
 
 TEST_F(CanvasLayersTest, EveryChangeIsShownAgain) {
-    class Shown : public QDDrawCanvas {
-    public:
-        Shown() : QDDrawCanvas(QRectF(0, 0, 200, 150)) {}
-        bool make() { return initCanvas(); }
-        QRectF asked;
-
-    protected:
-        void redisplayRect(const QRectF& rect) override { asked = asked.united(rect); }
-    } canvas;
-    ASSERT_TRUE(canvas.make());
-    canvas.mouseDown({{30, 40}});
-    for (int i = 1; i < 6; ++i) {
-        canvas.mouseDragged({{30.0 + i * 20, 40}});
-    }
+    ShownCanvas canvas({200, 150});
+    dragMouse(canvas, {30, 40}, {20, 0}, 5);
     const QRect stroke = painted(canvas.displayImage());
     ASSERT_FALSE(stroke.isEmpty());
-    canvas.asked = QRectF();
+    canvas.redisplayed.clear();
     canvas.mouseUp({{130, 40}});
-    EXPECT_TRUE(canvas.asked.contains(QRectF(stroke))) << "a withdrawn stroke leaves the screen";
+    EXPECT_TRUE(canvas.redisplayedArea().contains(QRectF(stroke))) << "a withdrawn stroke leaves the screen";
     EXPECT_TRUE(painted(canvas.displayImage()).isEmpty());
 
     const LPPoint dab{{100, 100}, 20, {1, 1, 1}};  // straight into the canvas
     canvas.drawPoints(&dab, 1, ESRenderTypeCanvas);
     EXPECT_TRUE(imagesMatch(canvas.displayImage(), canvas.image()));
     EXPECT_FALSE(painted(canvas.displayImage()).isEmpty());
-}
-
-TEST_F(CanvasLayersTest, TheNextStrokeStartsFromWhatTheLastOneLeft) {
-    auto canvas = makeCanvas();
-    canvas->setOpacity(0.5f);
-    canvas->setHardness(1);
-    const auto across = [&] {
-        canvas->drawingWithBeginPoint({10, 75});
-        canvas->drawingWithMoveToPoint({100, 75});
-        canvas->drawingWithMoveToPoint({150, 75});
-        canvas->drawingWithEndPoint({195, 75});
-    };
-    across();
-    const int once = canvas->image().pixelColor(100, 75).alpha();
-    across();
-    const int twice = canvas->image().pixelColor(100, 75).alpha();
-    EXPECT_NEAR(once, 128, 2) << "dabs of one stroke do not add up beyond its opacity";
-    EXPECT_NEAR(twice, 192, 2) << "two strokes do";
 }
 
 // What may happen to a stroke before it is next looked at.
@@ -204,8 +172,7 @@ TEST_F(CanvasLayersTest, ClearEmptiesTheLayersToo) {
     auto fresh = makeCanvas();
     paintWave(*fresh);
     auto canvas = makeCanvas();
-    canvas->drawingWithBeginPoint({20, 20});
-    canvas->drawingWithMoveToPoint({100, 100});
+    beginThrough(*canvas, {{20, 20}, {100, 100}});
     canvas->clear();
     EXPECT_TRUE(painted(canvas->image()).isNull());
     paintWave(*canvas);

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include <limits>
+#include <string>
+
+#include "Canvas/QDDrawCanvas.h"
+#include "support/CanvasTest.h"
+
+namespace {
+
+using CanvasPointerTest = CanvasTest;
+
+QDDrawTouch at(double x, double y = 75) {
+    return {{x, y}, 1};
+}
+
+TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
+    auto canvas = makeCanvas();
+    canvas->setHardness(1);
+    paintWave(*canvas);
+    EXPECT_TRUE(canvas->edited());
+    canvas->markAction();
+    for (const bool secondLine : {false, true}) {
+        for (const int blend : {1, 2, 5, 8}) {
+            SCOPED_TRACE("blend type " + std::to_string(blend) + (secondLine ? " with a second line" : ""));
+            canvas->setBlendType(blend);
+            canvas->setRepeatedlyRenderEnabled(secondLine);
+            const QImage before = canvas->image();
+            dragMouse(*canvas, {20, 75}, {20, 0}, 5);
+            canvas->displayImage();  // it was on screen
+            canvas->mouseDragged(at(50));
+            canvas->mouseUp(at(90));
+            EXPECT_TRUE(imagesMatch(canvas->image(), before));
+            EXPECT_TRUE(imagesMatch(canvas->displayImage(), before));
+            EXPECT_FALSE(canvas->edited());
+        }
+    }
+    // And nothing of it comes back with the next stroke.
+    auto fresh = makeCanvas();
+    canvas = makeCanvas();
+    dragMouse(*canvas, {20, 20}, {20, 11}, 5);
+    canvas->mouseUp(at(120));
+    for (QDDrawCanvas* one : {canvas.get(), fresh.get()}) {
+        paintWave(*one, 90);
+    }
+    EXPECT_TRUE(imagesMatch(canvas->image(), fresh->image()));
+}
+
+TEST_F(CanvasPointerTest, PositionsCountFromTheFrame) {
+    auto placed = QDDrawCanvas::initWithFrame(QRectF(30, 40, 100, 80));
+    ASSERT_TRUE(placed);
+    EXPECT_EQ(placed->localPointWithTouch(at(35, 60)), QPointF(5, 20));
+    placed->beginWithTouch(at(std::numeric_limits<double>::quiet_NaN()));
+    placed->moveWithTouch(at(80, 80));  // begins instead
+    placed->moveWithTouch(at(110, 80));
+    placed->endWithTouches({at(115, 80), at(1, 1)});
+    const QRect mark = painted(placed->image());
+    EXPECT_GT(mark.left(), 30);
+    EXPECT_NEAR(mark.center().y(), 40, 2);
+}
+
+}  // namespace
