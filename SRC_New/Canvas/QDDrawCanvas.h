@@ -15,14 +15,16 @@
 // Owns     all that it paints with. Whatever GL context the caller had current is current again when a member function
 //          returns, and while a delegate is called.
 // Thread   one thread at a time, asserted in debug builds. Several canvases of a process may interleave their strokes
-//          on one thread, and canvases on different threads are independent.
+//          on one thread, and canvases on different threads are independent; only those that were made on one thread
+//          share an OpenGL context, and wait for each other where they are painted on several at once.
 // Life     to be destroyed before main() returns: OpenGL and Qt may be gone when static objects go. A host may destroy
 //          it in any callback, see QDDrawViewDelegate.h.
 // Errors   never throws; a failure is a log line and a false or null result.
 // Loss     a driver may take its device away, and all pixels in it, as a graphics card that is reset does. One log line
 //          then, the delegate hears of it, and isContextLost() holds for good: what draws, places, reads or clears does
 //          nothing and returns false or null, without further lines; no stroke begins; the history stays as it is, to be
-//          had from undoManager(), and displayImage() what was last shown. Another canvas can go on from these.
+//          had from undoManager(), and displayImage() what was last shown. Another canvas can go on from these. Canvases that
+//          were made on one thread lose their device together.
 #pragma once
 
 #include <QByteArray>
