@@ -27,6 +27,11 @@ void PaintLayers::noteChanged(const Rect& area) {
 
 // ---- A stroke
 
+bool PaintLayers::prepare(PaintLayer layer) {
+    const SurfaceScope scope(*_surface);
+    return scope && _surface->prepare(layer);
+}
+
 Rect PaintLayers::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
     const SurfaceScope scope(*_surface);
     if (!scope || dabs.empty()) {

@@ -38,6 +38,8 @@ public:
 
     // What is drawn from now on is taken back by withdraw(), until the next commit().
     void beginStroke();
+    // Whether there is, or can be made, what dabs of this layer are drawn into; see PaintSurface::prepare().
+    bool prepare(PaintLayer layer);
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style);
     // The first dabs into empty layers begin with what the picture looks like then.
     Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load);

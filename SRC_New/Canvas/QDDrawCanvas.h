@@ -14,9 +14,10 @@
 //          points divided by scale(). The buffer takes the size of the frame at creation and keeps it.
 // Owns     all that it paints with. Whatever GL context the caller had current is current again when a member function
 //          returns, and while a delegate is called.
-// Thread   one at a time, asserted in debug builds. Canvases are independent, also where they take turns on a thread.
-// Life     to be destroyed before main() returns: OpenGL and Qt may be gone when static objects go. A host may destroy
-//          it in any callback, see QDDrawViewDelegate.h.
+// Thread   one at a time, asserted in debug builds. Canvases are independent, also where they take turns on a thread;
+//          those made on one thread share an OpenGL context, wait for each other on several, and lose it together.
+// Life     to be destroyed before main() returns, as static objects may outlive OpenGL and Qt. A host may destroy it in
+//          any callback, see QDDrawViewDelegate.h.
 // Errors   never throws; a failure is a log line and a false or null result.
 // Loss     a driver may take its device away, as a graphics card that is reset does. After one log line isContextLost()
 //          holds for good: what draws, places, reads or clears does nothing and returns false or null. Another canvas

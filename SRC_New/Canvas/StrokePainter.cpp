@@ -85,6 +85,7 @@ DrawTarget StrokePainter::mainTarget() const {
 
 void StrokePainter::begin(const StrokeSample& sample) {
     _hasMoved = false;
+    _isRefused = !_layers.prepare(mainTarget() == DrawTarget::smudge ? PaintLayer::smudge : PaintLayer::line);
     _last = sample.place;
     if (_brush.isMasked()) {
         startSubLine(sample);
@@ -96,6 +97,7 @@ void StrokePainter::begin(const StrokeSample& sample) {
 
 // What the line process keeps for all lines stays the main line's.
 void StrokePainter::startSubLine(const StrokeSample& sample) {
+    _isRefused = _isRefused || !_layers.prepare(PaintLayer::subLine);
     const LPSharedState mainLine = _state;
     {
         const LineScope scope(*this);
@@ -136,6 +138,9 @@ std::optional<Rect> StrokePainter::end(const StrokeSample& sample) {
 }
 
 std::optional<Rect> StrokePainter::addSample(const StrokeSample& sample, bool end) {
+    if (_isRefused) {
+        return std::nullopt;
+    }
     const LineScope scope(*this);
     ++_clock.stats.samples;
     const QPointF before = std::exchange(_last, end ? _last : sample.place);

@@ -83,6 +83,7 @@ private:
     std::vector<SmudgeDab> _madeSmudges;
 
     QPointF _last;            // sample before
+    bool _isRefused = false;  // there is no memory for a layer of it: nothing of the stroke is drawn
     bool _hasMoved = false;   // the first move of the stroke was taken
     LPSharedState _state;     // this canvas's copy of what the line process keeps for a thread
     bool _stateIsIn = false;  // it is in the line process now

@@ -68,16 +68,16 @@ bool isRenderType(std::int64_t type) {
 
 }  // namespace
 
-std::unique_ptr<ESContext> ESContext::init() {
+std::unique_ptr<ESOpenGLView> ESContext::makePlatformView() {
     std::string missing;
     QString reason;
     try {
         if (std::unique_ptr<ESOpenGLView> view = EGLSurfacelessView::create(&reason)) {
-            return init(std::move(view));
+            return view;
         }
         missing = reason.toStdString();
         if (std::unique_ptr<ESOpenGLView> view = QtOffscreenView::create(&reason)) {
-            return init(std::move(view));
+            return view;
         }
         missing += "; " + reason.toStdString();
     } catch (const std::bad_alloc&) {
@@ -85,6 +85,11 @@ std::unique_ptr<ESContext> ESContext::init() {
     }
     qCWarning(lcDabcanvasGL, "No OpenGL 3.2 here: %s", missing.c_str());
     return nullptr;
+}
+
+std::unique_ptr<ESContext> ESContext::init() {
+    auto view = makePlatformView();
+    return view ? init(std::move(view)) : nullptr;
 }
 
 std::unique_ptr<ESContext> ESContext::init(std::unique_ptr<ESOpenGLView> view) {
@@ -171,6 +176,24 @@ bool ESContext::sizeIsUsable(const QSizeF& size, QSize& pixels) {
 }
 
 bool ESContext::createBufferWithSize(const QSizeF& size) {
+    if (!createFirstBuffersWithSize(size)) {
+        return false;
+    }
+    _currentRenderType = ESRenderTypeLine;
+    if (!makeLayer(ESRenderTypeSubLine, kSubLineMade)) {
+        return false;
+    }
+    // Deliberate: the smudge layer is counted as current while it is being made.
+    _currentRenderType = ESRenderTypeSmudge;
+    if (!makeLayer(ESRenderTypeSmudge, kSmudgeMade)) {
+        return false;
+    }
+    glBindFramebuffer(GL_FRAMEBUFFER, _frameBuffer[ESRenderTypeCanvas]);
+    _currentRenderType = ESRenderTypeCanvas;
+    return true;
+}
+
+bool ESContext::createFirstBuffersWithSize(const QSizeF& size) {
     QSize pixels;
     if (!makeCurrent() || !sizeIsUsable(size, pixels)) {
         return false;
@@ -197,30 +220,65 @@ bool ESContext::createBufferWithSize(const QSizeF& size) {
         return false;
     }
     clearBoundTarget();
-    if (!makeLayer(ESRenderTypeLine, _lineTexture, pixels, kLineMade)) {
-        return false;
-    }
-    _currentRenderType = ESRenderTypeLine;
-    if (!makeLayer(ESRenderTypeSubLine, _sublineTexture, pixels, kSubLineMade)) {
-        return false;
-    }
-    // Deliberate: the smudge layer is counted as current while it is being made.
-    _currentRenderType = ESRenderTypeSmudge;
-    if (!makeLayer(ESRenderTypeSmudge, _smudgeTexture, _smudgeSize, kSmudgeMade)) {
+    if (!makeLayer(ESRenderTypeLine, kLineMade)) {
         return false;
     }
     glBindFramebuffer(GL_FRAMEBUFFER, _frameBuffer[ESRenderTypeCanvas]);
-    _currentRenderType = ESRenderTypeCanvas;
     return true;
 }
 
-bool ESContext::makeLayer(ESRenderType type, GLuint& texture, const QSize& size, int line) {
+bool ESContext::provideTarget(ESRenderType type) {
+    if (!isRenderType(type) || _backingWidth == 0) {
+        return false;
+    }
+    if (hasTarget(type)) {
+        return true;
+    }
+    const ESBufferAccess access(_bufferAccess);
+    if (!makeCurrent()) {
+        return false;
+    }
+    drainGLErrors(kFile, __LINE__);  // what is found below must be this layer's
+    attachLayer(type);
+    const bool complete = glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+    if (dabcanvas::takeGLErrors() == 0 && complete) {
+        clearBoundTarget();
+        return true;
+    }
+    releaseTarget(type);
+    const QSize size = sizeForType(type);
+    qCWarning(lcDabcanvasGL, "there is no memory for a layer of %d x %d pixels", size.width(), size.height());
+    return false;
+}
+
+void ESContext::releaseTarget(ESRenderType type) {
+    if (type == ESRenderTypeCanvas || !isRenderType(type) || !hasTarget(type) || !makeCurrent()) {
+        return;
+    }
+    destroyLayer(type, textureOf(type));
+    glDeleteFramebuffers(1, &_frameBuffer[type]);
+    _frameBuffer[type] = 0;
+}
+
+GLuint& ESContext::textureOf(ESRenderType type) {
+    return type == ESRenderTypeSmudge    ? _smudgeTexture
+           : type == ESRenderTypeSubLine ? _sublineTexture
+                                         : _lineTexture;
+}
+
+// Leaves its framebuffer bound, and no texture.
+void ESContext::attachLayer(ESRenderType type) {
+    GLuint& texture = textureOf(type);
     _frameBuffer[type] = newFramebuffer();
     glBindFramebuffer(GL_FRAMEBUFFER, _frameBuffer[type]);
     texture = generateName([](GLuint* name) { glGenTextures(1, name); });
-    defineLayerTexture(texture, size);
+    defineLayerTexture(texture, sizeForType(type));
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, texture, 0);
     glBindTexture(GL_TEXTURE_2D, 0);
+}
+
+bool ESContext::makeLayer(ESRenderType type, int line) {
+    attachLayer(type);
     // Checked while it is bound: the default framebuffer of a context without a surface is never complete.
     if (!checkFramebuffer(line)) {
         return false;
@@ -252,7 +310,7 @@ bool ESContext::resizeWithSize(const QSizeF& size) {
     if (!makeCurrent() || !sizeIsUsable(size, pixels)) {
         return false;
     }
-    if (!_renderBuffer || !_lineTexture || !_sublineTexture) {
+    if (!_renderBuffer || !_lineTexture) {
         qCWarning(lcDabcanvasGL, "There are no buffers to resize");
         return false;
     }
@@ -279,7 +337,7 @@ bool ESContext::resizeWithSize(const QSizeF& size) {
         return true;
     };
     return resizeLayer(ESRenderTypeLine, _lineTexture, kLineResized) &&
-           resizeLayer(ESRenderTypeSubLine, _sublineTexture, kSubLineResized);
+           (!_sublineTexture || resizeLayer(ESRenderTypeSubLine, _sublineTexture, kSubLineResized));
 }
 
 void ESContext::destoryBuffer() {

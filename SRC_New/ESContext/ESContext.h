@@ -4,7 +4,7 @@
 // Sizes    buffer pixels; rectangles come in with a top-left origin, GL rows run bottom-up. The smudge
 //          layer is half the buffer each way, rounded down but at least one pixel: 1001 x 801 gives
 //          500 x 400, 1 x 1 gives 1 x 1.
-// Owns     the platform view, four framebuffers, one renderbuffer, three layer textures. Names handed
+// Owns     the platform view, whose context other buffers may lie in as well, four framebuffers, one renderbuffer, three layer textures. Names handed
 //          out, such as lineTexture(), are to bind, never to delete; destoryBuffer() frees them.
 // Current  every operation on buffers makes the context current and leaves it so. Callers that must not
 //          disturb their host's context hold an ESCurrentScope around their calls; only init() and the
@@ -42,6 +42,8 @@ public:
     // A context over the first platform view that works here: surfaceless EGL, else Qt. Null when neither
     // does, after one log line that says what is missing. No buffers yet; leaves the host's context current.
     static std::unique_ptr<ESContext> init();
+    // That view; null, after the same line.
+    static std::unique_ptr<ESOpenGLView> makePlatformView();
     // The same over a view of the caller's. Null when the view is null or gives no OpenGL 3.2.
     static std::unique_ptr<ESContext> init(std::unique_ptr<ESOpenGLView> view);
     // Destroys the buffers and then the view, and leaves the host's context current.
@@ -53,7 +55,15 @@ public:
     // earlier call are destroyed first. The sides are cut to integers; a size that is not finite, below one
     // pixel or above what the driver takes changes nothing and returns false.
     bool createBufferWithSize(const QSizeF& size);
-    // Gives the canvas, line and sub-line targets new, cleared storage of another size.
+    // The same without sub-line and smudge layer, which provideTarget() makes when they are needed.
+    bool createFirstBuffersWithSize(const QSizeF& size);
+    // Makes a layer, transparent, unless it is there; the target that is bound may be another then. False, after
+    // one log line, when there is no room; may be asked again.
+    bool provideTarget(ESRenderType type);
+    // Gives one layer's memory back; provideTarget() makes it anew.
+    void releaseTarget(ESRenderType type);
+    bool hasTarget(ESRenderType type) const { return _frameBuffer[type] != 0; }
+    // Gives the canvas, line and, where there is one, sub-line targets new, cleared storage of another size.
     // Deliberate: the smudge layer keeps the size it was created with. A bad size changes nothing.
     bool resizeWithSize(const QSizeF& size);
     // Deletes all four targets; safe to call again.
@@ -166,7 +176,9 @@ private:
     bool makeCurrent();
     void noteLost();
     bool sizeIsUsable(const QSizeF& size, QSize& pixels);
-    bool makeLayer(ESRenderType type, GLuint& texture, const QSize& size, int line);
+    GLuint& textureOf(ESRenderType type);
+    void attachLayer(ESRenderType type);
+    bool makeLayer(ESRenderType type, int line);
     bool checkFramebuffer(int line);
     void destroyLayer(ESRenderType type, GLuint& texture);
     void clearBoundTarget();

@@ -45,6 +45,13 @@ void ESBaseRender::use() const {
     }
 }
 
+void ESBaseRender::useOwn() {
+    _program->bind();
+    if (_program->passTo(this)) {
+        programDidChange();
+    }
+}
+
 void ESBaseRender::bindAttributeForProgram(ESProgram& program) {
     for (const char* const name : {"a_position", "a_center", "a_pointSize", "a_color"}) {
         program.addAttribute(name);

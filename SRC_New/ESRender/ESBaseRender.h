@@ -3,7 +3,7 @@
 // square of one flat colour into whatever framebuffer is bound.
 //
 // Units    buffer pixels, top-left origin.
-// Owns     its programs and its brush texture. The context must be current for everything but accessors,
+// Owns     its programs, which it may share with others of a pool, and its brush texture. The context must be current for everything but accessors,
 //          the destructor included.
 // Errors   a shader pair that does not build leaves the program as it was and returns false.
 #pragma once
@@ -27,6 +27,7 @@
 #include "ESRender/Texture/TextureObject.h"
 #include "ESRender/Utilities/ESProgram.h"
 #include "ESRender/Utilities/ESProgromObject.h"
+#include "ESRender/Utilities/ProgramPool.h"
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
 
@@ -140,9 +141,14 @@ protected:
 
     // Names the vertex attributes of a program that is made but not linked yet (no effect on GL).
     virtual void bindAttributeForProgram(ESProgram& program);
-    // The current program was switched: a subclass looks its locations up here, once.
+    // The current program was switched, or another renderer has drawn with it: a subclass looks its locations up here
+    // and forgets which values and vertices the program has.
     virtual void programDidChange();
+    // Makes the current program ready to draw with, as use() does, and this renderer's own.
+    void useOwn();
 
+    std::shared_ptr<dabcanvas::ProgramPool>
+        _pool;  // where programs come from; null: built for this renderer alone
     std::shared_ptr<ESProgram> _program;
     std::unique_ptr<TextureObject> _brushTexture;
     GLenum _texturePos = GL_TEXTURE0;

@@ -45,7 +45,11 @@ bool ESBaseRender::addProgramWithVertexShaderString(const QString& vertexShaderS
     }
     glUseProgram(0);
     std::shared_ptr<ESProgram> built =
-        ESProgram::initWithVertexShaderString(vertexShaderString, fragmentShaderString);
+        _pool ? _pool->program(vertexShaderString, fragmentShaderString)
+              : ESProgram::initWithVertexShaderString(vertexShaderString, fragmentShaderString);
+    if (!built) {
+        return false;
+    }
     bindAttributeForProgram(*built);
     if (!built->link()) {
         return false;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 
 #include "ESRender/ImageShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
@@ -97,9 +98,11 @@ std::unique_ptr<ESImageRender> ESImageRender::init() {
     return initWithBufferSize(QSizeF(0, 0));
 }
 
-std::unique_ptr<ESImageRender> ESImageRender::initWithBufferSize(const QSizeF& bufferSize) {
+std::unique_ptr<ESImageRender> ESImageRender::initWithBufferSize(
+    const QSizeF& bufferSize, std::shared_ptr<dabcanvas::ProgramPool> pool) {
     static_assert(sizeof(Vertex) == 24);
     std::unique_ptr<ESImageRender> render(new ESImageRender);
+    render->_pool = std::move(pool);
     render->setBufferSize(bufferSize);
     return render->setVertexShaderString({}, {}) ? std::move(render) : nullptr;
 }
@@ -258,7 +261,7 @@ QRectF ESImageRender::drawPoints(const LPPoint* points, std::size_t count) {
 
 // Puts program, textures and the uniforms of the whole call in place; false when the source has no texture.
 bool ESImageRender::bindSources() {
-    program()->bind();
+    useOwn();
     _opacityUniform.set(opacity());
     _radianUniform.set(_useLargeTexture ? 0 : _radian);  // drawPlaced() turns its corners more exactly
     _viewSize.set(bufferSize().width(), bufferSize().height());

@@ -25,7 +25,9 @@
 class DABCANVAS_RENDER_API ESImageRender : public ESBaseRender {
 public:
     static std::unique_ptr<ESImageRender> init();
-    static std::unique_ptr<ESImageRender> initWithBufferSize(const QSizeF& bufferSize);
+    // Programs come from the pool, where one is given; it must be the current context's.
+    static std::unique_ptr<ESImageRender> initWithBufferSize(
+        const QSizeF& bufferSize, std::shared_ptr<dabcanvas::ProgramPool> pool = {});
     ~ESImageRender() override;
 
     bool setVertexShaderString(const QString& vertexShaderString,

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "Dabs/DabBounds.h"
 #include "ESRender/LineShaderNames.h"
@@ -32,14 +33,20 @@ QRectF partOf(const dabcanvas::DabBounds& bounds) {
 
 }  // namespace
 
-std::unique_ptr<ESLineRender> ESLineRender::init() {
-    return initWithVertexShaderFromString({}, {});
+std::unique_ptr<ESLineRender> ESLineRender::init(std::shared_ptr<dabcanvas::ProgramPool> pool) {
+    return make({}, {}, std::move(pool));
 }
 
 std::unique_ptr<ESLineRender> ESLineRender::initWithVertexShaderFromString(
     const QString& vertexShader, const QString& fragmentShaderFromString) {
+    return make(vertexShader, fragmentShaderFromString, {});
+}
+
+std::unique_ptr<ESLineRender> ESLineRender::make(const QString& vertexShader, const QString& fragmentShader,
+                                                 std::shared_ptr<dabcanvas::ProgramPool> pool) {
     std::unique_ptr<ESLineRender> render(new ESLineRender);
-    if (!render->setVertexShaderString(vertexShader, fragmentShaderFromString)) {
+    render->_pool = std::move(pool);
+    if (!render->setVertexShaderString(vertexShader, fragmentShader)) {
         return nullptr;
     }
     render->_dabs.updateFlags();
@@ -202,7 +209,7 @@ void ESLineRender::beginDrawing() {
     const bool mask = _needMaskTexture && _maskTexture != nullptr && _maskTexture->isEnabled();
     const bool multicolour = _dabs.settings.colorFul;
     chooseProgram(mask, multicolour);
-    program()->bind();
+    useOwn();
     if (!_tipCellsUploaded) {
         uploadTipCells();
     }

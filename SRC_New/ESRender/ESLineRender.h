@@ -31,7 +31,8 @@ public:
     using Dab = dabcanvas::Dab;
     using DabSettings = dabcanvas::DabSettings;
 
-    static std::unique_ptr<ESLineRender> init();
+    // Programs come from the pool, where one is given; it must be the current context's.
+    static std::unique_ptr<ESLineRender> init(std::shared_ptr<dabcanvas::ProgramPool> pool = {});
     // Null texts stand for the line program; "_Bool" in either is read as "bool".
     static std::unique_ptr<ESLineRender> initWithVertexShaderFromString(
         const QString& vertexShader, const QString& fragmentShaderFromString);
@@ -144,6 +145,8 @@ private:
         _dabs.updateFlags();
     }
 
+    static std::unique_ptr<ESLineRender> make(const QString& vertexShader, const QString& fragmentShader,
+                                              std::shared_ptr<dabcanvas::ProgramPool> pool);
     void takeTips();
     void beginDrawing();
     void chooseProgram(bool mask, bool multicolour);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "Dabs/DabBounds.h"
 #include "ESRender/LineShaderNames.h"
@@ -51,14 +52,15 @@ struct ESSmudgeRender::Corners {
 
 // ---- Making
 
-std::unique_ptr<ESSmudgeRender> ESSmudgeRender::init() {
+std::unique_ptr<ESSmudgeRender> ESSmudgeRender::init(std::shared_ptr<dabcanvas::ProgramPool> pool) {
     std::unique_ptr<ESSmudgeRender> render(new ESSmudgeRender);
+    render->_pool = std::move(pool);
     if (!render->setVertexShaderString({}, {})) {
         return nullptr;
     }
     render->_dabs.updateFlags();
-    render->_showProgram = makeShowProgram(false);
-    render->_fillProgram = makeShowProgram(true);
+    render->_showProgram = render->makeShowProgram(false);
+    render->_fillProgram = render->makeShowProgram(true);
     render->_useTextureBarrier = hasTextureBarrier();
     render->_hasStandardBarrier = hasStandardBarrier();
     return render;
@@ -113,18 +115,16 @@ void ESSmudgeRender::programDidChange() {
     _tipCell.locate(made.uniformIndex(kTipCell));
 }
 
-ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) {
+ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
     using namespace dabcanvas;
     ShowProgram show;
     const QString defines = fill ? QStringLiteral("#define FILL\n") : QString();
-    auto program = ESProgram::initWithVertexShaderString(
-        ESShaderTools::withBool(smudgeRenderShowVertexShaderString()),
-        ESShaderTools::withDefines(ESShaderTools::withBool(smudgeRenderShowFrangmentShaderString()),
-                                   defines));
-    for (const char* name : {line::kPosition, line::kCenter, line::kTexCoord}) {
-        program->addAttribute(name);
-    }
-    if (!program->link()) {
+    const QString vertex = ESShaderTools::withBool(smudgeRenderShowVertexShaderString());
+    const QString fragment =
+        ESShaderTools::withDefines(ESShaderTools::withBool(smudgeRenderShowFrangmentShaderString()), defines);
+    ProgramPool own;
+    auto program = (_pool ? *_pool : own).program(vertex, fragment);
+    if (!program) {
         qCWarning(lcDabcanvasGL, "The program that %s cannot be built",
                   fill ? "fills the smudge layer" : "shows smudges on the canvas");
         return show;
@@ -178,7 +178,6 @@ bool ESSmudgeRender::useSmudgeTexture() const {
     return true;
 }
 
-// Made on first use: most brushes never smudge. False when the driver has no room for them.
 bool ESSmudgeRender::hasOwnTextures() {
     if (_smudgeTex == 0 || _layerSize.isEmpty()) {
         return false;
@@ -248,7 +247,7 @@ QRectF ESSmudgeRender::draw(std::span<const SmudgeDab> dabs, float load, const T
         _coverage.clear();
         _coverageTaken = false;
     }
-    program()->bind();
+    useOwn();
     // Each dab fills the same buffer anew, so where its vertices stand is said once a run.
     dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
     dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));

@@ -26,7 +26,8 @@ enum ESSmudgeDraw : std::int32_t { ESSmudgeDrawDabs = 0, ESSmudgeDrawShow = 1 };
 
 class DABCANVAS_RENDER_API ESSmudgeRender : public ESLineRender {
 public:
-    static std::unique_ptr<ESSmudgeRender> init();
+    // Programs come from the pool, as the line renderer's.
+    static std::unique_ptr<ESSmudgeRender> init(std::shared_ptr<dabcanvas::ProgramPool> pool = {});
     ~ESSmudgeRender() override;
 
     // Makes the smudge program current, whatever the texts.
@@ -41,6 +42,10 @@ public:
     void setSmudgeTextureID(GLuint texture, GLenum pos);
     // Binds it there; false without one.
     bool useSmudgeTexture() const;
+
+    // Makes its two textures, unless they are there: on first use, as most brushes never smudge. False, after a log
+    // line, when the driver has no room for them.
+    bool hasOwnTextures();
 
     // Begins a stroke: its first dab has nothing to pick up yet.
     void resetLineProporty() override;
@@ -106,20 +111,19 @@ private:
     struct Corners;
     // One of the two forms of the show program; null when it did not build.
     struct ShowProgram {
-        std::unique_ptr<ESProgram> program;
+        std::shared_ptr<ESProgram> program;
         GLint position = -1, texCoord = -1;
         GLint viewSize = -1, center = -1, pointSize = -1, roundness = -1, source = -1;
         GLint canvas = -1, before = -1, coverage = -1, opacity = -1;
     };
 
-    static ShowProgram makeShowProgram(bool fill);
+    ShowProgram makeShowProgram(bool fill) const;
     QRectF draw(std::span<const dabcanvas::SmudgeDab> dabs, float load, const TextureBindBlock& bind);
     QRectF show(const LPPoint* points, std::size_t count, const TextureBindBlock& bind);
     Corners pickUpCorners(const dabcanvas::SmudgeDab& smudge) const;
     QRect texelBox(const Corners& corners) const;
     void provideLayer(const QRect& read, const QRect& written);
     void drawDab(const dabcanvas::SmudgeDab& smudge);
-    bool hasOwnTextures();
 
     dabcanvas::SmudgeMaker _smudges;
     std::vector<dabcanvas::SmudgeDab> _made;  // of the present call

@@ -12,13 +12,14 @@
 #include "ESRender/ESSmudgeRender.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "GLSurface/GLPictures.h"
+#include "GLSurface/ThreadGL.h"
 
 namespace dabcanvas {
 namespace {
 
 // Filtering between the smudge layer's resolution and the picture's reaches this far, in buffer pixels.
 constexpr int kSmudgeReach = 4;
-constexpr GLenum kSmudgeUnit = GL_TEXTURE7;
+constexpr GLenum kLineUnit = GL_TEXTURE4, kSubLineUnit = GL_TEXTURE5, kSmudgeUnit = GL_TEXTURE7;
 
 // The one dab that covers a rectangle when its renderer's roundness is the rectangle's height over its width.
 LPPoint dabOf(const Rect& rect) {
@@ -36,21 +37,27 @@ float roundnessOf(const Rect& rect) {
 // ---- Making
 
 std::unique_ptr<GLSurface> GLSurface::make(const QSizeF& size) {
-    auto context = ESContext::init();
+    auto gl = ThreadGL::ofThisThread();
+    if (!gl) {
+        return nullptr;
+    }
+    const std::lock_guard lock(gl->use);
+    auto context = ThreadGL::makeContext(gl);
     if (!context) {
         return nullptr;
     }
-    const ESCurrentScope current(*context);
-    if (!current || !context->createBufferWithSize(size)) {
+    const ESCurrentScope current(&gl->view());
+    if (!current || !context->createFirstBuffersWithSize(size)) {
         return nullptr;
     }
     const Size pixels{context->backingWidth(), context->backingHeight()};
-    std::unique_ptr<GLSurface> surface(new GLSurface(pixels, std::move(context)));
+    std::unique_ptr<GLSurface> surface(new GLSurface(pixels, gl, std::move(context)));
     return surface->makeRenders() ? std::move(surface) : nullptr;
 }
 
-GLSurface::GLSurface(const Size& size, std::unique_ptr<ESContext> context)
+GLSurface::GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique_ptr<ESContext> context)
     : PaintSurface(size),
+      _gl(std::move(gl)),
       _context(std::move(context)),
       _line{.render = {}, .tipUnit = GL_TEXTURE1, .tips = {}, .paper = {}},
       _subLine{.render = {}, .tipUnit = GL_TEXTURE2, .tips = {}, .paper = {}},
@@ -63,19 +70,20 @@ bool GLSurface::makeRenders() {
         ESContext::setEnable(false, capability);
     }
     _context->setViewSize(buffer);
-    _compositor = ESImageRender::initWithBufferSize(buffer);
-    _line.render = ESLineRender::init();
-    _subLine.render = ESLineRender::init();
+    _compositor = ESImageRender::initWithBufferSize(buffer, _gl->programs());
+    _line.render = ESLineRender::init(_gl->programs());
+    _subLine.render = ESLineRender::init(_gl->programs());
     if (!_compositor || !_line.render || !_subLine.render) {
         qCWarning(lcDabcanvasGL, "a surface cannot be made: a shader program did not build");
         return false;
     }
-    _compositor->setLineTextureID(_context->lineTexture(), GL_TEXTURE4);
-    _compositor->setSubLineTextureID(_context->subLineTexture(), GL_TEXTURE5);
+    _compositor->setLineTextureID(_context->lineTexture(), kLineUnit);
     _line.render->setBufferSize(buffer);
     _subLine.render->setBufferSize(buffer);
     commit(PictureId::first, Rect::of(size()));
-    warmUp();
+    if (!std::exchange(_gl->isWarm, true)) {
+        warmUp();
+    }
     return true;
 }
 
@@ -92,7 +100,8 @@ void GLSurface::warmUp() {
 }
 
 GLSurface::~GLSurface() {
-    const ESCurrentScope current(_context->openGLView());  // be it lost or not
+    const std::lock_guard lock(_gl->use);
+    const ESCurrentScope current(&_gl->view());  // be it lost or not
     // Each goes while the context is current. Without it, deleting their names would hit the host's; they go with it.
     const auto release = [&](auto& render) {
         current ? render.reset() : static_cast<void>(render.release());
@@ -101,12 +110,14 @@ GLSurface::~GLSurface() {
     for (DabRender* of : {&_line, &_subLine, &_smudge}) {
         release(of->render);
     }
+    _context.reset();
 }
 
 bool GLSurface::enter() {
+    _gl->use.lock();
     _scopes.emplace_back(*_context);
     if (!_scopes.back()) {
-        _scopes.pop_back();
+        leave();
         return false;
     }
     return true;
@@ -114,6 +125,7 @@ bool GLSurface::enter() {
 
 void GLSurface::leave() {
     _scopes.pop_back();
+    _gl->use.unlock();
 }
 
 std::string GLSurface::name() {
@@ -174,9 +186,54 @@ Rect GLSurface::drawInto(ESRenderType target, DabRender& with, std::span<const D
     return bounds.pixelsOnBuffer();
 }
 
+bool GLSurface::prepare(PaintLayer layer) {
+    switch (layer) {
+        case PaintLayer::line:
+            if (!_context->hasTarget(ESRenderTypeLine)) {
+                if (!_context->provideTarget(ESRenderTypeLine)) {
+                    return false;
+                }
+                _compositor->setLineTextureID(_context->lineTexture(), kLineUnit);
+            }
+            return true;
+        case PaintLayer::subLine:
+            if (!_context->hasTarget(ESRenderTypeSubLine)) {
+                if (!_context->provideTarget(ESRenderTypeSubLine)) {
+                    return false;
+                }
+                _compositor->setSubLineTextureID(_context->subLineTexture(), kSubLineUnit);
+            }
+            return true;
+        case PaintLayer::smudge:
+            return prepare(PaintLayer::line) && smudgeRender() != nullptr;
+    }
+    return false;
+}
+
+void GLSurface::trim() {
+    if (!_lineHolds.isEmpty() || !_subLineHolds.isEmpty()) {
+        return;
+    }
+    _compositor->setLineTextureID(0, kLineUnit);
+    _compositor->setSubLineTextureID(0, kSubLineUnit);
+    _smudge.render.reset();
+    _smudge.tips.reset();
+    _smudgeStale = Rect::of(size());
+    for (const ESRenderType type : {ESRenderTypeLine, ESRenderTypeSubLine, ESRenderTypeSmudge}) {
+        _context->releaseTarget(type);
+    }
+}
+
 Rect GLSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
-    return drawInto(layer == PaintLayer::subLine ? ESRenderTypeSubLine : ESRenderTypeLine, dabRenderOf(layer),
-                    dabs, style);
+    if (!prepare(layer)) {
+        return {};
+    }
+    const bool isSubLine = layer == PaintLayer::subLine;
+    const Rect touched =
+        drawInto(isSubLine ? ESRenderTypeSubLine : ESRenderTypeLine, dabRenderOf(layer), dabs, style);
+    Rect& holds = isSubLine ? _subLineHolds : _lineHolds;
+    holds = holds.united(touched);
+    return touched;
 }
 
 Rect GLSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
@@ -187,16 +244,21 @@ Rect GLSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyl
 
 void GLSurface::clear(PaintLayer layer, const Rect& rect) {
     const bool smudge = layer == PaintLayer::smudge;
-    if (smudge && !_smudge.render) {
+    const ESRenderType target = smudge                      ? ESRenderTypeSmudge
+                                : layer == PaintLayer::line ? ESRenderTypeLine
+                                                            : ESRenderTypeSubLine;
+    if (!_context->hasTarget(target)) {
         return;  // there is none yet
     }
-    _context->beginRenderForType(smudge                      ? ESRenderTypeSmudge
-                                 : layer == PaintLayer::line ? ESRenderTypeLine
-                                                             : ESRenderTypeSubLine);
+    _context->beginRenderForType(target);
     if (smudge) {
         _smudgeStale = Rect::of(size());
     } else {
         _context->scissorRect(QRectF(rect.x, rect.y, rect.width, rect.height));
+        Rect& holds = layer == PaintLayer::line ? _lineHolds : _subLineHolds;
+        if (rect.contains(holds)) {
+            holds = {};
+        }
     }
     _compositor->clear();
     _context->finishRender();
@@ -204,16 +266,22 @@ void GLSurface::clear(PaintLayer layer, const Rect& rect) {
 
 // ---- Smudging
 
-// Made on first use: most brushes never smudge.
+// Made on first use: most brushes never smudge. Null, after one log line, when there is no room for it.
 ESSmudgeRender* GLSurface::smudgeRender() {
     if (!_smudge.render) {
-        auto render = ESSmudgeRender::init();
+        if (!_context->provideTarget(ESRenderTypeSmudge)) {
+            return nullptr;
+        }
+        auto render = ESSmudgeRender::init(_gl->programs());
         if (!render) {
             qCWarning(lcDabcanvasGL, "nothing can be smudged: a shader program did not build");
             return nullptr;
         }
         render->setBufferSize(QSizeF(size().width, size().height));
         render->setSmudgeTextureID(_context->smudgeTexture(), kSmudgeUnit);
+        if (!render->hasOwnTextures()) {
+            return nullptr;
+        }
         _smudge.render = std::move(render);
     }
     return static_cast<ESSmudgeRender*>(_smudge.render.get());
@@ -221,10 +289,10 @@ ESSmudgeRender* GLSurface::smudgeRender() {
 
 bool GLSurface::prepareSmudge(PictureId) {
     const bool isNew = !_smudge.render;
-    ESSmudgeRender* const render = smudgeRender();
-    if (render == nullptr) {
+    if (!prepare(PaintLayer::smudge)) {
         return false;
     }
+    ESSmudgeRender* const render = smudgeRender();
     const Rect rect = std::exchange(_smudgeStale, Rect()).grownBy(kSmudgeReach).intersected(Rect::of(size()));
     if (!rect.isEmpty()) {
         _context->beginRenderForType(ESRenderTypeSmudge);
@@ -269,10 +337,10 @@ void GLSurface::warmUpSmudging() {
 }
 
 Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
-    ESSmudgeRender* const render = smudgeRender();
-    if (render == nullptr || dabs.empty()) {
+    if (dabs.empty() || !prepare(PaintLayer::smudge)) {
         return {};
     }
+    ESSmudgeRender* const render = smudgeRender();
     _context->beginRenderForType(ESRenderTypeSmudge);
     takeTips(_smudge, style);
     _context->setBlendModelForType(ESRenderTypeLine);
@@ -282,6 +350,7 @@ Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, f
     // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
     const DabStyle plain{.tips = style.tips, .paper = {}};
     const Rect covered = drawInto(ESRenderTypeLine, _line, render->takeCoverage(), plain);
+    _lineHolds = _lineHolds.united(covered);
     return covered.isEmpty() ? covered : covered.grownBy(kSmudgeReach).intersected(Rect::of(size()));
 }
 
@@ -318,8 +387,9 @@ void GLSurface::blend(const Rect& rect, std::uint32_t blendType, float opacity, 
 }
 
 void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) {
-    if (style.smudged && !_smudge.render) {
-        return;  // nothing was smudged
+    if (!prepare(PaintLayer::line) ||
+        (style.smudged ? !_smudge.render : style.masked && !prepare(PaintLayer::subLine))) {
+        return;  // nothing was smudged, or there is no mask
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
     for (const Rect& rect : rects) {
@@ -339,8 +409,8 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
 
 void GLSurface::revert(PictureId picture, const Rect& rect) {
     const Rect cut = rect.intersected(Rect::of(size()));
-    if (cut.isEmpty()) {
-        return;
+    if (cut.isEmpty() || !prepare(PaintLayer::line)) {
+        return;  // its program reads no layer, but wants one bound
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
     blend(cut, ESBlendTypeReset, 1, false);

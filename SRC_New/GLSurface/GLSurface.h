@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Paint in the memory of an OpenGL driver, put there by the renderers of ESRender over one ESContext.
 //
-// Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab that needs one.
+// Layers    the line layer is made with the surface; sub-line and smudge layer, and all after trim(), with the first dab
+//           that needs one.
+// Context   is shared with the other surfaces made on the same thread, and so is its loss. It may be used on any thread: a
+//           SurfaceScope keeps it from the others meanwhile, which wait.
 // Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
 #pragma once
 
@@ -21,6 +24,8 @@ class ESSmudgeRender;
 
 namespace dabcanvas {
 
+class ThreadGL;
+
 class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
 public:
     // Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2 or a side is not
@@ -28,13 +33,16 @@ public:
     static std::unique_ptr<GLSurface> make(const QSizeF& size);
     ~GLSurface() override;
 
-    // For hosts that draw with OpenGL themselves.
+    // For hosts that draw with OpenGL themselves, inside a SurfaceScope, and leave blending equation, colour mask and
+    // pixel store as they were: other surfaces draw in the same context.
     ESContext& context() { return *_context; }
 
     std::string name() override;
     bool isLost() const override { return _context->isLost(); }
     void finish() override;
+    void trim() override;
 
+    bool prepare(PaintLayer layer) override;
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
     Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;
     void clear(PaintLayer layer, const Rect& rect) override;
@@ -59,7 +67,7 @@ private:
         std::shared_ptr<const Picture> paper;
     };
 
-    GLSurface(const Size& size, std::unique_ptr<ESContext> context);
+    GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique_ptr<ESContext> context);
     bool makeRenders();
     void warmUp();
     ESSmudgeRender* smudgeRender();
@@ -76,9 +84,11 @@ private:
     void showSmudges(const Rect& rect, float opacity);
     void noteChanged(PictureId picture, const Rect& rect);
 
+    std::shared_ptr<ThreadGL> _gl;
     std::unique_ptr<ESContext> _context;
     std::unique_ptr<ESImageRender> _compositor;
     DabRender _line, _subLine, _smudge;  // the last one's render is an ESSmudgeRender
+    Rect _lineHolds, _subLineHolds;      // where dabs may be
     Rect _smudgeStale;                   // where the smudge layer may differ from the background
     std::vector<std::uint8_t> _band;     // rows on their way to or from the caller's
     std::deque<ESCurrentScope> _scopes;

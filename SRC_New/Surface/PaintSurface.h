@@ -83,9 +83,13 @@ public:
     virtual bool isLost() const { return false; }
     // Waits until all that was asked for is done, for those who measure.
     virtual void finish() {}
+    // Gives back the memory of layers that hold no paint, until they are needed again.
+    virtual void trim() {}
 
     // ---- layers
 
+    // Provides for what is drawn into the layer. False, after one log line, without the memory for it.
+    virtual bool prepare(PaintLayer) { return true; }
     // Dabs over what the layer holds. Returns the pixels that may have changed.
     virtual Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) = 0;
     // The same straight onto the picture, past background and layers.

@@ -7,12 +7,42 @@
 #include "ESRender/ESImageRender.h"
 #include "GLSurface/GLSurface.h"
 #include "support/CanvasTest.h"
+#include "support/FailingDriver.h"
+#include "support/LogCapture.h"
 
 namespace {
 
 using CanvasLayersTest = CanvasTest;
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kEndless = std::numeric_limits<double>::infinity();
+
+TEST_F(CanvasLayersTest, AStrokeWithoutMemoryForItsLayerIsRefused) {
+    struct Case {
+        int brush;
+        bool masked, trimmed;
+    };
+    for (const auto [brush, masked, trimmed] : {Case{0, false, true}, {0, true, false}, {3, false, true}}) {
+        SCOPED_TRACE(::testing::Message() << "brush " << brush << (masked ? ", masked" : ""));
+        auto canvas = makeCanvas();
+        paintWave(*canvas, 40);
+        canvas->setBrushType(brush);
+        canvas->setRepeatedlyRenderEnabled(masked);
+        const QImage before = canvas->image();
+        if (trimmed) {
+            const dabcanvas::SurfaceScope scope(canvas->surface());
+            canvas->surface().trim();
+        }
+        {
+            const FailingDriver driver(FailingDriver::Fault::noTextureMemory);
+            const LogCapture log;
+            paintWave(*canvas, 60);
+            EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+            EXPECT_TRUE(imagesMatch(canvas->image(), before));
+        }
+        paintWave(*canvas, 60);
+        EXPECT_NE(canvas->image(), before) << "there is memory again";
+    }
+}
 
 // Withdrawing and backgrounds
 
@@ -117,6 +147,8 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
                 }
                 if (random() % 3 == 0 && look) {
                     canvas.displayImage();
+                    const dabcanvas::SurfaceScope scope(canvas.surface());
+                    canvas.surface().trim();  // nothing that paint lies in
                 }
             }
             canvas.drawingWithEndPoint(next());

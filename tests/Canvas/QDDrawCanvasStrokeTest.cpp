@@ -206,7 +206,10 @@ TEST_F(CanvasStrokeTest, StrokesOfTwoCanvasesMayInterleave) {
         canvas.setStrokeControlValue(taper);
         canvas.setStartRadius(taper > 0 ? 0.05f : 0.0f);
         canvas.setMoveRadianEnable(true);
-        canvas.setRoundness(0.4f);
+        // Values that stay the same for all of a canvas's dabs are its own, too.
+        canvas.setRoundness(radius / 60);
+        canvas.setFlow(radius / 40);
+        canvas.setTextureType(radius > 30 ? 2 : 0);
         canvas.setDistribution(0.4f);
         canvas.setDistributionCount(2);
         canvas.setEndRadius(0.3f);

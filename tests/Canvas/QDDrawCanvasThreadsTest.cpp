@@ -39,19 +39,22 @@ QImage session(QDDrawCanvas& canvas, int number) {
 }
 
 TEST_F(CanvasThreadsTest, TwoAtOncePaintWhatEachPaintsAlone) {
-    QImage alone[2], together[2];
+    QImage alone[2], together[4];
     for (int i = 0; i < 2; ++i) {
         alone[i] = session(*makeCanvas(), i);
         EXPECT_FALSE(painted(alone[i]).isNull());
     }
-    auto handedOver = makeCanvas();  // made here, painted on over there
+    // Made here, painted on over there; what canvases of a thread share is no matter.
+    const auto handedOver = makeCanvas(), other = makeCanvas(), kept = makeCanvas();
     std::thread painters[] = {std::thread([&] { together[0] = session(*makeCanvas(), 0); }),
-                              std::thread([&] { together[1] = session(*handedOver, 1); })};
+                              std::thread([&] { together[1] = session(*handedOver, 1); }),
+                              std::thread([&] { together[2] = session(*other, 0); })};
+    together[3] = session(*kept, 1);
     for (std::thread& painter : painters) {
         painter.join();
     }
-    for (int i = 0; i < 2; ++i) {
-        EXPECT_TRUE(imagesMatch(together[i], alone[i])) << "canvas " << i;
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_TRUE(imagesMatch(together[i], alone[i % 2])) << "canvas " << i;
     }
 }
 

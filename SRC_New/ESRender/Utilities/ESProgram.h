@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // One GLSL program with the vertex array and the array buffer it is drawn with.
 //
-// Life     made unlinked, link() makes it usable; never rebuilt.
+// Life     made unlinked, link() makes it usable; never rebuilt. Renderers may share one, see ProgramPool.
 // Owns     program, shaders, vertex array and buffer. The context must be current to make, use and destroy
 //          it.
 // Errors   compile and link failures are logged and make link() return false.
@@ -14,6 +14,7 @@
 #include <QHash>
 #include <QString>
 #include <memory>
+#include <utility>
 
 #include "Maths/Export.h"
 
@@ -44,6 +45,10 @@ public:
     // Uses the program with its vertex array and its array buffer bound: ready to upload and draw.
     void bind() const;
     void validate() const;
+
+    // For those who share it: whether somebody else was the last to draw with it, so that uniform values and vertices
+    // are another's. The caller is the last one from now on.
+    bool passTo(const void* renderer) { return std::exchange(_lastRenderer, renderer) != renderer; }
 
     // Locations, -1 when the linked program has no such name. GL is asked once a name; renderers keep what
     // they get here and look nothing up per dab.
@@ -79,4 +84,5 @@ private:
     GLuint _vertShaderAddr = 0;
     GLuint _fragShaderAddr = 0;
     bool _initialized = false;
+    const void* _lastRenderer = nullptr;  // to compare
 };
