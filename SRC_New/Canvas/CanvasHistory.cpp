@@ -13,8 +13,8 @@ constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;
 
 }  // namespace
 
-CanvasHistory::CanvasHistory(PaintLayers& layers, RecordedCanvas& record, EditFlag& edits)
-    : _layers(layers), _record(record), _edits(edits) {}
+CanvasHistory::CanvasHistory(PaintLayers& layers, RecordedCanvas& record)
+    : _layers(layers), _record(record) {}
 
 CanvasHistory::~CanvasHistory() = default;
 
@@ -67,7 +67,7 @@ QByteArray CanvasHistory::mark() {
 
 // Null where nothing was drawn since the last step, and without the memory or the surface.
 QByteArray CanvasHistory::record() {
-    if (!_edits.edited || _layers.surface().isLost()) {
+    if (!_layers.edits.edited || _layers.surface().isLost()) {
         return {};
     }
     ImagesUndoManager& steps = images(false);
@@ -87,8 +87,8 @@ QByteArray CanvasHistory::record() {
 // A step recorded in mid-stroke holds what withdrawing the stroke takes back: the canvas without it is another picture.
 void CanvasHistory::noteRecorded(const QByteArray& data) {
     _record.take(data);
-    _edits.edited = false;
-    _edits.withoutStroke = !_layers.strokeArea().isEmpty();
+    _layers.edits.edited = false;
+    _layers.edits.withoutStroke = !_layers.strokeArea().isEmpty();
 }
 
 bool CanvasHistory::canUndo(bool unrecorded) const {
@@ -109,7 +109,7 @@ CanvasHistory::Outcome CanvasHistory::redo() {
 
 // False when what was drawn since the last step cannot become one now.
 bool CanvasHistory::recordUnrecorded() {
-    if (!_edits.edited) {
+    if (!_layers.edits.edited) {
         return true;
     }
     ImagesUndoManager& steps = images(false);

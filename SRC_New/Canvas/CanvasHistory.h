@@ -10,10 +10,9 @@
 #pragma once
 
 #include <QByteArray>
-#include <functional>
+#include <limits>
 #include <memory>
 
-#include "Canvas/EditFlag.h"
 #include "Canvas/RecordedCanvas.h"
 
 class ImagesUndoManager;
@@ -22,7 +21,7 @@ namespace dabcanvas {
 
 class CanvasHistory {
 public:
-    CanvasHistory(PaintLayers& layers, RecordedCanvas& record, EditFlag& edits);
+    CanvasHistory(PaintLayers& layers, RecordedCanvas& record);
     ~CanvasHistory();
 
     bool autoMark = false;
@@ -59,9 +58,8 @@ private:
 
     PaintLayers& _layers;
     RecordedCanvas& _record;
-    EditFlag& _edits;
     std::unique_ptr<ImagesUndoManager> _images;
-    double _lastMark = 0;  // when the last step was recorded
+    double _lastMark = -std::numeric_limits<double>::infinity();  // when the last step was recorded
 };
 
 }  // namespace dabcanvas

@@ -18,18 +18,11 @@ PaintLayers::PaintLayers(std::unique_ptr<PaintSurface> surface, StageClock& cloc
     : _surface(std::move(surface)), _clock(clock), _uncommitted(whole()), _stale(whole()) {}
 
 bool PaintLayers::linesHoldPaint() const {
-    return !contentOf(PaintLayer::line).isEmpty() || !contentOf(PaintLayer::subLine).isEmpty();
+    return !isEmpty(PaintLayer::line) || !isEmpty(PaintLayer::subLine);
 }
 
 void PaintLayers::noteChanged(const Rect& area) {
-    const Rect changed = area.intersected(whole());
-    if (changed.isEmpty()) {
-        return;
-    }
-    _stale = _stale.united(changed);
-    if (onChanged) {
-        onChanged(changed);
-    }
+    _stale = _stale.united(area.intersected(whole()));
 }
 
 // ---- A stroke
@@ -49,7 +42,7 @@ Rect PaintLayers::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style,
     if (!scope || dabs.empty()) {
         return {};
     }
-    if (contentOf(PaintLayer::line).isEmpty() && !prepareSmudge()) {
+    if (isEmpty(PaintLayer::line) && !prepareSmudge()) {
         return {};
     }
     const Rect touched = _surface->smudge(dabs, style, load);
@@ -74,6 +67,7 @@ Rect PaintLayers::drawOnPicture(std::span<const Dab> dabs, const DabStyle& style
 void PaintLayers::beginStroke() {
     flush();  // what waits is not the stroke's to withdraw
     _strokeArea = {};
+    edits.keepStroke();
 }
 
 // Before composites come in another style: what was drawn so far shows the old one, and what follows may no longer touch
@@ -164,6 +158,7 @@ void PaintLayers::withdraw(const std::function<bool(const Rect& drawn)>& restore
         _uncommitted = {};
     }
     _mayMerge = _uncommitted.isEmpty();
+    edits.withdrawStroke();
 }
 
 // ---- The picture
@@ -180,6 +175,7 @@ void PaintLayers::commit() {
     }
     _uncommitted = {};
     _strokeArea = {};
+    edits.keepStroke();
     // What the layers still hold goes onto this background once more wherever it is shown.
     _mayMerge = !linesHoldPaint();
 }

@@ -16,6 +16,7 @@
 #include <memory>
 #include <vector>
 
+#include "Canvas/EditFlag.h"
 #include "Canvas/StageClock.h"
 #include "Surface/PaintSurface.h"
 
@@ -24,6 +25,9 @@ namespace dabcanvas {
 class PaintLayers {
 public:
     PaintLayers(std::unique_ptr<PaintSurface> surface, StageClock& clock);
+
+    // Whoever draws or records sets it; how far a stroke can be taken back, and so that half of it, is known here.
+    EditFlag edits;
 
     PaintSurface& surface() { return *_surface; }
     const Size& size() const { return _surface->size(); }
@@ -79,6 +83,7 @@ public:
     void drawnIsBelow() { _mayMerge = false; }
     bool read(const Rect& area, const MutablePixelView& rows);
 
+    bool isEmpty(PaintLayer layer) const { return contentOf(layer).isEmpty(); }
     void empty(PaintLayer layer);
     void emptyLines();
     // Makes the smudge layer show the background.
@@ -90,9 +95,6 @@ public:
     const QImage& display();
     // Everything that was composited or placed since the last fill.
     const Rect& painted() const { return _painted; }
-
-    // Told of every area of the picture that changes.
-    std::function<void(const Rect&)> onChanged;
 
 private:
     Rect& contentOf(PaintLayer layer) { return _content[static_cast<std::size_t>(layer)]; }

@@ -225,6 +225,9 @@ void QDDrawCanvas::updateImage(bool online, bool smudge) {
 void QDDrawCanvas::resetWithRenderRect(const QRectF& rect) {
     const Host::Call call(_inside->host);
     Parts& parts = *_inside->parts;
+    if (!std::isfinite(rect.x() + rect.width()) || !std::isfinite(rect.y() + rect.height())) {
+        return;
+    }
     const Rect area = Rect::covering(rect.left(), rect.top(), rect.right(), rect.bottom())
                           .intersected(parts.layers.whole());
     parts.layers.revert(area);

@@ -215,7 +215,7 @@ void QDDrawCanvas::setNormalPress(float value) {
 // ---- History
 
 bool QDDrawCanvas::edited() const {
-    return _inside->parts->edits.edited;
+    return _inside->parts->layers.edits.edited;
 }
 
 bool QDDrawCanvas::isContextLost() const {

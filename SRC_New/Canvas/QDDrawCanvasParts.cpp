@@ -26,9 +26,9 @@ QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> sur
       entry(*this, host, view),
       pointer(entry, *this),
       record(layers),
-      sketch(layers, record, edits),
+      sketch(layers, record),
       placing(layers, [this] { settle(); }),
-      history(layers, record, edits) {
+      history(layers, record) {
     preview = host.makePreview(QRectF(QPointF(0, 0), bufferSize()));
     brush.setListener(this);
     layers.setStyle(brush.compositeStyle());
@@ -68,7 +68,6 @@ void QDDrawCanvas::Parts::updateBackground(const QByteArray& mark) {
     const Host::Call call(host);
     settleSketch();
     layers.commit();
-    edits.keepStroke();
     if (mark.isNull() && recognises()) {
         record.refresh(kBackgroundLine);  // a step that was recorded has the picture already
     }
@@ -98,7 +97,6 @@ void QDDrawCanvas::Parts::strokeBegan(const StrokeSample& sample) {
     const Host::Call call(host);
     painter.restartRandom();
     layers.beginStroke();
-    edits.keepStroke();
     if (recognises()) {
         sketch.begin(sample.place);
     }
@@ -144,7 +142,6 @@ void QDDrawCanvas::Parts::strokeWithdrawn(QPointF place) {
     } else {
         const Rect area = layers.strokeArea();
         layers.withdraw();
-        edits.withdrawStroke();
         redisplay(area);
         if (kind() == StrokeKind::smudge) {
             prepareSmudge();
@@ -179,7 +176,7 @@ void QDDrawCanvas::Parts::updateImage(bool online, bool smudged) {
     if (isLost()) {
         return;
     }
-    edits.edited = true;
+    layers.edits.edited = true;
     if (lastTouched.isEmpty()) {
         return;
     }
@@ -238,11 +235,14 @@ bool QDDrawCanvas::Parts::drawOutline(const ShapeRecord& shape, bool online) {
 // Dabs that are no segment of a stroke. They may stay in their layer for good, so that nothing is composited with them
 // but by name: neither what was drawn before nor what lies between later rectangles.
 Rect QDDrawCanvas::Parts::drawPoints(std::span<const LPPoint> points, DrawTarget target) {
+    if (target == DrawTarget::smudge && layers.isEmpty(PaintLayer::line)) {
+        settle();  // the dabs begin with what the canvas looks like, which no sketch is part of
+    }
     layers.flush();
     const Rect touched = painter.drawPoints(points, target);
     layers.drawnIsBelow();
-    if (target == DrawTarget::picture && !points.empty()) {
-        edits.edited = true;
+    if (target == DrawTarget::picture && !touched.isEmpty()) {
+        layers.edits.setBoth(true);  // withdrawing a stroke does not take it back
     }
     return touched;
 }
@@ -330,7 +330,7 @@ void QDDrawCanvas::Parts::clear(const ESColor& color) {
     if (!finishPreview() || isLost()) {
         return;
     }
-    edits.setBoth(true);
+    layers.edits.setBoth(true);
     layers.forgetDue();
     layers.emptyLines();
     layers.empty(PaintLayer::smudge);
@@ -363,7 +363,7 @@ bool QDDrawCanvas::Parts::place(const PlacedImage& image, const Spot& spot, bool
         return false;
     }
     if (!isUndo) {
-        edits.setBoth(true);
+        layers.edits.setBoth(true);
     }
     host.redisplayAll();
     if (!placing.rules.neglects) {
@@ -405,7 +405,7 @@ bool QDDrawCanvas::Parts::isLost() const {
 
 // Whether the canvas holds, or will hold, what no step does. A stroke in progress cannot be undone and does not count.
 bool QDDrawCanvas::Parts::isUnrecorded() const {
-    return (isDrawing() ? edits.withoutStroke : edits.edited) || preview->isPending();
+    return (isDrawing() ? layers.edits.withoutStroke : layers.edits.edited) || preview->isPending();
 }
 
 bool QDDrawCanvas::Parts::canUndo() const {
@@ -427,7 +427,11 @@ QByteArray QDDrawCanvas::Parts::mark() {
 
 // The mark of a step that has just been drawn; null where none is to be recorded.
 QByteArray QDDrawCanvas::Parts::autoMarked() {
-    return history.autoMark ? mark() : QByteArray();
+    if (!history.autoMark) {
+        return {};
+    }
+    settleSketch();
+    return history.mark();
 }
 
 QByteArray QDDrawCanvas::Parts::resetHistory() {
@@ -463,7 +467,7 @@ QByteArray QDDrawCanvas::Parts::stepped(CanvasHistory::Outcome outcome) {
             const bool marks = std::exchange(history.autoMark, false);  // clearing is no step of its own here
             clear({});
             history.autoMark = marks;
-            edits.setBoth(false);  // it is what the step has become
+            layers.edits.setBoth(false);  // it is what the step has become
             break;
         }
         case CanvasHistory::Outcome::restored:

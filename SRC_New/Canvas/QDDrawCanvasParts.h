@@ -9,7 +9,6 @@
 
 #include "Canvas/BrushState.h"
 #include "Canvas/CanvasHistory.h"
-#include "Canvas/EditFlag.h"
 #include "Canvas/ImagePlacing.h"
 #include "Canvas/PaintLayers.h"
 #include "Canvas/PointerGate.h"
@@ -29,7 +28,6 @@ public:
 
     Host& host;
     dabcanvas::StageClock clock;
-    dabcanvas::EditFlag edits;
     dabcanvas::PaintLayers layers;
     dabcanvas::BrushState brush;
     dabcanvas::StrokePainter painter;

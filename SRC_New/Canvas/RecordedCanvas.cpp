@@ -61,6 +61,9 @@ void RecordedCanvas::refresh(int line) {
         _given = false;
         return;
     }
+    if (_layers.isLost()) {
+        return;  // what was last recorded is all there is
+    }
     _data = {};  // before there is a second one
     const QByteArray data = snapshot(line);
     take(data);
@@ -76,6 +79,11 @@ bool RecordedCanvas::refreshTiles() {
         return true;
     }
     if (area * kMostTiles > _layers.whole().area()) {
+        return false;
+    }
+    try {
+        _data.detach();  // from the history, which keeps it as a step
+    } catch (const std::bad_alloc&) {
         return false;
     }
     auto* const bytes = reinterpret_cast<std::uint8_t*>(_data.data());

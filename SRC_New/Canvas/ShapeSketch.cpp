@@ -37,7 +37,6 @@ Rect ShapeSketch::settle() {
         area = _record.takeGiven() ? _layers.whole() : drawn;
         return _record.restore(area);
     });
-    _edits.withdrawStroke();
     return area;
 }
 

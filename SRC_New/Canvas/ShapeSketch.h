@@ -8,7 +8,6 @@
 #include <QPointF>
 #include <vector>
 
-#include "Canvas/EditFlag.h"
 #include "Canvas/RecordedCanvas.h"
 #include "Recognition/ShapeRecord.h"
 
@@ -16,8 +15,7 @@ namespace dabcanvas {
 
 class ShapeSketch {
 public:
-    ShapeSketch(PaintLayers& layers, RecordedCanvas& record, EditFlag& edits)
-        : _layers(layers), _record(record), _edits(edits) {}
+    ShapeSketch(PaintLayers& layers, RecordedCanvas& record) : _layers(layers), _record(record) {}
 
     bool isOn() const { return _isOn; }
     void begin(QPointF place);
@@ -32,7 +30,6 @@ public:
 private:
     PaintLayers& _layers;
     RecordedCanvas& _record;
-    EditFlag& _edits;
     bool _isOn = false;
     std::vector<ShapePoint> _points;
 };

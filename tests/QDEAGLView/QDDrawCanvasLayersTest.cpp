@@ -31,8 +31,8 @@ TEST_F(CanvasLayersTest, AWithdrawnStrokeDisappears) {
             EXPECT_NE(canvas->image(), before) << "blend type " << blendType;
         }
         const QImage drawn = canvas->image();
-        for (const QRectF none :
-             {QRectF(10, 10, 20, 0), QRectF(10, kNaN, 20, 20), QRectF(-kEndless, 0, kEndless, 9)}) {
+        for (const QRectF none : {QRectF(10, 10, 20, 0), QRectF(10, kNaN, 20, 20),
+                                  QRectF(-kEndless, 0, kEndless, 9), QRectF(0, 0, kEndless, kEndless)}) {
             canvas->resetWithRenderRect(none);
             EXPECT_TRUE(imagesMatch(canvas->image(), drawn)) << "an empty rectangle withdraws nothing";
         }

@@ -290,6 +290,7 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
     const Step read = [](C& c) { EXPECT_TRUE(c.image().isNull()); };
     const Step dab = [](C& c) { c.drawPoint({20, 20}, 9), c.updateImage(true); };
     const Step show = [](C& c) { c.displayImage(); };
+    const Step base = [](C& c) { c.setEnableRecogition(true), c.updateBGImage(); };
     const Step click = [](C& c) { c.mouseDown(at(10)), c.mouseDragged(at(40)), c.mouseUp(at(40)); };
     for (const Finder& finder :
          {Finder{"a stroke", acrossCanvas, false, true}, Finder{"a clear", fill, false, true},
@@ -320,7 +321,7 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
         told.clear();
         canvas->setAutoMark(true);
         for (const Step& step :
-             {acrossCanvas, fill, mark, undo, reset, place, draw, read, dab, show, click}) {
+             {acrossCanvas, fill, mark, undo, reset, place, draw, read, dab, show, base, click}) {
             step(*canvas);
         }
         EXPECT_EQ(told,
@@ -329,6 +330,7 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
         EXPECT_FALSE(canvas->canUndo() || canvas->isDrawing());
         EXPECT_EQ(canvas->undoManager().undoItems().size(), 2);
         EXPECT_EQ(canvas->undoManager().currentImageDataOfItem(), last);
+        EXPECT_EQ(canvas->curImageData(), last);
         EXPECT_TRUE(imagesMatch(canvas->displayImage(), shown));
     }
 }

@@ -119,6 +119,13 @@ TEST_F(CanvasRecognitionTest, WithdrawnAndAbandonedSketchesLeaveNoTrace) {
     drag(12);
     canvas->withdrawPointerStroke();
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    // The host smudges meanwhile, which begins with the canvas as it is without the sketch.
+    drag(12);
+    canvas->clearExtenBuffer();
+    const LPPoint dab{{100, 20}, 20, {1, 1, 1}};
+    canvas->drawPoints(&dab, 1, ESRenderTypeSmudge);
+    canvas->withdrawPointerStroke();
+    EXPECT_TRUE(imagesMatch(canvas->image(), before));
     sketchLine(*canvas);
     canvas->drawingWithBeginPoint({20, 100});  // without an end before
     EXPECT_TRUE(imagesMatch(canvas->image(), before));

@@ -106,6 +106,22 @@ TEST_F(CanvasUndoTest, ImagesAndClearsAreSteps) {
     canvas->mouseUp({{60, 60}});
     EXPECT_FALSE(canvas->markAction().isNull());
     EXPECT_TRUE(imagesMatch(canvas->currentImage(), stroke));
+    // What withdrawing leaves on the canvas is an edit: dabs of the host's, and smudges whose layer it emptied.
+    for (const bool smudges : {false, true}) {
+        canvas->setBrushType(smudges ? 3 : 0);
+        canvas->mouseDown({{20, 20}});
+        canvas->mouseDragged({{60, 60}});
+        const LPPoint dab{{100, 20}, 20, {1, 1, 1}};
+        smudges ? canvas->clearExtenBuffer()
+                : static_cast<void>(canvas->drawPoints(&dab, 1, ESRenderTypeCanvas));
+        canvas->mouseDragged({{60, 20}});
+        canvas->mouseUp({{60, 20}});
+        EXPECT_NE(canvas->image(), stroke);
+        EXPECT_TRUE(canvas->edited()) << smudges;
+        canvas->undo();
+        EXPECT_TRUE(imagesMatch(canvas->image(), stroke));
+    }
+    canvas->setBrushType(0);
     // A stroke without an end is one of its own.
     canvas->drawingWithBeginPoint({20, 60});
     canvas->drawingWithMoveToPoint({50, 60});
@@ -159,7 +175,7 @@ TEST_F(CanvasUndoTest, MarksOnlyWhatWasDrawnAndNotTooOften) {
     for (const bool loaded : {false, true}) {
         auto fresh = makeCanvas(120, 90);
         fresh->setAutoMark(true);
-        fresh->setMarkTimeInterval(3600);
+        fresh->setMarkTimeInterval(1e9f);
         paintWave(*fresh, 20, 12);
         paintWave(*fresh, 40, 12);
         EXPECT_EQ(fresh->undoManager().undoItems().size(), 1);
