@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "ESRender/Utilities/ESGLErrors.h"
 #include "Preview/LeafDrawing.h"
 
 using dabcanvas::Alive;
