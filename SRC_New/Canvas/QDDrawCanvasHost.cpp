@@ -105,8 +105,9 @@ bool QDDrawCanvas::Host::announce(StrokeStage stage, QPointF& point) {
 
 bool QDDrawCanvas::Host::tellDone(StrokeStage stage, QPointF point) {
     const Alive alive(life);
+    const StageCallbacks& callbacks = kCallbacks[static_cast<std::size_t>(stage)];
     if (delegate != nullptr) {
-        (delegate->*kCallbacks[static_cast<std::size_t>(stage)].did)(_canvas, point);
+        (delegate->*callbacks.did)(_canvas, point);
     }
     return static_cast<bool>(alive);
 }
