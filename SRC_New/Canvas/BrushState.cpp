@@ -14,7 +14,7 @@
 namespace dabcanvas {
 namespace {
 
-constexpr int kSmudgeBrush = 3, kPreviewBrush = 4;
+constexpr int kSmudgeBrush = 3;
 constexpr char kDefaultTip[] = "Texture.bundle/PS_brush_11.png";
 constexpr char kSoftRound[] = "Texture.bundle/柔角 30 1.png";
 constexpr float kMostCopies = 1e6f;  // far above what is drawn; keeps the cast to an integer defined

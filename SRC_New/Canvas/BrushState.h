@@ -17,6 +17,8 @@
 
 namespace dabcanvas {
 
+inline constexpr int kPreviewBrush = 4;  // its brushType
+
 // What a stroke of a brush is: dabs, dabs that smudge, or the live preview's filled outline. Strokes that are to be
 // recognised are plain dabs.
 enum class StrokeKind : std::uint8_t { dabs, smudge, preview };

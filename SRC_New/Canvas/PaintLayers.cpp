@@ -25,6 +25,18 @@ void PaintLayers::noteChanged(const Rect& area) {
     _stale = _stale.united(area.intersected(whole()));
 }
 
+void PaintLayers::notePainted(const Rect& area) {
+    _painted = _painted.united(area);
+    _uncommitted = _uncommitted.united(area);
+    noteChanged(area);
+}
+
+void PaintLayers::noteBackgroundShows(const Rect& area) {
+    if (area.contains(_uncommitted)) {
+        _uncommitted = {};
+    }
+}
+
 // ---- A stroke
 
 bool PaintLayers::prepare(PaintLayer layer) {
@@ -63,9 +75,7 @@ Rect PaintLayers::drawOnPicture(std::span<const Dab> dabs, const DabStyle& style
     }
     flush();  // what is due lies below
     const Rect touched = _surface->draw(kPicture, dabs, style);
-    _painted = _painted.united(touched);
-    _uncommitted = _uncommitted.united(touched);
-    noteChanged(touched);
+    notePainted(touched);
     return touched;
 }
 
@@ -102,9 +112,7 @@ void PaintLayers::show(const Rect& area, bool smudged) {
     if (_pending.size() >= kMostPending) {
         flush();
     }
-    _painted = _painted.united(area);
     _strokeArea = _strokeArea.united(area);
-    _uncommitted = _uncommitted.united(area);
     // Rectangles that overlap become one, which composites the same pixels wherever the picture is the background with
     // the layers above it, except where replacing would clear what lies between them.
     const bool merges = !_pending.empty() && _mayMerge && _style.blendType != ESBlendTypeReplace;
@@ -114,7 +122,7 @@ void PaintLayers::show(const Rect& area, bool smudged) {
     } else {
         _pending.push_back(area);
     }
-    noteChanged(area);
+    notePainted(area);
 }
 
 void PaintLayers::flush() {
@@ -158,10 +166,7 @@ void PaintLayers::withdraw(const std::function<bool(const Rect& drawn)>& restore
     if (!restore || !restore(area)) {
         revert(area);
     }
-    // The picture is the background there.
-    if (area.contains(_uncommitted)) {
-        _uncommitted = {};
-    }
+    noteBackgroundShows(area);
     _mayMerge = _uncommitted.isEmpty();
     edits.withdrawStroke();
 }
@@ -219,9 +224,7 @@ bool PaintLayers::place(const Placed& placed, const Rect& touched) {
         return false;
     }
     const Rect changed = touched.intersected(placed.clip).intersected(whole());
-    _painted = _painted.united(changed);
-    _uncommitted = _uncommitted.united(changed);
-    noteChanged(changed);
+    notePainted(changed);
     return true;
 }
 
@@ -243,9 +246,7 @@ bool PaintLayers::restore(const Rect& area, const PixelView& rows) {
     if (!_surface->write(kPicture, area, rows)) {
         return false;
     }
-    if (area.contains(_uncommitted)) {
-        _uncommitted = {};
-    }
+    noteBackgroundShows(area);
     noteChanged(area);
     return true;
 }

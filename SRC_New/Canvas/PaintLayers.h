@@ -103,6 +103,10 @@ private:
     const Rect& contentOf(PaintLayer layer) const { return _content[static_cast<std::size_t>(layer)]; }
     bool linesHoldPaint() const;
     void noteChanged(const Rect& area);
+    // The same, of paint that is not in the background.
+    void notePainted(const Rect& area);
+    // The picture is its background there.
+    void noteBackgroundShows(const Rect& area);
     void settleDrawn();
 
     std::unique_ptr<PaintSurface> _surface;

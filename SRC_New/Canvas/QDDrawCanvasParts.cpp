@@ -9,8 +9,7 @@ using namespace dabcanvas;
 
 namespace {
 
-// Of the fixed message
-constexpr int kRecognitionLine = 699, kBackgroundLine = 2246;
+constexpr int kBackgroundLine = 2246;  // of the fixed message
 
 PaintColor paintOf(const ESColor& color) {
     const float alpha = color.alpha();
@@ -284,7 +283,7 @@ void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
     }
     switch (key) {
         case BrushKey::brushType:
-            return host.showPreview(brush.present().brushType == 4);
+            return host.showPreview(brush.present().brushType == kPreviewBrush);
         case BrushKey::gaussianRadius:
             return preview->setGaussianRadius(brush.present().gaussianRadius);
         case BrushKey::renderColor:

@@ -11,6 +11,9 @@
 
 namespace dabcanvas {
 
+// Of the fixed message: where a sketch's canvas is recorded.
+inline constexpr int kRecognitionLine = 699;
+
 class RecordedCanvas {
 public:
     explicit RecordedCanvas(PaintLayers& layers) : _layers(layers) {}

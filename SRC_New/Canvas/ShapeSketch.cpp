@@ -7,7 +7,6 @@ namespace dabcanvas {
 namespace {
 
 constexpr std::size_t kTooFewPoints = 4;
-constexpr int kRecognitionLine = 699;  // of the fixed message
 
 }  // namespace
 

@@ -78,7 +78,6 @@ public:
 
     // A stroke has begun and not ended yet. While its begin was refused and a good move is awaited, it has not.
     bool isDrawing() const { return _state == State::drawing; }
-    bool isIdle() const { return _state == State::none; }
     // Buffer pixels.
     const StrokeSample& lastSample() const { return _last; }
 
