@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// Draws dabs into a layer of 16 bits a channel: tip times paper times flow, over what is there.
+//
+// Pixels   premultiplied, full scale 65535. Rounded by a noise of place and dab, alike for the channels of a pixel, so
+//          that many faint dabs come out at what they add up to, and no channel exceeds its alpha.
+// Same     whatever the processor has (AVX-512, AVX2, SSE4, NEON, nothing) and however many threads work: the same bytes.
+// Memory   what is derived of tips and papers is bounded in bytes, see kMostDerived, and made piece by piece.
+// Thread   one at a time; spreads its work over others by itself.
+// Errors   std::bad_alloc; the layer then holds some of the dabs.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "Dabs/Dab.h"
+#include "Maths/Rect.h"
+#include "Processor/Tiles.h"
+#include "Surface/PaintSurface.h"
+
+namespace dabcanvas {
+
+class DabPainter {
+public:
+    static constexpr std::size_t kMostDerived = std::size_t{32} << 20;  // bytes
+
+    DabPainter();
+    ~DabPainter();
+    DabPainter(const DabPainter&) = delete;
+    DabPainter& operator=(const DabPainter&) = delete;
+
+    // Returns the pixels that may have changed. `count` is the number of the first dab since the surface was made: what
+    // the noise starts from.
+    Rect draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
+              std::uint64_t count);
+
+private:
+    struct Inside;
+    std::unique_ptr<Inside> _inside;
+};
+
+}  // namespace dabcanvas

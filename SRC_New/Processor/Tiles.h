@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// Pixels in square tiles that exist where paint is, shared until somebody writes: a picture of any size costs what was
+// painted of it, and copying one costs a pointer a tile.
+//
+// Units    buffer pixels, top-left origin.
+// Owns     its tiles, with every TileGrid that copied them.
+// Thread   different tiles may be written on different threads, after writable() made them on one.
+// Errors   std::bad_alloc where there is no memory for a tile; nothing has changed then.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "Maths/Rect.h"
+#include "Surface/TileSet.h"
+
+namespace dabcanvas {
+
+inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
+
+// Premultiplied RGBA, rows from the top.
+template <typename Channel>
+struct alignas(64) Tile {
+    std::array<Channel, kTilePixels * 4> values;
+
+    Channel* at(int x, int y) {
+        return values.data() + (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * 4;
+    }
+    const Channel* at(int x, int y) const { return const_cast<Tile*>(this)->at(x, y); }
+};
+
+template <typename Channel>
+class TileGrid {
+public:
+    using Pixel = std::array<Channel, 4>;
+    using TileOf = Tile<Channel>;
+
+    explicit TileGrid(const Size& size)
+        : _size(size),
+          _columns((size.width + kTileSide - 1) / kTileSide),
+          _tiles(static_cast<std::size_t>(_columns) *
+                 static_cast<std::size_t>((size.height + kTileSide - 1) / kTileSide)) {}
+
+    const Size& size() const { return _size; }
+    int columns() const { return _columns; }
+    std::size_t count() const { return _tiles.size(); }
+    // The pixels of a tile; those beyond the picture's rim are left out.
+    Rect rectOf(std::size_t index) const {
+        const int column = static_cast<int>(index) % _columns, row = static_cast<int>(index) / _columns;
+        return Rect{column * kTileSide, row * kTileSide, kTileSide, kTileSide}.intersected(Rect::of(_size));
+    }
+    std::size_t indexAt(int x, int y) const {
+        return static_cast<std::size_t>(y / kTileSide) * static_cast<std::size_t>(_columns) +
+               static_cast<std::size_t>(x / kTileSide);
+    }
+
+    // Null where no tile is: every pixel is plain() there.
+    const TileOf* tile(std::size_t index) const { return _tiles[index].get(); }
+    const Pixel& plain() const { return _plain; }
+    // This grid's own, made of what it was.
+    TileOf& writable(std::size_t index) {
+        std::shared_ptr<TileOf>& tile = _tiles[index];
+        if (!tile) {
+            auto made = std::make_shared_for_overwrite<TileOf>();
+            for (std::size_t i = 0; i < kTilePixels; ++i) {
+                std::copy(_plain.begin(), _plain.end(), made->values.data() + i * 4);
+            }
+            tile = std::move(made);
+        } else if (tile.use_count() > 1) {
+            tile = std::make_shared<TileOf>(*tile);
+        }
+        return *tile;
+    }
+    // Every pixel of the tile is plain() again.
+    void drop(std::size_t index) { _tiles[index].reset(); }
+    // One colour all over.
+    void fill(const Pixel& pixel) {
+        std::fill(_tiles.begin(), _tiles.end(), nullptr);
+        _plain = pixel;
+    }
+    bool sharesWith(const TileGrid& other, std::size_t index) const {
+        return _tiles[index] == other._tiles[index] && (_tiles[index] || _plain == other._plain);
+    }
+    // The tile becomes the other grid's, as large; costs a pointer where that grid has one or both are plain alike.
+    void share(const TileGrid& other, std::size_t index) {
+        _tiles[index] = other._tiles[index];
+        if (!_tiles[index] && _plain != other._plain) {
+            auto made = std::make_shared_for_overwrite<TileOf>();
+            for (std::size_t i = 0; i < kTilePixels; ++i) {
+                std::copy(other._plain.begin(), other._plain.end(), made->values.data() + i * 4);
+            }
+            _tiles[index] = std::move(made);
+        }
+    }
+
+    // Calls visit(std::size_t index, const Rect& part) for every tile that the rectangle meets, row by row.
+    template <typename Visit>
+    void forEachIn(const Rect& rect, Visit&& visit) const {
+        const Rect cut = rect.intersected(Rect::of(_size));
+        for (int y = cut.y / kTileSide * kTileSide; !cut.isEmpty() && y < cut.bottom(); y += kTileSide) {
+            for (int x = cut.x / kTileSide * kTileSide; x < cut.right(); x += kTileSide) {
+                visit(indexAt(x, y), cut.intersected({x, y, kTileSide, kTileSide}));
+            }
+        }
+    }
+
+private:
+    Size _size;
+    int _columns;
+    Pixel _plain{};
+    std::vector<std::shared_ptr<TileOf>> _tiles;
+};
+
+}  // namespace dabcanvas
