@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/PaintLayers.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "Surface/BlendType.h"
@@ -11,6 +12,7 @@ namespace {
 constexpr PictureId kPicture = PictureId::first;
 // Rectangles that wait where nobody looks at the picture and they cannot be merged.
 constexpr std::size_t kMostPending = 1024;
+constexpr int kMostMovedRows = 256;
 
 }  // namespace
 
@@ -285,6 +287,52 @@ bool PaintLayers::prepareSmudge() {
     settle();
     contentOf(PaintLayer::smudge) = whole();
     return _surface->prepareSmudge(kPicture);
+}
+
+// ---- Moving
+
+bool PaintLayers::moveTo(std::unique_ptr<PaintSurface> surface) {
+    {
+        const SurfaceScope from(*_surface), to(*surface);
+        if (!from || !to || linesHoldPaint()) {
+            return false;
+        }
+        flush();
+        QImage rows(size().width, std::min(size().height, kMostMovedRows),
+                    QImage::Format_RGBA8888_Premultiplied);
+        for (int y = 0; y < size().height; y += kMostMovedRows) {
+            const Rect band = Rect{0, y, size().width, kMostMovedRows}.intersected(whole());
+            if (rows.isNull() || !moveBand(band, rows, *surface)) {
+                return false;
+            }
+        }
+    }
+    _surface = std::move(surface);
+    return true;
+}
+
+// What lies in the picture alone goes there over the background.
+bool PaintLayers::moveBand(const Rect& band, QImage& rows, PaintSurface& to) {
+    const MutablePixelView view{rows.bits(), {band.width, band.height}, rows.bytesPerLine()};
+    if (!_surface->read(kPicture, band, view)) {
+        return false;
+    }
+    if (!band.meets(_uncommitted)) {
+        return to.write(kPicture, band, view);
+    }
+    QImage below = rows.copy();
+    const MutablePixelView belowView{below.bits(), {band.width, band.height}, below.bytesPerLine()};
+    const Placed picture{.pixels = view,
+                         .width = static_cast<double>(band.width),
+                         .height = static_cast<double>(band.height),
+                         .centreX = band.width / 2.0,
+                         .centreY = band.y + band.height / 2.0,
+                         .replaces = true,
+                         .clip = band};
+    _surface->revert(kPicture, band);
+    const bool read = _surface->read(kPicture, band, belowView);
+    return _surface->place(kPicture, picture) && read && to.write(kPicture, band, belowView) &&
+           to.place(kPicture, picture);
 }
 
 // ---- Looking

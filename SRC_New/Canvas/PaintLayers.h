@@ -91,6 +91,10 @@ public:
     // Makes the smudge layer show the background.
     bool prepareSmudge();
 
+    // Paint lies in the other surface from now on, of the same size, byte for byte. False, and nothing has changed, while
+    // the layers hold paint, and where one of both cannot be had.
+    bool moveTo(std::unique_ptr<PaintSurface> surface);
+
     // ---- looking
 
     // The picture as premultiplied RGBA; only what changed since the last call is read. Valid until the next.
@@ -108,6 +112,7 @@ private:
     // The picture is its background there.
     void noteBackgroundShows(const Rect& area);
     void settleDrawn();
+    bool moveBand(const Rect& band, QImage& rows, PaintSurface& to);
 
     std::unique_ptr<PaintSurface> _surface;
     StageClock& _clock;

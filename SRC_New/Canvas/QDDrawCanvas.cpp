@@ -7,6 +7,7 @@
 
 #include "Canvas/CanvasLog.h"
 #include "Canvas/QDDrawCanvasParts.h"
+#include "Canvas/SurfaceChoice.h"
 #include "GLSurface/MakeGLSurface.h"
 #include "Preset/QDBrushManager.h"
 
@@ -23,15 +24,15 @@ QDDrawCanvas::~QDDrawCanvas() {
     _inside->host.mustNotBeNeeded();
 }
 
-std::unique_ptr<QDDrawCanvas> QDDrawCanvas::initWithFrame(const QRectF& frame) {
+std::unique_ptr<QDDrawCanvas> QDDrawCanvas::initWithFrame(const QRectF& frame, SurfaceKind surface) {
     std::unique_ptr<QDDrawCanvas> canvas(new QDDrawCanvas(frame));
-    return canvas->initCanvas() ? std::move(canvas) : nullptr;
+    return canvas->initCanvas(surface) ? std::move(canvas) : nullptr;
 }
 
-bool QDDrawCanvas::initCanvas() {
+bool QDDrawCanvas::initCanvas(SurfaceKind kind) {
     const MustStay stays(*this);
     const Host::Call call(_inside->host);
-    auto surface = makeGLSurface(_inside->host.shownFrame().size());
+    auto surface = makeSurface(_inside->host.shownFrame().size(), kind);
     if (!surface) {
         return false;
     }
@@ -80,6 +81,17 @@ PaintSurface& QDDrawCanvas::surface() {
 }
 
 GLSurface* QDDrawCanvas::glSurface() {
+    if (asGLSurface(surface()) == nullptr) {
+        Parts& parts = *_inside->parts;
+        const Size size = parts.layers.size();
+        auto moved =
+            parts.isDrawing() ? nullptr : makeSurface(QSizeF(size.width, size.height), SurfaceKind::gpu);
+        if (!moved || !parts.layers.moveTo(std::move(moved))) {
+            qCWarning(lcDabcanvas, "the canvas cannot move to OpenGL%s",
+                      parts.isDrawing() ? " in mid-stroke" : "");
+            return nullptr;
+        }
+    }
     return asGLSurface(surface());
 }
 

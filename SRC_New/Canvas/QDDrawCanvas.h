@@ -46,6 +46,7 @@
 #include "Preset/BrushRecords.h"
 #include "Recognition/ShapeRecord.h"
 #include "Surface/RenderType.h"
+#include "Surface/SurfaceKind.h"
 
 struct LPLineParams;
 class ImagesUndoManager;
@@ -59,9 +60,10 @@ class PaintSurface;
 class DABCANVAS_CANVAS_API QDDrawCanvas {
 public:
     // ---- Make
-    // As large as the frame, transparent, with the default brush. Null, after one log line, when there is no OpenGL 3.2
-    // or a side is not from 1 to the driver's limit.
-    static std::unique_ptr<QDDrawCanvas> initWithFrame(const QRectF& frame);
+    // As large as the frame, transparent, with the default brush. Null, after one log line, when the surface that is
+    // asked for cannot be had, or a side is not from 1 to its limit.
+    static std::unique_ptr<QDDrawCanvas> initWithFrame(
+        const QRectF& frame, dabcanvas::SurfaceKind surface = dabcanvas::SurfaceKind::automatic);
     virtual ~QDDrawCanvas();
     QDDrawCanvas(const QDDrawCanvas&) = delete;
     QDDrawCanvas& operator=(const QDDrawCanvas&) = delete;
@@ -236,8 +238,9 @@ public:
 
     // What paint lies in. A SurfaceScope of it, held while many strokes are entered, is cheaper than one for every call.
     dabcanvas::PaintSurface& surface();
-    dabcanvas::GLSurface*
-    glSurface();             // for hosts that draw with OpenGL themselves; null where this does not
+    // For hosts that draw with OpenGL themselves. A canvas that does not moves there, byte for byte, and surface() is
+    // another from then on; null, after one log line, in mid-stroke and where there is no OpenGL.
+    dabcanvas::GLSurface* glSurface();
     QString rendererName();  // what draws, in words
 
     // ---- Pointer events
@@ -362,7 +365,7 @@ public:
 protected:
     // A display derives from this and calls initCanvas() before anything else; false leaves an object to be destroyed.
     explicit QDDrawCanvas(const QRectF& frame);
-    bool initCanvas();
+    bool initCanvas(dabcanvas::SurfaceKind surface = dabcanvas::SurfaceKind::automatic);
 
     // Held by a display while the canvas must not be destroyed: that ends the process then, with a log line.
     class MustStay {

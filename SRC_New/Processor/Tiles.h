@@ -22,10 +22,10 @@ namespace dabcanvas {
 
 inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
 
-// Premultiplied RGBA, rows from the top.
+// Premultiplied RGBA, rows from the top; transparent when made.
 template <typename Channel>
 struct alignas(64) Tile {
-    std::array<Channel, kTilePixels * 4> values;
+    std::array<Channel, kTilePixels * 4> values{};
 
     Channel* at(int x, int y) {
         return values.data() + (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * 4;
@@ -46,7 +46,6 @@ public:
                  static_cast<std::size_t>((size.height + kTileSide - 1) / kTileSide)) {}
 
     const Size& size() const { return _size; }
-    int columns() const { return _columns; }
     std::size_t count() const { return _tiles.size(); }
     // The pixels of a tile; those beyond the picture's rim are left out.
     Rect rectOf(std::size_t index) const {
@@ -58,43 +57,34 @@ public:
                static_cast<std::size_t>(x / kTileSide);
     }
 
-    // Null where no tile is: every pixel is plain() there.
+    // Null where no tile is, which is transparent.
     const TileOf* tile(std::size_t index) const { return _tiles[index].get(); }
-    const Pixel& plain() const { return _plain; }
-    // This grid's own, made of what it was.
+    // This grid's own, with what it held.
     TileOf& writable(std::size_t index) {
         std::shared_ptr<TileOf>& tile = _tiles[index];
         if (!tile) {
-            auto made = std::make_shared_for_overwrite<TileOf>();
-            for (std::size_t i = 0; i < kTilePixels; ++i) {
-                std::copy(_plain.begin(), _plain.end(), made->values.data() + i * 4);
-            }
-            tile = std::move(made);
+            tile = std::make_shared<TileOf>();
         } else if (tile.use_count() > 1) {
             tile = std::make_shared<TileOf>(*tile);
         }
         return *tile;
     }
-    // Every pixel of the tile is plain() again.
     void drop(std::size_t index) { _tiles[index].reset(); }
-    // One colour all over.
+    // One colour all over, in one tile.
     void fill(const Pixel& pixel) {
-        std::fill(_tiles.begin(), _tiles.end(), nullptr);
-        _plain = pixel;
-    }
-    bool sharesWith(const TileGrid& other, std::size_t index) const {
-        return _tiles[index] == other._tiles[index] && (_tiles[index] || _plain == other._plain);
-    }
-    // The tile becomes the other grid's, as large; costs a pointer where that grid has one or both are plain alike.
-    void share(const TileGrid& other, std::size_t index) {
-        _tiles[index] = other._tiles[index];
-        if (!_tiles[index] && _plain != other._plain) {
-            auto made = std::make_shared_for_overwrite<TileOf>();
+        std::shared_ptr<TileOf> all;
+        if (pixel != Pixel{}) {
+            all = std::make_shared<TileOf>();
             for (std::size_t i = 0; i < kTilePixels; ++i) {
-                std::copy(other._plain.begin(), other._plain.end(), made->values.data() + i * 4);
+                std::copy(pixel.begin(), pixel.end(), all->values.data() + i * 4);
             }
-            _tiles[index] = std::move(made);
         }
+        std::fill(_tiles.begin(), _tiles.end(), all);
+    }
+    // The tile is the other grid's, which is as large, until one of both writes it.
+    void share(const TileGrid& other, std::size_t index) { _tiles[index] = other._tiles[index]; }
+    bool sharesWith(const TileGrid& other, std::size_t index) const {
+        return _tiles[index] == other._tiles[index];
     }
 
     // Calls visit(std::size_t index, const Rect& part) for every tile that the rectangle meets, row by row.
@@ -111,7 +101,6 @@ public:
 private:
     Size _size;
     int _columns;
-    Pixel _plain{};
     std::vector<std::shared_ptr<TileOf>> _tiles;
 };
 

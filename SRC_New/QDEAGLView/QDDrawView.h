@@ -41,8 +41,10 @@ class DABCANVAS_VIEW_API QDDrawView : public QWidget, public QDDrawCanvas {
 
 public:
     // Frame: place and size in the parent, in view points, from 1 x 1 on. Null, after one log line, when
-    // there is no OpenGL 3.2 or the size cannot be had.
-    static std::unique_ptr<QDDrawView> initWithFrame(const QRectF& frame, QWidget* parent = nullptr);
+    // the surface that is asked for cannot be had, or not in this size.
+    static std::unique_ptr<QDDrawView> initWithFrame(
+        const QRectF& frame, QWidget* parent = nullptr,
+        dabcanvas::SurfaceKind surface = dabcanvas::SurfaceKind::automatic);
 
     QSize sizeHint() const override;
 

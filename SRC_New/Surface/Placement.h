@@ -27,6 +27,8 @@ public:
     // Every edge runs between two pixels: no pixel is covered in part.
     bool isOnPixelEdges() const { return _onPixelEdges; }
     bool isTurned() const { return _cosine != 1; }
+    double cosine() const { return _cosine; }
+    double sine() const { return _sine; }
     // The pixels that are covered, at least in part; a margin of one where edges cut through them.
     Rect touched() const;
     // The corners as offsets from the centre that count upwards, from the top left clockwise (of a source

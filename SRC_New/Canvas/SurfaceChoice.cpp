@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "Canvas/SurfaceChoice.h"
+
+#include <QDir>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "Canvas/CanvasLog.h"
+#include "GLSurface/MakeGLSurface.h"
+#include "Processor/ProcessorSurface.h"
+#include "Surface/SurfaceLog.h"
+
+namespace dabcanvas {
+namespace {
+
+void toCanvasLog(const char* line) {
+    qCWarning(lcDabcanvas, "%s", line);
+}
+
+// Where the system lists its devices, a driver need not be started to learn that it would draw on the processor.
+bool mayHaveGpu() {
+#ifdef Q_OS_LINUX
+    return !QDir("/dev/dri").entryList({"renderD*"}, QDir::System).isEmpty() ||
+           !QDir("/dev").entryList({"nvidia[0-9]*", "dxg", "mali*", "kgsl*"}, QDir::System).isEmpty();
+#else
+    return true;
+#endif
+}
+
+bool drawsOnProcessor(const std::string& driver) {
+    const auto names = {"llvmpipe",    "softpipe",    "SwiftShader", "Software Rasterizer",
+                        "GDI Generic", "Basic Render"};
+    return std::any_of(names.begin(), names.end(),
+                       [&](const char* name) { return driver.find(name) != std::string::npos; });
+}
+
+bool hasGpu() {
+    if (!mayHaveGpu()) {
+        return false;
+    }
+    const auto surface = makeGLSurface(QSizeF(1, 1));
+    if (!surface) {
+        return false;
+    }
+    const SurfaceScope scope(*surface);
+    return scope && !drawsOnProcessor(surface->name());
+}
+
+// Asked once a process.
+SurfaceKind automaticKind() {
+    const QByteArray wanted = qgetenv("DABCANVAS_SURFACE");
+    if (wanted == "gpu" || wanted == "processor") {
+        return wanted == "gpu" ? SurfaceKind::gpu : SurfaceKind::processor;
+    }
+    if (!wanted.isEmpty() && wanted != "auto") {
+        qCWarning(lcDabcanvas, "DABCANVAS_SURFACE is gpu, processor or auto, not \"%s\"", wanted.constData());
+    }
+    return hasGpu() ? SurfaceKind::gpu : SurfaceKind::processor;
+}
+
+}  // namespace
+
+std::unique_ptr<PaintSurface> makeSurface(const QSizeF& size, SurfaceKind kind) {
+    if (kind == SurfaceKind::automatic) {
+        static const SurfaceKind automatic = automaticKind();
+        kind = automatic;
+    }
+    if (kind == SurfaceKind::gpu) {
+        return makeGLSurface(size);
+    }
+    setSurfaceLog(&toCanvasLog);
+    const auto side = [](double length) {
+        return std::isnan(length) ? 0 : static_cast<int>(std::clamp(length, -1.0, 1e6));
+    };
+    return ProcessorSurface::make({side(size.width()), side(size.height())});
+}
+
+}  // namespace dabcanvas

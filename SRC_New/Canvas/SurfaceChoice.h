@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSizeF>
+#include <memory>
+
+#include "Maths/Export.h"
+#include "Surface/PaintSurface.h"
+#include "Surface/SurfaceKind.h"
+
+namespace dabcanvas {
+
+// Transparent; the sides are cut to integers. Null, after one log line, where there is no such surface or a side is not
+// from 1 to its limit.
+DABCANVAS_CANVAS_API std::unique_ptr<PaintSurface> makeSurface(const QSizeF& size, SurfaceKind kind);
+
+}  // namespace dabcanvas

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+// Compiled once for each kind of vectors; which is used is decided when the program runs. Each lane rounds by itself, so
+// that all give the same bytes.
+#include "Processor/BlendRows.h"
+
+#include <algorithm>
+
+#include "Surface/BlendType.h"
+
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "Processor/BlendRows.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+HWY_BEFORE_NAMESPACE();
+namespace dabcanvas::HWY_NAMESPACE {
+namespace hn = hwy::HWY_NAMESPACE;
+
+// Whole pixels in every vector, four channels each, in units of 1/255.
+using Floats = hn::CappedTag<float, 16>;
+using Ints = hn::RebindToUnsigned<Floats>;
+using Value = hn::Vec<Floats>;
+constexpr Floats kFloats;
+constexpr Ints kInts;
+
+HWY_INLINE Value alphaOf(Value pixel) {
+    return hn::Broadcast<3>(pixel);
+}
+HWY_INLINE Value one() {
+    return hn::Set(kFloats, 1);
+}
+HWY_INLINE Value full() {
+    return hn::Set(kFloats, 255);
+}
+// 0..1 of what remains beside the pixel.
+HWY_INLINE Value restBeside(Value pixel) {
+    return hn::Sub(one(), hn::Mul(alphaOf(pixel), hn::Set(kFloats, 1.0f / 255)));
+}
+HWY_INLINE Value over(Value below, Value above) {
+    return hn::Add(hn::Mul(below, restBeside(above)), above);
+}
+// The colours that `mixed` has on white, on the alpha of one over the other. Never above it.
+HWY_INLINE Value onAlphaOf(Value mixed, Value back, Value line) {
+    const Value alpha = alphaOf(over(back, line));
+    return hn::Min(hn::Max(hn::Sub(mixed, hn::Sub(full(), alpha)), hn::Zero(kFloats)), alpha);
+}
+HWY_INLINE Value onWhite(Value pixel) {
+    return hn::Add(hn::Sub(full(), alphaOf(pixel)), pixel);
+}
+
+// What a mode makes of a background and a layer, premultiplied, and whether pixels without paint in the layer stay.
+struct Normal {
+    static constexpr bool kLeavesBare = false;
+    static HWY_INLINE Value mix(Value back, Value line) { return over(back, line); }
+};
+struct Replace {
+    static constexpr bool kLeavesBare = false;
+    static HWY_INLINE Value mix(Value, Value line) { return line; }
+};
+struct Behind {
+    static constexpr bool kLeavesBare = true;
+    static HWY_INLINE Value mix(Value back, Value line) { return over(line, back); }
+};
+struct Erase {
+    static constexpr bool kLeavesBare = true;
+    static HWY_INLINE Value mix(Value back, Value line) { return hn::Mul(back, restBeside(line)); }
+};
+struct Tarnish {
+    static constexpr bool kLeavesBare = true;
+    static HWY_INLINE Value mix(Value back, Value line) {
+        return onAlphaOf(hn::Min(onWhite(back), onWhite(line)), back, line);
+    }
+};
+struct Brightness {
+    static constexpr bool kLeavesBare = true;
+    static HWY_INLINE Value mix(Value back, Value line) {
+        const auto isAlpha = hn::Eq(hn::And(hn::Iota(kInts, 0), hn::Set(kInts, 3)), hn::Set(kInts, 3));
+        return hn::IfThenElse(hn::RebindMask(kFloats, isAlpha), over(back, line), hn::Max(back, line));
+    }
+};
+struct Multiply {
+    static constexpr bool kLeavesBare = true;
+    static HWY_INLINE Value mix(Value back, Value line) {
+        const Value product = hn::Mul(hn::Mul(onWhite(back), onWhite(line)), hn::Set(kFloats, 1.0f / 255));
+        return onAlphaOf(product, back, line);
+    }
+};
+struct Reset {
+    static constexpr bool kLeavesBare = false;
+    static HWY_INLINE Value mix(Value back, Value) { return back; }
+};
+
+template <typename From>
+HWY_INLINE Value loaded(const From* from) {
+    return hn::ConvertTo(kFloats,
+                         hn::BitCast(hn::RebindToSigned<Floats>(),
+                                     hn::PromoteTo(kInts, hn::LoadU(hn::Rebind<From, Floats>(), from))));
+}
+
+// One vector: the last of a row comes from and goes to a copy.
+template <typename Mode>
+HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> noise) {
+    const Value back = loaded(row.background);
+    Value line = hn::Mul(loaded(row.layer), scale);
+    Value bareUnless = alphaOf(line);
+    if (row.mask != nullptr) {
+        line = hn::Mul(line, hn::Mul(alphaOf(loaded(row.mask)), hn::Set(kFloats, 1.0f / 65535)));
+        bareUnless = alphaOf(line);
+    }
+    Value mixed = Mode::mix(back, line);
+    mixed = hn::Min(mixed, alphaOf(mixed));
+    const Value up = hn::Add(hn::Mul(hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Floats>(), noise)),
+                                     hn::Set(kFloats, 1.0f / 256)),
+                             hn::Set(kFloats, 1.0f / 512));
+    auto rounded = hn::ConvertTo(hn::RebindToSigned<Floats>(), hn::Add(mixed, up));
+    if (Mode::kLeavesBare) {
+        const auto bare = hn::Le(bareUnless, hn::Zero(kFloats));
+        rounded = hn::IfThenElse(hn::RebindMask(hn::RebindToSigned<Floats>(), bare),
+                                 hn::ConvertTo(hn::RebindToSigned<Floats>(), loaded(row.picture)), rounded);
+    }
+    hn::StoreU(hn::DemoteTo(hn::Rebind<std::uint8_t, Floats>(), rounded), hn::Rebind<std::uint8_t, Floats>(),
+               row.picture);
+}
+
+template <typename Mode>
+void blendWhole(const BlendRow& whole) {
+    const int step = static_cast<int>(hn::Lanes(kFloats)) / 4;
+    const Value scale = hn::Set(kFloats, whole.opacity / 257);  // of 65535 to 255
+    const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kInts, 0)), hn::Set(kInts, kNoiseAlong));
+    BlendRow row = whole;
+    const auto noise = [&] {
+        return hn::And(hn::Add(places, hn::Set(kInts, row.noise)), hn::Set(kInts, 255));
+    };
+    for (; row.count >= step; row.count -= step) {
+        blendVector<Mode>(row, scale, noise());
+        row.picture += 4 * step;
+        row.background += 4 * step;
+        row.layer += 4 * step;
+        row.mask += row.mask != nullptr ? 4 * step : 0;
+        row.noise += static_cast<std::uint32_t>(step) * kNoiseAlong;
+    }
+    if (row.count > 0) {
+        std::uint8_t picture[16] = {}, background[16] = {};
+        std::uint16_t layer[16] = {}, mask[16] = {};
+        const auto values = static_cast<std::size_t>(row.count) * 4;
+        std::copy_n(row.picture, values, picture);
+        std::copy_n(row.background, values, background);
+        std::copy_n(row.layer, values, layer);
+        if (row.mask != nullptr) {
+            std::copy_n(row.mask, values, mask);
+        }
+        blendVector<Mode>({picture, background, layer, row.mask != nullptr ? mask : nullptr, row.count,
+                           row.opacity, row.noise},
+                          scale, noise());
+        std::copy_n(picture, values, row.picture);
+    }
+}
+
+void blend(std::uint32_t blendType, const BlendRow& row) {
+    switch (blendType) {
+        case ESBlendTypeReplace:
+            return blendWhole<Replace>(row);
+        case ESBlendTypeBehind:
+            return blendWhole<Behind>(row);
+        case ESBlendTypeErase:
+            return blendWhole<Erase>(row);
+        case ESBlendTypeTarnish:
+            return blendWhole<Tarnish>(row);
+        case ESBlendTypeBrightness:
+            return blendWhole<Brightness>(row);
+        case ESBlendTypeMultiply:
+            return blendWhole<Multiply>(row);
+        case ESBlendTypeReset:
+            return blendWhole<Reset>(row);
+        default:
+            return blendWhole<Normal>(row);
+    }
+}
+
+const char* targetName() {
+    return hwy::TargetName(HWY_TARGET);
+}
+
+}  // namespace dabcanvas::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+namespace dabcanvas {
+
+HWY_EXPORT(blend);
+HWY_EXPORT(targetName);
+
+void blendRow(std::uint32_t blendType, const BlendRow& row) {
+    HWY_DYNAMIC_DISPATCH(blend)(blendType, row);
+}
+
+const char* vectorsInUse() {
+    return HWY_DYNAMIC_DISPATCH(targetName)();
+}
+
+}  // namespace dabcanvas
+#endif

@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: MIT
+#include "Processor/ProcessorSurface.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <new>
+#include <string>
+
+#include "Processor/BlendRows.h"
+#include "Processor/PlaceRows.h"
+#include "Surface/BlendType.h"
+#include "Surface/SurfaceLog.h"
+
+namespace dabcanvas {
+namespace {
+
+using Picture8 = TileGrid<std::uint8_t>;
+using Layer16 = TileGrid<std::uint16_t>;
+
+void copyRows(const PixelView& from, const MutablePixelView& to) {
+    for (int y = 0; y < from.size.height; ++y) {
+        std::memcpy(to.row(y), from.row(y), static_cast<std::size_t>(from.size.width) * 4);
+    }
+}
+
+MutablePixelView viewOf(Tile<std::uint8_t>& tile, const Rect& part) {
+    return {tile.at(part.x % kTileSide, part.y % kTileSide), {part.width, part.height}, kTileSide * 4};
+}
+
+PixelView viewOf(const Tile<std::uint8_t>* tile, const Rect& part) {
+    static const Tile<std::uint8_t> kTransparent;
+    return {(tile != nullptr ? tile : &kTransparent)->at(part.x % kTileSide, part.y % kTileSide),
+            {part.width, part.height},
+            kTileSide * 4};
+}
+
+// `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing.
+void copyTiles(const Picture8& from, Picture8& to, const Rect& rect) {
+    to.forEachIn(rect, [&](std::size_t index, const Rect& part) {
+        if (to.sharesWith(from, index)) {
+            return;
+        }
+        if (part == to.rectOf(index)) {
+            return to.share(from, index);
+        }
+        copyRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
+    });
+}
+
+bool isPart(const Rect& rect, const Size& rows, const Size& whole) {
+    return !rect.isEmpty() && rows == Size{rect.width, rect.height} && Rect::of(whole).contains(rect);
+}
+
+std::uint8_t byteOf(float value) {
+    return static_cast<std::uint8_t>(std::clamp(value, 0.0f, 1.0f) * 255 + 0.5f);
+}
+
+// Runs what needs memory; false, after one line, where there is none.
+template <typename Work>
+bool withMemory(const char* what, Work&& work) {
+    try {
+        work();
+        return true;
+    } catch (const std::bad_alloc&) {
+        logSurfaceProblem(("there is no memory to " + std::string(what)).c_str());
+        return false;
+    }
+}
+
+}  // namespace
+
+// ---- Making
+
+std::unique_ptr<ProcessorSurface> ProcessorSurface::make(const Size& size) {
+    const auto isSide = [](int side) { return side >= 1 && side <= kMostSide; };
+    if (!isSide(size.width) || !isSide(size.height)) {
+        logSurfaceProblem(("a surface of " + std::to_string(size.width) + " x " +
+                           std::to_string(size.height) + " pixels cannot be made: sides are from 1 to " +
+                           std::to_string(kMostSide))
+                              .c_str());
+        return nullptr;
+    }
+    std::unique_ptr<ProcessorSurface> surface;
+    withMemory("make a surface", [&] { surface.reset(new ProcessorSurface(size)); });
+    return surface;
+}
+
+ProcessorSurface::ProcessorSurface(const Size& size)
+    : PaintSurface(size), _picture(size), _background(size), _line(size), _subLine(size), _smudges(size) {}
+
+ProcessorSurface::~ProcessorSurface() = default;
+
+std::string ProcessorSurface::name() {
+    return std::string("processor (") + vectorsInUse() + ")";
+}
+
+void ProcessorSurface::trim() {
+    _smudges.forget();
+}
+
+void ProcessorSurface::noteChanged(PictureId picture, const Rect& rect) {
+    noteTouched(picture, rect.intersected(Rect::of(size())));
+}
+
+// ---- Layers
+
+Rect ProcessorSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
+    Rect touched;
+    withMemory("draw", [&] { touched = _painter.draw(layerOf(layer), dabs, style, _dabs); });
+    _dabs += dabs.size();
+    Rect& holds = layer == PaintLayer::subLine ? _subLineHolds : _lineHolds;
+    holds = holds.united(touched);
+    return touched;
+}
+
+// Drawn by themselves and then put over the picture, which comes to the same.
+Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
+    Rect touched;
+    withMemory("draw", [&] {
+        Layer16 layer(size());
+        touched = _painter.draw(layer, dabs, style, _dabs);
+        _picture.forEachIn(touched, [&](std::size_t index, const Rect& part) {
+            if (const auto* from = layer.tile(index)) {
+                auto& tile = _picture.writable(index);
+                for (int y = part.y; y < part.bottom(); ++y) {
+                    std::uint8_t* row = tile.at(part.x % kTileSide, y % kTileSide);
+                    blendRow(ESBlendTypeNormal, {row, row, from->at(part.x % kTileSide, y % kTileSide),
+                                                 nullptr, part.width, 1, noiseAt(part.x, y, _commits)});
+                }
+            }
+        });
+    });
+    _dabs += dabs.size();
+    ++_commits;
+    noteChanged(picture, touched);
+    return touched;
+}
+
+void ProcessorSurface::clear(PaintLayer layer, const Rect& rect) {
+    if (layer == PaintLayer::smudge) {
+        return _smudges.forget();
+    }
+    Layer16& grid = layerOf(layer);
+    Rect& holds = layer == PaintLayer::subLine ? _subLineHolds : _lineHolds;
+    const bool all = rect.contains(holds);
+    grid.forEachIn(rect.intersected(holds), [&](std::size_t index, const Rect& part) {
+        if (grid.tile(index) == nullptr) {
+            return;
+        }
+        if (all || part == grid.rectOf(index)) {
+            return grid.drop(index);
+        }
+        auto& tile = grid.writable(index);
+        for (int y = part.y; y < part.bottom(); ++y) {
+            std::fill_n(tile.at(part.x % kTileSide, y % kTileSide), static_cast<std::size_t>(part.width) * 4,
+                        std::uint16_t{0});
+        }
+    });
+    if (all) {
+        holds = {};
+    }
+}
+
+// ---- Smudging
+
+bool ProcessorSurface::prepareSmudge(PictureId) {
+    return withMemory("smudge", [&] { _smudges.show(_background); });
+}
+
+Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
+    Rect touched;
+    withMemory("smudge", [&] {
+        std::vector<Dab> coverage;
+        touched = _smudges.smudge(dabs, style, load, _dabs, coverage);
+        // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
+        const DabStyle plain{.tips = style.tips, .paper = {}};
+        _lineHolds = _lineHolds.united(_painter.draw(_line, coverage, plain, _dabs));
+    });
+    _dabs += dabs.size();
+    return touched;
+}
+
+// ---- Pictures
+
+void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style) {
+    const auto* line = _line.tile(index);
+    const auto* mask = style.masked ? _subLine.tile(index) : nullptr;
+    if (style.smudged) {
+        if (line != nullptr) {
+            const PixelView background = viewOf(_background.tile(index), part);
+            _smudges.composite(viewOf(_picture.writable(index), part), background, *line, part, style.opacity,
+                               _commits);
+        }
+        return;
+    }
+    const bool bare = line == nullptr || (style.masked && mask == nullptr);
+    if (bare && style.blendType != ESBlendTypeReplace) {
+        const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;
+        return leaves ? void() : copyTiles(_background, _picture, part);
+    }
+    static const Tile<std::uint16_t> kEmpty;
+    auto& picture = _picture.writable(index);
+    const int x = part.x % kTileSide;
+    const PixelView background = viewOf(_background.tile(index), part);
+    for (int y = part.y; y < part.bottom(); ++y) {
+        const int inTile = y % kTileSide;
+        blendRow(style.blendType,
+                 {.picture = picture.at(x, inTile),
+                  .background = background.row(y - part.y),
+                  .layer = (line != nullptr ? line : &kEmpty)->at(x, inTile),
+                  .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, inTile) : nullptr,
+                  .count = part.width,
+                  .opacity = style.opacity,
+                  .noise = noiseAt(part.x, y, _commits)});
+    }
+}
+
+void ProcessorSurface::composite(PictureId picture, std::span<const Rect> rects,
+                                 const CompositeStyle& style) {
+    for (const Rect& rect : rects) {
+        withMemory("composite", [&] {
+            _picture.forEachIn(
+                rect, [&](std::size_t index, const Rect& part) { compositeTile(index, part, style); });
+        });
+        noteChanged(picture, rect);
+    }
+}
+
+void ProcessorSurface::revert(PictureId picture, const Rect& rect) {
+    withMemory("take a stroke back", [&] { copyTiles(_background, _picture, rect); });
+    noteChanged(picture, rect);
+}
+
+void ProcessorSurface::commit(PictureId, const Rect& rect) {
+    withMemory("keep a stroke", [&] { copyTiles(_picture, _background, rect); });
+    ++_commits;
+}
+
+void ProcessorSurface::fill(PictureId picture, const PaintColor& color) {
+    withMemory("fill a picture", [&] {
+        _picture.fill({byteOf(color.red), byteOf(color.green), byteOf(color.blue), byteOf(color.alpha)});
+    });
+    noteChanged(picture, Rect::of(size()));
+}
+
+bool ProcessorSurface::place(PictureId picture, const Placed& placed) {
+    const Rect clip = placed.clip.intersected(Rect::of(size()));
+    if (placed.pixels.isNull() || clip.isEmpty()) {
+        return false;
+    }
+    Rect touched;
+    if (!withMemory("place a picture", [&] { touched = placeRows(placed, clip, _background, _picture); })) {
+        return false;
+    }
+    noteChanged(picture, touched);
+    return true;
+}
+
+// ---- Rows
+
+bool ProcessorSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) {
+    if (rows.isNull() || !isPart(rect, rows.size, size())) {
+        return false;
+    }
+    _picture.forEachIn(rect, [&](std::size_t index, const Rect& part) {
+        copyRows(viewOf(_picture.tile(index), part),
+                 rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height}));
+    });
+    return true;
+}
+
+bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelView& rows) {
+    if (rows.isNull() || !isPart(rect, rows.size, size())) {
+        return false;
+    }
+    // A copy shares its tiles, so that nothing has changed where the memory ends half way.
+    return withMemory("take pixels", [&] {
+        Picture8 written = _picture;
+        written.forEachIn(rect, [&](std::size_t index, const Rect& part) {
+            copyRows(rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height}),
+                     viewOf(written.writable(index), part));
+        });
+        Picture8 background = _background;
+        copyTiles(written, background, rect);
+        _picture = std::move(written);
+        _background = std::move(background);
+        noteChanged(picture, rect);
+    });
+}
+
+}  // namespace dabcanvas

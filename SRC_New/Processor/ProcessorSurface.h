@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// Paint in plain memory, put there by the processor: no context, no driver and no call of OpenGL.
+//
+// Layers    16 bits a channel; picture and background 8. All in tiles that exist where paint is (Tiles.h), so that what
+//           a stroke costs has nothing to do with how large the canvas is.
+// Thread    any one at a time; drawing large dabs takes others to help.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "Maths/Export.h"
+#include "Processor/DabPainter.h"
+#include "Processor/SmudgePainter.h"
+#include "Processor/Tiles.h"
+#include "Surface/PaintSurface.h"
+
+namespace dabcanvas {
+
+class DABCANVAS_PROCESSOR_API ProcessorSurface final : public PaintSurface {
+public:
+    // Sides beyond this are refused, as larger ones would be by every driver.
+    static constexpr int kMostSide = 32768;
+
+    // Transparent. Null, after one log line, when a side is not from 1 to kMostSide or there is no memory.
+    static std::unique_ptr<ProcessorSurface> make(const Size& size);
+    ~ProcessorSurface() override;
+
+    std::string name() override;
+    void trim() override;
+
+    Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
+    Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;
+    void clear(PaintLayer layer, const Rect& rect) override;
+    bool prepareSmudge(PictureId picture) override;
+    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) override;
+
+    void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) override;
+    void revert(PictureId picture, const Rect& rect) override;
+    void commit(PictureId picture, const Rect& rect) override;
+    void fill(PictureId picture, const PaintColor& color) override;
+    bool place(PictureId picture, const Placed& placed) override;
+
+    bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
+    bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
+
+private:
+    explicit ProcessorSurface(const Size& size);
+    TileGrid<std::uint16_t>& layerOf(PaintLayer layer) {
+        return layer == PaintLayer::subLine ? _subLine : _line;
+    }
+    void compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style);
+    void noteChanged(PictureId picture, const Rect& rect);
+
+    TileGrid<std::uint8_t> _picture, _background;
+    TileGrid<std::uint16_t> _line, _subLine;
+    Rect _lineHolds, _subLineHolds;  // where dabs may be
+    SmudgePainter _smudges;
+    DabPainter _painter;
+    std::uint64_t _dabs = 0;     // drawn so far
+    std::uint32_t _commits = 0;  // so far; composites of one stroke round alike
+};
+
+}  // namespace dabcanvas

@@ -1,0 +1,309 @@
+// SPDX-License-Identifier: MIT
+#include "Processor/SmudgePainter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+#include "Dabs/DabBounds.h"
+#include "Processor/BlendRows.h"
+
+namespace dabcanvas {
+namespace {
+
+// Filtering between the layer's resolution and the picture's reaches this far, in buffer pixels.
+constexpr int kReach = 4;
+constexpr float kFull = 65535;
+
+Size halfOf(const Size& size) {
+    return {std::max(size.width / 2, 1), std::max(size.height / 2, 1)};
+}
+
+// Between four texels, as parts of them.
+struct Between {
+    int low, high;
+    float part;
+
+    // Of a place in texels, 0.5 in the middle of the first; what lies outside reads as the rim.
+    Between(double place, int first, int end) {
+        const double from = std::clamp(place - 0.5, first - 1.0, static_cast<double>(end));
+        const int whole = static_cast<int>(std::floor(from));
+        part = static_cast<float>(from - whole);
+        low = std::clamp(whole, first, end - 1);
+        high = std::clamp(whole + 1, first, end - 1);
+    }
+};
+
+struct Colour {
+    float channel[4];
+};
+
+template <typename TexelAt>
+Colour mixedAt(const Between& x, const Between& y, TexelAt&& texelAt) {
+    const auto *topLeft = texelAt(x.low, y.low), *topRight = texelAt(x.high, y.low);
+    const auto *lowLeft = texelAt(x.low, y.high), *lowRight = texelAt(x.high, y.high);
+    Colour mix;
+    for (int i = 0; i < 4; ++i) {
+        const auto value = [i](const auto* texel) { return static_cast<float>(texel[i]); };
+        const float top = value(topLeft) + (value(topRight) - value(topLeft)) * x.part;
+        const float low = value(lowLeft) + (value(lowRight) - value(lowLeft)) * x.part;
+        mix.channel[i] = top + (low - top) * y.part;
+    }
+    return mix;
+}
+
+float noiseOf(std::uint32_t noise) {
+    return (static_cast<float>(noise & 255) + 0.5f) / 256;
+}
+
+Rect texelsUnder(double left, double top, double right, double bottom, const Size& layer) {
+    return Rect::covering(left - 1, top - 1, right + 1, bottom + 1).intersected(Rect::of(layer));
+}
+
+}  // namespace
+
+// What a dab's pixels turn into where it covers them wholly.
+struct SmudgePainter::Mixture {
+    Colour own;       // the brush's colour, times its part
+    float pickUp;     // part of what is picked up
+    float exchanged;  // of what was there, both parts together
+
+    Mixture(const SmudgeDab& smudge, float load) {
+        const float dry = 1 - smudge.moist, part = load * (1 - smudge.mix);
+        pickUp = smudge.mix * (1 - dry * dry * dry);
+        exchanged = part + pickUp;
+        const RgbType& color = smudge.dab.color;
+        own = {{color.r * part * kFull, color.g * part * kFull, color.b * part * kFull, part * kFull}};
+    }
+};
+
+SmudgePainter::SmudgePainter(const Size& picture)
+    : _size(picture),
+      _picture(picture),
+      _layer(halfOf(picture)),
+      _before(_layer.size()),
+      _scaleX(static_cast<double>(_layer.size().width) / picture.width),
+      _scaleY(static_cast<double>(_layer.size().height) / picture.height),
+      _covers({1, 1}) {}
+
+void SmudgePainter::show(const TileGrid<std::uint8_t>& picture) {
+    forget();
+    _picture = picture;
+}
+
+void SmudgePainter::forget() {
+    _picture.fill({});
+    _layer.fill({});
+    _before.fill({});
+}
+
+// ---- The layer
+
+void SmudgePainter::provide(const Rect& texels) {
+    _layer.forEachIn(texels, [&](std::size_t index, const Rect&) {
+        if (_layer.tile(index) == nullptr) {
+            showTile(index);
+        }
+    });
+}
+
+void SmudgePainter::showTile(std::size_t index) {
+    static constexpr std::uint8_t kTransparent[4] = {};
+    const Rect rect = _layer.rectOf(index);
+    auto& tile = _layer.writable(index);
+    const auto pixelAt = [&](int x, int y) {
+        const auto* from = _picture.tile(_picture.indexAt(x, y));
+        return from != nullptr ? from->at(x % kTileSide, y % kTileSide) : kTransparent;
+    };
+    for (int y = rect.y; y < rect.bottom(); ++y) {
+        const Between down((y + 0.5) / _scaleY, 0, _size.height);
+        for (int x = rect.x; x < rect.right(); ++x) {
+            const Colour color = mixedAt(Between((x + 0.5) / _scaleX, 0, _size.width), down, pixelAt);
+            std::uint16_t* to = tile.at(x % kTileSide, y % kTileSide);
+            for (int i = 0; i < 4; ++i) {
+                to[i] = static_cast<std::uint16_t>(color.channel[i] * 257 + 0.5f);
+            }
+        }
+    }
+    _before.share(_layer, index);
+}
+
+void SmudgePainter::take(const Layer& from, const Rect& rect, Texels& to) {
+    to.rect = rect;
+    to.values.resize(static_cast<std::size_t>(rect.area()) * 4);
+    from.forEachIn(rect, [&](std::size_t index, const Rect& part) {
+        const auto* tile = from.tile(index);
+        for (int y = part.y; tile != nullptr && y < part.bottom(); ++y) {
+            std::memcpy(const_cast<std::uint16_t*>(to.at(part.x, y)),
+                        tile->at(part.x % kTileSide, y % kTileSide),
+                        static_cast<std::size_t>(part.width) * 8);
+        }
+    });
+}
+
+// ---- Dabs
+
+Dab SmudgePainter::inLayer(const Dab& dab) const {
+    Dab scaled = dab;
+    scaled.x = static_cast<float>(dab.x * _scaleX);
+    scaled.y = static_cast<float>(dab.y * _scaleY);
+    scaled.halfSize = static_cast<float>(dab.halfSize * _scaleX);
+    scaled.roundness = static_cast<float>(dab.roundness * _scaleY / _scaleX);
+    scaled.color = {0, 0, 0};
+    return scaled;
+}
+
+Rect SmudgePainter::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load,
+                           std::uint64_t count, std::vector<Dab>& coverage) {
+    Rect touched;
+    for (const SmudgeDab& dab : dabs) {
+        const Rect changed = smudgeOne(dab, Mixture(dab, load), style, count++);
+        if (!changed.isEmpty()) {
+            touched = touched.united(changed);
+            coverage.push_back(dab.dab);
+            coverage.back().flow *= dab.exchange;
+            coverage.back().color = {0, 0, 0};
+        }
+    }
+    return touched;
+}
+
+// Returns the pixels of the picture that it may change.
+Rect SmudgePainter::smudgeOne(const SmudgeDab& smudge, const Mixture& mixture, const DabStyle& style,
+                              std::uint64_t count) {
+    Dab dab = inLayer(smudge.dab);
+    const Extent extent = DabBounds::extentOf(dab);
+    const Rect box = texelsUnder(dab.x - extent.width, dab.y - extent.height, dab.x + extent.width,
+                                 dab.y + extent.height, _layer.size());
+    if (box.isEmpty()) {
+        return {};  // nor is one drawn whose place is not finite
+    }
+    // By itself first, near the origin, to see how much it covers.
+    if (_covers.size().width < box.width || _covers.size().height < box.height) {
+        _covers =
+            Layer({std::max(box.width, _covers.size().width), std::max(box.height, _covers.size().height)});
+    }
+    dab.x -= static_cast<float>(box.x);
+    dab.y -= static_cast<float>(box.y);
+    const DabStyle plain{.tips = style.tips, .paper = {}};
+    const Rect covered =
+        _painter.draw(_covers, std::span(&dab, 1), plain, count).intersected({0, 0, box.width, box.height});
+
+    provide(box);
+    exchange(covered, box, smudge, mixture, count);
+    const Rect changed =
+        Rect::covering(box.x / _scaleX, box.y / _scaleY, box.right() / _scaleX, box.bottom() / _scaleY)
+            .grownBy(kReach);
+    return changed.intersected(Rect::of(_size));
+}
+
+// The layer exchanges what lies under the dab that `_covers` holds, `origin` away from there.
+void SmudgePainter::exchange(const Rect& covered, const Rect& origin, const SmudgeDab& smudge,
+                             const Mixture& mixture, std::uint64_t count) {
+    const double stretch = smudge.pickUpHalf / smudge.dab.halfSize;
+    const auto pickX = [&](double x) {
+        return (smudge.pickUp.x + (x / _scaleX - smudge.dab.x) * stretch) * _scaleX;
+    };
+    const auto pickY = [&](double y) {
+        return (smudge.pickUp.y + (y / _scaleY - smudge.dab.y) * stretch) * _scaleY;
+    };
+    const Rect under{covered.x + origin.x, covered.y + origin.y, covered.width, covered.height};
+    // What is taken up is taken before the dab changes it; off the layer its rim counts.
+    Rect picked = texelsUnder(pickX(under.x), pickY(under.y), pickX(under.right()), pickY(under.bottom()),
+                              _layer.size());
+    if (mixture.pickUp > 0) {
+        const auto near = [](double place, int size) {
+            return std::clamp(static_cast<int>(std::clamp(place, 0.0, 1e6)), 0, size - 1);
+        };
+        if (picked.isEmpty()) {
+            picked = {near(pickX(under.x), _layer.size().width), near(pickY(under.y), _layer.size().height),
+                      1, 1};
+        }
+        provide(picked);
+        take(_layer, picked, _picked);
+    }
+    const auto pickedAt = [this](int x, int y) { return _picked.at(x, y); };
+    const std::uint32_t later = static_cast<std::uint32_t>(count);
+    _covers.forEachIn(covered, [&](std::size_t index, const Rect& part) {
+        if (_covers.tile(index) == nullptr) {
+            return;
+        }
+        auto& cover = _covers.writable(index);
+        for (int y = part.y; y < part.bottom(); ++y) {
+            const int row = y + origin.y;
+            const Between down(pickY(row + 0.5), picked.y, picked.bottom());
+            for (int x = part.x; x < part.right(); ++x) {
+                std::uint16_t* const alpha = cover.at(x % kTileSide, y % kTileSide);
+                if (alpha[3] == 0) {
+                    continue;
+                }
+                const float share = static_cast<float>(alpha[3]) / kFull;
+                std::memset(alpha, 0, 8);
+                const int column = x + origin.x;
+                Colour color{};
+                if (mixture.pickUp > 0) {
+                    color = mixedAt(Between(pickX(column + 0.5), picked.x, picked.right()), down, pickedAt);
+                }
+                auto& tile = _layer.writable(_layer.indexAt(column, row));
+                std::uint16_t* const to = tile.at(column % kTileSide, row % kTileSide);
+                const float rest = 1 - share * mixture.exchanged,
+                            noise = noiseOf(noiseAt(column, row, later));
+                for (int i = 0; i < 4; ++i) {
+                    const float value = static_cast<float>(to[i]) * rest +
+                                        share * (mixture.own.channel[i] + mixture.pickUp * color.channel[i]);
+                    to[i] = static_cast<std::uint16_t>(std::clamp(value + noise, 0.0f, kFull));
+                }
+            }
+        }
+    });
+}
+
+// ---- The picture
+
+void SmudgePainter::composite(const MutablePixelView& picture, const PixelView& background,
+                              const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
+                              std::uint32_t commits) {
+    const Rect texels = texelsUnder(part.x * _scaleX, part.y * _scaleY, part.right() * _scaleX,
+                                    part.bottom() * _scaleY, _layer.size());
+    provide(texels);
+    take(_layer, texels, _picked);
+    take(_before, texels, _old);
+    for (int y = part.y; y < part.bottom(); ++y) {
+        const Between down((y + 0.5) * _scaleY, texels.y, texels.bottom());
+        for (int x = part.x; x < part.right(); ++x) {
+            const std::uint16_t alpha = exchanged.at(x % kTileSide, y % kTileSide)[3];
+            if (alpha == 0) {
+                continue;  // no dab was here, so not a bit of it may change
+            }
+            const float share = static_cast<float>(alpha) / kFull;
+            const Between along((x + 0.5) * _scaleX, texels.x, texels.right());
+            // The layer holds the picture at half its resolution. What the dabs brought is what it has now less what
+            // remains of what it had; only that is enlarged, and the picture keeps its detail where the dabs were thin.
+            const Colour now =
+                mixedAt(along, down, [this](int column, int row) { return _picked.at(column, row); });
+            const Colour then =
+                mixedAt(along, down, [this](int column, int row) { return _old.at(column, row); });
+            Colour brought;
+            for (int i = 0; i < 4; ++i) {
+                brought.channel[i] = std::max(now.channel[i] - then.channel[i] * (1 - share), 0.0f) / kFull;
+            }
+            // At hard rims the layer's coarser pixels do not agree with the coverage; what is too much keeps its colour.
+            const float kept = std::min(1.0f, share / std::max(brought.channel[3], 1e-6f));
+            const float most = brought.channel[3] * kept;
+            const std::uint8_t* const back = background.at(x - part.x, y - part.y);
+            std::uint8_t* const to = picture.at(x - part.x, y - part.y);
+            const float noise = noiseOf(noiseAt(x, y, commits));
+            const auto exchangedAt = [&](int channel, float added) {
+                const float canvas = back[channel];
+                const float value = canvas + opacity * (added * 255 - canvas * share) + noise;
+                return static_cast<std::uint8_t>(std::clamp(value, 0.0f, 255.0f));
+            };
+            to[3] = exchangedAt(3, most);
+            for (int i = 0; i < 3; ++i) {
+                to[i] = std::min(exchangedAt(i, std::min(brought.channel[i] * kept, most)), to[3]);
+            }
+        }
+    }
+}
+
+}  // namespace dabcanvas
