@@ -1,0 +1,437 @@
+// SPDX-License-Identifier: MIT
+// What every surface promises, whatever draws it.
+#include "Surface/PaintSurface.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <numbers>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "GLSurface/MakeGLSurface.h"
+#include "Processor/ProcessorSurface.h"
+#include "Surface/BlendType.h"
+
+using namespace dabcanvas;
+
+namespace {
+
+constexpr PictureId kPicture = PictureId::first;
+using Bytes = std::vector<std::uint8_t>;
+using Colour = std::array<double, 4>;  // premultiplied, 0..1
+
+struct Kind {
+    const char* name;
+    std::unique_ptr<PaintSurface> (*make)(const Size&);
+};
+const Kind kKinds[] = {
+    {"Gpu", [](const Size& size) { return makeGLSurface(QSizeF(size.width, size.height)); }},
+    {"Processor",
+     [](const Size& size) -> std::unique_ptr<PaintSurface> { return ProcessorSurface::make(size); }}};
+
+class SurfaceTest : public testing::TestWithParam<Kind> {
+protected:
+    // Larger than a tile, and no multiple of one.
+    static constexpr Size kSize{150, 90};
+
+    void SetUp() override {
+        surface = GetParam().make(kSize);
+        ASSERT_TRUE(surface);
+        scope = std::make_unique<SurfaceScope>(*surface);
+    }
+    void TearDown() override { scope.reset(); }
+
+    Bytes read(const Rect& rect = Rect::of(kSize)) {
+        Bytes bytes(static_cast<std::size_t>(rect.area()) * 4);
+        EXPECT_TRUE(surface->read(kPicture, rect,
+                                  MutablePixelView::topRowFirst(bytes.data(), {rect.width, rect.height})));
+        return bytes;
+    }
+    void write(const Bytes& bytes, const Rect& rect = Rect::of(kSize)) {
+        EXPECT_TRUE(
+            surface->write(kPicture, rect, PixelView::topRowFirst(bytes.data(), {rect.width, rect.height})));
+    }
+    static std::size_t at(int x, int y) { return static_cast<std::size_t>(y * kSize.width + x) * 4; }
+
+    // A square of one colour.
+    void square(PaintLayer layer, const Rect& rect, RgbType color, float flow) {
+        Dab dab{};
+        dab.x = static_cast<float>(rect.x) + static_cast<float>(rect.width) / 2;
+        dab.y = static_cast<float>(rect.y) + static_cast<float>(rect.height) / 2;
+        dab.halfSize = static_cast<float>(rect.width) / 2;
+        dab.roundness = static_cast<float>(rect.height) / static_cast<float>(rect.width);
+        dab.flipX = dab.flipY = 1;
+        dab.flow = flow;
+        dab.color = color;
+        surface->draw(layer, std::span(&dab, 1), style);
+    }
+
+    static std::shared_ptr<const TipSet> tipOf(std::uint8_t (*alphaAt)(double distance)) {
+        constexpr int kSide = 32;
+        auto bytes = std::make_shared<Bytes>(kSide * kSide * 4);
+        for (int i = 0; i < kSide * kSide; ++i) {
+            const double distance =
+                std::hypot(i % kSide + 0.5 - kSide / 2, i / kSide + 0.5 - kSide / 2) / (kSide / 2);
+            (*bytes)[static_cast<std::size_t>(i) * 4 + 3] = alphaAt(distance);
+        }
+        return std::make_shared<TipSet>(
+            TipSet{{PixelView::topRowFirst(bytes->data(), {kSide, kSide}), 1, bytes}});
+    }
+
+    std::unique_ptr<PaintSurface> surface;
+    std::unique_ptr<SurfaceScope> scope;
+    DabStyle style{.tips = tipOf([](double) { return std::uint8_t{255}; }), .paper = {}};
+};
+INSTANTIATE_TEST_SUITE_P(Each, SurfaceTest, testing::ValuesIn(kKinds),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// ---- Rows
+
+Bytes randomPicture(unsigned seed, const Size& size) {
+    std::mt19937 random(seed);
+    Bytes bytes(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * 4);
+    for (std::size_t i = 0; i < bytes.size(); i += 4) {
+        bytes[i + 3] = static_cast<std::uint8_t>(random());
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+            bytes[i + channel] = static_cast<std::uint8_t>(random() % (bytes[i + 3] + 1u));
+        }
+    }
+    return bytes;
+}
+
+TEST_P(SurfaceTest, RowsComeBackByteForByteInAnyPartAndOrder) {
+    const Bytes whole = randomPicture(1, kSize);
+    write(whole);
+    EXPECT_EQ(read(), whole);
+    const Rect part{61, 3, 70, 66};
+    const Bytes other = randomPicture(2, {part.width, part.height});
+    EXPECT_TRUE(
+        surface->write(kPicture, part, PixelView::bottomRowFirst(other.data(), {part.width, part.height})));
+    Bytes back(other.size());
+    EXPECT_TRUE(surface->read(kPicture, part,
+                              MutablePixelView::bottomRowFirst(back.data(), {part.width, part.height})));
+    EXPECT_EQ(back, other);
+    EXPECT_TRUE(std::equal(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(at(0, part.y)),
+                           read().begin()));
+    EXPECT_FALSE(
+        surface->read(kPicture, {100, 0, 70, 66}, MutablePixelView::topRowFirst(back.data(), {70, 66})));
+}
+
+TEST_P(SurfaceTest, PictureAndBackgroundGoTheirOwnWays) {
+    const Bytes whole = randomPicture(3, kSize);
+    write(whole);
+    surface->fill(kPicture, {1, 0.5f, 0, 1});
+    EXPECT_EQ(read({5, 5, 1, 1}), (Bytes{255, 128, 0, 255}));
+    const Rect part{20, 30, 77, 40};
+    surface->revert(kPicture, part);
+    Bytes expected = read();
+    for (int y = 0; y < kSize.height; ++y) {
+        for (int x = 0; x < kSize.width; ++x) {
+            const bool inside = Rect{x, y, 1, 1}.meets(part);
+            const std::uint8_t* const from = whole.data() + at(x, y);
+            const Bytes filled{255, 128, 0, 255};
+            std::copy_n(inside ? from : filled.data(), 4, expected.data() + at(x, y));
+        }
+    }
+    EXPECT_EQ(read(), expected);
+    surface->commit(kPicture, Rect::of(kSize));
+    surface->fill(kPicture, {});
+    surface->revert(kPicture, {-5, -5, 1000, 1000});
+    EXPECT_EQ(read(), expected);
+}
+
+// ---- Blend modes
+
+// What each mode promises, of a background and what lies on it.
+Colour blended(std::uint32_t mode, const Colour& back, const Colour& line) {
+    const double below = 1 - line[3], beside = 1 - back[3];
+    const double alpha = back[3] * below + line[3];
+    Colour result{};
+    for (std::size_t i = 0; i < 3; ++i) {
+        const double white = beside + back[i], lineWhite = below + line[i];
+        const double mixed = mode == ESBlendTypeTarnish ? std::min(white, lineWhite) : white * lineWhite;
+        switch (mode) {
+            case ESBlendTypeReplace:
+                result[i] = line[i];
+                break;
+            case ESBlendTypeBehind:
+                result[i] = line[i] * beside + back[i];
+                break;
+            case ESBlendTypeErase:
+                result[i] = back[i] * below;
+                break;
+            case ESBlendTypeTarnish:
+            case ESBlendTypeMultiply:
+                result[i] = std::clamp(mixed - (1 - alpha), 0.0, alpha);
+                break;
+            case ESBlendTypeBrightness:
+                result[i] = std::max(back[i], line[i]);
+                break;
+            case ESBlendTypeReset:
+                result[i] = back[i];
+                break;
+            default:
+                result[i] = back[i] * below + line[i];
+        }
+    }
+    result[3] = mode == ESBlendTypeReplace ? line[3]
+                : mode == ESBlendTypeErase ? back[3] * below
+                : mode == ESBlendTypeReset ? back[3]
+                                           : alpha;
+    return result;
+}
+
+TEST_P(SurfaceTest, EachModeBlendsAsItPromises) {
+    constexpr float kColours[] = {0, 0.2f, 0.6f, 1};
+    constexpr int kSide = 6;
+    for (const std::uint32_t mode : {1u, 2u, 3u, 4u, 5u, 6u, 7u, 8u, 9u}) {
+        for (const bool masked : {false, true}) {
+            const Bytes background = randomPicture(mode, kSize);
+            write(background);
+            const float opacity = masked ? 0.7f : 1, mask = 0.5f;
+            std::vector<std::pair<Rect, Colour>> squares;
+            for (int i = 0; i < 64; ++i) {
+                const Rect rect{(i % 16) * (kSide + 3), (i / 16) * (kSide + 8), kSide, kSide};
+                const RgbType color{kColours[i % 4], kColours[i / 4 % 4], kColours[(i + i / 16) % 4]};
+                const float flow = kColours[i / 16];
+                square(PaintLayer::line, rect, color, flow);
+                const double of = flow * opacity * (masked ? mask : 1);
+                squares.push_back({rect, {color.r * of, color.g * of, color.b * of, of}});
+            }
+            if (masked) {
+                ASSERT_TRUE(surface->prepare(PaintLayer::subLine));
+                square(PaintLayer::subLine, {0, 0, 150, 90}, {0, 0, 0}, mask);
+            }
+            const Rect all[] = {Rect::of(kSize)};
+            const CompositeStyle how{.blendType = mode, .opacity = opacity, .masked = masked};
+            surface->composite(kPicture, all, how);
+            const Bytes once = read();
+            surface->composite(kPicture, all, how);
+            EXPECT_EQ(read(), once) << "mode " << mode << " is not the same twice";
+            for (const auto& [rect, line] : squares) {
+                const std::size_t middle = at(rect.x + 3, rect.y + 3);
+                Colour back;
+                for (std::size_t i = 0; i < 4; ++i) {
+                    back[i] = background[middle + i] / 255.0;
+                }
+                const Colour expected = blended(mode, back, line);
+                for (std::size_t i = 0; i < 4; ++i) {
+                    EXPECT_NEAR(once[middle + i], expected[i] * 255, 1.3)
+                        << "mode " << mode << " channel " << i;
+                    EXPECT_LE(once[middle + i], once[middle + 3]) << "mode " << mode << " channel " << i;
+                }
+                const std::size_t beside = at(rect.right() + 1, rect.y + 3);
+                if (mode != ESBlendTypeReplace) {
+                    EXPECT_TRUE(std::equal(&once[beside], &once[beside] + 4, &background[beside]))
+                        << "mode " << mode;
+                }
+            }
+            surface->clear(PaintLayer::line, Rect::of(kSize));
+            surface->clear(PaintLayer::subLine, Rect::of(kSize));
+        }
+    }
+}
+
+TEST_P(SurfaceTest, FaintStrokesOverEachOtherDoNotStick) {
+    surface->fill(kPicture, {0, 0, 0, 1});
+    surface->commit(kPicture, Rect::of(kSize));
+    const Rect area[] = {{0, 0, 64, 64}};
+    double exact = 0;
+    for (int stroke = 0; stroke < 600; ++stroke) {
+        square(PaintLayer::line, area[0], {1, 1, 1}, 0.01f);
+        surface->composite(kPicture, area, {});
+        surface->clear(PaintLayer::line, area[0]);
+        surface->commit(kPicture, area[0]);
+        exact += (255 - exact) * 0.01;
+    }
+    const Bytes bytes = read(area[0]);
+    double sum = 0;
+    for (std::size_t i = 0; i < bytes.size(); i += 4) {
+        sum += bytes[i];
+        EXPECT_NEAR(bytes[i], exact, 8);
+    }
+    EXPECT_NEAR(sum * 4 / static_cast<double>(bytes.size()), exact, 1);
+}
+
+// ---- Layers
+
+TEST_P(SurfaceTest, LayersAreClearedInPartsAndAsAWhole) {
+    const Rect all[] = {Rect::of(kSize)};
+    square(PaintLayer::line, {0, 0, 150, 90}, {1, 0, 0}, 1);
+    surface->clear(PaintLayer::line, {10, 10, 100, 60});
+    surface->composite(kPicture, all, {});
+    const Bytes bytes = read();
+    for (int y = 0; y < kSize.height; ++y) {
+        for (int x = 0; x < kSize.width; ++x) {
+            ASSERT_EQ(bytes[at(x, y) + 3], (Rect{10, 10, 100, 60}.contains({x, y, 1, 1}) ? 0 : 255))
+                << x << ", " << y;
+        }
+    }
+    surface->clear(PaintLayer::line, {-10, -10, 1000, 1000});
+    surface->composite(kPicture, all, {});
+    EXPECT_EQ(read(), Bytes(bytes.size(), 0));
+}
+
+TEST_P(SurfaceTest, DabsStraightOnThePictureLeaveTheBackground) {
+    write(randomPicture(7, kSize));
+    const Bytes before = read();
+    Dab dab{};
+    dab.x = 70;
+    dab.y = 40;
+    dab.halfSize = dab.roundness = 1;
+    dab.halfSize = 20;
+    dab.flipX = dab.flipY = dab.flow = 1;
+    const Rect touched = surface->draw(kPicture, std::span(&dab, 1), style);
+    EXPECT_TRUE(touched.contains({50, 20, 40, 40}));
+    EXPECT_EQ(read({60, 30, 1, 1}), (Bytes{0, 0, 0, 255}));
+    surface->revert(kPicture, touched);
+    EXPECT_EQ(read(), before);
+}
+
+// ---- Pictures on pictures
+
+TEST_P(SurfaceTest, PicturesArePlacedWhereTheyBelong) {
+    // Red above, blue below, on green.
+    const Bytes source{255, 0, 0, 255, 0, 0, 255, 255};
+    const Bytes red{255, 0, 0, 255}, green{0, 255, 0, 255}, blue{0, 0, 255, 255};
+    const double quarter = std::numbers::pi / 2;
+    const struct {
+        double width, height, x, y, radian;
+        int atX, atY;
+        Bytes colour;
+    } rows[] = {
+        {20, 40, 60, 40, 0, 55, 21, red},           {20, 40, 60, 40, 0, 65, 59, blue},
+        {20, 40, 60, 40, 0, 49, 40, green},         {20, 40, 60, 40, 0, 60, 60, green},
+        {20, 40, 60, 40, quarter, 41, 45, red},     {20, 40, 60, 40, quarter, 79, 35, blue},
+        {20, 40, 60, 40, 2 * quarter, 60, 59, red}, {20, 40, 60.5, 40, 0, 50, 30, {128, 128, 0, 255}}};
+    for (const auto& row : rows) {
+        surface->fill(kPicture, {0, 1, 0, 1});
+        surface->commit(kPicture, Rect::of(kSize));
+        ASSERT_TRUE(surface->place(kPicture, {.pixels = PixelView::topRowFirst(source.data(), {1, 2}),
+                                              .width = row.width,
+                                              .height = row.height,
+                                              .centreX = row.x,
+                                              .centreY = row.y,
+                                              .radian = row.radian,
+                                              .clip = Rect::of(kSize)}));
+        const Bytes pixel = read({row.atX, row.atY, 1, 1});
+        for (std::size_t i = 0; i < 4; ++i) {
+            EXPECT_NEAR(pixel[i], row.colour[i], 2)
+                << row.atX << ", " << row.atY << " turned by " << row.radian;
+        }
+        surface->revert(kPicture, Rect::of(kSize));
+        EXPECT_EQ(read({60, 40, 1, 1}), green);
+    }
+}
+
+TEST_P(SurfaceTest, WhatReplacesIsCutToItsClip) {
+    write(Bytes(static_cast<std::size_t>(kSize.width * kSize.height) * 4, 200));
+    const Bytes source = randomPicture(9, {30, 30});
+    ASSERT_TRUE(surface->place(kPicture, {.pixels = PixelView::topRowFirst(source.data(), {30, 30}),
+                                          .width = 30,
+                                          .height = 30,
+                                          .centreX = 64,
+                                          .centreY = 64,
+                                          .replaces = true,
+                                          .clip = {60, 49, 100, 10}}));
+    for (int y = 49; y < 79; ++y) {
+        for (int x = 49; x < 79; ++x) {
+            const bool inside = x >= 60 && y < 59;
+            const Bytes expected =
+                inside ? Bytes(&source[static_cast<std::size_t>((y - 49) * 30 + x - 49) * 4],
+                               &source[static_cast<std::size_t>((y - 49) * 30 + x - 49) * 4] + 4)
+                       : Bytes(4, 200);
+            ASSERT_EQ(read({x, y, 1, 1}), expected) << x << ", " << y;
+        }
+    }
+}
+
+TEST_P(SurfaceTest, ReducedPicturesKeepTheirMean) {
+    Bytes stripes;
+    for (int i = 0; i < 400 * 300; ++i) {
+        const auto value = static_cast<std::uint8_t>(i % 2 == 0 ? 255 : 0);
+        stripes.insert(stripes.end(), {value, value, value, 255});
+    }
+    ASSERT_TRUE(surface->place(kPicture, {.pixels = PixelView::topRowFirst(stripes.data(), {400, 300}),
+                                          .width = 70,
+                                          .height = 60,
+                                          .centreX = 75,
+                                          .centreY = 45,
+                                          .clip = Rect::of(kSize)}));
+    for (int x = 45; x < 105; ++x) {
+        EXPECT_NEAR(read({x, 45, 1, 1})[0], 128, 24) << x;
+    }
+}
+
+// ---- Smudging
+
+SmudgeDab smudgeDab(float x, float fromX) {
+    SmudgeDab smudge{};
+    smudge.dab.x = x;
+    smudge.dab.y = 45;
+    smudge.dab.halfSize = 15;
+    smudge.dab.roundness = smudge.dab.flipX = smudge.dab.flipY = smudge.dab.flow = 1;
+    smudge.pickUp = {fromX, 45};
+    smudge.pickUpHalf = 15;
+    smudge.moist = smudge.mix = smudge.exchange = 1;
+    return smudge;
+}
+
+TEST_P(SurfaceTest, SmudgingCarriesColourAlongAndTouchesNothingElse) {
+    Bytes halves = randomPicture(11, kSize);
+    for (int y = 0; y < kSize.height; ++y) {
+        for (int x = 0; x < kSize.width; ++x) {
+            const Bytes colour = x < 75 ? Bytes{250, 10, 10, 255} : Bytes{10, 10, 250, 255};
+            if (y > 5 && y < 85) {
+                std::copy(colour.begin(), colour.end(), &halves[at(x, y)]);
+            }
+        }
+    }
+    write(halves);
+    ASSERT_TRUE(surface->prepareSmudge(kPicture));
+    std::vector<SmudgeDab> dabs;
+    for (float x = 52; x < 110; x += 2) {
+        dabs.push_back(smudgeDab(x, x - 2));
+    }
+    const Rect touched[] = {surface->smudge(dabs, style, 0)};
+    const CompositeStyle how{.smudged = true};
+    surface->composite(kPicture, touched, how);
+    const Bytes once = read();
+    surface->composite(kPicture, touched, how);
+    EXPECT_EQ(read(), once);
+    EXPECT_GT(once[at(95, 45)], 200) << "red is carried over to the blue side";
+    EXPECT_LT(once[at(95, 45) + 2], 60);
+    for (int y = 0; y < kSize.height; ++y) {
+        for (int x = 0; x < kSize.width; ++x) {
+            if (y < 28 || y > 61 || x < 34 || x > 126) {
+                ASSERT_TRUE(std::equal(&once[at(x, y)], &once[at(x, y)] + 4, &halves[at(x, y)]))
+                    << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST_P(SurfaceTest, SmudgingOneColourChangesNothing) {
+    surface->fill(kPicture, {0.5f, 0.25f, 0.125f, 1});
+    surface->commit(kPicture, Rect::of(kSize));
+    const Bytes before = read();
+    ASSERT_TRUE(surface->prepareSmudge(kPicture));
+    std::vector<SmudgeDab> dabs;
+    for (float x = 5; x < 145; x += 1) {
+        dabs.push_back(smudgeDab(x, x - 1));
+        dabs.back().mix = 0.7f;
+    }
+    const Rect touched[] = {surface->smudge(dabs, style, 0)};
+    surface->composite(kPicture, touched, {.smudged = true});
+    const Bytes after = read();
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        ASSERT_NEAR(after[i], before[i], 1) << i;
+    }
+}
+
+}  // namespace
