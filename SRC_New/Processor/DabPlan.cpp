@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "Processor/DabPlan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace dabcanvas {
+namespace {
+
+bool isFinite(const Dab& dab) {
+    for (const float value : {dab.x, dab.y, dab.halfSize, dab.radian, dab.halfSize * dab.roundness, dab.flow,
+                              dab.color.r, dab.color.g, dab.color.b, dab.random}) {
+        if (!std::isfinite(value)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::int32_t fixedPoint(double texels) {
+    constexpr double kFar = 1 << 30;
+    return static_cast<std::int32_t>(std::floor(std::clamp(texels * 65536, -kFar, kFar) + 0.5));
+}
+
+// Pixels whose squares may meet the box.
+Rect touchedBy(const Dab& dab, const DabMap& map) {
+    const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
+    const double x = std::fabs(map.alongX) * wide + std::fabs(map.acrossX) * tall;
+    const double y = std::fabs(map.alongY) * wide + std::fabs(map.acrossY) * tall;
+    return Rect::covering(dab.x - x - 0.5, dab.y - y - 0.5, dab.x + x + 0.5, dab.y + y + 0.5);
+}
+
+void setWeights(TileDab& tile, double flow, const TipTables::Pair& levels) {
+    constexpr int kFaintest = 15;
+    double whole = std::min(flow, 1.0) * kFullWeight;
+    while (tile.faint < kFaintest && whole * 2 <= kFullWeight) {
+        whole *= 2;
+        ++tile.faint;
+    }
+    const auto sum = static_cast<std::int32_t>(std::ceil(whole));
+    tile.levelCount = levels.second != nullptr ? 2 : 1;
+    tile.levels[1].weight = static_cast<std::int32_t>(sum * levels.part + 0.5f);
+    tile.levels[0].weight = sum - tile.levels[1].weight;
+}
+
+struct Interval {
+    double from, to;
+
+    void cut(const Interval& other) {
+        from = std::max(from, other.from);
+        to = std::min(to, other.to);
+    }
+};
+
+// Where |perX * x + offset| is below `most`.
+Interval strip(double perX, double offset, double most) {
+    constexpr double kParallel = 1e-9, kFar = 1e9;
+    if (std::fabs(perX) < kParallel) {
+        return std::fabs(offset) < most ? Interval{-kFar, kFar} : Interval{kFar, -kFar};
+    }
+    const double middle = -offset / perX, half = most / std::fabs(perX);
+    return {middle - half, middle + half};
+}
+
+}  // namespace
+
+std::optional<PlannedDab> planned(const Dab& dab, const DabStyle& style, TipTables& tip, const Size& layer,
+                                  std::uint64_t number) {
+    if (tip.isEmpty() || !isFinite(dab) || !(dab.halfSize > 0) || !(dab.halfSize * dab.roundness > 0) ||
+        !(dab.flow > 0)) {
+        return {};
+    }
+    Dab mirrored = dab;
+    mirrored.flipX = dab.flipX < 0 ? -1.0f : 1.0f;
+    mirrored.flipY = dab.flipY < 0 ? -1.0f : 1.0f;
+    const DabMap map(mirrored, tip.size());
+    const Rect touched = touchedBy(mirrored, map).intersected(Rect::of(layer));
+    if (touched.isEmpty()) {
+        return {};
+    }
+    PlannedDab plan{mirrored, map, touched, tip.levels(map.level), {}, 0, number, {}};
+    TileDab& tile = plan.tile;
+    setWeights(tile, dab.flow, plan.levels);
+    const float reach =
+        std::max(plan.levels.first->reach, plan.levels.second != nullptr ? plan.levels.second->reach : 0.0f);
+    plan.reachSquared = double{reach} * reach;
+    const float straight[] = {dab.color.r, dab.color.g, dab.color.b, 1};
+    for (std::size_t i = 0; i < 4; ++i) {
+        tile.colour[i] = static_cast<std::uint16_t>(std::clamp(straight[i], 0.0f, 1.0f) * 65535 + 0.5f);
+    }
+    tile.box = {0,           0,           map.alongX,    map.alongY,
+                map.acrossX, map.acrossY, map.halfWidth, map.halfHeight,
+                map.foot,    map.top,     map.height,    map.slope};
+    const TipTable* tables[] = {plan.levels.first, plan.levels.second};
+    for (std::size_t i = 0; i < static_cast<std::size_t>(tile.levelCount); ++i) {
+        TileLevel& level = tile.levels[i];
+        const TipTable& table = *tables[i];
+        level.pairs = table.pairs.data();
+        level.stride = table.stride();
+        level.lastU = (table.size.width - 1) << 16;
+        level.lastV = (table.size.height - 1) << 16;
+        const double u = table.size.width / (2.0 * map.halfWidth),
+                     v = table.size.height / (2.0 * map.halfHeight);
+        level.rightU = fixedPoint(u * map.alongX);
+        level.downU = fixedPoint(u * map.alongY);
+        level.rightV = fixedPoint(v * map.acrossX);
+        level.downV = fixedPoint(v * map.acrossY);
+    }
+    if (style.multicolour) {
+        plan.multicolour.emplace(mirrored, style);
+        const int second = plan.levels.level + (plan.levels.second != nullptr ? 1 : 0);
+        tile.colours = {&tip.colour(plan.levels.level), &tip.colour(second)};
+        tile.part = plan.levels.part;
+    }
+    return plan;
+}
+
+TileDab inTile(const PlannedDab& plan, int x, int y) {
+    TileDab tile = plan.tile;
+    const double right = x + 0.5 - plan.dab.x, down = y + 0.5 - plan.dab.y;
+    const double along = plan.map.alongX * right + plan.map.alongY * down;
+    const double across = plan.map.acrossX * right + plan.map.acrossY * down;
+    tile.box.along = static_cast<float>(along);
+    tile.box.across = static_cast<float>(across);
+    const TipTable* tables[] = {plan.levels.first, plan.levels.second};
+    for (std::size_t i = 0; i < static_cast<std::size_t>(tile.levelCount); ++i) {
+        const Size& size = tables[i]->size;
+        tile.levels[i].u = fixedPoint((0.5 + 0.5 * along / plan.map.halfWidth) * size.width - 0.5);
+        tile.levels[i].v = fixedPoint((0.5 + 0.5 * across / plan.map.halfHeight) * size.height - 0.5);
+    }
+    tile.noise = noiseAt(x, y, plan.number);
+    tile.multicolour = plan.multicolour ? &*plan.multicolour : nullptr;
+    return tile;
+}
+
+bool spansInTile(const PlannedDab& plan, const Rect& tile, TileSpans& spans) {
+    const DabMap& map = plan.map;
+    const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
+    constexpr double kSlack = 1e-3;  // pixels, for what rounding does to the box's rim
+    const Rect part = tile.intersected(plan.touched);
+    bool any = false;
+    for (int y = part.y; y < part.bottom(); ++y) {
+        const double down = y + 0.5 - plan.dab.y;
+        const double along = map.alongY * down, across = map.acrossY * down;
+        Interval whole = strip(map.alongX, along, wide + kSlack);
+        whole.cut(strip(map.acrossX, across, tall + kSlack));
+        if (plan.reachSquared < 2) {
+            // along^2 / wide^2 + across^2 / tall^2 <= reach^2, as a x^2 + 2 b x + c <= 0.
+            const double w = 1 / (wide * wide), t = 1 / (tall * tall);
+            const double a = map.alongX * map.alongX * w + map.acrossX * map.acrossX * t;
+            const double b = map.alongX * along * w + map.acrossX * across * t;
+            const double c = along * along * w + across * across * t - plan.reachSquared;
+            const double root = std::sqrt(std::max(b * b - a * c, 0.0));
+            whole.cut({(-b - root) / a - kSlack, (-b + root) / a + kSlack});
+        }
+        Interval inner = strip(map.alongX, along, map.halfWidth - map.foot - kSlack);
+        inner.cut(strip(map.acrossX, across, map.halfHeight - map.foot - kSlack));
+        const auto cell = [&](double place) {
+            return std::clamp(std::ceil(plan.dab.x + place - 0.5), double(part.x), double(part.right())) -
+                   tile.x;
+        };
+        Span& span = spans[static_cast<std::size_t>(y - tile.y)];
+        span.first = static_cast<std::uint8_t>(cell(whole.from));
+        span.end = std::max(span.first, static_cast<std::uint8_t>(cell(whole.to)));
+        span.innerFirst = std::max(span.first, static_cast<std::uint8_t>(cell(inner.from)));
+        span.innerEnd =
+            std::max(span.innerFirst, std::min(span.end, static_cast<std::uint8_t>(cell(inner.to))));
+        any = any || span.end > span.first;
+    }
+    return any;
+}
+
+}  // namespace dabcanvas
