@@ -9,7 +9,7 @@
 
 #include "Canvas/CanvasLog.h"
 #include "GLSurface/MakeGLSurface.h"
-#include "Processor/ProcessorSurface.h"
+#include "Processor/MakeProcessorSurface.h"
 #include "Surface/SurfaceLog.h"
 
 namespace dabcanvas {
@@ -74,7 +74,7 @@ std::unique_ptr<PaintSurface> makeSurface(const QSizeF& size, SurfaceKind kind) 
     const auto side = [](double length) {
         return std::isnan(length) ? 0 : static_cast<int>(std::clamp(length, -1.0, 1e6));
     };
-    return ProcessorSurface::make({side(size.width()), side(size.height())});
+    return makeProcessorSurface({side(size.width()), side(size.height())});
 }
 
 }  // namespace dabcanvas

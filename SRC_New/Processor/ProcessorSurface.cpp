@@ -8,6 +8,7 @@
 #include <string>
 
 #include "Processor/BlendRows.h"
+#include "Processor/MakeProcessorSurface.h"
 #include "Processor/PlaceRows.h"
 #include "Surface/BlendType.h"
 #include "Surface/SurfaceLog.h"
@@ -72,24 +73,23 @@ bool withMemory(const char* what, Work&& work) {
 
 // ---- Making
 
-std::unique_ptr<ProcessorSurface> ProcessorSurface::make(const Size& size) {
-    const auto isSide = [](int side) { return side >= 1 && side <= kMostSide; };
-    if (!isSide(size.width) || !isSide(size.height)) {
+std::unique_ptr<PaintSurface> makeProcessorSurface(const Size& size) {
+    constexpr int kMost = ProcessorSurface::kMostSide;
+    const auto isSide = [](int side) { return side >= 1 && side <= kMost; };
+    std::unique_ptr<PaintSurface> surface;
+    if (isSide(size.width) && isSide(size.height)) {
+        withMemory("make a surface", [&] { surface = std::make_unique<ProcessorSurface>(size); });
+    } else {
         logSurfaceProblem(("a surface of " + std::to_string(size.width) + " x " +
                            std::to_string(size.height) + " pixels cannot be made: sides are from 1 to " +
-                           std::to_string(kMostSide))
+                           std::to_string(kMost))
                               .c_str());
-        return nullptr;
     }
-    std::unique_ptr<ProcessorSurface> surface;
-    withMemory("make a surface", [&] { surface.reset(new ProcessorSurface(size)); });
     return surface;
 }
 
 ProcessorSurface::ProcessorSurface(const Size& size)
     : PaintSurface(size), _picture(size), _background(size), _line(size), _subLine(size), _smudges(size) {}
-
-ProcessorSurface::~ProcessorSurface() = default;
 
 std::string ProcessorSurface::name() {
     return std::string("processor (") + vectorsInUse() + ")";

@@ -10,7 +10,6 @@
 #include <memory>
 #include <vector>
 
-#include "Maths/Export.h"
 #include "Processor/DabPainter.h"
 #include "Processor/SmudgePainter.h"
 #include "Processor/Tiles.h"
@@ -18,14 +17,13 @@
 
 namespace dabcanvas {
 
-class DABCANVAS_PROCESSOR_API ProcessorSurface final : public PaintSurface {
+class ProcessorSurface final : public PaintSurface {
 public:
     // Sides beyond this are refused, as larger ones would be by every driver.
     static constexpr int kMostSide = 32768;
 
-    // Transparent. Null, after one log line, when a side is not from 1 to kMostSide or there is no memory.
-    static std::unique_ptr<ProcessorSurface> make(const Size& size);
-    ~ProcessorSurface() override;
+    // From 1 to kMostSide; transparent. Throws std::bad_alloc.
+    explicit ProcessorSurface(const Size& size);
 
     std::string name() override;
     void trim() override;
@@ -46,7 +44,6 @@ public:
     bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
 
 private:
-    explicit ProcessorSurface(const Size& size);
     TileGrid<std::uint16_t>& layerOf(PaintLayer layer) {
         return layer == PaintLayer::subLine ? _subLine : _line;
     }

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "GLSurface/MakeGLSurface.h"
-#include "Processor/ProcessorSurface.h"
+#include "Processor/MakeProcessorSurface.h"
 #include "Surface/BlendType.h"
 
 using namespace dabcanvas;
@@ -31,8 +31,7 @@ struct Kind {
 };
 const Kind kKinds[] = {
     {"Gpu", [](const Size& size) { return makeGLSurface(QSizeF(size.width, size.height)); }},
-    {"Processor",
-     [](const Size& size) -> std::unique_ptr<PaintSurface> { return ProcessorSurface::make(size); }}};
+    {"Processor", [](const Size& size) { return makeProcessorSurface(size); }}};
 
 class SurfaceTest : public testing::TestWithParam<Kind> {
 protected:
@@ -88,7 +87,7 @@ protected:
     DabStyle style{.tips = tipOf([](double) { return std::uint8_t{255}; }), .paper = {}};
 };
 INSTANTIATE_TEST_SUITE_P(Each, SurfaceTest, testing::ValuesIn(kKinds),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& kind) { return std::string(kind.param.name); });
 
 // ---- Rows
 
@@ -308,7 +307,7 @@ TEST_P(SurfaceTest, PicturesArePlacedWhereTheyBelong) {
         {20, 40, 60, 40, 0, 55, 21, red},           {20, 40, 60, 40, 0, 65, 59, blue},
         {20, 40, 60, 40, 0, 49, 40, green},         {20, 40, 60, 40, 0, 60, 60, green},
         {20, 40, 60, 40, quarter, 41, 45, red},     {20, 40, 60, 40, quarter, 79, 35, blue},
-        {20, 40, 60, 40, 2 * quarter, 60, 59, red}, {20, 40, 60.5, 40, 0, 50, 30, {128, 128, 0, 255}}};
+        {20, 40, 60, 40, 2 * quarter, 60, 59, red}, {20, 40, 60.5, 40, 0, 50, 22, {128, 128, 0, 255}}};
     for (const auto& row : rows) {
         surface->fill(kPicture, {0, 1, 0, 1});
         surface->commit(kPicture, Rect::of(kSize));
