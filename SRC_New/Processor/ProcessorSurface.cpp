@@ -89,7 +89,12 @@ std::unique_ptr<PaintSurface> makeProcessorSurface(const Size& size) {
 }
 
 ProcessorSurface::ProcessorSurface(const Size& size)
-    : PaintSurface(size), _picture(size), _background(size), _line(size), _subLine(size), _smudges(size) {}
+    : PaintSurface(size),
+      _picture(size),
+      _background(size),
+      _line{Layer16(size), {}},
+      _subLine{Layer16(size), {}},
+      _smudges(size) {}
 
 std::string ProcessorSurface::name() {
     return std::string("processor (") + vectorsInUse() + ")";
@@ -105,60 +110,62 @@ void ProcessorSurface::noteChanged(PictureId picture, const Rect& rect) {
 
 // ---- Layers
 
+Rect ProcessorSurface::drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style) {
+    const Rect touched = _painter.draw(layer.grid, dabs, style, layer.dabs);
+    layer.dabs += dabs.size();
+    layer.holds = layer.holds.united(touched);
+    return touched;
+}
+
 Rect ProcessorSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
     Rect touched;
-    withMemory("draw", [&] { touched = _painter.draw(layerOf(layer), dabs, style, _dabs); });
-    _dabs += dabs.size();
-    Rect& holds = layer == PaintLayer::subLine ? _subLineHolds : _lineHolds;
-    holds = holds.united(touched);
+    withMemory("draw", [&] { touched = drawInto(layerOf(layer), dabs, style); });
     return touched;
 }
 
 // Drawn by themselves and then put over the picture, which comes to the same.
 Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
-    Rect touched;
+    Layer own{Layer16(size()), {}};
     withMemory("draw", [&] {
-        Layer16 layer(size());
-        touched = _painter.draw(layer, dabs, style, _dabs);
-        _picture.forEachIn(touched, [&](std::size_t index, const Rect& part) {
-            if (const auto* from = layer.tile(index)) {
+        drawInto(own, dabs, style);
+        _picture.forEachIn(own.holds, [&](std::size_t index, const Rect& part) {
+            if (const auto* from = own.grid.tile(index)) {
                 auto& tile = _picture.writable(index);
                 for (int y = part.y; y < part.bottom(); ++y) {
-                    std::uint8_t* row = tile.at(part.x % kTileSide, y % kTileSide);
+                    std::uint8_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
                     blendRow(ESBlendTypeNormal, {row, row, from->at(part.x % kTileSide, y % kTileSide),
                                                  nullptr, part.width, 1, noiseAt(part.x, y, _commits)});
                 }
             }
         });
     });
-    _dabs += dabs.size();
     ++_commits;
-    noteChanged(picture, touched);
-    return touched;
+    noteChanged(picture, own.holds);
+    return own.holds;
 }
 
-void ProcessorSurface::clear(PaintLayer layer, const Rect& rect) {
-    if (layer == PaintLayer::smudge) {
+void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
+    if (which == PaintLayer::smudge) {
         return _smudges.forget();
     }
-    Layer16& grid = layerOf(layer);
-    Rect& holds = layer == PaintLayer::subLine ? _subLineHolds : _lineHolds;
-    const bool all = rect.contains(holds);
-    grid.forEachIn(rect.intersected(holds), [&](std::size_t index, const Rect& part) {
-        if (grid.tile(index) == nullptr) {
+    Layer& layer = layerOf(which);
+    const bool all = rect.contains(layer.holds);
+    layer.grid.forEachIn(rect.intersected(layer.holds), [&](std::size_t index, const Rect& part) {
+        if (layer.grid.tile(index) == nullptr) {
             return;
         }
-        if (all || part == grid.rectOf(index)) {
-            return grid.drop(index);
+        if (all || part == layer.grid.rectOf(index)) {
+            return layer.grid.drop(index);
         }
-        auto& tile = grid.writable(index);
+        auto& tile = layer.grid.writable(index);
         for (int y = part.y; y < part.bottom(); ++y) {
             std::fill_n(tile.at(part.x % kTileSide, y % kTileSide), static_cast<std::size_t>(part.width) * 4,
                         std::uint16_t{0});
         }
     });
     if (all) {
-        holds = {};
+        layer.holds = {};
+        layer.dabs = 0;
     }
 }
 
@@ -172,20 +179,18 @@ Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& s
     Rect touched;
     withMemory("smudge", [&] {
         std::vector<Dab> coverage;
-        touched = _smudges.smudge(dabs, style, load, _dabs, coverage);
+        touched = _smudges.smudge(dabs, style, load, _line.dabs, coverage);
         // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
-        const DabStyle plain{.tips = style.tips, .paper = {}};
-        _lineHolds = _lineHolds.united(_painter.draw(_line, coverage, plain, _dabs));
+        drawInto(_line, coverage, {.tips = style.tips, .paper = {}});
     });
-    _dabs += dabs.size();
     return touched;
 }
 
 // ---- Pictures
 
 void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style) {
-    const auto* line = _line.tile(index);
-    const auto* mask = style.masked ? _subLine.tile(index) : nullptr;
+    const auto* line = _line.grid.tile(index);
+    const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     if (style.smudged) {
         if (line != nullptr) {
             const PixelView background = viewOf(_background.tile(index), part);
@@ -241,6 +246,7 @@ void ProcessorSurface::fill(PictureId picture, const PaintColor& color) {
     withMemory("fill a picture", [&] {
         _picture.fill({byteOf(color.red), byteOf(color.green), byteOf(color.blue), byteOf(color.alpha)});
     });
+    _commits = 0;
     noteChanged(picture, Rect::of(size()));
 }
 

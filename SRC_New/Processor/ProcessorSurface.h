@@ -44,19 +44,24 @@ public:
     bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
 
 private:
-    TileGrid<std::uint16_t>& layerOf(PaintLayer layer) {
-        return layer == PaintLayer::subLine ? _subLine : _line;
-    }
+    // Rounding goes by numbers that begin anew with each stroke and each picture, so that both paint the same bytes
+    // whatever was painted before.
+    struct Layer {
+        TileGrid<std::uint16_t> grid;
+        Rect holds;              // where dabs may be
+        std::uint64_t dabs = 0;  // drawn since it was empty
+    };
+
+    Layer& layerOf(PaintLayer layer) { return layer == PaintLayer::subLine ? _subLine : _line; }
+    Rect drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style);
     void compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style);
     void noteChanged(PictureId picture, const Rect& rect);
 
     TileGrid<std::uint8_t> _picture, _background;
-    TileGrid<std::uint16_t> _line, _subLine;
-    Rect _lineHolds, _subLineHolds;  // where dabs may be
+    Layer _line, _subLine;
     SmudgePainter _smudges;
     DabPainter _painter;
-    std::uint64_t _dabs = 0;     // drawn so far
-    std::uint32_t _commits = 0;  // so far; composites of one stroke round alike
+    std::uint32_t _commits = 0;  // since the picture was filled; composites of one stroke round alike
 };
 
 }  // namespace dabcanvas
