@@ -36,17 +36,24 @@ PixelView viewOf(const Tile<std::uint8_t>* tile, const Rect& part) {
             kTileSide * 4};
 }
 
-// `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing.
-void copyTiles(const Picture8& from, Picture8& to, const Rect& rect) {
+// `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing. Calls changed(index) for each tile that
+// was another.
+template <typename Changed>
+void copyTiles(const Picture8& from, Picture8& to, const Rect& rect, Changed&& changed) {
     to.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         if (to.sharesWith(from, index)) {
             return;
         }
+        changed(index);
         if (part == to.rectOf(index)) {
             return to.share(from, index);
         }
         copyRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
     });
+}
+
+void copyTiles(const Picture8& from, Picture8& to, const Rect& rect) {
+    copyTiles(from, to, rect, [](std::size_t) {});
 }
 
 bool isPart(const Rect& rect, const Size& rows, const Size& whole) {
@@ -94,14 +101,17 @@ ProcessorSurface::ProcessorSurface(const Size& size)
       _background(size),
       _line{Layer16(size), {}},
       _subLine{Layer16(size), {}},
-      _smudges(size) {}
+      _smudges(size),
+      _commits(_picture.count()) {}
 
 std::string ProcessorSurface::name() {
     return std::string("processor (") + vectorsInUse() + ")";
 }
 
 void ProcessorSurface::trim() {
-    _smudges.forget();
+    if (_line.holds.isEmpty()) {
+        _smudges.forget();
+    }
 }
 
 void ProcessorSurface::noteChanged(PictureId picture, const Rect& rect) {
@@ -133,13 +143,14 @@ Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const 
                 auto& tile = _picture.writable(index);
                 for (int y = part.y; y < part.bottom(); ++y) {
                     std::uint8_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
-                    blendRow(ESBlendTypeNormal, {row, row, from->at(part.x % kTileSide, y % kTileSide),
-                                                 nullptr, part.width, 1, noiseAt(part.x, y, _commits)});
+                    blendRow(ESBlendTypeNormal,
+                             {row, row, from->at(part.x % kTileSide, y % kTileSide), nullptr, part.width, 1,
+                              noiseAt(part.x, y, _commits[index])});
                 }
+                ++_commits[index];
             }
         });
     });
-    ++_commits;
     noteChanged(picture, own.holds);
     return own.holds;
 }
@@ -195,7 +206,7 @@ void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const 
         if (line != nullptr) {
             const PixelView background = viewOf(_background.tile(index), part);
             _smudges.composite(viewOf(_picture.writable(index), part), background, *line, part, style.opacity,
-                               _commits);
+                               _commits[index]);
         }
         return;
     }
@@ -217,7 +228,7 @@ void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const 
                   .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, inTile) : nullptr,
                   .count = part.width,
                   .opacity = style.opacity,
-                  .noise = noiseAt(part.x, y, _commits)});
+                  .noise = noiseAt(part.x, y, _commits[index])});
     }
 }
 
@@ -238,15 +249,16 @@ void ProcessorSurface::revert(PictureId picture, const Rect& rect) {
 }
 
 void ProcessorSurface::commit(PictureId, const Rect& rect) {
-    withMemory("keep a stroke", [&] { copyTiles(_picture, _background, rect); });
-    ++_commits;
+    withMemory("keep a stroke", [&] {
+        copyTiles(_picture, _background, rect, [this](std::size_t index) { ++_commits[index]; });
+    });
 }
 
 void ProcessorSurface::fill(PictureId picture, const PaintColor& color) {
     withMemory("fill a picture", [&] {
         _picture.fill({byteOf(color.red), byteOf(color.green), byteOf(color.blue), byteOf(color.alpha)});
     });
-    _commits = 0;
+    std::fill(_commits.begin(), _commits.end(), std::uint8_t{0});
     noteChanged(picture, Rect::of(size()));
 }
 
@@ -289,6 +301,11 @@ bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelVie
         });
         Picture8 background = _background;
         copyTiles(written, background, rect);
+        written.forEachIn(rect, [&](std::size_t index, const Rect& part) {
+            if (part == written.rectOf(index)) {
+                _commits[index] = 0;
+            }
+        });
         _picture = std::move(written);
         _background = std::move(background);
         noteChanged(picture, rect);

@@ -44,8 +44,8 @@ public:
     bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
 
 private:
-    // Rounding goes by numbers that begin anew with each stroke and each picture, so that both paint the same bytes
-    // whatever was painted before.
+    // Rounding goes by numbers that begin anew with each stroke, and with each picture for each tile: a stroke paints the
+    // same bytes whatever was painted elsewhere or taken back.
     struct Layer {
         TileGrid<std::uint16_t> grid;
         Rect holds;              // where dabs may be
@@ -61,7 +61,7 @@ private:
     Layer _line, _subLine;
     SmudgePainter _smudges;
     DabPainter _painter;
-    std::uint32_t _commits = 0;  // since the picture was filled; composites of one stroke round alike
+    std::vector<std::uint8_t> _commits;  // of each tile; composites of one stroke round alike
 };
 
 }  // namespace dabcanvas
