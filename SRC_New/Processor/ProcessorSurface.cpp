@@ -6,6 +6,7 @@
 #include <cstring>
 #include <new>
 #include <string>
+#include <utility>
 
 #include "Processor/BlendRows.h"
 #include "Processor/MakeProcessorSurface.h"
@@ -102,7 +103,7 @@ ProcessorSurface::ProcessorSurface(const Size& size)
       _line{Layer16(size), {}},
       _subLine{Layer16(size), {}},
       _smudges(size),
-      _commits(_picture.count()) {}
+      _kept(_picture.count()) {}
 
 std::string ProcessorSurface::name() {
     return std::string("processor (") + vectorsInUse() + ")";
@@ -145,9 +146,9 @@ Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const 
                     std::uint8_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
                     blendRow(ESBlendTypeNormal,
                              {row, row, from->at(part.x % kTileSide, y % kTileSide), nullptr, part.width, 1,
-                              noiseAt(part.x, y, _commits[index])});
+                              noiseAt(part.x, y, _kept[index].times)});
                 }
-                ++_commits[index];
+                ++_kept[index].times;
             }
         });
     });
@@ -200,13 +201,14 @@ Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& s
 // ---- Pictures
 
 void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style) {
+    _kept[index].isBlended = true;
     const auto* line = _line.grid.tile(index);
     const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     if (style.smudged) {
         if (line != nullptr) {
             const PixelView background = viewOf(_background.tile(index), part);
             _smudges.composite(viewOf(_picture.writable(index), part), background, *line, part, style.opacity,
-                               _commits[index]);
+                               _kept[index].times);
         }
         return;
     }
@@ -228,7 +230,7 @@ void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const 
                   .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, inTile) : nullptr,
                   .count = part.width,
                   .opacity = style.opacity,
-                  .noise = noiseAt(part.x, y, _commits[index])});
+                  .noise = noiseAt(part.x, y, _kept[index].times)});
     }
 }
 
@@ -250,7 +252,9 @@ void ProcessorSurface::revert(PictureId picture, const Rect& rect) {
 
 void ProcessorSurface::commit(PictureId, const Rect& rect) {
     withMemory("keep a stroke", [&] {
-        copyTiles(_picture, _background, rect, [this](std::size_t index) { ++_commits[index]; });
+        copyTiles(_picture, _background, rect, [this](std::size_t index) {
+            _kept[index].times += std::exchange(_kept[index].isBlended, false) ? 1 : 0;
+        });
     });
 }
 
@@ -258,7 +262,7 @@ void ProcessorSurface::fill(PictureId picture, const PaintColor& color) {
     withMemory("fill a picture", [&] {
         _picture.fill({byteOf(color.red), byteOf(color.green), byteOf(color.blue), byteOf(color.alpha)});
     });
-    std::fill(_commits.begin(), _commits.end(), std::uint8_t{0});
+    std::fill(_kept.begin(), _kept.end(), Kept{});
     noteChanged(picture, Rect::of(size()));
 }
 
@@ -303,7 +307,7 @@ bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelVie
         copyTiles(written, background, rect);
         written.forEachIn(rect, [&](std::size_t index, const Rect& part) {
             if (part == written.rectOf(index)) {
-                _commits[index] = 0;
+                _kept[index] = {};
             }
         });
         _picture = std::move(written);

@@ -61,7 +61,12 @@ private:
     Layer _line, _subLine;
     SmudgePainter _smudges;
     DabPainter _painter;
-    std::vector<std::uint8_t> _commits;  // of each tile; composites of one stroke round alike
+    // Of each tile: how often something blended onto it was kept. Composites of one stroke round alike.
+    struct Kept {
+        std::uint8_t times = 0;
+        bool isBlended = false;  // since the last time
+    };
+    std::vector<Kept> _kept;
 };
 
 }  // namespace dabcanvas
