@@ -42,8 +42,8 @@ QByteArray bytesOf(QDDrawCanvas& canvas, const QRectF& rect) {
 
 class CanvasImageTest : public CanvasTest {
 protected:
-    std::unique_ptr<QDDrawCanvas> tintedCanvas() {
-        auto canvas = makeCanvas();
+    std::unique_ptr<QDDrawCanvas> tintedCanvas(SurfaceKind surface = SurfaceKind::automatic) {
+        auto canvas = makeCanvas(200, 150, surface);
         canvas->clearWithColor(ESColor::rgba(0.2f, 0.4f, 0.6f, 0.8f), false);
         return canvas;
     }
@@ -450,7 +450,7 @@ TEST_F(CanvasImageTest, WithoutTheDriversMemoryNothingIsPlacedOrUndone) {
                                    Placing{"no mip levels", Fault::noLevelMemory, {20, 20, 60, 50}},
                                    Placing{"no copy", Fault::noUploadMemory, {0, 0, 300, 260}}}) {
         SCOPED_TRACE(placing.name);
-        auto canvas = tintedCanvas();
+        auto canvas = tintedCanvas(SurfaceKind::gpu);
         canvas->resetUndoManager();
         canvas->setAutoMark(true);
         const QImage before = canvas->image();

@@ -23,7 +23,7 @@ TEST_F(CanvasLayersTest, AStrokeWithoutMemoryForItsLayerIsRefused) {
     };
     for (const auto [brush, masked, trimmed] : {Case{0, false, true}, {0, true, false}, {3, false, true}}) {
         SCOPED_TRACE(::testing::Message() << "brush " << brush << (masked ? ", masked" : ""));
-        auto canvas = makeCanvas();
+        auto canvas = makeCanvas(200, 150, SurfaceKind::gpu);
         paintWave(*canvas, 40);
         canvas->setBrushType(brush);
         canvas->setRepeatedlyRenderEnabled(masked);
@@ -161,7 +161,7 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
 }
 // A premultiplied channel above its alpha is no colour, and shows as a bright speck.
 TEST_P(CanvasBlendTest, NoChannelIsEverAboveItsAlpha) {
-    auto canvas = makeCanvas();
+    auto canvas = makeCanvas(200, 150, SurfaceKind::gpu);
     canvas->setRepeatedlyRenderEnabled(true);
     canvas->setFlow(0.3f);
     canvas->setHueTingle(0.8f);

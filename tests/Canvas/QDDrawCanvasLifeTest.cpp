@@ -283,7 +283,7 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
           Finder{"an image set", place, false, true}, Finder{"an image drawn", draw, false, true},
           Finder{"reading", read, false, true}, Finder{"showing", show, true, false}}) {
         SCOPED_TRACE(finder.name);
-        auto canvas = makeCanvas(80, 60);
+        auto canvas = makeCanvas(80, 60, SurfaceKind::gpu);
         Hearer hearer;
         std::vector<std::string> told;
         hearer.hear = [&](const char* what, QPointF&) { told.emplace_back(what); };

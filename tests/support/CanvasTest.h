@@ -16,8 +16,10 @@
 class CanvasTest : public ::testing::Test {
 protected:
     // Without OpenGL nothing of a canvas can be tested: the program fails at once.
-    static std::unique_ptr<QDDrawCanvas> makeCanvas(int width = 200, int height = 150) {
-        auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height));
+    using SurfaceKind = dabcanvas::SurfaceKind;
+    static std::unique_ptr<QDDrawCanvas> makeCanvas(int width = 200, int height = 150,
+                                                    SurfaceKind surface = SurfaceKind::automatic) {
+        auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height), surface);
         if (!canvas) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";
             std::abort();
