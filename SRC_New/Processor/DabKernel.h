@@ -76,5 +76,7 @@ using TileSpans = std::array<Span, kTileSide>;
 
 // Rows firstRow to endRow of the tile's values. Returns whether any pixel was covered.
 bool drawRows(const TileDab& dab, const TileSpans& spans, int firstRow, int endRow, std::uint16_t* tile);
+bool drawRowsInMulticolour(const TileDab& dab, const TileSpans& spans, int firstRow, int endRow,
+                           std::uint16_t* tile);
 
 }  // namespace dabcanvas

@@ -157,7 +157,8 @@ void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs
         TileDab dab = inTile(plan, rect.x, rect.y);
         dab.paper = through ? through->data() : nullptr;
         const Rect part = rect.intersected(plan.touched);
-        any |= drawRows(dab, spans, part.y - rect.y, part.bottom() - rect.y, values);
+        any |= (dab.multicolour != nullptr ? drawRowsInMulticolour : drawRows)(
+            dab, spans, part.y - rect.y, part.bottom() - rect.y, values);
     }
     if (!isThere && any) {
         layer.writable(tile.tile) = *made;
