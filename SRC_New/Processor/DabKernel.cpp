@@ -3,6 +3,7 @@
 #include "Processor/DabKernel.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 #undef HWY_TARGET_INCLUDE
@@ -37,7 +38,7 @@ HWY_INLINE Word words(Int value) {
 
 // Each lane's two words times the other's, summed up; the words of one side are not all -32768.
 HWY_INLINE Int pairProducts(Int one, Int other) {
-#if HWY_TARGET <= HWY_AVX3
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
     return Int{_mm512_madd_epi16(one.raw, other.raw)};
 #elif HWY_TARGET == HWY_AVX2
     return Int{_mm256_madd_epi16(one.raw, other.raw)};
@@ -52,7 +53,7 @@ HWY_INLINE Int pairProducts(Int one, Int other) {
 
 // Each word's two bytes times the other's, summed up; those of the other are below 128.
 HWY_INLINE Int bytePairProducts(Int bytes, Int other) {
-#if HWY_TARGET <= HWY_AVX3
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
     return Int{_mm512_maddubs_epi16(bytes.raw, other.raw)};
 #elif HWY_TARGET == HWY_AVX2
     return Int{_mm256_maddubs_epi16(bytes.raw, other.raw)};
@@ -67,10 +68,40 @@ HWY_INLINE Int bytePairProducts(Int bytes, Int other) {
 #endif
 }
 
-// 32 bits from each of these bytes on.
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_SSE4
+HWY_INLINE __m128i fourBlocksAt(const std::uint8_t* bytes, __m128i offsets) {
+    const auto at = [&](std::uint64_t offset) HWY_ATTR {
+        std::int32_t block;
+        std::memcpy(&block, bytes + (offset & 0xffffffffu), sizeof(block));
+        return block;
+    };
+    const auto near = static_cast<std::uint64_t>(_mm_cvtsi128_si64(offsets));
+    const auto far = static_cast<std::uint64_t>(_mm_extract_epi64(offsets, 1));
+    __m128i blocks = _mm_cvtsi32_si128(at(near));
+    blocks = _mm_insert_epi32(blocks, at(near >> 32), 1);
+    blocks = _mm_insert_epi32(blocks, at(far), 2);
+    return _mm_insert_epi32(blocks, at(far >> 32), 3);
+}
+#endif
+
+// 32 bits from each of these bytes on. On processors whose own gathering is slow by design or by a mended fault, one by
+// one takes half the time; on others it takes no longer.
 HWY_INLINE Int blocksAt(const std::uint8_t* bytes, Int offsets) {
-#if HWY_TARGET <= HWY_AVX2
-    return hn::GatherOffset(kInts, reinterpret_cast<const std::int32_t*>(bytes), offsets);
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
+    const __m512i o = offsets.raw;
+    const __m256i low =
+        _mm256_inserti128_si256(_mm256_castsi128_si256(fourBlocksAt(bytes, _mm512_castsi512_si128(o))),
+                                fourBlocksAt(bytes, _mm512_extracti32x4_epi32(o, 1)), 1);
+    const __m256i high =
+        _mm256_inserti128_si256(_mm256_castsi128_si256(fourBlocksAt(bytes, _mm512_extracti32x4_epi32(o, 2))),
+                                fourBlocksAt(bytes, _mm512_extracti32x4_epi32(o, 3)), 1);
+    return Int{_mm512_inserti64x4(_mm512_castsi256_si512(low), high, 1)};
+#elif HWY_ARCH_X86 && HWY_TARGET == HWY_AVX2
+    return Int{_mm256_inserti128_si256(
+        _mm256_castsi128_si256(fourBlocksAt(bytes, _mm256_castsi256_si128(offsets.raw))),
+        fourBlocksAt(bytes, _mm256_extracti128_si256(offsets.raw, 1)), 1)};
+#elif HWY_ARCH_X86 && HWY_TARGET == HWY_SSE4
+    return Int{fourBlocksAt(bytes, offsets.raw)};
 #else
     HWY_ALIGN std::int32_t each[hn::MaxLanes(kInts)];
     hn::Store(offsets, kInts, each);
@@ -168,6 +199,97 @@ struct BoxRow {
     }
 };
 
+// Pixels of each row that the dab may touch, and those among them that its box covers whole.
+struct Span {
+    int first, end, innerFirst, innerEnd;
+};
+
+class Spans {
+public:
+    HWY_INLINE Spans(const TileBox& box, int width)
+        : _box(&box), _width(hn::Set(kFloats, static_cast<float>(width))) {}
+
+    HWY_INLINE Span at(int y) const {
+        const auto i = static_cast<std::size_t>(y - _y);
+        return {_first[i], _end[i], _innerFirst[i], _innerEnd[i]};
+    }
+    // Works out as many rows as there are lanes. A little more is taken than there is, and less of what is whole.
+    HWY_INLINE void prepare(int y) {
+        const TileBox& box = *_box;
+        _y = y;
+        const Float down = hn::ConvertTo(kFloats, hn::Add(hn::Iota(kInts, 0), hn::Set(kInts, y)));
+        const auto atRow = [&](float start, float perRow) HWY_ATTR {
+            return hn::Add(hn::Set(kFloats, start), hn::Mul(down, hn::Set(kFloats, perRow)));
+        };
+        const Float along = atRow(box.along, box.alongY), across = atRow(box.across, box.acrossY);
+        Interval whole = strip(box.alongX, along, box.halfWidth + box.foot + kSlack);
+        whole.cut(strip(box.acrossX, across, box.halfHeight + box.foot + kSlack));
+        if (box.reachSquared < 2) {
+            whole.cut(round(along, across));
+        }
+        Interval inner = strip(box.alongX, along, box.halfWidth - box.foot - kSlack);
+        inner.cut(strip(box.acrossX, across, box.halfHeight - box.foot - kSlack));
+        store(whole.from, _first);
+        store(whole.to, _end);
+        store(inner.from, _innerFirst);
+        store(inner.to, _innerEnd);
+    }
+
+private:
+    static constexpr float kSlack = 1e-3f;  // pixels, for what rounding does
+
+    struct Interval {
+        Float from, to;
+
+        HWY_INLINE void cut(const Interval& other) {
+            from = hn::Max(from, other.from);
+            to = hn::Min(to, other.to);
+        }
+    };
+
+    // Where |perX * x + offset| is below `most`.
+    HWY_INLINE Interval strip(float perX, Float offset, float most) const {
+        constexpr float kParallel = 1e-6f, kFar = 1e9f;
+        const Float nearest = hn::Set(kFloats, most);
+        if (std::abs(perX) < kParallel) {
+            const auto meets = hn::Lt(hn::Abs(offset), nearest);
+            const Float far = hn::Set(kFloats, kFar);
+            return {hn::IfThenElse(meets, hn::Neg(far), far), hn::IfThenElse(meets, far, hn::Neg(far))};
+        }
+        const float perPixel = 1 / perX;
+        const Float middle = hn::Mul(offset, hn::Set(kFloats, -perPixel));
+        const Float half = hn::Set(kFloats, most * std::abs(perPixel));
+        return {hn::Sub(middle, half), hn::Add(middle, half)};
+    }
+    // along^2 / wide^2 + across^2 / tall^2 <= reach^2, as a x^2 + 2 b x + c <= 0.
+    HWY_INLINE Interval round(Float along, Float across) const {
+        const TileBox& box = *_box;
+        const float wide = 1 / (box.halfWidth + box.foot), tall = 1 / (box.halfHeight + box.foot);
+        const float rightWide = box.alongX * wide, rightTall = box.acrossX * tall;
+        const float a = rightWide * rightWide + rightTall * rightTall;
+        const Float e = hn::Mul(along, hn::Set(kFloats, wide)), f = hn::Mul(across, hn::Set(kFloats, tall));
+        const Float b =
+            hn::Add(hn::Mul(e, hn::Set(kFloats, rightWide)), hn::Mul(f, hn::Set(kFloats, rightTall)));
+        const Float c = hn::Sub(hn::Add(hn::Mul(e, e), hn::Mul(f, f)), hn::Set(kFloats, box.reachSquared));
+        const Float square = hn::Sub(hn::Mul(b, b), hn::Mul(c, hn::Set(kFloats, a)));
+        const Float perPixel = hn::Set(kFloats, 1 / a);
+        const Float middle = hn::Neg(hn::Mul(b, perPixel));
+        const Float slack = hn::Set(kFloats, kSlack + 1e-4f * (box.halfWidth + box.halfHeight));
+        const Float half = hn::Add(hn::Mul(hn::Sqrt(hn::Max(square, hn::Zero(kFloats))), perPixel), slack);
+        return {hn::Sub(middle, half), hn::Add(middle, half)};
+    }
+    HWY_INLINE void store(Float place, std::int32_t* to) const {
+        const Float inside = hn::Min(hn::Max(place, hn::Zero(kFloats)), _width);
+        hn::Store(hn::ConvertTo(kInts, hn::Ceil(inside)), kInts, to);
+    }
+
+    const TileBox* _box;
+    Float _width;
+    int _y = 0;
+    HWY_ALIGN std::int32_t _first[hn::MaxLanes(kInts)], _end[hn::MaxLanes(kInts)];
+    HWY_ALIGN std::int32_t _innerFirst[hn::MaxLanes(kInts)], _innerEnd[hn::MaxLanes(kInts)];
+};
+
 struct Cover {
     Int coverage, noise;
 };
@@ -261,61 +383,70 @@ HWY_INLINE void blend(std::uint16_t* pixels, Word colour, const Cover& cover) {
     blendHalf<2>(pixels + hn::Lanes(kWords), colour, weights, rounding);
 }
 
-template <int kLevels, bool kPaper>
-HWY_INLINE bool draw(const TileDab& dab, const TileSpans& spans, int firstRow, int endRow,
-                     std::uint16_t* tile) {
+// Calls each(int x, int y, const Cover&) for as many covered pixels from x on as there are lanes, row by row.
+template <int kLevels, bool kPaper, typename Each>
+HWY_INLINE bool forEachCover(const TileDab& dab, int firstRow, int endRow, int width, Each&& each) {
     const Rows<kLevels, kPaper> rows(dab);
-    std::uint64_t four;
-    std::memcpy(&four, dab.colour.data(), sizeof(four));
-    const Word colour = hn::Xor(hn::BitCast(kWords, hn::Set(hn::Repartition<std::uint64_t, Ints>(), four)),
-                                hn::Set(kWords, static_cast<std::int16_t>(-32768)));
+    Spans spans(dab.box, width);
     bool any = false;
     for (int y = firstRow; y < endRow; ++y) {
-        Span span = spans[static_cast<std::size_t>(y)];
+        if ((y - firstRow) % lanes() == 0) {
+            spans.prepare(y);
+        }
+        Span span = spans.at(y);
         while (span.first < span.end) {
-            const int x = std::min<int>(span.first, kTileSide - lanes());
+            const int x = std::min(span.first, kTileSide - lanes());
             const Cover cover = rows.coverAt(x, y, span);
             if (!hn::AllTrue(kInts, hn::Eq(cover.coverage, hn::Zero(kInts)))) {
-                blend(tile + (y * kTileSide + x) * 4, colour, cover);
+                each(x, y, cover);
                 any = true;
             }
-            span.first = static_cast<std::uint8_t>(x + lanes());
+            span.first = x + lanes();
         }
     }
     return any;
 }
 
 template <int kLevels, bool kPaper>
-HWY_INLINE void cover(const TileDab& dab, Span span, int y, std::uint16_t* row) {
-    const Rows<kLevels, kPaper> rows(dab);
+bool draw(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
+    std::uint64_t four;
+    std::memcpy(&four, dab.colour.data(), sizeof(four));
+    const Word colour = hn::Xor(hn::BitCast(kWords, hn::Set(hn::Repartition<std::uint64_t, Ints>(), four)),
+                                hn::Set(kWords, static_cast<std::int16_t>(-32768)));
+    return forEachCover<kLevels, kPaper>(dab, firstRow, endRow, width,
+                                         [&](int x, int y, const Cover& cover) HWY_ATTR {
+                                             blend(tile + (y * kTileSide + x) * 4, colour, cover);
+                                         });
+}
+
+// Each pixel in a colour of its own.
+template <int kLevels, bool kPaper>
+bool drawInMulticolour(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
     HWY_ALIGN std::int32_t coverage[hn::MaxLanes(kInts)], order[hn::MaxLanes(kInts)];
-    hn::Store(rows.order(), kInts, order);
-    while (span.first < span.end) {
-        const int x = std::min<int>(span.first, kTileSide - lanes());
-        hn::Store(rows.coverAt(x, y, span).coverage, kInts, coverage);
-        for (int i = 0; i < lanes(); ++i) {
-            if (const int at = x + order[i]; at >= span.first) {
-                row[at] = static_cast<std::uint16_t>(coverage[i]);
-            }
-        }
-        span.first = static_cast<std::uint8_t>(x + lanes());
-    }
+    hn::Store(pixelOrder(), kInts, order);
+    return forEachCover<kLevels, kPaper>(dab, firstRow, endRow, width,
+                                         [&](int x, int y, const Cover& cover) HWY_ATTR {
+                                             hn::Store(cover.coverage, kInts, coverage);
+                                             for (int i = 0; i < lanes(); ++i) {
+                                                 if (coverage[i] > 0) {
+                                                     blendOne(dab, x + order[i], y, coverage[i], tile);
+                                                 }
+                                             }
+                                         });
 }
 
 }  // namespace
 
-bool DrawRows(const TileDab& dab, const TileSpans& spans, int firstRow, int endRow, std::uint16_t* tile) {
-    const auto of = [&](auto&& one, auto&& two) { return dab.levelCount > 1 ? two : one; };
-    const auto chosen =
-        dab.paper != nullptr ? of(draw<1, true>, draw<2, true>) : of(draw<1, false>, draw<2, false>);
-    return chosen(dab, spans, firstRow, endRow, tile);
-}
-
-void CoverRow(const TileDab& dab, const Span& span, int y, std::uint16_t* row) {
-    const auto of = [&](auto&& one, auto&& two) { return dab.levelCount > 1 ? two : one; };
-    const auto chosen =
-        dab.paper != nullptr ? of(cover<1, true>, cover<2, true>) : of(cover<1, false>, cover<2, false>);
-    chosen(dab, span, y, row);
+bool DrawRows(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
+    const auto chosen = [&](auto one, auto two, auto onPaper, auto twoOnPaper) {
+        return dab.paper != nullptr ? (dab.levelCount > 1 ? twoOnPaper : onPaper)
+                                    : (dab.levelCount > 1 ? two : one);
+    };
+    const auto drawn = dab.multicolour != nullptr
+                           ? chosen(drawInMulticolour<1, false>, drawInMulticolour<2, false>,
+                                    drawInMulticolour<1, true>, drawInMulticolour<2, true>)
+                           : chosen(draw<1, false>, draw<2, false>, draw<1, true>, draw<2, true>);
+    return drawn(dab, firstRow, endRow, width, tile);
 }
 
 }  // namespace HWY_NAMESPACE
@@ -326,45 +457,9 @@ HWY_AFTER_NAMESPACE();
 namespace dabcanvas {
 
 HWY_EXPORT(DrawRows);
-HWY_EXPORT(CoverRow);
 
-bool drawRows(const TileDab& dab, const TileSpans& spans, int firstRow, int endRow, std::uint16_t* tile) {
-    return HWY_DYNAMIC_DISPATCH(DrawRows)(dab, spans, firstRow, endRow, tile);
-}
-
-bool drawRowsInMulticolour(const TileDab& dab, const TileSpans& spans, int firstRow, int endRow,
-                           std::uint16_t* tile) {
-    bool any = false;
-    std::array<std::uint16_t, kTileSide> coverages;
-    for (int y = firstRow; y < endRow; ++y) {
-        const Span& span = spans[static_cast<std::size_t>(y)];
-        HWY_DYNAMIC_DISPATCH(CoverRow)(dab, span, y, coverages.data());
-        for (int x = span.first; x < span.end; ++x) {
-            const int coverage = coverages[static_cast<std::size_t>(x)];
-            if (coverage == 0) {
-                continue;
-            }
-            const auto read = [&](std::size_t i) {
-                const TileLevel& level = dab.levels[i];
-                return Multicolour::Read{
-                    dab.colours[i],
-                    std::clamp(placeAt(level.u, level.rightU, level.downU, x, y), 0, level.lastU),
-                    std::clamp(placeAt(level.v, level.rightV, level.downV, x, y), 0, level.lastV)};
-            };
-            const std::array<std::uint16_t, 4> colour = dab.multicolour->at(read(0), read(1), dab.part);
-            const std::uint32_t noise = dab.noise + static_cast<std::uint32_t>(x) * kNoiseRight +
-                                        static_cast<std::uint32_t>(y) * kNoiseDown;
-            const int rounding = static_cast<int>(~noise & (kWhole - 1));
-            std::uint16_t* pixel = tile + (y * kTileSide + x) * 4;
-            for (std::size_t i = 0; i < 4; ++i) {
-                const int from = pixel[i] - 32768, to = colour[i] - 32768;
-                pixel[i] = static_cast<std::uint16_t>(
-                    ((from * (kWhole - coverage) + to * coverage + rounding) >> 15) + 32768);
-            }
-            any = true;
-        }
-    }
-    return any;
+bool drawRows(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
+    return HWY_DYNAMIC_DISPATCH(DrawRows)(dab, firstRow, endRow, width, tile);
 }
 
 }  // namespace dabcanvas
