@@ -38,6 +38,8 @@ struct TileBox {
     float along, across;
     float alongX, alongY, acrossX, acrossY;
     float halfWidth, halfHeight, foot, top, height, slope;
+    float
+        reachSquared;  // beyond which nothing lies, in the round, of the box with its foot; 2 and more: nowhere
 };
 
 struct TileDab {
@@ -51,11 +53,6 @@ struct TileDab {
     const Multicolour* multicolour;        // null: all in one colour
     std::array<const Pixels*, 2> colours;  // of the levels, for multicolour
     float part;                            // of the second one
-};
-
-// Pixels of a row that the dab may touch, and those among them that its box covers whole.
-struct Span {
-    std::uint8_t first, end, innerFirst, innerEnd;
 };
 
 // Noise of the pixel (x, y) for the dab of this number.
@@ -72,9 +69,10 @@ inline std::int32_t placeAt(std::int32_t start, std::int32_t right, std::int32_t
                                      static_cast<std::uint32_t>(down) * static_cast<std::uint32_t>(y));
 }
 
-using TileSpans = std::array<Span, kTileSide>;
+// One pixel of the tile in its own colour, as the loops do it.
+void blendOne(const TileDab& dab, int x, int y, int coverage, std::uint16_t* tile);
 
-// Rows firstRow to endRow of the tile's values. Returns whether any pixel was covered.
-bool drawRows(const TileDab& dab, const TileSpans& spans, int firstRow, int endRow, std::uint16_t* tile);
+// Draws the rows firstRow to endRow of a tile, and of each the first `width` pixels. Returns whether any was covered.
+bool drawRows(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile);
 
 }  // namespace dabcanvas

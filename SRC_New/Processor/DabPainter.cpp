@@ -148,16 +148,12 @@ void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs
         through = paperTiles->at(rect);
     }
     bool any = false;
-    TileSpans spans;
     for (std::ptrdiff_t i = tile.first; i >= 0; i = entries[static_cast<std::size_t>(i)].next) {
         const PlannedDab& plan = dabs[entries[static_cast<std::size_t>(i)].dab];
-        if (!spansInTile(plan, rect, spans)) {
-            continue;
-        }
         TileDab dab = inTile(plan, rect.x, rect.y);
         dab.paper = through ? through->data() : nullptr;
         const Rect part = rect.intersected(plan.touched);
-        any |= drawRows(dab, spans, part.y - rect.y, part.bottom() - rect.y, values);
+        any |= drawRows(dab, part.y - rect.y, part.bottom() - rect.y, rect.width, values);
     }
     if (!isThere && any) {
         layer.writable(tile.tile) = *made;

@@ -44,25 +44,6 @@ void setWeights(TileDab& tile, double flow, const TipTables::Pair& levels) {
     tile.levels[0].weight = sum - tile.levels[1].weight;
 }
 
-struct Interval {
-    double from, to;
-
-    void cut(const Interval& other) {
-        from = std::max(from, other.from);
-        to = std::min(to, other.to);
-    }
-};
-
-// Where |perX * x + offset| is below `most`.
-Interval strip(double perX, double offset, double most) {
-    constexpr double kParallel = 1e-9, kFar = 1e9;
-    if (std::fabs(perX) < kParallel) {
-        return std::fabs(offset) < most ? Interval{-kFar, kFar} : Interval{kFar, -kFar};
-    }
-    const double middle = -offset / perX, half = most / std::fabs(perX);
-    return {middle - half, middle + half};
-}
-
 }  // namespace
 
 std::optional<PlannedDab> planned(const Dab& dab, const DabStyle& style, TipTables& tip, const Size& layer,
@@ -79,19 +60,18 @@ std::optional<PlannedDab> planned(const Dab& dab, const DabStyle& style, TipTabl
     if (touched.isEmpty()) {
         return {};
     }
-    PlannedDab plan{mirrored, map, touched, tip.levels(map.level), {}, 0, number, {}};
+    PlannedDab plan{mirrored, map, touched, tip.levels(map.level), {}, number, {}};
     TileDab& tile = plan.tile;
     setWeights(tile, dab.flow, plan.levels);
     const float reach =
         std::max(plan.levels.first->reach, plan.levels.second != nullptr ? plan.levels.second->reach : 0.0f);
-    plan.reachSquared = double{reach} * reach;
     const float straight[] = {dab.color.r, dab.color.g, dab.color.b, 1};
     for (std::size_t i = 0; i < 4; ++i) {
         tile.colour[i] = static_cast<std::uint16_t>(std::clamp(straight[i], 0.0f, 1.0f) * 65535 + 0.5f);
     }
-    tile.box = {0,           0,           map.alongX,    map.alongY,
-                map.acrossX, map.acrossY, map.halfWidth, map.halfHeight,
-                map.foot,    map.top,     map.height,    map.slope};
+    tile.box = {
+        0,        0,       map.alongX, map.alongY, map.acrossX,  map.acrossY, map.halfWidth, map.halfHeight,
+        map.foot, map.top, map.height, map.slope,  reach * reach};
     const TipTable* tables[] = {plan.levels.first, plan.levels.second};
     for (std::size_t i = 0; i < static_cast<std::size_t>(tile.levelCount); ++i) {
         TileLevel& level = tile.levels[i];
@@ -132,43 +112,6 @@ TileDab inTile(const PlannedDab& plan, int x, int y) {
     tile.noise = noiseAt(x, y, plan.number);
     tile.multicolour = plan.multicolour ? &*plan.multicolour : nullptr;
     return tile;
-}
-
-bool spansInTile(const PlannedDab& plan, const Rect& tile, TileSpans& spans) {
-    const DabMap& map = plan.map;
-    const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
-    constexpr double kSlack = 1e-3;  // pixels, for what rounding does to the box's rim
-    const Rect part = tile.intersected(plan.touched);
-    bool any = false;
-    for (int y = part.y; y < part.bottom(); ++y) {
-        const double down = y + 0.5 - plan.dab.y;
-        const double along = map.alongY * down, across = map.acrossY * down;
-        Interval whole = strip(map.alongX, along, wide + kSlack);
-        whole.cut(strip(map.acrossX, across, tall + kSlack));
-        if (plan.reachSquared < 2) {
-            // along^2 / wide^2 + across^2 / tall^2 <= reach^2, as a x^2 + 2 b x + c <= 0.
-            const double w = 1 / (wide * wide), t = 1 / (tall * tall);
-            const double a = map.alongX * map.alongX * w + map.acrossX * map.acrossX * t;
-            const double b = map.alongX * along * w + map.acrossX * across * t;
-            const double c = along * along * w + across * across * t - plan.reachSquared;
-            const double root = std::sqrt(std::max(b * b - a * c, 0.0));
-            whole.cut({(-b - root) / a - kSlack, (-b + root) / a + kSlack});
-        }
-        Interval inner = strip(map.alongX, along, map.halfWidth - map.foot - kSlack);
-        inner.cut(strip(map.acrossX, across, map.halfHeight - map.foot - kSlack));
-        const auto cell = [&](double place) {
-            return std::clamp(std::ceil(plan.dab.x + place - 0.5), double(part.x), double(part.right())) -
-                   tile.x;
-        };
-        Span& span = spans[static_cast<std::size_t>(y - tile.y)];
-        span.first = static_cast<std::uint8_t>(cell(whole.from));
-        span.end = std::max(span.first, static_cast<std::uint8_t>(cell(whole.to)));
-        span.innerFirst = std::max(span.first, static_cast<std::uint8_t>(cell(inner.from)));
-        span.innerEnd =
-            std::max(span.innerFirst, std::min(span.end, static_cast<std::uint8_t>(cell(inner.to))));
-        any = any || span.end > span.first;
-    }
-    return any;
 }
 
 }  // namespace dabcanvas

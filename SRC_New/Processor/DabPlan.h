@@ -20,7 +20,6 @@ struct PlannedDab {
     Rect touched;  // pixels that may change, on the layer
     TipTables::Pair levels;
     TileDab tile;  // what is the same in every tile
-    double reachSquared;
     std::uint64_t number;
     std::optional<Multicolour> multicolour;
 };
@@ -31,8 +30,5 @@ std::optional<PlannedDab> planned(const Dab& dab, const DabStyle& style, TipTabl
 
 // The dab as the tile at these pixels has it; without paper.
 TileDab inTile(const PlannedDab& dab, int x, int y);
-
-// Which pixels of these rows, counted from the tile's first, it may touch. False where none is.
-bool spansInTile(const PlannedDab& dab, const Rect& tile, TileSpans& spans);
 
 }  // namespace dabcanvas
