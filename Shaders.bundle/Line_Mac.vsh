@@ -1,10 +1,40 @@
 // SPDX-License-Identifier: MIT
 #version 150
 // Places one dab: the unit square, mirrored, squeezed, rotated and moved to its centre in a buffer whose origin is top left.
+// RECORDS: all that a dab is comes with its four vertices, so that one call draws many.
+uniform vec2 u_viewSize;     // buffer pixels
+
+#ifdef RECORDS
+in vec4 a_dabPlace;          // centre, counted from the bottom left, and half the sides; pixels
+in vec4 a_dabAxes;           // from pixels to -1..1 along and across
+in vec4 a_dabPixel;          // as dabCoverage() takes it
+in vec4 a_dabPaint;          // colour and flow
+in vec4 a_dabFirstLevel;     // of the tip: left, top, width, height in the texture
+in vec4 a_dabNextLevel;
+in vec4 a_dabMore;           // part of the next level, noise's turn, random number
+
+flat out vec4 v_dabPlace, v_dabAxes, v_dabPixel, v_dabPaint, v_dabFirstLevel, v_dabNextLevel, v_dabMore;
+
+const float kRim = 0.75;     // pixels beyond the box whose centres are still covered in part
+const vec2 kCorners[4] = vec2[](vec2(-1.0, -1.0), vec2(1.0, -1.0), vec2(1.0, 1.0), vec2(-1.0, 1.0));
+
+void main() {
+    vec2 corner = kCorners[gl_VertexID & 3] * (a_dabPlace.zw + kRim) * a_dabPlace.zw;
+    vec2 place = a_dabPlace.xy + corner.x * a_dabAxes.xy + corner.y * a_dabAxes.zw;
+    gl_Position = vec4(place / u_viewSize * 2.0 - 1.0, 0.0, 1.0);
+    v_dabPlace = a_dabPlace;
+    v_dabAxes = a_dabAxes;
+    v_dabPixel = a_dabPixel;
+    v_dabPaint = a_dabPaint;
+    v_dabFirstLevel = a_dabFirstLevel;
+    v_dabNextLevel = a_dabNextLevel;
+    v_dabMore = a_dabMore;
+}
+
+#else
 in vec4 a_position;
 in vec2 a_texCoord;
 
-uniform vec2 u_viewSize;     // buffer pixels
 uniform vec2 a_center;       // buffer pixels
 uniform float a_pointSize;   // half the width, in pixels
 uniform float u_roundness;   // height over width
@@ -34,3 +64,4 @@ void main() {
     vec2 inset = min(0.5 * exp2(level) / u_tipSize, 0.5 * cellSize);
     v_tipCell = vec4(cell.xy + inset, cell.zw - inset);
 }
+#endif

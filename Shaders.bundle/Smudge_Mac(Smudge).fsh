@@ -2,17 +2,24 @@
 #version 150
 // Paints one smudge dab: where the tip covers, the layer turns into a mixture of the brush colour and the colour picked up
 // where the last dab lay. Premultiplied; the result replaces the pixel, so that picked up transparency erases.
-uniform sampler2D u_brushTexture;
+// RECORDS: the dab's edges are smooth, and its tip is read at its one level; Dab.glsl stands before this text then.
 uniform sampler2D u_bgTexture;   // the smudge layer as it was before this dab
-uniform vec4 a_color;
-uniform float u_flow;
 uniform float u_moistQuantity;   // 0: a dry brush, which takes no colour along; 1: all that it meets
 uniform float u_loadQuantity;    // of the brush's own colour
 uniform float u_mixQuantity;     // 0: the own colour alone, 1: the picked up alone
 
+#ifdef RECORDS
+uniform vec4 u_dab[7];           // place, axes, pixel, paint, the tip's two levels, and more, as those of Line_Mac.vsh
+uniform vec4 u_pickUp;           // where the dab's centre takes up colour, and a texel's step there; 0..1 in the layer
+#else
+uniform sampler2D u_brushTexture;
+uniform vec4 a_color;
+uniform float u_flow;
+
 in vec2 v_texCoord;
 in vec2 v_bgCoord;
 flat in vec4 v_tipCell;
+#endif
 out vec4 fragColor;
 
 vec4 layerTexel(ivec2 at, ivec2 size) {
@@ -20,9 +27,9 @@ vec4 layerTexel(ivec2 at, ivec2 size) {
 }
 
 // Between texels, exactly: filtering units round, and over a hundred dabs that would change the colour.
-vec4 pickedUp() {
+vec4 pickedUp(vec2 coord) {
     ivec2 size = textureSize(u_bgTexture, 0);
-    vec2 place = v_bgCoord * vec2(size) - 0.5;
+    vec2 place = coord * vec2(size) - 0.5;
     ivec2 at = ivec2(floor(place));
     vec2 part = place - vec2(at);
     vec4 low = mix(layerTexel(at, size), layerTexel(at + ivec2(1, 0), size), part.x);
@@ -31,11 +38,22 @@ vec4 pickedUp() {
 }
 
 void main() {
+#ifdef RECORDS
+    vec2 offset = gl_FragCoord.xy - u_dab[0].xy;
+    vec2 place = vec2(dot(u_dab[1].xy, offset), dot(u_dab[1].zw, offset));
+    float coverage = dabTip(place, u_dab[4], u_dab[5], u_dab[6].x).r * u_dab[3].a *
+                     dabCoverage(place * u_dab[0].zw, u_dab[0].zw, u_dab[2]);
+    vec3 color = u_dab[3].rgb;
+    vec4 pick = pickedUp(u_pickUp.xy + u_pickUp.zw * offset);
+#else
     float coverage = texture(u_brushTexture, clamp(v_texCoord, v_tipCell.xy, v_tipCell.zw)).a * u_flow;
+    vec3 color = a_color.rgb;
+    vec4 pick = pickedUp(v_bgCoord);
+#endif
     float dry = 1.0 - u_moistQuantity;
     float pickUp = u_mixQuantity * (1.0 - dry * dry * dry);
     float own = u_loadQuantity * (1.0 - u_mixQuantity);
     vec4 here = texelFetch(u_bgTexture, ivec2(gl_FragCoord.xy), 0);
-    vec4 mixture = own * vec4(a_color.rgb, 1.0) + pickUp * pickedUp();
+    vec4 mixture = own * vec4(color, 1.0) + pickUp * pick;
     fragColor = here * (1.0 - coverage * (own + pickUp)) + coverage * mixture;
 }

@@ -1,7 +1,21 @@
 // SPDX-License-Identifier: MIT
 #version 150
 // Places one smudge dab: the unit square, mirrored, squeezed, rotated and moved to its centre in a buffer whose origin is
-// top left.
+// top left. RECORDS: what the dab is stands in uniforms of the fragment program's kind.
+#ifdef RECORDS
+uniform vec2 u_viewSize;    // of the layer, in texels
+uniform vec4 u_dab[7];
+
+const float kRim = 0.75;    // texels beyond the box whose centres are still covered in part
+const vec2 kCorners[4] = vec2[](vec2(-1.0, -1.0), vec2(1.0, -1.0), vec2(1.0, 1.0), vec2(-1.0, 1.0));
+
+void main() {
+    vec2 corner = kCorners[gl_VertexID] * (u_dab[0].zw + kRim) * u_dab[0].zw;
+    vec2 place = u_dab[0].xy + corner.x * u_dab[1].xy + corner.y * u_dab[1].zw;
+    gl_Position = vec4(place / u_viewSize * 2.0 - 1.0, 0.0, 1.0);
+}
+
+#else
 in vec4 a_position;
 in vec2 a_texCoord;
 in vec2 a_bgCoord;          // where this corner picks up canvas colour
@@ -39,3 +53,4 @@ void main() {
     vec2 inset = min(0.5 * exp2(level) / u_tipSize, 0.5 * cellSize);
     v_tipCell = vec4(u_tipCell.xy + inset, u_tipCell.zw - inset);
 }
+#endif

@@ -7,7 +7,10 @@
 #include <utility>
 
 #include "Dabs/DabBounds.h"
+#include "ESRender/DabBatch.h"
 #include "ESRender/LineShaderNames.h"
+#include "ESRender/Texture/GLPictures.h"
+#include "ESRender/Texture/PaperTexture.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "ESRender/Utilities/ESShaderTools.h"
 #include "ESRender/VertexAttribute.h"
@@ -15,7 +18,7 @@
 namespace {
 
 constexpr char kSourcePath[] = "SRC_New/ESRender/ESLineRender";
-constexpr GLenum kMaskUnit = GL_TEXTURE7;
+constexpr GLenum kMaskUnit = GL_TEXTURE7, kReducedMaskUnit = GL_TEXTURE9;
 
 // One corner of a dab: place in the unit square, and the tip's texture coordinate there.
 struct Vertex {
@@ -31,7 +34,29 @@ QRectF partOf(const dabcanvas::DabBounds& bounds) {
     return {part.x, part.y, part.width, part.height};
 }
 
+dabcanvas::Picture pictureOf(const QImage& image) {
+    if (image.isNull()) {
+        return {};
+    }
+    const auto held =
+        std::make_shared<const QImage>(image.convertToFormat(QImage::Format_RGBA8888_Premultiplied));
+    return {.pixels = {held->constBits(), {held->width(), held->height()}, held->bytesPerLine()},
+            .density = image.devicePixelRatio(),
+            .owner = held};
+}
+
+// One opaque texel, for a renderer that was given no tips.
+const dabcanvas::TipSet& solidTip() {
+    static constexpr std::uint8_t kOpaque[4] = {0, 0, 0, 255};
+    static const dabcanvas::TipSet tips{{dabcanvas::PixelView::topRowFirst(kOpaque, {1, 1}), 1, {}}};
+    return tips;
+}
+
 }  // namespace
+
+ESLineRender::ESLineRender() : _batch(std::make_unique<dabcanvas::DabBatch>()) {}
+
+ESLineRender::~ESLineRender() = default;
 
 std::unique_ptr<ESLineRender> ESLineRender::init(std::shared_ptr<dabcanvas::ProgramPool> pool) {
     return make({}, {}, std::move(pool));
@@ -71,24 +96,37 @@ bool ESLineRender::setVertexShaderString(const QString& vertexShaderString,
                                           ESShaderTools::withBool(fragment))) {
         return false;
     }
+    _wholeVertexShader = this->vertexShaderString();
     _wholeFragmentShader = this->fragmentShaderString();
-    _usesMask = _usesMulticolour = true;
+    _isOwnText = vertex == lineRenderNormalVertexShaderString() &&
+                 fragment == lineRenderNormalFrangmentShaderString() &&
+                 !recordText(vertex, fragment).isNull();
+    _variant = {};
     return true;
 }
 
-// Makes the leanest program that the brush can do with current. One that does not build leaves the present one, which
-// draws the same.
-void ESLineRender::chooseProgram(bool mask, bool multicolour) {
-    if (mask == _usesMask && multicolour == _usesMulticolour) {
+// Null for texts that know no records, as a file of an application's may, which takes the library's place.
+QString ESLineRender::recordText(const QString& vertex, const QString& fragment) {
+    const QLatin1String kRecords("ifdef RECORDS");
+    const QString dab = stringWithFileName(QStringLiteral("Shaders.bundle/Dab.glsl"));
+    return vertex.contains(kRecords) && fragment.contains(kRecords) ? dab : QString();
+}
+
+// Makes the leanest program that the brush can do with current. One that does not build leaves the whole text's, which
+// draws one dab at a time.
+void ESLineRender::chooseProgram(const Variant& wanted) {
+    if (wanted == _variant) {
         return;
     }
-    _usesMask = mask;
-    _usesMulticolour = multicolour;
-    const QString defines = QLatin1String(mask ? "" : "#define NO_MASK\n") +
-                            QLatin1String(multicolour ? "" : "#define NO_MULTICOLOUR\n");
-    if (!useProgramWithVertexShaderString(vertexShaderString(),
+    _variant = wanted;
+    const QLatin1String records(wanted.records ? "#define RECORDS\n" : "");
+    const QString defines =
+        QLatin1String(wanted.mask ? "" : "#define NO_MASK\n") +
+        QLatin1String(wanted.multicolour ? "" : "#define NO_MULTICOLOUR\n") + records +
+        (wanted.records ? recordText(_wholeVertexShader, _wholeFragmentShader) : QString());
+    if (!useProgramWithVertexShaderString(ESShaderTools::withDefines(_wholeVertexShader, records),
                                           ESShaderTools::withDefines(_wholeFragmentShader, defines))) {
-        useProgramWithVertexShaderString(vertexShaderString(), _wholeFragmentShader);
+        useProgramWithVertexShaderString(_wholeVertexShader, _wholeFragmentShader);
     }
 }
 
@@ -124,46 +162,76 @@ void ESLineRender::programDidChange() {
     _flip.locate(made.uniformIndex(kFlip));
     _center.locate(made.uniformIndex(kCenter));
     _tipSize.locate(made.uniformIndex(kTipSize));
+    _tipsUnit.locate(made.uniformIndex(kTips));
+    _reducedMaskUnit.locate(made.uniformIndex(kReducedMask));
+    _maskLevel.locate(made.uniformIndex(kMaskLevel));
+    std::transform(std::begin(kDabRecord), std::end(kDabRecord), _recordFields.begin(),
+                   [&](const char* name) { return made.attributeIndex(name); });
     _tipCellsUploaded = false;
 }
 
 void ESLineRender::setTextureImage(const QImage& image, GLenum atPosition) {
     ESBaseRender::setTextureImage(image, atPosition);
-    takeTips();
+    if (!image.isNull()) {
+        keepTips({image});
+    }
 }
 
 void ESLineRender::setTextureImages(const QList<QImage>& images, GLenum atPosition) {
     ESBaseRender::setTextureImages(images, atPosition);
-    takeTips();
+    if (!images.isEmpty()) {
+        keepTips(images);
+    }
 }
 
 void ESLineRender::setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) {
     ESBaseRender::setTextureData(data, dataSize, atPosition);
-    takeTips();
+    if (data != nullptr && !dataSize.isEmpty()) {
+        keepTips({QImage(data, dataSize.width(), dataSize.height(), qsizetype{dataSize.width()} * 4,
+                         QImage::Format_RGBA8888_Premultiplied)
+                      .copy()});
+    }
+}
+
+void ESLineRender::keepTips(const QList<QImage>& images) {
+    auto tips = std::make_shared<dabcanvas::TipSet>();
+    for (const QImage& image : images) {
+        tips->push_back(pictureOf(image));
+    }
+    takeTips(std::move(tips));
+}
+
+void ESLineRender::setTips(std::shared_ptr<const dabcanvas::TipSet> tips, GLenum atPosition) {
+    _brushTexture.reset();
+    _texturePos = atPosition;
+    setNumberOfTexture(static_cast<unsigned>(tips->size()));
+    takeTips(std::move(tips));
+}
+
+void ESLineRender::takeTips(std::shared_ptr<const dabcanvas::TipSet> tips) {
+    _tips = std::move(tips);
+    _atlas.reset();
+    DabSettings& settings = _dabs.settings;
+    settings.numberOfTips = numberOfTexture();
+    settings.tipCells = dabcanvas::tipCells(numberOfTexture());
+    _dabs.updateFlags();
+    _tipCellsUploaded = false;
 }
 
 void ESLineRender::setMaskImage(const QImage& image) {
+    setPaper(image.isNull() ? nullptr : std::make_shared<const dabcanvas::Picture>(pictureOf(image)));
     _maskImage = image;
-    if (image.isNull()) {
-        _maskTexture.reset();
-        return;
-    }
-    glActiveTexture(kMaskUnit);
-    _maskTexture = TextureObject::initWithImage(image);
-    _maskTexturePositon = kMaskUnit;
+}
+
+void ESLineRender::setPaper(std::shared_ptr<const dabcanvas::Picture> paper) {
+    _paper = std::move(paper);
+    _maskImage = QImage();
+    _maskTexture.reset();
+    _paperTexture.reset();
 }
 
 void ESLineRender::setBackRenderColor(const ESColor& color) {
     set(&DabSettings::backColor, RgbTypeMake(color.red(), color.green(), color.blue()));
-}
-
-// What the base class keeps of the tips and dabs are made from.
-void ESLineRender::takeTips() {
-    DabSettings& settings = _dabs.settings;
-    settings.numberOfTips = numberOfTexture();
-    settings.tipCells = brushTexture() != nullptr ? brushTexture()->vertiesCount() : 1;
-    _dabs.updateFlags();
-    _tipCellsUploaded = false;
 }
 
 QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
@@ -172,27 +240,36 @@ QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
         return partOf(bounds);
     }
     takeBrush();
-    beginDrawing();
+    if (!beginDrawing()) {
+        return partOf(bounds);
+    }
     _dabs.make(points, count, [&](const Dab& dab) {
         bounds.grow(dab);
-        if (needScissor()) {
+        if (needScissor() && (!takesRecords() || _batch->isFull())) {
             clipTo(bounds);
         }
         drawDab(dab);
     });
-    // One drain a run: asking after each dab would stall drivers that work ahead.
-    drainGLErrors(kSourcePath, __LINE__);
+    if (needScissor() && !_batch->isEmpty()) {
+        clipTo(bounds);
+    }
+    endDrawing();
     return partOf(bounds);
 }
 
 void ESLineRender::drawDabs(std::span<const Dab> dabs) {
-    if (dabs.empty() || program() == nullptr) {
+    if (dabs.empty() || program() == nullptr || !beginDrawing()) {
         return;
     }
-    beginDrawing();
     for (const Dab& dab : dabs) {
         drawDab(dab);
     }
+    endDrawing();
+}
+
+// One drain a run: asking after each dab would stall drivers that work ahead.
+void ESLineRender::endDrawing() {
+    _batch->draw(_recordFields);
     drainGLErrors(kSourcePath, __LINE__);
 }
 
@@ -204,16 +281,15 @@ void ESLineRender::takeBrush() {
     settings.lineProcessType = lineProcessType();
 }
 
-// Everything that stays the same for a run of dabs.
-void ESLineRender::beginDrawing() {
-    const bool mask = _needMaskTexture && _maskTexture != nullptr && _maskTexture->isEnabled();
+// Everything that stays the same for a run of dabs; false when there is nothing to draw with.
+bool ESLineRender::beginDrawing() {
     const bool multicolour = _dabs.settings.colorFul;
-    chooseProgram(mask, multicolour);
+    chooseProgram({_isOwnText, hasPaper(), multicolour});
     useOwn();
-    if (!_tipCellsUploaded) {
-        uploadTipCells();
-    }
-    setMaskUniforms(mask);
+    _useMask.set(hasPaper() && useMask());
+    // Samplers get units of their own even when unused: two on one unit of different kinds may not draw.
+    _maskUnit.set(kMaskUnit - GL_TEXTURE0);
+    _reducedMaskUnit.set(kReducedMaskUnit - GL_TEXTURE0);
     _colorful.set(multicolour);
     if (multicolour) {
         const DabSettings& settings = _dabs.settings;
@@ -223,33 +299,75 @@ void ESLineRender::beginDrawing() {
         _brightnessTingle.set(jitters ? settings.brightnessTingle : 0);
     }
     _viewSize.set(bufferSize().width(), bufferSize().height());
+    if (takesRecords()) {
+        return useAtlas(multicolour);
+    }
+    useBrushTexture();
+    if (!_tipCellsUploaded) {
+        uploadTipCells();
+    }
+    checkGLStep(kSourcePath, __LINE__);
+    return true;
+}
+
+bool ESLineRender::useAtlas(bool withColour) {
+    if (!_atlas || _atlas->hasColour() != withColour) {
+        glActiveTexture(texturePos());
+        _atlas = dabcanvas::TipAtlas::make(_tips ? *_tips : solidTip(), withColour);
+    }
+    if (!_atlas) {
+        return false;
+    }
+    _atlas->bind(texturePos());
+    _tipsUnit.set(texturePos() - GL_TEXTURE0);
+    return true;
+}
+
+void ESLineRender::useBrushTexture() {
+    if (brushTexture() == nullptr && _tips) {
+        QList<QImage> images;
+        for (const dabcanvas::Picture& tip : *_tips) {
+            images.append(dabcanvas::imageOf(tip));
+        }
+        ESBaseRender::setTextureImages(images, texturePos());
+    }
     if (brushTexture() != nullptr && brushTexture()->useAtPosition(texturePos())) {
         _brushUnit.set(texturePos() - GL_TEXTURE0);
     }
-    checkGLStep(kSourcePath, __LINE__);
 }
 
-void ESLineRender::setMaskUniforms(bool useMask) {
-    _useMask.set(useMask);
-    // The sampler gets its own unit even when unused: two samplers on one unit of different kinds may not
-    // draw.
-    _maskUnit.set(_maskTexturePositon - GL_TEXTURE0);
-    if (!useMask) {
-        return;
-    }
-    _maskTexture->useAtPosition(_maskTexturePositon);
+// Binds the paper, whose texture is made when it is first needed; false without one.
+bool ESLineRender::useMask() {
     // A tile is a whole pixel at least, or its pattern would divide by nothing.
-    _maskSize.set(std::max(1.0f, std::floor(_maskScale * static_cast<float>(_maskImage.width()))),
-                  std::max(1.0f, std::floor(_maskScale * static_cast<float>(_maskImage.height()))));
+    const dabcanvas::Size& size = _paper->pixels.size;
+    const float width = std::max(1.0f, std::floor(_maskScale * static_cast<float>(size.width)));
+    const float height = std::max(1.0f, std::floor(_maskScale * static_cast<float>(size.height)));
+    _maskSize.set(width, height);
+    glActiveTexture(kMaskUnit);
+    if (takesRecords()) {
+        if (!_paperTexture) {
+            _paperTexture = dabcanvas::PaperTexture::make(*_paper);
+        }
+        if (_paperTexture) {
+            _paperTexture->bind(kMaskUnit, kReducedMaskUnit);
+            const dabcanvas::PaperTexture::Reading reading = _paperTexture->readingAt(width, height);
+            _maskLevel.set(reading.part, reading.level);
+        }
+        return _paperTexture != nullptr;
+    }
+    if (!_maskTexture) {
+        _maskTexture = TextureObject::initWithImage(dabcanvas::imageOf(*_paper));
+    }
     const float* cell = _maskTexture->verties();
-    const auto width = static_cast<float>(_maskTexture->pixSize().width());
-    const auto height = static_cast<float>(_maskTexture->pixSize().height());
-    _maskBaseCoord.set(cell[0] * width, cell[1] * height, (cell[4] - cell[0]) * width,
-                       (cell[3] - cell[1]) * height);
+    const auto across = static_cast<float>(_maskTexture->pixSize().width());
+    const auto up = static_cast<float>(_maskTexture->pixSize().height());
+    _maskBaseCoord.set(cell[0] * across, cell[1] * up, (cell[4] - cell[0]) * across,
+                       (cell[3] - cell[1]) * up);
+    return _maskTexture->useAtPosition(kMaskUnit);
 }
 
-// The corners of a dab for every tip of the atlas, tip after tip: a dab picks its tip by where it starts to
-// draw, and no vertex data is sent per dab.
+// For a host's program: the corners of a dab for every tip of its texture, tip after tip. A dab picks its tip by where it
+// starts to draw, and no vertex data is sent per dab.
 void ESLineRender::uploadTipCells() {
     std::array<Vertex, TextureObject::kMaxImages * kCorners> vertices{};
     std::array<float, TextureObject::kMaxImages * 4> cells{};
@@ -288,13 +406,23 @@ void ESLineRender::setDabUniforms(const Dab& dab) {
 }
 
 void ESLineRender::drawDab(const Dab& dab) {
+    ++_dabsDrawn;
+    if (takesRecords()) {
+        if (_batch->isFull()) {
+            _batch->draw(_recordFields);
+        }
+        if (const dabcanvas::Size* tip = _atlas->sizeOf(dab.tip)) {
+            _batch->add(
+                dabcanvas::DabRecord::of(dab, *tip, *_atlas, static_cast<float>(bufferSize().height()), 0));
+        }
+        return;
+    }
     setDabUniforms(dab);
-    if (_usesMulticolour) {
+    if (_variant.multicolour) {
         _rand.set(dab.random);
     }
     checkGLStep(kSourcePath, __LINE__);
     glDrawArrays(GL_TRIANGLE_FAN, static_cast<GLint>(dab.tip) * kCorners, kCorners);
-    ++_dabsDrawn;
 }
 
 void ESLineRender::clipTo(const dabcanvas::DabBounds& bounds) const {

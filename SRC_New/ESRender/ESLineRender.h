@@ -12,19 +12,24 @@
 
 #include <QRectF>
 #include <QString>
+#include <array>
 #include <memory>
 #include <span>
 #include <type_traits>
 
 #include "Dabs/Dab.h"
+#include "Dabs/Picture.h"
 #include "ESRender/CachedUniform.h"
 #include "ESRender/ESBaseRender.h"
 #include "LineProcess/Tingle.h"
 #include "Maths/Export.h"
 
 namespace dabcanvas {
+class DabBatch;
 struct DabBounds;
-}
+class PaperTexture;
+class TipAtlas;
+}  // namespace dabcanvas
 
 class DABCANVAS_RENDER_API ESLineRender : public ESBaseRender {
 public:
@@ -36,6 +41,7 @@ public:
     // Null texts stand for the line program; "_Bool" in either is read as "bool".
     static std::unique_ptr<ESLineRender> initWithVertexShaderFromString(
         const QString& vertexShader, const QString& fragmentShaderFromString);
+    ~ESLineRender() override;
 
     bool setVertexShaderString(const QString& vertexShaderString,
                                const QString& fragmentShaderFromString) override;
@@ -49,7 +55,7 @@ public:
     // drawn.
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
 
-    // Draws dabs that were made elsewhere, with this renderer's tips, paper and multicolour.
+    // Draws dabs that were made elsewhere, with this renderer's tips, paper and multicolour, blended as GL is set to.
     void drawDabs(std::span<const Dab> dabs);
 
     // Dabs drawn since the renderer was made.
@@ -68,9 +74,13 @@ public:
     void setTextureImage(const QImage& image, GLenum atPosition) override;
     void setTextureImages(const QList<QImage>& images, GLenum atPosition) override;
     void setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) override;
-    // Keeps the image and makes its texture on unit 7; a null one turns the mask off.
+    // The same tips and paper as pixels that are shared. Only a host's program has textures made of them that others can
+    // see.
+    void setTips(std::shared_ptr<const dabcanvas::TipSet> tips, GLenum atPosition);
+    void setPaper(std::shared_ptr<const dabcanvas::Picture> paper);
+    // Keeps the image; its texture lies on unit 7. A null one turns the mask off.
     void setMaskImage(const QImage& image);
-    const QImage& maskImage() const { return _maskImage; }
+    const QImage& maskImage() const { return _maskImage; }  // null for a paper that was set as pixels
     void setNeedMaskTexture(bool value) { _needMaskTexture = value; }
     bool needMaskTexture() const { return _needMaskTexture; }
     void setMaskScale(float value) { _maskScale = value; }
@@ -121,19 +131,26 @@ public:
     void setBackRenderColor(const ESColor& color);
 
 protected:
-    ESLineRender() = default;
+    ESLineRender();
     void bindAttributeForProgram(ESProgram& program) override;
     void programDidChange() override;
 
     void takeBrush();
     void setDabUniforms(const Dab& dab);
+    // What stands before a fragment text that draws by records.
+    static QString recordText(const QString& vertex, const QString& fragment);
+    // Binds the atlas of the tips, made when it is first needed; false, and nothing to draw with, without one.
+    bool useAtlas(bool withColour);
+    const dabcanvas::TipAtlas* atlas() const { return _atlas.get(); }
+    // Binds brushTexture(), made of the tips where it was not.
+    void useBrushTexture();
 
     dabcanvas::DabMaker _dabs;
     std::uint64_t _dabsDrawn = 0;
 
     GLint _positionIndex = -1;
     GLint _texCoordIndex = -1;
-    dabcanvas::UniformInt _colorful, _brushUnit;
+    dabcanvas::UniformInt _colorful, _brushUnit, _tipsUnit;
     dabcanvas::UniformVec2 _viewSize, _flip, _center, _tipSize;
     dabcanvas::UniformVec4 _color;
     dabcanvas::UniformFloat _flowUniform, _radian, _roundness, _pointSize;
@@ -145,28 +162,47 @@ private:
         _dabs.updateFlags();
     }
 
+    // What a program is compiled for.
+    struct Variant {
+        bool records = false, mask = true, multicolour = true;
+        bool operator==(const Variant&) const = default;
+    };
+
     static std::unique_ptr<ESLineRender> make(const QString& vertexShader, const QString& fragmentShader,
                                               std::shared_ptr<dabcanvas::ProgramPool> pool);
-    void takeTips();
-    void beginDrawing();
-    void chooseProgram(bool mask, bool multicolour);
-    void setMaskUniforms(bool useMask);
+    void keepTips(const QList<QImage>& images);
+    void takeTips(std::shared_ptr<const dabcanvas::TipSet> tips);
+    bool beginDrawing();
+    void endDrawing();
+    void chooseProgram(const Variant& wanted);
+    bool takesRecords() const { return _recordFields[0] >= 0; }
+    bool hasPaper() const { return _needMaskTexture && _paper && !_paper->pixels.isNull(); }
+    bool useMask();
     void uploadTipCells();
     void drawDab(const Dab& dab);
     void clipTo(const dabcanvas::DabBounds& bounds) const;
+
+    // As pixels, for textures that are made when they are first needed.
+    std::shared_ptr<const dabcanvas::TipSet> _tips;
+    std::shared_ptr<const dabcanvas::Picture> _paper;
+    std::unique_ptr<dabcanvas::TipAtlas> _atlas;
+    std::unique_ptr<dabcanvas::PaperTexture> _paperTexture;
 
     bool _needMaskTexture = false;
     float _maskScale = 1;
     QImage _maskImage;
     std::unique_ptr<TextureObject> _maskTexture;
-    GLenum _maskTexturePositon = GL_TEXTURE7;
 
-    QString _wholeFragmentShader;                    // the text last set, of which leaner programs are made
-    bool _usesMask = true, _usesMulticolour = true;  // of the current program
+    QString _wholeVertexShader,
+        _wholeFragmentShader;  // the texts last set, of which leaner programs are made
+    bool _isOwnText = false;   // they are the library's
+    Variant _variant;
+    std::unique_ptr<dabcanvas::DabBatch> _batch;
+    std::array<GLint, 7> _recordFields{-1, -1, -1, -1, -1, -1, -1};  // locations; -1 for a program without
     bool _tipCellsUploaded = false;
     GLint _tipCells = -1;
-    dabcanvas::UniformInt _useMask, _maskUnit;
-    dabcanvas::UniformVec2 _maskSize;
+    dabcanvas::UniformInt _useMask, _maskUnit, _reducedMaskUnit;
+    dabcanvas::UniformVec2 _maskSize, _maskLevel;
     dabcanvas::UniformVec4 _maskBaseCoord;
     dabcanvas::UniformFloat _hueTingle, _saturationTingle, _brightnessTingle, _rand;
 };

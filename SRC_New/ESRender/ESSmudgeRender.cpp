@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Dabs/DabBounds.h"
+#include "ESRender/DabRecord.h"
 #include "ESRender/LineShaderNames.h"
 #include "ESRender/SmudgeShaderNames.h"
 #include "ESRender/Utilities/ESGLErrors.h"
@@ -36,6 +37,14 @@ constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBefore
 // The one of OpenGL 4.5, rather than the older extension's.
 bool hasStandardBarrier() {
     return epoxy_gl_version() >= 45 || epoxy_has_gl_extension("GL_ARB_texture_barrier");
+}
+
+// Buffer pixels around a dab in which texels of the layer, twice as large, are still covered in part.
+constexpr double kRim = 2;
+
+// The side of what is taken up over the dab's.
+double pickUpScale(const SmudgeDab& smudge) {
+    return smudge.dab.halfSize > 0 ? smudge.pickUpHalf / smudge.dab.halfSize : 0;
 }
 
 QRectF partOf(const dabcanvas::DabBounds& bounds) {
@@ -91,9 +100,24 @@ QString ESSmudgeRender::smudgeRenderShowFrangmentShaderString() {
 }
 
 bool ESSmudgeRender::setVertexShaderString(const QString&, const QString&) {
+    _triedRecords = false;
     return useProgramWithVertexShaderString(
         ESShaderTools::withBool(smudgeRenderSmudgeVertexShaderString()),
         ESShaderTools::withBool(smudgeRenderSmudgeFrangmentShaderString()));
+}
+
+// Makes the library's program current that takes a dab as a record; a file in its place may know none.
+void ESSmudgeRender::useRecords() {
+    if (std::exchange(_triedRecords, true)) {
+        return;
+    }
+    const QString vertex = vertexShaderString(), fragment = fragmentShaderString();
+    const QString text = recordText(vertex, fragment);
+    const QString defines = QStringLiteral("#define RECORDS\n");
+    if (!text.isNull()) {
+        useProgramWithVertexShaderString(ESShaderTools::withDefines(vertex, defines),
+                                         ESShaderTools::withDefines(fragment, defines + text));
+    }
 }
 
 void ESSmudgeRender::bindAttributeForProgram(ESProgram& program) {
@@ -113,6 +137,8 @@ void ESSmudgeRender::programDidChange() {
     _mix.locate(made.uniformIndex(kMixQuantity));
     _bgUnit.locate(made.uniformIndex(kBGTexture));
     _tipCell.locate(made.uniformIndex(kTipCell));
+    _pickUp.locate(made.uniformIndex(kPickUp));
+    _dabRecord = made.uniformIndex(kDab);
 }
 
 ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
@@ -247,15 +273,23 @@ QRectF ESSmudgeRender::draw(std::span<const SmudgeDab> dabs, float load, const T
         _coverage.clear();
         _coverageTaken = false;
     }
+    useRecords();
     useOwn();
-    // Each dab fills the same buffer anew, so where its vertices stand is said once a run.
-    dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
-    dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
-    dabcanvas::setVertexAttribute(_bgCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, bgS));
-    _viewSize.set(bufferSize().width(), bufferSize().height());
-    if (brushTexture() != nullptr && brushTexture()->useAtPosition(texturePos())) {
-        _brushUnit.set(texturePos() - GL_TEXTURE0);
-        _tipSize.set(brushTexture()->pixSize().width(), brushTexture()->pixSize().height());
+    if (_dabRecord >= 0) {
+        _viewSize.set(_layerSize.width(), _layerSize.height());
+        if (!useAtlas(false)) {
+            return {};
+        }
+    } else {
+        // Each dab fills the same buffer anew, so where its vertices stand is said once a run.
+        dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
+        dabcanvas::setVertexAttribute(_texCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, s));
+        dabcanvas::setVertexAttribute(_bgCoordIndex, 2, sizeof(Vertex), offsetof(Vertex, bgS));
+        _viewSize.set(bufferSize().width(), bufferSize().height());
+        useBrushTexture();
+        if (brushTexture() != nullptr) {
+            _tipSize.set(brushTexture()->pixSize().width(), brushTexture()->pixSize().height());
+        }
     }
     if (bind) {
         _sourceSize = bind();
@@ -293,15 +327,19 @@ ESSmudgeRender::Corners ESSmudgeRender::pickUpCorners(const SmudgeDab& smudge) c
     return corners;
 }
 
-// Every texel of the layer that filtering reads between the corners.
-QRect ESSmudgeRender::texelBox(const Corners& corners) const {
-    double left = corners.at[0].x(), right = left, bottom = corners.at[0].y(), top = bottom;
-    for (const QPointF& at : corners.at) {
-        left = std::min(left, at.x());
-        right = std::max(right, at.x());
-        bottom = std::min(bottom, at.y());
-        top = std::max(top, at.y());
-    }
+// As a part of the layer, 0..1 from the bottom left, with what lies half a texel around the dab.
+QRectF ESSmudgeRender::pickUpPlace(const SmudgeDab& smudge) const {
+    const dabcanvas::Extent extent = dabcanvas::DabBounds::extentOf(smudge.dab);
+    const double scale = pickUpScale(smudge);
+    const double across = (extent.width + kRim) * scale, up = (extent.height + kRim) * scale;
+    return {(smudge.pickUp.x - across) / _sourceSize.width(),
+            (_sourceSize.height() - smudge.pickUp.y - up) / _sourceSize.height(),
+            2 * across / _sourceSize.width(), 2 * up / _sourceSize.height()};
+}
+
+// Every texel of the layer that filtering reads there.
+QRect ESSmudgeRender::texelBox(const QRectF& place) const {
+    const double left = place.left(), right = place.right(), bottom = place.top(), top = place.bottom();
     const double width = _layerSize.width(), height = _layerSize.height();
     // What lies outside of the layer reads as its rim.
     const auto texel = [](double edge, double first, double last) {
@@ -337,24 +375,29 @@ void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
     }
 }
 
-void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
-    const Dab& dab = smudge.dab;
-    const dabcanvas::Extent extent = dabcanvas::DabBounds::extentOf(dab);
+void ESSmudgeRender::setDabRecord(const SmudgeDab& smudge) {
     const double toTexelX = _layerSize.width() / bufferSize().width();
     const double toTexelY = _layerSize.height() / bufferSize().height();
-    const QRectF touched((dab.x - extent.width) * toTexelX - 1,
-                         (bufferSize().height() - dab.y - extent.height) * toTexelY - 1,
-                         2 * extent.width * toTexelX + 2, 2 * extent.height * toTexelY + 2);
-    const QRectF inLayer = touched & QRectF(QPointF(0, 0), _layerSize);
-    if (!(inLayer.width() > 0 && inLayer.height() > 0)) {
-        return;  // nor is one drawn whose place is not finite
-    }
-    const QRect written = inLayer.toAlignedRect();
-    const Corners corners = pickUpCorners(smudge);
-    provideLayer(texelBox(corners), written);
+    Dab inLayer = smudge.dab;
+    inLayer.x = static_cast<float>(inLayer.x * toTexelX);
+    inLayer.y = static_cast<float>(inLayer.y * toTexelY);
+    inLayer.halfSize =
+        static_cast<float>(inLayer.halfSize * (toTexelX + toTexelY) / 2);  // they differ by rounding
+    const dabcanvas::DabRecord record = dabcanvas::DabRecord::of(
+        inLayer, *atlas()->sizeOf(inLayer.tip), *atlas(), static_cast<float>(_layerSize.height()), 0);
+    glUniform4fv(_dabRecord, sizeof record / (4 * sizeof(float)), record.place.data());
+    const double scale = pickUpScale(smudge);
+    _pickUp.set(smudge.pickUp.x / _sourceSize.width(),
+                (_sourceSize.height() - smudge.pickUp.y) / _sourceSize.height(),
+                scale / toTexelX / _sourceSize.width(), scale / toTexelY / _sourceSize.height());
+}
 
+// For a program that is given the corners.
+void ESSmudgeRender::uploadCorners(const SmudgeDab& smudge) {
+    const Corners corners = pickUpCorners(smudge);
     static constexpr float kWhole[10] = {0, 0, 0, 1, 1, 1, 1, 0, 0, 0};
-    const float* cell = brushTexture() != nullptr ? brushTexture()->vertiesOfTextureIndex(dab.tip) : kWhole;
+    const float* cell =
+        brushTexture() != nullptr ? brushTexture()->vertiesOfTextureIndex(smudge.dab.tip) : kWhole;
     Vertex vertices[kCorners];
     for (std::size_t i = 0; i < kCorners; ++i) {
         const float* pair = cell + 2 * (i + 1);
@@ -369,7 +412,30 @@ void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
     }
     glBufferData(GL_ARRAY_BUFFER, sizeof vertices, vertices, GL_STATIC_DRAW);
     _tipCell.set(cell[0], cell[1], cell[4], cell[5]);
-    setDabUniforms(dab);
+    setDabUniforms(smudge.dab);
+}
+
+void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
+    const Dab& dab = smudge.dab;
+    if (_dabRecord >= 0 && atlas()->sizeOf(dab.tip) == nullptr) {
+        return;  // an empty tip
+    }
+    const dabcanvas::Extent extent = dabcanvas::DabBounds::extentOf(dab);
+    const double toTexelX = _layerSize.width() / bufferSize().width();
+    const double toTexelY = _layerSize.height() / bufferSize().height();
+    const QRectF touched((dab.x - extent.width) * toTexelX - 1,
+                         (bufferSize().height() - dab.y - extent.height) * toTexelY - 1,
+                         2 * extent.width * toTexelX + 2, 2 * extent.height * toTexelY + 2);
+    const QRectF inLayer = touched & QRectF(QPointF(0, 0), _layerSize);
+    if (!(inLayer.width() > 0 && inLayer.height() > 0)) {
+        return;  // nor is one drawn whose place is not finite
+    }
+    provideLayer(texelBox(pickUpPlace(smudge)), inLayer.toAlignedRect());
+    if (_dabRecord >= 0) {
+        setDabRecord(smudge);
+    } else {
+        uploadCorners(smudge);
+    }
     _moist.set(smudge.moist);
     _mix.set(smudge.mix);
     checkGLStep(kSourcePath, __LINE__);

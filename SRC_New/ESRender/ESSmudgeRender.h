@@ -120,8 +120,12 @@ private:
     ShowProgram makeShowProgram(bool fill) const;
     QRectF draw(std::span<const dabcanvas::SmudgeDab> dabs, float load, const TextureBindBlock& bind);
     QRectF show(const LPPoint* points, std::size_t count, const TextureBindBlock& bind);
+    void useRecords();
+    QRectF pickUpPlace(const dabcanvas::SmudgeDab& smudge) const;
     Corners pickUpCorners(const dabcanvas::SmudgeDab& smudge) const;
-    QRect texelBox(const Corners& corners) const;
+    QRect texelBox(const QRectF& place) const;
+    void setDabRecord(const dabcanvas::SmudgeDab& smudge);
+    void uploadCorners(const dabcanvas::SmudgeDab& smudge);
     void provideLayer(const QRect& read, const QRect& written);
     void drawDab(const dabcanvas::SmudgeDab& smudge);
 
@@ -143,8 +147,10 @@ private:
     bool _hasStandardBarrier = false;  // asked once: the driver compares names
 
     ShowProgram _showProgram, _fillProgram;
+    bool _triedRecords = false;
     GLint _bgCoordIndex = -1;
+    GLint _dabRecord = -1;  // -1 for a program that is given the uniforms of each dab
     dabcanvas::UniformFloat _moist, _load, _mix;
     dabcanvas::UniformInt _bgUnit;
-    dabcanvas::UniformVec4 _tipCell;
+    dabcanvas::UniformVec4 _tipCell, _pickUp;
 };

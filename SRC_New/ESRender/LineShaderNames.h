@@ -30,4 +30,11 @@ inline constexpr char kCenter[] = "a_center";
 inline constexpr char kTipCells[] = "u_tipCells";
 inline constexpr char kTipSize[] = "u_tipSize";
 
+// Of the program that draws dabs by records: the attributes of one, and what is read.
+inline constexpr const char* kDabRecord[] = {"a_dabPlace",      "a_dabAxes",      "a_dabPixel", "a_dabPaint",
+                                             "a_dabFirstLevel", "a_dabNextLevel", "a_dabMore"};
+inline constexpr char kTips[] = "u_tips";
+inline constexpr char kReducedMask[] = "u_reducedMask";
+inline constexpr char kMaskLevel[] = "u_maskLevel";
+
 }  // namespace dabcanvas::line

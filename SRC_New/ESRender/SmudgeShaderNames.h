@@ -12,6 +12,8 @@ inline constexpr char kLoadQuantity[] = "u_loadQuantity";
 inline constexpr char kMixQuantity[] = "u_mixQuantity";
 inline constexpr char kBGTexture[] = "u_bgTexture";
 inline constexpr char kTipCell[] = "u_tipCell";
+inline constexpr char kDab[] = "u_dab";  // these two where a dab comes as a record
+inline constexpr char kPickUp[] = "u_pickUp";
 
 inline constexpr char kCanvasTexture[] = "u_canvasTexture";
 inline constexpr char kBeforeTexture[] = "u_beforeTexture";

@@ -9,9 +9,9 @@
 #include <numbers>
 
 #include "ESRender/ESImageRender.h"
+#include "ESRender/Texture/GLPictures.h"
 #include "ESRender/Texture/ScaledPixels.h"
 #include "ESRender/Utilities/ESGLErrors.h"
-#include "GLSurface/GLPictures.h"
 #include "GLSurface/GLSurface.h"
 #include "Maths/Rounding.h"
 

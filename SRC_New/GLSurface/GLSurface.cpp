@@ -10,8 +10,8 @@
 #include "ESRender/ESImageRender.h"
 #include "ESRender/ESLineRender.h"
 #include "ESRender/ESSmudgeRender.h"
+#include "ESRender/Texture/GLPictures.h"
 #include "ESRender/Utilities/ESGLErrors.h"
-#include "GLSurface/GLPictures.h"
 #include "GLSurface/ThreadGL.h"
 
 namespace dabcanvas {
@@ -146,15 +146,10 @@ void GLSurface::noteChanged(PictureId picture, const Rect& rect) {
 // ---- Dabs
 
 void GLSurface::takeTips(DabRender& of, const DabStyle& style) {
-    if (style.tips == of.tips) {
-        return;
+    if (style.tips != of.tips) {
+        of.tips = style.tips;
+        of.render->setTips(style.tips, of.tipUnit);
     }
-    of.tips = style.tips;
-    QList<QImage> images;
-    for (const Picture& tip : *style.tips) {
-        images.append(imageOf(tip));
-    }
-    of.render->setTextureImages(images, of.tipUnit);
 }
 
 void GLSurface::takeStyle(DabRender& of, const DabStyle& style) {
@@ -162,7 +157,7 @@ void GLSurface::takeStyle(DabRender& of, const DabStyle& style) {
     takeTips(of, style);
     if (style.paper != of.paper) {
         of.paper = style.paper;
-        render.setMaskImage(style.paper ? imageOf(*style.paper) : QImage());
+        render.setPaper(style.paper);
     }
     render.setNeedMaskTexture(style.paper != nullptr);
     render.setMaskScale(style.paperScale);

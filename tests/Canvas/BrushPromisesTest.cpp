@@ -342,7 +342,7 @@ const Promise kPromises[] = {
     {"endRadius", "wider at the end alone", 0.1f, 0.9f,
      [](P l, P m) { return l.marks.back().box.width() < m.marks.back().box.width() - 3 && l.marks[1].box == m.marks[1].box; }, [](C& c) { whole(c); c.setPointsDistance(1.25f); }},
     {"radiusTingle", "a line's dabs shrink at random", 0.0f, 0.8f,
-     [](P l, P m) { return span(l.marks, widthOf).width() == 0 && span(m.marks, widthOf).width() > 4 && span(m.marks, widthOf).high <= 16; }, [](C& c) { whole(c); c.setMinRadius(0.1f); c.setRadiusControl({1, 0, 0}); }},
+     [](P l, P m) { return span(l.marks, widthOf).width() == 0 && span(m.marks, widthOf).width() > 4 && span(m.marks, widthOf).high <= 18; }, [](C& c) { whole(c); c.setMinRadius(0.1f); c.setRadiusControl({1, 0, 0}); }},
     {"radiusTingle_single", "single dabs do not", 0.0f, 0.8f,
      [](P l, P m) { return same(l, m) && m.marks.size() == 14; }, [](C& c) { whole(c); c.setMinRadius(0.1f); c.setDistribution(1); }, nullptr},
     {"radiusTingle_copies", "scattered copies do", 0.0f, 0.8f,
@@ -411,7 +411,7 @@ const Promise kPromises[] = {
     {"slRadiusRelationType", "2 grows with the first line", 0, 2,
      [](P l, P m) { return near(heightOf(l.marks[3]), 16, 2) && near(heightOf(m.marks[3]), 32, 2); }, second, level, [](C& c) { c.setRadius(300); }},
     {"relationValue", "larger by as much", -140.0f, -120.0f,
-     [](P l, P m) { return near(heightOf(l.marks[3]), 10, 2) && near(heightOf(m.marks[3]), 30, 2); }, [](C& c) { second(c); c.setSlRadiusRelationType(1); }},
+     [](P l, P m) { return near(heightOf(l.marks[3]), 10, 4) && near(heightOf(m.marks[3]), 30, 4); }, [](C& c) { second(c); c.setSlRadiusRelationType(1); }},
 };
 // clang-format on
 

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+// What dabs leave in a layer of the OpenGL surface, against the reference.
+#include <epoxy/gl.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+#include "GLSurface/GLSurface.h"
+#include "support/DabReference.h"
+#include "support/Named.h"
+
+using namespace dabcanvas;
+
+namespace {
+
+constexpr Size kSize{72, 56};
+constexpr RgbType kOrange{1, 128 / 255.0f, 26 / 255.0f};
+
+Dab dabAt(float x, float y, float width) {
+    return {.x = x,
+            .y = y,
+            .halfSize = width / 2,
+            .radian = 0,
+            .roundness = 1,
+            .flipX = 1,
+            .flipY = 1,
+            .flow = 1,
+            .color = kOrange,
+            .random = 0,
+            .tip = 0};
+}
+
+// Premultiplied RGBA by the place in the picture, -1..1 each way.
+template <typename PixelAt>
+Picture pictureOf(const Size& size, PixelAt&& pixelAt) {
+    auto bytes = std::make_shared<std::vector<std::uint8_t>>();
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) {
+            const reference::Colour pixel =
+                pixelAt((x + 0.5) * 2 / size.width - 1, (y + 0.5) * 2 / size.height - 1);
+            for (const double channel : pixel) {
+                bytes->push_back(static_cast<std::uint8_t>(channel * 255 + 0.5));
+            }
+        }
+    }
+    return {PixelView::topRowFirst(bytes->data(), size), 1, bytes};
+}
+reference::Colour softDisc(double x, double y) {
+    const double distance = std::min(std::hypot(x, y), 1.0);
+    return {0, 0, 0, (1 - distance) * (1 - distance)};
+}
+reference::Colour square(double, double) {
+    return {0, 0, 0, 1};
+}
+// Lopsided, and of every colour.
+reference::Colour motley(double x, double y) {
+    const double alpha = x + y < 0.4 ? 0.5 + 0.5 * x * x : 0.1;
+    return {alpha * (x > 0 ? 1 : 0.2), alpha * (y + 1) / 2, x < -0.5 ? 0 : alpha * 0.7, alpha};
+}
+reference::Colour grain(double x, double y) {
+    const double value = 0.5 + 0.5 * std::sin(9 * x + 2) * std::cos(7 * y);
+    return {value, value, value * value, 1};
+}
+
+struct Scene : Named {
+    std::vector<Dab> dabs;
+    DabStyle style;
+};
+
+std::shared_ptr<const TipSet> tipsOf(TipSet tips) {
+    return std::make_shared<const TipSet>(std::move(tips));
+}
+
+Scene scene(const char* name, std::vector<Dab> dabs, TipSet tips = {pictureOf({64, 64}, softDisc)}) {
+    Scene made{{name}, std::move(dabs), {}};
+    made.style.tips = tipsOf(std::move(tips));
+    return made;
+}
+Scene onPaper(const char* name, const Size& paper, float scale) {
+    Scene made = scene(name, {dabAt(36, 28, 70)}, {pictureOf({8, 8}, square)});
+    made.style.paper = std::make_shared<const Picture>(pictureOf(paper, grain));
+    made.style.paperScale = scale;
+    return made;
+}
+Dab turned(Dab dab, float radian, float roundness, bool mirrored = false) {
+    dab.radian = radian;
+    dab.roundness = roundness;
+    dab.flipX = mirrored ? -1.0f : 1.0f;
+    return dab;
+}
+
+std::vector<Scene> scenes() {
+    const TipSet soft{pictureOf({64, 64}, softDisc)}, block{pictureOf({300, 100}, square)},
+        odd{pictureOf({100, 37}, motley)};
+    std::vector<Scene> all;
+    std::vector<Dab> small;
+    for (int i = 0; i < 12; ++i) {
+        const auto f = static_cast<float>(i);
+        small.push_back(dabAt(5 + f * 5.13f, 6 + f * 3.7f, 0.5f + f * 0.4f));
+        small.push_back(turned(dabAt(60 - f * 4.7f, 5 + f * 3.9f, 0.7f + f * 0.6f), f * 0.7f, 0.3f));
+    }
+    all.push_back(scene("Small", small, odd));
+    all.push_back(
+        scene("Squeezed", {turned(dabAt(20.3f, 20.6f, 8), 0, 0.3f), turned(dabAt(50, 30, 8), 0.9f, 0.3f)}));
+    all.push_back(scene("Thread", {turned(dabAt(36, 28, 60), 0.3f, 0.003f)}, block));
+    all.push_back(scene("TurnedBlock", {turned(dabAt(36.2f, 28.1f, 40), 0.4f, 1)}, block));
+    all.push_back(scene("TexelOnPixel", {dabAt(36, 28, 32)}, {pictureOf({32, 32}, motley)}));
+    all.push_back(scene("MirroredAndTurned", {turned(dabAt(36.7f, 27.2f, 45), 2.2f, 0.7f, true)}, odd));
+    all.push_back(scene("Enlarged", {turned(dabAt(30, 20, 150), 0.2f, 1)}, {pictureOf({5, 3}, motley)}));
+    all.push_back(scene("OverTheEdge", {dabAt(0, 0, 30), dabAt(71.5f, 55.5f, 9), dabAt(-40, 20, 20)}));
+    all.push_back(scene("ManyTips", {}, {soft[0], block[0], {}, odd[0], pictureOf({1, 1}, square)}));
+    for (std::uint32_t tip = 0; tip < 5; ++tip) {
+        if (tip != 2) {
+            all.back().dabs.push_back(dabAt(9 + static_cast<float>(tip) * 13, 25, 11.5f));
+            all.back().dabs.back().tip = tip;
+        }
+    }
+    all.push_back(scene("Multicolour", {turned(dabAt(20, 25, 33), 0.5f, 0.8f), dabAt(50, 30, 6)}, odd));
+    all.back().style.multicolour = true;
+    all.back().style.hueTingle = all.back().style.saturationTingle = all.back().style.brightnessTingle = 0.4f;
+    all.back().dabs[0].random = 0.37f;
+    all.push_back(onPaper("Paper", {100, 100}, 1));
+    all.push_back(onPaper("PaperEnlarged", {9, 7}, 4.3f));
+    all.push_back(onPaper("PaperReduced", {150, 90}, 0.21f));
+    return all;
+}
+
+class GLSurfaceDabsTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        _surface = GLSurface::make({kSize.width, kSize.height});
+        if (!_surface && std::getenv("DABCANVAS_REQUIRE_GL") == nullptr) {
+            GTEST_SKIP() << "no OpenGL here";
+        }
+        ASSERT_TRUE(_surface);
+        _scope.emplace(*_surface);
+        ASSERT_TRUE(*_scope);
+    }
+
+    // The line layer, rows from the top, 0..1.
+    std::vector<float> layer() {
+        std::vector<float> rows(pixelCount() * 4), upright(rows.size());
+        _surface->context().beginRenderForType(ESRenderTypeLine);
+        glReadPixels(0, 0, kSize.width, kSize.height, GL_RGBA, GL_FLOAT, rows.data());
+        const std::size_t row = static_cast<std::size_t>(kSize.width) * 4;
+        for (std::size_t y = 0; y < static_cast<std::size_t>(kSize.height); ++y) {
+            std::copy_n(&rows[(static_cast<std::size_t>(kSize.height) - 1 - y) * row], row,
+                        &upright[y * row]);
+        }
+        return upright;
+    }
+    static std::size_t pixelCount() {
+        return static_cast<std::size_t>(kSize.width) * static_cast<std::size_t>(kSize.height);
+    }
+    static std::vector<double> expected(const Scene& scene) {
+        std::vector<TipImage> tips;
+        for (const Picture& tip : *scene.style.tips) {
+            tips.push_back(tipImageOf(tip, mostTipSide(scene.style.tips->size()), scene.style.multicolour));
+        }
+        const PaperImage paper = scene.style.paper ? paperImageOf(*scene.style.paper) : PaperImage{};
+        std::vector<double> layer(pixelCount() * 4, 0);
+        reference::draw(layer, kSize, scene.dabs, tips, scene.style.paper ? &paper : nullptr, scene.style);
+        return layer;
+    }
+
+    std::unique_ptr<GLSurface> _surface;
+    std::optional<SurfaceScope> _scope;
+};
+
+// How far the layer may be from the reference, in steps of 8 bits.
+constexpr double kNear = 1;
+
+class GLSurfaceSceneTest : public GLSurfaceDabsTest, public ::testing::WithParamInterface<Scene> {};
+TEST_P(GLSurfaceSceneTest, IsWhatTheReferenceDraws) {
+    const Rect touched = _surface->draw(PaintLayer::line, GetParam().dabs, GetParam().style);
+    const std::vector<float> drawn = layer();
+    const std::vector<double> ideal = expected(GetParam());
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        const int x = static_cast<int>(i / 4) % kSize.width, y = static_cast<int>(i / 4) / kSize.width;
+        ASSERT_TRUE(drawn[i] == 0 || touched.contains({x, y, 1, 1})) << x << ", " << y;
+        ASSERT_LE(std::fabs(drawn[i] - ideal[i]) * 255, kNear) << x << ", " << y << ", channel " << i % 4;
+    }
+    EXPECT_GT(*std::max_element(drawn.begin(), drawn.end()), 0.1f);
+}
+INSTANTIATE_TEST_SUITE_P(Scenes, GLSurfaceSceneTest, ::testing::ValuesIn(scenes()), byName);
+
+}  // namespace
