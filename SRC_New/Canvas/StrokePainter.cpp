@@ -8,6 +8,7 @@
 #include <random>
 #include <utility>
 
+#include "Dabs/DabBounds.h"
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPStroke.h"
 #include "Recognition/ShapeDabs.h"
@@ -204,16 +205,20 @@ Rect StrokePainter::drawSome(std::span<const LPPoint> points, DrawTarget target)
         return _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
     }
     _made.clear();
-    maker.make(points.data(), points.size(), [&](const Dab& dab) { _made.push_back(dab); });
-    _clock.stats.dabs += _made.size();
-    switch (target) {
-        case DrawTarget::line:
-            return _layers.draw(PaintLayer::line, _made, _brush.style());
-        case DrawTarget::subLine:
-            return _layers.draw(PaintLayer::subLine, _made, _brush.subStyle());
-        default:
-            return _layers.drawOnPicture(_made, _brush.subStyle());
-    }
+    DabBounds bounds{static_cast<double>(_layers.size().width), static_cast<double>(_layers.size().height)};
+    maker.make(points.data(), points.size(), [&](const Dab& dab) {
+        ++_clock.stats.dabs;
+        // A stroke may leave the picture and be far off for a million dabs.
+        if (bounds.grow(dab)) {
+            _made.push_back(dab);
+        }
+    });
+    const Rect drawn = target == DrawTarget::line ? _layers.draw(PaintLayer::line, _made, _brush.style())
+                       : target == DrawTarget::subLine
+                           ? _layers.draw(PaintLayer::subLine, _made, _brush.subStyle())
+                           : _layers.drawOnPicture(_made, _brush.subStyle());
+    // Of all dabs: what lies between two of them counts as touched.
+    return drawn.isEmpty() && !_made.empty() ? Rect() : bounds.pixelsOnBuffer();
 }
 
 Rect StrokePainter::drawPoints(std::span<const LPPoint> points, DrawTarget target) {
