@@ -338,7 +338,7 @@ void QDDrawCanvas::Parts::clear(const ESColor& color) {
 
 void QDDrawCanvas::Parts::clearPicture(const ESColor& color) {
     const Host::Call call(host);
-    if (isLost()) {
+    if (!finishPreview() || isLost()) {
         return;
     }
     settleSketch();
