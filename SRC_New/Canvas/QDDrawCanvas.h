@@ -236,9 +236,8 @@ public:
 
     // What paint lies in. A SurfaceScope of it, held while many strokes are entered, is cheaper than one for every call.
     dabcanvas::PaintSurface& surface();
-    dabcanvas::GLSurface*
-    glSurface();             // for hosts that draw with OpenGL themselves; null where this does not
-    QString rendererName();  // what draws, in words
+    dabcanvas::GLSurface* glSurface();  // for hosts that draw with OpenGL themselves; null without
+    QString rendererName();             // what draws, in words
 
     // ---- Pointer events
     // What a display tells of its devices. A stroke belongs to the kind of device that began it: while a finger draws,
