@@ -90,7 +90,7 @@ struct BrushProperty {
     DabsOf dabs = kMain | kSmudge;
     const char* about = "";  // one sentence for a person choosing a brush
 
-    BrushValueType type() const { return static_cast<BrushValueType>(field.index()); }
+    constexpr BrushValueType type() const { return static_cast<BrushValueType>(field.index()); }
 };
 
 // All properties, in BrushKey order.

@@ -7,7 +7,7 @@
 //
 // The columns are those of BrushProperty, in its order; a column left out takes its default there. Rows stand in the
 // order in which presets are captured. A property of a new name needs a row here, and the code that uses it; one that
-// dabs use, a field of DabSettings too; one with a reset value, its place in the order of BrushState::reset().
+// dabs use, a field of DabSettings too; one with a reset value, its place in kResetOrder of BrushState+Reset.cpp.
 //
 // Included by whoever defines BRUSH_PROPERTY for what it makes of the rows; for anyone else it is empty.
 // clang-format off

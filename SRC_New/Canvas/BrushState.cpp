@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kSmudgeBrush = 3;
 constexpr char kDefaultTip[] = "Texture.bundle/PS_brush_11.png";
-constexpr char kSoftRound[] = "Texture.bundle/柔角 30 1.png";
 constexpr float kMostCopies = 1e6f;  // far above what is drawn; keeps the cast to an integer defined
 
 std::uint32_t wholeCount(float value) {
@@ -59,22 +58,6 @@ bool isFinite(const BrushValue& value) {
 
 QImage resourceImage(const char* name) {
     return imageNamed(QString::fromUtf8(name));
-}
-
-BrushValue resetValue(const BrushProperty& row) {
-    const float value = row.reset.value_or(0);
-    switch (row.type()) {
-        case BrushValueType::boolean:
-            return value != 0;
-        case BrushValueType::integer:
-            return static_cast<int>(value);
-        case BrushValueType::control:
-            return LPControlParams{value, value, value};
-        case BrushValueType::image:
-            return row.key == BrushKey::slTextureImage ? resourceImage(kSoftRound) : QImage();
-        default:
-            return value;
-    }
 }
 
 RgbType colorOf(const ESColor& color) {
@@ -324,81 +307,6 @@ StrokeKind BrushState::kindAfter(BrushKey key, const BrushValue& value) const {
 
 bool BrushState::isMasked() const {
     return _settings.repeatedlyRenderEnabled && _settings.brushType != kSmudgeBrush;
-}
-
-// ---- Back to the defaults
-
-void BrushState::reset() {
-    using K = BrushKey;
-    // Some setters act on others, so the order counts.
-    static constexpr BrushKey kOrder[] = {
-        K::brushType,
-        K::blendType,
-        K::moistQuantity,
-        K::loadQuantity,
-        K::mixQuantity,
-        K::colorFul,
-        K::opacity,
-        K::flow,
-        K::textureType,
-        K::hardness,
-        K::radius,
-        K::flipX,
-        K::flipY,
-        K::radian,
-        K::roundness,
-        K::pointsDistanceEnabled,
-        K::pointsDistance,
-        K::radiusTingle,
-        K::radiusControl,
-        K::minRadius,
-        K::sensitivity,
-        K::speedSencitive,
-        K::startRadius,
-        K::strokeControlValue,
-        K::endRadius,
-        K::trackNum,
-        K::radianTingle,
-        K::radianControl,
-        K::roundnessTingle,
-        K::roundnessControl,
-        K::minRoundness,
-        K::flipXTingle,
-        K::flipYTingle,
-        K::disTwoAxes,
-        K::distribution,
-        K::distributionControl,
-        K::distributionCount,
-        K::distributionCountTingle,
-        K::distributionCountControl,
-        K::textureTingleEnabled,
-        K::textureControl,
-        K::needMaskTexture,
-        K::maskScale,
-        K::maskImage,
-        K::repeatedlyRenderEnabled,
-        K::slTextureImage,
-        K::slRadius,
-        K::slPointsDistance,
-        K::slDistribution,
-        K::slDistbTwoAxes,
-        K::slDistbCount,
-        K::slRadiusRelationType,
-        K::relationValue,
-        K::colorTingle,
-        K::colorControl,
-        K::hueTingle,
-        K::saturationTingle,
-        K::brightnessTingle,
-        K::flowTingle,
-        K::flowControl,
-        K::decay,
-        K::minFlow,
-        K::smoothEnabled,
-    };
-    for (const BrushKey key : kOrder) {
-        set(key, resetValue(brushProperty(key)));
-    }
 }
 
 // ---- What strokes are made from

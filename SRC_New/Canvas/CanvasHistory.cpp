@@ -46,14 +46,14 @@ QByteArray CanvasHistory::load(bool sketching) {
 }
 
 QByteArray CanvasHistory::reset() {
-    ImagesUndoManager& steps = images(false);
     const QByteArray data = _record.snapshot(kResetLine);
     if (data.isNull()) {
-        if (!_layers.surface().isLost()) {
-            steps.resetWithImageDataOfCurrentItem(steps.currentImageDataOfItem());
+        if (_images != nullptr && !_layers.surface().isLost()) {
+            _images->resetWithImageDataOfCurrentItem(_images->currentImageDataOfItem());
         }
         return {};
     }
+    ImagesUndoManager& steps = images(false);
     noteRecorded(data);
     steps.resetWithImageDataOfCurrentItem(data);
     return data;
@@ -70,8 +70,8 @@ QByteArray CanvasHistory::record() {
     if (!_layers.edits.edited || _layers.surface().isLost()) {
         return {};
     }
-    ImagesUndoManager& steps = images(false);
     _lastMark = steadySeconds();
+    // Before there is a history: a new one records the canvas as it was made, which no sketch is to be taken back to.
     const QByteArray data = _record.snapshot(kMarkLine);
     if (data.isNull()) {
         if (!_layers.surface().isLost()) {
@@ -79,6 +79,7 @@ QByteArray CanvasHistory::record() {
         }
         return {};
     }
+    ImagesUndoManager& steps = images(false);
     noteRecorded(data);
     steps.addItemWithImageData(data);
     return data;
@@ -112,11 +113,11 @@ bool CanvasHistory::recordUnrecorded() {
     if (!_layers.edits.edited) {
         return true;
     }
-    ImagesUndoManager& steps = images(false);
-    if (steps.processCount() != 0 || record().isNull()) {
+    if ((_images != nullptr && _images->processCount() != 0) || record().isNull()) {
         return false;  // undo() would be refused in any case
     }
-    steps.waitForWrites();  // of an older step that gave way to this one: undo() must not be refused for that
+    _images
+        ->waitForWrites();  // of an older step that gave way to this one: undo() must not be refused for that
     return true;
 }
 

@@ -141,6 +141,18 @@ void PointerGate::startProcess() {
     _lastProcessTime = steadySeconds();
 }
 
+// The last of a device's pointer: its own stroke, unless the other one draws, ends as `how` says.
+template <typename How>
+void PointerGate::finish(bool& own, bool other, How&& how) {
+    const Alive alive(_life);
+    if (own && !other) {
+        how();
+    }
+    if (alive) {
+        own = false;
+    }
+}
+
 // ---- Touch, refused while a mouse or pen draws
 
 void PointerGate::touchBegan(QPointF point, float pressure) {
@@ -160,23 +172,11 @@ void PointerGate::touchMoved(QPointF point, float pressure) {
 }
 
 void PointerGate::touchEnded(QPointF point, float pressure) {
-    const Alive alive(_life);
-    if (!digitPenMoving && normalMoing) {
-        end(point, pressure);
-    }
-    if (alive) {
-        normalMoing = false;
-    }
+    finish(normalMoing, digitPenMoving, [&] { end(point, pressure); });
 }
 
 void PointerGate::touchCancelled(QPointF point, float pressure) {
-    const Alive alive(_life);
-    if (!digitPenMoving && normalMoing) {
-        cancel(point, pressure);
-    }
-    if (alive) {
-        normalMoing = false;
-    }
+    finish(normalMoing, digitPenMoving, [&] { cancel(point, pressure); });
 }
 
 // ---- Mouse and pen, refused while a finger draws
@@ -200,13 +200,7 @@ void PointerGate::mouseDragged(QPointF point, float pressure) {
 
 // Deliberate: the cancel path, not the end path. A stroke long enough is finished there all the same.
 void PointerGate::mouseUp(QPointF point, float pressure) {
-    const Alive alive(_life);
-    if (!normalMoing && digitPenMoving) {
-        cancel(point, pressure);
-    }
-    if (alive) {
-        digitPenMoving = false;
-    }
+    finish(digitPenMoving, normalMoing, [&] { cancel(point, pressure); });
 }
 
 // ---- What the display does to a pointer's stroke

@@ -66,6 +66,8 @@ private:
 
     void leave(QPointF point, float pressure, bool withdraw);
     void startProcess();
+    template <typename How>
+    void finish(bool& own, bool other, How&& how);
 
     StrokeEntry& _entry;
     const Canvas& _canvas;

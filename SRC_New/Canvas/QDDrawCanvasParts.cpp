@@ -125,7 +125,7 @@ void QDDrawCanvas::Parts::strokeEnded(const StrokeSample& sample, bool online) {
     } else if (kind() == StrokeKind::preview) {
         preview->drawWithEnd(sample.place);  // which places the stroke, later
     } else {
-        showDrawn(painter.end(sample), online);
+        showDrawn(painter.end(sample, entry.lastSample().place), online);
         finishStroke(true);
     }
 }
@@ -338,7 +338,7 @@ void QDDrawCanvas::Parts::clear(const ESColor& color) {
 
 void QDDrawCanvas::Parts::clearPicture(const ESColor& color) {
     const Host::Call call(host);
-    if (isLost()) {
+    if (!finishPreview() || isLost()) {
         return;
     }
     settleSketch();

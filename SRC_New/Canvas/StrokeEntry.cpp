@@ -9,8 +9,6 @@
 namespace dabcanvas {
 namespace {
 
-constexpr float kClosest = 1.0f;  // buffer pixels
-
 float distanceOf(QPointF a, QPointF b) {
     const auto dx = static_cast<float>(a.x() - b.x());
     const auto dy = static_cast<float>(a.y() - b.y());

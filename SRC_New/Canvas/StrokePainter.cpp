@@ -8,6 +8,7 @@
 #include <random>
 #include <utility>
 
+#include "Dabs/DabBounds.h"
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPStroke.h"
 #include "Recognition/ShapeDabs.h"
@@ -15,7 +16,6 @@
 namespace dabcanvas {
 namespace {
 
-constexpr double kClosest = 1.0;  // buffer pixels
 // The dabs of so many points, up to 64 each, are made before they are drawn.
 constexpr std::size_t kMostPoints = 1024;
 
@@ -86,7 +86,6 @@ DrawTarget StrokePainter::mainTarget() const {
 void StrokePainter::begin(const StrokeSample& sample) {
     _hasMoved = false;
     _isRefused = !_layers.prepare(mainTarget() == DrawTarget::smudge ? PaintLayer::smudge : PaintLayer::line);
-    _last = sample.place;
     if (_brush.isMasked()) {
         startSubLine(sample);
     }
@@ -130,26 +129,25 @@ StrokePainter::Run StrokePainter::appendToLine(LPLineParams& record, const Strok
 }
 
 std::optional<Rect> StrokePainter::extend(const StrokeSample& sample) {
-    return addSample(sample, false);
+    return addSample(sample, false, true);
 }
 
-std::optional<Rect> StrokePainter::end(const StrokeSample& sample) {
-    return addSample(sample, true);
+std::optional<Rect> StrokePainter::end(const StrokeSample& sample, QPointF before) {
+    // Deliberate: a final sub-line run too close to the last point is left out; the main line's never is.
+    return addSample(sample, true, !isNear(sample.place, before));
 }
 
-std::optional<Rect> StrokePainter::addSample(const StrokeSample& sample, bool end) {
+std::optional<Rect> StrokePainter::addSample(const StrokeSample& sample, bool end, bool subLineToo) {
     if (_isRefused) {
         return std::nullopt;
     }
     const LineScope scope(*this);
     ++_clock.stats.samples;
-    const QPointF before = std::exchange(_last, end ? _last : sample.place);
     const bool isFirst = !std::exchange(_hasMoved, true);
     std::optional<Rect> touched;
     if (_brush.isMasked()) {
         const Run run = appendToLine(_brush.subLine(), sample, end);
-        // Deliberate: a final sub-line run too close to the last point is left out; the main line's never is.
-        if (run.count > 0 && !(end && isNear(sample.place, before))) {
+        if (run.count > 0 && subLineToo) {
             touched = drawRun(run.from(0), DrawTarget::subLine);
         }
     }
@@ -204,16 +202,20 @@ Rect StrokePainter::drawSome(std::span<const LPPoint> points, DrawTarget target)
         return _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
     }
     _made.clear();
-    maker.make(points.data(), points.size(), [&](const Dab& dab) { _made.push_back(dab); });
-    _clock.stats.dabs += _made.size();
-    switch (target) {
-        case DrawTarget::line:
-            return _layers.draw(PaintLayer::line, _made, _brush.style());
-        case DrawTarget::subLine:
-            return _layers.draw(PaintLayer::subLine, _made, _brush.subStyle());
-        default:
-            return _layers.drawOnPicture(_made, _brush.subStyle());
-    }
+    DabBounds bounds{static_cast<double>(_layers.size().width), static_cast<double>(_layers.size().height)};
+    maker.make(points.data(), points.size(), [&](const Dab& dab) {
+        ++_clock.stats.dabs;
+        // A stroke may leave the picture and be far off for a million dabs.
+        if (bounds.grow(dab)) {
+            _made.push_back(dab);
+        }
+    });
+    const Rect drawn = target == DrawTarget::line ? _layers.draw(PaintLayer::line, _made, _brush.style())
+                       : target == DrawTarget::subLine
+                           ? _layers.draw(PaintLayer::subLine, _made, _brush.subStyle())
+                           : _layers.drawOnPicture(_made, _brush.subStyle());
+    // Of all dabs: what lies between two of them counts as touched.
+    return drawn.isEmpty() && !_made.empty() ? Rect() : bounds.pixelsOnBuffer();
 }
 
 Rect StrokePainter::drawPoints(std::span<const LPPoint> points, DrawTarget target) {

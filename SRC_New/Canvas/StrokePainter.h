@@ -26,6 +26,9 @@ struct StrokeSample {
     float pressure = -1, altitude = -1;
 };
 
+// Samples that are nearer to each other are as good as one; buffer pixels.
+inline constexpr float kClosest = 1.0f;
+
 // What runs of points are drawn into; the values are ESRenderType's.
 enum class DrawTarget : std::uint8_t { picture, line, subLine, smudge };
 
@@ -41,7 +44,8 @@ public:
     // Draws what the sample adds to the layers. Returns the touched area, which may be empty; none where there were no
     // new dabs.
     std::optional<Rect> extend(const StrokeSample& sample);
-    std::optional<Rect> end(const StrokeSample& sample);
+    // `before`: the place of the sample before.
+    std::optional<Rect> end(const StrokeSample& sample, QPointF before);
     // The second line begins at this sample, in mid-stroke too.
     void startSubLine(const StrokeSample& sample);
     // The dabs to come are no continuation of those before: no direction leads from one to the next.
@@ -69,7 +73,7 @@ private:
     DrawTarget mainTarget() const;
     void startLine(LPLineParams& record, const StrokeSample& sample);
     Run appendToLine(LPLineParams& record, const StrokeSample& sample, bool end);
-    std::optional<Rect> addSample(const StrokeSample& sample, bool end);
+    std::optional<Rect> addSample(const StrokeSample& sample, bool end, bool subLineToo);
     Rect drawRun(std::span<const LPPoint> points, DrawTarget target);
     Rect drawSome(std::span<const LPPoint> points, DrawTarget target);
     Rect drawRuns(const std::vector<std::vector<LPPoint>>& runs, DrawTarget target);
@@ -82,7 +86,6 @@ private:
     std::vector<Dab> _made;  // of the present run
     std::vector<SmudgeDab> _madeSmudges;
 
-    QPointF _last;            // sample before
     bool _isRefused = false;  // there is no memory for a layer of it: nothing of the stroke is drawn
     bool _hasMoved = false;   // the first move of the stroke was taken
     LPSharedState _state;     // this canvas's copy of what the line process keeps for a thread

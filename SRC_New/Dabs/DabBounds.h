@@ -20,12 +20,16 @@ struct DabBounds {
         return dab.radian != 0 ? turned(extent, dab.radian) : extent;
     }
 
-    void grow(const Dab& dab) {
+    // False for a dab of which no pixel lies on the buffer.
+    bool grow(const Dab& dab) {
         const Extent extent = extentOf(dab);
-        minX = (std::min)(minX, dab.x - extent.width - 1);
-        minY = (std::min)(minY, dab.y - extent.height - 1);
-        maxX = (std::max)(maxX, dab.x + extent.width + 1);
-        maxY = (std::max)(maxY, dab.y + extent.height + 1);
+        const double left = dab.x - extent.width - 1, right = dab.x + extent.width + 1;
+        const double top = dab.y - extent.height - 1, bottom = dab.y + extent.height + 1;
+        minX = (std::min)(minX, left);
+        minY = (std::min)(minY, top);
+        maxX = (std::max)(maxX, right);
+        maxY = (std::max)(maxY, bottom);
+        return !(right <= 0 || bottom <= 0 || left >= bufferWidth || top >= bufferHeight);
     }
 
     // The part of it that lies on the buffer; sizes are 0 where none does.

@@ -17,6 +17,7 @@
 namespace dabcanvas {
 namespace {
 
+constexpr std::int64_t kLargePixels = 1 << 24;  // 64 MiB a layer
 // Filtering between the smudge layer's resolution and the picture's reaches this far, in buffer pixels.
 constexpr int kSmudgeReach = 4;
 constexpr GLenum kLineUnit = GL_TEXTURE4, kSubLineUnit = GL_TEXTURE5, kSmudgeUnit = GL_TEXTURE7;
@@ -90,19 +91,33 @@ bool GLSurface::makeRenders() {
 // Drivers finish compiling when a program first draws, which would make the first segment of the first stroke late. So
 // each draws once where nothing is.
 void GLSurface::warmUp() {
-    const LPPoint outside{{-100, -100}, 1, {1, 1, 1}};
-    _context->beginRenderForType(ESRenderTypeLine);
-    _context->setBlendModelForType(ESRenderTypeLine);
-    _line.render->drawPoints(&outside, 1);
+    drawOutside(ESRenderTypeLine);
     _context->beginRenderForType(ESRenderTypeCanvas);
     blend({-100, -100, 1, 1}, ESBlendTypeNormal, 1, false);
     _context->finishRender();
+}
+
+void GLSurface::drawOutside(ESRenderType target) {
+    const LPPoint outside{{-100, -100}, 1, {1, 1, 1}};
+    _context->beginRenderForType(target);
+    _context->setBlendModelForType(ESRenderTypeLine);
+    _line.render->drawPoints(&outside, 1);
+    _context->finishRender();
+}
+
+// What is deleted is worth making the driver give it back at once.
+bool GLSurface::isLarge() const {
+    return Rect::of(size()).area() >= kLargePixels;
 }
 
 GLSurface::~GLSurface() {
     const std::lock_guard lock(_gl->use);
     const ESCurrentScope current(&_gl->view());  // be it lost or not
     // Each goes while the context is current. Without it, deleting their names would hit the host's; they go with it.
+    const bool letsGo = current && isLarge() && _line.render;
+    if (letsGo) {
+        drawOutside(ESRenderTypeCanvas);  // the last draw names no layer, and no background
+    }
     const auto release = [&](auto& render) {
         current ? render.reset() : static_cast<void>(render.release());
     };
@@ -111,6 +126,9 @@ GLSurface::~GLSurface() {
         release(of->render);
     }
     _context.reset();
+    if (letsGo && _gl.use_count() > 1) {
+        _gl->dropDeleted();  // with the last surface the context goes
+    }
 }
 
 bool GLSurface::enter() {
@@ -209,6 +227,7 @@ void GLSurface::trim() {
     if (!_lineHolds.isEmpty() || !_subLineHolds.isEmpty()) {
         return;
     }
+    drawOutside(ESRenderTypeCanvas);
     _compositor->setLineTextureID(0, kLineUnit);
     _compositor->setSubLineTextureID(0, kSubLineUnit);
     _smudge.render.reset();
@@ -216,6 +235,9 @@ void GLSurface::trim() {
     _smudgeStale = Rect::of(size());
     for (const ESRenderType type : {ESRenderTypeLine, ESRenderTypeSubLine, ESRenderTypeSmudge}) {
         _context->releaseTarget(type);
+    }
+    if (isLarge()) {
+        _gl->dropDeleted();
     }
 }
 

@@ -70,6 +70,7 @@ private:
     GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique_ptr<ESContext> context);
     bool makeRenders();
     void warmUp();
+    void drawOutside(ESRenderType target);
     ESSmudgeRender* smudgeRender();
     void warmUpSmudging();
 
@@ -82,6 +83,7 @@ private:
     Rect drawInto(ESRenderType target, DabRender& with, std::span<const Dab> dabs, const DabStyle& style);
     void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked);
     void showSmudges(const Rect& rect, float opacity);
+    bool isLarge() const;
     void noteChanged(PictureId picture, const Rect& rect);
 
     std::shared_ptr<ThreadGL> _gl;

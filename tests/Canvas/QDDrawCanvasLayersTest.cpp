@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QFile>
 #include <algorithm>
 #include <limits>
 #include <random>
@@ -43,6 +44,31 @@ TEST_F(CanvasLayersTest, AStrokeWithoutMemoryForItsLayerIsRefused) {
         EXPECT_NE(canvas->image(), before) << "there is memory again";
     }
 }
+
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+// Looked at where a driver's textures lie in the process's own memory.
+TEST_F(CanvasLayersTest, TheMemoryOfLayersAndCanvasesComesBack) {
+    const auto small = makeCanvas();
+    auto large = makeCanvas(4096, 4096);
+    if (!large->rendererName().contains(QLatin1String("llvmpipe"))) {
+        return;
+    }
+    paintWave(*large, 2000, 40);
+    const auto residentMiB = [] {
+        QFile status(QStringLiteral("/proc/self/statm"));
+        EXPECT_TRUE(status.open(QIODevice::ReadOnly));
+        return status.readAll().split(' ').at(1).toLongLong() * 4096 / (1 << 20);
+    };
+    const qint64 before = residentMiB();
+    {
+        const dabcanvas::SurfaceScope scope(large->surface());
+        large->surface().trim();
+    }
+    EXPECT_LT(residentMiB(), before - 50) << "of a line layer of 64";
+    large.reset();
+    EXPECT_LT(residentMiB(), before - 3 * 50);
+}
+#endif
 
 // Withdrawing and backgrounds
 

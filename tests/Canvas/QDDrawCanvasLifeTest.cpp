@@ -319,4 +319,20 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
     }
 }
 
+// In another context, whatever becomes of the lost one.
+TEST_F(CanvasLifeTest, ACanvasCanBeMadeBesideALostOneOfItsThread) {
+    auto lost = makeCanvas(80, 60);
+    const FailingDriver driver(FailingDriver::Fault::lostContext);
+    EXPECT_TRUE(lost->image().isNull());
+    auto fresh = makeCanvas(80, 60);
+    for (const bool beside : {true, false}) {
+        fresh->clear();
+        paintWave(*fresh, 20, 12);
+        EXPECT_FALSE(fresh->isContextLost());
+        EXPECT_FALSE(painted(fresh->image()).isEmpty()) << beside;
+        EXPECT_TRUE(!lost || lost->image().isNull());
+        lost.reset();
+    }
+}
+
 }  // namespace

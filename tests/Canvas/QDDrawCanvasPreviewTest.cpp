@@ -107,11 +107,13 @@ TEST_F(CanvasPreviewTest, ReachesTheCanvasInTheOrderOfStrokes) {
     EXPECT_EQ(canvas->image().pixelColor(70, 70), QColor(0, 0, 255));
 
     // A clear after the end clears the stroke, too; flow is its opacity.
-    useLeaf(*canvas);
-    begin(*canvas, QRectF(20, 20, 100, 100));
-    canvas->drawingWithEndPoint({20, 120});
-    canvas->clear();
-    EXPECT_TRUE(painted(canvas->image()).isEmpty());
+    for (const bool layersToo : {true, false}) {
+        useLeaf(*canvas);
+        begin(*canvas, QRectF(20, 20, 100, 100));
+        canvas->drawingWithEndPoint({20, 120});
+        layersToo ? canvas->clear() : canvas->clearESBufferOnline(true);
+        EXPECT_TRUE(painted(canvas->image()).isEmpty()) << layersToo;
+    }
     canvas->setFlow(0.5f);
     begin(*canvas, QRectF(20, 20, 100, 100));
     canvas->drawingWithEndPoint({20, 120});

@@ -3,12 +3,13 @@
 // One at a time; only for the thread that makes it.
 #pragma once
 
+#include <epoxy/egl.h>
 #include <epoxy/gl.h>
 
 class FailingDriver {
 public:
     enum class Fault {
-        lostContext,      // after a reset: every call is in vain, and the error never ends
+        lostContext,      // that asks first, after a reset: every call is in vain, and the error never ends
         noTextureMemory,  // for a texture's storage
         noUploadMemory,   // for pixels on their way into a texture
         noLevelMemory,    // for mip levels
@@ -19,8 +20,15 @@ public:
         _getError = epoxy_glGetError;
         switch (fault) {
             case Fault::lostContext:
-                epoxy_glGetError = [] { return GLenum{GL_CONTEXT_LOST}; };
-                epoxy_glReadPixels = [](GLint, GLint, GLsizei, GLsizei, GLenum, GLenum, void*) {};
+                _lost = EGL_NO_CONTEXT;
+                _readBack = epoxy_glReadPixels;
+                epoxy_glGetError = [] { return isLost() ? GLenum{GL_CONTEXT_LOST} : _getError(); };
+                epoxy_glReadPixels = [](GLint x, GLint y, GLsizei width, GLsizei height, GLenum format,
+                                        GLenum type, void* pixels) {
+                    if (!isLost()) {
+                        _readBack(x, y, width, height, format, type, pixels);
+                    }
+                };
                 return;
             case Fault::noTextureMemory:
                 epoxy_glTexImage2D = [](GLenum, GLint, GLint, GLsizei, GLsizei, GLint, GLenum, GLenum,
@@ -53,6 +61,14 @@ public:
     FailingDriver& operator=(const FailingDriver&) = delete;
 
 private:
+    static bool isLost() {
+        const EGLContext current = eglGetCurrentContext();
+        _lost = _lost == EGL_NO_CONTEXT ? current : _lost;
+        return current == _lost;
+    }
+
+    static inline EGLContext _lost = EGL_NO_CONTEXT;
+    static inline decltype(epoxy_glReadPixels) _readBack = nullptr;
     static inline GLenum _pending = GL_NO_ERROR;
     static inline decltype(epoxy_glGetError) _getError = nullptr;
     decltype(epoxy_glReadPixels) _readPixels = epoxy_glReadPixels;
