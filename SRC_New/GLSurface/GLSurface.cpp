@@ -271,7 +271,8 @@ void GLSurface::clear(PaintLayer layer, const Rect& rect) {
     if (smudge) {
         _smudgeStale = Rect::of(size());
     } else {
-        _context->scissorRect(QRectF(rect.x, rect.y, rect.width, rect.height));
+        glEnable(GL_SCISSOR_TEST);  // to the pixel, where scissorRect() leaves a margin
+        glScissor(rect.x, size().height - rect.bottom(), rect.width, rect.height);
         Rect& holds = layer == PaintLayer::line ? _lineHolds : _subLineHolds;
         if (rect.contains(holds)) {
             holds = {};

@@ -321,10 +321,10 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
 
 // In another context, whatever becomes of the lost one.
 TEST_F(CanvasLifeTest, ACanvasCanBeMadeBesideALostOneOfItsThread) {
-    auto lost = makeCanvas(80, 60);
+    auto lost = makeCanvas(80, 60, SurfaceKind::gpu);
     const FailingDriver driver(FailingDriver::Fault::lostContext);
     EXPECT_TRUE(lost->image().isNull());
-    auto fresh = makeCanvas(80, 60);
+    auto fresh = makeCanvas(80, 60, SurfaceKind::gpu);
     for (const bool beside : {true, false}) {
         fresh->clear();
         paintWave(*fresh, 20, 12);
