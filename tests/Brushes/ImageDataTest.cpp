@@ -37,7 +37,7 @@ TEST(ImageData, JpegShowsTransparentPartsAsWhitePaper) {
 
 TEST(ImageData, PngKeepsEveryPixelAndAFileIsReadByContentAtItsPixelSize) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("柔角@2x.jpg"));
+    const QString path = folder.filePath("柔角@2x.jpg");
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const QImage image = everyPremultipliedPair();
@@ -56,7 +56,7 @@ TEST(ImageData, FailureIsANullImageOrEmptyData) {
     EXPECT_TRUE(imageWithData({}).isNull());
     EXPECT_TRUE(imageWithData("neither PNG nor JPEG").isNull());
     EXPECT_TRUE(imageWithData(png.left(20)).isNull());
-    EXPECT_TRUE(imageWithContentsOfFile(QStringLiteral("no/such/file.png")).isNull());
+    EXPECT_TRUE(imageWithContentsOfFile("no/such/file.png").isNull());
     EXPECT_TRUE(dataOfPNGFile({}).isEmpty());
     EXPECT_TRUE(dataOfJPEGFile({}).isEmpty());
     EXPECT_TRUE(dataOfImageType(everyPremultipliedPair(), "no such format").isEmpty());

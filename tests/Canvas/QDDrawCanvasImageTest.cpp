@@ -57,23 +57,6 @@ protected:
 
 // Exact pixels
 
-TEST_F(CanvasImageTest, AWholeCanvasComesBackAsItWasSet) {
-    for (const QSize size : {QSize(641, 487), QSize(2500, 300), QSize(3000, 1100), QSize(1, 1)}) {
-        SCOPED_TRACE(size.width());
-        auto canvas = makeCanvas(size.width(), size.height());
-        const QRectF whole(QPointF(), size);
-        const QImage image = noise(size);
-        ASSERT_TRUE(canvas->setImage(image, whole));
-        EXPECT_TRUE(imagesMatch(canvas->image(), image));
-        EXPECT_TRUE(imagesMatch(canvas->displayImage(), image));
-        const QByteArray recorded = bytesOf(*canvas, whole);
-        EXPECT_EQ(recorded, bottomUp(image));
-        canvas->clear();
-        ASSERT_TRUE(canvas->setData(recorded, size, whole, true));
-        EXPECT_TRUE(imagesMatch(canvas->image(), image));
-    }
-}
-
 TEST_F(CanvasImageTest, EveryKindOfImageIsTakenForItsPixels) {
     auto canvas = makeCanvas();
     const QImage source = noise({43, 31});
@@ -99,37 +82,30 @@ TEST_F(CanvasImageTest, EveryKindOfImageIsTakenForItsPixels) {
     EXPECT_TRUE(imagesMatch(canvas->imageWithRect(QRectF(0, 0, 30, 31)), source.copy(2, 0, 30, 31)));
 }
 
-TEST_F(CanvasImageTest, PartsAreReadUprightAndBottomRowFirst) {
-    ShownCanvas canvas({211, 133}, {422, 399});
-    const QImage image = noise({211, 133});
-    ASSERT_TRUE(canvas.setImageInBufferRect(image, QRectF(0, 0, 211, 133)));
-    for (const QRect rect : {QRect(0, 0, 211, 133), QRect(17, 3, 50, 21), QRect(210, 132, 1, 1)}) {
-        const QRectF inView(rect.x() * 2, rect.y() * 3, rect.width() * 2, rect.height() * 3);
-        const QImage expected = image.copy(rect);
-        EXPECT_TRUE(imagesMatch(canvas.imageWithRect(inView), expected));
-        EXPECT_TRUE(imagesMatch(canvas.newCGImageWithRect(inView), expected));
-        QByteArray bytes = bytesOf(canvas, inView);
-        EXPECT_EQ(bytes, bottomUp(expected));
-        bytes.fill(0);
-        EXPECT_TRUE(canvas.readDataBufferRect(reinterpret_cast<unsigned char*>(bytes.data()), rect));
-        EXPECT_EQ(bytes, bottomUp(expected));
+TEST_F(CanvasImageTest, TheCanvasAndItsPartsComeBackAsTheyWereSet) {
+    for (const QSize size :
+         {QSize(211, 133), QSize(641, 487), QSize(2500, 300), QSize(3000, 1100), QSize(1, 1)}) {
+        SCOPED_TRACE(size.width());
+        ShownCanvas canvas(size, {size.width() * 2, size.height() * 3});
+        const QRect whole(QPoint(), size), part(whole.center(), whole.bottomRight());
+        const QImage image = noise(size);
+        ASSERT_TRUE(canvas.setImageInBufferRect(image, whole));
+        EXPECT_TRUE(imagesMatch(canvas.displayImage(), image));
+        for (const QRect rect : {whole, part}) {
+            const QRectF inView(rect.x() * 2, rect.y() * 3, rect.width() * 2, rect.height() * 3);
+            const QImage expected = image.copy(rect);
+            EXPECT_TRUE(imagesMatch(canvas.imageWithRect(inView), expected));
+            EXPECT_TRUE(imagesMatch(canvas.newCGImageWithRect(inView), expected));
+            QByteArray bytes = bytesOf(canvas, inView);
+            EXPECT_EQ(bytes, bottomUp(expected));
+            bytes.fill(0);
+            EXPECT_TRUE(canvas.readDataBufferRect(reinterpret_cast<unsigned char*>(bytes.data()), rect));
+            EXPECT_EQ(bytes, bottomUp(expected));
+        }
+        canvas.clear();
+        ASSERT_TRUE(canvas.setData(bottomUp(image), size, whole, true));
+        EXPECT_TRUE(imagesMatch(canvas.image(), image));
     }
-}
-
-TEST_F(CanvasImageTest, WhatReachesBeyondTheCanvasIsCutOff) {
-    const QImage large = noise({230, 171}, 2);
-    const QByteArray data = bottomUp(large);
-    const QRectF at(-19, -8, 230, 171);
-    const QImage expected = large.copy(19, 8, 200, 150);
-    auto canvas = makeCanvas();
-    ASSERT_TRUE(canvas->setImage(large, at));
-    EXPECT_TRUE(imagesMatch(canvas->displayImage(), expected));
-    canvas->clear();
-    ASSERT_TRUE(canvas->setData(data, large.size(), at));
-    EXPECT_TRUE(imagesMatch(canvas->displayImage(), expected));
-    canvas->clear();
-    ASSERT_TRUE(canvas->drawImage(large, at));
-    EXPECT_TRUE(imagesMatch(canvas->displayImage(), expected));
 }
 
 TEST_F(CanvasImageTest, DrawBlendsAndSetReplaces) {
@@ -139,13 +115,12 @@ TEST_F(CanvasImageTest, DrawBlendsAndSetReplaces) {
     EXPECT_TRUE(imagesMatch(canvas->image(), placedOn(before)));
     QImage over = before;
     QPainter(&over).drawImage(50, 60, part());
-    canvas = tintedCanvas();
-    ASSERT_TRUE(canvas->drawImage(part(), _at));
-    EXPECT_TRUE(imagesMatch(canvas->image(), over, 1));
-    const QImage drawn = canvas->image();
-    canvas = tintedCanvas();
-    ASSERT_TRUE(canvas->drawData(bottomUp(part()), {40, 24}, _at));
-    EXPECT_TRUE(imagesMatch(canvas->image(), drawn));
+    for (const bool asData : {false, true}) {
+        canvas = tintedCanvas();
+        ASSERT_TRUE(asData ? canvas->drawData(bottomUp(part()), {40, 24}, _at)
+                           : canvas->drawImage(part(), _at));
+        EXPECT_TRUE(imagesMatch(canvas->image(), over, 1));
+    }
 }
 
 TEST_F(CanvasImageTest, QuarterTurnsAreCounterClockwiseAndExact) {
@@ -245,27 +220,35 @@ TEST_F(CanvasImageTest, EnlargedAndReducedImagesKeepTheirColours) {
 
 // Units and settings
 
-TEST_F(CanvasImageTest, ViewPointsAreScaledAndBufferPixelsAreNot) {
+TEST_F(CanvasImageTest, ViewPointsAreScaledBufferPixelsAreNotAndWhatReachesBeyondIsCutOff) {
     ShownCanvas canvas({200, 150}, {400, 300});
-    const QImage expected = placedOn(solidImage({200, 150}));
-    const QSize size = part().size();
-    const QPointF centre(70, 72);
-    const QByteArray data = bottomUp(part());
-    const std::function<bool()> kForms[] = {
-        [&] { return canvas.drawImage(part(), QRectF(100, 120, 80, 48)); },
-        [&] { return canvas.setData(data, size, size * 2, centre * 2, 0); },
-        [&] { return canvas.drawData(data, size, _at, true); },
-        [&] { return canvas.setImage(part(), size, centre, 0, true); },
-        [&] { return canvas.setImageInBufferRect(part(), _at); },
-    };
-    for (const auto& form : kForms) {
-        canvas.clear();
-        EXPECT_EQ(canvas.drawRect(), QRectF());
-        canvas.redisplayed.clear();
-        EXPECT_TRUE(form());
-        EXPECT_EQ(canvas.redisplayedArea(), QRectF(0, 0, 400, 300));
-        EXPECT_EQ(canvas.drawRect(), _at);
-        EXPECT_TRUE(imagesMatch(canvas.image(), expected));
+    const QImage large = noise({230, 171}, 2);
+    const struct {
+        QImage image;
+        QRectF at;  // of the buffer
+        QImage expected;
+    } rows[] = {{part(), _at, placedOn(solidImage({200, 150}))},
+                {large, QRectF(-19, -8, 230, 171), large.copy(19, 8, 200, 150)}};
+    for (const auto& [image, at, expected] : rows) {
+        const QSize size = image.size();
+        const QRectF inView(at.topLeft() * 2, at.size() * 2);
+        const QByteArray data = bottomUp(image);
+        const std::function<bool()> kForms[] = {
+            [&, &image = image] { return canvas.drawImage(image, inView); },
+            [&, &at = at] { return canvas.setData(data, size, size * 2, at.center() * 2, 0); },
+            [&, &at = at] { return canvas.drawData(data, size, at, true); },
+            [&, &image = image, &at = at] { return canvas.setImage(image, size, at.center(), 0, true); },
+            [&, &image = image, &at = at] { return canvas.setImageInBufferRect(image, at); },
+        };
+        for (const auto& form : kForms) {
+            canvas.clear();
+            EXPECT_EQ(canvas.drawRect(), QRectF());
+            canvas.redisplayed.clear();
+            EXPECT_TRUE(form());
+            EXPECT_EQ(canvas.redisplayedArea(), QRectF(0, 0, 400, 300));
+            EXPECT_EQ(canvas.drawRect(), at.intersected(QRectF(0, 0, 200, 150)));
+            EXPECT_TRUE(imagesMatch(canvas.displayImage(), expected));
+        }
     }
 }
 
@@ -440,29 +423,24 @@ TEST_F(CanvasImageTest, BadInputIsRefusedWithOneLine) {
 TEST_F(CanvasImageTest, WithoutTheDriversMemoryNothingIsPlacedOrUndone) {
     using Fault = FailingDriver::Fault;
     const QImage image = noise({300, 260});
-    struct Placing {
-        const char* name;
-        Fault fault;
-        QRectF rect;
-    };
-    for (const Placing& placing : {Placing{"no texture", Fault::noTextureMemory, {10.5, 10, 400, 300}},
-                                   Placing{"no pixels", Fault::noUploadMemory, {10.5, 10, 400, 300}},
-                                   Placing{"no mip levels", Fault::noLevelMemory, {20, 20, 60, 50}},
-                                   Placing{"no copy", Fault::noUploadMemory, {0, 0, 300, 260}}}) {
-        SCOPED_TRACE(placing.name);
+    for (const auto& [fault, rect] : {std::pair{Fault::noTextureMemory, QRectF(10.5, 10, 400, 300)},
+                                      {Fault::noUploadMemory, {10.5, 10, 400, 300}},
+                                      {Fault::noLevelMemory, {20, 20, 60, 50}},
+                                      {Fault::noUploadMemory, {0, 0, 300, 260}}}) {  // copied
+        SCOPED_TRACE(static_cast<int>(fault));
         auto canvas = tintedCanvas(SurfaceKind::gpu);
         canvas->resetUndoManager();
         canvas->setAutoMark(true);
         const QImage before = canvas->image();
         {
-            const FailingDriver driver(placing.fault);
+            const FailingDriver driver(fault);
             const LogCapture log;
-            EXPECT_FALSE(canvas->setImage(image, placing.rect));
+            EXPECT_FALSE(canvas->setImage(image, rect));
             EXPECT_EQ(log.lines(), QStringList("there is no memory to place an image of 300 x 260 pixels"));
         }
         EXPECT_TRUE(imagesMatch(canvas->image(), before));
         EXPECT_FALSE(canvas->edited() || canvas->canUndo());
-        EXPECT_TRUE(canvas->setImage(image, placing.rect));
+        EXPECT_TRUE(canvas->setImage(image, rect));
         const QImage after = canvas->image();
         {
             const FailingDriver driver(Fault::noUploadMemory);

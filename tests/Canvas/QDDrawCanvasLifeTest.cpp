@@ -47,116 +47,87 @@ QDDrawTouch at(double x, double y = 40) {
 }
 
 using Step = std::function<void(QDDrawCanvas&)>;
-using Steps = std::vector<Step>;
 
-Step begin(double x) {
-    return [x](QDDrawCanvas& c) { c.drawingWithBeginPoint({x, 30}); };
-}
-Step move(double x) {
-    return [x](QDDrawCanvas& c) { c.drawingWithMoveToPoint({x, 30}); };
-}
-Step end(double x) {
-    return [x](QDDrawCanvas& c) { c.drawingWithEndPoint({x, 30}); };
-}
-Step brush(std::int32_t type) {
-    return [type](QDDrawCanvas& c) { c.setBrushType(type); };
-}
-Step call(void (QDDrawCanvas::*event)(const QDDrawTouch&), double x) {
-    return [event, x](QDDrawCanvas& c) { (c.*event)(at(x)); };
-}
-Step mouse(QEvent::Type type, double x) {
-    return [type, x](QDDrawCanvas& c) {
-        QMouseEvent event(type, QPointF(x, 40), QPointF(x, 40), QPointF(x, 40), Qt::LeftButton,
-                          Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(dynamic_cast<QDDrawView*>(&c), &event);
-    };
-}
+// What a host may do, a letter each; the place is for those that need one.
+using C = QDDrawCanvas;
+const std::map<char, void (*)(C&, QPointF)> kSteps = {
+    {'(', [](C& c, QPointF at) { c.drawingWithBeginPoint(at); }},
+    {'.', [](C& c, QPointF at) { c.drawingWithMoveToPoint(at); }},
+    {')', [](C& c, QPointF at) { c.drawingWithEndPoint(at); }},
+    {'d', [](C& c, QPointF at) { c.mouseDown({at}); }},
+    {'m', [](C& c, QPointF at) { c.mouseDragged({at}); }},
+    {'u', [](C& c, QPointF at) { c.mouseUp({at}); }},
+    {'D', [](C& c, QPointF at) { c.touchesBeganWithEvent({at}); }},
+    {'M', [](C& c, QPointF at) { c.touchesMovedWithEvent({at}); }},
+    {'U', [](C& c, QPointF at) { c.touchesEndedWithEvent({at}); }},
+    {'C', [](C& c, QPointF at) { c.touchesCancelledWithEvent({at}); }},
+    {'x', [](C& c, QPointF) { c.endPointerStroke(); }},
+    {'w', [](C& c, QPointF) { c.withdrawPointerStroke(); }},
+    {'p', [](C& c, QPointF at) { c.drawPoint(at, 9), c.updateImage(true); }},
+    {'I',
+     [](C& c, QPointF) {
+         c.setImage(patternImage({80, 60}), QRectF(0, 0, 80, 60));
+     }},
+    {'c', [](C& c, QPointF) { c.clear(); }},
+    {'G', [](C& c, QPointF) { c.clearWithColor(ESColor::grey(0.5f), true); }},
+    {'L', [](C& c, QPointF) { c.clearESBufferOnline(true); }},
+    {'R', [](C& c, QPointF) { c.resetWithRenderRect(QRectF(0, 0, 30, 30)); }},
+    {'i', [](C& c, QPointF) { c.image(); }},
+    {'<', [](C& c, QPointF) { c.undo(); }},
+    {'>', [](C& c, QPointF) { c.redo(); }},
+    {'a', [](C& c, QPointF) { c.setAutoMark(false); }},
+    {'k', [](C& c, QPointF) { c.markAction(); }},
+    {'K', [](C& c, QPointF) { c.resetUndoManager(); }},
+    {'3', [](C& c, QPointF) { c.setBrushType(3); }},
+    {'4', [](C& c, QPointF) { c.setBrushType(4); }},
+    {'S', [](C& c, QPointF) { c.setEnableRecogition(true); }},
+    {'2', [](C& c, QPointF) { c.setRepeatedlyRenderEnabled(true); }},
+    {'P', [](C& c, QPointF) { c.resetParams(); }},
+    {'h', [](C& c, QPointF) {
+         auto* const hearer = static_cast<Hearer*>(c.delegate());
+         c.leafDrawView().setComplention([hearer](const QImage&, QSizeF) { hearer->say("complention"); });
+     }}};
 
-Steps operator+(Steps steps, const Steps& more) {
-    steps.insert(steps.end(), more.begin(), more.end());
-    return steps;
-}
-Steps stroke() {
-    return {begin(10), move(30), move(50), end(70)};
-}
-Steps mouseMoves(int count) {
-    Steps steps{call(&QDDrawCanvas::mouseDown, 10)};
-    for (int i = 1; i <= count; ++i) {
-        steps.push_back(call(&QDDrawCanvas::mouseDragged, 10 + i * 5));
+// What happens to a view, b m e the mouse.
+void happen(QDDrawView& view, char what, QPointF at) {
+    if (what == 'X') {
+        view.setEnabled(false);
+    } else if (what == 'W') {
+        QEvent left(QEvent::WindowDeactivate);
+        QApplication::sendEvent(&view, &left);
+    } else {
+        const auto type = what == 'b'   ? QEvent::MouseButtonPress
+                          : what == 'm' ? QEvent::MouseMove
+                                        : QEvent::MouseButtonRelease;
+        QMouseEvent event(type, at, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &event);
     }
-    return steps;
 }
 
 struct Session {
-    const char* name;
-    bool inView;
-    Steps steps;
+    const char *name, *steps;
+    bool inView = false;
 };
-
-std::vector<Session> sessions() {
-    using C = QDDrawCanvas;
-    const Step endPointer = [](C& c) { c.endPointerStroke(); };
-    const Step withdraw = [](C& c) { c.withdrawPointerStroke(); };
-    const Step undo = [](C& c) { c.undo(); };
-    const Step redo = [](C& c) { c.redo(); };
-    const Step whole = [](C& c) { c.setImage(patternImage({80, 60}), QRectF(0, 0, 80, 60)); };
-    const Step complention = [](C& c) {
-        c.leafDrawView().setComplention([hearer = static_cast<Hearer*>(c.delegate())](const QImage&, QSizeF) {
-            hearer->say("complention");
-        });
-    };
-    const Steps pressed{mouse(QEvent::MouseButtonPress, 10), mouse(QEvent::MouseMove, 30),
-                        mouse(QEvent::MouseMove, 50)};
-    return {
-        {"a stroke, back and forth", false, stroke() + Steps{undo, redo, undo} + stroke()},
-        {"never ended", false, {begin(10), move(30), begin(20), move(60), end(70)}},
-        {"no steps of themselves", false,
-         Steps{[](C& c) { c.setAutoMark(false); }} + stroke() +
-             Steps{undo, whole, [](C& c) { c.markAction(); }, [](C& c) { c.resetUndoManager(); }}},
-        {"pictures and clears",
-         false,
-         {whole, [](C& c) { c.clearWithColor(ESColor::grey(0.5f), true); },
-          [](C& c) { c.clearESBufferOnline(true); },
-          [](C& c) {
-              c.drawPoint({20, 20}, 9), c.updateImage(true);
-          },
-          [](C& c) { c.resetWithRenderRect(QRectF(0, 0, 30, 30)); }}},
-        {"smudging", false, Steps{whole, brush(3)} + stroke()},
-        {"a preview", false, Steps{brush(4)} + stroke() + Steps{begin(20), [](C& c) { c.clear(); }, end(40)}},
-        {"a preview's own way", false,
-         Steps{brush(4), complention} + stroke() + stroke() + Steps{[](C& c) { c.image(); }}},
-        {"a shape", false,
-         Steps{[](C& c) { c.setEnableRecogition(true); }, begin(10), move(20), move(30), move(40), move(50),
-               end(70)}},
-        {"brushes in mid-stroke",
-         false,
-         {begin(10), move(30), brush(4), begin(10), move(20), [](C& c) { c.setEnableRecogition(true); },
-          move(40), [](C& c) { c.resetParams(); }, begin(10), move(20),
-          [](C& c) { c.setRepeatedlyRenderEnabled(true); }}},
-        {"a short mouse stroke", false, mouseMoves(3) + Steps{call(&C::mouseUp, 25)}},
-        {"a long mouse stroke", false, mouseMoves(11) + Steps{call(&C::mouseUp, 70)}},
-        {"a finger",
-         false,
-         {call(&C::touchesBeganWithEvent, 10), call(&C::touchesMovedWithEvent, 30),
-          call(&C::touchesEndedWithEvent, 50)}},
-        {"a finger that slid",
-         false,
-         {call(&C::touchesBeganWithEvent, 10), call(&C::touchesEndedWithEvent, 20)}},
-        {"a finger too many",
-         false,
-         {call(&C::touchesBeganWithEvent, 10), call(&C::touchesMovedWithEvent, 30),
-          call(&C::touchesCancelledWithEvent, 50)}},
-        {"a pointer that leaves", false,
-         mouseMoves(11) + Steps{endPointer} + mouseMoves(2) + Steps{withdraw}},
-        {"a view's mouse", true, pressed + Steps{mouse(QEvent::MouseButtonRelease, 60)}},
-        {"a view's window", true, pressed + Steps{[](C& c) {
-                                      QEvent left(QEvent::WindowDeactivate);
-                                      QApplication::sendEvent(dynamic_cast<QDDrawView*>(&c), &left);
-                                  }}},
-        {"a disabled view", true,
-         pressed + Steps{[](C& c) { dynamic_cast<QDDrawView&>(c).setEnabled(false); }}},
-    };
-}
+const Session kSessions[] = {
+    {"a stroke, back and forth", "(..)<><(..)"},
+    {"never ended", "(.(.)"},
+    {"no steps of themselves", "a(..)<IkK"},
+    {"pictures and clears", "IGLpR"},
+    {"smudging", "I3(..)"},
+    {"a preview", "4(..)(c)"},
+    {"a preview's own way", "4h(..)(..)i"},
+    {"a shape", "S(....)"},
+    {"brushes in mid-stroke", "(.4(.S.P(.2"},
+    {"a short mouse stroke", "dmmmu"},
+    {"a long mouse stroke", "dmmmmmmmmmmmu"},
+    {"a finger", "DMU"},
+    {"a finger that slid", "DU"},
+    {"a finger too many", "DMC"},
+    {"a pointer that leaves", "dmmmmmmmmmmmxdmmw"},
+    {"a view's mouse", "bmme", true},
+    {"a view's window", "bmmW", true},
+    {"a disabled view", "bmmX", true},
+};
 
 // The canvas goes at the call of that number; what it told.
 std::vector<std::string> paint(const Session& session, std::size_t fatal) {
@@ -183,9 +154,12 @@ std::vector<std::string> paint(const Session& session, std::size_t fatal) {
     }
     canvas->setDelegate(&hearer);
     canvas->setAutoMark(true);
-    for (const Step& step : session.steps) {
-        if (canvas) {
-            step(*canvas);
+    double x = 10;
+    for (const char* step = session.steps; *step != 0 && canvas; ++step, x += x < 55 ? 12 : -43) {
+        if (session.inView) {
+            happen(dynamic_cast<QDDrawView&>(*canvas), *step, {x, 40});
+        } else {
+            kSteps.at (*step)(*canvas, {x, 40});
         }
     }
     EXPECT_EQ(canvas == nullptr, fatal > 0);
@@ -196,7 +170,7 @@ using CanvasLifeTest = CanvasTest;
 
 TEST_F(CanvasLifeTest, TheHostMayDestroyTheCanvasWhateverItHears) {
     std::set<std::string> heard;
-    for (const Session& session : sessions()) {
+    for (const Session& session : kSessions) {
         const std::vector<std::string> told = paint(session, 0);
         std::map<std::string, std::size_t> last;  // earlier ones are like it
         for (std::size_t i = 0; i < told.size(); ++i) {
@@ -263,7 +237,6 @@ struct Finder {
 };
 
 TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
-    using C = QDDrawCanvas;
     const Step acrossCanvas = [](C& c) { paintWave(c, 40, 12); };
     const Step fill = [](C& c) { c.clearWithColor(ESColor::grey(1), true); };
     const Step mark = [](C& c) { EXPECT_TRUE(c.markAction().isNull()); };

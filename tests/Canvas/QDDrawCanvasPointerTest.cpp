@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <limits>
-#include <string>
 
 #include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
@@ -19,20 +18,33 @@ TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
     paintWave(*canvas);
     EXPECT_TRUE(canvas->edited());
     canvas->markAction();
-    for (const bool secondLine : {false, true}) {
-        for (const int blend : {1, 2, 5, 8}) {
-            SCOPED_TRACE("blend type " + std::to_string(blend) + (secondLine ? " with a second line" : ""));
-            canvas->setBlendType(blend);
-            canvas->setRepeatedlyRenderEnabled(secondLine);
-            const QImage before = canvas->image();
-            dragMouse(*canvas, {20, 75}, {20, 0}, 5);
-            canvas->displayImage();  // it was on screen
-            canvas->mouseDragged(at(50));
-            canvas->mouseUp(at(90));
-            EXPECT_TRUE(imagesMatch(canvas->image(), before));
-            EXPECT_TRUE(imagesMatch(canvas->displayImage(), before));
-            EXPECT_FALSE(canvas->edited());
-        }
+    struct Brush {
+        int type, blend;
+        bool secondLine;
+    };
+    for (const auto& [type, blend, secondLine] : {Brush{0, 1, false},
+                                                  {0, 1, true},
+                                                  {0, 2, false},
+                                                  {0, 2, true},
+                                                  {0, 5, false},
+                                                  {0, 8, true},
+                                                  {0, 9, false},
+                                                  {3, 1, false}}) {
+        SCOPED_TRACE(::testing::Message()
+                     << "type " << type << ", blend type " << blend << ' ' << secondLine);
+        canvas->setBrushType(type);
+        canvas->setBlendType(blend);
+        canvas->setOpacity(0.7f);
+        canvas->setRepeatedlyRenderEnabled(secondLine);
+        const QImage before = canvas->image();
+        dragMouse(*canvas, {20, 75}, {20, 0}, 5);
+        EXPECT_EQ(canvas->displayImage() == before, blend == 9);  // it was on screen
+        canvas->mouseDragged(at(50));
+        canvas->mouseUp(at(90));
+        EXPECT_TRUE(imagesMatch(canvas->image(), before));
+        EXPECT_TRUE(imagesMatch(canvas->displayImage(), before));
+        EXPECT_FALSE(canvas->edited());
+        EXPECT_EQ(canvas->blendType(), blend);
     }
     // And nothing of it comes back with the next stroke.
     auto fresh = makeCanvas();

@@ -25,6 +25,11 @@ protected:
             }
         }
     }
+    static void fill(QDDrawCanvas& canvas) {
+        useLeaf(canvas);
+        begin(canvas, QRectF(20, 20, 100, 100));
+        canvas.drawingWithEndPoint({20, 120});
+    }
     static QImage shown(QDDrawView& view) {
         return view.grab().toImage().convertToFormat(QImage::Format_RGBA8888_Premultiplied);
     }
@@ -84,23 +89,9 @@ TEST_F(CanvasPreviewTest, ReachesTheCanvasInTheOrderOfStrokes) {
     EXPECT_EQ(both.pixelColor(70, 40), QColor(255, 0, 0));
     EXPECT_TRUE(canvas->edited());
 
-    // Undo takes back the stroke that ended last, placed or not.
-    canvas->setAutoMark(true);
-    canvas->markAction();
-    useLeaf(*canvas);
-    begin(*canvas, QRectF(20, 20, 100, 100));
-    canvas->drawingWithEndPoint({20, 120});
-    EXPECT_TRUE(canvas->leafDrawView().isPending());
-    EXPECT_FALSE(canvas->undo().isNull());
-    EXPECT_TRUE(imagesMatch(canvas->image(), both));
-    EXPECT_TRUE(canvas->canRedo());
-    canvas->setAutoMark(false);
-
     // Dabs drawn by hand lie above it, too.
     canvas->clear();
-    useLeaf(*canvas);
-    begin(*canvas, QRectF(20, 20, 100, 100));
-    canvas->drawingWithEndPoint({20, 120});
+    fill(*canvas);
     canvas->setRenderColor(ESColor::rgba(0, 0, 1));
     canvas->drawPoint({70, 70}, 20);
     canvas->updateImage(false);
@@ -108,15 +99,12 @@ TEST_F(CanvasPreviewTest, ReachesTheCanvasInTheOrderOfStrokes) {
 
     // A clear after the end clears the stroke, too; flow is its opacity.
     for (const bool layersToo : {true, false}) {
-        useLeaf(*canvas);
-        begin(*canvas, QRectF(20, 20, 100, 100));
-        canvas->drawingWithEndPoint({20, 120});
+        fill(*canvas);
         layersToo ? canvas->clear() : canvas->clearESBufferOnline(true);
         EXPECT_TRUE(painted(canvas->image()).isEmpty()) << layersToo;
     }
     canvas->setFlow(0.5f);
-    begin(*canvas, QRectF(20, 20, 100, 100));
-    canvas->drawingWithEndPoint({20, 120});
+    fill(*canvas);
     EXPECT_NEAR(canvas->image().pixelColor(70, 60).alpha(), 128, 1);
 }
 

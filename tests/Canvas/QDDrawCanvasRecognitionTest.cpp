@@ -3,8 +3,9 @@
 #include <utility>
 #include <vector>
 
-#include "Canvas/QDDrawCanvas.h"
+#include "Canvas/ShapeSketch.h"
 #include "History/ImagesUndoManager.h"
+#include "Recognition/ShapePlaces.h"
 #include "support/CanvasTest.h"
 #include "support/Hearer.h"
 #include "support/LogCapture.h"
@@ -107,29 +108,26 @@ TEST_F(CanvasRecognitionTest, WithdrawnAndAbandonedSketchesLeaveNoTrace) {
     auto canvas = makePatterned();
     canvas->setEnableRecogition(true);
     const QImage before = canvas->image();
-    const auto at = [](double x) { return QDDrawTouch{QPointF(x, 75), 1}; };
     const auto drag = [&](int moves) { dragMouse(*canvas, {20, 75}, {10, 0}, moves); };
     drag(5);
-    canvas->mouseUp(at(80));  // too short to be meant
-    EXPECT_TRUE(imagesMatch(canvas->image(), before));
-    drag(12);
-    canvas->withdrawPointerStroke();
+    canvas->mouseUp({{80, 75}});  // too short to be meant
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
     // The host smudges meanwhile, which begins with the canvas as it is without the sketch.
-    drag(12);
-    canvas->clearExtenBuffer();
-    const LPPoint dab{{100, 20}, 20, {1, 1, 1}};
-    canvas->drawPoints(&dab, 1, ESRenderTypeSmudge);
-    canvas->withdrawPointerStroke();
-    EXPECT_TRUE(imagesMatch(canvas->image(), before));
+    for (const bool smudges : {false, true}) {
+        drag(12);
+        if (smudges) {
+            canvas->clearExtenBuffer();
+            const LPPoint dab{{100, 20}, 20, {1, 1, 1}};
+            canvas->drawPoints(&dab, 1, ESRenderTypeSmudge);
+        }
+        canvas->withdrawPointerStroke();
+        EXPECT_TRUE(imagesMatch(canvas->image(), before)) << smudges;
+    }
     sketchLine(*canvas);
     canvas->drawingWithBeginPoint({20, 100});  // without an end before
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
     canvas->drawingWithEndPoint({20, 100});
     EXPECT_FALSE(canvas->edited());
-    drag(12);
-    canvas->mouseUp(at(150));
-    EXPECT_TRUE(canvas->edited());
 }
 
 // ---- Sketches that are
@@ -207,7 +205,12 @@ TEST_F(CanvasRecognitionTest, TheRecordedCanvasFollowsTheCanvas) {
     EXPECT_TRUE(isCanvas()) << "after a clear";
     canvas->drawPoint({100, 80}, 40);  // in a layer as yet
     canvas->updateImage(true);
-    const QByteArray picture = bytesOf(*canvas);
+    const QByteArray picture = canvas->markAction();
+    canvas->drawPoint({100, 100}, 40);  // in a layer until undo finishes it
+    canvas->updateImage(true);
+    canvas->undoManager().waitForWrites();
+    EXPECT_EQ(canvas->undo(), picture);
+    EXPECT_TRUE(isCanvas()) << "after a step back";
     canvas->setCurImageData(QByteArray(7, '\0'));  // which is no canvas
     EXPECT_TRUE(imagesMatch(canvas->currentImage(), canvas->image()));
     scribble(*canvas);
@@ -233,24 +236,6 @@ TEST_F(CanvasRecognitionTest, AHistoryMadeLateKeepsThePicture) {
         inStroke ? endTangled(*canvas) : scribble(*canvas);
         EXPECT_EQ(bytesOf(*canvas), picture);
     }
-}
-
-TEST_F(CanvasRecognitionTest, UndoGivesTheStepWhateverIsFinishedOnTheWay) {
-    auto canvas = makePatterned();
-    canvas->setEnableRecogition(true);
-    const QByteArray first = bytesOf(*canvas);
-    sketchLine(*canvas);
-    endLine(*canvas);
-    const QByteArray line = canvas->markAction();
-    canvas->drawPoint({100, 100}, 40);  // in a layer until undo finishes it
-    canvas->updateImage(true);
-    canvas->undoManager().waitForWrites();
-    EXPECT_TRUE(canvas->undo() == line);
-    EXPECT_TRUE(canvas->curImageData() == line);
-    scribble(*canvas);
-    EXPECT_TRUE(bytesOf(*canvas) == line);
-    canvas->undoManager().waitForWrites();
-    EXPECT_TRUE(canvas->undo() == first);
 }
 
 // ---- In mid-stroke
@@ -323,16 +308,7 @@ TEST_F(CanvasRecognitionTest, EveryKindIsDrawnAlongItsWholeOutlineAndNowhereElse
         {"one dab a sample", {{K::pointsDistanceEnabled, false}}},
         {"in larger units", {{K::recogPointScale, 2.5f}}},
     };
-    const auto inUnits = [](ShapeRecord shape, double unit) {
-        for (ShapePoint& corner : shape.corners) {
-            corner = {corner.x / unit, corner.y / unit};
-        }
-        shape.centre = {shape.centre.x / unit, shape.centre.y / unit};
-        shape.a /= unit;
-        shape.b /= unit;
-        return shape;
-    };
-    ShapeRecord shape = line({}, {});
+    ShapeRecord shape;
     shape.centre = {100, 75};
     shape.a = 70;
     shape.b = 30;
@@ -343,25 +319,23 @@ TEST_F(CanvasRecognitionTest, EveryKindIsDrawnAlongItsWholeOutlineAndNowhereElse
         set(*canvas, hard);
         set(*canvas, settings);
         const int reach = static_cast<int>(canvas->radius() / 2) + 1;
-        for (int kind = 1; kind <= static_cast<int>(ShapeKind::arrow); ++kind) {
-            shape.kind = static_cast<ShapeKind>(kind);
-            SCOPED_TRACE(std::string(name) + ", " + std::string(nameOfShapeKind(shape.kind)));
+        for (const auto& [kind, corners] : {std::pair{ShapeKind::line, 2},
+                                            {ShapeKind::triangle, 3},
+                                            {ShapeKind::arrow, 4},
+                                            {ShapeKind::ellipse, 0},
+                                            {ShapeKind::arc, 0}}) {
+            SCOPED_TRACE(std::string(name) + ", " + std::string(nameOfShapeKind(kind)));
+            shape.kind = kind;
             shape.corners = {{40, 30}, {150, 34}, {160, 110}, {50, 120}};
-            shape.corners.resize(shape.kind == ShapeKind::line       ? 2
-                                 : shape.kind == ShapeKind::triangle ? 3
-                                                                     : 4);
+            shape.corners.resize(static_cast<std::size_t>(corners));
             canvas->clear();
-            EXPECT_TRUE(canvas->drawShape(inUnits(shape, double{canvas->recogPointScale()})));
+            EXPECT_TRUE(canvas->drawShape(scaled(shape, 1 / double{canvas->recogPointScale()})));
             const QImage image = canvas->image();
             QImage elsewhere = image;
             int least = 255, most = 0;
-            const std::vector<ShapePoint> outline = outlineOfShape(shape);
-            for (std::size_t i = 1; i < outline.size(); ++i) {
-                const double dx = outline[i].x - outline[i - 1].x, dy = outline[i].y - outline[i - 1].y;
-                const double pieces = std::ceil(std::hypot(dx, dy));
-                for (int j = 0; j <= static_cast<int>(pieces); ++j) {
-                    const QPoint at(static_cast<int>(outline[i - 1].x + dx * j / pieces),
-                                    static_cast<int>(outline[i - 1].y + dy * j / pieces));
+            for (const auto& stroke : placesOnShape(shape, 1)) {
+                for (const LPPosition& place : stroke) {
+                    const QPoint at(static_cast<int>(place.x), static_cast<int>(place.y));
                     least = std::min(least, image.pixelColor(at).alpha());
                     most = std::max(most, image.pixelColor(at).alpha());
                     fillRect(elsewhere, QRect(at.x() - reach, at.y() - reach, 2 * reach + 1, 2 * reach + 1),
@@ -382,15 +356,15 @@ TEST_F(CanvasRecognitionTest, WhatCannotBeDrawnIsRefused) {
     EXPECT_FALSE(canvas->drawShape({}));
     EXPECT_TRUE(log.lines().isEmpty());
     EXPECT_FALSE(canvas->drawShape(line({1, 1}, {1e12, 1})));
-    EXPECT_TRUE(log.has(QStringLiteral("no line can be drawn")));
+    EXPECT_TRUE(log.has("no line can be drawn"));
     ShapeRecord unknown = line({1, 1}, {50, 1});
     unknown.kind = static_cast<ShapeKind>(200);
     unknown.a = unknown.b = 20;
     EXPECT_FALSE(canvas->drawShape(unknown));
-    EXPECT_TRUE(log.has(QStringLiteral("no unknown shape can be drawn")));
+    EXPECT_TRUE(log.has("no unknown shape can be drawn"));
     canvas->drawingWithBeginPoint({20, 20});
     EXPECT_FALSE(canvas->drawShape(line({1, 1}, {50, 1})));
-    EXPECT_TRUE(log.has(QStringLiteral("stroke is in progress")));
+    EXPECT_TRUE(log.has("stroke is in progress"));
     canvas->drawingWithEndPoint({20, 20});
     EXPECT_EQ(log.lines().size(), 3);
     EXPECT_FALSE(canvas->canUndo());

@@ -13,16 +13,11 @@ using CanvasThreadsTest = CanvasTest;
 QImage session(QDDrawCanvas& canvas, int number) {
     canvas.setAutoMark(true);
     canvas.setRandomSeed(static_cast<std::uint32_t>(number));
+    jitter(canvas);
     canvas.setRadius(static_cast<float>(14 + 9 * number));
-    canvas.setRadiusTingle(0.8f);
     canvas.setStrokeControlValue(60);
     canvas.setMoveRadianEnable(true);
     canvas.setRoundness(0.5f);
-    canvas.setDistribution(0.7f);
-    canvas.setDistributionCount(3);
-    canvas.setHueTingle(0.6f);
-    canvas.setFlipXTingle(true);
-    canvas.setRenderColor(ESColor::rgba(0.9f, 0.3f, 0.1f));
     for (int i = 0; i < 4; ++i) {
         canvas.setRepeatedlyRenderEnabled(i == 1);
         canvas.setBrushType(i == 2 ? 3 : 0);

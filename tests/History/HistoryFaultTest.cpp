@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // What goes wrong outside: disks, memory, other processes, the own death.
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,31 +9,9 @@
 #include "History/HistoryTest.h"
 #include "History/Packing.h"
 #include "History/TempFolder.h"
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool kSanitized = true;  // memory is not limited as usual then
-#else
-constexpr bool kSanitized = false;
-#endif
+#include "support/Limits.h"
 
 namespace {
-
-// A limit of this process for one scope.
-class Limited {
-public:
-    Limited(__rlimit_resource resource, rlim_t limit) : _resource(resource) {
-        getrlimit(_resource, &_before);
-        const rlimit limits{limit, _before.rlim_max};
-        setrlimit(_resource, &limits);
-    }
-    ~Limited() { setrlimit(_resource, &_before); }
-    Limited(const Limited&) = delete;
-    Limited& operator=(const Limited&) = delete;
-
-private:
-    __rlimit_resource _resource;
-    rlimit _before{};
-};
 
 class HistoryFaultTest : public HistoryTest {
 protected:
@@ -67,7 +44,6 @@ protected:
 }  // namespace
 
 TEST_F(HistoryFaultTest, ADiskThatTakesNothingCostsNoStep) {
-    const auto former = std::signal(SIGXFSZ, SIG_IGN);
     for (const bool full : {true, false}) {
         SCOPED_TRACE(full ? "the disk is full" : "the folder is none any more");
         auto history = ImagesUndoManager::initWithCurrentImageOfData(sketch(0));
@@ -76,7 +52,7 @@ TEST_F(HistoryFaultTest, ADiskThatTakesNothingCostsNoStep) {
         const QString folder = history->tempDirectory();
         {
             LogCapture log;
-            const Limited files(RLIMIT_FSIZE, full ? 1000 : RLIM_INFINITY);
+            const FullDisk disk(full ? 1000 : RLIM_INFINITY);
             if (!full) {
                 QDir().rmdir(folder);
                 ASSERT_TRUE(writeWholeFile(folder, "in the way"));
@@ -99,7 +75,6 @@ TEST_F(HistoryFaultTest, ADiskThatTakesNothingCostsNoStep) {
             EXPECT_EQ(history->undo(), i > 2);
         }
     }
-    std::signal(SIGXFSZ, former);
 }
 
 TEST_F(HistoryFaultTest, LateTasksUndoNothingNewer) {
@@ -199,7 +174,7 @@ TEST_F(HistoryFaultTest, WithoutAFolderStepsStayInMemory) {
 }
 
 TEST_F(HistoryFaultTest, AStepThatMemoryCannotHoldReadsAsNothing) {
-    if (kSanitized) {
+    if (!kMemoryIsLimited) {
         return;
     }
     constexpr qsizetype kLarge = 96 << 20;
@@ -214,12 +189,9 @@ TEST_F(HistoryFaultTest, AStepThatMemoryCannotHoldReadsAsNothing) {
             history->removeOneObjectFromCache();
             history->waitForWrites();
         }
-        QFile status("/proc/self/statm");
-        ASSERT_TRUE(status.open(QIODevice::ReadOnly));
-        const auto used = status.readAll().split(' ').first().toULongLong() * 4096;
         {
             LogCapture log;
-            const Limited memory(RLIMIT_AS, used + kLarge / 2);
+            const ShortMemory memory(kLarge / 2);
             EXPECT_TRUE(history->currentImageDataOfItem().isNull());
             EXPECT_EQ(log.lines().size(), 1);
         }
@@ -256,8 +228,7 @@ TEST_F(HistoryFaultTest, NoTwoHistoriesShareAFolder) {
     std::srand(1);
     auto second = ImagesUndoManager::init();
     std::srand(1);
-    const QString wanted =
-        QStringLiteral("TempDirectory%1").arg(std::rand() % 10000, 4, 10, QLatin1Char('0'));
+    const QString wanted = QString("TempDirectory%1").arg(std::rand() % 10000, 4, 10, QLatin1Char('0'));
     EXPECT_EQ(QFileInfo(first->tempDirectory()).fileName(), wanted);
     EXPECT_NE(first->tempDirectory(), second->tempDirectory());
     EXPECT_TRUE(QFileInfo(second->tempDirectory()).isDir());
@@ -299,7 +270,7 @@ TEST_F(HistoryFaultTest, AFolderLostToAnotherHistoryIsLeftAlone) {
             if (ended) {
                 loser.reset();
             } else {
-                loser->removeImageWithNames({QStringLiteral("InitString")});
+                loser->removeImageWithNames({"InitString"});
                 loser->waitForWrites();
                 loser->clearAllTempFiles();
                 loser->waitForWrites();

@@ -9,7 +9,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <condition_variable>
-#include <memory>
 #include <mutex>
 
 #include "History/ImagesUndoManager.h"

@@ -28,7 +28,7 @@ TEST(UndoManagerTest, StartsWithOneItemAndKeepsItWhenGivenNone) {
     manager->setCurrentItem(QString());
     EXPECT_FALSE(manager->addItemWithString(QString()));
     EXPECT_EQ(manager->currentStringItem(), "InitString");
-    EXPECT_TRUE(manager->addItemWithString(QStringLiteral("")));
+    EXPECT_TRUE(manager->addItemWithString(""));
     EXPECT_EQ(UndoManager::initWithCurrentItem("x")->currentStringItem(), "x");
 }
 

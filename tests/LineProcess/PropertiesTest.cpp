@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <cstring>
 #include <set>
-#include <thread>
 
 #include "LineProcess/StrokeFixture.h"
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <limits>
-#include <string>
 
 #include "LineProcess/StrokeFixture.h"
 

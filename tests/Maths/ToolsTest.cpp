@@ -25,7 +25,7 @@ TEST(ToolsTest, DateStringsOfAllThreadsAreUniqueAndIncreasing) {
         thread.join();
     }
     std::set<QString> all;
-    static const QRegularExpression kDigits(QStringLiteral("^[0-9]{17}$"));
+    static const QRegularExpression kDigits("^[0-9]{17}$");
     for (const auto& mine : made) {
         for (std::size_t i = 0; i < mine.size(); ++i) {
             EXPECT_TRUE(kDigits.match(mine[i]).hasMatch()) << qPrintable(mine[i]);
@@ -34,7 +34,7 @@ TEST(ToolsTest, DateStringsOfAllThreadsAreUniqueAndIncreasing) {
         }
     }
     // And it is the time: the last one lies within a minute of the local clock.
-    const auto time = QDateTime::fromString(*all.rbegin(), QStringLiteral("yyyyMMddHHmmsszzz"));
+    const auto time = QDateTime::fromString(*all.rbegin(), "yyyyMMddHHmmsszzz");
     EXPECT_LT(std::abs(time.msecsTo(QDateTime::currentDateTime())), 60000);
 }
 
@@ -57,8 +57,8 @@ TEST(ToolsTest, RandomValuesNeverFallBelowBegin) {
 }
 
 TEST(ToolsTest, StringsCompareByTheirUtf8Bytes) {
-    EXPECT_EQ(Tools::string(QStringLiteral("abc"), QStringLiteral("abc")), 0);
-    EXPECT_LT(Tools::string(QStringLiteral("ab"), QStringLiteral("abc")), 0);
+    EXPECT_EQ(Tools::string("abc", "abc"), 0);
+    EXPECT_LT(Tools::string("ab", "abc"), 0);
     // UTF-16 would order these two the other way round.
-    EXPECT_LT(Tools::string(QStringLiteral("\uFF5E"), QStringLiteral("\U0001F58C")), 0);
+    EXPECT_LT(Tools::string("\uFF5E", "\U0001F58C"), 0);
 }

@@ -14,11 +14,11 @@ TEST(HexText, Numbers) {
         EXPECT_EQ(HexText::hexStringWithValue(row.value), QLatin1String(row.digits));
         EXPECT_EQ(HexText::hexCharWithValue(row.value), QLatin1String(row.digit));
     }
-    EXPECT_EQ(HexText::valueWithHexString(QStringLiteral("ff")), 255);
+    EXPECT_EQ(HexText::valueWithHexString("ff"), 255);
     EXPECT_EQ(HexText::valueWithHexString(QString()), 0);
-    EXPECT_EQ(HexText::hexValue(QStringLiteral("1x0")), 256);  // no digit counts as 0
-    EXPECT_EQ(HexText::valueWithHexChar(QStringLiteral("c")), 12);
-    EXPECT_EQ(HexText::valueWithHexChar(QStringLiteral("12")), 0);
+    EXPECT_EQ(HexText::hexValue("1x0"), 256);  // no digit counts as 0
+    EXPECT_EQ(HexText::valueWithHexChar("c"), 12);
+    EXPECT_EQ(HexText::valueWithHexChar("12"), 0);
 }
 
 TEST(HexText, TextComesBackUpToU00FF) {
@@ -27,11 +27,11 @@ TEST(HexText, TextComesBackUpToU00FF) {
         text += QChar(unit);
     }
     EXPECT_EQ(HexText::baseString(HexText::hexString(text)), text);
-    EXPECT_EQ(HexText::hexString(QStringLiteral("A\u00E9\n")), QStringLiteral("41E90A"));
+    EXPECT_EQ(HexText::hexString("A\u00E9\n"), "41E90A");
     // Deliberate: three digits for U+0153, not padded.
-    EXPECT_EQ(HexText::hexString(QStringLiteral("\u0153\u4E00")), QStringLiteral("1534E00"));
-    EXPECT_EQ(HexText::baseString(QStringLiteral("41e")), QStringLiteral("A"));
-    EXPECT_EQ(HexText::baseString(QStringLiteral("4")), QString());
+    EXPECT_EQ(HexText::hexString("\u0153\u4E00"), "1534E00");
+    EXPECT_EQ(HexText::baseString("41e"), "A");
+    EXPECT_EQ(HexText::baseString("4"), QString());
 }
 
 }  // namespace

@@ -43,6 +43,8 @@ TEST_P(SampleBrushesTest, IsKeptAndPaints) {
     for (qsizetype i = 0; i < stored.size(); ++i) {
         SCOPED_TRACE(method(stored[i]).toStdString());
         EXPECT_EQ(key((*kept)[i]), key(stored[i]));
+        EXPECT_EQ(method((*kept)[i]), method(stored[i]));
+        EXPECT_EQ(type((*kept)[i]), type(stored[i]));
         if (type(stored[i]) == kXBFData) {
             const QByteArray data = paramValue(stored[i]).toByteArray();
             if (!data.isEmpty()) {
@@ -59,8 +61,7 @@ TEST_P(SampleBrushesTest, IsKeptAndPaints) {
     EXPECT_NE(canvas->image(), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Folder, SampleBrushesTest,
-                         ::testing::ValuesIn(kFolder.entryList({QStringLiteral("*.xbf")})),
+INSTANTIATE_TEST_SUITE_P(Folder, SampleBrushesTest, ::testing::ValuesIn(kFolder.entryList({"*.xbf"})),
                          [](const auto& name) {
                              QString word = name.param.chopped(4);
                              return word.replace(QLatin1Char('-'), QLatin1Char('_')).toStdString();

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QPixmap>
 
 #include "support/LogCapture.h"
 

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
-#include <QDockWidget>
-#include <QMainWindow>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPointingDevice>
 #include <QTabletEvent>
 #include <QTouchEvent>
-#include <algorithm>
 #include <vector>
 
 #include "QDEAGLView/QDDrawView.h"
@@ -256,34 +252,6 @@ TEST_F(DrawViewEventsTest, ALostEndBlocksNoOtherPointer) {
     view->setEnabled(true);
     mouseStroke(40);
     EXPECT_LT(mark().top(), 40);
-}
-
-TEST_F(DrawViewEventsTest, AnotherWindowShowsTheSamePicture) {
-    mouseStroke(75);
-    const QImage before = view->image();
-    QMainWindow other;
-    auto* dock = new QDockWidget(&other);
-    dock->setWidget(view);
-    other.addDockWidget(Qt::LeftDockWidgetArea, dock);
-    other.show();
-    QApplication::processEvents();
-    EXPECT_TRUE(imagesMatch(view->image(), before));
-    dock->setFloating(true);
-    QApplication::processEvents();
-    EXPECT_TRUE(imagesMatch(view->image(), before));
-    view->setParent(nullptr);
-    view->resize(200, 150);
-    view->show();
-    EXPECT_TRUE(imagesMatch(
-        view->grab().toImage().convertToFormat(QImage::Format_RGBA8888_Premultiplied).copy(0, 0, 200, 150),
-        [&] {
-            QImage shown(200, 150, QImage::Format_RGBA8888_Premultiplied);
-            shown.fill(view->palette().window().color());
-            QPainter(&shown).drawImage(0, 0, before);
-            return shown;
-        }(),
-        1));
-    delete view;
 }
 
 }  // namespace

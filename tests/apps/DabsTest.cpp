@@ -13,7 +13,7 @@ namespace {
 
 QByteArray dabsOf(const QByteArray& json) {
     const auto input = readDabsInput(json);
-    EXPECT_TRUE(input) << input.problem().text(QStringLiteral("input")).toStdString();
+    EXPECT_TRUE(input) << input.problem().text("input").toStdString();
     QByteArray rows;
     if (input) {
         const auto problem = writeDabs(
@@ -80,7 +80,7 @@ TEST(DabsTest, WrongSettingsAreRefusedBeforeAnyRow) {
         bool written = false;
         const auto problem = writeDabs(*input, [&written](std::string_view) { written = true; });
         ASSERT_TRUE(problem) << set;
-        EXPECT_THAT(problem->text(QStringLiteral("input")).toStdString(), ::testing::HasSubstr(message));
+        EXPECT_THAT(problem->text("input").toStdString(), ::testing::HasSubstr(message));
         EXPECT_FALSE(written) << set;
     }
 }

@@ -4,72 +4,40 @@
 #include <gtest/gtest.h>
 
 #include <QPointF>
-#include <cmath>
 #include <limits>
 
 #include "InkmlFormat.h"
 #include "InkmlReader.h"
 #include "InkmlTrace.h"
 #include "apps/Samples.h"
-#include "support/Named.h"
+#include "support/Rows.h"
 
 namespace dabcanvas::dabpaint {
 namespace {
 
 // ---- Point lists
 
-constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
+constexpr auto byFirstField = [](const auto& row) { return row.param[0].toStdString(); };
 
-struct PointList : Named {
-    const char* channels;  // a letter each: n number, b boolean, i intermittent number
-    const char* text;
-    std::vector<double> values;  // of all points, one after the other
-};
-
-class PointListTest : public ::testing::TestWithParam<PointList> {};
+class PointListTest : public ::testing::TestWithParam<QStringList> {};
 
 TEST_P(PointListTest, DecodesTo) {
     std::vector<TraceChannel> channels;
-    for (const char* letter = GetParam().channels; *letter; ++letter)
-        channels.push_back({*letter == 'b', *letter == 'i'});
-    std::vector<double> values;
+    for (const QChar letter : GetParam()[1])
+        channels.push_back({letter == 'b', letter == 'i'});
+    std::vector<double> values, expected;
     Problem problem;
     const bool decoded = decodeTrace(
-        GetParam().text, channels,
+        GetParam()[2].toStdString(), channels,
         [&values](std::span<const double> point) { values.insert(values.end(), point.begin(), point.end()); },
         problem);
     ASSERT_TRUE(decoded) << problem.what.toStdString();
-    EXPECT_THAT(values, ::testing::Pointwise(::testing::NanSensitiveDoubleEq(), GetParam().values));
+    for (const QString& number : GetParam()[3].split(' ', Qt::SkipEmptyParts))
+        expected.push_back(number == "?" ? std::numeric_limits<double>::quiet_NaN() : number.toDouble());
+    EXPECT_THAT(values, ::testing::Pointwise(::testing::NanSensitiveDoubleEq(), expected));
 }
-
-const PointList kPointLists[] = {
-    {"Explicit", "nn", "1 2, 3 4 ,5\n6", {1, 2, 3, 4, 5, 6}},
-    {"TrailingComma", "nn", " 1 2, ", {1, 2}},
-    {"Empty", "nn", " \n ", {}},
-    {"MinusParts", "nn", "10-20,-3-.5,- 4 -6", {10, -20, -3, -0.5, -4, -6}},
-    {"Forms", "nnn", ".5 1e-3 1E2,#FF #a -#10", {0.5, 1e-3, 100, 255, 10, -16}},
-    {"PointsPart", "nn", "1.5.5,2 3", {1.5, 0.5, 2, 3}},
-    {"FirstDifference", "nn", "10 20,'1'2,3-4,!5 1", {10, 20, 11, 22, 14, 18, 5, 19}},
-    {"PrefixBack", "nn", "10 20,'1'2,!7!8,1 1", {10, 20, 11, 22, 7, 8, 1, 1}},
-    {"SecondDifference",
-     "nn",
-     "1125 18432,'23'43,\"7\"-8,3-5,7 -3,6 2,6 8,3 6,3 2,3 4",
-     {1125, 18432, 1148, 18475, 1178, 18510, 1211, 18540, 1251, 18567,
-      1297, 18596, 1349, 18633, 1404, 18676, 1462, 18721, 1523, 18770}},
-    {"SecondAfterExplicit", "n", "5,8,\"1,0,!2", {5, 8, 12, 16, 2}},
-    {"SecondAtStart", "n", "5,\"1,1", {5, 6, 8}},
-    {"PrefixPerChannel", "nn", "1 1,'1 5,1 6", {1, 1, 2, 5, 3, 6}},
-    {"RepeatValue", "nn", "1 2,* 3,4 *", {1, 2, 1, 3, 4, 3}},
-    {"RepeatDifference", "n", "10,'2,*,*,\"1,*", {10, 12, 14, 16, 19, 23}},
-    {"UnknownKeepsLast", "nn", "1 2,'? 1,'3 1", {1, 2, kUnknown, 1, 4, 1}},
-    {"NoBlankNeeded", "nnn", "1*?,2*-3", {1, 0, kUnknown, 2, 0, -3}},
-    {"Boolean", "nbn", "1T2,3 F 4,5*6", {1, 1, 2, 3, 0, 4, 5, 0, 6}},
-    {"Intermittent",
-     "nii",
-     "1,2 3,4 5 6,7 ? 8",
-     {1, kUnknown, kUnknown, 2, 3, kUnknown, 4, 5, 6, 7, kUnknown, 8}},
-};
-INSTANTIATE_TEST_SUITE_P(ByHand, PointListTest, ::testing::ValuesIn(kPointLists), byName);
+INSTANTIATE_TEST_SUITE_P(ByHand, PointListTest, ::testing::ValuesIn(rowsOf("inkml/points.txt")),
+                         byFirstField);
 
 // ---- Formats
 
@@ -81,59 +49,22 @@ Recording read(const QByteArray& inside) {
     return recording ? *recording : Recording();
 }
 
-struct Scaling : Named {
-    const char* channels;  // attributes of X, Y and others
-    const char* trace;
-    RecordedSample last;  // what the trace's last point becomes
-};
-
-class ScalingTest : public ::testing::TestWithParam<Scaling> {};
+class ScalingTest : public ::testing::TestWithParam<QStringList> {};
 
 TEST_P(ScalingTest, LastPointIs) {
     QByteArray format = "<traceFormat>";
-    for (const QByteArray& channel : QByteArray(GetParam().channels).split(';'))
-        format += "<channel name=" + channel + "/>";
-    const Recording recording = read(format + "</traceFormat><trace>" + GetParam().trace + "</trace>");
+    for (const QString& channel : GetParam()[1].split(';'))
+        format += "<channel name=" + channel.toUtf8() + "/>";
+    const Recording recording = read(format + "</traceFormat><trace>" + GetParam()[2].toUtf8() + "</trace>");
     ASSERT_EQ(recording.strokes.size(), 1u);
-    const RecordedSample& last = GetParam().last;
-    EXPECT_THAT(recording.strokes[0].samples.back(), IsSample(last.x, last.y, last.pressure, last.altitude));
+    std::vector<double> last;
+    for (const QString& number : GetParam()[3].split(' '))
+        last.push_back(number == "-" ? kNone : number.toDouble());
+    ASSERT_EQ(last.size(), 4u);
+    EXPECT_THAT(recording.strokes[0].samples.back(), IsSample(last[0], last[1], last[2], last[3]));
 }
-
-const Scaling kScalings[] = {
-    {"Pixels", "'X';'Y' units='dev'", "10 20", {10, 20, kNone, kNone}},
-    {"Inches", "'X' units='in';'Y' units='in'", "1 .5", {96, 48, kNone, kNone}},
-    {"Metric", "'X' units='cm';'Y' units='mm'", "2.54 25.4", {96, 96, kNone, kNone}},
-    {"Points", "'X' units='pt';'Y' units='pc'", "72 6", {96, 96, kNone, kNone}},
-    {"OtherOrder", "'Y';'T';'X'", "10 999 20", {20, 10, kNone, kNone}},
-    {"Backwards", "'X';'Y' min='0' max='100' orientation='-ve'", "10 20", {10, 80, kNone, kNone}},
-    // Moved, as it would lie above the canvas: the topmost point comes to 32.
-    {"BackwardsFree", "'X';'Y' orientation='-ve'", "10 50,10 20", {10, 62, kNone, kNone}},
-    {"LeftOfCanvas", "'X';'Y'", "-100 5,50 6", {182, 6, kNone, kNone}},
-    {"FarRange", "'X' min='9000' max='12000';'Y'", "9000 5,9100 6", {132, 6, kNone, kNone}},
-    // 9600 long becomes 960, with 32 around.
-    {"Tablet", "'X';'Y'", "1000 2000,10600 2500", {992, 82, kNone, kNone}},
-    {"ForceByRange", "'X';'Y';'F' min='100' max='300'", "1 2 150", {1, 2, 0.25, kNone}},
-    {"ForceBeyondRange", "'X';'Y';'F' max='300'", "1 2 301", {1, 2, 1, kNone}},
-    {"ForcePlain", "'X';'Y';'F'", "1 2 1,1 2 .25", {1, 2, 0.25, kNone}},
-    {"ForceByLargest", "'X';'Y';'F'", "1 2 500,1 2 125", {1, 2, 0.25, kNone}},
-    {"ForceNewtons", "'X';'Y';'F' units='N' max='8'", "1 2 2", {1, 2, 0.25, kNone}},
-    {"ForceUnknownHolds", "'X';'Y';'F' max='4'", "1 2 3,1 2 ?", {1, 2, 0.75, kNone}},
-    {"PlaceUnknownLeftOut", "'X';'Y'", "1 2,? 3", {1, 2, kNone, kNone}},
-    {"ElevationUpright", "'X';'Y';'OE'", "1 2 90", {1, 2, kNone, 0}},
-    {"ElevationFlat", "'X';'Y';'OE' units='deg'", "1 2 0", {1, 2, kNone, 1}},
-    {"ElevationRadians", "'X';'Y';'OE' units='rad'", "1 2 0.78539816339744830962", {1, 2, kNone, 0.5}},
-    {"ElevationTenths", "'X';'Y';'OE' min='0' max='900'", "1 2 225", {1, 2, kNone, 0.75}},
-    {"ElevationRadianRange",
-     "'X';'Y';'OE' max='1.5707963'",
-     "1 2 0.39269908169872415481",
-     {1, 2, kNone, 0.75}},
-    {"TiltOneAxis", "'X';'Y';'OTx' units='deg'", "1 2 -45", {1, 2, kNone, 0.5}},
-    // tan 45 = 1 both ways: atan(sqrt 2) = 54.7356 degrees.
-    {"TiltBothAxes", "'X';'Y';'OTx';'OTy'", "1 2 45 -45", {1, 2, kNone, 0.60817344796939278}},
-    {"TiltFlat", "'X';'Y';'OTx';'OTy'", "1 2 90 0", {1, 2, kNone, 1}},
-    {"ElevationBeforeTilt", "'X';'Y';'OTx';'OE'", "1 2 45 90", {1, 2, kNone, 0}},
-};
-INSTANTIATE_TEST_SUITE_P(Channels, ScalingTest, ::testing::ValuesIn(kScalings), byName);
+INSTANTIATE_TEST_SUITE_P(Channels, ScalingTest, ::testing::ValuesIn(rowsOf("inkml/channels.txt")),
+                         byFirstField);
 
 TEST(InkmlTest, UnknownForceBeforeTheFirstKnownIsThatOne) {
     const Recording recording = read(
@@ -146,7 +77,7 @@ TEST(InkmlTest, UnknownForceBeforeTheFirstKnownIsThatOne) {
 // ---- Files
 
 TEST(InkmlTest, AsAnOfficeProgramWritesIt) {
-    const auto read = readNamed(QStringLiteral("office.inkml"));
+    const auto read = readNamed("office.inkml");
     ASSERT_TRUE(read) << read.problem().what.toStdString();
     const Recording& recording = *read;
     ASSERT_EQ(recording.strokes.size(), 2u);
@@ -155,7 +86,7 @@ TEST(InkmlTest, AsAnOfficeProgramWritesIt) {
                 ::testing::ElementsAre(IsSample(96, 192, 0, kNone), IsSample(192, 192, 1, kNone),
                                        IsSample(192, 96, 16383 / 32767.0, kNone)));
     ASSERT_EQ(recording.strokes[0].settings.size(), 2u);
-    EXPECT_EQ(recording.strokes[0].settings[0].value, SettingValue(QStringLiteral("#e71224")));
+    EXPECT_EQ(recording.strokes[0].settings[0].value, SettingValue("#e71224"));
     EXPECT_NEAR(std::get<double>(recording.strokes[0].settings[1].value), 9.6, 1e-9);
     // A trace without a brush has the painter's own again.
     ASSERT_EQ(recording.strokes[1].settings.size(), 2u);
@@ -163,7 +94,7 @@ TEST(InkmlTest, AsAnOfficeProgramWritesIt) {
 }
 
 TEST(InkmlTest, GroupsContextsAndContinuedTraces) {
-    const auto read = readNamed(QStringLiteral("groups.inkml"));
+    const auto read = readNamed("groups.inkml");
     ASSERT_TRUE(read) << read.problem().what.toStdString();
     const Recording& recording = *read;
     ASSERT_EQ(recording.strokes.size(), 4u);

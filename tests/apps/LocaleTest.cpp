@@ -5,9 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <clocale>
-#include <cmath>
 #include <cstdio>
-#include <limits>
 
 #include "DabsCommand.h"
 #include "Numbers.h"
@@ -23,9 +21,8 @@ protected:
     void SetUp() override {
         if (selectOne())
             return;
-        const QString path = _folder.filePath(QStringLiteral("de_DE.UTF-8"));
-        QProcess::execute(QStringLiteral("localedef"), {QStringLiteral("-i"), QStringLiteral("de_DE"),
-                                                        QStringLiteral("-f"), QStringLiteral("UTF-8"), path});
+        const QString path = _folder.filePath("de_DE.UTF-8");
+        QProcess::execute("localedef", {"-i", "de_DE", "-f", "UTF-8", path});
         qputenv("LOCPATH", _folder.path().toLocal8Bit());
         if (!selectOne())
             GTEST_SKIP() << "no locale with a decimal comma, and none can be made";
@@ -64,8 +61,8 @@ TEST_F(LocaleTest, ReadingAndWritingKeepTheDecimalPoint) {
     EXPECT_EQ(ink->strokes.at(0).samples.at(0).y, 0.25);
 
     const BrushProperty* radius = brushPropertyNamed(u"radius");
-    EXPECT_EQ((*propertyValueFromText(*radius, QStringLiteral("2.5"))).toFloat(), 2.5f);
-    EXPECT_TRUE(defaultText(*brushPropertyNamed(u"pointsDistance")).startsWith(QStringLiteral("0.15")));
+    EXPECT_EQ((*propertyValueFromText(*radius, "2.5")).toFloat(), 2.5f);
+    EXPECT_TRUE(defaultText(*brushPropertyNamed(u"pointsDistance")).startsWith("0.15"));
 
     const auto input = readDabsInput(
         R"({"strokes": [{"set": {"pointsDistanceEnabled": false}, "samples": [[0, 0], [0.5, 0]], "end": false}]})");

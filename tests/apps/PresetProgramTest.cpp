@@ -21,33 +21,23 @@ protected:
         if (!required && made.err.contains("OpenGL"))
             GTEST_SKIP() << "no OpenGL here";
         ASSERT_EQ(made.status, 0) << made.err.constData();
-        QFile whole(path("red.xbf"));
-        ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-        write("cut.xbf", whole.readAll().left(400));
+        write("cut.xbf", contentOf(path("red.xbf")).left(400));
         write("text.xbf", "hello");
     }
     Ended make(const char* name, const QStringList& settings) {
-        QStringList words{QStringLiteral("preset"), QStringLiteral("make"), QStringLiteral("-o"), path(name),
-                          QStringLiteral("--name"), QLatin1String(name)};
+        QStringList words{"preset", "make", "-o", path(name), "--name", QLatin1String(name)};
         for (const QString& setting : settings)
-            words << QStringLiteral("--set") << setting;
+            words << "--set" << setting;
         return runProgram(words);
     }
-    Ended make(const char* name, std::initializer_list<const char*> settings) {
-        QStringList texts;
-        for (const char* setting : settings)
-            texts << QString::fromUtf8(setting);
-        return make(name, texts);
-    }
     Ended preset(const char* words, const QStringList& files) {
-        return runProgram((QStringLiteral("preset ") + QLatin1String(words)).split(QLatin1Char(' ')) + files);
+        return runProgram(("preset " + QLatin1String(words)).split(QLatin1Char(' ')) + files);
     }
     // The colour amid a stroke of this recording.
     QColor painted(const QByteArray& recording, const QStringList& options = {}) {
-        const Ended ended =
-            runProgram(QStringList{QStringLiteral("paint"), write("r.json", recording), QStringLiteral("-o"),
-                                   path("out.png"), QStringLiteral("--size"), QStringLiteral("100x60")} +
-                       options);
+        const Ended ended = runProgram(
+            QStringList{"paint", write("r.json", recording), "-o", path("out.png"), "--size", "100x60"} +
+            options);
         EXPECT_EQ(ended.status, 0) << ended.err.constData();
         return QImage(path("out.png")).pixelColor(50, 30);
     }
@@ -56,30 +46,24 @@ protected:
 const QByteArray kLine = R"("samples": [[20, 30, 1, 0], [40, 30, 1, 0], [60, 30, 1, 0], [80, 30, 1, 0]])";
 
 TEST_F(PresetProgramTest, ShowsWhatWasMade) {
-    QImage tip(12, 10, QImage::Format_ARGB32);
-    tip.fill(Qt::black);
-    ASSERT_TRUE(tip.save(path("tip.png")));
+    const QString tip = savedPicture(path("tip.png"), Qt::black, {12, 10});
     const Ended made =
-        make("b.xbf", QStringList{QStringLiteral("textureImages=%1,%1").arg(path("tip.png")),
-                                  QStringLiteral("maskImage=") + path("tip.png"),
-                                  QStringLiteral("radius=7.5"), QStringLiteral("radiusControl=0.5,0.25,-1"),
-                                  QStringLiteral("moveRadianEnable=yes")});
+        make("b.xbf", QStringList{QString("textureImages=%1,%1").arg(tip), "maskImage=" + tip, "radius=7.5",
+                                  "radiusControl=0.5,0.25,-1", "moveRadianEnable=yes"});
     ASSERT_EQ(made.status, 0) << made.err.constData();
     const Ended text = preset("show", {path("b.xbf")});
     EXPECT_THAT(text.out.toStdString(), ::testing::HasSubstr("b.xbf: \"b.xbf\", version 200\n"));
     const auto file =
         QJsonDocument::fromJson(preset("show --json", {path("b.xbf")}).out).array().at(0).toObject();
-    EXPECT_TRUE(file[QStringLiteral("problem")].isNull());
+    EXPECT_TRUE(file["problem"].isNull());
     std::multimap<QString, QJsonValue> values;
-    const auto brush = file[QStringLiteral("brushes")].toArray().at(0).toObject();
-    for (const auto& record : brush[QStringLiteral("records")].toArray())
-        values.emplace(
-            record[QStringLiteral("property")].toString() + record[QStringLiteral("part")].toString(),
-            record[QStringLiteral("value")]);
-    const QJsonValue image = values.find(QStringLiteral("textureImages"))->second;
-    EXPECT_EQ(values.count(QStringLiteral("textureImages")), 2u);
-    EXPECT_EQ(image[QStringLiteral("width")].toInt(), 12);
-    EXPECT_EQ(values.find(QStringLiteral("maskImage"))->second, image);
+    const auto brush = file["brushes"].toArray().at(0).toObject();
+    for (const QJsonValue& record : brush["records"].toArray())
+        values.emplace(record["property"].toString() + record["part"].toString(), record["value"]);
+    const QJsonValue image = values.find("textureImages")->second;
+    EXPECT_EQ(values.count("textureImages"), 2u);
+    EXPECT_EQ(image["width"].toInt(), 12);
+    EXPECT_EQ(values.find("maskImage")->second, image);
     const struct {
         const char* name;
         QJsonValue value;
@@ -104,12 +88,9 @@ TEST_F(PresetProgramTest, ShowTellsWhatCouldBeReadAndThenTheDamage) {
 
 TEST_F(PresetProgramTest, WhatIsNotWholeIsRefused) {
     // A record's image that is none: the first byte of the PNG is another.
-    QImage tip(12, 10, QImage::Format_ARGB32);
-    ASSERT_TRUE(tip.save(path("tip.png")));
-    ASSERT_EQ(make("t.xbf", QStringList(QStringLiteral("maskImage=") + path("tip.png"))).status, 0);
-    QFile file(path("t.xbf"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    write("image.xbf", file.readAll().replace("PNG", "GNP"));
+    const QString tip = savedPicture(path("tip.png"), Qt::black);
+    ASSERT_EQ(make("t.xbf", QStringList("maskImage=" + tip)).status, 0);
+    write("image.xbf", contentOf(path("t.xbf")).replace("PNG", "GNP"));
     const std::pair<const char*, const char*> kBad[] = {
         {"cut.xbf", "cut.xbf: the brush file is damaged: record"},
         {"text.xbf", "text.xbf: this is not an XBF file"},
@@ -127,8 +108,8 @@ TEST_F(PresetProgramTest, WhatIsNotWholeIsRefused) {
         ASSERT_TRUE(QFile::remove(named));
     }
     expectOneLine(make("none/a.xbf", {}), 1, "none/a.xbf: cannot be written");
-    expectOneLine(preset("show", {QStringLiteral("-")}), 2, "not from standard input");
-    expectOneLine(preset("make -o a.xbf --name a --brush", {QStringLiteral("-")}), 2, "standard input");
+    expectOneLine(preset("show", {"-"}), 2, "not from standard input");
+    expectOneLine(preset("make -o a.xbf --name a --brush", {"-"}), 2, "standard input");
     expectOneLine(make("a.xbf", {"gaussianRadius=3"}), 2, "does not keep gaussianRadius");
     EXPECT_EQ(filesThere(), before);
 }
@@ -147,7 +128,7 @@ TEST_F(PresetProgramTest, TheNearestSourceOfASettingWins) {
             const int canvas = (i + 2 * j) % 4;  // bits: the recording's own, the command line's
             const QByteArray own = R"("canvas": {"width": 110, "height": 70, "background": "#777777"}, )";
             QStringList words{
-                QStringLiteral("paint"), QStringLiteral("-o"), path("out.png"),
+                "paint", "-o", path("out.png"),
                 write("r.json", "{" + (canvas & 1 ? own : QByteArray()) +
                                     (has(1) ? R"("brush": "blue.xbf", )" : "") +
                                     R"("strokes": [{"samples": [[0, 0]]}, {)" +
@@ -155,10 +136,9 @@ TEST_F(PresetProgramTest, TheNearestSourceOfASettingWins) {
                                     (has(3) ? R"("set": {"renderColor": "#ffff00"}, )" : "") + kLine + "}]}"),
                 write("grey.json",
                       R"({"canvas": {"background": "#123456"}, "strokes": [{"samples": [[0, 0]]}]})")};
-            for (const auto& [given, text] :
-                 {std::pair{has(0), "--brush " + path("red.xbf")},
-                  {has(4), QStringLiteral("--set renderColor=#00ff00")},
-                  {(canvas & 2) != 0, QStringLiteral("--background #ffffff --size 100x60")}}) {
+            for (const auto& [given, text] : {std::pair{has(0), "--brush " + path("red.xbf")},
+                                              {has(4), "--set renderColor=#00ff00"},
+                                              {(canvas & 2) != 0, "--background #ffffff --size 100x60"}}) {
                 words += given ? text.split(QLatin1Char(' ')) : QStringList();
             }
             const Ended ended = runProgram(words);
@@ -180,9 +160,8 @@ TEST_F(PresetProgramTest, TheNearestSourceOfASettingWins) {
     // The next recording starts with what the command line says, or with a new canvas's brush.
     const QByteArray yellow = R"({"strokes": [{"set": {"renderColor": "#ffff00"}, )" + kLine + "}]}";
     const QString plain = write("plain.json", R"({"strokes": [{)" + kLine + "}]}");
-    EXPECT_EQ(painted(yellow, {QStringLiteral("--brush"), path("red.xbf"), plain}), QColor(Qt::red));
-    EXPECT_EQ(painted(yellow, {plain, QStringLiteral("--set"), QStringLiteral("hardness=1")}),
-              QColor(Qt::black));
+    EXPECT_EQ(painted(yellow, {"--brush", path("red.xbf"), plain}), QColor(Qt::red));
+    EXPECT_EQ(painted(yellow, {plain, "--set", "hardness=1"}), QColor(Qt::black));
 }
 
 // A preset made elsewhere may say nothing of colour and size, or say it twice.
@@ -212,17 +191,17 @@ TEST_F(PresetProgramTest, ABrushOfFewRecordsTakesThePlaceOfAllBefore) {
     const QColor plain = painted(recording({}));
     EXPECT_LT(plain.lightness(), 128);
     EXPECT_EQ(painted(recording(R"("set": {"maxRadius": 0, "renderColor": "#00ff00"}, )")), plain);
-    EXPECT_EQ(painted(recording({}), {QStringLiteral("--brush"), path("red.xbf")}), plain);
+    EXPECT_EQ(painted(recording({}), {"--brush", path("red.xbf")}), plain);
 }
 
 TEST_F(PresetProgramTest, ShowNamesWhateverIsUnderstood) {
     const auto record = [](int id, const QVariant& value, int type) {
-        return QDBrushManager::paramWithID(id, QStringLiteral("setIt:"), value, type);
+        return QDBrushManager::paramWithID(id, "setIt:", value, type);
     };
-    ASSERT_TRUE(QDBrushManager::saveParams(
-        BrushParams{record(0x3001, true, kXBFBool), record(0x3003, 11, kXBFInt),
-                    record(0x9006, QStringLiteral("void"), kXBFText), record(0x7777, 1, kXBFInt)},
-        100, QString::fromUtf8("🖌 水彩\n\xC2\x9B"), path("old.xbf")));
+    ASSERT_TRUE(
+        QDBrushManager::saveParams(BrushParams{record(0x3001, true, kXBFBool), record(0x3003, 11, kXBFInt),
+                                               record(0x9006, "void", kXBFText), record(0x7777, 1, kXBFInt)},
+                                   100, QString::fromUtf8("🖌 水彩\n\xC2\x9B"), path("old.xbf")));
     const std::string shown = preset("show", {path("old.xbf")}).out.toStdString();
     for (const char* line :
          {": \"🖌 水彩  \", version 100\n", "  size dynamics                 yes\n",
@@ -232,7 +211,7 @@ TEST_F(PresetProgramTest, ShowNamesWhateverIsUnderstood) {
 }
 
 TEST_F(PresetProgramTest, PreviewsGoIntoAFolderOrOntoASheet) {
-    ASSERT_TRUE(QDir(_folder.path()).mkdir(QStringLiteral("out")));
+    ASSERT_TRUE(QDir(_folder.path()).mkdir("out"));
     ASSERT_EQ(make("smudge.xbf", {"brushType=3", "radius=60"}).status, 0);
     const QStringList files{path("red.xbf"), path("cut.xbf"), path("smudge.xbf")};
     EXPECT_EQ(preset("preview --size 240x90 -o", QStringList(path("out")) + files).status, 1);

@@ -6,9 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+
+#include "support/Files.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -39,11 +40,7 @@ inline Ended runProgram(const QStringList& arguments, const QByteArray& input = 
 class ProgramTest : public ::testing::Test {
 protected:
     QString path(const char* name) const { return _folder.filePath(QLatin1String(name)); }
-    QString write(const char* name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return file.fileName();
-    }
+    QString write(const char* name, const QByteArray& bytes) const { return writtenTo(path(name), bytes); }
     // Runs the program with these words; % is the folder.
     Ended run(const std::string& words, const QByteArray& input = {}) const {
         const QString line = QString::fromStdString(words);

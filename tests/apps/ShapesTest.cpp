@@ -8,7 +8,7 @@
 namespace dabcanvas::dabpaint {
 namespace {
 
-const QString kShapes = QStringLiteral("shapes");
+const QString kShapes = "shapes";
 
 // A level line and a stroke that is too short, their rows mixed.
 QByteArray twoStrokes() {
@@ -25,8 +25,8 @@ const char kTwoRows[] = R"("a ""line"", level",line,,[01](\.[0-9]+)?,10 20\.5 50
 
 TEST_F(ProgramTest, ShapesComeStrokeByStrokeFromAnyInput) {
     const auto isTable = [](const std::string& rows) { return ::testing::MatchesRegex(kHeader + rows); };
-    for (const QStringList& arguments : {QStringList{kShapes}, QStringList{kShapes, QStringLiteral("-")}}) {
-        const Ended ended = runProgram(arguments, twoStrokes(), {QStringLiteral("LC_ALL=de_DE.UTF-8")});
+    for (const QStringList& arguments : {QStringList{kShapes}, QStringList{kShapes, "-"}}) {
+        const Ended ended = runProgram(arguments, twoStrokes(), {"LC_ALL=de_DE.UTF-8"});
         EXPECT_EQ(ended.status, 0) << ended.err.constData();
         EXPECT_THAT(ended.out.toStdString(), isTable(kTwoRows));
     }
@@ -35,11 +35,7 @@ TEST_F(ProgramTest, ShapesComeStrokeByStrokeFromAnyInput) {
     const Ended ended = run("shapes %in.csv - -o %out.csv --outlines %lines.csv", twoStrokes());
     EXPECT_EQ(ended.status, 0) << ended.err.constData();
     EXPECT_TRUE(ended.out.isEmpty());
-    const auto written = [&](const char* name) {
-        QFile out(path(name));
-        EXPECT_TRUE(out.open(QIODevice::ReadOnly));
-        return out.readAll().toStdString();
-    };
+    const auto written = [&](const char* name) { return contentOf(path(name)).toStdString(); };
     EXPECT_THAT(written("out.csv"), isTable(std::string(kTwoRows) + kTwoRows));
     const std::string line = "\"a \"\"line\"\", level\",10,20.5\n\"a \"\"line\"\", level\",50,20.5\n";
     EXPECT_EQ(written("lines.csv"), "sample_id,x,y\n" + line + line);
@@ -67,7 +63,7 @@ TEST_F(ProgramTest, BadTablesAreToldWithTheirLineAndLeaveNoFile) {
     expectOneLine(run("shapes %in.csv --outlines %no/a -o %out.csv"), 1, "no/a: cannot be written");
     expectOneLine(run("shapes %in.csv --outlines -"), 2, "would both go to standard output");
     expectOneLine(run("shapes - %in.csv --outlines %./in.csv"), 2, "in.csv is what is read");
-    EXPECT_EQ(filesThere(), QStringList(QStringLiteral("in.csv")));
+    EXPECT_EQ(filesThere(), QStringList("in.csv"));
 }
 
 // A line, a spiral and a line, drawn within no time.

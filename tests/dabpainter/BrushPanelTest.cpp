@@ -31,8 +31,8 @@ protected:
                                : spin->value() - spin->singleStep());
         } else if (auto* swatch = editor.findChild<SwatchButton*>()) {
             swatch->click();
-        } else if (auto* load = editor.findChild<QPushButton*>(QStringLiteral("load"))) {
-            _images = {savedImage(QStringLiteral("tip.png"), Qt::red)};
+        } else if (auto* load = editor.findChild<QPushButton*>("load")) {
+            _images = {savedImage("tip.png", Qt::red)};
             load->click();
         } else {
             return false;
@@ -107,7 +107,7 @@ TEST_F(BrushPanelTest, ATypedNumberIsTheNumber) {
         };
         for (const char c : std::string(one.typed))
             press(c, QString(QLatin1Char(c)));
-        press(Qt::Key_Return, QStringLiteral("\r"));
+        press(Qt::Key_Return, "\r");
         EXPECT_EQ(_window->brush().value(BrushKey::radius).toFloat(), one.radius);
         EXPECT_TRUE(_window->viewport().hasFocus());
     }
@@ -124,12 +124,12 @@ TEST_F(BrushPanelTest, SearchShowsTheRowsThatMatch) {
         }
         return names;
     };
-    panel.filter(QStringLiteral("Hue jitter"));
-    EXPECT_TRUE(shown().contains(QStringLiteral("hueTingle")));
-    EXPECT_FALSE(shown().contains(QStringLiteral("radiusTingle")));
-    panel.filter(QStringLiteral("slRadius"));
-    EXPECT_TRUE(shown().contains(QStringLiteral("slRadius")));
-    panel.filter(QStringLiteral("no such thing"));
+    panel.filter("Hue jitter");
+    EXPECT_TRUE(shown().contains("hueTingle"));
+    EXPECT_FALSE(shown().contains("radiusTingle"));
+    panel.filter("slRadius");
+    EXPECT_TRUE(shown().contains("slRadius"));
+    panel.filter("no such thing");
     EXPECT_EQ(shown(), QStringList());
 }
 
@@ -139,7 +139,7 @@ TEST(BrushPresentationTest, APropertyThatNobodyDescribedIsPresentable) {
                                .field = &BrushSettings::radiusTingle,
                                .group = BrushGroup::shape};
     const BrushPresentation shown = brushPresentation(jitter);
-    EXPECT_EQ(shown.label, QStringLiteral("Edge size jitter"));
+    EXPECT_EQ(shown.label, "Edge size jitter");
     EXPECT_EQ(shown.place, BrushPlace::panel);
     EXPECT_EQ(shown.low, 0);
     EXPECT_EQ(shown.high, 100);

@@ -2,7 +2,6 @@
 #include "BrushStorage.h"
 
 #include <QDeadlineTimer>
-#include <QFile>
 
 #include "BrushPresentation.h"
 #include "PainterTest.h"
@@ -31,8 +30,7 @@ TEST_F(BrushStorageTest, EveryValueComesBackInTheNextRun) {
     const std::vector<QVariant> before = valuesOf(_window->brush());
     // The window is not closed, as when a run is killed.
     const auto isWritten = [&] {
-        QFile file(_settings->fileName());
-        return file.open(QIODevice::ReadOnly) && file.readAll().contains("\nradius=");
+        return QFile::exists(_settings->fileName()) && contentOf(_settings->fileName()).contains("\nradius=");
     };
     const QDeadlineTimer patience(20'000);
     while (!isWritten() && !patience.hasExpired())
@@ -52,14 +50,12 @@ TEST_F(BrushStorageTest, EveryValueComesBackInTheNextRun) {
 
 TEST_F(BrushStorageTest, BrokenValuesAndUnknownNamesAreLeftOut) {
     _window->close();
-    QFile file(_settings->fileName());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(
+    writtenTo(
+        _settings->fileName(),
         "[window]\ngeometry=rubbish\nstate=@ByteArray(rubbish)\n"
         "[brush]\nradius=nan\nflow=half\nopacity=0.25\nblendType=first\nnoSuchThing=1\nsmoothEnabled=maybe\n"
         "radiusControl=1, 2\nrenderColor=0.5, 0.5, x, 1\nmaskImage=AAAA\ntextureImages=!!, AAAA\n"
         "hardness=7\nenableRecogition=true\n");
-    file.close();
     _settings->sync();
     makeWindow();
     const BrushModel& brush = _window->brush();

@@ -11,7 +11,6 @@
 #include <QTouchEvent>
 #include <cerrno>
 #include <cstring>
-#include <functional>
 #include <string>
 
 #include "ESRender/ESImageRender.h"
@@ -24,7 +23,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "support/FullDisk.h"
+#include "support/Limits.h"
 #endif
 
 namespace dabcanvas::dabpainter {
@@ -123,7 +122,7 @@ TEST_F(MainWindowTest, AStrokeMayBeginBesideTheCanvas) {
 
 // On an opaque canvas down to the paper, on another one through it; by the pen's other end as by a brush that erases.
 TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
-    const QPointingDevice eraser(QStringLiteral("eraser"), 7, QInputDevice::DeviceType::Stylus,
+    const QPointingDevice eraser("eraser", 7, QInputDevice::DeviceType::Stylus,
                                  QPointingDevice::PointerType::Eraser, QInputDevice::Capability::Pressure, 1,
                                  1);
     QDDrawView* view = _window->view();
@@ -142,26 +141,12 @@ TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
     };
     BrushModel& brush = _window->brush();
     const QColor paper(250, 240, 200);
-    QImage grey(200, 150, QImage::Format_ARGB32);  // opaque, whatever its format could hold
-    grey.fill(Qt::gray);
-    ASSERT_TRUE(grey.save(path(QStringLiteral("grey.png"))));
+    const QString grey = savedImage("grey.png", Qt::gray, {200, 150});
     const struct {
         const char* name;
-        std::function<bool()> start;
-        QColor erased;  // transparent: a hole
-    } rows[] = {
-        {"paper",
-         [&] {
-             return _window->startCanvas({QSize(200, 150), paper});
-         },
-         paper},
-        {"a picture", [&] { return _window->openImage(path(QStringLiteral("grey.png"))); }, Qt::white},
-        {"no paper",
-         [&] {
-             return _window->startCanvas({QSize(200, 150), Qt::transparent});
-         },
-         QColor()},
-    };
+        QColor ground;  // none: the picture
+        QColor erased;  // none: a hole
+    } rows[] = {{"paper", paper, paper}, {"a picture", {}, Qt::white}, {"no paper", Qt::transparent, {}}};
     brush.setValue(BrushKey::hardness, 1.0f);
     brush.setValue(BrushKey::hueTingle, 0.5f);
     const QVariant ink = QVariant::fromValue(ESColor::rgba(0.8f, 0.1f, 0.1f));
@@ -169,7 +154,8 @@ TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
     for (const auto& row : rows) {
         for (const bool isPen : {true, false}) {
             SCOPED_TRACE(std::string(row.name) + (isPen ? ", pen" : ", brush"));
-            ASSERT_TRUE(row.start());
+            ASSERT_TRUE(row.ground.isValid() ? _window->startCanvas({QSize(200, 150), row.ground})
+                                             : _window->openImage(grey));
             _window->viewport().setZoom(1);
             paint();
             const QColor painted = pixel(100, 75);
@@ -197,7 +183,7 @@ TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
 }
 
 TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
-    const QPointingDevice screen(QStringLiteral("touch"), 8, QInputDevice::DeviceType::TouchScreen,
+    const QPointingDevice screen("touch", 8, QInputDevice::DeviceType::TouchScreen,
                                  QPointingDevice::PointerType::Finger, QInputDevice::Capability::Position, 5,
                                  0);
     QDDrawView* view = _window->view();
@@ -241,8 +227,8 @@ TEST_F(MainWindowTest, NothingElseHappensInTheMiddleOfAStroke) {
     paint();
     _window->view()->undo();
     paint();
-    _images = {savedImage(QStringLiteral("a.png"), Qt::red)};
-    _saveName = path(QStringLiteral("b.png"));
+    _images = {savedImage("a.png", Qt::red)};
+    _saveName = path("b.png");
     _answer = UnsavedAnswer::discard;
     const double zoom = _window->viewport().zoom();
     const QDDrawView* const view = _window->view();
@@ -275,12 +261,12 @@ TEST_F(MainWindowTest, NothingIsLostUnasked) {
 
     _answer = UnsavedAnswer::save;
     EXPECT_FALSE(_window->mayDiscard()) << "no name was given";
-    _saveName = path(QStringLiteral("no such folder/a.png"));
+    _saveName = path("no such folder/a.png");
     EXPECT_FALSE(_window->mayDiscard());
     EXPECT_EQ(_told.size(), 1);
     EXPECT_TRUE(_window->isUnsaved());
 
-    _saveName = path(QStringLiteral("a.png"));
+    _saveName = path("a.png");
     EXPECT_TRUE(_window->mayDiscard());
     EXPECT_FALSE(_window->isUnsaved());
     const QImage saved(_saveName);
@@ -298,9 +284,9 @@ TEST_F(MainWindowTest, NothingIsLostUnasked) {
 #ifdef Q_OS_UNIX
 TEST_F(MainWindowTest, AFullDiskLeavesTheOldFiles) {
     paint();
-    const QString picture = savedImage(QStringLiteral("a.png"), Qt::red);
-    const QString brush = path(QStringLiteral("b.xbf"));
-    ASSERT_TRUE(QDBrushManager::saveParamsWithDrawView(_window->view(), QStringLiteral("B"), brush));
+    const QString picture = savedImage("a.png", Qt::red);
+    const QString brush = path("b.xbf");
+    ASSERT_TRUE(QDBrushManager::saveParamsWithDrawView(_window->view(), "B", brush));
     {
         const FullDisk full;
         EXPECT_FALSE(_window->saveTo(picture));
@@ -311,7 +297,7 @@ TEST_F(MainWindowTest, AFullDiskLeavesTheOldFiles) {
     EXPECT_TRUE(_window->isUnsaved());
     EXPECT_EQ(QImage(picture).size(), QSize(24, 16));
     const auto every = QDir::Files | QDir::Hidden;
-    EXPECT_EQ(QDir(path(QStringLiteral("brushes"))).entryList(every).size(), 0);
+    EXPECT_EQ(QDir(path("brushes")).entryList(every).size(), 0);
 }
 #endif
 
@@ -322,7 +308,7 @@ TEST_F(MainWindowTest, WhatDeadRunsLeftGoesWhenTheUserSaysSo) {
     const auto died = [&](const QByteArray& picture) {
         const pid_t run = ::fork();
         if (run == 0) {
-            const SessionFolder session(path(QStringLiteral("sessions")));
+            const SessionFolder session(path("sessions"));
             QFile file(session.pictures());
             const bool written = file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size();
             file.close();
@@ -334,10 +320,10 @@ TEST_F(MainWindowTest, WhatDeadRunsLeftGoesWhenTheUserSaysSo) {
         return ::waitpid(run, &status, 0) == run && status == 0;
     };
     const auto folders = [&] {
-        return QDir(path(QStringLiteral("sessions"))).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+        return QDir(path("sessions")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
     };
     EXPECT_EQ(folders(), 1) << "this run's own";
-    EXPECT_TRUE(_window->view()->undoManager().tempDirectory().startsWith(path(QStringLiteral("sessions"))));
+    EXPECT_TRUE(_window->view()->undoManager().tempDirectory().startsWith(path("sessions")));
     ASSERT_TRUE(died(""));
     for (int i = 0; i < 4; ++i)
         ASSERT_TRUE(died("a picture"));
@@ -360,37 +346,34 @@ TEST_F(MainWindowTest, WhatDeadRunsLeftGoesWhenTheUserSaysSo) {
 // ---- Image files
 
 TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {
-    const QString file = savedImage(QStringLiteral("green.png"), QColor(0, 255, 0, 128));
+    const QString file = savedImage("green.png", QColor(0, 255, 0, 128));
     ASSERT_TRUE(_window->openImage(file));
     EXPECT_EQ(_window->view()->bufferSize(), QSizeF(24, 16));
     EXPECT_EQ(pixel(5, 5).alpha(), 128);
     EXPECT_FALSE(_window->isUnsaved());
     EXPECT_TRUE(_window->saveTo(file));
-    EXPECT_TRUE(_window->saveTo(path(QStringLiteral("p.jpg"))));
-    EXPECT_EQ(QImageReader::imageFormat(path(QStringLiteral("p.jpg"))), "jpeg");
-    EXPECT_FALSE(_window->saveTo(path(QStringLiteral("p.gif"))));
-    EXPECT_TRUE(_told.value(0).contains(QStringLiteral("no picture is written as .gif")));
+    EXPECT_TRUE(_window->saveTo(path("p.jpg")));
+    EXPECT_EQ(QImageReader::imageFormat(path("p.jpg")), "jpeg");
+    EXPECT_FALSE(_window->saveTo(path("p.gif")));
+    EXPECT_TRUE(_told.value(0).contains("no picture is written as .gif"));
 }
 
 TEST_F(MainWindowTest, APlacedImageIsInTheMiddleAndFits) {
     _window->viewport().setZoom(1.37);
-    ASSERT_TRUE(_window->placeImage(savedImage(QStringLiteral("small.png"), Qt::red)));
+    ASSERT_TRUE(_window->placeImage(savedImage("small.png", Qt::red)));
     EXPECT_EQ(pixel(100, 75), QColor(Qt::red));
     EXPECT_EQ(pixel(88, 67), QColor(Qt::red));
     EXPECT_EQ(pixel(87, 75), QColor(Qt::white));
     EXPECT_EQ(pixel(112, 75), QColor(Qt::white));
     EXPECT_TRUE(_window->isUnsaved());
-    ASSERT_TRUE(_window->placeImage(savedImage(QStringLiteral("tall.png"), Qt::blue, QSize(100, 600))));
+    ASSERT_TRUE(_window->placeImage(savedImage("tall.png", Qt::blue, QSize(100, 600))));
     EXPECT_EQ(pixel(100, 0), QColor(Qt::blue));
     EXPECT_EQ(pixel(100, 149), QColor(Qt::blue));
     EXPECT_EQ(pixel(80, 75), QColor(Qt::white));
 }
 
 TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
-    const QString good = savedImage(QStringLiteral("good.png"), Qt::green, QSize(300, 300));
-    QFile file(good);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray png = file.readAll();
+    const QByteArray png = contentOf(savedImage("good.png", Qt::green, QSize(300, 300)));
     const struct {
         const char* name;
         QByteArray bytes;
@@ -402,12 +385,9 @@ TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
     paint();
     const QDDrawView* before = _window->view();
     const QImage painted = _window->view()->image();
-    QStringList paths{path(QStringLiteral("missing.png")), _folder.path()};
+    QStringList paths{path("missing.png"), _folder.path()};
     for (const auto& bad : kBad) {
-        QFile out(path(QString::fromLatin1(bad.name)));
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(bad.bytes);
-        paths << out.fileName();
+        paths << writtenTo(path(bad.name), bad.bytes);
     }
     const LogCapture quiet;
     for (const QString& name : paths) {
@@ -457,7 +437,7 @@ TEST_F(MainWindowTest, StrokesBecomeShapesWhileTheSwitchIsOn) {
     drag(spiral);
     EXPECT_EQ(_window->view()->image(), blank);
     EXPECT_FALSE(_window->isUnsaved());
-    EXPECT_EQ(_window->statusBar()->currentMessage(), QStringLiteral("No shape was recognised"));
+    EXPECT_EQ(_window->statusBar()->currentMessage(), "No shape was recognised");
     EXPECT_FALSE(_window->view()->canUndo());
     paint();
     EXPECT_TRUE(_window->isUnsaved());

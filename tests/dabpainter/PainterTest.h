@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <cmath>
 #include <memory>
 #include <optional>
 
@@ -17,6 +16,7 @@
 #include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 #include "support/BrushValues.h"
+#include "support/Files.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -62,10 +62,7 @@ protected:
     QString path(const QString& name) const { return _folder.filePath(name); }
 
     QString savedImage(const QString& name, const QColor& color, QSize size = QSize(24, 16)) const {
-        QImage image(size, QImage::Format_ARGB32);
-        image.fill(color);
-        EXPECT_TRUE(image.save(path(name)));
-        return path(name);
+        return savedPicture(path(name), color, size);
     }
 
     void paint() {
@@ -91,7 +88,7 @@ protected:
 // A value of the property that is neither its default nor the present one.
 inline QVariant otherValue(const BrushProperty& property, const QVariant& now) {
     if (property.type() == BrushValueType::text)
-        return QStringLiteral("other");
+        return "other";
     const QVariant one = someValue(property, 2);
     return one == now ? someValue(property, 1) : one;
 }

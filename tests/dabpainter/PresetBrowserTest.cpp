@@ -44,17 +44,7 @@ protected:
         EXPECT_TRUE(QDBrushManager::saveParamsWithDrawView(_window->view(), name, path(file)));
         return path(file);
     }
-    QString saveBytes(const QString& file, const QByteArray& bytes) {
-        QFile out(path(file));
-        EXPECT_TRUE(out.open(QIODevice::WriteOnly));
-        EXPECT_EQ(out.write(bytes), bytes.size());
-        return out.fileName();
-    }
-    static QByteArray bytesOf(const QString& file) {
-        QFile in(file);
-        EXPECT_TRUE(in.open(QIODevice::ReadOnly));
-        return in.readAll();
-    }
+    QString saveBytes(const QString& file, const QByteArray& bytes) { return writtenTo(path(file), bytes); }
     // As the list shows them, from the first one that is a preset.
     QStringList shownNames() {
         QStringList names;
@@ -65,7 +55,7 @@ protected:
     }
     QString status() {
         settle();
-        return presets().findChild<QLabel*>(QStringLiteral("presetStatus"))->text();
+        return presets().findChild<QLabel*>("presetStatus")->text();
     }
 };
 
@@ -80,9 +70,9 @@ TEST_F(PresetBrowserTest, EverySettingComesBackAndTheColoursStay) {
     std::map<BrushKey, QVariant> before;
     for (const BrushProperty& property : brushProperties())
         before[property.key] = brush().value(property.key);
-    const PresetId id = save(QStringLiteral("  Rough \n chalk: 1/2 "), radius());
-    EXPECT_EQ(presets().chosenName(), QStringLiteral("Rough chalk: 1/2"));
-    EXPECT_EQ(QFileInfo(id.path).fileName(), QStringLiteral("Rough chalk_ 1_2.xbf"));
+    const PresetId id = save("  Rough \n chalk: 1/2 ", radius());
+    EXPECT_EQ(presets().chosenName(), "Rough chalk: 1/2");
+    EXPECT_EQ(QFileInfo(id.path).fileName(), "Rough chalk_ 1_2.xbf");
     EXPECT_EQ(status(), presets().chosenName());
 
     ASSERT_TRUE(presets().choose({}));
@@ -119,23 +109,23 @@ TEST_F(PresetBrowserTest, EverySettingComesBackAndTheColoursStay) {
 }
 
 TEST_F(PresetBrowserTest, ResettingGoesBackToTheChosenPreset) {
-    auto* button = _window->panel().findChild<QPushButton*>(QStringLiteral("resetAll"));
+    auto* button = _window->panel().findChild<QPushButton*>("resetAll");
     const QString plain = button->text();
-    const PresetId id = save(QStringLiteral("Wide"), 90);
+    const PresetId id = save("Wide", 90);
     EXPECT_NE(button->text(), plain);
     const auto& rows = _window->panel().rows();
     const auto size =
         *std::find_if(rows.begin(), rows.end(), [](auto* row) { return row->key() == BrushKey::radius; });
     EXPECT_TRUE(size->resetButton()->isHidden()) << "it is the preset's";
     set(BrushKey::radius, 20.0f);
-    EXPECT_EQ(status(), QStringLiteral("Wide – modified"));
+    EXPECT_EQ(status(), "Wide – modified");
     size->resetButton()->click();
     EXPECT_EQ(radius(), 90);
     set(BrushKey::radius, 32.0f);  // the engine's
     EXPECT_FALSE(size->resetButton()->isHidden());
     button->click();
     EXPECT_EQ(radius(), 90);
-    EXPECT_EQ(status(), QStringLiteral("Wide"));
+    EXPECT_EQ(status(), "Wide");
     ASSERT_TRUE(presets().choose({}));
     EXPECT_EQ(button->text(), plain);
     EXPECT_TRUE(brush().isDefault(BrushKey::radius));
@@ -144,9 +134,8 @@ TEST_F(PresetBrowserTest, ResettingGoesBackToTheChosenPreset) {
 
 TEST_F(PresetBrowserTest, APresetIsTheSameBrushWhateverWasSetBefore) {
     const auto one = QDBrushManager::paramWithID(0x1006, QString(), 0.5f, kXBFFloat);
-    ASSERT_TRUE(QDBrushManager::saveParams(BrushParams{one}, 200, QStringLiteral("Bare"),
-                                           path(QStringLiteral("bare.xbf"))));
-    ASSERT_TRUE(presets().importFiles({path(QStringLiteral("bare.xbf"))}));
+    ASSERT_TRUE(QDBrushManager::saveParams(BrushParams{one}, 200, "Bare", path("bare.xbf")));
+    ASSERT_TRUE(presets().importFiles({path("bare.xbf")}));
     EXPECT_EQ(brush().value(BrushKey::opacity).toFloat(), 0.5f);
     const BrushParams params = *brush().params();
     set(BrushKey::maxRadius, 0.25f);
@@ -160,14 +149,14 @@ TEST_F(PresetBrowserTest, APresetIsTheSameBrushWhateverWasSetBefore) {
 TEST_F(PresetBrowserTest, BrushAndPresetAreThereInTheNextRun) {
     set(BrushKey::repeatedlyRenderEnabled, true);
     set(BrushKey::slRadiusRelationType, 2);
-    save(QStringLiteral("Twins"), 40);
+    save("Twins", 40);
     for (const bool modified : {false, true}) {
         SCOPED_TRACE(modified);
         if (modified)
             set(BrushKey::opacity, 0.3f);
         ASSERT_TRUE(_window->close());
         makeWindow();
-        EXPECT_EQ(presets().chosenName(), QStringLiteral("Twins"));
+        EXPECT_EQ(presets().chosenName(), "Twins");
         EXPECT_EQ(brush().isModified(), modified);
         EXPECT_EQ(brush().value(BrushKey::opacity).toFloat(), modified ? 0.3f : 1.0f);
         ASSERT_TRUE(_window->startCanvas({QSize(30, 30), Qt::white}));
@@ -187,12 +176,12 @@ TEST_F(PresetBrowserTest, BrushAndPresetAreThereInTheNextRun) {
 // ---- Files
 
 TEST_F(PresetBrowserTest, NamesThatCollideLoseNothing) {
-    const PresetId first = save(QStringLiteral("a/b"), 10);
-    EXPECT_NE(save(QStringLiteral("a:b"), 20), first) << "another name, though the file's would be the same";
+    const PresetId first = save("a/b", 10);
+    EXPECT_NE(save("a:b", 20), first) << "another name, though the file's would be the same";
     EXPECT_TRUE(_questions.isEmpty());
     _confirmed = false;
     set(BrushKey::radius, 30.0f);
-    _name = QStringLiteral("A/B");
+    _name = "A/B";
     EXPECT_FALSE(presets().saveNew());
     EXPECT_FALSE(presets().overwrite(first));
     EXPECT_FALSE(presets().remove(first));
@@ -204,58 +193,55 @@ TEST_F(PresetBrowserTest, NamesThatCollideLoseNothing) {
     set(BrushKey::radius, 30.0f);
     EXPECT_TRUE(presets().overwrite(first));
     EXPECT_FALSE(brush().isModified());
-    _name = QStringLiteral("a*b");
+    _name = "a*b";
     EXPECT_TRUE(presets().rename(first));
-    EXPECT_EQ(presets().chosenName(), QStringLiteral("a*b"));
-    EXPECT_EQ(shownNames(), (QStringList{QStringLiteral("a*b"), QStringLiteral("a:b")}));
+    EXPECT_EQ(presets().chosenName(), "a*b");
+    EXPECT_EQ(shownNames(), (QStringList{"a*b", "a:b"}));
     const PresetId renamed = presets().chosen();
     EXPECT_TRUE(presets().remove(renamed));
-    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("a:b")});
+    EXPECT_EQ(shownNames(), QStringList{"a:b"});
     EXPECT_EQ(radius(), 30) << "the brush stays";
     EXPECT_FALSE(brush().preset());
 }
 
 TEST(PresetFileNameTest, EveryNameMakesAFile) {
     const std::map<QString, QString> kNames = {
-        {QStringLiteral("../../etc"), QStringLiteral("_._.._etc")},
-        {QStringLiteral(" . "), QStringLiteral("_")},
-        {QStringLiteral("Con.brush"), QStringLiteral("_Con.brush")},
-        {QStringLiteral("lpt1"), QStringLiteral("_lpt1")},
-        {QStringLiteral("a\x01<b>?"), QStringLiteral("a__b__")},
-        {QString(500, QLatin1Char('x')), QString(80, QLatin1Char('x'))},
-        {QStringLiteral("Größe 3."), QStringLiteral("Größe 3")}};
+        {"../../etc", "_._.._etc"},  {" . ", "_"},
+        {"Con.brush", "_Con.brush"}, {"lpt1", "_lpt1"},
+        {"a\x01<b>?", "a__b__"},     {QString(500, QLatin1Char('x')), QString(80, QLatin1Char('x'))},
+        {"Größe 3.", "Größe 3"}};
     for (const auto& [name, file] : kNames)
         EXPECT_EQ(presetFileName(name), file) << qPrintable(name);
 }
 
 TEST_F(PresetBrowserTest, ADamagedFileLeavesTheBrushAsItWas) {
-    const QByteArray whole = bytesOf(saveElsewhere(QStringLiteral("whole.xbf"), QStringLiteral("Whole")));
+    const QByteArray whole = contentOf(saveElsewhere("whole.xbf", "Whole"));
     set(BrushKey::radius, 77.0f);
     QImage paper(8, 8, QImage::Format_ARGB32);
     paper.fill(Qt::black);
     set(BrushKey::maskImage, paper);
-    QByteArray noImage = bytesOf(saveElsewhere(QStringLiteral("paper.xbf"), QStringLiteral("Paper")));
+    QByteArray noImage = contentOf(saveElsewhere("paper.xbf", "Paper"));
     set(BrushKey::maskImage, QImage());
     const LogCapture quiet;
     const std::map<QString, QByteArray> kBad = {
-        {QStringLiteral("image.xbf"), noImage.replace("PNG", "GNP")},
-        {QStringLiteral("empty.xbf"), ""},
-        {QStringLiteral("text.xbf"), "this is no brush, but a text that is long enough"},
-        {QStringLiteral("cut.xbf"), whole.left(whole.size() / 2)}};
+        {"image.xbf", noImage.replace("PNG", "GNP")},
+        {"empty.xbf", ""},
+        {"text.xbf", "this is no brush, but a text that is long enough"},
+        {"cut.xbf", whole.left(whole.size() / 2)}};
     for (const auto& [name, bytes] : kBad) {
         SCOPED_TRACE(qPrintable(name));
         _told.clear();
         EXPECT_FALSE(presets().importFiles({saveBytes(name, bytes)}));
         ASSERT_EQ(_told.size(), 1);
         EXPECT_TRUE(_told[0].contains(name));
-        EXPECT_FALSE(QFileInfo::exists(path(QStringLiteral("brushes/")) + name));
+        EXPECT_FALSE(QFileInfo::exists(path("brushes/") + name));
         // And when it stands in the folder.
-        ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("brushes"))));
-        const QString there = saveBytes(QStringLiteral("brushes/") + name, bytes);
+        ASSERT_TRUE(QDir().mkpath(path("brushes")));
+        const QString there = saveBytes("brushes/" + name, bytes);
         EXPECT_FALSE(presets().choose({there, 0}));
         EXPECT_EQ(_told.size(), 2);
     }
-    EXPECT_FALSE(presets().choose({path(QStringLiteral("missing.xbf")), 0}));
+    EXPECT_FALSE(presets().choose({path("missing.xbf"), 0}));
     EXPECT_EQ(radius(), 77);
     EXPECT_FALSE(brush().preset());
     const QAbstractItemModel* model = presets().list()->model();
@@ -265,9 +251,9 @@ TEST_F(PresetBrowserTest, ADamagedFileLeavesTheBrushAsItWas) {
 }
 
 TEST_F(PresetBrowserTest, DroppedFilesAreImportedOnceAndTheLastIsChosen) {
-    const QString one = saveElsewhere(QStringLiteral("one.xbf"), QStringLiteral("One"));
+    const QString one = saveElsewhere("one.xbf", "One");
     set(BrushKey::radius, 55.0f);
-    const QString two = saveElsewhere(QStringLiteral("two.XBF"), QStringLiteral("Two"));
+    const QString two = saveElsewhere("two.XBF", "Two");
     ASSERT_TRUE(presets().choose({}));
     const auto drop = [&](const QStringList& files) {
         QMimeData data;
@@ -284,19 +270,19 @@ TEST_F(PresetBrowserTest, DroppedFilesAreImportedOnceAndTheLastIsChosen) {
         QApplication::sendEvent(_window.get(), &event);
         return true;
     };
-    EXPECT_FALSE(drop({savedImage(QStringLiteral("picture.png"), Qt::red)}));
+    EXPECT_FALSE(drop({savedImage("picture.png", Qt::red)}));
     for (int time = 0; time < 2; ++time) {
         EXPECT_TRUE(drop({one, two}));
-        EXPECT_EQ(presets().chosenName(), QStringLiteral("Two"));
+        EXPECT_EQ(presets().chosenName(), "Two");
         EXPECT_EQ(radius(), 55);
-        EXPECT_EQ(shownNames(), (QStringList{QStringLiteral("One"), QStringLiteral("Two")}));
+        EXPECT_EQ(shownNames(), (QStringList{"One", "Two"}));
     }
     // Another file of this name is another brush.
-    EXPECT_TRUE(drop({saveElsewhere(QStringLiteral("one.xbf"), QStringLiteral("One"))}));
-    EXPECT_EQ(shownNames().count(QStringLiteral("One")), 2);
+    EXPECT_TRUE(drop({saveElsewhere("one.xbf", "One")}));
+    EXPECT_EQ(shownNames().count("One"), 2);
     EXPECT_EQ(_told, QStringList());
 
-    _saveName = path(QStringLiteral("out.xbf"));
+    _saveName = path("out.xbf");
     EXPECT_TRUE(presets().exportTo(presets().chosen()));
     const auto exported = QDBrushManager::brushesWithXBFPath(_saveName);
     ASSERT_TRUE(exported);
@@ -304,38 +290,38 @@ TEST_F(PresetBrowserTest, DroppedFilesAreImportedOnceAndTheLastIsChosen) {
 }
 
 TEST_F(PresetBrowserTest, EveryBrushOfAFileIsAPresetOfItsOwn) {
-    const QByteArray small = bytesOf(saveElsewhere(QStringLiteral("small.xbf"), QStringLiteral("Small")));
+    const QByteArray small = contentOf(saveElsewhere("small.xbf", "Small"));
     set(BrushKey::radius, 66.0f);
-    const QByteArray large = bytesOf(saveElsewhere(QStringLiteral("large.xbf"), QStringLiteral("Large")));
+    const QByteArray large = contentOf(saveElsewhere("large.xbf", "Large"));
     QByteArray both = small + large.mid(int(kXBFHeaderSize));
     both[8] = 2;  // how many brushes the header says there are
-    ASSERT_TRUE(presets().importFiles({saveBytes(QStringLiteral("both.xbf"), both)}));
-    EXPECT_EQ(shownNames(), (QStringList{QStringLiteral("Large"), QStringLiteral("Small")}));
+    ASSERT_TRUE(presets().importFiles({saveBytes("both.xbf", both)}));
+    EXPECT_EQ(shownNames(), (QStringList{"Large", "Small"}));
     EXPECT_EQ(radius(), 66) << "the last one was chosen";
     const PresetId first{presets().chosen().path, 0};
     ASSERT_TRUE(presets().choose(first));
     EXPECT_EQ(radius(), 32);
     EXPECT_FALSE(presets().overwrite(first));
     EXPECT_FALSE(presets().rename(first));
-    EXPECT_EQ(bytesOf(first.path), both);
+    EXPECT_EQ(contentOf(first.path), both);
     // Only what lies before the damage is usable.
     const LogCapture quiet;
-    saveBytes(QStringLiteral("brushes/both.xbf"), both.left(both.size() - 40));
+    saveBytes("brushes/both.xbf", both.left(both.size() - 40));
     EXPECT_TRUE(presets().choose(first));
     EXPECT_FALSE(presets().choose({first.path, 1}));
 }
 
 TEST_F(PresetBrowserTest, InstalledPresetsAreOnlyRead) {
-    ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("installed"))));
-    const QString file = saveElsewhere(QStringLiteral("installed/i.xbf"), QStringLiteral("Installed"));
+    ASSERT_TRUE(QDir().mkpath(path("installed")));
+    const QString file = saveElsewhere("installed/i.xbf", "Installed");
     makeWindow();
-    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("Installed")});
+    EXPECT_EQ(shownNames(), QStringList{"Installed"});
     const PresetId id{file, 0};
     ASSERT_TRUE(presets().choose(id));
     EXPECT_FALSE(presets().overwrite(id));
     EXPECT_FALSE(presets().rename(id));
     EXPECT_FALSE(presets().remove(id));
-    save(QStringLiteral("Installed"), 12);  // the user's own of this name
+    save("Installed", 12);  // the user's own of this name
     EXPECT_EQ(shownNames().size(), 2);
     EXPECT_TRUE(_questions.isEmpty());
     const QListView& list = *presets().list();
@@ -352,16 +338,16 @@ TEST_F(PresetBrowserTest, InstalledPresetsAreOnlyRead) {
     while (!presets().previews().isIdle())
         settle();
     const QImage before = drawn(1), plain = drawn(0);
-    presets().search()->setText(QStringLiteral("inST"));
+    presets().search()->setText("inST");
     EXPECT_EQ(list.model()->rowCount(), 2);
     EXPECT_EQ(drawn(0), before) << "a hit looks the same wherever it stands";
     EXPECT_NE(drawn(0), plain);
-    presets().search()->setText(QStringLiteral("no such"));
+    presets().search()->setText("no such");
     EXPECT_EQ(presets().list()->model()->rowCount(), 0);
 }
 
 TEST_F(PresetBrowserTest, TheListIsWorkedByMouseAndKeyboard) {
-    const PresetId one = save(QStringLiteral("One"), 11), two = save(QStringLiteral("Two"), 22);
+    const PresetId one = save("One", 11), two = save("Two", 22);
     QListView& list = *presets().list();
     const auto click = [&](int row) {
         const QPointF at = list.visualRect(list.model()->index(row, 0)).center();
@@ -391,11 +377,11 @@ TEST_F(PresetBrowserTest, TheListIsWorkedByMouseAndKeyboard) {
     EXPECT_EQ(radius(), 22);
     press(Qt::Key_Delete);
     EXPECT_FALSE(QFileInfo::exists(two.path));
-    EXPECT_EQ(shownNames(), QStringList{QStringLiteral("One")});
+    EXPECT_EQ(shownNames(), QStringList{"One"});
 }
 
 TEST_F(PresetBrowserTest, NoPresetIsTakenDuringAStroke) {
-    const PresetId id = save(QStringLiteral("One"), 11);
+    const PresetId id = save("One", 11);
     set(BrushKey::radius, 50.0f);
     _window->view()->drawingWithBeginPoint(QPointF(20, 20));
     EXPECT_FALSE(presets().choose(id));
@@ -405,8 +391,8 @@ TEST_F(PresetBrowserTest, NoPresetIsTakenDuringAStroke) {
 }
 
 TEST_F(PresetBrowserTest, PicturesShowTheBrushAndFollowItsFile) {
-    save(QStringLiteral("Thin"), 3);
-    const PresetId id = save(QStringLiteral("Thick"), 30);
+    save("Thin", 3);
+    const PresetId id = save("Thick", 30);
     const auto picture = [&](const QString& name) {
         const QAbstractItemModel* model = presets().list()->model();
         const auto found = model->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly);
@@ -423,13 +409,13 @@ TEST_F(PresetBrowserTest, PicturesShowTheBrushAndFollowItsFile) {
         }
         return dark;
     };
-    const int thin = ink(picture(QStringLiteral("Thin"))), thick = ink(picture(QStringLiteral("Thick")));
+    const int thin = ink(picture("Thin")), thick = ink(picture("Thick"));
     EXPECT_GT(thin, 50);
     EXPECT_GT(thick, 2 * thin);
     set(BrushKey::radius, 3.0f);
     set(BrushKey::opacity, 0.75f);
     ASSERT_TRUE(presets().overwrite(id));
-    EXPECT_LT(ink(picture(QStringLiteral("Thick"))), 2 * thin);
+    EXPECT_LT(ink(picture("Thick")), 2 * thin);
 }
 
 }  // namespace

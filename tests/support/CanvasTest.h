@@ -60,6 +60,19 @@ private:
     QRectF _shown;
 };
 
+// What is drawn by chance for the lines and for the dabs, a point's copies apart from it.
+inline void jitter(QDDrawCanvas& canvas) {
+    canvas.setRadius(20);
+    canvas.setRadiusTingle(0.6f);
+    canvas.setRenderColor(ESColor::rgba(0.8f, 0.3f, 0.2f));
+    canvas.setHueTingle(0.7f);
+    canvas.setStartRadianEnable(true);
+    canvas.setFlipXTingle(true);
+    canvas.setColorFul(true);
+    canvas.setDistribution(0.2f);
+    canvas.setDistributionCount(2);
+}
+
 // A stroke without its end, or with it.
 inline void beginThrough(QDDrawCanvas& canvas, const std::vector<QPointF>& points) {
     canvas.drawingWithBeginPoint(points.front());

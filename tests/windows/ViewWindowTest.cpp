@@ -9,9 +9,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QWindow>
-#include <cstdlib>
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "QDEAGLView/QDDrawView.h"
