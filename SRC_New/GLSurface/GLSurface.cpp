@@ -17,7 +17,6 @@
 namespace dabcanvas {
 namespace {
 
-constexpr std::int64_t kLargePixels = 1 << 24;  // 64 MiB a layer
 // Filtering between the smudge layer's resolution and the picture's reaches this far, in buffer pixels.
 constexpr int kSmudgeReach = 4;
 constexpr GLenum kLineUnit = GL_TEXTURE4, kSubLineUnit = GL_TEXTURE5, kSmudgeUnit = GL_TEXTURE7;
@@ -91,33 +90,19 @@ bool GLSurface::makeRenders() {
 // Drivers finish compiling when a program first draws, which would make the first segment of the first stroke late. So
 // each draws once where nothing is.
 void GLSurface::warmUp() {
-    drawOutside(ESRenderTypeLine);
+    const LPPoint outside{{-100, -100}, 1, {1, 1, 1}};
+    _context->beginRenderForType(ESRenderTypeLine);
+    _context->setBlendModelForType(ESRenderTypeLine);
+    _line.render->drawPoints(&outside, 1);
     _context->beginRenderForType(ESRenderTypeCanvas);
     blend({-100, -100, 1, 1}, ESBlendTypeNormal, 1, false);
     _context->finishRender();
-}
-
-void GLSurface::drawOutside(ESRenderType target) {
-    const LPPoint outside{{-100, -100}, 1, {1, 1, 1}};
-    _context->beginRenderForType(target);
-    _context->setBlendModelForType(ESRenderTypeLine);
-    _line.render->drawPoints(&outside, 1);
-    _context->finishRender();
-}
-
-// What is deleted is worth making the driver give it back at once.
-bool GLSurface::isLarge() const {
-    return Rect::of(size()).area() >= kLargePixels;
 }
 
 GLSurface::~GLSurface() {
     const std::lock_guard lock(_gl->use);
     const ESCurrentScope current(&_gl->view());  // be it lost or not
     // Each goes while the context is current. Without it, deleting their names would hit the host's; they go with it.
-    const bool letsGo = current && isLarge() && _line.render;
-    if (letsGo) {
-        drawOutside(ESRenderTypeCanvas);  // the last draw names no layer, and no background
-    }
     const auto release = [&](auto& render) {
         current ? render.reset() : static_cast<void>(render.release());
     };
@@ -126,9 +111,6 @@ GLSurface::~GLSurface() {
         release(of->render);
     }
     _context.reset();
-    if (letsGo && _gl.use_count() > 1) {
-        _gl->dropDeleted();  // with the last surface the context goes
-    }
 }
 
 bool GLSurface::enter() {
@@ -223,34 +205,12 @@ bool GLSurface::prepare(PaintLayer layer) {
     return false;
 }
 
-void GLSurface::trim() {
-    if (!_lineHolds.isEmpty() || !_subLineHolds.isEmpty()) {
-        return;
-    }
-    drawOutside(ESRenderTypeCanvas);
-    _compositor->setLineTextureID(0, kLineUnit);
-    _compositor->setSubLineTextureID(0, kSubLineUnit);
-    _smudge.render.reset();
-    _smudge.tips.reset();
-    _smudgeStale = Rect::of(size());
-    for (const ESRenderType type : {ESRenderTypeLine, ESRenderTypeSubLine, ESRenderTypeSmudge}) {
-        _context->releaseTarget(type);
-    }
-    if (isLarge()) {
-        _gl->dropDeleted();
-    }
-}
-
 Rect GLSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
     if (!prepare(layer)) {
         return {};
     }
     const bool isSubLine = layer == PaintLayer::subLine;
-    const Rect touched =
-        drawInto(isSubLine ? ESRenderTypeSubLine : ESRenderTypeLine, dabRenderOf(layer), dabs, style);
-    Rect& holds = isSubLine ? _subLineHolds : _lineHolds;
-    holds = holds.united(touched);
-    return touched;
+    return drawInto(isSubLine ? ESRenderTypeSubLine : ESRenderTypeLine, dabRenderOf(layer), dabs, style);
 }
 
 Rect GLSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
@@ -273,10 +233,6 @@ void GLSurface::clear(PaintLayer layer, const Rect& rect) {
     } else {
         glEnable(GL_SCISSOR_TEST);  // to the pixel, where scissorRect() leaves a margin
         glScissor(rect.x, size().height - rect.bottom(), rect.width, rect.height);
-        Rect& holds = layer == PaintLayer::line ? _lineHolds : _subLineHolds;
-        if (rect.contains(holds)) {
-            holds = {};
-        }
     }
     _compositor->clear();
     _context->finishRender();
@@ -368,7 +324,6 @@ Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, f
     // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
     const DabStyle plain{.tips = style.tips, .paper = {}};
     const Rect covered = drawInto(ESRenderTypeLine, _line, render->takeCoverage(), plain);
-    _lineHolds = _lineHolds.united(covered);
     return covered.isEmpty() ? covered : covered.grownBy(kSmudgeReach).intersected(Rect::of(size()));
 }
 

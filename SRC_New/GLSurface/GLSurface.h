@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Paint in the memory of an OpenGL driver, put there by the renderers of ESRender over one ESContext.
 //
-// Layers    the line layer is made with the surface; sub-line and smudge layer, and all after trim(), with the first dab
+// Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab
 //           that needs one.
 // Context   is shared with the other surfaces made on the same thread, and so is its loss. It may be used on any thread: a
 //           SurfaceScope keeps it from the others meanwhile, which wait.
@@ -40,7 +40,6 @@ public:
     std::string name() override;
     bool isLost() const override { return _context->isLost(); }
     void finish() override;
-    void trim() override;
 
     bool prepare(PaintLayer layer) override;
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
@@ -70,7 +69,6 @@ private:
     GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique_ptr<ESContext> context);
     bool makeRenders();
     void warmUp();
-    void drawOutside(ESRenderType target);
     ESSmudgeRender* smudgeRender();
     void warmUpSmudging();
 
@@ -83,14 +81,12 @@ private:
     Rect drawInto(ESRenderType target, DabRender& with, std::span<const Dab> dabs, const DabStyle& style);
     void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked);
     void showSmudges(const Rect& rect, float opacity);
-    bool isLarge() const;
     void noteChanged(PictureId picture, const Rect& rect);
 
     std::shared_ptr<ThreadGL> _gl;
     std::unique_ptr<ESContext> _context;
     std::unique_ptr<ESImageRender> _compositor;
     DabRender _line, _subLine, _smudge;  // the last one's render is an ESSmudgeRender
-    Rect _lineHolds, _subLineHolds;      // where dabs may be
     Rect _smudgeStale;                   // where the smudge layer may differ from the background
     std::vector<std::uint8_t> _band;     // rows on their way to or from the caller's
     std::deque<ESCurrentScope> _scopes;

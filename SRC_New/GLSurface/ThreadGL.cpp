@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GLSurface/ThreadGL.h"
 
-#include <epoxy/gl.h>
-
-#include <string_view>
-
 #include "ESContext/ESCurrentScope.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 
@@ -12,8 +8,6 @@ namespace dabcanvas {
 namespace {
 
 constexpr char kFile[] = "SRC_New/GLSurface/ThreadGL";
-constexpr int kScenes = 64;  // of llvmpipe
-constexpr GLsizei kSceneSide = 1024;
 
 // The shared view, as one ESContext sees it: only its frame is its own.
 class SharedView final : public ESOpenGLView {
@@ -54,31 +48,6 @@ bool ThreadGL::isUsable() {
 
 std::unique_ptr<ESContext> ThreadGL::makeContext(const std::shared_ptr<ThreadGL>& gl) {
     return ESContext::init(std::make_unique<SharedView>(gl));
-}
-
-// Driver: Mesa's llvmpipe. What it draws goes through 64 scenes, and each keeps the textures and targets that it was last
-// drawn with until it is used again, long after they were deleted. So as many are used at once, none of them done at once.
-void ThreadGL::dropDeleted() {
-    const auto* const driver = reinterpret_cast<const char*>(glGetString(GL_RENDERER));
-    if (driver == nullptr || std::string_view(driver).find("llvmpipe") == std::string_view::npos) {
-        return;
-    }
-    GLuint pixels = 0, target = 0;
-    glGenRenderbuffers(1, &pixels);
-    glBindRenderbuffer(GL_RENDERBUFFER, pixels);
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, kSceneSide, kSceneSide);
-    glGenFramebuffers(1, &target);
-    glBindFramebuffer(GL_FRAMEBUFFER, target);
-    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, pixels);
-    glDisable(GL_SCISSOR_TEST);
-    for (int scene = 0; scene < kScenes; ++scene) {
-        glClear(GL_COLOR_BUFFER_BIT);
-        glFlush();
-    }
-    glBindFramebuffer(GL_FRAMEBUFFER, 0);
-    glDeleteFramebuffers(1, &target);
-    glDeleteRenderbuffers(1, &pixels);
-    drainGLErrors(kFile, __LINE__);
 }
 
 ThreadGL::~ThreadGL() {

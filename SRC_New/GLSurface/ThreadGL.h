@@ -30,9 +30,6 @@ public:
     static std::unique_ptr<ESContext> makeContext(const std::shared_ptr<ThreadGL>& gl);
     const std::shared_ptr<ProgramPool>& programs() const { return _programs; }
     ESOpenGLView& view() { return *_view; }
-    // Makes the driver give back the memory of what was deleted, once nothing draws with it. Takes milliseconds; the
-    // context must be current.
-    static void dropDeleted();
 
     std::recursive_mutex use;
     bool isWarm = false;  // its programs have drawn

@@ -109,12 +109,6 @@ std::string ProcessorSurface::name() {
     return std::string("processor (") + vectorsInUse() + ")";
 }
 
-void ProcessorSurface::trim() {
-    if (_line.holds.isEmpty()) {
-        _smudges.forget();
-    }
-}
-
 void ProcessorSurface::noteChanged(PictureId picture, const Rect& rect) {
     noteTouched(picture, rect.intersected(Rect::of(size())));
 }

@@ -26,7 +26,6 @@ public:
     explicit ProcessorSurface(const Size& size);
 
     std::string name() override;
-    void trim() override;
 
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
     Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;

