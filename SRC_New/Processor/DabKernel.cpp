@@ -112,6 +112,13 @@ HWY_INLINE Int blocksAt(const std::uint8_t* bytes, Int offsets) {
 #endif
 }
 
+// To the nearest integer, of those of 16 bits.
+HWY_INLINE Int nearest(Float value) {
+    constexpr float kLastBitIsOne = 3 << 22;
+    const Int bits = hn::BitCast(kInts, hn::Add(value, hn::Set(kFloats, kLastBitIsOne)));
+    return hn::And(bits, hn::Set(kInts, 0xffff));
+}
+
 // Lanes stand for pixels in an order that lets a block of 128 bits spread its pixels' coverages over the channels of the
 // pixels that lie there in the tile: in a block, two of the first half of the pixels, then two of the second.
 HWY_INLINE Int pixelOrder() {
@@ -160,43 +167,42 @@ struct LevelRow {
     }
 };
 
-// What the dab's box covers of each pixel, 0..32767.
-struct BoxRow {
-    const TileBox* box;
-    Float alongX, acrossX, halfWidth, halfHeight, foot, top, height, slope, insideWide, insideTall;
-    bool isTiny;
+// What the dab's box covers of each pixel, 0..32767; as DabMap reckons.
+class BoxRow {
+public:
+    HWY_INLINE explicit BoxRow(const TileBox& box) : _box(&box) {}
 
-    HWY_INLINE explicit BoxRow(const TileBox& from)
-        : box(&from),
-          alongX(hn::Set(kFloats, from.alongX)),
-          acrossX(hn::Set(kFloats, from.acrossX)),
-          halfWidth(hn::Set(kFloats, from.halfWidth)),
-          halfHeight(hn::Set(kFloats, from.halfHeight)),
-          foot(hn::Set(kFloats, from.foot)),
-          top(hn::Set(kFloats, from.top)),
-          height(hn::Set(kFloats, from.height)),
-          slope(hn::Set(kFloats, from.slope)) {}
-
-    // The part of a pixel on the near side of an edge that runs so far beyond its centre, less one half; see DabMap.
-    HWY_INLINE Float shadow(Float distance) const {
-        const Float near = hn::Min(hn::Abs(distance), foot);
-        const Float side = hn::Max(hn::Sub(near, top), hn::Zero(kFloats));
-        return hn::CopySign(hn::Sub(hn::Mul(near, height), hn::Mul(hn::Mul(side, side), slope)), distance);
-    }
-    HWY_INLINE Float covered(Float place, Float half) const {
-        return hn::Sub(shadow(hn::Add(place, half)), shadow(hn::Sub(place, half)));
-    }
     HWY_INLINE Int at(Int pixels, int y) const {
+        const TileBox& box = *_box;
         const auto down = static_cast<float>(y);
         const Float right = hn::ConvertTo(kFloats, pixels);
-        const Float along =
-            hn::Add(hn::Set(kFloats, box->along + down * box->alongY), hn::Mul(right, alongX));
-        const Float across =
-            hn::Add(hn::Set(kFloats, box->across + down * box->acrossY), hn::Mul(right, acrossX));
-        const Float whole = hn::Mul(covered(along, halfWidth), covered(across, halfHeight));
-        return hn::ConvertTo(kInts,
-                             hn::Add(hn::Mul(whole, hn::Set(kFloats, 32767.0f)), hn::Set(kFloats, 0.5f)));
+        const Float along = covered(right, box.along + down * box.alongY, box.alongX, box.halfWidth);
+        const Float across = covered(right, box.across + down * box.acrossY, box.acrossX, box.halfHeight);
+        return nearest(hn::Mul(along, across));
     }
+
+private:
+    // Times the root of 32767.
+    HWY_INLINE Float covered(Float right, float start, float perPixel, float half) const {
+        const Float place =
+            hn::Abs(hn::Add(hn::Set(kFloats, start), hn::Mul(right, hn::Set(kFloats, perPixel))));
+        const Float edge = hn::Set(kFloats, half);
+        const Float near = shadow(hn::Sub(edge, place));
+        if (half > _box->foot) {  // the far edge is beyond the pixel
+            return hn::Add(near, hn::Set(kFloats, _box->halfShadow));
+        }
+        return hn::Add(near, shadow(hn::Add(edge, place)));
+    }
+    // The part of a pixel on the near side of an edge that runs so far beyond its centre, less one half.
+    HWY_INLINE Float shadow(Float distance) const {
+        const TileBox& box = *_box;
+        const Float near = hn::Min(hn::Abs(distance), hn::Set(kFloats, box.foot));
+        const Float side = hn::Max(hn::Sub(near, hn::Set(kFloats, box.top)), hn::Zero(kFloats));
+        const Float lost = hn::Mul(hn::Mul(side, side), hn::Set(kFloats, box.slope));
+        return hn::CopySign(hn::Sub(hn::Mul(near, hn::Set(kFloats, box.height)), lost), distance);
+    }
+
+    const TileBox* _box;
 };
 
 // Pixels of each row that the dab may touch, and those among them that its box covers whole.
@@ -280,7 +286,8 @@ private:
     }
     HWY_INLINE void store(Float place, std::int32_t* to) const {
         const Float inside = hn::Min(hn::Max(place, hn::Zero(kFloats)), _width);
-        hn::Store(hn::ConvertTo(kInts, hn::Ceil(inside)), kInts, to);
+        constexpr float kUp = 0.5f - kSlack / 2;
+        hn::Store(nearest(hn::Add(inside, hn::Set(kFloats, kUp))), kInts, to);
     }
 
     const TileBox* _box;
@@ -383,12 +390,12 @@ HWY_INLINE void blend(std::uint16_t* pixels, Word colour, const Cover& cover) {
     blendHalf<2>(pixels + hn::Lanes(kWords), colour, weights, rounding);
 }
 
-// Calls each(int x, int y, const Cover&) for as many covered pixels from x on as there are lanes, row by row.
+// Calls each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, row by row.
 template <int kLevels, bool kPaper, typename Each>
 HWY_INLINE bool forEachCover(const TileDab& dab, int firstRow, int endRow, int width, Each&& each) {
     const Rows<kLevels, kPaper> rows(dab);
     Spans spans(dab.box, width);
-    bool any = false;
+    Int any = hn::Zero(kInts);
     for (int y = firstRow; y < endRow; ++y) {
         if ((y - firstRow) % lanes() == 0) {
             spans.prepare(y);
@@ -397,14 +404,12 @@ HWY_INLINE bool forEachCover(const TileDab& dab, int firstRow, int endRow, int w
         while (span.first < span.end) {
             const int x = std::min(span.first, kTileSide - lanes());
             const Cover cover = rows.coverAt(x, y, span);
-            if (!hn::AllTrue(kInts, hn::Eq(cover.coverage, hn::Zero(kInts)))) {
-                each(x, y, cover);
-                any = true;
-            }
+            each(x, y, cover);
+            any = hn::Or(any, cover.coverage);
             span.first = x + lanes();
         }
     }
-    return any;
+    return !hn::AllTrue(kInts, hn::Eq(any, hn::Zero(kInts)));
 }
 
 template <int kLevels, bool kPaper>

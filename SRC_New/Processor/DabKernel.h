@@ -37,7 +37,9 @@ inline constexpr double kFullWeight = static_cast<double>(kWhole) * (1 << kWeigh
 struct TileBox {
     float along, across;
     float alongX, alongY, acrossX, acrossY;
-    float halfWidth, halfHeight, foot, top, height, slope;
+    float halfWidth, halfHeight, foot, top;
+    float height, slope;  // times the root of 32767
+    float halfShadow;     // of half a pixel, alike
     float
         reachSquared;  // beyond which nothing lies, in the round, of the box with its foot; 2 and more: nowhere
 };

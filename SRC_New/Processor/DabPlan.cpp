@@ -69,9 +69,22 @@ std::optional<PlannedDab> planned(const Dab& dab, const DabStyle& style, TipTabl
     for (std::size_t i = 0; i < 4; ++i) {
         tile.colour[i] = static_cast<std::uint16_t>(std::clamp(straight[i], 0.0f, 1.0f) * 65535 + 0.5f);
     }
-    tile.box = {
-        0,        0,       map.alongX, map.alongY, map.acrossX,  map.acrossY, map.halfWidth, map.halfHeight,
-        map.foot, map.top, map.height, map.slope,  reach * reach};
+    const float scale = std::sqrt(32767.0f), side = map.foot - map.top;
+    tile.box = {0,
+                0,
+                map.alongX,
+                map.alongY,
+                map.acrossX,
+                map.acrossY,
+                map.halfWidth,
+                map.halfHeight,
+                map.foot,
+                map.top,
+                map.height * scale,
+                map.slope * scale,
+                0,
+                reach * reach};
+    tile.box.halfShadow = map.foot * tile.box.height - side * side * tile.box.slope;
     const TipTable* tables[] = {plan.levels.first, plan.levels.second};
     for (std::size_t i = 0; i < static_cast<std::size_t>(tile.levelCount); ++i) {
         TileLevel& level = tile.levels[i];
