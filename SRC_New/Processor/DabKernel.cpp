@@ -119,13 +119,27 @@ HWY_INLINE Int nearest(Float value) {
     return hn::And(bits, hn::Set(kInts, 0xffff));
 }
 
-// Lanes stand for pixels in an order that lets a block of 128 bits spread its pixels' coverages over the channels of the
-// pixels that lie there in the tile: in a block, two of the first half of the pixels, then two of the second.
-HWY_INLINE Int pixelOrder() {
-    const Int lane = hn::Iota(kInts, 0);
-    const Int block = hn::ShiftRight<2>(lane), inHalf = hn::And(lane, hn::Set(kInts, 1));
-    const Int second = hn::ShiftRight<1>(hn::And(lane, hn::Set(kInts, 2)));
-    return hn::Add(hn::Add(hn::ShiftLeft<1>(block), inHalf), hn::Mul(second, hn::Set(kInts, lanes() / 2)));
+// Lanes stand for pixels of two rows, as many of each: a block of 128 bits has two of the upper and two of the lower row, so
+// that it spreads their coverages over the channels that lie in the same block of the tile's rows.
+struct Order {
+    Int right, down;  // of each lane's pixel from the first one
+
+    HWY_INLINE Order() {
+        const Int lane = hn::Iota(kInts, 0), one = hn::Set(kInts, 1);
+        right = hn::Add(hn::ShiftLeft<1>(hn::ShiftRight<2>(lane)), hn::And(lane, one));
+        down = hn::And(hn::ShiftRight<1>(lane), one);
+    }
+    // What so many to the right and down add up to, modulo 2^32.
+    HWY_INLINE Int steps(std::int32_t perRight, std::int32_t perDown) const {
+        return hn::Add(hn::Mul(right, hn::Set(kInts, perRight)), hn::Mul(down, hn::Set(kInts, perDown)));
+    }
+    HWY_INLINE Int perRow(int upper, int lower) const {
+        return hn::IfThenElse(hn::Eq(down, hn::Zero(kInts)), hn::Set(kInts, upper), hn::Set(kInts, lower));
+    }
+};
+// Pixels of each row.
+HWY_INLINE int across() {
+    return lanes() / 2;
 }
 
 // One level of the tip.
@@ -133,9 +147,9 @@ struct LevelRow {
     Int lanesU, lanesV, lastU, lastV, strides;
     const TileLevel* level;
 
-    HWY_INLINE LevelRow(const TileLevel& from, Int order)
-        : lanesU(hn::Mul(order, hn::Set(kInts, from.rightU))),
-          lanesV(hn::Mul(order, hn::Set(kInts, from.rightV))),
+    HWY_INLINE LevelRow(const TileLevel& from, const Order& order)
+        : lanesU(order.steps(from.rightU, from.downU)),
+          lanesV(order.steps(from.rightV, from.downV)),
           lastU(hn::Set(kInts, from.lastU)),
           lastV(hn::Set(kInts, from.lastV)),
           strides(hn::Set(kInts, 2 | from.stride << 16)),
@@ -172,20 +186,21 @@ class BoxRow {
 public:
     HWY_INLINE explicit BoxRow(const TileBox& box) : _box(&box) {}
 
-    HWY_INLINE Int at(Int pixels, int y) const {
+    HWY_INLINE Int at(Int x, Int y) const {
         const TileBox& box = *_box;
-        const auto down = static_cast<float>(y);
-        const Float right = hn::ConvertTo(kFloats, pixels);
-        const Float along = covered(right, box.along + down * box.alongY, box.alongX, box.halfWidth);
-        const Float across = covered(right, box.across + down * box.acrossY, box.acrossX, box.halfHeight);
-        return nearest(hn::Mul(along, across));
+        const Float right = hn::ConvertTo(kFloats, x), down = hn::ConvertTo(kFloats, y);
+        const auto place = [&](float start, float perRight, float perDown) HWY_ATTR {
+            const Float inRow = hn::Add(hn::Set(kFloats, start), hn::Mul(down, hn::Set(kFloats, perDown)));
+            return hn::Abs(hn::Add(inRow, hn::Mul(right, hn::Set(kFloats, perRight))));
+        };
+        const Float along = place(box.along, box.alongX, box.alongY);
+        const Float across = place(box.across, box.acrossX, box.acrossY);
+        return nearest(hn::Mul(covered(along, box.halfWidth), covered(across, box.halfHeight)));
     }
 
 private:
     // Times the root of 32767.
-    HWY_INLINE Float covered(Float right, float start, float perPixel, float half) const {
-        const Float place =
-            hn::Abs(hn::Add(hn::Set(kFloats, start), hn::Mul(right, hn::Set(kFloats, perPixel))));
+    HWY_INLINE Float covered(Float place, float half) const {
         const Float edge = hn::Set(kFloats, half);
         const Float near = shadow(hn::Sub(edge, place));
         if (half > _box->foot) {  // the far edge is beyond the pixel
@@ -207,13 +222,17 @@ private:
 
 // Pixels of each row that the dab may touch, and those among them that its box covers whole.
 struct Span {
-    int first, end, innerFirst, innerEnd;
+    int first, end, innerFirst, innerEnd;  // 64, 0, 0, 64 where there is none
 };
 
 class Spans {
 public:
-    HWY_INLINE Spans(const TileBox& box, int width)
-        : _box(&box), _width(hn::Set(kFloats, static_cast<float>(width))) {}
+    // Of rows before firstRow and from endRow on nothing is touched, nor from `width` on.
+    HWY_INLINE Spans(const TileBox& box, int firstRow, int endRow, int width)
+        : _box(&box),
+          _rowBefore(hn::Set(kInts, firstRow - 1)),
+          _endRow(hn::Set(kInts, endRow)),
+          _width(hn::Set(kFloats, static_cast<float>(width))) {}
 
     HWY_INLINE Span at(int y) const {
         const auto i = static_cast<std::size_t>(y - _y);
@@ -223,7 +242,8 @@ public:
     HWY_INLINE void prepare(int y) {
         const TileBox& box = *_box;
         _y = y;
-        const Float down = hn::ConvertTo(kFloats, hn::Add(hn::Iota(kInts, 0), hn::Set(kInts, y)));
+        const Int row = hn::Add(hn::Iota(kInts, 0), hn::Set(kInts, y));
+        const Float down = hn::ConvertTo(kFloats, row);
         const auto atRow = [&](float start, float perRow) HWY_ATTR {
             return hn::Add(hn::Set(kFloats, start), hn::Mul(down, hn::Set(kFloats, perRow)));
         };
@@ -235,10 +255,14 @@ public:
         }
         Interval inner = strip(box.alongX, along, box.halfWidth - box.foot - kSlack);
         inner.cut(strip(box.acrossX, across, box.halfHeight - box.foot - kSlack));
-        store(whole.from, _first);
-        store(whole.to, _end);
-        store(inner.from, _innerFirst);
-        store(inner.to, _innerEnd);
+        const Int first = pixel(whole.from), end = pixel(whole.to);
+        const auto isDrawn =
+            hn::And(hn::Lt(first, end), hn::And(hn::Lt(_rowBefore, row), hn::Lt(row, _endRow)));
+        const Int side = hn::Set(kInts, kTileSide);
+        hn::Store(hn::IfThenElse(isDrawn, first, side), kInts, _first);
+        hn::Store(hn::IfThenElseZero(isDrawn, end), kInts, _end);
+        hn::Store(hn::IfThenElseZero(isDrawn, pixel(inner.from)), kInts, _innerFirst);
+        hn::Store(hn::IfThenElse(isDrawn, pixel(inner.to), side), kInts, _innerEnd);
     }
 
 private:
@@ -284,13 +308,15 @@ private:
         const Float half = hn::Add(hn::Mul(hn::Sqrt(hn::Max(square, hn::Zero(kFloats))), perPixel), slack);
         return {hn::Sub(middle, half), hn::Add(middle, half)};
     }
-    HWY_INLINE void store(Float place, std::int32_t* to) const {
+    // The first one from a place on.
+    HWY_INLINE Int pixel(Float place) const {
         const Float inside = hn::Min(hn::Max(place, hn::Zero(kFloats)), _width);
         constexpr float kUp = 0.5f - kSlack / 2;
-        hn::Store(nearest(hn::Add(inside, hn::Set(kFloats, kUp))), kInts, to);
+        return nearest(hn::Add(inside, hn::Set(kFloats, kUp)));
     }
 
     const TileBox* _box;
+    Int _rowBefore, _endRow;
     Float _width;
     int _y = 0;
     HWY_ALIGN std::int32_t _first[hn::MaxLanes(kInts)], _end[hn::MaxLanes(kInts)];
@@ -306,16 +332,17 @@ class Rows {
 public:
     HWY_INLINE explicit Rows(const TileDab& dab)
         : _dab(&dab),
-          _order(pixelOrder()),
           _first(dab.levels[0], _order),
           _second(dab.levels[kLevels - 1], _order),
           _box(dab.box),
           _weights(hn::Set(kInts, dab.levels[0].weight | (kLevels > 1 ? dab.levels[1].weight << 16 : 0))),
-          _noise(hn::Mul(_order, hn::Set(kInts, static_cast<std::int32_t>(kNoiseRight)))) {}
+          _noise(
+              _order.steps(static_cast<std::int32_t>(kNoiseRight), static_cast<std::int32_t>(kNoiseDown))) {}
 
-    // Of the pixels from x on, as many as there are lanes, in their order; 0 outside of the span.
-    HWY_INLINE Cover coverAt(int x, int y, const Span& span) const {
+    // Of pixels from (x, y) on, x and y even, in their order: 0 before `first` and from `end` on.
+    HWY_INLINE Cover coverAt(int x, int y, Int first, Int end, bool isRim) const {
         const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
+        const Int right = hn::Add(hn::Set(kInts, x), _order.right);
         Int texels = hn::ShiftRight<8>(_first.at(x, y));
         if constexpr (kLevels > 1) {
             texels = hn::Or(texels, hn::And(hn::ShiftLeft<8>(_second.at(x, y)), high));
@@ -324,32 +351,25 @@ public:
             const Int both = kLevels > 1 ? hn::Or(part, hn::ShiftLeft<16>(part)) : part;
             texels = hn::BitCast(kInts, hn::MulFixedPoint15(words(texels), words(both)));
         };
-        const int end = x + lanes();
-        if (x < span.innerFirst || end > span.innerEnd) {
-            times(_box.at(hn::Add(hn::Set(kInts, x), _order), y));
+        if (isRim) {
+            times(_box.at(right, hn::Add(hn::Set(kInts, y), _order.down)));
         }
         if constexpr (kPaper) {
             const hn::Rebind<std::uint16_t, Ints> narrow;
-            const Int through = hn::PromoteTo(kInts, hn::LoadU(narrow, _dab->paper + y * kTileSide + x));
-            times(hn::TableLookupLanes(through, hn::IndicesFromVec(kInts, _order)));
+            times(hn::PromoteTo(kInts, hn::LoadU(narrow, _dab->paper + paperPlace(x, y))));
         }
         const auto start =
             static_cast<std::int32_t>(_dab->noise + static_cast<std::uint32_t>(x) * kNoiseRight +
                                       static_cast<std::uint32_t>(y) * kNoiseDown);
         const Int noise = hn::Add(hn::Set(kInts, start), _noise);
         const Int rounding = hn::ShiftLeftSame(logicalShift(noise), _dab->faint);
-        Int coverage =
+        const Int coverage =
             hn::ShiftRightSame(hn::Add(pairProducts(texels, _weights), rounding), kWeightShift + _dab->faint);
-        coverage = hn::Min(coverage, hn::Set(kInts, kWhole));
-        if (x < span.first || end > span.end) {
-            const Int pixels = hn::Add(hn::Set(kInts, x), _order);
-            coverage = hn::IfThenElseZero(hn::Lt(pixels, hn::Set(kInts, span.end)), coverage);
-            coverage = hn::IfThenZeroElse(hn::Lt(pixels, hn::Set(kInts, span.first)), coverage);
-        }
-        return {coverage, noise};
+        const auto isInside = hn::AndNot(hn::Lt(right, first), hn::Lt(right, end));
+        return {hn::IfThenElseZero(isInside, hn::Min(coverage, hn::Set(kInts, kWhole))), noise};
     }
 
-    HWY_INLINE Int order() const { return _order; }
+    HWY_INLINE const Order& order() const { return _order; }
 
 private:
     static HWY_INLINE Int logicalShift(Int noise) {
@@ -358,15 +378,15 @@ private:
     }
 
     const TileDab* _dab;
-    Int _order;
+    Order _order;
     LevelRow _first, _second;
     BoxRow _box;
     Int _weights, _noise;
 };
 
-// Two pixels a block: weights and rounding of the first one stand in one lane of each block, of the second in another.
+// One row, two pixels a block: weights and rounding of the first one stand in one lane of each block, of the second in another.
 template <int kFirst>
-HWY_INLINE void blendHalf(std::uint16_t* pixels, Word colour, Int weights, Int rounding) {
+HWY_INLINE void blendRow(std::uint16_t* pixels, Word colour, Int weights, Int rounding) {
     const auto unsignedWords = hn::RebindToUnsigned<Words>();
     const Word sign = hn::Set(kWords, static_cast<std::int16_t>(-32768));
     const Word from = hn::Xor(hn::BitCast(kWords, hn::LoadU(unsignedWords, pixels)), sign);
@@ -386,27 +406,33 @@ HWY_INLINE void blend(std::uint16_t* pixels, Word colour, const Cover& cover) {
     const Int away = hn::Xor(cover.coverage, hn::Set(kInts, 0x8000));
     const Int weights = hn::Or(away, hn::ShiftLeft<16>(hn::Neg(cover.coverage)));
     const Int rounding = hn::Or(cover.noise, hn::Set(kInts, ~0x7fff));
-    blendHalf<0>(pixels, colour, weights, rounding);
-    blendHalf<2>(pixels + hn::Lanes(kWords), colour, weights, rounding);
+    blendRow<0>(pixels, colour, weights, rounding);
+    blendRow<2>(pixels + kTileSide * 4, colour, weights, rounding);
 }
 
-// Calls each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, row by row.
+// Calls each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, two rows at a time.
 template <int kLevels, bool kPaper, typename Each>
 HWY_INLINE bool forEachCover(const TileDab& dab, int firstRow, int endRow, int width, Each&& each) {
     const Rows<kLevels, kPaper> rows(dab);
-    Spans spans(dab.box, width);
+    Spans spans(dab.box, firstRow, endRow, width);
     Int any = hn::Zero(kInts);
-    for (int y = firstRow; y < endRow; ++y) {
-        if ((y - firstRow) % lanes() == 0) {
+    const int even = firstRow / 2 * 2;
+    for (int y = even; y < endRow; y += 2) {
+        if ((y - even) % lanes() == 0) {
             spans.prepare(y);
         }
-        Span span = spans.at(y);
-        while (span.first < span.end) {
-            const int x = std::min(span.first, kTileSide - lanes());
-            const Cover cover = rows.coverAt(x, y, span);
+        const Span upper = spans.at(y), lower = spans.at(y + 1);
+        const Int first = rows.order().perRow(upper.first, lower.first);
+        const Int end = rows.order().perRow(upper.end, lower.end);
+        const int innerFirst = std::max(upper.innerFirst, lower.innerFirst);
+        const int innerEnd = std::min(upper.innerEnd, lower.innerEnd);
+        const int last = std::max(upper.end, lower.end);
+        for (int from = std::min(upper.first, lower.first) / 2 * 2; from < last; from += across()) {
+            const int x = std::min(from, kTileSide - across());
+            const bool isRim = x < innerFirst || x + across() > innerEnd;
+            const Cover cover = rows.coverAt(x, y, hn::Max(first, hn::Set(kInts, from)), end, isRim);
             each(x, y, cover);
             any = hn::Or(any, cover.coverage);
-            span.first = x + lanes();
         }
     }
     return !hn::AllTrue(kInts, hn::Eq(any, hn::Zero(kInts)));
@@ -427,17 +453,19 @@ bool draw(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t
 // Each pixel in a colour of its own.
 template <int kLevels, bool kPaper>
 bool drawInMulticolour(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
-    HWY_ALIGN std::int32_t coverage[hn::MaxLanes(kInts)], order[hn::MaxLanes(kInts)];
-    hn::Store(pixelOrder(), kInts, order);
-    return forEachCover<kLevels, kPaper>(dab, firstRow, endRow, width,
-                                         [&](int x, int y, const Cover& cover) HWY_ATTR {
-                                             hn::Store(cover.coverage, kInts, coverage);
-                                             for (int i = 0; i < lanes(); ++i) {
-                                                 if (coverage[i] > 0) {
-                                                     blendOne(dab, x + order[i], y, coverage[i], tile);
-                                                 }
-                                             }
-                                         });
+    HWY_ALIGN std::int32_t coverage[hn::MaxLanes(kInts)], right[hn::MaxLanes(kInts)],
+        down[hn::MaxLanes(kInts)];
+    hn::Store(Order().right, kInts, right);
+    hn::Store(Order().down, kInts, down);
+    return forEachCover<kLevels, kPaper>(
+        dab, firstRow, endRow, width, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            hn::Store(cover.coverage, kInts, coverage);
+            for (int i = 0; i < lanes(); ++i) {
+                if (coverage[i] > 0) {
+                    blendOne(dab, x + right[i], y + down[i], coverage[i], tile);
+                }
+            }
+        });
 }
 
 }  // namespace

@@ -51,11 +51,16 @@ struct TileDab {
     TileBox box;
     std::array<std::uint16_t, 4> colour;
     std::uint32_t noise;                   // at the tile's first pixel
-    const std::uint16_t* paper;            // of the tile's pixels, 0..32767; null: smooth
+    const std::uint16_t* paper;            // of the tile's pixels, 0..32767, see paperPlace(); null: smooth
     const Multicolour* multicolour;        // null: all in one colour
     std::array<const Pixels*, 2> colours;  // of the levels, for multicolour
     float part;                            // of the second one
 };
+
+// Where a table of paper has the pixel: two of a row and then the two below them, two rows at a time.
+constexpr int paperPlace(int x, int y) {
+    return y / 2 * 2 * kTileSide + x / 2 * 4 + y % 2 * 2 + x % 2;
+}
 
 // Noise of the pixel (x, y) for the dab of this number.
 constexpr std::uint32_t kNoiseRight = 0x9e3779b9u, kNoiseDown = 0xd1b54a33u, kNoiseDab = 0xc13fa9a9u;
