@@ -3,14 +3,16 @@
 include(CMakePackageConfigHelpers)
 
 # Each stands on those before it.
-set(components Stroke Shapes Dabs Brushes Render Canvas View)
+set(components Stroke Shapes Dabs Processor Brushes Render Canvas View)
 list(JOIN components " " DABCANVAS_COMPONENTS)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Dabcanvas)
 set(DABCANVAS_NEEDS_THREADS OFF)
 set(DABCANVAS_NEEDS_LZ4 OFF)
+set(DABCANVAS_NEEDS_HIGHWAY OFF)
 if(NOT DABCANVAS_BUILD_SHARED)
     set(DABCANVAS_NEEDS_THREADS ON)
     set(DABCANVAS_NEEDS_LZ4 ${lz4_FOUND})
+    set(DABCANVAS_NEEDS_HIGHWAY ON)
 endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DabcanvasConfig.cmake.in
     ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake INSTALL_DESTINATION ${package_folder})

@@ -203,5 +203,18 @@ bool drawDabs(std::span<const TileDab> dabs, const DabGround& ground) {
     return HWY_DYNAMIC_DISPATCH(DrawDabs)(dabs, ground);
 }
 
+std::vector<std::int64_t> kernelTargets() {
+    std::vector<std::int64_t> targets;
+    for (std::int64_t left = hwy::SupportedTargets() & HWY_TARGETS; left != 0; left &= left - 1) {
+        targets.push_back(left & -left);
+    }
+    return targets;
+}
+
+void useKernelTarget(std::int64_t target) {
+    hwy::SetSupportedTargetsForTest(target);
+    hwy::GetChosenTarget().DeInit();  // so that the next call chooses anew
+}
+
 }  // namespace dabcanvas
 #endif
