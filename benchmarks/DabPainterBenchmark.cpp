@@ -48,12 +48,8 @@ public:
         } while (spent < kLeast);
         _seconds.push_back(spent / times);
     }
-    double median() const {
-        std::vector<double> sorted = _seconds;
-        std::nth_element(sorted.begin(), sorted.begin() + static_cast<std::ptrdiff_t>(sorted.size() / 2),
-                         sorted.end());
-        return sorted[sorted.size() / 2];
-    }
+    // The shortest: what others do on the machine only ever adds.
+    double best() const { return *std::min_element(_seconds.begin(), _seconds.end()); }
 
 private:
     std::vector<double> _seconds;
@@ -148,10 +144,10 @@ void processorDabs(benchmark::State& state, Kind kind) {
         peer.take([&] { drawPeer(dabs, surface); });
 #endif
     }
-    state.counters["us/dab"] = own.median() * 1e6 / kDabs;
+    state.counters["us/dab"] = own.best() * 1e6 / kDabs;
 #ifdef DABCANVAS_HAVE_MYPAINT
-    state.counters["peer_us/dab"] = peer.median() * 1e6 / kDabs;
-    state.counters["peer/own"] = peer.median() / own.median();
+    state.counters["peer_us/dab"] = peer.best() * 1e6 / kDabs;
+    state.counters["peer/own"] = peer.best() / own.best();
 #endif
 }
 #define DABS(kind)                                     \
@@ -161,7 +157,7 @@ void processorDabs(benchmark::State& state, Kind kind) {
         ->Arg(128)                                     \
         ->Arg(512)                                     \
         ->UseManualTime()                              \
-        ->MinTime(0.2)
+        ->MinTime(0.4)
 DABS(upright);
 DABS(betweenLevels);
 DABS(paper);

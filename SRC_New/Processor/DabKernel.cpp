@@ -3,7 +3,6 @@
 #include "Processor/DabKernel.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 
 #undef HWY_TARGET_INCLUDE
@@ -11,304 +10,38 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#include "Processor/DabPixels-inl.h"
+#include "Processor/DabSpans-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace dabcanvas {
 namespace HWY_NAMESPACE {
 namespace {
 
-namespace hn = hwy::HWY_NAMESPACE;
-
-using Ints = hn::CappedTag<std::int32_t, 16>;  // a pixel a lane
-using Floats = hn::RebindToFloat<Ints>;
-using Words = hn::Repartition<std::int16_t, Ints>;
-using Int = hn::Vec<Ints>;
-using Float = hn::Vec<Floats>;
-using Word = hn::Vec<Words>;
-
-constexpr Ints kInts;
-constexpr Floats kFloats;
-constexpr Words kWords;
-
-HWY_INLINE int lanes() {
-    return static_cast<int>(hn::Lanes(kInts));
-}
-HWY_INLINE Word words(Int value) {
-    return hn::BitCast(kWords, value);
-}
-
-// Each lane's two words times the other's, summed up; the words of one side are not all -32768.
-HWY_INLINE Int pairProducts(Int one, Int other) {
-#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
-    return Int{_mm512_madd_epi16(one.raw, other.raw)};
-#elif HWY_TARGET == HWY_AVX2
-    return Int{_mm256_madd_epi16(one.raw, other.raw)};
-#elif HWY_TARGET <= HWY_SSSE3
-    return Int{_mm_madd_epi16(one.raw, other.raw)};
-#else
-    const auto low = [](Int value) HWY_ATTR { return hn::ShiftRight<16>(hn::ShiftLeft<16>(value)); };
-    const auto high = [](Int value) HWY_ATTR { return hn::ShiftRight<16>(value); };
-    return hn::Add(hn::Mul(low(one), low(other)), hn::Mul(high(one), high(other)));
-#endif
-}
-
-// Each word's two bytes times the other's, summed up; those of the other are below 128.
-HWY_INLINE Int bytePairProducts(Int bytes, Int other) {
-#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
-    return Int{_mm512_maddubs_epi16(bytes.raw, other.raw)};
-#elif HWY_TARGET == HWY_AVX2
-    return Int{_mm256_maddubs_epi16(bytes.raw, other.raw)};
-#elif HWY_TARGET <= HWY_SSSE3
-    return Int{_mm_maddubs_epi16(bytes.raw, other.raw)};
-#else
-    const auto low = [](Int value) HWY_ATTR { return words(hn::And(value, hn::Set(kInts, 0x00ff00ff))); };
-    const auto high = [](Int value) HWY_ATTR {
-        return hn::And(hn::ShiftRight<8>(words(value)), hn::Set(kWords, 0x00ff));
-    };
-    return hn::BitCast(kInts, hn::Add(hn::Mul(low(bytes), low(other)), hn::Mul(high(bytes), high(other))));
-#endif
-}
-
-#if HWY_ARCH_X86 && HWY_TARGET <= HWY_SSE4
-HWY_INLINE __m128i fourBlocksAt(const std::uint8_t* bytes, __m128i offsets) {
-    const auto at = [&](std::uint64_t offset) HWY_ATTR {
-        std::int32_t block;
-        std::memcpy(&block, bytes + (offset & 0xffffffffu), sizeof(block));
-        return block;
-    };
-    const auto near = static_cast<std::uint64_t>(_mm_cvtsi128_si64(offsets));
-    const auto far = static_cast<std::uint64_t>(_mm_extract_epi64(offsets, 1));
-    __m128i blocks = _mm_cvtsi32_si128(at(near));
-    blocks = _mm_insert_epi32(blocks, at(near >> 32), 1);
-    blocks = _mm_insert_epi32(blocks, at(far), 2);
-    return _mm_insert_epi32(blocks, at(far >> 32), 3);
-}
-#endif
-
-// 32 bits from each of these bytes on. On processors whose own gathering is slow by design or by a mended fault, one by
-// one takes half the time; on others it takes no longer.
-HWY_INLINE Int blocksAt(const std::uint8_t* bytes, Int offsets) {
-#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
-    const __m512i o = offsets.raw;
-    const __m256i low =
-        _mm256_inserti128_si256(_mm256_castsi128_si256(fourBlocksAt(bytes, _mm512_castsi512_si128(o))),
-                                fourBlocksAt(bytes, _mm512_extracti32x4_epi32(o, 1)), 1);
-    const __m256i high =
-        _mm256_inserti128_si256(_mm256_castsi128_si256(fourBlocksAt(bytes, _mm512_extracti32x4_epi32(o, 2))),
-                                fourBlocksAt(bytes, _mm512_extracti32x4_epi32(o, 3)), 1);
-    return Int{_mm512_inserti64x4(_mm512_castsi256_si512(low), high, 1)};
-#elif HWY_ARCH_X86 && HWY_TARGET == HWY_AVX2
-    return Int{_mm256_inserti128_si256(
-        _mm256_castsi128_si256(fourBlocksAt(bytes, _mm256_castsi256_si128(offsets.raw))),
-        fourBlocksAt(bytes, _mm256_extracti128_si256(offsets.raw, 1)), 1)};
-#elif HWY_ARCH_X86 && HWY_TARGET == HWY_SSE4
-    return Int{fourBlocksAt(bytes, offsets.raw)};
-#else
-    HWY_ALIGN std::int32_t each[hn::MaxLanes(kInts)];
-    hn::Store(offsets, kInts, each);
-    for (std::int32_t& value : each) {
-        std::memcpy(&value, bytes + value, sizeof(value));
-    }
-    return hn::Load(kInts, each);
-#endif
-}
-
-// Lanes stand for pixels in an order that lets a block of 128 bits spread its pixels' coverages over the channels of the
-// pixels that lie there in the tile: in a block, two of the first half of the pixels, then two of the second.
-HWY_INLINE Int pixelOrder() {
-    const Int lane = hn::Iota(kInts, 0);
-    const Int block = hn::ShiftRight<2>(lane), inHalf = hn::And(lane, hn::Set(kInts, 1));
-    const Int second = hn::ShiftRight<1>(hn::And(lane, hn::Set(kInts, 2)));
-    return hn::Add(hn::Add(hn::ShiftLeft<1>(block), inHalf), hn::Mul(second, hn::Set(kInts, lanes() / 2)));
-}
-
-// One level of the tip.
-struct LevelRow {
-    Int lanesU, lanesV, lastU, lastV, strides;
-    const TileLevel* level;
-
-    HWY_INLINE LevelRow(const TileLevel& from, Int order)
-        : lanesU(hn::Mul(order, hn::Set(kInts, from.rightU))),
-          lanesV(hn::Mul(order, hn::Set(kInts, from.rightV))),
-          lastU(hn::Set(kInts, from.lastU)),
-          lastV(hn::Set(kInts, from.lastV)),
-          strides(hn::Set(kInts, 2 | from.stride << 16)),
-          level(&from) {}
-
-    // Sixteen bits and a few more, of which the lower eight are not worth keeping.
-    HWY_INLINE Int at(int x, int y) const {
-        const Int zero = hn::Zero(kInts), high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
-        const Int u = hn::Min(
-            hn::Max(hn::Add(hn::Set(kInts, placeAt(level->u, level->rightU, level->downU, x, y)), lanesU),
-                    zero),
-            lastU);
-        const Int v = hn::Min(
-            hn::Max(hn::Add(hn::Set(kInts, placeAt(level->v, level->rightV, level->downV, x, y)), lanesV),
-                    zero),
-            lastV);
-        const Int texel = hn::Or(hn::ShiftRight<16>(u), hn::And(v, high));
-        const Int block = blocksAt(level->pairs, pairProducts(texel, strides));
-        // Both fractions, of 127; then 127 less the fraction, and the fraction, side by side.
-        const Int fractions = hn::OrAnd(hn::ShiftLeft<16>(v), u, hn::Set(kInts, 0xffff));
-        const Word of127 = hn::MulFixedPoint15(
-            hn::BitCast(kWords, hn::ShiftRight<1>(hn::BitCast(hn::RebindToUnsigned<Words>(), fractions))),
-            hn::Set(kWords, 127));
-        const Int both = hn::BitCast(kInts, of127);
-        const Int right = hn::Or(hn::ShiftLeft<16>(both), hn::And(both, hn::Set(kInts, 127)));
-        const Int down = hn::Or(hn::And(both, high), hn::ShiftRight<16>(both));
-        const Int rows = hn::Xor(hn::Or(hn::ShiftLeft<8>(down), down), hn::Set(kInts, 0x007f007f));
-        return pairProducts(bytePairProducts(block, rows), hn::Xor(right, hn::Set(kInts, 127)));
-    }
-};
-
-// What the dab's box covers of each pixel, 0..32767.
-struct BoxRow {
-    const TileBox* box;
-    Float alongX, acrossX, halfWidth, halfHeight, foot, top, height, slope, insideWide, insideTall;
-    bool isTiny;
-
-    HWY_INLINE explicit BoxRow(const TileBox& from)
-        : box(&from),
-          alongX(hn::Set(kFloats, from.alongX)),
-          acrossX(hn::Set(kFloats, from.acrossX)),
-          halfWidth(hn::Set(kFloats, from.halfWidth)),
-          halfHeight(hn::Set(kFloats, from.halfHeight)),
-          foot(hn::Set(kFloats, from.foot)),
-          top(hn::Set(kFloats, from.top)),
-          height(hn::Set(kFloats, from.height)),
-          slope(hn::Set(kFloats, from.slope)) {}
-
-    // The part of a pixel on the near side of an edge that runs so far beyond its centre, less one half; see DabMap.
-    HWY_INLINE Float shadow(Float distance) const {
-        const Float near = hn::Min(hn::Abs(distance), foot);
-        const Float side = hn::Max(hn::Sub(near, top), hn::Zero(kFloats));
-        return hn::CopySign(hn::Sub(hn::Mul(near, height), hn::Mul(hn::Mul(side, side), slope)), distance);
-    }
-    HWY_INLINE Float covered(Float place, Float half) const {
-        return hn::Sub(shadow(hn::Add(place, half)), shadow(hn::Sub(place, half)));
-    }
-    HWY_INLINE Int at(Int pixels, int y) const {
-        const auto down = static_cast<float>(y);
-        const Float right = hn::ConvertTo(kFloats, pixels);
-        const Float along =
-            hn::Add(hn::Set(kFloats, box->along + down * box->alongY), hn::Mul(right, alongX));
-        const Float across =
-            hn::Add(hn::Set(kFloats, box->across + down * box->acrossY), hn::Mul(right, acrossX));
-        const Float whole = hn::Mul(covered(along, halfWidth), covered(across, halfHeight));
-        return hn::ConvertTo(kInts,
-                             hn::Add(hn::Mul(whole, hn::Set(kFloats, 32767.0f)), hn::Set(kFloats, 0.5f)));
-    }
-};
-
-// Pixels of each row that the dab may touch, and those among them that its box covers whole.
-struct Span {
-    int first, end, innerFirst, innerEnd;
-};
-
-class Spans {
-public:
-    HWY_INLINE Spans(const TileBox& box, int width)
-        : _box(&box), _width(hn::Set(kFloats, static_cast<float>(width))) {}
-
-    HWY_INLINE Span at(int y) const {
-        const auto i = static_cast<std::size_t>(y - _y);
-        return {_first[i], _end[i], _innerFirst[i], _innerEnd[i]};
-    }
-    // Works out as many rows as there are lanes. A little more is taken than there is, and less of what is whole.
-    HWY_INLINE void prepare(int y) {
-        const TileBox& box = *_box;
-        _y = y;
-        const Float down = hn::ConvertTo(kFloats, hn::Add(hn::Iota(kInts, 0), hn::Set(kInts, y)));
-        const auto atRow = [&](float start, float perRow) HWY_ATTR {
-            return hn::Add(hn::Set(kFloats, start), hn::Mul(down, hn::Set(kFloats, perRow)));
-        };
-        const Float along = atRow(box.along, box.alongY), across = atRow(box.across, box.acrossY);
-        Interval whole = strip(box.alongX, along, box.halfWidth + box.foot + kSlack);
-        whole.cut(strip(box.acrossX, across, box.halfHeight + box.foot + kSlack));
-        if (box.reachSquared < 2) {
-            whole.cut(round(along, across));
-        }
-        Interval inner = strip(box.alongX, along, box.halfWidth - box.foot - kSlack);
-        inner.cut(strip(box.acrossX, across, box.halfHeight - box.foot - kSlack));
-        store(whole.from, _first);
-        store(whole.to, _end);
-        store(inner.from, _innerFirst);
-        store(inner.to, _innerEnd);
-    }
-
-private:
-    static constexpr float kSlack = 1e-3f;  // pixels, for what rounding does
-
-    struct Interval {
-        Float from, to;
-
-        HWY_INLINE void cut(const Interval& other) {
-            from = hn::Max(from, other.from);
-            to = hn::Min(to, other.to);
-        }
-    };
-
-    // Where |perX * x + offset| is below `most`.
-    HWY_INLINE Interval strip(float perX, Float offset, float most) const {
-        constexpr float kParallel = 1e-6f, kFar = 1e9f;
-        const Float nearest = hn::Set(kFloats, most);
-        if (std::abs(perX) < kParallel) {
-            const auto meets = hn::Lt(hn::Abs(offset), nearest);
-            const Float far = hn::Set(kFloats, kFar);
-            return {hn::IfThenElse(meets, hn::Neg(far), far), hn::IfThenElse(meets, far, hn::Neg(far))};
-        }
-        const float perPixel = 1 / perX;
-        const Float middle = hn::Mul(offset, hn::Set(kFloats, -perPixel));
-        const Float half = hn::Set(kFloats, most * std::abs(perPixel));
-        return {hn::Sub(middle, half), hn::Add(middle, half)};
-    }
-    // along^2 / wide^2 + across^2 / tall^2 <= reach^2, as a x^2 + 2 b x + c <= 0.
-    HWY_INLINE Interval round(Float along, Float across) const {
-        const TileBox& box = *_box;
-        const float wide = 1 / (box.halfWidth + box.foot), tall = 1 / (box.halfHeight + box.foot);
-        const float rightWide = box.alongX * wide, rightTall = box.acrossX * tall;
-        const float a = rightWide * rightWide + rightTall * rightTall;
-        const Float e = hn::Mul(along, hn::Set(kFloats, wide)), f = hn::Mul(across, hn::Set(kFloats, tall));
-        const Float b =
-            hn::Add(hn::Mul(e, hn::Set(kFloats, rightWide)), hn::Mul(f, hn::Set(kFloats, rightTall)));
-        const Float c = hn::Sub(hn::Add(hn::Mul(e, e), hn::Mul(f, f)), hn::Set(kFloats, box.reachSquared));
-        const Float square = hn::Sub(hn::Mul(b, b), hn::Mul(c, hn::Set(kFloats, a)));
-        const Float perPixel = hn::Set(kFloats, 1 / a);
-        const Float middle = hn::Neg(hn::Mul(b, perPixel));
-        const Float slack = hn::Set(kFloats, kSlack + 1e-4f * (box.halfWidth + box.halfHeight));
-        const Float half = hn::Add(hn::Mul(hn::Sqrt(hn::Max(square, hn::Zero(kFloats))), perPixel), slack);
-        return {hn::Sub(middle, half), hn::Add(middle, half)};
-    }
-    HWY_INLINE void store(Float place, std::int32_t* to) const {
-        const Float inside = hn::Min(hn::Max(place, hn::Zero(kFloats)), _width);
-        hn::Store(hn::ConvertTo(kInts, hn::Ceil(inside)), kInts, to);
-    }
-
-    const TileBox* _box;
-    Float _width;
-    int _y = 0;
-    HWY_ALIGN std::int32_t _first[hn::MaxLanes(kInts)], _end[hn::MaxLanes(kInts)];
-    HWY_ALIGN std::int32_t _innerFirst[hn::MaxLanes(kInts)], _innerEnd[hn::MaxLanes(kInts)];
-};
-
 struct Cover {
     Int coverage, noise;
 };
 
+// A dab's coverage in a tile.
 template <int kLevels, bool kPaper>
-class Rows {
+class Coverage {
 public:
-    HWY_INLINE explicit Rows(const TileDab& dab)
+    HWY_INLINE Coverage(const TileDab& dab, const DabGround& ground, const Order& order)
         : _dab(&dab),
-          _order(pixelOrder()),
-          _first(dab.levels[0], _order),
-          _second(dab.levels[kLevels - 1], _order),
-          _box(dab.box),
-          _weights(hn::Set(kInts, dab.levels[0].weight | (kLevels > 1 ? dab.levels[1].weight << 16 : 0))),
-          _noise(hn::Mul(_order, hn::Set(kInts, static_cast<std::int32_t>(kNoiseRight)))) {}
+          _paper(ground.paper),
+          _order(order),
+          _first(dab.shape->levels[0], dab.u[0], dab.v[0], order),
+          _second(dab.shape->levels[kLevels - 1], dab.u[kLevels - 1], dab.v[kLevels - 1], order),
+          _box(dab),
+          _weights(hn::Set(
+              kInts, dab.shape->levels[0].weight | (kLevels > 1 ? dab.shape->levels[1].weight << 16 : 0))),
+          _noise(order.steps(static_cast<std::int32_t>(kNoiseRight), static_cast<std::int32_t>(kNoiseDown))),
+          _faint(dab.shape->faint) {}
 
-    // Of the pixels from x on, as many as there are lanes, in their order; 0 outside of the span.
-    HWY_INLINE Cover coverAt(int x, int y, const Span& span) const {
+    // Of pixels from (x, y) on, x and y even, in their order: 0 before `first` and from `end` on.
+    HWY_INLINE Cover at(int x, int y, Int first, Int end, bool isRim) const {
         const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
+        const Int right = hn::Add(hn::Set(kInts, x), _order.right);
         Int texels = hn::ShiftRight<8>(_first.at(x, y));
         if constexpr (kLevels > 1) {
             texels = hn::Or(texels, hn::And(hn::ShiftLeft<8>(_second.at(x, y)), high));
@@ -317,32 +50,23 @@ public:
             const Int both = kLevels > 1 ? hn::Or(part, hn::ShiftLeft<16>(part)) : part;
             texels = hn::BitCast(kInts, hn::MulFixedPoint15(words(texels), words(both)));
         };
-        const int end = x + lanes();
-        if (x < span.innerFirst || end > span.innerEnd) {
-            times(_box.at(hn::Add(hn::Set(kInts, x), _order), y));
+        if (isRim) {
+            times(_box.at(right, hn::Add(hn::Set(kInts, y), _order.down)));
         }
         if constexpr (kPaper) {
             const hn::Rebind<std::uint16_t, Ints> narrow;
-            const Int through = hn::PromoteTo(kInts, hn::LoadU(narrow, _dab->paper + y * kTileSide + x));
-            times(hn::TableLookupLanes(through, hn::IndicesFromVec(kInts, _order)));
+            times(hn::PromoteTo(kInts, hn::LoadU(narrow, _paper + paperPlace(x, y))));
         }
         const auto start =
             static_cast<std::int32_t>(_dab->noise + static_cast<std::uint32_t>(x) * kNoiseRight +
                                       static_cast<std::uint32_t>(y) * kNoiseDown);
         const Int noise = hn::Add(hn::Set(kInts, start), _noise);
-        const Int rounding = hn::ShiftLeftSame(logicalShift(noise), _dab->faint);
-        Int coverage =
-            hn::ShiftRightSame(hn::Add(pairProducts(texels, _weights), rounding), kWeightShift + _dab->faint);
-        coverage = hn::Min(coverage, hn::Set(kInts, kWhole));
-        if (x < span.first || end > span.end) {
-            const Int pixels = hn::Add(hn::Set(kInts, x), _order);
-            coverage = hn::IfThenElseZero(hn::Lt(pixels, hn::Set(kInts, span.end)), coverage);
-            coverage = hn::IfThenZeroElse(hn::Lt(pixels, hn::Set(kInts, span.first)), coverage);
-        }
-        return {coverage, noise};
+        const Int rounding = hn::ShiftLeftSame(logicalShift(noise), _faint);
+        const Int coverage =
+            hn::ShiftRightSame(hn::Add(pairProducts(texels, _weights), rounding), kWeightShift + _faint);
+        const auto isInside = hn::AndNot(hn::Lt(right, first), hn::Lt(right, end));
+        return {hn::IfThenElseZero(isInside, hn::Min(coverage, hn::Set(kInts, kWhole))), noise};
     }
-
-    HWY_INLINE Int order() const { return _order; }
 
 private:
     static HWY_INLINE Int logicalShift(Int noise) {
@@ -351,15 +75,17 @@ private:
     }
 
     const TileDab* _dab;
-    Int _order;
-    LevelRow _first, _second;
-    BoxRow _box;
+    const std::uint16_t* _paper;
+    const Order& _order;
+    LevelPixels _first, _second;
+    BoxPixels _box;
     Int _weights, _noise;
+    int _faint;
 };
 
-// Two pixels a block: weights and rounding of the first one stand in one lane of each block, of the second in another.
+// One row, two pixels a block: weights and rounding of the first one stand in one lane of each block, of the second in another.
 template <int kFirst>
-HWY_INLINE void blendHalf(std::uint16_t* pixels, Word colour, Int weights, Int rounding) {
+HWY_INLINE void blendRow(std::uint16_t* pixels, Word colour, Int weights, Int rounding) {
     const auto unsignedWords = hn::RebindToUnsigned<Words>();
     const Word sign = hn::Set(kWords, static_cast<std::int16_t>(-32768));
     const Word from = hn::Xor(hn::BitCast(kWords, hn::LoadU(unsignedWords, pixels)), sign);
@@ -379,74 +105,89 @@ HWY_INLINE void blend(std::uint16_t* pixels, Word colour, const Cover& cover) {
     const Int away = hn::Xor(cover.coverage, hn::Set(kInts, 0x8000));
     const Int weights = hn::Or(away, hn::ShiftLeft<16>(hn::Neg(cover.coverage)));
     const Int rounding = hn::Or(cover.noise, hn::Set(kInts, ~0x7fff));
-    blendHalf<0>(pixels, colour, weights, rounding);
-    blendHalf<2>(pixels + hn::Lanes(kWords), colour, weights, rounding);
+    blendRow<0>(pixels, colour, weights, rounding);
+    blendRow<2>(pixels + kTileSide * 4, colour, weights, rounding);
 }
 
-// Calls each(int x, int y, const Cover&) for as many covered pixels from x on as there are lanes, row by row.
+// Calls each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, two rows at a time.
 template <int kLevels, bool kPaper, typename Each>
-HWY_INLINE bool forEachCover(const TileDab& dab, int firstRow, int endRow, int width, Each&& each) {
-    const Rows<kLevels, kPaper> rows(dab);
-    Spans spans(dab.box, width);
-    bool any = false;
-    for (int y = firstRow; y < endRow; ++y) {
-        if ((y - firstRow) % lanes() == 0) {
-            spans.prepare(y);
-        }
-        Span span = spans.at(y);
-        while (span.first < span.end) {
-            const int x = std::min(span.first, kTileSide - lanes());
-            const Cover cover = rows.coverAt(x, y, span);
-            if (!hn::AllTrue(kInts, hn::Eq(cover.coverage, hn::Zero(kInts)))) {
-                each(x, y, cover);
-                any = true;
-            }
-            span.first = x + lanes();
+HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const DabGround& ground,
+                             Each&& each) {
+    const Order order;
+    const Coverage<kLevels, kPaper> coverage(dab, ground, order);
+    Int any = hn::Zero(kInts);
+    for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += 2) {
+        const Int first = order.perRow(spans.first[y], spans.first[y + 1]);
+        const Int end = order.perRow(spans.end[y], spans.end[y + 1]);
+        const int innerFirst = std::max(spans.innerFirst[y], spans.innerFirst[y + 1]);
+        const int innerEnd = std::min(spans.innerEnd[y], spans.innerEnd[y + 1]);
+        const int last = std::max(spans.end[y], spans.end[y + 1]);
+        for (int from = std::min(spans.first[y], spans.first[y + 1]) / 2 * 2; from < last; from += across()) {
+            const int x = std::min(from, kTileSide - across());
+            const bool isRim = x < innerFirst || x + across() > innerEnd;
+            const Cover cover = coverage.at(x, y, hn::Max(first, hn::Set(kInts, from)), end, isRim);
+            each(x, y, cover);
+            any = hn::Or(any, cover.coverage);
         }
     }
-    return any;
+    return !hn::AllTrue(kInts, hn::Eq(any, hn::Zero(kInts)));
 }
 
 template <int kLevels, bool kPaper>
-bool draw(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
+bool draw(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     std::uint64_t four;
-    std::memcpy(&four, dab.colour.data(), sizeof(four));
+    std::memcpy(&four, dab.shape->colour.data(), sizeof(four));
     const Word colour = hn::Xor(hn::BitCast(kWords, hn::Set(hn::Repartition<std::uint64_t, Ints>(), four)),
                                 hn::Set(kWords, static_cast<std::int16_t>(-32768)));
-    return forEachCover<kLevels, kPaper>(dab, firstRow, endRow, width,
-                                         [&](int x, int y, const Cover& cover) HWY_ATTR {
-                                             blend(tile + (y * kTileSide + x) * 4, colour, cover);
-                                         });
+    return forEachCover<kLevels, kPaper>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+        blend(ground.tile + (y * kTileSide + x) * 4, colour, cover);
+    });
 }
 
 // Each pixel in a colour of its own.
 template <int kLevels, bool kPaper>
-bool drawInMulticolour(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
-    HWY_ALIGN std::int32_t coverage[hn::MaxLanes(kInts)], order[hn::MaxLanes(kInts)];
-    hn::Store(pixelOrder(), kInts, order);
-    return forEachCover<kLevels, kPaper>(dab, firstRow, endRow, width,
-                                         [&](int x, int y, const Cover& cover) HWY_ATTR {
-                                             hn::Store(cover.coverage, kInts, coverage);
-                                             for (int i = 0; i < lanes(); ++i) {
-                                                 if (coverage[i] > 0) {
-                                                     blendOne(dab, x + order[i], y, coverage[i], tile);
-                                                 }
-                                             }
-                                         });
+bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
+    constexpr std::size_t kMost = hn::MaxLanes(kInts);
+    HWY_ALIGN std::int32_t coverage[kMost], right[kMost], down[kMost];
+    hn::Store(Order().right, kInts, right);
+    hn::Store(Order().down, kInts, down);
+    return forEachCover<kLevels, kPaper>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+        hn::Store(cover.coverage, kInts, coverage);
+        for (int i = 0; i < lanes(); ++i) {
+            if (coverage[i] > 0) {
+                blendOne(dab, x + right[i], y + down[i], coverage[i], ground.tile);
+            }
+        }
+    });
+}
+
+using Draw = bool (*)(const TileDab&, const RowSpans&, const DabGround&);
+
+Draw drawOf(const DabShape& shape, bool hasPaper) {
+    static constexpr Draw kDraws[2][2][2] = {
+        {{draw<1, false>, draw<2, false>}, {draw<1, true>, draw<2, true>}},
+        {{drawInMulticolour<1, false>, drawInMulticolour<2, false>},
+         {drawInMulticolour<1, true>, drawInMulticolour<2, true>}}};
+    return kDraws[shape.multicolour != nullptr][hasPaper][shape.levelCount - 1];
 }
 
 }  // namespace
 
-bool DrawRows(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
-    const auto chosen = [&](auto one, auto two, auto onPaper, auto twoOnPaper) {
-        return dab.paper != nullptr ? (dab.levelCount > 1 ? twoOnPaper : onPaper)
-                                    : (dab.levelCount > 1 ? two : one);
-    };
-    const auto drawn = dab.multicolour != nullptr
-                           ? chosen(drawInMulticolour<1, false>, drawInMulticolour<2, false>,
-                                    drawInMulticolour<1, true>, drawInMulticolour<2, true>)
-                           : chosen(draw<1, false>, draw<2, false>, draw<1, true>, draw<2, true>);
-    return drawn(dab, firstRow, endRow, width, tile);
+bool DrawDabs(std::span<const TileDab> dabs, const DabGround& ground) {
+    // The spans of several dabs at a time: the processor then works on them side by side.
+    constexpr std::size_t kTogether = 16;
+    RowSpans spans[kTogether];
+    bool any = false;
+    for (std::size_t start = 0; start < dabs.size(); start += kTogether) {
+        const std::span<const TileDab> some = dabs.subspan(start, std::min(kTogether, dabs.size() - start));
+        for (std::size_t i = 0; i < some.size(); ++i) {
+            SpanMaker(some[i], ground.width).make(spans[i]);
+        }
+        for (std::size_t i = 0; i < some.size(); ++i) {
+            any |= drawOf(*some[i].shape, ground.paper != nullptr)(some[i], spans[i], ground);
+        }
+    }
+    return any;
 }
 
 }  // namespace HWY_NAMESPACE
@@ -456,10 +197,23 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace dabcanvas {
 
-HWY_EXPORT(DrawRows);
+HWY_EXPORT(DrawDabs);
 
-bool drawRows(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile) {
-    return HWY_DYNAMIC_DISPATCH(DrawRows)(dab, firstRow, endRow, width, tile);
+bool drawDabs(std::span<const TileDab> dabs, const DabGround& ground) {
+    return HWY_DYNAMIC_DISPATCH(DrawDabs)(dabs, ground);
+}
+
+std::vector<std::int64_t> kernelTargets() {
+    std::vector<std::int64_t> targets;
+    for (std::int64_t left = hwy::SupportedTargets() & HWY_TARGETS; left != 0; left &= left - 1) {
+        targets.push_back(left & -left);
+    }
+    return targets;
+}
+
+void useKernelTarget(std::int64_t target) {
+    hwy::SetSupportedTargetsForTest(target);
+    hwy::GetChosenTarget().DeInit();  // so that the next call chooses anew
 }
 
 }  // namespace dabcanvas

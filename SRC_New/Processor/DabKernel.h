@@ -11,6 +11,8 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
+#include <vector>
 
 #include "Processor/Multicolour.h"
 #include "Surface/TileSet.h"
@@ -19,44 +21,62 @@ namespace dabcanvas {
 
 inline constexpr int kWhole = 1 << 15;  // coverage that leaves nothing of what was there
 
-// One level of the tip below a tile: texels, 16 bits of them behind the point; u to the right, v down.
-struct TileLevel {
+// One level of the tip below a dab: texels, 16 bits of them behind the point; u to the right, v down.
+struct DabLevel {
     const std::uint8_t* pairs;  // see TipTable
+    Size size;
     std::int32_t stride;
-    std::int32_t lastU, lastV;  // of the last texel's centre; the first one's is 0
-    std::int32_t u, v;          // at the tile's first pixel
     std::int32_t rightU, rightV, downU, downV;
-    std::int32_t weight;  // of it in the coverage, see kTexelBits
+    std::int32_t weight;  // of it in the coverage
+
+    // Of the last texel's centre; the first one's is 0.
+    std::int32_t lastU() const { return (size.width - 1) << 16; }
+    std::int32_t lastV() const { return (size.height - 1) << 16; }
 };
 // A level gives 14 bits; times its weight, shifted right by 13 and the dab's faintness, it is a coverage.
 inline constexpr int kFullTexel = 255 * 127 * 127 >> 8;
 inline constexpr int kWeightShift = 13;
 inline constexpr double kFullWeight = static_cast<double>(kWhole) * (1 << kWeightShift) / kFullTexel;
 
-// The dab's box: along and across, as DabMap has them, at the tile's first pixel, and their steps.
-struct TileBox {
-    float along, across;
+// The dab's box: steps of along and across, as DabMap has them, and what it covers of a pixel.
+struct DabBox {
     float alongX, alongY, acrossX, acrossY;
-    float halfWidth, halfHeight, foot, top, height, slope;
-    float
-        reachSquared;  // beyond which nothing lies, in the round, of the box with its foot; 2 and more: nowhere
+    float halfWidth, halfHeight, foot, top;
+    float height, slope;  // times the root of 32767
+    float halfShadow;     // of half a pixel, alike
+    // Beyond this part of the half sides with the foot, in the round, nothing lies; 2 and more: anything may.
+    float reachSquared;
 };
 
-struct TileDab {
-    std::array<TileLevel, 2> levels;
+// What is the same of a dab in every tile.
+struct DabShape {
+    std::array<DabLevel, 2> levels;
     int levelCount;
     int faint;  // further bits that the coverage is shifted right by
-    TileBox box;
+    DabBox box;
     std::array<std::uint16_t, 4> colour;
-    std::uint32_t noise;                   // at the tile's first pixel
-    const std::uint16_t* paper;            // of the tile's pixels, 0..32767; null: smooth
     const Multicolour* multicolour;        // null: all in one colour
     std::array<const Pixels*, 2> colours;  // of the levels, for multicolour
     float part;                            // of the second one
 };
 
-// Noise of the pixel (x, y) for the dab of this number.
-constexpr std::uint32_t kNoiseRight = 0x9e3779b9u, kNoiseDown = 0xd1b54a33u, kNoiseDab = 0xc13fa9a9u;
+// A dab in one tile: what it starts from at the tile's first pixel, and the rows that it may touch.
+struct TileDab {
+    const DabShape* shape;
+    std::array<std::int32_t, 2> u, v;
+    float along, across;
+    std::uint32_t noise;
+    int firstRow, endRow;
+};
+
+// Where a table of paper has the pixel: two of a row and then the two below them, two rows at a time.
+constexpr int paperPlace(int x, int y) {
+    return y / 2 * 2 * kTileSide + x / 2 * 4 + y % 2 * 2 + x % 2;
+}
+
+// Noise of the pixel (x, y) for the dab of this number: the upper bits round its coverage, the lower ones what it does to
+// the channels. The step from dab to dab is, of many that were tried, one that keeps colours well.
+constexpr std::uint32_t kNoiseRight = 0x9e3779b9u, kNoiseDown = 0xd1b54a33u, kNoiseDab = 0x0abf9af9u;
 inline std::uint32_t noiseAt(int x, int y, std::uint64_t dab) {
     return static_cast<std::uint32_t>(x) * kNoiseRight + static_cast<std::uint32_t>(y) * kNoiseDown +
            static_cast<std::uint32_t>(dab) * kNoiseDab;
@@ -69,10 +89,21 @@ inline std::int32_t placeAt(std::int32_t start, std::int32_t right, std::int32_t
                                      static_cast<std::uint32_t>(down) * static_cast<std::uint32_t>(y));
 }
 
-// One pixel of the tile in its own colour, as the loops do it.
-void blendOne(const TileDab& dab, int x, int y, int coverage, std::uint16_t* tile);
+// What they are drawn into, and on.
+struct DabGround {
+    std::uint16_t* tile;         // premultiplied RGBA, 64 pixels a row
+    int width;                   // pixels of each row that are drawn
+    const std::uint16_t* paper;  // 0..32767, see paperPlace(); null: smooth
+};
 
-// Draws the rows firstRow to endRow of a tile, and of each the first `width` pixels. Returns whether any was covered.
-bool drawRows(const TileDab& dab, int firstRow, int endRow, int width, std::uint16_t* tile);
+// One after another. Returns whether any pixel was covered.
+bool drawDabs(std::span<const TileDab> dabs, const DabGround& ground);
+
+// For tests: the instruction sets that there are, and the one to go on with; 0: the best.
+std::vector<std::int64_t> kernelTargets();
+void useKernelTarget(std::int64_t target);
+
+// One pixel in its own colour, as the loops do it.
+void blendOne(const TileDab& dab, int x, int y, int coverage, std::uint16_t* tile);
 
 }  // namespace dabcanvas

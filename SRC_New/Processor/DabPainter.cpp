@@ -2,8 +2,8 @@
 #include "Processor/DabPainter.h"
 
 #include <algorithm>
-#include <cstring>
-#include <optional>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "Dabs/TipImage.h"
@@ -11,6 +11,7 @@
 #include "Processor/DabPlan.h"
 #include "Processor/PaperTiles.h"
 #include "Processor/TipTables.h"
+#include "Processor/Workers.h"
 
 namespace dabcanvas {
 namespace {
@@ -38,26 +39,30 @@ struct DabPainter::Inside {
     float paperScale = 0;
     std::unique_ptr<PaperTiles> paper;
 
-    // Of the present run
+    // Of the present run; the first `planned` of the dabs. What they took in memory serves the next run.
     std::vector<PlannedDab> dabs;
+    std::size_t planned = 0;
+    std::vector<Multicolour> multicolours;
     struct Entry {
-        std::size_t dab;
-        std::ptrdiff_t next;
+        std::uint32_t dab;
+        std::int32_t next;  // entry of the same tile, -1 for none
     };
     std::vector<Entry> entries;
     struct TileDabs {
         std::size_t tile;
-        std::ptrdiff_t first, last;  // entries
+        std::int32_t first, last;  // entries
     };
     std::vector<TileDabs> tiles;
-    std::vector<std::ptrdiff_t> tileOf;  // index into `tiles`; -1 for none
+    std::vector<std::int32_t> tileOf;  // index into `tiles`, -1 for none
 
     TipTables& tip(const DabStyle& style, std::uint32_t wanted);
     PaperTiles* paperOf(const DabStyle& style);
     void dropTips();
     Rect plan(const TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
               std::uint64_t count);
+    void addToTiles(const TileGrid<std::uint16_t>& layer, const Rect& touched);
     void drawTile(TileGrid<std::uint16_t>& layer, const TileDabs& tile, PaperTiles* paperTiles) const;
+    void drawTiles(TileGrid<std::uint16_t>& layer, PaperTiles* paperTiles) const;
 };
 
 TipTables& DabPainter::Inside::tip(const DabStyle& style, std::uint32_t wanted) {
@@ -103,33 +108,49 @@ PaperTiles* DabPainter::Inside::paperOf(const DabStyle& style) {
     return paper->isEmpty() ? nullptr : paper.get();
 }
 
+// Notes the dab that was planned last in the tiles that it may touch.
+void DabPainter::Inside::addToTiles(const TileGrid<std::uint16_t>& layer, const Rect& touched) {
+    layer.forEachIn(touched, [&](std::size_t index, const Rect&) {
+        const auto entry = static_cast<std::int32_t>(entries.size());
+        entries.push_back({static_cast<std::uint32_t>(planned - 1), -1});
+        std::int32_t& place = tileOf[index];
+        if (place < 0) {
+            place = static_cast<std::int32_t>(tiles.size());
+            tiles.push_back({index, entry, entry});
+        } else {
+            TileDabs& tile = tiles[static_cast<std::size_t>(place)];
+            entries[static_cast<std::size_t>(tile.last)].next = entry;
+            tile.last = entry;
+        }
+    });
+}
+
 Rect DabPainter::Inside::plan(const TileGrid<std::uint16_t>& layer, std::span<const Dab> run,
                               const DabStyle& style, std::uint64_t count) {
-    dabs.clear();
+    planned = 0;
     entries.clear();
+    for (const TileDabs& tile : tiles) {
+        tileOf[tile.tile] = -1;
+    }
     tiles.clear();
-    tileOf.assign(layer.count(), -1);
+    tileOf.resize(layer.count(), -1);
+    multicolours.clear();
+    multicolours.reserve(style.multicolour ? run.size() : 0);
     Rect touched;
     for (const Dab& dab : run) {
-        const std::optional<PlannedDab> plan =
-            planned(dab, style, tip(style, dab.tip), layer.size(), count++);
-        if (!plan) {
+        if (planned == dabs.size()) {
+            dabs.emplace_back();
+        }
+        PlannedDab& plan = dabs[planned];
+        if (!planDab(dab, tip(style, dab.tip), layer.size(), count++, plan)) {
             continue;
         }
-        touched = touched.united(plan->touched);
-        layer.forEachIn(plan->touched, [&](std::size_t index, const Rect&) {
-            const auto entry = static_cast<std::ptrdiff_t>(entries.size());
-            entries.push_back({dabs.size(), -1});
-            if (tileOf[index] < 0) {
-                tileOf[index] = static_cast<std::ptrdiff_t>(tiles.size());
-                tiles.push_back({index, entry, entry});
-            } else {
-                TileDabs& tile = tiles[static_cast<std::size_t>(tileOf[index])];
-                entries[static_cast<std::size_t>(tile.last)].next = entry;
-                tile.last = entry;
-            }
-        });
-        dabs.push_back(*plan);
+        if (style.multicolour) {
+            plan.shape.multicolour = &multicolours.emplace_back(dab, style);
+        }
+        ++planned;
+        touched = touched.united(plan.touched);
+        addToTiles(layer, plan.touched);
     }
     return touched;
 }
@@ -137,26 +158,44 @@ Rect DabPainter::Inside::plan(const TileGrid<std::uint16_t>& layer, std::span<co
 void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs& tile,
                                   PaperTiles* paperTiles) const {
     const Rect rect = layer.rectOf(tile.tile);
-    const bool isThere = layer.tile(tile.tile) != nullptr;
-    std::unique_ptr<Tile<std::uint16_t>> made;
-    if (!isThere) {
-        made = std::make_unique<Tile<std::uint16_t>>();
+    thread_local std::vector<TileDab> here;
+    here.clear();
+    for (std::int32_t i = tile.first; i >= 0; i = entries[static_cast<std::size_t>(i)].next) {
+        here.push_back(inTile(dabs[entries[static_cast<std::size_t>(i)].dab], rect));
     }
-    std::uint16_t* const values = isThere ? layer.writable(tile.tile).values.data() : made->values.data();
     std::shared_ptr<const PaperTiles::Through> through;
     if (paperTiles != nullptr) {
         through = paperTiles->at(rect);
     }
-    bool any = false;
-    for (std::ptrdiff_t i = tile.first; i >= 0; i = entries[static_cast<std::size_t>(i)].next) {
-        const PlannedDab& plan = dabs[entries[static_cast<std::size_t>(i)].dab];
-        TileDab dab = inTile(plan, rect.x, rect.y);
-        dab.paper = through ? through->data() : nullptr;
-        const Rect part = rect.intersected(plan.touched);
-        any |= drawRows(dab, part.y - rect.y, part.bottom() - rect.y, rect.width, values);
+    DabGround ground{nullptr, rect.width, through ? through->data() : nullptr};
+    if (layer.tile(tile.tile) != nullptr) {
+        ground.tile = layer.writable(tile.tile).values.data();
+        drawDabs(here, ground);
+        return;
     }
-    if (!isThere && any) {
+    // What only seemed to be touched stays away.
+    const auto made = std::make_unique<Tile<std::uint16_t>>();
+    ground.tile = made->values.data();
+    if (drawDabs(here, ground)) {
         layer.writable(tile.tile) = *made;
+    }
+}
+
+void DabPainter::Inside::drawTiles(TileGrid<std::uint16_t>& layer, PaperTiles* paperTiles) const {
+    const auto piece = [&](std::size_t i) { drawTile(layer, tiles[i], paperTiles); };
+    std::int64_t pixels = 0;
+    for (std::size_t i = 0; i < planned; ++i) {
+        pixels += dabs[i].touched.area();
+    }
+    // Waking a thread takes as long as some 50,000 pixels; of small dabs, planning them takes a good part.
+    constexpr std::int64_t kWorthSharing = 200'000;
+    constexpr std::int64_t kLargeDab = 32 * 32;
+    if (pixels >= kWorthSharing && pixels >= kLargeDab * static_cast<std::int64_t>(planned)) {
+        Workers::share(tiles.size(), piece);
+        return;
+    }
+    for (std::size_t i = 0; i < tiles.size(); ++i) {
+        piece(i);
     }
 }
 
@@ -171,9 +210,7 @@ Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs,
     _inside->dropTips();
     PaperTiles* const paper = _inside->paperOf(style);
     const Rect touched = _inside->plan(layer, dabs, style, count);
-    for (const Inside::TileDabs& tile : _inside->tiles) {
-        _inside->drawTile(layer, tile, paper);
-    }
+    _inside->drawTiles(layer, paper);
     return touched;
 }
 

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
+
+#include "Dabs/DabMap.h"
 
 namespace dabcanvas {
 namespace {
@@ -20,7 +21,8 @@ bool isFinite(const Dab& dab) {
 
 std::int32_t fixedPoint(double texels) {
     constexpr double kFar = 1 << 30;
-    return static_cast<std::int32_t>(std::floor(std::clamp(texels * 65536, -kFar, kFar) + 0.5));
+    const double scaled = std::clamp(texels * 65536, -kFar, kFar);
+    return static_cast<std::int32_t>(scaled + (scaled < 0 ? -0.5 : 0.5));
 }
 
 // Pixels whose squares may meet the box.
@@ -28,90 +30,117 @@ Rect touchedBy(const Dab& dab, const DabMap& map) {
     const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
     const double x = std::fabs(map.alongX) * wide + std::fabs(map.acrossX) * tall;
     const double y = std::fabs(map.alongY) * wide + std::fabs(map.acrossY) * tall;
-    return Rect::covering(dab.x - x - 0.5, dab.y - y - 0.5, dab.x + x + 0.5, dab.y + y + 0.5);
+    const auto pixel = [](double place) {
+        constexpr double kFar = 1 << 28;
+        return static_cast<int>(
+            std::clamp(place, -kFar, kFar));  // towards 0, which is off the layer or its edge
+    };
+    return Rect::between(pixel(dab.x - x - 0.5), pixel(dab.y - y - 0.5), pixel(dab.x + x + 1.5),
+                         pixel(dab.y + y + 1.5));
 }
 
-void setWeights(TileDab& tile, double flow, const TipTables::Pair& levels) {
+void setWeights(DabShape& shape, double flow, const TipTables::Pair& levels) {
     constexpr int kFaintest = 15;
     double whole = std::min(flow, 1.0) * kFullWeight;
-    while (tile.faint < kFaintest && whole * 2 <= kFullWeight) {
+    shape.faint = 0;
+    while (shape.faint < kFaintest && whole * 2 <= kFullWeight) {
         whole *= 2;
-        ++tile.faint;
+        ++shape.faint;
     }
     const auto sum = static_cast<std::int32_t>(std::ceil(whole));
-    tile.levelCount = levels.second != nullptr ? 2 : 1;
-    tile.levels[1].weight = static_cast<std::int32_t>(sum * levels.part + 0.5f);
-    tile.levels[0].weight = sum - tile.levels[1].weight;
+    shape.levels[1].weight = static_cast<std::int32_t>(static_cast<float>(sum) * levels.part + 0.5f);
+    shape.levels[0].weight = sum - shape.levels[1].weight;
+}
+
+void setBox(DabShape& shape, const DabMap& map, float reach) {
+    const float scale = std::sqrt(32767.0f), height = map.height * scale, slope = map.slope * scale;
+    const float side = map.foot - map.top;
+    shape.box = {map.alongX,
+                 map.alongY,
+                 map.acrossX,
+                 map.acrossY,
+                 map.halfWidth,
+                 map.halfHeight,
+                 map.foot,
+                 map.top,
+                 height,
+                 slope,
+                 map.foot * height - side * side * slope,
+                 reach * reach};
+}
+
+void setLevel(DabLevel& level, const TipTable& table, const DabMap& map, const PlannedDab& plan) {
+    level.pairs = table.pairs.data();
+    level.size = table.size;
+    level.stride = table.stride();
+    const double u = table.size.width * plan.perWidth, v = table.size.height * plan.perHeight;
+    level.rightU = fixedPoint(u * map.alongX);
+    level.downU = fixedPoint(u * map.alongY);
+    level.rightV = fixedPoint(v * map.acrossX);
+    level.downV = fixedPoint(v * map.acrossY);
 }
 
 }  // namespace
 
-std::optional<PlannedDab> planned(const Dab& dab, const DabStyle& style, TipTables& tip, const Size& layer,
-                                  std::uint64_t number) {
+bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t number, PlannedDab& plan) {
     if (tip.isEmpty() || !isFinite(dab) || !(dab.halfSize > 0) || !(dab.halfSize * dab.roundness > 0) ||
         !(dab.flow > 0)) {
-        return {};
+        return false;
     }
     Dab mirrored = dab;
     mirrored.flipX = dab.flipX < 0 ? -1.0f : 1.0f;
     mirrored.flipY = dab.flipY < 0 ? -1.0f : 1.0f;
     const DabMap map(mirrored, tip.size());
-    const Rect touched = touchedBy(mirrored, map).intersected(Rect::of(layer));
-    if (touched.isEmpty()) {
-        return {};
+    plan.touched = touchedBy(dab, map).intersected(Rect::of(layer));
+    if (plan.touched.isEmpty()) {
+        return false;
     }
-    PlannedDab plan{mirrored, map, touched, tip.levels(map.level), {}, number, {}};
-    TileDab& tile = plan.tile;
-    setWeights(tile, dab.flow, plan.levels);
-    const float reach =
-        std::max(plan.levels.first->reach, plan.levels.second != nullptr ? plan.levels.second->reach : 0.0f);
+    plan.x = dab.x;
+    plan.y = dab.y;
+    plan.perWidth = 0.5 / map.halfWidth;
+    plan.perHeight = 0.5 / map.halfHeight;
+    plan.number = number;
+    DabShape& shape = plan.shape;
+    const TipTables::Pair levels = tip.levels(map.level);
+    shape.levelCount = levels.second != nullptr ? 2 : 1;
+    setWeights(shape, dab.flow, levels);
+    setLevel(shape.levels[0], *levels.first, map, plan);
+    float reach = levels.first->reach;
+    if (levels.second != nullptr) {
+        setLevel(shape.levels[1], *levels.second, map, plan);
+        reach = std::max(reach, levels.second->reach);
+    }
+    setBox(shape, map, reach);
     const float straight[] = {dab.color.r, dab.color.g, dab.color.b, 1};
-    for (std::size_t i = 0; i < 4; ++i) {
-        tile.colour[i] = static_cast<std::uint16_t>(std::clamp(straight[i], 0.0f, 1.0f) * 65535 + 0.5f);
+    std::transform(straight, straight + 4, shape.colour.begin(), [](float value) {
+        return static_cast<std::uint16_t>(std::clamp(value, 0.0f, 1.0f) * 65535 + 0.5f);
+    });
+    shape.multicolour = nullptr;
+    if (tip.hasColour()) {
+        shape.colours = {&tip.colour(levels.level), &tip.colour(levels.level + shape.levelCount - 1)};
+        shape.part = levels.part;
     }
-    tile.box = {
-        0,        0,       map.alongX, map.alongY, map.acrossX,  map.acrossY, map.halfWidth, map.halfHeight,
-        map.foot, map.top, map.height, map.slope,  reach * reach};
-    const TipTable* tables[] = {plan.levels.first, plan.levels.second};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(tile.levelCount); ++i) {
-        TileLevel& level = tile.levels[i];
-        const TipTable& table = *tables[i];
-        level.pairs = table.pairs.data();
-        level.stride = table.stride();
-        level.lastU = (table.size.width - 1) << 16;
-        level.lastV = (table.size.height - 1) << 16;
-        const double u = table.size.width / (2.0 * map.halfWidth),
-                     v = table.size.height / (2.0 * map.halfHeight);
-        level.rightU = fixedPoint(u * map.alongX);
-        level.downU = fixedPoint(u * map.alongY);
-        level.rightV = fixedPoint(v * map.acrossX);
-        level.downV = fixedPoint(v * map.acrossY);
-    }
-    if (style.multicolour) {
-        plan.multicolour.emplace(mirrored, style);
-        const int second = plan.levels.level + (plan.levels.second != nullptr ? 1 : 0);
-        tile.colours = {&tip.colour(plan.levels.level), &tip.colour(second)};
-        tile.part = plan.levels.part;
-    }
-    return plan;
+    return true;
 }
 
-TileDab inTile(const PlannedDab& plan, int x, int y) {
-    TileDab tile = plan.tile;
-    const double right = x + 0.5 - plan.dab.x, down = y + 0.5 - plan.dab.y;
-    const double along = plan.map.alongX * right + plan.map.alongY * down;
-    const double across = plan.map.acrossX * right + plan.map.acrossY * down;
-    tile.box.along = static_cast<float>(along);
-    tile.box.across = static_cast<float>(across);
-    const TipTable* tables[] = {plan.levels.first, plan.levels.second};
-    for (std::size_t i = 0; i < static_cast<std::size_t>(tile.levelCount); ++i) {
-        const Size& size = tables[i]->size;
-        tile.levels[i].u = fixedPoint((0.5 + 0.5 * along / plan.map.halfWidth) * size.width - 0.5);
-        tile.levels[i].v = fixedPoint((0.5 + 0.5 * across / plan.map.halfHeight) * size.height - 0.5);
+TileDab inTile(const PlannedDab& plan, const Rect& tile) {
+    const DabBox& box = plan.shape.box;
+    const double right = tile.x + 0.5 - plan.x, down = tile.y + 0.5 - plan.y;
+    const double along = box.alongX * right + box.alongY * down;
+    const double across = box.acrossX * right + box.acrossY * down;
+    TileDab dab;
+    dab.shape = &plan.shape;
+    for (std::size_t i = 0; i < static_cast<std::size_t>(plan.shape.levelCount); ++i) {
+        const Size& size = plan.shape.levels[i].size;
+        dab.u[i] = fixedPoint((0.5 + along * plan.perWidth) * size.width - 0.5);
+        dab.v[i] = fixedPoint((0.5 + across * plan.perHeight) * size.height - 0.5);
     }
-    tile.noise = noiseAt(x, y, plan.number);
-    tile.multicolour = plan.multicolour ? &*plan.multicolour : nullptr;
-    return tile;
+    dab.along = static_cast<float>(along);
+    dab.across = static_cast<float>(across);
+    dab.noise = noiseAt(tile.x, tile.y, plan.number);
+    dab.firstRow = std::max(plan.touched.y - tile.y, 0);
+    dab.endRow = std::min(plan.touched.bottom() - tile.y, tile.height);
+    return dab;
 }
 
 }  // namespace dabcanvas

@@ -4,10 +4,8 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 
 #include "Dabs/Dab.h"
-#include "Dabs/DabMap.h"
 #include "Maths/Rect.h"
 #include "Processor/DabKernel.h"
 #include "Processor/TipTables.h"
@@ -15,20 +13,17 @@
 namespace dabcanvas {
 
 struct PlannedDab {
-    Dab dab;
-    DabMap map;
-    Rect touched;  // pixels that may change, on the layer
-    TipTables::Pair levels;
-    TileDab tile;  // what is the same in every tile
-    std::uint64_t number;
-    std::optional<Multicolour> multicolour;
+    DabShape shape{};  // in one colour
+    Rect touched;      // pixels that may change, on the layer
+    double x = 0, y = 0;
+    double perWidth = 0, perHeight = 0;  // of the box
+    std::uint64_t number = 0;
 };
 
-// Nothing for a dab that cannot be seen or is not finite.
-std::optional<PlannedDab> planned(const Dab& dab, const DabStyle& style, TipTables& tip, const Size& layer,
-                                  std::uint64_t number);
+// False, and nothing planned, for a dab that cannot be seen or is not finite.
+bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t number, PlannedDab& plan);
 
-// The dab as the tile at these pixels has it; without paper.
-TileDab inTile(const PlannedDab& dab, int x, int y);
+// The dab in the tile of these pixels.
+TileDab inTile(const PlannedDab& dab, const Rect& tile);
 
 }  // namespace dabcanvas

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include "Processor/DabKernel.h"
+
 namespace dabcanvas {
 namespace {
 
@@ -61,8 +63,13 @@ std::shared_ptr<const PaperTiles::Through> PaperTiles::made(const Rect& tile) co
             }
         }
     }
-    std::transform(sum.begin(), sum.end(), through->begin(),
-                   [](float value) { return static_cast<std::uint16_t>(std::min(value + 0.5f, 32767.0f)); });
+    const float* from = sum.data();
+    for (int y = 0; y < kTileSide; ++y) {
+        for (int x = 0; x < kTileSide; ++x) {
+            (*through)[static_cast<std::size_t>(paperPlace(x, y))] =
+                static_cast<std::uint16_t>(std::min(*from++ + 0.5f, 32767.0f));
+        }
+    }
     return through;
 }
 

@@ -4,7 +4,7 @@
 //
 // Units    buffer pixels, top-left origin.
 // Owns     its tiles, with every TileGrid that copied them.
-// Thread   different tiles may be written on different threads, after writable() made them on one.
+// Thread   different tiles may be made writable and written on different threads.
 // Errors   std::bad_alloc where there is no memory for a tile; nothing has changed then.
 #pragma once
 

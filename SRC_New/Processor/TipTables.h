@@ -41,6 +41,7 @@ public:
         int level;   // number of the first
     };
     Pair levels(float detail);
+    bool hasColour() const { return !_image.colour.empty(); }
     // Premultiplied RGBA of a level.
     const Pixels& colour(int level) const { return _image.colour[static_cast<std::size_t>(level)]; }
 

@@ -6,13 +6,17 @@
 namespace dabcanvas {
 
 void blendOne(const TileDab& dab, int x, int y, int coverage, std::uint16_t* tile) {
+    const DabShape& shape = *dab.shape;
     const auto read = [&](std::size_t i) {
-        const TileLevel& level = dab.levels[i];
+        const DabLevel& level = shape.levels[i];
         return Multicolour::Read{
-            dab.colours[i], std::clamp(placeAt(level.u, level.rightU, level.downU, x, y), 0, level.lastU),
-            std::clamp(placeAt(level.v, level.rightV, level.downV, x, y), 0, level.lastV)};
+            shape.colours[i],
+            std::clamp(placeAt(dab.u[i], level.rightU, level.downU, x, y), 0, level.lastU()),
+            std::clamp(placeAt(dab.v[i], level.rightV, level.downV, x, y), 0, level.lastV())};
     };
-    const std::array<std::uint16_t, 4> colour = dab.multicolour->at(read(0), read(1), dab.part);
+    const Multicolour::Read first = read(0);
+    const std::array<std::uint16_t, 4> colour =
+        shape.multicolour->at(first, shape.levelCount > 1 ? read(1) : first, shape.part);
     const std::uint32_t noise = dab.noise + noiseAt(x, y, 0);
     const int rounding = static_cast<int>(~noise & (kWhole - 1));
     std::uint16_t* pixel = tile + (y * kTileSide + x) * 4;
