@@ -65,9 +65,10 @@ TEST_F(CanvasSmudgeTest, PixelsThatNoDabCoveredKeepEveryBit) {
             paintStripes(*canvas);
             const QImage before = canvas->image();
             for (QDDrawCanvas* one : {canvas.get(), covered.get()}) {
-                useFinger(*one, 22);
-                one->setBrushType(one == canvas.get() ? 3 : 0);  // where a plain brush of this shape paints
-                one->setHardness(hardness);
+                const bool smudges = one == canvas.get();
+                useFinger(*one, smudges ? 22 : 24);
+                one->setBrushType(smudges ? 3 : 0);  // where a plain brush a little larger paints
+                one->setHardness(smudges ? hardness : 1);
                 drag(*one, {-5, size.height() * 0.3}, {size.width() + 5.0, size.height() * 0.7});
             }
             const QImage after = canvas->image();
