@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a fragment program that draws dabs by records is begun with: how much of a pixel a dab's box covers, what its tip
-// is there, and how paint goes down. Dabs/DabMap.h says the former in C++.
+// What a fragment program that draws dabs by records is begun with: how much of a pixel a dab's box covers, and what its tip
+// is there. Dabs/DabMap.h says the former in C++.
 uniform sampler2D u_tips;
 
 // The part of a pixel, a trapezoid as an axis of the dab sees it, on the near side of an edge that runs so far beyond its
@@ -21,11 +21,4 @@ float dabCoverage(vec2 place, vec2 extent, vec4 pixel) {
 vec4 dabTip(vec2 place, vec4 first, vec4 next, float part) {
     vec2 at = 0.5 + 0.5 * clamp(place, -1.0, 1.0);
     return mix(texture(u_tips, first.xy + at * first.zw), texture(u_tips, next.xy + at * next.zw), part);
-}
-
-// Fixed by the pixel's place and a turn, which dabs in a row take evenly spread: -0.5..0.5, but so little less that what
-// is a whole step stays one.
-float dabNoise(float turn) {
-    float place = fract(52.9829189 * fract(dot(gl_FragCoord.xy, vec2(0.06711056, 0.00583715))));
-    return (fract(place + turn) - 0.5) * 0.98;
 }

@@ -3,7 +3,8 @@
 // Paints one dab: the tip's alpha is the shape, the brush colour fills it. Premultiplied.
 // NO_MASK and NO_MULTICOLOUR leave out what a brush does not use: a software driver runs both sides of a branch.
 // RECORDS: the dab comes with its vertices, its edges are smooth, and its tip is read at the dab's one level; Dab.glsl
-// stands before this text then. FETCH blends here, on what the layer holds; NOISE lets its rounding even out.
+// and Noise.glsl stand before this text then. NOISE lets the rounding of a layer of 16 bits even out; FETCH blends here
+// for that, as the unit that blends rounds what it is given.
 #ifdef RECORDS
 flat in vec4 v_dabPlace, v_dabAxes, v_dabPixel, v_dabPaint, v_dabFirstLevel, v_dabNextLevel, v_dabMore;
 #define DAB_COLOR v_dabPaint.rgb

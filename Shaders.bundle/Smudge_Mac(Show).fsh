@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #version 150
 // Brings canvas and smudge layer together. Premultiplied throughout.
-// FILL reduces the canvas into the layer; without it the layer's smudges are put onto the canvas.
+// FILL reduces the canvas into the layer; without it the layer's smudges are put onto the canvas. NOISE lets
+// their rounding even out; Noise.glsl stands before this text then.
 uniform vec2 u_viewSize;              // buffer pixels
 uniform sampler2D u_bgTexture;        // FILL: the canvas; else the smudge layer
 #ifndef FILL
@@ -9,6 +10,10 @@ uniform sampler2D u_canvasTexture;    // the canvas as it was before the stroke
 uniform sampler2D u_beforeTexture;    // the smudge layer as it was then
 uniform sampler2D u_coverageTexture;  // how much of each canvas pixel the stroke has exchanged: alpha
 uniform float u_opacity;
+#ifdef NOISE
+uniform sampler2D u_keptTexture;      // as pictureNoise() reads it
+uniform float u_noiseStep;
+#endif
 #endif
 
 in vec2 v_texCoord;
@@ -43,5 +48,8 @@ void main() {
     brought = max(brought, 0.0) * min(1.0, exchanged / max(brought.a, 1e-6));
     brought.rgb = min(brought.rgb, vec3(brought.a));
     fragColor = mix(canvas, canvas * (1.0 - exchanged) + brought, u_opacity);
+#ifdef NOISE
+    fragColor += u_noiseStep * pictureNoise(u_keptTexture, u_viewSize.y);
+#endif
 }
 #endif

@@ -2,7 +2,8 @@
 #version 150
 // Paints one smudge dab: where the tip covers, the layer turns into a mixture of the brush colour and the colour picked up
 // where the last dab lay. Premultiplied; the result replaces the pixel, so that picked up transparency erases.
-// RECORDS: the dab's edges are smooth, and its tip is read at its one level; Dab.glsl stands before this text then.
+// RECORDS: the dab's edges are smooth, and its tip is read at its one level; Dab.glsl and Noise.glsl stand before this text
+// then. NOISE lets the rounding of a layer of 16 bits even out.
 uniform sampler2D u_bgTexture;   // the smudge layer as it was before this dab
 uniform float u_moistQuantity;   // 0: a dry brush, which takes no colour along; 1: all that it meets
 uniform float u_loadQuantity;    // of the brush's own colour
@@ -56,4 +57,7 @@ void main() {
     vec4 here = texelFetch(u_bgTexture, ivec2(gl_FragCoord.xy), 0);
     vec4 mixture = own * vec4(color, 1.0) + pickUp * pick;
     fragColor = here * (1.0 - coverage * (own + pickUp)) + coverage * mixture;
+#ifdef NOISE
+    fragColor += dabNoise(u_dab[6].y) / 65535.0;
+#endif
 }

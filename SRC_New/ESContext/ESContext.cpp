@@ -52,16 +52,6 @@ GLuint newFramebuffer() {
     return generateName([](GLuint* name) { glGenFramebuffers(1, name); });
 }
 
-void defineLayerTexture(GLuint texture, const QSize& size) {
-    glBindTexture(GL_TEXTURE_2D, texture);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, size.width(), size.height(), 0, GL_RGBA, GL_UNSIGNED_BYTE,
-                 nullptr);
-}
-
 bool isRenderType(std::int64_t type) {
     return type >= 0 && type < dabcanvas::kRenderTypeCount;
 }
@@ -264,6 +254,16 @@ GLuint& ESContext::textureOf(ESRenderType type) {
     return type == ESRenderTypeSmudge    ? _smudgeTexture
            : type == ESRenderTypeSubLine ? _sublineTexture
                                          : _lineTexture;
+}
+
+void ESContext::defineLayerTexture(GLuint texture, const QSize& size) const {
+    glBindTexture(GL_TEXTURE_2D, texture);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    glTexImage2D(GL_TEXTURE_2D, 0, _layerDepth > 8 ? GL_RGBA16 : GL_RGBA, size.width(), size.height(), 0,
+                 GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
 }
 
 // Leaves its framebuffer bound, and no texture.

@@ -51,6 +51,10 @@ public:
     ESContext(const ESContext&) = delete;
     ESContext& operator=(const ESContext&) = delete;
 
+    // Bits a channel of layers that are made from now on: 8 or 16. The canvas has 8.
+    void setLayerDepth(int bits) { _layerDepth = bits; }
+    int layerDepth() const { return _layerDepth; }
+
     // Makes all four targets, cleared to transparent, and leaves the canvas target bound. Targets of an
     // earlier call are destroyed first. The sides are cut to integers; a size that is not finite, below one
     // pixel or above what the driver takes changes nothing and returns false.
@@ -177,6 +181,7 @@ private:
     void noteLost();
     bool sizeIsUsable(const QSizeF& size, QSize& pixels);
     GLuint& textureOf(ESRenderType type);
+    void defineLayerTexture(GLuint texture, const QSize& size) const;
     void attachLayer(ESRenderType type);
     bool makeLayer(ESRenderType type, int line);
     bool checkFramebuffer(int line);
@@ -192,6 +197,7 @@ private:
     GLint _backingWidth = 0;
     GLint _backingHeight = 0;
     QSize _smudgeSize;  // fixed at creation
+    int _layerDepth = 8;
     std::int64_t _currentRenderType = 0;
     bool _isLost = false;
     std::shared_ptr<QSemaphore> _bufferAccess;

@@ -5,11 +5,17 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "Dabs/DabMap.h"
 #include "ESRender/Texture/TipAtlas.h"
 
 namespace dabcanvas {
+
+// Where the noise that counts dabs, or whatever comes after each other, stands: evenly spread by the golden section.
+inline float noiseTurn(std::uint32_t count) {
+    return static_cast<float>((count * 0x9e3779b9u) >> 8) / static_cast<float>(1 << 24);
+}
 
 // In the order of line::kDabRecord.
 struct DabRecord {

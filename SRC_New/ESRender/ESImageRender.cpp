@@ -48,6 +48,20 @@ void readAs(Placement::Reading reading) {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, exact ? GL_NEAREST : GL_LINEAR);
 }
 
+// The text of a mode, whose main() gets another name, with what rounds its result.
+QString withNoise(const QString& fragment) {
+    return ESShaderTools::withDefines(fragment, QStringLiteral("#define main blendedMain\n")) +
+           QStringLiteral("\n#undef main\n") +
+           ESBaseRender::stringWithFileName(QStringLiteral("Shaders.bundle/Noise.glsl")) +
+           QStringLiteral(
+               "uniform vec2 u_viewSize;\n"
+               "uniform sampler2D u_keptTexture;\n"
+               "void main() {\n"
+               "    blendedMain();\n"
+               "    fragColor += pictureNoise(u_keptTexture, u_viewSize.y) / 255.0;\n"
+               "}\n");
+}
+
 // The rectangle of a dab: radius is the width, roundness times that the height.
 Placement placementOf(const LPPoint& dab, float roundness, double radian) {
     return Placement({dab.position.x, dab.position.y}, dab.radius, double{dab.radius} * roundness, radian);
@@ -158,12 +172,24 @@ void ESImageRender::programDidChange() {
     _center.locate(made.uniformIndex(kCenter));
     _placedSize.locate(made.uniformIndex(kPlacedSize));
     _replace.locate(made.uniformIndex(kReplace));
+    _keptUnit.locate(made.uniformIndex(kKeptTexture));
 }
 
 void ESImageRender::setBlendType(std::uint32_t blendType) {
     _blendType = blendType;
-    useProgramWithVertexShaderString(vertexShaderStringForBlendType(blendType),
-                                     fragmentShaderStringForBlendType(blendType));
+    const QString vertex = vertexShaderStringForBlendType(blendType);
+    const QString fragment = fragmentShaderStringForBlendType(blendType);
+    if (_kept.texture == 0 || !useProgramWithVertexShaderString(vertex, withNoise(fragment))) {
+        useProgramWithVertexShaderString(vertex, fragment);
+    }
+}
+
+void ESImageRender::setKeptTexture(GLuint texture, GLenum unit) {
+    const bool switches = (texture == 0) != (_kept.texture == 0);
+    _kept = {texture, unit, {}};
+    if (switches) {
+        setBlendType(_blendType);
+    }
 }
 
 QString ESImageRender::vertexShaderStringForBlendType(std::uint32_t) {
@@ -268,6 +294,9 @@ bool ESImageRender::bindSources() {
     _bgTextureSize.set(_background.size.width(), _background.size.height());
     if (useBGTexture()) {
         _bgUnit.set(_background.unitNumber());
+    }
+    if (_kept.use()) {
+        _keptUnit.set(_kept.unitNumber());
     }
     _useSubLine.set(_repeatedlyRenderEnabled);
     _subLineUnit.set(_subLine.unitNumber());

@@ -58,6 +58,10 @@ public:
     // The mode whose fragment text this is; 0 for none.
     static std::uint32_t blendTypeOfFragmentShaderString(const QString& fragmentShaderString);
 
+    // Rounds what the modes make of a canvas by a noise of place and of the counts that a texture holds for its tiles, so
+    // that faint paint adds up; a pixel with none stays as it is. 0: rounds to nearest. Placed images always do.
+    void setKeptTexture(GLuint texture, GLenum unit);
+
     // ---- what is combined
 
     void setLineTextureID(GLuint texture, GLenum texturePos);
@@ -143,10 +147,11 @@ private:
     bool _hasLevels = false;  // the image to place
     bool _useLargeTexture = false, _repeatedlyRenderEnabled = false;
     Role _background, _line, _subLine;
+    Role _kept;
 
     GLint _positionIndex = -1, _texCoordIndex = -1;
     dabcanvas::UniformFloat _opacityUniform, _radianUniform;
-    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit, _replace;
+    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit, _keptUnit, _replace;
     dabcanvas::UniformVec2 _viewSize, _bgTextureSize, _flip, _center, _placedSize;
 };
 

@@ -75,7 +75,12 @@ std::unique_ptr<ESLineRender> ESLineRender::make(const QString& vertexShader, co
         return nullptr;
     }
     render->_dabs.updateFlags();
+    render->_useFetch = hasFramebufferFetch();
     return render;
+}
+
+bool ESLineRender::hasFramebufferFetch() {
+    return epoxy_has_gl_extension("GL_EXT_shader_framebuffer_fetch");
 }
 
 QString ESLineRender::lineRenderNormalVertexShaderString() {
@@ -108,8 +113,10 @@ bool ESLineRender::setVertexShaderString(const QString& vertexShaderString,
 // Null for texts that know no records, as a file of an application's may, which takes the library's place.
 QString ESLineRender::recordText(const QString& vertex, const QString& fragment) {
     const QLatin1String kRecords("ifdef RECORDS");
-    const QString dab = stringWithFileName(QStringLiteral("Shaders.bundle/Dab.glsl"));
-    return vertex.contains(kRecords) && fragment.contains(kRecords) ? dab : QString();
+    return vertex.contains(kRecords) && fragment.contains(kRecords)
+               ? stringWithFileName(QStringLiteral("Shaders.bundle/Noise.glsl")) +
+                     stringWithFileName(QStringLiteral("Shaders.bundle/Dab.glsl"))
+               : QString();
 }
 
 // Makes the leanest program that the brush can do with current. One that does not build leaves the whole text's, which
@@ -120,12 +127,25 @@ void ESLineRender::chooseProgram(const Variant& wanted) {
     }
     _variant = wanted;
     const QLatin1String records(wanted.records ? "#define RECORDS\n" : "");
-    const QString defines =
-        QLatin1String(wanted.mask ? "" : "#define NO_MASK\n") +
-        QLatin1String(wanted.multicolour ? "" : "#define NO_MULTICOLOUR\n") + records +
-        (wanted.records ? recordText(_wholeVertexShader, _wholeFragmentShader) : QString());
-    if (!useProgramWithVertexShaderString(ESShaderTools::withDefines(_wholeVertexShader, records),
-                                          ESShaderTools::withDefines(_wholeFragmentShader, defines))) {
+    QString defines;
+    for (const auto& [isWanted, text] :
+         {std::pair(wanted.fetch, "#extension GL_EXT_shader_framebuffer_fetch : require\n#define FETCH\n"),
+          std::pair(wanted.fine, "#define NOISE\n"), std::pair(!wanted.mask, "#define NO_MASK\n"),
+          std::pair(!wanted.multicolour, "#define NO_MULTICOLOUR\n")}) {
+        defines += QLatin1String(isWanted ? text : "");
+    }
+    defines += records;
+    if (wanted.records) {
+        defines += recordText(_wholeVertexShader, _wholeFragmentShader);
+    }
+    if (useProgramWithVertexShaderString(ESShaderTools::withDefines(_wholeVertexShader, records),
+                                         ESShaderTools::withDefines(_wholeFragmentShader, defines))) {
+        return;
+    }
+    if (wanted.fetch) {
+        _useFetch = false;
+        chooseProgram({wanted.records, wanted.mask, wanted.multicolour, wanted.fine, false});
+    } else {
         useProgramWithVertexShaderString(_wholeVertexShader, _wholeFragmentShader);
     }
 }
@@ -267,6 +287,20 @@ void ESLineRender::drawDabs(std::span<const Dab> dabs) {
     endDrawing();
 }
 
+void ESLineRender::drawDabsFinely(std::span<const Dab> dabs, std::uint32_t first) {
+    if (dabs.empty() || program() == nullptr || !beginDrawing(true)) {
+        return;
+    }
+    glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    (_variant.fetch ? glDisable : glEnable)(GL_BLEND);
+    _noiseCount = first;
+    for (const Dab& dab : dabs) {
+        drawDab(dab);
+    }
+    endDrawing();
+    glEnable(GL_BLEND);
+}
+
 // One drain a run: asking after each dab would stall drivers that work ahead.
 void ESLineRender::endDrawing() {
     _batch->draw(_recordFields);
@@ -282,9 +316,9 @@ void ESLineRender::takeBrush() {
 }
 
 // Everything that stays the same for a run of dabs; false when there is nothing to draw with.
-bool ESLineRender::beginDrawing() {
+bool ESLineRender::beginDrawing(bool fine) {
     const bool multicolour = _dabs.settings.colorFul;
-    chooseProgram({_isOwnText, hasPaper(), multicolour});
+    chooseProgram({_isOwnText, hasPaper(), multicolour, fine && _isOwnText, fine && _isOwnText && _useFetch});
     useOwn();
     _useMask.set(hasPaper() && useMask());
     // Samplers get units of their own even when unused: two on one unit of different kinds may not draw.
@@ -412,8 +446,9 @@ void ESLineRender::drawDab(const Dab& dab) {
             _batch->draw(_recordFields);
         }
         if (const dabcanvas::Size* tip = _atlas->sizeOf(dab.tip)) {
-            _batch->add(
-                dabcanvas::DabRecord::of(dab, *tip, *_atlas, static_cast<float>(bufferSize().height()), 0));
+            _batch->add(dabcanvas::DabRecord::of(dab, *tip, *_atlas,
+                                                 static_cast<float>(bufferSize().height()),
+                                                 dabcanvas::noiseTurn(_noiseCount++)));
         }
         return;
     }

@@ -58,6 +58,13 @@ public:
     // Draws dabs that were made elsewhere, with this renderer's tips, paper and multicolour, blended as GL is set to.
     void drawDabs(std::span<const Dab> dabs);
 
+    // The same over what a target of 16 bits a channel holds, however GL is set to blend: rounded by a noise of place and
+    // of the dabs' number, from `first` on, so that faint ones add up. Exactly where the driver lets programs read what
+    // they draw on; else, and with a host's program, its blending rounds besides.
+    void drawDabsFinely(std::span<const Dab> dabs, std::uint32_t first);
+    void setUseFramebufferFetch(bool value) { _useFetch = value && hasFramebufferFetch(); }
+    static bool hasFramebufferFetch();
+
     // Dabs drawn since the renderer was made.
     std::uint64_t dabsDrawn() const { return _dabsDrawn; }
 
@@ -164,7 +171,7 @@ private:
 
     // What a program is compiled for.
     struct Variant {
-        bool records = false, mask = true, multicolour = true;
+        bool records = false, mask = true, multicolour = true, fine = false, fetch = false;
         bool operator==(const Variant&) const = default;
     };
 
@@ -172,7 +179,7 @@ private:
                                               std::shared_ptr<dabcanvas::ProgramPool> pool);
     void keepTips(const QList<QImage>& images);
     void takeTips(std::shared_ptr<const dabcanvas::TipSet> tips);
-    bool beginDrawing();
+    bool beginDrawing(bool fine = false);
     void endDrawing();
     void chooseProgram(const Variant& wanted);
     bool takesRecords() const { return _recordFields[0] >= 0; }
@@ -197,6 +204,8 @@ private:
         _wholeFragmentShader;  // the texts last set, of which leaner programs are made
     bool _isOwnText = false;   // they are the library's
     Variant _variant;
+    bool _useFetch = false;
+    std::uint32_t _noiseCount = 0;
     std::unique_ptr<dabcanvas::DabBatch> _batch;
     std::array<GLint, 7> _recordFields{-1, -1, -1, -1, -1, -1, -1};  // locations; -1 for a program without
     bool _tipCellsUploaded = false;

@@ -32,7 +32,8 @@ static_assert(sizeof(Vertex) == 32);
 constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
 constexpr std::size_t kCorners = 4;
 
-constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8;
+constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8,
+                 kKeptUnit = GL_TEXTURE10;
 
 // The one of OpenGL 4.5, rather than the older extension's.
 bool hasStandardBarrier() {
@@ -113,7 +114,8 @@ void ESSmudgeRender::useRecords() {
     }
     const QString vertex = vertexShaderString(), fragment = fragmentShaderString();
     const QString text = recordText(vertex, fragment);
-    const QString defines = QStringLiteral("#define RECORDS\n");
+    const QString defines =
+        QLatin1String(_layerDepth > 8 ? "#define RECORDS\n#define NOISE\n" : "#define RECORDS\n");
     if (!text.isNull()) {
         useProgramWithVertexShaderString(ESShaderTools::withDefines(vertex, defines),
                                          ESShaderTools::withDefines(fragment, defines + text));
@@ -144,7 +146,9 @@ void ESSmudgeRender::programDidChange() {
 ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
     using namespace dabcanvas;
     ShowProgram show;
-    const QString defines = fill ? QStringLiteral("#define FILL\n") : QString();
+    const QString defines = fill ? QStringLiteral("#define FILL\n")
+                                 : QStringLiteral("#define NOISE\n") +
+                                       stringWithFileName(QStringLiteral("Shaders.bundle/Noise.glsl"));
     const QString vertex = ESShaderTools::withBool(smudgeRenderShowVertexShaderString());
     const QString fragment =
         ESShaderTools::withDefines(ESShaderTools::withBool(smudgeRenderShowFrangmentShaderString()), defines);
@@ -165,6 +169,8 @@ ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
     show.canvas = program->uniformIndex(smudge::kCanvasTexture);
     show.before = program->uniformIndex(smudge::kBeforeTexture);
     show.coverage = program->uniformIndex(smudge::kCoverageTexture);
+    show.kept = program->uniformIndex(smudge::kKeptTexture);
+    show.noiseStep = program->uniformIndex(smudge::kNoiseStep);
     show.opacity = program->uniformIndex(smudge::kOpacity);
     show.program = std::move(program);
     return show;
@@ -184,6 +190,7 @@ void ESSmudgeRender::setSmudgeTextureID(GLuint texture, GLenum pos) {
         GLint width = 0, height = 0;
         glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_WIDTH, &width);
         glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_HEIGHT, &height);
+        glGetTexLevelParameteriv(GL_TEXTURE_2D, 0, GL_TEXTURE_RED_SIZE, &_layerDepth);
         _layerSize = QSize(width, height);
     }
     for (GLuint* own : {&_copyTexture, &_beforeTexture}) {
@@ -211,7 +218,7 @@ bool ESSmudgeRender::hasOwnTextures() {
     for (GLuint* own : {&_copyTexture, &_beforeTexture}) {
         if (*own == 0) {
             glActiveTexture(kBeforeUnit);
-            *own = dabcanvas::makeClearedTexture(_layerSize, GL_LINEAR);
+            *own = dabcanvas::makeClearedTexture(_layerSize, GL_LINEAR, _layerDepth);
         }
     }
     return _copyTexture != 0 && _beforeTexture != 0;
@@ -230,9 +237,10 @@ void ESSmudgeRender::keepLayer(const QRectF& rect) {
     dabcanvas::copyFramebufferToTexture(rows.toAlignedRect(), _layerSize);
 }
 
-void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture) {
+void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture, GLuint keptTexture) {
     _coverageTexture = coverageTexture;
     _canvasTexture = canvasTexture;
+    _keptTexture = keptTexture;
 }
 
 // ---- Dabs
@@ -260,7 +268,8 @@ QRectF ESSmudgeRender::drawPoints(const LPPoint* points, std::size_t count, std:
     return draw(_made, _smudges.settings.load, withTextureBindBlock);
 }
 
-QRectF ESSmudgeRender::drawSmudges(std::span<const SmudgeDab> dabs, float load) {
+QRectF ESSmudgeRender::drawSmudges(std::span<const SmudgeDab> dabs, float load, std::uint32_t first) {
+    _noiseCount = first;
     return draw(dabs, load, {});
 }
 
@@ -384,7 +393,8 @@ void ESSmudgeRender::setDabRecord(const SmudgeDab& smudge) {
     inLayer.halfSize =
         static_cast<float>(inLayer.halfSize * (toTexelX + toTexelY) / 2);  // they differ by rounding
     const dabcanvas::DabRecord record = dabcanvas::DabRecord::of(
-        inLayer, *atlas()->sizeOf(inLayer.tip), *atlas(), static_cast<float>(_layerSize.height()), 0);
+        inLayer, *atlas()->sizeOf(inLayer.tip), *atlas(), static_cast<float>(_layerSize.height()),
+        dabcanvas::noiseTurn(_noiseCount++));
     glUniform4fv(_dabRecord, sizeof record / (4 * sizeof(float)), record.place.data());
     const double scale = pickUpScale(smudge);
     _pickUp.set(smudge.pickUp.x / _sourceSize.width(),
@@ -476,13 +486,15 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
             GLint uniform;
         } sources[] = {{kCanvasUnit, _canvasTexture, show.canvas},
                        {kCoverageUnit, _coverageTexture, show.coverage},
-                       {kBeforeUnit, _beforeTexture, show.before}};
+                       {kBeforeUnit, _beforeTexture, show.before},
+                       {kKeptUnit, _keptTexture, show.kept}};
         for (const auto& source : sources) {
             glActiveTexture(source.unit);
             glBindTexture(GL_TEXTURE_2D, source.texture);
             glUniform1i(source.uniform, static_cast<GLint>(source.unit - GL_TEXTURE0));
         }
         glUniform1f(show.opacity, opacity());
+        glUniform1f(show.noiseStep, _keptTexture != 0 ? 1.0f / 255 : 0.0f);
         useSmudgeTexture();
     }
     glUniform1i(show.source, static_cast<GLint>(_smudgePos - GL_TEXTURE0));

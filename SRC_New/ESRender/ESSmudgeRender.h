@@ -86,16 +86,18 @@ public:
     QRectF drawPoints(const LPPoint* points, std::size_t count, std::int32_t renderType,
                       const TextureBindBlock& withTextureBindBlock = {});
 
-    // The same of dabs that were made elsewhere, with this renderer's tips.
-    QRectF drawSmudges(std::span<const dabcanvas::SmudgeDab> dabs, float load);
+    // The same of dabs that were made elsewhere, with this renderer's tips. A layer of 16 bits a channel rounds by a noise
+    // of place and of the dabs' number, from `first` on.
+    QRectF drawSmudges(std::span<const dabcanvas::SmudgeDab> dabs, float load, std::uint32_t first = 0);
 
     // The dabs drawn since the last call, in plain colour, with the flow by which each exchanged what was there. Valid
     // until dabs are drawn again.
     std::span<const Dab> takeCoverage();
     // Keeps the layer, the bound framebuffer, as it is now inside a rectangle: what later dabs change is told from it.
     void keepLayer(const QRectF& rect);
-    // What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before.
-    void setShowSources(GLuint coverageTexture, GLuint canvasTexture);
+    // What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before; and
+    // counts to round by, as ESImageRender::setKeptTexture() has them, or 0.
+    void setShowSources(GLuint coverageTexture, GLuint canvasTexture, GLuint keptTexture = 0);
 
     // Where the driver has a texture barrier, a dab that lies clear of its pick-up place reads the layer itself;
     // else, and always without one, it reads a copy. The picture is the same.
@@ -114,7 +116,7 @@ private:
         std::shared_ptr<ESProgram> program;
         GLint position = -1, texCoord = -1;
         GLint viewSize = -1, center = -1, pointSize = -1, roundness = -1, source = -1;
-        GLint canvas = -1, before = -1, coverage = -1, opacity = -1;
+        GLint canvas = -1, before = -1, coverage = -1, kept = -1, noiseStep = -1, opacity = -1;
     };
 
     ShowProgram makeShowProgram(bool fill) const;
@@ -135,9 +137,10 @@ private:
     GLuint _smudgeTex = 0;
     GLenum _smudgePos = GL_TEXTURE7;
     QSize _layerSize;         // texels of the smudge texture
+    GLint _layerDepth = 8;    // bits a channel
     GLuint _copyTexture = 0;  // of the layer, for dabs that overlap what they pick up
     GLuint _beforeTexture = 0;
-    GLuint _coverageTexture = 0, _canvasTexture = 0;  // the canvas's
+    GLuint _coverageTexture = 0, _canvasTexture = 0, _keptTexture = 0;  // the canvas's
 
     QSizeF _sourceSize;  // buffer pixels that the smudge texture shows
 
@@ -148,6 +151,7 @@ private:
 
     ShowProgram _showProgram, _fillProgram;
     bool _triedRecords = false;
+    std::uint32_t _noiseCount = 0;
     GLint _bgCoordIndex = -1;
     GLint _dabRecord = -1;  // -1 for a program that is given the uniforms of each dab
     dabcanvas::UniformFloat _moist, _load, _mix;

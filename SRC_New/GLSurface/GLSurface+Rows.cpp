@@ -13,6 +13,7 @@
 #include "ESRender/Texture/ScaledPixels.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "GLSurface/GLSurface.h"
+#include "GLSurface/KeptCounts.h"
 #include "Maths/Rounding.h"
 
 namespace dabcanvas {
@@ -112,6 +113,7 @@ bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows
         }
     }
     _context->finishRender();
+    _kept->forget(rect);
     noteChanged(picture, rect);
     return sent && !_context->checkLost();
 }
@@ -134,6 +136,7 @@ bool GLSurface::place(PictureId picture, const Placed& placed) {
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
+    render.setKeptTexture(0, GL_TEXTURE0);
     render.setBlendType(placed.replaces ? ESBlendTypeReplace : ESBlendTypeNormal);
     render.setFlipX(false);
     render.setFlipY(placed.pixels.stride > 0);

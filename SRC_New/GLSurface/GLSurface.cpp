@@ -10,8 +10,8 @@
 #include "ESRender/ESImageRender.h"
 #include "ESRender/ESLineRender.h"
 #include "ESRender/ESSmudgeRender.h"
-#include "ESRender/Texture/GLPictures.h"
 #include "ESRender/Utilities/ESGLErrors.h"
+#include "GLSurface/KeptCounts.h"
 #include "GLSurface/ThreadGL.h"
 
 namespace dabcanvas {
@@ -19,7 +19,8 @@ namespace {
 
 // Filtering between the smudge layer's resolution and the picture's reaches this far, in buffer pixels.
 constexpr int kSmudgeReach = 4;
-constexpr GLenum kLineUnit = GL_TEXTURE4, kSubLineUnit = GL_TEXTURE5, kSmudgeUnit = GL_TEXTURE7;
+constexpr GLenum kLineUnit = GL_TEXTURE4, kSubLineUnit = GL_TEXTURE5, kSmudgeUnit = GL_TEXTURE7,
+                 kKeptUnit = GL_TEXTURE10;
 
 // The one dab that covers a rectangle when its renderer's roundness is the rectangle's height over its width.
 LPPoint dabOf(const Rect& rect) {
@@ -36,7 +37,7 @@ float roundnessOf(const Rect& rect) {
 
 // ---- Making
 
-std::unique_ptr<GLSurface> GLSurface::make(const QSizeF& size) {
+std::unique_ptr<GLSurface> GLSurface::make(const QSizeF& size, const SurfaceOptions& options) {
     auto gl = ThreadGL::ofThisThread();
     if (!gl) {
         return nullptr;
@@ -46,6 +47,7 @@ std::unique_ptr<GLSurface> GLSurface::make(const QSizeF& size) {
     if (!context) {
         return nullptr;
     }
+    context->setLayerDepth(options.layerDepth == 8 ? 8 : 16);
     const ESCurrentScope current(&gl->view());
     if (!current || !context->createFirstBuffersWithSize(size)) {
         return nullptr;
@@ -62,6 +64,7 @@ GLSurface::GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique
       _line{.render = {}, .tipUnit = GL_TEXTURE1, .tips = {}, .paper = {}},
       _subLine{.render = {}, .tipUnit = GL_TEXTURE2, .tips = {}, .paper = {}},
       _smudge{.render = {}, .tipUnit = GL_TEXTURE6, .tips = {}, .paper = {}},
+      _kept(std::make_unique<KeptCounts>(size)),
       _smudgeStale(Rect::of(size)) {}
 
 bool GLSurface::makeRenders() {
@@ -94,6 +97,20 @@ void GLSurface::warmUp() {
     _context->beginRenderForType(ESRenderTypeLine);
     _context->setBlendModelForType(ESRenderTypeLine);
     _line.render->drawPoints(&outside, 1);
+    if (isFine()) {
+        const Dab dab{.x = -100,
+                      .y = -100,
+                      .halfSize = 1,
+                      .radian = 0,
+                      .roundness = 1,
+                      .flipX = 1,
+                      .flipY = 1,
+                      .flow = 1,
+                      .color = {0, 0, 0},
+                      .random = 0,
+                      .tip = 0};
+        _line.render->drawDabsFinely({&dab, 1}, 0);
+    }
     _context->beginRenderForType(ESRenderTypeCanvas);
     blend({-100, -100, 1, 1}, ESBlendTypeNormal, 1, false);
     _context->finishRender();
@@ -110,6 +127,7 @@ GLSurface::~GLSurface() {
     for (DabRender* of : {&_line, &_subLine, &_smudge}) {
         release(of->render);
     }
+    release(_kept);
     _context.reset();
 }
 
@@ -172,13 +190,22 @@ Rect GLSurface::drawInto(ESRenderType target, DabRender& with, std::span<const D
     _context->beginRenderForType(target);
     takeStyle(with, style);
     _context->setBlendModelForType(ESRenderTypeLine);
-    with.render->drawDabs(dabs);
+    if (target != ESRenderTypeCanvas && isFine()) {
+        with.render->drawDabsFinely(dabs, with.dabs);
+        with.dabs += static_cast<std::uint32_t>(dabs.size());
+    } else {
+        with.render->drawDabs(dabs);
+    }
     _context->finishRender();
     DabBounds bounds{static_cast<double>(size().width), static_cast<double>(size().height)};
     for (const Dab& dab : dabs) {
         bounds.grow(dab);
     }
-    return bounds.pixelsOnBuffer();
+    const Rect touched = bounds.pixelsOnBuffer();
+    if (target != ESRenderTypeCanvas) {
+        with.holds = with.holds.united(touched);
+    }
+    return touched;
 }
 
 bool GLSurface::prepare(PaintLayer layer) {
@@ -233,6 +260,11 @@ void GLSurface::clear(PaintLayer layer, const Rect& rect) {
     } else {
         glEnable(GL_SCISSOR_TEST);  // to the pixel, where scissorRect() leaves a margin
         glScissor(rect.x, size().height - rect.bottom(), rect.width, rect.height);
+        DabRender& of = dabRenderOf(layer);
+        if (rect.contains(of.holds)) {
+            of.holds = {};
+            of.dabs = 0;
+        }
     }
     _compositor->clear();
     _context->finishRender();
@@ -267,6 +299,7 @@ bool GLSurface::prepareSmudge(PictureId) {
         return false;
     }
     ESSmudgeRender* const render = smudgeRender();
+    _smudge.dabs = 0;
     const Rect rect = std::exchange(_smudgeStale, Rect()).grownBy(kSmudgeReach).intersected(Rect::of(size()));
     if (!rect.isEmpty()) {
         _context->beginRenderForType(ESRenderTypeSmudge);
@@ -318,7 +351,8 @@ Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, f
     _context->beginRenderForType(ESRenderTypeSmudge);
     takeTips(_smudge, style);
     _context->setBlendModelForType(ESRenderTypeLine);
-    render->drawSmudges(dabs, load);
+    render->drawSmudges(dabs, load, _smudge.dabs);
+    _smudge.dabs += static_cast<std::uint32_t>(dabs.size());
     _context->finishRender();
 
     // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
@@ -331,7 +365,8 @@ Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, f
 void GLSurface::showSmudges(const Rect& rect, float opacity) {
     auto& render = static_cast<ESSmudgeRender&>(*_smudge.render);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
-    render.setShowSources(_context->lineTexture(), _compositor->backgroundTexture());
+    render.setShowSources(_context->lineTexture(), _compositor->backgroundTexture(),
+                          isFine() ? _kept->textureOn(kKeptUnit) : 0);
     render.setOpacity(opacity);
     render.setRoundness(roundnessOf(rect));
     const LPPoint dab = dabOf(rect);
@@ -345,6 +380,7 @@ void GLSurface::blend(const Rect& rect, std::uint32_t blendType, float opacity, 
     // The program has mixed source and background already: its result replaces what is there.
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
     ESImageRender& render = *_compositor;
+    render.setKeptTexture(isFine() ? _kept->textureOn(kKeptUnit) : 0, kKeptUnit);
     if (render.blendType() != blendType) {
         render.setBlendType(blendType);
     }
@@ -375,6 +411,7 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         } else {
             blend(cut, style.blendType, style.opacity, style.masked);
         }
+        _kept->blended(cut);
         noteChanged(picture, cut);
     }
     _context->finishRender();
@@ -395,11 +432,13 @@ void GLSurface::commit(PictureId, const Rect& rect) {
     _context->beginRenderForType(ESRenderTypeCanvas);
     _compositor->updateBGTextureAtOrigin(QPointF(rect.x, rect.y), QSizeF(rect.width, rect.height),
                                          GL_TEXTURE3);
+    _kept->kept(rect);
 }
 
 void GLSurface::fill(PictureId picture, const PaintColor& color) {
     _context->beginRenderForType(ESRenderTypeCanvas);
     _compositor->clearWithRed(color.red, color.green, color.blue, color.alpha);
+    _kept->forget(Rect::of(size()));
     _context->finishRender();
     noteChanged(picture, Rect::of(size()));
 }

@@ -3,6 +3,8 @@
 //
 // Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab
 //           that needs one.
+// Depth     16 bits a channel in the layers, or 8; the picture has 8. What comes from layers of 16 bits is rounded by a
+//           noise: of place and dabs in the layer, of place and of what was kept there before in the picture.
 // Context   is shared with the other surfaces made on the same thread, and so is its loss. It may be used on any thread: a
 //           SurfaceScope keeps it from the others meanwhile, which wait.
 // Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
@@ -15,6 +17,7 @@
 
 #include "ESContext/ESContext.h"
 #include "ESContext/ESCurrentScope.h"
+#include "GLSurface/MakeGLSurface.h"
 #include "Maths/Export.h"
 #include "Surface/PaintSurface.h"
 
@@ -24,13 +27,14 @@ class ESSmudgeRender;
 
 namespace dabcanvas {
 
+class KeptCounts;
 class ThreadGL;
 
 class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
 public:
     // Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2 or a side is not
     // from 1 to the driver's limit.
-    static std::unique_ptr<GLSurface> make(const QSizeF& size);
+    static std::unique_ptr<GLSurface> make(const QSizeF& size, const SurfaceOptions& options = {});
     ~GLSurface() override;
 
     // For hosts that draw with OpenGL themselves, inside a SurfaceScope, and leave blending equation, colour mask and
@@ -64,6 +68,8 @@ private:
         GLenum tipUnit;
         std::shared_ptr<const TipSet> tips;
         std::shared_ptr<const Picture> paper;
+        Rect holds;              // where its layer may have dabs
+        std::uint32_t dabs = 0;  // since its layer was empty
     };
 
     GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique_ptr<ESContext> context);
@@ -79,6 +85,7 @@ private:
     void takeTips(DabRender& of, const DabStyle& style);
     void takeStyle(DabRender& of, const DabStyle& style);
     Rect drawInto(ESRenderType target, DabRender& with, std::span<const Dab> dabs, const DabStyle& style);
+    bool isFine() const { return _context->layerDepth() > 8; }
     void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked);
     void showSmudges(const Rect& rect, float opacity);
     void noteChanged(PictureId picture, const Rect& rect);
@@ -87,8 +94,9 @@ private:
     std::unique_ptr<ESContext> _context;
     std::unique_ptr<ESImageRender> _compositor;
     DabRender _line, _subLine, _smudge;  // the last one's render is an ESSmudgeRender
-    Rect _smudgeStale;                   // where the smudge layer may differ from the background
-    std::vector<std::uint8_t> _band;     // rows on their way to or from the caller's
+    std::unique_ptr<KeptCounts> _kept;
+    Rect _smudgeStale;                // where the smudge layer may differ from the background
+    std::vector<std::uint8_t> _band;  // rows on their way to or from the caller's
     std::deque<ESCurrentScope> _scopes;
 };
 

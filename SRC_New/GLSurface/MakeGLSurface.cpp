@@ -5,8 +5,8 @@
 
 namespace dabcanvas {
 
-std::unique_ptr<PaintSurface> makeGLSurface(const QSizeF& size) {
-    return GLSurface::make(size);
+std::unique_ptr<PaintSurface> makeGLSurface(const QSizeF& size, const SurfaceOptions& options) {
+    return GLSurface::make(size, options);
 }
 
 GLSurface* asGLSurface(PaintSurface& surface) {

@@ -131,8 +131,10 @@ std::vector<Scene> scenes() {
 
 class GLSurfaceDabsTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        _surface = GLSurface::make({kSize.width, kSize.height});
+    void SetUp() override { make({}); }
+    void make(const SurfaceOptions& options) {
+        _scope.reset();
+        _surface = GLSurface::make({kSize.width, kSize.height}, options);
         if (!_surface && std::getenv("DABCANVAS_REQUIRE_GL") == nullptr) {
             GTEST_SKIP() << "no OpenGL here";
         }
@@ -172,7 +174,7 @@ protected:
 };
 
 // How far the layer may be from the reference, in steps of 8 bits.
-constexpr double kNear = 1;
+constexpr double kNear = 0.05;
 
 class GLSurfaceSceneTest : public GLSurfaceDabsTest, public ::testing::WithParamInterface<Scene> {};
 TEST_P(GLSurfaceSceneTest, IsWhatTheReferenceDraws) {
@@ -187,5 +189,109 @@ TEST_P(GLSurfaceSceneTest, IsWhatTheReferenceDraws) {
     EXPECT_GT(*std::max_element(drawn.begin(), drawn.end()), 0.1f);
 }
 INSTANTIATE_TEST_SUITE_P(Scenes, GLSurfaceSceneTest, ::testing::ValuesIn(scenes()), byName);
+
+// Many faint dabs
+
+// What a dab exchanges of each pixel, and so what many on the same place leave.
+TEST_F(GLSurfaceDabsTest, FaintDabsAddUp) {
+    struct Case {
+        float flow;
+        int dabs;
+    };
+    for (const Case& c : {Case{0.001f, 9000}, Case{0.003f, 3000}, Case{0.01f, 1000}}) {
+        const Scene once =
+            scene("", {turned(dabAt(30.3f, 28.8f, 50), 0.3f, 0.9f)}, {pictureOf({64, 64}, softDisc)});
+        std::vector<Dab> dabs(static_cast<std::size_t>(c.dabs), once.dabs[0]);
+        for (Dab& dab : dabs) {
+            dab.flow = c.flow;
+        }
+        _surface->clear(PaintLayer::line, Rect::of(kSize));
+        _surface->draw(PaintLayer::line, dabs, once.style);
+        const std::vector<float> drawn = layer();
+        const std::vector<double> single = expected(once);
+        double worst = 0, worstStraight = 0;
+        for (std::size_t i = 0; i < drawn.size(); i += 4) {
+            const double alpha = 1 - std::pow(1 - single[i + 3] * c.flow, c.dabs);
+            const double color[] = {kOrange.r, kOrange.g, kOrange.b, 1};
+            for (std::size_t channel = 0; channel < 4; ++channel) {
+                const double value = drawn[i + channel];
+                worst = std::max(worst, std::fabs(value - alpha * color[channel]) * 255);
+                ASSERT_LE(value, drawn[i + 3]) << "above its alpha";
+                if (drawn[i + 3] > 0.9f) {
+                    worstStraight =
+                        std::max(worstStraight, std::fabs(value / drawn[i + 3] - color[channel]) * 255);
+                }
+            }
+        }
+        EXPECT_LT(worst, 1) << "flow " << c.flow;
+        EXPECT_LT(worstStraight, 0.2) << "flow " << c.flow;
+    }
+}
+
+class GLSurfaceStrokesTest : public GLSurfaceDabsTest {
+protected:
+    // A stroke of one opaque dab, so faint as a whole.
+    void stroke(float opacity) {
+        const DabStyle style{.tips = tipsOf({pictureOf({64, 64}, softDisc)}), .paper = {}};
+        const Dab dab = dabAt(36, 28, 60);
+        const Rect touched = _surface->draw(PaintLayer::line, {&dab, 1}, style);
+        const CompositeStyle faint{.blendType = 1, .opacity = opacity};
+        _surface->composite(PictureId::first, {&touched, 1}, faint);
+        const std::vector<std::uint8_t> once = picture();
+        _surface->composite(PictureId::first, {&touched, 1}, faint);
+        ASSERT_EQ(picture(), once) << "composited again";
+        _surface->clear(PaintLayer::line, touched);
+        _surface->commit(PictureId::first, touched);
+    }
+    std::vector<std::uint8_t> picture() {
+        std::vector<std::uint8_t> bytes(pixelCount() * 4);
+        EXPECT_TRUE(_surface->read(PictureId::first, Rect::of(kSize),
+                                   MutablePixelView::topRowFirst(bytes.data(), kSize)));
+        return bytes;
+    }
+};
+
+TEST_F(GLSurfaceStrokesTest, FaintStrokesOnTheSamePlaceDoNotStick) {
+    std::vector<std::uint8_t> ground(pixelCount() * 4);
+    for (std::size_t i = 0; i < ground.size(); ++i) {
+        ground[i] = i % 4 == 3 ? 255 : static_cast<std::uint8_t>(i * 7 % 256);
+    }
+    ASSERT_TRUE(
+        _surface->write(PictureId::first, Rect::of(kSize), PixelView::topRowFirst(ground.data(), kSize)));
+    constexpr int kStrokes = 500;
+    for (int i = 0; i < kStrokes; ++i) {
+        stroke(0.01f);
+    }
+    const std::vector<std::uint8_t> after = picture();
+    const std::vector<double> single = expected(scene("", {dabAt(36, 28, 60)}));
+    const double color[] = {kOrange.r * 255, kOrange.g * 255, kOrange.b * 255, 255};
+    double worst = 0, sum = 0;
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        const double left = std::pow(1 - 0.01 * single[i / 4 * 4 + 3], kStrokes);
+        const double off = after[i] - (ground[i] * left + color[i % 4] * (1 - left));
+        worst = std::max(worst, std::fabs(off));
+        sum += off;
+        if (single[i / 4 * 4 + 3] == 0) {
+            ASSERT_EQ(after[i], ground[i]) << "no paint at " << i / 4;
+        }
+    }
+    // Rounded to nearest, a channel stands still as soon as a hundredth of what it lacks is below one half.
+    EXPECT_LT(worst, 10);
+    EXPECT_NEAR(sum / static_cast<double>(after.size()), 0, 0.1);
+}
+
+TEST_F(GLSurfaceDabsTest, LayersOf8BitsAreToBeHad) {
+    const Dab dab = dabAt(36.3f, 28.2f, 40);
+    const DabStyle style{.tips = tipsOf({pictureOf({64, 64}, softDisc)}), .paper = {}};
+    for (const int depth : {8, 16}) {
+        make({.layerDepth = depth});
+        _surface->draw(PaintLayer::line, {&dab, 1}, style);
+        const std::vector<float> drawn = layer();
+        const bool whole = std::all_of(drawn.begin(), drawn.end(), [](float value) {
+            return std::fabs(value * 255 - std::nearbyint(value * 255)) < 1e-3f;
+        });
+        EXPECT_EQ(whole, depth == 8);
+    }
+}
 
 }  // namespace

@@ -38,7 +38,7 @@ void clearTexture(GLuint texture) {
     }
 }
 
-GLuint makeClearedTexture(const QSize& size, GLenum minFilter) {
+GLuint makeClearedTexture(const QSize& size, GLenum minFilter, int depth) {
     const int limit = maxTextureSize();
     if (size.width() < 1 || size.height() < 1 || size.width() > limit || size.height() > limit) {
         qCWarning(lcDabcanvasGL, "A texture of %d x %d pixels is not possible here, at most %d x %d",
@@ -53,8 +53,8 @@ GLuint makeClearedTexture(const QSize& size, GLenum minFilter) {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, static_cast<GLint>(minFilter));
-    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, size.width(), size.height(), 0, GL_RGBA, GL_UNSIGNED_BYTE,
-                 nullptr);
+    glTexImage2D(GL_TEXTURE_2D, 0, depth > 8 ? GL_RGBA16 : GL_RGBA8, size.width(), size.height(), 0, GL_RGBA,
+                 GL_UNSIGNED_BYTE, nullptr);
     if (drainGLErrors(kFile, __LINE__) > 0) {
         glBindTexture(GL_TEXTURE_2D, 0);
         glDeleteTextures(1, &texture);

@@ -29,9 +29,9 @@ int maxTextureSize();
 void clearTexture(GLuint texture);
 
 // Makes a texture of the given sides on the active unit and leaves it bound: clamped, GL_LINEAR
-// magnification, the given minification, all transparent. The caller owns the name; 0 when the driver has no
-// room.
-GLuint makeClearedTexture(const QSize& size, GLenum minFilter);
+// magnification, the given minification, 8 or 16 bits a channel, all transparent. The caller owns the name; 0 when the
+// driver has no room.
+GLuint makeClearedTexture(const QSize& size, GLenum minFilter, int depth = 8);
 
 // Copies `rect` (bottom-up rows) of the read framebuffer to the same place of the bound texture.
 // Parts outside `bounds` have no defined pixels and are left out. False when nothing was left to copy.
