@@ -5,6 +5,7 @@
 #include <QString>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string>
 
 #include "Canvas/CanvasLog.h"
@@ -51,11 +52,13 @@ bool hasGpu() {
 // Asked once a process.
 SurfaceKind automaticKind() {
     const QByteArray wanted = qgetenv("DABCANVAS_SURFACE");
-    if (wanted == "gpu" || wanted == "processor") {
-        return wanted == "gpu" ? SurfaceKind::gpu : SurfaceKind::processor;
+    const std::optional<SurfaceKind> kind =
+        wanted.isEmpty() ? SurfaceKind::automatic : surfaceKindOf(wanted.constData());
+    if (!kind) {
+        qCWarning(lcDabcanvas, "DABCANVAS_SURFACE is auto, gpu or processor, not \"%s\"", wanted.constData());
     }
-    if (!wanted.isEmpty() && wanted != "auto") {
-        qCWarning(lcDabcanvas, "DABCANVAS_SURFACE is gpu, processor or auto, not \"%s\"", wanted.constData());
+    if (kind.value_or(SurfaceKind::automatic) != SurfaceKind::automatic) {
+        return *kind;
     }
     return hasGpu() ? SurfaceKind::gpu : SurfaceKind::processor;
 }

@@ -68,7 +68,7 @@ private:
         GLenum tipUnit;
         std::shared_ptr<const TipSet> tips;
         std::shared_ptr<const Picture> paper;
-        Rect holds;              // where its layer may have dabs
+        Rect holds = {};         // where its layer may have dabs
         std::uint32_t dabs = 0;  // since its layer was empty
     };
 

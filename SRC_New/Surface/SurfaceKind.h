@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+#include <string_view>
 
 namespace dabcanvas {
 
@@ -12,5 +14,16 @@ enum class SurfaceKind : std::uint8_t {
     gpu,        // OpenGL 3.2, whatever draws it; a software driver is slower than the processor by itself
     processor,  // no OpenGL at all
 };
+
+// As people name it: auto, gpu or processor.
+constexpr std::optional<SurfaceKind> surfaceKindOf(std::string_view name) {
+    constexpr std::string_view kNames[] = {"auto", "gpu", "processor"};
+    for (std::uint8_t kind = 0; kind < 3; ++kind) {
+        if (name == kNames[kind]) {
+            return static_cast<SurfaceKind>(kind);
+        }
+    }
+    return std::nullopt;
+}
 
 }  // namespace dabcanvas

@@ -185,6 +185,11 @@ private:
         flag(app, "--recognise", _paint.recognise);
         flag(app, "--repeatable", _paint.repeatable);
         flag(app, "--stats", _paint.stats);
+        value(app, "--surface", [this](const QString& text) {
+            const auto kind = surfaceKindOf(text.toStdString());
+            _paint.surface = kind.value_or(SurfaceKind::automatic);
+            return kind ? QString() : QStringLiteral("expected auto, gpu or processor, not \"%1\"").arg(text);
+        });
     }
     void addShapes(CLI::App& app) {
         files(app, "INPUT", _shapes.inputs);

@@ -132,7 +132,7 @@ public:
 
 private:
     QString begin() {
-        auto canvas = makeCanvas(_job.size);
+        auto canvas = makeCanvas(_job.size, _options.surface);
         if (!canvas)
             return canvas.problem().what;
         _canvas = std::move(*canvas);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Assignment.h"
+#include "Surface/SurfaceKind.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -28,6 +29,7 @@ struct PaintOptions {
     bool recognise = false;  // strokes are meant as shapes
     bool repeatable = false;
     bool stats = false;
+    SurfaceKind surface = SurfaceKind::automatic;
 };
 
 int runPaint(const PaintOptions& options);

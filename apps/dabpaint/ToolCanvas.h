@@ -14,7 +14,8 @@
 namespace dabcanvas::dabpaint {
 
 // An empty canvas of this many pixels with the default brush.
-Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size);
+Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size,
+                                                 SurfaceKind surface = SurfaceKind::automatic);
 
 // Paints one stroke; `advance` is called after every sample.
 template <typename Advance>

@@ -45,13 +45,13 @@ SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [--size WxH] [--brush FILE.xbf]
                    [--set PROPERTY=VALUE]... [--background COLOUR]
                    [--undo N] [--most-dabs N] [--recognise] [--repeatable]
-                   [--stats]
+                   [--stats] [--surface auto|gpu|processor]
 
 DESCRIPTION
     Paints the strokes of every RECORDING, in order, onto one canvas and writes
     the picture. A RECORDING of - is standard input. The picture appears under its
     name only once it is whole, and never takes the place of a file that is read.
-    Painting needs OpenGL 3.2, but no window.
+    Painting needs neither a window nor a GPU.
 
 OPTIONS
     -o OUT.png, --output OUT.png
@@ -101,8 +101,13 @@ OPTIONS
 
     --stats
         Prints one JSON object on standard output: numbers of strokes, samples
-        and dabs, canvas size, OpenGL renderer, seconds spent and peak memory in
+        and dabs, canvas size, what drew, seconds spent and peak memory in
         bytes. Timing each stage makes painting slower.
+
+    --surface auto|gpu|processor
+        What draws: OpenGL 3.2, or the processor by itself. auto, the default,
+        takes a GPU where there is one; the environment's DABCANVAS_SURFACE, with
+        one of these words, says what auto is.
 
 RECORDINGS
     The form of a recording is told by its content, not by its name. Pressure is
@@ -217,7 +222,7 @@ DESCRIPTION
                 property and its value, or the id of one that is not known. Of a
                 damaged file, what can be read; then it fails.
     make        writes a preset of the default brush, or of another preset's,
-                with the given settings. Making and previewing need OpenGL 3.2.
+                with the given settings.
     preview     paints a stroke of each file's last brush on white, pressure and
                 speed rising and falling; stripes lie under a brush that smudges,
                 erases or shades. Several pictures need a folder or --sheet.

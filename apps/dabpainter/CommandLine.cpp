@@ -67,7 +67,7 @@ SYNOPSIS
 
 DESCRIPTION
     Opens a window to paint in by mouse, pen or finger: on IMAGE, or on a new
-    white canvas. It needs OpenGL 3.2, which a software driver gives too.
+    white canvas. It paints with a GPU where there is one.
 
 OPTIONS
     --size WxH
@@ -76,7 +76,7 @@ OPTIONS
 
 EXIT STATUS
     0  the window was closed
-    1  there is no OpenGL 3.2, or no canvas of this size
+    1  there is no canvas of this size
     2  the command line is wrong
 )";
 }

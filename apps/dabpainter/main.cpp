@@ -40,7 +40,7 @@ int giveUp(const QString& what) {
 
 int runWindow(const CommandLine& line) {
     if (!QDDrawCanvas::initWithFrame(QRectF(0, 0, 16, 16)))
-        return giveUp(QStringLiteral("There is no OpenGL 3.2 to paint with; the log says what is missing."));
+        return giveUp(QStringLiteral("There is nothing to paint with; the log says what is missing."));
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Dabcanvas"),
                        QStringLiteral("dabpainter"));
     const QDir data(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
