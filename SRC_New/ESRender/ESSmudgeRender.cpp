@@ -32,8 +32,7 @@ static_assert(sizeof(Vertex) == 32);
 constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
 constexpr std::size_t kCorners = 4;
 
-constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8,
-                 kKeptUnit = GL_TEXTURE10;
+constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8;
 
 // The one of OpenGL 4.5, rather than the older extension's.
 bool hasStandardBarrier() {
@@ -169,7 +168,7 @@ ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
     show.canvas = program->uniformIndex(smudge::kCanvasTexture);
     show.before = program->uniformIndex(smudge::kBeforeTexture);
     show.coverage = program->uniformIndex(smudge::kCoverageTexture);
-    show.kept = program->uniformIndex(smudge::kKeptTexture);
+    show.noiseTurn = program->uniformIndex(smudge::kNoiseTurn);
     show.noiseStep = program->uniformIndex(smudge::kNoiseStep);
     show.opacity = program->uniformIndex(smudge::kOpacity);
     show.program = std::move(program);
@@ -237,10 +236,9 @@ void ESSmudgeRender::keepLayer(const QRectF& rect) {
     dabcanvas::copyFramebufferToTexture(rows.toAlignedRect(), _layerSize);
 }
 
-void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture, GLuint keptTexture) {
+void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture) {
     _coverageTexture = coverageTexture;
     _canvasTexture = canvasTexture;
-    _keptTexture = keptTexture;
 }
 
 // ---- Dabs
@@ -286,9 +284,10 @@ QRectF ESSmudgeRender::draw(std::span<const SmudgeDab> dabs, float load, const T
     useOwn();
     if (_dabRecord >= 0) {
         _viewSize.set(_layerSize.width(), _layerSize.height());
-        if (!useAtlas(false)) {
+        if (!hasAtlas(false)) {
             return {};
         }
+        useAtlas();
     } else {
         // Each dab fills the same buffer anew, so where its vertices stand is said once a run.
         dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
@@ -486,15 +485,15 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
             GLint uniform;
         } sources[] = {{kCanvasUnit, _canvasTexture, show.canvas},
                        {kCoverageUnit, _coverageTexture, show.coverage},
-                       {kBeforeUnit, _beforeTexture, show.before},
-                       {kKeptUnit, _keptTexture, show.kept}};
+                       {kBeforeUnit, _beforeTexture, show.before}};
         for (const auto& source : sources) {
             glActiveTexture(source.unit);
             glBindTexture(GL_TEXTURE_2D, source.texture);
             glUniform1i(source.uniform, static_cast<GLint>(source.unit - GL_TEXTURE0));
         }
         glUniform1f(show.opacity, opacity());
-        glUniform1f(show.noiseStep, _keptTexture != 0 ? 1.0f / 255 : 0.0f);
+        glUniform1f(show.noiseStep, _noiseTurn ? 1.0f / 255 : 0.0f);
+        glUniform1f(show.noiseTurn, _noiseTurn.value_or(0));
         useSmudgeTexture();
     }
     glUniform1i(show.source, static_cast<GLint>(_smudgePos - GL_TEXTURE0));
