@@ -129,9 +129,8 @@ void ESLineRender::chooseProgram(const Variant& wanted) {
     const QLatin1String records(wanted.records ? "#define RECORDS\n" : "");
     QString defines;
     for (const auto& [isWanted, text] :
-         {std::pair(wanted.fetch, "#extension GL_EXT_shader_framebuffer_fetch : require\n#define FETCH\n"),
-          std::pair(wanted.fine, "#define NOISE\n"), std::pair(wanted.oneLevel, "#define ONE_LEVEL\n"),
-          std::pair(!wanted.mask, "#define NO_MASK\n"),
+         {std::pair(wanted.fetch, kFetchDefines), std::pair(wanted.fine, "#define NOISE\n"),
+          std::pair(wanted.oneLevel, "#define ONE_LEVEL\n"), std::pair(!wanted.mask, "#define NO_MASK\n"),
           std::pair(!wanted.multicolour, "#define NO_MULTICOLOUR\n")}) {
         defines += QLatin1String(isWanted ? text : "");
     }

@@ -144,6 +144,9 @@ protected:
 
     void takeBrush();
     void setDabUniforms(const Dab& dab);
+    bool usesFetch() const { return _useFetch; }
+    static constexpr char kFetchDefines[] =
+        "#extension GL_EXT_shader_framebuffer_fetch : require\n#define FETCH\n";
     // What stands before a fragment text that draws by records.
     static QString recordText(const QString& vertex, const QString& fragment);
     // The atlas of the tips, made when it is first needed; false, and nothing to draw with, without one.

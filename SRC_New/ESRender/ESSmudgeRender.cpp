@@ -71,6 +71,7 @@ std::unique_ptr<ESSmudgeRender> ESSmudgeRender::init(std::shared_ptr<dabcanvas::
     render->_showProgram = render->makeShowProgram(false);
     render->_fillProgram = render->makeShowProgram(true);
     render->_useTextureBarrier = hasTextureBarrier();
+    render->setUseFramebufferFetch(true);
     render->_hasStandardBarrier = hasStandardBarrier();
     return render;
 }
@@ -100,7 +101,7 @@ QString ESSmudgeRender::smudgeRenderShowFrangmentShaderString() {
 }
 
 bool ESSmudgeRender::setVertexShaderString(const QString&, const QString&) {
-    _triedRecords = false;
+    _triedRecords.reset();
     return useProgramWithVertexShaderString(
         ESShaderTools::withBool(smudgeRenderSmudgeVertexShaderString()),
         ESShaderTools::withBool(smudgeRenderSmudgeFrangmentShaderString()));
@@ -108,16 +109,24 @@ bool ESSmudgeRender::setVertexShaderString(const QString&, const QString&) {
 
 // Makes the library's program current that takes a dab as a record; a file in its place may know none.
 void ESSmudgeRender::useRecords() {
-    if (std::exchange(_triedRecords, true)) {
+    if (_triedRecords == usesFetch()) {
         return;
     }
-    const QString vertex = vertexShaderString(), fragment = fragmentShaderString();
+    _triedRecords = usesFetch();
+    const QString vertex = ESShaderTools::withBool(smudgeRenderSmudgeVertexShaderString());
+    const QString fragment = ESShaderTools::withBool(smudgeRenderSmudgeFrangmentShaderString());
     const QString text = recordText(vertex, fragment);
-    const QString defines =
-        QLatin1String(_layerDepth > 8 ? "#define RECORDS\n#define NOISE\n" : "#define RECORDS\n");
-    if (!text.isNull()) {
-        useProgramWithVertexShaderString(ESShaderTools::withDefines(vertex, defines),
-                                         ESShaderTools::withDefines(fragment, defines + text));
+    if (text.isNull()) {
+        return;
+    }
+    const QString records = QStringLiteral("#define RECORDS\n");
+    const QString defines = (usesFetch() ? QLatin1String(kFetchDefines) : QLatin1String("")) + records +
+                            QLatin1String(_layerDepth > 8 ? "#define NOISE\n" : "");
+    if (!useProgramWithVertexShaderString(ESShaderTools::withDefines(vertex, records),
+                                          ESShaderTools::withDefines(fragment, defines + text)) &&
+        usesFetch()) {
+        setUseFramebufferFetch(false);
+        useRecords();
     }
 }
 
@@ -361,7 +370,8 @@ QRect ESSmudgeRender::texelBox(const QRectF& place) const {
 }
 
 // Binds what the dab reads: texels that are written by the same draw have no defined value, barrier or not, so a dab
-// that overlaps its pick-up place reads a copy. A pixel may always read what it replaces itself.
+// that overlaps its pick-up place reads a copy. A pixel may always read what it replaces itself, where it lies or, without
+// framebuffer fetch, in the copy.
 void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
     if (_useTextureBarrier && !read.intersects(written)) {
         glBindTexture(GL_TEXTURE_2D, _smudgeTex);
@@ -373,6 +383,10 @@ void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
         return;
     }
     glBindTexture(GL_TEXTURE_2D, _copyTexture);
+    if (_dabRecord >= 0 && usesFetch()) {
+        dabcanvas::copyFramebufferToTexture(read, _layerSize);
+        return;
+    }
     const QRect both = read.united(written);
     const auto areaOf = [](const QRect& rect) { return qint64{rect.width()} * rect.height(); };
     if (areaOf(both) <= areaOf(read) + areaOf(written)) {
@@ -449,7 +463,6 @@ void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
     _mix.set(smudge.mix);
     checkGLStep(kSourcePath, __LINE__);
     glDrawArrays(GL_TRIANGLE_FAN, 0, kCorners);
-    glFlush();
     ++_dabsDrawn;
 
     Dab covered = dab;

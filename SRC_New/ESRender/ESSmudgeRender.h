@@ -152,7 +152,7 @@ private:
     bool _hasStandardBarrier = false;  // asked once: the driver compares names
 
     ShowProgram _showProgram, _fillProgram;
-    bool _triedRecords = false;
+    std::optional<bool> _triedRecords;  // with or without framebuffer fetch
     std::uint32_t _noiseCount = 0;
     std::optional<float> _noiseTurn;
     GLint _bgCoordIndex = -1;
