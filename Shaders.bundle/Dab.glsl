@@ -17,8 +17,12 @@ float dabCoverage(vec2 place, vec2 extent, vec4 pixel) {
     return covered.x * covered.y;
 }
 
-// At a place that is -1..1 within the box, from two levels: left, top, width, height in the texture.
+// At a place that is -1..1 within the box, from two levels: left, top, width, height in the texture. ONE_LEVEL: part is 0.
 vec4 dabTip(vec2 place, vec4 first, vec4 next, float part) {
     vec2 at = 0.5 + 0.5 * clamp(place, -1.0, 1.0);
+#ifdef ONE_LEVEL
+    return texture(u_tips, first.xy + at * first.zw);
+#else
     return mix(texture(u_tips, first.xy + at * first.zw), texture(u_tips, next.xy + at * next.zw), part);
+#endif
 }

@@ -8,9 +8,3 @@ float dabNoise(float turn) {
     float place = fract(52.9829189 * fract(dot(gl_FragCoord.xy, vec2(0.06711056, 0.00583715))));
     return (fract(place + turn) - 0.5) * 0.98;
 }
-
-// Of a picture, `height` pixels high: its turn counts how often paint was kept in the tile of kTileSide pixels.
-float pictureNoise(sampler2D kept, float height) {
-    ivec2 tile = ivec2(gl_FragCoord.x, height - gl_FragCoord.y) / 64;
-    return dabNoise(texelFetch(kept, tile, 0).r * 255.0 * 0.61803399);
-}

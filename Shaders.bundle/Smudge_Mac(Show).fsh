@@ -11,8 +11,7 @@ uniform sampler2D u_beforeTexture;    // the smudge layer as it was then
 uniform sampler2D u_coverageTexture;  // how much of each canvas pixel the stroke has exchanged: alpha
 uniform float u_opacity;
 #ifdef NOISE
-uniform sampler2D u_keptTexture;      // as pictureNoise() reads it
-uniform float u_noiseStep;
+uniform float u_noiseStep, u_noiseTurn;
 #endif
 #endif
 
@@ -49,7 +48,7 @@ void main() {
     brought.rgb = min(brought.rgb, vec3(brought.a));
     fragColor = mix(canvas, canvas * (1.0 - exchanged) + brought, u_opacity);
 #ifdef NOISE
-    fragColor += u_noiseStep * pictureNoise(u_keptTexture, u_viewSize.y);
+    fragColor += u_noiseStep * dabNoise(u_noiseTurn);
 #endif
 }
 #endif

@@ -3,7 +3,7 @@
 // Paints one smudge dab: where the tip covers, the layer turns into a mixture of the brush colour and the colour picked up
 // where the last dab lay. Premultiplied; the result replaces the pixel, so that picked up transparency erases.
 // RECORDS: the dab's edges are smooth, and its tip is read at its one level; Dab.glsl and Noise.glsl stand before this text
-// then. NOISE lets the rounding of a layer of 16 bits even out.
+// then. NOISE lets the rounding of a layer of 16 bits even out; FETCH reads a pixel that is replaced where it is.
 uniform sampler2D u_bgTexture;   // the smudge layer as it was before this dab
 uniform float u_moistQuantity;   // 0: a dry brush, which takes no colour along; 1: all that it meets
 uniform float u_loadQuantity;    // of the brush's own colour
@@ -21,7 +21,12 @@ in vec2 v_texCoord;
 in vec2 v_bgCoord;
 flat in vec4 v_tipCell;
 #endif
+
+#ifdef FETCH
+inout vec4 fragColor;
+#else
 out vec4 fragColor;
+#endif
 
 vec4 layerTexel(ivec2 at, ivec2 size) {
     return texelFetch(u_bgTexture, clamp(at, ivec2(0), size - 1), 0);
@@ -54,7 +59,11 @@ void main() {
     float dry = 1.0 - u_moistQuantity;
     float pickUp = u_mixQuantity * (1.0 - dry * dry * dry);
     float own = u_loadQuantity * (1.0 - u_mixQuantity);
+#ifdef FETCH
+    vec4 here = fragColor;
+#else
     vec4 here = texelFetch(u_bgTexture, ivec2(gl_FragCoord.xy), 0);
+#endif
     vec4 mixture = own * vec4(color, 1.0) + pickUp * pick;
     fragColor = here * (1.0 - coverage * (own + pickUp)) + coverage * mixture;
 #ifdef NOISE

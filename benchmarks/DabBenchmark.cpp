@@ -64,14 +64,15 @@ public:
         }
     }
 
-    // The same program, texture and vertices; nothing but what differs between dabs goes to GL.
-    void drawBare(const std::vector<LPPoint>& dabs) const { drawBare(*_render, dabs); }
+    // The program as a host's is drawn, dab by dab; nothing but what differs between dabs goes to GL.
+    void drawBare(const std::vector<LPPoint>& dabs) const { drawBare(*_bare, dabs); }
     // The same with a program that can do nothing more than these dabs need.
     void drawLeast(const std::vector<LPPoint>& dabs) const { drawBare(*_least, dabs); }
     // Draws once, which sets every uniform that the bare loops leave alone.
     void prepare(const std::vector<LPPoint>& dabs) {
-        _render->drawPoints(dabs.data(), 1);
-        _least->drawPoints(dabs.data(), 1);
+        for (ESLineRender* render : {_render.get(), _bare.get(), _least.get()}) {
+            render->drawPoints(dabs.data(), 1);
+        }
     }
 
 private:
@@ -81,15 +82,17 @@ private:
             _current.emplace(*_context);
             if (_context->createBufferWithSize(QSizeF(kWidth, kHeight))) {
                 _render = ESLineRender::init();
+                _bare = ESLineRender::initWithVertexShaderFromString(
+                    {}, ESLineRender::lineRenderNormalFrangmentShaderString() + QLatin1Char('\n'));
                 _least = ESLineRender::initWithVertexShaderFromString({}, QString::fromLatin1(kLeastProgram));
             }
         }
-        if (!_render || !_least || tip.isNull()) {
+        if (!_render || !_bare || !_least || tip.isNull()) {
             std::fprintf(stderr, "there is nothing to draw with: %s\n",
                          tip.isNull() ? "the tip cannot be read" : "no OpenGL 3.2");
             std::exit(1);
         }
-        for (ESLineRender* render : {_render.get(), _least.get()}) {
+        for (ESLineRender* render : {_render.get(), _bare.get(), _least.get()}) {
             render->setBufferSize(QSizeF(kWidth, kHeight));
             render->setTextureImage(tip, GL_TEXTURE0);
             render->setRenderColor(ESColor(QColor(40, 60, 120)));
@@ -118,7 +121,7 @@ private:
     std::unique_ptr<ESContext> _context;
     std::optional<ESCurrentScope> _current;
     std::unique_ptr<ESLineRender> _render;
-    std::unique_ptr<ESLineRender> _least;
+    std::unique_ptr<ESLineRender> _bare, _least;
 };
 
 // Dabs along an ellipse that keeps the largest of them inside the layer.

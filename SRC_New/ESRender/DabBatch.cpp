@@ -47,7 +47,6 @@ void DabBatch::draw(const Locations& fields) {
                  _vertices.data(), GL_STREAM_DRAW);
     glDrawElements(GL_TRIANGLES, static_cast<GLsizei>(_vertices.size() / kCorners * std::size(kOrder)),
                    GL_UNSIGNED_SHORT, nullptr);
-    _vertices.clear();
 }
 
 }  // namespace dabcanvas

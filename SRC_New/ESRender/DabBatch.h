@@ -25,16 +25,26 @@ public:
     DabBatch(const DabBatch&) = delete;
     DabBatch& operator=(const DabBatch&) = delete;
 
-    void add(const DabRecord& record) { _vertices.insert(_vertices.end(), kCorners, record); }
+    void add(const DabRecord& record) {
+        _vertices.insert(_vertices.end(), kCorners, record);
+        _mixesLevels |= record.more[0] > 0;
+    }
+    void clear() {
+        _vertices.clear();
+        _mixesLevels = false;
+    }
     bool isEmpty() const { return _vertices.empty(); }
+    // Some dab's tip is read at two levels.
+    bool mixesLevels() const { return _mixesLevels; }
     bool isFull() const { return _vertices.size() >= kMostDabs * kCorners; }
-    // Draws, and forgets, what was added, in its order, with the program, vertex array and array buffer that are bound.
+    // Draws what was added, in its order, with the program, vertex array and array buffer that are bound.
     void draw(const Locations& fields);
 
 private:
     static constexpr std::size_t kCorners = 4;
 
     std::vector<DabRecord> _vertices;
+    bool _mixesLevels = false;
     GLuint _indices = 0;
 };
 

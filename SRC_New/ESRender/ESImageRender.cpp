@@ -54,11 +54,10 @@ QString withNoise(const QString& fragment) {
            QStringLiteral("\n#undef main\n") +
            ESBaseRender::stringWithFileName(QStringLiteral("Shaders.bundle/Noise.glsl")) +
            QStringLiteral(
-               "uniform vec2 u_viewSize;\n"
-               "uniform sampler2D u_keptTexture;\n"
+               "uniform float u_noiseTurn;\n"
                "void main() {\n"
                "    blendedMain();\n"
-               "    fragColor += pictureNoise(u_keptTexture, u_viewSize.y) / 255.0;\n"
+               "    fragColor += dabNoise(u_noiseTurn) / 255.0;\n"
                "}\n");
 }
 
@@ -172,21 +171,21 @@ void ESImageRender::programDidChange() {
     _center.locate(made.uniformIndex(kCenter));
     _placedSize.locate(made.uniformIndex(kPlacedSize));
     _replace.locate(made.uniformIndex(kReplace));
-    _keptUnit.locate(made.uniformIndex(kKeptTexture));
+    _noiseTurnUniform.locate(made.uniformIndex(kNoiseTurn));
 }
 
 void ESImageRender::setBlendType(std::uint32_t blendType) {
     _blendType = blendType;
     const QString vertex = vertexShaderStringForBlendType(blendType);
     const QString fragment = fragmentShaderStringForBlendType(blendType);
-    if (_kept.texture == 0 || !useProgramWithVertexShaderString(vertex, withNoise(fragment))) {
+    if (!_noiseTurn || !useProgramWithVertexShaderString(vertex, withNoise(fragment))) {
         useProgramWithVertexShaderString(vertex, fragment);
     }
 }
 
-void ESImageRender::setKeptTexture(GLuint texture, GLenum unit) {
-    const bool switches = (texture == 0) != (_kept.texture == 0);
-    _kept = {texture, unit, {}};
+void ESImageRender::setNoiseTurn(std::optional<float> turn) {
+    const bool switches = turn.has_value() != _noiseTurn.has_value();
+    _noiseTurn = turn;
     if (switches) {
         setBlendType(_blendType);
     }
@@ -295,9 +294,7 @@ bool ESImageRender::bindSources() {
     if (useBGTexture()) {
         _bgUnit.set(_background.unitNumber());
     }
-    if (_kept.use()) {
-        _keptUnit.set(_kept.unitNumber());
-    }
+    _noiseTurnUniform.set(_noiseTurn.value_or(0));
     _useSubLine.set(_repeatedlyRenderEnabled);
     _subLineUnit.set(_subLine.unitNumber());
     if (_useLargeTexture) {

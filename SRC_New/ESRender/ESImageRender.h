@@ -16,6 +16,7 @@
 #include <QString>
 #include <array>
 #include <memory>
+#include <optional>
 
 #include "ESRender/CachedUniform.h"
 #include "ESRender/ESBaseRender.h"
@@ -58,9 +59,9 @@ public:
     // The mode whose fragment text this is; 0 for none.
     static std::uint32_t blendTypeOfFragmentShaderString(const QString& fragmentShaderString);
 
-    // Rounds what the modes make of a canvas by a noise of place and of the counts that a texture holds for its tiles, so
-    // that faint paint adds up; a pixel with none stays as it is. 0: rounds to nearest. Placed images always do.
-    void setKeptTexture(GLuint texture, GLenum unit);
+    // Rounds what the modes make of a canvas by a noise of place and of a turn, 0..1, so that faint paint adds up; a pixel
+    // with none stays as it is. Without a turn, rounds to nearest.
+    void setNoiseTurn(std::optional<float> turn);
 
     // ---- what is combined
 
@@ -147,11 +148,11 @@ private:
     bool _hasLevels = false;  // the image to place
     bool _useLargeTexture = false, _repeatedlyRenderEnabled = false;
     Role _background, _line, _subLine;
-    Role _kept;
+    std::optional<float> _noiseTurn;
 
     GLint _positionIndex = -1, _texCoordIndex = -1;
-    dabcanvas::UniformFloat _opacityUniform, _radianUniform;
-    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit, _keptUnit, _replace;
+    dabcanvas::UniformFloat _opacityUniform, _radianUniform, _noiseTurnUniform;
+    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit, _replace;
     dabcanvas::UniformVec2 _viewSize, _bgTextureSize, _flip, _center, _placedSize;
 };
 

@@ -129,8 +129,8 @@ void ESLineRender::chooseProgram(const Variant& wanted) {
     const QLatin1String records(wanted.records ? "#define RECORDS\n" : "");
     QString defines;
     for (const auto& [isWanted, text] :
-         {std::pair(wanted.fetch, "#extension GL_EXT_shader_framebuffer_fetch : require\n#define FETCH\n"),
-          std::pair(wanted.fine, "#define NOISE\n"), std::pair(!wanted.mask, "#define NO_MASK\n"),
+         {std::pair(wanted.fetch, kFetchDefines), std::pair(wanted.fine, "#define NOISE\n"),
+          std::pair(wanted.oneLevel, "#define ONE_LEVEL\n"), std::pair(!wanted.mask, "#define NO_MASK\n"),
           std::pair(!wanted.multicolour, "#define NO_MULTICOLOUR\n")}) {
         defines += QLatin1String(isWanted ? text : "");
     }
@@ -144,7 +144,9 @@ void ESLineRender::chooseProgram(const Variant& wanted) {
     }
     if (wanted.fetch) {
         _useFetch = false;
-        chooseProgram({wanted.records, wanted.mask, wanted.multicolour, wanted.fine, false});
+        Variant blended = wanted;
+        blended.fetch = false;
+        chooseProgram(blended);
     } else {
         useProgramWithVertexShaderString(_wholeVertexShader, _wholeFragmentShader);
     }
@@ -260,12 +262,12 @@ QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
         return partOf(bounds);
     }
     takeBrush();
-    if (!beginDrawing()) {
+    if (!begin(false)) {
         return partOf(bounds);
     }
     _dabs.make(points, count, [&](const Dab& dab) {
         bounds.grow(dab);
-        if (needScissor() && (!takesRecords() || _batch->isFull())) {
+        if (needScissor() && (!_isOwnText || _batch->isFull())) {
             clipTo(bounds);
         }
         drawDab(dab);
@@ -273,37 +275,42 @@ QRectF ESLineRender::drawPoints(const LPPoint* points, std::size_t count) {
     if (needScissor() && !_batch->isEmpty()) {
         clipTo(bounds);
     }
-    endDrawing();
+    end();
     return partOf(bounds);
 }
 
 void ESLineRender::drawDabs(std::span<const Dab> dabs) {
-    if (dabs.empty() || program() == nullptr || !beginDrawing()) {
-        return;
-    }
-    for (const Dab& dab : dabs) {
-        drawDab(dab);
-    }
-    endDrawing();
+    drawAll(dabs, false);
 }
 
 void ESLineRender::drawDabsFinely(std::span<const Dab> dabs, std::uint32_t first) {
-    if (dabs.empty() || program() == nullptr || !beginDrawing(true)) {
+    _noiseCount = first;
+    drawAll(dabs, true);
+}
+
+void ESLineRender::drawAll(std::span<const Dab> dabs, bool fine) {
+    if (dabs.empty() || program() == nullptr || !begin(fine)) {
         return;
     }
-    glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    (_variant.fetch ? glDisable : glEnable)(GL_BLEND);
-    _noiseCount = first;
     for (const Dab& dab : dabs) {
         drawDab(dab);
     }
-    endDrawing();
-    glEnable(GL_BLEND);
+    end();
+}
+
+// False when there is nothing to draw with. A batch chooses its program when it is drawn.
+bool ESLineRender::begin(bool fine) {
+    _fine = fine;
+    if (_isOwnText) {
+        return hasAtlas(_dabs.settings.colorFul);
+    }
+    prepareProgram({.mask = hasPaper(), .multicolour = _dabs.settings.colorFul});
+    return true;
 }
 
 // One drain a run: asking after each dab would stall drivers that work ahead.
-void ESLineRender::endDrawing() {
-    _batch->draw(_recordFields);
+void ESLineRender::end() {
+    drawBatch();
     drainGLErrors(kSourcePath, __LINE__);
 }
 
@@ -315,17 +322,16 @@ void ESLineRender::takeBrush() {
     settings.lineProcessType = lineProcessType();
 }
 
-// Everything that stays the same for a run of dabs; false when there is nothing to draw with.
-bool ESLineRender::beginDrawing(bool fine) {
-    const bool multicolour = _dabs.settings.colorFul;
-    chooseProgram({_isOwnText, hasPaper(), multicolour, fine && _isOwnText, fine && _isOwnText && _useFetch});
+// Everything that stays the same for a run of dabs.
+void ESLineRender::prepareProgram(const Variant& variant) {
+    chooseProgram(variant);
     useOwn();
     _useMask.set(hasPaper() && useMask());
     // Samplers get units of their own even when unused: two on one unit of different kinds may not draw.
     _maskUnit.set(kMaskUnit - GL_TEXTURE0);
     _reducedMaskUnit.set(kReducedMaskUnit - GL_TEXTURE0);
-    _colorful.set(multicolour);
-    if (multicolour) {
+    _colorful.set(variant.multicolour);
+    if (variant.multicolour) {
         const DabSettings& settings = _dabs.settings;
         const bool jitters = _dabs.flags().hsvTingle;
         _hueTingle.set(jitters ? settings.hueTingle : 0);
@@ -334,27 +340,27 @@ bool ESLineRender::beginDrawing(bool fine) {
     }
     _viewSize.set(bufferSize().width(), bufferSize().height());
     if (takesRecords()) {
-        return useAtlas(multicolour);
-    }
-    useBrushTexture();
-    if (!_tipCellsUploaded) {
-        uploadTipCells();
+        useAtlas();
+    } else {
+        useBrushTexture();
+        if (!_tipCellsUploaded) {
+            uploadTipCells();
+        }
     }
     checkGLStep(kSourcePath, __LINE__);
-    return true;
 }
 
-bool ESLineRender::useAtlas(bool withColour) {
+bool ESLineRender::hasAtlas(bool withColour) {
     if (!_atlas || _atlas->hasColour() != withColour) {
         glActiveTexture(texturePos());
         _atlas = dabcanvas::TipAtlas::make(_tips ? *_tips : solidTip(), withColour);
     }
-    if (!_atlas) {
-        return false;
-    }
+    return _atlas != nullptr;
+}
+
+void ESLineRender::useAtlas() {
     _atlas->bind(texturePos());
     _tipsUnit.set(texturePos() - GL_TEXTURE0);
-    return true;
 }
 
 void ESLineRender::useBrushTexture() {
@@ -441,14 +447,14 @@ void ESLineRender::setDabUniforms(const Dab& dab) {
 
 void ESLineRender::drawDab(const Dab& dab) {
     ++_dabsDrawn;
-    if (takesRecords()) {
+    if (_isOwnText) {
+        const float turn = dabcanvas::noiseTurn(_noiseCount++);
         if (_batch->isFull()) {
-            _batch->draw(_recordFields);
+            drawBatch();
         }
         if (const dabcanvas::Size* tip = _atlas->sizeOf(dab.tip)) {
-            _batch->add(dabcanvas::DabRecord::of(dab, *tip, *_atlas,
-                                                 static_cast<float>(bufferSize().height()),
-                                                 dabcanvas::noiseTurn(_noiseCount++)));
+            const auto height = static_cast<float>(bufferSize().height());
+            _batch->add(dabcanvas::DabRecord::of(dab, *tip, *_atlas, height, turn));
         }
         return;
     }
@@ -458,6 +464,29 @@ void ESLineRender::drawDab(const Dab& dab) {
     }
     checkGLStep(kSourcePath, __LINE__);
     glDrawArrays(GL_TRIANGLE_FAN, static_cast<GLint>(dab.tip) * kCorners, kCorners);
+}
+
+void ESLineRender::drawBatch() {
+    if (_batch->isEmpty()) {
+        return;
+    }
+    prepareProgram({.records = true,
+                    .mask = hasPaper(),
+                    .multicolour = _dabs.settings.colorFul,
+                    .fine = _fine,
+                    .fetch = _fine && _useFetch,
+                    .oneLevel = !_batch->mixesLevels()});
+    if (_fine) {
+        glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+        (_variant.fetch ? glDisable : glEnable)(GL_BLEND);
+    }
+    if (takesRecords()) {
+        _batch->draw(_recordFields);
+    }
+    _batch->clear();
+    if (_fine) {
+        glEnable(GL_BLEND);
+    }
 }
 
 void ESLineRender::clipTo(const dabcanvas::DabBounds& bounds) const {

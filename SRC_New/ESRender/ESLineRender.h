@@ -144,10 +144,14 @@ protected:
 
     void takeBrush();
     void setDabUniforms(const Dab& dab);
+    bool usesFetch() const { return _useFetch; }
+    static constexpr char kFetchDefines[] =
+        "#extension GL_EXT_shader_framebuffer_fetch : require\n#define FETCH\n";
     // What stands before a fragment text that draws by records.
     static QString recordText(const QString& vertex, const QString& fragment);
-    // Binds the atlas of the tips, made when it is first needed; false, and nothing to draw with, without one.
-    bool useAtlas(bool withColour);
+    // The atlas of the tips, made when it is first needed; false, and nothing to draw with, without one.
+    bool hasAtlas(bool withColour);
+    void useAtlas();
     const dabcanvas::TipAtlas* atlas() const { return _atlas.get(); }
     // Binds brushTexture(), made of the tips where it was not.
     void useBrushTexture();
@@ -171,7 +175,7 @@ private:
 
     // What a program is compiled for.
     struct Variant {
-        bool records = false, mask = true, multicolour = true, fine = false, fetch = false;
+        bool records = false, mask = true, multicolour = true, fine = false, fetch = false, oneLevel = false;
         bool operator==(const Variant&) const = default;
     };
 
@@ -179,10 +183,13 @@ private:
                                               std::shared_ptr<dabcanvas::ProgramPool> pool);
     void keepTips(const QList<QImage>& images);
     void takeTips(std::shared_ptr<const dabcanvas::TipSet> tips);
-    bool beginDrawing(bool fine = false);
-    void endDrawing();
+    bool begin(bool fine);
+    void end();
+    void drawAll(std::span<const Dab> dabs, bool fine);
+    void prepareProgram(const Variant& variant);
+    void drawBatch();
     void chooseProgram(const Variant& wanted);
-    bool takesRecords() const { return _recordFields[0] >= 0; }
+    bool takesRecords() const { return _recordFields[0] >= 0; }  // the current program
     bool hasPaper() const { return _needMaskTexture && _paper && !_paper->pixels.isNull(); }
     bool useMask();
     void uploadTipCells();
@@ -205,6 +212,7 @@ private:
     bool _isOwnText = false;   // they are the library's
     Variant _variant;
     bool _useFetch = false;
+    bool _fine = false;  // the present run
     std::uint32_t _noiseCount = 0;
     std::unique_ptr<dabcanvas::DabBatch> _batch;
     std::array<GLint, 7> _recordFields{-1, -1, -1, -1, -1, -1, -1};  // locations; -1 for a program without

@@ -32,8 +32,7 @@ static_assert(sizeof(Vertex) == 32);
 constexpr float kSquare[4][2] = {{-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
 constexpr std::size_t kCorners = 4;
 
-constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8,
-                 kKeptUnit = GL_TEXTURE10;
+constexpr GLenum kCoverageUnit = GL_TEXTURE4, kCanvasUnit = GL_TEXTURE3, kBeforeUnit = GL_TEXTURE8;
 
 // The one of OpenGL 4.5, rather than the older extension's.
 bool hasStandardBarrier() {
@@ -72,6 +71,7 @@ std::unique_ptr<ESSmudgeRender> ESSmudgeRender::init(std::shared_ptr<dabcanvas::
     render->_showProgram = render->makeShowProgram(false);
     render->_fillProgram = render->makeShowProgram(true);
     render->_useTextureBarrier = hasTextureBarrier();
+    render->setUseFramebufferFetch(true);
     render->_hasStandardBarrier = hasStandardBarrier();
     return render;
 }
@@ -101,7 +101,7 @@ QString ESSmudgeRender::smudgeRenderShowFrangmentShaderString() {
 }
 
 bool ESSmudgeRender::setVertexShaderString(const QString&, const QString&) {
-    _triedRecords = false;
+    _triedRecords.reset();
     return useProgramWithVertexShaderString(
         ESShaderTools::withBool(smudgeRenderSmudgeVertexShaderString()),
         ESShaderTools::withBool(smudgeRenderSmudgeFrangmentShaderString()));
@@ -109,16 +109,24 @@ bool ESSmudgeRender::setVertexShaderString(const QString&, const QString&) {
 
 // Makes the library's program current that takes a dab as a record; a file in its place may know none.
 void ESSmudgeRender::useRecords() {
-    if (std::exchange(_triedRecords, true)) {
+    if (_triedRecords == usesFetch()) {
         return;
     }
-    const QString vertex = vertexShaderString(), fragment = fragmentShaderString();
+    _triedRecords = usesFetch();
+    const QString vertex = ESShaderTools::withBool(smudgeRenderSmudgeVertexShaderString());
+    const QString fragment = ESShaderTools::withBool(smudgeRenderSmudgeFrangmentShaderString());
     const QString text = recordText(vertex, fragment);
-    const QString defines =
-        QLatin1String(_layerDepth > 8 ? "#define RECORDS\n#define NOISE\n" : "#define RECORDS\n");
-    if (!text.isNull()) {
-        useProgramWithVertexShaderString(ESShaderTools::withDefines(vertex, defines),
-                                         ESShaderTools::withDefines(fragment, defines + text));
+    if (text.isNull()) {
+        return;
+    }
+    const QString records = QStringLiteral("#define RECORDS\n");
+    const QString defines = (usesFetch() ? QLatin1String(kFetchDefines) : QLatin1String("")) + records +
+                            QLatin1String(_layerDepth > 8 ? "#define NOISE\n" : "");
+    if (!useProgramWithVertexShaderString(ESShaderTools::withDefines(vertex, records),
+                                          ESShaderTools::withDefines(fragment, defines + text)) &&
+        usesFetch()) {
+        setUseFramebufferFetch(false);
+        useRecords();
     }
 }
 
@@ -169,7 +177,7 @@ ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
     show.canvas = program->uniformIndex(smudge::kCanvasTexture);
     show.before = program->uniformIndex(smudge::kBeforeTexture);
     show.coverage = program->uniformIndex(smudge::kCoverageTexture);
-    show.kept = program->uniformIndex(smudge::kKeptTexture);
+    show.noiseTurn = program->uniformIndex(smudge::kNoiseTurn);
     show.noiseStep = program->uniformIndex(smudge::kNoiseStep);
     show.opacity = program->uniformIndex(smudge::kOpacity);
     show.program = std::move(program);
@@ -237,10 +245,9 @@ void ESSmudgeRender::keepLayer(const QRectF& rect) {
     dabcanvas::copyFramebufferToTexture(rows.toAlignedRect(), _layerSize);
 }
 
-void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture, GLuint keptTexture) {
+void ESSmudgeRender::setShowSources(GLuint coverageTexture, GLuint canvasTexture) {
     _coverageTexture = coverageTexture;
     _canvasTexture = canvasTexture;
-    _keptTexture = keptTexture;
 }
 
 // ---- Dabs
@@ -286,9 +293,10 @@ QRectF ESSmudgeRender::draw(std::span<const SmudgeDab> dabs, float load, const T
     useOwn();
     if (_dabRecord >= 0) {
         _viewSize.set(_layerSize.width(), _layerSize.height());
-        if (!useAtlas(false)) {
+        if (!hasAtlas(false)) {
             return {};
         }
+        useAtlas();
     } else {
         // Each dab fills the same buffer anew, so where its vertices stand is said once a run.
         dabcanvas::setVertexAttribute(_positionIndex, 4, sizeof(Vertex), 0);
@@ -362,7 +370,8 @@ QRect ESSmudgeRender::texelBox(const QRectF& place) const {
 }
 
 // Binds what the dab reads: texels that are written by the same draw have no defined value, barrier or not, so a dab
-// that overlaps its pick-up place reads a copy. A pixel may always read what it replaces itself.
+// that overlaps its pick-up place reads a copy. A pixel may always read what it replaces itself, where it lies or, without
+// framebuffer fetch, in the copy.
 void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
     if (_useTextureBarrier && !read.intersects(written)) {
         glBindTexture(GL_TEXTURE_2D, _smudgeTex);
@@ -374,6 +383,10 @@ void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
         return;
     }
     glBindTexture(GL_TEXTURE_2D, _copyTexture);
+    if (_dabRecord >= 0 && usesFetch()) {
+        dabcanvas::copyFramebufferToTexture(read, _layerSize);
+        return;
+    }
     const QRect both = read.united(written);
     const auto areaOf = [](const QRect& rect) { return qint64{rect.width()} * rect.height(); };
     if (areaOf(both) <= areaOf(read) + areaOf(written)) {
@@ -450,7 +463,6 @@ void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {
     _mix.set(smudge.mix);
     checkGLStep(kSourcePath, __LINE__);
     glDrawArrays(GL_TRIANGLE_FAN, 0, kCorners);
-    glFlush();
     ++_dabsDrawn;
 
     Dab covered = dab;
@@ -486,15 +498,15 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
             GLint uniform;
         } sources[] = {{kCanvasUnit, _canvasTexture, show.canvas},
                        {kCoverageUnit, _coverageTexture, show.coverage},
-                       {kBeforeUnit, _beforeTexture, show.before},
-                       {kKeptUnit, _keptTexture, show.kept}};
+                       {kBeforeUnit, _beforeTexture, show.before}};
         for (const auto& source : sources) {
             glActiveTexture(source.unit);
             glBindTexture(GL_TEXTURE_2D, source.texture);
             glUniform1i(source.uniform, static_cast<GLint>(source.unit - GL_TEXTURE0));
         }
         glUniform1f(show.opacity, opacity());
-        glUniform1f(show.noiseStep, _keptTexture != 0 ? 1.0f / 255 : 0.0f);
+        glUniform1f(show.noiseStep, _noiseTurn ? 1.0f / 255 : 0.0f);
+        glUniform1f(show.noiseTurn, _noiseTurn.value_or(0));
         useSmudgeTexture();
     }
     glUniform1i(show.source, static_cast<GLint>(_smudgePos - GL_TEXTURE0));

@@ -14,6 +14,7 @@
 #include <QRect>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -95,9 +96,10 @@ public:
     std::span<const Dab> takeCoverage();
     // Keeps the layer, the bound framebuffer, as it is now inside a rectangle: what later dabs change is told from it.
     void keepLayer(const QRectF& rect);
-    // What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before; and
-    // counts to round by, as ESImageRender::setKeptTexture() has them, or 0.
-    void setShowSources(GLuint coverageTexture, GLuint canvasTexture, GLuint keptTexture = 0);
+    // What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before.
+    void setShowSources(GLuint coverageTexture, GLuint canvasTexture);
+    // What it rounds by, as ESImageRender::setNoiseTurn().
+    void setNoiseTurn(std::optional<float> turn) { _noiseTurn = turn; }
 
     // Where the driver has a texture barrier, a dab that lies clear of its pick-up place reads the layer itself;
     // else, and always without one, it reads a copy. The picture is the same.
@@ -116,7 +118,7 @@ private:
         std::shared_ptr<ESProgram> program;
         GLint position = -1, texCoord = -1;
         GLint viewSize = -1, center = -1, pointSize = -1, roundness = -1, source = -1;
-        GLint canvas = -1, before = -1, coverage = -1, kept = -1, noiseStep = -1, opacity = -1;
+        GLint canvas = -1, before = -1, coverage = -1, noiseTurn = -1, noiseStep = -1, opacity = -1;
     };
 
     ShowProgram makeShowProgram(bool fill) const;
@@ -140,7 +142,7 @@ private:
     GLint _layerDepth = 8;    // bits a channel
     GLuint _copyTexture = 0;  // of the layer, for dabs that overlap what they pick up
     GLuint _beforeTexture = 0;
-    GLuint _coverageTexture = 0, _canvasTexture = 0, _keptTexture = 0;  // the canvas's
+    GLuint _coverageTexture = 0, _canvasTexture = 0;  // the canvas's
 
     QSizeF _sourceSize;  // buffer pixels that the smudge texture shows
 
@@ -150,8 +152,9 @@ private:
     bool _hasStandardBarrier = false;  // asked once: the driver compares names
 
     ShowProgram _showProgram, _fillProgram;
-    bool _triedRecords = false;
+    std::optional<bool> _triedRecords;  // with or without framebuffer fetch
     std::uint32_t _noiseCount = 0;
+    std::optional<float> _noiseTurn;
     GLint _bgCoordIndex = -1;
     GLint _dabRecord = -1;  // -1 for a program that is given the uniforms of each dab
     dabcanvas::UniformFloat _moist, _load, _mix;

@@ -20,6 +20,6 @@ inline constexpr char kFlip[] = "a_flip";
 inline constexpr char kCenter[] = "a_center";
 inline constexpr char kPlacedSize[] = "u_placedSize";  // these two of "ImageRender_Mac(place).fsh" only
 inline constexpr char kReplace[] = "u_replace";
-inline constexpr char kKeptTexture[] = "u_keptTexture";  // of programs that round by noise
+inline constexpr char kNoiseTurn[] = "u_noiseTurn";  // of programs that round by noise
 
 }  // namespace dabcanvas::image

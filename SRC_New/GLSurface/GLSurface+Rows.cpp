@@ -13,7 +13,6 @@
 #include "ESRender/Texture/ScaledPixels.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "GLSurface/GLSurface.h"
-#include "GLSurface/KeptCounts.h"
 #include "Maths/Rounding.h"
 
 namespace dabcanvas {
@@ -113,7 +112,7 @@ bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows
         }
     }
     _context->finishRender();
-    _kept->forget(rect);
+    _kept.forget(rect);
     noteChanged(picture, rect);
     return sent && !_context->checkLost();
 }
@@ -136,7 +135,7 @@ bool GLSurface::place(PictureId picture, const Placed& placed) {
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
-    render.setKeptTexture(0, GL_TEXTURE0);
+    render.setNoiseTurn({});
     render.setBlendType(placed.replaces ? ESBlendTypeReplace : ESBlendTypeNormal);
     render.setFlipX(false);
     render.setFlipY(placed.pixels.stride > 0);

@@ -7,11 +7,11 @@
 #include <utility>
 
 #include "Dabs/DabBounds.h"
+#include "ESRender/DabRecord.h"
 #include "ESRender/ESImageRender.h"
 #include "ESRender/ESLineRender.h"
 #include "ESRender/ESSmudgeRender.h"
 #include "ESRender/Utilities/ESGLErrors.h"
-#include "GLSurface/KeptCounts.h"
 #include "GLSurface/ThreadGL.h"
 
 namespace dabcanvas {
@@ -19,8 +19,7 @@ namespace {
 
 // Filtering between the smudge layer's resolution and the picture's reaches this far, in buffer pixels.
 constexpr int kSmudgeReach = 4;
-constexpr GLenum kLineUnit = GL_TEXTURE4, kSubLineUnit = GL_TEXTURE5, kSmudgeUnit = GL_TEXTURE7,
-                 kKeptUnit = GL_TEXTURE10;
+constexpr GLenum kLineUnit = GL_TEXTURE4, kSubLineUnit = GL_TEXTURE5, kSmudgeUnit = GL_TEXTURE7;
 
 // The one dab that covers a rectangle when its renderer's roundness is the rectangle's height over its width.
 LPPoint dabOf(const Rect& rect) {
@@ -64,7 +63,7 @@ GLSurface::GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique
       _line{.render = {}, .tipUnit = GL_TEXTURE1, .tips = {}, .paper = {}},
       _subLine{.render = {}, .tipUnit = GL_TEXTURE2, .tips = {}, .paper = {}},
       _smudge{.render = {}, .tipUnit = GL_TEXTURE6, .tips = {}, .paper = {}},
-      _kept(std::make_unique<KeptCounts>(size)),
+      _kept(size),
       _smudgeStale(Rect::of(size)) {}
 
 bool GLSurface::makeRenders() {
@@ -112,7 +111,7 @@ void GLSurface::warmUp() {
         _line.render->drawDabsFinely({&dab, 1}, 0);
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
-    blend({-100, -100, 1, 1}, ESBlendTypeNormal, 1, false);
+    blend({-100, -100, 1, 1}, ESBlendTypeNormal, 1, false, 0);
     _context->finishRender();
 }
 
@@ -127,7 +126,6 @@ GLSurface::~GLSurface() {
     for (DabRender* of : {&_line, &_subLine, &_smudge}) {
         release(of->render);
     }
-    release(_kept);
     _context.reset();
 }
 
@@ -339,7 +337,7 @@ void GLSurface::warmUpSmudging() {
     render->drawSmudges(dabs, 1);
     render->takeCoverage();
     _context->beginRenderForType(ESRenderTypeCanvas);
-    showSmudges({0, 0, 1, 1}, 1);
+    showSmudges({0, 0, 1, 1}, 1, 0);
     _context->finishRender();
 }
 
@@ -362,11 +360,11 @@ Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, f
 }
 
 // Puts one rectangle of the smudge layer onto the picture, which is the target.
-void GLSurface::showSmudges(const Rect& rect, float opacity) {
+void GLSurface::showSmudges(const Rect& rect, float opacity, std::uint32_t kept) {
     auto& render = static_cast<ESSmudgeRender&>(*_smudge.render);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
-    render.setShowSources(_context->lineTexture(), _compositor->backgroundTexture(),
-                          isFine() ? _kept->textureOn(kKeptUnit) : 0);
+    render.setShowSources(_context->lineTexture(), _compositor->backgroundTexture());
+    render.setNoiseTurn(noiseTurn(kept));
     render.setOpacity(opacity);
     render.setRoundness(roundnessOf(rect));
     const LPPoint dab = dabOf(rect);
@@ -375,12 +373,18 @@ void GLSurface::showSmudges(const Rect& rect, float opacity) {
 
 // ---- Layers and picture
 
+// What a picture rounds by; nothing for layers of 8 bits.
+std::optional<float> GLSurface::noiseTurn(std::uint32_t kept) const {
+    return isFine() ? std::optional(dabcanvas::noiseTurn(kept)) : std::nullopt;
+}
+
 // Draws one rectangle in a blend mode onto the picture, which is the target.
-void GLSurface::blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked) {
+void GLSurface::blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked,
+                      std::uint32_t kept) {
     // The program has mixed source and background already: its result replaces what is there.
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
     ESImageRender& render = *_compositor;
-    render.setKeptTexture(isFine() ? _kept->textureOn(kKeptUnit) : 0, kKeptUnit);
+    render.setNoiseTurn(noiseTurn(kept));
     if (render.blendType() != blendType) {
         render.setBlendType(blendType);
     }
@@ -406,12 +410,14 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         if (cut.isEmpty()) {
             continue;
         }
-        if (style.smudged) {
-            showSmudges(cut, style.opacity);
-        } else {
-            blend(cut, style.blendType, style.opacity, style.masked);
-        }
-        _kept->blended(cut);
+        _kept.forEachPart(cut, [&](const Rect& part, std::uint32_t kept) {
+            if (style.smudged) {
+                showSmudges(part, style.opacity, kept);
+            } else {
+                blend(part, style.blendType, style.opacity, style.masked, kept);
+            }
+        });
+        _kept.blended(cut);
         noteChanged(picture, cut);
     }
     _context->finishRender();
@@ -423,7 +429,7 @@ void GLSurface::revert(PictureId picture, const Rect& rect) {
         return;  // its program reads no layer, but wants one bound
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
-    blend(cut, ESBlendTypeReset, 1, false);
+    blend(cut, ESBlendTypeReset, 1, false, 0);
     _context->finishRender();
     noteChanged(picture, cut);
 }
@@ -432,13 +438,13 @@ void GLSurface::commit(PictureId, const Rect& rect) {
     _context->beginRenderForType(ESRenderTypeCanvas);
     _compositor->updateBGTextureAtOrigin(QPointF(rect.x, rect.y), QSizeF(rect.width, rect.height),
                                          GL_TEXTURE3);
-    _kept->kept(rect);
+    _kept.kept(rect);
 }
 
 void GLSurface::fill(PictureId picture, const PaintColor& color) {
     _context->beginRenderForType(ESRenderTypeCanvas);
     _compositor->clearWithRed(color.red, color.green, color.blue, color.alpha);
-    _kept->forget(Rect::of(size()));
+    _kept.forget(Rect::of(size()));
     _context->finishRender();
     noteChanged(picture, Rect::of(size()));
 }

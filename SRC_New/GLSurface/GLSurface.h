@@ -13,10 +13,12 @@
 #include <QSizeF>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "ESContext/ESContext.h"
 #include "ESContext/ESCurrentScope.h"
+#include "GLSurface/KeptCounts.h"
 #include "GLSurface/MakeGLSurface.h"
 #include "Maths/Export.h"
 #include "Surface/PaintSurface.h"
@@ -27,7 +29,6 @@ class ESSmudgeRender;
 
 namespace dabcanvas {
 
-class KeptCounts;
 class ThreadGL;
 
 class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
@@ -86,15 +87,16 @@ private:
     void takeStyle(DabRender& of, const DabStyle& style);
     Rect drawInto(ESRenderType target, DabRender& with, std::span<const Dab> dabs, const DabStyle& style);
     bool isFine() const { return _context->layerDepth() > 8; }
-    void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked);
-    void showSmudges(const Rect& rect, float opacity);
+    void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked, std::uint32_t kept);
+    void showSmudges(const Rect& rect, float opacity, std::uint32_t kept);
+    std::optional<float> noiseTurn(std::uint32_t kept) const;
     void noteChanged(PictureId picture, const Rect& rect);
 
     std::shared_ptr<ThreadGL> _gl;
     std::unique_ptr<ESContext> _context;
     std::unique_ptr<ESImageRender> _compositor;
     DabRender _line, _subLine, _smudge;  // the last one's render is an ESSmudgeRender
-    std::unique_ptr<KeptCounts> _kept;
+    KeptCounts _kept;
     Rect _smudgeStale;                // where the smudge layer may differ from the background
     std::vector<std::uint8_t> _band;  // rows on their way to or from the caller's
     std::deque<ESCurrentScope> _scopes;

@@ -1,48 +1,95 @@
 // SPDX-License-Identifier: MIT
-// How often paint that was blended onto a tile of a picture was kept, for programs that round by it: composites of one
-// stroke round alike, the next stroke's otherwise, and strokes elsewhere change nothing.
-//
-// Owns     a texture, made when it is first needed. The context must be current to use and destroy it.
+// How often paint that was blended onto a tile of a picture was kept, for what rounds by it: composites of one stroke round
+// alike, the next stroke's otherwise, and strokes elsewhere change nothing.
 #pragma once
 
-#include <epoxy/gl.h>
-
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "Maths/Rect.h"
+#include "Surface/TileSet.h"
 
 namespace dabcanvas {
 
 class KeptCounts {
 public:
-    explicit KeptCounts(const Size& picture);
-    ~KeptCounts();
-    KeptCounts(const KeptCounts&) = delete;
-    KeptCounts& operator=(const KeptCounts&) = delete;
+    explicit KeptCounts(const Size& picture)
+        : _picture(picture),
+          _columns((picture.width + kTileSide - 1) / kTileSide),
+          _tiles(static_cast<std::size_t>(_columns) *
+                 static_cast<std::size_t>((picture.height + kTileSide - 1) / kTileSide)) {}
 
-    void blended(const Rect& rect);
-    // Counts the tiles of which something was blended onto since they were last.
-    void kept(const Rect& rect);
+    void blended(const Rect& rect) {
+        forEachTile(rect, [](Tile& tile, const Rect&) { tile.isBlended = true; });
+    }
+    // Counts the tiles onto which something was blended since they were last.
+    void kept(const Rect& rect) {
+        forEachTile(rect, [](Tile& tile, const Rect&) {
+            tile.times += std::exchange(tile.isBlended, false) ? 1u : 0u;
+        });
+    }
     // Of tiles that lie in the rectangle with all their pixels.
-    void forget(const Rect& rect);
+    void forget(const Rect& rect) {
+        forEachTile(rect, [&](Tile& tile, const Rect& pixels) {
+            if (rect.contains(pixels)) {
+                tile = {};
+            }
+        });
+    }
 
-    // One texel a tile, the top row first, its red the count over 255. On the unit, which is active then.
-    GLuint textureOn(GLenum unit);
+    // Calls visit(const Rect&, times) with parts of the rectangle, on the picture, in which the count is the same.
+    template <typename Visit>
+    void forEachPart(const Rect& rect, Visit&& visit) {
+        Rect run;
+        std::uint32_t times = 0;
+        bool isSame = true;
+        forEachTile(rect, [&](const Tile& tile, const Rect&) {
+            isSame &= run.isEmpty() || tile.times == times;
+            times = tile.times;
+            run = rect.intersected(Rect::of(_picture));
+        });
+        if (isSame) {
+            if (!run.isEmpty()) {
+                visit(run, times);
+            }
+            return;
+        }
+        run = {};
+        forEachTile(rect, [&](const Tile& tile, const Rect& pixels) {
+            const Rect part = pixels.intersected(rect);
+            if (!run.isEmpty() && (tile.times != times || part.y != run.y)) {
+                visit(run, times);
+                run = {};
+            }
+            run = run.isEmpty() ? part : run.united(part);
+            times = tile.times;
+        });
+        visit(run, times);
+    }
 
 private:
     struct Tile {
-        std::uint8_t times = 0;
+        std::uint32_t times = 0;
         bool isBlended = false;
     };
+
     template <typename Visit>
-    void forEachTile(const Rect& rect, Visit&& visit);
+    void forEachTile(const Rect& rect, Visit&& visit) {
+        const Rect cut = rect.intersected(Rect::of(_picture));
+        for (int row = cut.y / kTileSide; !cut.isEmpty() && row * kTileSide < cut.bottom(); ++row) {
+            for (int column = cut.x / kTileSide; column * kTileSide < cut.right(); ++column) {
+                const Rect tile{column * kTileSide, row * kTileSide, kTileSide, kTileSide};
+                visit(_tiles[static_cast<std::size_t>(row) * static_cast<std::size_t>(_columns) +
+                             static_cast<std::size_t>(column)],
+                      tile.intersected(Rect::of(_picture)));
+            }
+        }
+    }
 
     Size _picture;
-    int _columns, _rows;
+    int _columns;
     std::vector<Tile> _tiles;
-    GLuint _texture = 0;
-    bool _isSent = false;
 };
 
 }  // namespace dabcanvas

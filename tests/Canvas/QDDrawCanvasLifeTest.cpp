@@ -295,6 +295,7 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
 // In another context, whatever becomes of the lost one.
 TEST_F(CanvasLifeTest, ACanvasCanBeMadeBesideALostOneOfItsThread) {
     auto lost = makeCanvas(80, 60, SurfaceKind::gpu);
+    EXPECT_FALSE(lost->image().isNull());
     const FailingDriver driver(FailingDriver::Fault::lostContext);
     EXPECT_TRUE(lost->image().isNull());
     auto fresh = makeCanvas(80, 60, SurfaceKind::gpu);

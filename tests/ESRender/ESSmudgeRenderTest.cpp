@@ -110,9 +110,12 @@ TEST_F(SmudgeRenderTest, BarrierAndCopyGiveTheSamePicture) {
     for (const std::vector<LPPoint>& points : {overlapping, apart, atTheEdges}) {
         _render->setUseTextureBarrier(true);
         const QImage withBarrier = smudge(points);
+        EXPECT_NE(withBarrier, smudge({}));
         _render->setUseTextureBarrier(false);
         EXPECT_TRUE(imagesMatch(withBarrier, smudge(points)));
-        EXPECT_NE(withBarrier, smudge({}));
+        _render->setUseFramebufferFetch(false);
+        EXPECT_TRUE(imagesMatch(withBarrier, smudge(points)));
+        _render->setUseFramebufferFetch(true);
     }
 }
 
