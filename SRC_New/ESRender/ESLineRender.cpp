@@ -354,8 +354,16 @@ bool ESLineRender::hasAtlas(bool withColour) {
     if (!_atlas || _atlas->hasColour() != withColour) {
         glActiveTexture(texturePos());
         _atlas = dabcanvas::TipAtlas::make(_tips ? *_tips : solidTip(), withColour);
+        noteTexture(_atlas != nullptr);
     }
     return _atlas != nullptr;
+}
+
+// One line, however many runs are refused until there is memory again.
+void ESLineRender::noteTexture(bool made) {
+    if (!std::exchange(_lacksTexture, !made) && !made) {
+        qCWarning(lcDabcanvasGL, "there is no memory for the textures of a brush");
+    }
 }
 
 void ESLineRender::useAtlas() {
@@ -387,6 +395,7 @@ bool ESLineRender::useMask() {
     if (takesRecords()) {
         if (!_paperTexture) {
             _paperTexture = dabcanvas::PaperTexture::make(*_paper);
+            noteTexture(_paperTexture != nullptr);
         }
         if (_paperTexture) {
             _paperTexture->bind(kMaskUnit, kReducedMaskUnit);

@@ -192,6 +192,7 @@ private:
     bool takesRecords() const { return _recordFields[0] >= 0; }  // the current program
     bool hasPaper() const { return _needMaskTexture && _paper && !_paper->pixels.isNull(); }
     bool useMask();
+    void noteTexture(bool made);
     void uploadTipCells();
     void drawDab(const Dab& dab);
     void clipTo(const dabcanvas::DabBounds& bounds) const;
@@ -201,6 +202,7 @@ private:
     std::shared_ptr<const dabcanvas::Picture> _paper;
     std::unique_ptr<dabcanvas::TipAtlas> _atlas;
     std::unique_ptr<dabcanvas::PaperTexture> _paperTexture;
+    bool _lacksTexture = false;  // the last that was asked for
 
     bool _needMaskTexture = false;
     float _maskScale = 1;

@@ -29,8 +29,6 @@ GLuint makeLevelTexture(const Size& size, int channels, int levels, GLint wrap) 
                      channels == 1 ? GL_RED : GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
     }
     if (takeGLErrors() > 0) {
-        qCWarning(lcDabcanvasGL, "there is no memory for a texture of %d x %d texels", size.width,
-                  size.height);
         glBindTexture(GL_TEXTURE_2D, 0);
         glDeleteTextures(1, &texture);
         return 0;

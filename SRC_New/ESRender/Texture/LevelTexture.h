@@ -10,7 +10,7 @@
 namespace dabcanvas {
 
 // Storage for so many mip levels, on the active unit and left bound there; the first one's texels are undefined until
-// they are uploaded. The caller's to delete; 0, after one log line, without the memory.
+// they are uploaded. The caller's to delete; 0 without the memory.
 GLuint makeLevelTexture(const Size& size, int channels, int levels, GLint wrap);
 
 // Into the bound texture; (x, y) is the place of the top left texel, row 0 at t = 0. Throws std::bad_alloc.
