@@ -103,14 +103,11 @@ bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t nu
     DabShape& shape = plan.shape;
     const TipTables::Pair levels = tip.levels(map.level);
     shape.levelCount = levels.second != nullptr ? 2 : 1;
+    const TipTable& second = levels.second != nullptr ? *levels.second : *levels.first;
     setWeights(shape, dab.flow, levels);
     setLevel(shape.levels[0], *levels.first, map, plan);
-    float reach = levels.first->reach;
-    if (levels.second != nullptr) {
-        setLevel(shape.levels[1], *levels.second, map, plan);
-        reach = std::max(reach, levels.second->reach);
-    }
-    setBox(shape, map, reach);
+    setLevel(shape.levels[1], second, map, plan);
+    setBox(shape, map, std::max(levels.first->reach, second.reach));
     const float straight[] = {dab.color.r, dab.color.g, dab.color.b, 1};
     std::transform(straight, straight + 4, shape.colour.begin(), [](float value) {
         return static_cast<std::uint16_t>(std::clamp(value, 0.0f, 1.0f) * 65535 + 0.5f);
@@ -130,7 +127,7 @@ TileDab inTile(const PlannedDab& plan, const Rect& tile) {
     const double across = box.acrossX * right + box.acrossY * down;
     TileDab dab;
     dab.shape = &plan.shape;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(plan.shape.levelCount); ++i) {
+    for (std::size_t i = 0; i < 2; ++i) {
         const Size& size = plan.shape.levels[i].size;
         dab.u[i] = fixedPoint((0.5 + along * plan.perWidth) * size.width - 0.5);
         dab.v[i] = fixedPoint((0.5 + across * plan.perHeight) * size.height - 0.5);
