@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 #include "Dabs/DabMap.h"
 
@@ -10,8 +11,8 @@ namespace dabcanvas {
 namespace {
 
 bool isFinite(const Dab& dab) {
-    for (const float value : {dab.x, dab.y, dab.halfSize, dab.radian, dab.halfSize * dab.roundness, dab.flow,
-                              dab.color.r, dab.color.g, dab.color.b, dab.random}) {
+    for (const float value : {dab.halfSize, dab.radian, dab.halfSize * dab.roundness, dab.flow, dab.color.r,
+                              dab.color.g, dab.color.b, dab.random}) {
         if (!std::isfinite(value)) {
             return false;
         }
@@ -23,20 +24,6 @@ std::int32_t fixedPoint(double texels) {
     constexpr double kFar = 1 << 30;
     const double scaled = std::clamp(texels * 65536, -kFar, kFar);
     return static_cast<std::int32_t>(scaled + (scaled < 0 ? -0.5 : 0.5));
-}
-
-// Pixels whose squares may meet the box.
-Rect touchedBy(const Dab& dab, const DabMap& map) {
-    const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
-    const double x = std::fabs(map.alongX) * wide + std::fabs(map.acrossX) * tall;
-    const double y = std::fabs(map.alongY) * wide + std::fabs(map.acrossY) * tall;
-    const auto pixel = [](double place) {
-        constexpr double kFar = 1 << 28;
-        return static_cast<int>(
-            std::clamp(place, -kFar, kFar));  // towards 0, which is off the layer or its edge
-    };
-    return Rect::between(pixel(dab.x - x - 0.5), pixel(dab.y - y - 0.5), pixel(dab.x + x + 1.5),
-                         pixel(dab.y + y + 1.5));
 }
 
 void setWeights(DabShape& shape, double flow, const TipTables::Pair& levels) {
@@ -82,7 +69,7 @@ void setLevel(DabLevel& level, const TipTable& table, const DabMap& map, const P
 
 }  // namespace
 
-bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t number, PlannedDab& plan) {
+bool shapeDab(const Dab& dab, TipTables& tip, PlannedDab& plan) {
     if (tip.isEmpty() || !isFinite(dab) || !(dab.halfSize > 0) || !(dab.halfSize * dab.roundness > 0) ||
         !(dab.flow > 0)) {
         return false;
@@ -91,15 +78,11 @@ bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t nu
     mirrored.flipX = dab.flipX < 0 ? -1.0f : 1.0f;
     mirrored.flipY = dab.flipY < 0 ? -1.0f : 1.0f;
     const DabMap map(mirrored, tip.size());
-    plan.touched = touchedBy(dab, map).intersected(Rect::of(layer));
-    if (plan.touched.isEmpty()) {
-        return false;
-    }
-    plan.x = dab.x;
-    plan.y = dab.y;
+    const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
+    plan.halfAcross = std::fabs(map.alongX) * wide + std::fabs(map.acrossX) * tall + 0.5;
+    plan.halfDown = std::fabs(map.alongY) * wide + std::fabs(map.acrossY) * tall + 0.5;
     plan.perWidth = 0.5 / map.halfWidth;
     plan.perHeight = 0.5 / map.halfHeight;
-    plan.number = number;
     DabShape& shape = plan.shape;
     const TipTables::Pair levels = tip.levels(map.level);
     shape.levelCount = levels.second != nullptr ? 2 : 1;
@@ -118,6 +101,32 @@ bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t nu
         shape.part = levels.part;
     }
     return true;
+}
+
+bool placeDab(const Dab& dab, const Size& layer, std::uint64_t number, PlannedDab& plan) {
+    const auto pixel = [](double place) {
+        constexpr double kFar = 1 << 28;
+        return static_cast<int>(
+            std::clamp(place, -kFar, kFar));  // towards 0, from off the layer or within a pixel
+    };
+    if (!std::isfinite(dab.x) || !std::isfinite(dab.y)) {
+        return false;
+    }
+    plan.touched = Rect::between(pixel(dab.x - plan.halfAcross), pixel(dab.y - plan.halfDown),
+                                 pixel(dab.x + plan.halfAcross + 1), pixel(dab.y + plan.halfDown + 1))
+                       .intersected(Rect::of(layer));
+    plan.x = dab.x;
+    plan.y = dab.y;
+    plan.number = number;
+    return !plan.touched.isEmpty();
+}
+
+bool haveOneShape(const Dab& one, const Dab& other) {
+    const auto all = [](const Dab& dab) {
+        return std::tie(dab.halfSize, dab.radian, dab.roundness, dab.flipX, dab.flipY, dab.flow, dab.color.r,
+                        dab.color.g, dab.color.b, dab.random, dab.tip);
+    };
+    return all(one) == all(other);
 }
 
 TileDab inTile(const PlannedDab& plan, const Rect& tile) {
