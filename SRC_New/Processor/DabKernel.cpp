@@ -144,14 +144,16 @@ bool draw(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     });
 }
 
-// Each pixel in a colour of its own.
-template <int kLevels, bool kPaper>
+// Each pixel in a colour of its own. That is what takes long: one of these loops does for all dabs, on a paper that lets
+// everything through and of a second level without weight.
 bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     constexpr std::size_t kMost = hn::MaxLanes(kInts);
     HWY_ALIGN std::int32_t coverage[kMost], right[kMost], down[kMost];
     hn::Store(Order().right, kInts, right);
     hn::Store(Order().down, kInts, down);
-    return forEachCover<kLevels, kPaper>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+    DabGround paper = ground;
+    paper.paper = ground.paper != nullptr ? ground.paper : smoothPaper();
+    return forEachCover<2, true>(dab, spans, paper, [&](int x, int y, const Cover& cover) HWY_ATTR {
         hn::Store(cover.coverage, kInts, coverage);
         for (int i = 0; i < lanes(); ++i) {
             if (coverage[i] > 0) {
@@ -164,11 +166,8 @@ bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGroun
 using Draw = bool (*)(const TileDab&, const RowSpans&, const DabGround&);
 
 Draw drawOf(const DabShape& shape, bool hasPaper) {
-    static constexpr Draw kDraws[2][2][2] = {
-        {{draw<1, false>, draw<2, false>}, {draw<1, true>, draw<2, true>}},
-        {{drawInMulticolour<1, false>, drawInMulticolour<2, false>},
-         {drawInMulticolour<1, true>, drawInMulticolour<2, true>}}};
-    return kDraws[shape.multicolour != nullptr][hasPaper][shape.levelCount - 1];
+    static constexpr Draw kDraws[2][2] = {{draw<1, false>, draw<2, false>}, {draw<1, true>, draw<2, true>}};
+    return shape.multicolour != nullptr ? drawInMulticolour : kDraws[hasPaper][shape.levelCount - 1];
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ struct DabBox {
 
 // What is the same of a dab in every tile.
 struct DabShape {
-    std::array<DabLevel, 2> levels;
+    std::array<DabLevel, 2> levels;  // of one level, twice the same
     int levelCount;
     int faint;  // further bits that the coverage is shifted right by
     DabBox box;
@@ -102,6 +102,9 @@ bool drawDabs(std::span<const TileDab> dabs, const DabGround& ground);
 // For tests: the instruction sets that there are, and the one to go on with; 0: the best.
 std::vector<std::int64_t> kernelTargets();
 void useKernelTarget(std::int64_t target);
+
+// Of a tile that lets everything through.
+const std::uint16_t* smoothPaper();
 
 // One pixel in its own colour, as the loops do it.
 void blendOne(const TileDab& dab, int x, int y, int coverage, std::uint16_t* tile);

@@ -137,14 +137,22 @@ Rect DabPainter::Inside::plan(const TileGrid<std::uint16_t>& layer, std::span<co
     multicolours.clear();
     multicolours.reserve(style.multicolour ? run.size() : 0);
     Rect touched;
+    const Dab* like = nullptr;  // the one that was planned last
     for (const Dab& dab : run) {
         if (planned == dabs.size()) {
             dabs.emplace_back();
         }
         PlannedDab& plan = dabs[planned];
-        if (!planDab(dab, tip(style, dab.tip), layer.size(), count++, plan)) {
+        const std::uint64_t number = count++;
+        if (like != nullptr && haveOneShape(dab, *like)) {
+            plan = dabs[planned - 1];
+        } else if (!shapeDab(dab, tip(style, dab.tip), plan)) {
             continue;
         }
+        if (!placeDab(dab, layer.size(), number, plan)) {
+            continue;
+        }
+        like = &dab;
         if (style.multicolour) {
             plan.shape.multicolour = &multicolours.emplace_back(dab, style);
         }

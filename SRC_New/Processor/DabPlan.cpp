@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 #include "Dabs/DabMap.h"
 
@@ -10,8 +11,8 @@ namespace dabcanvas {
 namespace {
 
 bool isFinite(const Dab& dab) {
-    for (const float value : {dab.x, dab.y, dab.halfSize, dab.radian, dab.halfSize * dab.roundness, dab.flow,
-                              dab.color.r, dab.color.g, dab.color.b, dab.random}) {
+    for (const float value : {dab.halfSize, dab.radian, dab.halfSize * dab.roundness, dab.flow, dab.color.r,
+                              dab.color.g, dab.color.b, dab.random}) {
         if (!std::isfinite(value)) {
             return false;
         }
@@ -23,20 +24,6 @@ std::int32_t fixedPoint(double texels) {
     constexpr double kFar = 1 << 30;
     const double scaled = std::clamp(texels * 65536, -kFar, kFar);
     return static_cast<std::int32_t>(scaled + (scaled < 0 ? -0.5 : 0.5));
-}
-
-// Pixels whose squares may meet the box.
-Rect touchedBy(const Dab& dab, const DabMap& map) {
-    const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
-    const double x = std::fabs(map.alongX) * wide + std::fabs(map.acrossX) * tall;
-    const double y = std::fabs(map.alongY) * wide + std::fabs(map.acrossY) * tall;
-    const auto pixel = [](double place) {
-        constexpr double kFar = 1 << 28;
-        return static_cast<int>(
-            std::clamp(place, -kFar, kFar));  // towards 0, which is off the layer or its edge
-    };
-    return Rect::between(pixel(dab.x - x - 0.5), pixel(dab.y - y - 0.5), pixel(dab.x + x + 1.5),
-                         pixel(dab.y + y + 1.5));
 }
 
 void setWeights(DabShape& shape, double flow, const TipTables::Pair& levels) {
@@ -82,7 +69,7 @@ void setLevel(DabLevel& level, const TipTable& table, const DabMap& map, const P
 
 }  // namespace
 
-bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t number, PlannedDab& plan) {
+bool shapeDab(const Dab& dab, TipTables& tip, PlannedDab& plan) {
     if (tip.isEmpty() || !isFinite(dab) || !(dab.halfSize > 0) || !(dab.halfSize * dab.roundness > 0) ||
         !(dab.flow > 0)) {
         return false;
@@ -91,26 +78,19 @@ bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t nu
     mirrored.flipX = dab.flipX < 0 ? -1.0f : 1.0f;
     mirrored.flipY = dab.flipY < 0 ? -1.0f : 1.0f;
     const DabMap map(mirrored, tip.size());
-    plan.touched = touchedBy(dab, map).intersected(Rect::of(layer));
-    if (plan.touched.isEmpty()) {
-        return false;
-    }
-    plan.x = dab.x;
-    plan.y = dab.y;
+    const double wide = double{map.halfWidth} + map.foot, tall = double{map.halfHeight} + map.foot;
+    plan.halfAcross = std::fabs(map.alongX) * wide + std::fabs(map.acrossX) * tall + 0.5;
+    plan.halfDown = std::fabs(map.alongY) * wide + std::fabs(map.acrossY) * tall + 0.5;
     plan.perWidth = 0.5 / map.halfWidth;
     plan.perHeight = 0.5 / map.halfHeight;
-    plan.number = number;
     DabShape& shape = plan.shape;
     const TipTables::Pair levels = tip.levels(map.level);
     shape.levelCount = levels.second != nullptr ? 2 : 1;
+    const TipTable& second = levels.second != nullptr ? *levels.second : *levels.first;
     setWeights(shape, dab.flow, levels);
     setLevel(shape.levels[0], *levels.first, map, plan);
-    float reach = levels.first->reach;
-    if (levels.second != nullptr) {
-        setLevel(shape.levels[1], *levels.second, map, plan);
-        reach = std::max(reach, levels.second->reach);
-    }
-    setBox(shape, map, reach);
+    setLevel(shape.levels[1], second, map, plan);
+    setBox(shape, map, std::max(levels.first->reach, second.reach));
     const float straight[] = {dab.color.r, dab.color.g, dab.color.b, 1};
     std::transform(straight, straight + 4, shape.colour.begin(), [](float value) {
         return static_cast<std::uint16_t>(std::clamp(value, 0.0f, 1.0f) * 65535 + 0.5f);
@@ -123,6 +103,32 @@ bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t nu
     return true;
 }
 
+bool placeDab(const Dab& dab, const Size& layer, std::uint64_t number, PlannedDab& plan) {
+    const auto pixel = [](double place) {
+        constexpr double kFar = 1 << 28;
+        return static_cast<int>(
+            std::clamp(place, -kFar, kFar));  // towards 0, from off the layer or within a pixel
+    };
+    if (!std::isfinite(dab.x) || !std::isfinite(dab.y)) {
+        return false;
+    }
+    plan.touched = Rect::between(pixel(dab.x - plan.halfAcross), pixel(dab.y - plan.halfDown),
+                                 pixel(dab.x + plan.halfAcross + 1), pixel(dab.y + plan.halfDown + 1))
+                       .intersected(Rect::of(layer));
+    plan.x = dab.x;
+    plan.y = dab.y;
+    plan.number = number;
+    return !plan.touched.isEmpty();
+}
+
+bool haveOneShape(const Dab& one, const Dab& other) {
+    const auto all = [](const Dab& dab) {
+        return std::tie(dab.halfSize, dab.radian, dab.roundness, dab.flipX, dab.flipY, dab.flow, dab.color.r,
+                        dab.color.g, dab.color.b, dab.random, dab.tip);
+    };
+    return all(one) == all(other);
+}
+
 TileDab inTile(const PlannedDab& plan, const Rect& tile) {
     const DabBox& box = plan.shape.box;
     const double right = tile.x + 0.5 - plan.x, down = tile.y + 0.5 - plan.y;
@@ -130,7 +136,7 @@ TileDab inTile(const PlannedDab& plan, const Rect& tile) {
     const double across = box.acrossX * right + box.acrossY * down;
     TileDab dab;
     dab.shape = &plan.shape;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(plan.shape.levelCount); ++i) {
+    for (std::size_t i = 0; i < 2; ++i) {
         const Size& size = plan.shape.levels[i].size;
         dab.u[i] = fixedPoint((0.5 + along * plan.perWidth) * size.width - 0.5);
         dab.v[i] = fixedPoint((0.5 + across * plan.perHeight) * size.height - 0.5);

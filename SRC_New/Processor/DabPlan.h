@@ -16,12 +16,17 @@ struct PlannedDab {
     DabShape shape{};  // in one colour
     Rect touched;      // pixels that may change, on the layer
     double x = 0, y = 0;
-    double perWidth = 0, perHeight = 0;  // of the box
+    double halfAcross = 0, halfDown = 0;  // of the upright rectangle around it
+    double perWidth = 0, perHeight = 0;   // of the box
     std::uint64_t number = 0;
 };
 
-// False, and nothing planned, for a dab that cannot be seen or is not finite.
-bool planDab(const Dab& dab, TipTables& tip, const Size& layer, std::uint64_t number, PlannedDab& plan);
+// First all but where it lies, then that. False for a dab that cannot be seen or is not finite: nothing is planned.
+bool shapeDab(const Dab& dab, TipTables& tip, PlannedDab& plan);
+bool placeDab(const Dab& dab, const Size& layer, std::uint64_t number, PlannedDab& plan);
+
+// They differ in nothing but where they lie.
+bool haveOneShape(const Dab& one, const Dab& other);
 
 // The dab in the tile of these pixels.
 TileDab inTile(const PlannedDab& dab, const Rect& tile);

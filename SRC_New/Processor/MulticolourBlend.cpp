@@ -5,6 +5,15 @@
 
 namespace dabcanvas {
 
+const std::uint16_t* smoothPaper() {
+    static const std::array<std::uint16_t, kTileSide* kTileSide> kAll = [] {
+        std::array<std::uint16_t, kTileSide * kTileSide> all;
+        all.fill(32767);
+        return all;
+    }();
+    return kAll.data();
+}
+
 void blendOne(const TileDab& dab, int x, int y, int coverage, std::uint16_t* tile) {
     const DabShape& shape = *dab.shape;
     const auto read = [&](std::size_t i) {
