@@ -3,6 +3,7 @@
 
 #include <epoxy/gl.h>
 
+#include <array>
 #include <iterator>
 #include <utility>
 
@@ -97,22 +98,34 @@ void GLSurface::warmUp() {
     _context->setBlendModelForType(ESRenderTypeLine);
     _line.render->drawPoints(&outside, 1);
     if (isFine()) {
-        const Dab dab{.x = -100,
-                      .y = -100,
-                      .halfSize = 1,
-                      .radian = 0,
-                      .roundness = 1,
-                      .flipX = 1,
-                      .flipY = 1,
-                      .flow = 1,
-                      .color = {0, 0, 0},
-                      .random = 0,
-                      .tip = 0};
-        _line.render->drawDabsFinely({&dab, 1}, 0);
+        warmUpDabs();
     }
     _context->beginRenderForType(ESRenderTypeCanvas);
     blend({-100, -100, 1, 1}, ESBlendTypeNormal, 1, false, 0);
     _context->finishRender();
+}
+
+// Of a tip as it is, and of one between two of its levels.
+void GLSurface::warmUpDabs() {
+    constexpr int kSide = 4;
+    static const std::array<std::uint8_t, kSide * kSide * 4> texels{};
+    const auto view = PixelView::topRowFirst(texels.data(), {kSide, kSide});
+    const DabStyle style{.tips = std::make_shared<const TipSet>(1, Picture{view, 1, {}}), .paper = {}};
+    for (const float width : {2.0f * kSide, 0.7f * kSide}) {
+        const Dab dab{.x = -100,
+                      .y = -100,
+                      .halfSize = width / 2,
+                      .radian = 0,
+                      .roundness = 1,
+                      .flipX = 1,
+                      .flipY = 1,
+                      .flow = 0,
+                      .color = {0, 0, 0},
+                      .random = 0,
+                      .tip = 0};
+        drawInto(ESRenderTypeLine, _line, {&dab, 1}, style);
+    }
+    _line.dabs = 0;
 }
 
 GLSurface::~GLSurface() {

@@ -76,6 +76,7 @@ private:
     GLSurface(const Size& size, std::shared_ptr<ThreadGL> gl, std::unique_ptr<ESContext> context);
     bool makeRenders();
     void warmUp();
+    void warmUpDabs();
     ESSmudgeRender* smudgeRender();
     void warmUpSmudging();
 
