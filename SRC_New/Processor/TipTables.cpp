@@ -40,15 +40,15 @@ TipTable tableOf(const Pixels& level) {
     TipTable table{{}, level.size, reachOf(level)};
     const int width = level.size.width, height = level.size.height;
     table.pairs.resize(static_cast<std::size_t>(table.stride()) * static_cast<std::size_t>(height) + 2);
-    std::uint8_t* pair = table.pairs.data();
     for (int y = 0; y < height; ++y) {
         const std::uint8_t *row = level.at(0, y), *below = level.at(0, std::min(y + 1, height - 1));
+        std::uint8_t* pairs = table.pairs.data() + static_cast<std::ptrdiff_t>(y) * table.stride();
         for (int x = 0; x < width; ++x) {
-            *pair++ = row[x];
-            *pair++ = below[x];
+            pairs[2 * x] = row[x];
+            pairs[2 * x + 1] = below[x];
         }
-        *pair++ = row[width - 1];
-        *pair++ = below[width - 1];
+        pairs[2 * width] = row[width - 1];
+        pairs[2 * width + 1] = below[width - 1];
     }
     return table;
 }
