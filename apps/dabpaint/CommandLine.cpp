@@ -303,6 +303,8 @@ template <typename... Visitors>
 struct Overloaded : Visitors... {
     using Visitors::operator()...;
 };
+template <typename... Visitors>
+Overloaded(Visitors...) -> Overloaded<Visitors...>;  // which not every compiler finds by itself
 
 int print(const QByteArray& text) {
     printOut(std::string_view(text.constData(), std::size_t(text.size())));
