@@ -27,18 +27,17 @@ namespace {
 
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
-constexpr float kRadius = 20;
 constexpr float kLeast = 0.23f;
 constexpr float kSpacing = 0.15f;
 constexpr LPControlParams kPressureOnly{1, 0, 0};
 
-std::unique_ptr<QDDrawCanvas> makeCanvas() {
+std::unique_ptr<QDDrawCanvas> makeCanvas(float radius) {
     auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, kWidth, kHeight));
     if (!canvas) {
         std::fprintf(stderr, "a canvas cannot be made\n");
         std::exit(1);
     }
-    canvas->setRadius(kRadius);
+    canvas->setRadius(radius);
     canvas->setMinRadius(kLeast);
     canvas->setPointsDistance(kSpacing);
     canvas->setRadiusControl(kPressureOnly);
@@ -46,16 +45,23 @@ std::unique_ptr<QDDrawCanvas> makeCanvas() {
     return canvas;
 }
 
-// The session up to the finished pixels, which are read back.
-void paint(QDDrawCanvas& canvas, const Recording& recording) {
+// The session up to the finished pixels, which are read back; with a look, after every event.
+void paint(QDDrawCanvas& canvas, const Recording& recording, bool looks = false) {
+    const auto look = [&] {
+        if (looks) {
+            benchmark::DoNotOptimize(canvas.displayImage().constBits());
+        }
+    };
     for (const Stroke& stroke : recording.strokes) {
         const auto at = [&](std::size_t i) { return QPointF(stroke[i].x, stroke[i].y); };
         const std::size_t last = stroke.size() - 1;
         canvas.drawingWithBeginPoint(at(0), stroke[0].pressure, -1, false);
         for (std::size_t i = 1; i < last; ++i) {
             canvas.drawingWithMoveToPoint(at(i), stroke[i].pressure, -1, false);
+            look();
         }
         canvas.drawingWithEndPoint(at(last), stroke[last].pressure, -1, false);
+        look();
     }
     benchmark::DoNotOptimize(canvas.displayImage().constBits());
 }
@@ -76,9 +82,9 @@ double peakMiB() {
 
 #ifdef DABCANVAS_HAVE_MYPAINT
 // The width our line process gives a dab under steady pressure.
-float widthAtPressure(float pressure) {
+float widthAtPressure(float radius, float pressure) {
     LPLineParams line = _lpDefaultParaObj;
-    line.radius = kRadius;
+    line.radius = radius;
     line.minRadius = kLeast;
     line.maxRadius = 1;
     line.radiusControl = kPressureOnly;
@@ -100,27 +106,46 @@ float widthAtPressure(float pressure) {
 }
 #endif
 
+// How a session is gone through.
+enum Going : std::int64_t { readOnce, lookAtEvents, smudgeAndLook };
+
 void session(benchmark::State& state) {
     const Recording& recording = penSession();
-    const std::unique_ptr<QDDrawCanvas> canvas = makeCanvas();
+    const auto radius = static_cast<float>(state.range(0));
+    const auto going = static_cast<Going>(state.range(1));
+    const bool looks = going != readOnce;
+    const std::unique_ptr<QDDrawCanvas> canvas = makeCanvas(radius);
     paint(*canvas, recording);
+    canvas->setBrushType(going == smudgeAndLook ? 3 : 0);
     const double peak = peakMiB();  // before libmypaint takes its own
     Rounds own;
 #ifdef DABCANVAS_HAVE_MYPAINT
-    PeerBrush brush(widthAtPressure, kSpacing);
+    PeerBrush brush([radius](float pressure) { return widthAtPressure(radius, pressure); }, kSpacing);
     CountingSurface counting;
     brush.replay(recording, counting.interface());
     setPeerThreads(1);
+    PaintedSurface painted(kWidth, kHeight);
+    if (going == smudgeAndLook) {
+        brush.replay(recording, painted.interface());  // there must be something to smudge
+        brush.smudge();
+    }
     Rounds peer;
 #endif
     const std::uint64_t before = canvas->strokeStats().dabs;
     for (auto _ : state) {
-        canvas->clear();
+        if (going != smudgeAndLook) {
+            canvas->clear();
+        }
         canvas->displayImage();
-        state.SetIterationTime(own.time([&] { paint(*canvas, recording); }));
+        state.SetIterationTime(own.time([&] { paint(*canvas, recording, looks); }));
 #ifdef DABCANVAS_HAVE_MYPAINT
-        PaintedSurface surface(kWidth, kHeight);
-        peer.time([&] { brush.replay(recording, surface.interface()); });
+        PaintedSurface fresh(kWidth, kHeight);
+        PaintedSurface& surface = going == smudgeAndLook ? painted : fresh;
+        const auto look = [&](const MyPaintRectangle& rect) { surface.fetch(rect); };
+        peer.time([&] {
+            looks ? brush.replay(recording, surface.interface(), look)
+                  : brush.replay(recording, surface.interface());
+        });
 #endif
     }
     const auto dabs =
@@ -136,13 +161,17 @@ void session(benchmark::State& state) {
     state.counters["peer/own"] = peer.median() / own.median();
 #endif
 }
-BENCHMARK(session)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(25);
+BENCHMARK(session)
+    ->ArgsProduct({{20, 100}, {readOnce, lookAtEvents, smudgeAndLook}})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(15);
 
 // Each stage waits for its own GL work here, so the sum is more than a session takes; the shares are what
 // counts. What no stage is charged for is waiting for strokes to begin, clearing layers and reading back.
 void stages(benchmark::State& state) {
     const Recording& recording = penSession();
-    const std::unique_ptr<QDDrawCanvas> canvas = makeCanvas();
+    const std::unique_ptr<QDDrawCanvas> canvas = makeCanvas(20);
     paint(*canvas, recording);
     canvas->setProfiling(true);
     const dabcanvas::StrokeStats before = canvas->strokeStats();

@@ -5,6 +5,7 @@
 #include <mypaint-tiled-surface.h>
 #include <omp.h>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -30,7 +31,10 @@ std::size_t CountingSurface::takeDabs() {
 }
 
 PaintedSurface::PaintedSurface(int width, int height)
-    : _surface(mypaint_fixed_tiled_surface_interface(mypaint_fixed_tiled_surface_new(width, height)),
+    : _width(width),
+      _height(height),
+      _rows(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4),
+      _surface(mypaint_fixed_tiled_surface_interface(mypaint_fixed_tiled_surface_new(width, height)),
                &mypaint_surface_unref) {
     // All tiles are in memory, so asking for them from several threads is safe.
     reinterpret_cast<MyPaintTiledSurface*>(_surface.get())->threadsafe_tile_requests = TRUE;
@@ -39,6 +43,32 @@ PaintedSurface::PaintedSurface(int width, int height)
 void PaintedSurface::finish() {
     MyPaintRectangle changed;
     mypaint_surface_end_atomic(_surface.get(), &changed);
+}
+
+void PaintedSurface::fetch(const MyPaintRectangle& rect) {
+    auto* const tiled = reinterpret_cast<MyPaintTiledSurface*>(_surface.get());
+    constexpr int kTile = MYPAINT_TILE_SIZE;
+    const int left = std::max(rect.x, 0), top = std::max(rect.y, 0);
+    const int right = std::min(rect.x + rect.width, _width), bottom = std::min(rect.y + rect.height, _height);
+    for (int ty = top / kTile; ty * kTile < bottom; ++ty) {
+        for (int tx = left / kTile; tx * kTile < right; ++tx) {
+            MyPaintTileRequest request;
+            mypaint_tile_request_init(&request, 0, tx, ty, TRUE);
+            mypaint_tiled_surface_tile_request_start(tiled, &request);
+            const int first = std::max(left, tx * kTile), end = std::min(right, (tx + 1) * kTile);
+            for (int y = std::max(top, ty * kTile); y < std::min(bottom, (ty + 1) * kTile); ++y) {
+                const std::uint16_t* from = request.buffer + ((y % kTile) * kTile + first % kTile) * 4;
+                std::uint8_t* to =
+                    _rows.data() + (static_cast<std::size_t>(y) * static_cast<std::size_t>(_width) +
+                                    static_cast<std::size_t>(first)) *
+                                       4;
+                for (int i = 0; i < (end - first) * 4; ++i) {
+                    to[i] = static_cast<std::uint8_t>((from[i] * 255u + (1u << 14)) >> 15);
+                }
+            }
+            mypaint_tiled_surface_tile_request_end(tiled, &request);
+        }
+    }
 }
 
 PeerBrush::PeerBrush(float spacing) : _brush(mypaint_brush_new(), &mypaint_brush_unref) {
@@ -80,7 +110,13 @@ PeerBrush::PeerBrush(const std::function<float(float)>& widthAt, float spacing) 
     }
 }
 
-void PeerBrush::replay(const Recording& recording, MyPaintSurface* surface) {
+void PeerBrush::smudge() {
+    mypaint_brush_set_base_value(_brush.get(), MYPAINT_BRUSH_SETTING_SMUDGE, 0.9f);
+    mypaint_brush_set_base_value(_brush.get(), MYPAINT_BRUSH_SETTING_SMUDGE_LENGTH, 0.5f);
+}
+
+void PeerBrush::replay(const Recording& recording, MyPaintSurface* surface,
+                       const std::function<void(const MyPaintRectangle&)>& changed) {
     MyPaintBrush* const brush = _brush.get();
     for (const Stroke& stroke : recording.strokes) {
         mypaint_brush_reset(brush);  // the first sample then only sets the position
@@ -92,8 +128,11 @@ void PeerBrush::replay(const Recording& recording, MyPaintSurface* surface) {
             mypaint_brush_stroke_to(brush, surface, sample.x, sample.y, sample.pressure, 0, 0,
                                     sample.interval);
             if (surface->end_atomic != nullptr) {
-                MyPaintRectangle changed;
-                mypaint_surface_end_atomic(surface, &changed);
+                MyPaintRectangle rect;
+                mypaint_surface_end_atomic(surface, &rect);
+                if (changed) {
+                    changed(rect);
+                }
             }
         }
     }

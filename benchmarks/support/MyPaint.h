@@ -6,8 +6,10 @@
 #include <mypaint-surface.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "support/Recording.h"
 
@@ -44,8 +46,12 @@ public:
     MyPaintSurface* interface() { return _surface.get(); }
     // Ends a transaction: draws the dabs gathered since mypaint_surface_begin_atomic().
     void finish();
+    // The pixels of a rectangle as rows of 8 bits a channel, to show them.
+    void fetch(const MyPaintRectangle& rect);
 
 private:
+    int _width, _height;
+    std::vector<std::uint8_t> _rows;
     std::unique_ptr<MyPaintSurface, decltype(&mypaint_surface_unref)> _surface;
 };
 
@@ -57,8 +63,12 @@ public:
     // Pressure acts on the width instead, which the function gives in pixels for a pressure of 0..1.
     PeerBrush(const std::function<float(float)>& widthAt, float spacing);
 
-    // Every stroke of the recording, a transaction a sample; the surface's begin and end may be null.
-    void replay(const Recording& recording, MyPaintSurface* surface);
+    // Takes up colour and carries it along, at full opacity.
+    void smudge();
+    // Every stroke of the recording, a transaction a sample; the surface's begin and end may be null. `changed` is called
+    // after each with the rectangle that it drew in.
+    void replay(const Recording& recording, MyPaintSurface* surface,
+                const std::function<void(const MyPaintRectangle&)>& changed = {});
 
 private:
     explicit PeerBrush(float spacing);
