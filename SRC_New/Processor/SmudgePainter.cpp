@@ -34,6 +34,16 @@ struct Between {
     }
 };
 
+// Of the pixels from `first` on, which lie `step` texels apart.
+std::vector<Between> betweens(int first, int count, double step, double start, int from, int end) {
+    std::vector<Between> places;
+    places.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        places.emplace_back(start + (first + i + 0.5) * step, from, end);
+    }
+    return places;
+}
+
 struct Colour {
     float channel[4];
 };
@@ -58,6 +68,15 @@ float noiseOf(std::uint32_t noise) {
 
 Rect texelsUnder(double left, double top, double right, double bottom, const Size& layer) {
     return Rect::covering(left - 1, top - 1, right + 1, bottom + 1).intersected(Rect::of(layer));
+}
+
+// Those, or the one that is nearest where all of them lie off the layer.
+Rect nearestTexels(double left, double top, double right, double bottom, const Size& layer) {
+    const Rect rect = texelsUnder(left, top, right, bottom, layer);
+    const auto within = [](double place, int size) {
+        return static_cast<int>(std::clamp(place, 0.0, static_cast<double>(size - 1)));
+    };
+    return rect.isEmpty() ? Rect{within(left, layer.width), within(top, layer.height), 1, 1} : rect;
 }
 
 }  // namespace
@@ -115,10 +134,11 @@ void SmudgePainter::showTile(std::size_t index) {
         const auto* from = _picture.tile(_picture.indexAt(x, y));
         return from != nullptr ? from->at(x % kTileSide, y % kTileSide) : kTransparent;
     };
+    const std::vector<Between> columns = betweens(rect.x, rect.width, 1 / _scaleX, 0, 0, _size.width);
     for (int y = rect.y; y < rect.bottom(); ++y) {
         const Between down((y + 0.5) / _scaleY, 0, _size.height);
         for (int x = rect.x; x < rect.right(); ++x) {
-            const Colour color = mixedAt(Between((x + 0.5) / _scaleX, 0, _size.width), down, pixelAt);
+            const Colour color = mixedAt(columns[static_cast<std::size_t>(x - rect.x)], down, pixelAt);
             std::uint16_t* to = tile.at(x % kTileSide, y % kTileSide);
             for (int i = 0; i < 4; ++i) {
                 to[i] = static_cast<std::uint16_t>(color.channel[i] * 257 + 0.5f);
@@ -197,57 +217,55 @@ Rect SmudgePainter::smudgeOne(const SmudgeDab& smudge, const Mixture& mixture, c
     return changed.intersected(Rect::of(_size));
 }
 
+// Takes the dab out of `_covers`, which is empty again.
+void SmudgePainter::takeCover(const Rect& covered) {
+    take(_covers, covered, _cover);
+    _covers.forEachIn(covered, [&](std::size_t index, const Rect& part) {
+        for (int y = part.y; _covers.tile(index) != nullptr && y < part.bottom(); ++y) {
+            std::memset(_covers.writable(index).at(part.x % kTileSide, y % kTileSide), 0,
+                        static_cast<std::size_t>(part.width) * 8);
+        }
+    });
+}
+
 // The layer exchanges what lies under the dab that `_covers` holds, `origin` away from there.
 void SmudgePainter::exchange(const Rect& covered, const Rect& origin, const SmudgeDab& smudge,
                              const Mixture& mixture, std::uint64_t count) {
+    takeCover(covered);
     const double stretch = smudge.pickUpHalf / smudge.dab.halfSize;
-    const auto pickX = [&](double x) {
-        return (smudge.pickUp.x + (x / _scaleX - smudge.dab.x) * stretch) * _scaleX;
-    };
-    const auto pickY = [&](double y) {
-        return (smudge.pickUp.y + (y / _scaleY - smudge.dab.y) * stretch) * _scaleY;
-    };
+    const double startX = (smudge.pickUp.x - smudge.dab.x * stretch) * _scaleX;
+    const double startY = (smudge.pickUp.y - smudge.dab.y * stretch) * _scaleY;
     const Rect under{covered.x + origin.x, covered.y + origin.y, covered.width, covered.height};
     // What is taken up is taken before the dab changes it; off the layer its rim counts.
-    Rect picked = texelsUnder(pickX(under.x), pickY(under.y), pickX(under.right()), pickY(under.bottom()),
-                              _layer.size());
+    const Rect picked =
+        nearestTexels(startX + under.x * stretch, startY + under.y * stretch,
+                      startX + under.right() * stretch, startY + under.bottom() * stretch, _layer.size());
     if (mixture.pickUp > 0) {
-        const auto near = [](double place, int size) {
-            return std::clamp(static_cast<int>(std::clamp(place, 0.0, 1e6)), 0, size - 1);
-        };
-        if (picked.isEmpty()) {
-            picked = {near(pickX(under.x), _layer.size().width), near(pickY(under.y), _layer.size().height),
-                      1, 1};
-        }
         provide(picked);
         take(_layer, picked, _picked);
     }
+    const std::vector<Between> columns =
+        betweens(under.x, under.width, stretch, startX, picked.x, picked.right());
+    const std::vector<Between> rows =
+        betweens(under.y, under.height, stretch, startY, picked.y, picked.bottom());
     const auto pickedAt = [this](int x, int y) { return _picked.at(x, y); };
-    const std::uint32_t later = static_cast<std::uint32_t>(count);
-    _covers.forEachIn(covered, [&](std::size_t index, const Rect& part) {
-        if (_covers.tile(index) == nullptr) {
-            return;
-        }
-        auto& cover = _covers.writable(index);
+    _layer.forEachIn(under, [&](std::size_t index, const Rect& part) {
+        auto& tile = _layer.writable(index);
         for (int y = part.y; y < part.bottom(); ++y) {
-            const int row = y + origin.y;
-            const Between down(pickY(row + 0.5), picked.y, picked.bottom());
-            for (int x = part.x; x < part.right(); ++x) {
-                std::uint16_t* const alpha = cover.at(x % kTileSide, y % kTileSide);
-                if (alpha[3] == 0) {
+            const std::uint16_t* cover = _cover.at(part.x - origin.x, y - origin.y);
+            std::uint16_t* to = tile.at(part.x % kTileSide, y % kTileSide);
+            for (int x = part.x; x < part.right(); ++x, cover += 4, to += 4) {
+                if (cover[3] == 0) {
                     continue;
                 }
-                const float share = static_cast<float>(alpha[3]) / kFull;
-                std::memset(alpha, 0, 8);
-                const int column = x + origin.x;
                 Colour color{};
                 if (mixture.pickUp > 0) {
-                    color = mixedAt(Between(pickX(column + 0.5), picked.x, picked.right()), down, pickedAt);
+                    color = mixedAt(columns[static_cast<std::size_t>(x - under.x)],
+                                    rows[static_cast<std::size_t>(y - under.y)], pickedAt);
                 }
-                auto& tile = _layer.writable(_layer.indexAt(column, row));
-                std::uint16_t* const to = tile.at(column % kTileSide, row % kTileSide);
-                const float rest = 1 - share * mixture.exchanged,
-                            noise = noiseOf(noiseAt(column, row, later));
+                const float share = static_cast<float>(cover[3]) / kFull,
+                            rest = 1 - share * mixture.exchanged;
+                const float noise = noiseOf(noiseAt(x, y, static_cast<std::uint32_t>(count)));
                 for (int i = 0; i < 4; ++i) {
                     const float value = static_cast<float>(to[i]) * rest +
                                         share * (mixture.own.channel[i] + mixture.pickUp * color.channel[i]);
@@ -260,6 +278,38 @@ void SmudgePainter::exchange(const Rect& covered, const Rect& origin, const Smud
 
 // ---- The picture
 
+namespace {
+
+// What a dab brought, of which the layer holds `now` and held `then`. The layer is coarser than the picture: what it has
+// now less what remains of what it had is all that is enlarged, and the picture keeps its detail where dabs were thin.
+Colour broughtBy(const Colour& now, const Colour& then, float share) {
+    Colour brought;
+    for (int i = 0; i < 4; ++i) {
+        brought.channel[i] = std::max(now.channel[i] - then.channel[i] * (1 - share), 0.0f) / kFull;
+    }
+    // At hard rims the layer does not agree with the coverage; what is too much keeps its colour.
+    const float kept = std::min(1.0f, share / std::max(brought.channel[3], 1e-6f));
+    for (float& channel : brought.channel) {
+        channel *= kept;
+    }
+    return brought;
+}
+
+void blendPixel(std::uint8_t* to, const std::uint8_t* back, const Colour& brought, float share, float opacity,
+                float noise) {
+    const float most = brought.channel[3];
+    for (int i = 0; i < 4; ++i) {
+        const float canvas = back[i], added = std::min(brought.channel[i], most);
+        to[i] = static_cast<std::uint8_t>(
+            std::clamp(canvas + opacity * (added * 255 - canvas * share) + noise, 0.0f, 255.0f));
+    }
+    for (int i = 0; i < 3; ++i) {
+        to[i] = std::min(to[i], to[3]);
+    }
+}
+
+}  // namespace
+
 void SmudgePainter::composite(const MutablePixelView& picture, const PixelView& background,
                               const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
                               std::uint32_t commits) {
@@ -268,40 +318,21 @@ void SmudgePainter::composite(const MutablePixelView& picture, const PixelView& 
     provide(texels);
     take(_layer, texels, _picked);
     take(_before, texels, _old);
-    for (int y = part.y; y < part.bottom(); ++y) {
-        const Between down((y + 0.5) * _scaleY, texels.y, texels.bottom());
-        for (int x = part.x; x < part.right(); ++x) {
-            const std::uint16_t alpha = exchanged.at(x % kTileSide, y % kTileSide)[3];
-            if (alpha == 0) {
+    const std::vector<Between> columns = betweens(part.x, part.width, _scaleX, 0, texels.x, texels.right());
+    const auto nowAt = [this](int x, int y) { return _picked.at(x, y); };
+    const auto thenAt = [this](int x, int y) { return _old.at(x, y); };
+    for (int y = 0; y < part.height; ++y) {
+        const Between down((part.y + y + 0.5) * _scaleY, texels.y, texels.bottom());
+        const std::uint16_t* alpha = exchanged.at(part.x % kTileSide, (part.y + y) % kTileSide) + 3;
+        for (int x = 0; x < part.width; ++x, alpha += 4) {
+            if (*alpha == 0) {
                 continue;  // no dab was here, so not a bit of it may change
             }
-            const float share = static_cast<float>(alpha) / kFull;
-            const Between along((x + 0.5) * _scaleX, texels.x, texels.right());
-            // The layer holds the picture at half its resolution. What the dabs brought is what it has now less what
-            // remains of what it had; only that is enlarged, and the picture keeps its detail where the dabs were thin.
-            const Colour now =
-                mixedAt(along, down, [this](int column, int row) { return _picked.at(column, row); });
-            const Colour then =
-                mixedAt(along, down, [this](int column, int row) { return _old.at(column, row); });
-            Colour brought;
-            for (int i = 0; i < 4; ++i) {
-                brought.channel[i] = std::max(now.channel[i] - then.channel[i] * (1 - share), 0.0f) / kFull;
-            }
-            // At hard rims the layer's coarser pixels do not agree with the coverage; what is too much keeps its colour.
-            const float kept = std::min(1.0f, share / std::max(brought.channel[3], 1e-6f));
-            const float most = brought.channel[3] * kept;
-            const std::uint8_t* const back = background.at(x - part.x, y - part.y);
-            std::uint8_t* const to = picture.at(x - part.x, y - part.y);
-            const float noise = noiseOf(noiseAt(x, y, commits));
-            const auto exchangedAt = [&](int channel, float added) {
-                const float canvas = back[channel];
-                const float value = canvas + opacity * (added * 255 - canvas * share) + noise;
-                return static_cast<std::uint8_t>(std::clamp(value, 0.0f, 255.0f));
-            };
-            to[3] = exchangedAt(3, most);
-            for (int i = 0; i < 3; ++i) {
-                to[i] = std::min(exchangedAt(i, std::min(brought.channel[i] * kept, most)), to[3]);
-            }
+            const Between& along = columns[static_cast<std::size_t>(x)];
+            const float share = static_cast<float>(*alpha) / kFull;
+            blendPixel(picture.at(x, y), background.at(x, y),
+                       broughtBy(mixedAt(along, down, nowAt), mixedAt(along, down, thenAt), share), share,
+                       opacity, noiseOf(noiseAt(part.x + x, part.y + y, commits)));
         }
     }
 }

@@ -58,7 +58,8 @@ private:
     static void take(const Layer& from, const Rect& rect, Texels& to);
     Dab inLayer(const Dab& dab) const;
     Rect smudgeOne(const SmudgeDab& dab, const Mixture& mixture, const DabStyle& style, std::uint64_t count);
-    void exchange(const Rect& box, const Rect& origin, const SmudgeDab& dab, const Mixture& mixture,
+    void takeCover(const Rect& covered);
+    void exchange(const Rect& covered, const Rect& origin, const SmudgeDab& dab, const Mixture& mixture,
                   std::uint64_t count);
 
     Size _size;
@@ -67,7 +68,7 @@ private:
     double _scaleX, _scaleY;          // of the layer to the picture
     DabPainter _painter;
     Layer _covers;  // one dab, by itself
-    Texels _picked, _old;
+    Texels _cover, _picked, _old;
 };
 
 }  // namespace dabcanvas
