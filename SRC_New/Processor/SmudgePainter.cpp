@@ -7,6 +7,7 @@
 
 #include "Dabs/DabBounds.h"
 #include "Processor/BlendRows.h"
+#include "Processor/SmudgeRows.h"
 
 namespace dabcanvas {
 namespace {
@@ -280,31 +281,11 @@ void SmudgePainter::exchange(const Rect& covered, const Rect& origin, const Smud
 
 namespace {
 
-// What a dab brought, of which the layer holds `now` and held `then`. The layer is coarser than the picture: what it has
-// now less what remains of what it had is all that is enlarged, and the picture keeps its detail where dabs were thin.
-Colour broughtBy(const Colour& now, const Colour& then, float share) {
-    Colour brought;
-    for (int i = 0; i < 4; ++i) {
-        brought.channel[i] = std::max(now.channel[i] - then.channel[i] * (1 - share), 0.0f) / kFull;
-    }
-    // At hard rims the layer does not agree with the coverage; what is too much keeps its colour.
-    const float kept = std::min(1.0f, share / std::max(brought.channel[3], 1e-6f));
-    for (float& channel : brought.channel) {
-        channel *= kept;
-    }
-    return brought;
-}
-
-void blendPixel(std::uint8_t* to, const std::uint8_t* back, const Colour& brought, float share, float opacity,
-                float noise) {
-    const float most = brought.channel[3];
-    for (int i = 0; i < 4; ++i) {
-        const float canvas = back[i], added = std::min(brought.channel[i], most);
-        to[i] = static_cast<std::uint8_t>(
-            std::clamp(canvas + opacity * (added * 255 - canvas * share) + noise, 0.0f, 255.0f));
-    }
-    for (int i = 0; i < 3; ++i) {
-        to[i] = std::min(to[i], to[3]);
+// A row between two, texel by texel.
+void mixRows(const std::uint16_t* low, const std::uint16_t* high, float part, std::vector<float>& row) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const float from = low[i];
+        row[i] = from + (high[i] - from) * part;
     }
 }
 
@@ -318,22 +299,24 @@ void SmudgePainter::composite(const MutablePixelView& picture, const PixelView& 
     provide(texels);
     take(_layer, texels, _picked);
     take(_before, texels, _old);
-    const std::vector<Between> columns = betweens(part.x, part.width, _scaleX, 0, texels.x, texels.right());
-    const auto nowAt = [this](int x, int y) { return _picked.at(x, y); };
-    const auto thenAt = [this](int x, int y) { return _old.at(x, y); };
+    std::vector<TexelPlace> places;
+    for (const Between& place : betweens(part.x, part.width, _scaleX, 0, texels.x, texels.right())) {
+        places.push_back({place.low - texels.x, place.high - texels.x, place.part});
+    }
+    std::vector<float> now(static_cast<std::size_t>(texels.width) * 4), then(now.size());
     for (int y = 0; y < part.height; ++y) {
         const Between down((part.y + y + 0.5) * _scaleY, texels.y, texels.bottom());
-        const std::uint16_t* alpha = exchanged.at(part.x % kTileSide, (part.y + y) % kTileSide) + 3;
-        for (int x = 0; x < part.width; ++x, alpha += 4) {
-            if (*alpha == 0) {
-                continue;  // no dab was here, so not a bit of it may change
-            }
-            const Between& along = columns[static_cast<std::size_t>(x)];
-            const float share = static_cast<float>(*alpha) / kFull;
-            blendPixel(picture.at(x, y), background.at(x, y),
-                       broughtBy(mixedAt(along, down, nowAt), mixedAt(along, down, thenAt), share), share,
-                       opacity, noiseOf(noiseAt(part.x + x, part.y + y, commits)));
-        }
+        mixRows(_picked.at(texels.x, down.low), _picked.at(texels.x, down.high), down.part, now);
+        mixRows(_old.at(texels.x, down.low), _old.at(texels.x, down.high), down.part, then);
+        putSmudges({.picture = picture.row(y),
+                    .background = background.row(y),
+                    .exchanged = exchanged.at(part.x % kTileSide, (part.y + y) % kTileSide),
+                    .now = now.data(),
+                    .then = then.data(),
+                    .places = places.data(),
+                    .count = part.width,
+                    .opacity = opacity,
+                    .noise = noiseAt(part.x, part.y + y, commits)});
     }
 }
 
