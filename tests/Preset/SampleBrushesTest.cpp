@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QPainter>
+#include <cstdlib>
 
 #include "Brushes/ImageData.h"
 #include "Preset/QDBrushManager.h"
@@ -59,6 +60,24 @@ TEST_P(SampleBrushesTest, IsKeptAndPaints) {
     const QImage before = canvas->image();
     paintWave(*canvas);
     EXPECT_NE(canvas->image(), before);
+}
+
+TEST_P(SampleBrushesTest, PaintsTheSameOnEitherSurface) {
+    QImage pictures[2];
+    for (const SurfaceKind kind : {SurfaceKind::gpu, SurfaceKind::processor}) {
+        const auto canvas = makeCanvas(400, 150, kind);
+        canvas->clearWithColor(ESColor::rgba(0.9f, 0.6f, 0.3f), true);
+        ASSERT_TRUE(canvas->resetWithXBFPath(kFolder.filePath(GetParam())));
+        paintWave(*canvas, 60);
+        paintWave(*canvas, 90);
+        pictures[kind == SurfaceKind::gpu ? 0 : 1] = canvas->image();
+    }
+    EXPECT_TRUE(imagesMatch(pictures[0], pictures[1], 3));
+    double sum = 0;
+    for (qsizetype i = 0; i < pictures[0].sizeInBytes(); ++i) {
+        sum += std::abs(pictures[0].constBits()[i] - pictures[1].constBits()[i]);
+    }
+    EXPECT_LT(sum / static_cast<double>(pictures[0].sizeInBytes()), 0.6);
 }
 
 INSTANTIATE_TEST_SUITE_P(Folder, SampleBrushesTest, ::testing::ValuesIn(kFolder.entryList({"*.xbf"})),
