@@ -64,15 +64,17 @@ TEST_P(SampleBrushesTest, IsKeptAndPaints) {
 
 TEST_P(SampleBrushesTest, PaintsTheSameOnEitherSurface) {
     QImage pictures[2];
+    bool smudges = false;
     for (const SurfaceKind kind : {SurfaceKind::gpu, SurfaceKind::processor}) {
         const auto canvas = makeCanvas(400, 150, kind);
         canvas->clearWithColor(ESColor::rgba(0.9f, 0.6f, 0.3f), true);
         ASSERT_TRUE(canvas->resetWithXBFPath(kFolder.filePath(GetParam())));
+        smudges = canvas->brushType() == 3;
         paintWave(*canvas, 60);
         paintWave(*canvas, 90);
         pictures[kind == SurfaceKind::gpu ? 0 : 1] = canvas->image();
     }
-    EXPECT_TRUE(imagesMatch(pictures[0], pictures[1], 3));
+    EXPECT_TRUE(imagesMatch(pictures[0], pictures[1], smudges ? 6 : 3));  // which carries rounding along
     double sum = 0;
     for (qsizetype i = 0; i < pictures[0].sizeInBytes(); ++i) {
         sum += std::abs(pictures[0].constBits()[i] - pictures[1].constBits()[i]);
