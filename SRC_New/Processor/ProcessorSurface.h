@@ -42,6 +42,9 @@ public:
     bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
     bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
 
+    // What the line layer holds, in full depth.
+    const TileGrid<std::uint16_t>& line() const { return _line.grid; }
+
 private:
     // Rounding goes by numbers that begin anew with each stroke, and with each picture for each tile: a stroke paints the
     // same bytes whatever was painted elsewhere or taken back.

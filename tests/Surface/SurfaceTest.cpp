@@ -13,9 +13,8 @@
 #include <string>
 #include <vector>
 
-#include "GLSurface/MakeGLSurface.h"
-#include "Processor/MakeProcessorSurface.h"
 #include "Surface/BlendType.h"
+#include "Surface/Kinds.h"
 
 using namespace dabcanvas;
 
@@ -24,14 +23,6 @@ namespace {
 constexpr PictureId kPicture = PictureId::first;
 using Bytes = std::vector<std::uint8_t>;
 using Colour = std::array<double, 4>;  // premultiplied, 0..1
-
-struct Kind {
-    const char* name;
-    std::unique_ptr<PaintSurface> (*make)(const Size&);
-};
-const Kind kKinds[] = {
-    {"Gpu", [](const Size& size) { return makeGLSurface(QSizeF(size.width, size.height)); }},
-    {"Processor", [](const Size& size) { return makeProcessorSurface(size); }}};
 
 class SurfaceTest : public testing::TestWithParam<Kind> {
 protected:
@@ -86,8 +77,7 @@ protected:
     std::unique_ptr<SurfaceScope> scope;
     DabStyle style{.tips = tipOf([](double) { return std::uint8_t{255}; }), .paper = {}};
 };
-INSTANTIATE_TEST_SUITE_P(Each, SurfaceTest, testing::ValuesIn(kKinds),
-                         [](const auto& kind) { return std::string(kind.param.name); });
+INSTANTIATE_TEST_SUITE_P(Each, SurfaceTest, testing::ValuesIn(kKinds), byName);
 
 // ---- Rows
 
@@ -234,27 +224,6 @@ TEST_P(SurfaceTest, EachModeBlendsAsItPromises) {
             surface->clear(PaintLayer::subLine, Rect::of(kSize));
         }
     }
-}
-
-TEST_P(SurfaceTest, FaintStrokesOverEachOtherDoNotStick) {
-    surface->fill(kPicture, {0, 0, 0, 1});
-    surface->commit(kPicture, Rect::of(kSize));
-    const Rect area[] = {{0, 0, 64, 64}};
-    double exact = 0;
-    for (int stroke = 0; stroke < 600; ++stroke) {
-        square(PaintLayer::line, area[0], {1, 1, 1}, 0.01f);
-        surface->composite(kPicture, area, {});
-        surface->clear(PaintLayer::line, area[0]);
-        surface->commit(kPicture, area[0]);
-        exact += (255 - exact) * 0.01;
-    }
-    const Bytes bytes = read(area[0]);
-    double sum = 0;
-    for (std::size_t i = 0; i < bytes.size(); i += 4) {
-        sum += bytes[i];
-        EXPECT_NEAR(bytes[i], exact, 8);
-    }
-    EXPECT_NEAR(sum * 4 / static_cast<double>(bytes.size()), exact, 1);
 }
 
 // ---- Layers
