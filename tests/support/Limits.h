@@ -6,7 +6,6 @@
 
 #include <QFile>
 #include <csignal>
-#include <optional>
 
 class Limited {
 public:
@@ -27,19 +26,15 @@ private:
 // No file grows beyond this, as on a disk that has no more room.
 class FullDisk {
 public:
-    explicit FullDisk(rlim_t mostBytes = 1024) : _handler(std::signal(SIGXFSZ, SIG_IGN)) {
-        _limit.emplace(RLIMIT_FSIZE, mostBytes);
-    }
-    ~FullDisk() {
-        _limit.reset();
-        std::signal(SIGXFSZ, _handler);
-    }
+    explicit FullDisk(rlim_t mostBytes = 1024)
+        : _handler(std::signal(SIGXFSZ, SIG_IGN)), _limit(RLIMIT_FSIZE, mostBytes) {}
+    ~FullDisk() { std::signal(SIGXFSZ, _handler); }  // nothing is written until the limit has gone, too
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
 
 private:
     void (*_handler)(int);
-    std::optional<Limited> _limit;
+    Limited _limit;
 };
 
 // As much memory as is in use, and so many bytes more.
