@@ -12,16 +12,14 @@
 //
 // Units    points come in as view points, origin top left; what names the buffer is in buffer pixels, which are view
 //          points divided by scale(). The buffer takes the size of the frame at creation and keeps it.
-// Owns     all that it paints with. Whatever GL context the caller had current is current again when a member function
-//          returns, and while a delegate is called.
+// Owns     all that it paints with. The caller's GL context is current again when a member returns, and in a delegate.
 // Thread   one at a time, asserted in debug builds. Canvases are independent, also where they take turns on a thread;
 //          those made on one thread share an OpenGL context, wait for each other on several, and lose it together.
 // Life     to be destroyed before main() returns, as static objects may outlive OpenGL and Qt. A host may destroy it in
 //          any callback, see QDDrawViewDelegate.h.
 // Errors   never throws; a failure is a log line and a false or null result.
-// Loss     a driver may take its device away, as a graphics card that is reset does. After one log line isContextLost()
-//          holds for good: what draws, places, reads or clears does nothing and returns false or null. Another canvas
-//          can go on from undoManager() and displayImage().
+// Loss     of a driver's device: after one log line isContextLost() holds for good, and nothing is drawn, read or cleared
+//          any more. Another canvas can go on from undoManager() and displayImage().
 #pragma once
 
 #include <QByteArray>
@@ -227,7 +225,7 @@ public:
 
     // ---- Repeat and measure
     // Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After either
-    // call the same strokes paint the same bytes, from the next one on. On: every stroke repeats by itself; its dabs
+    // call the same strokes on a cleared canvas paint the same bytes. On: every stroke repeats by itself; its dabs
     // take fixed values by their number, which ties the attributes of a dab to each other. Off: numbers run on.
     void setRepeatableRandom(bool repeatable);
     // Begins the generator, which until then was seeded by chance. While strokes repeat, only dab sizes depend on it.
@@ -238,8 +236,8 @@ public:
 
     // What paint lies in. A SurfaceScope of it, held while many strokes are entered, is cheaper than one for every call.
     dabcanvas::PaintSurface& surface();
-    // For hosts that draw with OpenGL themselves. A canvas that does not moves there, byte for byte, and surface() is
-    // another from then on; null, after one log line, in mid-stroke and where there is no OpenGL.
+    // For hosts that draw with OpenGL themselves: a canvas that does not moves there, byte for byte, to another surface().
+    // Null, after one log line, in mid-stroke and where there is no OpenGL.
     dabcanvas::GLSurface* glSurface();
     QString rendererName();  // what draws, in words
 
@@ -372,8 +370,7 @@ protected:
     public:
         explicit MustStay(const QDDrawCanvas& canvas);
         ~MustStay();
-        MustStay(const MustStay&) = delete;
-        MustStay& operator=(const MustStay&) = delete;
+        Q_DISABLE_COPY_MOVE(MustStay)
 
     private:
         const QDDrawCanvas& _canvas;
@@ -382,7 +379,6 @@ protected:
     // ---- Display hooks
     // displayFrame(), localPointWithTouch() and makeLeafDrawView() are questions: they may not destroy the canvas. The
     // others may: they come at the end of the call that caused them, with the host's own GL context current.
-    //
     // Where the canvas is shown, in view points; its size against bufferSize() gives scale().
     virtual QRectF displayFrame() const;
     // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once.
