@@ -36,6 +36,29 @@ TEST_F(CanvasLayersTest, AStrokeWithoutMemoryForItsLayerIsRefused) {
     }
 }
 
+TEST_F(CanvasLayersTest, MovesToOpenGLBetweenStrokesAsItIs) {
+    for (const bool pictureAlone : {false, true}) {
+        auto canvas = makeCanvas(300, 700, SurfaceKind::processor);
+        paintWave(*canvas, 60);
+        canvas->drawingWithBeginPoint({20, 300});
+        canvas->drawingWithMoveToPoint({150, 350});
+        {
+            const LogCapture log;
+            EXPECT_EQ(canvas->glSurface(), nullptr) << "in mid-stroke";
+            EXPECT_EQ(log.lines().size(), 1);
+        }
+        canvas->drawingWithEndPoint({250, 300});
+        canvas->setNeglectTextureUpdate(pictureAlone);  // the image is on the picture, not in its background
+        ASSERT_TRUE(canvas->drawImage(patternImage({90, 400}), QSizeF(90, 400), QPointF(150, 350), 0.2));
+        const QImage before = canvas->image();
+        ASSERT_NE(canvas->glSurface(), nullptr);
+        EXPECT_TRUE(imagesMatch(canvas->image(), before));
+        const dabcanvas::SurfaceScope scope(canvas->surface());
+        canvas->surface().revert(dabcanvas::PictureId::first, {0, 0, 300, 700});
+        EXPECT_EQ(canvas->image() == before, !pictureAlone) << "the background moved, too";
+    }
+}
+
 // Withdrawing and backgrounds
 
 TEST_F(CanvasLayersTest, OnlyWithinTheRectangleIsAStrokeTakenBack) {
