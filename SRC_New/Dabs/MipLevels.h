@@ -27,6 +27,15 @@ struct Pixels {
     }
 };
 
+// A copy of somebody else's, with four channels.
+inline Pixels pixelsOf(const PixelView& view) {
+    Pixels copy{view.size, 4, {}};
+    copy.bytes.resize(static_cast<std::size_t>(view.size.width) * static_cast<std::size_t>(view.size.height) *
+                      4);
+    copyRows(view, MutablePixelView::topRowFirst(copy.bytes.data(), view.size));
+    return copy;
+}
+
 // At another size that is no larger: each pixel is the mean of the area that it covers, so that what a picture holds in
 // all stays the same, whatever its sides divide by.
 DABCANVAS_DABS_API Pixels reduced(const Pixels& picture, const Size& size);

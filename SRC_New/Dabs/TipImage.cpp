@@ -2,7 +2,6 @@
 #include "Dabs/TipImage.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace dabcanvas {
@@ -20,16 +19,6 @@ Pixels channelOf(const PixelView& pixels, ValueOf&& valueOf) {
         }
     }
     return channel;
-}
-
-Pixels copyOf(const PixelView& pixels) {
-    Pixels copy{pixels.size, 4, {}};
-    const std::size_t rowBytes = static_cast<std::size_t>(pixels.size.width) * 4;
-    copy.bytes.resize(rowBytes * static_cast<std::size_t>(pixels.size.height));
-    for (int y = 0; y < pixels.size.height; ++y) {
-        std::memcpy(copy.at(0, y), pixels.row(y), rowBytes);
-    }
-    return copy;
 }
 
 Pixels squeezed(Pixels picture, int most) {
@@ -51,7 +40,7 @@ TipImage tipImageOf(const Picture& picture, int most, bool withColour) {
     tip.alpha =
         levelsOf(squeezed(channelOf(picture.pixels, [](const std::uint8_t* rgba) { return rgba[3]; }), most));
     if (withColour) {
-        tip.colour = levelsOf(squeezed(copyOf(picture.pixels), most));
+        tip.colour = levelsOf(squeezed(pixelsOf(picture.pixels), most));
     }
     return tip;
 }

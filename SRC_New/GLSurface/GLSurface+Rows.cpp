@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <new>
 #include <numbers>
 
@@ -31,16 +30,6 @@ QRectF qRectOf(const Rect& rect) {
             static_cast<double>(rect.height)};
 }
 
-bool isPart(const Rect& rect, const Size& rows, const Size& whole) {
-    return !rect.isEmpty() && rows == Size{rect.width, rect.height} && Rect::of(whole).contains(rect);
-}
-
-void copyRows(const PixelView& from, const MutablePixelView& to) {
-    for (int y = 0; y < from.size.height; ++y) {
-        std::memcpy(to.row(y), from.row(y), static_cast<std::size_t>(from.size.width) * 4);
-    }
-}
-
 // Mip levels shrink both axes alike. Of an image that is reduced much more on one axis they would blur the
 // other, so that axis is brought to the other's measure first.
 QImage evenlyReduced(const QImage& picture, double width, double height) {
@@ -62,7 +51,7 @@ QImage evenlyReduced(const QImage& picture, double width, double height) {
 }  // namespace
 
 bool GLSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) {
-    if (rows.isNull() || !isPart(rect, rows.size, size())) {
+    if (!isPart(rect, rows)) {
         return false;
     }
     if (rows.isBottomUpBlock()) {
@@ -87,7 +76,7 @@ bool GLSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) 
 }
 
 bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows) {
-    if (rows.isNull() || !isPart(rect, rows.size, size())) {
+    if (!isPart(rect, rows)) {
         return false;
     }
     _context->beginRenderForType(ESRenderTypeCanvas);

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "Maths/Rect.h"
 
@@ -40,5 +41,12 @@ struct BasicPixelView {
 
 using PixelView = BasicPixelView<const std::uint8_t>;
 using MutablePixelView = BasicPixelView<std::uint8_t>;
+
+// Between views of one size that do not overlap.
+inline void copyRows(const PixelView& from, const MutablePixelView& to) {
+    for (int y = 0; y < from.size.height; ++y) {
+        std::memcpy(to.row(y), from.row(y), static_cast<std::size_t>(from.size.width) * 4);
+    }
+}
 
 }  // namespace dabcanvas

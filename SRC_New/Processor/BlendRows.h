@@ -26,6 +26,11 @@ constexpr std::uint32_t noiseAt(int x, int y, std::uint32_t commits) {
            commits * kNoiseLater;
 }
 
+// What a value is raised by before its fraction is cut off, above 0 and below 1.
+constexpr float upBy(std::uint32_t noise) {
+    return (static_cast<float>(noise & 255) + 0.5f) / 256;
+}
+
 // Pixels without paint in the layer stay as they are in the modes that leave them (all but normal, replace and reset);
 // a blend type that is none counts as normal.
 void blendRow(std::uint32_t blendType, const BlendRow& row);

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
 #include <numbers>
 #include <utility>
 #include <vector>
@@ -27,8 +26,8 @@ public:
             const auto side = [](int texels, double pixelsWide) {
                 return std::clamp(static_cast<int>(std::lround(std::min(pixelsWide, 1e6))), 1, texels);
             };
-            _reduced = reduced(copyOf(pixels), {side(pixels.size.width, placement.width()),
-                                                side(pixels.size.height, placement.height())});
+            _reduced = reduced(pixelsOf(pixels), {side(pixels.size.width, placement.width()),
+                                                  side(pixels.size.height, placement.height())});
             _view = PixelView::topRowFirst(_reduced.bytes.data(), _reduced.size);
         }
     }
@@ -47,15 +46,6 @@ public:
     }
 
 private:
-    static Pixels copyOf(const PixelView& pixels) {
-        const std::size_t rowBytes = static_cast<std::size_t>(pixels.size.width) * 4;
-        Pixels copy{pixels.size, 4, {}};
-        copy.bytes.resize(rowBytes * static_cast<std::size_t>(pixels.size.height));
-        for (int y = 0; y < pixels.size.height; ++y) {
-            std::memcpy(copy.at(0, y), pixels.row(y), rowBytes);
-        }
-        return copy;
-    }
     static Colour mixed(const Colour& a, const Colour& b, float part) {
         Colour mix;
         for (std::size_t i = 0; i < 4; ++i) {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <new>
 #include <string>
 #include <utility>
@@ -19,12 +18,6 @@ namespace {
 
 using Picture8 = TileGrid<std::uint8_t>;
 using Layer16 = TileGrid<std::uint16_t>;
-
-void copyRows(const PixelView& from, const MutablePixelView& to) {
-    for (int y = 0; y < from.size.height; ++y) {
-        std::memcpy(to.row(y), from.row(y), static_cast<std::size_t>(from.size.width) * 4);
-    }
-}
 
 MutablePixelView viewOf(Tile<std::uint8_t>& tile, const Rect& part) {
     return {tile.at(part.x % kTileSide, part.y % kTileSide), {part.width, part.height}, kTileSide * 4};
@@ -55,10 +48,6 @@ void copyTiles(const Picture8& from, Picture8& to, const Rect& rect, Changed&& c
 
 void copyTiles(const Picture8& from, Picture8& to, const Rect& rect) {
     copyTiles(from, to, rect, [](std::size_t) {});
-}
-
-bool isPart(const Rect& rect, const Size& rows, const Size& whole) {
-    return !rect.isEmpty() && rows == Size{rect.width, rect.height} && Rect::of(whole).contains(rect);
 }
 
 std::uint8_t byteOf(float value) {
@@ -276,7 +265,7 @@ bool ProcessorSurface::place(PictureId picture, const Placed& placed) {
 // ---- Rows
 
 bool ProcessorSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) {
-    if (rows.isNull() || !isPart(rect, rows.size, size())) {
+    if (!isPart(rect, rows)) {
         return false;
     }
     _picture.forEachIn(rect, [&](std::size_t index, const Rect& part) {
@@ -287,7 +276,7 @@ bool ProcessorSurface::read(PictureId, const Rect& rect, const MutablePixelView&
 }
 
 bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelView& rows) {
-    if (rows.isNull() || !isPart(rect, rows.size, size())) {
+    if (!isPart(rect, rows)) {
         return false;
     }
     // A copy shares its tiles, so that nothing has changed where the memory ends half way.

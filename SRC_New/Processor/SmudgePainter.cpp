@@ -63,10 +63,6 @@ Colour mixedAt(const Between& x, const Between& y, TexelAt&& texelAt) {
     return mix;
 }
 
-float noiseOf(std::uint32_t noise) {
-    return (static_cast<float>(noise & 255) + 0.5f) / 256;
-}
-
 Rect texelsUnder(double left, double top, double right, double bottom, const Size& layer) {
     return Rect::covering(left - 1, top - 1, right + 1, bottom + 1).intersected(Rect::of(layer));
 }
@@ -266,7 +262,7 @@ void SmudgePainter::exchange(const Rect& covered, const Rect& origin, const Smud
                 }
                 const float share = static_cast<float>(cover[3]) / kFull,
                             rest = 1 - share * mixture.exchanged;
-                const float noise = noiseOf(noiseAt(x, y, static_cast<std::uint32_t>(count)));
+                const float noise = upBy(noiseAt(x, y, static_cast<std::uint32_t>(count)));
                 for (int i = 0; i < 4; ++i) {
                     const float value = static_cast<float>(to[i]) * rest +
                                         share * (mixture.own.channel[i] + mixture.pickUp * color.channel[i]);

@@ -47,8 +47,7 @@ void put(const SmudgeRow& row) {
             hn::ConvertTo(kPixel, hn::PromoteTo(ints, hn::LoadU(bytes, row.background + 4 * i)));
         const Value change =
             hn::Sub(brought(row, row.places[i], share), hn::Mul(canvas, hn::Set(kPixel, share)));
-        const std::uint32_t noise = (row.noise + static_cast<std::uint32_t>(i) * kNoiseAlong) & 255;
-        const float up = (static_cast<float>(noise) + 0.5f) / 256;
+        const float up = upBy(row.noise + static_cast<std::uint32_t>(i) * kNoiseAlong);
         Value mixed = hn::Max(hn::Add(canvas, hn::Mul(change, opacity)), hn::Zero(kPixel));
         mixed = hn::Add(hn::Min(mixed, hn::Broadcast<3>(mixed)), hn::Set(kPixel, up));
         hn::StoreU(hn::DemoteTo(bytes, hn::ConvertTo(ints, mixed)), bytes, row.picture + 4 * i);

@@ -126,6 +126,11 @@ public:
     void forgetTouched(PictureId) { _touched.clear(); }
 
 protected:
+    // What read() and write() ask of the caller.
+    bool isPart(const Rect& rect, const PixelView& rows) const {
+        return !rows.isNull() && !rect.isEmpty() && rows.size == Size{rect.width, rect.height} &&
+               Rect::of(_size).contains(rect);
+    }
     void noteTouched(PictureId, const Rect& rect) { _touched.add(rect); }
 
 private:
