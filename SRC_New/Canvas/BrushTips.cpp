@@ -3,17 +3,6 @@
 
 namespace dabcanvas {
 
-Picture pictureOf(const QImage& image) {
-    if (image.isNull()) {
-        return {};
-    }
-    const auto held =
-        std::make_shared<const QImage>(image.convertToFormat(QImage::Format_RGBA8888_Premultiplied));
-    return {.pixels = {held->constBits(), {held->width(), held->height()}, held->bytesPerLine()},
-            .density = image.devicePixelRatio(),
-            .owner = held};
-}
-
 void BrushTips::give(const QList<QImage>& images) {
     _images = _given = images;
     _wanted = _made = {};

@@ -7,13 +7,11 @@
 #include <QList>
 #include <memory>
 
+#include "Brushes/PictureOf.h"
 #include "Brushes/TexturesTool.h"
 #include "Dabs/Picture.h"
 
 namespace dabcanvas {
-
-// An image as plain pixels. They are converted once, and shared where they need no converting.
-Picture pictureOf(const QImage& image);
 
 class BrushTips {
 public:

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "Brushes/PictureOf.h"
 #include "Dabs/DabBounds.h"
 #include "ESRender/DabBatch.h"
 #include "ESRender/LineShaderNames.h"
@@ -32,17 +33,6 @@ constexpr GLsizei kCorners = 4;
 QRectF partOf(const dabcanvas::DabBounds& bounds) {
     const dabcanvas::DabBounds::Part part = bounds.onBuffer();
     return {part.x, part.y, part.width, part.height};
-}
-
-dabcanvas::Picture pictureOf(const QImage& image) {
-    if (image.isNull()) {
-        return {};
-    }
-    const auto held =
-        std::make_shared<const QImage>(image.convertToFormat(QImage::Format_RGBA8888_Premultiplied));
-    return {.pixels = {held->constBits(), {held->width(), held->height()}, held->bytesPerLine()},
-            .density = image.devicePixelRatio(),
-            .owner = held};
 }
 
 // One opaque texel, for a renderer that was given no tips.
@@ -218,7 +208,7 @@ void ESLineRender::setTextureData(const unsigned char* data, const QSize& dataSi
 void ESLineRender::keepTips(const QList<QImage>& images) {
     auto tips = std::make_shared<dabcanvas::TipSet>();
     for (const QImage& image : images) {
-        tips->push_back(pictureOf(image));
+        tips->push_back(dabcanvas::pictureOf(image));
     }
     takeTips(std::move(tips));
 }
@@ -241,7 +231,8 @@ void ESLineRender::takeTips(std::shared_ptr<const dabcanvas::TipSet> tips) {
 }
 
 void ESLineRender::setMaskImage(const QImage& image) {
-    setPaper(image.isNull() ? nullptr : std::make_shared<const dabcanvas::Picture>(pictureOf(image)));
+    setPaper(image.isNull() ? nullptr
+                            : std::make_shared<const dabcanvas::Picture>(dabcanvas::pictureOf(image)));
     _maskImage = image;
 }
 
