@@ -134,7 +134,8 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back) {
         (_images.get()->*back)();
         return Outcome::refused;
     }
-    if (data.size() != _record.bytesOfCanvas()) {
+    const PixelView rows = _record.rowsOf(data);
+    if (rows.isNull()) {
         qCWarning(
             lcDabcanvas, "%ls; the canvas is cleared",
             qUtf16Printable(problem.isEmpty() ? QStringLiteral("An undo step has no image of this canvas")
@@ -143,8 +144,7 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back) {
     }
     // All of it, whatever a host has restricted placing to.
     _layers.settle();
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(data.constData());
-    if (!_layers.paint(_layers.whole(), PixelView::bottomRowFirst(bytes, _layers.size()))) {
+    if (!_layers.paint(_layers.whole(), rows)) {
         if (!_layers.isLost()) {
             qCWarning(lcDabcanvas, "there is no memory to put a step back");
         }

@@ -2,6 +2,7 @@
 #include "Canvas/PaintLayers.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "Surface/BlendType.h"
@@ -298,11 +299,8 @@ bool PaintLayers::moveTo(std::unique_ptr<PaintSurface> surface) {
             return false;
         }
         flush();
-        QImage rows(size().width, std::min(size().height, kMostMovedRows),
-                    QImage::Format_RGBA8888_Premultiplied);
         for (int y = 0; y < size().height; y += kMostMovedRows) {
-            const Rect band = Rect{0, y, size().width, kMostMovedRows}.intersected(whole());
-            if (rows.isNull() || !moveBand(band, rows, *surface)) {
+            if (!moveBand(Rect{0, y, size().width, kMostMovedRows}.intersected(whole()), *surface)) {
                 return false;
             }
         }
@@ -311,28 +309,26 @@ bool PaintLayers::moveTo(std::unique_ptr<PaintSurface> surface) {
     return true;
 }
 
-// What lies in the picture alone goes there over the background.
-bool PaintLayers::moveBand(const Rect& band, QImage& rows, PaintSurface& to) {
-    const MutablePixelView view{rows.bits(), {band.width, band.height}, rows.bytesPerLine()};
-    if (!_surface->read(kPicture, band, view)) {
+// With the background, where that differs.
+bool PaintLayers::moveBand(const Rect& band, PaintSurface& to) try {
+    const int pixelBytes = _surface->pixelBytes();
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(band.area() * pixelBytes));
+    const auto rows = MutablePixelView::topRowFirst(bytes.data(), {band.width, band.height}, pixelBytes);
+    if (!_surface->read(kPicture, band, rows) || !to.write(kPicture, band, rows)) {
         return false;
     }
     if (!band.meets(_uncommitted)) {
-        return to.write(kPicture, band, view);
+        return true;
     }
-    QImage below = rows.copy();
-    const MutablePixelView belowView{below.bits(), {band.width, band.height}, below.bytesPerLine()};
-    const Placed picture{.pixels = view,
-                         .width = static_cast<double>(band.width),
-                         .height = static_cast<double>(band.height),
-                         .centreX = band.width / 2.0,
-                         .centreY = band.y + band.height / 2.0,
-                         .replaces = true,
-                         .clip = band};
+    std::vector<std::uint8_t> below(bytes.size());
+    const auto rowsBelow = MutablePixelView::topRowFirst(below.data(), rows.size, pixelBytes);
     _surface->revert(kPicture, band);
-    const bool read = _surface->read(kPicture, band, belowView);
-    return _surface->place(kPicture, picture) && read && to.write(kPicture, band, belowView) &&
-           to.place(kPicture, picture);
+    const bool isMoved =
+        _surface->read(kPicture, band, rowsBelow) && to.writeBackground(kPicture, band, rowsBelow);
+    return _surface->write(kPicture, band, rows) && isMoved &&
+           _surface->writeBackground(kPicture, band, rowsBelow);
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 // ---- Looking

@@ -112,7 +112,7 @@ private:
     // The picture is its background there.
     void noteBackgroundShows(const Rect& area);
     void settleDrawn();
-    bool moveBand(const Rect& band, QImage& rows, PaintSurface& to);
+    bool moveBand(const Rect& band, PaintSurface& to);
 
     std::unique_ptr<PaintSurface> _surface;
     StageClock& _clock;

@@ -18,24 +18,26 @@ Q_LOGGING_CATEGORY(lcDabcanvas, "dabcanvas.canvas")
 // ---- Making
 
 QDDrawCanvas::QDDrawCanvas(const QRectF& frame)
-    : _inside(new Inside{.host = Host(*this, frame), .parts = {}}) {}
+    : _inside(new Inside{.host = Host(*this, frame), .options = {}, .parts = {}}) {}
 
 QDDrawCanvas::~QDDrawCanvas() {
     _inside->host.mustNotBeNeeded();
 }
 
-std::unique_ptr<QDDrawCanvas> QDDrawCanvas::initWithFrame(const QRectF& frame, SurfaceKind surface) {
+std::unique_ptr<QDDrawCanvas> QDDrawCanvas::initWithFrame(const QRectF& frame,
+                                                          const SurfaceOptions& options) {
     std::unique_ptr<QDDrawCanvas> canvas(new QDDrawCanvas(frame));
-    return canvas->initCanvas(surface) ? std::move(canvas) : nullptr;
+    return canvas->initCanvas(options) ? std::move(canvas) : nullptr;
 }
 
-bool QDDrawCanvas::initCanvas(SurfaceKind kind) {
+bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
     const MustStay stays(*this);
     const Host::Call call(_inside->host);
-    auto surface = makeSurface(_inside->host.shownFrame().size(), kind);
+    auto surface = makeSurface(_inside->host.shownFrame().size(), options);
     if (!surface) {
         return false;
     }
+    _inside->options = options;
     _inside->parts = std::make_unique<Parts>(_inside->host, std::move(surface));
     Parts& parts = *_inside->parts;
     _inside->host.watch(parts);
@@ -84,8 +86,9 @@ GLSurface* QDDrawCanvas::glSurface() {
     if (asGLSurface(surface()) == nullptr) {
         Parts& parts = *_inside->parts;
         const Size size = parts.layers.size();
-        auto moved =
-            parts.isDrawing() ? nullptr : makeSurface(QSizeF(size.width, size.height), SurfaceKind::gpu);
+        SurfaceOptions options = _inside->options;
+        options.kind = SurfaceKind::gpu;
+        auto moved = parts.isDrawing() ? nullptr : makeSurface(QSizeF(size.width, size.height), options);
         if (!moved || !parts.layers.moveTo(std::move(moved))) {
             qCWarning(lcDabcanvas, "the canvas cannot move to OpenGL%s",
                       parts.isDrawing() ? " in mid-stroke" : "");

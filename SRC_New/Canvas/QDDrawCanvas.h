@@ -44,7 +44,7 @@
 #include "Preset/BrushRecords.h"
 #include "Recognition/ShapeRecord.h"
 #include "Surface/RenderType.h"
-#include "Surface/SurfaceKind.h"
+#include "Surface/SurfaceOptions.h"
 
 struct LPLineParams;
 class ImagesUndoManager;
@@ -60,8 +60,8 @@ public:
     // ---- Make
     // As large as the frame, transparent, with the default brush. Null, after one log line, when the surface that is
     // asked for cannot be had, or a side is not from 1 to its limit.
-    static std::unique_ptr<QDDrawCanvas> initWithFrame(
-        const QRectF& frame, dabcanvas::SurfaceKind surface = dabcanvas::SurfaceKind::automatic);
+    static std::unique_ptr<QDDrawCanvas> initWithFrame(const QRectF& frame,
+                                                       const dabcanvas::SurfaceOptions& options = {});
     virtual ~QDDrawCanvas();
     QDDrawCanvas(const QDDrawCanvas&) = delete;
     QDDrawCanvas& operator=(const QDDrawCanvas&) = delete;
@@ -193,7 +193,7 @@ public:
     void setScissorRect(const QRectF& rect);
 
     // ---- Undo
-    // Steps are whole pictures of the canvas, as readData() gives them. The first is the canvas as it was made; a host
+    // Steps are whole pictures, as readData() gives them, or of 8 bytes a pixel where the canvas has 16 bits. The first is the canvas as it was made; a host
     // that prepares a picture calls resetUndoManager() then. How many there are, and where they are kept, is
     // undoManager()'s. Nothing of a history is made before it is asked for.
     //
@@ -363,7 +363,7 @@ public:
 protected:
     // A display derives from this and calls initCanvas() before anything else; false leaves an object to be destroyed.
     explicit QDDrawCanvas(const QRectF& frame);
-    bool initCanvas(dabcanvas::SurfaceKind surface = dabcanvas::SurfaceKind::automatic);
+    bool initCanvas(const dabcanvas::SurfaceOptions& options = {});
 
     // Held by a display while the canvas must not be destroyed: that ends the process then, with a log line.
     class MustStay {

@@ -120,5 +120,6 @@ private:
 
 struct QDDrawCanvas::Inside {
     Host host;
+    dabcanvas::SurfaceOptions options;  // as the canvas was made
     std::unique_ptr<Parts> parts;
 };

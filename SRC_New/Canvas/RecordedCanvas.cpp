@@ -27,6 +27,21 @@ void tellNoMemory(int line) {
     std::printf("创建数据失败(%s:%d)!", "SRC_New/QDEAGLView/QDDrawView", line);
 }
 
+PixelView RecordedCanvas::rowsOf(const QByteArray& data) const {
+    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(data.constData());
+    for (const int pixelBytes : {4, _layers.surface().pixelBytes()}) {
+        if (data.size() == pixels() * pixelBytes) {
+            return PixelView::bottomRowFirst(bytes, _layers.size(), pixelBytes);
+        }
+    }
+    return {};
+}
+
+MutablePixelView RecordedCanvas::rowsOfCanvas(QByteArray& data) const {
+    return MutablePixelView::bottomRowFirst(reinterpret_cast<std::uint8_t*>(data.data()), _layers.size(),
+                                            _layers.surface().pixelBytes());
+}
+
 void RecordedCanvas::take(const QByteArray& data) {
     _data = data;
     _isCanvas = true;
@@ -50,14 +65,11 @@ QByteArray RecordedCanvas::snapshot(int line) {
         tellNoMemory(line);
         return {};
     }
-    auto* const bytes = reinterpret_cast<std::uint8_t*>(data.data());
-    return _layers.read(_layers.whole(), MutablePixelView::bottomRowFirst(bytes, _layers.size()))
-               ? data
-               : QByteArray();
+    return _layers.read(_layers.whole(), rowsOfCanvas(data)) ? data : QByteArray();
 }
 
 void RecordedCanvas::refresh(int line) {
-    if (_isCanvas && hasCanvasSize() && refreshTiles()) {
+    if (_isCanvas && _data.size() == bytesOfCanvas() && refreshTiles()) {
         _given = false;
         return;
     }
@@ -86,8 +98,7 @@ bool RecordedCanvas::refreshTiles() {
     } catch (const std::bad_alloc&) {
         return false;
     }
-    auto* const bytes = reinterpret_cast<std::uint8_t*>(_data.data());
-    const auto rows = MutablePixelView::bottomRowFirst(bytes, _layers.size());
+    const MutablePixelView rows = rowsOfCanvas(_data);
     bool all = true;
     touched.forEachRun([&](const Rect& run) { all = _layers.read(run, rows.part(run)) && all; });
     if (all) {
@@ -97,12 +108,8 @@ bool RecordedCanvas::refreshTiles() {
 }
 
 bool RecordedCanvas::restore(const Rect& area) {
-    if (!hasCanvasSize()) {
-        return false;
-    }
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(_data.constData());
-    return area.isEmpty() ||
-           _layers.restore(area, PixelView::bottomRowFirst(bytes, _layers.size()).part(area));
+    const PixelView rows = rowsOf(_data);
+    return !rows.isNull() && (area.isEmpty() || _layers.restore(area, rows.part(area)));
 }
 
 }  // namespace dabcanvas

@@ -2,7 +2,8 @@
 // A picture of the canvas as bytes: what strokes that are to be recognised are taken back to, and what undo steps are
 // made of. Only the tiles that were touched are read anew.
 //
-// Bytes    premultiplied RGBA, bottom row first, rows without gaps.
+// Bytes    premultiplied RGBA, bottom row first, rows without gaps; of as many bits as the surface's picture has. A host
+//          may give 8 bits a channel.
 #pragma once
 
 #include <QByteArray>
@@ -20,8 +21,10 @@ public:
 
     // Empty for none; any bytes when a host gave them.
     const QByteArray& data() const { return _data; }
-    qsizetype bytesOfCanvas() const { return qsizetype{4} * _layers.size().width * _layers.size().height; }
-    bool hasCanvasSize() const { return _data.size() == bytesOfCanvas(); }
+    qsizetype bytesOfCanvas() const { return pixels() * _layers.surface().pixelBytes(); }
+    bool hasCanvasSize() const { return !rowsOf(_data).isNull(); }
+    // A picture of the canvas, as bytes; null for any others.
+    PixelView rowsOf(const QByteArray& data) const;
 
     // The canvas as it is.
     void take(const QByteArray& data);
@@ -40,6 +43,8 @@ public:
     bool restore(const Rect& area);
 
 private:
+    qsizetype pixels() const { return qsizetype{_layers.size().width} * _layers.size().height; }
+    MutablePixelView rowsOfCanvas(QByteArray& data) const;
     bool refreshTiles();
 
     PaintLayers& _layers;

@@ -65,19 +65,20 @@ SurfaceKind automaticKind() {
 
 }  // namespace
 
-std::unique_ptr<PaintSurface> makeSurface(const QSizeF& size, SurfaceKind kind) {
+std::unique_ptr<PaintSurface> makeSurface(const QSizeF& size, const SurfaceOptions& options) {
+    SurfaceKind kind = options.kind;
     if (kind == SurfaceKind::automatic) {
         static const SurfaceKind automatic = automaticKind();
         kind = automatic;
     }
     if (kind == SurfaceKind::gpu) {
-        return makeGLSurface(size);
+        return makeGLSurface(size, options);
     }
     setSurfaceLog(&toCanvasLog);
     const auto side = [](double length) {
         return std::isnan(length) ? 0 : static_cast<int>(std::clamp(length, -1.0, 1e6));
     };
-    return makeProcessorSurface({side(size.width()), side(size.height())});
+    return makeProcessorSurface({side(size.width()), side(size.height())}, options);
 }
 
 }  // namespace dabcanvas

@@ -204,7 +204,8 @@ bool ESContext::createFirstBuffersWithSize(const QSizeF& size) {
     glBindFramebuffer(GL_FRAMEBUFFER, _frameBuffer[ESRenderTypeCanvas]);
     _renderBuffer = generateName([](GLuint* name) { glGenRenderbuffers(1, name); });
     glBindRenderbuffer(GL_RENDERBUFFER, _renderBuffer);
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, _backingWidth, _backingHeight);
+    glRenderbufferStorage(GL_RENDERBUFFER, _canvasDepth > 8 ? GL_RGBA16 : GL_RGBA8, _backingWidth,
+                          _backingHeight);
     glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, _renderBuffer);
     if (!checkFramebuffer(kCanvasMade)) {
         return false;
@@ -321,7 +322,8 @@ bool ESContext::resizeWithSize(const QSizeF& size) {
     glBindRenderbuffer(GL_RENDERBUFFER, _renderBuffer);
     _backingWidth = pixels.width();
     _backingHeight = pixels.height();
-    glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, _backingWidth, _backingHeight);
+    glRenderbufferStorage(GL_RENDERBUFFER, _canvasDepth > 8 ? GL_RGBA16 : GL_RGBA8, _backingWidth,
+                          _backingHeight);
     if (!checkFramebuffer(kCanvasResized)) {
         return false;
     }

@@ -51,9 +51,11 @@ public:
     ESContext(const ESContext&) = delete;
     ESContext& operator=(const ESContext&) = delete;
 
-    // Bits a channel of layers that are made from now on: 8 or 16. The canvas has 8.
+    // Bits a channel of layers, and of the canvas, that are made from now on: 8 or 16.
     void setLayerDepth(int bits) { _layerDepth = bits; }
     int layerDepth() const { return _layerDepth; }
+    void setCanvasDepth(int bits) { _canvasDepth = bits; }
+    int canvasDepth() const { return _canvasDepth; }
 
     // Makes all four targets, cleared to transparent, and leaves the canvas target bound. Targets of an
     // earlier call are destroyed first. The sides are cut to integers; a size that is not finite, below one
@@ -126,6 +128,8 @@ public:
     // of gRectWithVRect(rect). Reads nothing when bytes is null or the rectangle is not enabled. Leaves the
     // canvas framebuffer bound, whatever the current render type is.
     void readData(unsigned char* bytes, const QRectF& rect);
+    // The same with 16 bits a channel, 8 bytes a pixel, where that is the depth; what the canvas has no bits for is filled.
+    void readData(unsigned char* bytes, const QRectF& rect, int depth);
 
     // The canvas, or a part of it, right way up as Format_RGBA8888_Premultiplied; null when the rectangle is
     // not enabled, memory is short or the context is lost. The two names do the same here.
@@ -197,7 +201,7 @@ private:
     GLint _backingWidth = 0;
     GLint _backingHeight = 0;
     QSize _smudgeSize;  // fixed at creation
-    int _layerDepth = 8;
+    int _layerDepth = 8, _canvasDepth = 8;
     std::int64_t _currentRenderType = 0;
     bool _isLost = false;
     std::shared_ptr<QSemaphore> _bufferAccess;

@@ -59,6 +59,10 @@ QRectF ESContext::gRectWithVRect(const QRectF& rect) const {
 }
 
 void ESContext::readData(unsigned char* bytes, const QRectF& rect) {
+    readData(bytes, rect, 8);
+}
+
+void ESContext::readData(unsigned char* bytes, const QRectF& rect, int depth) {
     if (!bytes) {
         return;
     }
@@ -73,7 +77,7 @@ void ESContext::readData(unsigned char* bytes, const QRectF& rect) {
     const int y = std::clamp(nearestInt(rows.top()), 0, _backingHeight);
     const int width = std::clamp(nearestInt(rows.right()) - x, 0, _backingWidth);
     const int height = std::clamp(nearestInt(rows.bottom()) - y, 0, _backingHeight);
-    glReadPixels(x, y, width, height, GL_RGBA, GL_UNSIGNED_BYTE, bytes);
+    glReadPixels(x, y, width, height, GL_RGBA, depth > 8 ? GL_UNSIGNED_SHORT : GL_UNSIGNED_BYTE, bytes);
     checkLost();
 }
 

@@ -139,7 +139,7 @@ void ESBaseRender::clearWithRed(float red, float green, float blue, float alpha)
 }
 
 void ESBaseRender::updateTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLuint& forTexID,
-                                         GLenum pos) {
+                                         GLenum pos, int depth) {
     using dabcanvas::nearestInt;
     // Beyond the buffer there are no defined pixels to copy, though the texture goes on to a power of two.
     const QSize buffer(dabcanvas::truncatedInt(_bufferSize.width()),
@@ -148,7 +148,7 @@ void ESBaseRender::updateTextureAtOrigin(const QPointF& origin, const QSizeF& si
     if (forTexID == 0) {
         // No mipmaps: the filters are plain GL_LINEAR, which never reads any.
         forTexID = dabcanvas::makeClearedTexture(
-            {ExponentialWithInter(buffer.width()), ExponentialWithInter(buffer.height())}, GL_LINEAR);
+            {ExponentialWithInter(buffer.width()), ExponentialWithInter(buffer.height())}, GL_LINEAR, depth);
         if (forTexID) {
             dabcanvas::copyFramebufferToTexture(QRect(QPoint(0, 0), buffer), buffer);
         }

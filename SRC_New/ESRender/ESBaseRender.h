@@ -111,7 +111,8 @@ public:
     // the buffer's sides rounded up to a power of two, transparent beyond the buffer, and the whole buffer
     // is copied; otherwise the rectangle, in bottom-up rows, cut to the buffer. Leaves the unit active and
     // the texture bound.
-    void updateTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLuint& forTexID, GLenum pos);
+    void updateTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLuint& forTexID, GLenum pos,
+                               int depth = 8);
 
     // ---- state
 

@@ -49,7 +49,7 @@ void readAs(Placement::Reading reading) {
 }
 
 // The text of a mode, whose main() gets another name, with what rounds its result.
-QString withNoise(const QString& fragment) {
+QString withNoise(const QString& fragment, int depth) {
     return ESShaderTools::withDefines(fragment, QStringLiteral("#define main blendedMain\n")) +
            QStringLiteral("\n#undef main\n") +
            ESBaseRender::stringWithFileName(QStringLiteral("Shaders.bundle/Noise.glsl")) +
@@ -57,8 +57,9 @@ QString withNoise(const QString& fragment) {
                "uniform float u_noiseTurn;\n"
                "void main() {\n"
                "    blendedMain();\n"
-               "    fragColor += dabNoise(u_noiseTurn) / 255.0;\n"
-               "}\n");
+               "    fragColor += dabNoise(u_noiseTurn) / %1.0;\n"
+               "}\n")
+               .arg((1 << depth) - 1);
 }
 
 // The rectangle of a dab: radius is the width, roundness times that the height.
@@ -178,7 +179,7 @@ void ESImageRender::setBlendType(std::uint32_t blendType) {
     _blendType = blendType;
     const QString vertex = vertexShaderStringForBlendType(blendType);
     const QString fragment = fragmentShaderStringForBlendType(blendType);
-    if (!_noiseTurn || !useProgramWithVertexShaderString(vertex, withNoise(fragment))) {
+    if (!_noiseTurn || !useProgramWithVertexShaderString(vertex, withNoise(fragment, _canvasDepth))) {
         useProgramWithVertexShaderString(vertex, fragment);
     }
 }
@@ -244,7 +245,7 @@ void ESImageRender::updateBGTextureAtPos(GLenum pos) {
 void ESImageRender::updateBGTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLenum pos) {
     const bool first = _background.texture == 0;
     const double bottomUpY = bufferSize().height() - origin.y() - size.height();
-    updateTextureAtOrigin({origin.x(), bottomUpY}, size, _background.texture, pos);
+    updateTextureAtOrigin({origin.x(), bottomUpY}, size, _background.texture, pos, _canvasDepth);
     _background.unit = pos;
     if (first && _background.texture != 0) {
         _background.size = QSizeF(ExponentialWithInter(static_cast<int>(bufferSize().width())),
@@ -403,7 +404,7 @@ bool ESImageRender::isCopy(const LPPoint& point, const QSize& imageSize) const {
            placement.readingOf({imageSize.width(), imageSize.height()}) == Placement::Reading::texelOnPixel;
 }
 
-bool ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
+bool ESImageRender::copyToBG(const QImage& rows, const QRect& rect, bool onlyBG) {
     if (!useBGTexture()) {
         return false;
     }
@@ -412,6 +413,9 @@ bool ESImageRender::copyToBG(const QImage& rows, const QRect& rect) {
     dabcanvas::copyRowsToTexture(rows, QPoint(rect.x(), y));
     if (dabcanvas::takeGLErrors() > 0) {
         return false;
+    }
+    if (onlyBG) {
+        return true;
     }
     GLint target = 0;
     glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &target);

@@ -59,6 +59,8 @@ public:
     // The mode whose fragment text this is; 0 for none.
     static std::uint32_t blendTypeOfFragmentShaderString(const QString& fragmentShaderString);
 
+    // Bits a channel of canvas and background copy: 8 or 16, to be told before the latter is made.
+    void setCanvasDepth(int bits) { _canvasDepth = bits; }
     // Rounds what the modes make of a canvas by a noise of place and of a turn, 0..1, so that faint paint adds up; a pixel
     // with none stays as it is. Without a turn, rounds to nearest.
     void setNoiseTurn(std::optional<float> turn);
@@ -71,10 +73,10 @@ public:
     // unit.
     void updateBGTextureAtPos(GLenum pos);
     void updateBGTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLenum pos);
-    // Copies an RGBA8888_Premultiplied image, bottom row first, to a rectangle of its size, of the background
-    // texture and the bound framebuffer. What mode replace makes of an image that isCopy(), for copying its
-    // bytes twice; drawing takes a driver without a GPU ten times as long.
-    bool copyToBG(const QImage& rows, const QRect& rect);
+    // Copies an RGBA8888_Premultiplied image, or one of RGBA64, bottom row first, to a rectangle of its size, of the
+    // background texture and the bound framebuffer. What mode replace makes of an image that isCopy(), for copying its
+    // bytes twice; drawing takes a driver without a GPU ten times as long. onlyBG: not to the framebuffer.
+    bool copyToBG(const QImage& rows, const QRect& rect, bool onlyBG = false);
     GLuint backgroundTexture() const { return _background.texture; }  // to read; 0 before the first copy
     // Bind a role's texture on its unit; false for a role without one.
     bool useBGTexture() const { return _background.use(); }
@@ -148,6 +150,7 @@ private:
     bool _hasLevels = false;  // the image to place
     bool _useLargeTexture = false, _repeatedlyRenderEnabled = false;
     Role _background, _line, _subLine;
+    int _canvasDepth = 8;
     std::optional<float> _noiseTurn;
 
     GLint _positionIndex = -1, _texCoordIndex = -1;

@@ -505,7 +505,7 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
             glUniform1i(source.uniform, static_cast<GLint>(source.unit - GL_TEXTURE0));
         }
         glUniform1f(show.opacity, opacity());
-        glUniform1f(show.noiseStep, _noiseTurn ? 1.0f / 255 : 0.0f);
+        glUniform1f(show.noiseStep, _noiseStep);
         glUniform1f(show.noiseTurn, _noiseTurn.value_or(0));
         useSmudgeTexture();
     }

@@ -99,7 +99,10 @@ public:
     // What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before.
     void setShowSources(GLuint coverageTexture, GLuint canvasTexture);
     // What it rounds by, as ESImageRender::setNoiseTurn().
-    void setNoiseTurn(std::optional<float> turn) { _noiseTurn = turn; }
+    void setNoiseTurn(std::optional<float> turn, int canvasDepth = 8) {
+        _noiseTurn = turn;
+        _noiseStep = turn ? 1.0f / static_cast<float>((1 << canvasDepth) - 1) : 0;
+    }
 
     // Where the driver has a texture barrier, a dab that lies clear of its pick-up place reads the layer itself;
     // else, and always without one, it reads a copy. The picture is the same.
@@ -155,6 +158,7 @@ private:
     std::optional<bool> _triedRecords;  // with or without framebuffer fetch
     std::uint32_t _noiseCount = 0;
     std::optional<float> _noiseTurn;
+    float _noiseStep = 0;
     GLint _bgCoordIndex = -1;
     GLint _dabRecord = -1;  // -1 for a program that is given the uniforms of each dab
     dabcanvas::UniformFloat _moist, _load, _mix;

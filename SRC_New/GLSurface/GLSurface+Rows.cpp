@@ -13,6 +13,7 @@
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "GLSurface/GLSurface.h"
 #include "Maths/Rounding.h"
+#include "Surface/DepthRows.h"
 
 namespace dabcanvas {
 namespace {
@@ -50,27 +51,40 @@ QImage evenlyReduced(const QImage& picture, double width, double height) {
 
 }  // namespace
 
+// Room for rows on their way; false without the memory.
+bool GLSurface::provideBand(std::size_t bytes) {
+    try {
+        _band.resize(std::max(bytes, _band.size()));
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+// 16 bits are rounded here, as drivers differ in it.
 bool GLSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) {
     if (!isPart(rect, rows)) {
         return false;
     }
-    if (rows.isBottomUpBlock()) {
-        _context->readData(rows.row(rect.height - 1), qRectOf(rect));
+    const int depth = _context->canvasDepth(), bytes = pixelBytes();
+    if (rows.isBottomUpBlock() && rows.pixelBytes == bytes) {
+        _context->readData(rows.row(rect.height - 1), qRectOf(rect), depth);
         return !isLost();
     }
     const int most = bandRows(rect);
-    try {
-        _band.resize(static_cast<std::size_t>(rect.width) * 4 * static_cast<std::size_t>(most));
-    } catch (const std::bad_alloc&) {
+    if (!provideBand(static_cast<std::size_t>(rect.width) * static_cast<std::size_t>(bytes * most))) {
         return false;
     }
     for (int y = 0; y < rect.height; y += most) {
         const Rect part{0, y, rect.width, std::min(most, rect.height - y)};
-        _context->readData(_band.data(), qRectOf({rect.x, rect.y + y, part.width, part.height}));
+        _context->readData(_band.data(), qRectOf({rect.x, rect.y + y, part.width, part.height}), depth);
         if (isLost()) {
             return false;  // with no pixels
         }
-        copyRows(MutablePixelView::bottomRowFirst(_band.data(), {part.width, part.height}), rows.part(part));
+        const PixelView from =
+            MutablePixelView::bottomRowFirst(_band.data(), {part.width, part.height}, bytes);
+        const MutablePixelView to = rows.part(part);
+        to.pixelBytes == bytes ? copyRows(from, to) : roundRows(from, to, rect.x, rect.y + y);
     }
     return true;
 }
@@ -79,30 +93,38 @@ bool GLSurface::write(PictureId picture, const Rect& rect, const PixelView& rows
     if (!isPart(rect, rows)) {
         return false;
     }
+    const bool sent = send(rect, rows, false);
+    _kept.forget(rect);
+    noteChanged(picture, rect);
+    return sent;
+}
+
+bool GLSurface::writeBackground(PictureId, const Rect& rect, const PixelView& rows) {
+    _smudgeStale = _smudgeStale.united(rect);
+    return isPart(rect, rows) && send(rect, rows, true);
+}
+
+bool GLSurface::send(const Rect& rect, const PixelView& rows, bool onlyBackground) {
     _context->beginRenderForType(ESRenderTypeCanvas);
-    const auto send = [&](const PixelView& block, const Rect& to) {
-        return _compositor->copyToBG(imageOf(block), QRect(to.x, to.y, to.width, to.height));
+    const auto sendBlock = [&](const PixelView& block, const Rect& to) {
+        return _compositor->copyToBG(imageOf(block), QRect(to.x, to.y, to.width, to.height), onlyBackground);
     };
     bool sent = true;
     if (rows.isBottomUpBlock()) {
-        sent = send(rows, rect);
+        sent = sendBlock(rows, rect);
     } else {
         const int most = bandRows(rect);
-        try {
-            _band.resize(static_cast<std::size_t>(rect.width) * 4 * static_cast<std::size_t>(most));
-        } catch (const std::bad_alloc&) {
-            return false;
-        }
+        sent = provideBand(static_cast<std::size_t>(rect.width) *
+                           static_cast<std::size_t>(rows.pixelBytes * most));
         for (int y = 0; sent && y < rect.height; y += most) {
             const Rect part{0, y, rect.width, std::min(most, rect.height - y)};
-            const auto band = MutablePixelView::bottomRowFirst(_band.data(), {part.width, part.height});
+            const auto band =
+                MutablePixelView::bottomRowFirst(_band.data(), {part.width, part.height}, rows.pixelBytes);
             copyRows(rows.part(part), band);
-            sent = send(band, {rect.x, rect.y + y, part.width, part.height});
+            sent = sendBlock(band, {rect.x, rect.y + y, part.width, part.height});
         }
     }
     _context->finishRender();
-    _kept.forget(rect);
-    noteChanged(picture, rect);
     return sent && !_context->checkLost();
 }
 

@@ -38,6 +38,10 @@ float roundnessOf(const Rect& rect) {
 // ---- Making
 
 std::unique_ptr<GLSurface> GLSurface::make(const QSizeF& size, const SurfaceOptions& options) {
+    if (!options.isUsable()) {
+        qCWarning(lcDabcanvasGL, "%s", kDepthProblem);
+        return nullptr;
+    }
     auto gl = ThreadGL::ofThisThread();
     if (!gl) {
         return nullptr;
@@ -47,7 +51,8 @@ std::unique_ptr<GLSurface> GLSurface::make(const QSizeF& size, const SurfaceOpti
     if (!context) {
         return nullptr;
     }
-    context->setLayerDepth(options.layerDepth == 8 ? 8 : 16);
+    context->setLayerDepth(options.layerDepth);
+    context->setCanvasDepth(options.canvasDepth);
     const ESCurrentScope current(&gl->view());
     if (!current || !context->createFirstBuffersWithSize(size)) {
         return nullptr;
@@ -80,6 +85,7 @@ bool GLSurface::makeRenders() {
         qCWarning(lcDabcanvasGL, "a surface cannot be made: a shader program did not build");
         return false;
     }
+    _compositor->setCanvasDepth(_context->canvasDepth());
     _compositor->setLineTextureID(_context->lineTexture(), kLineUnit);
     _line.render->setBufferSize(buffer);
     _subLine.render->setBufferSize(buffer);
@@ -377,7 +383,7 @@ void GLSurface::showSmudges(const Rect& rect, float opacity, std::uint32_t kept)
     auto& render = static_cast<ESSmudgeRender&>(*_smudge.render);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
     render.setShowSources(_context->lineTexture(), _compositor->backgroundTexture());
-    render.setNoiseTurn(noiseTurn(kept));
+    render.setNoiseTurn(noiseTurn(kept), _context->canvasDepth());
     render.setOpacity(opacity);
     render.setRoundness(roundnessOf(rect));
     const LPPoint dab = dabOf(rect);

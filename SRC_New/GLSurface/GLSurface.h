@@ -3,8 +3,8 @@
 //
 // Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab
 //           that needs one.
-// Depth     16 bits a channel in the layers, or 8; the picture has 8. What comes from layers of 16 bits is rounded by a
-//           noise: of place and dabs in the layer, of place and of what was kept there before in the picture.
+// Depth     16 bits a channel in the layers, or 8; so have picture and background. What comes from layers of 16 bits is
+//           rounded by a noise: of place and dabs in the layer, of place and of what was kept there before in the picture.
 // Context   is shared with the other surfaces made on the same thread, and so is its loss. It may be used on any thread: a
 //           SurfaceScope keeps it from the others meanwhile, which wait.
 // Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
@@ -33,8 +33,8 @@ class ThreadGL;
 
 class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
 public:
-    // Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2 or a side is not
-    // from 1 to the driver's limit.
+    // Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2, a side is not
+    // from 1 to the driver's limit or a depth neither 8 nor 16.
     static std::unique_ptr<GLSurface> make(const QSizeF& size, const SurfaceOptions& options = {});
     ~GLSurface() override;
 
@@ -59,8 +59,10 @@ public:
     void fill(PictureId picture, const PaintColor& color) override;
     bool place(PictureId picture, const Placed& placed) override;
 
+    int pixelBytes() const override { return _context->canvasDepth() / 2; }
     bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
     bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
+    bool writeBackground(PictureId picture, const Rect& rect, const PixelView& rows) override;
 
 private:
     // A renderer, and what its textures were made of.
@@ -92,6 +94,8 @@ private:
     void showSmudges(const Rect& rect, float opacity, std::uint32_t kept);
     std::optional<float> noiseTurn(std::uint32_t kept) const;
     void noteChanged(PictureId picture, const Rect& rect);
+    bool provideBand(std::size_t bytes);
+    bool send(const Rect& rect, const PixelView& rows, bool onlyBackground);
 
     std::shared_ptr<ThreadGL> _gl;
     std::unique_ptr<ESContext> _context;

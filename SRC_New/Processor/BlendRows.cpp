@@ -4,6 +4,7 @@
 #include "Processor/BlendRows.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "Surface/BlendType.h"
 
@@ -16,7 +17,7 @@ HWY_BEFORE_NAMESPACE();
 namespace dabcanvas::HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
-// Whole pixels in every vector, four channels each, in units of 1/255.
+// Whole pixels in every vector, four channels each, in the picture's own units.
 using Floats = hn::CappedTag<float, 16>;
 using Ints = hn::RebindToUnsigned<Floats>;
 using Value = hn::Vec<Floats>;
@@ -29,65 +30,96 @@ HWY_INLINE Value alphaOf(Value pixel) {
 HWY_INLINE Value one() {
     return hn::Set(kFloats, 1);
 }
+// Full scale of a picture's channels, and what a layer's are divided by to become their units.
+template <typename Channel>
+constexpr float kFull = std::numeric_limits<Channel>::max();
+template <typename Channel>
+constexpr float kLayerUnits = 65535 / kFull<Channel>;
+
+template <typename Channel>
 HWY_INLINE Value full() {
-    return hn::Set(kFloats, 255);
+    return hn::Set(kFloats, kFull<Channel>);
 }
 // 0..1 of what remains beside the pixel.
+template <typename Channel>
 HWY_INLINE Value restBeside(Value pixel) {
-    return hn::Sub(one(), hn::Mul(alphaOf(pixel), hn::Set(kFloats, 1.0f / 255)));
+    return hn::Sub(one(), hn::Mul(alphaOf(pixel), hn::Set(kFloats, 1 / kFull<Channel>)));
 }
+template <typename Channel>
 HWY_INLINE Value over(Value below, Value above) {
-    return hn::Add(hn::Mul(below, restBeside(above)), above);
+    return hn::Add(hn::Mul(below, restBeside<Channel>(above)), above);
 }
 // The colours that `mixed` has on white, on the alpha of one over the other. Never above it.
+template <typename Channel>
 HWY_INLINE Value onAlphaOf(Value mixed, Value back, Value line) {
-    const Value alpha = alphaOf(over(back, line));
-    return hn::Min(hn::Max(hn::Sub(mixed, hn::Sub(full(), alpha)), hn::Zero(kFloats)), alpha);
+    const Value alpha = alphaOf(over<Channel>(back, line));
+    return hn::Min(hn::Max(hn::Sub(mixed, hn::Sub(full<Channel>(), alpha)), hn::Zero(kFloats)), alpha);
 }
+template <typename Channel>
 HWY_INLINE Value onWhite(Value pixel) {
-    return hn::Add(hn::Sub(full(), alphaOf(pixel)), pixel);
+    return hn::Add(hn::Sub(full<Channel>(), alphaOf(pixel)), pixel);
 }
 
 // What a mode makes of a background and a layer, premultiplied, and whether pixels without paint in the layer stay.
 struct Normal {
     static constexpr bool kLeavesBare = false;
-    static HWY_INLINE Value mix(Value back, Value line) { return over(back, line); }
+    template <typename Channel>
+    static HWY_INLINE Value mix(Value back, Value line) {
+        return over<Channel>(back, line);
+    }
 };
 struct Replace {
     static constexpr bool kLeavesBare = false;
-    static HWY_INLINE Value mix(Value, Value line) { return line; }
+    template <typename Channel>
+    static HWY_INLINE Value mix(Value, Value line) {
+        return line;
+    }
 };
 struct Behind {
     static constexpr bool kLeavesBare = true;
-    static HWY_INLINE Value mix(Value back, Value line) { return over(line, back); }
+    template <typename Channel>
+    static HWY_INLINE Value mix(Value back, Value line) {
+        return over<Channel>(line, back);
+    }
 };
 struct Erase {
     static constexpr bool kLeavesBare = true;
-    static HWY_INLINE Value mix(Value back, Value line) { return hn::Mul(back, restBeside(line)); }
+    template <typename Channel>
+    static HWY_INLINE Value mix(Value back, Value line) {
+        return hn::Mul(back, restBeside<Channel>(line));
+    }
 };
 struct Tarnish {
     static constexpr bool kLeavesBare = true;
+    template <typename Channel>
     static HWY_INLINE Value mix(Value back, Value line) {
-        return onAlphaOf(hn::Min(onWhite(back), onWhite(line)), back, line);
+        return onAlphaOf<Channel>(hn::Min(onWhite<Channel>(back), onWhite<Channel>(line)), back, line);
     }
 };
 struct Brightness {
     static constexpr bool kLeavesBare = true;
+    template <typename Channel>
     static HWY_INLINE Value mix(Value back, Value line) {
         const auto isAlpha = hn::Eq(hn::And(hn::Iota(kInts, 0), hn::Set(kInts, 3)), hn::Set(kInts, 3));
-        return hn::IfThenElse(hn::RebindMask(kFloats, isAlpha), over(back, line), hn::Max(back, line));
+        return hn::IfThenElse(hn::RebindMask(kFloats, isAlpha), over<Channel>(back, line),
+                              hn::Max(back, line));
     }
 };
 struct Multiply {
     static constexpr bool kLeavesBare = true;
+    template <typename Channel>
     static HWY_INLINE Value mix(Value back, Value line) {
-        const Value product = hn::Mul(hn::Mul(onWhite(back), onWhite(line)), hn::Set(kFloats, 1.0f / 255));
-        return onAlphaOf(product, back, line);
+        const Value product = hn::Mul(hn::Mul(onWhite<Channel>(back), onWhite<Channel>(line)),
+                                      hn::Set(kFloats, 1 / kFull<Channel>));
+        return onAlphaOf<Channel>(product, back, line);
     }
 };
 struct Reset {
     static constexpr bool kLeavesBare = false;
-    static HWY_INLINE Value mix(Value back, Value) { return back; }
+    template <typename Channel>
+    static HWY_INLINE Value mix(Value back, Value) {
+        return back;
+    }
 };
 
 template <typename From>
@@ -98,8 +130,8 @@ HWY_INLINE Value loaded(const From* from) {
 }
 
 // One vector: the last of a row comes from and goes to a copy.
-template <typename Mode>
-HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> noise) {
+template <typename Mode, typename Channel>
+HWY_INLINE void blendVector(const BlendRow<Channel>& row, Value scale, hn::Vec<Ints> noise) {
     const Value back = loaded(row.background);
     Value line = hn::Mul(loaded(row.layer), scale);
     Value bareUnless = alphaOf(line);
@@ -107,7 +139,7 @@ HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> nois
         line = hn::Mul(line, hn::Mul(alphaOf(loaded(row.mask)), hn::Set(kFloats, 1.0f / 65535)));
         bareUnless = alphaOf(line);
     }
-    Value mixed = Mode::mix(back, line);
+    Value mixed = Mode::template mix<Channel>(back, line);
     mixed = hn::Min(mixed, alphaOf(mixed));
     const Value up = hn::Add(hn::Mul(hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Floats>(), noise)),
                                      hn::Set(kFloats, 1.0f / 256)),
@@ -118,16 +150,16 @@ HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> nois
         rounded = hn::IfThenElse(hn::RebindMask(hn::RebindToSigned<Floats>(), bare),
                                  hn::ConvertTo(hn::RebindToSigned<Floats>(), loaded(row.picture)), rounded);
     }
-    hn::StoreU(hn::DemoteTo(hn::Rebind<std::uint8_t, Floats>(), rounded), hn::Rebind<std::uint8_t, Floats>(),
-               row.picture);
+    const hn::Rebind<Channel, Floats> channels;
+    hn::StoreU(hn::DemoteTo(channels, rounded), channels, row.picture);
 }
 
-template <typename Mode>
-void blendWhole(const BlendRow& whole) {
+template <typename Mode, typename Channel>
+void blendWhole(const BlendRow<Channel>& whole) {
     const int step = static_cast<int>(hn::Lanes(kFloats)) / 4;
-    const Value scale = hn::Set(kFloats, whole.opacity / 257);  // of 65535 to 255
-    const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kInts, 0)), hn::Set(kInts, kNoiseAlong));
-    BlendRow row = whole;
+    const Value scale = hn::Set(kFloats, whole.opacity / kLayerUnits<Channel>);
+    const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kInts, 0)), hn::Set(kInts, whole.along));
+    BlendRow<Channel> row = whole;
     const auto noise = [&] {
         return hn::And(hn::Add(places, hn::Set(kInts, row.noise)), hn::Set(kInts, 255));
     };
@@ -137,10 +169,10 @@ void blendWhole(const BlendRow& whole) {
         row.background += 4 * step;
         row.layer += 4 * step;
         row.mask += row.mask != nullptr ? 4 * step : 0;
-        row.noise += static_cast<std::uint32_t>(step) * kNoiseAlong;
+        row.noise += static_cast<std::uint32_t>(step) * whole.along;
     }
     if (row.count > 0) {
-        std::uint8_t picture[16] = {}, background[16] = {};
+        Channel picture[16] = {}, background[16] = {};
         std::uint16_t layer[16] = {}, mask[16] = {};
         const auto values = static_cast<std::size_t>(row.count) * 4;
         std::copy_n(row.picture, values, picture);
@@ -149,9 +181,9 @@ void blendWhole(const BlendRow& whole) {
         if (row.mask != nullptr) {
             std::copy_n(row.mask, values, mask);
         }
-        blendVector<Mode>({picture, background, layer, row.mask != nullptr ? mask : nullptr, row.count,
-                           row.opacity, row.noise},
-                          scale, noise());
+        blendVector<Mode, Channel>({picture, background, layer, row.mask != nullptr ? mask : nullptr,
+                                    row.count, row.opacity, row.noise},
+                                   scale, noise());
         std::copy_n(picture, values, row.picture);
     }
 }
@@ -161,7 +193,7 @@ void blendWhole(const BlendRow& whole) {
 using Words = hn::CappedTag<std::uint16_t, 32>;
 constexpr Words kWords;
 
-HWY_INLINE void blendWords(const BlendRow& row, std::uint16_t opacity, hn::Vec<Words> noise) {
+HWY_INLINE void blendWords(const BlendRow<std::uint8_t>& row, std::uint16_t opacity, hn::Vec<Words> noise) {
     alignas(16) static constexpr std::uint8_t kAlphas[16] = {6,  7,  6,  7,  6,  7,  6,  7,
                                                              14, 15, 14, 15, 14, 15, 14, 15};
     const hn::Repartition<std::uint8_t, Words> bytes;
@@ -181,11 +213,12 @@ HWY_INLINE void blendWords(const BlendRow& row, std::uint16_t opacity, hn::Vec<W
                hn::Rebind<std::uint8_t, Words>(), row.picture);
 }
 
-void blendNormal(const BlendRow& whole) {
+void blendNormal(const BlendRow<std::uint8_t>& whole) {
     const int step = static_cast<int>(hn::Lanes(kWords)) / 4;
     const auto opacity = static_cast<std::uint16_t>(std::clamp(whole.opacity, 0.0f, 1.0f) * 65535 + 0.5f);
-    const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kWords, 0)), hn::Set(kWords, kNoiseAlong));
-    BlendRow row = whole;
+    const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kWords, 0)),
+                                hn::Set(kWords, static_cast<std::uint16_t>(whole.along)));
+    BlendRow<std::uint8_t> row = whole;
     const auto noise = [&] {
         return hn::And(hn::Add(places, hn::Set(kWords, static_cast<std::uint16_t>(row.noise))),
                        hn::Set(kWords, 255));
@@ -195,7 +228,7 @@ void blendNormal(const BlendRow& whole) {
         row.picture += 4 * step;
         row.background += 4 * step;
         row.layer += 4 * step;
-        row.noise += static_cast<std::uint32_t>(step) * kNoiseAlong;
+        row.noise += static_cast<std::uint32_t>(step) * whole.along;
     }
     if (row.count > 0) {
         std::uint8_t picture[32], background[32] = {};
@@ -209,7 +242,13 @@ void blendNormal(const BlendRow& whole) {
     }
 }
 
-void blend(std::uint32_t blendType, const BlendRow& row) {
+// Of 16 bits, words would round what remains of the background.
+HWY_INLINE void blendNormal(const BlendRow<std::uint16_t>& row) {
+    blendWhole<Normal>(row);
+}
+
+template <typename Channel>
+HWY_INLINE void blend(std::uint32_t blendType, const BlendRow<Channel>& row) {
     switch (blendType) {
         case ESBlendTypeReplace:
             return blendWhole<Replace>(row);
@@ -230,6 +269,13 @@ void blend(std::uint32_t blendType, const BlendRow& row) {
     }
 }
 
+void blend8(std::uint32_t blendType, const BlendRow<std::uint8_t>& row) {
+    blend(blendType, row);
+}
+void blend16(std::uint32_t blendType, const BlendRow<std::uint16_t>& row) {
+    blend(blendType, row);
+}
+
 const char* targetName() {
     return hwy::TargetName(HWY_TARGET);
 }
@@ -240,11 +286,15 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace dabcanvas {
 
-HWY_EXPORT(blend);
+HWY_EXPORT(blend8);
+HWY_EXPORT(blend16);
 HWY_EXPORT(targetName);
 
-void blendRow(std::uint32_t blendType, const BlendRow& row) {
-    HWY_DYNAMIC_DISPATCH(blend)(blendType, row);
+void blendRow(std::uint32_t blendType, const BlendRow<std::uint8_t>& row) {
+    HWY_DYNAMIC_DISPATCH(blend8)(blendType, row);
+}
+void blendRow(std::uint32_t blendType, const BlendRow<std::uint16_t>& row) {
+    HWY_DYNAMIC_DISPATCH(blend16)(blendType, row);
 }
 
 const char* vectorsInUse() {

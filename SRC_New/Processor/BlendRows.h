@@ -1,30 +1,35 @@
 // SPDX-License-Identifier: MIT
-// The blend modes, a row at a time. What each does stands in Blend.h of the same folder's table, see blendModes in the
-// .cpp; every one takes background and layer and gives the picture.
+// The blend modes, a row at a time. What each does stands once, in the .cpp, for pictures of 8 and of 16 bits a channel;
+// every one takes background and layer and gives the picture.
 #pragma once
 
 #include <cstdint>
 
+#include "Surface/DepthRows.h"
+
 namespace dabcanvas {
 
 // Pixels side by side in one row of a tile.
+template <typename Channel>
 struct BlendRow {
-    std::uint8_t* picture;
-    const std::uint8_t* background;
-    const std::uint16_t* layer;  // full scale 65535
-    const std::uint16_t* mask;   // of which alpha counts; null: none
-    int count;                   // pixels
-    float opacity;               // 0..1
-    std::uint32_t noise;         // of the first pixel, see noiseAt()
+    Channel* picture;
+    const Channel* background;
+    const std::uint16_t* layer;         // full scale 65535
+    const std::uint16_t* mask;          // of which alpha counts; null: none
+    int count;                          // pixels
+    float opacity;                      // 0..1
+    std::uint32_t noise;                // of the first pixel, see noiseAt()
+    std::uint32_t along = kNoiseAlong;  // what it grows by from pixel to pixel
 };
 
 // Rounds by noise instead of to the nearest, so that faint strokes over one another add up to what they hold. Places next
-// to each other, and strokes after each other, round each another way. Of the lowest 8 bits the higher half rounds up.
-inline constexpr std::uint32_t kNoiseAlong = 193, kNoiseDown = 146, kNoiseLater = 99;
+// to each other, and strokes after each other, round each another way.
+inline constexpr std::uint32_t kNoiseLater = 99;
 constexpr std::uint32_t noiseAt(int x, int y, std::uint32_t commits) {
-    return static_cast<std::uint32_t>(x) * kNoiseAlong + static_cast<std::uint32_t>(y) * kNoiseDown +
-           commits * kNoiseLater;
+    return placeNoise(x, y) + commits * kNoiseLater;
 }
+// Of a row that is rounded to the nearest, along by 0.
+inline constexpr std::uint32_t kNearest = 128;
 
 // What a value is raised by before its fraction is cut off, above 0 and below 1.
 constexpr float upBy(std::uint32_t noise) {
@@ -33,7 +38,8 @@ constexpr float upBy(std::uint32_t noise) {
 
 // Pixels without paint in the layer stay as they are in the modes that leave them (all but normal, replace and reset);
 // a blend type that is none counts as normal.
-void blendRow(std::uint32_t blendType, const BlendRow& row);
+void blendRow(std::uint32_t blendType, const BlendRow<std::uint8_t>& row);
+void blendRow(std::uint32_t blendType, const BlendRow<std::uint16_t>& row);
 
 // What the processor offers, by name.
 const char* vectorsInUse();

@@ -24,10 +24,23 @@ bool isSame(const std::weak_ptr<const Object>& one, const std::shared_ptr<const 
     return !one.owner_before(other) && !other.owner_before(one);
 }
 
+// As drawDabs(), into a layer of 8 bits.
+bool drawRounded(std::span<const TileDab> dabs, const DabGround& ground) {
+    bool any = false;
+    for (const TileDab& dab : dabs) {
+        any |= drawDabs({&dab, 1}, ground);
+        for (int y = dab.firstRow; y < dab.endRow; ++y) {
+            roundToBytes(ground.tile + std::size_t{4} * kTileSide * static_cast<std::size_t>(y), kTileSide);
+        }
+    }
+    return any;
+}
+
 }  // namespace
 
 struct DabPainter::Inside {
     // The tips of the brushes used last.
+    bool (*draw)(std::span<const TileDab> dabs, const DabGround& ground) = drawDabs;
     struct KeptTip {
         std::weak_ptr<const TipSet> set;
         std::size_t index;
@@ -178,13 +191,13 @@ void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs
     DabGround ground{nullptr, rect.width, through ? through->data() : nullptr};
     if (layer.tile(tile.tile) != nullptr) {
         ground.tile = layer.writable(tile.tile).values.data();
-        drawDabs(here, ground);
+        draw(here, ground);
         return;
     }
     // What only seemed to be touched stays away.
     const auto made = std::make_unique<Tile<std::uint16_t>>();
     ground.tile = made->values.data();
-    if (drawDabs(here, ground)) {
+    if (draw(here, ground)) {
         layer.writable(tile.tile) = *made;
     }
 }
@@ -207,7 +220,9 @@ void DabPainter::Inside::drawTiles(TileGrid<std::uint16_t>& layer, PaperTiles* p
     }
 }
 
-DabPainter::DabPainter() : _inside(std::make_unique<Inside>()) {}
+DabPainter::DabPainter(int layerDepth) : _inside(std::make_unique<Inside>()) {
+    _inside->draw = layerDepth == 8 ? drawRounded : drawDabs;
+}
 DabPainter::~DabPainter() = default;
 
 Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Draws dabs into a layer of 16 bits a channel: tip times paper times flow, over what is there.
+// Draws dabs into a layer of 16 bits a channel: tip times paper times flow, over what is there. A layer of 8 bits is one
+// whose values are rounded to 257 times a byte after each dab.
 //
 // Pixels   premultiplied, full scale 65535. Rounded by a noise of place and dab, alike for the channels of a pixel, so
 //          that many faint dabs come out at what they add up to, and no channel exceeds its alpha.
@@ -25,7 +26,7 @@ class DabPainter {
 public:
     static constexpr std::size_t kMostDerived = std::size_t{32} << 20;  // bytes
 
-    DabPainter();
+    explicit DabPainter(int layerDepth = 16);
     ~DabPainter();
     DabPainter(const DabPainter&) = delete;
     DabPainter& operator=(const DabPainter&) = delete;

@@ -6,10 +6,13 @@
 
 #include "Maths/Export.h"
 #include "Surface/PaintSurface.h"
+#include "Surface/SurfaceOptions.h"
 
 namespace dabcanvas {
 
-// Transparent. Null, after one log line, when a side is not from 1 to 32768 or there is no memory.
-DABCANVAS_PROCESSOR_API std::unique_ptr<PaintSurface> makeProcessorSurface(const Size& size);
+// Transparent. Null, after one log line, when a side is not from 1 to 32768, for a depth that is neither 8 nor 16, and
+// without the memory.
+DABCANVAS_PROCESSOR_API std::unique_ptr<PaintSurface> makeProcessorSurface(
+    const Size& size, const SurfaceOptions& options = {});
 
 }  // namespace dabcanvas

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <numbers>
 #include <utility>
 #include <vector>
@@ -14,7 +15,6 @@
 namespace dabcanvas {
 namespace {
 
-using Picture8 = TileGrid<std::uint8_t>;
 using Colour = std::array<float, 4>;  // units of 1/255
 
 // The texels that a placed picture is read from: its own, or fewer where it is reduced.
@@ -80,28 +80,31 @@ double inside(double place, double length) {
     return std::clamp(std::min(place + 0.5, length) - std::max(place - 0.5, 0.0), 0.0, 1.0);
 }
 
-void blendPixel(std::uint8_t* to, const std::uint8_t* back, const Colour& source, float covered,
-                bool replaces) {
+template <typename Channel>
+void blendPixel(Channel* to, const Channel* back, const Colour& source, float covered, bool replaces) {
+    constexpr float kFull = std::numeric_limits<Channel>::max();
     const float taken = (replaces ? 1.0f : source[3] / 255) * covered;
     for (std::size_t i = 0; i < 4; ++i) {
-        const float value = static_cast<float>(back[i]) * (1 - taken) + source[i] * covered;
-        to[i] = static_cast<std::uint8_t>(std::min(value + 0.5f, 255.0f));
+        const float value = static_cast<float>(back[i]) * (1 - taken) + source[i] * (kFull / 255) * covered;
+        to[i] = static_cast<Channel>(std::min(value + 0.5f, kFull));
     }
 }
 
 }  // namespace
 
-Rect placeRows(const Placed& placed, const Rect& clip, const Picture8& background, Picture8& picture) {
+template <typename Channel>
+Rect placeRows(const Placed& placed, const Rect& clip, const TileGrid<Channel>& background,
+               TileGrid<Channel>& picture) {
     const double radian = std::remainder(placed.radian, 2 * std::numbers::pi);
     const Placement placement({placed.centreX, placed.centreY}, placed.width, placed.height, radian);
     const Rect touched = placement.touched().intersected(clip);
     const Source source(placed.pixels, placement);
     const Back back{placed.centreX,   placed.centreY,        placement.cosine(),
                     placement.sine(), placement.width() / 2, placement.height() / 2};
-    static constexpr std::uint8_t kTransparent[4] = {};
-    Picture8 result = picture;
+    static constexpr Channel kTransparent[4] = {};
+    TileGrid<Channel> result = picture;
     result.forEachIn(touched, [&](std::size_t index, const Rect& part) {
-        Tile<std::uint8_t>& tile = result.writable(index);
+        Tile<Channel>& tile = result.writable(index);
         const auto* below = background.tile(index);
         for (int y = part.y; y < part.bottom(); ++y) {
             for (int x = part.x; x < part.right(); ++x) {
@@ -120,5 +123,8 @@ Rect placeRows(const Placed& placed, const Rect& clip, const Picture8& backgroun
     picture = std::move(result);
     return touched;
 }
+
+template Rect placeRows(const Placed&, const Rect&, const TileGrid<std::uint8_t>&, TileGrid<std::uint8_t>&);
+template Rect placeRows(const Placed&, const Rect&, const TileGrid<std::uint16_t>&, TileGrid<std::uint16_t>&);
 
 }  // namespace dabcanvas

@@ -11,7 +11,8 @@ namespace dabcanvas {
 
 // `picture` becomes `background` with what is placed over it, or in its place. Returns the pixels that may have changed.
 // Throws std::bad_alloc, with nothing changed.
-Rect placeRows(const Placed& placed, const Rect& clip, const TileGrid<std::uint8_t>& background,
-               TileGrid<std::uint8_t>& picture);
+template <typename Channel>
+Rect placeRows(const Placed& placed, const Rect& clip, const TileGrid<Channel>& background,
+               TileGrid<Channel>& picture);
 
 }  // namespace dabcanvas

@@ -2,7 +2,7 @@
 #include "Processor/ProcessorSurface.h"
 
 #include <algorithm>
-#include <cmath>
+#include <limits>
 #include <new>
 #include <string>
 #include <utility>
@@ -16,24 +16,37 @@
 namespace dabcanvas {
 namespace {
 
-using Picture8 = TileGrid<std::uint8_t>;
 using Layer16 = TileGrid<std::uint16_t>;
 
-MutablePixelView viewOf(Tile<std::uint8_t>& tile, const Rect& part) {
-    return {tile.at(part.x % kTileSide, part.y % kTileSide), {part.width, part.height}, kTileSide * 4};
+template <typename Channel>
+const Channel* pixelsAt(const Tile<Channel>* tile, int x, int y) {
+    static const Tile<Channel> kTransparent;
+    return (tile != nullptr ? tile : &kTransparent)->at(x % kTileSide, y % kTileSide);
 }
 
-PixelView viewOf(const Tile<std::uint8_t>* tile, const Rect& part) {
-    static const Tile<std::uint8_t> kTransparent;
-    return {(tile != nullptr ? tile : &kTransparent)->at(part.x % kTileSide, part.y % kTileSide),
+// As rows of the grid's own depth.
+template <typename Channel>
+MutablePixelView viewOf(Tile<Channel>& tile, const Rect& part) {
+    constexpr int kBytes = 4 * sizeof(Channel);
+    return {reinterpret_cast<std::uint8_t*>(tile.at(part.x % kTileSide, part.y % kTileSide)),
             {part.width, part.height},
-            kTileSide * 4};
+            kTileSide * kBytes,
+            kBytes};
+}
+
+template <typename Channel>
+PixelView viewOf(const Tile<Channel>* tile, const Rect& part) {
+    constexpr int kBytes = 4 * sizeof(Channel);
+    return {reinterpret_cast<const std::uint8_t*>(pixelsAt(tile, part.x, part.y)),
+            {part.width, part.height},
+            kTileSide * kBytes,
+            kBytes};
 }
 
 // `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing. Calls changed(index) for each tile that
 // was another.
-template <typename Changed>
-void copyTiles(const Picture8& from, Picture8& to, const Rect& rect, Changed&& changed) {
+template <typename Channel, typename Changed>
+void copyTiles(const TileGrid<Channel>& from, TileGrid<Channel>& to, const Rect& rect, Changed&& changed) {
     to.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         if (to.sharesWith(from, index)) {
             return;
@@ -46,12 +59,25 @@ void copyTiles(const Picture8& from, Picture8& to, const Rect& rect, Changed&& c
     });
 }
 
-void copyTiles(const Picture8& from, Picture8& to, const Rect& rect) {
+template <typename Channel>
+void copyTiles(const TileGrid<Channel>& from, TileGrid<Channel>& to, const Rect& rect) {
     copyTiles(from, to, rect, [](std::size_t) {});
 }
 
-std::uint8_t byteOf(float value) {
-    return static_cast<std::uint8_t>(std::clamp(value, 0.0f, 1.0f) * 255 + 0.5f);
+// What the grid, a copy of one, holds with these rows in the rectangle.
+template <typename Channel>
+TileGrid<Channel> withRows(TileGrid<Channel> grid, const Rect& rect, const PixelView& rows) {
+    grid.forEachIn(rect, [&](std::size_t index, const Rect& part) {
+        const PixelView from = rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height});
+        const MutablePixelView to = viewOf(grid.writable(index), part);
+        from.pixelBytes == to.pixelBytes ? copyRows(from, to) : widenRows(from, to);
+    });
+    return grid;
+}
+
+template <typename Channel>
+Channel channelOf(float value) {
+    return static_cast<Channel>(std::clamp(value, 0.0f, 1.0f) * std::numeric_limits<Channel>::max() + 0.5f);
 }
 
 // Runs what needs memory; false, after one line, where there is none.
@@ -70,36 +96,51 @@ bool withMemory(const char* what, Work&& work) {
 
 // ---- Making
 
-std::unique_ptr<PaintSurface> makeProcessorSurface(const Size& size) {
+std::unique_ptr<PaintSurface> makeProcessorSurface(const Size& size, const SurfaceOptions& options) {
     constexpr int kMost = ProcessorSurface::kMostSide;
     const auto isSide = [](int side) { return side >= 1 && side <= kMost; };
     std::unique_ptr<PaintSurface> surface;
-    if (isSide(size.width) && isSide(size.height)) {
-        withMemory("make a surface", [&] { surface = std::make_unique<ProcessorSurface>(size); });
-    } else {
+    if (!isSide(size.width) || !isSide(size.height)) {
         logSurfaceProblem(("a surface of " + std::to_string(size.width) + " x " +
                            std::to_string(size.height) + " pixels cannot be made: sides are from 1 to " +
                            std::to_string(kMost))
                               .c_str());
+    } else if (!options.isUsable()) {
+        logSurfaceProblem(kDepthProblem);
+    } else {
+        withMemory("make a surface", [&] {
+            if (options.canvasDepth == 8) {
+                surface = std::make_unique<PictureSurface<std::uint8_t>>(size, options.layerDepth);
+            } else {
+                surface = std::make_unique<PictureSurface<std::uint16_t>>(size, options.layerDepth);
+            }
+        });
     }
     return surface;
 }
 
-ProcessorSurface::ProcessorSurface(const Size& size)
+ProcessorSurface::ProcessorSurface(const Size& size, int layerDepth)
     : PaintSurface(size),
-      _picture(size),
-      _background(size),
       _line{Layer16(size), {}},
       _subLine{Layer16(size), {}},
-      _smudges(size),
+      _smudges(size, layerDepth),
+      _painter(layerDepth) {}
+
+template <typename Channel>
+PictureSurface<Channel>::PictureSurface(const Size& size, int layerDepth)
+    : ProcessorSurface(size, layerDepth),
+      _picture(size),
+      _background(size),
+      _isPlain(layerDepth == 8),
       _kept(_picture.count()) {}
 
 std::string ProcessorSurface::name() {
     return std::string("processor (") + vectorsInUse() + ")";
 }
 
-void ProcessorSurface::noteChanged(PictureId picture, const Rect& rect) {
-    noteTouched(picture, rect.intersected(Rect::of(size())));
+template <typename Channel>
+void PictureSurface<Channel>::noteChanged(PictureId picture, const Rect& rect) {
+    noteTouched(picture, rect.intersected(Rect::of(this->size())));
 }
 
 // ---- Layers
@@ -115,28 +156,6 @@ Rect ProcessorSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const D
     Rect touched;
     withMemory("draw", [&] { touched = drawInto(layerOf(layer), dabs, style); });
     return touched;
-}
-
-// Drawn by themselves and then put over the picture, which comes to the same.
-Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
-    Layer own{Layer16(size()), {}};
-    withMemory("draw", [&] {
-        drawInto(own, dabs, style);
-        _picture.forEachIn(own.holds, [&](std::size_t index, const Rect& part) {
-            if (const auto* from = own.grid.tile(index)) {
-                auto& tile = _picture.writable(index);
-                for (int y = part.y; y < part.bottom(); ++y) {
-                    std::uint8_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
-                    blendRow(ESBlendTypeNormal,
-                             {row, row, from->at(part.x % kTileSide, y % kTileSide), nullptr, part.width, 1,
-                              noiseAt(part.x, y, _kept[index].times)});
-                }
-                ++_kept[index].times;
-            }
-        });
-    });
-    noteChanged(picture, own.holds);
-    return own.holds;
 }
 
 void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
@@ -166,7 +185,8 @@ void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
 
 // ---- Smudging
 
-bool ProcessorSurface::prepareSmudge(PictureId) {
+template <typename Channel>
+bool PictureSurface<Channel>::prepareSmudge(PictureId) {
     return withMemory("smudge", [&] { _smudges.show(_background); });
 }
 
@@ -183,7 +203,51 @@ Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& s
 
 // ---- Pictures
 
-void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style) {
+// The layer goes onto the picture in one part of a tile, with the background below, or the picture itself.
+template <typename Channel>
+void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, const Paint& paint,
+                                        const CompositeStyle& style) {
+    Channel* const picture = _picture.writable(index).at(part.x % kTileSide, part.y % kTileSide);
+    BlendRow<Channel> row{
+        .picture = picture,
+        .background = paint.overPicture ? picture : pixelsAt(_background.tile(index), part.x, part.y),
+        .layer = pixelsAt(paint.layer, part.x, part.y),
+        .mask = style.masked ? pixelsAt(paint.mask, part.x, part.y) : nullptr,
+        .count = part.width,
+        .opacity = style.opacity,
+        .noise = _isPlain ? kNearest : noiseAt(part.x, part.y, _kept[index].times),
+        .along = _isPlain ? 0 : kNoiseAlong};
+    constexpr int kStride = kTileSide * 4;
+    for (int y = 0; y < part.height; ++y) {
+        blendRow(style.blendType, row);
+        row.picture += kStride;
+        row.background += kStride;
+        row.layer += kStride;
+        row.mask += row.mask != nullptr ? kStride : 0;
+        row.noise += _isPlain ? 0 : kNoiseDown;
+    }
+}
+
+// Drawn by themselves and then put over the picture, which comes to the same.
+template <typename Channel>
+Rect PictureSurface<Channel>::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
+    Layer own{Layer16(this->size()), {}};
+    withMemory("draw", [&] {
+        drawInto(own, dabs, style);
+        _picture.forEachIn(own.holds, [&](std::size_t index, const Rect& part) {
+            if (const auto* from = own.grid.tile(index)) {
+                blendTile(index, part, {.layer = from, .overPicture = true}, {});
+                ++_kept[index].times;
+            }
+        });
+    });
+    noteChanged(picture, own.holds);
+    return own.holds;
+}
+
+template <typename Channel>
+void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
+                                            const CompositeStyle& style) {
     _kept[index].isBlended = true;
     const auto* line = _line.grid.tile(index);
     const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
@@ -200,25 +264,12 @@ void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const 
         const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;
         return leaves ? void() : copyTiles(_background, _picture, part);
     }
-    static const Tile<std::uint16_t> kEmpty;
-    auto& picture = _picture.writable(index);
-    const int x = part.x % kTileSide;
-    const PixelView background = viewOf(_background.tile(index), part);
-    for (int y = part.y; y < part.bottom(); ++y) {
-        const int inTile = y % kTileSide;
-        blendRow(style.blendType,
-                 {.picture = picture.at(x, inTile),
-                  .background = background.row(y - part.y),
-                  .layer = (line != nullptr ? line : &kEmpty)->at(x, inTile),
-                  .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, inTile) : nullptr,
-                  .count = part.width,
-                  .opacity = style.opacity,
-                  .noise = noiseAt(part.x, y, _kept[index].times)});
-    }
+    blendTile(index, part, {.layer = line, .mask = mask}, style);
 }
 
-void ProcessorSurface::composite(PictureId picture, std::span<const Rect> rects,
-                                 const CompositeStyle& style) {
+template <typename Channel>
+void PictureSurface<Channel>::composite(PictureId picture, std::span<const Rect> rects,
+                                        const CompositeStyle& style) {
     for (const Rect& rect : rects) {
         withMemory("composite", [&] {
             _picture.forEachIn(
@@ -228,12 +279,14 @@ void ProcessorSurface::composite(PictureId picture, std::span<const Rect> rects,
     }
 }
 
-void ProcessorSurface::revert(PictureId picture, const Rect& rect) {
+template <typename Channel>
+void PictureSurface<Channel>::revert(PictureId picture, const Rect& rect) {
     withMemory("take a stroke back", [&] { copyTiles(_background, _picture, rect); });
     noteChanged(picture, rect);
 }
 
-void ProcessorSurface::commit(PictureId, const Rect& rect) {
+template <typename Channel>
+void PictureSurface<Channel>::commit(PictureId, const Rect& rect) {
     withMemory("keep a stroke", [&] {
         copyTiles(_picture, _background, rect, [this](std::size_t index) {
             _kept[index].times += std::exchange(_kept[index].isBlended, false) ? 1 : 0;
@@ -241,16 +294,19 @@ void ProcessorSurface::commit(PictureId, const Rect& rect) {
     });
 }
 
-void ProcessorSurface::fill(PictureId picture, const PaintColor& color) {
+template <typename Channel>
+void PictureSurface<Channel>::fill(PictureId picture, const PaintColor& color) {
     withMemory("fill a picture", [&] {
-        _picture.fill({byteOf(color.red), byteOf(color.green), byteOf(color.blue), byteOf(color.alpha)});
+        _picture.fill({channelOf<Channel>(color.red), channelOf<Channel>(color.green),
+                       channelOf<Channel>(color.blue), channelOf<Channel>(color.alpha)});
     });
     std::fill(_kept.begin(), _kept.end(), Kept{});
-    noteChanged(picture, Rect::of(size()));
+    noteChanged(picture, Rect::of(this->size()));
 }
 
-bool ProcessorSurface::place(PictureId picture, const Placed& placed) {
-    const Rect clip = placed.clip.intersected(Rect::of(size()));
+template <typename Channel>
+bool PictureSurface<Channel>::place(PictureId picture, const Placed& placed) {
+    const Rect clip = placed.clip.intersected(Rect::of(this->size()));
     if (placed.pixels.isNull() || clip.isEmpty()) {
         return false;
     }
@@ -264,29 +320,27 @@ bool ProcessorSurface::place(PictureId picture, const Placed& placed) {
 
 // ---- Rows
 
-bool ProcessorSurface::read(PictureId, const Rect& rect, const MutablePixelView& rows) {
+template <typename Channel>
+bool PictureSurface<Channel>::read(PictureId, const Rect& rect, const MutablePixelView& rows) {
     if (!isPart(rect, rows)) {
         return false;
     }
     _picture.forEachIn(rect, [&](std::size_t index, const Rect& part) {
-        copyRows(viewOf(_picture.tile(index), part),
-                 rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height}));
+        const PixelView from = viewOf(_picture.tile(index), part);
+        const auto to = rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height});
+        to.pixelBytes == from.pixelBytes ? copyRows(from, to) : roundRows(from, to, part.x, part.y);
     });
     return true;
 }
 
-bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelView& rows) {
+template <typename Channel>
+bool PictureSurface<Channel>::write(PictureId picture, const Rect& rect, const PixelView& rows) {
     if (!isPart(rect, rows)) {
         return false;
     }
     // A copy shares its tiles, so that nothing has changed where the memory ends half way.
     return withMemory("take pixels", [&] {
-        Picture8 written = _picture;
-        written.forEachIn(rect, [&](std::size_t index, const Rect& part) {
-            copyRows(rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height}),
-                     viewOf(written.writable(index), part));
-        });
-        Picture8 background = _background;
+        Grid written = withRows(_picture, rect, rows), background = _background;
         copyTiles(written, background, rect);
         written.forEachIn(rect, [&](std::size_t index, const Rect& part) {
             if (part == written.rectOf(index)) {
@@ -298,5 +352,14 @@ bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelVie
         noteChanged(picture, rect);
     });
 }
+
+template <typename Channel>
+bool PictureSurface<Channel>::writeBackground(PictureId, const Rect& rect, const PixelView& rows) {
+    return isPart(rect, rows) &&
+           withMemory("take pixels", [&] { _background = withRows(_background, rect, rows); });
+}
+
+template class PictureSurface<std::uint8_t>;
+template class PictureSurface<std::uint16_t>;
 
 }  // namespace dabcanvas

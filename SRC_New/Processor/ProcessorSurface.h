@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Paint in plain memory, put there by the processor: no context, no driver and no call of OpenGL.
 //
-// Layers    16 bits a channel; picture and background 8. All in tiles that exist where paint is (Tiles.h), so that what
-//           a stroke costs has nothing to do with how large the canvas is.
+// Depth     picture and background 8 or 16 bits a channel, layers 16; such of 8 are rounded to them after each dab, where
+//           they lie. All in tiles that exist where paint is (Tiles.h), so that what a stroke costs has nothing to do with
+//           how large the canvas is.
 // Thread    any one at a time; drawing large dabs takes others to help.
 #pragma once
 
@@ -17,35 +18,25 @@
 
 namespace dabcanvas {
 
-class ProcessorSurface final : public PaintSurface {
+// The layers; pictures are the class's below.
+class ProcessorSurface : public PaintSurface {
 public:
     // Sides beyond this are refused, as larger ones would be by every driver.
     static constexpr int kMostSide = 32768;
 
-    // From 1 to kMostSide; transparent. Throws std::bad_alloc.
-    explicit ProcessorSurface(const Size& size);
-
     std::string name() override;
 
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
-    Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;
     void clear(PaintLayer layer, const Rect& rect) override;
-    bool prepareSmudge(PictureId picture) override;
     Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) override;
-
-    void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) override;
-    void revert(PictureId picture, const Rect& rect) override;
-    void commit(PictureId picture, const Rect& rect) override;
-    void fill(PictureId picture, const PaintColor& color) override;
-    bool place(PictureId picture, const Placed& placed) override;
-
-    bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
-    bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
 
     // What the line layer holds, in full depth.
     const TileGrid<std::uint16_t>& line() const { return _line.grid; }
 
-private:
+protected:
+    // From 1 to kMostSide. Throws std::bad_alloc.
+    ProcessorSurface(const Size& size, int layerDepth);
+
     // Rounding goes by numbers that begin anew with each stroke, and with each picture for each tile: a stroke paints the
     // same bytes whatever was painted elsewhere or taken back.
     struct Layer {
@@ -56,13 +47,49 @@ private:
 
     Layer& layerOf(PaintLayer layer) { return layer == PaintLayer::subLine ? _subLine : _line; }
     Rect drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style);
-    void compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style);
-    void noteChanged(PictureId picture, const Rect& rect);
 
-    TileGrid<std::uint8_t> _picture, _background;
     Layer _line, _subLine;
     SmudgePainter _smudges;
+
+private:
     DabPainter _painter;
+};
+
+// Of 8 or 16 bits a channel.
+template <typename Channel>
+class PictureSurface final : public ProcessorSurface {
+public:
+    // Transparent.
+    PictureSurface(const Size& size, int layerDepth);
+
+    using ProcessorSurface::draw;
+    Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;
+    bool prepareSmudge(PictureId picture) override;
+
+    void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) override;
+    void revert(PictureId picture, const Rect& rect) override;
+    void commit(PictureId picture, const Rect& rect) override;
+    void fill(PictureId picture, const PaintColor& color) override;
+    bool place(PictureId picture, const Placed& placed) override;
+
+    int pixelBytes() const override { return 4 * sizeof(Channel); }
+    bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
+    bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
+    bool writeBackground(PictureId picture, const Rect& rect, const PixelView& rows) override;
+
+private:
+    using Grid = TileGrid<Channel>;
+    void compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style);
+    // Null tiles are bare.
+    struct Paint {
+        const Tile<std::uint16_t>*layer = nullptr, *mask = nullptr;
+        bool overPicture = false;
+    };
+    void blendTile(std::size_t index, const Rect& part, const Paint& paint, const CompositeStyle& style);
+    void noteChanged(PictureId picture, const Rect& rect);
+
+    Grid _picture, _background;
+    bool _isPlain;  // rounds to the nearest
     // Of each tile: how often something blended onto it was kept. Composites of one stroke round alike.
     struct Kept {
         std::uint8_t times = 0;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
+#include <utility>
 
 #include "Dabs/DabBounds.h"
 #include "Processor/BlendRows.h"
@@ -93,22 +95,23 @@ struct SmudgePainter::Mixture {
     }
 };
 
-SmudgePainter::SmudgePainter(const Size& picture)
+SmudgePainter::SmudgePainter(const Size& picture, int layerDepth)
     : _size(picture),
-      _picture(picture),
+      _layerDepth(layerDepth),
+      _picture(TileGrid<std::uint8_t>(picture)),
       _layer(halfOf(picture)),
       _before(_layer.size()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
       _scaleY(static_cast<double>(_layer.size().height) / picture.height),
       _covers({1, 1}) {}
 
-void SmudgePainter::show(const TileGrid<std::uint8_t>& picture) {
+void SmudgePainter::show(Shown picture) {
     forget();
-    _picture = picture;
+    _picture = std::move(picture);
 }
 
 void SmudgePainter::forget() {
-    _picture.fill({});
+    std::visit([](auto& picture) { picture.fill({}); }, _picture);
     _layer.fill({});
     _before.fill({});
 }
@@ -124,11 +127,19 @@ void SmudgePainter::provide(const Rect& texels) {
 }
 
 void SmudgePainter::showTile(std::size_t index) {
-    static constexpr std::uint8_t kTransparent[4] = {};
+    std::visit([&](const auto& picture) { showTileOf(picture, index); }, _picture);
+    round(_layer.rectOf(index));
+    _before.share(_layer, index);
+}
+
+template <typename Channel>
+void SmudgePainter::showTileOf(const TileGrid<Channel>& picture, std::size_t index) {
+    static constexpr Channel kTransparent[4] = {};
+    constexpr float kUnits = kFull / std::numeric_limits<Channel>::max();
     const Rect rect = _layer.rectOf(index);
     auto& tile = _layer.writable(index);
     const auto pixelAt = [&](int x, int y) {
-        const auto* from = _picture.tile(_picture.indexAt(x, y));
+        const auto* from = picture.tile(picture.indexAt(x, y));
         return from != nullptr ? from->at(x % kTileSide, y % kTileSide) : kTransparent;
     };
     const std::vector<Between> columns = betweens(rect.x, rect.width, 1 / _scaleX, 0, 0, _size.width);
@@ -138,11 +149,20 @@ void SmudgePainter::showTile(std::size_t index) {
             const Colour color = mixedAt(columns[static_cast<std::size_t>(x - rect.x)], down, pixelAt);
             std::uint16_t* to = tile.at(x % kTileSide, y % kTileSide);
             for (int i = 0; i < 4; ++i) {
-                to[i] = static_cast<std::uint16_t>(color.channel[i] * 257 + 0.5f);
+                to[i] = static_cast<std::uint16_t>(color.channel[i] * kUnits + 0.5f);
             }
         }
     }
-    _before.share(_layer, index);
+}
+
+// A layer of 8 bits holds no more.
+void SmudgePainter::round(const Rect& texels) {
+    _layer.forEachIn(_layerDepth == 8 ? texels : Rect(), [&](std::size_t index, const Rect& part) {
+        auto& tile = _layer.writable(index);
+        for (int y = part.y; y < part.bottom(); ++y) {
+            roundToBytes(tile.at(part.x % kTileSide, y % kTileSide), part.width);
+        }
+    });
 }
 
 void SmudgePainter::take(const Layer& from, const Rect& rect, Texels& to) {
@@ -208,6 +228,7 @@ Rect SmudgePainter::smudgeOne(const SmudgeDab& smudge, const Mixture& mixture, c
 
     provide(box);
     exchange(covered, box, smudge, mixture, count);
+    round(box);
     const Rect changed =
         Rect::covering(box.x / _scaleX, box.y / _scaleY, box.right() / _scaleX, box.bottom() / _scaleY)
             .grownBy(kReach);
@@ -312,7 +333,9 @@ void SmudgePainter::composite(const MutablePixelView& picture, const PixelView& 
                     .places = places.data(),
                     .count = part.width,
                     .opacity = opacity,
-                    .noise = noiseAt(part.x, part.y + y, commits)});
+                    .noise = _layerDepth == 8 ? kNearest : noiseAt(part.x, part.y + y, commits),
+                    .along = _layerDepth == 8 ? 0 : kNoiseAlong,
+                    .pixelBytes = picture.pixelBytes});
     }
 }
 

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <variant>
 #include <vector>
 
 #include "Dabs/SmudgeDabs.h"
@@ -20,10 +21,12 @@ namespace dabcanvas {
 
 class SmudgePainter {
 public:
-    explicit SmudgePainter(const Size& picture);
+    SmudgePainter(const Size& picture, int layerDepth);
 
+    // A picture of 8 or 16 bits a channel.
+    using Shown = std::variant<TileGrid<std::uint8_t>, TileGrid<std::uint16_t>>;
     // The layer shows this from now on.
-    void show(const TileGrid<std::uint8_t>& picture);
+    void show(Shown picture);
     // Gives its memory back; nothing can be smudged until it shows something again.
     void forget();
 
@@ -55,6 +58,9 @@ private:
 
     void provide(const Rect& texels);
     void showTile(std::size_t index);
+    template <typename Channel>
+    void showTileOf(const TileGrid<Channel>& picture, std::size_t index);
+    void round(const Rect& texels);
     static void take(const Layer& from, const Rect& rect, Texels& to);
     Dab inLayer(const Dab& dab) const;
     Rect smudgeOne(const SmudgeDab& dab, const Mixture& mixture, const DabStyle& style, std::uint64_t count);
@@ -63,9 +69,10 @@ private:
                   std::uint64_t count);
 
     Size _size;
-    TileGrid<std::uint8_t> _picture;  // as it was when the stroke began
-    Layer _layer, _before;            // now and then; tiles exist where the layer was needed
-    double _scaleX, _scaleY;          // of the layer to the picture
+    int _layerDepth;
+    Shown _picture;           // as it was when the stroke began
+    Layer _layer, _before;    // now and then; tiles exist where the layer was needed
+    double _scaleX, _scaleY;  // of the layer to the picture
     DabPainter _painter;
     Layer _covers;  // one dab, by itself
     Texels _cover, _picked, _old;

@@ -13,7 +13,7 @@ struct TexelPlace {
 };
 
 struct SmudgeRow {
-    std::uint8_t* picture;
+    std::uint8_t* picture;  // as many bytes a pixel as are told below
     const std::uint8_t* background;
     const std::uint16_t*
         exchanged;             // four values a pixel, of which alpha counts: how much of it was exchanged
@@ -22,6 +22,8 @@ struct SmudgeRow {
     int count;                 // pixels
     float opacity;             // 0..1
     std::uint32_t noise;       // of the first pixel, see noiseAt()
+    std::uint32_t along;       // what it grows by from pixel to pixel
+    int pixelBytes;            // 4 or 8: 8 or 16 bits a channel
 };
 
 // The layer is coarser than the picture: what it has now less what remains of what it had is all that is enlarged, so that

@@ -33,6 +33,13 @@ struct alignas(64) Tile {
     const Channel* at(int x, int y) const { return const_cast<Tile*>(this)->at(x, y); }
 };
 
+// Pixels of 16 bits a channel to the nearest that 8 bits can say.
+inline void roundToBytes(std::uint16_t* pixels, int count) {
+    std::transform(pixels, pixels + std::ptrdiff_t{count} * 4, pixels, [](std::uint32_t value) {
+        return static_cast<std::uint16_t>(((value * 255 + 32895) >> 16) * 257);
+    });
+}
+
 template <typename Channel>
 class TileGrid {
 public:

@@ -24,14 +24,14 @@ bool isUsable(double side) {
 }  // namespace
 
 std::unique_ptr<QDDrawView> QDDrawView::initWithFrame(const QRectF& frame, QWidget* parent,
-                                                      dabcanvas::SurfaceKind surface) {
+                                                      const dabcanvas::SurfaceOptions& options) {
     if (!isUsable(frame.width()) || !isUsable(frame.height())) {
         qCWarning(lcDabcanvas, "a view cannot be %g x %g view points large", frame.width(), frame.height());
         return nullptr;
     }
     registerColorConversions();
     std::unique_ptr<QDDrawView> view(new QDDrawView(frame, parent));
-    return view->initCanvas(surface) ? std::move(view) : nullptr;
+    return view->initCanvas(options) ? std::move(view) : nullptr;
 }
 
 QDDrawView::QDDrawView(const QRectF& frame, QWidget* parent) : QWidget(parent), QDDrawCanvas(frame) {

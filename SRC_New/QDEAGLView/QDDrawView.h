@@ -42,9 +42,8 @@ class DABCANVAS_VIEW_API QDDrawView : public QWidget, public QDDrawCanvas {
 public:
     // Frame: place and size in the parent, in view points, from 1 x 1 on. Null, after one log line, when
     // the surface that is asked for cannot be had, or not in this size.
-    static std::unique_ptr<QDDrawView> initWithFrame(
-        const QRectF& frame, QWidget* parent = nullptr,
-        dabcanvas::SurfaceKind surface = dabcanvas::SurfaceKind::automatic);
+    static std::unique_ptr<QDDrawView> initWithFrame(const QRectF& frame, QWidget* parent = nullptr,
+                                                     const dabcanvas::SurfaceOptions& options = {});
 
     QSize sizeHint() const override;
 

@@ -6,7 +6,7 @@
 // Units    buffer pixels, whole ones in rectangles, top-left origin; angles counter-clockwise in radians. A rectangle
 //          may reach beyond the surface: what lies there is left out.
 // Pixels   premultiplied. Rows that come in or go out have 8 bits a channel, and what is written is read byte for byte;
-//          how much a surface keeps of what is drawn is its own.
+//          how much a surface keeps of what is drawn is its own. Rows of pixelBytes() have all of a picture.
 // Owns     everything that paint lies in. Tips, papers and pixel views are the caller's; a style's pictures are kept
 //          for as long as the surface draws with them.
 // Thread   one thread at a time. Operations come inside a SurfaceScope, except size(), isLost() and what tells of touched
@@ -116,10 +116,15 @@ public:
 
     // ---- rows
 
-    // Both copy size()-wide rectangles of rows byte for byte; `rect` must lie inside and be as large as the rows.
+    // Of rows that hold a picture bit by bit: 4 where it has 8 bits a channel, 8 where it has 16.
+    virtual int pixelBytes() const = 0;
+    // Rows have 4 bytes a pixel or pixelBytes(); `rect` must lie inside and be as large as they are. Read as they were
+    // written, they come back byte for byte; the same picture gives the same rows, whatever part is read.
     virtual bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) = 0;
     // Into the picture and its background.
     virtual bool write(PictureId picture, const Rect& rect, const PixelView& rows) = 0;
+    // Into the background alone.
+    virtual bool writeBackground(PictureId picture, const Rect& rect, const PixelView& rows) = 0;
 
     // The tiles of a picture that operations touched since they were last forgotten, for whoever keeps its history.
     const TileSet& touched(PictureId) const { return _touched; }
@@ -129,7 +134,7 @@ protected:
     // What read() and write() ask of the caller.
     bool isPart(const Rect& rect, const PixelView& rows) const {
         return !rows.isNull() && !rect.isEmpty() && rows.size == Size{rect.width, rect.height} &&
-               Rect::of(_size).contains(rect);
+               (rows.pixelBytes == 4 || rows.pixelBytes == pixelBytes()) && Rect::of(_size).contains(rect);
     }
     void noteTouched(PictureId, const Rect& rect) { _touched.add(rect); }
 

@@ -96,6 +96,14 @@ void count(CLI::App& app, const char* name, qint64 least, const std::function<vo
     });
 }
 
+void depth(CLI::App& app, const char* name, int& depth) {
+    value(app, name, [&depth](const QString& text) {
+        depth = text.toInt();
+        return SurfaceOptions::isDepth(depth) ? QString()
+                                              : QStringLiteral("expected 8 or 16, not \"%1\"").arg(text);
+    });
+}
+
 void background(CLI::App& app, std::optional<QColor>& color) {
     value(app, "--background", [&color](const QString& text) {
         color = colorFromText(text);
@@ -187,9 +195,11 @@ private:
         flag(app, "--stats", _paint.stats);
         value(app, "--surface", [this](const QString& text) {
             const auto kind = surfaceKindOf(text.toStdString());
-            _paint.surface = kind.value_or(SurfaceKind::automatic);
+            _paint.surface.kind = kind.value_or(SurfaceKind::automatic);
             return kind ? QString() : QStringLiteral("expected auto, gpu or processor, not \"%1\"").arg(text);
         });
+        depth(app, "--canvas-depth", _paint.surface.canvasDepth);
+        depth(app, "--layer-depth", _paint.surface.layerDepth);
     }
     void addShapes(CLI::App& app) {
         files(app, "INPUT", _shapes.inputs);

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "Assignment.h"
-#include "Surface/SurfaceKind.h"
+#include "Surface/SurfaceOptions.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -29,7 +29,7 @@ struct PaintOptions {
     bool recognise = false;  // strokes are meant as shapes
     bool repeatable = false;
     bool stats = false;
-    SurfaceKind surface = SurfaceKind::automatic;
+    SurfaceOptions surface;
 };
 
 int runPaint(const PaintOptions& options);

@@ -14,8 +14,7 @@
 namespace dabcanvas::dabpaint {
 
 // An empty canvas of this many pixels with the default brush.
-Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size,
-                                                 SurfaceKind surface = SurfaceKind::automatic);
+Result<std::unique_ptr<QDDrawCanvas>> makeCanvas(const QSize& size, const SurfaceOptions& surface = {});
 
 // Paints one stroke; `advance` is called after every sample.
 template <typename Advance>

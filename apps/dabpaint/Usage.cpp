@@ -46,6 +46,7 @@ SYNOPSIS
                    [--set PROPERTY=VALUE]... [--background COLOUR]
                    [--undo N] [--most-dabs N] [--recognise] [--repeatable]
                    [--stats] [--surface auto|gpu|processor]
+                   [--canvas-depth 8|16] [--layer-depth 8|16]
 
 DESCRIPTION
     Paints the strokes of every RECORDING, in order, onto one canvas and writes
@@ -108,6 +109,15 @@ OPTIONS
         What draws: OpenGL 3.2, or the processor by itself. auto, the default,
         takes a GPU where there is one; the environment's DABCANVAS_SURFACE, with
         one of these words, says what auto is.
+
+    --canvas-depth 8|16
+        Bits a channel of the picture while it is painted, 8 unless given. With
+        16, strokes so faint that each hardly shows add up to what they should.
+        It takes twice the memory; the picture is written with 8 all the same.
+
+    --layer-depth 8|16
+        Bits a channel of what a stroke is gathered in, 16 unless given. With 8,
+        faint dabs within a stroke do not add up.
 
 RECORDINGS
     The form of a recording is told by its content, not by its name. Pressure is

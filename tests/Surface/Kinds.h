@@ -10,13 +10,20 @@
 #include "support/Named.h"
 
 struct Kind : Named {
-    std::unique_ptr<dabcanvas::PaintSurface> (*make)(const dabcanvas::Size&);
+    bool onGpu;
+    int canvasDepth;
     double closeness;  // of a dab in the layer to the reference, 1/255
+
+    std::unique_ptr<dabcanvas::PaintSurface> make(const dabcanvas::Size& size) const {
+        const dabcanvas::SurfaceOptions options{.canvasDepth = canvasDepth};
+        return onGpu ? dabcanvas::makeGLSurface(QSizeF(size.width, size.height), options)
+                     : dabcanvas::makeProcessorSurface(size, options);
+    }
 };
 
 inline const Kind kKinds[] = {
-    {{"Gpu"},
-     [](const dabcanvas::Size& size) { return dabcanvas::makeGLSurface(QSizeF(size.width, size.height)); },
-     0.05},
-    {{"Processor"}, [](const dabcanvas::Size& size) { return dabcanvas::makeProcessorSurface(size); }, 2},
+    {{"Gpu"}, true, 8, 0.05},
+    {{"GpuOf16Bits"}, true, 16, 0.05},
+    {{"Processor"}, false, 8, 2},
+    {{"ProcessorOf16Bits"}, false, 16, 2},
 };

@@ -36,10 +36,11 @@ protected:
     }
     void TearDown() override { scope.reset(); }
 
-    Bytes read(const Rect& rect = Rect::of(kSize)) {
-        Bytes bytes(static_cast<std::size_t>(rect.area()) * 4);
-        EXPECT_TRUE(surface->read(kPicture, rect,
-                                  MutablePixelView::topRowFirst(bytes.data(), {rect.width, rect.height})));
+    Bytes read(const Rect& rect = Rect::of(kSize), int pixelBytes = 4) {
+        Bytes bytes(static_cast<std::size_t>(rect.area() * pixelBytes));
+        EXPECT_TRUE(surface->read(
+            kPicture, rect,
+            MutablePixelView::topRowFirst(bytes.data(), {rect.width, rect.height}, pixelBytes)));
         return bytes;
     }
     void write(const Bytes& bytes, const Rect& rect = Rect::of(kSize)) {
@@ -114,7 +115,7 @@ TEST_P(SurfaceTest, RowsComeBackByteForByteInAnyPartAndOrder) {
 TEST_P(SurfaceTest, PictureAndBackgroundGoTheirOwnWays) {
     const Bytes whole = randomPicture(3, kSize);
     write(whole);
-    surface->fill(kPicture, {1, 0.5f, 0, 1});
+    surface->fill(kPicture, {1, 128 / 255.0f, 0, 1});
     EXPECT_EQ(read({5, 5, 1, 1}), (Bytes{255, 128, 0, 255}));
     const Rect part{20, 30, 77, 40};
     surface->revert(kPicture, part);
@@ -132,6 +133,38 @@ TEST_P(SurfaceTest, PictureAndBackgroundGoTheirOwnWays) {
     surface->fill(kPicture, {});
     surface->revert(kPicture, {-5, -5, 1000, 1000});
     EXPECT_EQ(read(), expected);
+}
+
+// What has more bits than go out comes out alike however it is looked at, and is put back with all of them.
+TEST_P(SurfaceTest, RowsOfThePicturesOwnDepthHoldAllOfIt) {
+    const Rect all = Rect::of(kSize), part{61, 3, 70, 66};
+    const int own = surface->pixelBytes();
+    EXPECT_EQ(own, GetParam().canvasDepth / 2);
+    square(PaintLayer::line, all, {0.3f, 0.7f, 0.1f}, 0.37f);
+    for (int stroke = 0; stroke < 9; ++stroke) {
+        surface->composite(kPicture, {&all, 1}, {.opacity = 0.03f});
+        surface->commit(kPicture, all);
+    }
+    const Bytes shown = read(), raw = read(all, own), rawPart = read(part, own), shownPart = read(part);
+    for (int y = 0; y < part.height; ++y) {
+        EXPECT_TRUE(std::equal(&shownPart[static_cast<std::size_t>(y * part.width) * 4],
+                               &shownPart[static_cast<std::size_t>((y + 1) * part.width) * 4 - 1],
+                               &shown[at(part.x, part.y + y)]));
+    }
+    const auto rows = [own](const Bytes& bytes, const Rect& rect) {
+        return PixelView::topRowFirst(bytes.data(), {rect.width, rect.height}, own);
+    };
+    surface->fill(kPicture, {});
+    EXPECT_TRUE(surface->write(kPicture, part, rows(rawPart, part)));
+    EXPECT_EQ(read(part), shownPart);
+    EXPECT_TRUE(surface->writeBackground(kPicture, all, rows(raw, all)));
+    EXPECT_EQ(read({0, 0, 60, 90}), Bytes(std::size_t{60} * 90 * 4)) << "the background alone was written";
+    surface->revert(kPicture, all);
+    EXPECT_EQ(read(all, own), raw);
+    EXPECT_EQ(read(), shown);
+    Bytes other(raw.size() * 2);
+    EXPECT_FALSE(
+        surface->read(kPicture, all, MutablePixelView::topRowFirst(other.data(), kSize, own == 4 ? 8 : 16)));
 }
 
 // ---- Blend modes

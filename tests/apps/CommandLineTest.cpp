@@ -19,7 +19,8 @@ CommandLine readWords(const char* words) {
 TEST(CommandLineTest, PaintTakesItsOptionsInAnyOrder) {
     const auto line = readWords(
         "paint a.dat --size=30x40 --set radius=5 -o out.png --set textureImages=a=b.png,c.png b.json "
-        "--background #10203040 --repeatable --most-dabs 9 --surface gpu --stats -- -odd.dat");
+        "--background #10203040 --repeatable --most-dabs 9 --surface gpu --canvas-depth 16 --stats -- "
+        "-odd.dat");
     const auto* paint = std::get_if<PaintOptions>(&line);
     ASSERT_NE(paint, nullptr);
     EXPECT_EQ(paint->recordings, (QStringList{"a.dat", "b.json", "./-odd.dat"}));
@@ -30,7 +31,8 @@ TEST(CommandLineTest, PaintTakesItsOptionsInAnyOrder) {
     EXPECT_EQ(paint->settings[1].value, "a=b.png,c.png");
     EXPECT_EQ(paint->background, QColor(0x10, 0x20, 0x30, 0x40));
     EXPECT_TRUE(paint->repeatable && paint->stats && paint->mostDabs == 9);
-    EXPECT_EQ(paint->surface, SurfaceKind::gpu);
+    EXPECT_EQ(paint->surface.kind, SurfaceKind::gpu);
+    EXPECT_EQ(paint->surface.canvasDepth, 16);
 }
 
 TEST(CommandLineTest, PresetCommandsTakeTheirOwnOptions) {

@@ -18,8 +18,10 @@ protected:
     // Without OpenGL nothing of a canvas can be tested: the program fails at once.
     using SurfaceKind = dabcanvas::SurfaceKind;
     static std::unique_ptr<QDDrawCanvas> makeCanvas(int width = 200, int height = 150,
-                                                    SurfaceKind surface = SurfaceKind::automatic) {
-        auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height), surface);
+                                                    SurfaceKind surface = SurfaceKind::automatic,
+                                                    int canvasDepth = 8) {
+        auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height),
+                                                  {.kind = surface, .canvasDepth = canvasDepth});
         if (!canvas) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";
             std::abort();

@@ -11,9 +11,10 @@ namespace dabcanvas {
 // order, as if the first were the top one.
 inline QImage imageOf(const PixelView& pixels) {
     const bool bottomUp = pixels.stride < 0;
-    return QImage(bottomUp ? pixels.row(pixels.size.height - 1) : pixels.bytes, pixels.size.width,
-                  pixels.size.height, bottomUp ? -pixels.stride : pixels.stride,
-                  QImage::Format_RGBA8888_Premultiplied);
+    return QImage(
+        bottomUp ? pixels.row(pixels.size.height - 1) : pixels.bytes, pixels.size.width, pixels.size.height,
+        bottomUp ? -pixels.stride : pixels.stride,
+        pixels.pixelBytes > 4 ? QImage::Format_RGBA64_Premultiplied : QImage::Format_RGBA8888_Premultiplied);
 }
 
 inline QImage imageOf(const Picture& picture) {

@@ -76,9 +76,9 @@ bool copyFramebufferToTexture(const QRect& rect, const QSize& bounds) {
 
 void copyRowsToTexture(const QImage& rows, const QPoint& place) {
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    glPixelStorei(GL_UNPACK_ROW_LENGTH, static_cast<GLint>(rows.bytesPerLine() / 4));
+    glPixelStorei(GL_UNPACK_ROW_LENGTH, static_cast<GLint>(rows.bytesPerLine() * 8 / rows.depth()));
     glTexSubImage2D(GL_TEXTURE_2D, 0, place.x(), place.y(), rows.width(), rows.height(), GL_RGBA,
-                    GL_UNSIGNED_BYTE, rows.constBits());
+                    rows.depth() > 32 ? GL_UNSIGNED_SHORT : GL_UNSIGNED_BYTE, rows.constBits());
     glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);  // as all other uploads take it to be
 }
 

@@ -37,8 +37,8 @@ GLuint makeClearedTexture(const QSize& size, GLenum minFilter, int depth = 8);
 // Parts outside `bounds` have no defined pixels and are left out. False when nothing was left to copy.
 bool copyFramebufferToTexture(const QRect& rect, const QSize& bounds);
 
-// Copies the rows of a Format_RGBA8888_Premultiplied image to a place of the bound texture, the first one
-// lowest.
+// Copies the rows of a Format_RGBA8888_Premultiplied or Format_RGBA64_Premultiplied image to a place of the bound
+// texture, the first one lowest.
 void copyRowsToTexture(const QImage& rows, const QPoint& place);
 
 }  // namespace dabcanvas
