@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The canvas as a file: new, open, place, save, and what is unsaved.
+#include <QActionGroup>
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
-
+#include <QMenu>
 #include <QSettings>
 #include <QStatusBar>
 
@@ -19,6 +20,9 @@
 namespace dabcanvas::dabpainter {
 
 namespace {
+
+constexpr char kSurfaceKey[] = "canvas/surface";
+constexpr int kMessageTime = 5000;  // milliseconds
 
 // Shows that the application is at work.
 class BusyCursor {
@@ -46,8 +50,39 @@ bool isPng(const QString& path) {
 
 // ---- The canvas
 
+// The present picture stays where it is: moving it could fail for want of memory.
+void MainWindow::addSurfaces(QMenu& menu) {
+    auto* group = new QActionGroup(&menu);
+    const struct {
+        QString text;
+        const char* name;
+    } rows[] = {{tr("&Automatic"), "auto"}, {tr("&Graphics Card"), "gpu"}, {tr("&Processor"), "processor"}};
+    for (const auto& row : rows) {
+        QAction* action = group->addAction(row.text);
+        action->setCheckable(true);
+        action->setChecked(surfaceKind() == surfaceKindOf(row.name));
+        connect(action, &QAction::triggered, this, [this, name = row.name] {
+            _settings.setValue(QLatin1String(kSurfaceKey), QLatin1String(name));
+            statusBar()->showMessage(tr("Holds for pictures that are made or opened from now on"),
+                                     kMessageTime);
+        });
+        menu.addAction(action);
+    }
+}
+
+SurfaceKind MainWindow::surfaceKind() const {
+    const QString name = _settings.value(QLatin1String(kSurfaceKey)).toString();
+    return surfaceKindOf(name.toStdString()).value_or(SurfaceKind::automatic);
+}
+
 bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)>& paint) {
-    std::unique_ptr<QDDrawView> made = QDDrawView::initWithFrame(QRectF(QPointF(0, 0), QSizeF(size)));
+    const QRectF frame(QPointF(0, 0), QSizeF(size));
+    const SurfaceKind kind = surfaceKind();
+    std::unique_ptr<QDDrawView> made = QDDrawView::initWithFrame(frame, nullptr, {.kind = kind});
+    if (!made && kind != SurfaceKind::automatic) {  // a setting must not keep anybody from painting
+        made = QDDrawView::initWithFrame(frame);
+        statusBar()->showMessage(tr("The graphics card cannot paint this picture"), kMessageTime);
+    }
     if (!made || !paint(*made)) {
         _prompts.tell(this, tr("A canvas of %1 × %2 pixels cannot be had from this graphics driver.")
                                 .arg(size.width())

@@ -176,6 +176,7 @@ void MainWindow::makeFileMenu() {
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
     addTo(menu, tr("&Clear"), {key("Delete")}, [this] { clearCanvas(); });
+    addSurfaces(*menu->addMenu(tr("&Paint with")));
 }
 
 void MainWindow::makeBrushMenu() {
@@ -324,6 +325,7 @@ void MainWindow::makeStatusBar() {
     statusBar()->addPermanentWidget(_shapesLabel);
     _driverLabel = new QLabel;
     _driverLabel->setContentsMargins(6, 0, 6, 0);
+    _driverLabel->setToolTip(tr("What paints this picture"));
     statusBar()->addPermanentWidget(_driverLabel);
 }
 

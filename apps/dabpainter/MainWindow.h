@@ -10,6 +10,7 @@
 #include "PresetLibrary.h"
 #include "Prompts.h"
 #include "SessionFolder.h"
+#include "Surface/SurfaceKind.h"
 
 class QAction;
 class QDDrawCanvas;
@@ -81,6 +82,8 @@ private:
                    const std::function<void()>& act);
 
     // File
+    void addSurfaces(QMenu& menu);
+    SurfaceKind surfaceKind() const;
     bool replaceCanvas(QSize size, const std::function<bool(QDDrawView&)>& paint);
     void newCanvas();
     void open();
