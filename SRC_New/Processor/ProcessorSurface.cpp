@@ -189,8 +189,7 @@ void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const 
     const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     if (style.smudged) {
         if (line != nullptr) {
-            const PixelView background = viewOf(_background.tile(index), part);
-            _smudges.composite(viewOf(_picture.writable(index), part), background, *line, part, style.opacity,
+            _smudges.composite(_picture.writable(index), _background.tile(index), *line, part, style.opacity,
                                _kept[index].times);
         }
         return;
@@ -234,6 +233,7 @@ void ProcessorSurface::revert(PictureId picture, const Rect& rect) {
 }
 
 void ProcessorSurface::commit(PictureId, const Rect& rect) {
+    _smudges.noteChanged(rect);
     withMemory("keep a stroke", [&] {
         copyTiles(_picture, _background, rect, [this](std::size_t index) {
             _kept[index].times += std::exchange(_kept[index].isBlended, false) ? 1 : 0;
@@ -295,6 +295,7 @@ bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelVie
         });
         _picture = std::move(written);
         _background = std::move(background);
+        _smudges.noteChanged(rect);
         noteChanged(picture, rect);
     });
 }

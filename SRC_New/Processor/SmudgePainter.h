@@ -2,7 +2,8 @@
 // Smudging: a layer shows the picture at half its resolution, dabs move colour about in it, and what they brought is put
 // back onto the picture where they lay.
 //
-// Layer    tiles that are made when a dab first needs them, from the picture as it was when the stroke began.
+// Layer    tiles that are made when a dab first needs them, from the picture as it was when the stroke began; 15 bits a
+//          channel, see SmudgeRows.h.
 // Errors   std::bad_alloc; some of the dabs have drawn then.
 #pragma once
 
@@ -13,6 +14,7 @@
 
 #include "Dabs/SmudgeDabs.h"
 #include "Processor/DabPainter.h"
+#include "Processor/SmudgeRows.h"
 #include "Processor/Tiles.h"
 #include "Surface/PaintSurface.h"
 
@@ -22,6 +24,8 @@ class SmudgePainter {
 public:
     explicit SmudgePainter(const Size& picture);
 
+    // The picture that is shown next may have changed there since the last one.
+    void noteChanged(const Rect& rect) { _stale = _stale.united(rect); }
     // The layer shows this from now on.
     void show(const TileGrid<std::uint8_t>& picture);
     // Gives its memory back; nothing can be smudged until it shows something again.
@@ -32,43 +36,37 @@ public:
     Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load, std::uint64_t count,
                 std::vector<Dab>& coverage);
     // The picture becomes the background with what was brought, where `exchanged` has paint. `part`: the pixels of one
-    // tile, which both views are of.
-    void composite(const MutablePixelView& picture, const PixelView& background,
+    // tile of each; no background is a transparent one.
+    void composite(Tile<std::uint8_t>& picture, const Tile<std::uint8_t>* background,
                    const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
                    std::uint32_t commits);
 
 private:
     using Layer = TileGrid<std::uint16_t>;
     struct Mixture;
+    class Exchange;
     // Texels of a part of a layer, side by side.
     struct Texels {
         Rect rect;
-        std::vector<std::uint16_t> values;
+        std::vector<std::int16_t> values;
 
-        const std::uint16_t* at(int x, int y) const {
-            return values.data() +
-                   (static_cast<std::size_t>(y - rect.y) * static_cast<std::size_t>(rect.width) +
-                    static_cast<std::size_t>(x - rect.x)) *
-                       4;
-        }
+        SmudgeTexels view() const { return {values.data(), {rect.width, rect.height}}; }
     };
 
     void provide(const Rect& texels);
     void showTile(std::size_t index);
+    void takePicture(int y, const Rect& pixels, std::uint8_t* row) const;
     static void take(const Layer& from, const Rect& rect, Texels& to);
     Dab inLayer(const Dab& dab) const;
-    Rect smudgeOne(const SmudgeDab& dab, const Mixture& mixture, const DabStyle& style, std::uint64_t count);
-    void takeCover(const Rect& covered);
-    void exchange(const Rect& covered, const Rect& origin, const SmudgeDab& dab, const Mixture& mixture,
-                  std::uint64_t count);
 
     Size _size;
     TileGrid<std::uint8_t> _picture;  // as it was when the stroke began
+    Rect _stale;                      // where it differs from what is shown next
     Layer _layer, _before;            // now and then; tiles exist where the layer was needed
+    Rect _provided;                   // texels of theirs
     double _scaleX, _scaleY;          // of the layer to the picture
     DabPainter _painter;
-    Layer _covers;  // one dab, by itself
-    Texels _cover, _picked, _old;
+    Texels _picked, _old;
 };
 
 }  // namespace dabcanvas
