@@ -158,10 +158,10 @@ template <typename Mode, typename Channel>
 void blendWhole(const BlendRow<Channel>& whole) {
     const int step = static_cast<int>(hn::Lanes(kFloats)) / 4;
     const Value scale = hn::Set(kFloats, whole.opacity / kLayerUnits<Channel>);
-    const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kInts, 0)), hn::Set(kInts, whole.along));
+    const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kInts, 0)), hn::Set(kInts, whole.noise.along));
     BlendRow<Channel> row = whole;
     const auto noise = [&] {
-        return hn::And(hn::Add(places, hn::Set(kInts, row.noise)), hn::Set(kInts, 255));
+        return hn::And(hn::Add(places, hn::Set(kInts, row.noise.first)), hn::Set(kInts, 255));
     };
     for (; row.count >= step; row.count -= step) {
         blendVector<Mode>(row, scale, noise());
@@ -169,7 +169,7 @@ void blendWhole(const BlendRow<Channel>& whole) {
         row.background += 4 * step;
         row.layer += 4 * step;
         row.mask += row.mask != nullptr ? 4 * step : 0;
-        row.noise += static_cast<std::uint32_t>(step) * whole.along;
+        row.noise.first += static_cast<std::uint32_t>(step) * whole.noise.along;
     }
     if (row.count > 0) {
         Channel picture[16] = {}, background[16] = {};
@@ -217,10 +217,10 @@ void blendNormal(const BlendRow<std::uint8_t>& whole) {
     const int step = static_cast<int>(hn::Lanes(kWords)) / 4;
     const auto opacity = static_cast<std::uint16_t>(std::clamp(whole.opacity, 0.0f, 1.0f) * 65535 + 0.5f);
     const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kWords, 0)),
-                                hn::Set(kWords, static_cast<std::uint16_t>(whole.along)));
+                                hn::Set(kWords, static_cast<std::uint16_t>(whole.noise.along)));
     BlendRow<std::uint8_t> row = whole;
     const auto noise = [&] {
-        return hn::And(hn::Add(places, hn::Set(kWords, static_cast<std::uint16_t>(row.noise))),
+        return hn::And(hn::Add(places, hn::Set(kWords, static_cast<std::uint16_t>(row.noise.first))),
                        hn::Set(kWords, 255));
     };
     for (; row.count >= step; row.count -= step) {
@@ -228,7 +228,7 @@ void blendNormal(const BlendRow<std::uint8_t>& whole) {
         row.picture += 4 * step;
         row.background += 4 * step;
         row.layer += 4 * step;
-        row.noise += static_cast<std::uint32_t>(step) * whole.along;
+        row.noise.first += static_cast<std::uint32_t>(step) * whole.noise.along;
     }
     if (row.count > 0) {
         std::uint8_t picture[32], background[32] = {};

@@ -9,17 +9,23 @@
 
 namespace dabcanvas {
 
+// What pixels are rounded by: the first one, and how it grows from each to the next and from row to row.
+struct RowNoise {
+    std::uint32_t first;
+    std::uint32_t along = kNoiseAlong, down = kNoiseDown;
+};
+inline constexpr RowNoise kToNearest{128, 0, 0};
+
 // Pixels side by side in one row of a tile.
 template <typename Channel>
 struct BlendRow {
     Channel* picture;
     const Channel* background;
-    const std::uint16_t* layer;         // full scale 65535
-    const std::uint16_t* mask;          // of which alpha counts; null: none
-    int count;                          // pixels
-    float opacity;                      // 0..1
-    std::uint32_t noise;                // of the first pixel, see noiseAt()
-    std::uint32_t along = kNoiseAlong;  // what it grows by from pixel to pixel
+    const std::uint16_t* layer;  // full scale 65535
+    const std::uint16_t* mask;   // of which alpha counts; null: none
+    int count;                   // pixels
+    float opacity;               // 0..1
+    RowNoise noise;              // from noiseAt(), as a rule
 };
 
 // Rounds by noise instead of to the nearest, so that faint strokes over one another add up to what they hold. Places next
@@ -28,9 +34,6 @@ inline constexpr std::uint32_t kNoiseLater = 99;
 constexpr std::uint32_t noiseAt(int x, int y, std::uint32_t commits) {
     return placeNoise(x, y) + commits * kNoiseLater;
 }
-// Of a row that is rounded to the nearest, along by 0.
-inline constexpr std::uint32_t kNearest = 128;
-
 // What a value is raised by before its fraction is cut off, above 0 and below 1.
 constexpr float upBy(std::uint32_t noise) {
     return (static_cast<float>(noise & 255) + 0.5f) / 256;

@@ -100,13 +100,13 @@ HWY_INLINE void blendRow(std::uint16_t* pixels, Word colour, Int weights, Int ro
     hn::StoreU(hn::BitCast(unsignedWords, result), unsignedWords, pixels);
 }
 
-HWY_INLINE void blend(std::uint16_t* pixels, Word colour, const Cover& cover) {
+HWY_INLINE void blend(std::uint16_t* pixels, Word upper, Word lower, const Cover& cover) {
     // Signed words hold -1 but not 1: the sum is taken the other way round. ~n for n as the rounding, ~ in the end.
     const Int away = hn::Xor(cover.coverage, hn::Set(kInts, 0x8000));
     const Int weights = hn::Or(away, hn::ShiftLeft<16>(hn::Neg(cover.coverage)));
     const Int rounding = hn::Or(cover.noise, hn::Set(kInts, ~0x7fff));
-    blendRow<0>(pixels, colour, weights, rounding);
-    blendRow<2>(pixels + kTileSide * 4, colour, weights, rounding);
+    blendRow<0>(pixels, upper, weights, rounding);
+    blendRow<2>(pixels + kTileSide * 4, lower, weights, rounding);
 }
 
 // Calls each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, two rows at a time.
@@ -140,7 +140,20 @@ bool draw(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     const Word colour = hn::Xor(hn::BitCast(kWords, hn::Set(hn::Repartition<std::uint64_t, Ints>(), four)),
                                 hn::Set(kWords, static_cast<std::int16_t>(-32768)));
     return forEachCover<kLevels, kPaper>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
-        blend(ground.tile + (y * kTileSide + x) * 4, colour, cover);
+        blend(ground.tile + (y * kTileSide + x) * 4, colour, colour, cover);
+    });
+}
+
+// Each pixel in the colour that stands ready for it.
+template <int kLevels>
+bool drawInColours(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
+    const auto at = [&](std::ptrdiff_t value) HWY_ATTR {
+        const auto colour = hn::LoadU(hn::RebindToUnsigned<Words>(), ground.colours + value);
+        return hn::Xor(hn::BitCast(kWords, colour), hn::Set(kWords, static_cast<std::int16_t>(-32768)));
+    };
+    return forEachCover<kLevels, false>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+        const std::ptrdiff_t first = (y * kTileSide + x) * 4;
+        blend(ground.tile + first, at(first), at(first + kTileSide * 4), cover);
     });
 }
 
@@ -165,9 +178,13 @@ bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGroun
 
 using Draw = bool (*)(const TileDab&, const RowSpans&, const DabGround&);
 
-Draw drawOf(const DabShape& shape, bool hasPaper) {
+Draw drawOf(const DabShape& shape, const DabGround& ground) {
     static constexpr Draw kDraws[2][2] = {{draw<1, false>, draw<2, false>}, {draw<1, true>, draw<2, true>}};
-    return shape.multicolour != nullptr ? drawInMulticolour : kDraws[hasPaper][shape.levelCount - 1];
+    static constexpr Draw kInColours[2] = {drawInColours<1>, drawInColours<2>};
+    const int levels = shape.levelCount - 1;
+    return shape.multicolour != nullptr ? drawInMulticolour
+           : ground.colours != nullptr  ? kInColours[levels]
+                                        : kDraws[ground.paper != nullptr][levels];
 }
 
 }  // namespace
@@ -183,7 +200,7 @@ bool DrawDabs(std::span<const TileDab> dabs, const DabGround& ground) {
             SpanMaker(some[i], ground.width).make(spans[i]);
         }
         for (std::size_t i = 0; i < some.size(); ++i) {
-            any |= drawOf(*some[i].shape, ground.paper != nullptr)(some[i], spans[i], ground);
+            any |= drawOf(*some[i].shape, ground)(some[i], spans[i], ground);
         }
     }
     return any;

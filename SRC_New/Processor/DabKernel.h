@@ -91,9 +91,10 @@ inline std::int32_t placeAt(std::int32_t start, std::int32_t right, std::int32_t
 
 // What they are drawn into, and on.
 struct DabGround {
-    std::uint16_t* tile;         // premultiplied RGBA, 64 pixels a row
-    int width;                   // pixels of each row that are drawn
-    const std::uint16_t* paper;  // 0..32767, see paperPlace(); null: smooth
+    std::uint16_t* tile;           // premultiplied RGBA, 64 pixels a row
+    int width;                     // pixels of each row that are drawn
+    const std::uint16_t* paper;    // 0..32767, see paperPlace(); null: smooth
+    const std::uint16_t* colours;  // of each pixel of the tile, without paper; null: each dab's own
 };
 
 // One after another. Returns whether any pixel was covered.

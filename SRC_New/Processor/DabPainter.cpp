@@ -74,8 +74,13 @@ struct DabPainter::Inside {
     Rect plan(const TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
               std::uint64_t count);
     void addToTiles(const TileGrid<std::uint16_t>& layer, const Rect& touched);
-    void drawTile(TileGrid<std::uint16_t>& layer, const TileDabs& tile, PaperTiles* paperTiles) const;
-    void drawTiles(TileGrid<std::uint16_t>& layer, PaperTiles* paperTiles) const;
+    // What dabs are drawn with but their own colours.
+    struct With {
+        PaperTiles* paper;
+        DabColours* colours;
+    };
+    void drawTile(TileGrid<std::uint16_t>& layer, const TileDabs& tile, const With& with) const;
+    void drawTiles(TileGrid<std::uint16_t>& layer, const With& with) const;
 };
 
 TipTables& DabPainter::Inside::tip(const DabStyle& style, std::uint32_t wanted) {
@@ -177,7 +182,7 @@ Rect DabPainter::Inside::plan(const TileGrid<std::uint16_t>& layer, std::span<co
 }
 
 void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs& tile,
-                                  PaperTiles* paperTiles) const {
+                                  const With& with) const {
     const Rect rect = layer.rectOf(tile.tile);
     thread_local std::vector<TileDab> here;
     here.clear();
@@ -185,10 +190,14 @@ void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs
         here.push_back(inTile(dabs[entries[static_cast<std::size_t>(i)].dab], rect));
     }
     std::shared_ptr<const PaperTiles::Through> through;
-    if (paperTiles != nullptr) {
-        through = paperTiles->at(rect);
+    if (with.paper != nullptr) {
+        through = with.paper->at(rect);
     }
-    DabGround ground{nullptr, rect.width, through ? through->data() : nullptr};
+    DabGround ground{nullptr, rect.width, through ? through->data() : nullptr, nullptr};
+    if (with.colours != nullptr) {
+        ground.colours = with.colours->of(
+            rect.intersected(dabs[entries[static_cast<std::size_t>(tile.first)].dab].touched));
+    }
     if (layer.tile(tile.tile) != nullptr) {
         ground.tile = layer.writable(tile.tile).values.data();
         draw(here, ground);
@@ -202,8 +211,8 @@ void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs
     }
 }
 
-void DabPainter::Inside::drawTiles(TileGrid<std::uint16_t>& layer, PaperTiles* paperTiles) const {
-    const auto piece = [&](std::size_t i) { drawTile(layer, tiles[i], paperTiles); };
+void DabPainter::Inside::drawTiles(TileGrid<std::uint16_t>& layer, const With& with) const {
+    const auto piece = [&](std::size_t i) { drawTile(layer, tiles[i], with); };
     std::int64_t pixels = 0;
     for (std::size_t i = 0; i < planned; ++i) {
         pixels += dabs[i].touched.area();
@@ -233,7 +242,21 @@ Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs,
     _inside->dropTips();
     PaperTiles* const paper = _inside->paperOf(style);
     const Rect touched = _inside->plan(layer, dabs, style, count);
-    _inside->drawTiles(layer, paper);
+    _inside->drawTiles(layer, {paper, nullptr});
+    return touched;
+}
+
+Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, const Dab& dab, const DabStyle& style,
+                      std::uint64_t count, DabColours& colours) {
+    if (!style.tips || style.tips->empty()) {
+        return {};
+    }
+    _inside->dropTips();
+    const Rect touched = _inside->plan(layer, std::span(&dab, 1), style, count);
+    if (!touched.isEmpty()) {
+        colours.begin(touched);
+        _inside->drawTiles(layer, {nullptr, &colours});
+    }
     return touched;
 }
 

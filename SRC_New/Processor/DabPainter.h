@@ -22,6 +22,19 @@
 
 namespace dabcanvas {
 
+// Colours that differ from pixel to pixel of a dab.
+class DabColours {
+public:
+    // Before anything is drawn: the pixels that the dab may touch.
+    virtual void begin(const Rect& pixels) = 0;
+    // Those of a part of one tile, laid out as the tile is, beyond which anything may stand. On any thread, several at a
+    // time; valid until the same thread asks again.
+    virtual const std::uint16_t* of(const Rect& part) = 0;
+
+protected:
+    ~DabColours() = default;
+};
+
 class DabPainter {
 public:
     static constexpr std::size_t kMostDerived = std::size_t{32} << 20;  // bytes
@@ -35,6 +48,9 @@ public:
     // the noise starts from.
     Rect draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
               std::uint64_t count);
+    // The same of one dab, without paper, in these colours.
+    Rect draw(TileGrid<std::uint16_t>& layer, const Dab& dab, const DabStyle& style, std::uint64_t count,
+              DabColours& colours);
 
 private:
     struct Inside;

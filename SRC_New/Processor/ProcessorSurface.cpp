@@ -120,17 +120,14 @@ std::unique_ptr<PaintSurface> makeProcessorSurface(const Size& size, const Surfa
 }
 
 ProcessorSurface::ProcessorSurface(const Size& size, int layerDepth)
-    : PaintSurface(size),
-      _line{Layer16(size), {}},
-      _subLine{Layer16(size), {}},
-      _smudges(size, layerDepth),
-      _painter(layerDepth) {}
+    : PaintSurface(size), _line{Layer16(size), {}}, _subLine{Layer16(size), {}}, _painter(layerDepth) {}
 
 template <typename Channel>
 PictureSurface<Channel>::PictureSurface(const Size& size, int layerDepth)
     : ProcessorSurface(size, layerDepth),
       _picture(size),
       _background(size),
+      _smudges(size, layerDepth),
       _isPlain(layerDepth == 8),
       _kept(_picture.count()) {}
 
@@ -159,9 +156,6 @@ Rect ProcessorSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const D
 }
 
 void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
-    if (which == PaintLayer::smudge) {
-        return _smudges.forget();
-    }
     Layer& layer = layerOf(which);
     const bool all = rect.contains(layer.holds);
     layer.grid.forEachIn(rect.intersected(layer.holds), [&](std::size_t index, const Rect& part) {
@@ -186,11 +180,17 @@ void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
 // ---- Smudging
 
 template <typename Channel>
+void PictureSurface<Channel>::clear(PaintLayer layer, const Rect& rect) {
+    layer == PaintLayer::smudge ? _smudges.forget() : ProcessorSurface::clear(layer, rect);
+}
+
+template <typename Channel>
 bool PictureSurface<Channel>::prepareSmudge(PictureId) {
     return withMemory("smudge", [&] { _smudges.show(_background); });
 }
 
-Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
+template <typename Channel>
+Rect PictureSurface<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
     Rect touched;
     withMemory("smudge", [&] {
         std::vector<Dab> coverage;
@@ -202,6 +202,12 @@ Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& s
 }
 
 // ---- Pictures
+
+// Layers of 8 bits have nothing that adds up.
+template <typename Channel>
+RowNoise PictureSurface<Channel>::noiseOf(std::size_t index, int x, int y) const {
+    return _isPlain ? kToNearest : RowNoise{noiseAt(x, y, _kept[index].times)};
+}
 
 // The layer goes onto the picture in one part of a tile, with the background below, or the picture itself.
 template <typename Channel>
@@ -215,8 +221,7 @@ void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, con
         .mask = style.masked ? pixelsAt(paint.mask, part.x, part.y) : nullptr,
         .count = part.width,
         .opacity = style.opacity,
-        .noise = _isPlain ? kNearest : noiseAt(part.x, part.y, _kept[index].times),
-        .along = _isPlain ? 0 : kNoiseAlong};
+        .noise = noiseOf(index, part.x, part.y)};
     constexpr int kStride = kTileSide * 4;
     for (int y = 0; y < part.height; ++y) {
         blendRow(style.blendType, row);
@@ -224,7 +229,7 @@ void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, con
         row.background += kStride;
         row.layer += kStride;
         row.mask += row.mask != nullptr ? kStride : 0;
-        row.noise += _isPlain ? 0 : kNoiseDown;
+        row.noise.first += row.noise.down;
     }
 }
 
@@ -253,9 +258,9 @@ void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
     const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     if (style.smudged) {
         if (line != nullptr) {
-            const PixelView background = viewOf(_background.tile(index), part);
-            _smudges.composite(viewOf(_picture.writable(index), part), background, *line, part, style.opacity,
-                               _kept[index].times);
+            const int left = part.x / kTileSide * kTileSide, top = part.y / kTileSide * kTileSide;
+            _smudges.composite(_picture.writable(index), _background.tile(index), *line, part, style.opacity,
+                               noiseOf(index, left, top));
         }
         return;
     }
@@ -287,6 +292,7 @@ void PictureSurface<Channel>::revert(PictureId picture, const Rect& rect) {
 
 template <typename Channel>
 void PictureSurface<Channel>::commit(PictureId, const Rect& rect) {
+    _smudges.noteChanged(rect);
     withMemory("keep a stroke", [&] {
         copyTiles(_picture, _background, rect, [this](std::size_t index) {
             _kept[index].times += std::exchange(_kept[index].isBlended, false) ? 1 : 0;
@@ -349,12 +355,14 @@ bool PictureSurface<Channel>::write(PictureId picture, const Rect& rect, const P
         });
         _picture = std::move(written);
         _background = std::move(background);
+        _smudges.noteChanged(rect);
         noteChanged(picture, rect);
     });
 }
 
 template <typename Channel>
 bool PictureSurface<Channel>::writeBackground(PictureId, const Rect& rect, const PixelView& rows) {
+    _smudges.noteChanged(rect);
     return isPart(rect, rows) &&
            withMemory("take pixels", [&] { _background = withRows(_background, rect, rows); });
 }

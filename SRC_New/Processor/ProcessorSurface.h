@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "Processor/BlendRows.h"
 #include "Processor/DabPainter.h"
 #include "Processor/SmudgePainter.h"
 #include "Processor/Tiles.h"
@@ -28,7 +29,6 @@ public:
 
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
     void clear(PaintLayer layer, const Rect& rect) override;
-    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) override;
 
     // What the line layer holds, in full depth.
     const TileGrid<std::uint16_t>& line() const { return _line.grid; }
@@ -49,7 +49,6 @@ protected:
     Rect drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style);
 
     Layer _line, _subLine;
-    SmudgePainter _smudges;
 
 private:
     DabPainter _painter;
@@ -64,7 +63,9 @@ public:
 
     using ProcessorSurface::draw;
     Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;
+    void clear(PaintLayer layer, const Rect& rect) override;
     bool prepareSmudge(PictureId picture) override;
+    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) override;
 
     void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) override;
     void revert(PictureId picture, const Rect& rect) override;
@@ -85,10 +86,12 @@ private:
         const Tile<std::uint16_t>*layer = nullptr, *mask = nullptr;
         bool overPicture = false;
     };
+    RowNoise noiseOf(std::size_t index, int x, int y) const;
     void blendTile(std::size_t index, const Rect& part, const Paint& paint, const CompositeStyle& style);
     void noteChanged(PictureId picture, const Rect& rect);
 
     Grid _picture, _background;
+    SmudgePainter<Channel> _smudges;
     bool _isPlain;  // rounds to the nearest
     // Of each tile: how often something blended onto it was kept. Composites of one stroke round alike.
     struct Kept {

@@ -2,177 +2,214 @@
 #include "Processor/SmudgePainter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
-#include <limits>
-#include <utility>
 
-#include "Dabs/DabBounds.h"
 #include "Processor/BlendRows.h"
-#include "Processor/SmudgeRows.h"
 
 namespace dabcanvas {
 namespace {
-
-// Filtering between the layer's resolution and the picture's reaches this far, in buffer pixels.
-constexpr int kReach = 4;
-constexpr float kFull = 65535;
 
 Size halfOf(const Size& size) {
     return {std::max(size.width / 2, 1), std::max(size.height / 2, 1)};
 }
 
-// Between four texels, as parts of them.
-struct Between {
-    int low, high;
-    float part;
-
-    // Of a place in texels, 0.5 in the middle of the first; what lies outside reads as the rim.
-    Between(double place, int first, int end) {
-        const double from = std::clamp(place - 0.5, first - 1.0, static_cast<double>(end));
-        const int whole = static_cast<int>(std::floor(from));
-        part = static_cast<float>(from - whole);
-        low = std::clamp(whole, first, end - 1);
-        high = std::clamp(whole + 1, first, end - 1);
-    }
-};
-
-// Of the pixels from `first` on, which lie `step` texels apart.
-std::vector<Between> betweens(int first, int count, double step, double start, int from, int end) {
-    std::vector<Between> places;
-    places.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        places.emplace_back(start + (first + i + 0.5) * step, from, end);
-    }
-    return places;
-}
-
-struct Colour {
-    float channel[4];
-};
-
-template <typename TexelAt>
-Colour mixedAt(const Between& x, const Between& y, TexelAt&& texelAt) {
-    const auto *topLeft = texelAt(x.low, y.low), *topRight = texelAt(x.high, y.low);
-    const auto *lowLeft = texelAt(x.low, y.high), *lowRight = texelAt(x.high, y.high);
-    Colour mix;
-    for (int i = 0; i < 4; ++i) {
-        const auto value = [i](const auto* texel) { return static_cast<float>(texel[i]); };
-        const float top = value(topLeft) + (value(topRight) - value(topLeft)) * x.part;
-        const float low = value(lowLeft) + (value(lowRight) - value(lowLeft)) * x.part;
-        mix.channel[i] = top + (low - top) * y.part;
-    }
-    return mix;
-}
-
-Rect texelsUnder(double left, double top, double right, double bottom, const Size& layer) {
-    return Rect::covering(left - 1, top - 1, right + 1, bottom + 1).intersected(Rect::of(layer));
-}
-
-// Those, or the one that is nearest where all of them lie off the layer.
-Rect nearestTexels(double left, double top, double right, double bottom, const Size& layer) {
-    const Rect rect = texelsUnder(left, top, right, bottom, layer);
-    const auto within = [](double place, int size) {
-        return static_cast<int>(std::clamp(place, 0.0, static_cast<double>(size - 1)));
+// Of places that are `step` apart, from the middle of the first of what is counted in.
+Steps stepsFrom(double start, double step) {
+    const auto fixed = [](double places) {
+        constexpr double kFar = 1 << 24;
+        const double near = std::isfinite(places) ? std::clamp(places, -kFar, kFar) : 0;
+        return static_cast<std::int64_t>(std::floor(near * 65536 + 0.5));
     };
-    return rect.isEmpty() ? Rect{within(left, layer.width), within(top, layer.height), 1, 1} : rect;
+    return {fixed(start), fixed(step)};
 }
+
+std::int16_t wordOf(double part) {
+    return static_cast<std::int16_t>(std::clamp(part, 0.0, 1.0) * kSmudgeFull + 0.5);
+}
+
+// All texels of a grid of so many between which places from `start` up to `end` lie, the nearest ones where they lie off it.
+struct TexelRange {
+    int first, end;
+
+    TexelRange(double start, double stop, int texels) {
+        const auto within = [texels](double place) {
+            const double inside = std::isfinite(place) ? std::clamp(place, 0.0, texels - 1.0) : 0;
+            return static_cast<int>(inside);
+        };
+        first = within(std::floor(std::min(start, stop)));
+        end = within(std::floor(std::max(start, stop)) + 1) + 1;
+    }
+};
 
 }  // namespace
 
 // What a dab's pixels turn into where it covers them wholly.
-struct SmudgePainter::Mixture {
-    Colour own;       // the brush's colour, times its part
+template <typename Channel>
+struct SmudgePainter<Channel>::Mixture {
     float pickUp;     // part of what is picked up
-    float exchanged;  // of what was there, both parts together
+    float exchanged;  // of what was there, with the part of the brush's colour
 
     Mixture(const SmudgeDab& smudge, float load) {
-        const float dry = 1 - smudge.moist, part = load * (1 - smudge.mix);
+        const float dry = 1 - smudge.moist;
         pickUp = smudge.mix * (1 - dry * dry * dry);
-        exchanged = part + pickUp;
-        const RgbType& color = smudge.dab.color;
-        own = {{color.r * part * kFull, color.g * part * kFull, color.b * part * kFull, part * kFull}};
+        exchanged = load * (1 - smudge.mix) + pickUp;
     }
+    float ownPart() const { return exchanged > 0 ? 1 - pickUp / exchanged : 1; }
 };
 
-SmudgePainter::SmudgePainter(const Size& picture, int layerDepth)
+// One dab's colours: what it takes up, mixed with its own.
+template <typename Channel>
+class SmudgePainter<Channel>::Exchange final : public DabColours {
+public:
+    Exchange(SmudgePainter& painter, const SmudgeDab& smudge, const Mixture& mixture)
+        : _painter(painter), _smudge(smudge), _colourPart(mixture.ownPart()) {
+        _stretch = smudge.pickUpHalf / smudge.dab.halfSize;
+        _startX = (smudge.pickUp.x - smudge.dab.x * _stretch) * painter._scaleX;
+        _startY = (smudge.pickUp.y - smudge.dab.y * _stretch) * painter._scaleY;
+    }
+
+    // What is taken up is taken before the dab changes it; off the layer its rim counts.
+    void begin(const Rect& texels) override {
+        _painter.provide(texels);
+        const Size& layer = _painter._layer.size();
+        const TexelRange across(placeX(texels.x), placeX(texels.right() - 1), layer.width);
+        const TexelRange down(placeY(texels.y), placeY(texels.bottom() - 1), layer.height);
+        const Rect picked = Rect::between(across.first, down.first, across.end, down.end);
+        _painter.provide(picked);
+        take(_painter._layer, picked, _painter._picked);
+    }
+
+    const std::uint16_t* of(const Rect& part) override {
+        thread_local std::array<std::uint16_t, kTilePixels * 4 + kSpareValues> colours{};
+        std::uint16_t* const to = colours.data() + (part.y % kTileSide * kTileSide + part.x % kTileSide) * 4;
+        const Rect& from = _painter._picked.rect;
+        const RgbType& color = _smudge.dab.color;
+        pickUp({.from = _painter._picked.view(),
+                .across = stepsFrom(placeX(part.x) - from.x, _stretch),
+                .down = stepsFrom(placeY(part.y) - from.y, _stretch),
+                .size = {part.width, part.height},
+                .colour = {wordOf(color.r), wordOf(color.g), wordOf(color.b), kSmudgeFull},
+                .colourPart = wordOf(_colourPart),
+                .to = to});
+        return colours.data();
+    }
+
+private:
+    // Where a texel under the dab takes up.
+    double placeX(int x) const { return _startX + (x + 0.5) * _stretch - 0.5; }
+    double placeY(int y) const { return _startY + (y + 0.5) * _stretch - 0.5; }
+
+    SmudgePainter& _painter;
+    const SmudgeDab& _smudge;
+    float _colourPart;
+    double _stretch, _startX, _startY;
+};
+
+template <typename Channel>
+SmudgePainter<Channel>::SmudgePainter(const Size& picture, int layerDepth)
     : _size(picture),
       _layerDepth(layerDepth),
-      _picture(TileGrid<std::uint8_t>(picture)),
+      _picture(picture),
+      _stale(Rect::of(picture)),
       _layer(halfOf(picture)),
       _before(_layer.size()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
-      _scaleY(static_cast<double>(_layer.size().height) / picture.height),
-      _covers({1, 1}) {}
+      _scaleY(static_cast<double>(_layer.size().height) / picture.height) {}
 
-void SmudgePainter::show(Shown picture) {
-    forget();
-    _picture = std::move(picture);
+template <typename Channel>
+void SmudgePainter<Channel>::show(const TileGrid<Channel>& picture) {
+    _picture.forEachIn(_stale, [&](std::size_t index, const Rect&) { _picture.share(picture, index); });
+    _stale = {};
+    _layer.forEachIn(_provided, [&](std::size_t index, const Rect&) {
+        _layer.drop(index);
+        _before.drop(index);
+    });
+    _provided = {};
 }
 
-void SmudgePainter::forget() {
-    std::visit([](auto& picture) { picture.fill({}); }, _picture);
-    _layer.fill({});
-    _before.fill({});
+template <typename Channel>
+void SmudgePainter<Channel>::forget() {
+    _stale = Rect::of(_size);
+    show(TileGrid<Channel>(_size));
+    _stale = Rect::of(_size);
 }
 
 // ---- The layer
 
-void SmudgePainter::provide(const Rect& texels) {
+template <typename Channel>
+void SmudgePainter<Channel>::provide(const Rect& texels) {
     _layer.forEachIn(texels, [&](std::size_t index, const Rect&) {
         if (_layer.tile(index) == nullptr) {
             showTile(index);
+            _provided = _provided.united(_layer.rectOf(index));
         }
     });
-}
-
-void SmudgePainter::showTile(std::size_t index) {
-    std::visit([&](const auto& picture) { showTileOf(picture, index); }, _picture);
-    round(_layer.rectOf(index));
-    _before.share(_layer, index);
 }
 
 template <typename Channel>
-void SmudgePainter::showTileOf(const TileGrid<Channel>& picture, std::size_t index) {
-    static constexpr Channel kTransparent[4] = {};
-    constexpr float kUnits = kFull / std::numeric_limits<Channel>::max();
+void SmudgePainter<Channel>::showTile(std::size_t index) {
     const Rect rect = _layer.rectOf(index);
-    auto& tile = _layer.writable(index);
-    const auto pixelAt = [&](int x, int y) {
-        const auto* from = picture.tile(picture.indexAt(x, y));
-        return from != nullptr ? from->at(x % kTileSide, y % kTileSide) : kTransparent;
-    };
-    const std::vector<Between> columns = betweens(rect.x, rect.width, 1 / _scaleX, 0, 0, _size.width);
+    const double stepX = 1 / _scaleX, stepY = 1 / _scaleY;
+    const auto place = [](int texel, double step) { return (texel + 0.5) * step - 0.5; };
+    const TexelRange across(place(rect.x, stepX), place(rect.right() - 1, stepX), _size.width);
+    std::array<Channel, kMostReduced * 4 + kSpareValues> upper{}, lower{};
+    auto& tile = _before.writable(index);
     for (int y = rect.y; y < rect.bottom(); ++y) {
-        const Between down((y + 0.5) / _scaleY, 0, _size.height);
-        for (int x = rect.x; x < rect.right(); ++x) {
-            const Colour color = mixedAt(columns[static_cast<std::size_t>(x - rect.x)], down, pixelAt);
-            std::uint16_t* to = tile.at(x % kTileSide, y % kTileSide);
-            for (int i = 0; i < 4; ++i) {
-                to[i] = static_cast<std::uint16_t>(color.channel[i] * kUnits + 0.5f);
-            }
-        }
+        const TexelRange down(place(y, stepY), place(y, stepY), _size.height);
+        takePicture(down.first, {across.first, 0, across.end - across.first, 1}, upper.data());
+        takePicture(down.end - 1, {across.first, 0, across.end - across.first, 1}, lower.data());
+        reduceRow(ReducedRow<Channel>{.upper = upper.data(),
+                                      .lower = lower.data(),
+                                      .pixels = across.end - across.first,
+                                      .at = stepsFrom(place(y, stepY) - down.first, 0).start,
+                                      .across = stepsFrom(place(rect.x, stepX) - across.first, stepX),
+                                      .count = rect.width,
+                                      .to = reinterpret_cast<std::int16_t*>(tile.at(0, y % kTileSide))});
+    }
+    _layer.share(_before, index);
+    if (_layerDepth == 8) {
+        round(rect);
+        _before.share(_layer, index);
     }
 }
 
-// A layer of 8 bits holds no more.
-void SmudgePainter::round(const Rect& texels) {
-    _layer.forEachIn(_layerDepth == 8 ? texels : Rect(), [&](std::size_t index, const Rect& part) {
+// To what 8 bits can say.
+template <typename Channel>
+void SmudgePainter<Channel>::round(const Rect& texels) {
+    _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
         auto& tile = _layer.writable(index);
         for (int y = part.y; y < part.bottom(); ++y) {
-            roundToBytes(tile.at(part.x % kTileSide, y % kTileSide), part.width);
+            std::uint16_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
+            std::transform(row, row + std::ptrdiff_t{4} * part.width, row, [](std::uint32_t value) {
+                return static_cast<std::uint16_t>((value * 255 + kSmudgeFull / 2) / kSmudgeFull * 257 / 2);
+            });
         }
     });
 }
 
-void SmudgePainter::take(const Layer& from, const Rect& rect, Texels& to) {
+// The pixels of a row, wherever their tiles lie.
+template <typename Channel>
+void SmudgePainter<Channel>::takePicture(int y, const Rect& pixels, Channel* row) const {
+    _picture.forEachIn({pixels.x, y, pixels.width, 1}, [&](std::size_t index, const Rect& part) {
+        const auto* tile = _picture.tile(index);
+        Channel* const to = row + std::ptrdiff_t{4} * (part.x - pixels.x);
+        const auto bytes = static_cast<std::size_t>(part.width) * 4 * sizeof(Channel);
+        tile != nullptr ? std::memcpy(to, tile->at(part.x % kTileSide, y % kTileSide), bytes)
+                        : std::memset(to, 0, bytes);
+    });
+}
+
+template <typename Channel>
+void SmudgePainter<Channel>::take(const Layer& from, const Rect& rect, Texels& to) {
     to.rect = rect;
-    to.values.resize(static_cast<std::size_t>(rect.area()) * 4);
+    to.values.resize(static_cast<std::size_t>(rect.area()) * 4 + kSpareValues);
     from.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         const auto* tile = from.tile(index);
         for (int y = part.y; tile != nullptr && y < part.bottom(); ++y) {
-            std::memcpy(const_cast<std::uint16_t*>(to.at(part.x, y)),
-                        tile->at(part.x % kTileSide, y % kTileSide),
+            const std::ptrdiff_t first = std::ptrdiff_t{y - rect.y} * rect.width + part.x - rect.x;
+            std::memcpy(to.values.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
                         static_cast<std::size_t>(part.width) * 8);
         }
     });
@@ -180,163 +217,76 @@ void SmudgePainter::take(const Layer& from, const Rect& rect, Texels& to) {
 
 // ---- Dabs
 
-Dab SmudgePainter::inLayer(const Dab& dab) const {
+template <typename Channel>
+Dab SmudgePainter<Channel>::inLayer(const Dab& dab) const {
     Dab scaled = dab;
     scaled.x = static_cast<float>(dab.x * _scaleX);
     scaled.y = static_cast<float>(dab.y * _scaleY);
     scaled.halfSize = static_cast<float>(dab.halfSize * _scaleX);
     scaled.roundness = static_cast<float>(dab.roundness * _scaleY / _scaleX);
-    scaled.color = {0, 0, 0};
     return scaled;
 }
 
-Rect SmudgePainter::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load,
-                           std::uint64_t count, std::vector<Dab>& coverage) {
-    Rect touched;
-    for (const SmudgeDab& dab : dabs) {
-        const Rect changed = smudgeOne(dab, Mixture(dab, load), style, count++);
-        if (!changed.isEmpty()) {
-            touched = touched.united(changed);
-            coverage.push_back(dab.dab);
-            coverage.back().flow *= dab.exchange;
-            coverage.back().color = {0, 0, 0};
-        }
-    }
-    return touched;
-}
-
-// Returns the pixels of the picture that it may change.
-Rect SmudgePainter::smudgeOne(const SmudgeDab& smudge, const Mixture& mixture, const DabStyle& style,
-                              std::uint64_t count) {
-    Dab dab = inLayer(smudge.dab);
-    const Extent extent = DabBounds::extentOf(dab);
-    const Rect box = texelsUnder(dab.x - extent.width, dab.y - extent.height, dab.x + extent.width,
-                                 dab.y + extent.height, _layer.size());
-    if (box.isEmpty()) {
-        return {};  // nor is one drawn whose place is not finite
-    }
-    // By itself first, near the origin, to see how much it covers.
-    if (_covers.size().width < box.width || _covers.size().height < box.height) {
-        _covers =
-            Layer({std::max(box.width, _covers.size().width), std::max(box.height, _covers.size().height)});
-    }
-    dab.x -= static_cast<float>(box.x);
-    dab.y -= static_cast<float>(box.y);
+template <typename Channel>
+Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load,
+                                    std::uint64_t count, std::vector<Dab>& coverage) {
     const DabStyle plain{.tips = style.tips, .paper = {}};
-    const Rect covered =
-        _painter.draw(_covers, std::span(&dab, 1), plain, count).intersected({0, 0, box.width, box.height});
-
-    provide(box);
-    exchange(covered, box, smudge, mixture, count);
-    round(box);
-    const Rect changed =
-        Rect::covering(box.x / _scaleX, box.y / _scaleY, box.right() / _scaleX, box.bottom() / _scaleY)
-            .grownBy(kReach);
-    return changed.intersected(Rect::of(_size));
-}
-
-// Takes the dab out of `_covers`, which is empty again.
-void SmudgePainter::takeCover(const Rect& covered) {
-    take(_covers, covered, _cover);
-    _covers.forEachIn(covered, [&](std::size_t index, const Rect& part) {
-        for (int y = part.y; _covers.tile(index) != nullptr && y < part.bottom(); ++y) {
-            std::memset(_covers.writable(index).at(part.x % kTileSide, y % kTileSide), 0,
-                        static_cast<std::size_t>(part.width) * 8);
+    Rect touched;
+    for (const SmudgeDab& smudge : dabs) {
+        const Mixture mixture(smudge, load);
+        Exchange exchange(*this, smudge, mixture);
+        Dab dab = inLayer(smudge.dab);
+        dab.flow = std::min(dab.flow, 1.0f) * mixture.exchanged;
+        const Rect texels = _painter.draw(_layer, dab, plain, count++, exchange);
+        if (texels.isEmpty()) {
+            continue;
         }
-    });
-}
-
-// The layer exchanges what lies under the dab that `_covers` holds, `origin` away from there.
-void SmudgePainter::exchange(const Rect& covered, const Rect& origin, const SmudgeDab& smudge,
-                             const Mixture& mixture, std::uint64_t count) {
-    takeCover(covered);
-    const double stretch = smudge.pickUpHalf / smudge.dab.halfSize;
-    const double startX = (smudge.pickUp.x - smudge.dab.x * stretch) * _scaleX;
-    const double startY = (smudge.pickUp.y - smudge.dab.y * stretch) * _scaleY;
-    const Rect under{covered.x + origin.x, covered.y + origin.y, covered.width, covered.height};
-    // What is taken up is taken before the dab changes it; off the layer its rim counts.
-    const Rect picked =
-        nearestTexels(startX + under.x * stretch, startY + under.y * stretch,
-                      startX + under.right() * stretch, startY + under.bottom() * stretch, _layer.size());
-    if (mixture.pickUp > 0) {
-        provide(picked);
-        take(_layer, picked, _picked);
+        if (_layerDepth == 8) {
+            round(texels);
+        }
+        // Each texel reaches as far as the next ones.
+        touched =
+            touched.united(Rect::covering((texels.x - 1) / _scaleX, (texels.y - 1) / _scaleY,
+                                          (texels.right() + 1) / _scaleX, (texels.bottom() + 1) / _scaleY));
+        coverage.push_back(smudge.dab);
+        coverage.back().flow *= smudge.exchange;
+        coverage.back().color = {0, 0, 0};
     }
-    const std::vector<Between> columns =
-        betweens(under.x, under.width, stretch, startX, picked.x, picked.right());
-    const std::vector<Between> rows =
-        betweens(under.y, under.height, stretch, startY, picked.y, picked.bottom());
-    const auto pickedAt = [this](int x, int y) { return _picked.at(x, y); };
-    _layer.forEachIn(under, [&](std::size_t index, const Rect& part) {
-        auto& tile = _layer.writable(index);
-        for (int y = part.y; y < part.bottom(); ++y) {
-            const std::uint16_t* cover = _cover.at(part.x - origin.x, y - origin.y);
-            std::uint16_t* to = tile.at(part.x % kTileSide, y % kTileSide);
-            for (int x = part.x; x < part.right(); ++x, cover += 4, to += 4) {
-                if (cover[3] == 0) {
-                    continue;
-                }
-                Colour color{};
-                if (mixture.pickUp > 0) {
-                    color = mixedAt(columns[static_cast<std::size_t>(x - under.x)],
-                                    rows[static_cast<std::size_t>(y - under.y)], pickedAt);
-                }
-                const float share = static_cast<float>(cover[3]) / kFull,
-                            rest = 1 - share * mixture.exchanged;
-                const float noise = upBy(noiseAt(x, y, static_cast<std::uint32_t>(count)));
-                for (int i = 0; i < 4; ++i) {
-                    const float value = static_cast<float>(to[i]) * rest +
-                                        share * (mixture.own.channel[i] + mixture.pickUp * color.channel[i]);
-                    to[i] = static_cast<std::uint16_t>(std::clamp(value + noise, 0.0f, kFull));
-                }
-            }
-        }
-    });
+    return touched.intersected(Rect::of(_size));
 }
 
 // ---- The picture
 
-namespace {
-
-// A row between two, texel by texel.
-void mixRows(const std::uint16_t* low, const std::uint16_t* high, float part, std::vector<float>& row) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        const float from = low[i];
-        row[i] = from + (high[i] - from) * part;
-    }
-}
-
-}  // namespace
-
-void SmudgePainter::composite(const MutablePixelView& picture, const PixelView& background,
-                              const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
-                              std::uint32_t commits) {
-    const Rect texels = texelsUnder(part.x * _scaleX, part.y * _scaleY, part.right() * _scaleX,
-                                    part.bottom() * _scaleY, _layer.size());
+template <typename Channel>
+void SmudgePainter<Channel>::composite(Tile<Channel>& picture, const Tile<Channel>* background,
+                                       const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
+                                       const RowNoise& noise) {
+    static const Tile<Channel> kTransparent;
+    constexpr int kTogether = 8;  // columns, as vectors have pixels at most
+    const int left = part.x / kTileSide * kTileSide, top = part.y / kTileSide * kTileSide;
+    const auto place = [](int pixel, double scale) { return (pixel + 0.5) * scale - 0.5; };
+    const int first = part.x / kTogether * kTogether,
+              end = (part.right() + kTogether - 1) / kTogether * kTogether;
+    const TexelRange across(place(first, _scaleX), place(end - 1, _scaleX), _layer.size().width);
+    const TexelRange down(place(part.y, _scaleY), place(part.bottom() - 1, _scaleY), _layer.size().height);
+    const Rect texels = Rect::between(across.first, down.first, across.end, down.end);
     provide(texels);
     take(_layer, texels, _picked);
     take(_before, texels, _old);
-    std::vector<TexelPlace> places;
-    for (const Between& place : betweens(part.x, part.width, _scaleX, 0, texels.x, texels.right())) {
-        places.push_back({place.low - texels.x, place.high - texels.x, place.part});
-    }
-    std::vector<float> now(static_cast<std::size_t>(texels.width) * 4), then(now.size());
-    for (int y = 0; y < part.height; ++y) {
-        const Between down((part.y + y + 0.5) * _scaleY, texels.y, texels.bottom());
-        mixRows(_picked.at(texels.x, down.low), _picked.at(texels.x, down.high), down.part, now);
-        mixRows(_old.at(texels.x, down.low), _old.at(texels.x, down.high), down.part, then);
-        putSmudges({.picture = picture.row(y),
-                    .background = background.row(y),
-                    .exchanged = exchanged.at(part.x % kTileSide, (part.y + y) % kTileSide),
-                    .now = now.data(),
-                    .then = then.data(),
-                    .places = places.data(),
-                    .count = part.width,
-                    .opacity = opacity,
-                    .noise = _layerDepth == 8 ? kNearest : noiseAt(part.x, part.y + y, commits),
-                    .along = _layerDepth == 8 ? 0 : kNoiseAlong,
-                    .pixelBytes = picture.pixelBytes});
-    }
+    putSmudges(
+        PutSmudges<Channel>{.picture = picture.values.data(),
+                            .background = (background != nullptr ? background : &kTransparent)->values.data(),
+                            .exchanged = exchanged.values.data(),
+                            .part = {part.x - left, part.y - top, part.width, part.height},
+                            .now = _picked.view(),
+                            .then = _old.view(),
+                            .across = stepsFrom(place(left, _scaleX) - texels.x, _scaleX),
+                            .down = stepsFrom(place(top, _scaleY) - texels.y, _scaleY),
+                            .opacity = wordOf(opacity),
+                            .noise = noise});
 }
+
+template class SmudgePainter<std::uint8_t>;
+template class SmudgePainter<std::uint16_t>;
 
 }  // namespace dabcanvas

@@ -1,33 +1,78 @@
 // SPDX-License-Identifier: MIT
-// What smudging brought, put onto a row of the picture.
+// Smudging, a part of a tile at a time: what the layer is filled with, what dabs take up of it, and what is put onto the
+// picture. Premultiplied RGBA in words of which kSmudgeFull is the most: the difference of two fits a word, too.
+//
+// Rows     kernels read whole vectors: up to kSpareValues values beyond what they are asked for, and beyond the last
+//          row of a tile or patch.
+// Same     whatever instruction set the processor has; what is of one colour stays so to the bit.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+
+#include "Maths/Rect.h"
+#include "Processor/BlendRows.h"
 
 namespace dabcanvas {
 
-// Where a pixel lies between two texels of a row.
-struct TexelPlace {
-    int low, high;  // texels from the row's first
-    float part;     // of the higher one
+inline constexpr int kSmudgeFull = 32767;
+inline constexpr std::size_t kSpareValues = 64;
+
+// Where a row of pixels lies among others: the first one's centre, and the way from each to the next. 16 bits behind the
+// point, 0 in the middle of the first of the others.
+struct Steps {
+    std::int64_t start, step;
+
+    std::int64_t at(int i) const { return start + step * i; }
 };
 
-struct SmudgeRow {
-    std::uint8_t* picture;  // as many bytes a pixel as are told below
-    const std::uint8_t* background;
-    const std::uint16_t*
-        exchanged;             // four values a pixel, of which alpha counts: how much of it was exchanged
-    const float *now, *then;   // four values a texel, full scale 65535: what the layer holds, and held
-    const TexelPlace* places;  // of the pixels
-    int count;                 // pixels
-    float opacity;             // 0..1
-    std::uint32_t noise;       // of the first pixel, see noiseAt()
-    std::uint32_t along;       // what it grows by from pixel to pixel
-    int pixelBytes;            // 4 or 8: 8 or 16 bits a channel
+// Part of a layer, rows without gaps. Beyond its edges it goes on as it is there.
+struct SmudgeTexels {
+    const std::int16_t* values;
+    Size size;
 };
+
+// Fills a row of a layer with what the two rows of the picture show between which it lies.
+template <typename Channel>
+struct ReducedRow {
+    const Channel *upper, *lower;
+    int pixels;       // of those, up to kMostReduced
+    std::int64_t at;  // between both, 16 bits behind the point
+    Steps across;     // of the texels among the pixels
+    int count;        // texels
+    std::int16_t* to;
+};
+inline constexpr int kMostReduced = 256;
+void reduceRow(const ReducedRow<std::uint8_t>& row);
+void reduceRow(const ReducedRow<std::uint16_t>& row);
+
+// What a dab's pixels turn into where it covers them wholly: what lies under another place, mixed with a colour.
+struct PickedUp {
+    SmudgeTexels from;
+    Steps across, down;
+    Size size;  // of the part
+    std::array<std::int16_t, 4> colour;
+    std::int16_t colourPart;  // of kSmudgeFull
+    std::uint16_t* to;        // laid out as a tile
+};
+void pickUp(const PickedUp& part);
 
 // The layer is coarser than the picture: what it has now less what remains of what it had is all that is enlarged, so that
 // the picture keeps its detail where dabs were thin. Pixels that no dab exchanged stay as they are, to the bit.
-void putSmudges(const SmudgeRow& row);
+template <typename Channel>
+struct PutSmudges {
+    // Tiles, of which the rows and columns of `part` count.
+    Channel* picture;
+    const Channel* background;
+    const std::uint16_t* exchanged;  // alpha counts: how much of each pixel was
+    Rect part;
+    SmudgeTexels now, then;  // what the layer holds and held, equally large
+    Steps across, down;      // of the tile's first pixel
+    std::int16_t opacity;    // of kSmudgeFull
+    RowNoise noise;          // of the tile's first pixel, for a picture of 8 bits a channel
+};
+void putSmudges(const PutSmudges<std::uint8_t>& part);
+void putSmudges(const PutSmudges<std::uint16_t>& part);
 
 }  // namespace dabcanvas
