@@ -7,7 +7,6 @@
 #include "Canvas/QDDrawCanvasParts.h"
 #include "Maths/Geometry.h"
 #include "Maths/Rounding.h"
-#include "Surface/DepthRows.h"
 
 using namespace dabcanvas;
 
@@ -135,15 +134,9 @@ bool QDDrawCanvas::readDataBufferRect(unsigned char* bytes, const QRectF& buffer
 
 QImage QDDrawCanvas::currentImage() {
     const RecordedCanvas& record = _inside->parts->record;
-    const PixelView rows = record.rowsOf(record.data());
-    if (rows.isNull()) {
-        return image();
-    }
-    QImage image(rows.size.width, rows.size.height, kDataFormat);
-    if (!image.isNull()) {
-        rows.pixelBytes == 4 ? copyRows(rows, viewOf(image)) : roundRows(rows, viewOf(image), 0, 0);
-    }
-    return image;
+    return record.hasCanvasSize()
+               ? pictureOfData(record.inBytes(record.data()), bufferSize().toSize()).mirrored()
+               : image();
 }
 
 // ---- Clearing

@@ -279,7 +279,7 @@ QByteArray QDDrawCanvas::resetUndoManager() {
 
 QByteArray QDDrawCanvas::loadUndoManager() {
     Parts& parts = *_inside->parts;
-    return parts.history.load(parts.sketch.isOn());
+    return parts.record.inBytes(parts.history.load(parts.sketch.isOn()));
 }
 
 ImagesUndoManager& QDDrawCanvas::undoManager() {
@@ -288,7 +288,8 @@ ImagesUndoManager& QDDrawCanvas::undoManager() {
 }
 
 QByteArray QDDrawCanvas::curImageData() const {
-    return _inside->parts->record.data();
+    const RecordedCanvas& record = _inside->parts->record;
+    return record.inBytes(record.data());
 }
 
 void QDDrawCanvas::setCurImageData(const QByteArray& data) {

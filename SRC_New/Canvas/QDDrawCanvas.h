@@ -193,9 +193,9 @@ public:
     void setScissorRect(const QRectF& rect);
 
     // ---- Undo
-    // Steps are whole pictures, as readData() gives them, or of 8 bytes a pixel where the canvas has 16 bits. The first is the canvas as it was made; a host
-    // that prepares a picture calls resetUndoManager() then. How many there are, and where they are kept, is
-    // undoManager()'s. Nothing of a history is made before it is asked for.
+    // Steps are whole pictures of the canvas, in its own depth; what is returned of one is as readData() gives it. The
+    // first is the canvas as it was made; a host that prepares a picture calls resetUndoManager() then. How many there
+    // are, and where they are kept, is undoManager()'s. Nothing of a history is made before it is asked for.
     //
     // Record a step at the end of every stroke, after every image placed and every clear.
     bool autoMark() const;

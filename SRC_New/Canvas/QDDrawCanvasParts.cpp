@@ -421,7 +421,7 @@ QByteArray QDDrawCanvas::Parts::mark() {
         return {};
     }
     settleSketch();
-    return history.mark();
+    return record.inBytes(history.mark());
 }
 
 // The mark of a step that has just been drawn; null where none is to be recorded.
@@ -439,7 +439,7 @@ QByteArray QDDrawCanvas::Parts::resetHistory() {
         return {};
     }
     settleSketch();
-    return history.reset();
+    return record.inBytes(history.reset());
 }
 
 QByteArray QDDrawCanvas::Parts::undo() {
@@ -476,5 +476,5 @@ QByteArray QDDrawCanvas::Parts::stepped(CanvasHistory::Outcome outcome) {
             }
             break;
     }
-    return record.data();
+    return record.inBytes(record.data());
 }

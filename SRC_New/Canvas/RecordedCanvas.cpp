@@ -5,6 +5,8 @@
 #include <new>
 #include <utility>
 
+#include "Surface/DepthRows.h"
+
 namespace dabcanvas {
 namespace {
 
@@ -35,6 +37,19 @@ PixelView RecordedCanvas::rowsOf(const QByteArray& data) const {
         }
     }
     return {};
+}
+
+QByteArray RecordedCanvas::inBytes(const QByteArray& data) const {
+    const PixelView rows = rowsOf(data);
+    if (rows.isNull() || rows.pixelBytes == 4) {
+        return data;
+    }
+    QByteArray bytes = bytesOf(pixels() * 4);
+    if (!bytes.isNull()) {
+        auto* const to = reinterpret_cast<std::uint8_t*>(bytes.data());
+        roundRows(rows, MutablePixelView::bottomRowFirst(to, rows.size), 0, 0);
+    }
+    return bytes;
 }
 
 MutablePixelView RecordedCanvas::rowsOfCanvas(QByteArray& data) const {

@@ -25,6 +25,8 @@ public:
     bool hasCanvasSize() const { return !rowsOf(_data).isNull(); }
     // A picture of the canvas, as bytes; null for any others.
     PixelView rowsOf(const QByteArray& data) const;
+    // The same bytes, or such of 8 bits a channel in place of 16: what hosts are given.
+    QByteArray inBytes(const QByteArray& data) const;
 
     // The canvas as it is.
     void take(const QByteArray& data);

@@ -2,6 +2,8 @@
 // Rows of 16 bits a channel as rows of 8, and the other way round.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 
@@ -18,16 +20,27 @@ constexpr std::uint32_t placeNoise(int x, int y) {
 // Rounded by a noise of the pixel's place in the picture: smooth colour comes out without steps, the same every time, and
 // what was made of bytes is those bytes again. (x, y) is the place of the first pixel; views of one size.
 inline void roundRows(const PixelView& from, const MutablePixelView& to, int x, int y) {
+    constexpr int kTogether = 64 * 4;  // values, in a loop that compilers make vectors of
+    static constexpr auto kNoises = [] {
+        std::array<std::uint16_t, kTogether> noises{};
+        for (std::size_t i = 0; i < noises.size(); ++i) {
+            noises[i] = static_cast<std::uint16_t>(i / 4 * kNoiseAlong);
+        }
+        return noises;
+    }();
     for (int row = 0; row < from.size.height; ++row) {
-        const std::uint8_t* in = from.row(row);
-        std::uint8_t* out = to.row(row);
-        std::uint32_t noise = placeNoise(x, y + row);
-        for (int i = 0; i < from.size.width; ++i, in += 8, out += 4, noise += kNoiseAlong) {
-            std::uint16_t values[4];
-            std::memcpy(values, in, sizeof(values));
-            for (int channel = 0; channel < 4; ++channel) {
-                const std::uint32_t value = values[channel];
-                out[channel] = static_cast<std::uint8_t>((value - (value >> 8) + (noise & 255)) >> 8);
+        for (int first = 0; first < from.size.width; first += kTogether / 4) {
+            const std::uint8_t* const in = from.at(first, row);
+            std::uint8_t* const out = to.at(first, row);
+            const auto noise = static_cast<std::uint16_t>(placeNoise(x + first, y + row));
+            const int count = std::min(kTogether, (from.size.width - first) * 4);
+            for (int i = 0; i < count; ++i) {
+                std::uint16_t value;
+                std::memcpy(&value, in + 2 * i, sizeof(value));
+                const auto up =
+                    static_cast<std::uint16_t>((kNoises[static_cast<std::size_t>(i)] + noise) & 255);
+                out[i] =
+                    static_cast<std::uint8_t>(static_cast<std::uint16_t>(value - (value >> 8) + up) >> 8);
             }
         }
     }

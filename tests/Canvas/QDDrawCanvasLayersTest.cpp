@@ -37,8 +37,8 @@ TEST_F(CanvasLayersTest, AStrokeWithoutMemoryForItsLayerIsRefused) {
 }
 
 TEST_F(CanvasLayersTest, MovesToOpenGLBetweenStrokesAsItIs) {
-    for (const bool pictureAlone : {false, true}) {
-        auto canvas = makeCanvas(300, 700, SurfaceKind::processor);
+    for (const auto& [depth, pictureAlone] : {std::pair{8, false}, {8, true}, {16, false}, {16, true}}) {
+        auto canvas = makeCanvas(300, 700, SurfaceKind::processor, depth);
         paintWave(*canvas, 60);
         canvas->drawingWithBeginPoint({20, 300});
         canvas->drawingWithMoveToPoint({150, 350});
@@ -48,14 +48,17 @@ TEST_F(CanvasLayersTest, MovesToOpenGLBetweenStrokesAsItIs) {
             EXPECT_EQ(log.lines().size(), 1);
         }
         canvas->drawingWithEndPoint({250, 300});
+        const auto strokes = pictureOf(*canvas);
         canvas->setNeglectTextureUpdate(pictureAlone);  // the image is on the picture, not in its background
         ASSERT_TRUE(canvas->drawImage(patternImage({90, 400}), QSizeF(90, 400), QPointF(150, 350), 0.2));
-        const QImage before = canvas->image();
+        const auto before = pictureOf(*canvas);
+        const QImage shown = canvas->image();
         ASSERT_NE(canvas->glSurface(), nullptr);
-        EXPECT_TRUE(imagesMatch(canvas->image(), before));
+        EXPECT_EQ(pictureOf(*canvas), before);
+        EXPECT_TRUE(imagesMatch(canvas->image(), shown));
         const dabcanvas::SurfaceScope scope(canvas->surface());
         canvas->surface().revert(dabcanvas::PictureId::first, {0, 0, 300, 700});
-        EXPECT_EQ(canvas->image() == before, !pictureAlone) << "the background moved, too";
+        EXPECT_EQ(pictureOf(*canvas), pictureAlone ? strokes : before) << "the background moved, too";
     }
 }
 

@@ -343,6 +343,19 @@ TEST_F(MainWindowTest, WhatDeadRunsLeftGoesWhenTheUserSaysSo) {
 }
 #endif
 
+TEST_F(MainWindowTest, WhatPaintsIsChosenForTheNextPictureAndForGood) {
+    const auto isProcessor = [this] { return _window->view()->rendererName().startsWith("processor"); };
+    for (const bool processor : {true, false, true}) {
+        const bool before = isProcessor();
+        action(processor ? "&Processor" : "&Graphics Card")->trigger();
+        EXPECT_EQ(isProcessor(), before) << "of the present picture";
+        ASSERT_TRUE(_window->startCanvas({QSize(40, 30), Qt::white}));
+        EXPECT_EQ(isProcessor(), processor);
+    }
+    makeWindow();
+    EXPECT_TRUE(isProcessor() && action("&Processor")->isChecked());
+}
+
 // ---- Image files
 
 TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {

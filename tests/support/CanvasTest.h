@@ -11,6 +11,7 @@
 
 #include "Canvas/QDDrawCanvas.h"
 #include "ESRender/Utilities/ESGLErrors.h"
+#include "Surface/PaintSurface.h"
 #include "support/Images.h"
 
 class CanvasTest : public ::testing::Test {
@@ -36,6 +37,20 @@ protected:
 private:
     std::uint64_t _errors = 0;
 };
+
+// The picture with all its bits.
+inline std::vector<std::uint8_t> pictureOf(QDDrawCanvas& canvas) {
+    canvas.image();  // what waits to be drawn is drawn
+    dabcanvas::PaintSurface& surface = canvas.surface();
+    const dabcanvas::SurfaceScope scope(surface);
+    const dabcanvas::Size size = surface.size();
+    std::vector<std::uint8_t> bytes(
+        static_cast<std::size_t>(size.width * size.height * surface.pixelBytes()));
+    EXPECT_TRUE(
+        surface.read(dabcanvas::PictureId::first, dabcanvas::Rect::of(size),
+                     dabcanvas::MutablePixelView::topRowFirst(bytes.data(), size, surface.pixelBytes())));
+    return bytes;
+}
 
 // A canvas shown at another size than its buffer's, and what it asks to be shown again.
 class ShownCanvas : public QDDrawCanvas {
