@@ -77,17 +77,6 @@ TEST_F(CanvasLayersTest, OnlyWithinTheRectangleIsAStrokeTakenBack) {
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
 }
 
-TEST_F(CanvasLayersTest, EveryChangeIsShownAgain) {
-    ShownCanvas canvas({200, 150});
-    dragMouse(canvas, {30, 40}, {20, 0}, 5);
-    const QRect stroke = painted(canvas.displayImage());
-    ASSERT_FALSE(stroke.isEmpty());
-    canvas.redisplayed.clear();
-    canvas.mouseUp({{130, 40}});
-    EXPECT_TRUE(canvas.redisplayedArea().contains(QRectF(stroke))) << "a withdrawn stroke leaves the screen";
-    EXPECT_TRUE(painted(canvas.displayImage()).isEmpty());
-}
-
 // What may happen to a stroke before it is next looked at.
 const std::function<void(QDDrawCanvas&, QPointF)> kHappenings[] = {
     [](QDDrawCanvas& c, QPointF at) { c.setOpacity(static_cast<float>(0.2 + at.x() / 300)); },

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/ESBaseRender.h"
 
-#include <cmath>
 #include <limits>
 
 #include "ESRender/ESLineRender.h"

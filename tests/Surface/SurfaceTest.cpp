@@ -5,12 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <functional>
 #include <numbers>
 #include <random>
-#include <string>
 #include <vector>
 
 #include "Surface/BlendType.h"

@@ -90,7 +90,7 @@ TEST_F(ProgramTest, DabsPrintsRowsAndRefusesWithTheLine) {
     const QByteArray input =
         R"({"strokes": [{"set": {"pointsDistanceEnabled": false}, "samples": [[0, 0], [0.5, 0]]}]})";
     const QStringList dabs{"dabs", "-", "--header"};
-    const Ended rows = runProgram(dabs, input, {"LC_ALL=de_DE.UTF-8"});
+    const Ended rows = runProgram(dabs, input);
     EXPECT_EQ(rows.status, 0);
     EXPECT_THAT(rows.out.toStdString(),
                 StartsWith("sample,x,y,radius,pressure,altitude,speed\n1,0.5,0,2,-1,0,"));
