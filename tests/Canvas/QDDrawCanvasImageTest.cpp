@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QPainter>
 #include <QTransform>
-#include <algorithm>
 #include <limits>
 #include <numbers>
 #include <random>

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <limits>
 #include <random>
 #include <string>
@@ -186,18 +185,6 @@ TEST_F(CanvasLayersTest, ClearsToTheColourGiven) {
         canvas->clearWithColor(color, false);
         EXPECT_TRUE(imagesMatch(canvas->image(), solidImage({64, 40}, pixel)));
     }
-}
-
-TEST_F(CanvasLayersTest, ClearEmptiesTheLayersToo) {
-    auto fresh = makeCanvas();
-    paintWave(*fresh);
-    auto canvas = makeCanvas();
-    beginThrough(*canvas, {{20, 20}, {100, 100}});
-    canvas->clear();
-    EXPECT_TRUE(painted(canvas->image()).isNull());
-    paintWave(*canvas);
-    EXPECT_TRUE(imagesMatch(canvas->image(), fresh->image()))
-        << "dabs of the stroke that was cleared came back";
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <limits>
 
-#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 
 namespace {

@@ -49,15 +49,6 @@ TEST(DabTest, DirectionFollowsTheStrokeFromItsFirstDab) {
     }
 }
 
-TEST(DabTest, DirectionCarriesOverFromCallToCall) {
-    DabMaker maker = makerWith([](DabSettings& s) { s.moveRadianEnable = true; });
-    dabsOf(maker, {pointAt(10, 10), pointAt(20, 10)});
-    EXPECT_NEAR(dabsOf(maker, {pointAt(20, 30)}).front().radian, -kPi / 2, 1e-5);
-    maker.reset();
-    EXPECT_FLOAT_EQ(dabsOf(maker, {pointAt(20, 60)}).front().radian, 0)
-        << "a new stroke knows no direction yet";
-}
-
 // Jitter
 
 void everyJitter(DabSettings& s) {
@@ -67,6 +58,7 @@ void everyJitter(DabSettings& s) {
     s.distribution = 1;
     s.distributionCount = 3;
     s.distributionCountTingle = 0.5f;
+    s.moveRadianEnable = true;
     s.radianTingle = 0.6f;
     s.startRadianEnable = true;
     s.roundness = 0.6f;

@@ -2,8 +2,6 @@
 // What each mode makes of its sources, every surface's tests say; here, what the renderer does by itself.
 #include "ESRender/ESImageRender.h"
 
-#include <epoxy/gl.h>
-
 #include <algorithm>
 
 #include "support/GLTest.h"

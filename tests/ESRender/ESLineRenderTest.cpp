@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/ESLineRender.h"
 
-#include <epoxy/gl.h>
-
 #include <QTransform>
 #include <cstdlib>
 #include <vector>

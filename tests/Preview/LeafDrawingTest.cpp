@@ -134,18 +134,6 @@ TEST(LeafDrawingTest, TheEndComesOnceByTheEventLoopOrByHand) {
     }
 }
 
-TEST(LeafDrawingTest, ABeginFinishesThePendingStroke) {
-    Leaf leaf;
-    leaf.stroke(kTriangle);
-    leaf.drawWithBegin({95, 95});
-    EXPECT_EQ(leaf.handed.size(), 1u);
-    EXPECT_EQ(painted(leaf.cgImage()), QRect());
-    leaf.drawWithMove({95, 60});
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(leaf.isClear());
-    EXPECT_EQ(leaf.handed.size(), 1u);
-}
-
 TEST(LeafDrawingTest, DroppedStrokesCallNothing) {
     Leaf leaf;
     leaf.drawWithMove({10, 10});

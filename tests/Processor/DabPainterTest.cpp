@@ -3,11 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <memory>
 #include <random>
-#include <vector>
 
 #include "Processor/DabKernel.h"
 #include "Processor/Workers.h"

@@ -4,7 +4,6 @@
 #include <QPointingDevice>
 #include <QTabletEvent>
 #include <QTouchEvent>
-#include <vector>
 
 #include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"

@@ -3,11 +3,6 @@
 #include <epoxy/gl.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <memory>
-#include <vector>
-
 #include "GLSurface/GLSurface.h"
 #include "Processor/ProcessorSurface.h"
 #include "Surface/Kinds.h"
@@ -63,7 +58,7 @@ std::vector<Scene> scenes() {
     all.push_back(scene("MirroredAndTurned", {turned(dabAt(36.7f, 27.2f, 45), 2.2f, 0.7f, true)}, odd));
     all.push_back(scene("Enlarged", {turned(dabAt(30, 20, 150), 0.2f, 1)}, {pictureOf({5, 3}, motley)}));
     all.push_back(scene("OverTheEdge", {dabAt(0, 0, 30), dabAt(71.5f, 55.5f, 9), dabAt(-40, 20, 20)}));
-    all.push_back(scene("ManyTips", {}, {soft[0], block[0], {}, odd[0], pictureOf({1, 1}, square)}));
+    all.push_back(scene("ManyTips", {}, {pictureOf({1, 1}, square), block[0], {}, odd[0], soft[0]}));
     for (std::uint32_t tip = 0; tip < 5; ++tip) {
         if (tip != 2) {
             all.back().dabs.push_back(dabAt(9 + static_cast<float>(tip) * 13, 25, 11.5f));

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The program as its users run it: exit status, what it prints where, and which files are there afterwards.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cerrno>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The shapes command and paint --recognise.
-#include <QImage>
 #include <cmath>
 
 #include "apps/Program.h"

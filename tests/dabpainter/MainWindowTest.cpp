@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QMouseEvent>
@@ -79,12 +78,6 @@ TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
         EXPECT_EQ(pixel(120, 72), QColor(Qt::white));
         _window->clearCanvas();
     }
-}
-
-TEST_F(MainWindowTest, AShortStrokeStays) {
-    drag({inView(60, 60), inView(64, 60), inView(70, 60), inView(76, 60), inView(82, 60)});
-    EXPECT_NE(pixel(70, 60), QColor(Qt::white));
-    EXPECT_TRUE(_window->isUnsaved());
 }
 
 TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
