@@ -17,18 +17,12 @@ TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
     paintWave(*canvas);
     EXPECT_TRUE(canvas->edited());
     canvas->markAction();
-    struct Brush {
+    const struct {
         int type, blend;
         bool secondLine;
-    };
-    for (const auto& [type, blend, secondLine] : {Brush{0, 1, false},
-                                                  {0, 1, true},
-                                                  {0, 2, false},
-                                                  {0, 2, true},
-                                                  {0, 5, false},
-                                                  {0, 8, true},
-                                                  {0, 9, false},
-                                                  {3, 1, false}}) {
+    } rows[] = {{0, 1, false}, {0, 1, true}, {0, 2, false}, {0, 2, true},
+                {0, 5, false}, {0, 8, true}, {0, 9, false}, {3, 1, false}};
+    for (const auto& [type, blend, secondLine] : rows) {
         SCOPED_TRACE(::testing::Message()
                      << "type " << type << ", blend type " << blend << ' ' << secondLine);
         canvas->setBrushType(type);

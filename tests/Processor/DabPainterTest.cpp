@@ -104,17 +104,14 @@ TEST(DabPainterTest, WildDabsDoNoHarm) {
     for (int i = 0; i < 1000; ++i) {
         std::vector<Dab> dabs;
         for (int k = 0; k < 100; ++k) {
-            dabs.push_back({wild(),
-                            wild(),
-                            wild() / 8,
-                            wild(),
-                            wild(),
-                            wild(),
-                            wild(),
-                            wild(),
-                            {wild(), wild(), wild()},
-                            wild(),
-                            static_cast<std::uint32_t>(random() % 7)});
+            Dab dab{};
+            for (float* part :
+                 {&dab.x, &dab.y, &dab.halfSize, &dab.radian, &dab.roundness, &dab.flipX, &dab.flipY,
+                  &dab.flow, &dab.color.r, &dab.color.g, &dab.color.b, &dab.random}) {
+                *part = part == &dab.halfSize ? wild() / 8 : wild();
+            }
+            dab.tip = static_cast<std::uint32_t>(random() % 7);
+            dabs.push_back(dab);
         }
         if (i % 100 == 0) {
             style = mixedStyle(i % 200 == 0, i % 300 == 0);

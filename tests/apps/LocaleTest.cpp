@@ -21,7 +21,8 @@ TEST_F(ProgramTest, NumbersHaveAPointWhereTheLocaleWritesACommaForIt) {
     EXPECT_TRUE(run("properties").out.contains("default 0.15\n"));
     const QByteArray half =
         R"({"strokes": [{"samples": [[0, 0], [0.5, 0]], "set": {"pointsDistanceEnabled": 0}}]})";
-    EXPECT_TRUE(run("dabs -", half).out.startsWith("1,0.5,0,2,-1,0,"));
+    EXPECT_TRUE(run("dabs - --header", half)
+                    .out.startsWith("sample,x,y,radius,pressure,altitude,speed\n1,0.5,0,2,-1,0,"));
     EXPECT_TRUE(run("shapes -", "sample_id,x,y\na,1.5,2\n").out.startsWith("sample_id,"));
     for (const QByteArray& text :
          {QByteArray("0 1.5 2.25 5e-1\n"), half, QByteArray("<ink><trace>1.5 .25</trace></ink>")})

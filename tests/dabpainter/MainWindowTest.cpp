@@ -31,11 +31,11 @@ namespace {
 
 class MainWindowTest : public PainterTest {
 protected:
-    void send(QEvent::Type type, QPointF at, Qt::MouseButtons buttons) {
-        QDDrawView* view = _window->view();
-        QMouseEvent event(type, at, view->mapToGlobal(at),
+    void send(QEvent::Type type, QPointF at, Qt::MouseButtons buttons, QWidget* given = nullptr) {
+        QWidget* const to = given != nullptr ? given : _window->view();
+        QMouseEvent event(type, at, to->mapToGlobal(at),
                           type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(view, &event);
+        QApplication::sendEvent(to, &event);
     }
     void drag(const QList<QPointF>& way) {
         send(QEvent::MouseButtonPress, way.first(), Qt::LeftButton);
@@ -99,10 +99,7 @@ TEST_F(MainWindowTest, AStrokeMayBeginBesideTheCanvas) {
     CanvasViewport& viewport = _window->viewport();
     viewport.setZoom(1);
     const auto sendToViewport = [&](QEvent::Type type, QPointF bufferPoint, Qt::MouseButtons buttons) {
-        const QPointF at = viewport.pointOfBuffer(bufferPoint);
-        QMouseEvent event(type, at, viewport.mapToGlobal(at),
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(&viewport, &event);
+        send(type, viewport.pointOfBuffer(bufferPoint), buttons, &viewport);
     };
     sendToViewport(QEvent::MouseButtonPress, {-40, 75}, Qt::LeftButton);
     for (int x = -30; x < 60; x += 10)

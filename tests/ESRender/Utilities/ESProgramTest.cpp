@@ -137,15 +137,16 @@ TEST_F(ESProgramTest, DrainsNameEveryErrorAndCountThem) {
 }
 
 TEST(ExponentialTest, SidesRoundUpToAPowerOfTwoLookingAtTwentyBits) {
-    for (const auto& [side, power] : {std::pair{0, 1},
-                                      {1, 1},
-                                      {3, 4},
-                                      {256, 256},
-                                      {257, 512},
-                                      {1000, 1024},
-                                      {0xFFFFF, 1 << 20},
-                                      {1 << 20, 1},
-                                      {(1 << 20) + 5, 8}}) {
+    const int rows[][2] = {{0, 1},
+                           {1, 1},
+                           {3, 4},
+                           {256, 256},
+                           {257, 512},
+                           {1000, 1024},
+                           {0xFFFFF, 1 << 20},
+                           {1 << 20, 1},
+                           {(1 << 20) + 5, 8}};
+    for (const auto& [side, power] : rows) {
         EXPECT_EQ(ExponentialWithInter(side), power) << side;
     }
 }
