@@ -12,7 +12,7 @@ namespace dabcanvas {
 // What pixels are rounded by: the first one, and how it grows from each to the next and from row to row.
 struct RowNoise {
     std::uint32_t first;
-    std::uint32_t along = kNoiseAlong, down = kNoiseDown;
+    std::uint32_t along = kPlaceAlong, down = kPlaceDown;
 };
 inline constexpr RowNoise kToNearest{128, 0, 0};
 
@@ -39,8 +39,8 @@ constexpr float upBy(std::uint32_t noise) {
     return (static_cast<float>(noise & 255) + 0.5f) / 256;
 }
 
-// Pixels without paint in the layer stay as they are in the modes that leave them (all but normal, replace and reset);
-// a blend type that is none counts as normal.
+// Pixels without paint in the layer stay as they are in the modes that leave them (all but normal, replace and reset),
+// and in replace those that the mask holds nothing of; a blend type that is none counts as normal.
 void blendRow(std::uint32_t blendType, const BlendRow<std::uint8_t>& row);
 void blendRow(std::uint32_t blendType, const BlendRow<std::uint16_t>& row);
 

@@ -12,9 +12,9 @@
 namespace dabcanvas {
 
 // Of a pixel's place. Of the lowest 8 bits the higher half rounds up; places next to each other round each another way.
-inline constexpr std::uint32_t kNoiseAlong = 193, kNoiseDown = 146;
+inline constexpr std::uint32_t kPlaceAlong = 193, kPlaceDown = 146;
 constexpr std::uint32_t placeNoise(int x, int y) {
-    return static_cast<std::uint32_t>(x) * kNoiseAlong + static_cast<std::uint32_t>(y) * kNoiseDown;
+    return static_cast<std::uint32_t>(x) * kPlaceAlong + static_cast<std::uint32_t>(y) * kPlaceDown;
 }
 
 // Rounded by a noise of the pixel's place in the picture: smooth colour comes out without steps, the same every time, and
@@ -24,7 +24,7 @@ inline void roundRows(const PixelView& from, const MutablePixelView& to, int x, 
     static constexpr auto kNoises = [] {
         std::array<std::uint16_t, kTogether> noises{};
         for (std::size_t i = 0; i < noises.size(); ++i) {
-            noises[i] = static_cast<std::uint16_t>(i / 4 * kNoiseAlong);
+            noises[i] = static_cast<std::uint16_t>(i / 4 * kPlaceAlong);
         }
         return noises;
     }();

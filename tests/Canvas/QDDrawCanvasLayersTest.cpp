@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <limits>
 #include <random>
 #include <string>
@@ -48,17 +47,17 @@ TEST_F(CanvasLayersTest, MovesToOpenGLBetweenStrokesAsItIs) {
             EXPECT_EQ(log.lines().size(), 1);
         }
         canvas->drawingWithEndPoint({250, 300});
-        const auto strokes = pictureOf(*canvas);
+        const auto strokes = bitsOf(*canvas);
         canvas->setNeglectTextureUpdate(pictureAlone);  // the image is on the picture, not in its background
         ASSERT_TRUE(canvas->drawImage(patternImage({90, 400}), QSizeF(90, 400), QPointF(150, 350), 0.2));
-        const auto before = pictureOf(*canvas);
+        const auto before = bitsOf(*canvas);
         const QImage shown = canvas->image();
         ASSERT_NE(canvas->glSurface(), nullptr);
-        EXPECT_EQ(pictureOf(*canvas), before);
+        EXPECT_EQ(bitsOf(*canvas), before);
         EXPECT_TRUE(imagesMatch(canvas->image(), shown));
         const dabcanvas::SurfaceScope scope(canvas->surface());
         canvas->surface().revert(dabcanvas::PictureId::first, {0, 0, 300, 700});
-        EXPECT_EQ(pictureOf(*canvas), pictureAlone ? strokes : before) << "the background moved, too";
+        EXPECT_EQ(bitsOf(*canvas), pictureAlone ? strokes : before) << "the background moved, too";
     }
 }
 
@@ -78,17 +77,6 @@ TEST_F(CanvasLayersTest, OnlyWithinTheRectangleIsAStrokeTakenBack) {
     canvas->resetWithRenderRect(QRectF(0, 0, 1e-300, 9));  // of which single precision makes nothing
     canvas->resetWithRenderRect(QRectF(-1e10, -1e10, 2e10, 2e10));
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
-}
-
-TEST_F(CanvasLayersTest, EveryChangeIsShownAgain) {
-    ShownCanvas canvas({200, 150});
-    dragMouse(canvas, {30, 40}, {20, 0}, 5);
-    const QRect stroke = painted(canvas.displayImage());
-    ASSERT_FALSE(stroke.isEmpty());
-    canvas.redisplayed.clear();
-    canvas.mouseUp({{130, 40}});
-    EXPECT_TRUE(canvas.redisplayedArea().contains(QRectF(stroke))) << "a withdrawn stroke leaves the screen";
-    EXPECT_TRUE(painted(canvas.displayImage()).isEmpty());
 }
 
 // What may happen to a stroke before it is next looked at.
@@ -200,18 +188,6 @@ TEST_F(CanvasLayersTest, ClearsToTheColourGiven) {
         canvas->clearWithColor(color, false);
         EXPECT_TRUE(imagesMatch(canvas->image(), solidImage({64, 40}, pixel)));
     }
-}
-
-TEST_F(CanvasLayersTest, ClearEmptiesTheLayersToo) {
-    auto fresh = makeCanvas();
-    paintWave(*fresh);
-    auto canvas = makeCanvas();
-    beginThrough(*canvas, {{20, 20}, {100, 100}});
-    canvas->clear();
-    EXPECT_TRUE(painted(canvas->image()).isNull());
-    paintWave(*canvas);
-    EXPECT_TRUE(imagesMatch(canvas->image(), fresh->image()))
-        << "dabs of the stroke that was cleared came back";
 }
 
 }  // namespace

@@ -52,15 +52,15 @@ TEST_P(CanvasUndoOfDepthTest, EveryFinishedStrokeComesBackByteForByte) {
     canvas = makeCanvas(120, 90, SurfaceKind::automatic, GetParam());
     canvas->setAutoMark(true);
     std::vector<QImage> pictures{canvas->image()};
-    std::vector<std::vector<std::uint8_t>> whole{pictureOf(*canvas)};
+    std::vector<std::vector<std::uint8_t>> whole{bitsOf(*canvas)};
     for (const std::int32_t brush : {0, 3, 4, 0}) {
         canvas->setBrushType(brush);
         canvas->setRenderColor(ESColor::rgba(0.2f, 0.3f * static_cast<float>(brush), 0.7f));
         pictures.push_back(paint(20 + 18 * brush));
-        whole.push_back(pictureOf(*canvas));
+        whole.push_back(bitsOf(*canvas));
     }
     const auto expectShown = [&](std::size_t i) {
-        EXPECT_EQ(pictureOf(*canvas), whole[i]) << "step " << i;
+        EXPECT_EQ(bitsOf(*canvas), whole[i]) << "step " << i;
         EXPECT_TRUE(imagesMatch(canvas->image(), pictures[i])) << "step " << i;
         EXPECT_TRUE(imagesMatch(canvas->displayImage(), pictures[i])) << "step " << i;
         EXPECT_TRUE(imagesMatch(canvas->currentImage(), pictures[i])) << "step " << i;

@@ -14,8 +14,8 @@ struct Kind : Named {
     int canvasDepth;
     double closeness;  // of a dab in the layer to the reference, 1/255
 
-    std::unique_ptr<dabcanvas::PaintSurface> make(const dabcanvas::Size& size) const {
-        const dabcanvas::SurfaceOptions options{.canvasDepth = canvasDepth};
+    std::unique_ptr<dabcanvas::PaintSurface> make(const dabcanvas::Size& size, int layerDepth = 16) const {
+        const dabcanvas::SurfaceOptions options{.canvasDepth = canvasDepth, .layerDepth = layerDepth};
         return onGpu ? dabcanvas::makeGLSurface(QSizeF(size.width, size.height), options)
                      : dabcanvas::makeProcessorSurface(size, options);
     }

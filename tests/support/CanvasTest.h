@@ -39,7 +39,7 @@ private:
 };
 
 // The picture with all its bits.
-inline std::vector<std::uint8_t> pictureOf(QDDrawCanvas& canvas) {
+inline std::vector<std::uint8_t> bitsOf(QDDrawCanvas& canvas) {
     canvas.image();  // what waits to be drawn is drawn
     dabcanvas::PaintSurface& surface = canvas.surface();
     const dabcanvas::SurfaceScope scope(surface);
