@@ -96,6 +96,8 @@ HWY_INLINE void mixRows(const std::int16_t* upper, const std::int16_t* lower, st
 // Which texels of a row lie around each of a vector of pixels.
 class Neighbours {
 public:
+    HWY_INLINE Neighbours() {}  // by itself, compilers would make one without the vectors' instructions
+
     // Of the pixels from the i-th on, of which so many count, in rows of so many texels.
     HWY_INLINE void find(const Steps& steps, int i, int count, int texels) {
         const std::int64_t first = steps.at(i) & 0xffff, most = lanes() - 1;
