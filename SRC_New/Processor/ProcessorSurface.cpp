@@ -299,4 +299,30 @@ bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelVie
     });
 }
 
+// ---- Tiles, handed out and taken back as they are
+
+bool ProcessorSurface::keep(PictureId, const TileSet& tiles,
+                            const std::function<void(const PlacedTile&)>& visit) {
+    return withMemory("keep a picture", [&] {
+        tiles.forEach([&](std::size_t index) {
+            const auto& tile = _picture.shared(index);
+            visit({index, tile ? SharedTile(tile, tile->values.data()) : SharedTile()});
+        });
+    });
+}
+
+bool ProcessorSurface::put(PictureId picture, std::span<const PlacedTile> tiles) {
+    for (const PlacedTile& placed : tiles) {
+        // What newTile() made and keep() handed out are tiles; they are copied before this surface writes to them.
+        auto* const tile =
+            reinterpret_cast<Tile<std::uint8_t>*>(const_cast<std::uint8_t*>(placed.tile.get()));
+        const std::shared_ptr<Tile<std::uint8_t>> shared(placed.tile, tile);
+        _picture.share(shared, placed.index);
+        _background.share(shared, placed.index);
+        _kept[placed.index] = {};
+        noteChanged(picture, _picture.rectOf(placed.index));
+    }
+    return true;
+}
+
 }  // namespace dabcanvas

@@ -11,27 +11,14 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "Maths/Rect.h"
-#include "Surface/TileSet.h"
+#include "Surface/TilePixels.h"
 
 namespace dabcanvas {
-
-inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
-
-// Premultiplied RGBA, rows from the top; transparent when made.
-template <typename Channel>
-struct alignas(64) Tile {
-    std::array<Channel, kTilePixels * 4> values{};
-
-    Channel* at(int x, int y) {
-        return values.data() + (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * 4;
-    }
-    const Channel* at(int x, int y) const { return const_cast<Tile*>(this)->at(x, y); }
-};
 
 template <typename Channel>
 class TileGrid {
@@ -64,7 +51,8 @@ public:
         std::shared_ptr<TileOf>& tile = _tiles[index];
         if (!tile) {
             tile = std::make_shared<TileOf>();
-        } else if (tile.use_count() > 1) {
+        } else if (const auto held = tile; held.use_count() > 2) {
+            // Counting once more orders what follows after what another thread did before it let go.
             tile = std::make_shared<TileOf>(*tile);
         }
         return *tile;
@@ -81,6 +69,8 @@ public:
         }
         std::fill(_tiles.begin(), _tiles.end(), all);
     }
+    const std::shared_ptr<TileOf>& shared(std::size_t index) const { return _tiles[index]; }
+    void share(std::shared_ptr<TileOf> tile, std::size_t index) { _tiles[index] = std::move(tile); }
     // The tile is the other grid's, which is as large, until one of both writes it.
     void share(const TileGrid& other, std::size_t index) { _tiles[index] = other._tiles[index]; }
     bool sharesWith(const TileGrid& other, std::size_t index) const {
