@@ -33,7 +33,9 @@ auto tileAt(Tiles& tiles, std::uint32_t offset) {
 }  // namespace
 
 TileJournal::TileJournal(Settings settings)
-    : _settings(std::move(settings)), _journal(QRandomGenerator::system()->generate64() | 1) {}
+    : _settings(std::move(settings)),
+      _segmentBytes(_settings.segmentBytes),
+      _journal(QRandomGenerator::system()->generate64() | 1) {}
 
 TileJournal::~TileJournal() {
     if (!_settings.checkpoint) {
@@ -222,8 +224,7 @@ bool TileJournal::append(const std::function<bool()>& records, QString* problem)
 bool TileJournal::ready(QString* problem) {
     if (_open != 0) {
         const Segment& segment = _segments.at(_open);
-        const bool full =
-            segment.size > kMostSegment || segment.size - segment.begin > _settings.segmentBytes;
+        const bool full = segment.size > kMostSegment || segment.size - segment.begin > _segmentBytes;
         if (!full && (!_settings.checkpoint || segment.file->isInFolder())) {
             return true;
         }

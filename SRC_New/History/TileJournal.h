@@ -17,6 +17,7 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -58,7 +59,8 @@ public:
     struct Settings {
         std::function<QString()> folder;  // asked whenever a file is made; empty: there is none
         JournalFormat format;
-        std::int64_t segmentBytes = 64 << 20;  // from its checkpoint on, before it is closed; at most 1 GiB
+        // From its checkpoint on, before it is closed, see setSegmentBytes(); at most 1 GiB.
+        std::int64_t segmentBytes = 64 << 20;
         // All that lives, as it was appended last or as it is now: every step, not only new ones. None when it cannot be
         // told now; then the older segments stay. Null: nothing outlives the journal.
         std::function<std::optional<JournalState>()> checkpoint;
@@ -71,6 +73,8 @@ public:
     // Goes on where another ended: its tiles can be read, and new segments follow with the next append. Before anything
     // is appended; false, and nothing changed, for another format.
     bool adopt(const JournalContents& contents);
+
+    void setSegmentBytes(std::int64_t bytes) { _segmentBytes = bytes; }
 
     // ---- Tiles
 
@@ -133,6 +137,7 @@ private:
     std::int64_t now();
 
     const Settings _settings;
+    std::atomic<std::int64_t> _segmentBytes;
     mutable std::mutex _mutex;  // guards the segments; but only who appends changes which one is open
     std::map<std::uint32_t, Segment> _segments;
     std::uint32_t _open = 0;          // the number of the one that grows; 0 while there is none
