@@ -92,7 +92,8 @@ void TempFolder::renumber() {
 QStringList TempFolder::keptIn(const QString& parent) {
     const QString absolute = QDir::cleanPath(QFileInfo(parent).absoluteFilePath());
     std::map<quint64, QString> paths;
-    for (const QString& name : QDir(absolute).entryList({kKeptName + QLatin1Char('*')}, QDir::Dirs)) {
+    for (const QString& name :
+         QDir(absolute).entryList({kKeptName + QLatin1Char('*')}, QDir::Dirs | QDir::NoSymLinks)) {
         const QString path = absolute + QLatin1Char('/') + name;
         if (const quint64 number = numberOfKept(path)) {
             paths.emplace(number, path);

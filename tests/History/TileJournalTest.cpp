@@ -281,6 +281,10 @@ TEST_F(TileJournalTest, ForeignFilesAreNoneOfIt) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(folder + "/tiles-00009995.journal").constData(), 0600), 0);
     ASSERT_TRUE(QDir(folder).mkdir("tiles-00009994.journal"));
     EXPECT_EQ(stateOf(*read(folder)), model.written());
+    {
+        const Limited few(RLIMIT_NOFILE, 8);
+        EXPECT_FALSE(readJournal(folder, TileCheck::whole, &model.problem)) << "a part is not the whole";
+    }
     EXPECT_FALSE(readJournal(made("empty"), TileCheck::whole, &model.problem));
     EXPECT_FALSE(readJournal(_root.filePath("nowhere"), TileCheck::whole, &model.problem));
 }
