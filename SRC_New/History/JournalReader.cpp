@@ -376,8 +376,8 @@ QByteArray JournalContents::readTile(std::uint64_t id, QString* problem) const {
 
 std::optional<JournalContents> readJournal(const QString& folder, TileCheck check, QString* problem) {
     JournalContents contents;
-    if (!openJournal(folder, &contents)) {
-        *problem = QStringLiteral("%1 holds no journal that can be read").arg(folder);
+    problem->clear();
+    if (!openJournal(folder, &contents, problem)) {
         return {};
     }
     Assembly assembly(contents, check);

@@ -18,14 +18,14 @@ struct OpenedSegment {
     std::optional<SegmentHead> head;
 };
 
-std::vector<OpenedSegment> openSegments(const QString& folder) {
+std::vector<OpenedSegment> openSegments(const QString& folder, QString* problem) {
     std::vector<OpenedSegment> opened;
     const QStringList names = QDir(folder).entryList({QStringLiteral("tiles-*.journal")},
                                                      QDir::Files | QDir::NoSymLinks, QDir::NoSort);
     for (const QString& name : names) {
         OpenedSegment one;
         one.segment.number = numberOfSegment(name);
-        one.segment.file = SegmentFile::open(folder + QLatin1Char('/') + name);
+        one.segment.file = SegmentFile::open(folder + QLatin1Char('/') + name, problem);
         if (one.segment.number == 0 || !one.segment.file) {
             continue;
         }
@@ -60,10 +60,13 @@ const SegmentHead* commonHead(const std::vector<OpenedSegment>& opened) {
 
 }  // namespace
 
-bool openJournal(const QString& folder, JournalContents* contents) {
-    std::vector<OpenedSegment> opened = openSegments(folder);
+bool openJournal(const QString& folder, JournalContents* contents, QString* problem) {
+    std::vector<OpenedSegment> opened = openSegments(folder, problem);
     const SegmentHead* head = commonHead(opened);
-    if (head == nullptr) {
+    if (head == nullptr && problem->isEmpty()) {
+        *problem = QStringLiteral("%1 holds no journal that can be read").arg(folder);
+    }
+    if (!problem->isEmpty()) {
         return false;
     }
     contents->journal = head->journal;

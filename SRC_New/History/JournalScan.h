@@ -11,9 +11,9 @@
 
 namespace dabcanvas {
 
-// Fills in format, id and segments, in order. Files of other journals and whatever else is there are left out. False
-// without one segment that can be read.
-bool openJournal(const QString& folder, JournalContents* contents);
+// Fills in format, id and segments, in order. Files of other journals and whatever else is there are left out. False,
+// and why, without one segment that can be read, and where there are too many for now: a part would be taken for all.
+bool openJournal(const QString& folder, JournalContents* contents, QString* problem);
 
 class JournalScan {
 public:

@@ -47,10 +47,13 @@ std::shared_ptr<SegmentFile> SegmentFile::make(const QString& path, QString* pro
     return file;
 }
 
-std::shared_ptr<SegmentFile> SegmentFile::open(const QString& path) {
+std::shared_ptr<SegmentFile> SegmentFile::open(const QString& path, QString* problem) {
     auto file = std::shared_ptr<SegmentFile>(new SegmentFile);
     file->_path = path;
     file->_file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    if (file->_file < 0 && (errno == EMFILE || errno == ENFILE || errno == ENOMEM)) {
+        *problem = QString::fromLocal8Bit(std::strerror(errno));
+    }
     struct stat info {};
     const bool plain = file->_file >= 0 && ::fstat(file->_file, &info) == 0 && S_ISREG(info.st_mode);
     return plain ? file : nullptr;
@@ -136,7 +139,7 @@ std::shared_ptr<SegmentFile> SegmentFile::make(const QString& path, QString* pro
     return file;
 }
 
-std::shared_ptr<SegmentFile> SegmentFile::open(const QString& path) {
+std::shared_ptr<SegmentFile> SegmentFile::open(const QString& path, QString*) {
     auto file = std::shared_ptr<SegmentFile>(new SegmentFile);
     file->_path = path;
     file->_file.setFileName(path);

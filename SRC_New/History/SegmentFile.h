@@ -23,8 +23,8 @@ class SegmentFile {
 public:
     // A new file, for its owner alone; null, and the problem in words, where there is one already.
     static std::shared_ptr<SegmentFile> make(const QString& path, QString* problem);
-    // One that is there, to be read; null unless it is a plain file.
-    static std::shared_ptr<SegmentFile> open(const QString& path);
+    // One that is there, to be read; null unless it is a plain file. With a problem, it is one that cannot be opened now.
+    static std::shared_ptr<SegmentFile> open(const QString& path, QString* problem);
     ~SegmentFile();
     SegmentFile(const SegmentFile&) = delete;
     SegmentFile& operator=(const SegmentFile&) = delete;

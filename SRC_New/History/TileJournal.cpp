@@ -6,7 +6,6 @@
 #include <QRandomGenerator>
 #include <algorithm>
 #include <new>
-#include <numeric>
 #include <utility>
 
 #include "History/JournalReader.h"
@@ -23,13 +22,6 @@ qsizetype bytesOf(const std::vector<TileChange>& changes) {
     return 64 + 12 * static_cast<qsizetype>(changes.size());
 }
 
-template <typename Tiles>
-auto tileAt(Tiles& tiles, std::uint32_t offset) {
-    const auto before = [](const auto& tile, std::uint32_t at) { return tile.offset < at; };
-    const auto tile = std::lower_bound(tiles.begin(), tiles.end(), offset, before);
-    return tile != tiles.end() && tile->offset == offset && tile->bytes != 0 ? tile : tiles.end();
-}
-
 }  // namespace
 
 TileJournal::TileJournal(Settings settings)
@@ -38,7 +30,7 @@ TileJournal::TileJournal(Settings settings)
       _journal(QRandomGenerator::system()->generate64() | 1) {}
 
 TileJournal::~TileJournal() {
-    if (!_settings.checkpoint) {
+    if (!isKept()) {
         removeFiles();
     }
 }
@@ -73,6 +65,12 @@ bool TileJournal::adopt(const JournalContents& contents) {
         }
     }
     return true;
+}
+
+void TileJournal::keep(std::function<std::optional<JournalState>()> checkpoint) {
+    closeSegment();
+    const std::lock_guard lock(_mutex);
+    _settings.checkpoint = std::move(checkpoint);
 }
 
 // ---- Tiles
@@ -115,22 +113,6 @@ QByteArray TileJournal::readTile(const TilePlace& place, std::uint64_t id, QStri
         return {};
     }
     return readTileRecord(*file, _journal, place, id, problem);
-}
-
-void TileJournal::release(const TilePlace& place) {
-    const std::lock_guard lock(_mutex);
-    const auto found = _segments.find(place.segment);
-    if (found == _segments.end()) {
-        return;
-    }
-    Segment& segment = found->second;
-    const auto tile = tileAt(segment.tiles, place.offset);
-    if (tile != segment.tiles.end()) {
-        segment.live -= std::exchange(tile->bytes, 0);
-        if (segment.live == 0) {
-            dropEmpty();
-        }
-    }
 }
 
 // ---- Steps
@@ -225,7 +207,8 @@ bool TileJournal::ready(QString* problem) {
     if (_open != 0) {
         const Segment& segment = _segments.at(_open);
         const bool full = segment.size > kMostSegment || segment.size - segment.begin > _segmentBytes;
-        if (!full && (!_settings.checkpoint || segment.file->isInFolder())) {
+        const bool away = isKept() && (_settings.folder() != _folder || isAway(segment));
+        if (!full && !away) {
             return true;
         }
         closeSegment();
@@ -251,9 +234,9 @@ bool TileJournal::startSegment(QString* problem) {
         Segment& segment = _segments[_open];
         segment.file = std::move(file);
         segment.size = head.size();
-        segment.begin = _settings.checkpoint ? UINT32_MAX : segment.size;  // is not closed in its checkpoint
+        segment.begin = isKept() ? UINT32_MAX : segment.size;  // is not closed in its checkpoint
     }
-    if (_settings.checkpoint) {
+    if (isKept()) {
         runCheckpoint();
     }
     return true;
@@ -264,6 +247,10 @@ std::shared_ptr<SegmentFile> TileJournal::makeFile(QString* problem) {
     if (folder.isEmpty()) {
         *problem = QStringLiteral("there is no folder");
         return nullptr;
+    }
+    {
+        const std::lock_guard lock(_mutex);
+        _folder = folder;
     }
     for (int i = 0; i < kTries; ++i) {
         const QString path = folder + QLatin1Char('/') + segmentName(++_last);
@@ -331,18 +318,6 @@ void TileJournal::closeSegment() {
     dropEmpty();
 }
 
-void TileJournal::dropEmpty() {
-    for (auto segment = _segments.begin(); segment != _segments.end();) {
-        const auto& [number, part] = *segment;
-        if (number != _open && part.live == 0 && (!_settings.checkpoint || number < _checkpointed)) {
-            part.file->remove();
-            segment = _segments.erase(segment);
-        } else {
-            ++segment;
-        }
-    }
-}
-
 bool TileJournal::sync(QString* problem) {
     std::vector<std::pair<std::uint32_t, std::shared_ptr<SegmentFile>>> files;
     {
@@ -366,44 +341,6 @@ bool TileJournal::sync(QString* problem) {
         }
     }
     return all;
-}
-
-// ---- Room
-
-std::int64_t TileJournal::bytesOnDisk() const {
-    const std::lock_guard lock(_mutex);
-    return std::accumulate(_segments.begin(), _segments.end(), std::int64_t{0},
-                           [](std::int64_t sum, const auto& segment) { return sum + segment.second.size; });
-}
-
-std::int64_t TileJournal::liveBytes() const {
-    const std::lock_guard lock(_mutex);
-    return std::accumulate(_segments.begin(), _segments.end(), std::int64_t{0},
-                           [](std::int64_t sum, const auto& segment) { return sum + segment.second.live; });
-}
-
-std::vector<std::uint64_t> TileJournal::tilesInSparseSegments(double share) const {
-    const std::lock_guard lock(_mutex);
-    std::vector<std::uint64_t> tiles;
-    for (const auto& [number, segment] : _segments) {
-        const bool sparse =
-            number != _open && static_cast<double>(segment.live) < share * static_cast<double>(segment.size);
-        if (sparse || (_settings.checkpoint && !segment.file->isInFolder())) {
-            for (const LiveTile& tile : segment.tiles) {
-                if (tile.bytes != 0) {
-                    tiles.push_back(tile.id);
-                }
-            }
-        }
-    }
-    return tiles;
-}
-
-void TileJournal::removeFiles() {
-    const std::lock_guard lock(_mutex);
-    for (const auto& [number, segment] : _segments) {
-        segment.file->remove();
-    }
 }
 
 }  // namespace dabcanvas

@@ -57,7 +57,9 @@ struct JournalState {
 class TileJournal {
 public:
     struct Settings {
-        std::function<QString()> folder;  // asked whenever a file is made; empty: there is none
+        // Asked whenever a file is made, and, in a kept journal, at every append, as all that is needed lies in one folder.
+        // Empty: there is none.
+        std::function<QString()> folder;
         JournalFormat format;
         // From its checkpoint on, before it is closed, see setSegmentBytes(); at most 1 GiB.
         std::int64_t segmentBytes = 64 << 20;
@@ -74,6 +76,8 @@ public:
     // is appended; false, and nothing changed, for another format.
     bool adopt(const JournalContents& contents);
 
+    // From now on it is kept, or, by null, not any more. The next append begins a segment.
+    void keep(std::function<std::optional<JournalState>()> checkpoint);
     void setSegmentBytes(std::int64_t bytes) { _segmentBytes = bytes; }
 
     // ---- Tiles
@@ -100,8 +104,8 @@ public:
 
     std::int64_t bytesOnDisk() const;
     std::int64_t liveBytes() const;  // of tiles that are not released
-    // The tiles of closed segments of which less than this share is live, and, in a kept journal, those whose file somebody
-    // has removed. Who appends them again and releases these places gets the room back.
+    // The tiles of closed segments of which less than this share is live, and, in a kept journal, those whose file is in
+    // another folder, or in none any more. Who appends them again and releases these places gets the room back.
     std::vector<std::uint64_t> tilesInSparseSegments(double share) const;
     // Deletes all files; what was appended can be read until it is released.
     void removeFiles();
@@ -121,6 +125,8 @@ private:
         std::vector<LiveTile> tiles;  // by offset
     };
 
+    bool isKept() const { return static_cast<bool>(_settings.checkpoint); }
+    bool isAway(const Segment& segment) const;
     // Has `records` written by a call of it; in a new segment, again, where the file may not grow any more.
     bool append(const std::function<bool()>& records, QString* problem);
     bool ready(QString* problem);
@@ -135,11 +141,13 @@ private:
     std::uint64_t serialOf(const QString& name) const { return _serials.value(name, 0); }
     bool knows(const QString& base, QString* problem) const;
     std::int64_t now();
+    std::int64_t sumOf(std::int64_t Segment::*bytes) const;
 
-    const Settings _settings;
+    Settings _settings;
     std::atomic<std::int64_t> _segmentBytes;
     mutable std::mutex _mutex;  // guards the segments; but only who appends changes which one is open
     std::map<std::uint32_t, Segment> _segments;
+    QString _folder;                  // where the last file was made
     std::uint32_t _open = 0;          // the number of the one that grows; 0 while there is none
     std::uint32_t _last = 0;          // number given
     std::uint32_t _checkpointed = 0;  // older segments are needed for tiles only

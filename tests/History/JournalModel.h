@@ -114,6 +114,14 @@ public:
         _places.insert(contents->tiles.begin(), contents->tiles.end());
     }
 
+    // From now on in another folder.
+    void keepIn(const QString& folder) {
+        _folder = folder;
+        journal->keep(checkpoint());
+        journal->appendState(allOf(_now), &problem);
+        moveSparse(0);
+    }
+
     void act() {
         const unsigned what = _random() % 10;
         if (what < 5) {
@@ -149,12 +157,11 @@ public:
 private:
     void start() {
         TileJournal::Settings settings{[this] { return _folder; }, kFormat, _segmentBytes, {}};
-        if (_kept) {
-            settings.checkpoint = [this] {
-                return checkpointHolds ? std::optional(allOf(_written)) : std::nullopt;
-            };
-        }
+        settings.checkpoint = _kept ? checkpoint() : nullptr;
         journal = std::make_unique<TileJournal>(std::move(settings));
+    }
+    std::function<std::optional<JournalState>()> checkpoint() {
+        return [this] { return checkpointHolds ? std::optional(allOf(_written)) : std::nullopt; };
     }
     void told(bool done) {
         if (done) {
@@ -273,7 +280,7 @@ private:
 
     std::mt19937 _random;
     const std::int64_t _segmentBytes;
-    const QString _folder;
+    QString _folder;
     const bool _kept;
     HistoryState _now, _written;
     bool _failed = false;

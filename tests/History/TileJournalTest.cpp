@@ -2,10 +2,12 @@
 #include "History/TileJournal.h"
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QTemporaryDir>
 #include <atomic>
+#include <csignal>
 #include <thread>
 
 #include "History/JournalModel.h"
@@ -134,6 +136,52 @@ TEST_F(TileJournalTest, ComesBackAsItWasAfterEveryRecordAndAnyPartOfTheNext) {
     }
 }
 
+TEST_F(TileJournalTest, KilledAtAnyMomentItLosesNothingThatWasAppended) {
+    constexpr int kActs = 150;
+    const auto act = [](const QString& folder, const auto& appended) {
+        JournalModel model(folder, 2000, 11);
+        model.appended = appended;
+        for (int i = 0; i < kActs; ++i) {
+            model.act();
+        }
+    };
+    std::vector<HistoryState> states(1);
+    act(made("alive"), [&](const HistoryState& state) { states.push_back(state); });
+    std::mt19937 random(12);
+    for (int round = 0; round < 40; ++round) {
+        const QString folder = made(qPrintable(QString::number(round)));
+        int ends[2];
+        ASSERT_EQ(::pipe(ends), 0);
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            act(folder, [&](const HistoryState&) {
+                if (::write(ends[1], "x", 1) != 1) {
+                    _exit(1);
+                }
+            });
+            ::pause();
+        }
+        ::close(ends[1]);
+        std::size_t told = 0;
+        char byte = 0;
+        for (const std::size_t most = random() % states.size();
+             told < most && ::read(ends[0], &byte, 1) == 1;) {
+            ++told;
+        }
+        ::kill(child, SIGKILL);
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+        while (::read(ends[0], &byte, 1) == 1) {
+            ++told;
+        }
+        ::close(ends[0]);
+        QString problem;
+        const auto contents = readJournal(folder, TileCheck::whole, &problem);
+        const HistoryState state = contents ? stateOf(*contents) : HistoryState();
+        ASSERT_TRUE(state == states[told] || state == states.at(told + 1)) << told;
+    }
+}
+
 TEST_F(TileJournalTest, DamageLosesWhatItHitsAndShowsNothingElse) {
     JournalModel model(made("flips"), 2500, 3);
     EverySeen seen;
@@ -233,6 +281,10 @@ TEST_F(TileJournalTest, ForeignFilesAreNoneOfIt) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(folder + "/tiles-00009995.journal").constData(), 0600), 0);
     ASSERT_TRUE(QDir(folder).mkdir("tiles-00009994.journal"));
     EXPECT_EQ(stateOf(*read(folder)), model.written());
+    {
+        const Limited few(RLIMIT_NOFILE, 8);
+        EXPECT_FALSE(readJournal(folder, TileCheck::whole, &model.problem)) << "a part is not the whole";
+    }
     EXPECT_FALSE(readJournal(made("empty"), TileCheck::whole, &model.problem));
     EXPECT_FALSE(readJournal(_root.filePath("nowhere"), TileCheck::whole, &model.problem));
 }
@@ -311,6 +363,22 @@ TEST_F(TileJournalTest, WithoutItsFolderItReadsOnAndWritesAnew) {
         }
         QDir(folder).removeRecursively();
     }
+}
+
+TEST_F(TileJournalTest, CanBeKeptLaterAndElsewhere) {
+    const QString spilled = made("spilled"), kept = made("kept");
+    JournalModel model(spilled, 1500, 13, false);
+    for (const QString& folder : {kept, made("moved")}) {
+        for (int i = 0; i < 40; ++i) {
+            model.act();
+        }
+        model.keepIn(folder);
+        EXPECT_EQ(stateOf(*read(folder)), model.written());
+    }
+    EXPECT_TRUE(filesIn(spilled).empty() && filesIn(kept).empty()) << "nothing is needed there";
+    model.journal->keep(nullptr);
+    model.journal.reset();
+    EXPECT_TRUE(filesIn(_root.filePath("moved")).empty());
 }
 
 TEST_F(TileJournalTest, FilesGoWithTheirLastTileAndOnlyOnesOwn) {
