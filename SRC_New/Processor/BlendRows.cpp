@@ -4,6 +4,7 @@
 #include "Processor/BlendRows.h"
 
 #include <algorithm>
+#include <type_traits>
 
 #include "Surface/BlendType.h"
 
@@ -103,9 +104,11 @@ HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> nois
     const Value back = loaded(row.background);
     Value line = hn::Mul(loaded(row.layer), scale);
     Value bareUnless = alphaOf(line);
+    constexpr bool replaces = std::is_same_v<Mode, Replace>;
     if (row.mask != nullptr) {
-        line = hn::Mul(line, hn::Mul(alphaOf(loaded(row.mask)), hn::Set(kFloats, 1.0f / 65535)));
-        bareUnless = alphaOf(line);
+        const Value mask = alphaOf(loaded(row.mask));
+        line = hn::Mul(line, hn::Mul(mask, hn::Set(kFloats, 1.0f / 65535)));
+        bareUnless = replaces ? mask : alphaOf(line);
     }
     Value mixed = Mode::mix(back, line);
     mixed = hn::Min(mixed, alphaOf(mixed));
@@ -113,7 +116,7 @@ HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> nois
                                      hn::Set(kFloats, 1.0f / 256)),
                              hn::Set(kFloats, 1.0f / 512));
     auto rounded = hn::ConvertTo(hn::RebindToSigned<Floats>(), hn::Add(mixed, up));
-    if (Mode::kLeavesBare) {
+    if (Mode::kLeavesBare || (replaces && row.mask != nullptr)) {
         const auto bare = hn::Le(bareUnless, hn::Zero(kFloats));
         rounded = hn::IfThenElse(hn::RebindMask(hn::RebindToSigned<Floats>(), bare),
                                  hn::ConvertTo(hn::RebindToSigned<Floats>(), loaded(row.picture)), rounded);

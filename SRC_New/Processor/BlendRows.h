@@ -31,8 +31,8 @@ constexpr float upBy(std::uint32_t noise) {
     return (static_cast<float>(noise & 255) + 0.5f) / 256;
 }
 
-// Pixels without paint in the layer stay as they are in the modes that leave them (all but normal, replace and reset);
-// a blend type that is none counts as normal.
+// Pixels without paint in the layer stay as they are in the modes that leave them (all but normal, replace and reset),
+// and in replace those that the mask holds nothing of; a blend type that is none counts as normal.
 void blendRow(std::uint32_t blendType, const BlendRow& row);
 
 // What the processor offers, by name.
