@@ -3,6 +3,7 @@
 #include "Processor/DabKernel.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 #undef HWY_TARGET_INCLUDE
@@ -23,7 +24,7 @@ struct Cover {
 };
 
 // A dab's coverage in a tile.
-template <int kLevels, bool kPaper>
+template <typename Level, int kLevels, bool kPaper>
 class Coverage {
 public:
     HWY_INLINE Coverage(const TileDab& dab, const DabGround& ground, const Order& order)
@@ -38,6 +39,11 @@ public:
           _noise(order.steps(static_cast<std::int32_t>(kNoiseRight), static_cast<std::int32_t>(kNoiseDown))),
           _faint(dab.shape->faint) {}
 
+    // Before pixels of the rows y and y + 1.
+    HWY_INLINE void beginRows(int y) {
+        _first.beginRows(y);
+        _second.beginRows(y);
+    }
     // Of pixels from (x, y) on, x and y even, in their order: 0 before `first` and from `end` on.
     HWY_INLINE Cover at(int x, int y, Int first, Int end, bool isRim) const {
         const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
@@ -77,7 +83,7 @@ private:
     const TileDab* _dab;
     const std::uint16_t* _paper;
     const Order& _order;
-    LevelPixels _first, _second;
+    Level _first, _second;
     BoxPixels _box;
     Int _weights, _noise;
     int _faint;
@@ -110,13 +116,14 @@ HWY_INLINE void blend(std::uint16_t* pixels, Word upper, Word lower, const Cover
 }
 
 // Calls each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, two rows at a time.
-template <int kLevels, bool kPaper, typename Each>
+template <typename Level, int kLevels, bool kPaper, typename Each>
 HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const DabGround& ground,
                              Each&& each) {
     const Order order;
-    const Coverage<kLevels, kPaper> coverage(dab, ground, order);
+    Coverage<Level, kLevels, kPaper> coverage(dab, ground, order);
     Int any = hn::Zero(kInts);
     for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += 2) {
+        coverage.beginRows(y);
         const Int first = order.perRow(spans.first[y], spans.first[y + 1]);
         const Int end = order.perRow(spans.end[y], spans.end[y + 1]);
         const int innerFirst = std::max(spans.innerFirst[y], spans.innerFirst[y + 1]);
@@ -133,28 +140,30 @@ HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const Da
     return !hn::AllTrue(kInts, hn::Eq(any, hn::Zero(kInts)));
 }
 
-template <int kLevels, bool kPaper>
+template <typename Level, int kLevels, bool kPaper>
 bool draw(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     std::uint64_t four;
     std::memcpy(&four, dab.shape->colour.data(), sizeof(four));
     const Word colour = hn::Xor(hn::BitCast(kWords, hn::Set(hn::Repartition<std::uint64_t, Ints>(), four)),
                                 hn::Set(kWords, static_cast<std::int16_t>(-32768)));
-    return forEachCover<kLevels, kPaper>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
-        blend(ground.tile + (y * kTileSide + x) * 4, colour, colour, cover);
-    });
+    return forEachCover<Level, kLevels, kPaper>(
+        dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            blend(ground.tile + (y * kTileSide + x) * 4, colour, colour, cover);
+        });
 }
 
 // Each pixel in the colour that stands ready for it.
-template <int kLevels>
+template <typename Level, int kLevels>
 bool drawInColours(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     const auto at = [&](std::ptrdiff_t value) HWY_ATTR {
         const auto colour = hn::LoadU(hn::RebindToUnsigned<Words>(), ground.colours + value);
         return hn::Xor(hn::BitCast(kWords, colour), hn::Set(kWords, static_cast<std::int16_t>(-32768)));
     };
-    return forEachCover<kLevels, false>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
-        const std::ptrdiff_t first = (y * kTileSide + x) * 4;
-        blend(ground.tile + first, at(first), at(first + kTileSide * 4), cover);
-    });
+    return forEachCover<Level, kLevels, false>(
+        dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            const std::ptrdiff_t first = (y * kTileSide + x) * 4;
+            blend(ground.tile + first, at(first), at(first + kTileSide * 4), cover);
+        });
 }
 
 // Each pixel in a colour of its own. That is what takes long: one of these loops does for all dabs, on a paper that lets
@@ -166,25 +175,41 @@ bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGroun
     hn::Store(Order().down, kInts, down);
     DabGround paper = ground;
     paper.paper = ground.paper != nullptr ? ground.paper : smoothPaper();
-    return forEachCover<2, true>(dab, spans, paper, [&](int x, int y, const Cover& cover) HWY_ATTR {
-        hn::Store(cover.coverage, kInts, coverage);
-        for (int i = 0; i < lanes(); ++i) {
-            if (coverage[i] > 0) {
-                blendOne(dab, x + right[i], y + down[i], coverage[i], ground.tile);
+    return forEachCover<LevelPixels, 2, true>(
+        dab, spans, paper, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            hn::Store(cover.coverage, kInts, coverage);
+            for (int i = 0; i < lanes(); ++i) {
+                if (coverage[i] > 0) {
+                    blendOne(dab, x + right[i], y + down[i], coverage[i], ground.tile);
+                }
             }
-        }
-    });
+        });
 }
 
 using Draw = bool (*)(const TileDab&, const RowSpans&, const DabGround&);
 
+template <typename Level>
 Draw drawOf(const DabShape& shape, const DabGround& ground) {
-    static constexpr Draw kDraws[2][2] = {{draw<1, false>, draw<2, false>}, {draw<1, true>, draw<2, true>}};
-    static constexpr Draw kInColours[2] = {drawInColours<1>, drawInColours<2>};
+    static constexpr Draw kDraws[2][2] = {{draw<Level, 1, false>, draw<Level, 2, false>},
+                                          {draw<Level, 1, true>, draw<Level, 2, true>}};
+    static constexpr Draw kInColours[2] = {drawInColours<Level, 1>, drawInColours<Level, 2>};
     const int levels = shape.levelCount - 1;
+    return ground.colours != nullptr ? kInColours[levels] : kDraws[ground.paper != nullptr][levels];
+}
+
+// Rows of pixels lie along rows of texels, and as many as there are lanes not far apart.
+bool isUpright(const DabShape& shape) {
+    const auto is = [](const DabLevel& level) {
+        const std::int64_t farthest = std::int64_t{std::abs(level.rightU)} * (across() - 1);
+        return level.downU == 0 && level.rightV == 0 && (farthest >> 16) + 1 <= kFarthestWord;
+    };
+    return is(shape.levels[0]) && is(shape.levels[1]);
+}
+
+Draw drawOf(const DabShape& shape, const DabGround& ground) {
     return shape.multicolour != nullptr ? drawInMulticolour
-           : ground.colours != nullptr  ? kInColours[levels]
-                                        : kDraws[ground.paper != nullptr][levels];
+           : isUpright(shape)           ? drawOf<UprightPixels>(shape, ground)
+                                        : drawOf<LevelPixels>(shape, ground);
 }
 
 }  // namespace

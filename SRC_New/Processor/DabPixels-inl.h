@@ -8,6 +8,8 @@
 #define DABCANVAS_PROCESSOR_DABPIXELS_INL_H_
 #endif
 
+#include <algorithm>
+
 #include "Processor/DabKernel.h"
 #include "Processor/KernelVectors-inl.h"
 
@@ -15,6 +17,22 @@ HWY_BEFORE_NAMESPACE();
 namespace dabcanvas {
 namespace HWY_NAMESPACE {
 namespace {
+
+HWY_INLINE Int place(std::int32_t start, Int perLane, Int last) {
+    return hn::Min(hn::Max(hn::Add(hn::Set(kInts, start), perLane), hn::Zero(kInts)), last);
+}
+// Fractions of 16 bits, of 127.
+HWY_INLINE Word of127(Int fractions) {
+    return hn::MulFixedPoint15(
+        hn::BitCast(kWords, hn::ShiftRight<1>(hn::BitCast(hn::RebindToUnsigned<Words>(), fractions))),
+        hn::Set(kWords, 127));
+}
+// 127 less the fraction of the upper half, and the fraction, side by side, for both columns of a block.
+HWY_INLINE Int rowWeights(Int fractions) {
+    const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
+    const Int down = hn::Or(hn::And(fractions, high), hn::ShiftRight<16>(fractions));
+    return hn::Xor(hn::Or(hn::ShiftLeft<8>(down), down), hn::Set(kInts, 0x007f007f));
+}
 
 // One level of the tip.
 class LevelPixels {
@@ -29,32 +47,68 @@ public:
           _lastV(hn::Set(kInts, level.lastV())),
           _strides(hn::Set(kInts, 2 | level.stride << 16)) {}
 
+    HWY_INLINE void beginRows(int) {}
     // Sixteen bits and a few more, of which the lower eight are not worth keeping.
     HWY_INLINE Int at(int x, int y) const {
         const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
-        const auto place = [&](std::int32_t start, Int perLane, Int last) HWY_ATTR {
-            return hn::Min(hn::Max(hn::Add(hn::Set(kInts, start), perLane), hn::Zero(kInts)), last);
-        };
         const Int u = place(placeAt(_u, _level->rightU, _level->downU, x, y), _lanesU, _lastU);
         const Int v = place(placeAt(_v, _level->rightV, _level->downV, x, y), _lanesV, _lastV);
         const Int texel = hn::Or(hn::ShiftRight<16>(u), hn::And(v, high));
         const Int block = blocksAt(_level->pairs, pairProducts(texel, _strides));
-        // Both fractions, of 127; then 127 less the fraction, and the fraction, side by side.
-        const Int fractions = hn::OrAnd(hn::ShiftLeft<16>(v), u, hn::Set(kInts, 0xffff));
-        const Word of127 = hn::MulFixedPoint15(
-            hn::BitCast(kWords, hn::ShiftRight<1>(hn::BitCast(hn::RebindToUnsigned<Words>(), fractions))),
-            hn::Set(kWords, 127));
-        const Int both = hn::BitCast(kInts, of127);
+        const Int both =
+            hn::BitCast(kInts, of127(hn::OrAnd(hn::ShiftLeft<16>(v), u, hn::Set(kInts, 0xffff))));
         const Int right = hn::Or(hn::ShiftLeft<16>(both), hn::And(both, hn::Set(kInts, 127)));
-        const Int down = hn::Or(hn::And(both, high), hn::ShiftRight<16>(both));
-        const Int rows = hn::Xor(hn::Or(hn::ShiftLeft<8>(down), down), hn::Set(kInts, 0x007f007f));
-        return pairProducts(bytePairProducts(block, rows), hn::Xor(right, hn::Set(kInts, 127)));
+        return pairProducts(bytePairProducts(block, rowWeights(both)), hn::Xor(right, hn::Set(kInts, 127)));
     }
 
 private:
     const DabLevel* _level;
     std::int32_t _u, _v;
     Int _lanesU, _lanesV, _lastU, _lastV, _strides;
+};
+
+// The same of a dab that stands upright, whose pixels of a row lie along rows of texels.
+class UprightPixels {
+public:
+    HWY_INLINE UprightPixels(const DabLevel& level, std::int32_t u, std::int32_t v, const Order& order)
+        : _level(&level),
+          _u(u),
+          _v(v),
+          _lanesU(order.steps(level.rightU, 0)),
+          _lanesV(order.steps(0, level.downV)),
+          _lastU(hn::Set(kInts, level.lastU())),
+          _lowers(order.down) {}
+
+    // Before pixels of the rows y and y + 1.
+    HWY_INLINE void beginRows(int y) {
+        const DabLevel& level = *_level;
+        const auto rowAt = [&](int row) {
+            const std::int32_t v = std::clamp(placeAt(_v, 0, level.downV, 0, row), 0, level.lastV());
+            return level.pairs + static_cast<std::ptrdiff_t>(v >> 16) * level.stride;
+        };
+        _upper = rowAt(y);
+        _lower = rowAt(y + 1);
+        const Int v = place(placeAt(_v, 0, level.downV, 0, y), _lanesV, hn::Set(kInts, level.lastV()));
+        _rows = rowWeights(hn::BitCast(kInts, of127(hn::ShiftLeft<16>(v))));
+    }
+    HWY_INLINE Int at(int x, int) const {
+        const std::int32_t start = placeAt(_u, _level->rightU, 0, x, 0);
+        const Int u = place(start, _lanesU, _lastU);
+        const std::int32_t leftmost =
+            _level->rightU < 0 ? placeAt(_u, _level->rightU, 0, x + across() - 1, 0) : start;
+        const int first = std::clamp(leftmost, 0, _level->lastU()) >> 16;
+        const Int block = blocksOf(_upper + 2 * first, _lower + 2 * first,
+                                   hn::Sub(hn::ShiftRight<16>(u), hn::Set(kInts, first)), _lowers);
+        const Int part = hn::BitCast(kInts, of127(hn::And(u, hn::Set(kInts, 0xffff))));
+        const Int right = hn::Or(hn::ShiftLeft<16>(part), part);
+        return pairProducts(bytePairProducts(block, _rows), hn::Xor(right, hn::Set(kInts, 127)));
+    }
+
+private:
+    const DabLevel* _level;
+    std::int32_t _u, _v;
+    Int _lanesU, _lanesV, _lastU, _lowers, _rows;
+    const std::uint8_t *_upper, *_lower;
 };
 
 // What the dab's box covers of each pixel, 0..32767; as DabMap reckons.

@@ -114,6 +114,23 @@ HWY_INLINE Int blocksAt(const std::uint8_t* bytes, Int offsets) {
 #endif
 }
 
+// Blocks of 32 bits, each so many words on in one of two rows: lanes as Order has them, `lowers` 1 for the lower row. Up to
+// kFarthestWord words on.
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
+constexpr int kFarthestWord = 30;
+HWY_INLINE Int blocksOf(const std::uint8_t* upper, const std::uint8_t* lower, Int words, Int lowers) {
+    const Int first = hn::Or(words, hn::ShiftLeft<5>(lowers));
+    const Int both = hn::Add(hn::Or(first, hn::ShiftLeft<16>(first)), hn::Set(kInts, 0x10000));
+    return Int{_mm512_permutex2var_epi16(_mm512_loadu_si512(upper), both.raw, _mm512_loadu_si512(lower))};
+}
+#else
+constexpr int kFarthestWord = 1 << 20;
+HWY_INLINE Int blocksOf(const std::uint8_t* upper, const std::uint8_t* lower, Int words, Int lowers) {
+    return blocksAt(upper, hn::Add(hn::ShiftLeft<1>(words),
+                                   hn::Mul(lowers, hn::Set(kInts, static_cast<int>(lower - upper)))));
+}
+#endif
+
 // To the nearest integer, of those of 16 bits.
 HWY_INLINE Int nearest(Float value) {
     constexpr float kLastBitIsOne = 3 << 22;

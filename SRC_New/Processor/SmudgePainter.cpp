@@ -43,6 +43,13 @@ struct TexelRange {
     }
 };
 
+constexpr int kSpareTexels = static_cast<int>(kSpareValues) / 4;
+
+bool isInOneTile(const Rect& rect) {
+    return !rect.isEmpty() && rect.x / kTileSide == (rect.right() - 1) / kTileSide &&
+           rect.y / kTileSide == (rect.bottom() - 1) / kTileSide;
+}
+
 }  // namespace
 
 // What a dab's pixels turn into where it covers them wholly.
@@ -76,7 +83,8 @@ public:
         const TexelRange down(placeY(texels.y), placeY(texels.bottom() - 1), layer.height);
         const Rect picked = Rect::between(across.first, down.first, across.end, down.end);
         _painter.provide(picked);
-        take(_painter._layer, picked, _painter._picked);
+        isInOneTile(texels) ? take(_painter._layer, picked, _painter._picked)
+                            : copy(_painter._layer, picked, _painter._picked);
     }
 
     const std::uint16_t* of(const Rect& part) override {
@@ -84,7 +92,7 @@ public:
         std::uint16_t* const to = colours.data() + (part.y % kTileSide * kTileSide + part.x % kTileSide) * 4;
         const Rect& from = _painter._picked.rect;
         const RgbType& color = _smudge.dab.color;
-        pickUp({.from = _painter._picked.view(),
+        pickUp({.from = _painter._picked.view,
                 .across = stepsFrom(placeX(part.x) - from.x, _stretch),
                 .down = stepsFrom(placeY(part.y) - from.y, _stretch),
                 .size = {part.width, part.height},
@@ -175,13 +183,26 @@ void SmudgePainter::takePicture(int y, const Rect& pixels, std::uint8_t* row) co
 }
 
 void SmudgePainter::take(const Layer& from, const Rect& rect, Texels& to) {
+    const int x = rect.x % kTileSide, y = rect.y % kTileSide;
+    // Kernels read a little beyond a row.
+    const bool hasSpare = y + rect.height < kTileSide || x + rect.width <= kTileSide - kSpareTexels;
+    if (!isInOneTile(rect) || !hasSpare) {
+        return copy(from, rect, to);
+    }
+    const auto* values = from.tile(from.indexAt(rect.x, rect.y))->at(x, y);
     to.rect = rect;
-    to.values.resize(static_cast<std::size_t>(rect.area()) * 4 + kSpareValues);
+    to.view = {reinterpret_cast<const std::int16_t*>(values), {rect.width, rect.height}, kTileSide * 4};
+}
+
+void SmudgePainter::copy(const Layer& from, const Rect& rect, Texels& to) {
+    to.rect = rect;
+    to.copied.resize(static_cast<std::size_t>(rect.area()) * 4 + kSpareValues);
+    to.view = {to.copied.data(), {rect.width, rect.height}, std::ptrdiff_t{4} * rect.width};
     from.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         const auto* tile = from.tile(index);
         for (int y = part.y; tile != nullptr && y < part.bottom(); ++y) {
             const std::ptrdiff_t first = std::ptrdiff_t{y - rect.y} * rect.width + part.x - rect.x;
-            std::memcpy(to.values.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
+            std::memcpy(to.copied.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
                         static_cast<std::size_t>(part.width) * 8);
         }
     });
@@ -243,8 +264,8 @@ void SmudgePainter::composite(Tile<std::uint8_t>& picture, const Tile<std::uint8
                 .background = (background != nullptr ? background : &kTransparent)->values.data(),
                 .exchanged = exchanged.values.data(),
                 .part = {part.x - left, part.y - top, part.width, part.height},
-                .now = _picked.view(),
-                .then = _old.view(),
+                .now = _picked.view,
+                .then = _old.view,
                 .across = stepsFrom(place(left, _scaleX) - texels.x, _scaleX),
                 .down = stepsFrom(place(top, _scaleY) - texels.y, _scaleY),
                 .opacity = wordOf(opacity),

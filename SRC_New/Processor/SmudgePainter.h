@@ -45,18 +45,18 @@ private:
     using Layer = TileGrid<std::uint16_t>;
     struct Mixture;
     class Exchange;
-    // Texels of a part of a layer, side by side.
+    // Texels of a part of a layer: in its tile, where that can be, else copied.
     struct Texels {
         Rect rect;
-        std::vector<std::int16_t> values;
-
-        SmudgeTexels view() const { return {values.data(), {rect.width, rect.height}}; }
+        SmudgeTexels view;
+        std::vector<std::int16_t> copied;
     };
 
     void provide(const Rect& texels);
     void showTile(std::size_t index);
     void takePicture(int y, const Rect& pixels, std::uint8_t* row) const;
     static void take(const Layer& from, const Rect& rect, Texels& to);
+    static void copy(const Layer& from, const Rect& rect, Texels& to);
     Dab inLayer(const Dab& dab) const;
 
     Size _size;

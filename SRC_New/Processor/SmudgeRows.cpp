@@ -175,8 +175,7 @@ public:
         return _row - 4 * first;
     }
     HWY_INLINE const std::int16_t* row(int y) const {
-        return _texels->values +
-               std::ptrdiff_t{4} * _texels->size.width * std::clamp(y, 0, _texels->size.height - 1);
+        return _texels->values + _texels->stride * std::clamp(y, 0, _texels->size.height - 1);
     }
 
 private:
@@ -271,62 +270,76 @@ HWY_INLINE UnsignedWord rounded(const std::uint8_t* background, Word change, Uns
     return hn::ShiftRight<8>(hn::Min(sum, alphaOf(sum)));
 }
 
-// One row of a part.
-class SmudgedRow {
+// The rows of a part, one after another.
+class SmudgedRows {
 public:
-    HWY_INLINE SmudgedRow(const PutSmudges& part, int y)
+    HWY_INLINE explicit SmudgedRows(const PutSmudges& part)
         : _part(&part),
-          _exchanged(part.exchanged + y * kTileSide * 4),
-          _first(part.part.x),
-          _end(part.part.right()) {
-        // The pixels between those at both ends that no dab exchanged.
-        while (_first < _end && _exchanged[4 * _first + 3] == 0) {
-            ++_first;
-        }
-        while (_first < _end && _exchanged[4 * _end - 1] == 0) {
-            --_end;
+          _around(part.across, part.part.x, part.part.right(), part.now.size.width),
+          _nows(part.now),
+          _thens(part.then),
+          _opacity(hn::Set(kWords, part.opacity)) {
+        const auto pixel = [](int i) HWY_ATTR { return hn::Set(kWords, static_cast<std::int16_t>(4 * i)); };
+        for (int x = part.part.x / lanes() * lanes(); x < part.part.right(); x += lanes()) {
+            const Word value = hn::Add(hn::Iota(kWords, 0), pixel(x));
+            const auto isBefore = hn::Lt(value, pixel(part.part.x));
+            const auto isIn = hn::AndNot(isBefore, hn::Lt(value, pixel(part.part.right())));
+            _isIn[x / lanes()] = hn::BitCast(kUnsigned, hn::VecFromMask(kWords, isIn));
         }
     }
 
-    HWY_INLINE void put(int y, const Columns& around, MixedRows& nows, MixedRows& thens) const {
+    HWY_INLINE void put(int y) {
+        // The vectors between those at both ends of which no dab exchanged a pixel.
         const PutSmudges& part = *_part;
-        if (_first >= _end) {
+        int first = part.part.x / lanes() * lanes(), end = part.part.right();
+        while (first < end && isBare(first, y)) {
+            first += lanes();
+        }
+        while (first < end && isBare((end - 1) / lanes() * lanes(), y)) {
+            end = (end - 1) / lanes() * lanes();
+        }
+        if (first >= end) {
             return;
         }
         const int texels = part.now.size.width;
-        const int first = std::clamp(wholeOf(part.across.at(_first / lanes() * lanes())), 0, texels - 1);
-        const int end = std::clamp(wholeOf(part.across.at(_end - 1)) + 2, first + 1, texels);
+        const int low = std::clamp(wholeOf(part.across.at(first)), 0, texels - 1);
+        const int high = std::clamp(wholeOf(part.across.at(end - 1)) + 2, low + 1, texels);
         const std::int64_t down = part.down.at(y);
-        const std::int16_t* const now = nows.at(down, first, end);
-        const std::int16_t* const then = thens.at(down, first, end);
-        const Word opacity = hn::Set(kWords, part.opacity);
-        for (int x = _first / lanes() * lanes(); x < _end; x += lanes()) {
-            const std::ptrdiff_t at = (y * kTileSide + x) * 4;
-            const UnsignedWord exchanged = alphaOf(hn::LoadU(kUnsigned, _exchanged + 4 * x));
-            const auto isPut =
-                hn::AndNot(hn::Eq(exchanged, hn::Zero(kUnsigned)), hn::RebindMask(kUnsigned, isIn(x)));
-            if (hn::AllFalse(kUnsigned, isPut)) {
-                continue;
-            }
-            const Word share = hn::BitCast(kWords, hn::ShiftRight<1>(exchanged));
-            const Word came = brought(around.from(x).in(now), around.from(x).in(then), share);
-            Word change = hn::Sub(came, hn::MulFixedPoint15(widened(part.background + at), share));
-            if (part.opacity != kSmudgeFull) {
-                change = hn::MulFixedPoint15(change, opacity);
-            }
-            const UnsignedWord put = rounded(part.background + at, change, noise(x, y));
-            const UnsignedWord was = hn::PromoteTo(kUnsigned, hn::LoadU(kBytes, part.picture + at));
-            const auto result = hn::BitCast(kWords, hn::IfThenElse(isPut, put, was));
-            hn::StoreU(hn::DemoteTo(kBytes, result), kBytes, part.picture + at);
+        const std::int16_t* const now = _nows.at(down, low, high);
+        const std::int16_t* const then = _thens.at(down, low, high);
+        for (int x = first; x < end; x += lanes()) {
+            putVector(x, y, now, then);
         }
     }
 
 private:
-    HWY_INLINE hn::Mask<Words> isIn(int x) const {
-        const auto pixel = [](int i) { return hn::Set(kWords, static_cast<std::int16_t>(4 * i)); };
-        const Word value = hn::Add(hn::Iota(kWords, 0), pixel(x));
-        return hn::AndNot(hn::Lt(value, pixel(_first)), hn::Lt(value, pixel(_end)));
+    // In all channels; 0 of pixels that are not of the part.
+    HWY_INLINE UnsignedWord exchanged(int x, int y) const {
+        const auto pixels = hn::LoadU(kUnsigned, _part->exchanged + (y * kTileSide + x) * 4);
+        return alphaOf(hn::And(pixels, _isIn[x / lanes()]));
     }
+    HWY_INLINE bool isBare(int x, int y) const {
+        return hn::AllTrue(kUnsigned, hn::Eq(exchanged(x, y), hn::Zero(kUnsigned)));
+    }
+
+    HWY_INLINE void putVector(int x, int y, const std::int16_t* now, const std::int16_t* then) const {
+        const std::ptrdiff_t at = (y * kTileSide + x) * 4;
+        const std::uint8_t* const background = _part->background + at;
+        const Neighbours& around = _around.from(x);
+        const UnsignedWord alpha = exchanged(x, y);
+        const Word share = hn::BitCast(kWords, hn::ShiftRight<1>(alpha));
+        const Word came = brought(around.in(now), around.in(then), share);
+        Word change = hn::Sub(came, hn::MulFixedPoint15(widened(background), share));
+        if (_part->opacity != kSmudgeFull) {
+            change = hn::MulFixedPoint15(change, _opacity);
+        }
+        std::uint8_t* const picture = _part->picture + at;
+        const UnsignedWord was = hn::PromoteTo(kUnsigned, hn::LoadU(kBytes, picture));
+        const UnsignedWord result =
+            hn::IfThenElse(hn::Eq(alpha, hn::Zero(kUnsigned)), was, rounded(background, change, noise(x, y)));
+        hn::StoreU(hn::DemoteTo(kBytes, hn::BitCast(kWords, result)), kBytes, picture);
+    }
+
     // Less at both ends, so that what is out by a unit stays what it is.
     HWY_INLINE UnsignedWord noise(int x, int y) const {
         const std::uint32_t start = _part->noise + static_cast<std::uint32_t>(x) * kNoiseAlong +
@@ -339,17 +352,18 @@ private:
     }
 
     const PutSmudges* _part;
-    const std::uint16_t* _exchanged;
-    int _first, _end;
+    Columns _around;
+    MixedRows _nows, _thens;
+    Word _opacity;
+    UnsignedWord _isIn[kTileSide / 2];
 };
 
 }  // namespace
 
 void Put(const PutSmudges& part) {
-    const Columns around(part.across, part.part.x, part.part.right(), part.now.size.width);
-    MixedRows nows(part.now), thens(part.then);
+    SmudgedRows rows(part);
     for (int y = part.part.y; y < part.part.bottom(); ++y) {
-        SmudgedRow(part, y).put(y, around, nows, thens);
+        rows.put(y);
     }
 }
 

@@ -26,10 +26,11 @@ struct Steps {
     std::int64_t at(int i) const { return start + step * i; }
 };
 
-// Part of a layer, rows without gaps. Beyond its edges it goes on as it is there.
+// Part of a layer. Beyond its edges it goes on as it is there.
 struct SmudgeTexels {
     const std::int16_t* values;
     Size size;
+    std::ptrdiff_t stride;  // values
 };
 
 // Fills a row of a layer with what the two rows of the picture show between which it lies.
