@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "Maths/Rect.h"
+#include "Processor/TileMemory.h"
 #include "Surface/TileSet.h"
 
 namespace dabcanvas {
@@ -63,9 +64,9 @@ public:
     TileOf& writable(std::size_t index) {
         std::shared_ptr<TileOf>& tile = _tiles[index];
         if (!tile) {
-            tile = std::make_shared<TileOf>();
+            tile = made();
         } else if (tile.use_count() > 1) {
-            tile = std::make_shared<TileOf>(*tile);
+            tile = made(*tile);
         }
         return *tile;
     }
@@ -74,7 +75,7 @@ public:
     void fill(const Pixel& pixel) {
         std::shared_ptr<TileOf> all;
         if (pixel != Pixel{}) {
-            all = std::make_shared<TileOf>();
+            all = made();
             for (std::size_t i = 0; i < kTilePixels; ++i) {
                 std::copy(pixel.begin(), pixel.end(), all->values.data() + i * 4);
             }
@@ -99,6 +100,11 @@ public:
     }
 
 private:
+    template <typename... From>
+    static std::shared_ptr<TileOf> made(const From&... from) {
+        return std::allocate_shared<TileOf>(TileAllocator<TileOf>(), from...);
+    }
+
     Size _size;
     int _columns;
     std::vector<std::shared_ptr<TileOf>> _tiles;
