@@ -125,12 +125,12 @@ Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const 
         _picture.forEachIn(own.holds, [&](std::size_t index, const Rect& part) {
             if (const auto* from = own.grid.tile(index)) {
                 auto& tile = _picture.writable(index);
-                for (int y = part.y; y < part.bottom(); ++y) {
-                    std::uint8_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
-                    blendRow(ESBlendTypeNormal,
-                             {row, row, from->at(part.x % kTileSide, y % kTileSide), nullptr, part.width, 1,
-                              noiseAt(part.x, y, _kept[index].times)});
-                }
+                const int x = part.x % kTileSide, y = part.y % kTileSide;
+                std::uint8_t* const rows = tile.at(x, y);
+                blendRows(ESBlendTypeNormal,
+                          {rows, rows, from->at(x, y), nullptr, part.width, 1,
+                           noiseAt(part.x, part.y, _kept[index].times)},
+                          part.height);
                 ++_kept[index].times;
             }
         });
@@ -203,17 +203,16 @@ void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const 
     auto& picture = _picture.writable(index);
     const int x = part.x % kTileSide;
     const PixelView background = viewOf(_background.tile(index), part);
-    for (int y = part.y; y < part.bottom(); ++y) {
-        const int inTile = y % kTileSide;
-        blendRow(style.blendType,
-                 {.picture = picture.at(x, inTile),
-                  .background = background.row(y - part.y),
-                  .layer = (line != nullptr ? line : &kEmpty)->at(x, inTile),
-                  .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, inTile) : nullptr,
-                  .count = part.width,
-                  .opacity = style.opacity,
-                  .noise = noiseAt(part.x, y, _kept[index].times)});
-    }
+    const int y = part.y % kTileSide;
+    blendRows(style.blendType,
+              {.picture = picture.at(x, y),
+               .background = background.bytes,
+               .layer = (line != nullptr ? line : &kEmpty)->at(x, y),
+               .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, y) : nullptr,
+               .count = part.width,
+               .opacity = style.opacity,
+               .noise = noiseAt(part.x, part.y, _kept[index].times)},
+              part.height);
 }
 
 void ProcessorSurface::composite(PictureId picture, std::span<const Rect> rects,
