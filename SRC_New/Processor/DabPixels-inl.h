@@ -8,8 +8,6 @@
 #define DABCANVAS_PROCESSOR_DABPIXELS_INL_H_
 #endif
 
-#include <algorithm>
-
 #include "Processor/DabKernel.h"
 #include "Processor/KernelVectors-inl.h"
 
@@ -47,7 +45,6 @@ public:
           _lastV(hn::Set(kInts, level.lastV())),
           _strides(hn::Set(kInts, 2 | level.stride << 16)) {}
 
-    HWY_INLINE void beginRows(int) {}
     // Sixteen bits and a few more, of which the lower eight are not worth keeping.
     HWY_INLINE Int at(int x, int y) const {
         const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
@@ -67,50 +64,6 @@ private:
     Int _lanesU, _lanesV, _lastU, _lastV, _strides;
 };
 
-// The same of a dab that stands upright, whose pixels of a row lie along rows of texels.
-class UprightPixels {
-public:
-    HWY_INLINE UprightPixels(const DabLevel& level, std::int32_t u, std::int32_t v, const Order& order)
-        : _level(&level),
-          _u(u),
-          _v(v),
-          _lanesU(order.steps(level.rightU, 0)),
-          _lanesV(order.steps(0, level.downV)),
-          _lastU(hn::Set(kInts, level.lastU())),
-          _lowers(order.down) {}
-
-    // Before pixels of the rows y and y + 1.
-    HWY_INLINE void beginRows(int y) {
-        const DabLevel& level = *_level;
-        const auto rowAt = [&](int row) {
-            const std::int32_t v = std::clamp(placeAt(_v, 0, level.downV, 0, row), 0, level.lastV());
-            return level.pairs + static_cast<std::ptrdiff_t>(v >> 16) * level.stride;
-        };
-        _upper = rowAt(y);
-        _lower = rowAt(y + 1);
-        const Int v = place(placeAt(_v, 0, level.downV, 0, y), _lanesV, hn::Set(kInts, level.lastV()));
-        _rows = rowWeights(hn::BitCast(kInts, of127(hn::ShiftLeft<16>(v))));
-    }
-    HWY_INLINE Int at(int x, int) const {
-        const std::int32_t start = placeAt(_u, _level->rightU, 0, x, 0);
-        const Int u = place(start, _lanesU, _lastU);
-        const std::int32_t leftmost =
-            _level->rightU < 0 ? placeAt(_u, _level->rightU, 0, x + across() - 1, 0) : start;
-        const int first = std::clamp(leftmost, 0, _level->lastU()) >> 16;
-        const Int block = blocksOf(_upper + 2 * first, _lower + 2 * first,
-                                   hn::Sub(hn::ShiftRight<16>(u), hn::Set(kInts, first)), _lowers);
-        const Int part = hn::BitCast(kInts, of127(hn::And(u, hn::Set(kInts, 0xffff))));
-        const Int right = hn::Or(hn::ShiftLeft<16>(part), part);
-        return pairProducts(bytePairProducts(block, _rows), hn::Xor(right, hn::Set(kInts, 127)));
-    }
-
-private:
-    const DabLevel* _level;
-    std::int32_t _u, _v;
-    Int _lanesU, _lanesV, _lastU, _lowers, _rows;
-    const std::uint8_t *_upper, *_lower;
-};
-
 // What the dab's box covers of each pixel, 0..32767; as DabMap reckons.
 class BoxPixels {
 public:
@@ -127,8 +80,19 @@ public:
         const Float across = place(_dab->across, box.acrossX, box.acrossY);
         return nearest(hn::Mul(covered(along, box.halfWidth), covered(across, box.halfHeight)));
     }
+    // Both factors of that by themselves, of a dab that stands upright.
+    HWY_INLINE Float alongAt(Int x) const {
+        return covered(upright(x, _dab->along, _box->alongX), _box->halfWidth);
+    }
+    HWY_INLINE Float acrossAt(Int y) const {
+        return covered(upright(y, _dab->across, _box->acrossY), _box->halfHeight);
+    }
 
 private:
+    static HWY_INLINE Float upright(Int pixel, float start, float step) {
+        const Float steps = hn::Mul(hn::ConvertTo(kFloats, pixel), hn::Set(kFloats, step));
+        return hn::Abs(hn::Add(hn::Set(kFloats, start), steps));
+    }
     // Times the root of 32767.
     HWY_INLINE Float covered(Float place, float half) const {
         const Float edge = hn::Set(kFloats, half);
