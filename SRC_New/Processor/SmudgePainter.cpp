@@ -43,11 +43,18 @@ struct TexelRange {
     }
 };
 
-constexpr int kSpareTexels = static_cast<int>(kSpareValues) / 4;
+// Texels of the layer that are filled at once, each way: 16 blocks a tile.
+constexpr int kBlock = 16;
 
 bool isInOneTile(const Rect& rect) {
     return !rect.isEmpty() && rect.x / kTileSide == (rect.right() - 1) / kTileSide &&
            rect.y / kTileSide == (rect.bottom() - 1) / kTileSide;
+}
+// And can be read there, with a little beyond each row.
+bool isReadInTile(const Rect& rect) {
+    constexpr int kSpare = static_cast<int>(kSpareValues) / 4;
+    return isInOneTile(rect) &&
+           (rect.bottom() % kTileSide != 0 || rect.x % kTileSide + rect.width <= kTileSide - kSpare);
 }
 
 }  // namespace
@@ -119,6 +126,7 @@ SmudgePainter::SmudgePainter(const Size& picture)
       _stale(Rect::of(picture)),
       _layer(halfOf(picture)),
       _before(_layer.size()),
+      _blocks(_layer.count()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
       _scaleY(static_cast<double>(_layer.size().height) / picture.height) {}
 
@@ -128,6 +136,7 @@ void SmudgePainter::show(const TileGrid<std::uint8_t>& picture) {
     _layer.forEachIn(_provided, [&](std::size_t index, const Rect&) {
         _layer.drop(index);
         _before.drop(index);
+        _blocks[index] = 0;
     });
     _provided = {};
 }
@@ -141,55 +150,67 @@ void SmudgePainter::forget() {
 // ---- The layer
 
 void SmudgePainter::provide(const Rect& texels) {
-    _layer.forEachIn(texels, [&](std::size_t index, const Rect&) {
-        if (_layer.tile(index) == nullptr) {
-            showTile(index);
-            _provided = _provided.united(_layer.rectOf(index));
+    _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
+        const Rect tile = _layer.rectOf(index);
+        for (int y = (part.y - tile.y) / kBlock; y * kBlock < part.bottom() - tile.y; ++y) {
+            for (int x = (part.x - tile.x) / kBlock; x * kBlock < part.right() - tile.x; ++x) {
+                const auto bit = static_cast<std::uint16_t>(1 << (y * (kTileSide / kBlock) + x));
+                if ((_blocks[index] & bit) == 0) {
+                    showBlock(index,
+                              tile.intersected({tile.x + x * kBlock, tile.y + y * kBlock, kBlock, kBlock}));
+                    _blocks[index] |= bit;
+                }
+            }
         }
     });
 }
 
-void SmudgePainter::showTile(std::size_t index) {
-    const Rect rect = _layer.rectOf(index);
+void SmudgePainter::showBlock(std::size_t index, const Rect& texels) {
     const double stepX = 1 / _scaleX, stepY = 1 / _scaleY;
     const auto place = [](int texel, double step) { return (texel + 0.5) * step - 0.5; };
-    const TexelRange across(place(rect.x, stepX), place(rect.right() - 1, stepX), _size.width);
-    std::array<std::uint8_t, kMostReduced * 4 + kSpareValues> upper{}, lower{};
-    auto& tile = _before.writable(index);
-    for (int y = rect.y; y < rect.bottom(); ++y) {
-        const TexelRange down(place(y, stepY), place(y, stepY), _size.height);
-        takePicture(down.first, {across.first, 0, across.end - across.first, 1}, upper.data());
-        takePicture(down.end - 1, {across.first, 0, across.end - across.first, 1}, lower.data());
-        reduceRow({.upper = upper.data(),
-                   .lower = lower.data(),
-                   .pixels = across.end - across.first,
-                   .at = stepsFrom(place(y, stepY) - down.first, 0).start,
-                   .across = stepsFrom(place(rect.x, stepX) - across.first, stepX),
-                   .count = rect.width,
-                   .to = reinterpret_cast<std::int16_t*>(tile.at(0, y % kTileSide))});
-    }
-    _layer.share(_before, index);
+    const TexelRange across(place(texels.x, stepX), place(texels.right() - 1, stepX), _size.width);
+    const TexelRange down(place(texels.y, stepY), place(texels.bottom() - 1, stepY), _size.height);
+    const Rect pixels = Rect::between(across.first, down.first, across.end, down.end);
+    _provided = _provided.united(texels);
+    const auto rows = [&](Layer& layer) {
+        return reinterpret_cast<std::int16_t*>(
+            layer.writable(index).at(texels.x % kTileSide, texels.y % kTileSide));
+    };
+    reduce({.from = takePicture(pixels),
+            .across = stepsFrom(place(texels.x, stepX) - pixels.x, stepX),
+            .down = stepsFrom(place(texels.y, stepY) - pixels.y, stepY),
+            .size = {texels.width, texels.height},
+            .to = rows(_layer),
+            .toToo = rows(_before)});
 }
 
-// The pixels of a row, wherever their tiles lie.
-void SmudgePainter::takePicture(int y, const Rect& pixels, std::uint8_t* row) const {
-    _picture.forEachIn({pixels.x, y, pixels.width, 1}, [&](std::size_t index, const Rect& part) {
+// In its tile, where that can be, else copied.
+SmudgePart<std::uint8_t> SmudgePainter::takePicture(const Rect& pixels) {
+    static const Tile<std::uint8_t> kTransparent;
+    const auto tileOf = [this](std::size_t index) {
         const auto* tile = _picture.tile(index);
-        std::uint8_t* const to = row + std::ptrdiff_t{4} * (part.x - pixels.x);
-        const auto bytes = static_cast<std::size_t>(part.width) * 4;
-        tile != nullptr ? std::memcpy(to, tile->at(part.x % kTileSide, y % kTileSide), bytes)
-                        : std::memset(to, 0, bytes);
+        return tile != nullptr ? tile : &kTransparent;
+    };
+    const Size size{pixels.width, pixels.height};
+    if (isReadInTile(pixels)) {
+        const auto* tile = tileOf(_picture.indexAt(pixels.x, pixels.y));
+        return {tile->at(pixels.x % kTileSide, pixels.y % kTileSide), size, kTileSide * 4};
+    }
+    _pixels.resize(static_cast<std::size_t>(pixels.area()) * 4 + kSpareValues);
+    const auto copy = MutablePixelView::topRowFirst(_pixels.data(), size);
+    _picture.forEachIn(pixels, [&](std::size_t index, const Rect& part) {
+        const Rect at{part.x - pixels.x, part.y - pixels.y, part.width, part.height};
+        const auto* from = tileOf(index)->at(part.x % kTileSide, part.y % kTileSide);
+        copyRows({from, {part.width, part.height}, kTileSide * 4}, copy.part(at));
     });
+    return {_pixels.data(), size, copy.stride};
 }
 
 void SmudgePainter::take(const Layer& from, const Rect& rect, Texels& to) {
-    const int x = rect.x % kTileSide, y = rect.y % kTileSide;
-    // Kernels read a little beyond a row.
-    const bool hasSpare = y + rect.height < kTileSide || x + rect.width <= kTileSide - kSpareTexels;
-    if (!isInOneTile(rect) || !hasSpare) {
+    if (!isReadInTile(rect)) {
         return copy(from, rect, to);
     }
-    const auto* values = from.tile(from.indexAt(rect.x, rect.y))->at(x, y);
+    const auto* values = from.tile(from.indexAt(rect.x, rect.y))->at(rect.x % kTileSide, rect.y % kTileSide);
     to.rect = rect;
     to.view = {reinterpret_cast<const std::int16_t*>(values), {rect.width, rect.height}, kTileSide * 4};
 }

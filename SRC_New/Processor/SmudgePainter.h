@@ -2,8 +2,8 @@
 // Smudging: a layer shows the picture at half its resolution, dabs move colour about in it, and what they brought is put
 // back onto the picture where they lay.
 //
-// Layer    tiles that are made when a dab first needs them, from the picture as it was when the stroke began; 15 bits a
-//          channel, see SmudgeRows.h.
+// Layer    tiles that are made when a dab first needs them, block by block, from the picture as it was when the stroke
+//          began; 15 bits a channel, see SmudgeRows.h.
 // Errors   std::bad_alloc; some of the dabs have drawn then.
 #pragma once
 
@@ -53,20 +53,22 @@ private:
     };
 
     void provide(const Rect& texels);
-    void showTile(std::size_t index);
-    void takePicture(int y, const Rect& pixels, std::uint8_t* row) const;
+    void showBlock(std::size_t index, const Rect& texels);
+    SmudgePart<std::uint8_t> takePicture(const Rect& pixels);
     static void take(const Layer& from, const Rect& rect, Texels& to);
     static void copy(const Layer& from, const Rect& rect, Texels& to);
     Dab inLayer(const Dab& dab) const;
 
     Size _size;
-    TileGrid<std::uint8_t> _picture;  // as it was when the stroke began
-    Rect _stale;                      // where it differs from what is shown next
-    Layer _layer, _before;            // now and then; tiles exist where the layer was needed
-    Rect _provided;                   // texels of theirs
-    double _scaleX, _scaleY;          // of the layer to the picture
+    TileGrid<std::uint8_t> _picture;     // as it was when the stroke began
+    Rect _stale;                         // where it differs from what is shown next
+    Layer _layer, _before;               // now and then; tiles exist where the layer was needed
+    std::vector<std::uint16_t> _blocks;  // of each tile: a bit for each block that shows the picture
+    Rect _provided;                      // texels of the tiles that there are
+    double _scaleX, _scaleY;             // of the layer to the picture
     DabPainter _painter;
     Texels _picked, _old;
+    std::vector<std::uint8_t> _pixels;
 };
 
 }  // namespace dabcanvas

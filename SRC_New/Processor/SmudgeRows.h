@@ -26,24 +26,23 @@ struct Steps {
     std::int64_t at(int i) const { return start + step * i; }
 };
 
-// Part of a layer. Beyond its edges it goes on as it is there.
-struct SmudgeTexels {
-    const std::int16_t* values;
+// Part of a layer or a picture. Beyond its edges it goes on as it is there.
+template <typename Channel>
+struct SmudgePart {
+    const Channel* values;
     Size size;
     std::ptrdiff_t stride;  // values
 };
+using SmudgeTexels = SmudgePart<std::int16_t>;
 
-// Fills a row of a layer with what the two rows of the picture show between which it lies.
-struct ReducedRow {
-    const std::uint8_t *upper, *lower;
-    int pixels;       // of those, up to kMostReduced
-    std::int64_t at;  // between both, 16 bits behind the point
-    Steps across;     // of the texels among the pixels
-    int count;        // texels
-    std::int16_t* to;
+// Fills a part of a layer with what it shows of a picture.
+struct ReducedPart {
+    SmudgePart<std::uint8_t> from;
+    Steps across, down;
+    Size size;                 // of the part; up to kTileSide each way
+    std::int16_t *to, *toToo;  // laid out as tiles; both get the same
 };
-inline constexpr int kMostReduced = 256;
-void reduceRow(const ReducedRow& row);
+void reduce(const ReducedPart& part);
 
 // What a dab's pixels turn into where it covers them wholly: what lies under another place, mixed with a colour.
 struct PickedUp {
