@@ -47,7 +47,7 @@ public:
     }
     static HWY_INLINE Int timesPaper(Int texels, const std::uint16_t* paper, int x, int y) {
         const hn::Rebind<std::uint16_t, Ints> narrow;
-        return times(texels, hn::PromoteTo(kInts, hn::LoadU(narrow, paper + paperPlace(x, y))));
+        return times(texels, hn::PromoteTo(kInts, hn::LoadU(narrow, paper + pairedPlace(x, y))));
     }
     // Of the pixels from (x, y) on.
     HWY_INLINE Cover cover(Int texels, int x, int y) const {
@@ -201,6 +201,21 @@ bool drawInColours(const TileDab& dab, const RowSpans& spans, const DabGround& g
         });
 }
 
+// Alpha alone.
+template <typename Kind, int kLevels>
+bool drawCoverage(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
+    const hn::Rebind<std::uint16_t, Ints> narrow;
+    const Int full = hn::Set(kInts, 65535), fraction = hn::Set(kInts, 0x7fff);
+    return Kind::template forEachCover<kLevels, false>(
+        dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            std::uint16_t* const pixels = ground.tile + pairedPlace(x, y);
+            const Int alpha = hn::PromoteTo(kInts, hn::LoadU(narrow, pixels));
+            const Int more =
+                hn::Add(hn::Mul(hn::Sub(full, alpha), cover.coverage), hn::And(cover.noise, fraction));
+            hn::StoreU(hn::DemoteTo(narrow, hn::Add(alpha, hn::ShiftRight<15>(more))), narrow, pixels);
+        });
+}
+
 // Each pixel in a colour of its own. That is what takes long: one of these loops does for all dabs, on a paper that lets
 // everything through and of a second level without weight.
 bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
@@ -227,7 +242,11 @@ Draw drawOf(const DabShape& shape, const DabGround& ground) {
     static constexpr Draw kDraws[2][2] = {{draw<Kind, 1, false>, draw<Kind, 2, false>},
                                           {draw<Kind, 1, true>, draw<Kind, 2, true>}};
     static constexpr Draw kInColours[2] = {drawInColours<Kind, 1>, drawInColours<Kind, 2>};
+    static constexpr Draw kCoverage[2] = {drawCoverage<Kind, 1>, drawCoverage<Kind, 2>};
     const int levels = shape.levelCount - 1;
+    if (ground.isCoverage) {
+        return kCoverage[levels];
+    }
     return ground.colours != nullptr ? kInColours[levels] : kDraws[ground.paper != nullptr][levels];
 }
 

@@ -143,6 +143,9 @@ void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
     if (which == PaintLayer::smudge) {
         return _smudges.forget();
     }
+    if (which == PaintLayer::line) {
+        _smudges.clearExchanged(rect);
+    }
     Layer& layer = layerOf(which);
     const bool all = rect.contains(layer.holds);
     layer.grid.forEachIn(rect.intersected(layer.holds), [&](std::size_t index, const Rect& part) {
@@ -172,12 +175,7 @@ bool ProcessorSurface::prepareSmudge(PictureId) {
 
 Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
     Rect touched;
-    withMemory("smudge", [&] {
-        std::vector<Dab> coverage;
-        touched = _smudges.smudge(dabs, style, load, _line.dabs, coverage);
-        // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
-        drawInto(_line, coverage, {.tips = style.tips, .paper = {}});
-    });
+    withMemory("smudge", [&] { touched = _smudges.smudge(dabs, style, load); });
     return touched;
 }
 
@@ -185,15 +183,15 @@ Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& s
 
 void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style) {
     _kept[index].isBlended = true;
-    const auto* line = _line.grid.tile(index);
-    const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     if (style.smudged) {
-        if (line != nullptr) {
-            _smudges.composite(_picture.writable(index), _background.tile(index), *line, part, style.opacity,
+        if (_smudges.hasExchanged(index)) {
+            _smudges.composite(index, part, _picture.writable(index), _background.tile(index), style.opacity,
                                _kept[index].times);
         }
         return;
     }
+    const auto* line = _line.grid.tile(index);
+    const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     const bool bare = line == nullptr || (style.masked && mask == nullptr);
     if (bare && style.blendType != ESBlendTypeReplace) {
         const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;

@@ -128,7 +128,8 @@ SmudgePainter::SmudgePainter(const Size& picture)
       _before(_layer.size()),
       _blocks(_layer.count()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
-      _scaleY(static_cast<double>(_layer.size().height) / picture.height) {}
+      _scaleY(static_cast<double>(_layer.size().height) / picture.height),
+      _exchanged(picture) {}
 
 void SmudgePainter::show(const TileGrid<std::uint8_t>& picture) {
     _picture.forEachIn(_stale, [&](std::size_t index, const Rect&) { _picture.share(picture, index); });
@@ -240,16 +241,17 @@ Dab SmudgePainter::inLayer(const Dab& dab) const {
     return scaled;
 }
 
-Rect SmudgePainter::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load,
-                           std::uint64_t count, std::vector<Dab>& coverage) {
+Rect SmudgePainter::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
     const DabStyle plain{.tips = style.tips, .paper = {}};
+    const std::uint64_t first = _count;
     Rect touched;
+    _coverage.clear();
     for (const SmudgeDab& smudge : dabs) {
         const Mixture mixture(smudge, load);
         Exchange exchange(*this, smudge, mixture);
         Dab dab = inLayer(smudge.dab);
         dab.flow = std::min(dab.flow, 1.0f) * mixture.exchanged;
-        const Rect texels = _painter.draw(_layer, dab, plain, count++, exchange);
+        const Rect texels = _painter.draw(_layer, dab, plain, _count++, exchange);
         if (texels.isEmpty()) {
             continue;
         }
@@ -257,18 +259,36 @@ Rect SmudgePainter::smudge(std::span<const SmudgeDab> dabs, const DabStyle& styl
         touched =
             touched.united(Rect::covering((texels.x - 1) / _scaleX, (texels.y - 1) / _scaleY,
                                           (texels.right() + 1) / _scaleX, (texels.bottom() + 1) / _scaleY));
-        coverage.push_back(smudge.dab);
-        coverage.back().flow *= smudge.exchange;
-        coverage.back().color = {0, 0, 0};
+        _coverage.push_back(smudge.dab);
+        _coverage.back().flow *= smudge.exchange;
     }
+    _holds = _holds.united(_painter.draw(_exchanged, _coverage, plain, first));
     return touched.intersected(Rect::of(_size));
+}
+
+void SmudgePainter::clearExchanged(const Rect& rect) {
+    const bool all = rect.contains(_holds);
+    _exchanged.forEachIn(rect.intersected(_holds), [&](std::size_t index, const Rect& part) {
+        if (all || part == _exchanged.rectOf(index)) {
+            return _exchanged.drop(index);
+        }
+        for (int y = part.y; _exchanged.tile(index) != nullptr && y < part.bottom(); ++y) {
+            for (int x = part.x; x < part.right(); ++x) {
+                const int at = pairedPlace(x % kTileSide, y % kTileSide);
+                _exchanged.writable(index).values[static_cast<std::size_t>(at)] = 0;
+            }
+        }
+    });
+    if (all) {
+        _holds = {};
+        _count = 0;
+    }
 }
 
 // ---- The picture
 
-void SmudgePainter::composite(Tile<std::uint8_t>& picture, const Tile<std::uint8_t>* background,
-                              const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
-                              std::uint32_t commits) {
+void SmudgePainter::composite(std::size_t index, const Rect& part, Tile<std::uint8_t>& picture,
+                              const Tile<std::uint8_t>* background, float opacity, std::uint32_t commits) {
     static const Tile<std::uint8_t> kTransparent;
     constexpr int kTogether = 8;  // columns, as vectors have pixels at most
     const int left = part.x / kTileSide * kTileSide, top = part.y / kTileSide * kTileSide;
@@ -283,7 +303,7 @@ void SmudgePainter::composite(Tile<std::uint8_t>& picture, const Tile<std::uint8
     take(_before, texels, _old);
     putSmudges({.picture = picture.values.data(),
                 .background = (background != nullptr ? background : &kTransparent)->values.data(),
-                .exchanged = exchanged.values.data(),
+                .exchanged = _exchanged.tile(index)->values.data(),
                 .part = {part.x - left, part.y - top, part.width, part.height},
                 .now = _picked.view,
                 .then = _old.view,

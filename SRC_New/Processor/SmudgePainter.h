@@ -31,15 +31,16 @@ public:
     // Gives its memory back; nothing can be smudged until it shows something again.
     void forget();
 
-    // Each dab takes up colour where the one before it lay. `coverage` gets the dabs that tell how much of each pixel
-    // of the picture was exchanged. Returns the pixels of it that a composite may change. `count`: dabs drawn so far.
-    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load, std::uint64_t count,
-                std::vector<Dab>& coverage);
-    // The picture becomes the background with what was brought, where `exchanged` has paint. `part`: the pixels of one
-    // tile of each; no background is a transparent one.
-    void composite(Tile<std::uint8_t>& picture, const Tile<std::uint8_t>* background,
-                   const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
-                   std::uint32_t commits);
+    // Each dab takes up colour where the one before it lay. Returns the pixels of the picture that a composite may change.
+    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load);
+    // Nothing counts as exchanged there.
+    void clearExchanged(const Rect& rect);
+    // Whether something was in the tile of the picture.
+    bool hasExchanged(std::size_t index) const { return _exchanged.tile(index) != nullptr; }
+    // The picture becomes the background with what was brought, where something was exchanged. `part`: pixels of the tile;
+    // no background is a transparent one.
+    void composite(std::size_t index, const Rect& part, Tile<std::uint8_t>& picture,
+                   const Tile<std::uint8_t>* background, float opacity, std::uint32_t commits);
 
 private:
     using Layer = TileGrid<std::uint16_t>;
@@ -66,7 +67,12 @@ private:
     std::vector<std::uint16_t> _blocks;  // of each tile: a bit for each block that shows the picture
     Rect _provided;                      // texels of the tiles that there are
     double _scaleX, _scaleY;             // of the layer to the picture
+    // How much of each pixel of the picture was exchanged, at full resolution: what no dab covered is never touched.
+    CoverageGrid _exchanged;
+    Rect _holds;               // where dabs may be
+    std::uint64_t _count = 0;  // of dabs since it was empty
     DabPainter _painter;
+    std::vector<Dab> _coverage;
     Texels _picked, _old;
     std::vector<std::uint8_t> _pixels;
 };

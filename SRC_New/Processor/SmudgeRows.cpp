@@ -6,13 +6,12 @@
 #include <cstring>
 
 #include "Processor/BlendRows.h"
+#include "Processor/Tiles.h"
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Processor/SmudgeRows.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
-
-#include "Surface/TileSet.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace dabcanvas {
@@ -332,7 +331,8 @@ public:
           _around(part.across, part.part.x, part.part.right(), part.now.size.width),
           _nows(part.now),
           _thens(part.then),
-          _opacity(hn::Set(kWords, part.opacity)) {
+          _opacity(hn::Set(kWords, part.opacity)),
+          _twice(hn::IndicesFromVec(kPixels, hn::ShiftRight<1>(hn::Iota(kPixels, 0)))) {
         const auto steps =
             hn::Mul(hn::ShiftRight<2>(hn::Iota(kUnsigned, 0)), hn::Set(kUnsigned, kNoiseAlong));
         const auto pixel = [](int i) HWY_ATTR { return hn::Set(kWords, static_cast<std::int16_t>(4 * i)); };
@@ -390,8 +390,17 @@ private:
 
     // In all channels; 0 of pixels that are not of the part.
     HWY_INLINE UnsignedWord exchanged(int x, int y) const {
-        const auto pixels = hn::LoadU(kUnsigned, _part->exchanged + (y * kTileSide + x) * 4);
-        return alphaOf(hn::And(pixels, _isIn[x / lanes()]));
+        // Two pixels of both rows are as long as one of all channels.
+        alignas(16) static constexpr std::uint8_t kUpper[16] = {0, 1, 0, 1, 0, 1, 0, 1,
+                                                                2, 3, 2, 3, 2, 3, 2, 3};
+        alignas(16) static constexpr std::uint8_t kLower[16] = {4, 5, 4, 5, 4, 5, 4, 5,
+                                                                6, 7, 6, 7, 6, 7, 6, 7};
+        const hn::Half<Pixels> half;
+        const hn::Repartition<std::uint16_t, hn::Half<Pixels>> words;
+        const auto both = hn::BitCast(half, hn::LoadU(words, _part->exchanged + pairedPlace(x, y / 2 * 2)));
+        const auto each = hn::TableLookupLanes(hn::ZeroExtendVector(kPixels, both), _twice);
+        const auto row = spread(hn::BitCast(kUnsigned, each), y % 2 == 0 ? kUpper : kLower);
+        return hn::And(row, _isIn[x / lanes()]);
     }
     HWY_INLINE bool isBare(int x, int y) const {
         return hn::AllTrue(kUnsigned, hn::Eq(exchanged(x, y), hn::Zero(kUnsigned)));
@@ -426,6 +435,7 @@ private:
     Columns _around;
     MixedRows<std::int16_t> _nows, _thens;
     Word _opacity;
+    decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _twice;
     UnsignedWord _isIn[kTileSide / 2], _noise[kTileSide / 2];
 };
 

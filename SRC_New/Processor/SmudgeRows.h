@@ -61,7 +61,7 @@ struct PutSmudges {
     // Tiles, of which the rows and columns of `part` count.
     std::uint8_t* picture;
     const std::uint8_t* background;
-    const std::uint16_t* exchanged;  // alpha counts: how much of each pixel was
+    const std::uint16_t* exchanged;  // how much of each pixel was, laid out as pairedPlace() tells
     Rect part;
     SmudgeTexels now, then;  // what the layer holds and held, equally large
     Steps across, down;      // of the tile's first pixel

@@ -23,22 +23,28 @@ namespace dabcanvas {
 
 inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
 
-// Premultiplied RGBA, rows from the top; transparent when made.
-template <typename Channel>
+// Premultiplied RGBA, rows from the top, or fewer channels; transparent when made.
+template <typename Channel, std::size_t kChannels = 4>
 struct alignas(64) Tile {
-    std::array<Channel, kTilePixels * 4> values{};
+    std::array<Channel, kTilePixels * kChannels> values{};
 
     Channel* at(int x, int y) {
-        return values.data() + (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * 4;
+        return values.data() +
+               (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * kChannels;
     }
     const Channel* at(int x, int y) const { return const_cast<Tile*>(this)->at(x, y); }
 };
 
-template <typename Channel>
+// Where one channel's values lie that kernels go through two rows at a time: two of a row and then the two below them.
+constexpr int pairedPlace(int x, int y) {
+    return y / 2 * 2 * kTileSide + x / 2 * 4 + y % 2 * 2 + x % 2;
+}
+
+template <typename Channel, std::size_t kChannels = 4>
 class TileGrid {
 public:
-    using Pixel = std::array<Channel, 4>;
-    using TileOf = Tile<Channel>;
+    using Pixel = std::array<Channel, kChannels>;
+    using TileOf = Tile<Channel, kChannels>;
 
     explicit TileGrid(const Size& size)
         : _size(size),
@@ -77,7 +83,7 @@ public:
         if (pixel != Pixel{}) {
             all = made();
             for (std::size_t i = 0; i < kTilePixels; ++i) {
-                std::copy(pixel.begin(), pixel.end(), all->values.data() + i * 4);
+                std::copy(pixel.begin(), pixel.end(), all->values.data() + i * kChannels);
             }
         }
         std::fill(_tiles.begin(), _tiles.end(), all);
