@@ -16,15 +16,21 @@
 #include <vector>
 
 #include "Maths/Rect.h"
+#include "Processor/TileMemory.h"
 #include "Surface/TilePixels.h"
 
 namespace dabcanvas {
 
-template <typename Channel>
+// Where one channel's values lie that kernels go through two rows at a time: two of a row and then the two below them.
+constexpr int pairedPlace(int x, int y) {
+    return y / 2 * 2 * kTileSide + x / 2 * 4 + y % 2 * 2 + x % 2;
+}
+
+template <typename Channel, std::size_t kChannels = 4>
 class TileGrid {
 public:
-    using Pixel = std::array<Channel, 4>;
-    using TileOf = Tile<Channel>;
+    using Pixel = std::array<Channel, kChannels>;
+    using TileOf = Tile<Channel, kChannels>;
 
     explicit TileGrid(const Size& size)
         : _size(size),
@@ -50,10 +56,10 @@ public:
     TileOf& writable(std::size_t index) {
         std::shared_ptr<TileOf>& tile = _tiles[index];
         if (!tile) {
-            tile = std::make_shared<TileOf>();
+            tile = made();
         } else if (const auto held = tile; held.use_count() > 2) {
             // Counting once more orders what follows after what another thread did before it let go.
-            tile = std::make_shared<TileOf>(*tile);
+            tile = made(*held);
         }
         return *tile;
     }
@@ -62,9 +68,9 @@ public:
     void fill(const Pixel& pixel) {
         std::shared_ptr<TileOf> all;
         if (pixel != Pixel{}) {
-            all = std::make_shared<TileOf>();
+            all = made();
             for (std::size_t i = 0; i < kTilePixels; ++i) {
-                std::copy(pixel.begin(), pixel.end(), all->values.data() + i * 4);
+                std::copy(pixel.begin(), pixel.end(), all->values.data() + i * kChannels);
             }
         }
         std::fill(_tiles.begin(), _tiles.end(), all);
@@ -89,6 +95,11 @@ public:
     }
 
 private:
+    template <typename... From>
+    static std::shared_ptr<TileOf> made(const From&... from) {
+        return std::allocate_shared<TileOf>(TileAllocator<TileOf>(), from...);
+    }
+
     Size _size;
     int _columns;
     std::vector<std::shared_ptr<TileOf>> _tiles;

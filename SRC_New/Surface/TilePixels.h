@@ -13,13 +13,15 @@ namespace dabcanvas {
 
 inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
 
-// Premultiplied RGBA, rows from the top; transparent when made. What lies beyond a picture's rim counts for nothing.
-template <typename Channel>
+// Premultiplied RGBA, rows from the top, or fewer channels; transparent when made. What lies beyond a picture's rim counts
+// for nothing.
+template <typename Channel, std::size_t kChannels = 4>
 struct alignas(64) Tile {
-    std::array<Channel, kTilePixels * 4> values{};
+    std::array<Channel, kTilePixels * kChannels> values{};
 
     Channel* at(int x, int y) {
-        return values.data() + (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * 4;
+        return values.data() +
+               (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * kChannels;
     }
     const Channel* at(int x, int y) const { return const_cast<Tile*>(this)->at(x, y); }
 };
