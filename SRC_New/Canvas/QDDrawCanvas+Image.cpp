@@ -134,9 +134,10 @@ bool QDDrawCanvas::readDataBufferRect(unsigned char* bytes, const QRectF& buffer
 
 QImage QDDrawCanvas::currentImage() {
     const RecordedCanvas& record = _inside->parts->record;
-    return record.hasCanvasSize()
-               ? pictureOfData(record.inBytes(record.data()), bufferSize().toSize()).mirrored()
-               : image();
+    if (!record.hasCanvasSize()) {
+        return image();
+    }
+    return pictureOfData(record.data(), bufferSize().toSize()).mirrored();
 }
 
 // ---- Clearing
@@ -238,7 +239,7 @@ void QDDrawCanvas::updateSmudgeBGTexture() {
 }
 
 void QDDrawCanvas::updateBGImage(const QByteArray& mark) {
-    _inside->parts->updateBackground(mark);
+    _inside->parts->updateBackground(!mark.isNull());
 }
 
 QRectF QDDrawCanvas::drawRect() const {

@@ -4,12 +4,12 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSysInfo>
+
+#include "History/FolderClaim.h"
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -22,64 +22,12 @@ namespace {
 
 constexpr int kNumbers = 10000;
 
-QString lockPathOf(const QString& folder) {
-    return folder + QLatin1String(".lock");
-}
-
-bool makeFolder(const QString& path) {
-#ifdef Q_OS_UNIX
-    return ::mkdir(QFile::encodeName(path).constData(), 0700) ==
-           0;  // the pictures are nobody else's business
-#else
-    return QDir().mkdir(path);
-#endif
-}
-
-// Whether it is gone.
-bool removeFolder(const QString& path) {
-    const QFileInfo info(path);
-    if (!info.isDir() || info.isSymLink()) {
-        return true;
-    }
-    QFile::setPermissions(path,
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);  // it may be read-only
-    return QDir(path).removeRecursively();
-}
-
 }  // namespace
 
 #ifdef Q_OS_UNIX
-namespace {
-
-// Who made the folder: a lock held on another machine may look free from here.
-QByteArray ownerText(bool made) {
-    return (made ? "made " : "found ") + QSysInfo::machineUniqueId() + ' ' +
-           QSysInfo::machineHostName().toUtf8() + '\n';
-}
-
-bool isStillAt(int file, const QByteArray& path) {
-    struct stat opened {};
-    struct stat there {};
-    return ::fstat(file, &opened) == 0 && ::lstat(path.constData(), &there) == 0 &&
-           opened.st_ino == there.st_ino && opened.st_dev == there.st_dev;
-}
-
-bool isMine(int file) {
-    struct stat info {};
-    return ::fstat(file, &info) == 0 && S_ISREG(info.st_mode) && info.st_uid == ::geteuid();
-}
-
-QByteArray textIn(int file) {
-    char text[512];
-    const ssize_t length = ::pread(file, text, sizeof text, 0);
-    return length > 0 ? QByteArray(text, static_cast<qsizetype>(length)) : QByteArray();
-}
-
-}  // namespace
-
 // The file is made by whoever has the folder, never taken over: so nobody can mistake a dead one's for his
 // own.
-bool TempFolder::lock(bool made, QString* problem) {
+bool TempFolder::lock(QString* problem) {
     const QByteArray path = QFile::encodeName(lockPathOf(_path));
     const int file = ::open(path.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (file < 0) {
@@ -94,7 +42,7 @@ bool TempFolder::lock(bool made, QString* problem) {
         ::close(file);  // somebody who clears up got hold of it before it was locked, and removes it
         return false;
     }
-    const QByteArray owner = ownerText(made);
+    const QByteArray owner = ownerText(_isKept ? kKept : _madeHere ? kMade : kFound);
     if (::write(file, owner.constData(), static_cast<std::size_t>(owner.size())) != owner.size() ||
         ::fsync(file) != 0) {
         *problem = QString::fromLocal8Bit(std::strerror(errno));
@@ -120,26 +68,20 @@ void TempFolder::unlock(bool forget) {
     }
 }
 
-// Whether a process lives is not asked by its number, which another may have by now: only the lock tells, and
-// the system takes it from the dead.
 void TempFolder::removeIfAbandoned(const QString& path) {
-    const QByteArray lockPath = QFile::encodeName(lockPathOf(path));
-    const int file = ::open(lockPath.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    if (file < 0) {
-        return;
-    }
-    if (isMine(file) && ::flock(file, LOCK_EX | LOCK_NB) == 0 && isStillAt(file, lockPath)) {
-        const QByteArray owner = textIn(file);
-        if (owner == ownerText(true)
+    const FolderClaim claim(path, LOCK_EX);
+    if (claim.isHeld()) {
+        const QByteArray owner = claim.owner();
+        if (owner == ownerText(kMade)
                 ? removeFolder(path)
-                : owner == ownerText(false) || (owner.isEmpty() && !QFileInfo::exists(path))) {
-            ::unlink(lockPath.constData());
+                : owner == ownerText(kFound) || (owner.isEmpty() && !QFileInfo::exists(path))) {
+            claim.forget();
         }
     }
-    ::close(file);
 }
+
 #else
-bool TempFolder::lock(bool, QString* problem) {
+bool TempFolder::lock(QString* problem) {
     _lock = std::make_unique<QLockFile>(lockPathOf(_path));
     _lock->setStaleLockTime(0);  // age says nothing; Qt still recognises the dead
     if (_lock->tryLock(0)) {
@@ -167,9 +109,14 @@ void TempFolder::removeIfAbandoned(const QString& path) {
         removeFolder(path);
     }
 }
+
 #endif
 
 TempFolder::~TempFolder() {
+    if (_isLeft) {
+        unlock(false);
+        return;
+    }
     const bool gone = !_madeHere || !lockAgain() || removeFolder(_path);
     unlock(gone);
 }
@@ -196,7 +143,7 @@ bool TempFolder::lockAgain() {
     }
     unlock(false);
     QString problem;
-    if (!lock(_madeHere, &problem)) {
+    if (!lock(&problem)) {
         return false;
     }
     ++_timesMade;
@@ -207,7 +154,9 @@ std::unique_ptr<TempFolder> TempFolder::claimOne(const QString& path, bool maySt
     auto folder = std::unique_ptr<TempFolder>(new TempFolder);
     folder->_path = path;
     const bool found = QFileInfo(path).isDir();
-    if ((found && !mayStandThere) || !folder->lock(!found, problem)) {
+    folder->_madeHere = !found;
+    if ((found && !mayStandThere) || !folder->lock(problem)) {
+        folder->_madeHere = false;
         return nullptr;
     }
     folder->_madeHere = !found && makeFolder(path);

@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "Surface/BlendType.h"
+#include "Surface/TileSet.h"
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Processor/BlendRows.cpp"
@@ -157,6 +158,28 @@ HWY_INLINE void blendVector(const BlendRow<Channel>& row, Value scale, hn::Vec<I
     hn::StoreU(hn::DemoteTo(channels, rounded), channels, row.picture);
 }
 
+// What is to come of a row, so many pixels further on.
+template <typename Channel>
+HWY_INLINE void move(BlendRow<Channel>& row, int pixels) {
+    const std::ptrdiff_t values = std::ptrdiff_t{4} * pixels;
+    row.picture += values;
+    row.background += values;
+    row.layer += values;
+    row.mask += row.mask != nullptr ? values : 0;
+    row.noise.first += static_cast<std::uint32_t>(pixels) * row.noise.along;
+    row.count -= pixels;
+}
+// Steps back from the last pixels, fewer than a vector has, so that they are one with some that are blended once more.
+// False where that cannot be.
+template <typename Channel>
+HWY_INLINE bool moveBack(BlendRow<Channel>& row, const BlendRow<Channel>& whole, int step) {
+    if (row.count == 0 || whole.count < step || whole.picture == whole.background) {
+        return false;
+    }
+    move(row, row.count - step);
+    return true;
+}
+
 template <typename Mode, typename Channel>
 void blendWhole(const BlendRow<Channel>& whole) {
     const int step = static_cast<int>(hn::Lanes(kFloats)) / 4;
@@ -166,15 +189,12 @@ void blendWhole(const BlendRow<Channel>& whole) {
     const auto noise = [&] {
         return hn::And(hn::Add(places, hn::Set(kInts, row.noise.first)), hn::Set(kInts, 255));
     };
-    for (; row.count >= step; row.count -= step) {
+    for (; row.count >= step; move(row, step)) {
         blendVector<Mode>(row, scale, noise());
-        row.picture += 4 * step;
-        row.background += 4 * step;
-        row.layer += 4 * step;
-        row.mask += row.mask != nullptr ? 4 * step : 0;
-        row.noise.first += static_cast<std::uint32_t>(step) * whole.noise.along;
     }
-    if (row.count > 0) {
+    if (moveBack(row, whole, step)) {
+        blendVector<Mode>(row, scale, noise());
+    } else if (row.count > 0) {
         Channel picture[16] = {}, background[16] = {};
         std::uint16_t layer[16] = {}, mask[16] = {};
         const auto values = static_cast<std::size_t>(row.count) * 4;
@@ -226,14 +246,12 @@ void blendNormal(const BlendRow<std::uint8_t>& whole) {
         return hn::And(hn::Add(places, hn::Set(kWords, static_cast<std::uint16_t>(row.noise.first))),
                        hn::Set(kWords, 255));
     };
-    for (; row.count >= step; row.count -= step) {
+    for (; row.count >= step; move(row, step)) {
         blendWords(row, opacity, noise());
-        row.picture += 4 * step;
-        row.background += 4 * step;
-        row.layer += 4 * step;
-        row.noise.first += static_cast<std::uint32_t>(step) * whole.noise.along;
     }
-    if (row.count > 0) {
+    if (moveBack(row, whole, step)) {
+        blendWords(row, opacity, noise());
+    } else if (row.count > 0) {
         std::uint8_t picture[32], background[32] = {};
         std::uint16_t layer[32] = {};
         const auto values = static_cast<std::size_t>(row.count) * 4;
@@ -246,37 +264,56 @@ void blendNormal(const BlendRow<std::uint8_t>& whole) {
 }
 
 // Of 16 bits, words would round what remains of the background.
-HWY_INLINE void blendNormal(const BlendRow<std::uint16_t>& row) {
+void blendNormal(const BlendRow<std::uint16_t>& row) {
     blendWhole<Normal>(row);
 }
 
+// The kernel of a mode.
 template <typename Channel>
-HWY_INLINE void blend(std::uint32_t blendType, const BlendRow<Channel>& row) {
+auto kernelOf(std::uint32_t blendType, bool isMasked) -> void (*)(const BlendRow<Channel>&) {
     switch (blendType) {
         case ESBlendTypeReplace:
-            return blendWhole<Replace>(row);
+            return blendWhole<Replace, Channel>;
         case ESBlendTypeBehind:
-            return blendWhole<Behind>(row);
+            return blendWhole<Behind, Channel>;
         case ESBlendTypeErase:
-            return blendWhole<Erase>(row);
+            return blendWhole<Erase, Channel>;
         case ESBlendTypeTarnish:
-            return blendWhole<Tarnish>(row);
+            return blendWhole<Tarnish, Channel>;
         case ESBlendTypeBrightness:
-            return blendWhole<Brightness>(row);
+            return blendWhole<Brightness, Channel>;
         case ESBlendTypeMultiply:
-            return blendWhole<Multiply>(row);
+            return blendWhole<Multiply, Channel>;
         case ESBlendTypeReset:
-            return blendWhole<Reset>(row);
+            return blendWhole<Reset, Channel>;
         default:
-            return row.mask != nullptr ? blendWhole<Normal>(row) : blendNormal(row);
+            if (isMasked) {
+                return blendWhole<Normal, Channel>;
+            }
+            return blendNormal;
     }
 }
 
-void blend8(std::uint32_t blendType, const BlendRow<std::uint8_t>& row) {
-    blend(blendType, row);
+template <typename Channel>
+HWY_INLINE void blend(std::uint32_t blendType, const BlendRow<Channel>& first, int rows) {
+    constexpr std::ptrdiff_t kDown = kTileSide * 4;
+    const auto kernel = kernelOf<Channel>(blendType, first.mask != nullptr);
+    BlendRow<Channel> row = first;
+    for (int y = 0; y < rows; ++y) {
+        kernel(row);
+        row.picture += kDown;
+        row.background += kDown;
+        row.layer += kDown;
+        row.mask += row.mask != nullptr ? kDown : 0;
+        row.noise.first += row.noise.down;
+    }
 }
-void blend16(std::uint32_t blendType, const BlendRow<std::uint16_t>& row) {
-    blend(blendType, row);
+
+void blend8(std::uint32_t blendType, const BlendRow<std::uint8_t>& first, int rows) {
+    blend(blendType, first, rows);
+}
+void blend16(std::uint32_t blendType, const BlendRow<std::uint16_t>& first, int rows) {
+    blend(blendType, first, rows);
 }
 
 const char* targetName() {
@@ -293,11 +330,11 @@ HWY_EXPORT(blend8);
 HWY_EXPORT(blend16);
 HWY_EXPORT(targetName);
 
-void blendRow(std::uint32_t blendType, const BlendRow<std::uint8_t>& row) {
-    HWY_DYNAMIC_DISPATCH(blend8)(blendType, row);
+void blendRows(std::uint32_t blendType, const BlendRow<std::uint8_t>& first, int rows) {
+    HWY_DYNAMIC_DISPATCH(blend8)(blendType, first, rows);
 }
-void blendRow(std::uint32_t blendType, const BlendRow<std::uint16_t>& row) {
-    HWY_DYNAMIC_DISPATCH(blend16)(blendType, row);
+void blendRows(std::uint32_t blendType, const BlendRow<std::uint16_t>& first, int rows) {
+    HWY_DYNAMIC_DISPATCH(blend16)(blendType, first, rows);
 }
 
 const char* vectorsInUse() {

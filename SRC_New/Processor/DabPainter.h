@@ -35,6 +35,9 @@ protected:
     ~DabColours() = default;
 };
 
+// What dabs cover, full scale 65535; in tiles laid out as pairedPlace() tells.
+using CoverageGrid = TileGrid<std::uint16_t, 1>;
+
 class DabPainter {
 public:
     static constexpr std::size_t kMostDerived = std::size_t{32} << 20;  // bytes
@@ -51,6 +54,8 @@ public:
     // The same of one dab, without paper, in these colours.
     Rect draw(TileGrid<std::uint16_t>& layer, const Dab& dab, const DabStyle& style, std::uint64_t count,
               DabColours& colours);
+    // What dabs cover, without paper, adds up as their alpha would.
+    Rect draw(CoverageGrid& layer, std::span<const Dab> dabs, const DabStyle& style, std::uint64_t count);
 
 private:
     struct Inside;

@@ -181,7 +181,13 @@ void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
 
 template <typename Channel>
 void PictureSurface<Channel>::clear(PaintLayer layer, const Rect& rect) {
-    layer == PaintLayer::smudge ? _smudges.forget() : ProcessorSurface::clear(layer, rect);
+    if (layer == PaintLayer::smudge) {
+        return _smudges.forget();
+    }
+    if (layer == PaintLayer::line) {
+        _smudges.clearExchanged(rect);
+    }
+    ProcessorSurface::clear(layer, rect);
 }
 
 template <typename Channel>
@@ -192,12 +198,7 @@ bool PictureSurface<Channel>::prepareSmudge(PictureId) {
 template <typename Channel>
 Rect PictureSurface<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
     Rect touched;
-    withMemory("smudge", [&] {
-        std::vector<Dab> coverage;
-        touched = _smudges.smudge(dabs, style, load, _line.dabs, coverage);
-        // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
-        drawInto(_line, coverage, {.tips = style.tips, .paper = {}});
-    });
+    withMemory("smudge", [&] { touched = _smudges.smudge(dabs, style, load); });
     return touched;
 }
 
@@ -214,7 +215,7 @@ template <typename Channel>
 void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, const Paint& paint,
                                         const CompositeStyle& style) {
     Channel* const picture = _picture.writable(index).at(part.x % kTileSide, part.y % kTileSide);
-    BlendRow<Channel> row{
+    const BlendRow<Channel> row{
         .picture = picture,
         .background = paint.overPicture ? picture : pixelsAt(_background.tile(index), part.x, part.y),
         .layer = pixelsAt(paint.layer, part.x, part.y),
@@ -222,15 +223,7 @@ void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, con
         .count = part.width,
         .opacity = style.opacity,
         .noise = noiseOf(index, part.x, part.y)};
-    constexpr int kStride = kTileSide * 4;
-    for (int y = 0; y < part.height; ++y) {
-        blendRow(style.blendType, row);
-        row.picture += kStride;
-        row.background += kStride;
-        row.layer += kStride;
-        row.mask += row.mask != nullptr ? kStride : 0;
-        row.noise.first += row.noise.down;
-    }
+    blendRows(style.blendType, row, part.height);
 }
 
 // Drawn by themselves and then put over the picture, which comes to the same.
@@ -254,16 +247,16 @@ template <typename Channel>
 void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
                                             const CompositeStyle& style) {
     _kept[index].isBlended = true;
-    const auto* line = _line.grid.tile(index);
-    const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     if (style.smudged) {
-        if (line != nullptr) {
+        if (_smudges.hasExchanged(index)) {
             const int left = part.x / kTileSide * kTileSide, top = part.y / kTileSide * kTileSide;
-            _smudges.composite(_picture.writable(index), _background.tile(index), *line, part, style.opacity,
+            _smudges.composite(index, part, _picture.writable(index), _background.tile(index), style.opacity,
                                noiseOf(index, left, top));
         }
         return;
     }
+    const auto* line = _line.grid.tile(index);
+    const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     const bool bare = line == nullptr || (style.masked && mask == nullptr);
     if (bare && style.blendType != ESBlendTypeReplace) {
         const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;
@@ -365,6 +358,35 @@ bool PictureSurface<Channel>::writeBackground(PictureId, const Rect& rect, const
     _smudges.noteChanged(rect);
     return isPart(rect, rows) &&
            withMemory("take pixels", [&] { _background = withRows(_background, rect, rows); });
+}
+
+// ---- Tiles, handed out and taken back as they are
+
+template <typename Channel>
+bool PictureSurface<Channel>::keep(PictureId, const TileSet& tiles,
+                                   const std::function<void(const PlacedTile&)>& visit) {
+    return withMemory("keep a picture", [&] {
+        tiles.forEach([&](std::size_t index) {
+            const auto& tile = _picture.shared(index);
+            visit({index, tile ? SharedTile(tile, reinterpret_cast<const std::uint8_t*>(tile->values.data()))
+                               : SharedTile()});
+        });
+    });
+}
+
+template <typename Channel>
+bool PictureSurface<Channel>::put(PictureId picture, std::span<const PlacedTile> tiles) {
+    for (const PlacedTile& placed : tiles) {
+        // What newTile() made and keep() handed out are tiles; they are copied before this surface writes to them.
+        auto* const tile = reinterpret_cast<Tile<Channel>*>(const_cast<std::uint8_t*>(placed.tile.get()));
+        const std::shared_ptr<Tile<Channel>> shared(placed.tile, tile);
+        _picture.share(shared, placed.index);
+        _background.share(shared, placed.index);
+        _kept[placed.index] = {};
+        _smudges.noteChanged(_picture.rectOf(placed.index));
+        noteChanged(picture, _picture.rectOf(placed.index));
+    }
+    return true;
 }
 
 template class PictureSurface<std::uint8_t>;

@@ -77,6 +77,9 @@ public:
     bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
     bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
     bool writeBackground(PictureId picture, const Rect& rect, const PixelView& rows) override;
+    bool keep(PictureId picture, const TileSet& tiles,
+              const std::function<void(const PlacedTile&)>& visit) override;
+    bool put(PictureId picture, std::span<const PlacedTile> tiles) override;
 
 private:
     using Grid = TileGrid<Channel>;

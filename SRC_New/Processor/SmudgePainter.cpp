@@ -43,6 +43,20 @@ struct TexelRange {
     }
 };
 
+// Texels of the layer that are filled at once, each way: 16 blocks a tile.
+constexpr int kBlock = 16;
+
+bool isInOneTile(const Rect& rect) {
+    return !rect.isEmpty() && rect.x / kTileSide == (rect.right() - 1) / kTileSide &&
+           rect.y / kTileSide == (rect.bottom() - 1) / kTileSide;
+}
+// And can be read there, with a little beyond each row.
+bool isReadInTile(const Rect& rect) {
+    constexpr int kSpare = static_cast<int>(kSpareValues) / 4;
+    return isInOneTile(rect) &&
+           (rect.bottom() % kTileSide != 0 || rect.x % kTileSide + rect.width <= kTileSide - kSpare);
+}
+
 }  // namespace
 
 // What a dab's pixels turn into where it covers them wholly.
@@ -78,7 +92,8 @@ public:
         const TexelRange down(placeY(texels.y), placeY(texels.bottom() - 1), layer.height);
         const Rect picked = Rect::between(across.first, down.first, across.end, down.end);
         _painter.provide(picked);
-        take(_painter._layer, picked, _painter._picked);
+        isInOneTile(texels) ? take(_painter._layer, picked, _painter._picked)
+                            : copy(_painter._layer, picked, _painter._picked);
     }
 
     const std::uint16_t* of(const Rect& part) override {
@@ -86,7 +101,7 @@ public:
         std::uint16_t* const to = colours.data() + (part.y % kTileSide * kTileSide + part.x % kTileSide) * 4;
         const Rect& from = _painter._picked.rect;
         const RgbType& color = _smudge.dab.color;
-        pickUp({.from = _painter._picked.view(),
+        pickUp({.from = _painter._picked.view,
                 .across = stepsFrom(placeX(part.x) - from.x, _stretch),
                 .down = stepsFrom(placeY(part.y) - from.y, _stretch),
                 .size = {part.width, part.height},
@@ -115,8 +130,10 @@ SmudgePainter<Channel>::SmudgePainter(const Size& picture, int layerDepth)
       _stale(Rect::of(picture)),
       _layer(halfOf(picture)),
       _before(_layer.size()),
+      _blocks(_layer.count()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
-      _scaleY(static_cast<double>(_layer.size().height) / picture.height) {}
+      _scaleY(static_cast<double>(_layer.size().height) / picture.height),
+      _exchanged(picture) {}
 
 template <typename Channel>
 void SmudgePainter<Channel>::show(const TileGrid<Channel>& picture) {
@@ -125,6 +142,7 @@ void SmudgePainter<Channel>::show(const TileGrid<Channel>& picture) {
     _layer.forEachIn(_provided, [&](std::size_t index, const Rect&) {
         _layer.drop(index);
         _before.drop(index);
+        _blocks[index] = 0;
     });
     _provided = {};
 }
@@ -140,46 +158,50 @@ void SmudgePainter<Channel>::forget() {
 
 template <typename Channel>
 void SmudgePainter<Channel>::provide(const Rect& texels) {
-    _layer.forEachIn(texels, [&](std::size_t index, const Rect&) {
-        if (_layer.tile(index) == nullptr) {
-            showTile(index);
-            _provided = _provided.united(_layer.rectOf(index));
+    _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
+        const Rect tile = _layer.rectOf(index);
+        for (int y = (part.y - tile.y) / kBlock; y * kBlock < part.bottom() - tile.y; ++y) {
+            for (int x = (part.x - tile.x) / kBlock; x * kBlock < part.right() - tile.x; ++x) {
+                const auto bit = static_cast<std::uint16_t>(1 << (y * (kTileSide / kBlock) + x));
+                if ((_blocks[index] & bit) == 0) {
+                    showBlock(index,
+                              tile.intersected({tile.x + x * kBlock, tile.y + y * kBlock, kBlock, kBlock}));
+                    _blocks[index] |= bit;
+                }
+            }
         }
     });
 }
 
 template <typename Channel>
-void SmudgePainter<Channel>::showTile(std::size_t index) {
-    const Rect rect = _layer.rectOf(index);
+void SmudgePainter<Channel>::showBlock(std::size_t index, const Rect& texels) {
     const double stepX = 1 / _scaleX, stepY = 1 / _scaleY;
     const auto place = [](int texel, double step) { return (texel + 0.5) * step - 0.5; };
-    const TexelRange across(place(rect.x, stepX), place(rect.right() - 1, stepX), _size.width);
-    std::array<Channel, kMostReduced * 4 + kSpareValues> upper{}, lower{};
-    auto& tile = _before.writable(index);
-    for (int y = rect.y; y < rect.bottom(); ++y) {
-        const TexelRange down(place(y, stepY), place(y, stepY), _size.height);
-        takePicture(down.first, {across.first, 0, across.end - across.first, 1}, upper.data());
-        takePicture(down.end - 1, {across.first, 0, across.end - across.first, 1}, lower.data());
-        reduceRow(ReducedRow<Channel>{.upper = upper.data(),
-                                      .lower = lower.data(),
-                                      .pixels = across.end - across.first,
-                                      .at = stepsFrom(place(y, stepY) - down.first, 0).start,
-                                      .across = stepsFrom(place(rect.x, stepX) - across.first, stepX),
-                                      .count = rect.width,
-                                      .to = reinterpret_cast<std::int16_t*>(tile.at(0, y % kTileSide))});
-    }
-    _layer.share(_before, index);
+    const TexelRange across(place(texels.x, stepX), place(texels.right() - 1, stepX), _size.width);
+    const TexelRange down(place(texels.y, stepY), place(texels.bottom() - 1, stepY), _size.height);
+    const Rect pixels = Rect::between(across.first, down.first, across.end, down.end);
+    _provided = _provided.united(texels);
+    const auto rows = [&](Layer& layer) {
+        return reinterpret_cast<std::int16_t*>(
+            layer.writable(index).at(texels.x % kTileSide, texels.y % kTileSide));
+    };
+    reduce(ReducedPart<Channel>{.from = takePicture(pixels),
+                                .across = stepsFrom(place(texels.x, stepX) - pixels.x, stepX),
+                                .down = stepsFrom(place(texels.y, stepY) - pixels.y, stepY),
+                                .size = {texels.width, texels.height},
+                                .to = rows(_layer),
+                                .toToo = rows(_before)});
     if (_layerDepth == 8) {
-        round(rect);
-        _before.share(_layer, index);
+        round(_layer, texels);
+        round(_before, texels);
     }
 }
 
 // To what 8 bits can say.
 template <typename Channel>
-void SmudgePainter<Channel>::round(const Rect& texels) {
-    _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
-        auto& tile = _layer.writable(index);
+void SmudgePainter<Channel>::round(Layer& layer, const Rect& texels) {
+    layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
+        auto& tile = layer.writable(index);
         for (int y = part.y; y < part.bottom(); ++y) {
             std::uint16_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
             std::transform(row, row + std::ptrdiff_t{4} * part.width, row, [](std::uint32_t value) {
@@ -189,27 +211,55 @@ void SmudgePainter<Channel>::round(const Rect& texels) {
     });
 }
 
-// The pixels of a row, wherever their tiles lie.
+// In its tile, where that can be, else copied.
 template <typename Channel>
-void SmudgePainter<Channel>::takePicture(int y, const Rect& pixels, Channel* row) const {
-    _picture.forEachIn({pixels.x, y, pixels.width, 1}, [&](std::size_t index, const Rect& part) {
+SmudgePart<Channel> SmudgePainter<Channel>::takePicture(const Rect& pixels) {
+    static const Tile<Channel> kTransparent;
+    const auto tileOf = [this](std::size_t index) {
         const auto* tile = _picture.tile(index);
-        Channel* const to = row + std::ptrdiff_t{4} * (part.x - pixels.x);
-        const auto bytes = static_cast<std::size_t>(part.width) * 4 * sizeof(Channel);
-        tile != nullptr ? std::memcpy(to, tile->at(part.x % kTileSide, y % kTileSide), bytes)
-                        : std::memset(to, 0, bytes);
+        return tile != nullptr ? tile : &kTransparent;
+    };
+    const Size size{pixels.width, pixels.height};
+    if (isReadInTile(pixels)) {
+        const auto* tile = tileOf(_picture.indexAt(pixels.x, pixels.y));
+        return {tile->at(pixels.x % kTileSide, pixels.y % kTileSide), size, kTileSide * 4};
+    }
+    _pixels.resize(static_cast<std::size_t>(pixels.area()) * 4 + kSpareValues);
+    constexpr int kBytes = 4 * sizeof(Channel);
+    const auto copy =
+        MutablePixelView::topRowFirst(reinterpret_cast<std::uint8_t*>(_pixels.data()), size, kBytes);
+    _picture.forEachIn(pixels, [&](std::size_t index, const Rect& part) {
+        const Rect at{part.x - pixels.x, part.y - pixels.y, part.width, part.height};
+        const auto* from = tileOf(index)->at(part.x % kTileSide, part.y % kTileSide);
+        copyRows({reinterpret_cast<const std::uint8_t*>(from),
+                  {part.width, part.height},
+                  kTileSide * kBytes,
+                  kBytes},
+                 copy.part(at));
     });
+    return {_pixels.data(), size, std::ptrdiff_t{4} * size.width};
 }
 
 template <typename Channel>
 void SmudgePainter<Channel>::take(const Layer& from, const Rect& rect, Texels& to) {
+    if (!isReadInTile(rect)) {
+        return copy(from, rect, to);
+    }
+    const auto* values = from.tile(from.indexAt(rect.x, rect.y))->at(rect.x % kTileSide, rect.y % kTileSide);
     to.rect = rect;
-    to.values.resize(static_cast<std::size_t>(rect.area()) * 4 + kSpareValues);
+    to.view = {reinterpret_cast<const std::int16_t*>(values), {rect.width, rect.height}, kTileSide * 4};
+}
+
+template <typename Channel>
+void SmudgePainter<Channel>::copy(const Layer& from, const Rect& rect, Texels& to) {
+    to.rect = rect;
+    to.copied.resize(static_cast<std::size_t>(rect.area()) * 4 + kSpareValues);
+    to.view = {to.copied.data(), {rect.width, rect.height}, std::ptrdiff_t{4} * rect.width};
     from.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         const auto* tile = from.tile(index);
         for (int y = part.y; tile != nullptr && y < part.bottom(); ++y) {
             const std::ptrdiff_t first = std::ptrdiff_t{y - rect.y} * rect.width + part.x - rect.x;
-            std::memcpy(to.values.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
+            std::memcpy(to.copied.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
                         static_cast<std::size_t>(part.width) * 8);
         }
     });
@@ -228,38 +278,59 @@ Dab SmudgePainter<Channel>::inLayer(const Dab& dab) const {
 }
 
 template <typename Channel>
-Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load,
-                                    std::uint64_t count, std::vector<Dab>& coverage) {
+Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
     const DabStyle plain{.tips = style.tips, .paper = {}};
+    const std::uint64_t first = _count;
     Rect touched;
+    _coverage.clear();
     for (const SmudgeDab& smudge : dabs) {
         const Mixture mixture(smudge, load);
         Exchange exchange(*this, smudge, mixture);
         Dab dab = inLayer(smudge.dab);
         dab.flow = std::min(dab.flow, 1.0f) * mixture.exchanged;
-        const Rect texels = _painter.draw(_layer, dab, plain, count++, exchange);
+        const Rect texels = _painter.draw(_layer, dab, plain, _count++, exchange);
         if (texels.isEmpty()) {
             continue;
         }
         if (_layerDepth == 8) {
-            round(texels);
+            round(_layer, texels);
         }
         // Each texel reaches as far as the next ones.
         touched =
             touched.united(Rect::covering((texels.x - 1) / _scaleX, (texels.y - 1) / _scaleY,
                                           (texels.right() + 1) / _scaleX, (texels.bottom() + 1) / _scaleY));
-        coverage.push_back(smudge.dab);
-        coverage.back().flow *= smudge.exchange;
-        coverage.back().color = {0, 0, 0};
+        _coverage.push_back(smudge.dab);
+        _coverage.back().flow *= smudge.exchange;
     }
+    _holds = _holds.united(_painter.draw(_exchanged, _coverage, plain, first));
     return touched.intersected(Rect::of(_size));
+}
+
+template <typename Channel>
+void SmudgePainter<Channel>::clearExchanged(const Rect& rect) {
+    const bool all = rect.contains(_holds);
+    _exchanged.forEachIn(rect.intersected(_holds), [&](std::size_t index, const Rect& part) {
+        if (all || part == _exchanged.rectOf(index)) {
+            return _exchanged.drop(index);
+        }
+        for (int y = part.y; _exchanged.tile(index) != nullptr && y < part.bottom(); ++y) {
+            for (int x = part.x; x < part.right(); ++x) {
+                const int at = pairedPlace(x % kTileSide, y % kTileSide);
+                _exchanged.writable(index).values[static_cast<std::size_t>(at)] = 0;
+            }
+        }
+    });
+    if (all) {
+        _holds = {};
+        _count = 0;
+    }
 }
 
 // ---- The picture
 
 template <typename Channel>
-void SmudgePainter<Channel>::composite(Tile<Channel>& picture, const Tile<Channel>* background,
-                                       const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
+void SmudgePainter<Channel>::composite(std::size_t index, const Rect& part, Tile<Channel>& picture,
+                                       const Tile<Channel>* background, float opacity,
                                        const RowNoise& noise) {
     static const Tile<Channel> kTransparent;
     constexpr int kTogether = 8;  // columns, as vectors have pixels at most
@@ -276,10 +347,10 @@ void SmudgePainter<Channel>::composite(Tile<Channel>& picture, const Tile<Channe
     putSmudges(
         PutSmudges<Channel>{.picture = picture.values.data(),
                             .background = (background != nullptr ? background : &kTransparent)->values.data(),
-                            .exchanged = exchanged.values.data(),
+                            .exchanged = _exchanged.tile(index)->values.data(),
                             .part = {part.x - left, part.y - top, part.width, part.height},
-                            .now = _picked.view(),
-                            .then = _old.view(),
+                            .now = _picked.view,
+                            .then = _old.view,
                             .across = stepsFrom(place(left, _scaleX) - texels.x, _scaleX),
                             .down = stepsFrom(place(top, _scaleY) - texels.y, _scaleY),
                             .opacity = wordOf(opacity),

@@ -6,13 +6,12 @@
 #include <cstring>
 
 #include "Processor/BlendRows.h"
+#include "Processor/Tiles.h"
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Processor/SmudgeRows.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
-
-#include "Surface/TileSet.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace dabcanvas {
@@ -34,6 +33,7 @@ constexpr Bytes kBytes;
 constexpr Unsigned kUnsigned;
 constexpr Pixels kPixels;
 constexpr std::size_t kMostLanes = hn::MaxLanes(kPixels);
+constexpr int kMostMixed = 2 * kTileSide;  // texels of a row
 
 HWY_INLINE int lanes() {
     return static_cast<int>(hn::Lanes(kPixels));
@@ -60,6 +60,7 @@ HWY_INLINE std::int16_t partOf(std::int64_t place) {
 HWY_INLINE int wholeOf(std::int64_t place) {
     return static_cast<int>(place >> 16);
 }
+// A picture's own values, and such of full scale 65535.
 HWY_INLINE UnsignedWord loaded(const std::uint8_t* values) {
     return hn::PromoteTo(kUnsigned, hn::LoadU(kBytes, values));
 }
@@ -72,26 +73,26 @@ HWY_INLINE void store(UnsignedWord values, std::uint8_t* to) {
 HWY_INLINE void store(UnsignedWord values, std::uint16_t* to) {
     hn::StoreU(values, kUnsigned, to);
 }
-// Of all full scale, in words.
-HWY_INLINE Word inWords(const std::uint8_t* values) {
-    const UnsignedWord narrow = loaded(values);
-    return hn::BitCast(kWords, hn::ShiftRight<1>(hn::Or(narrow, hn::ShiftLeft<8>(narrow))));
+HWY_INLINE UnsignedWord widened(const std::uint8_t* bytes) {
+    const UnsignedWord narrow = loaded(bytes);
+    return hn::Or(narrow, hn::ShiftLeft<8>(narrow));
 }
-HWY_INLINE Word inWords(const std::uint16_t* values) {
-    return hn::BitCast(kWords, hn::ShiftRight<1>(loaded(values)));
+HWY_INLINE UnsignedWord widened(const std::uint16_t* values) {
+    return loaded(values);
+}
+HWY_INLINE Word halfOf(UnsignedWord value) {
+    return hn::BitCast(kWords, hn::ShiftRight<1>(value));
+}
+
+HWY_INLINE Word wordsAt(const std::int16_t* values) {
+    return hn::LoadU(kWords, values);
+}
+template <typename Channel>
+HWY_INLINE Word wordsAt(const Channel* values) {
+    return halfOf(widened(values));
 }
 
 // ---- Between texels
-
-// A row between two, of so many values and a few more.
-HWY_INLINE void mixRows(const std::int16_t* upper, const std::int16_t* lower, std::int16_t part, int values,
-                        std::int16_t* to) {
-    const Word lowers = hn::Set(kWords, part);
-    for (int i = 0; i < values; i += static_cast<int>(hn::Lanes(kWords))) {
-        hn::StoreU(between(hn::LoadU(kWords, upper + i), hn::LoadU(kWords, lower + i), lowers), kWords,
-                   to + i);
-    }
-}
 
 // Which texels of a row lie around each of a vector of pixels.
 class Neighbours {
@@ -112,17 +113,21 @@ public:
         _base = wholeOf(steps.at(i));
         const int last = wholeOf(steps.at(i + std::min(count, lanes()) - 1));
         const bool isInside = _base >= 0 && last + 1 < texels && steps.step >= 0;
-        if (isInside && wholeOf(first + steps.step * most) <= most) {
-            _kind = Kind::near;
-            _indices = hn::IndicesFromVec(kPixels, hn::ShiftRight<16>(place));
+        const int farthest = wholeOf(first + steps.step * most);
+        if (isInside && farthest <= most) {
+            _kind = farthest < most ? Kind::nearer : Kind::near;
+            const Pixel low = hn::ShiftRight<16>(place);
+            _low = hn::IndicesFromVec(kPixels, low);
+            _high = hn::IndicesFromVec(
+                kPixels, farthest < most ? hn::Add(low, hn::Set(kPixels, std::uint64_t{1})) : low);
         } else if (isInside && steps.step == 2 << 16) {
             _kind = Kind::pairs;
         } else {
             _kind = Kind::far;
             for (int lane = 0; lane < lanes(); ++lane) {
                 const int low = wholeOf(steps.at(i + lane));
-                _low[lane] = std::clamp(low, 0, texels - 1);
-                _high[lane] = std::clamp(low + 1, 0, texels - 1);
+                _lows[lane] = std::clamp(low, 0, texels - 1);
+                _highs[lane] = std::clamp(low + 1, 0, texels - 1);
             }
         }
     }
@@ -130,7 +135,7 @@ public:
     // What a row of texels has at the pixels.
     HWY_INLINE Word in(const std::int16_t* row) const {
         if (_kind == Kind::far) {
-            return between(picked(row, _low), picked(row, _high), _part);
+            return between(picked(row, _lows), picked(row, _highs), _part);
         }
         const std::int16_t* const from = row + std::ptrdiff_t{4} * _base;
         const Pixel one = pixels(from);
@@ -139,13 +144,15 @@ public:
             return between(hn::BitCast(kWords, hn::ConcatEven(kPixels, two, one)),
                            hn::BitCast(kWords, hn::ConcatOdd(kPixels, two, one)), _part);
         }
-        return between(hn::BitCast(kWords, hn::TableLookupLanes(one, _indices)),
-                       hn::BitCast(kWords, hn::TableLookupLanes(pixels(from + 4), _indices)), _part);
+        const Pixel next = _kind == Kind::nearer ? one : pixels(from + 4);
+        return between(hn::BitCast(kWords, hn::TableLookupLanes(one, _low)),
+                       hn::BitCast(kWords, hn::TableLookupLanes(next, _high)), _part);
     }
 
 private:
     using Pixel = hn::Vec<Pixels>;
-    enum class Kind : std::uint8_t { near, pairs, far };
+    // Among as many texels as there are lanes, both or each of the two; one after another; or anywhere.
+    enum class Kind : std::uint8_t { nearer, near, pairs, far };
 
     static HWY_INLINE Pixel pixels(const std::int16_t* values) {
         return hn::BitCast(kPixels, hn::LoadU(kWords, values));
@@ -158,11 +165,11 @@ private:
         return hn::Load(kWords, values);
     }
 
-    decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _indices;
+    decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _low, _high;
     Word _part;
     int _base;
     Kind _kind;
-    int _low[kMostLanes], _high[kMostLanes];
+    int _lows[kMostLanes], _highs[kMostLanes];
 };
 
 // Those of all columns of a part that are drawn.
@@ -180,50 +187,110 @@ private:
     Neighbours _around[kTileSide / 2];
 };
 
-// Rows of texels mixed as a part's rows lie between them.
+// Rows of texels mixed as a part's rows lie between them. Several are made before the first is read: what was stored a moment
+// ago is slow to load.
+constexpr int kRowsAhead = 8;
+
+template <typename Channel>
 class MixedRows {
 public:
-    HWY_INLINE explicit MixedRows(const SmudgeTexels& texels) : _texels(&texels) {}
+    HWY_INLINE explicit MixedRows(const SmudgePart<Channel>& texels) : _texels(&texels) {}
 
-    // Columns `first` up to `end` at a height; the row that stands for column 0, of which the others hold nothing.
-    HWY_INLINE const std::int16_t* at(std::int64_t place, int first, int end) {
-        const int upper = wholeOf(place);
-        mixRows(row(upper) + 4 * first, row(upper + 1) + 4 * first, partOf(place), 4 * (end - first), _row);
-        return _row - 4 * first;
+    // Columns `first` up to `end` of the i-th row, at a height.
+    HWY_INLINE void make(int i, std::int64_t place, int first, int end) {
+        const Channel* const upper = row(wholeOf(place)) + std::ptrdiff_t{4} * first;
+        const Channel* const lower = row(wholeOf(place) + 1) + std::ptrdiff_t{4} * first;
+        const Word part = hn::Set(kWords, partOf(place));
+        for (int value = 0; value < 4 * (end - first); value += static_cast<int>(hn::Lanes(kWords))) {
+            hn::Store(between(wordsAt(upper + value), wordsAt(lower + value), part), kWords,
+                      _rows[i] + value);
+        }
+        _firsts[i] = first;
     }
-    HWY_INLINE const std::int16_t* row(int y) const {
-        return _texels->values +
-               std::ptrdiff_t{4} * _texels->size.width * std::clamp(y, 0, _texels->size.height - 1);
+    // Where column 0 would stand.
+    HWY_INLINE const std::int16_t* made(int i) const { return _rows[i] - 4 * _firsts[i]; }
+    HWY_INLINE const Channel* row(int y) const {
+        return _texels->values + _texels->stride * std::clamp(y, 0, _texels->size.height - 1);
     }
 
 private:
-    const SmudgeTexels* _texels;
-    HWY_ALIGN std::int16_t _row[kMostReduced * 4 + kSpareValues];
+    static constexpr int kValues = kMostMixed * 4 + static_cast<int>(kSpareValues);
+
+    const SmudgePart<Channel>* _texels;
+    int _firsts[kRowsAhead];
+    HWY_ALIGN std::int16_t _rows[kRowsAhead][kValues];
 };
 
 }  // namespace
 
 // ---- The layer
 
-template <typename Channel>
-HWY_INLINE void reduce(const ReducedRow<Channel>& row) {
-    HWY_ALIGN std::int16_t mixed[kMostReduced * 4 + kSpareValues];
-    const Word lower = hn::Set(kWords, partOf(row.at));
-    for (int i = 0; i < 4 * row.pixels; i += static_cast<int>(hn::Lanes(kWords))) {
-        hn::Store(between(inWords(row.upper + i), inWords(row.lower + i), lower), kWords, mixed + i);
+namespace {
+
+// Columns of a part's texels that so many pixels lie between.
+struct ColumnRange {
+    int first, end;
+
+    HWY_INLINE ColumnRange(const Steps& across, int pixels, int columns) {
+        const int one = wholeOf(across.start), other = wholeOf(across.at(pixels - 1));
+        first = std::clamp(std::min(one, other), 0, columns - 1);
+        end = std::clamp(std::max(one, other) + 2, first + 1, columns);
     }
-    for (int x = 0; x < row.count; x += lanes()) {
-        Neighbours around;
-        around.find(row.across, x, row.count - x, row.pixels);
-        hn::StoreU(around.in(mixed), kWords, row.to + 4 * x);
+};
+
+// Calls put(Word value, int x, int y) for the pixels from x on of each row of a part.
+template <typename Channel, typename Put>
+HWY_INLINE void forEachBetween(const SmudgePart<Channel>& from, const Steps& across, const Steps& down,
+                               const Size& size, const ColumnRange& range, Put&& put) {
+    const Columns around(across, 0, size.width, from.size.width);
+    MixedRows<Channel> rows(from);
+    for (int top = 0; top < size.height; top += kRowsAhead) {
+        const int some = std::min(kRowsAhead, size.height - top);
+        for (int i = 0; i < some; ++i) {
+            rows.make(i, down.at(top + i), range.first, range.end);
+        }
+        for (int i = 0; i < some; ++i) {
+            for (int x = 0; x < size.width; x += lanes()) {
+                put(around.from(x).in(rows.made(i)), x, top + i);
+            }
+        }
     }
 }
 
-void ReduceRow8(const ReducedRow<std::uint8_t>& row) {
-    reduce(row);
+// The same of columns so far apart that rows of them are longer than there is room for: of a large place for a small dab.
+template <typename Put>
+HWY_INLINE void forEachFar(const SmudgeTexels& from, const Steps& across, const Steps& down, const Size& size,
+                           Put&& put) {
+    const Columns around(across, 0, size.width, from.size.width);
+    const MixedRows<std::int16_t> rows(from);
+    for (int y = 0; y < size.height; ++y) {
+        const int upper = wholeOf(down.at(y));
+        const Word part = hn::Set(kWords, partOf(down.at(y)));
+        for (int x = 0; x < size.width; x += lanes()) {
+            const Neighbours& pixels = around.from(x);
+            put(between(pixels.in(rows.row(upper)), pixels.in(rows.row(upper + 1)), part), x, y);
+        }
+    }
 }
-void ReduceRow16(const ReducedRow<std::uint16_t>& row) {
-    reduce(row);
+
+template <typename Channel>
+HWY_INLINE void reducePart(const ReducedPart<Channel>& part) {
+    const ColumnRange range(part.across, part.size.width, part.from.size.width);
+    forEachBetween(part.from, part.across, part.down, part.size, range,
+                   [&](Word value, int x, int y) HWY_ATTR {
+                       const std::ptrdiff_t at = (y * kTileSide + x) * 4;
+                       hn::StoreU(value, kWords, part.to + at);
+                       hn::StoreU(value, kWords, part.toToo + at);
+                   });
+}
+
+}  // namespace
+
+void Reduce8(const ReducedPart<std::uint8_t>& part) {
+    reducePart(part);
+}
+void Reduce16(const ReducedPart<std::uint16_t>& part) {
+    reducePart(part);
 }
 
 void PickUp(const PickedUp& part) {
@@ -231,26 +298,15 @@ void PickUp(const PickedUp& part) {
     std::memcpy(&four, part.colour.data(), sizeof(four));
     const Word colour = hn::BitCast(kWords, hn::Set(kPixels, four));
     const Word colourPart = hn::Set(kWords, part.colourPart);
-    const int columns = part.from.size.width;
-    const int one = wholeOf(part.across.start), other = wholeOf(part.across.at(part.size.width - 1));
-    const int first = std::clamp(std::min(one, other), 0, columns - 1);
-    const int end = std::clamp(std::max(one, other) + 2, first + 1, columns);
-    const Columns around(part.across, 0, part.size.width, columns);
-    MixedRows rows(part.from);
-    const bool isWide = end - first > kMostReduced;  // of a large place for a small dab
-    for (int y = 0; y < part.size.height; ++y) {
-        const std::int64_t down = part.down.at(y);
-        const std::int16_t* const row = isWide ? nullptr : rows.at(down, first, end);
-        const auto pickedBy = [&](const Neighbours& pixels) HWY_ATTR {
-            return isWide ? between(pixels.in(rows.row(wholeOf(down))),
-                                    pixels.in(rows.row(wholeOf(down) + 1)), hn::Set(kWords, partOf(down)))
-                          : pixels.in(row);
-        };
-        std::uint16_t* const to = part.to + y * kTileSide * 4;
-        for (int x = 0; x < part.size.width; x += lanes()) {
-            const Word picked = pickedBy(around.from(x));
-            hn::StoreU(hn::BitCast(kUnsigned, between(picked, colour, colourPart)), kUnsigned, to + 4 * x);
-        }
+    const auto put = [&](Word picked, int x, int y) HWY_ATTR {
+        hn::StoreU(hn::BitCast(kUnsigned, between(picked, colour, colourPart)), kUnsigned,
+                   part.to + (y * kTileSide + x) * 4);
+    };
+    const ColumnRange range(part.across, part.size.width, part.from.size.width);
+    if (range.end - range.first > kMostMixed) {
+        forEachFar(part.from, part.across, part.down, part.size, put);
+    } else {
+        forEachBetween(part.from, part.across, part.down, part.size, range, put);
     }
 }
 
@@ -283,117 +339,152 @@ HWY_INLINE Word brought(Word now, Word then, Word share) {
     return hn::Min(value, alphaOf(value));
 }
 
-// Background and change, of 255 and 8 bits behind the point, rounded.
-HWY_INLINE UnsignedWord rounded(const std::uint8_t* background, Word change, UnsignedWord noise) {
-    constexpr int kOf128 = 254;  // 2 - 254 / 32768 is what a unit comes to
-    const Word size = hn::Abs(change);
-    const Word less = hn::MulFixedPoint15(size, hn::Set(kWords, kOf128));
-    const UnsignedWord by = hn::BitCast(kUnsigned, hn::Sub(hn::Add(size, size), less));
-    const UnsignedWord back =
-        hn::Add(hn::ShiftLeft<8>(hn::PromoteTo(kUnsigned, hn::LoadU(kBytes, background))), noise);
-    const auto isLess = hn::RebindMask(kUnsigned, hn::Lt(change, hn::Zero(kWords)));
-    const UnsignedWord sum = hn::IfThenElse(isLess, hn::SaturatedSub(back, by), hn::SaturatedAdd(back, by));
-    return hn::ShiftRight<8>(hn::Min(sum, alphaOf(sum)));
+// Background and change, of full scale 65535.
+HWY_INLINE UnsignedWord changed(UnsignedWord background, Word change) {
+    const UnsignedWord sign = hn::Set(kUnsigned, 0x8000);
+    const Word back = hn::BitCast(kWords, hn::Xor(background, sign));
+    const Word both = hn::SaturatedAdd(hn::SaturatedAdd(back, change), change);
+    return hn::Xor(hn::BitCast(kUnsigned, both), sign);
 }
-
-// The same of 65535, which loses no more than a word's last bit.
-HWY_INLINE UnsignedWord rounded(const std::uint16_t* background, Word change, UnsignedWord) {
-    const UnsignedWord size = hn::BitCast(kUnsigned, hn::Abs(change));
-    const UnsignedWord by = hn::Add(hn::Add(size, size), hn::ShiftRight<14>(size));
-    const UnsignedWord back = loaded(background);
-    const auto isLess = hn::RebindMask(kUnsigned, hn::Lt(change, hn::Zero(kWords)));
-    const UnsignedWord sum = hn::IfThenElse(isLess, hn::SaturatedSub(back, by), hn::SaturatedAdd(back, by));
+// As a picture has it; one of 16 bits has no need of noise.
+HWY_INLINE UnsignedWord rounded(UnsignedWord sum, UnsignedWord noise, std::uint8_t) {
+    const UnsignedWord up = hn::Add(hn::Sub(sum, hn::ShiftRight<8>(sum)), noise);
+    return hn::ShiftRight<8>(hn::Min(up, alphaOf(up)));
+}
+HWY_INLINE UnsignedWord rounded(UnsignedWord sum, UnsignedWord, std::uint16_t) {
     return hn::Min(sum, alphaOf(sum));
 }
 
-// One row of a part.
+// The rows of a part, one after another.
 template <typename Channel>
-class SmudgedRow {
+class SmudgedRows {
 public:
-    HWY_INLINE SmudgedRow(const PutSmudges<Channel>& part, int y)
+    HWY_INLINE explicit SmudgedRows(const PutSmudges<Channel>& part)
         : _part(&part),
-          _exchanged(part.exchanged + y * kTileSide * 4),
-          _first(part.part.x),
-          _end(part.part.right()) {
-        // The pixels between those at both ends that no dab exchanged.
-        while (_first < _end && _exchanged[4 * _first + 3] == 0) {
-            ++_first;
-        }
-        while (_first < _end && _exchanged[4 * _end - 1] == 0) {
-            --_end;
+          _around(part.across, part.part.x, part.part.right(), part.now.size.width),
+          _nows(part.now),
+          _thens(part.then),
+          _opacity(hn::Set(kWords, part.opacity)),
+          _twice(hn::IndicesFromVec(kPixels, hn::ShiftRight<1>(hn::Iota(kPixels, 0)))) {
+        const auto steps = hn::Mul(hn::ShiftRight<2>(hn::Iota(kUnsigned, 0)),
+                                   hn::Set(kUnsigned, static_cast<std::uint16_t>(part.noise.along)));
+        const auto pixel = [](int i) HWY_ATTR { return hn::Set(kWords, static_cast<std::int16_t>(4 * i)); };
+        for (int x = part.part.x / lanes() * lanes(); x < part.part.right(); x += lanes()) {
+            const Word value = hn::Add(hn::Iota(kWords, 0), pixel(x));
+            const auto isBefore = hn::Lt(value, pixel(part.part.x));
+            const auto isIn = hn::AndNot(isBefore, hn::Lt(value, pixel(part.part.right())));
+            _isIn[x / lanes()] = hn::BitCast(kUnsigned, hn::VecFromMask(kWords, isIn));
+            const auto start = static_cast<std::uint16_t>(part.noise.first +
+                                                          static_cast<std::uint32_t>(x) * part.noise.along);
+            _noise[x / lanes()] = hn::Add(hn::Set(kUnsigned, start), steps);
         }
     }
 
-    HWY_INLINE void put(int y, const Columns& around, MixedRows& nows, MixedRows& thens) const {
-        const PutSmudges<Channel>& part = *_part;
-        if (_first >= _end) {
-            return;
+    // From row y on, up to kRowsAhead of them.
+    HWY_INLINE void put(int y, int rows) {
+        Span spans[kRowsAhead];
+        for (int i = 0; i < rows; ++i) {
+            spans[i] = spanOf(y + i);
+            if (spans[i].first < spans[i].end) {
+                mix(i, y + i, spans[i]);
+            }
         }
-        const int texels = part.now.size.width;
-        const int first = std::clamp(wholeOf(part.across.at(_first / lanes() * lanes())), 0, texels - 1);
-        const int end = std::clamp(wholeOf(part.across.at(_end - 1)) + 2, first + 1, texels);
-        const std::int64_t down = part.down.at(y);
-        const std::int16_t* const now = nows.at(down, first, end);
-        const std::int16_t* const then = thens.at(down, first, end);
-        const Word opacity = hn::Set(kWords, part.opacity);
-        for (int x = _first / lanes() * lanes(); x < _end; x += lanes()) {
-            const std::ptrdiff_t at = (y * kTileSide + x) * 4;
-            const UnsignedWord exchanged = alphaOf(hn::LoadU(kUnsigned, _exchanged + 4 * x));
-            const auto isPut =
-                hn::AndNot(hn::Eq(exchanged, hn::Zero(kUnsigned)), hn::RebindMask(kUnsigned, isIn(x)));
-            if (hn::AllFalse(kUnsigned, isPut)) {
-                continue;
+        for (int i = 0; i < rows; ++i) {
+            for (int x = spans[i].first; x < spans[i].end; x += lanes()) {
+                putVector(x, y + i, _nows.made(i), _thens.made(i));
             }
-            const Word share = hn::BitCast(kWords, hn::ShiftRight<1>(exchanged));
-            const Word came = brought(around.from(x).in(now), around.from(x).in(then), share);
-            Word change = hn::Sub(came, hn::MulFixedPoint15(inWords(part.background + at), share));
-            if (part.opacity != kSmudgeFull) {
-                change = hn::MulFixedPoint15(change, opacity);
-            }
-            const UnsignedWord put = rounded(part.background + at, change, noise(x, y));
-            store(hn::IfThenElse(isPut, put, loaded(part.picture + at)), part.picture + at);
         }
     }
 
 private:
-    HWY_INLINE hn::Mask<Words> isIn(int x) const {
-        const auto pixel = [](int i) { return hn::Set(kWords, static_cast<std::int16_t>(4 * i)); };
-        const Word value = hn::Add(hn::Iota(kWords, 0), pixel(x));
-        return hn::AndNot(hn::Lt(value, pixel(_first)), hn::Lt(value, pixel(_end)));
+    struct Span {
+        int first, end;
+    };
+    // The vectors between those at both ends of which no dab exchanged a pixel.
+    HWY_INLINE Span spanOf(int y) const {
+        Span span{_part->part.x / lanes() * lanes(), _part->part.right()};
+        while (span.first < span.end && isBare(span.first, y)) {
+            span.first += lanes();
+        }
+        while (span.first < span.end && isBare((span.end - 1) / lanes() * lanes(), y)) {
+            span.end = (span.end - 1) / lanes() * lanes();
+        }
+        return span;
     }
-    // Less at both ends, so that what is out by a unit stays what it is.
+    HWY_INLINE void mix(int i, int y, const Span& span) {
+        const Steps& across = _part->across;
+        const int texels = _part->now.size.width;
+        const int first = std::clamp(wholeOf(across.at(span.first)), 0, texels - 1);
+        const int end = std::clamp(wholeOf(across.at(span.end - 1)) + 2, first + 1, texels);
+        const std::int64_t down = _part->down.at(y);
+        _nows.make(i, down, first, end);
+        _thens.make(i, down, first, end);
+    }
+
+    // In all channels; 0 of pixels that are not of the part.
+    HWY_INLINE UnsignedWord exchanged(int x, int y) const {
+        // Two pixels of both rows are as long as one of all channels.
+        alignas(16) static constexpr std::uint8_t kUpper[16] = {0, 1, 0, 1, 0, 1, 0, 1,
+                                                                2, 3, 2, 3, 2, 3, 2, 3};
+        alignas(16) static constexpr std::uint8_t kLower[16] = {4, 5, 4, 5, 4, 5, 4, 5,
+                                                                6, 7, 6, 7, 6, 7, 6, 7};
+        const hn::Half<Pixels> half;
+        const hn::Repartition<std::uint16_t, hn::Half<Pixels>> words;
+        const auto both = hn::BitCast(half, hn::LoadU(words, _part->exchanged + pairedPlace(x, y / 2 * 2)));
+        const auto each = hn::TableLookupLanes(hn::ZeroExtendVector(kPixels, both), _twice);
+        const auto row = spread(hn::BitCast(kUnsigned, each), y % 2 == 0 ? kUpper : kLower);
+        return hn::And(row, _isIn[x / lanes()]);
+    }
+    HWY_INLINE bool isBare(int x, int y) const {
+        return hn::AllTrue(kUnsigned, hn::Eq(exchanged(x, y), hn::Zero(kUnsigned)));
+    }
+
+    HWY_INLINE void putVector(int x, int y, const std::int16_t* now, const std::int16_t* then) const {
+        const std::ptrdiff_t at = (y * kTileSide + x) * 4;
+        const UnsignedWord background = widened(_part->background + at);
+        const Neighbours& around = _around.from(x);
+        const UnsignedWord alpha = exchanged(x, y);
+        const Word share = hn::BitCast(kWords, hn::ShiftRight<1>(alpha));
+        const Word came = brought(around.in(now), around.in(then), share);
+        Word change = hn::Sub(came, hn::MulFixedPoint15(halfOf(background), share));
+        if (_part->opacity != kSmudgeFull) {
+            change = hn::MulFixedPoint15(change, _opacity);
+        }
+        Channel* const picture = _part->picture + at;
+        const UnsignedWord put = rounded(changed(background, change), noise(x, y), Channel{});
+        store(hn::IfThenElse(hn::Eq(alpha, hn::Zero(kUnsigned)), loaded(picture), put), picture);
+    }
+
+    // Nothing at both ends of 0..255, so that what is out by a unit stays what it is.
     HWY_INLINE UnsignedWord noise(int x, int y) const {
-        const RowNoise& noise = _part->noise;
-        const std::uint32_t start = noise.first + static_cast<std::uint32_t>(x) * noise.along +
-                                    static_cast<std::uint32_t>(y) * noise.down;
-        const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kUnsigned, 0)),
-                                    hn::Set(kUnsigned, static_cast<std::uint16_t>(noise.along)));
-        const auto turn = hn::And(hn::Add(places, hn::Set(kUnsigned, static_cast<std::uint16_t>(start))),
-                                  hn::Set(kUnsigned, 255));
-        return hn::Add(hn::Sub(turn, hn::ShiftRight<6>(turn)), hn::Set(kUnsigned, 1));
+        const auto down = static_cast<std::uint16_t>(static_cast<std::uint32_t>(y) * _part->noise.down);
+        const UnsignedWord turn = hn::Add(_noise[x / lanes()], hn::Set(kUnsigned, down));
+        return hn::OrAnd(hn::Set(kUnsigned, 1), turn, hn::Set(kUnsigned, 252));
     }
 
     const PutSmudges<Channel>* _part;
-    const std::uint16_t* _exchanged;
-    int _first, _end;
+    Columns _around;
+    MixedRows<std::int16_t> _nows, _thens;
+    Word _opacity;
+    decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _twice;
+    UnsignedWord _isIn[kTileSide / 2], _noise[kTileSide / 2];
 };
 
 template <typename Channel>
-HWY_INLINE void put(const PutSmudges<Channel>& part) {
-    const Columns around(part.across, part.part.x, part.part.right(), part.now.size.width);
-    MixedRows nows(part.now), thens(part.then);
-    for (int y = part.part.y; y < part.part.bottom(); ++y) {
-        SmudgedRow<Channel>(part, y).put(y, around, nows, thens);
+HWY_INLINE void putPart(const PutSmudges<Channel>& part) {
+    SmudgedRows<Channel> rows(part);
+    for (int y = part.part.y; y < part.part.bottom(); y += kRowsAhead) {
+        rows.put(y, std::min(kRowsAhead, part.part.bottom() - y));
     }
 }
 
 }  // namespace
 
 void Put8(const PutSmudges<std::uint8_t>& part) {
-    put(part);
+    putPart(part);
 }
 void Put16(const PutSmudges<std::uint16_t>& part) {
-    put(part);
+    putPart(part);
 }
 
 }  // namespace HWY_NAMESPACE
@@ -403,17 +494,17 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace dabcanvas {
 
-HWY_EXPORT(ReduceRow8);
-HWY_EXPORT(ReduceRow16);
+HWY_EXPORT(Reduce8);
+HWY_EXPORT(Reduce16);
 HWY_EXPORT(PickUp);
 HWY_EXPORT(Put8);
 HWY_EXPORT(Put16);
 
-void reduceRow(const ReducedRow<std::uint8_t>& row) {
-    HWY_DYNAMIC_DISPATCH(ReduceRow8)(row);
+void reduce(const ReducedPart<std::uint8_t>& part) {
+    HWY_DYNAMIC_DISPATCH(Reduce8)(part);
 }
-void reduceRow(const ReducedRow<std::uint16_t>& row) {
-    HWY_DYNAMIC_DISPATCH(ReduceRow16)(row);
+void reduce(const ReducedPart<std::uint16_t>& part) {
+    HWY_DYNAMIC_DISPATCH(Reduce16)(part);
 }
 void pickUp(const PickedUp& part) {
     HWY_DYNAMIC_DISPATCH(PickUp)(part);

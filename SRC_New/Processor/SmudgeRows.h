@@ -27,25 +27,25 @@ struct Steps {
     std::int64_t at(int i) const { return start + step * i; }
 };
 
-// Part of a layer, rows without gaps. Beyond its edges it goes on as it is there.
-struct SmudgeTexels {
-    const std::int16_t* values;
-    Size size;
-};
-
-// Fills a row of a layer with what the two rows of the picture show between which it lies.
+// Part of a layer or a picture. Beyond its edges it goes on as it is there.
 template <typename Channel>
-struct ReducedRow {
-    const Channel *upper, *lower;
-    int pixels;       // of those, up to kMostReduced
-    std::int64_t at;  // between both, 16 bits behind the point
-    Steps across;     // of the texels among the pixels
-    int count;        // texels
-    std::int16_t* to;
+struct SmudgePart {
+    const Channel* values;
+    Size size;
+    std::ptrdiff_t stride;  // values
 };
-inline constexpr int kMostReduced = 256;
-void reduceRow(const ReducedRow<std::uint8_t>& row);
-void reduceRow(const ReducedRow<std::uint16_t>& row);
+using SmudgeTexels = SmudgePart<std::int16_t>;
+
+// Fills a part of a layer with what it shows of a picture, of 8 or 16 bits a channel.
+template <typename Channel>
+struct ReducedPart {
+    SmudgePart<Channel> from;
+    Steps across, down;
+    Size size;                 // of the part; up to kTileSide each way
+    std::int16_t *to, *toToo;  // laid out as tiles; both get the same
+};
+void reduce(const ReducedPart<std::uint8_t>& part);
+void reduce(const ReducedPart<std::uint16_t>& part);
 
 // What a dab's pixels turn into where it covers them wholly: what lies under another place, mixed with a colour.
 struct PickedUp {
@@ -65,7 +65,7 @@ struct PutSmudges {
     // Tiles, of which the rows and columns of `part` count.
     Channel* picture;
     const Channel* background;
-    const std::uint16_t* exchanged;  // alpha counts: how much of each pixel was
+    const std::uint16_t* exchanged;  // how much of each pixel was, laid out as pairedPlace() tells
     Rect part;
     SmudgeTexels now, then;  // what the layer holds and held, equally large
     Steps across, down;      // of the tile's first pixel

@@ -27,7 +27,7 @@ std::vector<Dab> mixedDabs(std::size_t count) {
     std::vector<Dab> dabs;
     for (std::size_t i = 0; i < count; ++i) {
         Dab dab = dabAt(unit() * 720 - 10, unit() * 170 - 10, std::exp2(unit() * 9 - 1));
-        dab.radian = unit() * 7;
+        dab.radian = i % 4 == 0 ? 0 : unit() * 7;
         dab.roundness = i % 3 == 0 ? 0.2f + 0.8f * unit() : 1;
         dab.flow = i % 2 == 0 ? unit() : 0.01f * unit();
         dab.flipX = i % 5 == 0 ? -1.0f : 1.0f;

@@ -8,6 +8,7 @@ int kMain, kSub, kSmudge, kCompositor, kNoRender, kFree, kNoThinDabs, kThinFlow,
     kTingleTableSize;
 int kMostShapePoints, kPosition, kRadian, kFlow, kColor, kNoPressure;
 int packed, unpacked, canPack, ownedData, writeWholeFile, farthestFrom, FileWriter, PathCheck;
+int UndoRecovery, RecoverableHistory;
 int Snapshot, SnapshotStore, BackgroundQueue, TempFolder, Ellipse, Path, Vec2, Canvas, Layer, Brush, Shape,
     Stroke, History;
 int resourcePath, imageNamed, libraryFolder, clearTexture, maxTextureSize, dabOf, isZero, mergeRect, finiteOr;

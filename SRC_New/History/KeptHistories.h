@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// Folders of histories that are to be found again (UndoRecovery.h); nothing for embedders.
+//
+// Thread   any.
+// Errors   null, and why.
+#pragma once
+
+#include <QString>
+#include <memory>
+
+namespace dabcanvas {
+
+class TempFolder;
+
+// A new one. It goes with its owner, unless he leaves it or dies.
+std::unique_ptr<TempFolder> startKeptHistory(QString* problem);
+// One that a dead process left. It is the one used last from now on, by another id.
+std::unique_ptr<TempFolder> claimKeptHistory(const QString& id, QString* problem);
+
+}  // namespace dabcanvas
