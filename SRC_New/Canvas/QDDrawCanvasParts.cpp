@@ -67,8 +67,11 @@ void QDDrawCanvas::Parts::updateBackground(bool isRecorded) {
     const Host::Call call(host);
     settleSketch();
     layers.commit();
-    if (!isRecorded && recognises()) {
-        record.refresh(kBackgroundLine);
+    if (!isRecorded) {
+        if (recognises()) {
+            record.refresh(kBackgroundLine);
+        }
+        history.note();
     }
 }
 
@@ -461,6 +464,22 @@ bool QDDrawCanvas::Parts::refuses(bool hasStep) {
                             : UndoRefusal::none;
     _refusedStep = refusal == UndoRefusal::drawing;
     return refusal != UndoRefusal::none;
+}
+
+bool QDDrawCanvas::Parts::recover(const QString& id, QString* problem) {
+    const Host::Call call(host);
+    if (!finishPreview() || isDrawing() || isLost()) {
+        *problem = QStringLiteral("the canvas cannot take it now");
+        return false;
+    }
+    if (!history.recover(id, problem)) {
+        return false;
+    }
+    host.redisplayAll();
+    if (kind() == StrokeKind::smudge) {
+        prepareSmudge();
+    }
+    return true;
 }
 
 bool QDDrawCanvas::Parts::canUndoAgain() {

@@ -40,6 +40,7 @@ RecordedCanvas::RecordedCanvas(PaintLayers& layers)
 
 void RecordedCanvas::give(const QByteArray& data) {
     become(nullptr);
+    _told = nullptr;
     _bytes = data;
     _isCanvas = false;
     _given = hasCanvasSize();
@@ -50,6 +51,7 @@ bool RecordedCanvas::giveBlank() {
     return withMemory(
         [&] {
             become(std::make_shared<const TilePicture>(_layers.size()));
+            _told = _picture;
             return true;
         },
         false);
@@ -104,8 +106,8 @@ std::optional<RecordedCanvas::Changes> RecordedCanvas::readTiles(const TilePictu
     return read ? std::optional(std::move(changes)) : std::nullopt;
 }
 
-bool RecordedCanvas::read(int line) {
-    const bool done = withMemory(
+bool RecordedCanvas::readCanvas() {
+    return withMemory(
         [&] {
             auto next = std::make_shared<TilePicture>(_picture && _isCanvas ? *_picture
                                                                             : TilePicture(_layers.size()));
@@ -114,17 +116,29 @@ bool RecordedCanvas::read(int line) {
                 next->set(index, tile);
             }
             if (changes) {
-                become(next);
+                become(changes->empty() && _isCanvas && _picture ? _picture : next);
                 _isCanvas = true;
                 _layers.surface().forgetTouched(kPicture);
             }
             return changes.has_value();
         },
         false);
-    if (!done && !_layers.isLost()) {
+}
+
+bool RecordedCanvas::read(int line) {
+    if (readCanvas()) {
+        _told = _picture;
+        _bytes.clear();
+        return true;
+    }
+    if (!_layers.isLost()) {
         tellNoMemory(line);
     }
-    return done;
+    return false;
+}
+
+std::shared_ptr<const TilePicture> RecordedCanvas::present() {
+    return !_given && readCanvas() ? _picture : nullptr;
 }
 
 void RecordedCanvas::refresh(int line) {
@@ -168,7 +182,7 @@ std::optional<Rect> RecordedCanvas::show(const StepPicture& picture, QString* pr
     *problem = QStringLiteral("there is no memory to put a step back");
     return withMemory(
         [&]() -> std::optional<Rect> {
-            if (!read(kRecognitionLine)) {
+            if (!readCanvas()) {
                 return std::nullopt;
             }
             auto tiles = picture.tiles();
@@ -186,6 +200,8 @@ std::optional<Rect> RecordedCanvas::show(const StepPicture& picture, QString* pr
                 return std::nullopt;
             }
             become(std::move(tiles));
+            _told = _picture;
+            _bytes.clear();
             for (const PlacedTile& shown : placed) {
                 if (const TileRef& tile = _picture->at(shown.index)) {
                     TileStore::hold(*tile, shown.tile);
@@ -217,7 +233,6 @@ void RecordedCanvas::become(std::shared_ptr<const TilePicture> picture) {
         }
     }
     _picture = std::move(picture);
-    _bytes.clear();
     _given = false;
     _tiles->compress();
 }
