@@ -21,13 +21,6 @@ void set(QDDrawCanvas& canvas, const Settings& settings) {
     }
 }
 
-QByteArray bytesOf(QDDrawCanvas& canvas) {
-    QByteArray bytes(canvas.image().sizeInBytes(), '\0');
-    const QRectF whole(QPointF(0, 0), canvas.bufferSize());
-    EXPECT_TRUE(canvas.readDataBufferRect(reinterpret_cast<unsigned char*>(bytes.data()), whole));
-    return bytes;
-}
-
 class CanvasRecognitionTest : public CanvasTest {
 protected:
     // A canvas with something on it to lose.

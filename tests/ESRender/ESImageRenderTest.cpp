@@ -18,10 +18,6 @@ protected:
         _render->setSubLineTextureID(_context->subLineTexture(), GL_TEXTURE5);
         _render->setFlipY(true);
     }
-    void TearDown() override {
-        _render.reset();
-        GLTest::TearDown();
-    }
 
     // Copies the canvas into the background and composites one rectangle.
     QImage composite(const QRectF& rect) {

@@ -24,10 +24,6 @@ protected:
         _render->setLoadQuantity(0);
         _render->setSmudgeControl(false);
     }
-    void TearDown() override {
-        _render.reset();
-        GLTest::TearDown();
-    }
 
     // Smudges a layer of distinct pixels and gives it back, upright.
     QImage smudge(const std::vector<LPPoint>& points) {
