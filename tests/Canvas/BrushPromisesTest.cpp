@@ -311,7 +311,7 @@ const Promise kPromises[] = {
     {"pointsDistanceEnabled", "even gaps, whatever the pointer does", false, true,
      [](P l, P m) { return !near(l.marks[9].x() - l.marks[8].x(), 40, 2) && near(m.marks[9].x() - m.marks[8].x(), 40, 1); }},
     {"pointsDistance", "wider gaps, in sizes", 1.5f, 3.0f,
-     [](P l, P m) { return near(l.marks[5].x() - l.marks[4].x(), 24, 1) && near(m.marks[5].x() - m.marks[4].x(), 48, 1); }},
+     [](P l, P m) { return near(l.marks[5].x() - l.marks[4].x(), 24, 1) && near(m.marks[5].x() - m.marks[4].x(), 48, 1) && near(l.marks[0].x(), 44, 1); }},  // the first is left out
     {"smoothEnabled", "corners are cut", false, true,
      [](P l, P m) { return painted(m.image).height() < painted(l.image).height() - 8; }, [](C& c) { whole(c); c.setPointsDistance(0.2f); }, zigzag},
     {"sensitivity", "the same speed counts as slower, and thins less", 20.0f, 200.0f,

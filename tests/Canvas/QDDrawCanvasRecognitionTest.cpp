@@ -266,6 +266,22 @@ TEST_F(CanvasRecognitionTest, WhatHappensInMidStrokeHappensToTheCanvasWithoutThe
     }
 }
 
+TEST_F(CanvasRecognitionTest, SwitchingInMidStrokeLeavesWhatWasDrawn) {
+    QImage pictures[3];
+    for (int before = 0; before < 3; ++before) {  // off all the time, on at first, off at first
+        auto canvas = makePatterned();
+        canvas->setEnableRecogition(before == 1);
+        sketchLine(*canvas);
+        const QImage sketched = canvas->image();
+        canvas->setEnableRecogition(before == 2);
+        endTangled(*canvas);
+        pictures[before] = canvas->image();
+        EXPECT_EQ(pictures[before] == sketched, before == 2);
+        EXPECT_TRUE(canvas->edited());
+    }
+    EXPECT_TRUE(imagesMatch(pictures[1], pictures[0]));
+}
+
 // ---- Shapes drawn
 
 TEST_F(CanvasRecognitionTest, EveryKindIsDrawnAlongItsWholeOutlineAndNowhereElse) {

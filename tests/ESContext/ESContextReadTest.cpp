@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Reading back and mirroring into textures, on odd sizes, where a flip by the wrong height shows.
 #include <cmath>
-#include <vector>
 
 #include "ESContext/ESContext.h"
 #include "support/GLTest.h"

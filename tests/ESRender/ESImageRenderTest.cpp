@@ -15,7 +15,6 @@ protected:
         _render = ESImageRender::initWithBufferSize(QSizeF(width, height));
         ASSERT_TRUE(_render);
         _render->setLineTextureID(_context->lineTexture(), GL_TEXTURE4);
-        _render->setSubLineTextureID(_context->subLineTexture(), GL_TEXTURE5);
         _render->setFlipY(true);
     }
 

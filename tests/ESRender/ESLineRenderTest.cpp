@@ -2,7 +2,6 @@
 #include "ESRender/ESLineRender.h"
 
 #include <cstdlib>
-#include <vector>
 
 #include "support/GLTest.h"
 
@@ -40,10 +39,6 @@ QImage lopsidedTip() {
     fillRect(tip, QRect(2, 2, 26, 6), Qt::black);
     fillRect(tip, QRect(2, 8, 7, 18), Qt::black);
     return tip;
-}
-
-QImage blockTip(int side) {
-    return solidImage({side, side}, Qt::black);
 }
 
 // Placement
@@ -99,7 +94,7 @@ TEST_F(LineRenderTest, AHostsProgramDrawsDabByDab) {
 }
 
 TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
-    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
+    _render->setTextureImage(solidImage({32, 32}, Qt::black), GL_TEXTURE1);
     draw({{{100, 50}, 10, {1, 0, 1}}});
     EXPECT_EQ(_touched, QRectF(94, 44, 12, 12));
     draw({{{2, 3}, 10, {1, 0, 1}}, {{198, 149}, 10, {1, 0, 1}}});
@@ -112,7 +107,7 @@ TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
 
 // Nothing is ever drawn outside the rectangle told, or seams would stay on the canvas.
 TEST_F(LineRenderTest, TheTouchedRectangleHoldsWhatJittersMake) {
-    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
+    _render->setTextureImage(solidImage({32, 32}, Qt::black), GL_TEXTURE1);
     _render->setRadius(20);
     _render->setDistribution(1);
     _render->setDistributionCount(5);
@@ -136,7 +131,7 @@ TEST_F(LineRenderTest, TheTouchedRectangleHoldsWhatJittersMake) {
 }
 
 TEST_F(LineRenderTest, PaperHoldsBackUntilThereIsNone) {
-    _render->setTextureImage(blockTip(128), GL_TEXTURE1);
+    _render->setTextureImage(solidImage({128, 128}, Qt::black), GL_TEXTURE1);
     _render->setMaskImage(solidImage({20, 10}, Qt::black));
     const auto alpha = [&] { return draw({{{64, 64}, 128, {1, 0, 1}}}).pixelColor(15, 7).alpha(); };
     EXPECT_EQ(alpha(), 255) << "not asked for";

@@ -2,7 +2,6 @@
 #include "ESRender/ESSmudgeRender.h"
 
 #include <limits>
-#include <vector>
 
 #include "support/GLTest.h"
 

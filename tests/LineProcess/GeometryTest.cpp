@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <random>
 
 #include "LineProcess/LPArc.h"
 #include "LineProcess/StrokeFixture.h"

@@ -111,6 +111,18 @@ TEST_F(StrokeTest, WithoutSpacingEverySampleGivesOneDabWithTheEndValues) {
 
 // Tapers
 
+TEST_F(StrokeTest, StartTaperGrowsAlongTheStrokeAndThenLetsGo) {
+    _line.startRadius = 0.25f;
+    _line.minRadius = _line.maxRadius = 1.0f;
+    const Dabs dabs = draw({{0, 0}, {100, 0}, {300, 0}, {400, 0}});
+    ASSERT_GT(dabs.size(), 20u);
+    for (const LPPoint& dab : dabs) {
+        const double expected = std::min(20.0, 20.0 * (0.25 + 0.75 * dab.position.x / 100.0));
+        ASSERT_NEAR(dab.radius, expected, 1e-3) << "at " << dab.position.x;
+    }
+    EXPECT_EQ(dabs.front().position.x, 0.0f);
+}
+
 TEST_F(StrokeTest, WithoutATaperLengthTheStartRadiusSeedsTheSpeed) {
     _line.startRadius = 0.5f;
     _line.strokeControlValue = 0.0f;
@@ -155,6 +167,17 @@ TEST_F(StrokeTest, SpeedIsMeasuredOverThisSegmentAndTheOneBefore) {
     move(230, 0);
     move(230, 1);
     EXPECT_EQ(newSegSpeed, 1.0f);  // below a tenth counts as at rest
+}
+
+TEST_F(StrokeTest, JitterStaysBetweenTheFloorAndTheRadius) {
+    _line.minRadius = 0.5f;
+    _line.maxRadius = 1.0f;
+    _line.radiusTingle = 1.0f;
+    const Dabs dabs = draw({{0, 0}, {200, 0}, {400, 0}});
+    const auto [least, most] = std::ranges::minmax(dabs, {}, &LPPoint::radius);
+    EXPECT_GE(least.radius, 10.0f);
+    EXPECT_LE(most.radius, 15.0f);
+    EXPECT_GT(most.radius - least.radius, 1.0f);
 }
 
 // Gathering

@@ -27,7 +27,6 @@ class DrawViewEventsTest : public CanvasTest {
 protected:
     void SetUp() override {
         CanvasTest::SetUp();
-        makeCanvas();  // sets the random numbers' seeds
         view = QDDrawView::initWithFrame(QRectF(40, 30, 200, 150), &window).release();
         ASSERT_NE(view, nullptr);
         view->setHardness(1);
