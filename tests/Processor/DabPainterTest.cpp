@@ -15,11 +15,6 @@ namespace {
 
 constexpr Size kLayer{700, 150};
 
-struct Layer {
-    TileGrid<std::uint16_t> grid{kLayer};
-    DabPainter painter;
-};
-
 // Dabs of all kinds, as many as make threads worth their while.
 std::vector<Dab> mixedDabs(std::size_t count) {
     std::mt19937 random(11);
@@ -67,12 +62,13 @@ TEST(DabPainterTest, GivesTheSameBytesHoweverItIsDone) {
         for (const bool multicolour : {false, true}) {
             const DabStyle style = mixedStyle(paper, multicolour);
             const auto drawn = [&](std::size_t run) {
-                Layer layer;
+                TileGrid<std::uint16_t> layer{kLayer};
+                DabPainter painter;
                 for (std::size_t i = 0; i < dabs.size(); i += run) {
-                    layer.painter.draw(layer.grid, std::span(dabs).subspan(i, std::min(run, dabs.size() - i)),
-                                       style, 1000 + i);
+                    painter.draw(layer, std::span(dabs).subspan(i, std::min(run, dabs.size() - i)), style,
+                                 1000 + i);
                 }
-                return layer.grid;
+                return layer;
             };
             Workers::setMost(1);
             const TileGrid<std::uint16_t> alone = drawn(dabs.size());
