@@ -1,15 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/CanvasHistory.h"
 
+#include <array>
+#include <new>
+#include <utility>
+
 #include "Canvas/CanvasLog.h"
 #include "Canvas/Clock.h"
 #include "History/ImagesUndoManager.h"
+#include "History/MemoryBudget.h"
 
 namespace dabcanvas {
 namespace {
 
 // Of the fixed message
 constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;
+
+// Null without the memory.
+StepPicture blankOf(const Size& size) {
+    try {
+        return StepPicture(std::make_shared<const TilePicture>(size));
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
 
 }  // namespace
 
@@ -21,75 +35,85 @@ CanvasHistory::~CanvasHistory() = default;
 // It begins with the canvas as it was made. That was transparent, so nothing need be read.
 ImagesUndoManager& CanvasHistory::images(bool sketching) {
     if (_images == nullptr) {
-        const QByteArray blank = bytesOf(_record.bytesOfCanvas());
+        _images = ImagesUndoManager::init();
+        _images->keepTilesIn(_record.tiles());
+        _images->setCacheByteBudget(defaultMemoryBudget());
+        _images->setDiskByteBudget(kDefaultDiskBudget);
+        auto blank = blankOf(_layers.size());
         if (blank.isNull()) {
             tellNoMemory(kLoadLine);
-            _images = ImagesUndoManager::init();
         } else {
-            _images = ImagesUndoManager::initWithCurrentImageOfData(blank);
-            _images->resetWithImageDataOfCurrentItem(blank);
+            _images->resetWithPictureOfCurrentItem(blank);
         }
         if (!sketching) {
-            _record.give(blank);
-            _record.takeGiven();
+            _record.giveBlank();
         }
         _images->setFilePathExtension({});  // raw pixels
     }
     return *_images;
 }
 
-QByteArray CanvasHistory::load(bool sketching) {
+StepPicture CanvasHistory::load(bool sketching) {
     images(sketching).setFilePathExtension({});
     markTimeInterval = 0;
     _lastMark = steadySeconds();
     return _record.data();
 }
 
-QByteArray CanvasHistory::reset() {
-    const QByteArray data = _record.snapshot(kResetLine);
-    if (data.isNull()) {
-        if (_images != nullptr && !_layers.surface().isLost()) {
-            _images->resetWithImageDataOfCurrentItem(_images->currentImageDataOfItem());
+StepPicture CanvasHistory::reset() {
+    // Nothing may have been touched, and yet a device be lost that nobody has missed.
+    std::array<std::uint8_t, 4> pixel{};
+    const bool isThere = _layers.read({0, 0, 1, 1}, MutablePixelView::topRowFirst(pixel.data(), {1, 1}));
+    if (!isThere || !_record.read(kResetLine)) {
+        if (_images != nullptr && !_layers.isLost()) {
+            _images->resetWithPictureOfCurrentItem(_images->currentPictureOfItem());
         }
         return {};
     }
-    ImagesUndoManager& steps = images(false);
-    noteRecorded(data);
-    steps.resetWithImageDataOfCurrentItem(data);
-    return data;
+    ImagesUndoManager& steps = images(true);
+    noteRecorded();
+    steps.resetWithPictureOfCurrentItem(_record.data());
+    return _record.data();
 }
 
-QByteArray CanvasHistory::mark() {
+StepPicture CanvasHistory::mark() {
     const double passed = steadySeconds() - _lastMark;
     const bool tooSoon = autoMark && passed >= 0 && passed < static_cast<double>(markTimeInterval);
-    return tooSoon ? QByteArray() : record();
+    return tooSoon ? StepPicture() : record();
 }
 
 // Null where nothing was drawn since the last step, and without the memory or the surface.
-QByteArray CanvasHistory::record() {
-    if (!_layers.edits.edited || _layers.surface().isLost()) {
+StepPicture CanvasHistory::record() {
+    if (!_layers.edits.edited || _layers.isLost()) {
         return {};
     }
     _lastMark = steadySeconds();
-    // Before there is a history: a new one records the canvas as it was made, which no sketch is to be taken back to.
-    const QByteArray data = _record.snapshot(kMarkLine);
-    if (data.isNull()) {
-        if (!_layers.surface().isLost()) {
+    if (!_record.read(kMarkLine)) {
+        if (!_layers.isLost()) {
             qCWarning(lcDabcanvas, "Create Buffer Error!");
         }
         return {};
     }
-    ImagesUndoManager& steps = images(false);
-    noteRecorded(data);
-    steps.addItemWithImageData(data);
-    return data;
+    ImagesUndoManager& steps =
+        images(true);  // a new one begins with the canvas as it was made, which is not recorded
+    noteRecorded();
+    steps.addItemWithPicture(_record.data());
+    return _record.data();
 }
 
 // A step recorded in mid-stroke holds what withdrawing the stroke takes back: the canvas without it is another picture.
-void CanvasHistory::noteRecorded(const QByteArray& data) {
-    _record.take(data);
+void CanvasHistory::noteRecorded() {
     _layers.edits.edited = false;
     _layers.edits.withoutStroke = !_layers.strokeArea().isEmpty();
+}
+
+std::pair<int, int> CanvasHistory::stepsDropped() {
+    if (_images == nullptr) {
+        return {};
+    }
+    const unsigned dropped = _images->stepsDropped();
+    return {static_cast<int>(dropped - std::exchange(_droppedTold, dropped)),
+            static_cast<int>(_images->undoItems().size())};
 }
 
 bool CanvasHistory::canUndo(bool unrecorded) const {
@@ -100,41 +124,34 @@ bool CanvasHistory::canRedo(bool unrecorded) const {
     return !unrecorded && _images != nullptr && _images->canRedo();
 }
 
-CanvasHistory::Outcome CanvasHistory::undo() {
-    return recordUnrecorded() ? go(&ImagesUndoManager::undo, &ImagesUndoManager::redo) : Outcome::refused;
-}
-
-CanvasHistory::Outcome CanvasHistory::redo() {
-    return go(&ImagesUndoManager::redo, &ImagesUndoManager::undo);
-}
-
-// False when what was drawn since the last step cannot become one now.
-bool CanvasHistory::recordUnrecorded() {
-    if (!_layers.edits.edited) {
-        return true;
+CanvasHistory::Outcome CanvasHistory::undo(Rect& changed) {
+    if (_layers.edits.edited && record().isNull()) {
+        return Outcome::refused;  // what was drawn since the last step would be lost
     }
-    if ((_images != nullptr && _images->processCount() != 0) || record().isNull()) {
-        return false;  // undo() would be refused in any case
-    }
-    _images
-        ->waitForWrites();  // of an older step that gave way to this one: undo() must not be refused for that
-    return true;
+    return go(&ImagesUndoManager::undoAtOnce, &ImagesUndoManager::redoAtOnce, changed);
 }
 
-CanvasHistory::Outcome CanvasHistory::go(Step there, Step back) {
-    if (_images == nullptr || _layers.surface().isLost() || !(_images.get()->*there)()) {
+CanvasHistory::Outcome CanvasHistory::redo(Rect& changed) {
+    return go(&ImagesUndoManager::redoAtOnce, &ImagesUndoManager::undoAtOnce, changed);
+}
+
+CanvasHistory::Outcome CanvasHistory::go(Step there, Step back, Rect& changed) {
+    if (_images == nullptr || _layers.isLost() || !(_images.get()->*there)()) {
         return Outcome::refused;
     }
     QString problem;
-    const QByteArray data = _images->currentImageDataOfItem(&problem);
-    if (data.isNull() && _images->hasCurrentImage()) {  // but no memory for it
-        if (!problem.isEmpty()) {
+    const StepPicture picture = _images->currentPictureOfItem(&problem);
+    const auto refuse = [&] {
+        if (!problem.isEmpty() && !_layers.isLost()) {
             qCWarning(lcDabcanvas, "%ls", qUtf16Printable(problem));
         }
         (_images.get()->*back)();
         return Outcome::refused;
+    };
+    if (picture.isNull() && _images->hasCurrentImage()) {  // but no memory for it
+        return refuse();
     }
-    if (data.size() != _record.bytesOfCanvas()) {
+    if (picture.size() != _record.bytesOfCanvas()) {
         qCWarning(
             lcDabcanvas, "%ls; the canvas is cleared",
             qUtf16Printable(problem.isEmpty() ? QStringLiteral("An undo step has no image of this canvas")
@@ -143,15 +160,12 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back) {
     }
     // All of it, whatever a host has restricted placing to.
     _layers.settle();
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(data.constData());
-    if (!_layers.paint(_layers.whole(), PixelView::bottomRowFirst(bytes, _layers.size()))) {
-        if (!_layers.isLost()) {
-            qCWarning(lcDabcanvas, "there is no memory to put a step back");
-        }
-        (_images.get()->*back)();
-        return Outcome::refused;
+    const auto shown = _record.show(picture, &problem);
+    if (!shown) {
+        return refuse();
     }
-    _record.take(data);
+    changed = *shown;
+    _images->keepToBudgets();
     return Outcome::restored;
 }
 

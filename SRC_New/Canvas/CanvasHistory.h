@@ -9,9 +9,9 @@
 // that is yet to be taken back.
 #pragma once
 
-#include <QByteArray>
 #include <limits>
 #include <memory>
+#include <utility>
 
 #include "Canvas/RecordedCanvas.h"
 
@@ -29,12 +29,15 @@ public:
 
     // Makes it, if there is none yet. sketching: a sketch has yet to be taken back to what is recorded.
     ImagesUndoManager& images(bool sketching);
-    QByteArray load(bool sketching);
+    StepPicture load(bool sketching);
     // Makes the present canvas the only step; null without the memory.
-    QByteArray reset();
+    StepPicture reset();
     // Records the canvas as a step; null, and nothing recorded, when nothing was drawn since the last, or too shortly
     // after it, or without the memory.
-    QByteArray mark();
+    StepPicture mark();
+
+    // Those that went for want of room since this was asked last, and how many are left to undo.
+    std::pair<int, int> stepsDropped();
 
     // unrecorded: the canvas holds, or will hold, what no step does.
     bool canUndo(bool unrecorded) const;
@@ -45,20 +48,20 @@ public:
         restored,  // the canvas is the step
         lost,      // the step has no picture of this canvas; the caller is to clear it
     };
-    // What was drawn since the last step is recorded first.
-    Outcome undo();
-    Outcome redo();
+    // What was drawn since the last step is recorded first. `changed`: what of the canvas another step shows.
+    Outcome undo(Rect& changed);
+    Outcome redo(Rect& changed);
 
 private:
     using Step = bool (ImagesUndoManager::*)();
-    QByteArray record();
-    bool recordUnrecorded();
-    void noteRecorded(const QByteArray& data);
-    Outcome go(Step there, Step back);
+    StepPicture record();
+    void noteRecorded();
+    Outcome go(Step there, Step back, Rect& changed);
 
     PaintLayers& _layers;
     RecordedCanvas& _record;
     std::unique_ptr<ImagesUndoManager> _images;
+    unsigned _droppedTold = 0;
     double _lastMark = -std::numeric_limits<double>::infinity();  // when the last step was recorded
 };
 

@@ -231,14 +231,6 @@ bool PaintLayers::place(const Placed& placed, const Rect& touched) {
 }
 
 bool PaintLayers::paint(const Rect& area, const PixelView& rows) {
-    if (!restore(area, rows)) {
-        return false;
-    }
-    _painted = _painted.united(area);
-    return true;
-}
-
-bool PaintLayers::restore(const Rect& area, const PixelView& rows) {
     const SurfaceScope scope(*_surface);
     if (!scope) {
         return false;
@@ -246,6 +238,31 @@ bool PaintLayers::restore(const Rect& area, const PixelView& rows) {
     flush();
     const StageClock::Stage stage(_clock, &StrokeStats::compositingSeconds, _surface.get());
     if (!_surface->write(kPicture, area, rows)) {
+        return false;
+    }
+    noteBackgroundShows(area);
+    noteChanged(area);
+    _painted = _painted.united(area);
+    return true;
+}
+
+bool PaintLayers::keep(const TileSet& tiles, const std::function<void(const PlacedTile&)>& visit) {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return false;
+    }
+    flush();
+    return _surface->keep(kPicture, tiles, visit);
+}
+
+bool PaintLayers::put(std::span<const PlacedTile> tiles, const Rect& area) {
+    const SurfaceScope scope(*_surface);
+    if (!scope) {
+        return false;
+    }
+    flush();
+    const StageClock::Stage stage(_clock, &StrokeStats::compositingSeconds, _surface.get());
+    if (!_surface->put(kPicture, tiles)) {
         return false;
     }
     noteBackgroundShows(area);

@@ -78,9 +78,12 @@ public:
     void fill(const PaintColor& color);
     // `touched`: the pixels that it changes at most.
     bool place(const Placed& placed, const Rect& touched);
-    // Into picture and background, over what was drawn so far: new paint, or what was there before.
+    // Into picture and background, over what was drawn so far.
     bool paint(const Rect& area, const PixelView& rows);
-    bool restore(const Rect& area, const PixelView& rows);
+    // The picture's tiles with what was drawn so far, and tiles into picture and background, see PaintSurface. `area`:
+    // what they change.
+    bool keep(const TileSet& tiles, const std::function<void(const PlacedTile&)>& visit);
+    bool put(std::span<const PlacedTile> tiles, const Rect& area);
     // What was drawn so far is below from now on, though it is not finished.
     void drawnIsBelow() { _mayMerge = false; }
     bool read(const Rect& area, const MutablePixelView& rows);

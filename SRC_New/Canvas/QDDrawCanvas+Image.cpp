@@ -239,7 +239,7 @@ void QDDrawCanvas::updateSmudgeBGTexture() {
 }
 
 void QDDrawCanvas::updateBGImage(const QByteArray& mark) {
-    _inside->parts->updateBackground(mark);
+    _inside->parts->updateBackground(!mark.isNull());
 }
 
 QRectF QDDrawCanvas::drawRect() const {

@@ -224,6 +224,14 @@ void QDDrawCanvas::setNormalPress(float value) {
     _inside->host.normalPress = value;
 }
 
+float QDDrawCanvas::inRadiusForRadius(float radius) const {
+    return 2 * radius / (maxRadius() + minRadius());
+}
+
+float QDDrawCanvas::radiusForInRadius(float value) const {
+    return (maxRadius() + minRadius()) * value * 0.5f;
+}
+
 // ---- History
 
 bool QDDrawCanvas::edited() const {
@@ -250,16 +258,20 @@ void QDDrawCanvas::setMarkTimeInterval(float seconds) {
     _inside->parts->history.markTimeInterval = seconds;
 }
 
-QByteArray QDDrawCanvas::markAction() {
+StepPicture QDDrawCanvas::markAction() {
     return _inside->parts->mark();
 }
 
-QByteArray QDDrawCanvas::undo() {
+StepPicture QDDrawCanvas::undo() {
     return _inside->parts->undo();
 }
 
-QByteArray QDDrawCanvas::redo() {
+StepPicture QDDrawCanvas::redo() {
     return _inside->parts->redo();
+}
+
+UndoRefusal QDDrawCanvas::undoRefusal() const {
+    return _inside->parts->refusal;
 }
 
 bool QDDrawCanvas::canUndo() const {
@@ -270,11 +282,11 @@ bool QDDrawCanvas::canRedo() const {
     return _inside->parts->canRedo();
 }
 
-QByteArray QDDrawCanvas::resetUndoManager() {
+StepPicture QDDrawCanvas::resetUndoManager() {
     return _inside->parts->resetHistory();
 }
 
-QByteArray QDDrawCanvas::loadUndoManager() {
+StepPicture QDDrawCanvas::loadUndoManager() {
     Parts& parts = *_inside->parts;
     return parts.history.load(parts.sketch.isOn());
 }
@@ -284,7 +296,7 @@ ImagesUndoManager& QDDrawCanvas::undoManager() {
     return parts.history.images(parts.sketch.isOn());
 }
 
-QByteArray QDDrawCanvas::curImageData() const {
+StepPicture QDDrawCanvas::curImageData() const {
     return _inside->parts->record.data();
 }
 

@@ -40,6 +40,8 @@
 #include "Canvas/QDDrawTouch.h"
 #include "Canvas/QDDrawViewDelegate.h"
 #include "Canvas/StageClock.h"
+#include "History/StepPicture.h"
+#include "History/UndoRefusal.h"
 #include "Maths/Export.h"
 #include "Preset/BrushRecords.h"
 #include "Recognition/ShapeRecord.h"
@@ -121,12 +123,8 @@ public:
     bool resetWithXBFPath(const QString& path, QString* problem = nullptr);
 
     // Map a brush radius to and from a value of which 1.0 is the middle of the brush's radius range.
-    float inRadiusForRadius(float radius) const {
-        return 2 * radius / (maxRadius() + minRadius());
-    }
-    float radiusForInRadius(float value) const {
-        return (maxRadius() + minRadius()) * value * 0.5f;
-    }
+    float inRadiusForRadius(float radius) const;
+    float radiusForInRadius(float value) const;
 
     // ---- Clear, fill, look
     // The canvas as premultiplied RGBA, upright, bufferSize() large; null when it cannot be read.
@@ -193,9 +191,9 @@ public:
     void setScissorRect(const QRectF& rect);
 
     // ---- Undo
-    // Steps are whole pictures of the canvas, as readData() gives them. The first is the canvas as it was made; a host
-    // that prepares a picture calls resetUndoManager() then. How many there are, and where they are kept, is
-    // undoManager()'s. Nothing of a history is made before it is asked for.
+    // Steps are pictures of the canvas, of which only what changed is kept; they become the bytes that readData() gives
+    // where a host asks for them. The first is the canvas as it was made; a host that prepares a picture calls
+    // resetUndoManager() then. How many there are is undoManager()'s. Nothing of a history is made before it is asked for.
     //
     // Record a step at the end of every stroke, after every image placed and every clear.
     bool autoMark() const;
@@ -205,20 +203,21 @@ public:
     void setMarkTimeInterval(float seconds);
     // Records the canvas as a step and drops what was undone. Null, and nothing recorded, when nothing was drawn since
     // the last one, or too shortly after it, or without the memory.
-    QByteArray markAction();
+    dabcanvas::StepPicture markAction();
     // Make the step before, or after, the canvas, whatever globalScissor() and neglectTextureUpdate() hold back
     // otherwise. undo() first records what was drawn since the last step, at whatever interval; redo() finds nothing
-    // then. Null, and nothing changed, when there is none, a stroke is in progress or a step is still being written to
-    // disk; and, with a log line, without the memory. A step that was lost clears the canvas, with a log line.
-    QByteArray undo();
-    QByteArray redo();
+    // then. Null, and nothing changed, for the reason that undoRefusal() tells of the last call. A step whose picture a
+    // host has removed clears the canvas, with a log line.
+    dabcanvas::StepPicture undo();
+    dabcanvas::StepPicture redo();
+    dabcanvas::UndoRefusal undoRefusal() const;
     // Whether there is a step to go to; in mid-stroke, whether there will be without the stroke.
     bool canUndo() const;
     bool canRedo() const;
-    QByteArray resetUndoManager();  // makes the present canvas the only step
+    dabcanvas::StepPicture resetUndoManager();  // makes the present canvas the only step
     // Makes the history, if there is none yet, and gives the last step's picture. Sets markTimeInterval() to 0, and
     // times the next step from now.
-    QByteArray loadUndoManager();
+    dabcanvas::StepPicture loadUndoManager();
     // The last step's picture, or the canvas's where there is no step or curImageData() is of another size.
     QImage currentImage();
     ImagesUndoManager& undoManager();
@@ -356,7 +355,7 @@ public:
     void setNeglectTextureUpdate(bool value);
     // A recorded canvas: readData() of all of it, or empty. While enableRecogition() is on it is what the present stroke
     // is taken back to, be it another picture that the host sets, which then becomes the whole canvas.
-    QByteArray curImageData() const;
+    dabcanvas::StepPicture curImageData() const;
     void setCurImageData(const QByteArray& data);
     QRectF drawRect() const;  // what was composited or placed since the last clear, in buffer pixels
 

@@ -155,4 +155,13 @@ void QDDrawCanvas::Host::tellAll(bool couldUndo, bool couldRedo) {
     if (alive && delegate != nullptr && _watched->canRedo() != couldRedo) {
         delegate->drawViewDidUpdateRedoStatus(_canvas, !couldRedo);
     }
+    if (alive && delegate != nullptr && _watched->canUndoAgain()) {
+        delegate->drawViewCanUndoAgain(_canvas);
+    }
+    if (!alive || delegate == nullptr) {
+        return;
+    }
+    if (const auto [dropped, left] = _watched->stepsDropped(); dropped > 0) {
+        delegate->drawViewDidDropUndoSteps(_canvas, dropped, left);
+    }
 }

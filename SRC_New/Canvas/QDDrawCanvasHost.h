@@ -6,6 +6,7 @@
 #include <atomic>
 #include <optional>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "Canvas/Life.h"
@@ -19,6 +20,10 @@ public:
         virtual bool canUndo() const = 0;
         virtual bool canRedo() const = 0;
         virtual bool isLost() const = 0;
+        // Whether what an undo was refused for has passed; once.
+        virtual bool canUndoAgain() = 0;
+        // Steps that went since this was asked last, and how many are left to undo.
+        virtual std::pair<int, int> stepsDropped() = 0;
         // Says so, once a stroke, when the numbers are not finite.
         virtual bool acceptsPoint(QPointF point) = 0;
 

@@ -60,15 +60,15 @@ void QDDrawCanvas::Parts::settle() {
 void QDDrawCanvas::Parts::finishStroke(bool asStep) {
     settleSketch();
     layers.emptyLines();
-    updateBackground(asStep ? autoMarked() : QByteArray());
+    updateBackground(asStep && !autoMarked().isNull());
 }
 
-void QDDrawCanvas::Parts::updateBackground(const QByteArray& mark) {
+void QDDrawCanvas::Parts::updateBackground(bool isRecorded) {
     const Host::Call call(host);
     settleSketch();
     layers.commit();
-    if (mark.isNull() && recognises()) {
-        record.refresh(kBackgroundLine);  // a step that was recorded has the picture already
+    if (!isRecorded && recognises()) {
+        record.refresh(kBackgroundLine);
     }
 }
 
@@ -348,7 +348,7 @@ void QDDrawCanvas::Parts::clearPicture(const ESColor& color) {
     }
     layers.fill(paintOf(color));
     host.redisplayAll();
-    updateBackground(autoMarked());
+    updateBackground(!autoMarked().isNull());
 }
 
 // All of it or, with false, nothing.
@@ -366,7 +366,7 @@ bool QDDrawCanvas::Parts::place(const PlacedImage& image, const Spot& spot, bool
     }
     host.redisplayAll();
     if (!placing.rules.neglects) {
-        updateBackground(isUndo ? record.data() : autoMarked());
+        updateBackground(isUndo ? !record.data().isNull() : !autoMarked().isNull());
         if (!isUndo && kind() == StrokeKind::smudge) {
             prepareSmudge();
         }
@@ -415,7 +415,7 @@ bool QDDrawCanvas::Parts::canRedo() const {
     return !host.isLossTold() && history.canRedo(isUnrecorded());
 }
 
-QByteArray QDDrawCanvas::Parts::mark() {
+StepPicture QDDrawCanvas::Parts::mark() {
     const Host::Call call(host);
     if (!finishPreview()) {
         return {};
@@ -425,7 +425,7 @@ QByteArray QDDrawCanvas::Parts::mark() {
 }
 
 // The mark of a step that has just been drawn; null where none is to be recorded.
-QByteArray QDDrawCanvas::Parts::autoMarked() {
+StepPicture QDDrawCanvas::Parts::autoMarked() {
     if (!history.autoMark) {
         return {};
     }
@@ -433,7 +433,7 @@ QByteArray QDDrawCanvas::Parts::autoMarked() {
     return history.mark();
 }
 
-QByteArray QDDrawCanvas::Parts::resetHistory() {
+StepPicture QDDrawCanvas::Parts::resetHistory() {
     const Host::Call call(host);
     if (!finishPreview() || isLost()) {
         return {};
@@ -442,25 +442,39 @@ QByteArray QDDrawCanvas::Parts::resetHistory() {
     return history.reset();
 }
 
-QByteArray QDDrawCanvas::Parts::undo() {
+StepPicture QDDrawCanvas::Parts::undo() {
     const Host::Call call(host);
-    if (!finishPreview() || isDrawing() || !canUndo()) {
-        return {};
-    }
-    return stepped(history.undo());
+    Rect changed;
+    return !finishPreview() || refuses(canUndo()) ? StepPicture() : stepped(history.undo(changed), changed);
 }
 
-QByteArray QDDrawCanvas::Parts::redo() {
+StepPicture QDDrawCanvas::Parts::redo() {
     const Host::Call call(host);
-    if (!finishPreview() || isDrawing() || !canRedo()) {
-        return {};
-    }
-    return stepped(history.redo());
+    Rect changed;
+    return !finishPreview() || refuses(canRedo()) ? StepPicture() : stepped(history.redo(changed), changed);
 }
 
-QByteArray QDDrawCanvas::Parts::stepped(CanvasHistory::Outcome outcome) {
+bool QDDrawCanvas::Parts::refuses(bool hasStep) {
+    refusal = isLost()      ? UndoRefusal::deviceLost
+              : isDrawing() ? UndoRefusal::drawing
+              : !hasStep    ? UndoRefusal::noStep
+                            : UndoRefusal::none;
+    _refusedStep = refusal == UndoRefusal::drawing;
+    return refusal != UndoRefusal::none;
+}
+
+bool QDDrawCanvas::Parts::canUndoAgain() {
+    return !isDrawing() && std::exchange(_refusedStep, false);
+}
+
+std::pair<int, int> QDDrawCanvas::Parts::stepsDropped() {
+    return history.stepsDropped();
+}
+
+StepPicture QDDrawCanvas::Parts::stepped(CanvasHistory::Outcome outcome, const Rect& changed) {
     switch (outcome) {
         case CanvasHistory::Outcome::refused:
+            refusal = isLost() ? UndoRefusal::deviceLost : UndoRefusal::unreadable;
             return {};
         case CanvasHistory::Outcome::lost: {
             const bool marks = std::exchange(history.autoMark, false);  // clearing is no step of its own here
@@ -470,7 +484,7 @@ QByteArray QDDrawCanvas::Parts::stepped(CanvasHistory::Outcome outcome) {
             break;
         }
         case CanvasHistory::Outcome::restored:
-            host.redisplayAll();
+            redisplay(changed);
             if (kind() == StrokeKind::smudge) {
                 prepareSmudge();
             }

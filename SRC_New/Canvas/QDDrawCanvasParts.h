@@ -55,7 +55,7 @@ public:
     // ---- what several parts do together
 
     void updateImage(bool online, bool smudged);
-    void updateBackground(const QByteArray& mark);
+    void updateBackground(bool isRecorded);
     void prepareSmudge();
     bool drawShape(const ShapeRecord& shape);
     dabcanvas::Rect drawPoints(std::span<const LPPoint> points, dabcanvas::DrawTarget target);
@@ -68,11 +68,12 @@ public:
                      double radian, bool isUndo);
     bool read(const dabcanvas::Rect& part, const dabcanvas::MutablePixelView& rows);
     QImage imageOf(const dabcanvas::Rect& part);
-    QByteArray mark();
-    QByteArray autoMarked();
-    QByteArray resetHistory();
-    QByteArray undo();
-    QByteArray redo();
+    dabcanvas::StepPicture mark();
+    dabcanvas::StepPicture autoMarked();
+    dabcanvas::StepPicture resetHistory();
+    dabcanvas::StepPicture undo();
+    dabcanvas::StepPicture redo();
+    dabcanvas::UndoRefusal refusal = dabcanvas::UndoRefusal::none;  // of the last of them
     void updateScale();
     void redisplay(const dabcanvas::Rect& area);
 
@@ -87,6 +88,8 @@ public:
     bool canUndo() const override;
     bool canRedo() const override;
     bool isLost() const override;
+    bool canUndoAgain() override;
+    std::pair<int, int> stepsDropped() override;
     bool acceptsPoint(QPointF point) override { return entry.accepts(point, 0, 0); }
     bool canBegin() const override;
     bool recognises() const override { return brush.present().enableRecogition; }
@@ -112,10 +115,12 @@ private:
     void updateStyle();
     void sendPreviewColor();
     bool isUnrecorded() const;
-    QByteArray stepped(dabcanvas::CanvasHistory::Outcome outcome);
+    bool refuses(bool hasStep);
+    dabcanvas::StepPicture stepped(dabcanvas::CanvasHistory::Outcome outcome, const dabcanvas::Rect& changed);
 
     bool _kindChanges = false;     // by the property that is being set
     bool _recognisesAnew = false;  // so does recognition
+    bool _refusedStep = false;     // as a stroke was in progress
 };
 
 struct QDDrawCanvas::Inside {

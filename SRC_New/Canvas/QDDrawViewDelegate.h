@@ -36,6 +36,10 @@ public:
     // Whether undo and redo are possible has changed. Told when the call that changed it is done.
     virtual void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool /*canUndo*/) {}
     virtual void drawViewDidUpdateRedoStatus(QDDrawCanvas&, bool /*canRedo*/) {}
+    // What the last undo() or redo() was refused for has passed: the stroke has ended.
+    virtual void drawViewCanUndoAgain(QDDrawCanvas&) {}
+    // The oldest steps went, as memory and disk have no room for them; so many are left to undo.
+    virtual void drawViewDidDropUndoSteps(QDDrawCanvas&, int /*dropped*/, int /*left*/) {}
     // The driver has taken the GL context away: the canvas cannot be drawn on or read any more. Once; what only displays
     // the canvas does not tell, the next call that draws does.
     virtual void drawViewDidLoseContext(QDDrawCanvas&) {}

@@ -2,107 +2,224 @@
 #include "Canvas/RecordedCanvas.h"
 
 #include <cstdio>
+#include <cstring>
 #include <new>
+#include <optional>
 #include <utility>
 
 namespace dabcanvas {
 namespace {
 
 constexpr PictureId kPicture = PictureId::first;
+constexpr std::uint8_t kTransparent[kTileBytes]{};
 
-// Beyond this share of the canvas everything is read at once.
-constexpr std::int64_t kMostTiles = 2;
+bool looksAlike(const SharedTile& one, const SharedTile& other) {
+    const auto bytes = [](const SharedTile& tile) { return tile ? tile.get() : kTransparent; };
+    return one == other || std::memcmp(bytes(one), bytes(other), kTileBytes) == 0;
+}
 
-}  // namespace
-
-QByteArray bytesOf(qsizetype size) {
+template <typename Result, typename Work>
+Result withMemory(const Work& work, Result otherwise) {
     try {
-        return QByteArray(size, '\0');
+        return work();
     } catch (const std::bad_alloc&) {
-        return {};
+        return otherwise;
     }
 }
+
+}  // namespace
 
 void tellNoMemory(int line) {
     std::printf("创建数据失败(%s:%d)!", "SRC_New/QDEAGLView/QDDrawView", line);
 }
 
-void RecordedCanvas::take(const QByteArray& data) {
-    _data = data;
-    _isCanvas = true;
-    _given = false;
-    _layers.surface().forgetTouched(kPicture);
-}
+RecordedCanvas::RecordedCanvas(PaintLayers& layers)
+    : _layers(layers), _tiles(std::make_shared<TileStore>(layers.size())) {}
+
+// ---- Given
 
 void RecordedCanvas::give(const QByteArray& data) {
-    _data = data;
+    become(nullptr);
+    _bytes = data;
     _isCanvas = false;
     _given = hasCanvasSize();
 }
 
-bool RecordedCanvas::takeGiven() {
-    return std::exchange(_given, false);
+bool RecordedCanvas::giveBlank() {
+    give({});
+    return withMemory(
+        [&] {
+            become(std::make_shared<const TilePicture>(_layers.size()));
+            return true;
+        },
+        false);
 }
 
-QByteArray RecordedCanvas::snapshot(int line) {
-    QByteArray data = bytesOf(bytesOfCanvas());
-    if (data.isNull()) {
-        tellNoMemory(line);
-        return {};
+// Of a picture that a host keeps: tiles that are the canvas's already are not kept twice. Throws std::bad_alloc.
+TilePicture RecordedCanvas::tilesOf(const QByteArray& bytes) {
+    if (bytes.size() != bytesOfCanvas()) {
+        throw std::bad_alloc();  // there was no memory for them
     }
-    auto* const bytes = reinterpret_cast<std::uint8_t*>(data.data());
-    return _layers.read(_layers.whole(), MutablePixelView::bottomRowFirst(bytes, _layers.size()))
-               ? data
-               : QByteArray();
+    TilePicture picture = _picture && _isCanvas ? *_picture : TilePicture(_layers.size());
+    const auto* const block = reinterpret_cast<const std::uint8_t*>(bytes.constData());
+    const auto rows = PixelView::bottomRowFirst(block, _layers.size());
+    for (std::size_t index = 0; index < picture.layout().count(); ++index) {
+        const Rect rect = picture.layout().rectOf(index);
+        const auto tile = newTile();
+        copyRows(rows.part(rect), {tile.get(), {rect.width, rect.height}, kTileSide * 4});
+        picture.set(index, version({index, tile}, picture.at(index)));
+    }
+    return picture;
+}
+
+// ---- Reading
+
+// The version that a tile is: the one before where nothing changed.
+TileRef RecordedCanvas::version(const PlacedTile& read, const TileRef& before) {
+    const SharedTile old = before ? pixelsOf(*before) : nullptr;
+    if ((!before || old) && looksAlike(read.tile, old)) {
+        return before;
+    }
+    return read.tile ? _tiles->keep(read.tile) : nullptr;
+}
+
+// Throws std::bad_alloc.
+std::optional<RecordedCanvas::Changes> RecordedCanvas::readTiles(const TilePicture& before) {
+    TileSet all(_layers.size());
+    all.add(_layers.whole());
+    Changes changes;
+    PlacedTile last;  // a colour that fills the canvas is one tile in all places
+    TileRef lastVersion;
+    const bool read =
+        _layers.keep(_isCanvas ? _layers.surface().touched(kPicture) : all, [&](const PlacedTile& tile) {
+            const TileRef& old = before.at(tile.index);
+            if (!tile.tile || tile.tile != last.tile) {
+                lastVersion = version(tile, old);
+                last = tile;
+            }
+            if (lastVersion != old) {
+                changes.emplace_back(tile.index, lastVersion);
+            }
+        });
+    return read ? std::optional(std::move(changes)) : std::nullopt;
+}
+
+bool RecordedCanvas::read(int line) {
+    const bool done = withMemory(
+        [&] {
+            auto next = std::make_shared<TilePicture>(_picture && _isCanvas ? *_picture
+                                                                            : TilePicture(_layers.size()));
+            const auto changes = readTiles(*next);
+            for (const auto& [index, tile] : changes.value_or(Changes())) {
+                next->set(index, tile);
+            }
+            if (changes) {
+                become(next);
+                _isCanvas = true;
+                _layers.surface().forgetTouched(kPicture);
+            }
+            return changes.has_value();
+        },
+        false);
+    if (!done && !_layers.isLost()) {
+        tellNoMemory(line);
+    }
+    return done;
 }
 
 void RecordedCanvas::refresh(int line) {
-    if (_isCanvas && hasCanvasSize() && refreshTiles()) {
-        _given = false;
-        return;
+    if (!read(line) && !_layers.isLost()) {  // of a lost one, what was last recorded is all there is
+        give({});
     }
-    if (_layers.isLost()) {
-        return;  // what was last recorded is all there is
-    }
-    _data = {};  // before there is a second one
-    const QByteArray data = snapshot(line);
-    take(data);
-    _isCanvas = !data.isNull();
 }
 
-bool RecordedCanvas::refreshTiles() {
-    _layers.flush();
-    std::int64_t area = 0;
-    const TileSet& touched = _layers.surface().touched(kPicture);
-    touched.forEachRun([&](const Rect& run) { area += run.area(); });
-    if (area == 0) {
-        return true;
+// ---- Putting back
+
+std::optional<Rect> RecordedCanvas::restore(const Rect& area) {
+    if (_given) {
+        QString problem;
+        const auto changed = show(data(), &problem);
+        return changed ? std::optional(_layers.whole()) : std::nullopt;
     }
-    if (area * kMostTiles > _layers.whole().area()) {
-        return false;
+    if (!_picture) {
+        return std::nullopt;
     }
-    try {
-        _data.detach();  // from the history, which keeps it as a step
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
-    auto* const bytes = reinterpret_cast<std::uint8_t*>(_data.data());
-    const auto rows = MutablePixelView::bottomRowFirst(bytes, _layers.size());
-    bool all = true;
-    touched.forEachRun([&](const Rect& run) { all = _layers.read(run, rows.part(run)) && all; });
-    if (all) {
-        _layers.surface().forgetTouched(kPicture);
-    }
-    return all;
+    return withMemory(
+        [&] {
+            TileSet tiles(_layers.size());
+            tiles.add(area);
+            std::vector<PlacedTile> placed;
+            bool all = true;
+            tiles.forEach([&](std::size_t index) { all = all && place(*_picture, index, placed, nullptr); });
+            return all && _layers.put(placed, area) ? std::optional(area) : std::nullopt;
+        },
+        std::optional<Rect>());
 }
 
-bool RecordedCanvas::restore(const Rect& area) {
-    if (!hasCanvasSize()) {
-        return false;
+// False when the tile cannot be had.
+bool RecordedCanvas::place(const TilePicture& picture, std::size_t index, std::vector<PlacedTile>& placed,
+                           QString* problem) {
+    const TileRef& tile = picture.at(index);
+    placed.push_back({index, tile ? pixelsOf(*tile, problem) : nullptr});
+    return !tile || placed.back().tile;
+}
+
+std::optional<Rect> RecordedCanvas::show(const StepPicture& picture, QString* problem) {
+    *problem = QStringLiteral("there is no memory to put a step back");
+    return withMemory(
+        [&]() -> std::optional<Rect> {
+            if (!read(kRecognitionLine)) {
+                return std::nullopt;
+            }
+            auto tiles = picture.tiles();
+            if (!tiles || tiles->layout().picture() != _layers.size()) {
+                tiles = std::make_shared<const TilePicture>(tilesOf(picture));
+            }
+            std::vector<PlacedTile> placed;
+            bool all = true;
+            Rect area;
+            tiles->forEachDifference(*_picture, [&](std::size_t index) {
+                all = all && place(*tiles, index, placed, problem);
+                area = area.united(tiles->layout().rectOf(index));
+            });
+            if (!all || !_layers.put(placed, area)) {
+                return std::nullopt;
+            }
+            become(std::move(tiles));
+            for (const PlacedTile& shown : placed) {
+                if (const TileRef& tile = _picture->at(shown.index)) {
+                    TileStore::hold(*tile, shown.tile);
+                }
+            }
+            _layers.surface().forgetTouched(kPicture);
+            return area;
+        },
+        std::optional<Rect>());
+}
+
+// What this holds is what is shown: each version knows in how many places.
+void RecordedCanvas::become(std::shared_ptr<const TilePicture> picture) {
+    const auto change = [](const TileRef& from, const TileRef& to) {
+        if (to) {
+            TileStore::show(*to);
+        }
+        if (from) {
+            TileStore::retire(*from);
+        }
+    };
+    const TilePicture* const old = _picture.get();
+    if (picture && old != nullptr) {
+        picture->forEachDifference(*old,
+                                   [&](std::size_t index) { change(old->at(index), picture->at(index)); });
+    } else if (const TilePicture* const one = old != nullptr ? old : picture.get()) {
+        for (std::size_t index = 0; index < one->layout().count(); ++index) {
+            old != nullptr ? change(one->at(index), nullptr) : change(nullptr, one->at(index));
+        }
     }
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(_data.constData());
-    return area.isEmpty() ||
-           _layers.restore(area, PixelView::bottomRowFirst(bytes, _layers.size()).part(area));
+    _picture = std::move(picture);
+    _bytes.clear();
+    _given = false;
+    _tiles->compress();
 }
 
 }  // namespace dabcanvas

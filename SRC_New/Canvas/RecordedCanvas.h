@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
-// A picture of the canvas as bytes: what strokes that are to be recognised are taken back to, and what undo steps are
-// made of. Only the tiles that were touched are read anew.
-//
-// Bytes    premultiplied RGBA, bottom row first, rows without gaps.
+// A picture of the canvas: what strokes that are to be recognised are taken back to, and what undo steps are made of. It
+// shares its tiles with the canvas where the surface has some, and only those that were touched are looked at anew.
 #pragma once
 
-#include <QByteArray>
+#include <QString>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
 
 #include "Canvas/PaintLayers.h"
+#include "History/StepPicture.h"
+#include "History/TilePicture.h"
 
 namespace dabcanvas {
 
@@ -16,40 +20,50 @@ inline constexpr int kRecognitionLine = 699;
 
 class RecordedCanvas {
 public:
-    explicit RecordedCanvas(PaintLayers& layers) : _layers(layers) {}
+    explicit RecordedCanvas(PaintLayers& layers);
 
     // Empty for none; any bytes when a host gave them.
-    const QByteArray& data() const { return _data; }
+    StepPicture data() const { return _picture ? StepPicture(_picture) : StepPicture(_bytes); }
     qsizetype bytesOfCanvas() const { return qsizetype{4} * _layers.size().width * _layers.size().height; }
-    bool hasCanvasSize() const { return _data.size() == bytesOfCanvas(); }
+    bool hasCanvasSize() const { return data().size() == bytesOfCanvas(); }
+    // What its pictures are made of.
+    const std::shared_ptr<TileStore>& tiles() const { return _tiles; }
 
-    // The canvas as it is.
-    void take(const QByteArray& data);
     // Any other picture, as a host does; sketches are taken back to it, all of it, until it is read anew.
     void give(const QByteArray& data);
-    // What was given is the canvas from now on: sketches are taken back where they drew.
-    bool takeGiven();
     bool isGiven() const { return _given; }
+    // A transparent one, whatever the canvas is. False without the memory.
+    bool giveBlank();
 
-    // Makes it the present canvas. Empty, after the fixed message of that line, without the memory.
+    // Makes it the present canvas. False, and nothing changed, when the surface is lost and, after the fixed message of
+    // that line, without the memory.
+    bool read(int line);
+    // The same, but there is none without the memory.
     void refresh(int line);
-    // The present canvas; null, after the fixed message of that line, without the memory, and without when the surface
-    // is lost.
-    QByteArray snapshot(int line);
-    // Canvas and background become it there. False when it is none.
-    bool restore(const Rect& area);
+    // Canvas and background become it there; what was given becomes them everywhere, and is the canvas from now on. The
+    // area of that; nothing when there is none that fits.
+    std::optional<Rect> restore(const Rect& area);
+    // Canvas and background become another picture of their size, and so does this. The area that changed; nothing, and
+    // `problem` in words, without the memory or when that picture cannot be had.
+    std::optional<Rect> show(const StepPicture& picture, QString* problem);
 
 private:
-    bool refreshTiles();
+    using Changes = std::vector<std::pair<std::size_t, TileRef>>;
+    std::optional<Changes> readTiles(const TilePicture& before);
+    TileRef version(const PlacedTile& read, const TileRef& before);
+    TilePicture tilesOf(const QByteArray& bytes);
+    static bool place(const TilePicture& picture, std::size_t index, std::vector<PlacedTile>& placed,
+                      QString* problem);
+    void become(std::shared_ptr<const TilePicture> picture);
 
     PaintLayers& _layers;
-    QByteArray _data;
+    const std::shared_ptr<TileStore> _tiles;
+    std::shared_ptr<const TilePicture> _picture;
+    QByteArray _bytes;       // a host's, in its place
     bool _isCanvas = false;  // but for touched tiles it is the canvas's picture
-    bool _given = false;
+    bool _given = false;     // by a host, and of the canvas's size
 };
 
-// A block of zeros; null when memory is short.
-QByteArray bytesOf(qsizetype size);
 void tellNoMemory(int line);
 
 }  // namespace dabcanvas

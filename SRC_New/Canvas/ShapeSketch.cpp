@@ -32,9 +32,9 @@ void ShapeSketch::begin(QPointF place) {
 Rect ShapeSketch::settle() {
     Rect area;
     _layers.withdraw([&](const Rect& drawn) {
-        // Another picture than the canvas had takes all of it.
-        area = _record.takeGiven() ? _layers.whole() : drawn;
-        return _record.restore(area);
+        const auto restored = _record.restore(drawn);
+        area = restored.value_or(drawn);
+        return restored.has_value();
     });
     return area;
 }

@@ -12,6 +12,7 @@
 #include "History/HistoryLog.h"
 #include "History/ImagesUndoManager.h"
 #include "History/TempFolder.h"
+#include "History/TileStore.h"
 #include "Maths/Tools.h"
 
 using namespace dabcanvas;
@@ -168,10 +169,16 @@ void ImagesUndoManager::waitForWrites() {
         const std::lock_guard lock(_operation);  // another thread may be writing itself
     }
     _files->wait();
+    if (_tiles) {
+        _tiles->waitForWrites();
+    }
 }
 
 void ImagesUndoManager::waitForCompression() {
     _packing->wait();
+    if (_tiles) {
+        _tiles->waitForCompression();
+    }
 }
 
 bool ImagesUndoManager::isMainThread() const {

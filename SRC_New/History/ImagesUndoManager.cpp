@@ -99,14 +99,18 @@ bool ImagesUndoManager::addItemWithImageData(const QByteArray& data) {
         return refused("these data are null, or there is no memory for a copy");
     }
     const std::lock_guard lock(_operation);
+    beginItem();
+    keepCurrent(owned);
+    return true;
+}
+
+void ImagesUndoManager::beginItem() {
     const QStringList items = undoItems();
     if (!items.isEmpty() && static_cast<std::uint64_t>(items.size()) >= undoStepCount()) {
         dropOldestUndoItem();
         letGoOfUnused({items.first()});
     }
     addItemWithString(Tools::dateString());
-    keepCurrent(owned);
-    return true;
 }
 
 bool ImagesUndoManager::addItemWithImage(const QImage& image) {
@@ -246,6 +250,9 @@ void ImagesUndoManager::resetWithCurrentItem(const QString& item) {
 
 // Items set by hand may stand in several places at once.
 void ImagesUndoManager::letGoOfUnused(const QStringList& names) {
+    if (names.isEmpty()) {
+        return;
+    }
     const QStringList used = undoItems() + redoItems() + QStringList(currentStringItem());
     QStringList unused;
     for (const QString& name : names) {
@@ -285,38 +292,26 @@ int ImagesUndoManager::curCacheCount() const {
     return _store.cachedCount();
 }
 
-qint64 ImagesUndoManager::cacheByteBudget() const {
-    const std::lock_guard lock(_operation);
-    return _cacheByteBudget;
-}
-
-void ImagesUndoManager::setCacheByteBudget(qint64 bytes) {
-    const std::lock_guard lock(_operation);
-    _cacheByteBudget = std::max<qint64>(bytes, 0);
-}
-
-qint64 ImagesUndoManager::cachedBytes() const {
-    return _store.cachedBytes();
-}
-
 void ImagesUndoManager::makeRoom(qint64 bytes) {
-    if (_maxCacheCount < static_cast<unsigned>(curCacheCount())) {
-        evictOne();
+    const auto count = static_cast<unsigned>(_store.cachedNames(false).size());
+    if (_maxCacheCount < count) {
+        evictOne(false);
     }
     // Images that cannot be written come back to the cache: no more attempts than there are images.
-    for (int tries = curCacheCount();
-         tries > 0 && _cacheByteBudget > 0 && cachedBytes() + bytes > _cacheByteBudget && evictOne();
+    for (unsigned tries = count;
+         tries > 0 && _cacheByteBudget > 0 && cachedBytes() + bytes > _cacheByteBudget && evictOne(false);
          --tries) {
     }
 }
 
 void ImagesUndoManager::removeOneObjectFromCache() {
     const std::lock_guard lock(_operation);
-    evictOne();
+    evictOne(true);
 }
 
-bool ImagesUndoManager::evictOne() {
-    const QString name = farthestFrom(_store.cachedNames(), undoItems(), redoItems(), currentStringItem());
+bool ImagesUndoManager::evictOne(bool ofSteps) {
+    const QString name =
+        farthestFrom(_store.cachedNames(ofSteps), undoItems(), redoItems(), currentStringItem());
     if (name.isNull() || pathWithName(name).isNull()) {
         return false;
     }
@@ -328,8 +323,9 @@ bool ImagesUndoManager::evictOne() {
 
 void ImagesUndoManager::didReceiveMemoryWarning() {
     const std::lock_guard lock(_operation);
-    evictOne();
-    evictOne();
+    evictOne(false);
+    evictOne(false);
+    relieve(cachedBytes() / 2);
     _maxCacheCount = static_cast<unsigned>(std::max(curCacheCount(), 3) - 2);
 }
 

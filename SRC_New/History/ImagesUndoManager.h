@@ -33,6 +33,7 @@
 namespace dabcanvas {
 class BackgroundQueue;
 class TempFolder;
+class TileStore;
 }  // namespace dabcanvas
 
 class DABCANVAS_CANVAS_API ImagesUndoManager : public UndoManager {
@@ -52,13 +53,17 @@ public:
     // The same for the current step, in the place of the image it has.
     bool setCurrentItemWithImageData(const QByteArray& data);
     bool setCurrentItemWithImage(const QImage& image);  // goes to its file at once
+    // What a canvas was, see keepTilesIn().
+    bool addItemWithPicture(const dabcanvas::StepPicture& picture);
     // reset(), and then the same.
+    bool resetWithPictureOfCurrentItem(const dabcanvas::StepPicture& picture);
     bool resetWithImageDataOfCurrentItem(const QByteArray& data);
     bool resetWithImageOfCurrentItem(const QImage& image);
 
     // The current step's image; null when it has none. May read a file, for which the caller waits.
     // `problem` takes what would be logged about that file.
     QByteArray currentImageDataOfItem(QString* problem = nullptr);
+    dabcanvas::StepPicture currentPictureOfItem(QString* problem = nullptr);
     // Whether it has one that could be had, if only there were enough memory.
     bool hasCurrentImage() const;
     // The image in the current step's file. Deliberate: null for one that is only in memory.
@@ -69,6 +74,9 @@ public:
     bool addItemWithString(const QString& item) override;
     bool undo() override;
     bool redo() override;
+    // The same while files are being written: the images are in memory so long.
+    bool undoAtOnce();
+    bool redoAtOnce();
     void clearUndoItems() override;
     void clearRedoItems() override;
     void reset() override;
@@ -88,9 +96,24 @@ public:
     qint64 cacheByteBudget() const;
     void setCacheByteBudget(qint64 bytes);
     qint64 cachedBytes() const;
+    // The most bytes of disk for a canvas's steps; 0 for no such limit.
+    qint64 diskByteBudget() const;
+    void setDiskByteBudget(qint64 bytes);
+    qint64 bytesOnDisk() const;
+    // Off: where the budgets have no room for a canvas's step, whoever records it waits for the disk, and none goes.
+    bool dropsSteps() const;
+    void setDropsSteps(bool drops);  // on at first
+    // How many steps, the oldest, went for want of room since the history began. Where there are none but undone ones,
+    // the one undone first goes.
+    unsigned stepsDropped() const;
+    // Steps that are pictures of these tiles are bounded by both budgets, not by maxCacheCount(): beyond that of memory they
+    // go to disk, beyond both the oldest are dropped. Done by a canvas, whose budgets are an eighth of the machine's
+    // memory, at most 1 GiB, and 4 GiB.
+    void keepTilesIn(std::shared_ptr<dabcanvas::TileStore> tiles);
+    void keepToBudgets();  // as it does when what it shows has changed
     // Puts the cached image farthest from the current step into its file.
     void removeOneObjectFromCache();
-    // Two of them, and fewer from then on.
+    // Two of them, and fewer from then on; and half of what a canvas's steps take.
     void didReceiveMemoryWarning();
 
     // ---- Files ----
@@ -140,7 +163,10 @@ private:
                      const std::shared_ptr<dabcanvas::Snapshot>& image);
     void keepCurrent(const QByteArray& data);
     void makeRoom(qint64 bytes);
-    bool evictOne();
+    bool evictOne(bool ofSteps);
+    void beginItem();
+    void relieve(qint64 most);
+    bool dropFarthest();
     void pack(const std::shared_ptr<dabcanvas::Snapshot>& image);
     QString nameOfPath(const QString& path) const;
     void letGoOfUnused(const QStringList& names);
@@ -151,7 +177,10 @@ private:
     std::unique_ptr<dabcanvas::TempFolder> _folder;
     QString _pathExtension = QStringLiteral("png");
     unsigned _maxCacheCount = 50;
-    qint64 _cacheByteBudget = 0;
+    qint64 _cacheByteBudget = 0, _diskByteBudget = 0;
+    bool _dropsSteps = true;
+    unsigned _stepsDropped = 0;
+    std::shared_ptr<dabcanvas::TileStore> _tiles;
     dabcanvas::SnapshotStore _store;
     std::shared_ptr<Quitting> _quitting;
     const std::thread::id _maker = std::this_thread::get_id();

@@ -6,9 +6,9 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <vector>
 #endif
+#include <cstring>
 
 namespace dabcanvas {
 
@@ -26,7 +26,8 @@ bool canPack() {
 QByteArray packed(const QByteArray& raw) {
     const qsizetype most = raw.size() / 4 * 3;
     QByteArray result;
-    std::vector<char> block(static_cast<std::size_t>(LZ4_compressBound(static_cast<int>(kBlock))));
+    const auto largest = static_cast<int>(std::min(kBlock, raw.size()));
+    std::vector<char> block(static_cast<std::size_t>(LZ4_compressBound(largest)));
     for (qsizetype at = 0; at < raw.size(); at += kBlock) {
         const int length = static_cast<int>(std::min(kBlock, raw.size() - at));
         const BlockSize size =
@@ -41,24 +42,23 @@ QByteArray packed(const QByteArray& raw) {
     return result;
 }
 
-QByteArray unpacked(const QByteArray& packed, qsizetype rawSize) {
-    QByteArray raw(rawSize, Qt::Uninitialized);
+bool unpackInto(const QByteArray& packed, char* raw, qsizetype rawSize) {
     qsizetype from = 0;
     for (qsizetype to = 0; to < rawSize; to += kBlock) {
         const int length = static_cast<int>(std::min(kBlock, rawSize - to));
         BlockSize size = 0;
         if (packed.size() - from < qsizetype{sizeof size}) {
-            return {};
+            return false;
         }
         std::memcpy(&size, packed.constData() + from, sizeof size);
         from += sizeof size;
         if (size <= 0 || size > packed.size() - from ||
-            LZ4_decompress_safe(packed.constData() + from, raw.data() + to, size, length) != length) {
-            return {};
+            LZ4_decompress_safe(packed.constData() + from, raw + to, size, length) != length) {
+            return false;
         }
         from += size;
     }
-    return raw;
+    return true;
 }
 #else
 bool canPack() {
@@ -67,9 +67,22 @@ bool canPack() {
 QByteArray packed(const QByteArray&) {
     return {};
 }
-QByteArray unpacked(const QByteArray&, qsizetype) {
-    return {};
+bool unpackInto(const QByteArray&, char*, qsizetype) {
+    return false;
 }
 #endif
+
+bool restoreInto(const QByteArray& stored, char* raw, qsizetype rawSize) {
+    if (stored.size() != rawSize) {
+        return unpackInto(stored, raw, rawSize);
+    }
+    std::memcpy(raw, stored.constData(), static_cast<std::size_t>(rawSize));
+    return true;
+}
+
+QByteArray unpacked(const QByteArray& packed, qsizetype rawSize) {
+    QByteArray raw(rawSize, Qt::Uninitialized);
+    return unpackInto(packed, raw.data(), rawSize) ? raw : QByteArray();
+}
 
 }  // namespace dabcanvas

@@ -22,6 +22,9 @@ QByteArray ownedData(const QByteArray& data) {
 }
 
 QByteArray Snapshot::data() const {
+    if (!_step.isNull()) {
+        return _step.bytes();
+    }
     QByteArray compressed;
     try {
         {

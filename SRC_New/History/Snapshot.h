@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One remembered image: bytes, held raw at first and perhaps compressed later, or a picture that becomes the
-// bytes of a PNG file when they are asked for.
+// One remembered image: bytes, held raw at first and perhaps compressed later, or a picture that becomes bytes when they
+// are asked for: those of a PNG file, or the pixels of a canvas's step.
 //
 // Units    bytes.
 // Thread   any; data() and pack() of one snapshot may run at once.
@@ -12,6 +12,8 @@
 #include <atomic>
 #include <mutex>
 
+#include "History/StepPicture.h"
+
 namespace dabcanvas {
 
 // Shares the data; copies those that do not own their bytes (QByteArray::fromRawData), as somebody else may
@@ -22,10 +24,13 @@ class Snapshot {
 public:
     explicit Snapshot(const QByteArray& raw) : _raw(raw), _held(raw.size()) {}
     explicit Snapshot(const QImage& picture) : _picture(picture), _held(picture.sizeInBytes()) {}
+    explicit Snapshot(const StepPicture& step) : _step(step), _held(0) {}
 
     // The bytes as they were given, never null for data that were not.
     QByteArray data() const;
-    // Bytes of memory that this holds, whoever else shares them.
+    // Null but for what a canvas keeps.
+    const StepPicture& step() const { return _step; }
+    // Bytes of memory that this holds, whoever else shares them; none for a canvas's step, which keeps account itself.
     qint64 heldBytes() const { return _held; }
     // Replaces the raw bytes by compressed ones where that saves enough memory. Takes long; data() goes on
     // meanwhile. Does nothing in a build without LZ4.
@@ -37,6 +42,7 @@ private:
     QByteArray _packed;
     qsizetype _rawSize = 0;  // of what is packed
     mutable QImage _picture;
+    const StepPicture _step;
     mutable std::atomic<qint64> _held;
 };
 

@@ -51,11 +51,15 @@ bool writeWholeFile(const QString& path, const QByteArray& data) {
 
 std::shared_ptr<Snapshot> SnapshotStore::cache(const QString& name, const QByteArray& data) {
     auto image = std::make_shared<Snapshot>(data);
+    cache(name, image);
+    return image;
+}
+
+void SnapshotStore::cache(const QString& name, std::shared_ptr<Snapshot> image) {
     const std::lock_guard lock(_mutex);
-    Record& record = cached(name, image);
+    Record& record = cached(name, std::move(image));
     record.ticket = ++_lastTicket;
     record.fileSize = -1;
-    return image;
 }
 
 std::shared_ptr<Snapshot> SnapshotStore::cacheFileContents(const QString& name, const QByteArray& data) {
@@ -80,14 +84,21 @@ void SnapshotStore::uncache(Record& record) {
     record.formerPlace = std::exchange(record.place, 0);
 }
 
-QStringList SnapshotStore::cachedNames() const {
+QStringList SnapshotStore::cachedNames(bool withSteps) const {
     const std::lock_guard lock(_mutex);
     QStringList names;
     names.reserve(static_cast<qsizetype>(_order.size()));
     for (const auto& [place, name] : _order) {
-        names.append(name);
+        if (withSteps || _records.constFind(name)->held->step().isNull()) {
+            names.append(name);
+        }
     }
     return names;
+}
+
+StepPicture SnapshotStore::step(const QString& name) const {
+    const Record record = find(name);
+    return record.held ? record.held->step() : StepPicture();
 }
 
 int SnapshotStore::cachedCount() const {

@@ -44,9 +44,11 @@ public:
 
     // Caches the data under the name; of one that is cached already, in the old one's place of the order.
     std::shared_ptr<Snapshot> cache(const QString& name, const QByteArray& data);
+    void cache(const QString& name, std::shared_ptr<Snapshot> image);
     // The same of what read() just got from the name's file, which stays good.
     std::shared_ptr<Snapshot> cacheFileContents(const QString& name, const QByteArray& data);
-    QStringList cachedNames() const;  // in the order of their insertion
+    // In the order of their insertion; with what a canvas keeps account of, or without.
+    QStringList cachedNames(bool withSteps = true) const;
     int cachedCount() const;
     // What memory the cached images hold; one that is being compressed counts raw until it is done.
     qint64 cachedBytes() const;
@@ -80,6 +82,8 @@ public:
             problem;  // in words: a file that was written is gone, or not as long as it was, or unreadable
     };
     Read read(const QString& name, const QString& path) const;
+    // What a canvas keeps under the name; null for any other.
+    StepPicture step(const QString& name) const;
     // Whether read() would find the image, given the memory.
     bool has(const QString& name, const QString& path) const;
     // Where the name's file is, null when none was written.

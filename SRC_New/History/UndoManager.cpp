@@ -84,18 +84,28 @@ void UndoManager::dropOldestUndoItem() {
     _undoItems.removeFirst();
 }
 
+void UndoManager::dropLastRedoItem() {
+    const Compound compound(_itemAccessSemaphore);
+    const std::lock_guard lock(_fields);
+    _redoItems.removeFirst();
+}
+
 bool UndoManager::undo() {
-    return step(_undoItems, _redoItems);
+    return step(_undoItems, _redoItems, false);
 }
 
 bool UndoManager::redo() {
-    return step(_redoItems, _undoItems);
+    return step(_redoItems, _undoItems, false);
 }
 
-bool UndoManager::step(QStringList& from, QStringList& to) {
+bool UndoManager::stepAnyway(Way way) {
+    return way == Way::back ? step(_undoItems, _redoItems, true) : step(_redoItems, _undoItems, true);
+}
+
+bool UndoManager::step(QStringList& from, QStringList& to, bool anyway) {
     const Compound compound(_itemAccessSemaphore);
     const std::lock_guard lock(_fields);
-    if (from.isEmpty() || processCount() != 0) {
+    if (from.isEmpty() || (!anyway && processCount() != 0)) {
         return false;
     }
     to.append(_selectItem);

@@ -60,9 +60,13 @@ public:
 protected:
     UndoManager() = default;
     void dropOldestUndoItem();  // of at least one
+    void dropLastRedoItem();    // that redo() would reach last; of at least one
+    enum class Way : std::uint8_t { back, forth };
+    // undo() or redo(), also while background operations run.
+    bool stepAnyway(Way way);
 
 private:
-    bool step(QStringList& from, QStringList& to);
+    bool step(QStringList& from, QStringList& to, bool anyway);
     void forgetProcesses();
 
     QSemaphore _itemAccessSemaphore{1};  // held for the length of a compound change

@@ -4,7 +4,6 @@
 #include <QDateTime>
 #include <QMutex>
 #include <QMutexLocker>
-#include <QThread>
 #include <cstdlib>
 #include <cstring>
 
@@ -18,12 +17,8 @@ QString Tools::dateString() {
         return QDateTime(local.date(), local.time(), Qt::UTC);
     };
     QDateTime now = wallClock();
-    if (now == last) {
-        QThread::msleep(10);
-        now = wallClock();
-    }
     if (last.isValid() && now <= last) {
-        now = last.addMSecs(1);  // the clock was set back, or stands
+        now = last.addMSecs(1);  // the clock was set back, or asked twice in a millisecond, which waits for nothing
     }
     last = now;
     return now.toString(QStringLiteral("yyyyMMddHHmmsszzz"));

@@ -11,7 +11,7 @@ class DABCANVAS_BRUSHES_API Tools {
 public:
     // The local time as "yyyyMMddHHmmssSSS", digits in every locale. Unique in this process and increasing
     // from call to call, on all threads together, also when the clock is set back (it then counts on from
-    // the last one by milliseconds). May sleep some milliseconds.
+    // the last one by milliseconds).
     static QString dateString();
 
     // The system's rand().

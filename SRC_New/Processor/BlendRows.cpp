@@ -4,8 +4,10 @@
 #include "Processor/BlendRows.h"
 
 #include <algorithm>
+#include <type_traits>
 
 #include "Surface/BlendType.h"
+#include "Surface/TileSet.h"
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Processor/BlendRows.cpp"
@@ -103,9 +105,11 @@ HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> nois
     const Value back = loaded(row.background);
     Value line = hn::Mul(loaded(row.layer), scale);
     Value bareUnless = alphaOf(line);
+    constexpr bool replaces = std::is_same_v<Mode, Replace>;
     if (row.mask != nullptr) {
-        line = hn::Mul(line, hn::Mul(alphaOf(loaded(row.mask)), hn::Set(kFloats, 1.0f / 65535)));
-        bareUnless = alphaOf(line);
+        const Value mask = alphaOf(loaded(row.mask));
+        line = hn::Mul(line, hn::Mul(mask, hn::Set(kFloats, 1.0f / 65535)));
+        bareUnless = replaces ? mask : alphaOf(line);
     }
     Value mixed = Mode::mix(back, line);
     mixed = hn::Min(mixed, alphaOf(mixed));
@@ -113,13 +117,33 @@ HWY_INLINE void blendVector(const BlendRow& row, Value scale, hn::Vec<Ints> nois
                                      hn::Set(kFloats, 1.0f / 256)),
                              hn::Set(kFloats, 1.0f / 512));
     auto rounded = hn::ConvertTo(hn::RebindToSigned<Floats>(), hn::Add(mixed, up));
-    if (Mode::kLeavesBare) {
+    if (Mode::kLeavesBare || (replaces && row.mask != nullptr)) {
         const auto bare = hn::Le(bareUnless, hn::Zero(kFloats));
         rounded = hn::IfThenElse(hn::RebindMask(hn::RebindToSigned<Floats>(), bare),
                                  hn::ConvertTo(hn::RebindToSigned<Floats>(), loaded(row.picture)), rounded);
     }
     hn::StoreU(hn::DemoteTo(hn::Rebind<std::uint8_t, Floats>(), rounded), hn::Rebind<std::uint8_t, Floats>(),
                row.picture);
+}
+
+// What is to come of a row, so many pixels further on.
+HWY_INLINE void move(BlendRow& row, int pixels) {
+    const std::ptrdiff_t values = std::ptrdiff_t{4} * pixels;
+    row.picture += values;
+    row.background += values;
+    row.layer += values;
+    row.mask += row.mask != nullptr ? values : 0;
+    row.noise += static_cast<std::uint32_t>(pixels) * kNoiseAlong;
+    row.count -= pixels;
+}
+// Steps back from the last pixels, fewer than a vector has, so that they are one with some that are blended once more.
+// False where that cannot be.
+HWY_INLINE bool moveBack(BlendRow& row, const BlendRow& whole, int step) {
+    if (row.count == 0 || whole.count < step || whole.picture == whole.background) {
+        return false;
+    }
+    move(row, row.count - step);
+    return true;
 }
 
 template <typename Mode>
@@ -131,15 +155,12 @@ void blendWhole(const BlendRow& whole) {
     const auto noise = [&] {
         return hn::And(hn::Add(places, hn::Set(kInts, row.noise)), hn::Set(kInts, 255));
     };
-    for (; row.count >= step; row.count -= step) {
+    for (; row.count >= step; move(row, step)) {
         blendVector<Mode>(row, scale, noise());
-        row.picture += 4 * step;
-        row.background += 4 * step;
-        row.layer += 4 * step;
-        row.mask += row.mask != nullptr ? 4 * step : 0;
-        row.noise += static_cast<std::uint32_t>(step) * kNoiseAlong;
     }
-    if (row.count > 0) {
+    if (moveBack(row, whole, step)) {
+        blendVector<Mode>(row, scale, noise());
+    } else if (row.count > 0) {
         std::uint8_t picture[16] = {}, background[16] = {};
         std::uint16_t layer[16] = {}, mask[16] = {};
         const auto values = static_cast<std::size_t>(row.count) * 4;
@@ -190,14 +211,12 @@ void blendNormal(const BlendRow& whole) {
         return hn::And(hn::Add(places, hn::Set(kWords, static_cast<std::uint16_t>(row.noise))),
                        hn::Set(kWords, 255));
     };
-    for (; row.count >= step; row.count -= step) {
+    for (; row.count >= step; move(row, step)) {
         blendWords(row, opacity, noise());
-        row.picture += 4 * step;
-        row.background += 4 * step;
-        row.layer += 4 * step;
-        row.noise += static_cast<std::uint32_t>(step) * kNoiseAlong;
     }
-    if (row.count > 0) {
+    if (moveBack(row, whole, step)) {
+        blendWords(row, opacity, noise());
+    } else if (row.count > 0) {
         std::uint8_t picture[32], background[32] = {};
         std::uint16_t layer[32] = {};
         const auto values = static_cast<std::size_t>(row.count) * 4;
@@ -209,24 +228,39 @@ void blendNormal(const BlendRow& whole) {
     }
 }
 
-void blend(std::uint32_t blendType, const BlendRow& row) {
+// The kernel of a mode.
+auto kernelOf(std::uint32_t blendType, bool isMasked) {
     switch (blendType) {
         case ESBlendTypeReplace:
-            return blendWhole<Replace>(row);
+            return blendWhole<Replace>;
         case ESBlendTypeBehind:
-            return blendWhole<Behind>(row);
+            return blendWhole<Behind>;
         case ESBlendTypeErase:
-            return blendWhole<Erase>(row);
+            return blendWhole<Erase>;
         case ESBlendTypeTarnish:
-            return blendWhole<Tarnish>(row);
+            return blendWhole<Tarnish>;
         case ESBlendTypeBrightness:
-            return blendWhole<Brightness>(row);
+            return blendWhole<Brightness>;
         case ESBlendTypeMultiply:
-            return blendWhole<Multiply>(row);
+            return blendWhole<Multiply>;
         case ESBlendTypeReset:
-            return blendWhole<Reset>(row);
+            return blendWhole<Reset>;
         default:
-            return row.mask != nullptr ? blendWhole<Normal>(row) : blendNormal(row);
+            return isMasked ? blendWhole<Normal> : blendNormal;
+    }
+}
+
+void blend(std::uint32_t blendType, const BlendRow& first, int rows) {
+    constexpr std::ptrdiff_t kDown = kTileSide * 4;
+    const auto kernel = kernelOf(blendType, first.mask != nullptr);
+    BlendRow row = first;
+    for (int y = 0; y < rows; ++y) {
+        kernel(row);
+        row.picture += kDown;
+        row.background += kDown;
+        row.layer += kDown;
+        row.mask += row.mask != nullptr ? kDown : 0;
+        row.noise += kNoiseDown;
     }
 }
 
@@ -243,8 +277,8 @@ namespace dabcanvas {
 HWY_EXPORT(blend);
 HWY_EXPORT(targetName);
 
-void blendRow(std::uint32_t blendType, const BlendRow& row) {
-    HWY_DYNAMIC_DISPATCH(blend)(blendType, row);
+void blendRows(std::uint32_t blendType, const BlendRow& first, int rows) {
+    HWY_DYNAMIC_DISPATCH(blend)(blendType, first, rows);
 }
 
 const char* vectorsInUse() {

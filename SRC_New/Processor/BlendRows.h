@@ -7,7 +7,7 @@
 
 namespace dabcanvas {
 
-// Pixels side by side in one row of a tile.
+// Pixels side by side in one row of a tile. Picture and background may be one.
 struct BlendRow {
     std::uint8_t* picture;
     const std::uint8_t* background;
@@ -31,9 +31,10 @@ constexpr float upBy(std::uint32_t noise) {
     return (static_cast<float>(noise & 255) + 0.5f) / 256;
 }
 
-// Pixels without paint in the layer stay as they are in the modes that leave them (all but normal, replace and reset);
-// a blend type that is none counts as normal.
-void blendRow(std::uint32_t blendType, const BlendRow& row);
+// So many rows of tiles below one another, of which the first is given. Pixels without paint in the layer stay as they are
+// in the modes that leave them (all but normal, replace and reset), and in replace those that the mask holds nothing of; a
+// blend type that is none counts as normal.
+void blendRows(std::uint32_t blendType, const BlendRow& first, int rows);
 
 // What the processor offers, by name.
 const char* vectorsInUse();

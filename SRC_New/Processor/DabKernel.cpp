@@ -3,6 +3,7 @@
 #include "Processor/DabKernel.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 #undef HWY_TARGET_INCLUDE
@@ -12,6 +13,7 @@
 
 #include "Processor/DabPixels-inl.h"
 #include "Processor/DabSpans-inl.h"
+#include "Processor/DabUpright-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace dabcanvas {
@@ -22,50 +24,40 @@ struct Cover {
     Int coverage, noise;
 };
 
-// A dab's coverage in a tile.
-template <int kLevels, bool kPaper>
-class Coverage {
+// What a dab's levels, box and paper come to, rounded.
+template <int kLevels>
+class Rounding {
 public:
-    HWY_INLINE Coverage(const TileDab& dab, const DabGround& ground, const Order& order)
-        : _dab(&dab),
-          _paper(ground.paper),
-          _order(order),
-          _first(dab.shape->levels[0], dab.u[0], dab.v[0], order),
-          _second(dab.shape->levels[kLevels - 1], dab.u[kLevels - 1], dab.v[kLevels - 1], order),
-          _box(dab),
+    HWY_INLINE Rounding(const TileDab& dab, const Order& order)
+        : _start(dab.noise),
           _weights(hn::Set(
               kInts, dab.shape->levels[0].weight | (kLevels > 1 ? dab.shape->levels[1].weight << 16 : 0))),
           _noise(order.steps(static_cast<std::int32_t>(kNoiseRight), static_cast<std::int32_t>(kNoiseDown))),
           _faint(dab.shape->faint) {}
 
-    // Of pixels from (x, y) on, x and y even, in their order: 0 before `first` and from `end` on.
-    HWY_INLINE Cover at(int x, int y, Int first, Int end, bool isRim) const {
+    // Sixteen bits of each level, side by side.
+    static HWY_INLINE Int levels(Int first, Int second) {
         const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
-        const Int right = hn::Add(hn::Set(kInts, x), _order.right);
-        Int texels = hn::ShiftRight<8>(_first.at(x, y));
-        if constexpr (kLevels > 1) {
-            texels = hn::Or(texels, hn::And(hn::ShiftLeft<8>(_second.at(x, y)), high));
-        }
-        const auto times = [&](Int part) HWY_ATTR {
-            const Int both = kLevels > 1 ? hn::Or(part, hn::ShiftLeft<16>(part)) : part;
-            texels = hn::BitCast(kInts, hn::MulFixedPoint15(words(texels), words(both)));
-        };
-        if (isRim) {
-            times(_box.at(right, hn::Add(hn::Set(kInts, y), _order.down)));
-        }
-        if constexpr (kPaper) {
-            const hn::Rebind<std::uint16_t, Ints> narrow;
-            times(hn::PromoteTo(kInts, hn::LoadU(narrow, _paper + paperPlace(x, y))));
-        }
-        const auto start =
-            static_cast<std::int32_t>(_dab->noise + static_cast<std::uint32_t>(x) * kNoiseRight +
-                                      static_cast<std::uint32_t>(y) * kNoiseDown);
+        const Int upper = kLevels > 1 ? hn::And(hn::ShiftLeft<8>(second), high) : hn::Zero(kInts);
+        return hn::Or(hn::ShiftRight<8>(first), upper);
+    }
+    static HWY_INLINE Int times(Int texels, Int part) {
+        const Int both = kLevels > 1 ? hn::Or(part, hn::ShiftLeft<16>(part)) : part;
+        return hn::BitCast(kInts, hn::MulFixedPoint15(words(texels), words(both)));
+    }
+    static HWY_INLINE Int timesPaper(Int texels, const std::uint16_t* paper, int x, int y) {
+        const hn::Rebind<std::uint16_t, Ints> narrow;
+        return times(texels, hn::PromoteTo(kInts, hn::LoadU(narrow, paper + pairedPlace(x, y))));
+    }
+    // Of the pixels from (x, y) on.
+    HWY_INLINE Cover cover(Int texels, int x, int y) const {
+        const auto start = static_cast<std::int32_t>(_start + static_cast<std::uint32_t>(x) * kNoiseRight +
+                                                     static_cast<std::uint32_t>(y) * kNoiseDown);
         const Int noise = hn::Add(hn::Set(kInts, start), _noise);
         const Int rounding = hn::ShiftLeftSame(logicalShift(noise), _faint);
         const Int coverage =
             hn::ShiftRightSame(hn::Add(pairProducts(texels, _weights), rounding), kWeightShift + _faint);
-        const auto isInside = hn::AndNot(hn::Lt(right, first), hn::Lt(right, end));
-        return {hn::IfThenElseZero(isInside, hn::Min(coverage, hn::Set(kInts, kWhole))), noise};
+        return {hn::Min(coverage, hn::Set(kInts, kWhole)), noise};
     }
 
 private:
@@ -74,11 +66,7 @@ private:
             kInts, hn::ShiftRight<32 - kWeightShift>(hn::BitCast(hn::RebindToUnsigned<Ints>(), noise)));
     }
 
-    const TileDab* _dab;
-    const std::uint16_t* _paper;
-    const Order& _order;
-    LevelPixels _first, _second;
-    BoxPixels _box;
+    std::uint32_t _start;
     Int _weights, _noise;
     int _faint;
 };
@@ -100,48 +88,132 @@ HWY_INLINE void blendRow(std::uint16_t* pixels, Word colour, Int weights, Int ro
     hn::StoreU(hn::BitCast(unsignedWords, result), unsignedWords, pixels);
 }
 
-HWY_INLINE void blend(std::uint16_t* pixels, Word colour, const Cover& cover) {
+HWY_INLINE void blend(std::uint16_t* pixels, Word upper, Word lower, const Cover& cover) {
     // Signed words hold -1 but not 1: the sum is taken the other way round. ~n for n as the rounding, ~ in the end.
     const Int away = hn::Xor(cover.coverage, hn::Set(kInts, 0x8000));
     const Int weights = hn::Or(away, hn::ShiftLeft<16>(hn::Neg(cover.coverage)));
     const Int rounding = hn::Or(cover.noise, hn::Set(kInts, ~0x7fff));
-    blendRow<0>(pixels, colour, weights, rounding);
-    blendRow<2>(pixels + kTileSide * 4, colour, weights, rounding);
+    blendRow<0>(pixels, upper, weights, rounding);
+    blendRow<2>(pixels + kTileSide * 4, lower, weights, rounding);
 }
 
-// Calls each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, two rows at a time.
-template <int kLevels, bool kPaper, typename Each>
-HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const DabGround& ground,
-                             Each&& each) {
-    const Order order;
-    const Coverage<kLevels, kPaper> coverage(dab, ground, order);
-    Int any = hn::Zero(kInts);
-    for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += 2) {
-        const Int first = order.perRow(spans.first[y], spans.first[y + 1]);
-        const Int end = order.perRow(spans.end[y], spans.end[y + 1]);
-        const int innerFirst = std::max(spans.innerFirst[y], spans.innerFirst[y + 1]);
-        const int innerEnd = std::min(spans.innerEnd[y], spans.innerEnd[y + 1]);
-        const int last = std::max(spans.end[y], spans.end[y + 1]);
-        for (int from = std::min(spans.first[y], spans.first[y + 1]) / 2 * 2; from < last; from += across()) {
-            const int x = std::min(from, kTileSide - across());
-            const bool isRim = x < innerFirst || x + across() > innerEnd;
-            const Cover cover = coverage.at(x, y, hn::Max(first, hn::Set(kInts, from)), end, isRim);
-            each(x, y, cover);
-            any = hn::Or(any, cover.coverage);
+// Both call each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, two rows at a time.
+struct AnyDab {
+    template <int kLevels, bool kPaper, typename Each>
+    static HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const DabGround& ground,
+                                        Each&& each) {
+        const Order order;
+        const Rounding<kLevels> rounding(dab, order);
+        const LevelPixels one(dab.shape->levels[0], dab.u[0], dab.v[0], order);
+        const LevelPixels two(dab.shape->levels[kLevels - 1], dab.u[kLevels - 1], dab.v[kLevels - 1], order);
+        const BoxPixels box(dab);
+        Int any = hn::Zero(kInts);
+        for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += 2) {
+            const Int first = order.perRow(spans.first[y], spans.first[y + 1]);
+            const Int end = order.perRow(spans.end[y], spans.end[y + 1]);
+            const int innerFirst = std::max(spans.innerFirst[y], spans.innerFirst[y + 1]);
+            const int innerEnd = std::min(spans.innerEnd[y], spans.innerEnd[y + 1]);
+            const int last = std::max(spans.end[y], spans.end[y + 1]);
+            for (int from = std::min(spans.first[y], spans.first[y + 1]) / 2 * 2; from < last;
+                 from += across()) {
+                const int x = std::min(from, kTileSide - across());
+                const Int right = hn::Add(hn::Set(kInts, x), order.right);
+                Int texels = rounding.levels(one.at(x, y), kLevels > 1 ? two.at(x, y) : hn::Zero(kInts));
+                if (x < innerFirst || x + across() > innerEnd) {
+                    texels = rounding.times(texels, box.at(right, hn::Add(hn::Set(kInts, y), order.down)));
+                }
+                texels = kPaper ? rounding.timesPaper(texels, ground.paper, x, y) : texels;
+                Cover cover = rounding.cover(texels, x, y);
+                const auto isBefore = hn::Lt(right, hn::Max(first, hn::Set(kInts, from)));
+                cover.coverage = hn::IfThenElseZero(hn::AndNot(isBefore, hn::Lt(right, end)), cover.coverage);
+                each(x, y, cover);
+                any = hn::Or(any, cover.coverage);
+            }
         }
+        return !hn::AllTrue(kInts, hn::Eq(any, hn::Zero(kInts)));
     }
-    return !hn::AllTrue(kInts, hn::Eq(any, hn::Zero(kInts)));
+};
+
+// Columns from left to right, each from above.
+struct UprightDab {
+    template <int kLevels, bool kPaper, typename Each>
+    static HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const DabGround& ground,
+                                        Each&& each) {
+        const Order order;
+        const Rounding<kLevels> rounding(dab, order);
+        const UprightBox box(dab, ground.width);
+        int leftmost = kTileSide, rightmost = 0;
+        for (int y = dab.firstRow / 2 * 2; y < dab.endRow; ++y) {
+            leftmost = std::min<int>(leftmost, spans.first[y]);
+            rightmost = std::max<int>(rightmost, spans.end[y]);
+        }
+        Int any = hn::Zero(kInts);
+        for (int from = leftmost / 2 * 2; from < rightmost; from += across()) {
+            const int x = std::min(from, kTileSide - across());
+            const TexelColumns one(dab.shape->levels[0], dab.u[0], x, order);
+            const TexelColumns two(dab.shape->levels[kLevels - 1], dab.u[kLevels - 1], x, order);
+            const Float columns = box.covered(hn::Add(hn::Set(kInts, x), order.right), from);
+            for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += 2) {
+                if (x + across() <= std::min(spans.first[y], spans.first[y + 1]) ||
+                    x >= std::max(spans.end[y], spans.end[y + 1])) {
+                    continue;
+                }
+                const UprightRows& rows = box.rows(y);
+                Int texels = rounding.levels(one.at(rows.levels[0]),
+                                             kLevels > 1 ? two.at(rows.levels[1]) : hn::Zero(kInts));
+                texels = rounding.times(texels, nearest(hn::Mul(columns, perRow(rows.covered))));
+                texels = kPaper ? rounding.timesPaper(texels, ground.paper, x, y) : texels;
+                const Cover cover = rounding.cover(texels, x, y);
+                each(x, y, cover);
+                any = hn::Or(any, cover.coverage);
+            }
+        }
+        return !hn::AllTrue(kInts, hn::Eq(any, hn::Zero(kInts)));
+    }
+};
+
+HWY_INLINE Word signedWords(hn::Vec<hn::RebindToUnsigned<Words>> colour) {
+    return hn::Xor(hn::BitCast(kWords, colour), hn::Set(kWords, static_cast<std::int16_t>(-32768)));
 }
 
-template <int kLevels, bool kPaper>
+template <typename Kind, int kLevels, bool kPaper>
 bool draw(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     std::uint64_t four;
     std::memcpy(&four, dab.shape->colour.data(), sizeof(four));
-    const Word colour = hn::Xor(hn::BitCast(kWords, hn::Set(hn::Repartition<std::uint64_t, Ints>(), four)),
-                                hn::Set(kWords, static_cast<std::int16_t>(-32768)));
-    return forEachCover<kLevels, kPaper>(dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
-        blend(ground.tile + (y * kTileSide + x) * 4, colour, cover);
-    });
+    const Word colour = signedWords(
+        hn::BitCast(hn::RebindToUnsigned<Words>(), hn::Set(hn::Repartition<std::uint64_t, Ints>(), four)));
+    return Kind::template forEachCover<kLevels, kPaper>(
+        dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            blend(ground.tile + (y * kTileSide + x) * 4, colour, colour, cover);
+        });
+}
+
+// Each pixel in the colour that stands ready for it.
+template <typename Kind, int kLevels>
+bool drawInColours(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
+    const auto at = [&](std::ptrdiff_t value) HWY_ATTR {
+        return signedWords(hn::LoadU(hn::RebindToUnsigned<Words>(), ground.colours + value));
+    };
+    return Kind::template forEachCover<kLevels, false>(
+        dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            const std::ptrdiff_t first = (y * kTileSide + x) * 4;
+            blend(ground.tile + first, at(first), at(first + kTileSide * 4), cover);
+        });
+}
+
+// Alpha alone.
+template <typename Kind, int kLevels>
+bool drawCoverage(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
+    const hn::Rebind<std::uint16_t, Ints> narrow;
+    const Int full = hn::Set(kInts, 65535), fraction = hn::Set(kInts, 0x7fff);
+    return Kind::template forEachCover<kLevels, false>(
+        dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
+            std::uint16_t* const pixels = ground.tile + pairedPlace(x, y);
+            const Int alpha = hn::PromoteTo(kInts, hn::LoadU(narrow, pixels));
+            const Int more =
+                hn::Add(hn::Mul(hn::Sub(full, alpha), cover.coverage), hn::And(cover.noise, fraction));
+            hn::StoreU(hn::DemoteTo(narrow, hn::Add(alpha, hn::ShiftRight<15>(more))), narrow, pixels);
+        });
 }
 
 // Each pixel in a colour of its own. That is what takes long: one of these loops does for all dabs, on a paper that lets
@@ -153,7 +225,7 @@ bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGroun
     hn::Store(Order().down, kInts, down);
     DabGround paper = ground;
     paper.paper = ground.paper != nullptr ? ground.paper : smoothPaper();
-    return forEachCover<2, true>(dab, spans, paper, [&](int x, int y, const Cover& cover) HWY_ATTR {
+    return AnyDab::forEachCover<2, true>(dab, spans, paper, [&](int x, int y, const Cover& cover) HWY_ATTR {
         hn::Store(cover.coverage, kInts, coverage);
         for (int i = 0; i < lanes(); ++i) {
             if (coverage[i] > 0) {
@@ -165,9 +237,32 @@ bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGroun
 
 using Draw = bool (*)(const TileDab&, const RowSpans&, const DabGround&);
 
-Draw drawOf(const DabShape& shape, bool hasPaper) {
-    static constexpr Draw kDraws[2][2] = {{draw<1, false>, draw<2, false>}, {draw<1, true>, draw<2, true>}};
-    return shape.multicolour != nullptr ? drawInMulticolour : kDraws[hasPaper][shape.levelCount - 1];
+template <typename Kind>
+Draw drawOf(const DabShape& shape, const DabGround& ground) {
+    static constexpr Draw kDraws[2][2] = {{draw<Kind, 1, false>, draw<Kind, 2, false>},
+                                          {draw<Kind, 1, true>, draw<Kind, 2, true>}};
+    static constexpr Draw kInColours[2] = {drawInColours<Kind, 1>, drawInColours<Kind, 2>};
+    static constexpr Draw kCoverage[2] = {drawCoverage<Kind, 1>, drawCoverage<Kind, 2>};
+    const int levels = shape.levelCount - 1;
+    if (ground.isCoverage) {
+        return kCoverage[levels];
+    }
+    return ground.colours != nullptr ? kInColours[levels] : kDraws[ground.paper != nullptr][levels];
+}
+
+// Rows of pixels lie along rows of texels, and as many as there are lanes not far apart.
+bool isUpright(const DabShape& shape) {
+    const auto is = [](const DabLevel& level) {
+        const std::int64_t farthest = std::abs(std::int64_t{level.rightU}) * (across() - 1);
+        return level.downU == 0 && level.rightV == 0 && (farthest >> 16) + 1 <= kFarthestWord;
+    };
+    return is(shape.levels[0]) && is(shape.levels[1]);
+}
+
+Draw drawOf(const DabShape& shape, const DabGround& ground) {
+    return shape.multicolour != nullptr ? drawInMulticolour
+           : isUpright(shape)           ? drawOf<UprightDab>(shape, ground)
+                                        : drawOf<AnyDab>(shape, ground);
 }
 
 }  // namespace
@@ -183,7 +278,7 @@ bool DrawDabs(std::span<const TileDab> dabs, const DabGround& ground) {
             SpanMaker(some[i], ground.width).make(spans[i]);
         }
         for (std::size_t i = 0; i < some.size(); ++i) {
-            any |= drawOf(*some[i].shape, ground.paper != nullptr)(some[i], spans[i], ground);
+            any |= drawOf(*some[i].shape, ground)(some[i], spans[i], ground);
         }
     }
     return any;

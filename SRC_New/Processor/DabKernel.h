@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "Processor/Multicolour.h"
-#include "Surface/TileSet.h"
+#include "Processor/Tiles.h"
 
 namespace dabcanvas {
 
@@ -69,11 +69,6 @@ struct TileDab {
     int firstRow, endRow;
 };
 
-// Where a table of paper has the pixel: two of a row and then the two below them, two rows at a time.
-constexpr int paperPlace(int x, int y) {
-    return y / 2 * 2 * kTileSide + x / 2 * 4 + y % 2 * 2 + x % 2;
-}
-
 // Noise of the pixel (x, y) for the dab of this number: the upper bits round its coverage, the lower ones what it does to
 // the channels. The step from dab to dab is, of many that were tried, one that keeps colours well.
 constexpr std::uint32_t kNoiseRight = 0x9e3779b9u, kNoiseDown = 0xd1b54a33u, kNoiseDab = 0x0abf9af9u;
@@ -93,7 +88,11 @@ inline std::int32_t placeAt(std::int32_t start, std::int32_t right, std::int32_t
 struct DabGround {
     std::uint16_t* tile;         // premultiplied RGBA, 64 pixels a row
     int width;                   // pixels of each row that are drawn
-    const std::uint16_t* paper;  // 0..32767, see paperPlace(); null: smooth
+    const std::uint16_t* paper;  // 0..32767, see pairedPlace(); null: smooth
+    // Of each pixel of the tile, without paper; null: each dab's own.
+    const std::uint16_t* colours = nullptr;
+    // The tile has alpha alone, laid out as paper is; without paper and colours.
+    bool isCoverage = false;
 };
 
 // One after another. Returns whether any pixel was covered.

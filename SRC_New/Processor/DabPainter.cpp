@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -58,11 +59,19 @@ struct DabPainter::Inside {
     TipTables& tip(const DabStyle& style, std::uint32_t wanted);
     PaperTiles* paperOf(const DabStyle& style);
     void dropTips();
-    Rect plan(const TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
-              std::uint64_t count);
-    void addToTiles(const TileGrid<std::uint16_t>& layer, const Rect& touched);
-    void drawTile(TileGrid<std::uint16_t>& layer, const TileDabs& tile, PaperTiles* paperTiles) const;
-    void drawTiles(TileGrid<std::uint16_t>& layer, PaperTiles* paperTiles) const;
+    template <typename Grid>
+    Rect plan(const Grid& layer, std::span<const Dab> dabs, const DabStyle& style, std::uint64_t count);
+    template <typename Grid>
+    void addToTiles(const Grid& layer, const Rect& touched);
+    // What dabs are drawn with but their own colours.
+    struct With {
+        PaperTiles* paper;
+        DabColours* colours;
+    };
+    template <typename Grid>
+    void drawTile(Grid& layer, const TileDabs& tile, const With& with) const;
+    template <typename Grid>
+    void drawTiles(Grid& layer, const With& with) const;
 };
 
 TipTables& DabPainter::Inside::tip(const DabStyle& style, std::uint32_t wanted) {
@@ -109,7 +118,8 @@ PaperTiles* DabPainter::Inside::paperOf(const DabStyle& style) {
 }
 
 // Notes the dab that was planned last in the tiles that it may touch.
-void DabPainter::Inside::addToTiles(const TileGrid<std::uint16_t>& layer, const Rect& touched) {
+template <typename Grid>
+void DabPainter::Inside::addToTiles(const Grid& layer, const Rect& touched) {
     layer.forEachIn(touched, [&](std::size_t index, const Rect&) {
         const auto entry = static_cast<std::int32_t>(entries.size());
         entries.push_back({static_cast<std::uint32_t>(planned - 1), -1});
@@ -125,8 +135,9 @@ void DabPainter::Inside::addToTiles(const TileGrid<std::uint16_t>& layer, const 
     });
 }
 
-Rect DabPainter::Inside::plan(const TileGrid<std::uint16_t>& layer, std::span<const Dab> run,
-                              const DabStyle& style, std::uint64_t count) {
+template <typename Grid>
+Rect DabPainter::Inside::plan(const Grid& layer, std::span<const Dab> run, const DabStyle& style,
+                              std::uint64_t count) {
     planned = 0;
     entries.clear();
     for (const TileDabs& tile : tiles) {
@@ -163,8 +174,8 @@ Rect DabPainter::Inside::plan(const TileGrid<std::uint16_t>& layer, std::span<co
     return touched;
 }
 
-void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs& tile,
-                                  PaperTiles* paperTiles) const {
+template <typename Grid>
+void DabPainter::Inside::drawTile(Grid& layer, const TileDabs& tile, const With& with) const {
     const Rect rect = layer.rectOf(tile.tile);
     thread_local std::vector<TileDab> here;
     here.clear();
@@ -172,25 +183,31 @@ void DabPainter::Inside::drawTile(TileGrid<std::uint16_t>& layer, const TileDabs
         here.push_back(inTile(dabs[entries[static_cast<std::size_t>(i)].dab], rect));
     }
     std::shared_ptr<const PaperTiles::Through> through;
-    if (paperTiles != nullptr) {
-        through = paperTiles->at(rect);
+    if (with.paper != nullptr) {
+        through = with.paper->at(rect);
     }
     DabGround ground{nullptr, rect.width, through ? through->data() : nullptr};
+    ground.isCoverage = std::is_same_v<Grid, CoverageGrid>;
+    if (with.colours != nullptr) {
+        ground.colours = with.colours->of(
+            rect.intersected(dabs[entries[static_cast<std::size_t>(tile.first)].dab].touched));
+    }
     if (layer.tile(tile.tile) != nullptr) {
         ground.tile = layer.writable(tile.tile).values.data();
         drawDabs(here, ground);
         return;
     }
     // What only seemed to be touched stays away.
-    const auto made = std::make_unique<Tile<std::uint16_t>>();
+    const auto made = std::make_unique<typename Grid::TileOf>();
     ground.tile = made->values.data();
     if (drawDabs(here, ground)) {
         layer.writable(tile.tile) = *made;
     }
 }
 
-void DabPainter::Inside::drawTiles(TileGrid<std::uint16_t>& layer, PaperTiles* paperTiles) const {
-    const auto piece = [&](std::size_t i) { drawTile(layer, tiles[i], paperTiles); };
+template <typename Grid>
+void DabPainter::Inside::drawTiles(Grid& layer, const With& with) const {
+    const auto piece = [&](std::size_t i) { drawTile(layer, tiles[i], with); };
     std::int64_t pixels = 0;
     for (std::size_t i = 0; i < planned; ++i) {
         pixels += dabs[i].touched.area();
@@ -218,7 +235,32 @@ Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs,
     _inside->dropTips();
     PaperTiles* const paper = _inside->paperOf(style);
     const Rect touched = _inside->plan(layer, dabs, style, count);
-    _inside->drawTiles(layer, paper);
+    _inside->drawTiles(layer, {paper, nullptr});
+    return touched;
+}
+
+Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, const Dab& dab, const DabStyle& style,
+                      std::uint64_t count, DabColours& colours) {
+    if (!style.tips || style.tips->empty()) {
+        return {};
+    }
+    _inside->dropTips();
+    const Rect touched = _inside->plan(layer, std::span(&dab, 1), style, count);
+    if (!touched.isEmpty()) {
+        colours.begin(touched);
+        _inside->drawTiles(layer, {nullptr, &colours});
+    }
+    return touched;
+}
+
+Rect DabPainter::draw(CoverageGrid& layer, std::span<const Dab> dabs, const DabStyle& style,
+                      std::uint64_t count) {
+    if (!style.tips || style.tips->empty()) {
+        return {};
+    }
+    _inside->dropTips();
+    const Rect touched = _inside->plan(layer, dabs, style, count);
+    _inside->drawTiles(layer, {nullptr, nullptr});
     return touched;
 }
 

@@ -21,6 +21,22 @@
 
 namespace dabcanvas {
 
+// Colours that differ from pixel to pixel of a dab.
+class DabColours {
+public:
+    // Before anything is drawn: the pixels that the dab may touch.
+    virtual void begin(const Rect& pixels) = 0;
+    // Those of a part of one tile, laid out as the tile is, beyond which anything may stand. On any thread, several at a
+    // time; valid until the same thread asks again.
+    virtual const std::uint16_t* of(const Rect& part) = 0;
+
+protected:
+    ~DabColours() = default;
+};
+
+// What dabs cover, full scale 65535; in tiles laid out as pairedPlace() tells.
+using CoverageGrid = TileGrid<std::uint16_t, 1>;
+
 class DabPainter {
 public:
     static constexpr std::size_t kMostDerived = std::size_t{32} << 20;  // bytes
@@ -34,6 +50,11 @@ public:
     // the noise starts from.
     Rect draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
               std::uint64_t count);
+    // The same of one dab, without paper, in these colours.
+    Rect draw(TileGrid<std::uint16_t>& layer, const Dab& dab, const DabStyle& style, std::uint64_t count,
+              DabColours& colours);
+    // What dabs cover, without paper, adds up as their alpha would.
+    Rect draw(CoverageGrid& layer, std::span<const Dab> dabs, const DabStyle& style, std::uint64_t count);
 
 private:
     struct Inside;

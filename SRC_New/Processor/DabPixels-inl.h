@@ -16,6 +16,22 @@ namespace dabcanvas {
 namespace HWY_NAMESPACE {
 namespace {
 
+HWY_INLINE Int place(std::int32_t start, Int perLane, Int last) {
+    return hn::Min(hn::Max(hn::Add(hn::Set(kInts, start), perLane), hn::Zero(kInts)), last);
+}
+// Fractions of 16 bits, of 127.
+HWY_INLINE Word of127(Int fractions) {
+    return hn::MulFixedPoint15(
+        hn::BitCast(kWords, hn::ShiftRight<1>(hn::BitCast(hn::RebindToUnsigned<Words>(), fractions))),
+        hn::Set(kWords, 127));
+}
+// 127 less the fraction of the upper half, and the fraction, side by side, for both columns of a block.
+HWY_INLINE Int rowWeights(Int fractions) {
+    const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
+    const Int down = hn::Or(hn::And(fractions, high), hn::ShiftRight<16>(fractions));
+    return hn::Xor(hn::Or(hn::ShiftLeft<8>(down), down), hn::Set(kInts, 0x007f007f));
+}
+
 // One level of the tip.
 class LevelPixels {
 public:
@@ -32,23 +48,14 @@ public:
     // Sixteen bits and a few more, of which the lower eight are not worth keeping.
     HWY_INLINE Int at(int x, int y) const {
         const Int high = hn::Set(kInts, static_cast<std::int32_t>(0xffff0000u));
-        const auto place = [&](std::int32_t start, Int perLane, Int last) HWY_ATTR {
-            return hn::Min(hn::Max(hn::Add(hn::Set(kInts, start), perLane), hn::Zero(kInts)), last);
-        };
         const Int u = place(placeAt(_u, _level->rightU, _level->downU, x, y), _lanesU, _lastU);
         const Int v = place(placeAt(_v, _level->rightV, _level->downV, x, y), _lanesV, _lastV);
         const Int texel = hn::Or(hn::ShiftRight<16>(u), hn::And(v, high));
         const Int block = blocksAt(_level->pairs, pairProducts(texel, _strides));
-        // Both fractions, of 127; then 127 less the fraction, and the fraction, side by side.
-        const Int fractions = hn::OrAnd(hn::ShiftLeft<16>(v), u, hn::Set(kInts, 0xffff));
-        const Word of127 = hn::MulFixedPoint15(
-            hn::BitCast(kWords, hn::ShiftRight<1>(hn::BitCast(hn::RebindToUnsigned<Words>(), fractions))),
-            hn::Set(kWords, 127));
-        const Int both = hn::BitCast(kInts, of127);
+        const Int both =
+            hn::BitCast(kInts, of127(hn::OrAnd(hn::ShiftLeft<16>(v), u, hn::Set(kInts, 0xffff))));
         const Int right = hn::Or(hn::ShiftLeft<16>(both), hn::And(both, hn::Set(kInts, 127)));
-        const Int down = hn::Or(hn::And(both, high), hn::ShiftRight<16>(both));
-        const Int rows = hn::Xor(hn::Or(hn::ShiftLeft<8>(down), down), hn::Set(kInts, 0x007f007f));
-        return pairProducts(bytePairProducts(block, rows), hn::Xor(right, hn::Set(kInts, 127)));
+        return pairProducts(bytePairProducts(block, rowWeights(both)), hn::Xor(right, hn::Set(kInts, 127)));
     }
 
 private:
@@ -73,8 +80,19 @@ public:
         const Float across = place(_dab->across, box.acrossX, box.acrossY);
         return nearest(hn::Mul(covered(along, box.halfWidth), covered(across, box.halfHeight)));
     }
+    // Both factors of that by themselves, of a dab that stands upright.
+    HWY_INLINE Float alongAt(Int x) const {
+        return covered(upright(x, _dab->along, _box->alongX), _box->halfWidth);
+    }
+    HWY_INLINE Float acrossAt(Int y) const {
+        return covered(upright(y, _dab->across, _box->acrossY), _box->halfHeight);
+    }
 
 private:
+    static HWY_INLINE Float upright(Int pixel, float start, float step) {
+        const Float steps = hn::Mul(hn::ConvertTo(kFloats, pixel), hn::Set(kFloats, step));
+        return hn::Abs(hn::Add(hn::Set(kFloats, start), steps));
+    }
     // Times the root of 32767.
     HWY_INLINE Float covered(Float place, float half) const {
         const Float edge = hn::Set(kFloats, half);

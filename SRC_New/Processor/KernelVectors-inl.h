@@ -114,6 +114,28 @@ HWY_INLINE Int blocksAt(const std::uint8_t* bytes, Int offsets) {
 #endif
 }
 
+// Blocks of 32 bits, each so many words on in one of two rows, 1 in `lowers` for the lower one; up to kFarthestWord on.
+// blocksAhead() makes of these what blocksOf() takes.
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
+constexpr int kFarthestWord = 30;
+HWY_INLINE Int blocksAhead(Int words, Int lowers) {
+    const Int first = hn::Or(words, hn::ShiftLeft<5>(lowers));
+    return hn::Add(hn::Or(first, hn::ShiftLeft<16>(first)), hn::Set(kInts, 0x10000));
+}
+HWY_INLINE Int blocksOf(const std::uint8_t* upper, const std::uint8_t* lower, Int ahead) {
+    return Int{_mm512_permutex2var_epi16(_mm512_loadu_si512(upper), ahead.raw, _mm512_loadu_si512(lower))};
+}
+#else
+constexpr int kFarthestWord = 1 << 12;
+HWY_INLINE Int blocksAhead(Int words, Int lowers) {
+    return hn::Or(hn::ShiftLeft<1>(words), hn::ShiftLeft<31>(lowers));
+}
+HWY_INLINE Int blocksOf(const std::uint8_t* upper, const std::uint8_t* lower, Int ahead) {
+    const Int apart = hn::And(hn::BroadcastSignBit(ahead), hn::Set(kInts, static_cast<int>(lower - upper)));
+    return blocksAt(upper, hn::Add(hn::And(ahead, hn::Set(kInts, 0x7fffffff)), apart));
+}
+#endif
+
 // To the nearest integer, of those of 16 bits.
 HWY_INLINE Int nearest(Float value) {
     constexpr float kLastBitIsOne = 3 << 22;
@@ -139,6 +161,17 @@ struct Order {
         return hn::IfThenElse(hn::Eq(down, hn::Zero(kInts)), hn::Set(kInts, upper), hn::Set(kInts, lower));
     }
 };
+// One of both for each lane, by the row of its pixel.
+template <typename Value>
+HWY_INLINE auto perRow(const Value (&values)[2]) {
+    const hn::Rebind<Value, Ints> tag;
+    const hn::Repartition<std::uint64_t, Ints> pairs;
+    std::uint64_t both;
+    static_assert(sizeof(both) == sizeof(values));
+    std::memcpy(&both, values, sizeof(both));
+    const auto each = hn::BitCast(tag, hn::Set(pairs, both));
+    return hn::InterleaveLower(tag, each, each);
+}
 // Pixels of each row.
 HWY_INLINE int across() {
     return lanes() / 2;

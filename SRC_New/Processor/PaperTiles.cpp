@@ -66,7 +66,7 @@ std::shared_ptr<const PaperTiles::Through> PaperTiles::made(const Rect& tile) co
     const float* from = sum.data();
     for (int y = 0; y < kTileSide; ++y) {
         for (int x = 0; x < kTileSide; ++x) {
-            (*through)[static_cast<std::size_t>(paperPlace(x, y))] =
+            (*through)[static_cast<std::size_t>(pairedPlace(x, y))] =
                 static_cast<std::uint16_t>(std::min(*from++ + 0.5f, 32767.0f));
         }
     }

@@ -20,7 +20,7 @@ namespace dabcanvas {
 
 class PaperTiles {
 public:
-    using Through = std::array<std::uint16_t, kTilePixels>;  // 0..32767, see paperPlace()
+    using Through = std::array<std::uint16_t, kTilePixels>;  // 0..32767, see pairedPlace()
 
     // The paper's own side times `scale` is laid again and again from the layer's top left corner.
     PaperTiles(PaperImage paper, float scale, std::size_t most);

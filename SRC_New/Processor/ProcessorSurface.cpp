@@ -125,12 +125,12 @@ Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const 
         _picture.forEachIn(own.holds, [&](std::size_t index, const Rect& part) {
             if (const auto* from = own.grid.tile(index)) {
                 auto& tile = _picture.writable(index);
-                for (int y = part.y; y < part.bottom(); ++y) {
-                    std::uint8_t* const row = tile.at(part.x % kTileSide, y % kTileSide);
-                    blendRow(ESBlendTypeNormal,
-                             {row, row, from->at(part.x % kTileSide, y % kTileSide), nullptr, part.width, 1,
-                              noiseAt(part.x, y, _kept[index].times)});
-                }
+                const int x = part.x % kTileSide, y = part.y % kTileSide;
+                std::uint8_t* const rows = tile.at(x, y);
+                blendRows(ESBlendTypeNormal,
+                          {rows, rows, from->at(x, y), nullptr, part.width, 1,
+                           noiseAt(part.x, part.y, _kept[index].times)},
+                          part.height);
                 ++_kept[index].times;
             }
         });
@@ -142,6 +142,9 @@ Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const 
 void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
     if (which == PaintLayer::smudge) {
         return _smudges.forget();
+    }
+    if (which == PaintLayer::line) {
+        _smudges.clearExchanged(rect);
     }
     Layer& layer = layerOf(which);
     const bool all = rect.contains(layer.holds);
@@ -172,12 +175,7 @@ bool ProcessorSurface::prepareSmudge(PictureId) {
 
 Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
     Rect touched;
-    withMemory("smudge", [&] {
-        std::vector<Dab> coverage;
-        touched = _smudges.smudge(dabs, style, load, _line.dabs, coverage);
-        // How much of each picture pixel is exchanged, at full resolution: what no dab covered is never touched.
-        drawInto(_line, coverage, {.tips = style.tips, .paper = {}});
-    });
+    withMemory("smudge", [&] { touched = _smudges.smudge(dabs, style, load); });
     return touched;
 }
 
@@ -185,16 +183,15 @@ Rect ProcessorSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& s
 
 void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style) {
     _kept[index].isBlended = true;
-    const auto* line = _line.grid.tile(index);
-    const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     if (style.smudged) {
-        if (line != nullptr) {
-            const PixelView background = viewOf(_background.tile(index), part);
-            _smudges.composite(viewOf(_picture.writable(index), part), background, *line, part, style.opacity,
+        if (_smudges.hasExchanged(index)) {
+            _smudges.composite(index, part, _picture.writable(index), _background.tile(index), style.opacity,
                                _kept[index].times);
         }
         return;
     }
+    const auto* line = _line.grid.tile(index);
+    const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     const bool bare = line == nullptr || (style.masked && mask == nullptr);
     if (bare && style.blendType != ESBlendTypeReplace) {
         const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;
@@ -204,17 +201,16 @@ void ProcessorSurface::compositeTile(std::size_t index, const Rect& part, const 
     auto& picture = _picture.writable(index);
     const int x = part.x % kTileSide;
     const PixelView background = viewOf(_background.tile(index), part);
-    for (int y = part.y; y < part.bottom(); ++y) {
-        const int inTile = y % kTileSide;
-        blendRow(style.blendType,
-                 {.picture = picture.at(x, inTile),
-                  .background = background.row(y - part.y),
-                  .layer = (line != nullptr ? line : &kEmpty)->at(x, inTile),
-                  .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, inTile) : nullptr,
-                  .count = part.width,
-                  .opacity = style.opacity,
-                  .noise = noiseAt(part.x, y, _kept[index].times)});
-    }
+    const int y = part.y % kTileSide;
+    blendRows(style.blendType,
+              {.picture = picture.at(x, y),
+               .background = background.bytes,
+               .layer = (line != nullptr ? line : &kEmpty)->at(x, y),
+               .mask = style.masked ? (mask != nullptr ? mask : &kEmpty)->at(x, y) : nullptr,
+               .count = part.width,
+               .opacity = style.opacity,
+               .noise = noiseAt(part.x, part.y, _kept[index].times)},
+              part.height);
 }
 
 void ProcessorSurface::composite(PictureId picture, std::span<const Rect> rects,
@@ -234,6 +230,7 @@ void ProcessorSurface::revert(PictureId picture, const Rect& rect) {
 }
 
 void ProcessorSurface::commit(PictureId, const Rect& rect) {
+    _smudges.noteChanged(rect);
     withMemory("keep a stroke", [&] {
         copyTiles(_picture, _background, rect, [this](std::size_t index) {
             _kept[index].times += std::exchange(_kept[index].isBlended, false) ? 1 : 0;
@@ -295,8 +292,35 @@ bool ProcessorSurface::write(PictureId picture, const Rect& rect, const PixelVie
         });
         _picture = std::move(written);
         _background = std::move(background);
+        _smudges.noteChanged(rect);
         noteChanged(picture, rect);
     });
+}
+
+// ---- Tiles, handed out and taken back as they are
+
+bool ProcessorSurface::keep(PictureId, const TileSet& tiles,
+                            const std::function<void(const PlacedTile&)>& visit) {
+    return withMemory("keep a picture", [&] {
+        tiles.forEach([&](std::size_t index) {
+            const auto& tile = _picture.shared(index);
+            visit({index, tile ? SharedTile(tile, tile->values.data()) : SharedTile()});
+        });
+    });
+}
+
+bool ProcessorSurface::put(PictureId picture, std::span<const PlacedTile> tiles) {
+    for (const PlacedTile& placed : tiles) {
+        // What newTile() made and keep() handed out are tiles; they are copied before this surface writes to them.
+        auto* const tile =
+            reinterpret_cast<Tile<std::uint8_t>*>(const_cast<std::uint8_t*>(placed.tile.get()));
+        const std::shared_ptr<Tile<std::uint8_t>> shared(placed.tile, tile);
+        _picture.share(shared, placed.index);
+        _background.share(shared, placed.index);
+        _kept[placed.index] = {};
+        noteChanged(picture, _picture.rectOf(placed.index));
+    }
+    return true;
 }
 
 }  // namespace dabcanvas

@@ -41,6 +41,9 @@ public:
 
     bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) override;
     bool write(PictureId picture, const Rect& rect, const PixelView& rows) override;
+    bool keep(PictureId picture, const TileSet& tiles,
+              const std::function<void(const PlacedTile&)>& visit) override;
+    bool put(PictureId picture, std::span<const PlacedTile> tiles) override;
 
     // What the line layer holds, in full depth.
     const TileGrid<std::uint16_t>& line() const { return _line.grid; }

@@ -2,157 +2,229 @@
 #include "Processor/SmudgePainter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 
-#include "Dabs/DabBounds.h"
 #include "Processor/BlendRows.h"
-#include "Processor/SmudgeRows.h"
 
 namespace dabcanvas {
 namespace {
-
-// Filtering between the layer's resolution and the picture's reaches this far, in buffer pixels.
-constexpr int kReach = 4;
-constexpr float kFull = 65535;
 
 Size halfOf(const Size& size) {
     return {std::max(size.width / 2, 1), std::max(size.height / 2, 1)};
 }
 
-// Between four texels, as parts of them.
-struct Between {
-    int low, high;
-    float part;
-
-    // Of a place in texels, 0.5 in the middle of the first; what lies outside reads as the rim.
-    Between(double place, int first, int end) {
-        const double from = std::clamp(place - 0.5, first - 1.0, static_cast<double>(end));
-        const int whole = static_cast<int>(std::floor(from));
-        part = static_cast<float>(from - whole);
-        low = std::clamp(whole, first, end - 1);
-        high = std::clamp(whole + 1, first, end - 1);
-    }
-};
-
-// Of the pixels from `first` on, which lie `step` texels apart.
-std::vector<Between> betweens(int first, int count, double step, double start, int from, int end) {
-    std::vector<Between> places;
-    places.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        places.emplace_back(start + (first + i + 0.5) * step, from, end);
-    }
-    return places;
-}
-
-struct Colour {
-    float channel[4];
-};
-
-template <typename TexelAt>
-Colour mixedAt(const Between& x, const Between& y, TexelAt&& texelAt) {
-    const auto *topLeft = texelAt(x.low, y.low), *topRight = texelAt(x.high, y.low);
-    const auto *lowLeft = texelAt(x.low, y.high), *lowRight = texelAt(x.high, y.high);
-    Colour mix;
-    for (int i = 0; i < 4; ++i) {
-        const auto value = [i](const auto* texel) { return static_cast<float>(texel[i]); };
-        const float top = value(topLeft) + (value(topRight) - value(topLeft)) * x.part;
-        const float low = value(lowLeft) + (value(lowRight) - value(lowLeft)) * x.part;
-        mix.channel[i] = top + (low - top) * y.part;
-    }
-    return mix;
-}
-
-Rect texelsUnder(double left, double top, double right, double bottom, const Size& layer) {
-    return Rect::covering(left - 1, top - 1, right + 1, bottom + 1).intersected(Rect::of(layer));
-}
-
-// Those, or the one that is nearest where all of them lie off the layer.
-Rect nearestTexels(double left, double top, double right, double bottom, const Size& layer) {
-    const Rect rect = texelsUnder(left, top, right, bottom, layer);
-    const auto within = [](double place, int size) {
-        return static_cast<int>(std::clamp(place, 0.0, static_cast<double>(size - 1)));
+// Of places that are `step` apart, from the middle of the first of what is counted in.
+Steps stepsFrom(double start, double step) {
+    const auto fixed = [](double places) {
+        constexpr double kFar = 1 << 24;
+        const double near = std::isfinite(places) ? std::clamp(places, -kFar, kFar) : 0;
+        return static_cast<std::int64_t>(std::floor(near * 65536 + 0.5));
     };
-    return rect.isEmpty() ? Rect{within(left, layer.width), within(top, layer.height), 1, 1} : rect;
+    return {fixed(start), fixed(step)};
+}
+
+std::int16_t wordOf(double part) {
+    return static_cast<std::int16_t>(std::clamp(part, 0.0, 1.0) * kSmudgeFull + 0.5);
+}
+
+// All texels of a grid of so many between which places from `start` up to `end` lie, the nearest ones where they lie off it.
+struct TexelRange {
+    int first, end;
+
+    TexelRange(double start, double stop, int texels) {
+        const auto within = [texels](double place) {
+            const double inside = std::isfinite(place) ? std::clamp(place, 0.0, texels - 1.0) : 0;
+            return static_cast<int>(inside);
+        };
+        first = within(std::floor(std::min(start, stop)));
+        end = within(std::floor(std::max(start, stop)) + 1) + 1;
+    }
+};
+
+// Texels of the layer that are filled at once, each way: 16 blocks a tile.
+constexpr int kBlock = 16;
+
+bool isInOneTile(const Rect& rect) {
+    return !rect.isEmpty() && rect.x / kTileSide == (rect.right() - 1) / kTileSide &&
+           rect.y / kTileSide == (rect.bottom() - 1) / kTileSide;
+}
+// And can be read there, with a little beyond each row.
+bool isReadInTile(const Rect& rect) {
+    constexpr int kSpare = static_cast<int>(kSpareValues) / 4;
+    return isInOneTile(rect) &&
+           (rect.bottom() % kTileSide != 0 || rect.x % kTileSide + rect.width <= kTileSide - kSpare);
 }
 
 }  // namespace
 
 // What a dab's pixels turn into where it covers them wholly.
 struct SmudgePainter::Mixture {
-    Colour own;       // the brush's colour, times its part
     float pickUp;     // part of what is picked up
-    float exchanged;  // of what was there, both parts together
+    float exchanged;  // of what was there, with the part of the brush's colour
 
     Mixture(const SmudgeDab& smudge, float load) {
-        const float dry = 1 - smudge.moist, part = load * (1 - smudge.mix);
+        const float dry = 1 - smudge.moist;
         pickUp = smudge.mix * (1 - dry * dry * dry);
-        exchanged = part + pickUp;
-        const RgbType& color = smudge.dab.color;
-        own = {{color.r * part * kFull, color.g * part * kFull, color.b * part * kFull, part * kFull}};
+        exchanged = load * (1 - smudge.mix) + pickUp;
     }
+    float ownPart() const { return exchanged > 0 ? 1 - pickUp / exchanged : 1; }
+};
+
+// One dab's colours: what it takes up, mixed with its own.
+class SmudgePainter::Exchange final : public DabColours {
+public:
+    Exchange(SmudgePainter& painter, const SmudgeDab& smudge, const Mixture& mixture)
+        : _painter(painter), _smudge(smudge), _colourPart(mixture.ownPart()) {
+        _stretch = smudge.pickUpHalf / smudge.dab.halfSize;
+        _startX = (smudge.pickUp.x - smudge.dab.x * _stretch) * painter._scaleX;
+        _startY = (smudge.pickUp.y - smudge.dab.y * _stretch) * painter._scaleY;
+    }
+
+    // What is taken up is taken before the dab changes it; off the layer its rim counts.
+    void begin(const Rect& texels) override {
+        _painter.provide(texels);
+        const Size& layer = _painter._layer.size();
+        const TexelRange across(placeX(texels.x), placeX(texels.right() - 1), layer.width);
+        const TexelRange down(placeY(texels.y), placeY(texels.bottom() - 1), layer.height);
+        const Rect picked = Rect::between(across.first, down.first, across.end, down.end);
+        _painter.provide(picked);
+        isInOneTile(texels) ? take(_painter._layer, picked, _painter._picked)
+                            : copy(_painter._layer, picked, _painter._picked);
+    }
+
+    const std::uint16_t* of(const Rect& part) override {
+        thread_local std::array<std::uint16_t, kTilePixels * 4 + kSpareValues> colours{};
+        std::uint16_t* const to = colours.data() + (part.y % kTileSide * kTileSide + part.x % kTileSide) * 4;
+        const Rect& from = _painter._picked.rect;
+        const RgbType& color = _smudge.dab.color;
+        pickUp({.from = _painter._picked.view,
+                .across = stepsFrom(placeX(part.x) - from.x, _stretch),
+                .down = stepsFrom(placeY(part.y) - from.y, _stretch),
+                .size = {part.width, part.height},
+                .colour = {wordOf(color.r), wordOf(color.g), wordOf(color.b), kSmudgeFull},
+                .colourPart = wordOf(_colourPart),
+                .to = to});
+        return colours.data();
+    }
+
+private:
+    // Where a texel under the dab takes up.
+    double placeX(int x) const { return _startX + (x + 0.5) * _stretch - 0.5; }
+    double placeY(int y) const { return _startY + (y + 0.5) * _stretch - 0.5; }
+
+    SmudgePainter& _painter;
+    const SmudgeDab& _smudge;
+    float _colourPart;
+    double _stretch, _startX, _startY;
 };
 
 SmudgePainter::SmudgePainter(const Size& picture)
     : _size(picture),
       _picture(picture),
+      _stale(Rect::of(picture)),
       _layer(halfOf(picture)),
       _before(_layer.size()),
+      _blocks(_layer.count()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
       _scaleY(static_cast<double>(_layer.size().height) / picture.height),
-      _covers({1, 1}) {}
+      _exchanged(picture) {}
 
 void SmudgePainter::show(const TileGrid<std::uint8_t>& picture) {
-    forget();
-    _picture = picture;
+    _picture.forEachIn(_stale, [&](std::size_t index, const Rect&) { _picture.share(picture, index); });
+    _stale = {};
+    _layer.forEachIn(_provided, [&](std::size_t index, const Rect&) {
+        _layer.drop(index);
+        _before.drop(index);
+        _blocks[index] = 0;
+    });
+    _provided = {};
 }
 
 void SmudgePainter::forget() {
-    _picture.fill({});
-    _layer.fill({});
-    _before.fill({});
+    _stale = Rect::of(_size);
+    show(TileGrid<std::uint8_t>(_size));
+    _stale = Rect::of(_size);
 }
 
 // ---- The layer
 
 void SmudgePainter::provide(const Rect& texels) {
-    _layer.forEachIn(texels, [&](std::size_t index, const Rect&) {
-        if (_layer.tile(index) == nullptr) {
-            showTile(index);
+    _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
+        const Rect tile = _layer.rectOf(index);
+        for (int y = (part.y - tile.y) / kBlock; y * kBlock < part.bottom() - tile.y; ++y) {
+            for (int x = (part.x - tile.x) / kBlock; x * kBlock < part.right() - tile.x; ++x) {
+                const auto bit = static_cast<std::uint16_t>(1 << (y * (kTileSide / kBlock) + x));
+                if ((_blocks[index] & bit) == 0) {
+                    showBlock(index,
+                              tile.intersected({tile.x + x * kBlock, tile.y + y * kBlock, kBlock, kBlock}));
+                    _blocks[index] |= bit;
+                }
+            }
         }
     });
 }
 
-void SmudgePainter::showTile(std::size_t index) {
-    static constexpr std::uint8_t kTransparent[4] = {};
-    const Rect rect = _layer.rectOf(index);
-    auto& tile = _layer.writable(index);
-    const auto pixelAt = [&](int x, int y) {
-        const auto* from = _picture.tile(_picture.indexAt(x, y));
-        return from != nullptr ? from->at(x % kTileSide, y % kTileSide) : kTransparent;
+void SmudgePainter::showBlock(std::size_t index, const Rect& texels) {
+    const double stepX = 1 / _scaleX, stepY = 1 / _scaleY;
+    const auto place = [](int texel, double step) { return (texel + 0.5) * step - 0.5; };
+    const TexelRange across(place(texels.x, stepX), place(texels.right() - 1, stepX), _size.width);
+    const TexelRange down(place(texels.y, stepY), place(texels.bottom() - 1, stepY), _size.height);
+    const Rect pixels = Rect::between(across.first, down.first, across.end, down.end);
+    _provided = _provided.united(texels);
+    const auto rows = [&](Layer& layer) {
+        return reinterpret_cast<std::int16_t*>(
+            layer.writable(index).at(texels.x % kTileSide, texels.y % kTileSide));
     };
-    const std::vector<Between> columns = betweens(rect.x, rect.width, 1 / _scaleX, 0, 0, _size.width);
-    for (int y = rect.y; y < rect.bottom(); ++y) {
-        const Between down((y + 0.5) / _scaleY, 0, _size.height);
-        for (int x = rect.x; x < rect.right(); ++x) {
-            const Colour color = mixedAt(columns[static_cast<std::size_t>(x - rect.x)], down, pixelAt);
-            std::uint16_t* to = tile.at(x % kTileSide, y % kTileSide);
-            for (int i = 0; i < 4; ++i) {
-                to[i] = static_cast<std::uint16_t>(color.channel[i] * 257 + 0.5f);
-            }
-        }
+    reduce({.from = takePicture(pixels),
+            .across = stepsFrom(place(texels.x, stepX) - pixels.x, stepX),
+            .down = stepsFrom(place(texels.y, stepY) - pixels.y, stepY),
+            .size = {texels.width, texels.height},
+            .to = rows(_layer),
+            .toToo = rows(_before)});
+}
+
+// In its tile, where that can be, else copied.
+SmudgePart<std::uint8_t> SmudgePainter::takePicture(const Rect& pixels) {
+    static const Tile<std::uint8_t> kTransparent;
+    const auto tileOf = [this](std::size_t index) {
+        const auto* tile = _picture.tile(index);
+        return tile != nullptr ? tile : &kTransparent;
+    };
+    const Size size{pixels.width, pixels.height};
+    if (isReadInTile(pixels)) {
+        const auto* tile = tileOf(_picture.indexAt(pixels.x, pixels.y));
+        return {tile->at(pixels.x % kTileSide, pixels.y % kTileSide), size, kTileSide * 4};
     }
-    _before.share(_layer, index);
+    _pixels.resize(static_cast<std::size_t>(pixels.area()) * 4 + kSpareValues);
+    const auto copy = MutablePixelView::topRowFirst(_pixels.data(), size);
+    _picture.forEachIn(pixels, [&](std::size_t index, const Rect& part) {
+        const Rect at{part.x - pixels.x, part.y - pixels.y, part.width, part.height};
+        const auto* from = tileOf(index)->at(part.x % kTileSide, part.y % kTileSide);
+        copyRows({from, {part.width, part.height}, kTileSide * 4}, copy.part(at));
+    });
+    return {_pixels.data(), size, copy.stride};
 }
 
 void SmudgePainter::take(const Layer& from, const Rect& rect, Texels& to) {
+    if (!isReadInTile(rect)) {
+        return copy(from, rect, to);
+    }
+    const auto* values = from.tile(from.indexAt(rect.x, rect.y))->at(rect.x % kTileSide, rect.y % kTileSide);
     to.rect = rect;
-    to.values.resize(static_cast<std::size_t>(rect.area()) * 4);
+    to.view = {reinterpret_cast<const std::int16_t*>(values), {rect.width, rect.height}, kTileSide * 4};
+}
+
+void SmudgePainter::copy(const Layer& from, const Rect& rect, Texels& to) {
+    to.rect = rect;
+    to.copied.resize(static_cast<std::size_t>(rect.area()) * 4 + kSpareValues);
+    to.view = {to.copied.data(), {rect.width, rect.height}, std::ptrdiff_t{4} * rect.width};
     from.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         const auto* tile = from.tile(index);
         for (int y = part.y; tile != nullptr && y < part.bottom(); ++y) {
-            std::memcpy(const_cast<std::uint16_t*>(to.at(part.x, y)),
-                        tile->at(part.x % kTileSide, y % kTileSide),
+            const std::ptrdiff_t first = std::ptrdiff_t{y - rect.y} * rect.width + part.x - rect.x;
+            std::memcpy(to.copied.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
                         static_cast<std::size_t>(part.width) * 8);
         }
     });
@@ -166,154 +238,79 @@ Dab SmudgePainter::inLayer(const Dab& dab) const {
     scaled.y = static_cast<float>(dab.y * _scaleY);
     scaled.halfSize = static_cast<float>(dab.halfSize * _scaleX);
     scaled.roundness = static_cast<float>(dab.roundness * _scaleY / _scaleX);
-    scaled.color = {0, 0, 0};
     return scaled;
 }
 
-Rect SmudgePainter::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load,
-                           std::uint64_t count, std::vector<Dab>& coverage) {
-    Rect touched;
-    for (const SmudgeDab& dab : dabs) {
-        const Rect changed = smudgeOne(dab, Mixture(dab, load), style, count++);
-        if (!changed.isEmpty()) {
-            touched = touched.united(changed);
-            coverage.push_back(dab.dab);
-            coverage.back().flow *= dab.exchange;
-            coverage.back().color = {0, 0, 0};
-        }
-    }
-    return touched;
-}
-
-// Returns the pixels of the picture that it may change.
-Rect SmudgePainter::smudgeOne(const SmudgeDab& smudge, const Mixture& mixture, const DabStyle& style,
-                              std::uint64_t count) {
-    Dab dab = inLayer(smudge.dab);
-    const Extent extent = DabBounds::extentOf(dab);
-    const Rect box = texelsUnder(dab.x - extent.width, dab.y - extent.height, dab.x + extent.width,
-                                 dab.y + extent.height, _layer.size());
-    if (box.isEmpty()) {
-        return {};  // nor is one drawn whose place is not finite
-    }
-    // By itself first, near the origin, to see how much it covers.
-    if (_covers.size().width < box.width || _covers.size().height < box.height) {
-        _covers =
-            Layer({std::max(box.width, _covers.size().width), std::max(box.height, _covers.size().height)});
-    }
-    dab.x -= static_cast<float>(box.x);
-    dab.y -= static_cast<float>(box.y);
+Rect SmudgePainter::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) {
     const DabStyle plain{.tips = style.tips, .paper = {}};
-    const Rect covered =
-        _painter.draw(_covers, std::span(&dab, 1), plain, count).intersected({0, 0, box.width, box.height});
-
-    provide(box);
-    exchange(covered, box, smudge, mixture, count);
-    const Rect changed =
-        Rect::covering(box.x / _scaleX, box.y / _scaleY, box.right() / _scaleX, box.bottom() / _scaleY)
-            .grownBy(kReach);
-    return changed.intersected(Rect::of(_size));
-}
-
-// Takes the dab out of `_covers`, which is empty again.
-void SmudgePainter::takeCover(const Rect& covered) {
-    take(_covers, covered, _cover);
-    _covers.forEachIn(covered, [&](std::size_t index, const Rect& part) {
-        for (int y = part.y; _covers.tile(index) != nullptr && y < part.bottom(); ++y) {
-            std::memset(_covers.writable(index).at(part.x % kTileSide, y % kTileSide), 0,
-                        static_cast<std::size_t>(part.width) * 8);
+    const std::uint64_t first = _count;
+    Rect touched;
+    _coverage.clear();
+    for (const SmudgeDab& smudge : dabs) {
+        const Mixture mixture(smudge, load);
+        Exchange exchange(*this, smudge, mixture);
+        Dab dab = inLayer(smudge.dab);
+        dab.flow = std::min(dab.flow, 1.0f) * mixture.exchanged;
+        const Rect texels = _painter.draw(_layer, dab, plain, _count++, exchange);
+        if (texels.isEmpty()) {
+            continue;
         }
-    });
+        // Each texel reaches as far as the next ones.
+        touched =
+            touched.united(Rect::covering((texels.x - 1) / _scaleX, (texels.y - 1) / _scaleY,
+                                          (texels.right() + 1) / _scaleX, (texels.bottom() + 1) / _scaleY));
+        _coverage.push_back(smudge.dab);
+        _coverage.back().flow *= smudge.exchange;
+    }
+    _holds = _holds.united(_painter.draw(_exchanged, _coverage, plain, first));
+    return touched.intersected(Rect::of(_size));
 }
 
-// The layer exchanges what lies under the dab that `_covers` holds, `origin` away from there.
-void SmudgePainter::exchange(const Rect& covered, const Rect& origin, const SmudgeDab& smudge,
-                             const Mixture& mixture, std::uint64_t count) {
-    takeCover(covered);
-    const double stretch = smudge.pickUpHalf / smudge.dab.halfSize;
-    const double startX = (smudge.pickUp.x - smudge.dab.x * stretch) * _scaleX;
-    const double startY = (smudge.pickUp.y - smudge.dab.y * stretch) * _scaleY;
-    const Rect under{covered.x + origin.x, covered.y + origin.y, covered.width, covered.height};
-    // What is taken up is taken before the dab changes it; off the layer its rim counts.
-    const Rect picked =
-        nearestTexels(startX + under.x * stretch, startY + under.y * stretch,
-                      startX + under.right() * stretch, startY + under.bottom() * stretch, _layer.size());
-    if (mixture.pickUp > 0) {
-        provide(picked);
-        take(_layer, picked, _picked);
-    }
-    const std::vector<Between> columns =
-        betweens(under.x, under.width, stretch, startX, picked.x, picked.right());
-    const std::vector<Between> rows =
-        betweens(under.y, under.height, stretch, startY, picked.y, picked.bottom());
-    const auto pickedAt = [this](int x, int y) { return _picked.at(x, y); };
-    _layer.forEachIn(under, [&](std::size_t index, const Rect& part) {
-        auto& tile = _layer.writable(index);
-        for (int y = part.y; y < part.bottom(); ++y) {
-            const std::uint16_t* cover = _cover.at(part.x - origin.x, y - origin.y);
-            std::uint16_t* to = tile.at(part.x % kTileSide, y % kTileSide);
-            for (int x = part.x; x < part.right(); ++x, cover += 4, to += 4) {
-                if (cover[3] == 0) {
-                    continue;
-                }
-                Colour color{};
-                if (mixture.pickUp > 0) {
-                    color = mixedAt(columns[static_cast<std::size_t>(x - under.x)],
-                                    rows[static_cast<std::size_t>(y - under.y)], pickedAt);
-                }
-                const float share = static_cast<float>(cover[3]) / kFull,
-                            rest = 1 - share * mixture.exchanged;
-                const float noise = upBy(noiseAt(x, y, static_cast<std::uint32_t>(count)));
-                for (int i = 0; i < 4; ++i) {
-                    const float value = static_cast<float>(to[i]) * rest +
-                                        share * (mixture.own.channel[i] + mixture.pickUp * color.channel[i]);
-                    to[i] = static_cast<std::uint16_t>(std::clamp(value + noise, 0.0f, kFull));
-                }
+void SmudgePainter::clearExchanged(const Rect& rect) {
+    const bool all = rect.contains(_holds);
+    _exchanged.forEachIn(rect.intersected(_holds), [&](std::size_t index, const Rect& part) {
+        if (all || part == _exchanged.rectOf(index)) {
+            return _exchanged.drop(index);
+        }
+        for (int y = part.y; _exchanged.tile(index) != nullptr && y < part.bottom(); ++y) {
+            for (int x = part.x; x < part.right(); ++x) {
+                const int at = pairedPlace(x % kTileSide, y % kTileSide);
+                _exchanged.writable(index).values[static_cast<std::size_t>(at)] = 0;
             }
         }
     });
+    if (all) {
+        _holds = {};
+        _count = 0;
+    }
 }
 
 // ---- The picture
 
-namespace {
-
-// A row between two, texel by texel.
-void mixRows(const std::uint16_t* low, const std::uint16_t* high, float part, std::vector<float>& row) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        const float from = low[i];
-        row[i] = from + (high[i] - from) * part;
-    }
-}
-
-}  // namespace
-
-void SmudgePainter::composite(const MutablePixelView& picture, const PixelView& background,
-                              const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
-                              std::uint32_t commits) {
-    const Rect texels = texelsUnder(part.x * _scaleX, part.y * _scaleY, part.right() * _scaleX,
-                                    part.bottom() * _scaleY, _layer.size());
+void SmudgePainter::composite(std::size_t index, const Rect& part, Tile<std::uint8_t>& picture,
+                              const Tile<std::uint8_t>* background, float opacity, std::uint32_t commits) {
+    static const Tile<std::uint8_t> kTransparent;
+    constexpr int kTogether = 8;  // columns, as vectors have pixels at most
+    const int left = part.x / kTileSide * kTileSide, top = part.y / kTileSide * kTileSide;
+    const auto place = [](int pixel, double scale) { return (pixel + 0.5) * scale - 0.5; };
+    const int first = part.x / kTogether * kTogether,
+              end = (part.right() + kTogether - 1) / kTogether * kTogether;
+    const TexelRange across(place(first, _scaleX), place(end - 1, _scaleX), _layer.size().width);
+    const TexelRange down(place(part.y, _scaleY), place(part.bottom() - 1, _scaleY), _layer.size().height);
+    const Rect texels = Rect::between(across.first, down.first, across.end, down.end);
     provide(texels);
     take(_layer, texels, _picked);
     take(_before, texels, _old);
-    std::vector<TexelPlace> places;
-    for (const Between& place : betweens(part.x, part.width, _scaleX, 0, texels.x, texels.right())) {
-        places.push_back({place.low - texels.x, place.high - texels.x, place.part});
-    }
-    std::vector<float> now(static_cast<std::size_t>(texels.width) * 4), then(now.size());
-    for (int y = 0; y < part.height; ++y) {
-        const Between down((part.y + y + 0.5) * _scaleY, texels.y, texels.bottom());
-        mixRows(_picked.at(texels.x, down.low), _picked.at(texels.x, down.high), down.part, now);
-        mixRows(_old.at(texels.x, down.low), _old.at(texels.x, down.high), down.part, then);
-        putSmudges({.picture = picture.row(y),
-                    .background = background.row(y),
-                    .exchanged = exchanged.at(part.x % kTileSide, (part.y + y) % kTileSide),
-                    .now = now.data(),
-                    .then = then.data(),
-                    .places = places.data(),
-                    .count = part.width,
-                    .opacity = opacity,
-                    .noise = noiseAt(part.x, part.y + y, commits)});
-    }
+    putSmudges({.picture = picture.values.data(),
+                .background = (background != nullptr ? background : &kTransparent)->values.data(),
+                .exchanged = _exchanged.tile(index)->values.data(),
+                .part = {part.x - left, part.y - top, part.width, part.height},
+                .now = _picked.view,
+                .then = _old.view,
+                .across = stepsFrom(place(left, _scaleX) - texels.x, _scaleX),
+                .down = stepsFrom(place(top, _scaleY) - texels.y, _scaleY),
+                .opacity = wordOf(opacity),
+                .noise = noiseAt(left, top, commits)});
 }
 
 }  // namespace dabcanvas

@@ -2,7 +2,8 @@
 // Smudging: a layer shows the picture at half its resolution, dabs move colour about in it, and what they brought is put
 // back onto the picture where they lay.
 //
-// Layer    tiles that are made when a dab first needs them, from the picture as it was when the stroke began.
+// Layer    tiles that are made when a dab first needs them, block by block, from the picture as it was when the stroke
+//          began; 15 bits a channel, see SmudgeRows.h.
 // Errors   std::bad_alloc; some of the dabs have drawn then.
 #pragma once
 
@@ -13,6 +14,7 @@
 
 #include "Dabs/SmudgeDabs.h"
 #include "Processor/DabPainter.h"
+#include "Processor/SmudgeRows.h"
 #include "Processor/Tiles.h"
 #include "Surface/PaintSurface.h"
 
@@ -22,53 +24,57 @@ class SmudgePainter {
 public:
     explicit SmudgePainter(const Size& picture);
 
+    // The picture that is shown next may have changed there since the last one.
+    void noteChanged(const Rect& rect) { _stale = _stale.united(rect); }
     // The layer shows this from now on.
     void show(const TileGrid<std::uint8_t>& picture);
     // Gives its memory back; nothing can be smudged until it shows something again.
     void forget();
 
-    // Each dab takes up colour where the one before it lay. `coverage` gets the dabs that tell how much of each pixel
-    // of the picture was exchanged. Returns the pixels of it that a composite may change. `count`: dabs drawn so far.
-    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load, std::uint64_t count,
-                std::vector<Dab>& coverage);
-    // The picture becomes the background with what was brought, where `exchanged` has paint. `part`: the pixels of one
-    // tile, which both views are of.
-    void composite(const MutablePixelView& picture, const PixelView& background,
-                   const Tile<std::uint16_t>& exchanged, const Rect& part, float opacity,
-                   std::uint32_t commits);
+    // Each dab takes up colour where the one before it lay. Returns the pixels of the picture that a composite may change.
+    Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load);
+    // Nothing counts as exchanged there.
+    void clearExchanged(const Rect& rect);
+    // Whether something was in the tile of the picture.
+    bool hasExchanged(std::size_t index) const { return _exchanged.tile(index) != nullptr; }
+    // The picture becomes the background with what was brought, where something was exchanged. `part`: pixels of the tile;
+    // no background is a transparent one.
+    void composite(std::size_t index, const Rect& part, Tile<std::uint8_t>& picture,
+                   const Tile<std::uint8_t>* background, float opacity, std::uint32_t commits);
 
 private:
     using Layer = TileGrid<std::uint16_t>;
     struct Mixture;
-    // Texels of a part of a layer, side by side.
+    class Exchange;
+    // Texels of a part of a layer: in its tile, where that can be, else copied.
     struct Texels {
         Rect rect;
-        std::vector<std::uint16_t> values;
-
-        const std::uint16_t* at(int x, int y) const {
-            return values.data() +
-                   (static_cast<std::size_t>(y - rect.y) * static_cast<std::size_t>(rect.width) +
-                    static_cast<std::size_t>(x - rect.x)) *
-                       4;
-        }
+        SmudgeTexels view;
+        std::vector<std::int16_t> copied;
     };
 
     void provide(const Rect& texels);
-    void showTile(std::size_t index);
+    void showBlock(std::size_t index, const Rect& texels);
+    SmudgePart<std::uint8_t> takePicture(const Rect& pixels);
     static void take(const Layer& from, const Rect& rect, Texels& to);
+    static void copy(const Layer& from, const Rect& rect, Texels& to);
     Dab inLayer(const Dab& dab) const;
-    Rect smudgeOne(const SmudgeDab& dab, const Mixture& mixture, const DabStyle& style, std::uint64_t count);
-    void takeCover(const Rect& covered);
-    void exchange(const Rect& covered, const Rect& origin, const SmudgeDab& dab, const Mixture& mixture,
-                  std::uint64_t count);
 
     Size _size;
-    TileGrid<std::uint8_t> _picture;  // as it was when the stroke began
-    Layer _layer, _before;            // now and then; tiles exist where the layer was needed
-    double _scaleX, _scaleY;          // of the layer to the picture
+    TileGrid<std::uint8_t> _picture;     // as it was when the stroke began
+    Rect _stale;                         // where it differs from what is shown next
+    Layer _layer, _before;               // now and then; tiles exist where the layer was needed
+    std::vector<std::uint16_t> _blocks;  // of each tile: a bit for each block that shows the picture
+    Rect _provided;                      // texels of the tiles that there are
+    double _scaleX, _scaleY;             // of the layer to the picture
+    // How much of each pixel of the picture was exchanged, at full resolution: what no dab covered is never touched.
+    CoverageGrid _exchanged;
+    Rect _holds;               // where dabs may be
+    std::uint64_t _count = 0;  // of dabs since it was empty
     DabPainter _painter;
-    Layer _covers;  // one dab, by itself
-    Texels _cover, _picked, _old;
+    std::vector<Dab> _coverage;
+    Texels _picked, _old;
+    std::vector<std::uint8_t> _pixels;
 };
 
 }  // namespace dabcanvas

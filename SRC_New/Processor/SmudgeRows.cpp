@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
+// Compiled once for every instruction set, and chosen among when the program runs.
 #include "Processor/SmudgeRows.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "Processor/BlendRows.h"
+#include "Processor/Tiles.h"
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "Processor/SmudgeRows.cpp"
@@ -9,61 +14,459 @@
 #include <hwy/highway.h>
 
 HWY_BEFORE_NAMESPACE();
-namespace dabcanvas::HWY_NAMESPACE {
+namespace dabcanvas {
+namespace HWY_NAMESPACE {
+namespace {
+
 namespace hn = hwy::HWY_NAMESPACE;
 
-// One pixel, four channels.
-constexpr hn::FixedTag<float, 4> kPixel;
-using Value = hn::Vec<decltype(kPixel)>;
+// Whole pixels in every vector, four channels each.
+using Words = hn::CappedTag<std::int16_t, 32>;
+using Bytes = hn::Rebind<std::uint8_t, Words>;
+using Unsigned = hn::RebindToUnsigned<Words>;
+using Pixels = hn::Repartition<std::uint64_t, Words>;
+using Word = hn::Vec<Words>;
+using UnsignedWord = hn::Vec<Unsigned>;
 
-HWY_INLINE Value between(const float* texels, const TexelPlace& place) {
-    const Value low = hn::LoadU(kPixel, texels + 4 * place.low);
-    return hn::Add(
-        low, hn::Mul(hn::Sub(hn::LoadU(kPixel, texels + 4 * place.high), low), hn::Set(kPixel, place.part)));
+constexpr Words kWords;
+constexpr Bytes kBytes;
+constexpr Unsigned kUnsigned;
+constexpr Pixels kPixels;
+constexpr std::size_t kMostLanes = hn::MaxLanes(kPixels);
+constexpr int kMostMixed = 2 * kTileSide;  // texels of a row
+
+HWY_INLINE int lanes() {
+    return static_cast<int>(hn::Lanes(kPixels));
+}
+// The same word of each pixel's eight bytes in all its channels.
+template <typename Vector>
+HWY_INLINE Vector spread(Vector pixels, const std::uint8_t (&bytes)[16]) {
+    const hn::DFromV<Vector> words;
+    const hn::Repartition<std::uint8_t, hn::DFromV<Vector>> as;
+    return hn::BitCast(words, hn::TableLookupBytes(hn::BitCast(as, pixels), hn::LoadDup128(as, bytes)));
+}
+template <typename Vector>
+HWY_INLINE Vector alphaOf(Vector pixels) {
+    alignas(16) static constexpr std::uint8_t kAlphas[16] = {6,  7,  6,  7,  6,  7,  6,  7,
+                                                             14, 15, 14, 15, 14, 15, 14, 15};
+    return spread(pixels, kAlphas);
+}
+HWY_INLINE Word between(Word low, Word high, Word part) {
+    return hn::Add(low, hn::MulFixedPoint15(hn::Sub(high, low), part));
+}
+HWY_INLINE std::int16_t partOf(std::int64_t place) {
+    return static_cast<std::int16_t>((place & 0xffff) >> 1);
+}
+HWY_INLINE int wholeOf(std::int64_t place) {
+    return static_cast<int>(place >> 16);
+}
+// 65535 of 255.
+HWY_INLINE UnsignedWord widened(const std::uint8_t* bytes) {
+    const UnsignedWord narrow = hn::PromoteTo(kUnsigned, hn::LoadU(kBytes, bytes));
+    return hn::Or(narrow, hn::ShiftLeft<8>(narrow));
+}
+HWY_INLINE Word halfOf(UnsignedWord value) {
+    return hn::BitCast(kWords, hn::ShiftRight<1>(value));
 }
 
-// In units of 1/255.
-HWY_INLINE Value brought(const SmudgeRow& row, const TexelPlace& place, float share) {
-    const Value rest = hn::Mul(between(row.then, place), hn::Set(kPixel, 1 - share));
-    Value value = hn::Max(hn::Sub(between(row.now, place), rest), hn::Zero(kPixel));
-    value = hn::Mul(value, hn::Set(kPixel, 1.0f / 257));
-    // At hard rims the layer does not agree with the coverage; what is too much keeps its colour.
-    const Value alpha = hn::Max(hn::Broadcast<3>(value), hn::Set(kPixel, 1e-4f));
-    value = hn::Mul(value, hn::Min(hn::Set(kPixel, 1), hn::Div(hn::Set(kPixel, 255 * share), alpha)));
-    return hn::Min(value, hn::Broadcast<3>(value));
+HWY_INLINE Word wordsAt(const std::int16_t* values) {
+    return hn::LoadU(kWords, values);
+}
+HWY_INLINE Word wordsAt(const std::uint8_t* bytes) {
+    return halfOf(widened(bytes));
 }
 
-void put(const SmudgeRow& row) {
-    const hn::Rebind<std::uint8_t, decltype(kPixel)> bytes;
-    const hn::RebindToSigned<decltype(kPixel)> ints;
-    const Value opacity = hn::Set(kPixel, row.opacity);
-    for (int i = 0; i < row.count; ++i) {
-        const std::uint16_t alpha = row.exchanged[4 * i + 3];
-        if (alpha == 0) {
-            continue;
+// ---- Between texels
+
+// Which texels of a row lie around each of a vector of pixels.
+class Neighbours {
+public:
+    // Of the pixels from the i-th on, of which so many count, in rows of so many texels.
+    HWY_INLINE void find(const Steps& steps, int i, int count, int texels) {
+        const std::int64_t first = steps.at(i) & 0xffff, most = lanes() - 1;
+        HWY_ALIGN std::uint64_t places[kMostLanes];
+        for (int lane = 0; lane < lanes(); ++lane) {
+            places[lane] = static_cast<std::uint64_t>(first + steps.step * lane);
         }
-        const float share = static_cast<float>(alpha) / 65535;
-        const Value canvas =
-            hn::ConvertTo(kPixel, hn::PromoteTo(ints, hn::LoadU(bytes, row.background + 4 * i)));
-        const Value change =
-            hn::Sub(brought(row, row.places[i], share), hn::Mul(canvas, hn::Set(kPixel, share)));
-        const float up = upBy(row.noise + static_cast<std::uint32_t>(i) * kNoiseAlong);
-        Value mixed = hn::Max(hn::Add(canvas, hn::Mul(change, opacity)), hn::Zero(kPixel));
-        mixed = hn::Add(hn::Min(mixed, hn::Broadcast<3>(mixed)), hn::Set(kPixel, up));
-        hn::StoreU(hn::DemoteTo(bytes, hn::ConvertTo(ints, mixed)), bytes, row.picture + 4 * i);
+        const Pixel place = hn::Load(kPixels, places);
+        alignas(16) static constexpr std::uint8_t kLowest[16] = {0, 1, 0, 1, 0, 1, 0, 1,
+                                                                 8, 9, 8, 9, 8, 9, 8, 9};
+        _part = hn::BitCast(kWords, hn::ShiftRight<1>(spread(hn::BitCast(kUnsigned, place), kLowest)));
+        _base = wholeOf(steps.at(i));
+        const int last = wholeOf(steps.at(i + std::min(count, lanes()) - 1));
+        const bool isInside = _base >= 0 && last + 1 < texels && steps.step >= 0;
+        const int farthest = wholeOf(first + steps.step * most);
+        if (isInside && farthest <= most) {
+            _kind = farthest < most ? Kind::nearer : Kind::near;
+            const Pixel low = hn::ShiftRight<16>(place);
+            _low = hn::IndicesFromVec(kPixels, low);
+            _high = hn::IndicesFromVec(
+                kPixels, farthest < most ? hn::Add(low, hn::Set(kPixels, std::uint64_t{1})) : low);
+        } else if (isInside && steps.step == 2 << 16) {
+            _kind = Kind::pairs;
+        } else {
+            _kind = Kind::far;
+            for (int lane = 0; lane < lanes(); ++lane) {
+                const int low = wholeOf(steps.at(i + lane));
+                _lows[lane] = std::clamp(low, 0, texels - 1);
+                _highs[lane] = std::clamp(low + 1, 0, texels - 1);
+            }
+        }
+    }
+
+    // What a row of texels has at the pixels.
+    HWY_INLINE Word in(const std::int16_t* row) const {
+        if (_kind == Kind::far) {
+            return between(picked(row, _lows), picked(row, _highs), _part);
+        }
+        const std::int16_t* const from = row + std::ptrdiff_t{4} * _base;
+        const Pixel one = pixels(from);
+        if (_kind == Kind::pairs) {
+            const Pixel two = pixels(from + hn::Lanes(kWords));
+            return between(hn::BitCast(kWords, hn::ConcatEven(kPixels, two, one)),
+                           hn::BitCast(kWords, hn::ConcatOdd(kPixels, two, one)), _part);
+        }
+        const Pixel next = _kind == Kind::nearer ? one : pixels(from + 4);
+        return between(hn::BitCast(kWords, hn::TableLookupLanes(one, _low)),
+                       hn::BitCast(kWords, hn::TableLookupLanes(next, _high)), _part);
+    }
+
+private:
+    using Pixel = hn::Vec<Pixels>;
+    // Among as many texels as there are lanes, both or each of the two; one after another; or anywhere.
+    enum class Kind : std::uint8_t { nearer, near, pairs, far };
+
+    static HWY_INLINE Pixel pixels(const std::int16_t* values) {
+        return hn::BitCast(kPixels, hn::LoadU(kWords, values));
+    }
+    static HWY_INLINE Word picked(const std::int16_t* row, const int* texels) {
+        HWY_ALIGN std::int16_t values[kMostLanes * 4];
+        for (int lane = 0; lane < lanes(); ++lane) {
+            std::memcpy(values + 4 * lane, row + std::ptrdiff_t{4} * texels[lane], 8);
+        }
+        return hn::Load(kWords, values);
+    }
+
+    decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _low, _high;
+    Word _part;
+    int _base;
+    Kind _kind;
+    int _lows[kMostLanes], _highs[kMostLanes];
+};
+
+// Those of all columns of a part that are drawn.
+class Columns {
+public:
+    // Of pixels up to `end`, in vectors from a whole one on.
+    HWY_INLINE Columns(const Steps& steps, int first, int end, int texels) {
+        for (int x = first / lanes() * lanes(); x < end; x += lanes()) {
+            _around[x / lanes()].find(steps, x, end - x, texels);
+        }
+    }
+    HWY_INLINE const Neighbours& from(int x) const { return _around[x / lanes()]; }
+
+private:
+    Neighbours _around[kTileSide / 2];
+};
+
+// Rows of texels mixed as a part's rows lie between them. Several are made before the first is read: what was stored a moment
+// ago is slow to load.
+constexpr int kRowsAhead = 8;
+
+template <typename Channel>
+class MixedRows {
+public:
+    HWY_INLINE explicit MixedRows(const SmudgePart<Channel>& texels) : _texels(&texels) {}
+
+    // Columns `first` up to `end` of the i-th row, at a height.
+    HWY_INLINE void make(int i, std::int64_t place, int first, int end) {
+        const Channel* const upper = row(wholeOf(place)) + std::ptrdiff_t{4} * first;
+        const Channel* const lower = row(wholeOf(place) + 1) + std::ptrdiff_t{4} * first;
+        const Word part = hn::Set(kWords, partOf(place));
+        for (int value = 0; value < 4 * (end - first); value += static_cast<int>(hn::Lanes(kWords))) {
+            hn::Store(between(wordsAt(upper + value), wordsAt(lower + value), part), kWords,
+                      _rows[i] + value);
+        }
+        _firsts[i] = first;
+    }
+    // Where column 0 would stand.
+    HWY_INLINE const std::int16_t* made(int i) const { return _rows[i] - 4 * _firsts[i]; }
+    HWY_INLINE const Channel* row(int y) const {
+        return _texels->values + _texels->stride * std::clamp(y, 0, _texels->size.height - 1);
+    }
+
+private:
+    static constexpr int kValues = kMostMixed * 4 + static_cast<int>(kSpareValues);
+
+    const SmudgePart<Channel>* _texels;
+    int _firsts[kRowsAhead];
+    HWY_ALIGN std::int16_t _rows[kRowsAhead][kValues];
+};
+
+}  // namespace
+
+// ---- The layer
+
+namespace {
+
+// Columns of a part's texels that so many pixels lie between.
+struct ColumnRange {
+    int first, end;
+
+    HWY_INLINE ColumnRange(const Steps& across, int pixels, int columns) {
+        const int one = wholeOf(across.start), other = wholeOf(across.at(pixels - 1));
+        first = std::clamp(std::min(one, other), 0, columns - 1);
+        end = std::clamp(std::max(one, other) + 2, first + 1, columns);
+    }
+};
+
+// Calls put(Word value, int x, int y) for the pixels from x on of each row of a part.
+template <typename Channel, typename Put>
+HWY_INLINE void forEachBetween(const SmudgePart<Channel>& from, const Steps& across, const Steps& down,
+                               const Size& size, const ColumnRange& range, Put&& put) {
+    const Columns around(across, 0, size.width, from.size.width);
+    MixedRows<Channel> rows(from);
+    for (int top = 0; top < size.height; top += kRowsAhead) {
+        const int some = std::min(kRowsAhead, size.height - top);
+        for (int i = 0; i < some; ++i) {
+            rows.make(i, down.at(top + i), range.first, range.end);
+        }
+        for (int i = 0; i < some; ++i) {
+            for (int x = 0; x < size.width; x += lanes()) {
+                put(around.from(x).in(rows.made(i)), x, top + i);
+            }
+        }
     }
 }
 
-}  // namespace dabcanvas::HWY_NAMESPACE
+// The same of columns so far apart that rows of them are longer than there is room for: of a large place for a small dab.
+template <typename Put>
+HWY_INLINE void forEachFar(const SmudgeTexels& from, const Steps& across, const Steps& down, const Size& size,
+                           Put&& put) {
+    const Columns around(across, 0, size.width, from.size.width);
+    const MixedRows<std::int16_t> rows(from);
+    for (int y = 0; y < size.height; ++y) {
+        const int upper = wholeOf(down.at(y));
+        const Word part = hn::Set(kWords, partOf(down.at(y)));
+        for (int x = 0; x < size.width; x += lanes()) {
+            const Neighbours& pixels = around.from(x);
+            put(between(pixels.in(rows.row(upper)), pixels.in(rows.row(upper + 1)), part), x, y);
+        }
+    }
+}
+
+}  // namespace
+
+void Reduce(const ReducedPart& part) {
+    const ColumnRange range(part.across, part.size.width, part.from.size.width);
+    forEachBetween(part.from, part.across, part.down, part.size, range,
+                   [&](Word value, int x, int y) HWY_ATTR {
+                       const std::ptrdiff_t at = (y * kTileSide + x) * 4;
+                       hn::StoreU(value, kWords, part.to + at);
+                       hn::StoreU(value, kWords, part.toToo + at);
+                   });
+}
+
+void PickUp(const PickedUp& part) {
+    std::uint64_t four;
+    std::memcpy(&four, part.colour.data(), sizeof(four));
+    const Word colour = hn::BitCast(kWords, hn::Set(kPixels, four));
+    const Word colourPart = hn::Set(kWords, part.colourPart);
+    const auto put = [&](Word picked, int x, int y) HWY_ATTR {
+        hn::StoreU(hn::BitCast(kUnsigned, between(picked, colour, colourPart)), kUnsigned,
+                   part.to + (y * kTileSide + x) * 4);
+    };
+    const ColumnRange range(part.across, part.size.width, part.from.size.width);
+    if (range.end - range.first > kMostMixed) {
+        forEachFar(part.from, part.across, part.down, part.size, put);
+    } else {
+        forEachBetween(part.from, part.across, part.down, part.size, range, put);
+    }
+}
+
+// ---- The picture
+
+namespace {
+
+// At hard rims the layer does not agree with the coverage; what is too much keeps its colour.
+HWY_INLINE Word cutTo(Word share, Word value, Word alpha) {
+    const hn::Repartition<std::int32_t, Words> ints;
+    const hn::RebindToFloat<decltype(ints)> floats;
+    const auto number = [&](Word words) HWY_ATTR {
+        return hn::ConvertTo(floats, hn::ShiftRight<16>(hn::BitCast(ints, words)));
+    };
+    const auto part = hn::Div(number(share), hn::Max(number(alpha), hn::Set(floats, 1)));
+    const auto of15 =
+        hn::ConvertTo(ints, hn::Mul(hn::Min(part, hn::Set(floats, 1)), hn::Set(floats, kSmudgeFull)));
+    return hn::MulFixedPoint15(value, hn::BitCast(kWords, hn::Or(of15, hn::ShiftLeft<16>(of15))));
+}
+
+// What dabs brought to pixels of which they exchanged this share.
+HWY_INLINE Word brought(Word now, Word then, Word share) {
+    Word value = hn::Add(hn::Sub(now, then), hn::MulFixedPoint15(then, share));
+    value = hn::Max(value, hn::Zero(kWords));
+    const Word alpha = alphaOf(value);
+    const auto isTooMuch = hn::Gt(alpha, share);
+    if (!hn::AllFalse(kWords, isTooMuch)) {
+        value = hn::IfThenElse(isTooMuch, cutTo(share, value, alpha), value);
+    }
+    return hn::Min(value, alphaOf(value));
+}
+
+// Background and change, as bytes.
+HWY_INLINE UnsignedWord rounded(UnsignedWord background, Word change, UnsignedWord noise) {
+    const UnsignedWord sign = hn::Set(kUnsigned, 0x8000);
+    const Word back = hn::BitCast(kWords, hn::Xor(background, sign));
+    const Word both = hn::SaturatedAdd(hn::SaturatedAdd(back, change), change);
+    const UnsignedWord sum = hn::Xor(hn::BitCast(kUnsigned, both), sign);
+    const UnsignedWord up = hn::Add(hn::Sub(sum, hn::ShiftRight<8>(sum)), noise);
+    return hn::ShiftRight<8>(hn::Min(up, alphaOf(up)));
+}
+
+// The rows of a part, one after another.
+class SmudgedRows {
+public:
+    HWY_INLINE explicit SmudgedRows(const PutSmudges& part)
+        : _part(&part),
+          _around(part.across, part.part.x, part.part.right(), part.now.size.width),
+          _nows(part.now),
+          _thens(part.then),
+          _opacity(hn::Set(kWords, part.opacity)),
+          _twice(hn::IndicesFromVec(kPixels, hn::ShiftRight<1>(hn::Iota(kPixels, 0)))) {
+        const auto steps =
+            hn::Mul(hn::ShiftRight<2>(hn::Iota(kUnsigned, 0)), hn::Set(kUnsigned, kNoiseAlong));
+        const auto pixel = [](int i) HWY_ATTR { return hn::Set(kWords, static_cast<std::int16_t>(4 * i)); };
+        for (int x = part.part.x / lanes() * lanes(); x < part.part.right(); x += lanes()) {
+            const Word value = hn::Add(hn::Iota(kWords, 0), pixel(x));
+            const auto isBefore = hn::Lt(value, pixel(part.part.x));
+            const auto isIn = hn::AndNot(isBefore, hn::Lt(value, pixel(part.part.right())));
+            _isIn[x / lanes()] = hn::BitCast(kUnsigned, hn::VecFromMask(kWords, isIn));
+            const auto start =
+                static_cast<std::uint16_t>(part.noise + static_cast<std::uint32_t>(x) * kNoiseAlong);
+            _noise[x / lanes()] = hn::Add(hn::Set(kUnsigned, start), steps);
+        }
+    }
+
+    // From row y on, up to kRowsAhead of them.
+    HWY_INLINE void put(int y, int rows) {
+        Span spans[kRowsAhead];
+        for (int i = 0; i < rows; ++i) {
+            spans[i] = spanOf(y + i);
+            if (spans[i].first < spans[i].end) {
+                mix(i, y + i, spans[i]);
+            }
+        }
+        for (int i = 0; i < rows; ++i) {
+            for (int x = spans[i].first; x < spans[i].end; x += lanes()) {
+                putVector(x, y + i, _nows.made(i), _thens.made(i));
+            }
+        }
+    }
+
+private:
+    struct Span {
+        int first, end;
+    };
+    // The vectors between those at both ends of which no dab exchanged a pixel.
+    HWY_INLINE Span spanOf(int y) const {
+        Span span{_part->part.x / lanes() * lanes(), _part->part.right()};
+        while (span.first < span.end && isBare(span.first, y)) {
+            span.first += lanes();
+        }
+        while (span.first < span.end && isBare((span.end - 1) / lanes() * lanes(), y)) {
+            span.end = (span.end - 1) / lanes() * lanes();
+        }
+        return span;
+    }
+    HWY_INLINE void mix(int i, int y, const Span& span) {
+        const Steps& across = _part->across;
+        const int texels = _part->now.size.width;
+        const int first = std::clamp(wholeOf(across.at(span.first)), 0, texels - 1);
+        const int end = std::clamp(wholeOf(across.at(span.end - 1)) + 2, first + 1, texels);
+        const std::int64_t down = _part->down.at(y);
+        _nows.make(i, down, first, end);
+        _thens.make(i, down, first, end);
+    }
+
+    // In all channels; 0 of pixels that are not of the part.
+    HWY_INLINE UnsignedWord exchanged(int x, int y) const {
+        // Two pixels of both rows are as long as one of all channels.
+        alignas(16) static constexpr std::uint8_t kUpper[16] = {0, 1, 0, 1, 0, 1, 0, 1,
+                                                                2, 3, 2, 3, 2, 3, 2, 3};
+        alignas(16) static constexpr std::uint8_t kLower[16] = {4, 5, 4, 5, 4, 5, 4, 5,
+                                                                6, 7, 6, 7, 6, 7, 6, 7};
+        const hn::Half<Pixels> half;
+        const hn::Repartition<std::uint16_t, hn::Half<Pixels>> words;
+        const auto both = hn::BitCast(half, hn::LoadU(words, _part->exchanged + pairedPlace(x, y / 2 * 2)));
+        const auto each = hn::TableLookupLanes(hn::ZeroExtendVector(kPixels, both), _twice);
+        const auto row = spread(hn::BitCast(kUnsigned, each), y % 2 == 0 ? kUpper : kLower);
+        return hn::And(row, _isIn[x / lanes()]);
+    }
+    HWY_INLINE bool isBare(int x, int y) const {
+        return hn::AllTrue(kUnsigned, hn::Eq(exchanged(x, y), hn::Zero(kUnsigned)));
+    }
+
+    HWY_INLINE void putVector(int x, int y, const std::int16_t* now, const std::int16_t* then) const {
+        const std::ptrdiff_t at = (y * kTileSide + x) * 4;
+        const UnsignedWord background = widened(_part->background + at);
+        const Neighbours& around = _around.from(x);
+        const UnsignedWord alpha = exchanged(x, y);
+        const Word share = hn::BitCast(kWords, hn::ShiftRight<1>(alpha));
+        const Word came = brought(around.in(now), around.in(then), share);
+        Word change = hn::Sub(came, hn::MulFixedPoint15(halfOf(background), share));
+        if (_part->opacity != kSmudgeFull) {
+            change = hn::MulFixedPoint15(change, _opacity);
+        }
+        std::uint8_t* const picture = _part->picture + at;
+        const UnsignedWord was = hn::PromoteTo(kUnsigned, hn::LoadU(kBytes, picture));
+        const UnsignedWord result =
+            hn::IfThenElse(hn::Eq(alpha, hn::Zero(kUnsigned)), was, rounded(background, change, noise(x, y)));
+        hn::StoreU(hn::DemoteTo(kBytes, hn::BitCast(kWords, result)), kBytes, picture);
+    }
+
+    // Nothing at both ends of 0..255, so that what is out by a unit stays what it is.
+    HWY_INLINE UnsignedWord noise(int x, int y) const {
+        const auto down = static_cast<std::uint16_t>(static_cast<std::uint32_t>(y) * kNoiseDown);
+        const UnsignedWord turn = hn::Add(_noise[x / lanes()], hn::Set(kUnsigned, down));
+        return hn::OrAnd(hn::Set(kUnsigned, 1), turn, hn::Set(kUnsigned, 252));
+    }
+
+    const PutSmudges* _part;
+    Columns _around;
+    MixedRows<std::int16_t> _nows, _thens;
+    Word _opacity;
+    decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _twice;
+    UnsignedWord _isIn[kTileSide / 2], _noise[kTileSide / 2];
+};
+
+}  // namespace
+
+void Put(const PutSmudges& part) {
+    SmudgedRows rows(part);
+    for (int y = part.part.y; y < part.part.bottom(); y += kRowsAhead) {
+        rows.put(y, std::min(kRowsAhead, part.part.bottom() - y));
+    }
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace dabcanvas
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 namespace dabcanvas {
 
-HWY_EXPORT(put);
+HWY_EXPORT(Reduce);
+HWY_EXPORT(PickUp);
+HWY_EXPORT(Put);
 
-void putSmudges(const SmudgeRow& row) {
-    HWY_DYNAMIC_DISPATCH(put)(row);
+void reduce(const ReducedPart& part) {
+    HWY_DYNAMIC_DISPATCH(Reduce)(part);
+}
+void pickUp(const PickedUp& part) {
+    HWY_DYNAMIC_DISPATCH(PickUp)(part);
+}
+void putSmudges(const PutSmudges& part) {
+    HWY_DYNAMIC_DISPATCH(Put)(part);
 }
 
 }  // namespace dabcanvas

@@ -11,33 +11,26 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "Maths/Rect.h"
-#include "Surface/TileSet.h"
+#include "Processor/TileMemory.h"
+#include "Surface/TilePixels.h"
 
 namespace dabcanvas {
 
-inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
+// Where one channel's values lie that kernels go through two rows at a time: two of a row and then the two below them.
+constexpr int pairedPlace(int x, int y) {
+    return y / 2 * 2 * kTileSide + x / 2 * 4 + y % 2 * 2 + x % 2;
+}
 
-// Premultiplied RGBA, rows from the top; transparent when made.
-template <typename Channel>
-struct alignas(64) Tile {
-    std::array<Channel, kTilePixels * 4> values{};
-
-    Channel* at(int x, int y) {
-        return values.data() + (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * 4;
-    }
-    const Channel* at(int x, int y) const { return const_cast<Tile*>(this)->at(x, y); }
-};
-
-template <typename Channel>
+template <typename Channel, std::size_t kChannels = 4>
 class TileGrid {
 public:
-    using Pixel = std::array<Channel, 4>;
-    using TileOf = Tile<Channel>;
+    using Pixel = std::array<Channel, kChannels>;
+    using TileOf = Tile<Channel, kChannels>;
 
     explicit TileGrid(const Size& size)
         : _size(size),
@@ -63,9 +56,10 @@ public:
     TileOf& writable(std::size_t index) {
         std::shared_ptr<TileOf>& tile = _tiles[index];
         if (!tile) {
-            tile = std::make_shared<TileOf>();
-        } else if (tile.use_count() > 1) {
-            tile = std::make_shared<TileOf>(*tile);
+            tile = made();
+        } else if (const auto held = tile; held.use_count() > 2) {
+            // Counting once more orders what follows after what another thread did before it let go.
+            tile = made(*held);
         }
         return *tile;
     }
@@ -74,13 +68,15 @@ public:
     void fill(const Pixel& pixel) {
         std::shared_ptr<TileOf> all;
         if (pixel != Pixel{}) {
-            all = std::make_shared<TileOf>();
+            all = made();
             for (std::size_t i = 0; i < kTilePixels; ++i) {
-                std::copy(pixel.begin(), pixel.end(), all->values.data() + i * 4);
+                std::copy(pixel.begin(), pixel.end(), all->values.data() + i * kChannels);
             }
         }
         std::fill(_tiles.begin(), _tiles.end(), all);
     }
+    const std::shared_ptr<TileOf>& shared(std::size_t index) const { return _tiles[index]; }
+    void share(std::shared_ptr<TileOf> tile, std::size_t index) { _tiles[index] = std::move(tile); }
     // The tile is the other grid's, which is as large, until one of both writes it.
     void share(const TileGrid& other, std::size_t index) { _tiles[index] = other._tiles[index]; }
     bool sharesWith(const TileGrid& other, std::size_t index) const {
@@ -99,6 +95,11 @@ public:
     }
 
 private:
+    template <typename... From>
+    static std::shared_ptr<TileOf> made(const From&... from) {
+        return std::allocate_shared<TileOf>(TileAllocator<TileOf>(), from...);
+    }
+
     Size _size;
     int _columns;
     std::vector<std::shared_ptr<TileOf>> _tiles;

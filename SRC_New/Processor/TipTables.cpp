@@ -39,7 +39,8 @@ float reachOf(const Pixels& level) {
 TipTable tableOf(const Pixels& level) {
     TipTable table{{}, level.size, reachOf(level)};
     const int width = level.size.width, height = level.size.height;
-    table.pairs.resize(static_cast<std::size_t>(table.stride()) * static_cast<std::size_t>(height) + 2);
+    table.pairs.resize(static_cast<std::size_t>(table.stride()) * static_cast<std::size_t>(height) +
+                       kTipTableSpare);
     for (int y = 0; y < height; ++y) {
         const std::uint8_t *row = level.at(0, y), *below = level.at(0, std::min(y + 1, height - 1));
         std::uint8_t* pairs = table.pairs.data() + static_cast<std::ptrdiff_t>(y) * table.stride();

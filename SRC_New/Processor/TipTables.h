@@ -14,9 +14,11 @@
 
 namespace dabcanvas {
 
+inline constexpr std::size_t kTipTableSpare = 64;
+
 struct TipTable {
     // For each texel, itself and the one below it; rows of width + 1 such pairs, the last column twice, the last row
-    // above itself. One more pair at the end.
+    // above itself. At the end as many bytes more as kernels may read at once.
     std::vector<std::uint8_t> pairs;
     Size size;
     // Nothing lies beyond this part of the half sides, in the round; 2 and more where corners hold something.

@@ -16,6 +16,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -26,7 +27,7 @@
 #include "Maths/Export.h"
 #include "Maths/PixelView.h"
 #include "Maths/Rect.h"
-#include "Surface/TileSet.h"
+#include "Surface/TilePixels.h"
 
 namespace dabcanvas {
 
@@ -120,6 +121,15 @@ public:
     virtual bool read(PictureId picture, const Rect& rect, const MutablePixelView& rows) = 0;
     // Into the picture and its background.
     virtual bool write(PictureId picture, const Rect& rect, const PixelView& rows) = 0;
+
+    // ---- tiles: rows as whoever keeps a picture's history has them
+
+    // Calls visit(tile) for each of the set, row by row: shared with the picture where a surface has tiles, else copied.
+    // False where they cannot be read, perhaps after some of them.
+    virtual bool keep(PictureId picture, const TileSet& tiles,
+                      const std::function<void(const PlacedTile&)>& visit);
+    // Into the picture and its background, byte for byte. False, perhaps after some of them, where that cannot be.
+    virtual bool put(PictureId picture, std::span<const PlacedTile> tiles);
 
     // The tiles of a picture that operations touched since they were last forgotten, for whoever keeps its history.
     const TileSet& touched(PictureId) const { return _touched; }

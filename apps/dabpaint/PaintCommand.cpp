@@ -188,6 +188,7 @@ private:
         const auto undone = static_cast<std::size_t>(_options.undo);
         if (undone > 0) {
             _canvas->undoManager().setUndoStepCount(static_cast<unsigned>(_options.undo));
+            _canvas->undoManager().setDropsSteps(false);
             _canvas->undoManager().setCacheByteBudget(kUndoBytes);
             _canvas->resetUndoManager();
         }
@@ -221,7 +222,6 @@ private:
     // A stroke that drew nothing is no step.
     QString undoLast() {
         for (const bool isStep : _isStep) {
-            _canvas->undoManager().waitForWrites();
             if (isStep && _canvas->undo().isNull())
                 return QStringLiteral("a stroke cannot be undone");
         }

@@ -318,7 +318,7 @@ void CanvasPointer::leaveDab(QPointF at) {
 }
 
 void CanvasPointer::drawViewDidDrawBegin(QDDrawCanvas& canvas, QPointF) {
-    _recordedBefore = canvas.enableRecogition() ? canvas.curImageData() : QByteArray();
+    _recordedBefore = canvas.enableRecogition() ? canvas.curImageData() : StepPicture();
 }
 
 void CanvasPointer::drawViewDidDrawMove(QDDrawCanvas&, QPointF) {
@@ -332,9 +332,9 @@ void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) {
     if (!_marked || withdrawn)
         return;
     // A shape is a step, with a picture of its own.
-    const QByteArray before = std::exchange(_recordedBefore, {});
+    const StepPicture before = std::exchange(_recordedBefore, {});
     const bool isGone = canvas.enableRecogition() && !canvas.edited() && !before.isNull() &&
-                        canvas.curImageData().constData() == before.constData();
+                        canvas.curImageData().isSameAs(before);
     emit(isGone ? noShapeFound() : strokeEnded());
 }
 

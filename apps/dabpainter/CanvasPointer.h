@@ -8,6 +8,7 @@
 
 #include "BrushModel.h"
 #include "Canvas/QDDrawViewDelegate.h"
+#include "History/StepPicture.h"
 
 class QKeyEvent;
 class QMouseEvent;
@@ -86,7 +87,7 @@ private:
     bool _down = false, _marked = false, _manyFingers = false;
     QPointF _downAt;  // buffer pixels
     float _downPressure = 1;
-    QByteArray _recordedBefore;  // of a stroke that is to be a shape
+    dabcanvas::StepPicture _recordedBefore;  // of a stroke that is to be a shape
 
     // Of the last pinch event
     QPointF _pinchCenter;

@@ -71,11 +71,10 @@ void MainWindow::startHistory() {
     _redo->setEnabled(false);
 }
 
-void MainWindow::stepHistory(QByteArray (QDDrawCanvas::*step)()) {
+void MainWindow::stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)()) {
     if (view() == nullptr || !_pointer->isIdle()) {
         return;
     }
-    view()->undoManager().waitForWrites();  // a step that is still being written would be refused
     if (!(view()->*step)().isNull()) {
         markChanged();
     }

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "BrushModel.h"
+#include "History/StepPicture.h"
 #include "NewCanvasDialog.h"
 #include "PresetLibrary.h"
 #include "Prompts.h"
@@ -94,7 +95,7 @@ private:
 
     // Edit
     void startHistory();
-    void stepHistory(QByteArray (QDDrawCanvas::*step)());
+    void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     int undoSteps() const;
     void setUndoSteps(int steps);
 

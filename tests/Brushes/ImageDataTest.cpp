@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Brushes/ImageData.h"
 
-#include <gtest/gtest.h>
-
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>

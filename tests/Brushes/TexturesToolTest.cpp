@@ -2,7 +2,6 @@
 #include "Brushes/TexturesTool.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +9,6 @@
 #include <vector>
 
 #include "support/Images.h"
-#include "support/Named.h"
 
 namespace {
 
@@ -46,50 +44,41 @@ std::vector<int> alphaOf(const TexturesTool& tool, int n) {
     return alpha;
 }
 
-struct Tip : Named {
-    int type;
-    float hardness;
-    float control;
-    int n;
-    std::vector<int> alpha;
-};
-
-class TipBytes : public ::testing::TestWithParam<Tip> {};
-
-TEST_P(TipBytes, AreThoseWorkedOutByHand) {
-    const Tip& tip = GetParam();
-    EXPECT_THAT(alphaOf(toolOf(tip.type, tip.hardness, tip.control), tip.n), ElementsAreArray(tip.alpha));
-}
-
 // Soft disc of 5: (1 - 1/2)^2 = 63.75 and (1 - sqrt 2 / 2)^2 = 21.9 of 255, truncated.
 // Ring of 5: radius 1, so 0.3 * 255 = 76.5 beside the centre, (2 - sqrt 2) * 76.5 = 44.8 diagonally.
 // Rectangle of 5: 1/2 = 127.5 beside the centre, (1 - sqrt 2 / 2) = 74.7 diagonally.
-INSTANTIATE_TEST_SUITE_P(
-    Tiny, TipBytes,
-    ::testing::Values(
-        Tip{"disc3", kDisc, 0, 0, 3, {0, 0, 0, 0, 255, 0, 0, 0, 0}},
-        Tip{"disc4CentreStandsApart", kDisc, 0, 0, 4, {0, 0, 0, 0, 0, 63, 63, 0, 0, 63, 255, 0, 0, 0, 0, 0}},
-        Tip{"disc5", kDisc, 0, 0, 5, {0,  0, 0, 0,  0,  0,  21, 63, 21, 0, 0, 63, 255,
-                                      63, 0, 0, 21, 63, 21, 0,  0,  0,  0, 0, 0}},
-        Tip{"ring5", kRing, 0, 0, 5, {0,  0, 0, 0,  0,  0,  44, 76, 44, 0, 0, 76, 0,
-                                      76, 0, 0, 44, 76, 44, 0,  0,  0,  0, 0, 0}},
-        Tip{"square4CentreMirrored",
-            kRectangle,
-            0,
-            1,
-            4,
-            {0, 0, 0, 0, 0, 255, 255, 0, 0, 255, 255, 0, 0, 0, 0, 0}},
-        Tip{"square5", kRectangle, 0, 1, 5, {0,   0, 0, 0,  0,   0,  74, 127, 74, 0, 0, 127, 255,
-                                             127, 0, 0, 74, 127, 74, 0,  0,   0,  0, 0, 0}},
-        Tip{"flat5", kRectangle, 0, 2, 5, {0,   0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 255, 255,
-                                           255, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
-        Tip{"narrow5", kRectangle, 0, 0.5f, 5, {0, 0, 0, 0, 0,   0, 0, 255, 0, 0, 0, 0, 255,
-                                                0, 0, 0, 0, 255, 0, 0, 0,   0, 0, 0, 0}},
-        Tip{"hardDisc1", kDisc, 1, 0, 1, {255}}, Tip{"hardSquare1", kRectangle, 1, 1, 1, {255}},
-        Tip{"disc2", kDisc, 0, 0, 2, {0, 0, 0, 255}}, Tip{"typeBelow", -1, 1, 1, 3, std::vector<int>(9, 0)},
-        Tip{"typeAbove", 4, 1, 1, 3, std::vector<int>(9, 0)},
-        Tip{"storedImageHasNoShape", TexturesTool::kStoredImage, 1, 1, 3, std::vector<int>(9, 0)}),
-    byName);
+TEST(TexturesToolBytes, AreThoseWorkedOutByHand) {
+    const struct {
+        const char* name;
+        int type;
+        float hardness, control;
+        int n;
+        std::vector<int> alpha;
+    } rows[] = {
+        {"disc", kDisc, 0, 0, 3, {0, 0, 0, 0, 255, 0, 0, 0, 0}},
+        {"centre apart", kDisc, 0, 0, 4, {0, 0, 0, 0, 0, 63, 63, 0, 0, 63, 255, 0, 0, 0, 0, 0}},
+        {"disc", kDisc, 0, 0, 5, {0,  0, 0, 0,  0,  0,  21, 63, 21, 0, 0, 63, 255,
+                                  63, 0, 0, 21, 63, 21, 0,  0,  0,  0, 0, 0}},
+        {"ring", kRing, 0, 0, 5, {0,  0, 0, 0,  0,  0,  44, 76, 44, 0, 0, 76, 0,
+                                  76, 0, 0, 44, 76, 44, 0,  0,  0,  0, 0, 0}},
+        {"centre mirrored", kRectangle, 0, 1, 4, {0, 0, 0, 0, 0, 255, 255, 0, 0, 255, 255, 0, 0, 0, 0, 0}},
+        {"square", kRectangle, 0, 1, 5, {0,   0, 0, 0,  0,   0,  74, 127, 74, 0, 0, 127, 255,
+                                         127, 0, 0, 74, 127, 74, 0,  0,   0,  0, 0, 0}},
+        {"flat", kRectangle, 0, 2, 5, {0,   0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 255, 255,
+                                       255, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
+        {"narrow", kRectangle, 0, 0.5f, 5, {0, 0, 0, 0, 0,   0, 0, 255, 0, 0, 0, 0, 255,
+                                            0, 0, 0, 0, 255, 0, 0, 0,   0, 0, 0, 0}},
+        {"hard disc", kDisc, 1, 0, 1, {255}},
+        {"hard square", kRectangle, 1, 1, 1, {255}},
+        {"disc of two", kDisc, 0, 0, 2, {0, 0, 0, 255}},
+        {"type below", -1, 1, 1, 3, std::vector<int>(9, 0)},
+        {"type above", 4, 1, 1, 3, std::vector<int>(9, 0)},
+        {"stored image", TexturesTool::kStoredImage, 1, 1, 3, std::vector<int>(9, 0)}};
+    for (const auto& row : rows) {
+        EXPECT_THAT(alphaOf(toolOf(row.type, row.hardness, row.control), row.n), ElementsAreArray(row.alpha))
+            << row.name << " of " << row.n;
+    }
+}
 
 // Shapes
 

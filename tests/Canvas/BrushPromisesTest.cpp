@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What each brush property promises a painter, read from the marks that a stroke leaves: more of it is wider, redder,
 // rounder, more scattered. Every row of the property table has a row here.
-#include <algorithm>
 #include <array>
 #include <map>
 #include <numbers>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "Brushes/BrushProperties.h"
 #include "ESRender/ESImageRender.h"

@@ -5,7 +5,6 @@
 #include <cstring>
 #include <limits>
 #include <set>
-#include <string>
 
 #include "ESRender/ESImageRender.h"
 #include "LineProcess/LPProperties.h"
@@ -55,22 +54,6 @@ TEST_F(BrushPropertiesTest, EveryNumberStartsAtItsDefaultAndIsClampedToItsRange)
 }
 
 // Rules of their own
-
-// What each value does to a line, its promise tells; here, which of the two records has it.
-TEST_F(BrushPropertiesTest, TheRecordsOfBothLinesHaveWhatTheirsIs) {
-    auto canvas = makeCanvas(32, 32);
-    canvas->setTrackNum(3);
-    canvas->setRadiusControl({0.1f, 0.2f, 0.3f});
-    canvas->setSensitivity(70);
-    canvas->setRadius(40);
-    canvas->setSlRadius(9);
-    const LPLineParams &line = canvas->lineParaObj(), &subLine = canvas->subLineParaObj();
-    EXPECT_TRUE(line.trackNum == 3 && subLine.trackNum == 0);
-    EXPECT_TRUE(line.radiusControl.altitude == 0.2f && subLine.radiusControl.speed == 0.3f);
-    EXPECT_TRUE(line.sensitivity == 70 && subLine.sensitivity == 70);
-    EXPECT_TRUE(line.radius == 40 && subLine.radius == 9);
-    EXPECT_EQ(line.maxRadius, 1.0f);
-}
 
 TEST_F(BrushPropertiesTest, TheSecondLineFollowsTheFirst) {
     auto canvas = makeCanvas(32, 32);

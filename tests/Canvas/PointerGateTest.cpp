@@ -8,7 +8,6 @@
 #include <functional>
 #include <limits>
 #include <map>
-#include <string>
 
 #include "support/LogCapture.h"
 #include "support/Named.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QPainter>
 #include <QTransform>
-#include <algorithm>
 #include <limits>
 #include <numbers>
 #include <random>
@@ -172,14 +171,6 @@ TEST_F(CanvasImageTest, NoSizeAndNoTurnLeavesAFringe) {
 
 TEST_F(CanvasImageTest, EnlargedAndReducedImagesKeepTheirColours) {
     auto canvas = makeCanvas();
-    QImage halves = solidImage({8, 6}, Qt::red);
-    fillRect(halves, QRect(4, 0, 4, 6), Qt::blue);
-    ASSERT_TRUE(canvas->setImage(halves, QRectF(0, 0, 200, 150)));
-    for (const QPoint corner : {QPoint(0, 0), QPoint(80, 0), QPoint(0, 149), QPoint(86, 149)}) {
-        EXPECT_EQ(canvas->image().pixelColor(corner), QColor(Qt::red)) << "up to the rim";
-    }
-    EXPECT_EQ(canvas->image().pixelColor(199, 149), QColor(Qt::blue));
-
     // Each pixel is the mean of what lies under it: of one texel in one, and of a random picture with soft shapes.
     QImage fine = noise({1600, 1200}).convertToFormat(QImage::Format_Grayscale8);
     QPainter(&fine).fillRect(QRect(300, 200, 900, 700), QColor(200, 60, 90));
@@ -321,46 +312,6 @@ TEST_F(CanvasImageTest, AStrokeGoesOnAboveTheImage) {
     EXPECT_TRUE(imagesMatch(after.copy(0, 0, 70, 150), placed.copy(0, 0, 70, 150))) << "not painted over";
     EXPECT_NE(after.copy(125, 0, 75, 150), placed.copy(125, 0, 75, 150)) << "the stroke went on";
     EXPECT_TRUE(imagesMatch(canvas->displayImage(), after));
-}
-
-TEST_F(CanvasImageTest, WhatIsBelowTheImageStaysThere) {
-    const auto paint = [&](bool dabBefore, bool copied) {
-        auto canvas = tintedCanvas();
-        const auto dabAt = [&](QPointF at) {
-            canvas->drawPoint(at, 50);
-            canvas->updateImage(false);
-        };
-        if (dabBefore) {
-            dabAt({80, 60});
-        }
-        const QImage cover = patternImage({150, 200}, 99);
-        EXPECT_TRUE(
-            copied ? canvas->setImage(cover.transformed(QTransform().rotate(-90)), QRectF(0, 0, 200, 150))
-                   : canvas->drawImage(cover, QSizeF(150, 200), QPointF(100, 75), kQuarter));
-        dabAt({95, 75});
-        return canvas->image();
-    };
-    // How much was painted before decides how fractions are rounded.
-    EXPECT_TRUE(imagesMatch(paint(true, false), paint(false, false), 1));
-    EXPECT_TRUE(imagesMatch(paint(true, true), paint(false, true), 1));
-}
-
-TEST_F(CanvasImageTest, StrokesAreBlendedAsBeforeAfterPlacing) {
-    for (const int blendType : {1, 2, 5, 8}) {
-        const auto paint = [&](bool place) {
-            auto canvas = tintedCanvas();
-            canvas->setBlendType(blendType);
-            canvas->setOpacity(0.6f);
-            canvas->setRepeatedlyRenderEnabled(true);
-            if (place) {
-                EXPECT_TRUE(canvas->drawImage(solidImage({9, 9}), QSizeF(70, 50), QPointF(80, 70), 0.5));
-                EXPECT_FALSE(canvas->drawImage(part(), QSizeF(70, 50), QPointF(800, 70), 0.5));
-            }
-            paintWave(*canvas);
-            return canvas->image();
-        };
-        EXPECT_TRUE(imagesMatch(paint(true), paint(false))) << "blend type " << blendType;
-    }
 }
 
 // Bad input

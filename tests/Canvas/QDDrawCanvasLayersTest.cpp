@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <limits>
 #include <random>
 #include <string>
@@ -75,17 +74,6 @@ TEST_F(CanvasLayersTest, OnlyWithinTheRectangleIsAStrokeTakenBack) {
     canvas->resetWithRenderRect(QRectF(0, 0, 1e-300, 9));  // of which single precision makes nothing
     canvas->resetWithRenderRect(QRectF(-1e10, -1e10, 2e10, 2e10));
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
-}
-
-TEST_F(CanvasLayersTest, EveryChangeIsShownAgain) {
-    ShownCanvas canvas({200, 150});
-    dragMouse(canvas, {30, 40}, {20, 0}, 5);
-    const QRect stroke = painted(canvas.displayImage());
-    ASSERT_FALSE(stroke.isEmpty());
-    canvas.redisplayed.clear();
-    canvas.mouseUp({{130, 40}});
-    EXPECT_TRUE(canvas.redisplayedArea().contains(QRectF(stroke))) << "a withdrawn stroke leaves the screen";
-    EXPECT_TRUE(painted(canvas.displayImage()).isEmpty());
 }
 
 // What may happen to a stroke before it is next looked at.
@@ -197,18 +185,6 @@ TEST_F(CanvasLayersTest, ClearsToTheColourGiven) {
         canvas->clearWithColor(color, false);
         EXPECT_TRUE(imagesMatch(canvas->image(), solidImage({64, 40}, pixel)));
     }
-}
-
-TEST_F(CanvasLayersTest, ClearEmptiesTheLayersToo) {
-    auto fresh = makeCanvas();
-    paintWave(*fresh);
-    auto canvas = makeCanvas();
-    beginThrough(*canvas, {{20, 20}, {100, 100}});
-    canvas->clear();
-    EXPECT_TRUE(painted(canvas->image()).isNull());
-    paintWave(*canvas);
-    EXPECT_TRUE(imagesMatch(canvas->image(), fresh->image()))
-        << "dabs of the stroke that was cleared came back";
 }
 
 }  // namespace

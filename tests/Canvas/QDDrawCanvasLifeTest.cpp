@@ -2,12 +2,9 @@
 // A canvas that goes while it calls its host, and one whose OpenGL context goes.
 #include <QApplication>
 #include <QMouseEvent>
-#include <algorithm>
-#include <functional>
 #include <map>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "History/ImagesUndoManager.h"
 #include "Preview/LeafDrawing.h"

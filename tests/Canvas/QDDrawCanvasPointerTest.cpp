@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <limits>
 
-#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 
 namespace {
@@ -18,18 +17,12 @@ TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
     paintWave(*canvas);
     EXPECT_TRUE(canvas->edited());
     canvas->markAction();
-    struct Brush {
+    const struct {
         int type, blend;
         bool secondLine;
-    };
-    for (const auto& [type, blend, secondLine] : {Brush{0, 1, false},
-                                                  {0, 1, true},
-                                                  {0, 2, false},
-                                                  {0, 2, true},
-                                                  {0, 5, false},
-                                                  {0, 8, true},
-                                                  {0, 9, false},
-                                                  {3, 1, false}}) {
+    } rows[] = {{0, 1, false}, {0, 1, true}, {0, 2, false}, {0, 2, true},
+                {0, 5, false}, {0, 8, true}, {0, 9, false}, {3, 1, false}};
+    for (const auto& [type, blend, secondLine] : rows) {
         SCOPED_TRACE(::testing::Message()
                      << "type " << type << ", blend type " << blend << ' ' << secondLine);
         canvas->setBrushType(type);
@@ -46,15 +39,19 @@ TEST_F(CanvasPointerTest, AWithdrawnStrokeLeavesNoBitBehind) {
         EXPECT_FALSE(canvas->edited());
         EXPECT_EQ(canvas->blendType(), blend);
     }
-    // And nothing of it comes back with the next stroke.
+    // It leaves the screen, and nothing of it comes back with the next stroke.
     auto fresh = makeCanvas();
-    canvas = makeCanvas();
-    dragMouse(*canvas, {20, 20}, {20, 11}, 5);
-    canvas->mouseUp(at(120));
-    for (QDDrawCanvas* one : {canvas.get(), fresh.get()}) {
+    ShownCanvas shown({200, 150});
+    shown.setRepeatableRandom(true);
+    dragMouse(shown, {20, 20}, {20, 11}, 5);
+    const QRect stroke = painted(shown.displayImage());
+    shown.redisplayed.clear();
+    shown.mouseUp(at(120));
+    EXPECT_TRUE(shown.redisplayedArea().contains(QRectF(stroke)));
+    for (QDDrawCanvas* one : {static_cast<QDDrawCanvas*>(&shown), fresh.get()}) {
         paintWave(*one, 90);
     }
-    EXPECT_TRUE(imagesMatch(canvas->image(), fresh->image()));
+    EXPECT_TRUE(imagesMatch(shown.image(), fresh->image()));
 }
 
 TEST_F(CanvasPointerTest, PositionsCountFromTheFrame) {

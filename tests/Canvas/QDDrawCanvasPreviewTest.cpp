@@ -48,6 +48,7 @@ TEST_F(CanvasPreviewTest, IsPlacedExactlyWhereItWasShown) {
                             viewSize.height() * 0.4);
         begin(*view, square);
         EXPECT_EQ(shown(*view).pixelColor(square.center().toPoint()), QColor(255, 0, 0));
+        EXPECT_EQ(view->childAt(square.center().toPoint()), nullptr) << "the pointer meets what lies below";
         view->drawingWithEndPoint(square.bottomLeft());
         const QImage live = shown(*view);  // with the end, and no flicker
         EXPECT_TRUE(view->leafDrawView().isPending());

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "Canvas/ShapeSketch.h"
 #include "History/ImagesUndoManager.h"
@@ -272,25 +271,6 @@ TEST_F(CanvasRecognitionTest, WhatHappensInMidStrokeHappensToTheCanvasWithoutThe
             EXPECT_EQ(canvas->edited(), expected->edited());
         }
     }
-}
-
-TEST_F(CanvasRecognitionTest, SwitchingInMidStrokeLeavesWhatWasDrawn) {
-    auto off = makePatterned();
-    auto plain = makePatterned();
-    off->setEnableRecogition(true);
-    for (QDDrawCanvas* canvas : {off.get(), plain.get()}) {
-        sketchLine(*canvas);
-        canvas->setEnableRecogition(false);
-        endTangled(*canvas);
-    }
-    EXPECT_TRUE(imagesMatch(off->image(), plain->image()));
-    auto on = makePatterned();
-    sketchLine(*on);
-    const QImage sketched = on->image();
-    on->setEnableRecogition(true);
-    endTangled(*on);
-    EXPECT_TRUE(imagesMatch(on->image(), sketched));
-    EXPECT_TRUE(on->edited());
 }
 
 // ---- Shapes drawn

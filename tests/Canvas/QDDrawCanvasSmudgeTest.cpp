@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <functional>
 #include <string>
 
-#include "Canvas/QDDrawCanvas.h"
 #include "support/CanvasTest.h"
 
 namespace {
@@ -88,19 +86,6 @@ TEST_F(CanvasSmudgeTest, PixelsThatNoDabCoveredKeepEveryBit) {
     }
 }
 
-TEST_F(CanvasSmudgeTest, AnEvenCanvasStaysEvenUpToItsEdges) {
-    for (const QSize size : {QSize(120, 90), QSize(121, 91)}) {
-        auto canvas = makeCanvas(size.width(), size.height());
-        canvas->clearWithColor(ESColor::rgba(0.8f, 0.5f, 0.2f), true);
-        const QImage before = canvas->image();
-        useFinger(*canvas);
-        drag(*canvas, {-20, 5}, {140, 5});
-        drag(*canvas, {5, -20}, {5, 100});
-        drag(*canvas, {size.width() - 1.0, 100}, {size.width() - 1.0, -20});
-        EXPECT_TRUE(imagesMatch(canvas->image(), before));
-    }
-}
-
 TEST_F(CanvasSmudgeTest, TransparentEdgesGetNoDarkFringe) {
     auto canvas = makeCanvas(160, 100);
     canvas->clearWithColor(ESColor::rgba(0.8f, 0.4f, 0.2f), true);
@@ -175,25 +160,6 @@ TEST_F(CanvasSmudgeTest, SmudgesTheCanvasAsItIsNow) {
     const QImage both = canvas->image();
     EXPECT_GT(both.pixelColor(50, 40).blue(), 60);
     EXPECT_GT(both.pixelColor(150, 40).blue(), 230);
-}
-
-TEST_F(CanvasSmudgeTest, SettingTheBrushAgainInMidStrokeLosesNothing) {
-    const auto smudged = [](const std::function<void(QDDrawCanvas&)>& inTheMiddle) {
-        auto canvas = makeCanvas();
-        paintStripes(*canvas);
-        useFinger(*canvas);
-        paintWave(*canvas, 75, 30, [&](int move) {
-            if (move == 15) {
-                inTheMiddle(*canvas);
-            }
-        });
-        return canvas->image();
-    };
-    const QImage plain = smudged([](QDDrawCanvas&) {});
-    EXPECT_TRUE(imagesMatch(smudged([](QDDrawCanvas& c) { c.setBrushType(3); }), plain));
-    EXPECT_TRUE(imagesMatch(smudged([](QDDrawCanvas& c) { c.setEnableRecogition(false); }), plain));
-    // The layer has half the canvas's resolution; what it is filled from anew differs by little.
-    EXPECT_TRUE(imagesMatch(smudged([](QDDrawCanvas& c) { c.updateSmudgeBGTexture(); }), plain, 24));
 }
 
 TEST_F(CanvasSmudgeTest, AStrokeThatTurnsIntoASmudgePicksUpWhereItIs) {

@@ -2,7 +2,6 @@
 #include <epoxy/egl.h>
 
 #include <string>
-#include <vector>
 
 #include "LineProcess/LPProperties.h"
 #include "LineProcess/LPTrace.h"
@@ -42,18 +41,6 @@ TEST_F(CanvasStrokeTest, PointsScaleFromViewToBufferAndRedisplayBack) {
 }
 
 // Dabs
-
-TEST_F(CanvasStrokeTest, OnlyTheFirstAcceptedMoveDropsItsFirstDab) {
-    auto canvas = makeCanvas();
-    canvas->setPointsDistanceEnabled(false);  // one dab a sample
-    canvas->drawingWithBeginPoint({20, 40});
-    std::vector<std::uint64_t> dabs{canvas->strokeStats().dabs};
-    for (const QPointF at : {QPointF(60, 45), QPointF(100, 40), QPointF(140, 60)}) {
-        at.x() < 140 ? canvas->drawingWithMoveToPoint(at) : canvas->drawingWithEndPoint(at);
-        dabs.push_back(canvas->strokeStats().dabs);
-    }
-    EXPECT_EQ(dabs, (std::vector<std::uint64_t>{0, 0, 1, 2}));
-}
 
 // Against a canvas that more of them lie on. Divided by other sides, a dab's edge may come to lie beyond a pixel's middle.
 TEST_F(CanvasStrokeTest, DabsOffTheCanvasChangeNothingOnIt) {

@@ -12,8 +12,6 @@ using namespace dabcanvas;
 
 namespace {
 
-constexpr float kPi = 3.14159265f;
-
 LPPoint pointAt(float x, float y, float size = 10, LPControlParams params = {1, 0, 1}) {
     return {{x, y}, size, params};
 }
@@ -33,31 +31,6 @@ DabMaker makerWith(const std::function<void(DabSettings&)>& change) {
     return maker;
 }
 
-// Direction
-
-TEST(DabTest, DirectionFollowsTheStrokeFromItsFirstDab) {
-    const struct {
-        float dx, dy, radian;
-    } rows[] = {{9, 0, 0}, {0, 9, -kPi / 2}, {0, -9, kPi / 2}, {-9, 0, kPi}, {5, 5, -kPi / 4}};
-    for (const auto& [dx, dy, radian] : rows) {
-        DabMaker maker = makerWith([](DabSettings& s) { s.moveRadianEnable = true; });
-        for (const Dab& dab : dabsOf(maker, {pointAt(100, 100), pointAt(100 + dx, 100 + dy),
-                                             pointAt(100 + 2 * dx, 100 + 2 * dy)})) {
-            EXPECT_NEAR(std::cos(dab.radian), std::cos(radian), 1e-4) << dx << ", " << dy;
-            EXPECT_NEAR(std::sin(dab.radian), std::sin(radian), 1e-4) << dx << ", " << dy;
-        }
-    }
-}
-
-TEST(DabTest, DirectionCarriesOverFromCallToCall) {
-    DabMaker maker = makerWith([](DabSettings& s) { s.moveRadianEnable = true; });
-    dabsOf(maker, {pointAt(10, 10), pointAt(20, 10)});
-    EXPECT_NEAR(dabsOf(maker, {pointAt(20, 30)}).front().radian, -kPi / 2, 1e-5);
-    maker.reset();
-    EXPECT_FLOAT_EQ(dabsOf(maker, {pointAt(20, 60)}).front().radian, 0)
-        << "a new stroke knows no direction yet";
-}
-
 // Jitter
 
 void everyJitter(DabSettings& s) {
@@ -67,6 +40,7 @@ void everyJitter(DabSettings& s) {
     s.distribution = 1;
     s.distributionCount = 3;
     s.distributionCountTingle = 0.5f;
+    s.moveRadianEnable = true;
     s.radianTingle = 0.6f;
     s.startRadianEnable = true;
     s.roundness = 0.6f;

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QThread>
-#include <QThreadPool>
 #include <stdexcept>
 #include <thread>
 #include <vector>

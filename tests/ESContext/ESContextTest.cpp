@@ -9,7 +9,6 @@
 #include "ESContext/EGLSurfacelessView.h"
 #include "support/GLTest.h"
 #include "support/LogCapture.h"
-#include "support/Named.h"
 
 namespace {
 
@@ -28,34 +27,30 @@ constexpr ESRenderType kAllTypes[] = {ESRenderTypeCanvas, ESRenderTypeLine, ESRe
 
 // Buffers
 
-struct BufferSize {
-    QSizeF asked;
-    QSize canvas, smudge;
-};
-class BufferSizeTest : public GLTest, public ::testing::WithParamInterface<BufferSize> {};
-
-TEST_P(BufferSizeTest, EveryTargetHasItsSizeAndStartsTransparent) {
-    const BufferSize& size = GetParam();
-    ASSERT_TRUE(_context->createBufferWithSize(size.asked));
-    EXPECT_EQ(readTexture(_context->lineTexture()).size(), size.canvas);
-    EXPECT_EQ(readTexture(_context->subLineTexture()).size(), size.canvas);
-    EXPECT_EQ(readTexture(_context->smudgeTexture()).size(), size.smudge);
-    for (const ESRenderType type : kAllTypes) {
-        const QImage transparent = solidImage(type == ESRenderTypeSmudge ? size.smudge : size.canvas);
-        EXPECT_TRUE(imagesMatch(_context->imageForType(type), transparent)) << "target " << type;
-        _context->beginRenderForType(type);
-        GLint viewport[4] = {};
-        glGetIntegerv(GL_VIEWPORT, viewport);
-        EXPECT_EQ(QSize(viewport[2], viewport[3]), transparent.size());
-        _context->finishRender();
+TEST_F(ESContextTest, EveryTargetHasItsSizeAndStartsTransparent) {
+    const struct {
+        QSizeF asked;
+        QSize canvas, smudge;
+    } rows[] = {{{1001, 801}, {1001, 801}, {500, 400}},
+                {{64, 32}, {64, 32}, {32, 16}},
+                {{33.9, 7.2}, {33, 7}, {16, 3}},
+                {{1, 1}, {1, 1}, {1, 1}}};
+    for (const auto& [asked, canvas, smudge] : rows) {
+        ASSERT_TRUE(_context->createBufferWithSize(asked));
+        EXPECT_EQ(readTexture(_context->lineTexture()).size(), canvas);
+        EXPECT_EQ(readTexture(_context->subLineTexture()).size(), canvas);
+        EXPECT_EQ(readTexture(_context->smudgeTexture()).size(), smudge);
+        for (const ESRenderType type : kAllTypes) {
+            const QImage transparent = solidImage(type == ESRenderTypeSmudge ? smudge : canvas);
+            EXPECT_TRUE(imagesMatch(_context->imageForType(type), transparent)) << "target " << type;
+            _context->beginRenderForType(type);
+            GLint viewport[4] = {};
+            glGetIntegerv(GL_VIEWPORT, viewport);
+            EXPECT_EQ(QSize(viewport[2], viewport[3]), transparent.size());
+            _context->finishRender();
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Sizes, BufferSizeTest,
-                         ::testing::Values(BufferSize{{1001, 801}, {1001, 801}, {500, 400}},
-                                           BufferSize{{64, 32}, {64, 32}, {32, 16}},
-                                           BufferSize{{33.9, 7.2}, {33, 7}, {16, 3}},
-                                           BufferSize{{1, 1}, {1, 1}, {1, 1}}));
 
 TEST_F(ESContextTest, BadSizesSayWhyAndChangeNothing) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -122,42 +117,34 @@ TEST_F(ESContextTest, BufferAccessIsGivenBackOnEveryPath) {
 
 // Clipping and blending
 
-struct Clip : Named {
-    QRectF rect;
-    std::vector<GLint> canvas;  // with a view of 200 x 100 on a buffer of 100 x 100
-    std::vector<GLint> layer;
-};
-class ScissorTest : public GLTest, public ::testing::WithParamInterface<Clip> {};
-
-TEST_P(ScissorTest, BoxHasAMarginOfOneAndStaysInTheTarget) {
+using Box = std::vector<GLint>;
+TEST_F(ESContextTest, AScissorBoxHasAMarginOfOneAndStaysInTheTarget) {
+    const struct {
+        QRectF rect;
+        Box canvas, layer;  // with a view of 200 x 100 on a buffer of 100 x 100
+    } rows[] = {{{10, 10, 20, 20}, {19, 69, 42, 22}, {9, 69, 22, 22}},
+                {{10.9, 10.9, 19.2, 19.2}, {20, 69, 41, 22}, {9, 69, 22, 22}},
+                {{0, 0, 100, 100}, {0, 0, 200, 100}, {0, 0, 100, 100}},
+                {{-50, 90, 300, 50}, {0, 0, 200, 11}, {0, 0, 100, 11}},
+                {{100, 100, -100, -100}, {199, 99, 0, 0}, {99, 99, 0, 0}},
+                {{1e12, 5, 10, 10}, {199, 84, 1, 12}, {99, 84, 1, 12}}};
     ASSERT_TRUE(_context->createBufferWithSize({100, 100}));
     _context->setViewSize({200, 100});
-    for (const ESRenderType type : {ESRenderTypeCanvas, ESRenderTypeLine}) {
-        _context->beginRenderForType(type);
-        _context->scissorRect(GetParam().rect);
-        EXPECT_TRUE(ESContext::enableForProporty(GL_SCISSOR_TEST));
-        EXPECT_EQ(scissorBox(), type == ESRenderTypeCanvas ? GetParam().canvas : GetParam().layer);
-        _context->finishRender();
-        EXPECT_FALSE(ESContext::enableForProporty(GL_SCISSOR_TEST));
+    for (const auto& row : rows) {
+        for (const ESRenderType type : {ESRenderTypeCanvas, ESRenderTypeLine}) {
+            _context->beginRenderForType(type);
+            _context->scissorRect(row.rect);
+            EXPECT_TRUE(ESContext::enableForProporty(GL_SCISSOR_TEST));
+            EXPECT_EQ(scissorBox(), type == ESRenderTypeCanvas ? row.canvas : row.layer);
+            _context->finishRender();
+            EXPECT_FALSE(ESContext::enableForProporty(GL_SCISSOR_TEST));
+        }
     }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Boxes, ScissorTest,
-    ::testing::Values(Clip{"inside", {10, 10, 20, 20}, {19, 69, 42, 22}, {9, 69, 22, 22}},
-                      Clip{"fractions", {10.9, 10.9, 19.2, 19.2}, {20, 69, 41, 22}, {9, 69, 22, 22}},
-                      Clip{"whole", {0, 0, 100, 100}, {0, 0, 200, 100}, {0, 0, 100, 100}},
-                      Clip{"beyond", {-50, 90, 300, 50}, {0, 0, 200, 11}, {0, 0, 100, 11}},
-                      Clip{"inverted", {100, 100, -100, -100}, {199, 99, 0, 0}, {99, 99, 0, 0}},
-                      Clip{"farOff", {1e12, 5, 10, 10}, {199, 84, 1, 12}, {99, 84, 1, 12}}),
-    byName);
-
-TEST_F(ESContextTest, DabsClipToTheirUnionAndNoDabsToNothing) {
-    ASSERT_TRUE(_context->createBufferWithSize({100, 80}));
+    // Dabs clip to their union, (14, 24) to (53.5, 43), and none to nothing.
     _context->beginRenderForType(ESRenderTypeLine);
     const LPPoint dabs[] = {{{20, 30}, 10, {}}, {{50.5f, 40}, 4, {}}};
-    _context->scissorForPoints(dabs, 2);  // touches (14, 24) to (53.5, 43)
-    EXPECT_EQ(scissorBox(), (std::vector<GLint>{13, 36, 41, 21}));
+    _context->scissorForPoints(dabs, 2);
+    EXPECT_EQ(scissorBox(), (Box{13, 56, 41, 21}));
     _context->scissorForPoints(dabs, 0);
     EXPECT_EQ(scissorBox()[2] * scissorBox()[3], 0);
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/ESBaseRender.h"
 
-#include <cmath>
 #include <limits>
 
 #include "ESRender/ESLineRender.h"
@@ -160,19 +159,16 @@ TEST_F(ESBaseRenderTest, EachPairOfSourcesIsBuiltOnce) {
     EXPECT_TRUE(_render->addProgramWithVertexShaderString(vertex, other + QLatin1Char(' ')));
     EXPECT_EQ(_render->program(), first) << "adding switches nothing";
     EXPECT_EQ(_render->programObjects().size(), 3u);
-}
-
-TEST_F(ESBaseRenderTest, APairThatDoesNotBuildChangesNothing) {
-    const ESProgram* const before = _render->program();
-    const QString text = _render->fragmentShaderString();
+    // One that does not build changes nothing.
+    const QString text = _render->fragmentShaderString(), bad = QStringLiteral("nonsense");
     expectDrainedErrors(3);
     LogCapture log;
-    EXPECT_FALSE(_render->setVertexShaderString({}, QStringLiteral("nonsense")));
-    EXPECT_EQ(ESBaseRender::initWithVertexShaderFromString(QStringLiteral("nonsense"), {}), nullptr);
-    EXPECT_EQ(ESLineRender::initWithVertexShaderFromString(QStringLiteral("nonsense"), {}), nullptr);
-    EXPECT_EQ(_render->program(), before);
+    EXPECT_FALSE(_render->setVertexShaderString({}, bad));
+    EXPECT_EQ(ESBaseRender::initWithVertexShaderFromString(bad, {}), nullptr);
+    EXPECT_EQ(ESLineRender::initWithVertexShaderFromString(bad, {}), nullptr);
+    EXPECT_EQ(_render->program(), first);
     EXPECT_EQ(_render->fragmentShaderString(), text);
-    EXPECT_EQ(_render->programObjects().size(), 1u);
+    EXPECT_EQ(_render->programObjects().size(), 3u);
 }
 
 TEST_F(ESBaseRenderTest, RemovingTheCurrentPairFallsBackToTheDefault) {

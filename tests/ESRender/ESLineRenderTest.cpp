@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/ESLineRender.h"
 
-#include <epoxy/gl.h>
-
 #include <QTransform>
-#include <cmath>
-#include <functional>
+#include <cstdlib>
 #include <vector>
 
 #include "support/GLTest.h"
-#include "support/Named.h"
 
 namespace {
 
@@ -113,34 +109,6 @@ TEST_F(LineRenderTest, AHostsProgramDrawsDabByDab) {
     }
 }
 
-TEST_F(LineRenderTest, ARunOfDabsIsTheDabsOneByOne) {
-    _render->setTextureImages({lopsidedTip(), blockTip(20)}, GL_TEXTURE1);
-    std::vector<dabcanvas::Dab> dabs;
-    for (int i = 0; i < 700; ++i) {
-        const auto f = static_cast<float>(i);
-        dabs.push_back({.x = f * 0.31f,
-                        .y = 75 + 60 * std::sin(f / 40),
-                        .halfSize = 1 + static_cast<float>(i % 23),
-                        .radian = f,
-                        .roundness = 0.5f,
-                        .flipX = 1,
-                        .flipY = -1,
-                        .flow = 0.3f,
-                        .color = {f / 700, 0.5f, 1 - f / 700},
-                        .random = 0,
-                        .tip = static_cast<std::uint32_t>(i % 2)});
-    }
-    draw({});
-    for (const dabcanvas::Dab& dab : dabs) {
-        _render->drawDabs({&dab, 1});
-    }
-    const QImage oneByOne = _context->imageForType(ESRenderTypeLine);
-    EXPECT_FALSE(painted(oneByOne).isNull());
-    draw({});
-    _render->drawDabs(dabs);
-    EXPECT_TRUE(imagesMatch(_context->imageForType(ESRenderTypeLine), oneByOne));
-}
-
 TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
     _render->setTextureImage(blockTip(32), GL_TEXTURE1);
     draw({{{100, 50}, 10, {1, 0, 1}}});
@@ -154,103 +122,42 @@ TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
 }
 
 // Nothing is ever drawn outside the rectangle told, or seams would stay on the canvas.
-struct Jitter : Named {
-    std::function<void(ESLineRender&)> set;
-};
-class LineRenderBoundsTest : public LineRenderTest, public ::testing::WithParamInterface<Jitter> {};
-TEST_P(LineRenderBoundsTest, HoldEveryPixel) {
+TEST_F(LineRenderTest, TheTouchedRectangleHoldsWhatJittersMake) {
     _render->setTextureImage(blockTip(32), GL_TEXTURE1);
-    _render->setRenderColor(ESColor::grey(1));
-    GetParam().set(*_render);
-    for (int i = 0; i < 12; ++i) {
-        _render->resetLineProporty();
-        const auto shift = static_cast<float>(i) * 3.3f;
-        const QImage layer =
-            draw({{{60 + shift, 70}, 21, {0.5f, 0.9f, 0.4f}}, {{75 + shift, 81}, 17, {0.7f, 0, 1}}});
-        EXPECT_FALSE(painted(layer).isNull());
-        EXPECT_TRUE(_touched.toAlignedRect().contains(painted(layer))) << "round " << i;
-    }
-}
-INSTANTIATE_TEST_SUITE_P(
-    Jitters, LineRenderBoundsTest,
-    ::testing::Values(Jitter{"None", [](ESLineRender&) {}},
-                      Jitter{"Turned", [](ESLineRender& r) { r.setRadian(0.7f); }},
-                      Jitter{"TurnedAtStart", [](ESLineRender& r) { r.setStartRadianEnable(true); }},
-                      Jitter{"TurnedAtRandom", [](ESLineRender& r) { r.setRadianTingle(1); }},
-                      Jitter{"Following", [](ESLineRender& r) { r.setMoveRadianEnable(true); }},
-                      Jitter{"FlatAndTurned",
-                             [](ESLineRender& r) {
-                                 r.setRoundness(0.2f);
-                                 r.setRoundnessTingle(1);
-                                 r.setRadianTingle(1);
-                             }},
-                      Jitter{"Scattered",
-                             [](ESLineRender& r) {
-                                 r.setRadius(20);
-                                 r.setDistribution(1);
-                                 r.setDistributionCount(5);
-                                 r.setRadiusTingle(1);
-                                 r.setStartRadianEnable(true);
-                             }},
-                      Jitter{"ThinLine",
-                             [](ESLineRender& r) { r.setLineProcessType(dabcanvas::kNoThinDabs); }},
-                      Jitter{"Clipped", [](ESLineRender& r) { r.setNeedScissor(true); }}),
-    byName);
-
-// Tips
-
-TEST_F(LineRenderTest, NeighboursInTheAtlasNeverBleedIntoADab) {
-    const QImage nothing = solidImage({64, 64});
-    _render->setRenderColor(ESColor::grey(1));
-    // Index 0 is picked at full strength of the control, the last at none: empty next to full, and full next
-    // to empty.
-    _render->setTextureControl({1, 0, 0});
-    for (const float size : {3.0f, 7.0f, 16.0f, 33.0f, 64.0f, 128.0f, 140.0f}) {
-        for (const float roundness : {1.0f, 0.3f}) {
-            _render->setRoundness(roundness);
-            _render->setTextureImages({nothing, blockTip(128), blockTip(128), blockTip(128)}, GL_TEXTURE1);
-            EXPECT_TRUE(painted(draw({{{100, 75}, size, {1, 0, 1}}})).isNull()) << "size " << size;
-
-            _render->setTextureImages({blockTip(128), nothing, nothing, nothing}, GL_TEXTURE1);
-            const QImage layer = draw({{{100.5f, 75.5f}, size, {1, 0, 1}}});
-            const QRect covered = painted(layer);
-            EXPECT_NEAR(covered.width(), std::min<float>(size, kWidth), 2) << "partly covered at both sides";
-            const QRect solid = covered.adjusted(1, 1, -1, -1);
-            ASSERT_TRUE(imagesMatch(layer.copy(solid), solidImage(solid.size(), Qt::white)))
-                << "size " << size;
+    _render->setRadius(20);
+    _render->setDistribution(1);
+    _render->setDistributionCount(5);
+    _render->setRadiusTingle(1);
+    _render->setStartRadianEnable(true);
+    _render->setRadianTingle(1);
+    _render->setRoundness(0.3f);
+    _render->setRoundnessTingle(1);
+    for (float x = 60; x < 100; x += 3.3f) {
+        QImage layers[2];
+        for (const bool clipped : {false, true}) {
+            _render->setNeedScissor(clipped);
+            _render->resetLineProporty();
+            srand48(5);
+            layers[clipped] = draw({{{x, 70}, 21, {0.5f, 0.9f, 0.4f}}, {{x + 15, 81}, 17, {0.7f, 0, 1}}});
+            EXPECT_TRUE(_touched.toAlignedRect().contains(painted(layers[clipped]))) << x;
         }
+        EXPECT_FALSE(painted(layers[0]).isNull());
+        EXPECT_TRUE(imagesMatch(layers[1], layers[0])) << "clipped to it";
     }
 }
 
-// Paper
-
-TEST_F(LineRenderTest, PaperTilesFromTheTopLeftAndHoldsBackWhereItIsBlack) {
-    QImage paper = solidImage({20, 10}, Qt::black);
-    fillRect(paper, QRect(0, 0, 10, 5), Qt::white);
+TEST_F(LineRenderTest, PaperHoldsBackUntilThereIsNone) {
     _render->setTextureImage(blockTip(128), GL_TEXTURE1);
-    _render->setMaskImage(paper);
+    _render->setMaskImage(solidImage({20, 10}, Qt::black));
+    const auto alpha = [&] { return draw({{{64, 64}, 128, {1, 0, 1}}}).pixelColor(15, 7).alpha(); };
+    EXPECT_EQ(alpha(), 255) << "not asked for";
     _render->setNeedMaskTexture(true);
-    const auto check = [&](int scale) {
-        _render->setMaskScale(static_cast<float>(scale));
-        const QImage layer = draw({{{64, 64}, 128, {1, 0, 1}}});
-        for (int y = 2; y < 126; ++y) {
-            for (int x = 2; x < 126; ++x) {
-                const int u = x / scale % 20, v = y / scale % 10;
-                const bool rim = scale > 1 && (u % 10 == 0 || u % 10 == 9 || v % 5 == 0 || v % 5 == 4);
-                if (!rim) {  // an enlarged tile is smooth at its steps
-                    ASSERT_EQ(layer.pixelColor(x, y).alpha(), u < 10 && v < 5 ? 255 : 0) << x << "," << y;
-                }
-            }
-        }
-    };
-    check(1);
-    check(3);
-    _render->setMaskScale(0);  // never divides by nothing
-    EXPECT_EQ(draw({{{64, 64}, 128, {1, 0, 1}}}).size(), QSize(kWidth, kHeight));
+    for (const float scale : {1.0f, 3.0f, 0.0f}) {  // never divides by nothing
+        _render->setMaskScale(scale);
+        EXPECT_EQ(alpha(), 0) << scale;
+    }
     _render->setMaskImage({});
-    EXPECT_EQ(draw({{{64, 64}, 128, {1, 0, 1}}}).pixelColor(15, 7).alpha(), 255) << "no paper, no mask";
+    EXPECT_EQ(alpha(), 255);
 }
-
-// Multicolour
 
 }  // namespace

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/ESSmudgeRender.h"
 
-#include <epoxy/gl.h>
-
 #include <limits>
 #include <vector>
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 #include "LineProcess/StrokeFixture.h"
-#include "support/Named.h"
 
 namespace {
 
@@ -112,18 +110,6 @@ TEST_F(StrokeTest, WithoutSpacingEverySampleGivesOneDabWithTheEndValues) {
 
 // Tapers
 
-TEST_F(StrokeTest, StartTaperGrowsAlongTheStrokeAndThenLetsGo) {
-    _line.startRadius = 0.25f;
-    _line.minRadius = _line.maxRadius = 1.0f;
-    const Dabs dabs = draw({{0, 0}, {100, 0}, {300, 0}, {400, 0}});
-    ASSERT_GT(dabs.size(), 20u);
-    for (const LPPoint& dab : dabs) {
-        const double expected = std::min(20.0, 20.0 * (0.25 + 0.75 * dab.position.x / 100.0));
-        ASSERT_NEAR(dab.radius, expected, 1e-3) << "at " << dab.position.x;
-    }
-    EXPECT_EQ(dabs.front().position.x, 0.0f);
-}
-
 TEST_F(StrokeTest, WithoutATaperLengthTheStartRadiusSeedsTheSpeed) {
     _line.startRadius = 0.5f;
     _line.strokeControlValue = 0.0f;
@@ -172,17 +158,6 @@ TEST_F(StrokeTest, SpeedIsMeasuredOverThisSegmentAndTheOneBefore) {
     EXPECT_EQ(newSegSpeed, 1.0f);  // below a tenth counts as at rest
 }
 
-TEST_F(StrokeTest, JitterStaysBetweenTheFloorAndTheRadius) {
-    _line.minRadius = 0.5f;
-    _line.maxRadius = 1.0f;
-    _line.radiusTingle = 1.0f;
-    const Dabs dabs = draw({{0, 0}, {200, 0}, {400, 0}});
-    const auto [least, most] = std::ranges::minmax(dabs, {}, &LPPoint::radius);
-    EXPECT_GE(least.radius, 10.0f);
-    EXPECT_LE(most.radius, 15.0f);
-    EXPECT_GT(most.radius - least.radius, 1.0f);
-}
-
 // Gathering
 
 TEST_F(StrokeTest, TrackNumHoldsSamplesBackUntilEnoughArrived) {
@@ -197,77 +172,62 @@ TEST_F(StrokeTest, TrackNumHoldsSamplesBackUntilEnoughArrived) {
 
 // Hard input
 
-struct HardCase : Named {
-    std::vector<std::pair<float LPLineParams::*, float>> fields;
-    void (*change)(LPLineParams&) = [](LPLineParams&) {};
-};
-
-class HardStrokeTest : public StrokeTest, public ::testing::WithParamInterface<HardCase> {};
-
 // Whatever the settings, dabs are usable, and no more than the path's length allows, beside one a call.
-TEST_P(HardStrokeTest, EmitsOnlyUsableDabsAndNotTooMany) {
-    for (const auto& [field, value] : GetParam().fields) {
-        _line.*field = value;
-    }
-    GetParam().change(_line);
-    const bool bounded = _line.minPointsDistance > 0.0f && std::isfinite(_line.minPointsDistance);
-    const double least = bounded ? _line.minPointsDistance : 0.01;
-    for (const auto& places :
-         {circle(12, 30.0f), std::vector<LPPosition>(6, LPPosition{7, 7}),
-          std::vector<LPPosition>{{0, 0}, {50, 0}, {10, 0}, {60, 0}, {0, 0}, {0, 0}, {1, 0}}}) {
-        double length = 0.0;
-        for (std::size_t i = 1; i < places.size(); ++i) {
-            length += lpEuclidDistanceOfTwoPosition(&places[i - 1], &places[i]);
-        }
-        for (const float pressure : {0.5f, kNaN}) {
-            const Dabs dabs = draw(places, pressure);
-            EXPECT_LE(static_cast<double>(dabs.size()),
-                      length * 1.1 / least + 2.0 * static_cast<double>(places.size()));
-            EXPECT_TRUE(std::all_of(dabs.begin(), dabs.end(), isUsable));
+TEST_F(StrokeTest, NoSettingMakesUnusableDabsOrTooMany) {
+    using Line = LPLineParams;
+    float Line::*const fields[] = {&Line::radius,
+                                   kSpacing,
+                                   kBound,
+                                   &Line::sensitivity,
+                                   &Line::startRadius,
+                                   &Line::speedSencitive,
+                                   &Line::endRadius,
+                                   &Line::strokeControlValue,
+                                   &Line::minRadius,
+                                   &Line::maxRadius,
+                                   &Line::radiusTingle};
+    void (*const companies[])(Line&) = {
+        [](Line&) {}, [](Line& l) { l.pointsDistance = 0, l.radiusControl.speed = 1; },
+        [](Line& l) {
+            l.radiusControl = {kInf, kNaN, -kInf}, l.startRadius = kInf;
+        },
+        [](Line& l) { l.pointsDistanceEnabled = 0, l.endRadius = 0.1f, l.maxRadius = 5; },
+        [](Line& l) {
+            l.trackNum = std::numeric_limits<std::int32_t>::min(), l.minRadius = kNaN,
+            l.radiusControl.speed = -1;
+        }};
+    const std::vector<LPPosition> ways[] = {circle(12, 30.0f),
+                                            std::vector<LPPosition>(6, LPPosition{7, 7}),
+                                            {{0, 0}, {50, 0}, {10, 0}, {60, 0}, {0, 0}, {0, 0}, {1, 0}}};
+    const Line plain = _line;
+    for (const auto& company : companies) {
+        for (const auto& field : fields) {
+            for (const float value : {0.0f, -3.0f, 1e-30f, -1e-38f, 3e38f, kInf, kNaN}) {
+                _line = plain;
+                company(_line);
+                _line.*field = value;
+                const bool bounded = _line.minPointsDistance > 0.0f && std::isfinite(_line.minPointsDistance);
+                const double least = bounded ? _line.minPointsDistance : 0.01;
+                for (const auto& places : ways) {
+                    double length = 0.0;
+                    for (std::size_t i = 1; i < places.size(); ++i) {
+                        length += lpEuclidDistanceOfTwoPosition(&places[i - 1], &places[i]);
+                    }
+                    for (const float pressure : {0.5f, kNaN}) {
+                        const Dabs dabs = draw(places, pressure);
+                        ASSERT_LE(static_cast<double>(dabs.size()),
+                                  length * 1.1 / least + 2.0 * static_cast<double>(places.size()))
+                            << "field " << &field - fields << ", company " << &company - companies << ": "
+                            << value;
+                        ASSERT_TRUE(std::all_of(dabs.begin(), dabs.end(), isUsable))
+                            << "field " << &field - fields << ", company " << &company - companies << ": "
+                            << value;
+                    }
+                }
+            }
         }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Settings, HardStrokeTest,
-    ::testing::Values(
-        HardCase{"plain", {}}, HardCase{"radiusZero", {{&LPLineParams::radius, 0}}},
-        HardCase{"radiusNegative", {{&LPLineParams::radius, -5}}},
-        HardCase{"radiusNaN", {{&LPLineParams::radius, kNaN}}},
-        HardCase{"radiusHuge", {{&LPLineParams::radius, 3e38f}, {&LPLineParams::maxRadius, 5}}},
-        HardCase{"spacingZero", {{kSpacing, 0}}}, HardCase{"spacingNegative", {{kSpacing, -3}}},
-        HardCase{"spacingNaN", {{kSpacing, kNaN}}}, HardCase{"noBound", {{kSpacing, 0}, {kBound, 0}}},
-        HardCase{"boundNegative", {{kSpacing, 0}, {kBound, -1}}},
-        HardCase{"boundNaN", {{kSpacing, 0}, {kBound, kNaN}}},
-        HardCase{"boundTiny", {{kSpacing, 0}, {kBound, 1e-30f}}},
-        HardCase{"sensitivityZero", {{&LPLineParams::sensitivity, 0}}},
-        HardCase{"sensitivityTiny",
-                 {{&LPLineParams::sensitivity, -1e-38f}},
-                 [](LPLineParams& l) { l.radiusControl.speed = 1; }},
-        HardCase{"sensitivityNaN", {{&LPLineParams::sensitivity, kNaN}}},
-        HardCase{"speedWeightNaN",
-                 {{&LPLineParams::speedSencitive, kNaN}},
-                 [](LPLineParams& l) { l.radiusControl.speed = -1; }},
-        HardCase{"taperLengthZero",
-                 {{&LPLineParams::strokeControlValue, 0}, {&LPLineParams::startRadius, kInf}}},
-        HardCase{"taperLengthNaN", {{&LPLineParams::strokeControlValue, kNaN}}},
-        HardCase{"startRadiusHuge", {{&LPLineParams::startRadius, -3e38f}}},
-        HardCase{"endRadiusInfinite", {{&LPLineParams::endRadius, kInf}}},
-        HardCase{"controlInfinite",
-                 {},
-                 [](LPLineParams& l) {
-                     l.radiusControl = LPControlParams{kInf, kNaN, -kInf};
-                 }},
-        HardCase{"boundsNaN", {{&LPLineParams::minRadius, kNaN}, {&LPLineParams::maxRadius, kNaN}}},
-        HardCase{"jitterNaN", {{&LPLineParams::radiusTingle, kNaN}}},
-        HardCase{"jitterHuge", {{&LPLineParams::radiusTingle, 3e38f}}},
-        HardCase{"gatherNegative",
-                 {},
-                 [](LPLineParams& l) { l.trackNum = std::numeric_limits<std::int32_t>::min(); }},
-        HardCase{"unspaced",
-                 {{&LPLineParams::endRadius, 0.1f}},
-                 [](LPLineParams& l) { l.pointsDistanceEnabled = 0; }}),
-    byName);
 
 TEST_F(StrokeTest, ASettingThatIsNotANumberStillDraws) {
     _line.minRadius = _line.radius = _line.pointsDistance = kNaN;

@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Capturing a canvas's brush and applying presets.
-#include <QColor>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstdio>
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "Brushes/BrushProperties.h"
 #include "Brushes/ImageData.h"
-#include "Canvas/QDDrawCanvas.h"
 #include "ESRender/ESImageRender.h"
 #include "LineProcess/LPProperties.h"
 #include "Preset/BrushParamValues.h"

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
 
 #include <QColor>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cerrno>
@@ -17,7 +15,6 @@
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>

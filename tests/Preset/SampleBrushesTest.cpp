@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Every preset that is handed out: whole, kept by a canvas as it is, and one that paints.
-#include <gtest/gtest.h>
 
 #include <QDir>
 #include <QPainter>
-#include <cstdlib>
 
 #include "Brushes/ImageData.h"
 #include "Preset/QDBrushManager.h"

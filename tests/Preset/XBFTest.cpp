@@ -6,7 +6,6 @@
 #include <climits>
 #include <cstring>
 #include <memory>
-#include <string>
 
 #include "TestFolders.h"
 #include "support/HexFile.h"

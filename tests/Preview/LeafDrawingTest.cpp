@@ -10,7 +10,6 @@
 
 #include "support/Images.h"
 #include "support/LogCapture.h"
-#include "support/Named.h"
 
 namespace {
 
@@ -57,35 +56,34 @@ TEST(LeafDrawingTest, BitmapIsSixTenthsOfTheFrame) {
     EXPECT_FALSE(huge.isPending());
 }
 
-struct Shape : Named {
-    std::vector<QPointF> corners;
-    QPoint inside, outside;
-};
-class LeafShapeTest : public ::testing::TestWithParam<Shape> {};
-
-TEST_P(LeafShapeTest, FillsWhatTheStrokeEncloses) {
-    Leaf leaf;
-    leaf.stroke(GetParam().corners);
-    EXPECT_EQ(leaf.cgImage().pixelColor(GetParam().inside).alpha(), 200);
-    EXPECT_EQ(leaf.cgImage().pixelColor(GetParam().outside).alpha(), 0);
-    // A painter's edges are within 1/8 pixel of the curve.
-    QImage image = solidImage(QSize(60, 60));
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(leaf.path(), leaf.renderColor().toQColor());
-    EXPECT_TRUE(imagesMatch(leaf.cgImage(), image, 200 / 8));
+TEST(LeafDrawingTest, FillsWhatTheStrokeEncloses) {
+    const struct {
+        const char* name;
+        std::vector<QPointF> corners;
+        QPoint inside, outside;
+    } rows[] = {
+        // Buffer pixels 20..80 are 12..48 of the bitmap.
+        {"square", {{20, 20}, {80, 20}, {80, 80}, {20, 80}}, {13, 46}, {50, 30}},
+        {"twice around", {{9, 9}, {90, 9}, {50, 90}, {9, 9}, {90, 9}, {50, 90}}, {30, 30}, {2, 30}},
+        // Its middle is wound around twice.
+        {"star", {{50, 5}, {76, 86}, {7, 36}, {93, 36}, {24, 86}}, {30, 32}, {30, 50}},
+        {"eight", {{10, 10}, {90, 90}, {90, 10}, {10, 90}}, {50, 30}, {30, 10}},
+        {"beyond the canvas", {{-300, -300}, {900, -300}, {400, 50}, {-300, 60}}, {0, 0}, {30, 50}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        Leaf leaf;
+        leaf.stroke(row.corners);
+        EXPECT_EQ(leaf.cgImage().pixelColor(row.inside).alpha(), 200);
+        EXPECT_EQ(leaf.cgImage().pixelColor(row.outside).alpha(), 0);
+        // A painter's edges are within 1/8 pixel of the curve.
+        QImage image = solidImage(QSize(60, 60));
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(leaf.path(), leaf.renderColor().toQColor());
+        EXPECT_TRUE(imagesMatch(leaf.cgImage(), image, 200 / 8));
+    }
 }
-
-const Shape kShapes[] = {
-    // Buffer pixels 20..80 are 12..48 of the bitmap.
-    {{"Square"}, {{20, 20}, {80, 20}, {80, 80}, {20, 80}}, {13, 46}, {50, 30}},
-    {{"TwiceAround"}, {{9, 9}, {90, 9}, {50, 90}, {9, 9}, {90, 9}, {50, 90}}, {30, 30}, {2, 30}},
-    // Its middle is wound around twice.
-    {{"Star"}, {{50, 5}, {76, 86}, {7, 36}, {93, 36}, {24, 86}}, {30, 32}, {30, 50}},
-    {{"Eight"}, {{10, 10}, {90, 90}, {90, 10}, {10, 90}}, {50, 30}, {30, 10}},
-    {{"BeyondTheCanvas"}, {{-300, -300}, {900, -300}, {400, 50}, {-300, 60}}, {0, 0}, {30, 50}},
-};
-INSTANTIATE_TEST_SUITE_P(Shapes, LeafShapeTest, ::testing::ValuesIn(kShapes), byName);
 
 TEST(LeafDrawingTest, BitByBitIsTheSameAsAtOnceAndAllIsRedisplayed) {
     Leaf often, once;
@@ -134,18 +132,6 @@ TEST(LeafDrawingTest, TheEndComesOnceByTheEventLoopOrByHand) {
         EXPECT_FALSE(leaf.isPending() || leaf.showsImage());
         EXPECT_EQ(painted(leaf.cgImage()), QRect());
     }
-}
-
-TEST(LeafDrawingTest, ABeginFinishesThePendingStroke) {
-    Leaf leaf;
-    leaf.stroke(kTriangle);
-    leaf.drawWithBegin({95, 95});
-    EXPECT_EQ(leaf.handed.size(), 1u);
-    EXPECT_EQ(painted(leaf.cgImage()), QRect());
-    leaf.drawWithMove({95, 60});
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(leaf.isClear());
-    EXPECT_EQ(leaf.handed.size(), 1u);
 }
 
 TEST(LeafDrawingTest, DroppedStrokesCallNothing) {

@@ -3,14 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <memory>
 #include <random>
-#include <vector>
 
 #include "Processor/DabKernel.h"
 #include "Processor/Workers.h"
+#include "support/Dabs.h"
 
 using namespace dabcanvas;
 
@@ -18,47 +15,10 @@ namespace {
 
 constexpr Size kLayer{700, 150};
 
-// Pixels that keep themselves alive.
-Picture pictureOf(const Size& size, std::vector<std::uint8_t> bytes) {
-    const auto owned = std::make_shared<std::vector<std::uint8_t>>(std::move(bytes));
-    return {PixelView::topRowFirst(owned->data(), size), 1, owned};
-}
-
-// Premultiplied; alpha by the distance of a texel's centre from the middle, and a colour of its own.
-template <typename AlphaAt>
-Picture tipOf(const Size& size, AlphaAt&& alphaAt) {
-    std::vector<std::uint8_t> bytes;
-    for (int y = 0; y < size.height; ++y) {
-        for (int x = 0; x < size.width; ++x) {
-            const double distance =
-                std::hypot((x + 0.5) * 2 / size.width - 1, (y + 0.5) * 2 / size.height - 1);
-            const double alpha = std::clamp(alphaAt(distance, x, y), 0.0, 1.0) * 255;
-            for (const double part : {1.0 * x / size.width, 1.0 * y / size.height, 0.2, 1.0}) {
-                bytes.push_back(static_cast<std::uint8_t>(part * std::round(alpha)));
-            }
-        }
-    }
-    return pictureOf(size, std::move(bytes));
-}
-
-double softDisc(double distance, int, int) {
-    return 2 * (1 - distance);
-}
-double hardDisc(double distance, int, int) {
-    return distance < 0.9 ? 1 : 0;
-}
-double bristles(double distance, int x, int y) {
-    return distance < 1 ? (1 - distance) * (0.6 + 0.4 * std::sin(x * 0.9) * std::cos(y * 0.7)) : 0;
-}
-
 struct Layer {
     TileGrid<std::uint16_t> grid{kLayer};
     DabPainter painter;
 };
-
-Dab dabAt(float x, float y, float size) {
-    return {x, y, size / 2, 0, 1, 1, 1, 1, {0.9f, 0.4f, 0.1f}, 0.37f, 0};
-}
 
 // Dabs of all kinds, as many as make threads worth their while.
 std::vector<Dab> mixedDabs(std::size_t count) {
@@ -67,7 +27,7 @@ std::vector<Dab> mixedDabs(std::size_t count) {
     std::vector<Dab> dabs;
     for (std::size_t i = 0; i < count; ++i) {
         Dab dab = dabAt(unit() * 720 - 10, unit() * 170 - 10, std::exp2(unit() * 9 - 1));
-        dab.radian = unit() * 7;
+        dab.radian = i % 4 == 0 ? 0 : unit() * 7;
         dab.roundness = i % 3 == 0 ? 0.2f + 0.8f * unit() : 1;
         dab.flow = i % 2 == 0 ? unit() : 0.01f * unit();
         dab.flipX = i % 5 == 0 ? -1.0f : 1.0f;
@@ -81,12 +41,12 @@ std::vector<Dab> mixedDabs(std::size_t count) {
 
 DabStyle mixedStyle(bool paper, bool multicolour) {
     DabStyle style;
-    style.tips = std::make_shared<const TipSet>(
-        TipSet{tipOf({64, 64}, softDisc), tipOf({200, 120}, bristles), tipOf({33, 90}, hardDisc)});
+    style.tips =
+        tipsOf({pictureOf({64, 64}, softDisc), pictureOf({200, 120}, motley), pictureOf({33, 90}, hardDisc)});
     style.multicolour = multicolour;
     style.hueTingle = style.saturationTingle = style.brightnessTingle = 0.4f;
     if (paper) {
-        style.paper = std::make_shared<const Picture>(tipOf({50, 37}, bristles));
+        style.paper = std::make_shared<const Picture>(pictureOf({50, 37}, grain));
     }
     return style;
 }
@@ -144,17 +104,14 @@ TEST(DabPainterTest, WildDabsDoNoHarm) {
     for (int i = 0; i < 1000; ++i) {
         std::vector<Dab> dabs;
         for (int k = 0; k < 100; ++k) {
-            dabs.push_back({wild(),
-                            wild(),
-                            wild() / 8,
-                            wild(),
-                            wild(),
-                            wild(),
-                            wild(),
-                            wild(),
-                            {wild(), wild(), wild()},
-                            wild(),
-                            static_cast<std::uint32_t>(random() % 7)});
+            Dab dab{};
+            for (float* part :
+                 {&dab.x, &dab.y, &dab.halfSize, &dab.radian, &dab.roundness, &dab.flipX, &dab.flipY,
+                  &dab.flow, &dab.color.r, &dab.color.g, &dab.color.b, &dab.random}) {
+                *part = part == &dab.halfSize ? wild() / 8 : wild();
+            }
+            dab.tip = static_cast<std::uint32_t>(random() % 7);
+            dabs.push_back(dab);
         }
         if (i % 100 == 0) {
             style = mixedStyle(i % 200 == 0, i % 300 == 0);

@@ -4,7 +4,6 @@
 #include <QPointingDevice>
 #include <QTabletEvent>
 #include <QTouchEvent>
-#include <vector>
 
 #include "QDEAGLView/QDDrawView.h"
 #include "support/CanvasTest.h"
@@ -14,10 +13,13 @@ namespace {
 using Finger = QEventPoint::State;
 const Qt::MouseEventSource kFromDevice = Qt::MouseEventNotSynthesized;
 
-const QPointingDevice* deviceOf(QInputDevice::DeviceType type, QPointingDevice::PointerType pointer,
-                                QInputDevice::Capabilities can, qint64 id) {
-    return new QPointingDevice("test", id, type, pointer, can, 10, 3, "seat",
-                               QPointingDeviceUniqueId::fromNumericId(id), QCoreApplication::instance());
+const QPointingDevice* deviceOf(QInputDevice::DeviceType type, qint64 id) {
+    const bool isPen = type == QInputDevice::DeviceType::Stylus;
+    QInputDevice::Capabilities can = QInputDevice::Capability::Position;
+    can.setFlag(QInputDevice::Capability::Pressure, isPen);
+    return new QPointingDevice(
+        "test", id, type, isPen ? QPointingDevice::PointerType::Pen : QPointingDevice::PointerType::Finger,
+        can, 10, 3, "seat", QPointingDeviceUniqueId::fromNumericId(id), QCoreApplication::instance());
 }
 
 // A view in a corner of its window, so that view and window positions differ.
@@ -32,19 +34,6 @@ protected:
         view->setRadiusControl({1, 0, 0});
         window.resize(300, 220);
         window.show();
-        static const QPointingDevice* const devices[] = {
-            deviceOf(QInputDevice::DeviceType::Stylus, QPointingDevice::PointerType::Pen,
-                     QInputDevice::Capability::Position | QInputDevice::Capability::Pressure, 71),
-            deviceOf(QInputDevice::DeviceType::Stylus, QPointingDevice::PointerType::Pen,
-                     QInputDevice::Capability::Position | QInputDevice::Capability::Pressure, 72),
-            deviceOf(QInputDevice::DeviceType::TouchScreen, QPointingDevice::PointerType::Finger,
-                     QInputDevice::Capability::Position, 73),
-            deviceOf(QInputDevice::DeviceType::TouchPad, QPointingDevice::PointerType::Finger,
-                     QInputDevice::Capability::Position, 74)};
-        pen = devices[0];
-        otherPen = devices[1];
-        touchScreen = devices[2];
-        touchPad = devices[3];
     }
 
     // Straight to the view: on the way the application drops or accepts some of what the view is to decide on.
@@ -73,7 +62,7 @@ protected:
         const Qt::MouseButtons held = type == QEvent::TabletRelease ? Qt::NoButton : Qt::MouseButtons(button);
         QTabletEvent event(type, device, at, view->mapToGlobal(at), pressure, 0, 0, 0, 0, 0, Qt::NoModifier,
                            move ? Qt::NoButton : button, held);
-        static_cast<QObject*>(view)->event(&event);  // the application would accept it for the window
+        deliver(event);
         return event.isAccepted();
     }
     void touch(QEvent::Type type, std::vector<std::pair<QPointF, Finger>> fingers,
@@ -96,7 +85,11 @@ protected:
 
     QWidget window;
     QDDrawView* view = nullptr;
-    const QPointingDevice *pen = nullptr, *otherPen = nullptr, *touchScreen = nullptr, *touchPad = nullptr;
+    using Type = QInputDevice::DeviceType;
+    const QPointingDevice* const pen = deviceOf(Type::Stylus, 71);
+    const QPointingDevice* const otherPen = deviceOf(Type::Stylus, 72);
+    const QPointingDevice* const touchScreen = deviceOf(Type::TouchScreen, 73);
+    const QPointingDevice* const touchPad = deviceOf(Type::TouchPad, 74);
 
 private:
     quint64 _time = 1000;

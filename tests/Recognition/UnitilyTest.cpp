@@ -6,13 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
-#include <numbers>
 #include <ostream>
 #include <string>
 #include <utility>
-#include <vector>
 
 void PrintTo(ShapeKind kind, std::ostream* out) {
     *out << nameOfShapeKind(kind);

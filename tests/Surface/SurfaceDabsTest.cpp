@@ -3,79 +3,23 @@
 #include <epoxy/gl.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
-#include <memory>
-#include <vector>
-
 #include "GLSurface/GLSurface.h"
 #include "Processor/ProcessorSurface.h"
 #include "Surface/Kinds.h"
 #include "support/DabReference.h"
+#include "support/Dabs.h"
 
 using namespace dabcanvas;
 
 namespace {
 
 constexpr Size kSize{72, 56};
-constexpr RgbType kOrange{1, 128 / 255.0f, 26 / 255.0f};
-
-Dab dabAt(float x, float y, float width) {
-    return {.x = x,
-            .y = y,
-            .halfSize = width / 2,
-            .radian = 0,
-            .roundness = 1,
-            .flipX = 1,
-            .flipY = 1,
-            .flow = 1,
-            .color = kOrange,
-            .random = 0,
-            .tip = 0};
-}
-
-// Premultiplied RGBA by the place in the picture, -1..1 each way.
-template <typename PixelAt>
-Picture pictureOf(const Size& size, PixelAt&& pixelAt) {
-    auto bytes = std::make_shared<std::vector<std::uint8_t>>();
-    for (int y = 0; y < size.height; ++y) {
-        for (int x = 0; x < size.width; ++x) {
-            const reference::Colour pixel =
-                pixelAt((x + 0.5) * 2 / size.width - 1, (y + 0.5) * 2 / size.height - 1);
-            for (const double channel : pixel) {
-                bytes->push_back(static_cast<std::uint8_t>(channel * 255 + 0.5));
-            }
-        }
-    }
-    return {PixelView::topRowFirst(bytes->data(), size), 1, bytes};
-}
-reference::Colour softDisc(double x, double y) {
-    const double distance = std::min(std::hypot(x, y), 1.0);
-    return {0, 0, 0, (1 - distance) * (1 - distance)};
-}
-reference::Colour square(double, double) {
-    return {0, 0, 0, 1};
-}
-// Lopsided, and of every colour.
-reference::Colour motley(double x, double y) {
-    const double alpha = x + y < 0.4 ? 0.5 + 0.5 * x * x : 0.1;
-    return {alpha * (x > 0 ? 1 : 0.2), alpha * (y + 1) / 2, x < -0.5 ? 0 : alpha * 0.7, alpha};
-}
-reference::Colour grain(double x, double y) {
-    const double value = 0.5 + 0.5 * std::sin(9 * x + 2) * std::cos(7 * y);
-    return {value, value, value * value, 1};
-}
 
 struct Scene {
     const char* name;
     std::vector<Dab> dabs;
     DabStyle style;
 };
-
-std::shared_ptr<const TipSet> tipsOf(TipSet tips) {
-    return std::make_shared<const TipSet>(std::move(tips));
-}
 
 Scene scene(const char* name, std::vector<Dab> dabs, TipSet tips = {pictureOf({64, 64}, softDisc)}) {
     Scene made{name, std::move(dabs), {}};
@@ -114,7 +58,7 @@ std::vector<Scene> scenes() {
     all.push_back(scene("MirroredAndTurned", {turned(dabAt(36.7f, 27.2f, 45), 2.2f, 0.7f, true)}, odd));
     all.push_back(scene("Enlarged", {turned(dabAt(30, 20, 150), 0.2f, 1)}, {pictureOf({5, 3}, motley)}));
     all.push_back(scene("OverTheEdge", {dabAt(0, 0, 30), dabAt(71.5f, 55.5f, 9), dabAt(-40, 20, 20)}));
-    all.push_back(scene("ManyTips", {}, {soft[0], block[0], {}, odd[0], pictureOf({1, 1}, square)}));
+    all.push_back(scene("ManyTips", {}, {pictureOf({1, 1}, square), block[0], {}, odd[0], soft[0]}));
     for (std::uint32_t tip = 0; tip < 5; ++tip) {
         if (tip != 2) {
             all.back().dabs.push_back(dabAt(9 + static_cast<float>(tip) * 13, 25, 11.5f));

@@ -3,7 +3,6 @@
 #include "CommandLine.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "Usage.h"
 #include "support/Rows.h"

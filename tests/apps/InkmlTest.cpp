@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // InkML: point lists worked out by hand, and what units, ranges, contexts and brushes make of them.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QPointF>
 #include <limits>
@@ -17,27 +15,23 @@ namespace {
 
 // ---- Point lists
 
-constexpr auto byFirstField = [](const auto& row) { return row.param[0].toStdString(); };
-
-class PointListTest : public ::testing::TestWithParam<QStringList> {};
-
-TEST_P(PointListTest, DecodesTo) {
-    std::vector<TraceChannel> channels;
-    for (const QChar letter : GetParam()[1])
-        channels.push_back({letter == 'b', letter == 'i'});
-    std::vector<double> values, expected;
-    Problem problem;
-    const bool decoded = decodeTrace(
-        GetParam()[2].toStdString(), channels,
-        [&values](std::span<const double> point) { values.insert(values.end(), point.begin(), point.end()); },
-        problem);
-    ASSERT_TRUE(decoded) << problem.what.toStdString();
-    for (const QString& number : GetParam()[3].split(' ', Qt::SkipEmptyParts))
-        expected.push_back(number == "?" ? std::numeric_limits<double>::quiet_NaN() : number.toDouble());
-    EXPECT_THAT(values, ::testing::Pointwise(::testing::NanSensitiveDoubleEq(), expected));
+TEST(InkmlTest, PointListsDecodeAsByHand) {
+    for (const QStringList& row : rowsOf("inkml/points.txt")) {
+        SCOPED_TRACE(qPrintable(row[0]));
+        std::vector<TraceChannel> channels;
+        for (const QChar letter : row[1])
+            channels.push_back({letter == 'b', letter == 'i'});
+        std::vector<double> values, expected;
+        Problem problem;
+        const auto take = [&](std::span<const double> point) {
+            values.insert(values.end(), point.begin(), point.end());
+        };
+        ASSERT_TRUE(decodeTrace(row[2].toStdString(), channels, take, problem)) << problem.what.toStdString();
+        for (const QString& number : row[3].split(' ', Qt::SkipEmptyParts))
+            expected.push_back(number == "?" ? std::numeric_limits<double>::quiet_NaN() : number.toDouble());
+        EXPECT_THAT(values, ::testing::Pointwise(::testing::NanSensitiveDoubleEq(), expected));
+    }
 }
-INSTANTIATE_TEST_SUITE_P(ByHand, PointListTest, ::testing::ValuesIn(rowsOf("inkml/points.txt")),
-                         byFirstField);
 
 // ---- Formats
 
@@ -49,22 +43,21 @@ Recording read(const QByteArray& inside) {
     return recording ? *recording : Recording();
 }
 
-class ScalingTest : public ::testing::TestWithParam<QStringList> {};
-
-TEST_P(ScalingTest, LastPointIs) {
-    QByteArray format = "<traceFormat>";
-    for (const QString& channel : GetParam()[1].split(';'))
-        format += "<channel name=" + channel.toUtf8() + "/>";
-    const Recording recording = read(format + "</traceFormat><trace>" + GetParam()[2].toUtf8() + "</trace>");
-    ASSERT_EQ(recording.strokes.size(), 1u);
-    std::vector<double> last;
-    for (const QString& number : GetParam()[3].split(' '))
-        last.push_back(number == "-" ? kNone : number.toDouble());
-    ASSERT_EQ(last.size(), 4u);
-    EXPECT_THAT(recording.strokes[0].samples.back(), IsSample(last[0], last[1], last[2], last[3]));
+TEST(InkmlTest, ChannelsScaleTheLastPoint) {
+    for (const QStringList& row : rowsOf("inkml/channels.txt")) {
+        SCOPED_TRACE(qPrintable(row[0]));
+        QByteArray format = "<traceFormat>";
+        for (const QString& channel : row[1].split(';'))
+            format += "<channel name=" + channel.toUtf8() + "/>";
+        const Recording recording = read(format + "</traceFormat><trace>" + row[2].toUtf8() + "</trace>");
+        ASSERT_EQ(recording.strokes.size(), 1u);
+        std::vector<double> last;
+        for (const QString& number : row[3].split(' '))
+            last.push_back(number == "-" ? kNone : number.toDouble());
+        ASSERT_EQ(last.size(), 4u);
+        EXPECT_THAT(recording.strokes[0].samples.back(), IsSample(last[0], last[1], last[2], last[3]));
+    }
 }
-INSTANTIATE_TEST_SUITE_P(Channels, ScalingTest, ::testing::ValuesIn(rowsOf("inkml/channels.txt")),
-                         byFirstField);
 
 TEST(InkmlTest, UnknownForceBeforeTheFirstKnownIsThatOne) {
     const Recording recording = read(

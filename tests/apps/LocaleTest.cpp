@@ -1,75 +1,33 @@
 // SPDX-License-Identifier: MIT
 // Numbers are the same under a locale that writes 0,5 for a half.
-#include <gtest/gtest.h>
-
-#include <QProcess>
-#include <QTemporaryDir>
-#include <clocale>
-#include <cstdio>
-
-#include "DabsCommand.h"
 #include "Numbers.h"
-#include "PropertyValue.h"
-#include "Recording.h"
+#include "apps/Program.h"
 
 namespace dabcanvas::dabpaint {
 namespace {
 
-// Selects a comma locale for one test: one that the system has, or one compiled for the purpose.
-class LocaleTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        if (selectOne())
-            return;
-        const QString path = _folder.filePath("de_DE.UTF-8");
-        QProcess::execute("localedef", {"-i", "de_DE", "-f", "UTF-8", path});
-        qputenv("LOCPATH", _folder.path().toLocal8Bit());
-        if (!selectOne())
-            GTEST_SKIP() << "no locale with a decimal comma, and none can be made";
-    }
-    void TearDown() override {
-        std::setlocale(LC_ALL, "C");
-        qunsetenv("LOCPATH");
-    }
-
-private:
-    static bool selectOne() {
-        for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "ru_RU.UTF-8"}) {
-            if (std::setlocale(LC_ALL, name))
-                return true;
-        }
-        return false;
-    }
-
-    QTemporaryDir _folder;
-};
-
-TEST_F(LocaleTest, ReadingAndWritingKeepTheDecimalPoint) {
-    char half[8];
-    std::snprintf(half, sizeof half, "%.1f", 0.5);
-    ASSERT_STREQ(half, "0,5");
-
-    const auto rows = readRecording("0 1.5 2.25 5e-1\n");
-    ASSERT_TRUE(rows);
-    EXPECT_EQ(rows->strokes.at(0).samples.at(0).x, 1.5);
-    EXPECT_FALSE(readRecording("0 1,5 2 1\n"));
-    const auto json = readRecording(R"({"strokes": [{"samples": [[1.5, 2]]}]})");
-    ASSERT_TRUE(json);
-    EXPECT_EQ(json->strokes.at(0).samples.at(0).x, 1.5);
-    const auto ink = readRecording("<ink><trace>1.5 .25</trace></ink>");
-    ASSERT_TRUE(ink);
-    EXPECT_EQ(ink->strokes.at(0).samples.at(0).y, 0.25);
-
-    const BrushProperty* radius = brushPropertyNamed(u"radius");
-    EXPECT_EQ((*propertyValueFromText(*radius, "2.5")).toFloat(), 2.5f);
-    EXPECT_TRUE(defaultText(*brushPropertyNamed(u"pointsDistance")).startsWith("0.15"));
-
-    const auto input = readDabsInput(
-        R"({"strokes": [{"set": {"pointsDistanceEnabled": false}, "samples": [[0, 0], [0.5, 0]], "end": false}]})");
-    ASSERT_TRUE(input);
-    std::string text;
-    writeDabs(*input, [&text](std::string_view piece) { text += piece; });
-    EXPECT_EQ(text.rfind("1,0.5,0,12,", 0), 0u) << text;
+// Under one that the system has, or one compiled for the purpose.
+TEST_F(ProgramTest, NumbersHaveAPointWhereTheLocaleWritesACommaForIt) {
+    QProcess::execute("localedef", {"-i", "de_DE", "-f", "UTF-8", path("de_DE.UTF-8")});
+    const QStringList comma{"LC_ALL=de_DE.UTF-8", "LOCPATH=" + _folder.path()};
+    QProcess asked;
+    asked.setEnvironment(QProcess::systemEnvironment() + comma);
+    asked.start("locale", {"decimal_point"});
+    if (!asked.waitForFinished() || asked.readAll() != ",\n")
+        GTEST_SKIP() << "no locale with a decimal comma, and none can be made";
+    const auto run = [&](const char* words, const QByteArray& input = {}) {
+        return runProgram(QString::fromLatin1(words).split(QLatin1Char(' ')), input, comma);
+    };
+    EXPECT_TRUE(run("properties").out.contains("default 0.15\n"));
+    const QByteArray half =
+        R"({"strokes": [{"samples": [[0, 0], [0.5, 0]], "set": {"pointsDistanceEnabled": 0}}]})";
+    EXPECT_TRUE(run("dabs - --header", half)
+                    .out.startsWith("sample,x,y,radius,pressure,altitude,speed\n1,0.5,0,2,-1,0,"));
+    EXPECT_TRUE(run("shapes -", "sample_id,x,y\na,1.5,2\n").out.startsWith("sample_id,"));
+    for (const QByteArray& text :
+         {QByteArray("0 1.5 2.25 5e-1\n"), half, QByteArray("<ink><trace>1.5 .25</trace></ink>")})
+        EXPECT_EQ(run("paint - -o - --size 9x9 --set radius=2.5", text).status, 0) << text.constData();
+    expectOneLine(run("paint - -o -", "0 1,5 2 1\n"), 1, "");
 }
 
 TEST(NumbersTest, NineDigitsTellFloatsApart) {

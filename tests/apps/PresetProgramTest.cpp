@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Brush presets from the command line: made, shown, painted with, and refused. Needs OpenGL.
-#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>

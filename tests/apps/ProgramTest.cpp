@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The program as its users run it: exit status, what it prints where, and which files are there afterwards.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <cerrno>
@@ -50,6 +47,8 @@ TEST_F(ProgramTest, FailedWorkEndsWithOneAndLeavesNoFile) {
     expectOneLine(paintText(R"({"canvas": {"width": 9, "height": 9}, "strokes": [{"set": {"radius": 2,
         "distributionCount": 64}, "samples": [[0, 0], [1e5, 1e5], [0, 0], [1e5, 1e5], [0, 0], [1e5, 1e5], [0, 0]]}]})"),
                   1, "a: about 50331655 dabs would have to be drawn, more than 50000000; --most-dabs");
+    expectOneLine(runProgram({"dabs", "-"}, "{\"strokes\":\n[7]}"), 1,
+                  "standard input:2: strokes[0]: expected an object");
     expectOneLine(paint(good, path("a.gif")), 2, "a.gif: no picture is written as .gif; the kinds are bmp, ");
     EXPECT_EQ(filesThere(), QStringList("a"));
 }
@@ -84,19 +83,6 @@ TEST_F(ProgramTest, HelpVersionAndProperties) {
         EXPECT_EQ(ended.status, 0) << words;
         EXPECT_THAT(ended.out.toStdString(), StartsWith(start));
     }
-}
-
-TEST_F(ProgramTest, DabsPrintsRowsAndRefusesWithTheLine) {
-    const QByteArray input =
-        R"({"strokes": [{"set": {"pointsDistanceEnabled": false}, "samples": [[0, 0], [0.5, 0]]}]})";
-    const QStringList dabs{"dabs", "-", "--header"};
-    const Ended rows = runProgram(dabs, input, {"LC_ALL=de_DE.UTF-8"});
-    EXPECT_EQ(rows.status, 0);
-    EXPECT_THAT(rows.out.toStdString(),
-                StartsWith("sample,x,y,radius,pressure,altitude,speed\n1,0.5,0,2,-1,0,"));
-    EXPECT_EQ(runProgram(dabs, R"({"strokes": []})").out, "sample,x,y,radius,pressure,altitude,speed\n");
-    expectOneLine(runProgram(dabs, "{\"strokes\":\n[7]}"), 1,
-                  "standard input:2: strokes[0]: expected an object");
 }
 
 TEST_F(ProgramTest, FullOutputIsAFailure) {

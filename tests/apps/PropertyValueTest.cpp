@@ -3,7 +3,6 @@
 #include "PropertyValue.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -2,9 +2,6 @@
 // Recordings in every form: what is read from good ones, and how bad ones are refused.
 #include "Recording.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QElapsedTimer>
 #include <set>

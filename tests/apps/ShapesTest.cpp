@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The shapes command and paint --recognise.
-#include <QImage>
 #include <cmath>
 
 #include "apps/Program.h"
@@ -26,7 +25,7 @@ const char kTwoRows[] = R"("a ""line"", level",line,,[01](\.[0-9]+)?,10 20\.5 50
 TEST_F(ProgramTest, ShapesComeStrokeByStrokeFromAnyInput) {
     const auto isTable = [](const std::string& rows) { return ::testing::MatchesRegex(kHeader + rows); };
     for (const QStringList& arguments : {QStringList{kShapes}, QStringList{kShapes, "-"}}) {
-        const Ended ended = runProgram(arguments, twoStrokes(), {"LC_ALL=de_DE.UTF-8"});
+        const Ended ended = runProgram(arguments, twoStrokes());
         EXPECT_EQ(ended.status, 0) << ended.err.constData();
         EXPECT_THAT(ended.out.toStdString(), isTable(kTwoRows));
     }

@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QSlider>
-#include <algorithm>
 #include <string>
 
 #include "PainterTest.h"

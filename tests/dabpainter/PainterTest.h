@@ -2,8 +2,6 @@
 // The application's window, with a user who answers as the test says.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>

@@ -12,7 +12,6 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QUrl>
-#include <algorithm>
 #include <map>
 
 #include "BrushPanel.h"
@@ -378,16 +377,6 @@ TEST_F(PresetBrowserTest, TheListIsWorkedByMouseAndKeyboard) {
     press(Qt::Key_Delete);
     EXPECT_FALSE(QFileInfo::exists(two.path));
     EXPECT_EQ(shownNames(), QStringList{"One"});
-}
-
-TEST_F(PresetBrowserTest, NoPresetIsTakenDuringAStroke) {
-    const PresetId id = save("One", 11);
-    set(BrushKey::radius, 50.0f);
-    _window->view()->drawingWithBeginPoint(QPointF(20, 20));
-    EXPECT_FALSE(presets().choose(id));
-    _window->view()->drawingWithEndPoint(QPointF(40, 20));
-    EXPECT_EQ(radius(), 50);
-    EXPECT_TRUE(presets().choose(id));
 }
 
 TEST_F(PresetBrowserTest, PicturesShowTheBrushAndFollowItsFile) {

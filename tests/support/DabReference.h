@@ -6,7 +6,6 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <numeric>
 #include <span>
 #include <vector>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/GLTest.h"
 
-#include <cstdlib>
 
 #include "ESRender/Utilities/ESGLErrors.h"
 

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <epoxy/gl.h>
-#include <gtest/gtest.h>
 
 #include <memory>
 #include <optional>

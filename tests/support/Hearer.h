@@ -23,5 +23,9 @@ public:
     void drawViewDidDrawEnd(QDDrawCanvas&, QPointF p) override { say("did end", p); }
     void drawViewDidUpdateUndoStatus(QDDrawCanvas&, bool can) override { say(can ? "undo" : "no undo"); }
     void drawViewDidUpdateRedoStatus(QDDrawCanvas&, bool can) override { say(can ? "redo" : "no redo"); }
+    void drawViewCanUndoAgain(QDDrawCanvas&) override { say("undo again"); }
+    void drawViewDidDropUndoSteps(QDDrawCanvas&, int count, int left) override {
+        say("dropped", QPointF(count, left));
+    }
     void drawViewDidLoseContext(QDDrawCanvas&) override { say("lost"); }
 };

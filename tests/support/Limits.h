@@ -6,6 +6,10 @@
 
 #include <QFile>
 #include <csignal>
+#include <cstdint>
+#include <cstdlib>
+#include <new>
+#include <utility>
 
 class Limited {
 public:
@@ -47,6 +51,30 @@ private:
         QFile status(QStringLiteral("/proc/self/statm"));
         return status.open(QIODevice::ReadOnly) ? status.readAll().split(' ').first().toLongLong() * 4096 : 0;
     }
+};
+// No more than this, which a driver needs that does not expect to find none, and not even what the process has and does
+// not use.
+class FullMemory : ShortMemory {
+public:
+    FullMemory() : ShortMemory(0) {
+        while (void* const block = std::malloc(kBlock)) {
+            _blocks = new (block) Block{_blocks};
+        }
+        free(kLeft / kBlock);
+    }
+    ~FullMemory() { free(SIZE_MAX); }
+
+private:
+    static constexpr std::size_t kBlock = 8192, kLeft = 4 << 20;
+    void free(std::size_t blocks) {
+        for (; _blocks != nullptr && blocks > 0; --blocks) {
+            std::free(std::exchange(_blocks, _blocks->next));
+        }
+    }
+    struct Block {
+        Block* next;
+    };
+    Block* _blocks = nullptr;
 };
 // Under the sanitizers memory is not limited as usual.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)

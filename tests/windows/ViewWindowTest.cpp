@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // A view in a window of a real window system: devices as the platform reports them, and what is on the screen.
-#include <gtest/gtest.h>
 #include <qpa/qwindowsysteminterface.h>
 
 #include <QApplication>

@@ -10,7 +10,6 @@
 #include "ESRender/Utilities/ShaderFiles.h"
 #include "support/GLTest.h"
 #include "support/LogCapture.h"
-#include "support/Named.h"
 
 namespace {
 
@@ -90,48 +89,31 @@ TEST_F(ESProgramTest, DestroyingLeavesNoObjectBehind) {
     EXPECT_FALSE(glIsProgram(name) || glIsVertexArray(array) || glIsBuffer(buffer));
 }
 
-struct BadSources : Named {
-    QString vertex, fragment;
-    QStringList messages;
-    std::uint64_t errors;  // the log query's, drained by link()
-};
-class BadSourcesTest : public GLTest, public ::testing::WithParamInterface<BadSources> {};
-
-TEST_P(BadSourcesTest, SayWhatIsWrongAndDoNotLink) {
-    expectDrainedErrors(GetParam().errors);
-    LogCapture log;
-    const auto program = ESProgram::initWithVertexShaderString(GetParam().vertex, GetParam().fragment);
-    EXPECT_FALSE(program->link());
-    EXPECT_FALSE(program->initialized());
-    for (const QString& message : GetParam().messages) {
-        EXPECT_TRUE(log.has(message)) << qPrintable(message);
+TEST_F(ESProgramTest, BadSourcesSayWhatIsWrongAndDoNotLink) {
+    const QString narrow = QStringLiteral(
+        "#version 150\nin vec2 a;\nout vec2 v;\nvoid main() { v = a; gl_Position = vec4(a, a); }\n");
+    const QString wide =
+        QStringLiteral("#version 150\nin vec4 v;\nout vec4 fragColor;\nvoid main() { fragColor = v; }\n");
+    const QString noVertex = QStringLiteral("Failed to compile vertex shader:\n");
+    const QString noFragment = QStringLiteral("Failed to compile fragment shader:\n");
+    const struct {
+        QString vertex, fragment;
+        QStringList messages;
+    } rows[] = {{kNonsense, kFragment, {kLog, noVertex}},
+                {kVertex, kNonsense, {kLog, noFragment}},
+                {kVertex, QString(), {QStringLiteral("Failed to load vertex shader"), noFragment}},
+                {narrow, wide, {}}};
+    expectDrainedErrors(3);  // the log query's, by link()
+    for (const auto& row : rows) {
+        LogCapture log;
+        const auto program = ESProgram::initWithVertexShaderString(row.vertex, row.fragment);
+        EXPECT_FALSE(program->link());
+        EXPECT_FALSE(program->initialized());
+        for (const QString& message : row.messages) {
+            EXPECT_TRUE(log.has(message)) << qPrintable(message);
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Sources, BadSourcesTest,
-    ::testing::Values(
-        BadSources{
-            "Vertex", kNonsense, kFragment, {kLog, QStringLiteral("Failed to compile vertex shader:\n")}, 1},
-        BadSources{"Fragment",
-                   kVertex,
-                   kNonsense,
-                   {kLog, QStringLiteral("Failed to compile fragment shader:\n")},
-                   1},
-        BadSources{"NoFragment",
-                   kVertex,
-                   QString(),
-                   {QStringLiteral("Failed to load vertex shader"),
-                    QStringLiteral("Failed to compile fragment shader:\n")},
-                   1},
-        BadSources{
-            "Interface",
-            QStringLiteral(
-                "#version 150\nin vec2 a;\nout vec2 v;\nvoid main() { v = a; gl_Position = vec4(a, a); }\n"),
-            QStringLiteral("#version 150\nin vec4 v;\nout vec4 fragColor;\nvoid main() { fragColor = v; }\n"),
-            {},
-            0}),
-    byName);
 
 TEST_F(ESProgramTest, ResourceFilesGiveTheSameProgramAndMissingOnesNone) {
     const QString base = QStringLiteral("Shaders.bundle/BaseLine_Mac");
@@ -155,15 +137,16 @@ TEST_F(ESProgramTest, DrainsNameEveryErrorAndCountThem) {
 }
 
 TEST(ExponentialTest, SidesRoundUpToAPowerOfTwoLookingAtTwentyBits) {
-    for (const auto& [side, power] : {std::pair{0, 1},
-                                      {1, 1},
-                                      {3, 4},
-                                      {256, 256},
-                                      {257, 512},
-                                      {1000, 1024},
-                                      {0xFFFFF, 1 << 20},
-                                      {1 << 20, 1},
-                                      {(1 << 20) + 5, 8}}) {
+    const int rows[][2] = {{0, 1},
+                           {1, 1},
+                           {3, 4},
+                           {256, 256},
+                           {257, 512},
+                           {1000, 1024},
+                           {0xFFFFF, 1 << 20},
+                           {1 << 20, 1},
+                           {(1 << 20) + 5, 8}};
+    for (const auto& [side, power] : rows) {
         EXPECT_EQ(ExponentialWithInter(side), power) << side;
     }
 }

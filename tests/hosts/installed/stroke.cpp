@@ -2,7 +2,6 @@
 // Strokes and shapes without Qt. The library's variables are the program's too: what one sets, the other sees.
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <vector>
 
 #include "LineProcess/LPLineProcess.h"

@@ -1,54 +1,28 @@
 // SPDX-License-Identifier: MIT
 // How well recorded and generated strokes are recognised, where their files are at hand.
-#include "Recognition/Unitily.h"
-#include "TestFolders.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
+#include <QDir>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
+#include "CsvReader.h"
+#include "Recognition/Unitily.h"
+#include "StrokesCsv.h"
+#include "TestFolders.h"
+#include "support/Files.h"
+
+namespace dabcanvas::dabpaint {
 namespace {
-namespace fs = std::filesystem;
-
-std::vector<std::string> fieldsOf(const std::string& line) {
-    std::vector<std::string> fields;
-    std::istringstream in(line);
-    for (std::string field; std::getline(in, field, ',');) {
-        fields.push_back(field);
-    }
-    return fields;
-}
-
-std::vector<std::vector<std::string>> rowsOf(const fs::path& file) {
+// The first row names the columns.
+std::vector<std::vector<std::string>> rowsOf(const QByteArray& bytes) {
     std::vector<std::vector<std::string>> rows;
-    std::ifstream in(file);
-    std::string line;
-    std::getline(in, line);  // the header
-    while (std::getline(in, line)) {
-        rows.push_back(fieldsOf(line));
-    }
+    CsvReader reader({bytes.data(), static_cast<std::size_t>(bytes.size())});
+    while (const auto* row = reader.next())
+        rows.emplace_back(row->begin(), row->end());
+    EXPECT_FALSE(reader.problem());
+    rows.erase(rows.begin());
     return rows;
-}
-
-std::map<std::string, std::vector<ShapePoint>> strokesIn(const fs::path& folder) {
-    std::map<std::string, std::vector<ShapePoint>> strokes;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-        const std::string name = entry.path().filename().string();
-        if (entry.path().extension() != ".csv" || name == "labels.csv" || name == "ideal.csv") {
-            continue;
-        }
-        for (const std::vector<std::string>& row : rowsOf(entry.path())) {
-            strokes[row[0]].push_back(
-                {std::strtod(row[5].c_str(), nullptr), std::strtod(row[6].c_str(), nullptr)});
-        }
-    }
-    return strokes;
 }
 
 struct Bar {
@@ -63,19 +37,25 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Bar{DABCANVAS_SHARED_DATA "/gestures-pilot", 0.993, 0.985, 0.01, 0.99},
                     Bar{DABCANVAS_SHARED_DATA "/gestures-synthetic", 0.993, 0.985, 0.01, 0.96},
                     Bar{DABCANVAS_TEST_DATA "/gestures-hurried", 0.85, 0.5, 0, 0.6}),
-    [](const auto& row) { return fs::path(row.param.folder).filename().string().substr(9); });
+    [](const auto& row) { return QDir(row.param.folder).dirName().mid(9).toStdString(); });
 
 TEST_P(GestureFiles, AreRecognised) {
     const Bar& bar = GetParam();
-    const fs::path folder = bar.folder;
-    if (!fs::exists(folder / "labels.csv")) {
-        GTEST_SKIP() << folder << " is not here";
+    const QDir folder(bar.folder);
+    if (!folder.exists("labels.csv"))
+        GTEST_SKIP() << bar.folder << " is not here";
+    std::map<std::string, std::vector<ShapePoint>> strokes;
+    for (const QString& file : folder.entryList({"*.csv"})) {
+        if (file == "labels.csv" || file == "ideal.csv")
+            continue;
+        const auto read = readStrokesCsv(contentOf(folder.filePath(file)));
+        for (const NamedStroke& stroke : *read)
+            strokes[stroke.id] = stroke.points;
     }
-    const auto strokes = strokesIn(folder);
     std::map<std::string, std::pair<int, int>> kinds;  // right, all
     std::pair<int, int> legs;
     std::string wrong;
-    for (const std::vector<std::string>& row : rowsOf(folder / "labels.csv")) {
+    for (const std::vector<std::string>& row : rowsOf(contentOf(folder.filePath("labels.csv")))) {
         ASSERT_TRUE(strokes.contains(row[0])) << row[0];
         const ShapeRecord shape = Unitily::recogniseWithPoints(strokes.at(row[0]));
         const std::string kind(nameOfShapeKind(shape.kind));
@@ -104,3 +84,4 @@ TEST_P(GestureFiles, AreRecognised) {
     EXPECT_GE(legs.first, bar.legs * legs.second);
 }
 }  // namespace
+}  // namespace dabcanvas::dabpaint

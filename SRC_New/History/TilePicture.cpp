@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "History/TilePicture.h"
+
+#include <new>
+
+namespace dabcanvas {
+
+TilePicture::TilePicture(const Size& size) : _layout(size), _rows(static_cast<std::size_t>(_layout.rows())) {}
+
+const TileRef& TilePicture::at(std::size_t index) const {
+    static const TileRef kTransparent;
+    const auto& row = _rows[index / columns()];
+    return row ? (*row)[index % columns()] : kTransparent;
+}
+
+void TilePicture::set(std::size_t index, const TileRef& tile) {
+    if (at(index) == tile) {
+        return;
+    }
+    std::shared_ptr<Row>& row = _rows[index / columns()];
+    if (const auto held = row; !held) {
+        row = std::make_shared<Row>(columns());
+    } else if (held.use_count() > 2) {
+        row = std::make_shared<Row>(*held);
+    }
+    (*row)[index % columns()] = tile;
+}
+
+bool TilePicture::read(const MutablePixelView& rows, QString* problem) const {
+    static constexpr std::uint8_t kTransparent[kTileBytes]{};
+    for (std::size_t index = 0; index < _layout.count(); ++index) {
+        const TileRef& tile = at(index);
+        const SharedTile pixels = tile ? pixelsOf(*tile, problem) : nullptr;
+        if (tile && !pixels) {
+            return false;
+        }
+        const Rect rect = _layout.rectOf(index);
+        copyRows({pixels ? pixels.get() : kTransparent, {rect.width, rect.height}, kTileSide * 4},
+                 rows.part(rect));
+    }
+    return true;
+}
+
+QByteArray bytesOf(const TilePicture& picture, QString* problem) {
+    try {
+        QByteArray bytes(static_cast<qsizetype>(picture.bytesOfRows()), Qt::Uninitialized);
+        auto* const block = reinterpret_cast<std::uint8_t*>(bytes.data());
+        const auto rows = MutablePixelView::bottomRowFirst(block, picture.layout().picture());
+        return picture.read(rows, problem) ? bytes : QByteArray();
+    } catch (const std::bad_alloc&) {
+        if (problem != nullptr) {
+            *problem =
+                QStringLiteral("there is no memory for a picture of %1 bytes").arg(picture.bytesOfRows());
+        }
+        return {};
+    }
+}
+
+}  // namespace dabcanvas

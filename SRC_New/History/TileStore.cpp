@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "History/TileStore.h"
+
+#include <new>
+#include <utility>
+#include <vector>
+
+#include "History/Packing.h"
+#include "History/StoredTile.h"
+
+namespace dabcanvas {
+namespace {
+
+SharedTile unpackedTile(const QByteArray& bytes) {
+    const auto pixels = newTile();
+    auto* const to = reinterpret_cast<char*>(pixels.get());
+    return restoreInto(bytes, to, qsizetype{kTileBytes}) ? SharedTile(pixels) : nullptr;
+}
+
+}  // namespace
+
+SharedTile pixelsOf(const StoredTile& tile, QString* problem) {
+    QString why = QStringLiteral("there is no memory for a tile of it");
+    try {
+        StoredTile::Held held = tile.held();
+        if (held.raw) {
+            return held.raw;
+        }
+        QByteArray bytes = held.packed;
+        while (bytes.isNull() && held.place) {
+            bytes = tile.read(*held.place, &why);
+            const auto place = std::exchange(held, tile.held()).place;
+            if (held.place == place) {
+                break;  // else it was written anew meanwhile
+            }
+        }
+        if (!bytes.isNull()) {
+            if (SharedTile pixels = unpackedTile(bytes)) {
+                return pixels;
+            }
+            why = QStringLiteral("it is damaged");
+        }
+    } catch (const std::bad_alloc&) {
+    }
+    if (problem != nullptr) {
+        *problem = why;
+    }
+    return nullptr;
+}
+
+TileStore::TileStore(const Size& picture) : _shared(std::make_shared<Shared>(picture)) {}
+
+TileStore::~TileStore() {
+    const std::lock_guard lock(_shared->mutex);
+    _shared->isEnding = true;
+}
+
+TileRef TileStore::keep(SharedTile pixels) {
+    return std::make_shared<StoredTile>(_shared, std::move(pixels));
+}
+
+void TileStore::show(StoredTile& tile) {
+    tile.show();
+}
+
+void TileStore::retire(StoredTile& tile) {
+    tile.hide();
+}
+
+void TileStore::hold(StoredTile& tile, const SharedTile& pixels) {
+    tile.hold(pixels);
+}
+
+void TileStore::compress() {
+    const std::lock_guard lock(_shared->mutex);
+    if (!_shared->loose.empty()) {
+        _packing.run([shared = _shared.get()] {
+            for (TileRef tile = shared->nextLoose(); tile; tile = shared->nextLoose()) {
+                tile->pack();
+            }
+        });
+    }
+    if (!_shared->unneeded.empty()) {
+        _writing.run([shared = _shared.get()] { shared->freeFiles(); });
+    }
+}
+
+void TileStore::setFileBytes(std::int64_t bytes) {
+    _shared->journal.setSegmentBytes(bytes);
+}
+
+void TileStore::relieve(std::int64_t most, const QString& folder) {
+    auto tiles = _shared->beyond(most, folder);
+    if (!tiles.empty()) {
+        _writing.run([shared = _shared.get(), tiles = std::move(tiles)] { shared->relieve(tiles); });
+    }
+}
+
+std::int64_t TileStore::bytes() const {
+    const std::lock_guard lock(_shared->mutex);
+    return _shared->bytes;
+}
+
+std::int64_t TileStore::bytesOnDisk() const {
+    return _shared->journal.bytesOnDisk();
+}
+
+std::int64_t TileStore::liveBytesOnDisk() const {
+    return _shared->journal.liveBytes();
+}
+
+}  // namespace dabcanvas

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// Versions of tiles: what the pictures of a history are made of. One that the canvas shows is shared with it and counts
+// for nothing; what it showed before is compressed in the background and, where memory is to be had back, written to disk,
+// the versions first that were not shown for longest.
+//
+// Owns     the versions' bytes and the files of those on disk, together with whoever holds a TileRef; those may outlive
+//          the store.
+// Thread   one for the store, waiting apart; TileRefs may be read and let go of on any.
+// Errors   null pixels where they cannot be had; `problem` says why. What cannot be written stays in memory, with one log
+//          line until the disk takes tiles again.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <memory>
+
+#include "History/BackgroundQueue.h"
+#include "Surface/TilePixels.h"
+
+namespace dabcanvas {
+
+class StoredTile;
+// A version of a tile; null is the transparent one.
+using TileRef = std::shared_ptr<StoredTile>;
+
+// Null, and `problem` in words where it is asked for, without the memory, or when the disk has lost them.
+SharedTile pixelsOf(const StoredTile& tile, QString* problem = nullptr);
+
+class TileStore {
+public:
+    explicit TileStore(const Size& picture);
+    ~TileStore();
+    TileStore(const TileStore&) = delete;
+    TileStore& operator=(const TileStore&) = delete;
+
+    // A new version, yet to be shown. Throws std::bad_alloc.
+    TileRef keep(SharedTile pixels);
+    // They are shown in one more place, or in one less; see compress().
+    static void show(StoredTile& tile);
+    static void retire(StoredTile& tile);
+    // These are its pixels: they need not be looked for again while it is shown.
+    static void hold(StoredTile& tile, const SharedTile& pixels);
+    // In the background, what is not shown any more; and files go that nothing needs.
+    void compress();
+    // Of the files to come.
+    void setFileBytes(std::int64_t bytes);
+    // Has so much written to files of this folder, in the background, that no more than this is left in memory.
+    void relieve(std::int64_t most, const QString& folder);
+
+    // What versions take in memory that are not shown, those counted that are yet to be written.
+    std::int64_t bytes() const;
+    std::int64_t bytesOnDisk() const;      // that files take
+    std::int64_t liveBytesOnDisk() const;  // of versions that somebody holds
+    void waitForCompression() { _packing.wait(); }
+    void waitForWrites() { _writing.wait(); }
+
+private:
+    friend class StoredTile;
+    friend SharedTile pixelsOf(const StoredTile& tile, QString* problem);
+    struct Shared;
+
+    std::shared_ptr<Shared> _shared;
+    BackgroundQueue _packing{1}, _writing{1};  // end first, as their tasks use all the others
+};
+
+}  // namespace dabcanvas

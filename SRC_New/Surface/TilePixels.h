@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// The pixels of a tile, and how a surface and whoever keeps what a picture was share them.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "Surface/TileSet.h"
+
+namespace dabcanvas {
+
+inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
+
+// Premultiplied RGBA, rows from the top, or fewer channels; transparent when made. What lies beyond a picture's rim counts
+// for nothing.
+template <typename Channel, std::size_t kChannels = 4>
+struct alignas(64) Tile {
+    std::array<Channel, kTilePixels * kChannels> values{};
+
+    Channel* at(int x, int y) {
+        return values.data() +
+               (static_cast<std::size_t>(y) * kTileSide + static_cast<std::size_t>(x)) * kChannels;
+    }
+    const Channel* at(int x, int y) const { return const_cast<Tile*>(this)->at(x, y); }
+};
+
+// The bytes of a tile of 8 bits a channel, made by newTile(); nobody changes them while they are shared. Null: transparent.
+using SharedTile = std::shared_ptr<const std::uint8_t>;
+inline constexpr std::size_t kTileBytes = kTilePixels * 4;
+
+// Throws std::bad_alloc.
+inline std::shared_ptr<std::uint8_t> newTile() {
+    const auto tile = std::make_shared<Tile<std::uint8_t>>();
+    return {tile, tile->values.data()};
+}
+
+// A tile and its place in a picture.
+struct PlacedTile {
+    std::size_t index = 0;  // row by row, see TileSet
+    SharedTile tile;
+};
+
+}  // namespace dabcanvas
