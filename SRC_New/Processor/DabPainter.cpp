@@ -227,6 +227,14 @@ void DabPainter::Inside::drawTiles(Grid& layer, const With& with) const {
 DabPainter::DabPainter() : _inside(std::make_unique<Inside>()) {}
 DabPainter::~DabPainter() = default;
 
+void DabPainter::makeReady(const DabStyle& style) {
+    _inside->dropTips();
+    for (std::uint32_t i = 0; style.tips && i < style.tips->size(); ++i) {
+        _inside->tip(style, i).makeAll();
+    }
+    _inside->paperOf(style);
+}
+
 Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
                       std::uint64_t count) {
     if (!style.tips || style.tips->empty()) {

@@ -120,7 +120,7 @@ private:
     double _stretch, _startX, _startY;
 };
 
-SmudgePainter::SmudgePainter(const Size& picture)
+SmudgePainter::SmudgePainter(const Size& picture, DabPainter& painter)
     : _size(picture),
       _picture(picture),
       _stale(Rect::of(picture)),
@@ -129,7 +129,8 @@ SmudgePainter::SmudgePainter(const Size& picture)
       _blocks(_layer.count()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
       _scaleY(static_cast<double>(_layer.size().height) / picture.height),
-      _exchanged(picture) {}
+      _exchanged(picture),
+      _painter(painter) {}
 
 void SmudgePainter::show(const TileGrid<std::uint8_t>& picture) {
     _picture.forEachIn(_stale, [&](std::size_t index, const Rect&) { _picture.share(picture, index); });

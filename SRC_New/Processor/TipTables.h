@@ -43,6 +43,8 @@ public:
         int level;   // number of the first
     };
     Pair levels(float detail);
+    // Every level's table, which else is made when it is first asked for.
+    void makeAll();
     bool hasColour() const { return !_image.colour.empty(); }
     // Premultiplied RGBA of a level.
     const Pixels& colour(int level) const { return _image.colour[static_cast<std::size_t>(level)]; }
