@@ -14,7 +14,7 @@
 
 namespace dabcanvas {
 
-inline constexpr std::size_t kTipTableSpare = 64;
+inline constexpr std::size_t kTipTableSpare = 256;
 
 struct TipTable {
     // For each texel, itself and the one below it; rows of width + 1 such pairs, the last column twice, the last row
