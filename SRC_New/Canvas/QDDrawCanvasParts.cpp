@@ -292,6 +292,11 @@ void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
         case BrushKey::renderColor:
         case BrushKey::flow:
             return sendPreviewColor();
+        // A tip that is drawn may change many times before a stroke does; images are what strokes will be made of.
+        case BrushKey::textureImages:
+            return layers.makeReady(brush.style());
+        case BrushKey::slTextureImage:
+            return layers.makeReady(brush.subStyle());
         case BrushKey::enableRecogition:
             if (recognises() && !history.autoMark && !sketch.isOn()) {
                 record.refresh(kRecognitionLine);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <new>
 #include <string>
 #include <utility>
@@ -30,6 +31,23 @@ PixelView viewOf(const Tile<std::uint8_t>* tile, const Rect& part) {
             kTileSide * 4};
 }
 
+// copyRows() of rows of a tile: so short that calling for each would take as long as copying it.
+void copyShortRows(const PixelView& from, const MutablePixelView& to) {
+    constexpr std::ptrdiff_t kPiece = 32;
+    const std::ptrdiff_t bytes = std::ptrdiff_t{4} * from.size.width;
+    if (bytes < kPiece) {
+        return copyRows(from, to);
+    }
+    for (int y = 0; y < from.size.height; ++y) {
+        const std::uint8_t* const source = from.row(y);
+        std::uint8_t* const target = to.row(y);
+        for (std::ptrdiff_t at = 0; at + kPiece <= bytes; at += kPiece) {
+            std::memcpy(target + at, source + at, kPiece);
+        }
+        std::memcpy(target + bytes - kPiece, source + bytes - kPiece, kPiece);
+    }
+}
+
 // `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing. Calls changed(index) for each tile that
 // was another.
 template <typename Changed>
@@ -42,7 +60,7 @@ void copyTiles(const Picture8& from, Picture8& to, const Rect& rect, Changed&& c
         if (part == to.rectOf(index)) {
             return to.share(from, index);
         }
-        copyRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
+        copyShortRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
     });
 }
 
@@ -91,7 +109,8 @@ ProcessorSurface::ProcessorSurface(const Size& size)
       _background(size),
       _line{Layer16(size), {}},
       _subLine{Layer16(size), {}},
-      _smudges(size),
+      _straight{Layer16(size), {}},
+      _smudges(size, _painter),
       _kept(_picture.count()) {}
 
 std::string ProcessorSurface::name() {
@@ -103,6 +122,10 @@ void ProcessorSurface::noteChanged(PictureId picture, const Rect& rect) {
 }
 
 // ---- Layers
+
+void ProcessorSurface::makeReady(const DabStyle& style) {
+    withMemory("make a brush ready", [&] { _painter.makeReady(style); });
+}
 
 Rect ProcessorSurface::drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style) {
     const Rect touched = _painter.draw(layer.grid, dabs, style, layer.dabs);
@@ -119,24 +142,34 @@ Rect ProcessorSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const D
 
 // Drawn by themselves and then put over the picture, which comes to the same.
 Rect ProcessorSurface::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
-    Layer own{Layer16(size()), {}};
-    withMemory("draw", [&] {
-        drawInto(own, dabs, style);
-        _picture.forEachIn(own.holds, [&](std::size_t index, const Rect& part) {
-            if (const auto* from = own.grid.tile(index)) {
-                auto& tile = _picture.writable(index);
-                const int x = part.x % kTileSide, y = part.y % kTileSide;
-                std::uint8_t* const rows = tile.at(x, y);
-                blendRows(ESBlendTypeNormal,
-                          {rows, rows, from->at(x, y), nullptr, part.width, 1,
-                           noiseAt(part.x, part.y, _kept[index].times)},
-                          part.height);
-                ++_kept[index].times;
-            }
-        });
+    Rect touched;
+    const bool isDone = withMemory("draw", [&] {
+        touched = drawInto(_straight, dabs, style);
+        _picture.forEachIn(touched, [&](std::size_t index, const Rect& part) { putStraight(index, part); });
     });
-    noteChanged(picture, own.holds);
-    return own.holds;
+    if (isDone) {
+        clear(_straight, _straight.holds);
+    } else {
+        _straight.grid.fill({});
+        _straight.holds = {};
+        _straight.dabs = 0;
+    }
+    noteChanged(picture, touched);
+    return touched;
+}
+
+void ProcessorSurface::putStraight(std::size_t index, const Rect& part) {
+    const auto* from = _straight.grid.tile(index);
+    if (from == nullptr) {
+        return;
+    }
+    const int x = part.x % kTileSide, y = part.y % kTileSide;
+    std::uint8_t* const rows = _picture.writable(index).at(x, y);
+    blendRows(
+        ESBlendTypeNormal,
+        {rows, rows, from->at(x, y), nullptr, part.width, 1, noiseAt(part.x, part.y, _kept[index].times)},
+        part.height);
+    ++_kept[index].times;
 }
 
 void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
@@ -146,7 +179,10 @@ void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
     if (which == PaintLayer::line) {
         _smudges.clearExchanged(rect);
     }
-    Layer& layer = layerOf(which);
+    clear(layerOf(which), rect);
+}
+
+void ProcessorSurface::clear(Layer& layer, const Rect& rect) {
     const bool all = rect.contains(layer.holds);
     layer.grid.forEachIn(rect.intersected(layer.holds), [&](std::size_t index, const Rect& part) {
         if (layer.grid.tile(index) == nullptr) {
@@ -266,8 +302,8 @@ bool ProcessorSurface::read(PictureId, const Rect& rect, const MutablePixelView&
         return false;
     }
     _picture.forEachIn(rect, [&](std::size_t index, const Rect& part) {
-        copyRows(viewOf(_picture.tile(index), part),
-                 rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height}));
+        copyShortRows(viewOf(_picture.tile(index), part),
+                      rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height}));
     });
     return true;
 }

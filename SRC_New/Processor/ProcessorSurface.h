@@ -27,6 +27,7 @@ public:
 
     std::string name() override;
 
+    void makeReady(const DabStyle& style) override;
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
     Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) override;
     void clear(PaintLayer layer, const Rect& rect) override;
@@ -59,13 +60,16 @@ private:
 
     Layer& layerOf(PaintLayer layer) { return layer == PaintLayer::subLine ? _subLine : _line; }
     Rect drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style);
+    void putStraight(std::size_t index, const Rect& part);
+    static void clear(Layer& layer, const Rect& rect);
     void compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style);
     void noteChanged(PictureId picture, const Rect& rect);
 
     TileGrid<std::uint8_t> _picture, _background;
     Layer _line, _subLine;
-    SmudgePainter _smudges;
+    Layer _straight;  // of what goes straight onto the picture; empty in between
     DabPainter _painter;
+    SmudgePainter _smudges;
     // Of each tile: how often something blended onto it was kept. Composites of one stroke round alike.
     struct Kept {
         std::uint8_t times = 0;

@@ -22,7 +22,8 @@ namespace dabcanvas {
 
 class SmudgePainter {
 public:
-    explicit SmudgePainter(const Size& picture);
+    // The painter must outlive it.
+    SmudgePainter(const Size& picture, DabPainter& painter);
 
     // The picture that is shown next may have changed there since the last one.
     void noteChanged(const Rect& rect) { _stale = _stale.united(rect); }
@@ -71,7 +72,7 @@ private:
     CoverageGrid _exchanged;
     Rect _holds;               // where dabs may be
     std::uint64_t _count = 0;  // of dabs since it was empty
-    DabPainter _painter;
+    DabPainter& _painter;
     std::vector<Dab> _coverage;
     Texels _picked, _old;
     std::vector<std::uint8_t> _pixels;
