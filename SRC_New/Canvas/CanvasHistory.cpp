@@ -4,11 +4,18 @@
 #include <array>
 #include <new>
 #include <utility>
+#include <vector>
 
 #include "Canvas/CanvasLog.h"
 #include "Canvas/Clock.h"
 #include "History/ImagesUndoManager.h"
+#include "History/JournalReader.h"
+#include "History/KeptHistories.h"
 #include "History/MemoryBudget.h"
+#include "History/StepJournal.h"
+#include "History/TempFolder.h"
+#include "History/UndoRecovery.h"
+#include "Maths/Tools.h"
 
 namespace dabcanvas {
 namespace {
@@ -23,6 +30,42 @@ StepPicture blankOf(const Size& size) {
     } catch (const std::bad_alloc&) {
         return {};
     }
+}
+
+using Pictures = std::vector<std::shared_ptr<const TilePicture>>;
+
+Pictures picturesOf(const JournalContents& contents, const TileStore& tiles) {
+    Pictures pictures;
+    for (const RecoveredStep& step : contents.steps) {
+        auto picture = step.base < 0
+                           ? std::make_shared<TilePicture>(contents.format.picture)
+                           : std::make_shared<TilePicture>(*pictures[static_cast<std::size_t>(step.base)]);
+        for (const TileChange& change : step.changes) {
+            picture->set(change.index, tiles.adopted(change.tile));
+        }
+        pictures.push_back(std::move(picture));
+    }
+    return pictures;
+}
+
+HistoryMoment momentOf(const JournalContents& contents, const Pictures& pictures) {
+    const auto step = [&](int index) {
+        const auto at = static_cast<std::size_t>(index);
+        return HistoryMoment::Step{contents.steps[at].name, pictures[at]};
+    };
+    HistoryMoment moment;
+    for (const int index : contents.undo) {
+        moment.undo.push_back(step(index));
+    }
+    const bool hasCurrent =
+        contents.current >= 0 && !contents.steps[static_cast<std::size_t>(contents.current)].name.isEmpty();
+    moment.present = pictures[static_cast<std::size_t>(contents.present)];
+    moment.current =
+        hasCurrent ? step(contents.current) : HistoryMoment::Step{Tools::dateString(), moment.present};
+    for (const int index : contents.redo) {
+        moment.redo.push_back(step(index));
+    }
+    return moment;
 }
 
 }  // namespace
@@ -73,6 +116,7 @@ StepPicture CanvasHistory::reset() {
     ImagesUndoManager& steps = images(true);
     noteRecorded();
     steps.resetWithPictureOfCurrentItem(_record.data());
+    note();
     return _record.data();
 }
 
@@ -98,6 +142,7 @@ StepPicture CanvasHistory::record() {
         images(true);  // a new one begins with the canvas as it was made, which is not recorded
     noteRecorded();
     steps.addItemWithPicture(_record.data());
+    note();
     return _record.data();
 }
 
@@ -166,7 +211,77 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back, Rect& changed) {
     }
     changed = *shown;
     _images->keepToBudgets();
+    note();
     return Outcome::restored;
+}
+
+// ---- Kept
+
+bool CanvasHistory::keep(bool keeps, QString* problem) {
+    if (keeps == isKept()) {
+        return true;
+    }
+    UndoRecovery::makeRoom([](const RecoverableHistory& history) {
+        qCInfo(lcDabcanvas, "%ls goes, as older histories have no room any more",
+               qUtf16Printable(history.path));
+        return true;
+    });
+    auto folder = keeps ? startKeptHistory(problem) : nullptr;
+    if (keeps && !folder) {
+        return false;
+    }
+    images(false);
+    _record.tiles()->keepIn(std::move(folder));
+    note();
+    return true;
+}
+
+void CanvasHistory::note() {
+    if (!isKept() || _images == nullptr) {
+        return;
+    }
+    HistoryMoment moment = _images->moment();
+    moment.present = _record.present();
+    _record.tiles()->note(std::move(moment), UndoRecovery::syncs());
+}
+
+bool CanvasHistory::recover(const QString& id, QString* problem) {
+    auto folder = claimKeptHistory(id, problem);
+    if (!folder) {
+        return false;
+    }
+    const auto refuse = [&] {
+        folder->leave();  // for another try
+        return false;
+    };
+    try {
+        const auto contents = readJournal(folder->path(), TileCheck::whole, problem);
+        if (!contents) {
+            return refuse();
+        }
+        if (contents->present < 0 || !_record.tiles()->adopt(*contents)) {
+            *problem = QStringLiteral(
+                           "it is of a canvas of %1 x %2 pixels, or this one has a history on disk already")
+                           .arg(contents->format.picture.width)
+                           .arg(contents->format.picture.height);
+            return refuse();
+        }
+        const auto pictures = picturesOf(*contents, *_record.tiles());
+        HistoryMoment moment = momentOf(*contents, pictures);
+        images(false);
+        _layers.settle();
+        if (!_record.show(StepPicture(pictures[static_cast<std::size_t>(contents->present)]), problem)) {
+            return refuse();
+        }
+        _images->become(moment);
+        _layers.edits.setBoth(moment.current.picture != moment.present);
+    } catch (const std::bad_alloc&) {
+        *problem = QStringLiteral("there is no memory for it");
+        return refuse();
+    }
+    _record.tiles()->keepIn(std::move(folder));
+    note();
+    return true;
 }
 
 }  // namespace dabcanvas

@@ -39,6 +39,15 @@ public:
     // Those that went for want of room since this was asked last, and how many are left to undo.
     std::pair<int, int> stepsDropped();
 
+    // Kept, the history outlives the process, see UndoRecovery.h. False, and `problem` in words, where it cannot.
+    bool isKept() const { return _record.tiles()->isKept(); }
+    bool keep(bool keeps, QString* problem);
+    // Has written down what the history and the canvas are now, where it is kept.
+    void note();
+    // Canvas and history become what another process left. False, and `problem` in words, where they cannot; the canvas is
+    // as it was then.
+    bool recover(const QString& id, QString* problem);
+
     // unrecorded: the canvas holds, or will hold, what no step does.
     bool canUndo(bool unrecorded) const;
     bool canRedo(bool unrecorded) const;

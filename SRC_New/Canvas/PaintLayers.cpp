@@ -47,6 +47,13 @@ bool PaintLayers::prepare(PaintLayer layer) {
     return scope && _surface->prepare(layer);
 }
 
+void PaintLayers::makeReady(const DabStyle& style) {
+    const SurfaceScope scope(*_surface);
+    if (scope) {
+        _surface->makeReady(style);
+    }
+}
+
 Rect PaintLayers::draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) {
     const SurfaceScope scope(*_surface);
     if (!scope || dabs.empty()) {

@@ -40,6 +40,8 @@ public:
     void beginStroke();
     // Whether there is, or can be made, what dabs of this layer are drawn into; see PaintSurface::prepare().
     bool prepare(PaintLayer layer);
+    // See PaintSurface::makeReady().
+    void makeReady(const DabStyle& style);
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style);
     // The first dabs into empty layers begin with what the picture looks like then.
     Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load);

@@ -299,6 +299,25 @@ ImagesUndoManager& QDDrawCanvas::undoManager() {
     return parts.history.images(parts.sketch.isOn());
 }
 
+bool QDDrawCanvas::keepsForRecovery() const {
+    return _inside->parts->history.isKept();
+}
+
+bool QDDrawCanvas::setKeepsForRecovery(bool keeps) {
+    const Host::Call call(_inside->host);
+    QString problem;
+    if (!_inside->parts->finishPreview() || !_inside->parts->history.keep(keeps, &problem)) {
+        qCWarning(lcDabcanvas, "The history cannot be kept: %ls", qUtf16Printable(problem));
+        return false;
+    }
+    return true;
+}
+
+bool QDDrawCanvas::recoverHistory(const QString& id, QString* problem) {
+    QString unheard;
+    return _inside->parts->recover(id, problem != nullptr ? problem : &unheard);
+}
+
 StepPicture QDDrawCanvas::curImageData() const {
     return _inside->parts->record.data();
 }

@@ -24,17 +24,13 @@
 
 #include <QByteArray>
 #include <QImage>
-#include <QPointF>
 #include <QRectF>
-#include <QSizeF>
 #include <QString>
 #include <QVariant>
 #include <concepts>
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <type_traits>
 
 #include "Brushes/BrushProperties.h"
 #include "Canvas/QDDrawTouch.h"
@@ -221,6 +217,11 @@ public:
     // The last step's picture, or the canvas's where there is no step or curImageData() is of another size.
     QImage currentImage();
     ImagesUndoManager& undoManager();
+    // Writes steps down within moments, so that the history outlives a crash; off at first. Canvas and history become what a
+    // dead process left, see UndoRecovery, which is kept on. False, and why after a log line or in `problem`.
+    bool keepsForRecovery() const;
+    bool setKeepsForRecovery(bool keeps);
+    bool recoverHistory(const QString& id, QString* problem = nullptr);
 
     // ---- Repeat and measure
     // Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After either

@@ -67,8 +67,11 @@ void QDDrawCanvas::Parts::updateBackground(bool isRecorded) {
     const Host::Call call(host);
     settleSketch();
     layers.commit();
-    if (!isRecorded && recognises()) {
-        record.refresh(kBackgroundLine);
+    if (!isRecorded) {
+        if (recognises()) {
+            record.refresh(kBackgroundLine);
+        }
+        history.note();
     }
 }
 
@@ -289,6 +292,11 @@ void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
         case BrushKey::renderColor:
         case BrushKey::flow:
             return sendPreviewColor();
+        // A tip that is drawn may change many times before a stroke does; images are what strokes will be made of.
+        case BrushKey::textureImages:
+            return layers.makeReady(brush.style());
+        case BrushKey::slTextureImage:
+            return layers.makeReady(brush.subStyle());
         case BrushKey::enableRecogition:
             if (recognises() && !history.autoMark && !sketch.isOn()) {
                 record.refresh(kRecognitionLine);
@@ -461,6 +469,22 @@ bool QDDrawCanvas::Parts::refuses(bool hasStep) {
                             : UndoRefusal::none;
     _refusedStep = refusal == UndoRefusal::drawing;
     return refusal != UndoRefusal::none;
+}
+
+bool QDDrawCanvas::Parts::recover(const QString& id, QString* problem) {
+    const Host::Call call(host);
+    if (!finishPreview() || isDrawing() || isLost()) {
+        *problem = QStringLiteral("the canvas cannot take it now");
+        return false;
+    }
+    if (!history.recover(id, problem)) {
+        return false;
+    }
+    host.redisplayAll();
+    if (kind() == StrokeKind::smudge) {
+        prepareSmudge();
+    }
+    return true;
 }
 
 bool QDDrawCanvas::Parts::canUndoAgain() {

@@ -73,6 +73,7 @@ public:
     dabcanvas::StepPicture resetHistory();
     dabcanvas::StepPicture undo();
     dabcanvas::StepPicture redo();
+    bool recover(const QString& id, QString* problem);
     dabcanvas::UndoRefusal refusal = dabcanvas::UndoRefusal::none;  // of the last of them
     void updateScale();
     void redisplay(const dabcanvas::Rect& area);

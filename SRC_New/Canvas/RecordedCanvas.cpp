@@ -41,6 +41,7 @@ RecordedCanvas::RecordedCanvas(PaintLayers& layers)
 
 void RecordedCanvas::give(const QByteArray& data) {
     become(nullptr);
+    _told = nullptr;
     _bytes = data;
     _isCanvas = false;
     _given = hasCanvasSize();
@@ -51,6 +52,7 @@ bool RecordedCanvas::giveBlank() {
     return withMemory(
         [&] {
             become(std::make_shared<const TilePicture>(_layers.size()));
+            _told = _picture;
             return true;
         },
         false);
@@ -107,8 +109,8 @@ std::optional<RecordedCanvas::Changes> RecordedCanvas::readTiles(const TilePictu
     return read ? std::optional(std::move(changes)) : std::nullopt;
 }
 
-bool RecordedCanvas::read(int line) {
-    const bool done = withMemory(
+bool RecordedCanvas::readCanvas() {
+    return withMemory(
         [&] {
             auto next = std::make_shared<TilePicture>(_picture && _isCanvas ? *_picture
                                                                             : TilePicture(_layers.size()));
@@ -117,17 +119,29 @@ bool RecordedCanvas::read(int line) {
                 next->set(index, tile);
             }
             if (changes) {
-                become(next);
+                become(changes->empty() && _isCanvas && _picture ? _picture : next);
                 _isCanvas = true;
                 _layers.surface().forgetTouched(kPicture);
             }
             return changes.has_value();
         },
         false);
-    if (!done && !_layers.isLost()) {
+}
+
+bool RecordedCanvas::read(int line) {
+    if (readCanvas()) {
+        _told = _picture;
+        _bytes.clear();
+        return true;
+    }
+    if (!_layers.isLost()) {
         tellNoMemory(line);
     }
-    return done;
+    return false;
+}
+
+std::shared_ptr<const TilePicture> RecordedCanvas::present() {
+    return !_given && readCanvas() ? _picture : nullptr;
 }
 
 void RecordedCanvas::refresh(int line) {
@@ -171,7 +185,7 @@ std::optional<Rect> RecordedCanvas::show(const StepPicture& picture, QString* pr
     *problem = QStringLiteral("there is no memory to put a step back");
     return withMemory(
         [&]() -> std::optional<Rect> {
-            if (!read(kRecognitionLine)) {
+            if (!readCanvas()) {
                 return std::nullopt;
             }
             auto tiles = picture.tiles();
@@ -189,6 +203,8 @@ std::optional<Rect> RecordedCanvas::show(const StepPicture& picture, QString* pr
                 return std::nullopt;
             }
             become(std::move(tiles));
+            _told = _picture;
+            _bytes.clear();
             for (const PlacedTile& shown : placed) {
                 if (const TileRef& tile = _picture->at(shown.index)) {
                     TileStore::hold(*tile, shown.tile);
@@ -220,7 +236,6 @@ void RecordedCanvas::become(std::shared_ptr<const TilePicture> picture) {
         }
     }
     _picture = std::move(picture);
-    _bytes.clear();
     _given = false;
     _tiles->compress();
 }

@@ -23,7 +23,7 @@ public:
     explicit RecordedCanvas(PaintLayers& layers);
 
     // Empty for none; any bytes when a host gave them.
-    StepPicture data() const { return _picture ? StepPicture(_picture) : StepPicture(_bytes); }
+    StepPicture data() const { return _told ? StepPicture(_told) : StepPicture(_bytes); }
     qsizetype bytesOfCanvas() const { return qsizetype{4} * _layers.size().width * _layers.size().height; }
     bool hasCanvasSize() const { return data().size() == bytesOfCanvas(); }
     // What its pictures are made of.
@@ -35,6 +35,8 @@ public:
     // A transparent one, whatever the canvas is. False without the memory.
     bool giveBlank();
 
+    // What the canvas is now, which data() is not told of; null when it cannot be read.
+    std::shared_ptr<const TilePicture> present();
     // Makes it the present canvas. False, and nothing changed, when the surface is lost and, after the fixed message of
     // that line, without the memory.
     bool read(int line);
@@ -49,6 +51,7 @@ public:
 
 private:
     using Changes = std::vector<std::pair<std::size_t, TileRef>>;
+    bool readCanvas();
     std::optional<Changes> readTiles(const TilePicture& before);
     TileRef version(const PlacedTile& read, const TileRef& before);
     TilePicture tilesOf(const QByteArray& bytes);
@@ -58,10 +61,11 @@ private:
 
     PaintLayers& _layers;
     const std::shared_ptr<TileStore> _tiles;
-    std::shared_ptr<const TilePicture> _picture;
-    QByteArray _bytes;       // a host's, in its place
-    bool _isCanvas = false;  // but for touched tiles it is the canvas's picture
-    bool _given = false;     // by a host, and of the canvas's size
+    std::shared_ptr<const TilePicture> _picture;  // as the canvas was read last, or what was given
+    std::shared_ptr<const TilePicture> _told;     // the same, as it was recorded last
+    QByteArray _bytes;                            // a host's, in its place
+    bool _isCanvas = false;                       // but for touched tiles it is the canvas's picture
+    bool _given = false;                          // by a host, and of the canvas's size
 };
 
 void tellNoMemory(int line);

@@ -39,11 +39,12 @@ struct DabMap {
         height = 1 / (foot + top);
         slope = foot - top > 1e-4f ? height / (2 * (foot - top)) : 0;
 
-        // Texels that a step of one pixel to the right and one down leads over, the longer of both.
+        // Texels that a step of one pixel to the right and one down leads over, the longer of both; squared.
         const float width = texelsAPixel(tip.width, halfWidth), tall = texelsAPixel(tip.height, halfHeight);
-        const float right = std::hypot(width * cosine, tall * sine);
-        const float down = std::hypot(width * sine, tall * cosine);
-        level = std::max(std::log2(std::max(right, down)), 0.0f);
+        const float wide = width * width, high = tall * tall;
+        const float right = wide * cosine * cosine + high * sine * sine;
+        const float down = wide * sine * sine + high * cosine * cosine;
+        level = std::max(0.5f * std::log2(std::max(right, down)), 0.0f);
         level += level > 0 ? softening() : 0;
     }
 

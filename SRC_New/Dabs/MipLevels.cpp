@@ -44,6 +44,22 @@ void reduceRow(const Pixels& picture, int y, const std::vector<Share>& shares, s
     }
 }
 
+// Of a picture twice as large each way, in whole numbers: the same bytes.
+template <int kChannels>
+void halve(const Pixels& picture, Pixels& result) {
+    for (int y = 0; y < result.size.height; ++y) {
+        const std::uint8_t *upper = picture.at(0, 2 * y), *lower = picture.at(0, 2 * y + 1);
+        std::uint8_t* to = result.at(0, y);
+        for (int x = 0; x < result.size.width; ++x) {
+            for (int channel = 0; channel < kChannels; ++channel) {
+                const int left = 2 * kChannels * x + channel, right = left + kChannels;
+                const int sum = upper[left] + upper[right] + lower[left] + lower[right];
+                to[kChannels * x + channel] = static_cast<std::uint8_t>((sum + 2) >> 2);
+            }
+        }
+    }
+}
+
 }  // namespace
 
 Pixels reduced(const Pixels& picture, const Size& size) {
@@ -51,6 +67,10 @@ Pixels reduced(const Pixels& picture, const Size& size) {
     const std::size_t rowBytes =
         static_cast<std::size_t>(size.width) * static_cast<std::size_t>(picture.channels);
     result.bytes.resize(rowBytes * static_cast<std::size_t>(size.height));
+    if (picture.size == Size{2 * size.width, 2 * size.height}) {
+        picture.channels == 1 ? halve<1>(picture, result) : halve<4>(picture, result);
+        return result;
+    }
     const std::vector<Share> columns = sharesOf(picture.size.width, size.width);
     const std::vector<Share> rows = sharesOf(picture.size.height, size.height);
     std::vector<float> row(rowBytes), sum(rowBytes);

@@ -11,7 +11,7 @@
 
 namespace dabcanvas {
 
-// Bytes in rows from the top, without gaps, `channels` a pixel.
+// Bytes in rows from the top, without gaps, `channels` a pixel: 1 or 4.
 struct Pixels {
     Size size;
     int channels = 1;

@@ -14,8 +14,10 @@ Pixels channelOf(const PixelView& pixels, ValueOf&& valueOf) {
     channel.bytes.resize(static_cast<std::size_t>(pixels.size.width) *
                          static_cast<std::size_t>(pixels.size.height));
     for (int y = 0; y < pixels.size.height; ++y) {
+        const std::uint8_t* const from = pixels.row(y);
+        std::uint8_t* const to = channel.at(0, y);
         for (int x = 0; x < pixels.size.width; ++x) {
-            *channel.at(x, y) = valueOf(pixels.at(x, y));
+            to[x] = valueOf(from + std::ptrdiff_t{4} * x);
         }
     }
     return channel;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "History/ImagesUndoManager.h"
+#include "History/StepJournal.h"
 #include "History/TempFolder.h"
 #include "History/TileStore.h"
 #include "Maths/Tools.h"
@@ -72,6 +73,45 @@ bool ImagesUndoManager::undoAtOnce() {
 bool ImagesUndoManager::redoAtOnce() {
     const std::lock_guard lock(_operation);
     return stepAnyway(Way::forth);
+}
+
+// ---- As a whole
+
+HistoryMoment ImagesUndoManager::moment() const {
+    const std::lock_guard lock(_operation);
+    const auto step = [this](const QString& name) {
+        return HistoryMoment::Step{name, _store.step(name).tiles()};
+    };
+    HistoryMoment moment;
+    for (const QString& name : undoItems()) {
+        moment.undo.push_back(step(name));
+    }
+    moment.current = step(currentStringItem());
+    for (const QString& name : redoItems()) {
+        moment.redo.push_back(step(name));
+    }
+    std::reverse(moment.redo.begin(), moment.redo.end());
+    return moment;
+}
+
+void ImagesUndoManager::become(const HistoryMoment& moment) {
+    const std::lock_guard lock(_operation);
+    auto steps = moment.undo;
+    steps.push_back(moment.current);
+    steps.insert(steps.end(), moment.redo.begin(), moment.redo.end());
+    UndoManager::setUndoStepCount(std::max(undoStepCount(), static_cast<unsigned>(steps.size())));
+    resetWithCurrentItem(steps.front().name);
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        if (i > 0) {
+            addItemWithString(steps[i].name);
+        }
+        if (steps[i].picture) {
+            _store.cache(steps[i].name, std::make_shared<Snapshot>(StepPicture(steps[i].picture)));
+        }
+    }
+    for (std::size_t i = 0; i < moment.redo.size(); ++i) {
+        stepAnyway(Way::back);
+    }
 }
 
 // ---- Budgets

@@ -34,6 +34,7 @@ namespace dabcanvas {
 class BackgroundQueue;
 class TempFolder;
 class TileStore;
+struct HistoryMoment;
 }  // namespace dabcanvas
 
 class DABCANVAS_CANVAS_API ImagesUndoManager : public UndoManager {
@@ -111,6 +112,9 @@ public:
     // memory, at most 1 GiB, and 4 GiB.
     void keepTilesIn(std::shared_ptr<dabcanvas::TileStore> tiles);
     void keepToBudgets();  // as it does when what it shows has changed
+    // The steps with their pictures, and making them the history.
+    dabcanvas::HistoryMoment moment() const;
+    void become(const dabcanvas::HistoryMoment& moment);
     // Puts the cached image farthest from the current step into its file.
     void removeOneObjectFromCache();
     // Two of them, and fewer from then on; and half of what a canvas's steps take.

@@ -25,10 +25,13 @@ TileStore::Shared::Shared(const Size& picture, int bytesAPixel)
       journal({.folder =
                    [this] {
                        const std::lock_guard lock(mutex);
-                       return folder;
+                       return keptFolder.isEmpty() ? folder : keptFolder;
                    },
                .format = {picture, bytesAPixel},
-               .checkpoint = {}}) {}
+               .checkpoint = {}}),
+      steps([](StoredTile& tile, QString* problem) {
+          return tile.write(false, problem) ? std::optional(tile.number()) : std::nullopt;
+      }) {}
 
 TileRef TileStore::Shared::nextLoose() {
     const std::lock_guard lock(mutex);
@@ -92,6 +95,32 @@ bool TileStore::Shared::writeSparse(QString* problem) {
     return true;
 }
 
+void TileStore::Shared::keep(bool isKept) {
+    if (isKept) {
+        journal.keep([this] { return steps.whole(); });
+    } else {
+        journal.keep(nullptr);
+    }
+}
+
+void TileStore::Shared::writeNoted() {
+    std::optional<HistoryMoment> moment;
+    {
+        const std::lock_guard lock(mutex);
+        moment.swap(noted);
+    }
+    if (!moment || isEnding) {
+        return;
+    }
+    QString problem;
+    const bool written = steps.write(*moment, journal, &problem) && (!syncs || journal.sync(&problem));
+    moment.reset();
+    freeFiles();
+    if (!written || !writeSparse(&problem)) {
+        tellFull(problem);
+    }
+}
+
 void TileStore::Shared::freeFiles() {
     std::vector<TilePlace> places;
     {
@@ -115,6 +144,14 @@ void TileStore::Shared::tellFull(const QString& problem) {
 
 StoredTile::StoredTile(std::shared_ptr<TileStore::Shared> shared, SharedTile pixels)
     : _shared(std::move(shared)), _number(++_shared->lastNumber), _held{std::move(pixels), {}, {}} {}
+
+StoredTile::StoredTile(std::shared_ptr<TileStore::Shared> shared, std::uint64_t number,
+                       const TilePlace& place)
+    : _shared(std::move(shared)), _number(number), _held{{}, {}, place} {
+    const std::lock_guard lock(_shared->mutex);
+    _shared->placed.insert_or_assign(_number, this);
+    moveTo(&_shared->away);
+}
 
 StoredTile::~StoredTile() {
     const std::lock_guard lock(_shared->mutex);

@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "History/StepJournal.h"
 #include "History/TileJournal.h"
 #include "History/TileStore.h"
 
@@ -31,7 +32,10 @@ struct TileStore::Shared {
     std::int64_t bytes = 0;
     std::int64_t bytesToWrite = 0;  // of these
     std::uint64_t lastNumber = 0;
-    QString folder;
+    QString folder, keptFolder;
+    StepJournal steps;  // of the background
+    std::optional<HistoryMoment> noted;
+    bool syncs = false;
     bool isEnding = false;  // what is loose stays so
     bool saidFull = false;
 
@@ -43,6 +47,8 @@ struct TileStore::Shared {
     Loans beyond(std::int64_t most, const QString& inFolder);
     // Writes them, and then what holds files that are needed for little else.
     void relieve(const Loans& tiles);
+    void writeNoted();
+    void keep(bool isKept);
     void freeFiles();
 
 private:
@@ -53,6 +59,8 @@ private:
 class StoredTile : public std::enable_shared_from_this<StoredTile> {
 public:
     StoredTile(std::shared_ptr<TileStore::Shared> shared, SharedTile pixels);
+    // One that the journal has.
+    StoredTile(std::shared_ptr<TileStore::Shared> shared, std::uint64_t number, const TilePlace& place);
     ~StoredTile();
     StoredTile(const StoredTile&) = delete;
     StoredTile& operator=(const StoredTile&) = delete;
@@ -75,6 +83,7 @@ public:
     bool mustBeWritten();
     // Into the journal, in the background: `anew` from where it is there already. False when the disk does not take it.
     bool write(bool anew, QString* problem);
+    std::uint64_t number() const { return _number; }
     void endWriting(bool written);
 
 private:

@@ -205,7 +205,7 @@ bool TileJournal::append(const std::function<bool()>& records, QString* problem)
 
 bool TileJournal::ready(QString* problem) {
     if (_open != 0) {
-        const Segment& segment = _segments.at(_open);
+        const Segment& segment = openSegment();
         const bool full = segment.size > kMostSegment || segment.size - segment.begin > _segmentBytes;
         const bool away = isKept() && (_settings.folder() != _folder || isAway(segment));
         if (!full && !away) {
@@ -287,7 +287,7 @@ void TileJournal::runCheckpoint() {
 
 // A part of a record that remains is none to who reads; the next one is written over it.
 bool TileJournal::write(RecordWriter& record, TilePlace* place, QString* problem) {
-    Segment& segment = _segments.at(_open);
+    Segment& segment = openSegment();
     const std::int64_t at = segment.size;
     const QByteArray& bytes = record.sealed({_journal, _open, static_cast<std::uint32_t>(at)});
     if (bytes.size() > kRecordHead + kMostRecord || at + bytes.size() > UINT32_MAX) {
@@ -310,6 +310,12 @@ bool TileJournal::write(RecordWriter& record, TilePlace* place, QString* problem
         closeSegment();
     }
     return false;
+}
+
+// It stays where it is while others go.
+TileJournal::Segment& TileJournal::openSegment() {
+    const std::lock_guard lock(_mutex);
+    return _segments.at(_open);
 }
 
 void TileJournal::closeSegment() {

@@ -136,6 +136,7 @@ private:
     bool writeState(const JournalState& state, QString* problem);
     bool writeStep(const JournalStep& step, QString* problem);
     bool write(RecordWriter& record, TilePlace* place, QString* problem);
+    Segment& openSegment();
     void closeSegment();
     void dropEmpty();
     std::uint64_t serialOf(const QString& name) const { return _serials.value(name, 0); }

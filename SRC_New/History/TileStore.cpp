@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "History/TileStore.h"
 
+#include <QFileInfo>
 #include <new>
 #include <utility>
 #include <vector>
 
+#include "History/JournalReader.h"
 #include "History/Packing.h"
 #include "History/StoredTile.h"
+#include "History/TempFolder.h"
 
 namespace dabcanvas {
 namespace {
@@ -100,6 +103,49 @@ void TileStore::relieve(std::int64_t most, const QString& folder) {
     if (!tiles.empty()) {
         _writing.run([shared = _shared.get(), tiles = std::move(tiles)] { shared->relieve(tiles); });
     }
+}
+
+// ---- A history that outlives its process
+
+bool TileStore::adopt(const JournalContents& contents) {
+    std::unordered_map<std::uint64_t, TileRef> tiles;
+    if (!_shared->journal.adopt(contents)) {
+        return false;
+    }
+    for (const auto& [number, place] : contents.tiles) {
+        tiles.emplace(number, std::make_shared<StoredTile>(_shared, number, place));
+    }
+    _adopted = std::move(tiles);
+    _shared->lastNumber = contents.lastTile;
+    return true;
+}
+
+TileRef TileStore::adopted(std::uint64_t number) const {
+    const auto found = _adopted.find(number);
+    return found == _adopted.end() ? nullptr : found->second;
+}
+
+void TileStore::keepIn(std::unique_ptr<TempFolder> folder) {
+    _adopted.clear();
+    {
+        const std::lock_guard lock(_shared->mutex);
+        _shared->keptFolder = folder ? folder->path() : QString();
+    }
+    _writing.run([shared = _shared.get(), isKept = folder != nullptr] { shared->keep(isKept); });
+    _writing.wait();  // before the former folder goes
+    _kept = std::move(folder);
+}
+
+void TileStore::note(HistoryMoment moment, bool sync) {
+    if (_kept && !QFileInfo(_kept->path()).isDir()) {
+        _kept->restore();
+    }
+    {
+        const std::lock_guard lock(_shared->mutex);
+        _shared->noted = std::move(moment);
+        _shared->syncs = sync;
+    }
+    _writing.run([shared = _shared.get()] { shared->writeNoted(); });
 }
 
 std::int64_t TileStore::bytes() const {

@@ -13,6 +13,7 @@
 #include <QString>
 #include <cstdint>
 #include <memory>
+#include <unordered_map>
 
 #include "History/BackgroundQueue.h"
 #include "Surface/TilePixels.h"
@@ -20,6 +21,9 @@
 namespace dabcanvas {
 
 class StoredTile;
+class TempFolder;
+struct HistoryMoment;
+struct JournalContents;
 // A version of a tile; null is the transparent one.
 using TileRef = std::shared_ptr<StoredTile>;
 
@@ -56,13 +60,27 @@ public:
     void waitForCompression() { _packing.wait(); }
     void waitForWrites() { _writing.wait(); }
 
+    // ---- A history that outlives its process
+
+    // Takes over what a journal holds; before anything was written. False, and nothing changed, for another picture.
+    bool adopt(const JournalContents& contents);
+    TileRef adopted(std::uint64_t number) const;  // null for none
+    // From now on in this folder; null: not any more.
+    void keepIn(std::unique_ptr<TempFolder> folder);
+    bool isKept() const { return _kept != nullptr; }
+    // Writes down what the history is now, in the background; of several that wait, the last. sync: waits for the disk, so
+    // that it outlives the machine, too.
+    void note(HistoryMoment moment, bool sync);
+
 private:
     friend class StoredTile;
     friend SharedTile pixelsOf(const StoredTile& tile, QString* problem);
     struct Shared;
 
     std::shared_ptr<Shared> _shared;
-    BackgroundQueue _packing{1}, _writing{1};  // end first, as their tasks use all the others
+    std::unique_ptr<TempFolder> _kept;
+    std::unordered_map<std::uint64_t, TileRef> _adopted;  // until the history is what it was
+    BackgroundQueue _packing{1}, _writing{1};             // end first, as their tasks use all the others
 };
 
 }  // namespace dabcanvas

@@ -24,6 +24,7 @@ struct Choice {
     std::mutex mutex;
     QString folder;
     qint64 byteLimit = qint64{8} << 30;
+    bool syncs = false;
 };
 
 Choice& choice() {
@@ -118,6 +119,16 @@ bool UndoRecovery::discard(const QString& id, QString* problem) {
         return false;
     }
     return true;
+}
+
+bool UndoRecovery::syncs() {
+    const std::lock_guard lock(choice().mutex);
+    return choice().syncs;
+}
+
+void UndoRecovery::setSyncs(bool syncs) {
+    const std::lock_guard lock(choice().mutex);
+    choice().syncs = syncs;
 }
 
 qint64 UndoRecovery::byteLimit() {

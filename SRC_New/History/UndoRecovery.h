@@ -46,6 +46,11 @@ public:
     // False when it lives, is being opened, or is not there.
     static bool discard(const QString& id, QString* problem = nullptr);
 
+    // Whether what histories write waits for the disk from now on, so that it outlives the machine's end, too; off at first,
+    // when it outlives the process's.
+    static bool syncs();
+    static void setSyncs(bool syncs);
+
     // The most that all histories in folder() take, 8 GiB at first.
     static qint64 byteLimit();
     static void setByteLimit(qint64 bytes);

@@ -205,16 +205,11 @@ void DabPainter::Inside::drawTile(Grid& layer, const TileDabs& tile, const With&
         ground.colours = with.colours->of(
             rect.intersected(dabs[entries[static_cast<std::size_t>(tile.first)].dab].touched));
     }
-    if (layer.tile(tile.tile) != nullptr) {
-        ground.tile = layer.writable(tile.tile).values.data();
-        draw(here, ground);
-        return;
-    }
+    const bool isNew = layer.tile(tile.tile) == nullptr;
+    ground.tile = layer.writable(tile.tile).values.data();
     // What only seemed to be touched stays away.
-    const auto made = std::make_unique<typename Grid::TileOf>();
-    ground.tile = made->values.data();
-    if (draw(here, ground)) {
-        layer.writable(tile.tile) = *made;
+    if (!draw(here, ground) && isNew) {
+        layer.drop(tile.tile);
     }
 }
 
@@ -241,6 +236,14 @@ DabPainter::DabPainter(int layerDepth) : _inside(std::make_unique<Inside>()) {
     _inside->draw = layerDepth == 8 ? drawRounded : drawDabs;
 }
 DabPainter::~DabPainter() = default;
+
+void DabPainter::makeReady(const DabStyle& style) {
+    _inside->dropTips();
+    for (std::uint32_t i = 0; style.tips && i < style.tips->size(); ++i) {
+        _inside->tip(style, i).makeAll();
+    }
+    _inside->paperOf(style);
+}
 
 Rect DabPainter::draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,
                       std::uint64_t count) {

@@ -47,6 +47,9 @@ public:
     DabPainter(const DabPainter&) = delete;
     DabPainter& operator=(const DabPainter&) = delete;
 
+    // Makes what dabs of this style are drawn from, else made for the first that needs it.
+    void makeReady(const DabStyle& style);
+
     // Returns the pixels that may have changed. `count` is the number of the first dab since the surface was made: what
     // the noise starts from.
     Rect draw(TileGrid<std::uint16_t>& layer, std::span<const Dab> dabs, const DabStyle& style,

@@ -43,7 +43,8 @@ public:
           _lanesV(order.steps(level.rightV, level.downV)),
           _lastU(hn::Set(kInts, level.lastU())),
           _lastV(hn::Set(kInts, level.lastV())),
-          _strides(hn::Set(kInts, 2 | level.stride << 16)) {}
+          _strides(hn::Set(kInts, 2 | level.stride << 16)),
+          _isSmall(level.stride * level.size.height + 2 <= kSmallTable) {}
 
     // Sixteen bits and a few more, of which the lower eight are not worth keeping.
     HWY_INLINE Int at(int x, int y) const {
@@ -51,7 +52,8 @@ public:
         const Int u = place(placeAt(_u, _level->rightU, _level->downU, x, y), _lanesU, _lastU);
         const Int v = place(placeAt(_v, _level->rightV, _level->downV, x, y), _lanesV, _lastV);
         const Int texel = hn::Or(hn::ShiftRight<16>(u), hn::And(v, high));
-        const Int block = blocksAt(_level->pairs, pairProducts(texel, _strides));
+        const Int offsets = pairProducts(texel, _strides);
+        const Int block = _isSmall ? blocksInSmall(_level->pairs, offsets) : blocksAt(_level->pairs, offsets);
         const Int both =
             hn::BitCast(kInts, of127(hn::OrAnd(hn::ShiftLeft<16>(v), u, hn::Set(kInts, 0xffff))));
         const Int right = hn::Or(hn::ShiftLeft<16>(both), hn::And(both, hn::Set(kInts, 127)));
@@ -62,6 +64,7 @@ private:
     const DabLevel* _level;
     std::int32_t _u, _v;
     Int _lanesU, _lanesV, _lastU, _lastV, _strides;
+    bool _isSmall;
 };
 
 // What the dab's box covers of each pixel, 0..32767; as DabMap reckons.

@@ -114,6 +114,26 @@ HWY_INLINE Int blocksAt(const std::uint8_t* bytes, Int offsets) {
 #endif
 }
 
+// The same of tables that are no longer than kSmallTable bytes, and of even offsets.
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
+constexpr int kSmallTable = 256;
+HWY_INLINE Int blocksInSmall(const std::uint8_t* bytes, Int offsets) {
+    const Int first = hn::Or(hn::ShiftRight<1>(offsets), hn::ShiftLeft<15>(offsets));
+    const __m512i both = hn::Add(first, hn::Set(kInts, 0x10000)).raw;
+    const auto among = [&](int half) HWY_ATTR {
+        return _mm512_permutex2var_epi16(_mm512_loadu_si512(bytes + half), both,
+                                         _mm512_loadu_si512(bytes + half + 64));
+    };
+    const __mmask32 isFar = _mm512_test_epi16_mask(both, _mm512_set1_epi16(64));
+    return Int{_mm512_mask_blend_epi16(isFar, among(0), among(128))};
+}
+#else
+constexpr int kSmallTable = 0;
+HWY_INLINE Int blocksInSmall(const std::uint8_t* bytes, Int offsets) {
+    return blocksAt(bytes, offsets);
+}
+#endif
+
 // Blocks of 32 bits, each so many words on in one of two rows, 1 in `lowers` for the lower one; up to kFarthestWord on.
 // blocksAhead() makes of these what blocksOf() takes.
 #if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3

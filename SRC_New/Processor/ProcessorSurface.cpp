@@ -2,6 +2,7 @@
 #include "Processor/ProcessorSurface.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <new>
 #include <string>
@@ -43,6 +44,23 @@ PixelView viewOf(const Tile<Channel>* tile, const Rect& part) {
             kBytes};
 }
 
+// copyRows() of rows of a tile: so short that calling for each would take as long as copying it.
+void copyShortRows(const PixelView& from, const MutablePixelView& to) {
+    constexpr std::ptrdiff_t kPiece = 32;
+    const std::ptrdiff_t bytes = std::ptrdiff_t{4} * from.size.width;
+    if (bytes < kPiece) {
+        return copyRows(from, to);
+    }
+    for (int y = 0; y < from.size.height; ++y) {
+        const std::uint8_t* const source = from.row(y);
+        std::uint8_t* const target = to.row(y);
+        for (std::ptrdiff_t at = 0; at + kPiece <= bytes; at += kPiece) {
+            std::memcpy(target + at, source + at, kPiece);
+        }
+        std::memcpy(target + bytes - kPiece, source + bytes - kPiece, kPiece);
+    }
+}
+
 // `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing. Calls changed(index) for each tile that
 // was another.
 template <typename Channel, typename Changed>
@@ -55,7 +73,7 @@ void copyTiles(const TileGrid<Channel>& from, TileGrid<Channel>& to, const Rect&
         if (part == to.rectOf(index)) {
             return to.share(from, index);
         }
-        copyRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
+        copyShortRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
     });
 }
 
@@ -127,7 +145,8 @@ PictureSurface<Channel>::PictureSurface(const Size& size, int layerDepth)
     : ProcessorSurface(size, layerDepth),
       _picture(size),
       _background(size),
-      _smudges(size, layerDepth),
+      _straight{Layer16(size), {}},
+      _smudges(size, layerDepth, _painter),
       _isPlain(layerDepth == 8),
       _kept(_picture.count()) {}
 
@@ -141,6 +160,10 @@ void PictureSurface<Channel>::noteChanged(PictureId picture, const Rect& rect) {
 }
 
 // ---- Layers
+
+void ProcessorSurface::makeReady(const DabStyle& style) {
+    withMemory("make a brush ready", [&] { _painter.makeReady(style); });
+}
 
 Rect ProcessorSurface::drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style) {
     const Rect touched = _painter.draw(layer.grid, dabs, style, layer.dabs);
@@ -156,7 +179,10 @@ Rect ProcessorSurface::draw(PaintLayer layer, std::span<const Dab> dabs, const D
 }
 
 void ProcessorSurface::clear(PaintLayer which, const Rect& rect) {
-    Layer& layer = layerOf(which);
+    clear(layerOf(which), rect);
+}
+
+void ProcessorSurface::clear(Layer& layer, const Rect& rect) {
     const bool all = rect.contains(layer.holds);
     layer.grid.forEachIn(rect.intersected(layer.holds), [&](std::size_t index, const Rect& part) {
         if (layer.grid.tile(index) == nullptr) {
@@ -229,18 +255,28 @@ void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, con
 // Drawn by themselves and then put over the picture, which comes to the same.
 template <typename Channel>
 Rect PictureSurface<Channel>::draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) {
-    Layer own{Layer16(this->size()), {}};
-    withMemory("draw", [&] {
-        drawInto(own, dabs, style);
-        _picture.forEachIn(own.holds, [&](std::size_t index, const Rect& part) {
-            if (const auto* from = own.grid.tile(index)) {
-                blendTile(index, part, {.layer = from, .overPicture = true}, {});
-                ++_kept[index].times;
-            }
-        });
+    Rect touched;
+    const bool isDone = withMemory("draw", [&] {
+        touched = drawInto(_straight, dabs, style);
+        _picture.forEachIn(touched, [&](std::size_t index, const Rect& part) { putStraight(index, part); });
     });
-    noteChanged(picture, own.holds);
-    return own.holds;
+    if (isDone) {
+        ProcessorSurface::clear(_straight, _straight.holds);
+    } else {
+        _straight.grid.fill({});
+        _straight.holds = {};
+        _straight.dabs = 0;
+    }
+    noteChanged(picture, touched);
+    return touched;
+}
+
+template <typename Channel>
+void PictureSurface<Channel>::putStraight(std::size_t index, const Rect& part) {
+    if (const auto* from = _straight.grid.tile(index)) {
+        blendTile(index, part, {.layer = from, .overPicture = true}, {});
+        ++_kept[index].times;
+    }
 }
 
 template <typename Channel>
@@ -327,7 +363,7 @@ bool PictureSurface<Channel>::read(PictureId, const Rect& rect, const MutablePix
     _picture.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         const PixelView from = viewOf(_picture.tile(index), part);
         const auto to = rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height});
-        to.pixelBytes == from.pixelBytes ? copyRows(from, to) : roundRows(from, to, part.x, part.y);
+        to.pixelBytes == from.pixelBytes ? copyShortRows(from, to) : roundRows(from, to, part.x, part.y);
     });
     return true;
 }

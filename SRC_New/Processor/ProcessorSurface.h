@@ -27,6 +27,7 @@ public:
 
     std::string name() override;
 
+    void makeReady(const DabStyle& style) override;
     Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) override;
     void clear(PaintLayer layer, const Rect& rect) override;
 
@@ -47,10 +48,9 @@ protected:
 
     Layer& layerOf(PaintLayer layer) { return layer == PaintLayer::subLine ? _subLine : _line; }
     Rect drawInto(Layer& layer, std::span<const Dab> dabs, const DabStyle& style);
+    static void clear(Layer& layer, const Rect& rect);
 
     Layer _line, _subLine;
-
-private:
     DabPainter _painter;
 };
 
@@ -83,6 +83,7 @@ public:
 
 private:
     using Grid = TileGrid<Channel>;
+    void putStraight(std::size_t index, const Rect& part);
     void compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style);
     // Null tiles are bare.
     struct Paint {
@@ -94,6 +95,7 @@ private:
     void noteChanged(PictureId picture, const Rect& rect);
 
     Grid _picture, _background;
+    Layer _straight;  // of what goes straight onto the picture; empty in between
     SmudgePainter<Channel> _smudges;
     bool _isPlain;  // rounds to the nearest
     // Of each tile: how often something blended onto it was kept. Composites of one stroke round alike.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstring>
 
@@ -43,8 +44,15 @@ struct TexelRange {
     }
 };
 
-// Texels of the layer that are filled at once, each way: 16 blocks a tile.
-constexpr int kBlock = 16;
+// Texels of the layer that are filled at once, each way, and how many of such blocks a tile has.
+constexpr int kBlock = 16, kBlocks = kTileSide / kBlock;
+
+// Those of a tile that texels from one up to another lie in.
+struct BlockRange {
+    int first, last;
+
+    BlockRange(int from, int end) : first(from % kTileSide / kBlock), last((end - 1) % kTileSide / kBlock) {}
+};
 
 bool isInOneTile(const Rect& rect) {
     return !rect.isEmpty() && rect.x / kTileSide == (rect.right() - 1) / kTileSide &&
@@ -86,12 +94,17 @@ public:
 
     // What is taken up is taken before the dab changes it; off the layer its rim counts.
     void begin(const Rect& texels) override {
-        _painter.provide(texels);
         const Size& layer = _painter._layer.size();
         const TexelRange across(placeX(texels.x), placeX(texels.right() - 1), layer.width);
         const TexelRange down(placeY(texels.y), placeY(texels.bottom() - 1), layer.height);
         const Rect picked = Rect::between(across.first, down.first, across.end, down.end);
-        _painter.provide(picked);
+        const Rect both = texels.united(picked);
+        if (both.area() <= 2 * (texels.area() + picked.area())) {
+            _painter.provide(both);
+        } else {
+            _painter.provide(texels);
+            _painter.provide(picked);
+        }
         isInOneTile(texels) ? take(_painter._layer, picked, _painter._picked)
                             : copy(_painter._layer, picked, _painter._picked);
     }
@@ -123,7 +136,7 @@ private:
 };
 
 template <typename Channel>
-SmudgePainter<Channel>::SmudgePainter(const Size& picture, int layerDepth)
+SmudgePainter<Channel>::SmudgePainter(const Size& picture, int layerDepth, DabPainter& painter)
     : _size(picture),
       _layerDepth(layerDepth),
       _picture(picture),
@@ -133,7 +146,8 @@ SmudgePainter<Channel>::SmudgePainter(const Size& picture, int layerDepth)
       _blocks(_layer.count()),
       _scaleX(static_cast<double>(_layer.size().width) / picture.width),
       _scaleY(static_cast<double>(_layer.size().height) / picture.height),
-      _exchanged(picture) {}
+      _exchanged(picture),
+      _painter(painter) {}
 
 template <typename Channel>
 void SmudgePainter<Channel>::show(const TileGrid<Channel>& picture) {
@@ -159,16 +173,18 @@ void SmudgePainter<Channel>::forget() {
 template <typename Channel>
 void SmudgePainter<Channel>::provide(const Rect& texels) {
     _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
+        const BlockRange across(part.x, part.right()), down(part.y, part.bottom());
+        const unsigned columns = (2u << across.last) - (1u << across.first);
+        unsigned wanted = 0;
+        for (int y = down.first; y <= down.last; ++y) {
+            wanted |= columns << (y * kBlocks);
+        }
         const Rect tile = _layer.rectOf(index);
-        for (int y = (part.y - tile.y) / kBlock; y * kBlock < part.bottom() - tile.y; ++y) {
-            for (int x = (part.x - tile.x) / kBlock; x * kBlock < part.right() - tile.x; ++x) {
-                const auto bit = static_cast<std::uint16_t>(1 << (y * (kTileSide / kBlock) + x));
-                if ((_blocks[index] & bit) == 0) {
-                    showBlock(index,
-                              tile.intersected({tile.x + x * kBlock, tile.y + y * kBlock, kBlock, kBlock}));
-                    _blocks[index] |= bit;
-                }
-            }
+        for (unsigned left = wanted & ~_blocks[index]; left != 0; left &= left - 1) {
+            const int bit = std::countr_zero(left);
+            showBlock(index, tile.intersected({tile.x + bit % kBlocks * kBlock,
+                                               tile.y + bit / kBlocks * kBlock, kBlock, kBlock}));
+            _blocks[index] = static_cast<std::uint16_t>(_blocks[index] | 1u << bit);
         }
     });
 }

@@ -24,8 +24,8 @@ namespace dabcanvas {
 template <typename Channel>
 class SmudgePainter {
 public:
-    // A layer of 8 bits is one whose values are rounded to bytes after each dab.
-    SmudgePainter(const Size& picture, int layerDepth);
+    // A layer of 8 bits is one whose values are rounded to bytes after each dab. The painter must outlive it.
+    SmudgePainter(const Size& picture, int layerDepth, DabPainter& painter);
 
     // The picture that is shown next may have changed there since the last one.
     void noteChanged(const Rect& rect) { _stale = _stale.united(rect); }
@@ -77,7 +77,7 @@ private:
     CoverageGrid _exchanged;
     Rect _holds;               // where dabs may be
     std::uint64_t _count = 0;  // of dabs since it was empty
-    DabPainter _painter;
+    DabPainter& _painter;
     std::vector<Dab> _coverage;
     Texels _picked, _old;
     std::vector<Channel> _pixels;

@@ -32,8 +32,8 @@ constexpr Words kWords;
 constexpr Bytes kBytes;
 constexpr Unsigned kUnsigned;
 constexpr Pixels kPixels;
+constexpr hn::Half<Pixels> kHalf;
 constexpr std::size_t kMostLanes = hn::MaxLanes(kPixels);
-constexpr int kMostMixed = 2 * kTileSide;  // texels of a row
 
 HWY_INLINE int lanes() {
     return static_cast<int>(hn::Lanes(kPixels));
@@ -94,6 +94,39 @@ HWY_INLINE Word wordsAt(const Channel* values) {
 
 // ---- Between texels
 
+// Two rows of a part, and a height between them.
+template <typename Channel>
+class TwoRows {
+public:
+    HWY_INLINE TwoRows(const SmudgePart<Channel>& part, std::int64_t place)
+        : _upper(row(part, wholeOf(place))),
+          _lower(row(part, wholeOf(place) + 1)),
+          _part(hn::Set(kWords, partOf(place))) {}
+
+    // As many texels as there are lanes, from one on.
+    HWY_INLINE Word at(int first) const {
+        const std::ptrdiff_t value = std::ptrdiff_t{4} * first;
+        return between(wordsAt(_upper + value), wordsAt(_lower + value), _part);
+    }
+    // These.
+    HWY_INLINE Word picked(const int* texels) const {
+        HWY_ALIGN Channel upper[kMostLanes * 4], lower[kMostLanes * 4];
+        for (int lane = 0; lane < lanes(); ++lane) {
+            std::memcpy(upper + 4 * lane, _upper + std::ptrdiff_t{4} * texels[lane], 4 * sizeof(Channel));
+            std::memcpy(lower + 4 * lane, _lower + std::ptrdiff_t{4} * texels[lane], 4 * sizeof(Channel));
+        }
+        return between(wordsAt(upper), wordsAt(lower), _part);
+    }
+
+private:
+    static HWY_INLINE const Channel* row(const SmudgePart<Channel>& part, int y) {
+        return part.values + part.stride * std::clamp(y, 0, part.size.height - 1);
+    }
+
+    const Channel *_upper, *_lower;
+    Word _part;
+};
+
 // Which texels of a row lie around each of a vector of pixels.
 class Neighbours {
 public:
@@ -132,19 +165,19 @@ public:
         }
     }
 
-    // What a row of texels has at the pixels.
-    HWY_INLINE Word in(const std::int16_t* row) const {
+    // What lies at the pixels between two rows of texels.
+    template <typename Channel>
+    HWY_INLINE Word in(const TwoRows<Channel>& rows) const {
         if (_kind == Kind::far) {
-            return between(picked(row, _lows), picked(row, _highs), _part);
+            return between(rows.picked(_lows), rows.picked(_highs), _part);
         }
-        const std::int16_t* const from = row + std::ptrdiff_t{4} * _base;
-        const Pixel one = pixels(from);
+        const Pixel one = hn::BitCast(kPixels, rows.at(_base));
         if (_kind == Kind::pairs) {
-            const Pixel two = pixels(from + hn::Lanes(kWords));
+            const Pixel two = hn::BitCast(kPixels, rows.at(_base + lanes()));
             return between(hn::BitCast(kWords, hn::ConcatEven(kPixels, two, one)),
                            hn::BitCast(kWords, hn::ConcatOdd(kPixels, two, one)), _part);
         }
-        const Pixel next = _kind == Kind::nearer ? one : pixels(from + 4);
+        const Pixel next = _kind == Kind::nearer ? one : hn::BitCast(kPixels, rows.at(_base + 1));
         return between(hn::BitCast(kWords, hn::TableLookupLanes(one, _low)),
                        hn::BitCast(kWords, hn::TableLookupLanes(next, _high)), _part);
     }
@@ -153,17 +186,6 @@ private:
     using Pixel = hn::Vec<Pixels>;
     // Among as many texels as there are lanes, both or each of the two; one after another; or anywhere.
     enum class Kind : std::uint8_t { nearer, near, pairs, far };
-
-    static HWY_INLINE Pixel pixels(const std::int16_t* values) {
-        return hn::BitCast(kPixels, hn::LoadU(kWords, values));
-    }
-    static HWY_INLINE Word picked(const std::int16_t* row, const int* texels) {
-        HWY_ALIGN std::int16_t values[kMostLanes * 4];
-        for (int lane = 0; lane < lanes(); ++lane) {
-            std::memcpy(values + 4 * lane, row + std::ptrdiff_t{4} * texels[lane], 8);
-        }
-        return hn::Load(kWords, values);
-    }
 
     decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _low, _high;
     Word _part;
@@ -187,101 +209,24 @@ private:
     Neighbours _around[kTileSide / 2];
 };
 
-// Rows of texels mixed as a part's rows lie between them. Several are made before the first is read: what was stored a moment
-// ago is slow to load.
-constexpr int kRowsAhead = 8;
-
-template <typename Channel>
-class MixedRows {
-public:
-    HWY_INLINE explicit MixedRows(const SmudgePart<Channel>& texels) : _texels(&texels) {}
-
-    // Columns `first` up to `end` of the i-th row, at a height.
-    HWY_INLINE void make(int i, std::int64_t place, int first, int end) {
-        const Channel* const upper = row(wholeOf(place)) + std::ptrdiff_t{4} * first;
-        const Channel* const lower = row(wholeOf(place) + 1) + std::ptrdiff_t{4} * first;
-        const Word part = hn::Set(kWords, partOf(place));
-        for (int value = 0; value < 4 * (end - first); value += static_cast<int>(hn::Lanes(kWords))) {
-            hn::Store(between(wordsAt(upper + value), wordsAt(lower + value), part), kWords,
-                      _rows[i] + value);
-        }
-        _firsts[i] = first;
-    }
-    // Where column 0 would stand.
-    HWY_INLINE const std::int16_t* made(int i) const { return _rows[i] - 4 * _firsts[i]; }
-    HWY_INLINE const Channel* row(int y) const {
-        return _texels->values + _texels->stride * std::clamp(y, 0, _texels->size.height - 1);
-    }
-
-private:
-    static constexpr int kValues = kMostMixed * 4 + static_cast<int>(kSpareValues);
-
-    const SmudgePart<Channel>* _texels;
-    int _firsts[kRowsAhead];
-    HWY_ALIGN std::int16_t _rows[kRowsAhead][kValues];
-};
-
 }  // namespace
 
 // ---- The layer
 
 namespace {
 
-// Columns of a part's texels that so many pixels lie between.
-struct ColumnRange {
-    int first, end;
-
-    HWY_INLINE ColumnRange(const Steps& across, int pixels, int columns) {
-        const int one = wholeOf(across.start), other = wholeOf(across.at(pixels - 1));
-        first = std::clamp(std::min(one, other), 0, columns - 1);
-        end = std::clamp(std::max(one, other) + 2, first + 1, columns);
-    }
-};
-
-// Calls put(Word value, int x, int y) for the pixels from x on of each row of a part.
-template <typename Channel, typename Put>
-HWY_INLINE void forEachBetween(const SmudgePart<Channel>& from, const Steps& across, const Steps& down,
-                               const Size& size, const ColumnRange& range, Put&& put) {
-    const Columns around(across, 0, size.width, from.size.width);
-    MixedRows<Channel> rows(from);
-    for (int top = 0; top < size.height; top += kRowsAhead) {
-        const int some = std::min(kRowsAhead, size.height - top);
-        for (int i = 0; i < some; ++i) {
-            rows.make(i, down.at(top + i), range.first, range.end);
-        }
-        for (int i = 0; i < some; ++i) {
-            for (int x = 0; x < size.width; x += lanes()) {
-                put(around.from(x).in(rows.made(i)), x, top + i);
-            }
-        }
-    }
-}
-
-// The same of columns so far apart that rows of them are longer than there is room for: of a large place for a small dab.
-template <typename Put>
-HWY_INLINE void forEachFar(const SmudgeTexels& from, const Steps& across, const Steps& down, const Size& size,
-                           Put&& put) {
-    const Columns around(across, 0, size.width, from.size.width);
-    const MixedRows<std::int16_t> rows(from);
-    for (int y = 0; y < size.height; ++y) {
-        const int upper = wholeOf(down.at(y));
-        const Word part = hn::Set(kWords, partOf(down.at(y)));
-        for (int x = 0; x < size.width; x += lanes()) {
-            const Neighbours& pixels = around.from(x);
-            put(between(pixels.in(rows.row(upper)), pixels.in(rows.row(upper + 1)), part), x, y);
-        }
-    }
-}
-
 template <typename Channel>
 HWY_INLINE void reducePart(const ReducedPart<Channel>& part) {
-    const ColumnRange range(part.across, part.size.width, part.from.size.width);
-    forEachBetween(part.from, part.across, part.down, part.size, range,
-                   [&](Word value, int x, int y) HWY_ATTR {
-                       const std::ptrdiff_t at = (y * kTileSide + x) * 4;
-                       hn::StoreU(value, kWords, part.to + at);
-                       hn::StoreU(value, kWords, part.toToo + at);
-                   });
+    const Columns around(part.across, 0, part.size.width, part.from.size.width);
+    for (int y = 0; y < part.size.height; ++y) {
+        const TwoRows rows(part.from, part.down.at(y));
+        for (int x = 0; x < part.size.width; x += lanes()) {
+            const Word value = around.from(x).in(rows);
+            const std::ptrdiff_t at = (y * kTileSide + x) * 4;
+            hn::StoreU(value, kWords, part.to + at);
+            hn::StoreU(value, kWords, part.toToo + at);
+        }
+    }
 }
 
 }  // namespace
@@ -298,15 +243,13 @@ void PickUp(const PickedUp& part) {
     std::memcpy(&four, part.colour.data(), sizeof(four));
     const Word colour = hn::BitCast(kWords, hn::Set(kPixels, four));
     const Word colourPart = hn::Set(kWords, part.colourPart);
-    const auto put = [&](Word picked, int x, int y) HWY_ATTR {
-        hn::StoreU(hn::BitCast(kUnsigned, between(picked, colour, colourPart)), kUnsigned,
-                   part.to + (y * kTileSide + x) * 4);
-    };
-    const ColumnRange range(part.across, part.size.width, part.from.size.width);
-    if (range.end - range.first > kMostMixed) {
-        forEachFar(part.from, part.across, part.down, part.size, put);
-    } else {
-        forEachBetween(part.from, part.across, part.down, part.size, range, put);
+    const Columns around(part.across, 0, part.size.width, part.from.size.width);
+    for (int y = 0; y < part.size.height; ++y) {
+        const TwoRows rows(part.from, part.down.at(y));
+        for (int x = 0; x < part.size.width; x += lanes()) {
+            const Word mixed = between(around.from(x).in(rows), colour, colourPart);
+            hn::StoreU(hn::BitCast(kUnsigned, mixed), kUnsigned, part.to + (y * kTileSide + x) * 4);
+        }
     }
 }
 
@@ -362,8 +305,6 @@ public:
     HWY_INLINE explicit SmudgedRows(const PutSmudges<Channel>& part)
         : _part(&part),
           _around(part.across, part.part.x, part.part.right(), part.now.size.width),
-          _nows(part.now),
-          _thens(part.then),
           _opacity(hn::Set(kWords, part.opacity)),
           _twice(hn::IndicesFromVec(kPixels, hn::ShiftRight<1>(hn::Iota(kPixels, 0)))) {
         const auto steps = hn::Mul(hn::ShiftRight<2>(hn::Iota(kUnsigned, 0)),
@@ -380,66 +321,53 @@ public:
         }
     }
 
-    // From row y on, up to kRowsAhead of them.
-    HWY_INLINE void put(int y, int rows) {
-        Span spans[kRowsAhead];
-        for (int i = 0; i < rows; ++i) {
-            spans[i] = spanOf(y + i);
-            if (spans[i].first < spans[i].end) {
-                mix(i, y + i, spans[i]);
-            }
+    HWY_INLINE void put(int y) {
+        if (y % 2 == 0 || y == _part->part.y) {
+            findSpan(y);
         }
-        for (int i = 0; i < rows; ++i) {
-            for (int x = spans[i].first; x < spans[i].end; x += lanes()) {
-                putVector(x, y + i, _nows.made(i), _thens.made(i));
-            }
+        if (_first >= _end) {
+            return;
+        }
+        const std::int64_t down = _part->down.at(y);
+        const TwoRows now(_part->now, down), then(_part->then, down);
+        for (int x = _first; x < _end; x += lanes()) {
+            putVector(x, y, now, then);
         }
     }
 
 private:
-    struct Span {
-        int first, end;
-    };
-    // The vectors between those at both ends of which no dab exchanged a pixel.
-    HWY_INLINE Span spanOf(int y) const {
-        Span span{_part->part.x / lanes() * lanes(), _part->part.right()};
-        while (span.first < span.end && isBare(span.first, y)) {
-            span.first += lanes();
+    // The vectors between those at both ends of which no dab exchanged a pixel, of both rows that lie side by side.
+    HWY_INLINE void findSpan(int y) {
+        _first = _part->part.x / lanes() * lanes();
+        _end = _part->part.right();
+        while (_first < _end && isBare(_first, y)) {
+            _first += lanes();
         }
-        while (span.first < span.end && isBare((span.end - 1) / lanes() * lanes(), y)) {
-            span.end = (span.end - 1) / lanes() * lanes();
+        while (_first < _end && isBare((_end - 1) / lanes() * lanes(), y)) {
+            _end = (_end - 1) / lanes() * lanes();
         }
-        return span;
     }
-    HWY_INLINE void mix(int i, int y, const Span& span) {
-        const Steps& across = _part->across;
-        const int texels = _part->now.size.width;
-        const int first = std::clamp(wholeOf(across.at(span.first)), 0, texels - 1);
-        const int end = std::clamp(wholeOf(across.at(span.end - 1)) + 2, first + 1, texels);
-        const std::int64_t down = _part->down.at(y);
-        _nows.make(i, down, first, end);
-        _thens.make(i, down, first, end);
+    HWY_INLINE bool isBare(int x, int y) const {
+        const auto both = pairs(x, y);
+        return hn::AllTrue(kHalf, hn::Eq(both, hn::Zero(kHalf)));
     }
-
+    // Two pixels of both rows in each lane.
+    HWY_INLINE hn::Vec<hn::Half<Pixels>> pairs(int x, int y) const {
+        const hn::Repartition<std::uint16_t, hn::Half<Pixels>> words;
+        return hn::BitCast(kHalf, hn::LoadU(words, _part->exchanged + pairedPlace(x, y / 2 * 2)));
+    }
     // In all channels; 0 of pixels that are not of the part.
     HWY_INLINE UnsignedWord exchanged(int x, int y) const {
-        // Two pixels of both rows are as long as one of all channels.
         alignas(16) static constexpr std::uint8_t kUpper[16] = {0, 1, 0, 1, 0, 1, 0, 1,
                                                                 2, 3, 2, 3, 2, 3, 2, 3};
         alignas(16) static constexpr std::uint8_t kLower[16] = {4, 5, 4, 5, 4, 5, 4, 5,
                                                                 6, 7, 6, 7, 6, 7, 6, 7};
-        const hn::Half<Pixels> half;
-        const hn::Repartition<std::uint16_t, hn::Half<Pixels>> words;
-        const auto both = hn::BitCast(half, hn::LoadU(words, _part->exchanged + pairedPlace(x, y / 2 * 2)));
-        const auto each = hn::TableLookupLanes(hn::ZeroExtendVector(kPixels, both), _twice);
+        const auto each = hn::TableLookupLanes(hn::ZeroExtendVector(kPixels, pairs(x, y)), _twice);
         const auto row = spread(hn::BitCast(kUnsigned, each), y % 2 == 0 ? kUpper : kLower);
         return hn::And(row, _isIn[x / lanes()]);
     }
-    HWY_INLINE bool isBare(int x, int y) const {
-        return hn::AllTrue(kUnsigned, hn::Eq(exchanged(x, y), hn::Zero(kUnsigned)));
-    }
-
-    HWY_INLINE void putVector(int x, int y, const std::int16_t* now, const std::int16_t* then) const {
+    HWY_INLINE void putVector(int x, int y, const TwoRows<std::int16_t>& now,
+                              const TwoRows<std::int16_t>& then) const {
         const std::ptrdiff_t at = (y * kTileSide + x) * 4;
         const UnsignedWord background = widened(_part->background + at);
         const Neighbours& around = _around.from(x);
@@ -464,7 +392,7 @@ private:
 
     const PutSmudges<Channel>* _part;
     Columns _around;
-    MixedRows<std::int16_t> _nows, _thens;
+    int _first = 0, _end = 0;
     Word _opacity;
     decltype(hn::IndicesFromVec(kPixels, hn::Zero(kPixels))) _twice;
     UnsignedWord _isIn[kTileSide / 2], _noise[kTileSide / 2];
@@ -473,8 +401,8 @@ private:
 template <typename Channel>
 HWY_INLINE void putPart(const PutSmudges<Channel>& part) {
     SmudgedRows<Channel> rows(part);
-    for (int y = part.part.y; y < part.part.bottom(); y += kRowsAhead) {
-        rows.put(y, std::min(kRowsAhead, part.part.bottom() - y));
+    for (int y = part.part.y; y < part.part.bottom(); ++y) {
+        rows.put(y);
     }
 }
 

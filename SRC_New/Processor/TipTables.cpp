@@ -72,6 +72,12 @@ TipTables::TipTables(TipImage image) : _image(std::move(image)), _tables(_image.
     }
 }
 
+void TipTables::makeAll() {
+    for (std::size_t level = 0; level < _tables.size(); ++level) {
+        table(level);
+    }
+}
+
 TipTables::Pair TipTables::levels(float detail) {
     const auto above = std::upper_bound(_details.begin() + 1, _details.end(), detail);
     const auto first = static_cast<std::size_t>(above - _details.begin()) - 1;

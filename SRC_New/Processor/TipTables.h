@@ -14,7 +14,7 @@
 
 namespace dabcanvas {
 
-inline constexpr std::size_t kTipTableSpare = 64;
+inline constexpr std::size_t kTipTableSpare = 256;
 
 struct TipTable {
     // For each texel, itself and the one below it; rows of width + 1 such pairs, the last column twice, the last row
@@ -43,6 +43,8 @@ public:
         int level;   // number of the first
     };
     Pair levels(float detail);
+    // Every level's table, which else is made when it is first asked for.
+    void makeAll();
     bool hasColour() const { return !_image.colour.empty(); }
     // Premultiplied RGBA of a level.
     const Pixels& colour(int level) const { return _image.colour[static_cast<std::size_t>(level)]; }

@@ -89,6 +89,8 @@ public:
 
     // Provides for what is drawn into the layer. False, after one log line, without the memory for it.
     virtual bool prepare(PaintLayer) { return true; }
+    // Makes what dabs of this style are drawn from, large tips above all, so that no stroke need wait for it.
+    virtual void makeReady(const DabStyle&) {}
     // Dabs over what the layer holds. Returns the pixels that may have changed.
     virtual Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) = 0;
     // The same straight onto the picture, past background and layers.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Brushes/ImageData.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
 
+#include "support/Files.h"
 #include "support/Images.h"
 
 namespace {
@@ -35,16 +35,11 @@ TEST(ImageData, JpegShowsTransparentPartsAsWhitePaper) {
 
 TEST(ImageData, PngKeepsEveryPixelAndAFileIsReadByContentAtItsPixelSize) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath("柔角@2x.jpg");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const QImage image = everyPremultipliedPair();
     const QByteArray data = dataOfPNGFile(image);
     EXPECT_TRUE(data.startsWith("\x89PNG"));
-    file.write(data);
-    file.close();
     EXPECT_EQ(imageWithData(data), image);
-    const QImage back = imageWithContentsOfFile(path);
+    const QImage back = imageWithContentsOfFile(writtenTo(folder.filePath("柔角@2x.jpg"), data));
     EXPECT_EQ(back, image);
     EXPECT_EQ(back.devicePixelRatio(), 1.0);
 }

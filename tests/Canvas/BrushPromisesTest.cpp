@@ -56,7 +56,6 @@ constexpr auto near = [](double a, double b, double tolerance) { return std::abs
 constexpr auto same = [](const Picture& a, const Picture& b) { return a.image == b.image; };
 constexpr auto isRed = [](const QColor& c) { return c.alpha() > 40 && c.red() > 2 * c.blue() + 40; };
 constexpr auto isBlue = [](const QColor& c) { return c.alpha() > 40 && c.blue() > 2 * c.red() + 40; };
-constexpr auto hasBlue = [](const QColor& c) { return c.blue() > 40; };
 constexpr auto isSoft = [](const QColor& c) { return c.alpha() > 10 && c.alpha() < 245; };
 constexpr auto isPainted = [](const QColor& c) { return c.alpha() > 128; };
 constexpr auto isHole = [](const QColor& c) { return c.alpha() < 20; };
@@ -312,7 +311,7 @@ const Promise kPromises[] = {
     {"pointsDistanceEnabled", "even gaps, whatever the pointer does", false, true,
      [](P l, P m) { return !near(l.marks[9].x() - l.marks[8].x(), 40, 2) && near(m.marks[9].x() - m.marks[8].x(), 40, 1); }},
     {"pointsDistance", "wider gaps, in sizes", 1.5f, 3.0f,
-     [](P l, P m) { return near(l.marks[5].x() - l.marks[4].x(), 24, 1) && near(m.marks[5].x() - m.marks[4].x(), 48, 1); }},
+     [](P l, P m) { return near(l.marks[5].x() - l.marks[4].x(), 24, 1) && near(m.marks[5].x() - m.marks[4].x(), 48, 1) && near(l.marks[0].x(), 44, 1); }},  // the first is left out
     {"smoothEnabled", "corners are cut", false, true,
      [](P l, P m) { return painted(m.image).height() < painted(l.image).height() - 8; }, [](C& c) { whole(c); c.setPointsDistance(0.2f); }, zigzag},
     {"sensitivity", "the same speed counts as slower, and thins less", 20.0f, 200.0f,
@@ -372,6 +371,8 @@ const Promise kPromises[] = {
      [](P l, P m) { return span(l.marks, heightOf).width() == 0 && span(m.marks, heightOf).width() > 6 && span(m.marks, widthOf).width() == 0; }},
     {"minRoundness", "never flatter than that", 0.05f, 0.75f,
      [](P l, P m) { return span(l.marks, ratioOf).low < 0.5 && span(m.marks, ratioOf).low > 0.7; }, [](C& c) { whole(c); c.setRoundnessTingle(1); }},
+    {"minRoundness_pressed", "nor without pressure; and as given, though 0.01 is the least that is kept", 0.001f, 0.75f,
+     [](P l, P m) { return near(l.marks[2].weight, 4.1, 1) && near(ratioOf(m.marks[2]), 0.75, 0.03); }, [](C& c) { whole(c); c.setRadius(64); c.setPointsDistance(1.5f); c.setRoundnessControl({1, 0, 0}); }, weak},
     {"minFlow", "more paint without pressure", 0.1f, 0.6f,
      [](P l, P m) { return near(alphaOf(l.marks[2]), 0.1, 0.02) && near(alphaOf(m.marks[2]), 0.6, 0.02); }, pressedFlow, weak},
     {"maxFlow", "more paint with all of it", 0.3f, 0.9f,

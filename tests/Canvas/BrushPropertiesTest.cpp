@@ -57,6 +57,12 @@ TEST_F(BrushPropertiesTest, EveryNumberStartsAtItsDefaultAndIsClampedToItsRange)
 
 TEST_F(BrushPropertiesTest, TheSecondLineFollowsTheFirst) {
     auto canvas = makeCanvas(32, 32);
+    canvas->setTrackNum(3);
+    canvas->setSensitivity(70);
+    canvas->setRadiusControl({0.1f, 0.2f, 0.3f});
+    const LPLineParams &line = canvas->lineParaObj(), &subLine = canvas->subLineParaObj();
+    EXPECT_TRUE(line.trackNum == 3 && subLine.trackNum == 0 && subLine.sensitivity == 70 &&
+                line.radiusControl.altitude == 0.2f && subLine.radiusControl.pressure == 0.1f);
     canvas->setSlRadius(16);
     canvas->setSlRadiusRelationType(2);
     EXPECT_FLOAT_EQ(canvas->relationValue(), 0.5f);

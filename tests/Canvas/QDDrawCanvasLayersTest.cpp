@@ -149,31 +149,6 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
         EXPECT_TRUE(imagesMatch(canvases[0]->image(), canvases[1]->image()));
     }
 }
-// A premultiplied channel above its alpha is no colour, and shows as a bright speck.
-TEST_P(CanvasBlendTest, NoChannelIsEverAboveItsAlpha) {
-    auto canvas = makeCanvas(200, 150, SurfaceKind::gpu);
-    canvas->setRepeatedlyRenderEnabled(true);
-    canvas->setFlow(0.3f);
-    canvas->setHueTingle(0.8f);
-    for (int stroke = 0; stroke < 6; ++stroke) {
-        canvas->setBrushType(stroke == 4 ? 3 : 0);
-        canvas->setOpacity(stroke % 2 == 0 ? 0.5f : 0.83f);
-        canvas->setBlendType(stroke == 0 ? 1 : GetParam());
-        canvas->setRenderColor(ESColor::rgba(0.15f * static_cast<float>(stroke), 0.9f, 0.4f));
-        paintWave(*canvas, 40 + 12 * stroke, 30, [&](int move) {
-            for (int layer = 0; move % 10 == 0 && layer < dabcanvas::kRenderTypeCount; ++layer) {
-                const QImage pixels =
-                    canvas->glSurface()->context().imageForType(static_cast<ESRenderType>(layer));
-                const auto* const bytes = pixels.constBits();
-                int above = 0;
-                for (qsizetype i = 0; i < pixels.sizeInBytes(); i += 4) {
-                    above += std::max({bytes[i], bytes[i + 1], bytes[i + 2]}) > bytes[i + 3] ? 1 : 0;
-                }
-                ASSERT_EQ(above, 0) << "layer " << layer << ", stroke " << stroke;
-            }
-        });
-    }
-}
 INSTANTIATE_TEST_SUITE_P(Types, CanvasBlendTest, ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 9),
                          [](const auto& row) { return "Blend" + std::to_string(row.param); });
 

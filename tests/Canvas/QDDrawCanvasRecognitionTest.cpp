@@ -21,13 +21,6 @@ void set(QDDrawCanvas& canvas, const Settings& settings) {
     }
 }
 
-QByteArray bytesOf(QDDrawCanvas& canvas) {
-    QByteArray bytes(canvas.image().sizeInBytes(), '\0');
-    const QRectF whole(QPointF(0, 0), canvas.bufferSize());
-    EXPECT_TRUE(canvas.readDataBufferRect(reinterpret_cast<unsigned char*>(bytes.data()), whole));
-    return bytes;
-}
-
 class CanvasRecognitionTest : public CanvasTest {
 protected:
     // A canvas with something on it to lose.
@@ -271,6 +264,22 @@ TEST_F(CanvasRecognitionTest, WhatHappensInMidStrokeHappensToTheCanvasWithoutThe
             EXPECT_EQ(canvas->edited(), expected->edited());
         }
     }
+}
+
+TEST_F(CanvasRecognitionTest, SwitchingInMidStrokeLeavesWhatWasDrawn) {
+    QImage pictures[3];
+    for (int before = 0; before < 3; ++before) {  // off all the time, on at first, off at first
+        auto canvas = makePatterned();
+        canvas->setEnableRecogition(before == 1);
+        sketchLine(*canvas);
+        const QImage sketched = canvas->image();
+        canvas->setEnableRecogition(before == 2);
+        endTangled(*canvas);
+        pictures[before] = canvas->image();
+        EXPECT_EQ(pictures[before] == sketched, before == 2);
+        EXPECT_TRUE(canvas->edited());
+    }
+    EXPECT_TRUE(imagesMatch(pictures[1], pictures[0]));
 }
 
 // ---- Shapes drawn

@@ -64,21 +64,6 @@ TEST_F(CanvasStrokeTest, DabsOffTheCanvasChangeNothingOnIt) {
     EXPECT_LT(differing, 50);
 }
 
-// The first stage leaves pressure alone and takes a tilt of -1 as upright.
-TEST_F(CanvasStrokeTest, AltitudeNotGivenIsUprightAndPressureNotGivenHasNoInfluence) {
-    const auto paint = [this](float altitude) {
-        auto canvas = makeCanvas();
-        canvas->setRadiusControl({0, 1, 0});  // only tilt acts
-        canvas->drawingWithBeginPoint({20, 75}, -1, altitude);
-        canvas->drawingWithMoveToPoint({90, 75}, -1, altitude);
-        canvas->drawingWithEndPoint({180, 75}, -1, altitude);
-        return canvas->image();
-    };
-    const QImage upright = paint(0);
-    EXPECT_TRUE(imagesMatch(paint(-0.99995f), upright));
-    EXPECT_GT(painted(paint(1)).height(), painted(upright).height());
-}
-
 // Strokes that do not go as they should
 
 void across(QDDrawCanvas& canvas, double y) {

@@ -31,6 +31,13 @@ DabMaker makerWith(const std::function<void(DabSettings&)>& change) {
     return maker;
 }
 
+TEST(DabTest, DirectionFollowsTheStrokeFromItsFirstDab) {
+    DabMaker maker = makerWith([](DabSettings& s) { s.moveRadianEnable = true; });
+    for (const Dab& dab : dabsOf(maker, {pointAt(100, 100), pointAt(105, 105), pointAt(110, 110)})) {
+        EXPECT_NEAR(dab.radian, -0.7853982f, 1e-5);
+    }
+}
+
 // Jitter
 
 void everyJitter(DabSettings& s) {

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
-#include <string>
 
 #include "support/DabReference.h"
 #include "support/Dabs.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Reading back and mirroring into textures, on odd sizes, where a flip by the wrong height shows.
 #include <cmath>
-#include <vector>
 
 #include "ESContext/ESContext.h"
 #include "support/GLTest.h"
@@ -74,19 +73,18 @@ TEST_F(ESContextReadTest, UpdateImageTouchesItsRectangleOnly) {
 }
 
 TEST_F(ESContextReadTest, RectanglesOutsideOrThinnerThanAPixelReadNothing) {
-    struct Row {
-        QRectF rect;
-        bool enabled;
-    };
-    for (const Row& row :
-         {Row{{0, 0, 0.5, 10}, false}, Row{{-1, 0, 10, 10}, false}, Row{{0, 0, 37.5, 23}, false},
-          Row{{30, 20, 7, 3}, true}, Row{{0, 0, std::nan(""), 10}, false}, Row{{0, 0, 1, 1}, true},
-          Row{{5, 5, -3, -3}, false}}) {
-        EXPECT_EQ(_context->isEnableRect(row.rect), row.enabled);
+    for (const auto& [rect, enabled] : {std::pair{QRectF(0, 0, 0.5, 10), false},
+                                        {{-1, 0, 10, 10}, false},
+                                        {{0, 0, 37.5, 23}, false},
+                                        {{30, 20, 7, 3}, true},
+                                        {{0, 0, std::nan(""), 10}, false},
+                                        {{0, 0, 1, 1}, true},
+                                        {{5, 5, -3, -3}, false}}) {
+        EXPECT_EQ(_context->isEnableRect(rect), enabled);
         std::vector<unsigned char> bytes(kWidth * kHeight * 4, 0xAB);
-        _context->readData(bytes.data(), row.rect);
-        EXPECT_EQ(bytes[0] == 0xAB, !row.enabled);
-        EXPECT_EQ(_context->imageWithRect(row.rect).isNull(), !row.enabled);
+        _context->readData(bytes.data(), rect);
+        EXPECT_EQ(bytes[0] == 0xAB, !enabled);
+        EXPECT_EQ(_context->imageWithRect(rect).isNull(), !enabled);
     }
     _context->readData(nullptr, QRectF(0, 0, 4, 4));
     LogCapture log;

@@ -36,7 +36,6 @@ protected:
         if (_context) {
             _current.emplace(*_context);
         }
-        GLTest::TearDown();
     }
 
     EGLDisplay _display = nullptr;

@@ -20,10 +20,6 @@ protected:
         _render = ESBaseRender::initWithBufferSize({kWidth, kHeight});
         ASSERT_TRUE(_render->setVertexShaderString({}, {}));
     }
-    void TearDown() override {
-        _render.reset();
-        GLTest::TearDown();
-    }
 
     std::unique_ptr<ESBaseRender> _render;
 };
@@ -126,19 +122,17 @@ TEST_F(ESBaseRenderTest, MirrorTextureIsCopiedWithinTheBufferOnly) {
     QImage expected = solidImage({64, 32});
     fillRect(expected, QRect(0, 0, kWidth, kHeight), QColor(1, 2, 3));
     EXPECT_TRUE(imagesMatch(readTexture(texture), expected));
-    struct Row {
-        QPointF origin;
-        QSizeF size;
-        QRect copied;  // bottom-up rows
-    };
+    // And what is copied of it, in bottom-up rows.
     int shade = 100;
-    for (const Row& row :
-         {Row{{-5, -4}, {10, 10}, {0, 0, 5, 6}}, Row{{3.4, 2.5}, {4, 4}, {3, 3, 4, 4}},
-          Row{{45, 25}, {100, 100}, {45, 25, 5, 5}}, Row{{60, 40}, {4, 4}, {}}, Row{{9, 9}, {-3, 4}, {}}}) {
+    for (const auto& [rect, copied] : {std::pair{QRectF(-5, -4, 10, 10), QRect(0, 0, 5, 6)},
+                                       {{3.4, 2.5, 4, 4}, {3, 3, 4, 4}},
+                                       {{45, 25, 100, 100}, {45, 25, 5, 5}},
+                                       {{60, 40, 4, 4}, {}},
+                                       {{9, 9, -3, 4}, {}}}) {
         shade += 10;
         fill(QRect(0, 0, kWidth, kHeight), QColor(shade, 0, 0), kHeight);
-        _render->updateTextureAtOrigin(row.origin, row.size, texture, GL_TEXTURE1);
-        fillRect(expected, row.copied, QColor(shade, 0, 0));
+        _render->updateTextureAtOrigin(rect.topLeft(), rect.size(), texture, GL_TEXTURE1);
+        fillRect(expected, copied, QColor(shade, 0, 0));
         EXPECT_TRUE(imagesMatch(readTexture(texture), expected));
     }
     glDeleteTextures(1, &texture);

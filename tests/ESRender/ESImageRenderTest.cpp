@@ -15,12 +15,7 @@ protected:
         _render = ESImageRender::initWithBufferSize(QSizeF(width, height));
         ASSERT_TRUE(_render);
         _render->setLineTextureID(_context->lineTexture(), GL_TEXTURE4);
-        _render->setSubLineTextureID(_context->subLineTexture(), GL_TEXTURE5);
         _render->setFlipY(true);
-    }
-    void TearDown() override {
-        _render.reset();
-        GLTest::TearDown();
     }
 
     // Copies the canvas into the background and composites one rectangle.

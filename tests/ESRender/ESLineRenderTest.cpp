@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/ESLineRender.h"
 
-#include <QTransform>
 #include <cstdlib>
-#include <vector>
 
 #include "support/GLTest.h"
 
@@ -20,10 +18,6 @@ protected:
         _render->setBufferSize(QSizeF(kWidth, kHeight));
         _render->setIsDebug(true);
         _render->resetLineProporty();
-    }
-    void TearDown() override {
-        _render.reset();
-        GLTest::TearDown();
     }
 
     // Draws into the cleared line layer and gives it back, upright.
@@ -47,40 +41,30 @@ QImage lopsidedTip() {
     return tip;
 }
 
-QImage blockTip(int side) {
-    return solidImage({side, side}, Qt::black);
-}
-
-// Where a tip, drawn at its own size around (100, 75) in white, would leave its alpha.
-QImage expectedLayer(const QImage& tip) {
-    QImage layer = solidImage({kWidth, kHeight});
-    for (int y = 0; y < tip.height(); ++y) {
-        for (int x = 0; x < tip.width(); ++x) {
-            if (tip.pixelColor(x, y).alpha() > 0) {
-                layer.setPixelColor(100 - tip.width() / 2 + x, 75 - tip.height() / 2 + y, Qt::white);
-            }
-        }
-    }
-    return layer;
-}
-
 // Placement
 
-TEST_F(LineRenderTest, ATipOfItsOwnSizeIsDrawnTexelOnPixelUprightAndUnmirrored) {
+// What a dab is, the surfaces' tests say; here, which one the settings make of a point.
+TEST_F(LineRenderTest, ADabIsAsTheSettingsSay) {
     _render->setRenderColor(ESColor::grey(1));
-    const QImage tip = lopsidedTip();
-    _render->setTextureImage(tip, GL_TEXTURE1);
-    const std::vector<LPPoint> dab{{{100, 75}, 32, {1, 0, 1}}};
-    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip)));
-    _render->setFlipX(true);
-    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip.mirrored(true, false))));
-    _render->setFlipY(true);
-    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip.mirrored(true, true))));
-    _render->setFlipX(false);
-    _render->setFlipY(false);
-    _render->setRadian(1.57079633f);
-    EXPECT_TRUE(imagesMatch(draw(dab), expectedLayer(tip.transformed(QTransform().rotate(-90)))))
-        << "counter-clockwise";
+    _render->setTextureImage(lopsidedTip(), GL_TEXTURE1);
+    const struct {
+        void (*set)(ESLineRender&);
+        float radian, roundness, flipX, flipY, flow;
+    } rows[] = {{[](ESLineRender&) {}, 0, 1, 1, 1, 1},
+                {[](ESLineRender& r) { r.setFlipX(true); }, 0, 1, -1, 1, 1},
+                {[](ESLineRender& r) { r.setFlipY(true); }, 0, 1, -1, -1, 1},
+                {[](ESLineRender& r) { r.setRadian(1.2f); }, 1.2f, 1, -1, -1, 1},
+                {[](ESLineRender& r) { r.setRoundness(0.5f); }, 1.2f, 0.5f, -1, -1, 1},
+                {[](ESLineRender& r) { r.setFlow(0.4f); }, 1.2f, 0.5f, -1, -1, 0.4f}};
+    for (const auto& row : rows) {
+        row.set(*_render);
+        const QImage layer = draw({{{100, 75}, 32, {1, 0, 1}}});
+        const dabcanvas::Dab dab{100,      75,        16, row.radian, row.roundness, row.flipX, row.flipY,
+                                 row.flow, {1, 1, 1}, 0,  0};
+        draw({});
+        _render->drawDabs({&dab, 1});
+        EXPECT_TRUE(imagesMatch(layer, _context->imageForType(ESRenderTypeLine))) << &row - rows;
+    }
 }
 
 // A program of a host's is given the uniforms of each dab, and the texture that it may look at.
@@ -110,7 +94,7 @@ TEST_F(LineRenderTest, AHostsProgramDrawsDabByDab) {
 }
 
 TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
-    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
+    _render->setTextureImage(solidImage({32, 32}, Qt::black), GL_TEXTURE1);
     draw({{{100, 50}, 10, {1, 0, 1}}});
     EXPECT_EQ(_touched, QRectF(94, 44, 12, 12));
     draw({{{2, 3}, 10, {1, 0, 1}}, {{198, 149}, 10, {1, 0, 1}}});
@@ -123,7 +107,7 @@ TEST_F(LineRenderTest, TheTouchedRectangleIsTheDabsWithAMargin) {
 
 // Nothing is ever drawn outside the rectangle told, or seams would stay on the canvas.
 TEST_F(LineRenderTest, TheTouchedRectangleHoldsWhatJittersMake) {
-    _render->setTextureImage(blockTip(32), GL_TEXTURE1);
+    _render->setTextureImage(solidImage({32, 32}, Qt::black), GL_TEXTURE1);
     _render->setRadius(20);
     _render->setDistribution(1);
     _render->setDistributionCount(5);
@@ -147,7 +131,7 @@ TEST_F(LineRenderTest, TheTouchedRectangleHoldsWhatJittersMake) {
 }
 
 TEST_F(LineRenderTest, PaperHoldsBackUntilThereIsNone) {
-    _render->setTextureImage(blockTip(128), GL_TEXTURE1);
+    _render->setTextureImage(solidImage({128, 128}, Qt::black), GL_TEXTURE1);
     _render->setMaskImage(solidImage({20, 10}, Qt::black));
     const auto alpha = [&] { return draw({{{64, 64}, 128, {1, 0, 1}}}).pixelColor(15, 7).alpha(); };
     EXPECT_EQ(alpha(), 255) << "not asked for";

@@ -2,7 +2,6 @@
 #include "ESRender/ESSmudgeRender.h"
 
 #include <limits>
-#include <vector>
 
 #include "support/GLTest.h"
 
@@ -23,10 +22,6 @@ protected:
         _render->setMoistQuantity(1);
         _render->setLoadQuantity(0);
         _render->setSmudgeControl(false);
-    }
-    void TearDown() override {
-        _render.reset();
-        GLTest::TearDown();
     }
 
     // Smudges a layer of distinct pixels and gives it back, upright.

@@ -85,6 +85,11 @@ inline HistoryState stateOf(const JournalContents& contents) {
     const auto isStep = [&](int step) {
         return step >= 0 && !contents.steps[static_cast<std::size_t>(step)].name.isEmpty();
     };
+    for (const RecoveredStep& step : contents.steps) {
+        for (const TileChange& change : step.changes) {
+            EXPECT_TRUE(change.tile == 0 || contents.tiles.count(change.tile)) << change.tile;
+        }
+    }
     HistoryState state;
     const auto add = [&](const std::vector<int>& from, std::vector<HistoryState::Step>& to) {
         std::transform(from.begin(), from.end(), std::back_inserter(to), stepOf);

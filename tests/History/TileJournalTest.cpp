@@ -254,13 +254,15 @@ TEST_F(TileJournalTest, ADamagedTileTakesItsPicturesAlong) {
         {4, {{first}, {}, second, second.second}},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.lost);
-        Files files = filesIn(folder);
-        if (row.lost != 0) {
-            QByteArray& bytes = files.begin()->second;
-            bytes[places[row.lost - 1].offset + 40] ^= 1;
+        for (const std::uint32_t byte : {2u, 15u, 40u}) {  // of head, sum and payload
+            SCOPED_TRACE(::testing::Message() << row.lost << " at " << byte);
+            Files files = filesIn(folder);
+            if (row.lost != 0) {
+                QByteArray& bytes = files.begin()->second;
+                bytes[places[row.lost - 1].offset + byte] ^= 1;
+            }
+            EXPECT_EQ(stateOf(*read(folderOf(files))), row.left);
         }
-        EXPECT_EQ(stateOf(*read(folderOf(files))), row.left);
     }
 }
 
@@ -297,9 +299,9 @@ TEST_F(TileJournalTest, AnotherProcessGoesOn) {
             model.act();
         }
         model.moveSparse(1.1);
-        const HistoryState written = model.written();
-        ASSERT_EQ(stateOf(*read(folder)), written);
+        ASSERT_EQ(stateOf(*read(folder)), model.written());
         model.goOn();
+        model.checkpointHolds = life % 3 != 1;
         for (const auto& [id, place] : model.places()) {
             EXPECT_EQ(model.journal->readTile(place, id, &model.problem), tileBytes(id));
         }
@@ -332,6 +334,18 @@ TEST_F(TileJournalTest, ADiskThatTakesNothingCostsNothingThatWasWritten) {
             model.act();
         }
         EXPECT_EQ(stateOf(*read(folder)), model.written()) << "now that it can";
+    }
+}
+
+TEST_F(TileJournalTest, AFileThatMayNotGrowIsFollowedByAnother) {
+    const QString folder = made("spilled");
+    TileJournal journal({[&] { return folder; }, JournalModel::kFormat, 1 << 20, {}});
+    const FullDisk disk(300);
+    QString problem;
+    for (std::uint64_t id = 1; id <= 10; ++id) {
+        const auto place = journal.appendTile(id, tileBytes(id), 100, &problem);
+        ASSERT_TRUE(place) << problem.toStdString();
+        EXPECT_EQ(journal.readTile(*place, id, &problem), tileBytes(id));
     }
 }
 
@@ -440,6 +454,46 @@ TEST_F(TileJournalTest, WithoutACheckpointOlderFilesStay) {
     }
     EXPECT_FALSE(QFile::exists(folder + '/' + segmentName(1)));
     EXPECT_EQ(stateOf(*read(folder)), model.written());
+}
+
+TEST_F(TileJournalTest, WithoutACheckpointStepsThatHaveNoTilesStayToo) {
+    const QString folder = made("journal");
+    QString problem;
+    JournalState state;
+    for (int life = 0; life < 2; ++life) {
+        TileJournal journal(
+            {[&] { return folder; }, JournalModel::kFormat, 200, [] { return std::nullopt; }});
+        ASSERT_TRUE(life == 0 || journal.adopt(*read(folder)));
+        for (int i = life * 10; i < life * 10 + 10; ++i) {
+            state.steps = {{QString::number(i), state.current, {}}};
+            if (i > 0) {
+                state.undo.append(state.current);
+            }
+            state.current = QString::number(i);
+            ASSERT_TRUE(journal.appendState(state, &problem)) << problem.toStdString();
+        }
+    }
+    const HistoryState told = stateOf(*read(folder));
+    ASSERT_EQ(told.undo.size(), 19u);
+    for (int i = 0; i < 19; ++i) {
+        EXPECT_EQ(told.undo[static_cast<std::size_t>(i)].first, QString::number(i));
+    }
+}
+
+TEST_F(TileJournalTest, PixelsThatLookLikeARecordAreNone) {
+    const QString folder = made("journal");
+    TileJournal journal(
+        {[&] { return folder; }, JournalModel::kFormat, 1 << 20, [] { return JournalState(); }});
+    QString problem;
+    ASSERT_TRUE(journal.appendState({{{"old", {}, {}}}, {}, "old", {}, {}}, &problem));
+    const qint64 before = journal.bytesOnDisk();
+    ASSERT_TRUE(journal.appendState({{}, {}, "old", {}, {}}, &problem));
+    const QByteArray record = filesIn(folder).begin()->second.mid(before);
+    ASSERT_TRUE(journal.appendState({{{"new", {}, {}}}, {"old"}, "new", {}, {}}, &problem));
+    const auto tile = journal.appendTile(1, record, 1000, &problem);
+    Files files = filesIn(folder);
+    files.begin()->second[tile->offset] ^= 1;
+    EXPECT_EQ(stateOf(*read(folderOf(files))).current.first, "new");
 }
 
 TEST_F(TileJournalTest, IsReadAndReleasedWhileItGrows) {

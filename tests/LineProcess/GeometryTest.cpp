@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <random>
 
 #include "LineProcess/LPArc.h"
 #include "LineProcess/StrokeFixture.h"
@@ -25,18 +24,19 @@ double integratedLength(const Curve& c, double end) {
 }  // namespace
 
 TEST(ArcTest, LengthAgreesWithIntegration) {
-    const Curve curves[] = {{{0, 0}, {10, 20}, {20, 0}},
-                            {{5, 5}, {105, 5}, {105, 45}},
-                            {{0, 0}, {2, 1}, {60, 5}},
-                            {{0, 0}, {58, 3}, {60, 5}},
-                            {{0, 0}, {40, 0.4f}, {1, 0}},
-                            {{700, 300}, {733, 311}, {700, 300}},
-                            {{0, 0}, {50, 0}, {30, 0}},
-                            {{0, 0}, {100, 0.05f}, {200, 0}},
-                            {{0, 0}, {60, 0.2f}, {120, 0}},
-                            {{1, 1}, {1.3f, 1.4f}, {2, 1}},
-                            {{9000, 8000}, {9040, 8010}, {9050, 8060}}};
-    for (const Curve& c : curves) {
+    const float rows[][6] = {{0, 0, 10, 20, 20, 0},
+                             {5, 5, 105, 5, 105, 45},
+                             {0, 0, 2, 1, 60, 5},
+                             {0, 0, 58, 3, 60, 5},
+                             {0, 0, 40, 0.4f, 1, 0},
+                             {700, 300, 733, 311, 700, 300},
+                             {0, 0, 50, 0, 30, 0},
+                             {0, 0, 100, 0.05f, 200, 0},
+                             {0, 0, 60, 0.2f, 120, 0},
+                             {1, 1, 1.3f, 1.4f, 2, 1},
+                             {9000, 8000, 9040, 8010, 9050, 8060}};
+    for (const auto& row : rows) {
+        const Curve c{{row[0], row[1]}, {row[2], row[3]}, {row[4], row[5]}};
         float A = 0, B = 0, C = 0;
         lpGetParaOfBezierLength(&c.p0, &c.p1, &c.p2, &A, &B, &C);
         for (const float t : {0.25f, 0.5f, 0.75f, 1.0f}) {
@@ -44,7 +44,7 @@ TEST(ArcTest, LengthAgreesWithIntegration) {
             // The closed form keeps a guard in its divisor that costs nearly straight curves some of their length.
             EXPECT_NEAR(lpLengthOfQuadraticBezierGivenParam(A, B, C, t), expected,
                         0.02 + (A > 1.0f ? 2e-4 : 0.1) * expected)
-                << "curve " << &c - curves << " at " << t;
+                << "curve " << &row - rows << " at " << t;
         }
     }
 }

@@ -27,15 +27,13 @@ TEST_F(TingleTest, TableIndicesWrap) {
 }
 
 TEST_F(TingleTest, RadianFollowsTheMoveAndRepeatsAtRest) {
-    const struct {
-        LPPosition to;
-        float angle;
-    } rows[] = {{{1, 1}, 0.785398163f}, {{1, 1}, 0.785398163f}, {{1, 0}, -1.5707964f},
-                {{1, 5}, 1.5707964f},   {{0, 5}, -3.14159265f}, {{-1, 6}, -3.92699082f}};
+    const std::pair<LPPosition, float> rows[] = {{{1, 1}, 0.785398163f}, {{1, 1}, 0.785398163f},
+                                                 {{1, 0}, -1.5707964f},  {{1, 5}, 1.5707964f},
+                                                 {{0, 5}, -3.14159265f}, {{-1, 6}, -3.92699082f}};
     LPPosition from = {0, 0};
-    for (const auto& row : rows) {
-        EXPECT_FLOAT_EQ(Radian(from, row.to), row.angle);
-        from = row.to;
+    for (const auto& [to, angle] : rows) {
+        EXPECT_FLOAT_EQ(Radian(from, to), angle);
+        from = to;
     }
     EXPECT_FLOAT_EQ(radianBlock({0, 0}, {kNaN, kInf}), -3.92699082f);
 }

@@ -39,17 +39,15 @@ TEST(ToolsTest, DateStringsOfAllThreadsAreUniqueAndIncreasing) {
 }
 
 TEST(ToolsTest, RandomValuesNeverFallBelowBegin) {
-    struct Case {
-        std::int32_t begin, end, last;
-    };
-    for (const Case& test : {Case{3, 3, 3}, Case{3, 7, 6}, Case{7, 3, 10}, Case{-4, -2, -3}}) {
+    const std::int32_t rows[][3] = {{3, 3, 3}, {3, 7, 6}, {7, 3, 10}, {-4, -2, -3}};
+    for (const auto& [begin, end, last] : rows) {
         std::set<std::int32_t> seen;
         for (int i = 0; i < 400; ++i) {
-            seen.insert(Tools::randValueBegin(test.begin, test.end));
+            seen.insert(Tools::randValueBegin(begin, end));
         }
         // 400 draws miss one of at most four values once in 10^49 runs.
-        EXPECT_EQ(*seen.begin(), test.begin);
-        EXPECT_EQ(*seen.rbegin(), test.last);
+        EXPECT_EQ(*seen.begin(), begin);
+        EXPECT_EQ(*seen.rbegin(), last);
     }
     EXPECT_GE(Tools::randValueBegin(std::numeric_limits<std::int32_t>::min(),
                                     std::numeric_limits<std::int32_t>::max()),

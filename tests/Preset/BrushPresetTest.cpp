@@ -33,13 +33,7 @@ std::string shown(const QVariant& value) {
 }
 
 bool isSame(const QVariant& a, const QVariant& b) {
-    if (a.typeId() == qMetaTypeId<QList<QImage>>()) {
-        return a.value<QList<QImage>>() == b.value<QList<QImage>>();
-    }
-    if (a.typeId() == qMetaTypeId<LPControlParams>()) {
-        return shown(a) == shown(b);
-    }
-    return a == b;
+    return a == b || (a.typeId() == qMetaTypeId<LPControlParams>() && shown(a) == shown(b));
 }
 
 BrushParam record(std::uint32_t id, const QVariant& value) {

@@ -275,24 +275,22 @@ TEST_F(QDBrushManagerFile, TinyRecordsWithoutEndAreNotTaken) {
 
 TEST_F(QDBrushManagerFile, WhatIsNoBrushFileIsSaidSo) {
     setContent(QByteArray("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16) + QByteArray(100, 0));
-    const struct {
-        QString path;
-        const char* problem;
-    } rows[] = {{path, "this is not an XBF file"},
-                {folder.path(), "it is not a plain file"},
+    const std::pair<QString, const char*> rows[] = {
+        {path, "this is not an XBF file"},
+        {folder.path(), "it is not a plain file"},
 #ifdef Q_OS_UNIX
-                {madePipe(), "it is not a plain file"},  // which nobody writes into
+        {madePipe(), "it is not a plain file"},  // which nobody writes into
 #endif
-                {folder.filePath("none.xbf"), std::strerror(ENOENT)},
-                {path + QChar(0) + ".png", "this is not a path"},
-                {QString(), ""}};
-    for (const auto& row : rows) {
+        {folder.filePath("none.xbf"), std::strerror(ENOENT)},
+        {path + QChar(0) + ".png", "this is not a path"},
+        {QString(), ""}};
+    for (const auto& [file, expected] : rows) {
         const LogCapture log;
         int version = -1;
         QString problem, same;
-        EXPECT_FALSE(QDBrushManager::brushesWithXBFPath(row.path, &version, &problem));
-        EXPECT_FALSE(QDBrushManager::brushNamesWithXBFPath(row.path, &version, &same));
-        EXPECT_TRUE(!problem.isEmpty() && problem.contains(QLatin1String(row.problem))) << row.problem;
+        EXPECT_FALSE(QDBrushManager::brushesWithXBFPath(file, &version, &problem));
+        EXPECT_FALSE(QDBrushManager::brushNamesWithXBFPath(file, &version, &same));
+        EXPECT_TRUE(!problem.isEmpty() && problem.contains(QLatin1String(expected))) << expected;
         EXPECT_EQ(same, problem);
         EXPECT_EQ(version, -1);
         EXPECT_EQ(log.lines().size(), 2);

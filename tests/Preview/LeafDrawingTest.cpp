@@ -38,16 +38,15 @@ struct Leaf : LeafDrawing {
 const std::vector<QPointF> kTriangle = {{10, 10}, {90, 10}, {50, 90}};
 
 TEST(LeafDrawingTest, BitmapIsSixTenthsOfTheFrame) {
-    const struct {
-        QSizeF frame, graph;
-    } rows[] = {{{1000, 500}, {600, 300}}, {{1001, 999}, {601, 599}}, {{1, 2}, {1, 1}},
-                {{0, 0}, {1, 1}},          {{-5, kNan}, {1, 1}},      {{HUGE_VAL, 10}, {1, 6}}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.frame.width());
-        Leaf leaf(row.frame);
-        EXPECT_EQ(leaf.graphSize(), row.graph);
+    const std::pair<QSizeF, QSizeF> rows[] = {{{1000, 500}, {600, 300}}, {{1001, 999}, {601, 599}},
+                                              {{1, 2}, {1, 1}},          {{0, 0}, {1, 1}},
+                                              {{-5, kNan}, {1, 1}},      {{HUGE_VAL, 10}, {1, 6}}};
+    for (const auto& [frame, graph] : rows) {
+        SCOPED_TRACE(frame.width());
+        Leaf leaf(frame);
+        EXPECT_EQ(leaf.graphSize(), graph);
         leaf.stroke({{0, 0}, {1e300, -1e300}, {-1e300, 1e300}});
-        EXPECT_EQ(leaf.cgImage().size(), row.graph.toSize());
+        EXPECT_EQ(leaf.cgImage().size(), graph.toSize());
     }
     Leaf huge(QSizeF(1e9, 1e9));
     const LogCapture log;

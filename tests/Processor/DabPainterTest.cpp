@@ -6,6 +6,7 @@
 #include <random>
 
 #include "Processor/DabKernel.h"
+#include "Processor/ProcessorSurface.h"
 #include "Processor/Workers.h"
 #include "support/Dabs.h"
 
@@ -14,11 +15,6 @@ using namespace dabcanvas;
 namespace {
 
 constexpr Size kLayer{700, 150};
-
-struct Layer {
-    TileGrid<std::uint16_t> grid{kLayer};
-    DabPainter painter;
-};
 
 // Dabs of all kinds, as many as make threads worth their while.
 std::vector<Dab> mixedDabs(std::size_t count) {
@@ -67,12 +63,13 @@ TEST(DabPainterTest, GivesTheSameBytesHoweverItIsDone) {
         for (const bool multicolour : {false, true}) {
             const DabStyle style = mixedStyle(paper, multicolour);
             const auto drawn = [&](std::size_t run) {
-                Layer layer;
+                TileGrid<std::uint16_t> layer{kLayer};
+                DabPainter painter;
                 for (std::size_t i = 0; i < dabs.size(); i += run) {
-                    layer.painter.draw(layer.grid, std::span(dabs).subspan(i, std::min(run, dabs.size() - i)),
-                                       style, 1000 + i);
+                    painter.draw(layer, std::span(dabs).subspan(i, std::min(run, dabs.size() - i)), style,
+                                 1000 + i);
                 }
-                return layer.grid;
+                return layer;
             };
             Workers::setMost(1);
             const TileGrid<std::uint16_t> alone = drawn(dabs.size());
@@ -87,6 +84,45 @@ TEST(DabPainterTest, GivesTheSameBytesHoweverItIsDone) {
             }
             useKernelTarget(0);
         }
+    }
+}
+
+// A picture that dabs of all sizes have smudged, turned and upright ones, near and across its rims and those of tiles.
+std::vector<std::uint8_t> smudged(const Size& size) {
+    std::mt19937 random(5);
+    const auto unit = [&] { return std::uniform_real_distribution<float>(0, 1)(random); };
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size.width) *
+                                    static_cast<std::size_t>(size.height) * 4);
+    for (std::size_t i = 0; i < bytes.size(); i += 4) {
+        bytes[i + 3] = static_cast<std::uint8_t>(random() % 256);
+        std::fill_n(&bytes[i], 3, static_cast<std::uint8_t>(bytes[i + 3] / (1 + random() % 3)));
+    }
+    ProcessorSurface surface(size);
+    surface.write(PictureId::first, Rect::of(size), PixelView::topRowFirst(bytes.data(), size));
+    surface.prepareSmudge(PictureId::first);
+    std::vector<SmudgeDab> dabs;
+    for (const Dab& dab : mixedDabs(120)) {
+        const LPPosition place{dab.x + 20 * unit() - 10, dab.y + 20 * unit() - 10};
+        dabs.push_back({dab, place, std::nearbyint(dab.halfSize * (0.5f + unit())), 1, unit(), unit()});
+        dabs.back().dab.tip = 0;
+    }
+    const Rect touched[] = {surface.smudge(dabs, mixedStyle(false, false), 0.5f)};
+    surface.composite(PictureId::first, touched, {.opacity = 0.9f, .smudged = true});
+    surface.read(PictureId::first, Rect::of(size), MutablePixelView::topRowFirst(bytes.data(), size));
+    return bytes;
+}
+
+TEST(DabPainterTest, SmudgesToTheSameBytesHoweverItIsDone) {
+    for (const Size size : {Size{400, 150}, Size{331, 149}, Size{5, 3}, Size{1, 1}}) {
+        Workers::setMost(1);
+        const auto alone = smudged(size);
+        Workers::setMost(3);
+        EXPECT_EQ(alone, smudged(size)) << "three threads";
+        for (const std::int64_t target : kernelTargets()) {
+            useKernelTarget(target);
+            EXPECT_EQ(alone, smudged(size)) << "instruction set " << target << ", width " << size.width;
+        }
+        useKernelTarget(0);
     }
 }
 

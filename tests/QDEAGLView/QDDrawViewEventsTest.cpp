@@ -27,7 +27,6 @@ class DrawViewEventsTest : public CanvasTest {
 protected:
     void SetUp() override {
         CanvasTest::SetUp();
-        makeCanvas();  // sets the random numbers' seeds
         view = QDDrawView::initWithFrame(QRectF(40, 30, 200, 150), &window).release();
         ASSERT_NE(view, nullptr);
         view->setHardness(1);
@@ -137,18 +136,13 @@ TEST_F(DrawViewEventsTest, APenPaintsOnceAndAlone) {
 }
 
 TEST_F(DrawViewEventsTest, NoMarkFromTheFirstFingerOfAPinch) {
-    struct Case {
-        const char* name;
-        int moves;  // of the first finger before the second comes
-        bool stays;
-    };
-    for (const Case& c : {Case{"at once", 0, false}, Case{"after a few moves", 6, false},
-                          Case{"soon, though it moved a lot", 20, false}, Case{"in a long line", 40, true}}) {
-        SCOPED_TRACE(c.name);
+    // Moves of the first finger before the second comes; a long line stays.
+    for (const auto& [moves, stays] : {std::pair{0, false}, {6, false}, {20, false}, {40, true}}) {
+        SCOPED_TRACE(moves);
         view->clear();
         touch(QEvent::TouchBegin, {{{20, 30}, Finger::Pressed}});
         QPointF first(20, 30);
-        for (int i = 1; i <= c.moves; ++i) {
+        for (int i = 1; i <= moves; ++i) {
             first += QPointF(4, 0);
             touch(QEvent::TouchUpdate, {{first, Finger::Updated}});
         }
@@ -159,7 +153,7 @@ TEST_F(DrawViewEventsTest, NoMarkFromTheFirstFingerOfAPinch) {
         touch(QEvent::TouchUpdate, {{first, Finger::Released}, {{150, 60}, Finger::Stationary}});
         touch(QEvent::TouchUpdate, {{{100, 100}, Finger::Updated}});
         touch(QEvent::TouchEnd, {{{100, 100}, Finger::Released}});
-        EXPECT_EQ(!mark().isEmpty(), c.stays);
+        EXPECT_EQ(!mark().isEmpty(), stays);
         EXPECT_LT(mark().bottom(), 60) << "nor from the second";
         expectIdle();
     }

@@ -9,7 +9,6 @@
 #include <limits>
 #include <memory>
 #include <numbers>
-#include <vector>
 
 #include "Recognition/ShapePlaces.h"
 

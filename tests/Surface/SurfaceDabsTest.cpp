@@ -78,7 +78,6 @@ std::vector<Scene> scenes() {
 class SurfaceDabsTest : public ::testing::TestWithParam<Kind> {
 protected:
     void SetUp() override { take(GetParam().make(kSize)); }
-    void TearDown() override { _scope.reset(); }
     void take(std::unique_ptr<PaintSurface> surface) {
         _scope.reset();
         _surface = std::move(surface);
@@ -125,6 +124,26 @@ protected:
         return layer;
     }
 
+    // A stroke of one opaque dab, so faint as a whole.
+    void stroke(float opacity) {
+        const DabStyle style{.tips = tipsOf({pictureOf({64, 64}, softDisc)}), .paper = {}};
+        const Dab dab = dabAt(36, 28, 60);
+        const Rect touched = _surface->draw(PaintLayer::line, {&dab, 1}, style);
+        const CompositeStyle faint{.blendType = 1, .opacity = opacity};
+        _surface->composite(PictureId::first, {&touched, 1}, faint);
+        const std::vector<std::uint8_t> once = picture();
+        _surface->composite(PictureId::first, {&touched, 1}, faint);
+        ASSERT_EQ(picture(), once) << "composited again";
+        _surface->clear(PaintLayer::line, touched);
+        _surface->commit(PictureId::first, touched);
+    }
+    std::vector<std::uint8_t> picture() {
+        std::vector<std::uint8_t> bytes(pixelCount() * 4);
+        EXPECT_TRUE(_surface->read(PictureId::first, Rect::of(kSize),
+                                   MutablePixelView::topRowFirst(bytes.data(), kSize)));
+        return bytes;
+    }
+
     std::unique_ptr<PaintSurface> _surface;
     std::optional<SurfaceScope> _scope;
 };
@@ -165,17 +184,17 @@ TEST_P(SurfaceDabsTest, DabsAreWhatTheReferenceDraws) {
 
 // What a dab exchanges of each pixel, and so what many on the same place leave.
 TEST_P(SurfaceDabsTest, FaintDabsAddUp) {
-    struct Case {
-        float flow;
-        int dabs;
-    };
-    for (const Case& c : {Case{0.0005f, 6000}, Case{0.001f, 9000}, Case{0.003f, 3000}, Case{0.01f, 1000},
-                          Case{0.05f, 100}, Case{0.3f, 30}}) {
+    for (const auto& [flow, count] : {std::pair{0.0005f, 6000},
+                                      {0.001f, 9000},
+                                      {0.003f, 3000},
+                                      {0.01f, 1000},
+                                      {0.05f, 100},
+                                      {0.3f, 30}}) {
         const Scene once =
             scene("", {turned(dabAt(30.3f, 28.8f, 50), 0.3f, 0.9f)}, {pictureOf({64, 64}, softDisc)});
-        std::vector<Dab> dabs(static_cast<std::size_t>(c.dabs), once.dabs[0]);
+        std::vector<Dab> dabs(static_cast<std::size_t>(count), once.dabs[0]);
         for (Dab& dab : dabs) {
-            dab.flow = c.flow;
+            dab.flow = flow;
         }
         _surface->clear(PaintLayer::line, Rect::of(kSize));
         _surface->draw(PaintLayer::line, dabs, once.style);
@@ -183,7 +202,7 @@ TEST_P(SurfaceDabsTest, FaintDabsAddUp) {
         const std::vector<double> single = expected(once);
         double worst = 0, worstStraight = 0;
         for (std::size_t i = 0; i < drawn.size(); i += 4) {
-            const double alpha = 1 - std::pow(1 - single[i + 3] * c.flow, c.dabs);
+            const double alpha = 1 - std::pow(1 - single[i + 3] * flow, count);
             const double color[] = {kOrange.r, kOrange.g, kOrange.b, 1};
             for (std::size_t channel = 0; channel < 4; ++channel) {
                 const double value = drawn[i + channel];
@@ -195,8 +214,8 @@ TEST_P(SurfaceDabsTest, FaintDabsAddUp) {
                 }
             }
         }
-        EXPECT_LT(worst, 1) << "flow " << c.flow;
-        EXPECT_LT(worstStraight, 0.2) << "flow " << c.flow;
+        EXPECT_LT(worst, 1) << "flow " << flow;
+        EXPECT_LT(worstStraight, 0.2) << "flow " << flow;
     }
 }
 

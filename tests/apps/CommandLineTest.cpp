@@ -58,8 +58,6 @@ TEST(CommandLineTest, HelpOfEveryCommand) {
         }
         EXPECT_TRUE(usageText(name).contains("EXIT STATUS\n")) << name.toStdString();
     }
-    for (const char* option : {"--size", "--set", "--background", "--repeatable", "--stats", "RECORDINGS"})
-        EXPECT_TRUE(usageText("paint").contains(option)) << option;
 }
 
 TEST(CommandLineTest, WrongOnesAreRefused) {

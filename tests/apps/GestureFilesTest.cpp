@@ -3,8 +3,6 @@
 
 #include <QDir>
 #include <map>
-#include <string>
-#include <vector>
 
 #include "CsvReader.h"
 #include "Recognition/Unitily.h"

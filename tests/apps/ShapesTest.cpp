@@ -7,8 +7,6 @@
 namespace dabcanvas::dabpaint {
 namespace {
 
-const QString kShapes = "shapes";
-
 // A level line and a stroke that is too short, their rows mixed.
 QByteArray twoStrokes() {
     QByteArray rows = "\xEF\xBB\xBFy,t,\"sample_id\",x\r\n";
@@ -24,8 +22,8 @@ const char kTwoRows[] = R"("a ""line"", level",line,,[01](\.[0-9]+)?,10 20\.5 50
 
 TEST_F(ProgramTest, ShapesComeStrokeByStrokeFromAnyInput) {
     const auto isTable = [](const std::string& rows) { return ::testing::MatchesRegex(kHeader + rows); };
-    for (const QStringList& arguments : {QStringList{kShapes}, QStringList{kShapes, "-"}}) {
-        const Ended ended = runProgram(arguments, twoStrokes());
+    for (const char* words : {"shapes", "shapes -"}) {
+        const Ended ended = run(words, twoStrokes());
         EXPECT_EQ(ended.status, 0) << ended.err.constData();
         EXPECT_THAT(ended.out.toStdString(), isTable(kTwoRows));
     }

@@ -25,9 +25,7 @@ protected:
         } else if (auto* combo = editor.findChild<QComboBox*>()) {
             combo->setCurrentIndex((combo->currentIndex() + 1) % combo->count());
         } else if (auto* spin = editor.findChild<QDoubleSpinBox*>()) {
-            spin->setValue(spin->value() + spin->singleStep() <= spin->maximum()
-                               ? spin->value() + spin->singleStep()
-                               : spin->value() - spin->singleStep());
+            spin->setValue(spin->value() < spin->maximum() ? spin->maximum() : spin->minimum());
         } else if (auto* swatch = editor.findChild<SwatchButton*>()) {
             swatch->click();
         } else if (auto* load = editor.findChild<QPushButton*>("load")) {
@@ -86,28 +84,26 @@ TEST_F(BrushPanelTest, SlidersReachBothEndsAndFollowTheValue) {
 
 // A point and a comma, whatever the locale makes of them; and after Return the keys are the canvas's again.
 TEST_F(BrushPanelTest, ATypedNumberIsTheNumber) {
-    const struct {
-        const char *locale, *typed;
-        float radius;
-    } rows[] = {{"de_DE", "12.5", 12.5f}, {"de_DE", "7,5", 7.5f}, {"en_US", "12,5", 12.5f},
-                {"en_US", "12.5", 12.5f}, {"de_CH", "3.5", 3.5f}, {"fr_FR", "4.5", 4.5f}};
+    const std::tuple<const char*, const char*, float> rows[] = {
+        {"de_DE", "12.5", 12.5f}, {"de_DE", "7,5", 7.5f}, {"en_US", "12,5", 12.5f},
+        {"en_US", "12.5", 12.5f}, {"de_CH", "3.5", 3.5f}, {"fr_FR", "4.5", 4.5f}};
     const auto& all = _window->panel().rows();
     BrushRow* row =
         *std::find_if(all.begin(), all.end(), [](auto* r) { return r->key() == BrushKey::radius; });
     auto* box = row->editor()->findChild<QDoubleSpinBox*>();
-    for (const auto& one : rows) {
-        SCOPED_TRACE(std::string(one.locale) + " " + one.typed);
-        box->setLocale(QLocale(QLatin1String(one.locale)));
+    for (const auto& [locale, typed, radius] : rows) {
+        SCOPED_TRACE(std::string(locale) + " " + typed);
+        box->setLocale(QLocale(QLatin1String(locale)));
         box->setFocus();
         box->selectAll();
         const auto press = [&](int key, const QString& text) {
             QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
             QApplication::sendEvent(QApplication::focusWidget(), &event);
         };
-        for (const char c : std::string(one.typed))
+        for (const char c : std::string(typed))
             press(c, QString(QLatin1Char(c)));
         press(Qt::Key_Return, "\r");
-        EXPECT_EQ(_window->brush().value(BrushKey::radius).toFloat(), one.radius);
+        EXPECT_EQ(_window->brush().value(BrushKey::radius).toFloat(), radius);
         EXPECT_TRUE(_window->viewport().hasFocus());
     }
 }

@@ -377,20 +377,17 @@ TEST_F(MainWindowTest, APlacedImageIsInTheMiddleAndFits) {
 
 TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
     const QByteArray png = contentOf(savedImage("good.png", Qt::green, QSize(300, 300)));
-    const struct {
-        const char* name;
-        QByteArray bytes;
-    } kBad[] = {{"empty.png", ""},
-                {"text.png", "this is no picture"},
-                {"cut.png", png.left(png.size() / 2)},
-                {"huge.ppm", "P6\n200000 200000\n255\nabc"},
-                {"area.ppm", "P6\n16000 16000\n255\nabc"}};
+    const std::pair<const char*, QByteArray> kBad[] = {{"empty.png", ""},
+                                                       {"text.png", "this is no picture"},
+                                                       {"cut.png", png.left(png.size() / 2)},
+                                                       {"huge.ppm", "P6\n200000 200000\n255\nabc"},
+                                                       {"area.ppm", "P6\n16000 16000\n255\nabc"}};
     paint();
     const QDDrawView* before = _window->view();
     const QImage painted = _window->view()->image();
     QStringList paths{path("missing.png"), _folder.path()};
-    for (const auto& bad : kBad) {
-        paths << writtenTo(path(bad.name), bad.bytes);
+    for (const auto& [name, bytes] : kBad) {
+        paths << writtenTo(path(name), bytes);
     }
     const LogCapture quiet;
     for (const QString& name : paths) {

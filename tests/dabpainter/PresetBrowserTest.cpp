@@ -43,7 +43,6 @@ protected:
         EXPECT_TRUE(QDBrushManager::saveParamsWithDrawView(_window->view(), name, path(file)));
         return path(file);
     }
-    QString saveBytes(const QString& file, const QByteArray& bytes) { return writtenTo(path(file), bytes); }
     // As the list shows them, from the first one that is a preset.
     QStringList shownNames() {
         QStringList names;
@@ -230,13 +229,13 @@ TEST_F(PresetBrowserTest, ADamagedFileLeavesTheBrushAsItWas) {
     for (const auto& [name, bytes] : kBad) {
         SCOPED_TRACE(qPrintable(name));
         _told.clear();
-        EXPECT_FALSE(presets().importFiles({saveBytes(name, bytes)}));
+        EXPECT_FALSE(presets().importFiles({writtenTo(path(name), bytes)}));
         ASSERT_EQ(_told.size(), 1);
         EXPECT_TRUE(_told[0].contains(name));
         EXPECT_FALSE(QFileInfo::exists(path("brushes/") + name));
         // And when it stands in the folder.
         ASSERT_TRUE(QDir().mkpath(path("brushes")));
-        const QString there = saveBytes("brushes/" + name, bytes);
+        const QString there = writtenTo(path("brushes/" + name), bytes);
         EXPECT_FALSE(presets().choose({there, 0}));
         EXPECT_EQ(_told.size(), 2);
     }
@@ -294,7 +293,7 @@ TEST_F(PresetBrowserTest, EveryBrushOfAFileIsAPresetOfItsOwn) {
     const QByteArray large = contentOf(saveElsewhere("large.xbf", "Large"));
     QByteArray both = small + large.mid(int(kXBFHeaderSize));
     both[8] = 2;  // how many brushes the header says there are
-    ASSERT_TRUE(presets().importFiles({saveBytes("both.xbf", both)}));
+    ASSERT_TRUE(presets().importFiles({writtenTo(path("both.xbf"), both)}));
     EXPECT_EQ(shownNames(), (QStringList{"Large", "Small"}));
     EXPECT_EQ(radius(), 66) << "the last one was chosen";
     const PresetId first{presets().chosen().path, 0};
@@ -305,7 +304,7 @@ TEST_F(PresetBrowserTest, EveryBrushOfAFileIsAPresetOfItsOwn) {
     EXPECT_EQ(contentOf(first.path), both);
     // Only what lies before the damage is usable.
     const LogCapture quiet;
-    saveBytes("brushes/both.xbf", both.left(both.size() - 40));
+    writtenTo(path("brushes/both.xbf"), both.left(both.size() - 40));
     EXPECT_TRUE(presets().choose(first));
     EXPECT_FALSE(presets().choose({first.path, 1}));
 }

@@ -77,6 +77,14 @@ private:
     QRectF _shown;
 };
 
+// The whole canvas, bottom row first.
+inline QByteArray bytesOf(QDDrawCanvas& canvas) {
+    const QRectF whole(QPointF(0, 0), canvas.bufferSize());
+    QByteArray bytes(canvas.image().sizeInBytes(), 0);
+    EXPECT_TRUE(canvas.readDataBufferRect(reinterpret_cast<unsigned char*>(bytes.data()), whole));
+    return bytes;
+}
+
 // What is drawn by chance for the lines and for the dabs, a point's copies apart from it.
 inline void jitter(QDDrawCanvas& canvas) {
     canvas.setRadius(20);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/GLTest.h"
 
-
 #include "ESRender/Utilities/ESGLErrors.h"
 
 void GLTest::SetUp() {
@@ -18,7 +17,7 @@ void GLTest::SetUp() {
     prepare();
 }
 
-void GLTest::TearDown() {
+GLTest::~GLTest() {
     if (!_context) {
         return;
     }

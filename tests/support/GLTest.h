@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The fixture of every test that draws: an ESContext, current for the whole test, with no host context.
 //
-// TearDown expects that no GL error was found: neither drained and logged on the way nor still pending.
+// At its end it expects that no GL error was found: neither drained and logged on the way nor still pending. What a
+// fixture keeps of its own goes before that.
 // Without OpenGL a test is skipped, or fails where DABCANVAS_REQUIRE_GL is set.
 #pragma once
 
@@ -17,7 +18,7 @@
 class GLTest : public ::testing::Test {
 protected:
     void SetUp() override;
-    void TearDown() override;
+    ~GLTest() override;
     // What a fixture makes of its own, once the context is there and current.
     virtual void prepare() {}
 

@@ -27,7 +27,8 @@ struct Picture {
     explicit Picture(const QImage& painted);
     // The number of pixels of which this holds.
     template <typename Holds>
-    int pixels(const Holds& holds, const QRect& within) const {
+    int pixels(const Holds& holds, QRect within = {}) const {
+        within = within.isNull() ? image.rect() : within;
         int found = 0;
         for (int y = within.top(); y <= within.bottom(); ++y) {
             for (int x = within.left(); x <= within.right(); ++x) {
@@ -35,10 +36,6 @@ struct Picture {
             }
         }
         return found;
-    }
-    template <typename Holds>
-    int pixels(const Holds& holds) const {
-        return pixels(holds, image.rect());
     }
     friend std::ostream& operator<<(std::ostream& out, const Picture& picture);
 };

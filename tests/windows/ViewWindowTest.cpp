@@ -77,8 +77,8 @@ protected:
         static const QPointingDevice pen(
             "pen", 81, QInputDevice::DeviceType::Stylus, QPointingDevice::PointerType::Pen,
             QInputDevice::Capability::Position | QInputDevice::Capability::Pressure, 1, 2);
-        static const bool registered = (QWindowSystemInterface::registerInputDevice(&pen), true);
-        Q_UNUSED(registered);
+        [[maybe_unused]] static const bool registered =
+            (QWindowSystemInterface::registerInputDevice(&pen), true);
         const auto report = [&](double x, Qt::MouseButtons buttons, double pressure) {
             const QPointF at = inWindow(x, y);
             // In pixels of the device, as platforms report them.

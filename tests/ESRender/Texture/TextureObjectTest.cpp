@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/Texture/TextureObject.h"
 
-#include <vector>
-
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "support/GLTest.h"
 #include "support/LogCapture.h"

@@ -8,6 +8,7 @@
 #include "ESRender/Utilities/ESGLTexture.h"
 #include "ESRender/Utilities/ESResource.h"
 #include "ESRender/Utilities/ShaderFiles.h"
+#include "support/Files.h"
 #include "support/GLTest.h"
 #include "support/LogCapture.h"
 
@@ -64,15 +65,13 @@ TEST_F(ESProgramTest, AShaderFileThatDoesNotCompileIsNamedAndTheEmbeddedOneUsed)
         {kFragment, true}, {kNonsense, false}, {QString(), false}, {QStringLiteral("#version 150\n"), false}};
     for (const auto& [text, usable] : kTexts) {
         const QTemporaryDir folder;
-        QFile file(folder.filePath(name));
         ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Shaders.bundle")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) >= 0);
-        file.close();
+        const QString file = writtenTo(folder.filePath(name), text.toUtf8());
         LogCapture log;
-        EXPECT_EQ(dabcanvas::shaderPathIn(folder.path(), name), usable ? file.fileName() : embedded);
-        EXPECT_EQ(dabcanvas::shaderPathIn(folder.path(), name), usable ? file.fileName() : embedded);
+        EXPECT_EQ(dabcanvas::shaderPathIn(folder.path(), name), usable ? file : embedded);
+        EXPECT_EQ(dabcanvas::shaderPathIn(folder.path(), name), usable ? file : embedded);
         EXPECT_EQ(log.lines().size(), usable ? 0 : 1);
-        EXPECT_EQ(log.has(file.fileName()), !usable);
+        EXPECT_EQ(log.has(file), !usable);
     }
 }
 

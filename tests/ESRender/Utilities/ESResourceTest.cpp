@@ -1,27 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "ESRender/Utilities/ESResource.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "ESRender/ESBaseRender.h"
 #include "ESRender/Utilities/ESShaderTools.h"
+#include "support/Files.h"
 #include "support/LogCapture.h"
 
 namespace {
 
 const QString kShader = QStringLiteral("Shaders.bundle/BaseLine_Mac.vsh");
-
-void write(const QString& path, const QByteArray& bytes) {
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 }  // namespace
 
@@ -30,7 +20,8 @@ TEST(ESResourceTest, AFileBesideTheLibraryWinsOverTheEmbeddedCopy) {
     const QString embedded = dabcanvas::resourcePathIn(folder.path(), kShader);
     EXPECT_EQ(embedded, QStringLiteral(":/dabcanvas/") + kShader);
     EXPECT_TRUE(ESBaseRender::stringWithPath(embedded).contains(QStringLiteral("a_center")));
-    write(folder.filePath(kShader), "replaced");
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("Shaders.bundle")));
+    writtenTo(folder.filePath(kShader), "replaced");
     EXPECT_EQ(ESBaseRender::stringWithPath(dabcanvas::resourcePathIn(folder.path(), kShader)),
               QStringLiteral("replaced"));
 }
@@ -55,7 +46,7 @@ TEST(ESResourceTest, EveryFileOfTheResourceFoldersIsEmbeddedAndStandsBesideTheLi
 
 TEST(ESResourceTest, NamesThatLeaveTheFolderOrMissAreNotFound) {
     const QTemporaryDir folder;
-    write(folder.filePath(QStringLiteral("secret.txt")), "secret");
+    writtenTo(folder.filePath(QStringLiteral("secret.txt")), "secret");
     const QString inside = folder.filePath(QStringLiteral("library"));
     ASSERT_TRUE(QDir().mkpath(inside));
     for (const QString& name :
@@ -73,10 +64,8 @@ TEST(ESResourceTest, NamesThatLeaveTheFolderOrMissAreNotFound) {
 
 TEST(ESResourceTest, TextsAreNullOnlyWhenThereIsNoFile) {
     const QTemporaryDir folder;
-    const QString empty = folder.filePath(QStringLiteral("empty"));
-    const QString umlaut = folder.filePath(QStringLiteral("umlaut"));
-    write(empty, "");
-    write(umlaut, "\xC3\xA4");
+    const QString empty = writtenTo(folder.filePath(QStringLiteral("empty")), "");
+    const QString umlaut = writtenTo(folder.filePath(QStringLiteral("umlaut")), "\xC3\xA4");
     EXPECT_FALSE(ESBaseRender::stringWithPath(empty).isNull());
     EXPECT_FALSE(ESShaderTools::readFileWithPath(empty).isNull());
     EXPECT_TRUE(ESBaseRender::stringWithPath(folder.filePath(QStringLiteral("none"))).isNull());

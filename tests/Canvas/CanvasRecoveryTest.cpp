@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+// Paintings that are killed at any moment, and what is left of them.
+#include <QCoreApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+#include <random>
+#include <tuple>
+
+#include "History/ImagesUndoManager.h"
+#include "History/UndoRecovery.h"
+#include "support/CanvasTest.h"
+
+using dabcanvas::UndoRecovery;
+
+namespace {
+
+constexpr const char* kFolder = "DABCANVAS_TEST_RECOVERY";
+
+// One act of many: a stroke, of which every fifth is no step, or a step back.
+void paint(QDDrawCanvas& canvas, int i) {
+    if (i % 8 == 4) {
+        canvas.undo();
+        return;
+    }
+    canvas.setAutoMark(i % 5 != 4);
+    canvas.setRenderColor(QColor::fromHsv(i * 37 % 360, 255, 200));
+    paintWave(canvas, 20 + i * 31 % 120, 12);
+}
+
+class CanvasRecoveryTest : public CanvasTest {
+protected:
+    void SetUp() override {
+        CanvasTest::SetUp();
+        UndoRecovery::setFolder(qEnvironmentVariable(kFolder, folder.path()));
+    }
+    void TearDown() override {
+        UndoRecovery::setFolder({});
+        CanvasTest::TearDown();
+    }
+    // How many acts a painting had said to be done when it was killed.
+    int killed(int afterActs, int andMillis) {
+        QProcess painting;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(kFolder, folder.path());
+        painting.setProcessEnvironment(environment);
+        painting.setReadChannel(QProcess::StandardError);
+        painting.start(QCoreApplication::applicationFilePath(),
+                       {"--gtest_also_run_disabled_tests", "--gtest_filter=*DISABLED_Painting"});
+        int acts = 0;
+        const auto count = [&] { acts += static_cast<int>(painting.readAllStandardError().count('.')); };
+        while (acts < afterActs && painting.waitForReadyRead(60'000)) {
+            count();
+        }
+        QThread::msleep(static_cast<unsigned long>(andMillis));
+        painting.kill();
+        painting.waitForFinished();
+        count();
+        return acts;
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(CanvasRecoveryTest, DISABLED_Painting) {
+    auto canvas = makeCanvas();
+    ASSERT_TRUE(canvas->setKeepsForRecovery(true));
+    for (int i = 0;; ++i) {
+        paint(*canvas, i);
+        std::fputc('.', stderr);
+    }
+}
+
+TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
+    std::mt19937 random(3);
+    const int rounds = qEnvironmentVariableIntValue("DABCANVAS_TEST_ROUNDS");
+    for (int round = 0; round < std::max(rounds, 4); ++round) {
+        SCOPED_TRACE(round);
+        const int told = killed(1 + static_cast<int>(random() % 60), static_cast<int>(random() % 30));
+        const auto left = UndoRecovery::list();
+        ASSERT_EQ(left.size(), 1);
+        EXPECT_EQ(left[0].size, QSize(200, 150));
+        EXPECT_FALSE(left[0].thumbnail.isNull());
+
+        auto canvas = makeCanvas();
+        QString problem;
+        ASSERT_TRUE(canvas->recoverHistory(left[0].id, &problem)) << qPrintable(problem);
+        EXPECT_TRUE(UndoRecovery::list().isEmpty());
+        EXPECT_FALSE(makeCanvas()->recoverHistory(left[0].id)) << "it is taken";
+        // It is what it was after one of the last acts, and so is all before it.
+        const auto looks = [](QDDrawCanvas& c) {
+            return std::tuple(c.undoManager().undoItems().size(), c.canRedo(), c.image());
+        };
+        const auto found = looks(*canvas);
+        auto expected = makeCanvas();
+        int acts = 0;
+        while (acts < told + 20 && (acts < told - 20 || looks(*expected) != found)) {
+            paint(*expected, acts++);
+        }
+        ASSERT_TRUE(imagesMatch(canvas->image(), expected->image())) << acts << " of " << told;
+        for (bool more = true; more;) {
+            more = !expected->undo().isNull();
+            EXPECT_EQ(!canvas->undo().isNull(), more);
+            ASSERT_TRUE(imagesMatch(canvas->image(), expected->image()));
+        }
+        while (!expected->redo().isNull()) {
+            EXPECT_FALSE(canvas->redo().isNull());
+            ASSERT_TRUE(imagesMatch(canvas->image(), expected->image()));
+        }
+        canvas.reset();
+        EXPECT_TRUE(UndoRecovery::list().isEmpty());
+    }
+}
+
+TEST_F(CanvasRecoveryTest, WhatCannotBeOpenedChangesNothing) {
+    killed(10, 0);
+    const QString id = UndoRecovery::list().at(0).id;
+    auto other = makeCanvas(100, 100);
+    paintWave(*other);
+    const QImage before = other->image();
+    for (const QString& wrong : {id, QString("none"), QString("../") + id, QString()}) {
+        QString problem;
+        EXPECT_FALSE(other->recoverHistory(wrong, &problem));
+        EXPECT_FALSE(problem.isEmpty());
+        EXPECT_TRUE(imagesMatch(other->image(), before));
+    }
+    EXPECT_EQ(UndoRecovery::list().size(), 1) << "it can be opened still";
+    EXPECT_TRUE(UndoRecovery::discard(UndoRecovery::list().at(0).id));
+}
+
+}  // namespace
