@@ -51,6 +51,11 @@ HWY_INLINE Vector alphaOf(Vector pixels) {
                                                              14, 15, 14, 15, 14, 15, 14, 15};
     return spread(pixels, kAlphas);
 }
+template <typename Vector>
+HWY_INLINE Vector lowestOf(Vector pixels) {
+    alignas(16) static constexpr std::uint8_t kLowest[16] = {0, 1, 0, 1, 0, 1, 0, 1, 8, 9, 8, 9, 8, 9, 8, 9};
+    return spread(pixels, kLowest);
+}
 HWY_INLINE Word between(Word low, Word high, Word part) {
     return hn::Add(low, hn::MulFixedPoint15(hn::Sub(high, low), part));
 }
@@ -140,9 +145,7 @@ public:
             places[lane] = static_cast<std::uint64_t>(first + steps.step * lane);
         }
         const Pixel place = hn::Load(kPixels, places);
-        alignas(16) static constexpr std::uint8_t kLowest[16] = {0, 1, 0, 1, 0, 1, 0, 1,
-                                                                 8, 9, 8, 9, 8, 9, 8, 9};
-        _part = hn::BitCast(kWords, hn::ShiftRight<1>(spread(hn::BitCast(kUnsigned, place), kLowest)));
+        _part = hn::BitCast(kWords, hn::ShiftRight<1>(lowestOf(hn::BitCast(kUnsigned, place))));
         _base = wholeOf(steps.at(i));
         const int last = wholeOf(steps.at(i + std::min(count, lanes()) - 1));
         const bool isInside = _base >= 0 && last + 1 < texels && steps.step >= 0;
@@ -264,10 +267,12 @@ HWY_INLINE Word cutTo(Word share, Word value, Word alpha) {
     const auto number = [&](Word words) HWY_ATTR {
         return hn::ConvertTo(floats, hn::ShiftRight<16>(hn::BitCast(ints, words)));
     };
-    const auto part = hn::Div(number(share), hn::Max(number(alpha), hn::Set(floats, 1)));
-    const auto of15 =
-        hn::ConvertTo(ints, hn::Mul(hn::Min(part, hn::Set(floats, 1)), hn::Set(floats, kSmudgeFull)));
-    return hn::MulFixedPoint15(value, hn::BitCast(kWords, hn::Or(of15, hn::ShiftLeft<16>(of15))));
+    const auto part =
+        hn::Min(hn::Div(number(share), hn::Max(number(alpha), hn::Set(floats, 1))), hn::Set(floats, 1));
+    // To the nearest whole number, which stands in the lowest bits then.
+    constexpr float kLastBitIsOne = 3 << 22;
+    const auto of15 = hn::Add(hn::Mul(part, hn::Set(floats, kSmudgeFull)), hn::Set(floats, kLastBitIsOne));
+    return hn::MulFixedPoint15(value, lowestOf(hn::BitCast(kWords, of15)));
 }
 
 // What dabs brought to pixels of which they exchanged this share.
