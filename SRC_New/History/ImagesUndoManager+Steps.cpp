@@ -99,7 +99,8 @@ void ImagesUndoManager::become(const HistoryMoment& moment) {
     auto steps = moment.undo;
     steps.push_back(moment.current);
     steps.insert(steps.end(), moment.redo.begin(), moment.redo.end());
-    UndoManager::setUndoStepCount(std::max(undoStepCount(), static_cast<unsigned>(steps.size())));
+    const unsigned most = undoStepCount();
+    UndoManager::setUndoStepCount(static_cast<unsigned>(steps.size()));  // while all of them are to be undone
     resetWithCurrentItem(steps.front().name);
     for (std::size_t i = 0; i < steps.size(); ++i) {
         if (i > 0) {
@@ -112,6 +113,7 @@ void ImagesUndoManager::become(const HistoryMoment& moment) {
     for (std::size_t i = 0; i < moment.redo.size(); ++i) {
         stepAnyway(Way::back);
     }
+    UndoManager::setUndoStepCount(std::max(most, static_cast<unsigned>(moment.undo.size())));
 }
 
 // ---- Budgets

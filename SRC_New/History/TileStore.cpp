@@ -140,9 +140,10 @@ void TileStore::note(HistoryMoment moment, bool sync) {
     if (_kept && !QFileInfo(_kept->path()).isDir()) {
         _kept->restore();
     }
+    auto noted = std::optional(std::move(moment));
     {
         const std::lock_guard lock(_shared->mutex);
-        _shared->noted = std::move(moment);
+        _shared->noted.swap(noted);  // what waited until now goes when the lock has, as its tiles take it
         _shared->syncs = sync;
     }
     _writing.run([shared = _shared.get()] { shared->writeNoted(); });

@@ -97,7 +97,7 @@ std::vector<std::uint8_t> smudged(const Size& size) {
         bytes[i + 3] = static_cast<std::uint8_t>(random() % 256);
         std::fill_n(&bytes[i], 3, static_cast<std::uint8_t>(bytes[i + 3] / (1 + random() % 3)));
     }
-    ProcessorSurface surface(size);
+    PictureSurface<std::uint8_t> surface(size, 16);
     surface.write(PictureId::first, Rect::of(size), PixelView::topRowFirst(bytes.data(), size));
     surface.prepareSmudge(PictureId::first);
     std::vector<SmudgeDab> dabs;

@@ -137,10 +137,12 @@ protected:
         _surface->clear(PaintLayer::line, touched);
         _surface->commit(PictureId::first, touched);
     }
+    // With all its bits.
     std::vector<std::uint8_t> picture() {
-        std::vector<std::uint8_t> bytes(pixelCount() * 4);
+        const int pixelBytes = _surface->pixelBytes();
+        std::vector<std::uint8_t> bytes(pixelCount() * static_cast<std::size_t>(pixelBytes));
         EXPECT_TRUE(_surface->read(PictureId::first, Rect::of(kSize),
-                                   MutablePixelView::topRowFirst(bytes.data(), kSize)));
+                                   MutablePixelView::topRowFirst(bytes.data(), kSize, pixelBytes)));
         return bytes;
     }
 
@@ -221,27 +223,6 @@ TEST_P(SurfaceDabsTest, FaintDabsAddUp) {
 
 class SurfaceStrokesTest : public SurfaceDabsTest {
 protected:
-    // A stroke of one opaque dab, so faint as a whole.
-    void stroke(float opacity) {
-        const DabStyle style{.tips = tipsOf({pictureOf({64, 64}, softDisc)}), .paper = {}};
-        const Dab dab = dabAt(36, 28, 60);
-        const Rect touched = _surface->draw(PaintLayer::line, {&dab, 1}, style);
-        const CompositeStyle faint{.blendType = 1, .opacity = opacity};
-        _surface->composite(PictureId::first, {&touched, 1}, faint);
-        const std::vector<std::uint8_t> once = picture();
-        _surface->composite(PictureId::first, {&touched, 1}, faint);
-        ASSERT_EQ(picture(), once) << "composited again";
-        _surface->clear(PaintLayer::line, touched);
-        _surface->commit(PictureId::first, touched);
-    }
-    // With all its bits.
-    std::vector<std::uint8_t> picture() {
-        const int pixelBytes = _surface->pixelBytes();
-        std::vector<std::uint8_t> bytes(pixelCount() * static_cast<std::size_t>(pixelBytes));
-        EXPECT_TRUE(_surface->read(PictureId::first, Rect::of(kSize),
-                                   MutablePixelView::topRowFirst(bytes.data(), kSize, pixelBytes)));
-        return bytes;
-    }
     // The same, 0..255.
     std::vector<double> values() {
         const std::vector<std::uint8_t> bytes = picture();
