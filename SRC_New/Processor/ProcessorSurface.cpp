@@ -47,7 +47,7 @@ PixelView viewOf(const Tile<Channel>* tile, const Rect& part) {
 // copyRows() of rows of a tile: so short that calling for each would take as long as copying it.
 void copyShortRows(const PixelView& from, const MutablePixelView& to) {
     constexpr std::ptrdiff_t kPiece = 32;
-    const std::ptrdiff_t bytes = std::ptrdiff_t{4} * from.size.width;
+    const std::ptrdiff_t bytes = std::ptrdiff_t{from.pixelBytes} * from.size.width;
     if (bytes < kPiece) {
         return copyRows(from, to);
     }
