@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -154,40 +156,176 @@ void readSpilledStep(benchmark::State& state) {
         [&] { benchmark::DoNotOptimize(history->currentImageDataOfItem().constData()); });
 }
 
-// What a stroke's end waits for where it is marked: the whole canvas is read, and kept.
-void markStroke(benchmark::State& state) {
-    Sketch sketch(state);
-    sketch.canvas().resetUndoManager();
-    compare(
-        state,
-        [&] {
-            sketch.nextStep();
-            settle(sketch.canvas().undoManager());
-        },
-        [&] { sketch.canvas().markAction(); });
+// Noise as a photograph has it, which compresses badly.
+QImage noise(const QSize& size) {
+    QImage image(size, QImage::Format_RGBA8888_Premultiplied);
+    std::uint32_t state = 1;
+    for (qsizetype i = 0; i < image.sizeInBytes(); ++i) {
+        state = state * 1664525 + 1013904223;
+        image.bits()[i] = i % 4 == 3 ? 255 : static_cast<uchar>(state >> 24);
+    }
+    return image;
 }
 
-// Undo, up to the pixels to show.
-void undoStroke(benchmark::State& state) {
-    Sketch sketch(state);
-    sketch.canvas().resetUndoManager();
-    sketch.nextStep();
-    sketch.canvas().markAction();
+// A canvas over such noise, and strokes across it.
+class Photo {
+public:
+    Photo(const benchmark::State& state, double radius)
+        : _size(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))),
+          canvas(QDDrawCanvas::initWithFrame(QRectF(QPointF(0, 0), _size))) {
+        if (!canvas) {
+            std::fprintf(stderr, "a canvas of %d x %d pixels cannot be made\n", _size.width(),
+                         _size.height());
+            std::exit(1);
+        }
+        canvas->setImage(noise(_size), QRectF(QPointF(0, 0), _size));
+        canvas->setRadius(static_cast<float>(radius));
+        canvas->resetUndoManager();
+    }
+    void stroke(int length) {
+        begin(length);
+        end();
+    }
+    void begin(int length) {
+        const int room = _size.height() - 200, number = _strokes++;
+        const QPointF from(100 + number * 331 % (_size.width() - length - 200), 100 + number * 157 % room);
+        canvas->setRenderColor(QColor::fromHsv(number * 70 % 360, 255, 90));
+        canvas->drawingWithBeginPoint(from, 1, -1, false);
+        for (int x = 0; x < length; x += 20) {
+            canvas->drawingWithMoveToPoint(from + QPointF(x, 20 * std::sin(x / 60.0)), 1, -1, false);
+        }
+        _end = from + QPointF(length, 0);
+    }
+    void end() { canvas->drawingWithEndPoint(_end, 1, -1, false); }
+    void settle() { ::settle(canvas->undoManager()); }
+
+private:
+    QSize _size;
+    int _strokes = 0;
+    QPointF _end;
+
+public:
+    std::unique_ptr<QDDrawCanvas> canvas;
+};
+
+// What a stroke's end, 600 pixels long, waits for where it is marked.
+void markStroke(benchmark::State& state) {
+    Photo photo(state, 20);
     compare(
         state,
         [&] {
-            settle(sketch.canvas().undoManager());
-            sketch.canvas().redo();
-            sketch.canvas().displayImage();
-            settle(sketch.canvas().undoManager());
+            photo.stroke(600);
+            photo.settle();
+        },
+        [&] { photo.canvas->markAction(); });
+}
+
+// The end of a stroke 600 pixels long, 0 or 1: with a step, up to the pixels to show.
+void strokeEnd(benchmark::State& state) {
+    Photo photo(state, 20);
+    photo.canvas->setAutoMark(state.range(2) != 0);
+    compare(
+        state,
+        [&] {
+            photo.begin(600);
+            photo.canvas->displayImage();
+            photo.settle();
         },
         [&] {
-            sketch.canvas().undo();
-            benchmark::DoNotOptimize(sketch.canvas().displayImage().constBits());
+            photo.end();
+            benchmark::DoNotOptimize(photo.canvas->displayImage().constBits());
         });
 }
 
-// A hundred strokes, with the limits as they are at first.
+// Undo of it, up to the pixels to show.
+void undoStroke(benchmark::State& state) {
+    Photo photo(state, 20);
+    photo.stroke(600);
+    photo.canvas->markAction();
+    compare(
+        state,
+        [&] {
+            photo.canvas->redo();
+            photo.canvas->displayImage();
+            photo.settle();
+        },
+        [&] {
+            photo.canvas->undo();
+            benchmark::DoNotOptimize(photo.canvas->displayImage().constBits());
+        });
+}
+
+// The same of a step that only the disk has.
+void undoSpilledStroke(benchmark::State& state) {
+    Photo photo(state, 20);
+    photo.stroke(600);
+    photo.canvas->markAction();
+    compare(
+        state,
+        [&] {
+            photo.canvas->redo();
+            photo.canvas->displayImage();
+            while (photo.canvas->undoManager().cachedBytes() > 0) {
+                photo.canvas->undoManager().didReceiveMemoryWarning();
+                photo.settle();
+            }
+        },
+        [&] {
+            photo.canvas->undo();
+            benchmark::DoNotOptimize(photo.canvas->displayImage().constBits());
+        });
+}
+
+// Resident memory of the process, in MiB.
+double residentMiB() {
+    QFile status(QStringLiteral("/proc/self/statm"));
+    return status.open(QIODevice::ReadOnly)
+               ? status.readAll().split(' ').value(1).toDouble() * 4096 / (1 << 20)
+               : 0;
+}
+
+// So many marked strokes over noise, 800 pixels long, of a brush 64 pixels wide: what they take beyond the picture.
+void strokesOverNoise(benchmark::State& state) {
+    for (auto _ : state) {
+        Photo photo(state, 32);
+        photo.settle();
+        const double before = residentMiB();
+        Rounds adding;
+        for (int i = 0; i < state.range(2); ++i) {
+            photo.stroke(800);
+            adding.time([&] { photo.canvas->markAction(); });
+        }
+        photo.settle();
+        const auto& history = photo.canvas->undoManager();
+        state.SetIterationTime(adding.median());
+        state.counters["more_MiB"] = residentMiB() - before;
+        state.counters["memory_MiB"] = static_cast<double>(history.cachedBytes()) / (1 << 20);
+        state.counters["disk_MiB"] = static_cast<double>(history.bytesOnDisk()) / (1 << 20);
+        state.counters["dropped"] = history.stepsDropped();
+    }
+}
+
+// A hundred strokes of the pen session, as the canvas keeps them.
+void hundredStrokes(benchmark::State& state) {
+    for (auto _ : state) {
+        Sketch sketch(state);
+        sketch.canvas().resetUndoManager();
+        Rounds adding;
+        for (int i = 0; i < 100; ++i) {
+            sketch.nextStep();
+            adding.time([&] { sketch.canvas().markAction(); });
+        }
+        settle(sketch.canvas().undoManager());
+        const auto& history = sketch.canvas().undoManager();
+        state.SetIterationTime(adding.median());
+        state.counters["memory_MiB"] = static_cast<double>(history.cachedBytes()) / (1 << 20);
+        state.counters["disk_MiB"] = static_cast<double>(history.bytesOnDisk()) / (1 << 20);
+        state.counters["dropped"] = history.stepsDropped();
+    }
+    state.SetLabel(penSession().label);
+}
+
+// The same, handed in as whole pictures, with the limits as they are at first.
 void hundredSteps(benchmark::State& state) {
     constexpr int kSteps = 100;
     for (auto _ : state) {
@@ -218,7 +356,21 @@ void onBothSizes(benchmark::internal::Benchmark* row) {
 }
 BENCHMARK(addStep)->Apply(onBothSizes)->Iterations(40);
 BENCHMARK(markStroke)->Apply(onBothSizes)->Iterations(40);
-BENCHMARK(undoStroke)->Apply(onBothSizes)->Iterations(40);
+BENCHMARK(strokeEnd)
+    ->Args({3840, 2160, 0})
+    ->Args({3840, 2160, 1})
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond)
+    ->Iterations(40);
+BENCHMARK(undoStroke)->Apply(onBothSizes)->Args({8000, 8000})->Iterations(40);
+BENCHMARK(undoSpilledStroke)->Apply(onBothSizes)->Args({8000, 8000})->Iterations(20);
+BENCHMARK(strokesOverNoise)
+    ->Args({3840, 2160, 70})
+    ->Args({8192, 8192, 8})
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond)
+    ->Iterations(1);
+BENCHMARK(hundredStrokes)->Apply(onBothSizes)->Iterations(1);
 BENCHMARK(readCachedStep)->Apply(onBothSizes)->Iterations(40);
 BENCHMARK(readSpilledStep)->Apply(onBothSizes)->Iterations(40);
 BENCHMARK(hundredSteps)->Apply(onBothSizes)->Iterations(1);
