@@ -261,9 +261,11 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
         }
         if (contents->present < 0 || !_record.tiles()->adopt(*contents)) {
             *problem = QStringLiteral(
-                           "it is of a canvas of %1 x %2 pixels, or this one has a history on disk already")
+                           "it is of a canvas of %1 x %2 pixels and %3 bits, or this one has a history on "
+                           "disk already")
                            .arg(contents->format.picture.width)
-                           .arg(contents->format.picture.height);
+                           .arg(contents->format.picture.height)
+                           .arg(contents->format.pixelBytes * 2);
             return refuse();
         }
         const auto pictures = picturesOf(*contents, *_record.tiles());

@@ -23,8 +23,9 @@ namespace dabcanvas {
 
 struct RecoverableHistory {
     QString id;
-    QString path;  // of its folder
-    QSize size;    // of the canvas; empty when it cannot be read
+    QString path;         // of its folder
+    QSize size;           // of the canvas that it can be opened in; empty when it cannot be read
+    int canvasDepth = 8;  // of that canvas, see SurfaceOptions
     // When the last step, undo or redo was written, or what was painted after it.
     QDateTime lastChange;
     int steps = 0;  // pictures that can be had: the current step, what can be undone, what can be redone

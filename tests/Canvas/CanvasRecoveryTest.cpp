@@ -91,6 +91,7 @@ TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
 
         auto canvas = makeCanvas();
         QString problem;
+        EXPECT_EQ(left[0].canvasDepth, 8);
         ASSERT_TRUE(canvas->recoverHistory(left[0].id, &problem)) << qPrintable(problem);
         EXPECT_TRUE(UndoRecovery::list().isEmpty());
         EXPECT_FALSE(makeCanvas()->recoverHistory(left[0].id)) << "it is taken";
