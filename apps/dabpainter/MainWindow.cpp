@@ -27,6 +27,8 @@
 #include "BrushStorage.h"
 #include "CanvasPointer.h"
 #include "CanvasViewport.h"
+#include "History/ImagesUndoManager.h"
+#include "MemoryWatch.h"
 #include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 
@@ -115,6 +117,11 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     connect(&_brush, &BrushModel::changed, this, [this](BrushKey key) {
         _unwritten.insert(key);
         noteChange();
+    });
+    connect(new MemoryWatch(this), &MemoryWatch::runsShort, this, [this] {
+        if (view() != nullptr) {
+            view()->undoManager().didReceiveMemoryWarning();
+        }
     });
     connect(_presets, &PresetBrowser::stateChanged, this, &MainWindow::noteChange);
     connect(_panel, &BrushPanel::stateChanged, this, &MainWindow::noteChange);
