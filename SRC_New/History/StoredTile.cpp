@@ -105,15 +105,18 @@ void TileStore::Shared::keep(bool isKept) {
 
 void TileStore::Shared::writeNoted() {
     std::optional<HistoryMoment> moment;
+    bool isWanted = false, waitsForDisk = false;
     {
         const std::lock_guard lock(mutex);
         moment.swap(noted);
+        isWanted = moment && !isEnding;
+        waitsForDisk = syncs;
     }
-    if (!moment || isEnding) {
+    if (!isWanted) {
         return;
     }
     QString problem;
-    const bool written = steps.write(*moment, journal, &problem) && (!syncs || journal.sync(&problem));
+    const bool written = steps.write(*moment, journal, &problem) && (!waitsForDisk || journal.sync(&problem));
     moment.reset();
     freeFiles();
     if (!written || !writeSparse(&problem)) {

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "History/ImagesUndoManager.h"
+#include "History/UndoRecovery.h"
 #include "support/CanvasTest.h"
 #include "support/Hearer.h"
 #include "support/Limits.h"
@@ -133,6 +134,18 @@ TEST_F(CanvasHistoryTest, EveryStepThatIsKeptComesBackWhateverTheDiskDoes) {
     present = 0;
     canvas.reset();
     EXPECT_FALSE(QDir(steps).exists());
+}
+
+TEST_F(CanvasHistoryTest, WhatIsWrittenDownMeanwhileChangesNothing) {
+    dabcanvas::UndoRecovery::setFolder(folder.filePath("kept"));
+    for (const bool keeps : {true, false, true}) {
+        ASSERT_TRUE(canvas->setKeepsForRecovery(keeps));
+        sketch(50);
+    }
+    dabcanvas::UndoRecovery::setFolder({});
+    EXPECT_EQ(QDir(folder.filePath("kept")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+    canvas.reset();
+    EXPECT_TRUE(QDir(folder.filePath("kept")).isEmpty());
 }
 
 TEST_F(CanvasHistoryTest, AStepThatTheDiskHasLostIsRefusedAndTheNextOnesAreNot) {
