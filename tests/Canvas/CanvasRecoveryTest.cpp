@@ -85,6 +85,9 @@ TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
         const int told = killed(1 + static_cast<int>(random() % 60),
                                 rests ? 1500 : static_cast<int>(random() % 30), rests);
         const auto left = UndoRecovery::list();
+        if (left.isEmpty() && !rests) {
+            continue;  // it died before its first moment was written
+        }
         ASSERT_EQ(left.size(), 1);
         EXPECT_EQ(left[0].size, QSize(200, 150));
         EXPECT_FALSE(left[0].thumbnail.isNull());
