@@ -230,7 +230,7 @@ bool CanvasHistory::keep(bool keeps, QString* problem) {
     if (keeps && !folder) {
         return false;
     }
-    images(false);
+    images(_record.isGiven());
     _record.tiles()->keepIn(std::move(folder));
     note();
     return true;
@@ -259,19 +259,23 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
         if (!contents) {
             return refuse();
         }
-        if (contents->present < 0 || !_record.tiles()->adopt(*contents)) {
-            *problem = QStringLiteral(
-                           "it is of a canvas of %1 x %2 pixels and %3 bits, or this one has a history on "
-                           "disk already")
+        const JournalFormat own{_layers.size(), _layers.surface().pixelBytes()};
+        if (contents->present < 0 || contents->format != own) {
+            *problem = QStringLiteral("it is of a canvas of %1 x %2 pixels and %3 bits")
                            .arg(contents->format.picture.width)
                            .arg(contents->format.picture.height)
                            .arg(contents->format.pixelBytes * 2);
             return refuse();
         }
-        const auto pictures = picturesOf(*contents, *_record.tiles());
-        HistoryMoment moment = momentOf(*contents, pictures);
         images(false);
         _layers.settle();
+        _record.startAnew();
+        _images->keepTilesIn(_record.tiles());
+        if (!_record.tiles()->adopt(*contents)) {
+            return refuse();
+        }
+        const auto pictures = picturesOf(*contents, *_record.tiles());
+        const HistoryMoment moment = momentOf(*contents, pictures);
         if (!_record.show(StepPicture(pictures[static_cast<std::size_t>(contents->present)]), problem)) {
             return refuse();
         }
@@ -281,8 +285,10 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
         *problem = QStringLiteral("there is no memory for it");
         return refuse();
     }
+    folder->renumber();
     _record.tiles()->keepIn(std::move(folder));
     note();
+    problem->clear();
     return true;
 }
 

@@ -305,8 +305,9 @@ bool QDDrawCanvas::keepsForRecovery() const {
 
 bool QDDrawCanvas::setKeepsForRecovery(bool keeps) {
     const Host::Call call(_inside->host);
-    QString problem;
-    if (!_inside->parts->finishPreview() || !_inside->parts->history.keep(keeps, &problem)) {
+    QString problem = QStringLiteral("a stroke is in progress");
+    if (!_inside->parts->finishPreview() || _inside->parts->isDrawing() ||
+        !_inside->parts->history.keep(keeps, &problem)) {
         qCWarning(lcDabcanvas, "The history cannot be kept: %ls", qUtf16Printable(problem));
         return false;
     }

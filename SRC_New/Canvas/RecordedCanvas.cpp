@@ -47,6 +47,12 @@ void RecordedCanvas::give(const QByteArray& data) {
     _given = hasCanvasSize();
 }
 
+void RecordedCanvas::startAnew() {
+    auto tiles = std::make_shared<TileStore>(_layers.size(), _layers.surface().pixelBytes());
+    give({});
+    _tiles = std::move(tiles);
+}
+
 bool RecordedCanvas::giveBlank() {
     give({});
     return withMemory(
@@ -189,7 +195,7 @@ std::optional<Rect> RecordedCanvas::show(const StepPicture& picture, QString* pr
                 return std::nullopt;
             }
             auto tiles = picture.tiles();
-            if (!tiles || tiles->layout().picture() != _layers.size()) {
+            if (!tiles || tiles->layout().picture() != _layers.size() || !tiles->isIn(*_tiles)) {
                 tiles = std::make_shared<const TilePicture>(tilesOf(picture));
             }
             std::vector<PlacedTile> placed;

@@ -28,6 +28,8 @@ public:
     bool hasCanvasSize() const { return data().size() == bytesOfCanvas(); }
     // What its pictures are made of.
     const std::shared_ptr<TileStore>& tiles() const { return _tiles; }
+    // With other tiles from now on, and no picture.
+    void startAnew();
 
     // Any other picture, as a host does; sketches are taken back to it, all of it, until it is read anew.
     void give(const QByteArray& data);
@@ -60,7 +62,7 @@ private:
     void become(std::shared_ptr<const TilePicture> picture);
 
     PaintLayers& _layers;
-    const std::shared_ptr<TileStore> _tiles;
+    std::shared_ptr<TileStore> _tiles;
     std::shared_ptr<const TilePicture> _picture;  // as the canvas was read last, or what was given
     std::shared_ptr<const TilePicture> _told;     // the same, as it was recorded last
     QByteArray _bytes;                            // a host's, in its place

@@ -36,10 +36,17 @@ constexpr qint64 fileOf(qint64 budget) {
 void ImagesUndoManager::keepTilesIn(std::shared_ptr<TileStore> tiles) {
     const std::lock_guard lock(_operation);
     _tiles = std::move(tiles);
+    _tiles->setFileBytes(fileOf(_diskByteBudget));
+}
+
+// Another canvas's is kept as bytes.
+bool ImagesUndoManager::isOwn(const StepPicture& picture) const {
+    const std::lock_guard lock(_operation);
+    return picture.tiles() && _tiles && picture.tiles()->isIn(*_tiles);
 }
 
 bool ImagesUndoManager::addItemWithPicture(const StepPicture& picture) {
-    if (!picture.tiles()) {
+    if (!isOwn(picture)) {
         return addItemWithImageData(picture);
     }
     const std::lock_guard lock(_operation);
@@ -51,7 +58,7 @@ bool ImagesUndoManager::addItemWithPicture(const StepPicture& picture) {
 
 bool ImagesUndoManager::resetWithPictureOfCurrentItem(const StepPicture& picture) {
     const std::lock_guard lock(_operation);
-    if (!picture.tiles()) {
+    if (!isOwn(picture)) {
         return resetWithImageDataOfCurrentItem(picture);
     }
     reset();

@@ -12,6 +12,7 @@
 #include "History/HistoryLog.h"
 #include "History/Packing.h"
 #include "History/TempFolder.h"
+#include "History/TileStore.h"
 #include "Maths/Tools.h"
 
 using namespace dabcanvas;
@@ -110,7 +111,11 @@ void ImagesUndoManager::beginItem() {
         dropOldestUndoItem();
         letGoOfUnused({items.first()});
     }
-    addItemWithString(Tools::dateString());
+    QString name = Tools::dateString();
+    while (!_store.step(name).isNull() || _store.has(name, {})) {
+        name = Tools::dateString();  // of a history that another process began
+    }
+    addItemWithString(name);
 }
 
 bool ImagesUndoManager::addItemWithImage(const QImage& image) {
@@ -310,8 +315,10 @@ void ImagesUndoManager::removeOneObjectFromCache() {
 }
 
 bool ImagesUndoManager::evictOne(bool ofSteps) {
+    // One that is kept goes on being written down.
+    const bool withSteps = ofSteps && !(_tiles && _tiles->isKept());
     const QString name =
-        farthestFrom(_store.cachedNames(ofSteps), undoItems(), redoItems(), currentStringItem());
+        farthestFrom(_store.cachedNames(withSteps), undoItems(), redoItems(), currentStringItem());
     if (name.isNull() || pathWithName(name).isNull()) {
         return false;
     }

@@ -171,6 +171,7 @@ private:
     void beginItem();
     void relieve(qint64 most);
     bool dropFarthest();
+    bool isOwn(const dabcanvas::StepPicture& picture) const;
     void pack(const std::shared_ptr<dabcanvas::Snapshot>& image);
     QString nameOfPath(const QString& path) const;
     void letGoOfUnused(const QStringList& names);

@@ -14,7 +14,7 @@ class TempFolder;
 
 // A new one. It goes with its owner, unless he leaves it or dies.
 std::unique_ptr<TempFolder> startKeptHistory(QString* problem);
-// One that a dead process left. It is the one used last from now on, by another id.
+// One that a dead process left; renumber() makes it the one used last, by another id.
 std::unique_ptr<TempFolder> claimKeptHistory(const QString& id, QString* problem);
 
 }  // namespace dabcanvas

@@ -6,8 +6,18 @@
 
 namespace dabcanvas {
 
+namespace {
+
+constexpr qsizetype kMostName = 1 << 14;  // a journal takes longer ones for nothing
+
+bool isWritable(const HistoryMoment::Step& step) {
+    return step.picture && !step.name.isEmpty() && step.name.size() <= kMostName;
+}
+
+}  // namespace
+
 bool StepJournal::write(const HistoryMoment& moment, TileJournal& journal, QString* problem) {
-    const auto state = changes(moment, false, problem);
+    const auto state = changes(moment, _written, problem);
     if (!state || !journal.appendState(*state, problem)) {
         _written.clear();
         return false;
@@ -21,59 +31,49 @@ bool StepJournal::write(const HistoryMoment& moment, TileJournal& journal, QStri
     return true;
 }
 
-std::optional<JournalState> StepJournal::whole() {
+std::optional<JournalState> StepJournal::whole() const {
     QString problem;
-    return _last ? changes(*_last, true, &problem) : std::nullopt;
+    return _last ? changes(*_last, {}, &problem) : std::nullopt;
 }
 
-std::optional<JournalState> StepJournal::changes(const HistoryMoment& moment, bool all, QString* problem) {
-    if (all) {
-        _written.clear();
-    }
+// Writing a tile may begin a file, which asks for the whole: nothing of this object changes meanwhile.
+std::optional<JournalState> StepJournal::changes(const HistoryMoment& moment, const Written& written,
+                                                 QString* problem) const {
     JournalState state;
-    _base = {};
+    HistoryMoment::Step base;  // the last step that is written
     bool sound = true;
-    const auto addTo = [&](QStringList* names, const HistoryMoment::Step& step) {
-        sound = sound && add(step, state, problem);
-        if (names != nullptr) {
-            names->append(step.name);
+    // As the change of the step before it, unless it is written already.
+    const auto add = [&](const HistoryMoment::Step& step) {
+        if (!sound || !isWritable(step)) {
+            return;
         }
+        if (written.value(step.name) != step.picture) {
+            auto changed = difference(base.picture.get(), *step.picture, problem);
+            sound = changed.has_value();
+            state.steps.push_back({step.name, base.name, std::move(changed).value_or(Changes())});
+        }
+        base = step;
     };
     for (const auto& step : moment.undo) {
-        addTo(&state.undo, step);
+        add(step);
+        state.undo.append(step.name);
     }
-    addTo(nullptr, moment.current);
+    add(moment.current);
     state.current = moment.current.name;
-    const HistoryMoment::Step& base = moment.current.picture ? moment.current : _base;
     if (sound && moment.present && (!base.picture || *moment.present != *base.picture)) {
         auto changed = difference(base.picture.get(), *moment.present, problem);
         sound = changed.has_value();
-        state.present = JournalPresent{base.name, std::move(changed).value_or(std::vector<TileChange>())};
+        state.present = JournalPresent{base.name, std::move(changed).value_or(Changes())};
     }
     for (const auto& step : moment.redo) {
-        addTo(&state.redo, step);
+        add(step);
+        state.redo.append(step.name);
     }
     return sound ? std::optional(std::move(state)) : std::nullopt;
 }
 
-// As the change of the step before it, unless it is written already.
-bool StepJournal::add(const HistoryMoment::Step& step, JournalState& state, QString* problem) {
-    if (!step.picture) {
-        return true;
-    }
-    if (_written.value(step.name) != step.picture) {
-        auto changed = difference(_base.picture.get(), *step.picture, problem);
-        if (!changed) {
-            return false;
-        }
-        state.steps.push_back({step.name, _base.name, std::move(*changed)});
-    }
-    _base = step;
-    return true;
-}
-
-std::optional<std::vector<TileChange>> StepJournal::difference(const TilePicture* from, const TilePicture& to,
-                                                               QString* problem) {
+std::optional<StepJournal::Changes> StepJournal::difference(const TilePicture* from, const TilePicture& to,
+                                                            QString* problem) const {
     const TilePicture blank(to.layout().picture());
     std::vector<TileChange> changes;
     bool sound = true;

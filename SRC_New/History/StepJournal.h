@@ -38,18 +38,18 @@ public:
     // False, and why, when the disk does not take it; then all of it is written next time.
     bool write(const HistoryMoment& moment, TileJournal& journal, QString* problem);
     // All of what was written last; nothing before.
-    std::optional<JournalState> whole();
+    std::optional<JournalState> whole() const;
 
 private:
-    std::optional<JournalState> changes(const HistoryMoment& moment, bool all, QString* problem);
-    bool add(const HistoryMoment::Step& step, JournalState& state, QString* problem);
-    std::optional<std::vector<TileChange>> difference(const TilePicture* from, const TilePicture& to,
-                                                      QString* problem);
+    using Changes = std::vector<TileChange>;
+    using Written = QHash<QString, std::shared_ptr<const TilePicture>>;
+    std::optional<JournalState> changes(const HistoryMoment& moment, const Written& written,
+                                        QString* problem) const;
+    std::optional<Changes> difference(const TilePicture* from, const TilePicture& to, QString* problem) const;
 
     const Numbered _numbered;
     std::optional<HistoryMoment> _last;
-    QHash<QString, std::shared_ptr<const TilePicture>> _written;
-    HistoryMoment::Step _base;  // the last step that was added
+    Written _written;  // of the last
 };
 
 }  // namespace dabcanvas

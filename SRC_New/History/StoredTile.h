@@ -84,6 +84,7 @@ public:
     // Into the journal, in the background: `anew` from where it is there already. False when the disk does not take it.
     bool write(bool anew, QString* problem);
     std::uint64_t number() const { return _number; }
+    bool isOf(const TileStore::Shared& shared) const { return _shared.get() == &shared; }
     void endWriting(bool written);
 
 private:

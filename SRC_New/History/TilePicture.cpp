@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "History/TilePicture.h"
 
+#include <algorithm>
 #include <new>
 
 #include "Surface/DepthRows.h"
@@ -13,6 +14,19 @@ const TileRef& TilePicture::at(std::size_t index) const {
     static const TileRef kTransparent;
     const auto& row = _rows[index / columns()];
     return row ? (*row)[index % columns()] : kTransparent;
+}
+
+// A picture's tiles are all of one store.
+bool TilePicture::isIn(const TileStore& store) const {
+    for (const auto& row : _rows) {
+        const auto found =
+            row ? std::find_if(row->begin(), row->end(), [](const TileRef& tile) { return tile != nullptr; })
+                : Row::iterator();
+        if (row && found != row->end()) {
+            return store.owns(**found);
+        }
+    }
+    return true;
 }
 
 void TilePicture::set(std::size_t index, const TileRef& tile) {

@@ -29,6 +29,8 @@ public:
     }
     const TileRef& at(std::size_t index) const;
     void set(std::size_t index, const TileRef& tile);
+    // Whether all of it lies in this store, as the pictures of one canvas do.
+    bool isIn(const TileStore& store) const;
     // The same versions throughout; pictures that are not may look alike.
     friend bool operator==(const TilePicture& one, const TilePicture& other) {
         return one._rows == other._rows;

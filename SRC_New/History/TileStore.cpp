@@ -68,6 +68,10 @@ TileRef TileStore::keep(SharedTile pixels) {
     return std::make_shared<StoredTile>(_shared, std::move(pixels));
 }
 
+bool TileStore::owns(const StoredTile& tile) const {
+    return tile.isOf(*_shared);
+}
+
 void TileStore::show(StoredTile& tile) {
     tile.show();
 }

@@ -41,6 +41,7 @@ public:
 
     // A new version, yet to be shown. Throws std::bad_alloc.
     TileRef keep(SharedTile pixels);
+    bool owns(const StoredTile& tile) const;
     // They are shown in one more place, or in one less; see compress().
     static void show(StoredTile& tile);
     static void retire(StoredTile& tile);

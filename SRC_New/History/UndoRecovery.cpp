@@ -170,11 +170,7 @@ std::unique_ptr<TempFolder> startKeptHistory(QString* problem) {
 }
 
 std::unique_ptr<TempFolder> claimKeptHistory(const QString& id, QString* problem) {
-    auto folder = TempFolder::takeKept(pathOf(id), problem);
-    if (folder) {
-        folder->renumber();
-    }
-    return folder;
+    return TempFolder::takeKept(pathOf(id), problem);
 }
 
 }  // namespace dabcanvas

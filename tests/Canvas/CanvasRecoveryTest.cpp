@@ -18,8 +18,23 @@ namespace {
 constexpr const char* kFolder = "DABCANVAS_TEST_RECOVERY";
 constexpr const char* kActs = "DABCANVAS_TEST_ACTS";  // after which the painter rests; none: he goes on
 
-// One act of many: a stroke, of which every fifth is no step, or a step back.
+// Nothing of it can be compressed.
+QImage noise(int seed) {
+    std::minstd_rand random(static_cast<unsigned>(seed + 1));
+    QImage image(200, 150, QImage::Format_RGBA8888_Premultiplied);
+    for (qsizetype i = 0; i < image.sizeInBytes(); ++i) {
+        image.bits()[i] = static_cast<uchar>(i % 4 == 3 ? 255 : random() >> 8);
+    }
+    return image;
+}
+
+// One act of many: a stroke, of which every fifth is no step, a picture, or a step back.
 void paint(QDDrawCanvas& canvas, int i) {
+    if (i % 8 == 6) {
+        canvas.setAutoMark(true);
+        canvas.setImage(noise(i), QRectF(0, 0, 200, 150));
+        return;
+    }
     if (i % 8 == 4) {
         canvas.undo();
         return;
@@ -66,6 +81,7 @@ protected:
 
 TEST_F(CanvasRecoveryTest, DISABLED_Painting) {
     auto canvas = makeCanvas();
+    canvas->undoManager().setDiskByteBudget(128 << 20);  // so that files are begun while it paints
     ASSERT_TRUE(canvas->setKeepsForRecovery(true));
     for (int i = 0;; ++i) {
         paint(*canvas, i);
