@@ -39,6 +39,11 @@ public:
     bool write(const HistoryMoment& moment, TileJournal& journal, QString* problem);
     // All of what was written last; nothing before.
     std::optional<JournalState> whole() const;
+    // Lets go of what was written last: its tiles hold the store that holds this.
+    void forget() {
+        _last.reset();
+        _written.clear();
+    }
 
 private:
     using Changes = std::vector<TileChange>;

@@ -100,6 +100,7 @@ void TileStore::Shared::keep(bool isKept) {
         journal.keep([this] { return steps.whole(); });
     } else {
         journal.keep(nullptr);
+        steps.forget();
     }
 }
 

@@ -60,8 +60,15 @@ TileStore::TileStore(const Size& picture, int pixelBytes)
     : _shared(std::make_shared<Shared>(picture, pixelBytes)) {}
 
 TileStore::~TileStore() {
-    const std::lock_guard lock(_shared->mutex);
-    _shared->isEnding = true;
+    std::optional<HistoryMoment> noted;
+    {
+        const std::lock_guard lock(_shared->mutex);
+        _shared->isEnding = true;
+        _shared->noted.swap(noted);
+    }
+    _packing.wait();
+    _writing.wait();
+    _shared->steps.forget();
 }
 
 TileRef TileStore::keep(SharedTile pixels) {

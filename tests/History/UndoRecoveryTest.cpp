@@ -148,7 +148,7 @@ TEST_F(UndoRecoveryTest, WhatWasUsedLongestAgoMakesRoom) {
         leave(steps);
     }
     // The first one is used again, and left, though by the clock it is the oldest.
-    inDyingProcess([] { claimKeptHistory("History000001", &problem()).release(); });
+    inDyingProcess([] { claimKeptHistory("History000001", &problem()).release()->renumber(); });
     auto histories = UndoRecovery::list();
     ASSERT_EQ(stepsOf(histories), QList<int>({1, 4, 3, 2}));
     UndoRecovery::setByteLimit(histories[0].bytes + histories[1].bytes);
