@@ -237,8 +237,9 @@ void strokeEnd(benchmark::State& state) {
         });
 }
 
-// Undo of it, up to the pixels to show.
-void undoStroke(benchmark::State& state) {
+// Undo of it, up to the pixels to show, from where `prepare` has brought the step.
+template <typename Prepare>
+void timeUndo(benchmark::State& state, const Prepare& prepare) {
     Photo photo(state, 20);
     photo.stroke(600);
     photo.canvas->markAction();
@@ -247,7 +248,7 @@ void undoStroke(benchmark::State& state) {
         [&] {
             photo.canvas->redo();
             photo.canvas->displayImage();
-            photo.settle();
+            prepare(photo);
         },
         [&] {
             photo.canvas->undo();
@@ -255,25 +256,18 @@ void undoStroke(benchmark::State& state) {
         });
 }
 
-// The same of a step that only the disk has.
+void undoStroke(benchmark::State& state) {
+    timeUndo(state, [](Photo& photo) { photo.settle(); });
+}
+
+// Of a step that only the disk has.
 void undoSpilledStroke(benchmark::State& state) {
-    Photo photo(state, 20);
-    photo.stroke(600);
-    photo.canvas->markAction();
-    compare(
-        state,
-        [&] {
-            photo.canvas->redo();
-            photo.canvas->displayImage();
-            while (photo.canvas->undoManager().cachedBytes() > 0) {
-                photo.canvas->undoManager().didReceiveMemoryWarning();
-                photo.settle();
-            }
-        },
-        [&] {
-            photo.canvas->undo();
-            benchmark::DoNotOptimize(photo.canvas->displayImage().constBits());
-        });
+    timeUndo(state, [](Photo& photo) {
+        while (photo.canvas->undoManager().cachedBytes() > 0) {
+            photo.canvas->undoManager().didReceiveMemoryWarning();
+            photo.settle();
+        }
+    });
 }
 
 // Resident memory of the process, in MiB.

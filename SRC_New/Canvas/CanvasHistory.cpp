@@ -76,7 +76,7 @@ CanvasHistory::CanvasHistory(PaintLayers& layers, RecordedCanvas& record)
 CanvasHistory::~CanvasHistory() = default;
 
 // It begins with the canvas as it was made. That was transparent, so nothing need be read.
-ImagesUndoManager& CanvasHistory::images(bool sketching) {
+ImagesUndoManager& CanvasHistory::images(bool leavesRecord) {
     if (_images == nullptr) {
         _images = ImagesUndoManager::init();
         _images->keepTilesIn(_record.tiles());
@@ -88,7 +88,7 @@ ImagesUndoManager& CanvasHistory::images(bool sketching) {
         } else {
             _images->resetWithPictureOfCurrentItem(blank);
         }
-        if (!sketching) {
+        if (!leavesRecord) {
             _record.giveBlank();
         }
         _images->setFilePathExtension({});  // raw pixels
@@ -157,6 +157,9 @@ std::pair<int, int> CanvasHistory::stepsDropped() {
         return {};
     }
     const unsigned dropped = _images->stepsDropped();
+    if (dropped == _droppedTold) {
+        return {};  // as after nearly every event
+    }
     return {static_cast<int>(dropped - std::exchange(_droppedTold, dropped)),
             static_cast<int>(_images->undoItems().size())};
 }

@@ -27,8 +27,9 @@ public:
     bool autoMark = false;
     float markTimeInterval = 0;  // seconds
 
-    // Makes it, if there is none yet. sketching: a sketch has yet to be taken back to what is recorded.
-    ImagesUndoManager& images(bool sketching);
+    // Makes it, if there is none yet, and the blank canvas that it begins with what is recorded. leavesRecord: but for
+    // that, as a sketch has yet to be taken back to what is recorded, or the canvas was just read.
+    ImagesUndoManager& images(bool leavesRecord);
     StepPicture load(bool sketching);
     // Makes the present canvas the only step; null without the memory.
     StepPicture reset();

@@ -94,24 +94,29 @@ TileRef RecordedCanvas::version(const PlacedTile& read, const TileRef& before) {
     return read.tile ? _tiles->keep(read.tile) : nullptr;
 }
 
+TileSet RecordedCanvas::tilesIn(const Rect& area) const {
+    TileSet tiles(_layers.size());
+    tiles.add(area);
+    return tiles;
+}
+
 // Throws std::bad_alloc.
 std::optional<RecordedCanvas::Changes> RecordedCanvas::readTiles(const TilePicture& before) {
-    TileSet all(_layers.size());
-    all.add(_layers.whole());
     Changes changes;
     PlacedTile last;  // a colour that fills the canvas is one tile in all places
     TileRef lastVersion;
-    const bool read =
-        _layers.keep(_isCanvas ? _layers.surface().touched(kPicture) : all, [&](const PlacedTile& tile) {
-            const TileRef& old = before.at(tile.index);
-            if (!tile.tile || tile.tile != last.tile) {
-                lastVersion = version(tile, old);
-                last = tile;
-            }
-            if (lastVersion != old) {
-                changes.emplace_back(tile.index, lastVersion);
-            }
-        });
+    const auto look = [&](const PlacedTile& tile) {
+        const TileRef& old = before.at(tile.index);
+        if (!tile.tile || tile.tile != last.tile) {
+            lastVersion = version(tile, old);
+            last = tile;
+        }
+        if (lastVersion != old) {
+            changes.emplace_back(tile.index, lastVersion);
+        }
+    };
+    const bool read = _isCanvas ? _layers.keep(_layers.surface().touched(kPicture), look)
+                                : _layers.keep(tilesIn(_layers.whole()), look);
     return read ? std::optional(std::move(changes)) : std::nullopt;
 }
 
@@ -169,11 +174,10 @@ std::optional<Rect> RecordedCanvas::restore(const Rect& area) {
     }
     return withMemory(
         [&] {
-            TileSet tiles(_layers.size());
-            tiles.add(area);
             std::vector<PlacedTile> placed;
             bool all = true;
-            tiles.forEach([&](std::size_t index) { all = all && place(*_picture, index, placed, nullptr); });
+            tilesIn(area).forEach(
+                [&](std::size_t index) { all = all && place(*_picture, index, placed, nullptr); });
             return all && _layers.put(placed, area) ? std::optional(area) : std::nullopt;
         },
         std::optional<Rect>());

@@ -53,6 +53,7 @@ public:
 
 private:
     using Changes = std::vector<std::pair<std::size_t, TileRef>>;
+    TileSet tilesIn(const Rect& area) const;
     bool readCanvas();
     std::optional<Changes> readTiles(const TilePicture& before);
     TileRef version(const PlacedTile& read, const TileRef& before);

@@ -31,12 +31,10 @@ SharedTile pixelsOf(const StoredTile& tile, QString* problem) {
             return held.raw;
         }
         QByteArray bytes = held.packed;
-        while (bytes.isNull() && held.place) {
-            bytes = tile.read(*held.place, &why);
-            const auto place = std::exchange(held, tile.held()).place;
-            if (held.place == place) {
-                break;  // else it was written anew meanwhile
-            }
+        // Again where it was written anew meanwhile.
+        for (std::optional<TilePlace> place; bytes.isNull() && held.place != place; held = tile.held()) {
+            place = held.place;
+            bytes = tile.read(*place, &why);
         }
         if (!bytes.isNull()) {
             if (SharedTile pixels = unpackedTile(bytes, tile.pixelBytes())) {

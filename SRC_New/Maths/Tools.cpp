@@ -18,8 +18,8 @@ QString Tools::dateString() {
     };
     QDateTime now = wallClock();
     if (last.isValid() && now <= last) {
-        now = last.addMSecs(
-            1);  // the clock was set back, or asked twice in a millisecond, which waits for nothing
+        // The clock was set back, or asked twice in a millisecond, which waits for nothing.
+        now = last.addMSecs(1);
     }
     last = now;
     return now.toString(QStringLiteral("yyyyMMddHHmmsszzz"));

@@ -39,23 +39,13 @@ public:
     using Pixel = std::array<Channel, kChannels>;
     using TileOf = Tile<Channel, kChannels>;
 
-    explicit TileGrid(const Size& size)
-        : _size(size),
-          _columns((size.width + kTileSide - 1) / kTileSide),
-          _tiles(static_cast<std::size_t>(_columns) *
-                 static_cast<std::size_t>((size.height + kTileSide - 1) / kTileSide)) {}
+    explicit TileGrid(const Size& size) : _layout(size), _tiles(_layout.count()) {}
 
-    const Size& size() const { return _size; }
+    const Size& size() const { return _layout.picture(); }
     std::size_t count() const { return _tiles.size(); }
-    // The pixels of a tile; those beyond the picture's rim are left out.
-    Rect rectOf(std::size_t index) const {
-        const int column = static_cast<int>(index) % _columns, row = static_cast<int>(index) / _columns;
-        return Rect{column * kTileSide, row * kTileSide, kTileSide, kTileSide}.intersected(Rect::of(_size));
-    }
-    std::size_t indexAt(int x, int y) const {
-        return static_cast<std::size_t>(y / kTileSide) * static_cast<std::size_t>(_columns) +
-               static_cast<std::size_t>(x / kTileSide);
-    }
+    Rect rectOf(std::size_t index) const { return _layout.rectOf(index); }
+    // Of a pixel's tile.
+    std::size_t indexAt(int x, int y) const { return _layout.indexOf(x / kTileSide, y / kTileSide); }
 
     // Null where no tile is, which is transparent.
     const TileOf* tile(std::size_t index) const { return _tiles[index].get(); }
@@ -93,7 +83,7 @@ public:
     // Calls visit(std::size_t index, const Rect& part) for every tile that the rectangle meets, row by row.
     template <typename Visit>
     void forEachIn(const Rect& rect, Visit&& visit) const {
-        const Rect cut = rect.intersected(Rect::of(_size));
+        const Rect cut = rect.intersected(Rect::of(size()));
         for (int y = cut.y / kTileSide * kTileSide; !cut.isEmpty() && y < cut.bottom(); y += kTileSide) {
             for (int x = cut.x / kTileSide * kTileSide; x < cut.right(); x += kTileSide) {
                 visit(indexAt(x, y), cut.intersected({x, y, kTileSide, kTileSide}));
@@ -107,8 +97,7 @@ private:
         return std::allocate_shared<TileOf>(TileAllocator<TileOf>(), from...);
     }
 
-    Size _size;
-    int _columns;
+    TileLayout _layout;
     std::vector<std::shared_ptr<TileOf>> _tiles;
 };
 

@@ -29,7 +29,7 @@ struct Band {
     }
 };
 
-// Rows cannot be had, or there is no memory for them.
+// False, after one line, without the memory for rows or tiles.
 template <typename Work>
 bool withMemory(Work&& work) {
     try {

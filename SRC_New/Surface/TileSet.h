@@ -12,6 +12,7 @@ namespace dabcanvas {
 
 inline constexpr int kTileSide = 64;  // buffer pixels; those at the right and lower rim may be cut
 
+// Where a picture's tiles lie.
 class TileLayout {
 public:
     TileLayout() = default;
@@ -24,6 +25,7 @@ public:
     int columns() const { return _columns; }
     int rows() const { return _rows; }
     std::size_t count() const { return static_cast<std::size_t>(_columns) * static_cast<std::size_t>(_rows); }
+    // Of columns and rows of tiles.
     std::size_t indexOf(int column, int row) const {
         return static_cast<std::size_t>(row) * static_cast<std::size_t>(_columns) +
                static_cast<std::size_t>(column);

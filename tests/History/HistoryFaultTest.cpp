@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What goes wrong outside: disks, memory, other processes, the own death.
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdlib>
 
 #include "History/HistoryTest.h"
 #include "History/Packing.h"
 #include "History/TempFolder.h"
+#include "support/DyingProcess.h"
 #include "support/Limits.h"
 
 namespace {
@@ -25,19 +24,6 @@ protected:
         history->removeOneObjectFromCache();
         history->waitForWrites();
         return history;
-    }
-    // Runs this in a process that ends without cleaning up.
-    template <typename Work>
-    static void inDyingProcess(const Work& work) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            work();
-            raise(SIGKILL);
-        }
-        int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status));
     }
 };
 

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "History/UndoRecovery.h"
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QTemporaryDir>
-#include <csignal>
 
 #include "History/JournalModel.h"
 #include "History/KeptHistories.h"
 #include "History/Packing.h"
 #include "History/TempFolder.h"
+#include "support/DyingProcess.h"
 #include "support/Files.h"
 
 namespace dabcanvas {
@@ -23,18 +22,6 @@ protected:
     void TearDown() override {
         UndoRecovery::setFolder({});
         UndoRecovery::setByteLimit(qint64{8} << 30);
-    }
-    template <typename Work>
-    static void inDyingProcess(const Work& work) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            work();
-            raise(SIGKILL);
-        }
-        int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status)) << status;
     }
     // A history of so many steps, of one tile each that says which, left by a process that was killed.
     static void leave(int steps, JournalFormat format = JournalModel::kFormat) {
