@@ -3,13 +3,11 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTemporaryDir>
 
+#include "BrushImports.h"
 #include "BrushPlan.h"
 #include "Console.h"
-#include "LogCatcher.h"
 #include "OutputFile.h"
-#include "Preset/QDBrushManager.h"
 #include "PresetText.h"
 #include "ToolCanvas.h"
 
@@ -41,7 +39,8 @@ int runPresetMake(const PresetMakeOptions& options) {
     QString wrong = plan.fix(options.settings);
     if (!wrong.isEmpty())
         return refuse(wrong);
-    wrong = overwritingRefusal({options.output}, plan.files() + QStringList(options.brush));
+    wrong = overwritingRefusal({options.output},
+                               plan.files() + QStringList{options.brush, options.tip, options.paper});
     if (!wrong.isEmpty())
         return refuse(wrong);
     std::shared_ptr<const Brush> start;
@@ -51,6 +50,19 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(brush.problem().text(options.brush));
         start = *brush;
     }
+    std::vector<std::pair<QString, ImportedBrush>> imported;
+    QString name = options.name.value_or(QString());
+    for (const auto& [path, import] :
+         {std::pair(options.tip, ImportOf(importTip)), std::pair(options.paper, ImportOf(importPaper))}) {
+        if (path.isEmpty())
+            continue;
+        const auto brush = importedFile(path, import);
+        if (!brush)
+            return fail(brush.problem().text(path));
+        imported.emplace_back(path, *brush);
+        if (!options.name && name.isEmpty())
+            name = brush->name;
+    }
     if (OutputFile output(options.output); !output.check())
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, output.errorString()));
     const auto canvas = makeCanvas(QSize(1, 1));  // which clamps and keeps the values; nothing is painted
@@ -58,6 +70,8 @@ int runPresetMake(const PresetMakeOptions& options) {
         return fail(canvas.problem().what);
     if (start)
         start->applyTo(**canvas);
+    for (const auto& [path, brush] : imported)
+        brush.applyTo(**canvas);
     for (const auto& [property, value] : plan.fixed()) {
         if (property->presetId == 0)
             return refuse(
@@ -66,18 +80,10 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(QStringLiteral("the canvas does not take this value of %1")
                             .arg(QLatin1String(property->name)));
     }
-    const LogCatcher log;  // the messages below say it
-    // What would not be read again takes no place: read first, from elsewhere.
-    const QTemporaryDir elsewhere;
-    const QString trial = elsewhere.filePath(QStringLiteral("trial.xbf"));
-    if (!QDBrushManager::saveParamsWithDrawView(canvas->get(), options.name, trial, &wrong))
-        return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
-    if (const auto again = readBrush(trial); !again)
-        return fail(
-            QStringLiteral("%1: could not be read again: %2").arg(options.output, again.problem().what));
-    if (!QDBrushManager::saveParamsWithDrawView(canvas->get(), options.name, options.output, &wrong))
-        return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
-    return kDone;
+    const int status = saveBrush(**canvas, name, options.output);
+    for (const auto& [path, brush] : imported)
+        tellLosses(path, brush);
+    return status != kDone ? status : finishOut();
 }
 
 }  // namespace dabcanvas::dabpaint

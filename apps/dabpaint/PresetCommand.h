@@ -5,6 +5,7 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 #include "Assignment.h"
@@ -18,8 +19,9 @@ struct PresetShowOptions {
 
 struct PresetMakeOptions {
     QString output;
-    QString name;
-    QString brush;  // the preset to start with; empty for the default brush
+    std::optional<QString> name;  // none: as the tip is called
+    QString brush;                // the preset to start with; empty for the default brush
+    QString tip, paper;           // files to take them from; empty for none
     std::vector<Assignment> settings;
 };
 
