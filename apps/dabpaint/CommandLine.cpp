@@ -219,6 +219,13 @@ private:
             _make.name = name;
             return QString();
         })->required();
+        for (auto [name, text] :
+             {std::pair("--tags", &_make.tags), std::pair("--about", &_make.about),
+              std::pair("--author", &_make.author), std::pair("--licence", &_make.licence)})
+            value(make, name, [text](const QString& given) {
+                *text = given;
+                return QString();
+            });
         CLI::App& preview = *app.add_subcommand("preview");
         files(preview, "FILE", _preview.files, presetRefusal)->required();
         text(preview, "-o,--output", _preview.output)->required();

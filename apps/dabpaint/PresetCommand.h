@@ -5,6 +5,7 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 #include "Assignment.h"
@@ -21,6 +22,8 @@ struct PresetMakeOptions {
     QString name;
     QString brush;  // the preset to start with; empty for the default brush
     std::vector<Assignment> settings;
+    // Of itself, in place of what the preset to start with says.
+    std::optional<QString> tags, about, author, licence;
 };
 
 struct PresetPreviewOptions {

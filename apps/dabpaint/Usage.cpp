@@ -220,7 +220,8 @@ constexpr const char* kPreset = R"(NAME
 SYNOPSIS
     dabpaint preset show FILE.xbf... [--json]
     dabpaint preset make -o FILE.xbf --name NAME [--brush FILE.xbf]
-                    [--set PROPERTY=VALUE]...
+                    [--set PROPERTY=VALUE]... [--tags A,B] [--about SENTENCE]
+                    [--author NAME] [--licence TEXT]
     dabpaint preset preview FILE.xbf... -o OUT.png [--sheet] [--size WxH]
                     [--set PROPERTY=VALUE]...
 
@@ -241,7 +242,8 @@ DESCRIPTION
 OPTIONS
     --json
         Prints a JSON list instead, one object a file: file, problem (null for
-        none), version, and brushes with name and records. A record has id,
+        none), version, and brushes with name, tags, about, author, licence
+        (empty where nothing is said) and records. A record has id,
         property and part of a control (null for none), method, type and value.
 
     -o FILE, --output FILE
@@ -253,6 +255,9 @@ OPTIONS
 
     --brush FILE.xbf
         The preset to start with.
+
+    --tags A,B --about SENTENCE --author NAME --licence TEXT
+        What the preset says of itself, else what the preset to start with says.
 
     --set PROPERTY=VALUE
         Sets a brush property, as in dabpaint help paint: textureImages=a.png,b.png

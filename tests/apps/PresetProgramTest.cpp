@@ -70,6 +70,31 @@ TEST_F(PresetProgramTest, ShowsWhatWasMade) {
         EXPECT_EQ(values.find(QLatin1String(name))->second, value) << name;
 }
 
+TEST_F(PresetProgramTest, APresetSaysWhatItIs) {
+    const QString from = path("a.xbf"), derived = path("b.xbf"), author = QString::fromUtf8("山田 Ünal");
+    const QStringList make{"preset", "make", "--name", "A", "-o"};
+    ASSERT_EQ(runProgram(make + QStringList{from, "--tags", " pencil,, dry ", "--about", "For sketches.",
+                                            "--author", author, "--licence", "CC0-1.0"})
+                  .status,
+              0);
+    ASSERT_EQ(runProgram(make + QStringList{derived, "--brush", from, "--about", "Softer."}).status, 0);
+    for (const auto& [file, about] : {std::pair(from, "For sketches."), std::pair(derived, "Softer.")}) {
+        const auto shown = QJsonDocument::fromJson(preset("show --json", {file}).out)[0]["brushes"]
+                               .toArray()
+                               .at(0)
+                               .toObject();
+        EXPECT_EQ(shown["tags"], "pencil, dry");
+        EXPECT_EQ(shown["about"], about);
+        EXPECT_EQ(shown["author"], author);
+        EXPECT_EQ(shown["licence"], "CC0-1.0");
+        EXPECT_EQ(preset("show", {file}).out.count("unknown"), 0);
+        EXPECT_EQ(painted("{\"brush\": \"" + QFileInfo(file).fileName().toUtf8() + "\", \"strokes\": [{" +
+                          kLine + "}]}")
+                      .alpha(),
+                  255);
+    }
+}
+
 TEST_F(PresetProgramTest, ShowTellsWhatCouldBeReadAndThenTheDamage) {
     const Ended ended = preset("show", {path("cut.xbf"), path("text.xbf"), path("red.xbf"), _folder.path()});
     EXPECT_EQ(ended.status, 1);
