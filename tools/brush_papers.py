@@ -21,8 +21,8 @@ def _heights(field, reach):
 
 
 def rough():
-    """Watercolour paper as it comes off the felt: knobs of all sizes up to 25 px with crevices between them."""
-    return _heights(np.maximum(tooth(SIDE, 101, 44, 4.4, 1.4), tooth(SIDE, 102, 44, 4.4, 1.4)), 30)
+    """Watercolour paper as it comes off the felt: knobs of all sizes up to 22 px with crevices between them."""
+    return _heights(np.maximum(tooth(SIDE, 101, 38, 4.4, 1.35), tooth(SIDE, 102, 38, 4.4, 1.35)), 26)
 
 
 def cold_press():

@@ -204,8 +204,7 @@ def main():
             make(options.dabpaint, name)
         if options.sheet:
             files = [FOLDER / file_name(name) for name in BRUSHES]
-            subprocess.run([options.dabpaint, "preset", "preview", *files, "-o", options.sheet, "--sheet",
-                            "--size", "360x150"], check=True)
+            subprocess.run([options.dabpaint, "preset", "sheet", *files, "-o", options.sheet], check=True)
     except (OSError, subprocess.CalledProcessError) as fault:
         sys.exit(str(fault))
 
