@@ -13,7 +13,7 @@ import numpy as np
 
 def units(seed, count):
     """This many random numbers, from 0 to 1 without it; those of two seeds have nothing to do with each other."""
-    state = np.arange(count, dtype=np.uint64) + np.uint64((seed * 0x9E3779B9 + 1) << 24)
+    state = np.arange(count, dtype=np.uint64) + np.uint64((seed * 0x9E3779B9 + 1 << 24) % 2**64)
     for shift, factor in ((30, 0xBF58476D1CE4E5B9), (27, 0x94D049BB133111EB), (31, 1)):
         state = (state ^ (state >> np.uint64(shift))) * np.uint64(factor)
     return (state >> np.uint64(11)).astype(float) / 2.0**53

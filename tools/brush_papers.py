@@ -52,7 +52,7 @@ def laid():
     down = np.mgrid[0:SIDE, 0:SIDE][0] + 0.9 * soft(SIDE, 131, 10, 8)
     _, inside = _threads(down, 132, 72, 0.14)
     firm = np.clip(1 + 0.6 * soft(SIDE, 133, 9, 5), 0, 2.2)
-    return _heights(unit(-np.cos(2 * np.pi * inside) * firm) + 1.4 * tooth(SIDE, 134, 26, 4.6, 1.1), 26)
+    return _heights(unit(-np.cos(2 * np.pi * inside) * firm) + 1.6 * tooth(SIDE, 134, 26, 4.6, 1.1), 26)
 
 
 def canvas():

@@ -112,6 +112,13 @@ def felt():
     return stamped(1 - smoothstep(0.8, 0.97, np.hypot(x, y)), SMOOTH)
 
 
+def ink_brush(seed, uneven=0.05):
+    """A full brush of ink, whose edge is a little torn by the paper. Spacing 0.03 to 0.08, turned or steered."""
+    side = 128
+    x, y = places(side)
+    return stamped(1 - smoothstep(0.8, 0.95, np.hypot(x, y) + uneven * np.tanh(tooth(side, seed, 30, 6, 1.3))))
+
+
 def broken_film(seed):
     """Thick colour dragged over paper: patches that hold, gaps that do not; for a second line. Spacing 0.2 to 0.4."""
     side = 192
