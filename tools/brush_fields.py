@@ -103,7 +103,7 @@ def _rows(pixels):
 
 
 def png(field, step):
-    """An image of a field from 0 to 1, in greys so far apart, white among them; of four fields red, green, blue, alpha."""
+    """An image of a field from 0 to 1, in greys `step` apart from white down; of four, red, green, blue and alpha."""
     most = 255 // step
     pixels = (255 - step * np.rint((1 - np.clip(np.asarray(field), 0, 1)) * most)).astype(np.uint8)
     pixels = pixels[None] if pixels.ndim == 2 else pixels

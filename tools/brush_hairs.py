@@ -81,7 +81,8 @@ def rake(seed, teeth=11):
     at = -0.9 + 1.8 * (gaps[:-1] - gaps[0] * 0.5) / (gaps[-1] - gaps[0] * 0.5)
     width = 0.36 / teeth * np.exp(0.25 * bells(seed + 1, teeth))
     alpha = np.zeros((SIDE, SIDE))
-    for place, size, strength, before in zip(at, width, between(seed + 2, teeth, 0.6, 1), 0.07 * bells(seed + 3, teeth)):
+    strengths, ahead = between(seed + 2, teeth, 0.6, 1), 0.07 * bells(seed + 3, teeth)
+    for place, size, strength, before in zip(at, width, strengths, ahead):
         out = np.hypot((y - place) / size, (x - before) / np.maximum(size, 0.13))
         hairs = 0.7 + 0.3 * np.tanh(unit(_tufts(seed + 4, 1.5)))[:, None]
         alpha = np.maximum(alpha, (1 - smoothstep(0.6, 1.25, out)) * strength * hairs)

@@ -56,8 +56,8 @@ def laid():
 
 
 def canvas():
-    """Linen, threads of 8 px over and under one another, of unlike widths and strengths."""
-    count = 64  # even, so that over and under go on at the edge
+    """Linen, threads of 7 px over and under one another, of unlike widths and strengths."""
+    count = 70  # even, so that over and under go on at the edge
     y, x = np.mgrid[0:SIDE, 0:SIDE].astype(float)
     column, right = _threads(x + 1.2 * soft(SIDE, 141, 7, 10), 142, count, 0.18)
     row, down = _threads(y + 1.2 * soft(SIDE, 143, 10, 7), 144, count, 0.18)
@@ -65,7 +65,7 @@ def canvas():
     along, across = np.where(over, right, down), np.where(over, down, right)
     strength = between(145, count * count, 0.3, 1.35).reshape(count, count)[row, column]
     bulge = np.sin(np.pi * along) ** 0.6 * np.sin(np.pi * across) ** 0.8 * strength
-    return _heights(unit(bulge) + 0.65 * tooth(SIDE, 146, 20, 4.4, 1.0), 24)
+    return _heights(unit(bulge) + 0.75 * tooth(SIDE, 146, 20, 4.4, 1.0), 24)
 
 
 PAPERS = {"rough": rough, "laid": laid, "canvas": canvas, "cold press": cold_press, "hot press": hot_press}

@@ -52,7 +52,7 @@ def _stick(side, seed, edge, uneven, grain, low, high):
 
 
 def graphite(seed):
-    """A pencil's point, and shading with its side when drawn large: firm with a crumbling edge. Spacing 0.08 to 0.15."""
+    """A pencil's point, or when large its side: firm, with a crumbling edge. Spacing 0.08 to 0.15."""
     return _stick(128, seed, 0.25, 0.05, (16, 5), -0.35, 0.75)
 
 
@@ -152,7 +152,7 @@ def mist():
 
 
 def _drops(side, seed, count, reach, sizes):
-    """Round drops of paint: `reach` of two even numbers from 0 to 1 gives their distance from the middle, sizes theirs."""
+    """Round drops of paint at these distances from the middle, of these sizes."""
     x, y = places(side)
     wet = np.zeros((side, side))
     turns = between(seed, count, 0, 2 * np.pi)
@@ -184,5 +184,6 @@ def spatter(seed, count=44):
         across = -x * np.sin(turn) + y * np.cos(turn)
         tail = np.clip(along / (4 * sizes[drop]), 0, 1)
         width = sizes[drop] * (1 - tail) ** 2 * 0.8
-        wet = np.maximum(wet, (along > 0) * (1 - smoothstep(0.7 * width, width + 1.6 / side, np.abs(across))) * (tail < 1))
+        inside = 1 - smoothstep(0.7 * width, width + 1.6 / side, np.abs(across))
+        wet = np.maximum(wet, inside * (along > 0) * (tail < 1))
     return stamped(wet * (1 - smoothstep(0.95, 0.99, np.hypot(x, y))))
