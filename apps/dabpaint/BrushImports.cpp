@@ -12,7 +12,6 @@
 #include "LogCatcher.h"
 #include "OutputFile.h"
 #include "Preset/QDBrushManager.h"
-#include "ToolCanvas.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -37,12 +36,10 @@ int importFile(const QString& path, const std::optional<QString>& name, const QS
     const auto brush = importedFile(path, importBrush);
     if (!brush)
         return fail(brush.problem().text(path));
-    const auto canvas = makeCanvas(QSize(1, 1));
-    if (!canvas)
-        return fail(canvas.problem().what);
-    (*canvas)->resetParams();
-    brush->applyTo(**canvas);
-    const int status = saveBrush(**canvas, name.value_or(brush->name), output);
+    const auto params = brush->params();
+    if (!params)
+        return fail(QStringLiteral("%1: there is no memory for it").arg(path));
+    const int status = saveBrush(*params, name.value_or(brush->name), output);
     if (status == kDone)
         tellLosses(path, *brush);
     return status;
@@ -74,17 +71,20 @@ void tellLosses(const QString& path, const ImportedBrush& brush) {
         printOut(QStringLiteral("%1: not carried over: %2\n").arg(path, what).toStdString());
 }
 
-int saveBrush(const QDDrawCanvas& canvas, const QString& name, const QString& output) {
-    const LogCatcher log;  // the messages below say it
+int saveBrush(const BrushParams& params, const QString& name, const QString& output) {
     QString wrong;
+    const auto save = [&](const QString& path) {
+        return QDBrushManager::saveParams(params, QDBrushManager::kVersion, name, path, &wrong);
+    };
+    const LogCatcher log;  // the messages below say it
     // What would not be read again takes no place: read first, from elsewhere.
     const QTemporaryDir elsewhere;
     const QString trial = elsewhere.filePath(QStringLiteral("trial.xbf"));
-    if (!QDBrushManager::saveParamsWithDrawView(&canvas, name, trial, &wrong))
+    if (!save(trial))
         return fail(QStringLiteral("%1: cannot be written: %2").arg(output, wrong));
     if (const auto again = readBrush(trial); !again)
         return fail(QStringLiteral("%1: could not be read again: %2").arg(output, again.problem().what));
-    if (!QDBrushManager::saveParamsWithDrawView(&canvas, name, output, &wrong))
+    if (!save(output))
         return fail(QStringLiteral("%1: cannot be written: %2").arg(output, wrong));
     return kDone;
 }

@@ -8,8 +8,6 @@
 #include "Import/BrushImport.h"
 #include "Problem.h"
 
-class QDDrawCanvas;
-
 namespace dabcanvas::dabpaint {
 
 struct PresetImportOptions {
@@ -26,8 +24,8 @@ Result<ImportedBrush> importedFile(const QString& path, const ImportOf& import);
 // Tells on standard output what a file's import has lost, one line each.
 void tellLosses(const QString& path, const ImportedBrush& brush);
 
-// Writes the canvas's brush, which takes no file's place before it has been read again; the exit status.
-int saveBrush(const QDDrawCanvas& canvas, const QString& name, const QString& output);
+// Writes a preset, which takes no file's place before it has been read again; the exit status.
+int saveBrush(const BrushParams& params, const QString& name, const QString& output);
 
 int runPresetImport(const PresetImportOptions& options);
 

@@ -226,6 +226,13 @@ private:
         name(make, _make.name);
         text(make, "--tip", _make.tip);
         text(make, "--paper", _make.paper);
+        for (auto [name, text] :
+             {std::pair("--tags", &_make.tags), std::pair("--about", &_make.about),
+              std::pair("--author", &_make.author), std::pair("--licence", &_make.licence)})
+            value(make, name, [text](const QString& given) {
+                *text = given;
+                return QString();
+            });
         CLI::App& import = *app.add_subcommand("import");
         files(import, "FILE", _import.files, presetRefusal)->required();
         text(import, "-o,--output", _import.output)->required();
@@ -235,7 +242,12 @@ private:
         text(preview, "-o,--output", _preview.output)->required();
         size(preview, _preview.size);
         settings(preview, _preview.settings);
-        flag(preview, "--sheet", _preview.sheet);
+        CLI::App& sheet = *app.add_subcommand("sheet");
+        files(sheet, "FILE", _sheet.files, presetRefusal)->required();
+        text(sheet, "-o,--output", _sheet.output)->required();
+        size(sheet, _sheet.size);
+        count(sheet, "--across", 1, [this](qint64 presets) { _sheet.across = int(presets); });
+        settings(sheet, _sheet.settings);
     }
     void addDabs(CLI::App& app) {
         text(app, "INPUT", _dabs.input)->required();
@@ -269,7 +281,8 @@ private:
         if (app->get_name() == "preset")
             return noCommand(QStringLiteral("preset ") + word,
                              {QStringLiteral("preset show"), QStringLiteral("preset make"),
-                              QStringLiteral("preset preview"), QStringLiteral("preset import")});
+                              QStringLiteral("preset preview"), QStringLiteral("preset sheet"),
+                              QStringLiteral("preset import")});
         return QStringLiteral("%1 takes no \"%2\"").arg(QString::fromStdString(app->get_name()), word);
     }
 
@@ -301,8 +314,10 @@ private:
             return _show;
         if (command == QLatin1String("preview"))
             return _preview;
+        if (command == QLatin1String("sheet"))
+            return _sheet;
         if (command.isEmpty())
-            return UsageFault{QStringLiteral("preset needs a command: show, make, preview or import")};
+            return UsageFault{QStringLiteral("preset needs a command: show, make, preview, sheet or import")};
         const bool imports = command == QLatin1String("import");
         if ((imports ? _import.output : _make.output) == QLatin1String("-"))
             return UsageFault{QStringLiteral("a preset is written to a file, not to standard output")};
@@ -321,6 +336,7 @@ private:
     PresetMakeOptions _make;
     PresetPreviewOptions _preview;
     PresetImportOptions _import;
+    PresetSheetOptions _sheet;
     DabsOptions _dabs;
     PropertiesOptions _properties;
     HelpOptions _help;
@@ -353,6 +369,7 @@ int runDabpaint(const QStringList& arguments) {
                           [](const PresetMakeOptions& options) { return runPresetMake(options); },
                           [](const PresetPreviewOptions& options) { return runPresetPreview(options); },
                           [](const PresetImportOptions& options) { return runPresetImport(options); },
+                          [](const PresetSheetOptions& options) { return runPresetSheet(options); },
                           [](const PropertiesOptions& options) { return runProperties(options.json); },
                           [](const HelpOptions& options) { return print(usageText(options.topic)); },
                           [](const VersionOptions&) { return print(versionText()); },

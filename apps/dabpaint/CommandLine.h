@@ -28,9 +28,10 @@ struct UsageFault {
     QString what;
 };
 
-using CommandLine = std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions,
-                                 PresetShowOptions, PresetMakeOptions, PresetPreviewOptions,
-                                 PresetImportOptions, HelpOptions, VersionOptions, UsageFault>;
+using CommandLine =
+    std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions, PresetShowOptions,
+                 PresetMakeOptions, PresetPreviewOptions, PresetImportOptions, PresetSheetOptions,
+                 HelpOptions, VersionOptions, UsageFault>;
 
 // Reads the arguments after the program's name. Touches no file.
 CommandLine readCommandLine(const QStringList& arguments);

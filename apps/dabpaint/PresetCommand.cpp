@@ -8,6 +8,8 @@
 #include "BrushPlan.h"
 #include "Console.h"
 #include "OutputFile.h"
+#include "Preset/PresetInfo.h"
+#include "Preset/QDBrushManager.h"
 #include "PresetText.h"
 #include "ToolCanvas.h"
 
@@ -34,6 +36,38 @@ int runPresetShow(const PresetShowOptions& options) {
     return printed == kDone ? status : printed;
 }
 
+namespace {
+
+using ImportedPart = std::pair<QString, ImportedBrush>;  // and the file that it is from
+
+// Tip and paper; the message when one cannot be read.
+QString readParts(const PresetMakeOptions& options, std::vector<ImportedPart>& parts) {
+    const std::pair<QString, ImportOf> files[] = {{options.tip, importTip}, {options.paper, importPaper}};
+    for (const auto& [path, import] : files) {
+        if (path.isEmpty())
+            continue;
+        const auto brush = importedFile(path, import);
+        if (!brush)
+            return brush.problem().text(path);
+        parts.emplace_back(path, *brush);
+    }
+    return {};
+}
+
+BrushParams paramsOf(const QDDrawCanvas& canvas, const Brush* start, const PresetMakeOptions& options) {
+    PresetInfo info = start != nullptr ? infoOfParams(start->params) : PresetInfo();
+    if (options.tags)
+        info.tags = options.tags->split(QLatin1Char(','));
+    info.about = options.about.value_or(info.about);
+    info.author = options.author.value_or(info.author);
+    info.licence = options.licence.value_or(info.licence);
+    BrushParams params = QDBrushManager::paramsOfDrawView(&canvas).value_or(BrushParams());
+    setInfoOfParams(params, info);
+    return params;
+}
+
+}  // namespace
+
 int runPresetMake(const PresetMakeOptions& options) {
     BrushPlan plan;
     QString wrong = plan.fix(options.settings);
@@ -50,19 +84,11 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(brush.problem().text(options.brush));
         start = *brush;
     }
-    std::vector<std::pair<QString, ImportedBrush>> imported;
-    QString name = options.name.value_or(QString());
-    for (const auto& [path, import] :
-         {std::pair(options.tip, ImportOf(importTip)), std::pair(options.paper, ImportOf(importPaper))}) {
-        if (path.isEmpty())
-            continue;
-        const auto brush = importedFile(path, import);
-        if (!brush)
-            return fail(brush.problem().text(path));
-        imported.emplace_back(path, *brush);
-        if (!options.name && name.isEmpty())
-            name = brush->name;
-    }
+    std::vector<ImportedPart> imported;
+    if (wrong = readParts(options, imported); !wrong.isEmpty())
+        return fail(wrong);
+    const QString name =
+        options.name || imported.empty() ? options.name.value_or(QString()) : imported.front().second.name;
     if (OutputFile output(options.output); !output.check())
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, output.errorString()));
     const auto canvas = makeCanvas(QSize(1, 1));  // which clamps and keeps the values; nothing is painted
@@ -80,7 +106,7 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(QStringLiteral("the canvas does not take this value of %1")
                             .arg(QLatin1String(property->name)));
     }
-    const int status = saveBrush(**canvas, name, options.output);
+    const int status = saveBrush(paramsOf(**canvas, start.get(), options), name, options.output);
     for (const auto& [path, brush] : imported)
         tellLosses(path, brush);
     return status != kDone ? status : finishOut();

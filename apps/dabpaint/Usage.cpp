@@ -215,13 +215,16 @@ EXAMPLES
 )";
 
 constexpr const char* kPreset = R"(NAME
-    dabpaint preset - show, make, preview and import brush presets
+    dabpaint preset - show, make, preview, compare and import brush presets
 
 SYNOPSIS
     dabpaint preset show FILE.xbf... [--json]
     dabpaint preset make -o FILE.xbf --name NAME [--brush FILE.xbf]
                     [--tip FILE] [--paper FILE] [--set PROPERTY=VALUE]...
-    dabpaint preset preview FILE.xbf... -o OUT.png [--sheet] [--size WxH]
+                    [--tags A,B] [--about SENTENCE] [--author NAME] [--licence TEXT]
+    dabpaint preset preview FILE.xbf... -o OUT.png [--size WxH]
+                    [--set PROPERTY=VALUE]...
+    dabpaint preset sheet FILE.xbf... -o OUT.jpg [--size WxH] [--across N]
                     [--set PROPERTY=VALUE]...
     dabpaint preset import FILE... -o OUT.xbf [--name NAME]
 
@@ -236,8 +239,12 @@ DESCRIPTION
                 with the given tip, paper and settings.
     preview     paints a stroke of each file's last brush on white, pressure and
                 speed rising and falling; stripes lie under a brush that smudges,
-                erases or shades. Several pictures need a folder or --sheet.
-                What cannot be read is told and left out, and it fails at the end.
+                erases or shades. Several pictures need a folder.
+    sheet       paints all onto one picture, a row each: a line, a fast scribble,
+                a filled patch, its right third filled twice, a line of rising
+                pressure, one of a pen that tilts from upright to flat, and a
+                line over colours.
+    What preview and sheet cannot read is told and left out; they fail at the end.
     import      writes a preset for a brush of another program: GIMP's .gbr and
                 .gih, MyPaint's .myb of version 3, or a picture as a tip. It tells
                 line by line what could not be carried over. Several need a folder.
@@ -245,7 +252,8 @@ DESCRIPTION
 OPTIONS
     --json
         Prints a JSON list instead, one object a file: file, problem (null for
-        none), version, and brushes with name and records. A record has id,
+        none), version, and brushes with name, tags, about, author, licence
+        (empty where nothing is said) and records. A record has id,
         property and part of a control (null for none), method, type and value.
 
     -o FILE, --output FILE
@@ -269,16 +277,20 @@ OPTIONS
         Paints through this paper, a picture or a GIMP brush of one tip: white
         lets paint through.
 
+    --tags A,B --about SENTENCE --author NAME --licence TEXT
+        What the preset says of itself, else what the preset to start with says.
+
     --set PROPERTY=VALUE
         Sets a brush property, as in dabpaint help paint: textureImages=a.png,b.png
         gives a brush two tips.
 
-    --sheet
-        Puts all previews, with their names, onto one picture.
-
     --size WxH
-        Size of one preview in pixels, else 480x180. A brush that is too large
-        for it is made smaller.
+        Size of one preview in pixels, else 480x180; of one sample of a sheet,
+        else 176x112. A brush that is too large for it is made smaller.
+
+    --across N
+        How many presets stand side by side on a sheet; else one, or two when
+        there are more than ten.
 
 EXIT STATUS
     0 done, 1 the work failed, 2 the command line is wrong.
@@ -289,7 +301,7 @@ EXAMPLES
     dabpaint preset make -o leaf.xbf --tip leaf.gih --set radius=60
     dabpaint preset import charcoal.myb -o charcoal.xbf
     dabpaint preset preview chalk.xbf -o chalk.png
-    dabpaint preset preview *.xbf -o brushes.jpg --sheet --size 360x140
+    dabpaint preset sheet *.xbf -o brushes.jpg
 )";
 
 constexpr const char* kDabs = R"(NAME
