@@ -90,6 +90,17 @@ float MypaintDabs::scatterAt(const MypaintPen& pen) const {
     return smudgesThroughout() ? std::min(scatter, radiusAt(pen) / baseRadius() / 2) : scatter;
 }
 
+float MypaintDabs::meanSmudge() const {
+    float sum = 0, weights = 0;
+    for (const PenState& state : _pens.states({"smudge", "radius_logarithmic"})) {
+        const float radius = radiusAt(state.pen);
+        const float weight = radius * radius * std::max(opacityAt(state.pen), 1e-3f);
+        sum += weight * smudgeAt(state.pen);
+        weights += weight;
+    }
+    return sum / weights;
+}
+
 bool MypaintDabs::smudgesThroughout() const {
     MypaintPen begin = _pens.middle();
     begin[static_cast<std::size_t>(In::stroke)] = 0;

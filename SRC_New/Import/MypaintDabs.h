@@ -29,6 +29,7 @@ public:
     std::optional<float> turnedAgainstStroke() const;
 
     float smudgeAt(const MypaintPen& pen) const;
+    float meanSmudge() const;  // over all pens, by how much they paint
     bool smudgesThroughout() const;
     // What a smudged colour keeps of itself from dab to dab: what MyPaint remembers, and what is picked up of what the
     // dab before has painted.

@@ -168,6 +168,8 @@ void Fitting::takeSize() {
         const float shown = size * std::max(_dabs.opacityAt(state.pen), 0.01f);
         targets.push_back({state.inputs, std::log(size * grown), shown});
     }
+    // One size is the brush's own, where it can be as small.
+    const bool isOne = targets.size() == 1 && _sizeJitter == 0 && targets[0].value >= std::log(kLeastSize);
     const auto share = [](const LPControlParams& inputs, const ControlFit& fit) {
         return shareOfSize(inputs, fit.second, fit.control);
     };
@@ -180,7 +182,7 @@ void Fitting::takeSize() {
         return sum;
     };
     const ControlFit fit = fitControl(
-        targets, {std::log(kLeastSize), std::log(kMostSize), 0.5f}, {0, 1, 0.25f},
+        targets, {std::log(kLeastSize), std::log(kMostSize), 0.5f}, {isOne ? 1.0f : 0.0f, 1, 0.25f},
         influencesOn({"radius_logarithmic"}),
         [&](const LPControlParams& inputs, const ControlFit& tried) {
             return tried.first + std::log(std::max(share(inputs, tried), 1e-3f));
@@ -324,7 +326,7 @@ void Fitting::takeColours() {
 
 void Fitting::takeSmudge() {
     constexpr int kSmudge = 3;
-    const float smudge = _dabs.smudgeAt(_pens.middle());
+    const float smudge = _dabs.meanSmudge();
     if (smudge < 0.05f) {
         return;
     }
