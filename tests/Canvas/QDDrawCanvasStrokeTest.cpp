@@ -64,6 +64,21 @@ TEST_F(CanvasStrokeTest, DabsOffTheCanvasChangeNothingOnIt) {
     EXPECT_LT(differing, 50);
 }
 
+// A device that gives no tilt is held upright, also where others of the stroke's samples have one.
+TEST_F(CanvasStrokeTest, NoTiltIsAnUprightPen) {
+    QImage pictures[2];
+    for (const float none : {0.0f, -1.0f}) {
+        auto canvas = makeCanvas();
+        canvas->setRadiusControl({0, 1, 0});
+        canvas->drawingWithBeginPoint({20, 75}, 1, none);
+        canvas->drawingWithMoveToPoint({80, 75}, 1, 1);
+        canvas->drawingWithMoveToPoint({120, 75}, 1, none);
+        canvas->drawingWithEndPoint({180, 75}, 1, 1);
+        pictures[none < 0] = canvas->image();
+    }
+    EXPECT_TRUE(imagesMatch(pictures[0], pictures[1]));
+}
+
 // Strokes that do not go as they should
 
 void across(QDDrawCanvas& canvas, double y) {
