@@ -131,18 +131,19 @@ TEST_F(CanvasStrokeTest, ChanceIsTheCanvassOwn) {
     ShapeRecord line;
     line.kind = ShapeKind::line;
     line.corners = {{20, 110}, {150, 130}};
-    QImage pictures[4];
-    const std::uint32_t seeds[] = {5, 5, 6, 6};
+    QImage pictures[5];
+    const std::uint32_t seeds[] = {5, 5, 6, 6, 5};
     std::srand(3);
     srand48(3);
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 5; ++i) {
         auto canvas = makeCanvas();
         canvas->setRepeatableRandom(i == 2);
         jitter(*canvas);
-        if (i == 1) {
+        if (i == 1 || i == 4) {
             across(*canvas, 60);
             canvas->drawPoint({50, 60}, 30);
-            canvas->clear();
+            i == 1 ? canvas->clear()
+                   : static_cast<void>(canvas->setImage(solidImage({200, 150}), QRectF(0, 0, 200, 150)));
         }
         canvas->setRandomSeed(seeds[i]);
         across(*canvas, 60);
@@ -155,6 +156,7 @@ TEST_F(CanvasStrokeTest, ChanceIsTheCanvassOwn) {
     EXPECT_EQ(std::rand(), first);
     EXPECT_EQ(drand48(), other);
     EXPECT_TRUE(imagesMatch(pictures[0], pictures[1])) << "whatever was painted before";
+    EXPECT_TRUE(imagesMatch(pictures[0], pictures[4])) << "and then replaced";
     EXPECT_NE(pictures[0], pictures[3]) << "another seed";
     EXPECT_NE(pictures[2], pictures[3]) << "fixed values";
 }

@@ -90,6 +90,8 @@ TEST_P(CanvasUndoOfDepthTest, EveryFinishedStrokeComesBackByteForByte) {
 
 TEST_F(CanvasUndoTest, ImagesAndClearsAreSteps) {
     const QImage stroke = paint(40);
+    canvas->undo();
+    EXPECT_TRUE(imagesMatch(paint(40), stroke)) << "as if there had been none before, down to the rounding";
     canvas->setImage(patternImage({120, 90}), QRectF(0, 0, 120, 90));
     canvas->clearWithColor(ESColor::grey(0.5f), true);
     EXPECT_FALSE(canvas->undo().isNull());

@@ -93,22 +93,24 @@ TEST_P(SurfaceTest, RowsComeBackByteForByteInAnyPartAndOrder) {
 }
 
 TEST_P(SurfaceTest, PictureAndBackgroundGoTheirOwnWays) {
-    const Bytes whole = randomPicture(3, kSize);
+    const Bytes whole = randomPicture(3, kSize), filled{255, 128, 0, 255};
     write(whole);
-    surface->fill(kPicture, {1, 128 / 255.0f, 0, 1});
-    EXPECT_EQ(read({5, 5, 1, 1}), (Bytes{255, 128, 0, 255}));
     const Rect part{20, 30, 77, 40};
-    surface->revert(kPicture, part);
-    Bytes expected = read();
+    Bytes expected = whole;
     for (int y = 0; y < kSize.height; ++y) {
         for (int x = 0; x < kSize.width; ++x) {
             const bool inside = Rect{x, y, 1, 1}.meets(part);
-            const std::uint8_t* const from = whole.data() + at(x, y);
-            const Bytes filled{255, 128, 0, 255};
-            std::copy_n(inside ? from : filled.data(), 4, expected.data() + at(x, y));
+            std::copy_n(inside ? whole.data() + at(x, y) : filled.data(), 4, expected.data() + at(x, y));
         }
     }
-    EXPECT_EQ(read(), expected);
+    // By itself, or below a layer on which there is nothing.
+    for (const std::uint32_t mode : {0u, std::uint32_t{ESBlendTypeNormal}, std::uint32_t{ESBlendTypeReset}}) {
+        surface->fill(kPicture, {1, 128 / 255.0f, 0, 1});
+        EXPECT_EQ(read({5, 5, 1, 1}), filled);
+        mode == 0 ? surface->revert(kPicture, part)
+                  : surface->composite(kPicture, {&part, 1}, {.blendType = mode});
+        EXPECT_EQ(read(), expected) << mode;
+    }
     surface->commit(kPicture, Rect::of(kSize));
     surface->fill(kPicture, {});
     surface->revert(kPicture, {-5, -5, 1000, 1000});
