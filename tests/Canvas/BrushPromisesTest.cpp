@@ -404,7 +404,7 @@ const Promise kPromises[] = {
     {"hueTingle", "hues vary, and nothing else", 0.0f, 0.8f,
      [](P l, P m) { return span(l.marks, hueOf).width() < 0.01 && span(m.marks, hueOf).width() > 0.3 && span(m.marks, saturationOf).width() < 0.05 && span(m.marks, valueOf).width() < 0.02; }, vivid},
     {"hueTingle_multicolour", "of the tip's own colour as well", 0.0f, 0.8f, [](P l, P m) { return span(l.marks, hueOf).width() < 0.01 && span(m.marks, hueOf).width() > 0.3; },
-     [](C& c) { c.setTextureImages({block(32, QColor(180, 60, 40))}); c.setColorFul(true); }, [] { return along(20, kLine, 620, kLine, 2); }},
+     [](C& c) { c.setTextureImages({block(32, QColor(180, 60, 40))}); c.setColorFul(true); }},
     {"saturationTingle", "saturations vary, and nothing else", 0.0f, 0.3f,
      [](P l, P m) { return span(l.marks, saturationOf).width() < 0.01 && span(m.marks, saturationOf).width() > 0.2 && span(m.marks, hueOf).width() < 0.05 && span(m.marks, valueOf).width() < 0.02; }, vivid},
     {"brightnessTingle", "brightness varies, and nothing else", 0.0f, 0.3f,

@@ -146,8 +146,8 @@ TEST_F(CanvasStrokeTest, ChanceIsTheCanvassOwn) {
                    : static_cast<void>(canvas->setImage(solidImage({200, 150}), QRectF(0, 0, 200, 150)));
         }
         canvas->setRandomSeed(seeds[i]);
-        across(*canvas, 60);
         canvas->drawShape(line);
+        across(*canvas, 60);
         const QRectF touched = canvas->drawPoint({50, 60}, 30);
         EXPECT_FALSE(touched.isEmpty());
         canvas->updateImage(true);

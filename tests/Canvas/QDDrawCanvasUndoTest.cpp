@@ -257,23 +257,6 @@ TEST_F(CanvasUndoTest, UndoRecordsFirstWhatNoStepHolds) {
     }
 }
 
-TEST_F(CanvasUndoTest, SwitchesForPlacingHoldNothingOfAStepBack) {
-    const QImage first = paint(30);
-    canvas->setRepeatableRandom(true);
-    const QImage second = paint(60);
-    canvas->setGlobalScissor(true);
-    canvas->setScissorRect(QRectF(0, 0, 40, 40));
-    canvas->setNeglectTextureUpdate(true);
-    EXPECT_FALSE(canvas->undo().isNull());
-    EXPECT_TRUE(imagesMatch(canvas->image(), first));
-    EXPECT_FALSE(canvas->redo().isNull());
-    EXPECT_TRUE(imagesMatch(canvas->image(), second));
-    EXPECT_TRUE(canvas->globalScissor() && canvas->neglectTextureUpdate());
-    EXPECT_FALSE(canvas->undo().isNull());
-    canvas->resetWithRenderRect(QRectF(0, 0, 120, 90));
-    EXPECT_TRUE(imagesMatch(canvas->image(), first)) << "the background is behind";
-}
-
 TEST_F(CanvasUndoTest, ALostStepClearsTheCanvasAndNothingElse) {
     paint(20);
     const QImage last = paint(60);

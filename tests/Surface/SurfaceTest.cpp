@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <numbers>
 #include <random>
 
 #include "Surface/BlendType.h"
@@ -271,42 +270,6 @@ TEST_P(SurfaceTest, DabsStraightOnThePictureLeaveTheBackground) {
     EXPECT_EQ(read({60, 30, 1, 1}), (Bytes{0, 0, 0, 255}));
     surface->revert(kPicture, touched);
     EXPECT_EQ(read(), before);
-}
-
-// ---- Pictures on pictures
-
-TEST_P(SurfaceTest, PicturesArePlacedWhereTheyBelong) {
-    // Red above, blue below, on green.
-    const Bytes source{255, 0, 0, 255, 0, 0, 255, 255};
-    const Bytes red{255, 0, 0, 255}, green{0, 255, 0, 255}, blue{0, 0, 255, 255};
-    const double quarter = std::numbers::pi / 2;
-    const struct {
-        double width, height, x, y, radian;
-        int atX, atY;
-        Bytes colour;
-    } rows[] = {
-        {20, 40, 60, 40, 0, 55, 21, red},           {20, 40, 60, 40, 0, 65, 59, blue},
-        {20, 40, 60, 40, 0, 49, 40, green},         {20, 40, 60, 40, 0, 60, 60, green},
-        {20, 40, 60, 40, quarter, 41, 45, red},     {20, 40, 60, 40, quarter, 79, 35, blue},
-        {20, 40, 60, 40, 2 * quarter, 60, 59, red}, {20, 40, 60.5, 40, 0, 50, 22, {128, 128, 0, 255}}};
-    for (const auto& row : rows) {
-        surface->fill(kPicture, {0, 1, 0, 1});
-        surface->commit(kPicture, Rect::of(kSize));
-        ASSERT_TRUE(surface->place(kPicture, {.pixels = PixelView::topRowFirst(source.data(), {1, 2}),
-                                              .width = row.width,
-                                              .height = row.height,
-                                              .centreX = row.x,
-                                              .centreY = row.y,
-                                              .radian = row.radian,
-                                              .clip = Rect::of(kSize)}));
-        const Bytes pixel = read({row.atX, row.atY, 1, 1});
-        for (std::size_t i = 0; i < 4; ++i) {
-            EXPECT_NEAR(pixel[i], row.colour[i], 2)
-                << row.atX << ", " << row.atY << " turned by " << row.radian;
-        }
-        surface->revert(kPicture, Rect::of(kSize));
-        EXPECT_EQ(read({60, 40, 1, 1}), green);
-    }
 }
 
 // ---- Smudging
