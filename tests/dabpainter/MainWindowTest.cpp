@@ -21,9 +21,7 @@
 #include "SessionFolder.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
-#include <sys/wait.h>
-#include <unistd.h>
-
+#include "support/DyingProcess.h"
 #include "support/Limits.h"
 #endif
 
@@ -384,32 +382,25 @@ TEST_F(MainWindowTest, AFullDiskLeavesTheOldFiles) {
 
 #ifdef Q_OS_UNIX
 TEST_F(MainWindowTest, WhatDeadRunsLeftGoesWhenTheUserSaysSo) {
-    const auto died = [&](const QByteArray& picture) {
-        const pid_t run = ::fork();
-        if (run == 0) {
-            const SessionFolder session(path("sessions"));
-            QFile file(session.pictures());
-            const bool written = file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size();
-            file.close();
-            if (picture.isEmpty())
-                file.remove();
-            ::_exit(written ? 0 : 1);
-        }
-        int status = -1;
-        return ::waitpid(run, &status, 0) == run && status == 0;
+    const auto die = [&](const QByteArray& picture) {
+        inDyingProcess([&] {
+            const auto* const session = new SessionFolder(path("sessions"));
+            if (!picture.isEmpty())
+                writtenTo(session->pictures(), picture);
+        });
     };
     const auto folders = [&] {
         return QDir(path("sessions")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
     };
     EXPECT_EQ(folders(), 1) << "this run's own";
     EXPECT_TRUE(_window->view()->undoManager().tempDirectory().startsWith(path("sessions")));
-    ASSERT_TRUE(died(""));
+    die("");
     for (int i = 0; i < 4; ++i)
-        ASSERT_TRUE(died("a picture"));
+        die("a picture");
     _window->askAboutOldSessions();
     EXPECT_EQ(folders(), 5) << "what is empty goes, little is kept";
     EXPECT_TRUE(_questions.isEmpty());
-    ASSERT_TRUE(died("a picture"));
+    die("a picture");
     for (const bool confirmed : {false, true}) {
         _confirmed = confirmed;
         _questions.clear();
