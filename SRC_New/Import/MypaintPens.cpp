@@ -12,6 +12,7 @@ namespace {
 using In = MypaintInput;
 
 constexpr int kChances = 32;
+constexpr float kFlatLean = 60;      // degrees from upright at which an altitude is 1
 constexpr float kSlowCustom = 0.5f;  // a custom input slower than this follows no chance
 
 std::size_t placeOf(In input) {
@@ -37,7 +38,7 @@ MypaintPen MypaintPens::at(float pressure, float speed, float altitude) const {
     pen[placeOf(In::pressure)] = pressure * std::exp(_brush.base("pressure_gain_log"));
     pen[placeOf(In::speed1)] = speedInput(speed, _brush.base("speed1_gamma"));
     pen[placeOf(In::speed2)] = speedInput(speed, _brush.base("speed2_gamma"));
-    pen[placeOf(In::declination)] = 90 * (1 - altitude);
+    pen[placeOf(In::declination)] = 90 - kFlatLean * altitude;
     pen[placeOf(In::stroke)] = 1;
     return withChance(pen, 0.5f);
 }

@@ -41,7 +41,7 @@ public:
     Spread spread(const MypaintQuantity& quantity, const MypaintPen& pen) const;
 
 private:
-    // speed: pixels a second; altitude: 0 upright to 1 flat.
+    // speed: pixels a second; altitude: 0 upright to 1 at 60 degrees, as QDDrawTouch has it.
     MypaintPen at(float pressure, float speed, float altitude) const;
     MypaintPen withChance(const MypaintPen& pen, float chance) const;
 

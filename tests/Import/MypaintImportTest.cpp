@@ -60,8 +60,8 @@ private:
     std::optional<ImportedBrush> _brush;
 };
 
-constexpr LPControlParams kLight{0.25f, 0, 0.6f}, kFirm{0.85f, 0, 0.6f}, kSlow{0.5f, 0, 1},
-    kFast{0.5f, 0, 0.03f};
+constexpr LPControlParams kLight{0.25f, 0, 0.6f}, kFirm{0.85f, 0, 0.6f}, kFlat{0.5f, 1, 0.6f},
+    kSlow{0.5f, 0, 1}, kFast{0.5f, 0, 0.03f};
 
 TEST(MypaintImportTest, SizeAndOpacityComeToWhatMyPaintsCurvesDo) {
     const struct {
@@ -75,6 +75,9 @@ TEST(MypaintImportTest, SizeAndOpacityComeToWhatMyPaintsCurvesDo) {
         {R"(radius_logarithmic: 2.0794| "speed1": [[0, 0.5], [4, -0.5]])", kSlow, 16 * std::exp(0.35f), 0.5f},
         {R"(radius_logarithmic: 2.0794| "speed1": [[0, 0.5], [4, -0.5]])", kFast, 16 * std::exp(-0.45f),
          0.5f},
+        {R"(radius_logarithmic: 2.0794| "tilt_declination": [[30, 0.5], [90, 0]])", kLight, 16, 0.5f},
+        {R"(radius_logarithmic: 2.0794| "tilt_declination": [[30, 0.5], [90, 0]])", kFlat,
+         16 * std::exp(0.5f), 0.5f},
         {R"(opaque_multiply: 0| "pressure": [[0, 0], [1, 1]])", kLight, 16, 0.125f},
         {R"(opaque_multiply: 0| "pressure": [[0, 0], [1, 1]])", kFirm, 16, 0.425f},
         {R"(radius_logarithmic: 1| "custom": [[-1, -1], [1, 1]]; custom_input: 1.0794)", kLight, 16, 0.5f},
