@@ -68,6 +68,7 @@ private:
     MypaintQuantity of(const char* key) const;
     Influences influencesOn(Settings settings) const;
     float growth(float wild);
+    std::vector<Target> sizeTargets();
     float sizeAt(const LPControlParams& inputs) const;
     float ownStepAt(const LPControlParams& inputs) const;
 
@@ -158,7 +159,8 @@ float Fitting::growth(float wild) {
     return std::sqrt(wanted / (isTwice ? covered * covered : covered));
 }
 
-void Fitting::takeSize() {
+// Of the size's logarithm, the weightier the more shows of it.
+std::vector<Target> Fitting::sizeTargets() {
     const float grown = growth(std::clamp(_brush.base("radius_by_random"), 0.0f, 1.5f));
     std::vector<Target> targets;
     for (const PenState& state : _pens.states({"radius_logarithmic"})) {
@@ -168,6 +170,11 @@ void Fitting::takeSize() {
         const float shown = size * std::max(_dabs.opacityAt(state.pen), 0.01f);
         targets.push_back({state.inputs, std::log(size * grown), shown});
     }
+    return targets;
+}
+
+void Fitting::takeSize() {
+    const std::vector<Target> targets = sizeTargets();
     // One size is the brush's own, where it can be as small.
     const bool isOne = targets.size() == 1 && _sizeJitter == 0 && targets[0].value >= std::log(kLeastSize);
     const auto share = [](const LPControlParams& inputs, const ControlFit& fit) {
