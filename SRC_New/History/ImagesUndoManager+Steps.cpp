@@ -84,28 +84,36 @@ bool ImagesUndoManager::redoAtOnce() {
 
 // ---- As a whole
 
-HistoryMoment ImagesUndoManager::moment() const {
+HistoryChange ImagesUndoManager::takeChange(bool all) {
     const std::lock_guard lock(_operation);
     const auto step = [this](const QString& name) {
-        return HistoryMoment::Step{name, _store.step(name).tiles()};
+        return HistoryChange::Step{name, _store.step(name).tiles()};
     };
-    HistoryMoment moment;
-    for (const QString& name : undoItems()) {
-        moment.undo.push_back(step(name));
+    const auto steps = [&](const StackChange<QString>& names) {
+        StackChange<HistoryChange::Step> change{names.dropped, names.kept, {}};
+        std::transform(names.added.begin(), names.added.end(), std::back_inserter(change.added), step);
+        return change;
+    };
+    Changes changes = takeChanges();
+    if (std::exchange(_picturesChanged, false) || all) {
+        const QStringList undo = undoItems(), redo = redoItems();
+        changes.undo = {0, 0, {undo.begin(), undo.end()}};
+        changes.redo = {0, 0, {redo.begin(), redo.end()}};
     }
-    moment.current = step(currentStringItem());
-    for (const QString& name : redoItems()) {
-        moment.redo.push_back(step(name));
-    }
-    std::reverse(moment.redo.begin(), moment.redo.end());
-    return moment;
+    return {steps(changes.undo), steps(changes.redo), step(changes.current), nullptr};
 }
 
-void ImagesUndoManager::become(const HistoryMoment& moment) {
+// Which is told with what became of the stacks where it is the current one's alone.
+void ImagesUndoManager::replaced(const QString& name) {
+    const bool isCurrent = name == currentStringItem();
+    _picturesChanged = _picturesChanged || usesOf(name) > (isCurrent ? 1 : 0);
+}
+
+void ImagesUndoManager::become(const HistoryChange& all) {
     const std::lock_guard lock(_operation);
-    auto steps = moment.undo;
-    steps.push_back(moment.current);
-    steps.insert(steps.end(), moment.redo.begin(), moment.redo.end());
+    auto steps = all.undo.added;
+    steps.push_back(all.current);
+    steps.insert(steps.end(), all.redo.added.rbegin(), all.redo.added.rend());
     const unsigned most = undoStepCount();
     UndoManager::setUndoStepCount(static_cast<unsigned>(steps.size()));  // while all of them are to be undone
     resetWithCurrentItem(steps.front().name);
@@ -117,10 +125,10 @@ void ImagesUndoManager::become(const HistoryMoment& moment) {
             _store.cache(steps[i].name, std::make_shared<Snapshot>(StepPicture(steps[i].picture)));
         }
     }
-    for (std::size_t i = 0; i < moment.redo.size(); ++i) {
+    for (std::size_t i = 0; i < all.redo.added.size(); ++i) {
         stepAnyway(Way::back);
     }
-    UndoManager::setUndoStepCount(std::max(most, static_cast<unsigned>(moment.undo.size())));
+    UndoManager::setUndoStepCount(std::max(most, static_cast<unsigned>(all.undo.added.size())));
 }
 
 // ---- Budgets
@@ -186,16 +194,14 @@ void ImagesUndoManager::relieve(qint64 most) {
 
 // The oldest, and where there are only undone ones, the one undone first.
 bool ImagesUndoManager::dropFarthest() {
-    const QStringList undo = undoItems(), redo = redoItems();
-    if (!undo.isEmpty()) {
-        dropOldestUndoItem();
+    if (canUndo()) {
+        letGoOfUnused({dropOldestUndoItem()});
         ++_stepsDropped;
-    } else if (!redo.isEmpty()) {
-        dropLastRedoItem();
+    } else if (canRedo()) {
+        letGoOfUnused({dropLastRedoItem()});
     } else {
         return false;
     }
-    letGoOfUnused({undo.isEmpty() ? redo.first() : undo.first()});
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "Brushes/ImageData.h"
@@ -106,10 +107,8 @@ bool ImagesUndoManager::addItemWithImageData(const QByteArray& data) {
 }
 
 void ImagesUndoManager::beginItem() {
-    const QStringList items = undoItems();
-    if (!items.isEmpty() && static_cast<std::uint64_t>(items.size()) >= undoStepCount()) {
-        dropOldestUndoItem();
-        letGoOfUnused({items.first()});
+    if (canUndo() && static_cast<std::uint64_t>(undoCount()) >= undoStepCount()) {
+        letGoOfUnused({dropOldestUndoItem()});
     }
     QString name = Tools::dateString();
     while (!_store.step(name).isNull() || _store.has(name, {})) {
@@ -142,6 +141,7 @@ bool ImagesUndoManager::setCurrentItemWithImage(const QImage& image) {
     if (pathWithName(name).isNull()) {
         return setCurrentItemWithImageData(UIImagePNGRepresentation(image));  // there is no file
     }
+    replaced(name);
     startWrite(_store.write(name, pathWithName(name), std::make_shared<Snapshot>(image)));
     return true;
 }
@@ -161,6 +161,7 @@ bool ImagesUndoManager::resetWithImageOfCurrentItem(const QImage& image) {
 void ImagesUndoManager::keepCurrent(const QByteArray& data) {
     const QString name = currentStringItem();
     const QString path = pathWithName(name);
+    replaced(name);
     if (_maxCacheCount == 0 && !path.isNull()) {
         startWrite(_store.write(name, path, std::make_shared<Snapshot>(data)));
         return;
@@ -206,17 +207,10 @@ QString ImagesUndoManager::currentPathOfItem() const {
 
 bool ImagesUndoManager::addItemWithString(const QString& item) {
     const std::lock_guard lock(_operation);
-    const QStringList before = undoItems();
-    const QStringList redone = redoItems();
-    if (!UndoManager::addItemWithString(item)) {
-        return false;
-    }
-    QStringList dropped = redone;
-    if (!before.isEmpty() && undoItems().size() <= before.size()) {
-        dropped.append(before.first());
-    }
+    QStringList dropped;
+    const bool added = addItem(item, &dropped);
     letGoOfUnused(dropped);
-    return true;
+    return added;
 }
 
 bool ImagesUndoManager::undo() {
@@ -255,16 +249,9 @@ void ImagesUndoManager::resetWithCurrentItem(const QString& item) {
 
 // Items set by hand may stand in several places at once.
 void ImagesUndoManager::letGoOfUnused(const QStringList& names) {
-    if (names.isEmpty()) {
-        return;
-    }
-    const QStringList used = undoItems() + redoItems() + QStringList(currentStringItem());
     QStringList unused;
-    for (const QString& name : names) {
-        if (!used.contains(name)) {
-            unused.append(name);
-        }
-    }
+    std::copy_if(names.begin(), names.end(), std::back_inserter(unused),
+                 [this](const QString& name) { return usesOf(name) == 0; });
     removeImageWithNames(unused);
 }
 

@@ -34,7 +34,7 @@ namespace dabcanvas {
 class BackgroundQueue;
 class TempFolder;
 class TileStore;
-struct HistoryMoment;
+struct HistoryChange;
 }  // namespace dabcanvas
 
 class DABCANVAS_CANVAS_API ImagesUndoManager : public UndoManager {
@@ -112,9 +112,11 @@ public:
     // memory, at most 1 GiB, and 4 GiB.
     void keepTilesIn(std::shared_ptr<dabcanvas::TileStore> tiles);
     void keepToBudgets();  // as it does when what it shows has changed
-    // The steps with their pictures, and making them the history.
-    dabcanvas::HistoryMoment moment() const;
-    void become(const dabcanvas::HistoryMoment& moment);
+    // What became of the steps since it was asked last, with their pictures; all of them where it is asked for, and where
+    // pictures changed behind their names. What was never asked for costs nothing.
+    dabcanvas::HistoryChange takeChange(bool all);
+    // The history becomes these steps, all of them.
+    void become(const dabcanvas::HistoryChange& steps);
     // Puts the cached image farthest from the current step into its file.
     void removeOneObjectFromCache();
     // Two of them, and fewer from then on; and half of what a canvas's steps take.
@@ -175,6 +177,7 @@ private:
     void pack(const std::shared_ptr<dabcanvas::Snapshot>& image);
     QString nameOfPath(const QString& path) const;
     void letGoOfUnused(const QStringList& names);
+    void replaced(const QString& name);
     void letGoOfOthers();
 
     mutable std::recursive_mutex _operation;  // one call at a time; the tasks in the background never take it
@@ -185,6 +188,7 @@ private:
     qint64 _cacheByteBudget = 0, _diskByteBudget = 0;
     bool _dropsSteps = true;
     unsigned _stepsDropped = 0;
+    bool _picturesChanged = false;  // of steps that takeChange() told before
     std::shared_ptr<dabcanvas::TileStore> _tiles;
     dabcanvas::SnapshotStore _store;
     std::shared_ptr<Quitting> _quitting;

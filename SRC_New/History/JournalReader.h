@@ -39,7 +39,7 @@ struct JournalContents {
         0;  // milliseconds since 1970, when the last step or change of the stacks was appended
 
     std::vector<RecoveredStep> steps;  // each after its base
-    std::vector<int> undo, redo;       // steps: the oldest first, as in JournalState
+    std::vector<int> undo, redo;       // steps, the one nearest to the current one last
     int current = -1;  // the step before the present, where that itself is lost; -1: none is left
     int present = -1;  // the canvas; the current step, where it was no other or is lost
     std::unordered_map<std::uint64_t, TilePlace> tiles;  // all that the steps name

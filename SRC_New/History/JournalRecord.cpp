@@ -108,7 +108,7 @@ bool RecordParser::take(std::vector<TileChange>* changes, const JournalFormat& f
 std::optional<RecordHead> headOf(const char* bytes, const RecordPlace& place) {
     const auto mark = numberAt<std::uint32_t>(bytes);
     const auto type = static_cast<RecordType>(mark & 0xFF);
-    if ((mark & ~0xFFu) != kMark || type < RecordType::segment || type > RecordType::present) {
+    if ((mark & ~0xFFu) != kMark || type < RecordType::segment || type > RecordType::stacks) {
         return {};
     }
     const std::uint64_t seed = seedOf(bytes, place);

@@ -73,25 +73,36 @@ SnapshotStore::Record& SnapshotStore::cached(const QString& name, std::shared_pt
     Record& record = _records[name];
     record.held = std::move(image);
     if (record.place == 0) {
-        record.place = ++_lastPlace;
-        _order.emplace(record.place, name);
+        record.formerPlace = 0;
     }
+    enter(record, name);
     return record;
+}
+
+// In the place it has, or had.
+void SnapshotStore::enter(Record& record, const QString& name) {
+    if (record.place == 0) {
+        record.place = record.formerPlace != 0 ? record.formerPlace : ++_lastPlace;
+    }
+    _order.emplace(record.place, name);
+    if (record.held->step().isNull()) {
+        _images.emplace(record.place, name);
+    } else {
+        _images.erase(record.place);
+    }
 }
 
 void SnapshotStore::uncache(Record& record) {
     _order.erase(record.place);
+    _images.erase(record.place);
     record.formerPlace = std::exchange(record.place, 0);
 }
 
 QStringList SnapshotStore::cachedNames(bool withSteps) const {
     const std::lock_guard lock(_mutex);
     QStringList names;
-    names.reserve(static_cast<qsizetype>(_order.size()));
-    for (const auto& [place, name] : _order) {
-        if (withSteps || _records.constFind(name)->held->step().isNull()) {
-            names.append(name);
-        }
+    for (const auto& [place, name] : withSteps ? _order : _images) {
+        names.append(name);
     }
     return names;
 }
@@ -109,7 +120,7 @@ int SnapshotStore::cachedCount() const {
 qint64 SnapshotStore::cachedBytes() const {
     const std::lock_guard lock(_mutex);
     qint64 bytes = 0;
-    for (const auto& [place, name] : _order) {
+    for (const auto& [place, name] : _images) {
         bytes += _records.constFind(name)->held->heldBytes();
     }
     return bytes;
@@ -269,9 +280,7 @@ void SnapshotStore::failed(const QString& name, const QString& path, bool mayRet
         qCWarning(lcHistory, "%ls cannot be written; undo steps stay in memory until it can",
                   qUtf16Printable(path));
     }
-    Record& record = _records[name];
-    record.place = record.formerPlace != 0 ? record.formerPlace : ++_lastPlace;
-    _order.emplace(record.place, name);
+    enter(_records[name], name);
 }
 
 SnapshotStore::Task SnapshotStore::remove(const QStringList& names,
@@ -320,8 +329,7 @@ SnapshotStore::Task SnapshotStore::empty(const QString& folder, bool onlyOwn) {
                 paths.append(record->path);
             }
             if (record->held && record->place == 0) {  // on its way to the disk: turn back
-                record->place = record->formerPlace != 0 ? record->formerPlace : ++_lastPlace;
-                _order.emplace(record->place, record.key());
+                enter(*record, record.key());
             }
             record->ticket = before;
             record->fileSize = -1;

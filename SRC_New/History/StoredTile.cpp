@@ -105,20 +105,21 @@ void TileStore::Shared::keep(bool isKept) {
 }
 
 void TileStore::Shared::writeNoted() {
-    std::optional<HistoryMoment> moment;
+    std::optional<HistoryChange> change;
     bool isWanted = false, waitsForDisk = false;
     {
         const std::lock_guard lock(mutex);
-        moment.swap(noted);
-        isWanted = moment && !isEnding;
+        change.swap(noted);
+        isWanted = change && !isEnding;
         waitsForDisk = syncs;
     }
     if (!isWanted) {
         return;
     }
     QString problem;
-    const bool written = steps.write(*moment, journal, &problem) && (!waitsForDisk || journal.sync(&problem));
-    moment.reset();
+    const bool written =
+        steps.write(std::move(*change), journal, &problem) && (!waitsForDisk || journal.sync(&problem));
+    change.reset();
     freeFiles();
     if (!written || !writeSparse(&problem)) {
         tellFull(problem);

@@ -234,12 +234,15 @@ TEST_F(TileJournalTest, ADamagedTileTakesItsPicturesAlong) {
     const JournalStep steps[] = {
         {"first", {}, {{0, 1}, {1, 2}}}, {odd, "first", {{0, 3}}}, {"third", odd, {{1, 4}}}};
     const JournalPresent present{"third", {{2, 1}}};
-    ASSERT_TRUE(journal.appendState({{steps[0]}, {}, "first", {}, {}}, &problem));
-    ASSERT_TRUE(
-        journal.appendState({{steps[1], steps[2]}, {"none", "first"}, odd, {"third"}, present}, &problem));
-    EXPECT_FALSE(journal.appendState({{{"x", "none", {}}}, {}, "x", {}, {}}, &problem));
-    EXPECT_FALSE(journal.appendState({{{"", "", {}}}, {}, "", {}, {}}, &problem));
-    EXPECT_FALSE(journal.appendPresent({"none", {}}, &problem));
+    const StackChange<QString> none, undone{0, 0, {"none", "first"}}, redone{0, 0, {"third"}}, kept{1, 2, {}};
+    ASSERT_TRUE(journal.appendState({{steps[0]}, none, none, "first", {}}, &problem));
+    ASSERT_TRUE(journal.appendState({{steps[1], steps[2]}, undone, redone, odd, present}, &problem));
+    for (const JournalState& wrong : {JournalState{{{"x", "none", {}}}, none, none, "x", {}},
+                                      JournalState{{{"", "", {}}}, none, none, "", {}},
+                                      JournalState{{}, none, none, odd, JournalPresent{"none", {}}},
+                                      JournalState{{}, kept, none, odd, {}}}) {
+        EXPECT_FALSE(journal.appendState(wrong, &problem));
+    }
     const HistoryState::Step first{"first", {{0, 1}, {1, 2}}}, second{odd, {{0, 3}, {1, 2}}},
         third{"third", {{0, 3}, {1, 4}}};
     const Picture canvas{{0, 3}, {1, 4}, {2, 1}};
@@ -467,7 +470,7 @@ TEST_F(TileJournalTest, WithoutACheckpointStepsThatHaveNoTilesStayToo) {
         for (int i = life * 10; i < life * 10 + 10; ++i) {
             state.steps = {{QString::number(i), state.current, {}}};
             if (i > 0) {
-                state.undo.append(state.current);
+                state.undo.added.push_back(state.current);
             }
             state.current = QString::number(i);
             ASSERT_TRUE(journal.appendState(state, &problem)) << problem.toStdString();
@@ -485,11 +488,11 @@ TEST_F(TileJournalTest, PixelsThatLookLikeARecordAreNone) {
     TileJournal journal(
         {[&] { return folder; }, JournalModel::kFormat, 1 << 20, [] { return JournalState(); }});
     QString problem;
-    ASSERT_TRUE(journal.appendState({{{"old", {}, {}}}, {}, "old", {}, {}}, &problem));
+    ASSERT_TRUE(journal.appendState({{{"old", {}, {}}}, {}, {}, "old", {}}, &problem));
     const qint64 before = journal.bytesOnDisk();
-    ASSERT_TRUE(journal.appendState({{}, {}, "old", {}, {}}, &problem));
+    ASSERT_TRUE(journal.appendState({{}, {}, {}, "old", {}}, &problem));
     const QByteArray record = filesIn(folder).begin()->second.mid(before);
-    ASSERT_TRUE(journal.appendState({{{"new", {}, {}}}, {"old"}, "new", {}, {}}, &problem));
+    ASSERT_TRUE(journal.appendState({{{"new", {}, {}}}, {0, 0, {"old"}}, {}, "new", {}}, &problem));
     const auto tile = journal.appendTile(1, record, 1000, &problem);
     Files files = filesIn(folder);
     files.begin()->second[tile->offset] ^= 1;

@@ -38,7 +38,7 @@ protected:
                             state.current,
                             {{static_cast<std::uint32_t>(i) % format.tiles(), tile}}}};
             if (!state.current.isEmpty()) {
-                state.undo.append(state.current);
+                state.undo.added.push_back(state.current);
             }
             state.current = QString::number(i);
             if (!journal.appendTile(tile, stored, static_cast<int>(pixels.size()), &problem()) ||
