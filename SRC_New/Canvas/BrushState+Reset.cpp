@@ -45,6 +45,7 @@ constexpr BrushKey kResetOrder[] = {
     BrushKey::roundnessTingle,
     BrushKey::roundnessControl,
     BrushKey::minRoundness,
+    BrushKey::pixelAligned,
     BrushKey::flipXTingle,
     BrushKey::flipYTingle,
     BrushKey::disTwoAxes,
@@ -54,6 +55,10 @@ constexpr BrushKey kResetOrder[] = {
     BrushKey::distributionCountTingle,
     BrushKey::distributionCountControl,
     BrushKey::textureTingleEnabled,
+    BrushKey::maskDepth,
+    BrushKey::maskDepthControl,
+    BrushKey::maskBrightness,
+    BrushKey::maskContrast,
     BrushKey::textureControl,
     BrushKey::needMaskTexture,
     BrushKey::maskScale,
@@ -76,6 +81,8 @@ constexpr BrushKey kResetOrder[] = {
     BrushKey::flowControl,
     BrushKey::decay,
     BrushKey::minFlow,
+    BrushKey::wetEdge,
+    BrushKey::wetEdgeWidth,
     BrushKey::smoothEnabled,
 };
 
