@@ -345,4 +345,10 @@ std::optional<JournalContents> readJournal(const QString& folder, TileCheck chec
     return contents;
 }
 
+bool isBarren(const QString& folder) {
+    QString problem;
+    const auto contents = readJournal(folder, TileCheck::heads, &problem);
+    return contents ? contents->present < 0 : !mayHoldJournal(folder);
+}
+
 }  // namespace dabcanvas

@@ -63,4 +63,8 @@ enum class TileCheck {
 // None when there is no journal in the folder, of which `problem` tells.
 std::optional<JournalContents> readJournal(const QString& folder, TileCheck check, QString* problem);
 
+// Whether nobody will ever find a step or a canvas there: its process died before it wrote one, or all is damaged. Journals
+// of other versions, and those that cannot be opened now, may hold some.
+bool isBarren(const QString& folder);
+
 }  // namespace dabcanvas

@@ -156,6 +156,12 @@ std::optional<SegmentHead> segmentHeadOf(const char* bytes) {
     return known && result.format.isSound() && result.segment != 0 ? std::optional(result) : std::nullopt;
 }
 
+bool beginsSegment(const char* bytes, std::size_t size) {
+    const auto head = size < kRecordHead ? std::nullopt : headOf(bytes, kSegmentHead);
+    return head && head->type == RecordType::segment && head->length <= size - kRecordHead &&
+           isWhole(*head, bytes + kRecordHead);
+}
+
 QString segmentName(std::uint32_t number) {
     return QStringLiteral("tiles-%1.journal").arg(number, 8, 10, QLatin1Char('0'));
 }

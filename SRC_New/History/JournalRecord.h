@@ -153,6 +153,8 @@ RecordWriter recordOf(const SegmentHead& head);
 inline constexpr std::uint32_t kSegmentHeadBytes = kRecordHead + 40;
 // Of kSegmentHeadBytes; none for another version, too.
 std::optional<SegmentHead> segmentHeadOf(const char* bytes);
+// Whether these begin with one, of whatever version.
+bool beginsSegment(const char* bytes, std::size_t size);
 
 QString segmentName(std::uint32_t number);
 std::uint32_t numberOfSegment(const QString& name);  // 0 for another file's
