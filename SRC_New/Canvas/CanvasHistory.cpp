@@ -233,12 +233,13 @@ bool CanvasHistory::keep(bool keeps, QString* problem) {
         return false;
     }
     images(_record.isGiven());
+    _images->endWritingDown();
     _record.tiles()->keepIn(std::move(folder));
-    note(true);
+    note();
     return true;
 }
 
-void CanvasHistory::note(bool all) {
+void CanvasHistory::note() {
     if (!isKept() || _images == nullptr) {
         return;
     }
@@ -249,9 +250,7 @@ void CanvasHistory::note(bool all) {
             tiles.keepIn(std::move(folder));
         }
     }
-    HistoryChange change = _images->takeChange(all);
-    change.present = _record.present();
-    tiles.note(std::move(change), UndoRecovery::syncs());
+    _images->writeDown(_record.present());
 }
 
 bool CanvasHistory::recover(const QString& id, QString* problem) {
@@ -276,7 +275,7 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
                            .arg(contents->format.pixelBytes * 2);
             return refuse();
         }
-        images(false);
+        images(false).endWritingDown();
         _layers.settle();
         _record.startAnew();
         _images->keepTilesIn(_record.tiles());
@@ -296,7 +295,7 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
     }
     folder->renumber();
     _record.tiles()->keepIn(std::move(folder));
-    note(true);
+    note();
     problem->clear();
     return true;
 }

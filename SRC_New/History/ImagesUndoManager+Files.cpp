@@ -144,6 +144,7 @@ void ImagesUndoManager::clearAllTempFiles() {
             folder->restore();
         });
     }
+    endWritingDown();  // what is kept is not to be emptied when the application ends
     reset();
 }
 

@@ -9,6 +9,7 @@
 #include "History/StepJournal.h"
 #include "History/TempFolder.h"
 #include "History/TileStore.h"
+#include "History/UndoRecovery.h"
 #include "Maths/Tools.h"
 
 using namespace dabcanvas;
@@ -33,6 +34,19 @@ constexpr qint64 fileOf(qint64 budget) {
 
 }  // namespace
 
+// While a canvas changes its history, and where that ends.
+class ImagesUndoManager::Busy {
+public:
+    explicit Busy(ImagesUndoManager& history)
+        : _history(history), _before(std::exchange(history._isBusy, true)) {}
+    ~Busy() { _history._isBusy = _before; }
+    Q_DISABLE_COPY_MOVE(Busy)
+
+private:
+    ImagesUndoManager& _history;
+    const bool _before;
+};
+
 void ImagesUndoManager::keepTilesIn(std::shared_ptr<TileStore> tiles) {
     const std::lock_guard lock(_operation);
     _tiles = std::move(tiles);
@@ -46,10 +60,11 @@ bool ImagesUndoManager::isOwn(const StepPicture& picture) const {
 }
 
 bool ImagesUndoManager::addItemWithPicture(const StepPicture& picture) {
+    const std::lock_guard lock(_operation);
+    const Busy busy(*this);
     if (!isOwn(picture)) {
         return addItemWithImageData(picture);
     }
-    const std::lock_guard lock(_operation);
     beginItem();
     _store.cache(currentStringItem(), std::make_shared<Snapshot>(picture));
     keepToBudgets();
@@ -58,6 +73,7 @@ bool ImagesUndoManager::addItemWithPicture(const StepPicture& picture) {
 
 bool ImagesUndoManager::resetWithPictureOfCurrentItem(const StepPicture& picture) {
     const std::lock_guard lock(_operation);
+    const Busy busy(*this);
     if (!isOwn(picture)) {
         return resetWithImageDataOfCurrentItem(picture);
     }
@@ -85,7 +101,6 @@ bool ImagesUndoManager::redoAtOnce() {
 // ---- As a whole
 
 HistoryChange ImagesUndoManager::takeChange(bool all) {
-    const std::lock_guard lock(_operation);
     const auto step = [this](const QString& name) {
         return HistoryChange::Step{name, _store.step(name).tiles()};
     };
@@ -103,6 +118,24 @@ HistoryChange ImagesUndoManager::takeChange(bool all) {
     return {steps(changes.undo), steps(changes.redo), step(changes.current), nullptr};
 }
 
+void ImagesUndoManager::writeDown(std::shared_ptr<const TilePicture> present) {
+    const std::lock_guard lock(_operation);
+    HistoryChange change = takeChange(!std::exchange(_writesDown, true));
+    change.present = std::move(present);
+    _tiles->note(std::move(change), UndoRecovery::syncs());
+}
+
+void ImagesUndoManager::endWritingDown() {
+    const std::lock_guard lock(_operation);
+    _writesDown = false;
+}
+
+void ImagesUndoManager::tell() {
+    if (_writesDown && !_isBusy) {
+        writeDown(nullptr);
+    }
+}
+
 // Which is told with what became of the stacks where it is the current one's alone.
 void ImagesUndoManager::replaced(const QString& name) {
     const bool isCurrent = name == currentStringItem();
@@ -111,6 +144,7 @@ void ImagesUndoManager::replaced(const QString& name) {
 
 void ImagesUndoManager::become(const HistoryChange& all) {
     const std::lock_guard lock(_operation);
+    const Busy busy(*this);
     auto steps = all.undo.added;
     steps.push_back(all.current);
     steps.insert(steps.end(), all.redo.added.rbegin(), all.redo.added.rend());
@@ -142,6 +176,7 @@ void ImagesUndoManager::setCacheByteBudget(qint64 bytes) {
     const std::lock_guard lock(_operation);
     _cacheByteBudget = std::max<qint64>(bytes, 0);
     keepToBudgets();
+    tell();
 }
 
 qint64 ImagesUndoManager::diskByteBudget() const {
@@ -156,6 +191,7 @@ void ImagesUndoManager::setDiskByteBudget(qint64 bytes) {
         _tiles->setFileBytes(fileOf(_diskByteBudget));
     }
     keepToBudgets();
+    tell();
 }
 
 qint64 ImagesUndoManager::cachedBytes() const {

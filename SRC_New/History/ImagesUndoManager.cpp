@@ -85,6 +85,7 @@ ImagesUndoManager::~ImagesUndoManager() {
         _quitting->history = nullptr;
     }
     QObject::disconnect(_quitting->connection);
+    endWritingDown();
     reset();
     // What is still to be written is not wanted any more; deleting it is quicker than waiting for it.
     removeImageWithNames(_store.names());
@@ -210,29 +211,42 @@ bool ImagesUndoManager::addItemWithString(const QString& item) {
     QStringList dropped;
     const bool added = addItem(item, &dropped);
     letGoOfUnused(dropped);
+    tell();
     return added;
+}
+
+void ImagesUndoManager::setCurrentItem(const QString& item) {
+    const std::lock_guard lock(_operation);
+    UndoManager::setCurrentItem(item);
+    tell();
 }
 
 bool ImagesUndoManager::undo() {
     const std::lock_guard lock(_operation);
-    return UndoManager::undo();
+    const bool done = UndoManager::undo();
+    tell();
+    return done;
 }
 
 bool ImagesUndoManager::redo() {
     const std::lock_guard lock(_operation);
-    return UndoManager::redo();
+    const bool done = UndoManager::redo();
+    tell();
+    return done;
 }
 
 void ImagesUndoManager::clearUndoItems() {
     const std::lock_guard lock(_operation);
     removeImageWithNames(undoItems());
     UndoManager::clearUndoItems();
+    tell();
 }
 
 void ImagesUndoManager::clearRedoItems() {
     const std::lock_guard lock(_operation);
     removeImageWithNames(redoItems());
     UndoManager::clearRedoItems();
+    tell();
 }
 
 void ImagesUndoManager::reset() {

@@ -14,10 +14,14 @@ bool isWritable(const HistoryChange::Step& step) {
     return step.picture && !step.name.isEmpty() && step.name.size() <= kMostName;
 }
 
+// Null for one that is not: a step of its name may have been.
+QString nameOf(const HistoryChange::Step& step) {
+    return isWritable(step) ? step.name : QString();
+}
+
 StackChange<QString> namesOf(const StackChange<HistoryChange::Step>& stack) {
     StackChange<QString> names{stack.dropped, stack.kept, {}};
-    std::transform(stack.added.begin(), stack.added.end(), std::back_inserter(names.added),
-                   [](const HistoryChange::Step& step) { return step.name; });
+    std::transform(stack.added.begin(), stack.added.end(), std::back_inserter(names.added), nameOf);
     return names;
 }
 
@@ -27,10 +31,15 @@ void HistoryChange::then(HistoryChange next) {
     undo.then(std::move(next.undo));
     redo.then(std::move(next.redo));
     current = std::move(next.current);
-    present = std::move(next.present);
+    if (next.present) {
+        present = std::move(next.present);
+    }
 }
 
 bool StepJournal::write(HistoryChange change, TileJournal& journal, QString* problem) {
+    if (!change.present) {
+        change.present = _present;
+    }
     if (!_isTold) {
         HistoryChange whole = all();
         whole.then(std::move(change));
@@ -112,7 +121,7 @@ StepJournal::Step StepJournal::lastKept(const StackChange<Step>& undo) const {
 // Writing a tile may begin a file, which asks for the whole: nothing of this object changes meanwhile.
 std::optional<JournalState> StepJournal::told(const HistoryChange& change, const Steps& written,
                                               QString* problem) const {
-    JournalState state{{}, namesOf(change.undo), namesOf(change.redo), change.current.name, {}};
+    JournalState state{{}, namesOf(change.undo), namesOf(change.redo), nameOf(change.current), {}};
     Step base = lastKept(change.undo);
     bool sound = true;
     // As the change of the step before it, unless it is written already.

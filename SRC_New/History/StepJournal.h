@@ -27,7 +27,7 @@ struct HistoryChange {
     };
     StackChange<Step> undo, redo;
     Step current;
-    std::shared_ptr<const TilePicture> present;  // the canvas, be it a step or not
+    std::shared_ptr<const TilePicture> present;  // the canvas, be it a step or not; null: as it was
 
     void then(HistoryChange next);
 };

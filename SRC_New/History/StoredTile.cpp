@@ -117,11 +117,14 @@ void TileStore::Shared::writeNoted() {
         return;
     }
     QString problem;
-    const bool written =
-        steps.write(std::move(*change), journal, &problem) && (!waitsForDisk || journal.sync(&problem));
+    bool done = steps.write(std::move(*change), journal, &problem);
     change.reset();
     freeFiles();
-    if (!written || !writeSparse(&problem)) {
+    if (done) {  // what lies in a folder that was removed has to move before the disk can be waited for
+        done = writeSparse(&problem);
+        done = (!waitsForDisk || journal.sync(&problem)) && done;
+    }
+    if (!done) {
         tellFull(problem);
     }
 }

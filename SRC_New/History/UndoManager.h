@@ -29,7 +29,7 @@ public:
     UndoManager& operator=(const UndoManager&) = delete;
 
     QString currentStringItem() const;
-    void setCurrentItem(const QString& item);
+    virtual void setCurrentItem(const QString& item);
     QStringList undoItems() const;  // oldest first
     QStringList redoItems() const;  // the one undone last stands last
 

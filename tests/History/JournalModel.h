@@ -51,21 +51,6 @@ struct HistoryState {
     Picture canvas;
 
     friend bool operator==(const HistoryState&, const HistoryState&) = default;
-    friend void PrintTo(const HistoryState& state, std::ostream* out) {
-        const auto print = [&](const Step& step) {
-            *out << step.first.toStdString() << '{';
-            for (const auto& [index, tile] : step.second) {
-                *out << index << ':' << tile << ' ';
-            }
-            *out << "} ";
-        };
-        std::for_each(state.undo.begin(), state.undo.end(), print);
-        *out << "| ";
-        print(state.current);
-        *out << "| ";
-        std::for_each(state.redo.begin(), state.redo.end(), print);
-        print({"canvas", state.canvas});
-    }
 };
 
 // What was read, each tile byte for byte what it was.
