@@ -54,6 +54,16 @@ struct BlockRange {
     BlockRange(int from, int end) : first(from % kTileSide / kBlock), last((end - 1) % kTileSide / kBlock) {}
 };
 
+// Few, most often, so that calling for them would take as long.
+void copyTexels(const std::uint16_t* from, int count, std::int16_t* to) {
+    for (; count >= 2; count -= 2, from += 8, to += 8) {
+        std::memcpy(to, from, 16);
+    }
+    if (count > 0) {
+        std::memcpy(to, from, 8);
+    }
+}
+
 bool isInOneTile(const Rect& rect) {
     return !rect.isEmpty() && rect.x / kTileSide == (rect.right() - 1) / kTileSide &&
            rect.y / kTileSide == (rect.bottom() - 1) / kTileSide;
@@ -158,7 +168,7 @@ void SmudgePainter<Channel>::show(const TileGrid<Channel>& picture) {
         _before.drop(index);
         _blocks[index] = 0;
     });
-    _provided = {};
+    _provided = _lastProvided = {};
 }
 
 template <typename Channel>
@@ -172,6 +182,11 @@ void SmudgePainter<Channel>::forget() {
 
 template <typename Channel>
 void SmudgePainter<Channel>::provide(const Rect& texels) {
+    if (_lastProvided.contains(texels)) {
+        return;
+    }
+    const auto down16 = [](int edge) { return edge / kBlock * kBlock; };
+    const auto up16 = [](int edge) { return (edge + kBlock - 1) / kBlock * kBlock; };
     _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
         const BlockRange across(part.x, part.right()), down(part.y, part.bottom());
         const unsigned columns = (2u << across.last) - (1u << across.first);
@@ -187,6 +202,8 @@ void SmudgePainter<Channel>::provide(const Rect& texels) {
             _blocks[index] = static_cast<std::uint16_t>(_blocks[index] | 1u << bit);
         }
     });
+    _lastProvided =
+        Rect::between(down16(texels.x), down16(texels.y), up16(texels.right()), up16(texels.bottom()));
 }
 
 template <typename Channel>
@@ -275,8 +292,7 @@ void SmudgePainter<Channel>::copy(const Layer& from, const Rect& rect, Texels& t
         const auto* tile = from.tile(index);
         for (int y = part.y; tile != nullptr && y < part.bottom(); ++y) {
             const std::ptrdiff_t first = std::ptrdiff_t{y - rect.y} * rect.width + part.x - rect.x;
-            std::memcpy(to.copied.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
-                        static_cast<std::size_t>(part.width) * 8);
+            copyTexels(tile->at(part.x % kTileSide, y % kTileSide), part.width, to.copied.data() + first * 4);
         }
     });
 }
@@ -311,15 +327,18 @@ Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabSt
         if (_layerDepth == 8) {
             round(_layer, texels);
         }
-        // Each texel reaches as far as the next ones.
-        touched =
-            touched.united(Rect::covering((texels.x - 1) / _scaleX, (texels.y - 1) / _scaleY,
-                                          (texels.right() + 1) / _scaleX, (texels.bottom() + 1) / _scaleY));
+        touched = touched.united(texels);
         _coverage.push_back(smudge.dab);
         _coverage.back().flow *= smudge.exchange;
     }
+    if (touched.isEmpty()) {
+        return {};
+    }
     _holds = _holds.united(_painter.draw(_exchanged, _coverage, plain, first));
-    return touched.intersected(Rect::of(_size));
+    // Each texel reaches as far as the next ones.
+    return Rect::covering((touched.x - 1) / _scaleX, (touched.y - 1) / _scaleY,
+                          (touched.right() + 1) / _scaleX, (touched.bottom() + 1) / _scaleY)
+        .intersected(Rect::of(_size));
 }
 
 template <typename Channel>
