@@ -33,6 +33,7 @@ uniform vec2 u_viewSize;
 #ifdef RECORDS
 uniform sampler2D u_reducedMask;
 uniform vec2 u_maskLevel;     // how much of the reduced paper is mixed in, and of which of its levels
+uniform vec2 u_maskRelief;    // what a height lets through: gain and level
 #else
 uniform vec4 u_maskBaseCoord; // the paper in its texture: x, y, width, height in texels
 #endif
@@ -52,7 +53,8 @@ float paper() {
     vec2 pixel = vec2(gl_FragCoord.x, u_viewSize.y - gl_FragCoord.y);
 #ifdef RECORDS
     vec2 tile = pixel / u_maskSize;
-    return mix(texture(u_maskTexture, tile).r, textureLod(u_reducedMask, tile, u_maskLevel.y).r, u_maskLevel.x);
+    float height = mix(texture(u_maskTexture, tile).r, textureLod(u_reducedMask, tile, u_maskLevel.y).r, u_maskLevel.x);
+    return clamp(u_maskRelief.x * height + u_maskRelief.y + v_dabMore.w, 0.0, 1.0);
 #else
     vec2 tile = fract(pixel / u_maskSize);
     float level = max(log2(max(u_maskBaseCoord.z / u_maskSize.x, u_maskBaseCoord.w / u_maskSize.y)), 0.0);

@@ -11,7 +11,7 @@ in vec4 a_dabPixel;          // as dabCoverage() takes it
 in vec4 a_dabPaint;          // colour and flow
 in vec4 a_dabFirstLevel;     // of the tip: left, top, width, height in the texture
 in vec4 a_dabNextLevel;
-in vec4 a_dabMore;           // part of the next level, noise's turn, random number
+in vec4 a_dabMore;           // part of the next level, noise's turn, random number, paper's lift
 
 flat out vec4 v_dabPlace, v_dabAxes, v_dabPixel, v_dabPaint, v_dabFirstLevel, v_dabNextLevel, v_dabMore;
 

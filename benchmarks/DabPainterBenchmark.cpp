@@ -93,7 +93,7 @@ Picture pictureOf(const Size& size, double rim) {
     return {PixelView::topRowFirst(bytes->data(), size), 1, bytes};
 }
 
-enum class Kind { upright, betweenLevels, paper };
+enum class Kind { upright, betweenLevels, paper, relief };
 
 DabStyle styleOf(Kind kind, int width) {
     // Levels of detail are as large as powers of two: on a tip of unequal sides, turned dabs lie between two of them.
@@ -101,8 +101,9 @@ DabStyle styleOf(Kind kind, int width) {
     const Size size = kind == Kind::betweenLevels ? Size{side * 3 / 4, side * 5 / 8} : Size{side, side};
     DabStyle style;
     style.tips = std::make_shared<const TipSet>(TipSet{pictureOf(size, 1)});
-    if (kind == Kind::paper) {
+    if (kind == Kind::paper || kind == Kind::relief) {
         style.paper = std::make_shared<const Picture>(pictureOf({200, 200}, 2));
+        style.paperStyle.lifts = kind == Kind::relief;
     }
     return style;
 }
@@ -161,6 +162,7 @@ void processorDabs(benchmark::State& state, Kind kind) {
 DABS(upright);
 DABS(betweenLevels);
 DABS(paper);
+DABS(relief);
 
 }  // namespace
 

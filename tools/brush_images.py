@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Draws the tips and papers of the brushes that make_brushes.py makes.
+"""Draws tips and papers of those brushes of make_brushes.py that have none of brush_papers.py and brush_tips.py.
 
 Tips are pixels whose alpha is the shape; papers are opaque greys that repeat, white where paint gets through. Both come
 as PNG bytes, the same every time.
@@ -90,21 +90,6 @@ def paper(side, cells, low, high, seed, stretch=1.0):
     return png(side, side, pixel, 3)
 
 
-def canvas_weave(side, threads, seed):
-    """Woven threads, over and under."""
-    rng = seeded(seed)
-    noise = Noise(rng, 32)
-
-    def pixel(i, j):
-        u, v = i * threads / side, j * threads / side
-        over = (math.floor(u) + math.floor(v)) % 2 == 0
-        along, across = (u % 1, v % 1) if over else (v % 1, u % 1)
-        bulge = math.sin(math.pi * along) ** 0.7 * math.sin(math.pi * across) ** 0.5
-        grain = noise.at(i * 32 / side, j * 32 / side)
-        return (clamp(0.15 + 1.1 * bulge * (0.6 + 0.6 * grain)),) * 3
-    return png(side, side, pixel, 3)
-
-
 # ---- Tips
 
 def speckled(side, seed, grain, low, high, edge=0.25, wobble=0.1):
@@ -176,77 +161,6 @@ def wash(side, seed):
     return tip(side, alpha)
 
 
-def leaf(side, kind):
-    """A leaf with its stalk down and a bare midrib: 0 pointed, 1 round, 2 willow, 3 lobed."""
-    width = (0.44, 0.6, 0.22, 0.62)[kind]
-
-    def alpha(x, y):
-        t = (y + 0.95) / 1.6  # 0 at the point, 1 where the stalk begins
-        if t > 1:
-            return smoothstep(0.06, 0.02, abs(x + 0.06 * (t - 1))) * smoothstep(1.18, 1.1, t)
-        if t < 0:
-            return 0.0
-        half = width * math.sin(math.pi * t ** (0.8, 0.75, 0.9, 0.7)[kind]) ** (0.8, 0.55, 0.9, 0.7)[kind]
-        if kind == 3:
-            half *= 0.72 + 0.28 * math.cos(t * 6 * math.pi - 0.6)
-        elif kind == 0:
-            half *= 1 + 0.05 * math.cos(t * 40)
-        body = smoothstep(0.0, 0.05, half - abs(x))
-        rib = 1 - 0.75 * smoothstep(0.035, 0.01, abs(x)) * smoothstep(0.02, 0.2, t)
-        veins = 1 - 0.28 * smoothstep(0.12, 0.0, abs(((t * 7 - abs(x) * 5) % 1) - 0.5)) * smoothstep(0.03, 0.08, abs(x))
-        return body * rib * veins
-    return tip(side, alpha)
-
-
-def splash(side, seed, arms):
-    """A drop that burst: a body, fingers and drops that flew off."""
-    rng = seeded(seed)
-    blobs = [(0, 0, rng.between(0.3, 0.42))]
-    for _ in range(arms):
-        turn, out = rng.between(0, 2 * math.pi), rng.between(0.5, 0.95)
-        for step in range(7):
-            along = 0.3 + step * (out - 0.3) / 7
-            blobs.append((along * math.cos(turn), along * math.sin(turn), 0.055 - 0.006 * step))
-        blobs.append((out * math.cos(turn), out * math.sin(turn), rng.between(0.03, 0.07)))
-
-    def alpha(x, y):
-        field = sum(size * size / ((x - bx) ** 2 + (y - by) ** 2 + 1e-4) for bx, by, size in blobs)
-        return smoothstep(1.3, 1.7, field) * (1 - smoothstep(0.93, 0.99, max(abs(x), abs(y))))
-    return tip(side, alpha)
-
-
-def shard(side, kind):
-    """Confetti in a colour of its own, for the jitter to turn: a strip, a disc, a triangle, a ring."""
-    def alpha(x, y):
-        if kind == 0:
-            inside = min(0.85 - abs(x), 0.32 - abs(y))
-        elif kind == 1:
-            inside = 0.62 - math.hypot(x, y)
-        elif kind == 2:
-            inside = min(0.5 - y, (y + 0.75) * 0.5 - abs(x) * 0.87)
-        else:
-            inside = 0.16 - abs(math.hypot(x, y) - 0.6)
-        return smoothstep(0.0, 0.05, inside)
-    return tip(side, alpha, lambda x, y: (0.95, 0.15 + 0.1 * (y > 0), 0.2))
-
-
-def blade(side, seed):
-    """A tuft of grass, growing up from the middle."""
-    rng = seeded(seed)
-    blades = [(rng.between(-0.5, 0.5), rng.between(-0.3, 0.3), rng.between(0.7, 0.95), rng.between(0.035, 0.06))
-              for _ in range(6)]
-
-    def alpha(x, y):
-        covered = 0.0
-        for root, lean, height, width in blades:
-            t = (0.5 - y) / (height + 0.45)  # 0 at the root, 1 at the point
-            if 0 <= t <= 1:
-                middle = root * (0.7 + 0.3 * t) + lean * t * t * 1.3
-                covered = max(covered, smoothstep(0.0, 0.025, width * (1 - t) ** 0.7 - abs(x - middle)) * (0.75 + 0.25 * t))
-        return covered
-    return tip(side, alpha)
-
-
 def rough_disc(side, seed, wobble=0.05):
     """A solid disc whose edge is a little torn: a wet brush on absorbent paper."""
     rng = seeded(seed)
@@ -255,16 +169,4 @@ def rough_disc(side, seed, wobble=0.05):
     def alpha(x, y):
         out = math.hypot(x, y) + wobble * (noise.at(x * 6 + 6, y * 6 + 6) - 0.5) * 2
         return 1 - smoothstep(0.78, 0.95, out)
-    return tip(side, alpha)
-
-
-def scratches(side, seed):
-    """Streaks from left to right with gaps, to show through a stroke as a second line."""
-    rng = seeded(seed)
-    noise, fine = Noise(rng, 24), Noise(rng, 16)
-
-    def alpha(x, y):
-        round_off = 1 - smoothstep(0.7, 1.0, math.hypot(x, y))
-        streak = noise.at((x + 1) * 2.5, (y + 1) * 12)
-        return round_off * smoothstep(0.42, 0.62, 0.8 * streak + 0.2 * fine.at((x + 1) * 8, (y + 1) * 8))
     return tip(side, alpha)

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Makes the brush presets in samples/brushes with dabpaint, from the settings below.
 
-Needs nothing but Python 3 and a built dabpaint; the same brushes come out every time.
+Needs Python 3 with numpy and a built dabpaint; the same brushes come out every time.
 
     tools/make_brushes.py [--dabpaint PROGRAM] [--sheet SHEET.jpg] [NAME...]
 
@@ -17,6 +17,7 @@ import tempfile
 from pathlib import Path
 
 import brush_images as images
+import brush_stamps as stamps
 
 ROOT = Path(__file__).resolve().parent.parent
 FOLDER = ROOT / "samples" / "brushes"
@@ -120,25 +121,25 @@ brush("Spray Can", textureType=DISC, hardness=0.7, radius=5, minRadius=0.3, maxR
       distributionCountControl=(0.8, 0, 0), distributionCountTingle=0.3, flow=0.75, flowTingle=0.5,
       renderColor="#c22a56")
 
-brush("Ink Spatter", textureImages=[images.splash(96, seed, arms) for seed, arms in ((3, 7), (6, 4), (9, 0))],
+brush("Ink Spatter", textureImages=[stamps.splash(96, seed, arms) for seed, arms in ((3, 7), (6, 4), (9, 0))],
       textureTingleEnabled=True, radius=52, minRadius=0.04, maxRadius=1, radiusControl=(0.7, 0, 0), startRadius=0,
       endRadius=0.4, radiusTingle=1, radianTingle=1, pointsDistance=0.45, distribution=1.1, disTwoAxes=True,
       distributionCount=3, distributionCountTingle=0.8, renderColor="#17171c")
 
 # ---- Stamps
 
-brush("Autumn Leaves", textureImages=[images.leaf(96, kind) for kind in range(4)], textureTingleEnabled=True,
+brush("Autumn Leaves", textureImages=[stamps.leaf(96, kind) for kind in range(4)], textureTingleEnabled=True,
       radius=52, minRadius=0.55, maxRadius=1, radiusControl=(0.8, 0, 0), startRadius=0, endRadius=0.7, radiusTingle=0.4,
       radianTingle=1, flipXTingle=True, pointsDistance=0.35, distribution=0.7, disTwoAxes=True,
       distributionCount=2, distributionCountTingle=0.5, colorTingle=1, hueTingle=0.06, saturationTingle=0.12,
       brightnessTingle=0.15, renderColor="#c8782a", backRenderColor="#8a9a34")
 
-brush("Meadow Grass", textureImages=[images.blade(96, seed) for seed in (2, 5, 8)], textureTingleEnabled=True,
+brush("Meadow Grass", textureImages=[stamps.blade(96, seed) for seed in (2, 5, 8)], textureTingleEnabled=True,
       radius=80, minRadius=0.5, maxRadius=1, radiusControl=(0.8, 0, 0), startRadius=0, endRadius=0.6,
       flipXTingle=True, pointsDistance=0.12, distribution=0.12, colorTingle=1,
       hueTingle=0.04, brightnessTingle=0.12, renderColor="#5f9a3a", backRenderColor="#2f5f2c")
 
-brush("Confetti", textureImages=[images.shard(64, kind) for kind in range(4)], textureTingleEnabled=True,
+brush("Confetti", textureImages=[stamps.shard(64, kind) for kind in range(4)], textureTingleEnabled=True,
       colorFul=True, hueTingle=1, brightnessTingle=0.1, radius=28, minRadius=0.6, maxRadius=1, startRadius=0, endRadius=0,
       radiusTingle=0.5, radianTingle=1, roundnessTingle=0.4, minRoundness=0.5, pointsDistance=0.7,
       distribution=1.8, disTwoAxes=True, distributionCount=4, distributionCountControl=(0.7, 0, 0))
@@ -204,8 +205,7 @@ def main():
             make(options.dabpaint, name)
         if options.sheet:
             files = [FOLDER / file_name(name) for name in BRUSHES]
-            subprocess.run([options.dabpaint, "preset", "preview", *files, "-o", options.sheet, "--sheet",
-                            "--size", "360x150"], check=True)
+            subprocess.run([options.dabpaint, "preset", "sheet", *files, "-o", options.sheet], check=True)
     except (OSError, subprocess.CalledProcessError) as fault:
         sys.exit(str(fault))
 

@@ -86,6 +86,20 @@ BRUSH_PROPERTY(bool, needMaskTexture, NeedMaskTexture, .group = BrushGroup::tip,
 BRUSH_PROPERTY(float, maskScale, MaskScale, .group = BrushGroup::tip, .presetId = 0x800E, .reset = 1,
                .created = 1,
                .about = "Size of one paper tile on the canvas, relative to the mask image.")
+BRUSH_PROPERTY(float, maskDepth, MaskDepth, .group = BrushGroup::tip, .presetId = 0xA001, .reset = 0, .low = 0,
+               .high = 1, .dab = &DabSettings::maskDepth, .dabs = kMain,
+               .about = "How far the paper's heights decide: light dabs catch its tops alone, firm ones and "
+                        "full flow fill its valleys; 0 not at all.")
+BRUSH_PROPERTY(LPControlParams, maskDepthControl, MaskDepthControl, .group = BrushGroup::tip,
+               .presetId = 0xA100, .reset = 0, .dab = &DabSettings::maskDepthControl, .dabs = kMain,
+               .about = "Influence of pressure, altitude and speed on how firm a dab is to the paper, -1 to 1 "
+                        "each.")
+BRUSH_PROPERTY(float, maskBrightness, MaskBrightness, .group = BrushGroup::tip, .presetId = 0xA002, .reset = 0,
+               .low = -1, .high = 1,
+               .about = "Lets the paper through more, or less, all over.")
+BRUSH_PROPERTY(float, maskContrast, MaskContrast, .group = BrushGroup::tip, .presetId = 0xA003, .reset = 1,
+               .created = 1, .low = 0, .high = 8,
+               .about = "Steepness of the paper's heights: above 1 its grain has harder edges, 0 is smooth.")
 BRUSH_PROPERTY(QImage, maskImage, MaskImage, .group = BrushGroup::tip, .presetId = 0x800F,
                .about = "Paper, repeated over the canvas: white lets paint through, black and transparent "
                         "hold it back.")
@@ -187,6 +201,10 @@ BRUSH_PROPERTY(float, minRoundness, MinRoundness, .group = BrushGroup::shape, .p
 BRUSH_PROPERTY(LPControlParams, roundnessControl, RoundnessControl, .group = BrushGroup::shape,
                .presetId = 0x3300, .reset = 0, .dab = &DabSettings::roundnessControl,
                .about = "Influence of pressure, altitude and speed on the roundness, -1 to 1 each.")
+BRUSH_PROPERTY(bool, pixelAligned, PixelAligned, .group = BrushGroup::shape, .presetId = 0xA007, .reset = 0,
+               .dab = &DabSettings::pixelAligned,
+               .about = "Dabs lie upright on whole pixels and are whole pixels large, so that square tips have no "
+                        "soft edge.")
 BRUSH_PROPERTY(float, minFlow, MinFlow, .group = BrushGroup::flow, .presetId = 0x6009, .reset = 0,
                .created = 0.0001f, .low = 0.0001f, .dab = &DabSettings::minFlow,
                .about = "Lower bound of the influenced flow, as a fraction of flow.")

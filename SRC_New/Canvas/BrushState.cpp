@@ -369,7 +369,10 @@ SmudgeMaker& BrushState::smudges() {
 DabStyle BrushState::style() const {
     return {.tips = _tips.pictures(_settings.radius),
             .paper = _settings.needMaskTexture ? _paper : nullptr,
-            .paperScale = _settings.maskScale,
+            .paperStyle = {.scale = _settings.maskScale,
+                           .gain = _settings.maskContrast,
+                           .level = _settings.maskBrightness + (1 - _settings.maskContrast) / 2,
+                           .lifts = _settings.maskDepth > 0},
             .multicolour = _settings.colorFul,
             .hueTingle = _settings.hueTingle,
             .saturationTingle = _settings.saturationTingle,

@@ -41,7 +41,7 @@ private:
 
 // ---- One pointer's stroke
 
-bool PointerGate::begin(QPointF point, float pressure) {
+bool PointerGate::begin(QPointF point, float pressure, float altitude) {
     if (!_canvas.canBegin()) {
         return false;
     }
@@ -57,21 +57,21 @@ bool PointerGate::begin(QPointF point, float pressure) {
     lineMove = false;
     moveCount = 0;
     lastPoint = point;
-    _entry.begin(point, pressure, -1.0f);
+    _entry.begin(point, pressure, tilt(altitude));
     return true;
 }
 
-void PointerGate::move(QPointF point, float pressure) {
+void PointerGate::move(QPointF point, float pressure, float altitude) {
     if (_canvas.recognises() && !canAddPoint) {
         return;
     }
     lineMove = true;
     ++moveCount;
     lastPoint = point;
-    _entry.move(point, pressure, -1.0f, true);
+    _entry.move(point, pressure, tilt(altitude), true);
 }
 
-void PointerGate::end(QPointF point, float pressure) {
+void PointerGate::end(QPointF point, float pressure, float altitude) {
     if (_canvas.recognises()) {
         if (!canAddPoint) {
             return;
@@ -89,7 +89,7 @@ void PointerGate::end(QPointF point, float pressure) {
         _entry.drop();
     } else {
         lineMove = false;
-        _entry.end(point, pressure, -1.0f, true);
+        _entry.end(point, pressure, tilt(altitude), true);
     }
     if (!ending.alive) {
         return;
@@ -101,7 +101,7 @@ void PointerGate::end(QPointF point, float pressure) {
     _isProcess = false;
 }
 
-void PointerGate::leave(QPointF point, float pressure, bool withdraw) {
+void PointerGate::leave(QPointF point, float pressure, float altitude, bool withdraw) {
     qCDebug(lcPointer, "cancelWithTouch:");
     if (_canvas.recognises() && !canAddPoint) {
         return;
@@ -122,7 +122,7 @@ void PointerGate::leave(QPointF point, float pressure, bool withdraw) {
             startProcess();
         }
         lineMove = false;
-        _entry.end(point, pressure, -1.0f, true);
+        _entry.end(point, pressure, tilt(altitude), true);
     } else {
         _entry.drop();  // a click leaves nothing
     }
@@ -155,52 +155,52 @@ void PointerGate::finish(bool& own, bool other, How&& how) {
 
 // ---- Touch, refused while a mouse or pen draws
 
-void PointerGate::touchBegan(QPointF point, float pressure) {
+void PointerGate::touchBegan(QPointF point, float pressure, float altitude) {
     normalMoing = !digitPenMoving;
     const Alive alive(_life);
-    if (normalMoing && !begin(point, pressure) && alive) {
+    if (normalMoing && !begin(point, pressure, altitude) && alive) {
         normalMoing = false;
     }
 }
 
-void PointerGate::touchMoved(QPointF point, float pressure) {
+void PointerGate::touchMoved(QPointF point, float pressure, float altitude) {
     if (!digitPenMoving && normalMoing) {
-        move(point, pressure);
+        move(point, pressure, altitude);
     } else {
         normalMoing = false;
     }
 }
 
-void PointerGate::touchEnded(QPointF point, float pressure) {
-    finish(normalMoing, digitPenMoving, [&] { end(point, pressure); });
+void PointerGate::touchEnded(QPointF point, float pressure, float altitude) {
+    finish(normalMoing, digitPenMoving, [&] { end(point, pressure, altitude); });
 }
 
-void PointerGate::touchCancelled(QPointF point, float pressure) {
-    finish(normalMoing, digitPenMoving, [&] { cancel(point, pressure); });
+void PointerGate::touchCancelled(QPointF point, float pressure, float altitude) {
+    finish(normalMoing, digitPenMoving, [&] { cancel(point, pressure, altitude); });
 }
 
 // ---- Mouse and pen, refused while a finger draws
 
-void PointerGate::mouseDown(QPointF point, float pressure) {
+void PointerGate::mouseDown(QPointF point, float pressure, float altitude) {
     if (normalMoing) {
         return;
     }
     digitPenMoving = true;
     const Alive alive(_life);
-    if (!begin(point, pressure) && alive) {
+    if (!begin(point, pressure, altitude) && alive) {
         digitPenMoving = false;
     }
 }
 
-void PointerGate::mouseDragged(QPointF point, float pressure) {
+void PointerGate::mouseDragged(QPointF point, float pressure, float altitude) {
     if (!normalMoing && digitPenMoving) {
-        move(point, pressure);
+        move(point, pressure, altitude);
     }
 }
 
 // Deliberate: the cancel path, not the end path. A stroke long enough is finished there all the same.
-void PointerGate::mouseUp(QPointF point, float pressure) {
-    finish(digitPenMoving, normalMoing, [&] { cancel(point, pressure); });
+void PointerGate::mouseUp(QPointF point, float pressure, float altitude) {
+    finish(digitPenMoving, normalMoing, [&] { cancel(point, pressure, altitude); });
 }
 
 // ---- What the display does to a pointer's stroke
@@ -211,7 +211,7 @@ void PointerGate::abandon(bool withdraw) {
     }
     const Alive alive(_life);
     if (normalMoing || digitPenMoving) {
-        leave(lastPoint, _entry.lastSample().pressure, withdraw);
+        leave(lastPoint, _entry.lastSample().pressure, _entry.lastSample().altitude, withdraw);
     }
     if (alive) {
         normalMoing = digitPenMoving = false;

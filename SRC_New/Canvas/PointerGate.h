@@ -3,7 +3,7 @@
 // a short one. A stroke belongs to the kind of device that began it: while a finger draws, mouse and pen are refused,
 // and the other way round.
 //
-// Units    view points, as the display says them; pressure 0..1.
+// Units    view points, as the display says them; pressure 0..1; altitude 0 upright to 1 flat, -1 for none.
 // Life     the host may destroy the canvas, and this with it, in any callback.
 #pragma once
 
@@ -32,21 +32,23 @@ public:
 
     // ---- the steps of one pointer's stroke, whatever the device; false when it was refused
 
-    bool begin(QPointF point, float pressure);
-    void move(QPointF point, float pressure);
-    void end(QPointF point, float pressure);
+    bool begin(QPointF point, float pressure, float altitude = -1);
+    void move(QPointF point, float pressure, float altitude = -1);
+    void end(QPointF point, float pressure, float altitude = -1);
     // Of up to nine moves it is withdrawn, unless adjustCancelLine is off; else it is finished. A click draws nothing.
-    void cancel(QPointF point, float pressure) { leave(point, pressure, false); }
+    void cancel(QPointF point, float pressure, float altitude = -1) {
+        leave(point, pressure, altitude, false);
+    }
 
     // ---- devices
 
-    void touchBegan(QPointF point, float pressure);
-    void touchMoved(QPointF point, float pressure);
-    void touchEnded(QPointF point, float pressure);
-    void touchCancelled(QPointF point, float pressure);
-    void mouseDown(QPointF point, float pressure);
-    void mouseDragged(QPointF point, float pressure);
-    void mouseUp(QPointF point, float pressure);
+    void touchBegan(QPointF point, float pressure, float altitude = -1);
+    void touchMoved(QPointF point, float pressure, float altitude = -1);
+    void touchEnded(QPointF point, float pressure, float altitude = -1);
+    void touchCancelled(QPointF point, float pressure, float altitude = -1);
+    void mouseDown(QPointF point, float pressure, float altitude = -1);
+    void mouseDragged(QPointF point, float pressure, float altitude = -1);
+    void mouseUp(QPointF point, float pressure, float altitude = -1);
 
     // The pointer will not be heard of again: its stroke ends where it got to, or nothing of it stays.
     void abandon(bool withdraw);
@@ -58,13 +60,15 @@ public:
     std::uint64_t moveCount = 0;
     QPointF lastPoint;
     bool adjustCancelLine = true;
+    bool usesPenTilt = false;  // else no altitude reaches the stroke
     bool canAddPoint = false;  // points are taken while strokes are recognised: from a begin to its end
     bool normalMoing = false, digitPenMoving = false;  // a touch stroke, a mouse or pen stroke is in progress
 
 private:
     class Ending;
 
-    void leave(QPointF point, float pressure, bool withdraw);
+    float tilt(float altitude) const { return usesPenTilt ? altitude : -1.0f; }
+    void leave(QPointF point, float pressure, float altitude, bool withdraw);
     void startProcess();
     template <typename How>
     void finish(bool& own, bool other, How&& how);

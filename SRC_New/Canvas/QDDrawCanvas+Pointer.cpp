@@ -7,12 +7,12 @@ QPointF QDDrawCanvas::localPointWithTouch(const QDDrawTouch& touch) const {
 }
 
 bool QDDrawCanvas::beginWithTouch(const QDDrawTouch& touch) {
-    return _inside->parts->pointer.begin(_inside->host.pointOf(touch), touch.pressure);
+    return _inside->parts->pointer.begin(_inside->host.pointOf(touch), touch.pressure, touch.altitude);
 }
 
-#define POINTER_EVENT(name, step)                                                   \
-    void QDDrawCanvas::name(const QDDrawTouch& touch) {                             \
-        _inside->parts->pointer.step(_inside->host.pointOf(touch), touch.pressure); \
+#define POINTER_EVENT(name, step)                                                                   \
+    void QDDrawCanvas::name(const QDDrawTouch& touch) {                                             \
+        _inside->parts->pointer.step(_inside->host.pointOf(touch), touch.pressure, touch.altitude); \
     }
 POINTER_EVENT(moveWithTouch, move)
 POINTER_EVENT(endWithTouch, end)
@@ -70,6 +70,7 @@ void QDDrawCanvas::cancelWithTouches(const QList<QDDrawTouch>& touches) {
         _inside->parts->pointer.name = value; \
     }
 POINTER_STATE(bool, adjustCancelLine, setAdjustCancelLine)
+POINTER_STATE(bool, usesPenTilt, setUsesPenTilt)
 POINTER_STATE(bool, lineFinish, setLineFinish)
 POINTER_STATE(bool, lineMove, setLineMove)
 POINTER_STATE(std::uint64_t, moveCount, setMoveCount)

@@ -234,7 +234,7 @@ public:
     void setProfiling(bool profiling);
     const dabcanvas::StrokeStats& strokeStats() const;
 
-    // What paint lies in. A SurfaceScope of it, held while many strokes are entered, is cheaper than one for every call.
+    // What paint lies in. A SurfaceScope of it, held over many strokes, is cheaper than one for every call.
     dabcanvas::PaintSurface& surface();
     // For hosts that draw with OpenGL themselves: a canvas that does not moves there, byte for byte, to another surface().
     // Null, after one log line, in mid-stroke and where there is no OpenGL.
@@ -243,9 +243,8 @@ public:
 
     // ---- Pointer events
     // What a display tells of its devices. A stroke belongs to the kind of device that began it: while a finger draws,
-    // mouse and pen are refused, and the other way round. A mouse or pen stroke ends through the cancel path: one of up
-    // to nine moves is withdrawn, as if never drawn, unless adjustCancelLine is off; any other is finished. A step that
-    // was recorded in mid-stroke stays a step. A click draws nothing. While the frame is empty no stroke begins.
+    // mouse and pen are refused, and the other way round. A mouse or pen stroke of up to nine moves is withdrawn, as if
+    // never drawn, unless adjustCancelLine is off. A click draws nothing. While the frame is empty no stroke begins.
     void touchesBeganWithEvent(const QDDrawTouch& event);
     void touchesMovedWithEvent(const QDDrawTouch& event);
     void touchesEndedWithEvent(const QDDrawTouch& event);
@@ -254,12 +253,13 @@ public:
     void mouseDragged(const QDDrawTouch& event);
     void mouseUp(const QDDrawTouch& event);
     virtual QPointF localPointWithTouch(const QDDrawTouch& touch) const;  // in view points
-    // A pointer will not be heard of again: its stroke ends where it got to, as a cancelled one, or is taken back,
-    // however long it is.
+    // A pointer will not be heard of again: its stroke ends where it got to, or is taken back, however long it is.
     void endPointerStroke();
     void withdrawPointerStroke();
     bool adjustCancelLine() const;
     void setAdjustCancelLine(bool value);
+    bool usesPenTilt() const;  // off: events reach the stroke without altitude
+    void setUsesPenTilt(bool value);
 
     // Draws brush type 4; a stroke comes onto the canvas by the event loop, or when that is read or drawn on before.
     LeafDrawing& leafDrawView();

@@ -154,6 +154,9 @@ std::optional<Rect> StrokePainter::addSample(const StrokeSample& sample, bool en
     const Run run = appendToLine(_brush.line(), sample, end);
     // Deliberate: the first accepted move leaves out the main line's first dab; the sub-line never drops one.
     const std::size_t first = isFirst && !end && run.count > 0 ? 1 : 0;
+    if (first == 1) {
+        makerOf(mainTarget()).comeFrom(run.points.get()->position);
+    }
     if (run.count > first) {
         touched = touched.value_or(Rect()).united(drawRun(run.from(first), mainTarget()));
     }

@@ -19,6 +19,23 @@ bool isActive(const LPControlParams& control) {
     return control.pressure != 0 || control.altitude != 0 || control.speed != 0;
 }
 
+// To whole pixels: how many from a place on, and where their middle is.
+float wholePixels(float size) {
+    return std::max(std::nearbyint(size), 1.0f);
+}
+float middleOfPixels(float middle, float count) {
+    return std::nearbyint(middle - count / 2) + count / 2;
+}
+
+void alignToPixels(Dab& dab) {
+    const float wide = wholePixels(2 * dab.halfSize), tall = wholePixels(2 * dab.halfSize * dab.roundness);
+    dab.halfSize = wide / 2;
+    dab.roundness = tall / wide;
+    dab.radian = 0;
+    dab.x = middleOfPixels(dab.x, wide);
+    dab.y = middleOfPixels(dab.y, tall);
+}
+
 float mirrored(bool flip, bool atRandom, std::int64_t index) {
     const float sign = flip ? -1.0f : 1.0f;
     return atRandom && dabcanvas::coinAt(index) ? -sign : sign;
@@ -40,15 +57,22 @@ void DabMaker::updateFlags() {
     _flags.distribution = s.distribution >= kActive || isActive(s.distributionControl);
     _flags.radiusTingle = s.radiusTingle >= kActive;
     _flags.countTingle = s.distributionCount != 0 || s.distributionCountTingle != 0;
+    _flags.paperLift = s.maskDepth > 0;
     _flags.moveRadian = s.moveRadianEnable || s.startRadianEnable || (s.distribution != 0 && !s.disTwoAxes);
 }
 
 void DabMaker::reset() {
     _pointIndex = 0;
     _lastPosition = {0, 0};
+    _cameFrom = false;
     _direction = 0;
     SetDebugModel(settings.isDebug ? 1 : 0);
     _startRadian = static_cast<float>(6.283185307179586 * static_cast<double>(dabcanvas::uniformAt(0)));
+}
+
+void DabMaker::comeFrom(const LPPosition& place) {
+    _lastPosition = place;
+    _cameFrom = true;
 }
 
 void DabMaker::beginRun() {
@@ -60,6 +84,7 @@ void DabMaker::beginRun() {
     _dab.color = settings.color;
     _dab.tip = 0;
     _dab.random = 0;
+    _dab.paperLift = 0;
 }
 
 std::size_t DabMaker::beginPoint(const LPPoint* points, std::size_t count, std::size_t i) {
@@ -71,7 +96,8 @@ std::size_t DabMaker::beginPoint(const LPPoint* points, std::size_t count, std::
 
     const LPPosition& here = _point.position;
     if (_flags.moveRadian && (here.x != _lastPosition.x || here.y != _lastPosition.y)) {
-        const bool hasLast = _pointIndex != 1 && (_lastPosition.x != 0 || _lastPosition.y != 0);
+        const bool hasLast =
+            _cameFrom || (_pointIndex != 1 && (_lastPosition.x != 0 || _lastPosition.y != 0));
         if (hasLast) {
             _direction = -Radian(_lastPosition, here);
         } else if (count != 1 && i == 0) {
@@ -110,10 +136,13 @@ const Dab& DabMaker::makeDab() {
     if (s.colorFul) {
         dab.random = dabcanvas::uniformAt(_pointIndex);
     }
-    dab.flow =
-        _thinFlow * (_flags.flowTingle ? flowTingleBlock(_point, s.flow, s.flowTingle, s.decay, s.minFlow,
-                                                         s.maxFlow, _pointIndex, s.flowControl)
-                                       : s.flow);
+    const float flow = _flags.flowTingle ? flowTingleBlock(_point, s.flow, s.flowTingle, s.decay, s.minFlow,
+                                                           s.maxFlow, _pointIndex, s.flowControl)
+                                         : s.flow;
+    dab.flow = _thinFlow * flow;
+    if (_flags.paperLift) {
+        dab.paperLift = paperLift(flow);
+    }
     if (_flags.radianTingle) {
         dab.radian = radianTingleBlock(_point, _baseRadian, _direction, s.radianTingle, s.moveRadianEnable,
                                        _pointIndex, s.radianControl);
@@ -130,9 +159,19 @@ const Dab& DabMaker::makeDab() {
         dab.halfSize =
             std::max(radiusTingleBlock(_halfSize, s.minRadius * s.radius * 0.5f, s.radiusTingle), 0.0f);
     }
+    if (s.pixelAligned) {
+        alignToPixels(dab);
+    }
     dab.flipX = mirrored(s.flipX, s.flipXTingle, _pointIndex);
     dab.flipY = mirrored(s.flipY, s.flipYTingle, _pointIndex);
     return dab;
+}
+
+// A firm dab reaches the paper's valleys, a light one, or one that lays down less than the brush can, its tops alone.
+float DabMaker::paperLift(float flow) const {
+    const float share = settings.flow > 0 ? std::clamp(flow / settings.flow, 0.0f, 1.0f) : 0;
+    const float reach = std::clamp(influence(_point.params, settings.maskDepthControl), 0.0f, 1.0f) * share;
+    return settings.maskDepth * (2 * reach - 1);
 }
 
 RgbType DabMaker::jitteredColor() const {

@@ -17,11 +17,12 @@ struct Dab {
     float halfSize;  // half the width; the height is roundness times the width
     float radian;
     float roundness;
-    float flipX, flipY;  // 1, or -1 for mirrored
-    float flow;          // 0..1, multiplies the tip
-    RgbType color;       // straight, 0..1
-    float random;        // 0..1, drawn only in multicolour mode
-    std::uint32_t tip;   // index of the tip image
+    float flipX, flipY;   // 1, or -1 for mirrored
+    float flow;           // 0..1, multiplies the tip
+    RgbType color;        // straight, 0..1
+    float random;         // 0..1, drawn only in multicolour mode
+    std::uint32_t tip;    // index of the tip image
+    float paperLift = 0;  // added to what the paper lets through, -1..1
 };
 
 // Brush settings that shape dabs; the canvas's properties of the same names tell what each does. A control is
@@ -42,9 +43,12 @@ struct DabSettings {
     bool startRadianEnable = false, moveRadianEnable = false;
     float roundness = 1, minRoundness = 0, roundnessTingle = 0;
     LPControlParams roundnessControl{};
+    bool pixelAligned = false;
     bool flipX = false, flipY = false, flipXTingle = false, flipYTingle = false;
     float minFlow = 0, maxFlow = 0, flowTingle = 0, decay = 0;
     LPControlParams flowControl{};
+    float maskDepth = 0;
+    LPControlParams maskDepthControl{};
     bool textureTingleEnabled = false;
     LPControlParams textureControl{};
     float colorTingle = 0;
@@ -71,6 +75,7 @@ struct DabFlags {
     bool distribution = false, radiusTingle = false;
     bool countTingle = false;
     bool moveRadian = false;  // the stroke's direction is needed
+    bool paperLift = false;
 };
 
 // Turns the points of one stroke into dabs. Keeps the stroke's dab counter and direction from call to call;
@@ -87,6 +92,8 @@ public:
     const DabFlags& flags() const { return _flags; }
 
     void reset();
+    // The stroke led here before its first point, so that this one knows its direction.
+    void comeFrom(const LPPosition& place);
 
     // Of the point that the present dab belongs to, inside a sink.
     const LPPoint& point() const { return _point; }
@@ -111,6 +118,7 @@ private:
     std::size_t beginPoint(const LPPoint* points, std::size_t count, std::size_t i);
     std::size_t dabCount() const;
     const Dab& makeDab();
+    float paperLift(float flow) const;
     RgbType jitteredColor() const;
     std::uint32_t jitteredTip() const;
 
@@ -118,6 +126,7 @@ private:
     // Of the stroke
     std::int64_t _pointIndex = 0;
     LPPosition _lastPosition{0, 0};
+    bool _cameFrom = false;  // _lastPosition is of before the first point
     float _startRadian = 0;
     float _direction = 0;
     // Of the run

@@ -24,7 +24,7 @@ struct DabRecord {
     std::array<float, 4> pixel;  // half its shadow's foot and top, height, slope
     std::array<float, 4> paint;  // colour and flow
     TipAtlas::Place first, next;
-    std::array<float, 4> more;  // part of the next level, noise's turn, random number
+    std::array<float, 4> more;  // part of the next level, noise's turn, random number, paper's lift
 
     // Of a dab whose tip has that size.
     static DabRecord of(const Dab& dab, const Size& tip, const TipAtlas& atlas, float bufferHeight,
@@ -39,7 +39,7 @@ struct DabRecord {
                 {part(dab.color.r), part(dab.color.g), part(dab.color.b), part(dab.flow)},
                 reading.first,
                 reading.next,
-                {reading.part, turn, dab.random, 0}};
+                {reading.part, turn, dab.random, dab.paperLift}};
     }
 
 private:

@@ -177,6 +177,7 @@ void ESLineRender::programDidChange() {
     _tipsUnit.locate(made.uniformIndex(kTips));
     _reducedMaskUnit.locate(made.uniformIndex(kReducedMask));
     _maskLevel.locate(made.uniformIndex(kMaskLevel));
+    _maskRelief.locate(made.uniformIndex(kMaskRelief));
     std::transform(std::begin(kDabRecord), std::end(kDabRecord), _recordFields.begin(),
                    [&](const char* name) { return made.attributeIndex(name); });
     _tipCellsUploaded = false;
@@ -392,6 +393,7 @@ bool ESLineRender::useMask() {
             _paperTexture->bind(kMaskUnit, kReducedMaskUnit);
             const dabcanvas::PaperTexture::Reading reading = _paperTexture->readingAt(width, height);
             _maskLevel.set(reading.part, reading.level);
+            _maskRelief.set(_maskGain, _maskLevelling);
         }
         return _paperTexture != nullptr;
     }

@@ -92,6 +92,11 @@ public:
     bool needMaskTexture() const { return _needMaskTexture; }
     void setMaskScale(float value) { _maskScale = value; }
     float maskScale() const { return _maskScale; }
+    // What a height of the paper, 0..1, lets through: gain * height + level; the library's own program alone asks.
+    void setMaskRelief(float gain, float level) {
+        _maskGain = gain;
+        _maskLevelling = level;
+    }
 
     const DabSettings& settings() const { return _dabs.settings; }
     void setIsDebug(bool value) { set(&DabSettings::isDebug, value); }
@@ -206,6 +211,7 @@ private:
 
     bool _needMaskTexture = false;
     float _maskScale = 1;
+    float _maskGain = 1, _maskLevelling = 0;
     QImage _maskImage;
     std::unique_ptr<TextureObject> _maskTexture;
 
@@ -221,7 +227,7 @@ private:
     bool _tipCellsUploaded = false;
     GLint _tipCells = -1;
     dabcanvas::UniformInt _useMask, _maskUnit, _reducedMaskUnit;
-    dabcanvas::UniformVec2 _maskSize, _maskLevel;
+    dabcanvas::UniformVec2 _maskSize, _maskLevel, _maskRelief;
     dabcanvas::UniformVec4 _maskBaseCoord;
     dabcanvas::UniformFloat _hueTingle, _saturationTingle, _brightnessTingle, _rand;
 };

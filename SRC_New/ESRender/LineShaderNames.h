@@ -36,5 +36,6 @@ inline constexpr const char* kDabRecord[] = {"a_dabPlace",      "a_dabAxes",    
 inline constexpr char kTips[] = "u_tips";
 inline constexpr char kReducedMask[] = "u_reducedMask";
 inline constexpr char kMaskLevel[] = "u_maskLevel";
+inline constexpr char kMaskRelief[] = "u_maskRelief";
 
 }  // namespace dabcanvas::line

@@ -195,7 +195,8 @@ void GLSurface::takeStyle(DabRender& of, const DabStyle& style) {
         render.setPaper(style.paper);
     }
     render.setNeedMaskTexture(style.paper != nullptr);
-    render.setMaskScale(style.paperScale);
+    render.setMaskScale(style.paperStyle.scale);
+    render.setMaskRelief(style.paperStyle.gain, style.paperStyle.level);
     render.setColorFul(style.multicolour);
     render.setHueTingle(style.hueTingle);
     render.setSaturationTingle(style.saturationTingle);

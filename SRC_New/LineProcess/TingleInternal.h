@@ -32,7 +32,7 @@ float lineRandom();
 
 // How much strength the inputs leave an attribute: 0..1, and beyond where the pen is tilted. Always finite;
 // an input that is not a number leaves it full.
-float influence(const LPControlParams& inputs, const LPControlParams& control);
+DABCANVAS_STROKE_API float influence(const LPControlParams& inputs, const LPControlParams& control);
 
 // DistributionCountTingle() without its exception for a stroke's first point.
 std::uint64_t countOfCopies(std::uint64_t count, std::uint64_t index, float amount, const LPPoint& point,

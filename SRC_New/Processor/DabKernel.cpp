@@ -20,6 +20,8 @@ namespace dabcanvas {
 namespace HWY_NAMESPACE {
 namespace {
 
+enum class Paper : std::uint8_t { none, plain, relief };
+
 struct Cover {
     Int coverage, noise;
 };
@@ -33,6 +35,7 @@ public:
           _weights(hn::Set(
               kInts, dab.shape->levels[0].weight | (kLevels > 1 ? dab.shape->levels[1].weight << 16 : 0))),
           _noise(order.steps(static_cast<std::int32_t>(kNoiseRight), static_cast<std::int32_t>(kNoiseDown))),
+          _lift(hn::Set(kInts, dab.shape->paperLift)),
           _faint(dab.shape->faint) {}
 
     // Sixteen bits of each level, side by side.
@@ -45,9 +48,17 @@ public:
         const Int both = kLevels > 1 ? hn::Or(part, hn::ShiftLeft<16>(part)) : part;
         return hn::BitCast(kInts, hn::MulFixedPoint15(words(texels), words(both)));
     }
-    static HWY_INLINE Int timesPaper(Int texels, const std::uint16_t* paper, int x, int y) {
+    template <Paper kPaper>
+    HWY_INLINE Int timesPaper(Int texels, const std::uint16_t* paper, int x, int y) const {
         const hn::Rebind<std::uint16_t, Ints> narrow;
-        return times(texels, hn::PromoteTo(kInts, hn::LoadU(narrow, paper + pairedPlace(x, y))));
+        const hn::Rebind<std::int16_t, Ints> narrowSigned;
+        const auto here = hn::LoadU(narrow, paper + pairedPlace(x, y));
+        if (kPaper == Paper::plain) {
+            return times(texels, hn::PromoteTo(kInts, here));
+        }
+        const Int raised = hn::Add(hn::PromoteTo(kInts, hn::BitCast(narrowSigned, here)), _lift);
+        const Int cut = hn::Min(hn::Max(raised, hn::Zero(kInts)), hn::Set(kInts, kRelief));
+        return times(texels, hn::Add(hn::Add(cut, cut), hn::ShiftRight<13>(cut)));  // of 32767
     }
     // Of the pixels from (x, y) on.
     HWY_INLINE Cover cover(Int texels, int x, int y) const {
@@ -67,7 +78,7 @@ private:
     }
 
     std::uint32_t _start;
-    Int _weights, _noise;
+    Int _weights, _noise, _lift;
     int _faint;
 };
 
@@ -99,7 +110,7 @@ HWY_INLINE void blend(std::uint16_t* pixels, Word upper, Word lower, const Cover
 
 // Both call each(int x, int y, const Cover&) for as many pixels from x on as there are lanes, two rows at a time.
 struct AnyDab {
-    template <int kLevels, bool kPaper, typename Each>
+    template <int kLevels, Paper kPaper, typename Each>
     static HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const DabGround& ground,
                                         Each&& each) {
         const Order order;
@@ -122,7 +133,9 @@ struct AnyDab {
                 if (x < innerFirst || x + across() > innerEnd) {
                     texels = rounding.times(texels, box.at(right, hn::Add(hn::Set(kInts, y), order.down)));
                 }
-                texels = kPaper ? rounding.timesPaper(texels, ground.paper, x, y) : texels;
+                if (kPaper != Paper::none) {
+                    texels = rounding.template timesPaper<kPaper>(texels, ground.paper, x, y);
+                }
                 Cover cover = rounding.cover(texels, x, y);
                 const auto isBefore = hn::Lt(right, hn::Max(first, hn::Set(kInts, from)));
                 cover.coverage = hn::IfThenElseZero(hn::AndNot(isBefore, hn::Lt(right, end)), cover.coverage);
@@ -136,7 +149,7 @@ struct AnyDab {
 
 // Columns from left to right, each from above.
 struct UprightDab {
-    template <int kLevels, bool kPaper, typename Each>
+    template <int kLevels, Paper kPaper, typename Each>
     static HWY_INLINE bool forEachCover(const TileDab& dab, const RowSpans& spans, const DabGround& ground,
                                         Each&& each) {
         const Order order;
@@ -162,7 +175,9 @@ struct UprightDab {
                     rounding.levels(one.at(box.level(0), y),
                                     kLevels > 1 ? two.at(box.level(kLevels - 1), y) : hn::Zero(kInts));
                 texels = rounding.times(texels, nearest(hn::Mul(columns, box.covered(y))));
-                texels = kPaper ? rounding.timesPaper(texels, ground.paper, x, y) : texels;
+                if (kPaper != Paper::none) {
+                    texels = rounding.template timesPaper<kPaper>(texels, ground.paper, x, y);
+                }
                 const Cover cover = rounding.cover(texels, x, y);
                 each(x, y, cover);
                 any = hn::Or(any, cover.coverage);
@@ -176,7 +191,7 @@ HWY_INLINE Word signedWords(hn::Vec<hn::RebindToUnsigned<Words>> colour) {
     return hn::Xor(hn::BitCast(kWords, colour), hn::Set(kWords, static_cast<std::int16_t>(-32768)));
 }
 
-template <typename Kind, int kLevels, bool kPaper>
+template <typename Kind, int kLevels, Paper kPaper>
 bool draw(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     std::uint64_t four;
     std::memcpy(&four, dab.shape->colour.data(), sizeof(four));
@@ -194,7 +209,7 @@ bool drawInColours(const TileDab& dab, const RowSpans& spans, const DabGround& g
     const auto at = [&](std::ptrdiff_t value) HWY_ATTR {
         return signedWords(hn::LoadU(hn::RebindToUnsigned<Words>(), ground.colours + value));
     };
-    return Kind::template forEachCover<kLevels, false>(
+    return Kind::template forEachCover<kLevels, Paper::none>(
         dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
             const std::ptrdiff_t first = (y * kTileSide + x) * 4;
             blend(ground.tile + first, at(first), at(first + kTileSide * 4), cover);
@@ -206,7 +221,7 @@ template <typename Kind, int kLevels>
 bool drawCoverage(const TileDab& dab, const RowSpans& spans, const DabGround& ground) {
     const hn::Rebind<std::uint16_t, Ints> narrow;
     const Int full = hn::Set(kInts, 65535), fraction = hn::Set(kInts, 0x7fff);
-    return Kind::template forEachCover<kLevels, false>(
+    return Kind::template forEachCover<kLevels, Paper::none>(
         dab, spans, ground, [&](int x, int y, const Cover& cover) HWY_ATTR {
             std::uint16_t* const pixels = ground.tile + pairedPlace(x, y);
             const Int alpha = hn::PromoteTo(kInts, hn::LoadU(narrow, pixels));
@@ -225,29 +240,34 @@ bool drawInMulticolour(const TileDab& dab, const RowSpans& spans, const DabGroun
     hn::Store(Order().down, kInts, down);
     DabGround paper = ground;
     paper.paper = ground.paper != nullptr ? ground.paper : smoothPaper();
-    return AnyDab::forEachCover<2, true>(dab, spans, paper, [&](int x, int y, const Cover& cover) HWY_ATTR {
+    const auto each = [&](int x, int y, const Cover& cover) HWY_ATTR {
         hn::Store(cover.coverage, kInts, coverage);
         for (int i = 0; i < lanes(); ++i) {
             if (coverage[i] > 0) {
                 blendOne(dab, x + right[i], y + down[i], coverage[i], ground.tile);
             }
         }
-    });
+    };
+    return ground.isRelief && ground.paper != nullptr
+               ? AnyDab::forEachCover<2, Paper::relief>(dab, spans, paper, each)
+               : AnyDab::forEachCover<2, Paper::plain>(dab, spans, paper, each);
 }
 
 using Draw = bool (*)(const TileDab&, const RowSpans&, const DabGround&);
 
 template <typename Kind>
 Draw drawOf(const DabShape& shape, const DabGround& ground) {
-    static constexpr Draw kDraws[2][2] = {{draw<Kind, 1, false>, draw<Kind, 2, false>},
-                                          {draw<Kind, 1, true>, draw<Kind, 2, true>}};
+    static constexpr Draw kDraws[3][2] = {{draw<Kind, 1, Paper::none>, draw<Kind, 2, Paper::none>},
+                                          {draw<Kind, 1, Paper::plain>, draw<Kind, 2, Paper::plain>},
+                                          {draw<Kind, 1, Paper::relief>, draw<Kind, 2, Paper::relief>}};
     static constexpr Draw kInColours[2] = {drawInColours<Kind, 1>, drawInColours<Kind, 2>};
     static constexpr Draw kCoverage[2] = {drawCoverage<Kind, 1>, drawCoverage<Kind, 2>};
     const int levels = shape.levelCount - 1;
     if (ground.isCoverage) {
         return kCoverage[levels];
     }
-    return ground.colours != nullptr ? kInColours[levels] : kDraws[ground.paper != nullptr][levels];
+    const int paper = ground.paper == nullptr ? 0 : ground.isRelief ? 2 : 1;
+    return ground.colours != nullptr ? kInColours[levels] : kDraws[paper][levels];
 }
 
 // Rows of pixels lie along rows of texels, and as many as there are lanes not far apart.

@@ -34,6 +34,7 @@ struct DabLevel {
     std::int32_t lastV() const { return (size.height - 1) << 16; }
 };
 // A level gives 14 bits; times its weight, shifted right by 13 and the dab's faintness, it is a coverage.
+inline constexpr int kRelief = 16383;  // a paper's height of 1, where dabs are lifted
 inline constexpr int kFullTexel = 255 * 127 * 127 >> 8;
 inline constexpr int kWeightShift = 13;
 inline constexpr double kFullWeight = static_cast<double>(kWhole) * (1 << kWeightShift) / kFullTexel;
@@ -58,6 +59,7 @@ struct DabShape {
     const Multicolour* multicolour;        // null: all in one colour
     std::array<const Pixels*, 2> colours;  // of the levels, for multicolour
     float part;                            // of the second one
+    std::int32_t paperLift;                // in units of kRelief
 };
 
 // A dab in one tile: what it starts from at the tile's first pixel, and the rows that it may touch.
@@ -88,7 +90,8 @@ inline std::int32_t placeAt(std::int32_t start, std::int32_t right, std::int32_t
 struct DabGround {
     std::uint16_t* tile;         // premultiplied RGBA, 64 pixels a row
     int width;                   // pixels of each row that are drawn
-    const std::uint16_t* paper;  // 0..32767, see pairedPlace(); null: smooth
+    const std::uint16_t* paper;  // see PaperTiles; null: smooth
+    bool isRelief = false;       // it is not plain
     // Of each pixel of the tile, without paper; null: each dab's own.
     const std::uint16_t* colours = nullptr;
     // The tile has alpha alone, laid out as paper is; without paper and colours.

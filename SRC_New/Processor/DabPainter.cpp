@@ -50,7 +50,7 @@ struct DabPainter::Inside {
     };
     std::vector<KeptTip> tips;  // the latest last
     std::weak_ptr<const Picture> paperPicture;
-    float paperScale = 0;
+    PaperStyle paperStyle;
     std::unique_ptr<PaperTiles> paper;
 
     // Of the present run; the first `planned` of the dabs. What they took in memory serves the next run.
@@ -122,10 +122,10 @@ PaperTiles* DabPainter::Inside::paperOf(const DabStyle& style) {
     if (!style.paper) {
         return nullptr;
     }
-    if (!paper || paperScale != style.paperScale || !isSame(paperPicture, style.paper)) {
-        paper = std::make_unique<PaperTiles>(paperImageOf(*style.paper), style.paperScale, kMostOfPaper);
+    if (!paper || paperStyle != style.paperStyle || !isSame(paperPicture, style.paper)) {
+        paper = std::make_unique<PaperTiles>(paperImageOf(*style.paper), style.paperStyle, kMostOfPaper);
         paperPicture = style.paper;
-        paperScale = style.paperScale;
+        paperStyle = style.paperStyle;
     }
     return paper->isEmpty() ? nullptr : paper.get();
 }
@@ -200,6 +200,7 @@ void DabPainter::Inside::drawTile(Grid& layer, const TileDabs& tile, const With&
         through = with.paper->at(rect);
     }
     DabGround ground{nullptr, rect.width, through ? through->data() : nullptr};
+    ground.isRelief = !paperStyle.isPlain();
     ground.isCoverage = std::is_same_v<Grid, CoverageGrid>;
     if (with.colours != nullptr) {
         ground.colours = with.colours->of(

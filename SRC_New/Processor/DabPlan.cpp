@@ -12,7 +12,7 @@ namespace {
 
 bool isFinite(const Dab& dab) {
     for (const float value : {dab.halfSize, dab.radian, dab.halfSize * dab.roundness, dab.flow, dab.color.r,
-                              dab.color.g, dab.color.b, dab.random}) {
+                              dab.color.g, dab.color.b, dab.random, dab.paperLift}) {
         if (!std::isfinite(value)) {
             return false;
         }
@@ -96,6 +96,7 @@ bool shapeDab(const Dab& dab, TipTables& tip, PlannedDab& plan) {
         return static_cast<std::uint16_t>(std::clamp(value, 0.0f, 1.0f) * 65535 + 0.5f);
     });
     shape.multicolour = nullptr;
+    shape.paperLift = static_cast<std::int32_t>(std::clamp(dab.paperLift, -2.0f, 2.0f) * kRelief);
     if (tip.hasColour()) {
         shape.colours = {&tip.colour(levels.level), &tip.colour(levels.level + shape.levelCount - 1)};
         shape.part = levels.part;
@@ -124,7 +125,7 @@ bool placeDab(const Dab& dab, const Size& layer, std::uint64_t number, PlannedDa
 bool haveOneShape(const Dab& one, const Dab& other) {
     const auto all = [](const Dab& dab) {
         return std::tie(dab.halfSize, dab.radian, dab.roundness, dab.flipX, dab.flipY, dab.flow, dab.color.r,
-                        dab.color.g, dab.color.b, dab.random, dab.tip);
+                        dab.color.g, dab.color.b, dab.random, dab.tip, dab.paperLift);
     };
     return all(one) == all(other);
 }

@@ -18,13 +18,13 @@ int periodOf(float scale, int texels) {
 
 }  // namespace
 
-PaperTiles::PaperTiles(PaperImage paper, float scale, std::size_t most)
-    : _paper(std::move(paper)), _most(std::max<std::size_t>(most / sizeof(Through), 1)) {
+PaperTiles::PaperTiles(PaperImage paper, const PaperStyle& style, std::size_t most)
+    : _paper(std::move(paper)), _style(style), _most(std::max<std::size_t>(most / sizeof(Through), 1)) {
     if (isEmpty()) {
         return;
     }
     const Size& size = _paper.grain.front().size;
-    _period = {periodOf(scale, size.width), periodOf(scale, size.height)};
+    _period = {periodOf(style.scale, size.width), periodOf(style.scale, size.height)};
     const float coarse = std::max(static_cast<float>(size.width) / static_cast<float>(_period.width),
                                   static_cast<float>(size.height) / static_cast<float>(_period.height));
     _levels = levelPairAt(_paper.grain, std::max(std::log2(coarse), 0.0f));
@@ -41,11 +41,21 @@ PaperTiles::Axis PaperTiles::axisOf(int first, int period, int texels) {
     return axis;
 }
 
+std::uint16_t PaperTiles::through(float height) const {
+    if (_style.isPlain()) {
+        return static_cast<std::uint16_t>(std::min(height * 32767 + 0.5f, 32767.0f));
+    }
+    constexpr float kMost = 32767.0f / kRelief;  // beyond it no lift changes anything
+    const float raised = _style.gain * height + _style.level;
+    const float kept = std::isfinite(raised) ? std::clamp(raised, -kMost, kMost) * kRelief : 0;
+    return static_cast<std::uint16_t>(static_cast<std::int16_t>(std::lround(kept)));
+}
+
 std::shared_ptr<const PaperTiles::Through> PaperTiles::made(const Rect& tile) const {
     auto through = std::make_shared<Through>();
     std::array<float, kTilePixels> sum{};
     for (const int next : {0, 1}) {
-        const float weight = (next == 0 ? 1 - _levels.part : _levels.part) * 32767 / 255;
+        const float weight = (next == 0 ? 1 - _levels.part : _levels.part) / 255;
         if (!(weight > 0)) {
             continue;
         }
@@ -66,8 +76,7 @@ std::shared_ptr<const PaperTiles::Through> PaperTiles::made(const Rect& tile) co
     const float* from = sum.data();
     for (int y = 0; y < kTileSide; ++y) {
         for (int x = 0; x < kTileSide; ++x) {
-            (*through)[static_cast<std::size_t>(pairedPlace(x, y))] =
-                static_cast<std::uint16_t>(std::min(*from++ + 0.5f, 32767.0f));
+            (*through)[static_cast<std::size_t>(pairedPlace(x, y))] = this->through(*from++);
         }
     }
     return through;

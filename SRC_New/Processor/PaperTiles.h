@@ -15,15 +15,17 @@
 
 #include "Dabs/TipImage.h"
 #include "Processor/Tiles.h"
+#include "Surface/PaintSurface.h"
 
 namespace dabcanvas {
 
 class PaperTiles {
 public:
-    using Through = std::array<std::uint16_t, kTilePixels>;  // 0..32767, see pairedPlace()
+    // 0..32767; of a paper that is not plain signed, a dab's lift to be added, in units of kRelief. See pairedPlace().
+    using Through = std::array<std::uint16_t, kTilePixels>;
 
-    // The paper's own side times `scale` is laid again and again from the layer's top left corner.
-    PaperTiles(PaperImage paper, float scale, std::size_t most);
+    // The paper's own side times its scale is laid again and again from the layer's top left corner.
+    PaperTiles(PaperImage paper, const PaperStyle& style, std::size_t most);
 
     bool isEmpty() const { return _paper.grain.empty(); }
     std::shared_ptr<const Through> at(const Rect& tile);
@@ -37,9 +39,11 @@ private:
     using Axis = std::array<Read, kTileSide>;
     static Axis axisOf(int first, int period, int texels);
     std::shared_ptr<const Through> made(const Rect& tile) const;
+    std::uint16_t through(float height) const;
 
     PaperImage _paper;
     Size _period;  // pixels
+    PaperStyle _style;
     LevelPair _levels{};
     std::size_t _most;  // tiles
 

@@ -5,6 +5,7 @@
 #include <QPointingDevice>
 #include <QTabletEvent>
 #include <QTouchEvent>
+#include <QtMath>
 #include <utility>
 
 #include "QDEAGLView/QDDrawView.h"
@@ -99,7 +100,11 @@ void QDDrawView::mouseReleaseEvent(QMouseEvent* event) {
 // ---- Pen
 
 void QDDrawView::tabletEvent(QTabletEvent* event) {
-    const QDDrawTouch touch = touchAt(event->position(), event->pressure());
+    QDDrawTouch touch = touchAt(event->position(), event->pressure());
+    if (event->device()->hasCapability(QInputDevice::Capability::XTilt)) {
+        touch.altitude = dabcanvas::altitudeOfTilts(qDegreesToRadians(double{event->xTilt()}),
+                                                    qDegreesToRadians(double{event->yTilt()}));
+    }
     const auto id = static_cast<std::int64_t>(event->pointingDevice()->uniqueId().numericId());
     const bool ofStroke = _pointer == Pointer::pen && id == _penId;
     if (event->type() == QEvent::TabletPress && event->button() == Qt::LeftButton) {

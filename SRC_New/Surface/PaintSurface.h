@@ -37,11 +37,23 @@ enum class PictureId : std::uint32_t { first = 0 };
 // Where dabs add up, each transparent when made. The smudge layer shows a picture instead, see prepareSmudge().
 enum class PaintLayer : std::uint8_t { line, subLine, smudge };
 
+// How paper lies on the surface. A height of 0..1 lets through gain * height + level, and what a dab's lift adds, cut to
+// 0..1.
+struct PaperStyle {
+    float scale = 1;  // a tile's side over the paper's, in pixels
+    float gain = 1, level = 0;
+    bool lifts = false;  // dabs may have a lift; else none is looked at
+
+    // It lets through its height.
+    bool isPlain() const { return gain == 1 && level == 0 && !lifts; }
+    friend bool operator==(const PaperStyle&, const PaperStyle&) = default;
+};
+
 // What stays the same for a run of dabs.
 struct DabStyle {
     std::shared_ptr<const TipSet> tips;    // at least one; a dab names its own
     std::shared_ptr<const Picture> paper;  // null: smooth
-    float paperScale = 1;                  // a tile's side over the paper's, in pixels
+    PaperStyle paperStyle{};
     // The tip's own colours, the dab's where the tip is black, varied by the dab's random number within these.
     bool multicolour = false;
     float hueTingle = 0, saturationTingle = 0, brightnessTingle = 0;

@@ -8,21 +8,24 @@
 
 #include "BrushFile.h"
 #include "BrushPlan.h"
+#include "SampleStrokes.h"
 
 namespace dabcanvas::dabpaint {
 
-// A stroke whose pressure and speed rise and fall, on white; a brush that changes what is there gets coloured stripes
-// to work on, and the live preview brush an area to enclose. The same brush gives the same pixels. A brush larger than
-// there is room for is made smaller.
-Result<QImage> brushSample(const Brush& brush, const std::vector<BrushPlan::Step>& settings,
-                           const QSize& size);
-
-struct NamedSample {
-    QString name;
-    QImage image;
+enum class SampleGround {
+    asNeeded,  // white; coloured stripes for a brush that changes what is there or shades it
+    plain,     // white also for one that shades
+    bands,     // of strong colours, dark to light
 };
 
-// Samples of one size in rows, each with its name below.
-QImage sampleSheet(const std::vector<NamedSample>& samples);
+struct BrushView {
+    SampleKind kind = SampleKind::wave;  // of which the live preview brush gets an outline
+    SampleGround ground = SampleGround::asNeeded;
+    double largest = 0.6;  // a larger brush is made smaller; in heights of the picture
+};
+
+// The same brush gives the same pixels.
+Result<QImage> brushSample(const Brush& brush, const std::vector<BrushPlan::Step>& settings,
+                           const QSize& size, const BrushView& view = {});
 
 }  // namespace dabcanvas::dabpaint

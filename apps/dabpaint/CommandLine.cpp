@@ -219,12 +219,24 @@ private:
             _make.name = name;
             return QString();
         })->required();
+        for (auto [name, text] :
+             {std::pair("--tags", &_make.tags), std::pair("--about", &_make.about),
+              std::pair("--author", &_make.author), std::pair("--licence", &_make.licence)})
+            value(make, name, [text](const QString& given) {
+                *text = given;
+                return QString();
+            });
         CLI::App& preview = *app.add_subcommand("preview");
         files(preview, "FILE", _preview.files, presetRefusal)->required();
         text(preview, "-o,--output", _preview.output)->required();
         size(preview, _preview.size);
         settings(preview, _preview.settings);
-        flag(preview, "--sheet", _preview.sheet);
+        CLI::App& sheet = *app.add_subcommand("sheet");
+        files(sheet, "FILE", _sheet.files, presetRefusal)->required();
+        text(sheet, "-o,--output", _sheet.output)->required();
+        size(sheet, _sheet.size);
+        count(sheet, "--across", 1, [this](qint64 presets) { _sheet.across = int(presets); });
+        settings(sheet, _sheet.settings);
     }
     void addDabs(CLI::App& app) {
         text(app, "INPUT", _dabs.input)->required();
@@ -258,7 +270,7 @@ private:
         if (app->get_name() == "preset")
             return noCommand(QStringLiteral("preset ") + word,
                              {QStringLiteral("preset show"), QStringLiteral("preset make"),
-                              QStringLiteral("preset preview")});
+                              QStringLiteral("preset preview"), QStringLiteral("preset sheet")});
         return QStringLiteral("%1 takes no \"%2\"").arg(QString::fromStdString(app->get_name()), word);
     }
 
@@ -290,8 +302,10 @@ private:
             return _show;
         if (command == QLatin1String("preview"))
             return _preview;
+        if (command == QLatin1String("sheet"))
+            return _sheet;
         if (command.isEmpty())
-            return UsageFault{QStringLiteral("preset needs a command: show, make or preview")};
+            return UsageFault{QStringLiteral("preset needs a command: show, make, preview or sheet")};
         if (_make.output == QLatin1String("-"))
             return UsageFault{QStringLiteral("a preset is written to a file, not to standard output")};
         return _make;
@@ -304,6 +318,7 @@ private:
     PresetShowOptions _show;
     PresetMakeOptions _make;
     PresetPreviewOptions _preview;
+    PresetSheetOptions _sheet;
     DabsOptions _dabs;
     PropertiesOptions _properties;
     HelpOptions _help;
@@ -335,6 +350,7 @@ int runDabpaint(const QStringList& arguments) {
                           [](const PresetShowOptions& options) { return runPresetShow(options); },
                           [](const PresetMakeOptions& options) { return runPresetMake(options); },
                           [](const PresetPreviewOptions& options) { return runPresetPreview(options); },
+                          [](const PresetSheetOptions& options) { return runPresetSheet(options); },
                           [](const PropertiesOptions& options) { return runProperties(options.json); },
                           [](const HelpOptions& options) { return print(usageText(options.topic)); },
                           [](const VersionOptions&) { return print(versionText()); },

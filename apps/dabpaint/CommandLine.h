@@ -27,9 +27,9 @@ struct UsageFault {
     QString what;
 };
 
-using CommandLine =
-    std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions, PresetShowOptions,
-                 PresetMakeOptions, PresetPreviewOptions, HelpOptions, VersionOptions, UsageFault>;
+using CommandLine = std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions,
+                                 PresetShowOptions, PresetMakeOptions, PresetPreviewOptions,
+                                 PresetSheetOptions, HelpOptions, VersionOptions, UsageFault>;
 
 // Reads the arguments after the program's name. Touches no file.
 CommandLine readCommandLine(const QStringList& arguments);

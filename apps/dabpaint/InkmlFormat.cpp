@@ -102,12 +102,4 @@ float altitudeOfElevation(double elevation) {
     return float(std::clamp(1 - std::abs(elevation) / kRightAngle, 0.0, 1.0));
 }
 
-float altitudeOfTilts(double tiltX, double tiltY) {
-    // The tangent comes back from beyond a right angle, where a pen cannot be.
-    const double limit = kRightAngle;
-    const double tangentX = std::tan(std::clamp(tiltX, -limit, limit));
-    const double tangentY = std::tan(std::clamp(tiltY, -limit, limit));
-    return float(std::clamp(std::atan(std::hypot(tangentX, tangentY)) / kRightAngle, 0.0, 1.0));
-}
-
 }  // namespace dabcanvas::dabpaint

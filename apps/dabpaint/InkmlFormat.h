@@ -54,8 +54,7 @@ std::optional<double> forceShare(const InkChannel& channel, double value);
 // An angle channel's number in radians.
 double inkAngle(const InkChannel& channel, const InkResolutions& resolutions, double value);
 
-// Angle from upright as a share of a right angle, 0..1, of an elevation or of two tilts (radians).
+// Angle from upright as a share of a right angle, 0..1, of an elevation (radians).
 float altitudeOfElevation(double elevation);
-float altitudeOfTilts(double tiltX, double tiltY);
 
 }  // namespace dabcanvas::dabpaint

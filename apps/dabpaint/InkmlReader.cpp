@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "Brushes/BrushProperties.h"
+#include "Canvas/QDDrawTouch.h"
 #include "InkmlStyle.h"
 #include "InkmlTrace.h"
 

@@ -9,6 +9,7 @@
 #include "Console.h"
 #include "LogCatcher.h"
 #include "OutputFile.h"
+#include "Preset/PresetInfo.h"
 #include "Preset/QDBrushManager.h"
 #include "PresetText.h"
 #include "ToolCanvas.h"
@@ -35,6 +36,22 @@ int runPresetShow(const PresetShowOptions& options) {
     const int printed = finishOut();
     return printed == kDone ? status : printed;
 }
+
+namespace {
+
+BrushParams paramsOf(const QDDrawCanvas& canvas, const Brush* start, const PresetMakeOptions& options) {
+    PresetInfo info = start != nullptr ? infoOfParams(start->params) : PresetInfo();
+    if (options.tags)
+        info.tags = options.tags->split(QLatin1Char(','));
+    info.about = options.about.value_or(info.about);
+    info.author = options.author.value_or(info.author);
+    info.licence = options.licence.value_or(info.licence);
+    BrushParams params = QDBrushManager::paramsOfDrawView(&canvas).value_or(BrushParams());
+    setInfoOfParams(params, info);
+    return params;
+}
+
+}  // namespace
 
 int runPresetMake(const PresetMakeOptions& options) {
     BrushPlan plan;
@@ -66,16 +83,20 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(QStringLiteral("the canvas does not take this value of %1")
                             .arg(QLatin1String(property->name)));
     }
+    const BrushParams params = paramsOf(**canvas, start.get(), options);
+    const auto save = [&](const QString& path) {
+        return QDBrushManager::saveParams(params, QDBrushManager::kVersion, options.name, path, &wrong);
+    };
     const LogCatcher log;  // the messages below say it
     // What would not be read again takes no place: read first, from elsewhere.
     const QTemporaryDir elsewhere;
     const QString trial = elsewhere.filePath(QStringLiteral("trial.xbf"));
-    if (!QDBrushManager::saveParamsWithDrawView(canvas->get(), options.name, trial, &wrong))
+    if (!save(trial))
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
     if (const auto again = readBrush(trial); !again)
         return fail(
             QStringLiteral("%1: could not be read again: %2").arg(options.output, again.problem().what));
-    if (!QDBrushManager::saveParamsWithDrawView(canvas->get(), options.name, options.output, &wrong))
+    if (!save(options.output))
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
     return kDone;
 }

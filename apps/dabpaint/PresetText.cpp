@@ -9,6 +9,7 @@
 #include "Brushes/BrushProperties.h"
 #include "Numbers.h"
 #include "Preset/ParamNumbers.h"
+#include "Preset/PresetInfo.h"
 #include "PropertyValue.h"
 
 namespace dabcanvas::dabpaint {
@@ -16,7 +17,8 @@ namespace dabcanvas::dabpaint {
 namespace {
 
 constexpr int kNameWidth = 30;
-constexpr int kMostText = 60;  // characters of a text in a listing
+constexpr int kMostText = 60;   // characters of a text in a listing
+constexpr int kMostInfo = 400;  // of what a preset says of itself
 
 constexpr struct {
     int code;
@@ -107,16 +109,15 @@ QString dataText(const QByteArray& data) {
                           : QStringLiteral("%1x%2, %3").arg(size.width()).arg(size.height()).arg(bytes);
 }
 
-QString quoted(const QString& text) {
+QString quoted(const QString& text, int most = kMostText) {
     const auto points = text.toUcs4();
     QString shown;
-    for (const auto point : points.mid(0, kMostText)) {
+    for (const auto point : points.mid(0, most)) {
         const char32_t c = QChar::isPrint(point) ? point : U' ';  // one line, whatever it holds
         shown += QString::fromUcs4(&c, 1);
     }
     shown = QLatin1Char('"') + shown + QLatin1Char('"');
-    return points.size() <= kMostText ? shown
-                                      : shown + QStringLiteral("... (%1 characters)").arg(points.size());
+    return points.size() <= most ? shown : shown + QStringLiteral("... (%1 characters)").arg(points.size());
 }
 
 QString valueText(const Record& record) {
@@ -184,6 +185,24 @@ QString recordName(const Record& record) {
     return part.isEmpty() ? record.propertyName() : record.propertyName() + QStringLiteral(", ") + part;
 }
 
+// What a preset says of itself.
+constexpr std::pair<const char*, QString (*)(const PresetInfo&)> kInfo[] = {
+    {"tags", [](const PresetInfo& info) { return info.tags.join(QStringLiteral(", ")); }},
+    {"about", [](const PresetInfo& info) { return info.about; }},
+    {"author", [](const PresetInfo& info) { return info.author; }},
+    {"licence", [](const PresetInfo& info) { return info.licence; }}};
+
+QString infoAsText(const BrushParams& params) {
+    const PresetInfo info = infoOfParams(params);
+    QString text;
+    for (const auto& [name, value] : kInfo) {
+        if (const QString said = value(info); !said.isEmpty())
+            text += QStringLiteral("  ") + QString::fromLatin1(name).leftJustified(kNameWidth) +
+                    quoted(said, kMostInfo) + QLatin1Char('\n');
+    }
+    return text;
+}
+
 }  // namespace
 
 QByteArray presetAsText(const QString& file, const BrushFileContents& contents) {
@@ -194,8 +213,11 @@ QByteArray presetAsText(const QString& file, const BrushFileContents& contents) 
         text += QStringLiteral("%1: %2, version %3\n")
                     .arg(file, quoted(BrushRecords::brushName(brush)))
                     .arg(contents.version);
+        text += infoAsText(BrushRecords::brushParams(brush));
         for (const BrushParam& param : BrushRecords::brushParams(brush)) {
             const Record record(param);
+            if (isPresetInfo(record.id))
+                continue;
             text += QStringLiteral("  ") + recordName(record).leftJustified(kNameWidth) + valueText(record);
             if (!record.property && otherName(record.id).isEmpty())
                 text += QStringLiteral(" (%1, %2)")
@@ -212,6 +234,8 @@ QJsonObject presetAsJson(const QString& file, const BrushFileContents& contents)
         QJsonArray records;
         for (const BrushParam& param : BrushRecords::brushParams(brush)) {
             const Record record(param);
+            if (isPresetInfo(record.id))
+                continue;
             const auto orNull = [](const QString& text) { return text.isEmpty() ? QJsonValue() : text; };
             records.append(QJsonObject{{QStringLiteral("id"), qint64(record.id)},
                                        {QStringLiteral("property"), orNull(record.propertyName())},
@@ -220,8 +244,12 @@ QJsonObject presetAsJson(const QString& file, const BrushFileContents& contents)
                                        {QStringLiteral("type"), typeName(record.type)},
                                        {QStringLiteral("value"), valueJson(record)}});
         }
-        brushes.append(QJsonObject{{QStringLiteral("name"), BrushRecords::brushName(brush)},
-                                   {QStringLiteral("records"), records}});
+        QJsonObject shown{{QStringLiteral("name"), BrushRecords::brushName(brush)},
+                          {QStringLiteral("records"), records}};
+        const PresetInfo info = infoOfParams(BrushRecords::brushParams(brush));
+        for (const auto& [name, value] : kInfo)
+            shown.insert(QLatin1String(name), value(info));
+        brushes.append(shown);
     }
     return {{QStringLiteral("file"), file},
             {QStringLiteral("problem"), contents.problem.isEmpty() ? QJsonValue() : contents.problem},

@@ -215,13 +215,16 @@ EXAMPLES
 )";
 
 constexpr const char* kPreset = R"(NAME
-    dabpaint preset - show, make and preview brush presets
+    dabpaint preset - show, make, preview and compare brush presets
 
 SYNOPSIS
     dabpaint preset show FILE.xbf... [--json]
     dabpaint preset make -o FILE.xbf --name NAME [--brush FILE.xbf]
+                    [--set PROPERTY=VALUE]... [--tags A,B] [--about SENTENCE]
+                    [--author NAME] [--licence TEXT]
+    dabpaint preset preview FILE.xbf... -o OUT.png [--size WxH]
                     [--set PROPERTY=VALUE]...
-    dabpaint preset preview FILE.xbf... -o OUT.png [--sheet] [--size WxH]
+    dabpaint preset sheet FILE.xbf... -o OUT.jpg [--size WxH] [--across N]
                     [--set PROPERTY=VALUE]...
 
 DESCRIPTION
@@ -235,13 +238,18 @@ DESCRIPTION
                 with the given settings.
     preview     paints a stroke of each file's last brush on white, pressure and
                 speed rising and falling; stripes lie under a brush that smudges,
-                erases or shades. Several pictures need a folder or --sheet.
-                What cannot be read is told and left out, and it fails at the end.
+                erases or shades. Several pictures need a folder.
+    sheet       paints all onto one picture, a row each: a line, a fast scribble,
+                a filled patch, its right third filled twice, a line of rising
+                pressure, one of a pen that tilts from upright to flat, and a
+                line over colours.
+    What preview and sheet cannot read is told and left out; they fail at the end.
 
 OPTIONS
     --json
         Prints a JSON list instead, one object a file: file, problem (null for
-        none), version, and brushes with name and records. A record has id,
+        none), version, and brushes with name, tags, about, author, licence
+        (empty where nothing is said) and records. A record has id,
         property and part of a control (null for none), method, type and value.
 
     -o FILE, --output FILE
@@ -254,16 +262,20 @@ OPTIONS
     --brush FILE.xbf
         The preset to start with.
 
+    --tags A,B --about SENTENCE --author NAME --licence TEXT
+        What the preset says of itself, else what the preset to start with says.
+
     --set PROPERTY=VALUE
         Sets a brush property, as in dabpaint help paint: textureImages=a.png,b.png
         gives a brush two tips.
 
-    --sheet
-        Puts all previews, with their names, onto one picture.
-
     --size WxH
-        Size of one preview in pixels, else 480x180. A brush that is too large
-        for it is made smaller.
+        Size of one preview in pixels, else 480x180; of one sample of a sheet,
+        else 176x112. A brush that is too large for it is made smaller.
+
+    --across N
+        How many presets stand side by side on a sheet; else one, or two when
+        there are more than ten.
 
 EXIT STATUS
     0 done, 1 the work failed, 2 the command line is wrong.
@@ -272,7 +284,7 @@ EXAMPLES
     dabpaint preset make -o chalk.xbf --name Chalk --set radius=40 \
         --set needMaskTexture=yes --set maskImage=paper.png
     dabpaint preset preview chalk.xbf -o chalk.png
-    dabpaint preset preview *.xbf -o brushes.jpg --sheet --size 360x140
+    dabpaint preset sheet *.xbf -o brushes.jpg
 )";
 
 constexpr const char* kDabs = R"(NAME

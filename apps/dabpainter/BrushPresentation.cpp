@@ -63,6 +63,10 @@ const Hint kHints[] = {
     {.key = K::needMaskTexture, .label = "Use paper"},
     {.key = K::maskImage, .label = "Paper"},
     {.key = K::maskScale, .label = "Paper scale", .unit = Unit::percent, .low = 0.05, .high = 4, .bend = 2},
+    {.key = K::maskDepth, .label = "Paper depth"},
+    {.key = K::maskDepthControl, .label = "Depth influences"},
+    {.key = K::maskBrightness, .label = "Paper brightness"},
+    {.key = K::maskContrast, .label = "Paper contrast", .unit = Unit::percent, .high = 8, .bend = 2},
 
     {.key = K::pointsDistanceEnabled, .label = "Even spacing"},
     {.key = K::pointsDistance, .label = "Spacing", .unit = Unit::percent, .high = 3, .bend = 2},

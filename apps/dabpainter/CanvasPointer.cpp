@@ -60,6 +60,7 @@ void CanvasPointer::watchView() {
     QDDrawView* view = _viewport.view();
     view->setDelegate(this);
     view->setAdjustCancelLine(false);  // short strokes are meant
+    view->setUsesPenTilt(true);
     view->setMouseTracking(true);
     view->setTabletTracking(true);
     _down = false;

@@ -12,6 +12,7 @@
 
 #include "ImageFiles.h"
 #include "OutputFile.h"
+#include "Preset/PresetInfo.h"
 #include "Preset/QDBrushManager.h"
 
 namespace dabcanvas::dabpainter {
@@ -193,8 +194,11 @@ QString PresetLibrary::add(const QString& name, const BrushParams& params, Prese
 
 QString PresetLibrary::replace(const Preset& preset, const BrushParams& params) {
     const QString path = preset.id.path;
+    BrushParams kept = params;
+    if (BrushPreset before; read(preset.id, before).isEmpty())
+        setInfoOfParams(kept, infoOfParams(before.params));
     QString problem;
-    if (!QDBrushManager::saveParams(params, QDBrushManager::kVersion, preset.name, path, &problem))
+    if (!QDBrushManager::saveParams(kept, QDBrushManager::kVersion, preset.name, path, &problem))
         return unwritable(path, problem);
     _files.remove(path);  // it may be as large as before, within one tick of the clock
     refresh();

@@ -151,7 +151,8 @@ QImage letterL(const QColor& color = Qt::black) {
     return tip;
 }
 QImage block(int side, const QColor& color = Qt::black) { return solidImage({side, side}, color); }
-QImage halfBlack() { QImage paper = block(40, Qt::white); fillRect(paper, QRect(0, 0, 20, 40), Qt::black); return paper; }
+QImage halfDark(const QColor& dark) { QImage paper = block(40, Qt::white); fillRect(paper, QRect(0, 0, 20, 40), dark); return paper; }
+QImage halfBlack() { return halfDark(Qt::black); }
 QImage ball() {
     QImage tip = solidImage({32, 32});
     for (int y = 0; y < 32; ++y) {
@@ -186,6 +187,7 @@ void apart(C& c) {
     c.setSpeedSencitive(1);
 }
 void whole(C& c) { c.setTextureImages({block(32)}); }
+void onPaper(C& c, const QColor& dark) { whole(c); c.setRadius(64); c.setPointsDistance(0.1f); c.setMaskImage(halfDark(dark)); c.setNeedMaskTexture(true); c.setMaskDepthControl({1, 0, 0}); }
 void ribbon(C& c) { whole(c); c.setRadius(64); c.setPointsDistance(0.1f); }
 void disc(C& c) { c.setTextureType(1); c.setHardness(1); c.setRadius(32); }
 void ring(C& c) { disc(c); c.setTextureType(2); c.setTextureControlValue(3); }
@@ -306,6 +308,16 @@ const Promise kPromises[] = {
      [](P l, P m) { return near(2.0 * m.pixels(isPainted), l.pixels(isPainted), 0.15 * l.pixels(isPainted)) && m.marks.size() > 10; }, [](C& c) { ribbon(c); c.setMaskImage(halfBlack()); }},
     {"maskScale", "larger tiles", 1.0f, 2.0f,
      [](P l, P m) { return near(widthOf(l.marks[4]), 20, 1) && near(widthOf(m.marks[4]), 40, 2); }, [](C& c) { ribbon(c); c.setMaskImage(halfBlack()); c.setNeedMaskTexture(true); }},
+    {"maskDepth_Light", "a light stroke catches the tops alone", 0.0f, 0.6f,
+     [](P l, P m) { return l.marks.size() == 1 && m.marks.size() > 10; }, [](C& c) { onPaper(c, Qt::gray); }, weak},
+    {"maskDepth_Firm", "a firm one fills the valleys", 0.0f, 1.0f,
+     [](P l, P m) { return l.marks.size() > 10 && m.marks.size() == 1; }, [](C& c) { onPaper(c, Qt::black); }},
+    {"maskDepth_Flow", "of a dab that flows less, too", 0.0f, 0.6f,
+     [](P l, P m) { return l.marks.size() == 1 && m.marks.size() > 10; }, [](C& c) { onPaper(c, Qt::gray); c.setMaskDepthControl({}); c.setFlowControl({1, 0, 0}); c.setMinFlow(0.2f); }, weak},
+    {"maskBrightness", "lets valleys through", 0.0f, 0.5f,
+     [](P l, P m) { return l.marks.size() > 10 && m.marks.size() == 1; }, [](C& c) { onPaper(c, Qt::black); }},
+    {"maskContrast", "valleys hold back all", 1.0f, 6.0f,
+     [](P l, P m) { return l.marks.size() == 1 && m.marks.size() > 10; }, [](C& c) { onPaper(c, Qt::gray); c.setMaskImage(halfDark(QColor(100, 100, 100))); }},
     {"maskImage", "black holds back", block(40, Qt::white), halfBlack(),
      [](P l, P m) { return l.marks.size() == 1 && m.marks.size() > 10; }, [](C& c) { ribbon(c); c.setNeedMaskTexture(true); }},
     {"pointsDistanceEnabled", "even gaps, whatever the pointer does", false, true,
@@ -373,6 +385,8 @@ const Promise kPromises[] = {
      [](P l, P m) { return span(l.marks, ratioOf).low < 0.5 && span(m.marks, ratioOf).low > 0.7; }, [](C& c) { whole(c); c.setRoundnessTingle(1); }},
     {"minRoundness_pressed", "nor without pressure; and as given, though 0.01 is the least that is kept", 0.001f, 0.75f,
      [](P l, P m) { return near(l.marks[2].weight, 4.1, 1) && near(ratioOf(m.marks[2]), 0.75, 0.03); }, [](C& c) { whole(c); c.setRadius(64); c.setPointsDistance(1.5f); c.setRoundnessControl({1, 0, 0}); }, weak},
+    {"pixelAligned", "no pixel is painted in part", false, true,
+     [](P l, P m) { return l.pixels(isSoft) > 500 && m.pixels(isSoft) == 0 && near(widthOf(m.marks[0]), 16, 0) && m.marks.size() > 10; }, [](C& c) { whole(c); c.setRadius(15.6f); c.setRadian(0.3f); c.setRadianTingle(1); }},
     {"minFlow", "more paint without pressure", 0.1f, 0.6f,
      [](P l, P m) { return near(alphaOf(l.marks[2]), 0.1, 0.02) && near(alphaOf(m.marks[2]), 0.6, 0.02); }, pressedFlow, weak},
     {"maxFlow", "more paint with all of it", 0.3f, 0.9f,
@@ -456,6 +470,7 @@ const Influence kInfluences[] = {
     {"radianControl", {0.5f, -0.5f, 0.5f}, [](const Marks& m) { return span(m, leanXOf).mean; }, -0.1, apart},
     {"roundnessControl", {1, -1, 1}, [](const Marks& m) { return span(m, ratioOf).mean; }, 0.2, [](C& c) { whole(c); c.setRoundness(0.5f); }},
     {"flowControl", {1, 1, 1}, [](const Marks& m) { return span(m, alphaOf).mean; }, 0.2, [](C& c) { whole(c); c.setMinFlow(0.1f); }},
+    {"maskDepthControl", {1, -1, 1}, [](const Marks& m) { return span(m, alphaOf).mean; }, 0.2, [](C& c) { whole(c); c.setNeedMaskTexture(true); c.setMaskImage(block(40, Qt::gray)); c.setMaskDepth(0.5f); }},
     {"textureControl", {1, -1, 1}, [](const Marks& m) { return span(m, leanXOf).mean; }, 0.1, twoTips},
     {"colorControl", {1, -1, 1}, [](const Marks& m) { return span(m, [](const Mark& k) { return k.color.blueF(); }).mean; }, -0.2, vivid},
 };

@@ -36,6 +36,9 @@ TEST(DabTest, DirectionFollowsTheStrokeFromItsFirstDab) {
     for (const Dab& dab : dabsOf(maker, {pointAt(100, 100), pointAt(105, 105), pointAt(110, 110)})) {
         EXPECT_NEAR(dab.radian, -0.7853982f, 1e-5);
     }
+    maker.reset();
+    maker.comeFrom({95, 95});  // a point that was left out
+    EXPECT_NEAR(dabsOf(maker, {pointAt(100, 100)}).front().radian, -0.7853982f, 1e-5);
 }
 
 // Jitter

@@ -30,19 +30,25 @@ std::vector<Dab> mixedDabs(std::size_t count) {
         dab.color = {unit(), unit(), unit()};
         dab.random = unit();
         dab.tip = static_cast<std::uint32_t>(i) % 3;
+        dab.paperLift = unit() - 0.5f;
         dabs.push_back(dab);
     }
     return dabs;
 }
 
-DabStyle mixedStyle(bool paper, bool multicolour) {
+enum class Paper { none, plain, relief };
+
+DabStyle mixedStyle(Paper paper, bool multicolour) {
     DabStyle style;
     style.tips =
         tipsOf({pictureOf({64, 64}, softDisc), pictureOf({200, 120}, motley), pictureOf({33, 90}, hardDisc)});
     style.multicolour = multicolour;
     style.hueTingle = style.saturationTingle = style.brightnessTingle = 0.4f;
-    if (paper) {
+    if (paper != Paper::none) {
         style.paper = std::make_shared<const Picture>(pictureOf({50, 37}, grain));
+        if (paper == Paper::relief) {
+            style.paperStyle = {.gain = 1.5f, .lifts = true};
+        }
     }
     return style;
 }
@@ -59,7 +65,7 @@ bool areSame(const TileGrid<std::uint16_t>& one, const TileGrid<std::uint16_t>& 
 
 TEST(DabPainterTest, GivesTheSameBytesHoweverItIsDone) {
     const std::vector<Dab> dabs = mixedDabs(200);
-    for (const bool paper : {false, true}) {
+    for (const Paper paper : {Paper::none, Paper::plain, Paper::relief}) {
         for (const bool multicolour : {false, true}) {
             const DabStyle style = mixedStyle(paper, multicolour);
             const auto drawn = [&](std::size_t run) {
@@ -106,7 +112,7 @@ std::vector<std::uint8_t> smudged(const Size& size) {
         dabs.push_back({dab, place, std::nearbyint(dab.halfSize * (0.5f + unit())), 1, unit(), unit()});
         dabs.back().dab.tip = 0;
     }
-    const Rect touched[] = {surface.smudge(dabs, mixedStyle(false, false), 0.5f)};
+    const Rect touched[] = {surface.smudge(dabs, mixedStyle(Paper::none, false), 0.5f)};
     surface.composite(PictureId::first, touched, {.opacity = 0.9f, .smudged = true});
     surface.read(PictureId::first, Rect::of(size), MutablePixelView::topRowFirst(bytes.data(), size));
     return bytes;
@@ -134,7 +140,7 @@ TEST(DabPainterTest, WildDabsDoNoHarm) {
         return random() % 4 == 0 ? values[random() % std::size(values)]
                                  : static_cast<float>(random() % 70000) / 1000;
     };
-    DabStyle style = mixedStyle(true, false);
+    DabStyle style = mixedStyle(Paper::relief, false);
     TileGrid<std::uint16_t> layer({70, 70});
     DabPainter painter;
     for (int i = 0; i < 1000; ++i) {
@@ -143,15 +149,15 @@ TEST(DabPainterTest, WildDabsDoNoHarm) {
             Dab dab{};
             for (float* part :
                  {&dab.x, &dab.y, &dab.halfSize, &dab.radian, &dab.roundness, &dab.flipX, &dab.flipY,
-                  &dab.flow, &dab.color.r, &dab.color.g, &dab.color.b, &dab.random}) {
+                  &dab.flow, &dab.color.r, &dab.color.g, &dab.color.b, &dab.random, &dab.paperLift}) {
                 *part = part == &dab.halfSize ? wild() / 8 : wild();
             }
             dab.tip = static_cast<std::uint32_t>(random() % 7);
             dabs.push_back(dab);
         }
         if (i % 100 == 0) {
-            style = mixedStyle(i % 200 == 0, i % 300 == 0);
-            style.paperScale = wild();
+            style = mixedStyle(static_cast<Paper>(i / 100 % 3), i % 200 == 0);
+            style.paperStyle = {wild(), wild(), wild(), style.paperStyle.lifts};
             style.hueTingle = wild();
         }
         const Rect touched = painter.draw(layer, dabs, style, random());

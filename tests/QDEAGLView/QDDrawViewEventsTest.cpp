@@ -13,10 +13,13 @@ namespace {
 using Finger = QEventPoint::State;
 const Qt::MouseEventSource kFromDevice = Qt::MouseEventNotSynthesized;
 
+constexpr qint64 kTilting = 71;
+
 const QPointingDevice* deviceOf(QInputDevice::DeviceType type, qint64 id) {
     const bool isPen = type == QInputDevice::DeviceType::Stylus;
     QInputDevice::Capabilities can = QInputDevice::Capability::Position;
     can.setFlag(QInputDevice::Capability::Pressure, isPen);
+    can.setFlag(QInputDevice::Capability::XTilt, id == kTilting);
     return new QPointingDevice(
         "test", id, type, isPen ? QPointingDevice::PointerType::Pen : QPointingDevice::PointerType::Finger,
         can, 10, 3, "seat", QPointingDeviceUniqueId::fromNumericId(id), QCoreApplication::instance());
@@ -59,8 +62,8 @@ protected:
                 Qt::MouseButton button = Qt::LeftButton) {
         const bool move = type == QEvent::TabletMove;
         const Qt::MouseButtons held = type == QEvent::TabletRelease ? Qt::NoButton : Qt::MouseButtons(button);
-        QTabletEvent event(type, device, at, view->mapToGlobal(at), pressure, 0, 0, 0, 0, 0, Qt::NoModifier,
-                           move ? Qt::NoButton : button, held);
+        QTabletEvent event(type, device, at, view->mapToGlobal(at), pressure, tilt, 0, 0, 0, 0,
+                           Qt::NoModifier, move ? Qt::NoButton : button, held);
         deliver(event);
         return event.isAccepted();
     }
@@ -82,10 +85,11 @@ protected:
         EXPECT_FALSE(view->digitPenMoving());
     }
 
+    int tilt = 0;  // of pens to the right, degrees
     QWidget window;
     QDDrawView* view = nullptr;
     using Type = QInputDevice::DeviceType;
-    const QPointingDevice* const pen = deviceOf(Type::Stylus, 71);
+    const QPointingDevice* const pen = deviceOf(Type::Stylus, kTilting);
     const QPointingDevice* const otherPen = deviceOf(Type::Stylus, 72);
     const QPointingDevice* const touchScreen = deviceOf(Type::TouchScreen, 73);
     const QPointingDevice* const touchPad = deviceOf(Type::TouchPad, 74);
@@ -133,6 +137,22 @@ TEST_F(DrawViewEventsTest, APenPaintsOnceAndAlone) {
     EXPECT_GT(stroke.height(), 4);
     EXPECT_LT(stroke.height(), 26) << "pressure makes it thinner than the mouse's";
     expectIdle();
+}
+
+TEST_F(DrawViewEventsTest, TiltReachesTheStrokeWhereItIsAskedForAndKnown) {
+    view->setRadiusControl({0, 1, 0});
+    tilt = 60;
+    for (const auto& [device, uses, height] :
+         {std::tuple(pen, false, 32), std::tuple(otherPen, true, 32), std::tuple(pen, true, 71)}) {
+        view->clear();
+        view->setUsesPenTilt(uses);
+        tablet(QEvent::TabletPress, {20, 75}, 1, device);
+        for (int i = 1; i <= 12; ++i) {
+            tablet(QEvent::TabletMove, {20.0 + i * 12, 75}, 1, device);
+        }
+        tablet(QEvent::TabletRelease, {164, 75}, 1, device);
+        EXPECT_NEAR(mark().height(), height, 3) << (device == pen) << uses;
+    }
 }
 
 TEST_F(DrawViewEventsTest, NoMarkFromTheFirstFingerOfAPinch) {

@@ -29,7 +29,7 @@ Scene scene(const char* name, std::vector<Dab> dabs, TipSet tips = {pictureOf({6
 Scene onPaper(const char* name, const Size& paper, float scale) {
     Scene made = scene(name, {dabAt(36, 28, 70)}, {pictureOf({8, 8}, square)});
     made.style.paper = std::make_shared<const Picture>(pictureOf(paper, grain));
-    made.style.paperScale = scale;
+    made.style.paperStyle.scale = scale;
     return made;
 }
 Dab turned(Dab dab, float radian, float roundness, bool mirrored = false) {
@@ -58,6 +58,10 @@ std::vector<Scene> scenes() {
     all.push_back(scene("MirroredAndTurned", {turned(dabAt(36.7f, 27.2f, 45), 2.2f, 0.7f, true)}, odd));
     all.push_back(scene("Enlarged", {turned(dabAt(30, 20, 150), 0.2f, 1)}, {pictureOf({5, 3}, motley)}));
     all.push_back(scene("OverTheEdge", {dabAt(0, 0, 30), dabAt(71.5f, 55.5f, 9), dabAt(-40, 20, 20)}));
+    all.push_back(scene("NearlyUpright", {dabAt(36, 28, 40)}, {pictureOf({8, 8}, square)}));
+    for (const float off : {-1e-4f, -3e-5f, -1e-5f, 1e-6f, 2e-5f, 5e-5f, 1e-4f}) {
+        all.back().dabs.push_back(turned(dabAt(36.3f, 28.4f, 30), 1.5707964f + off, 1));
+    }
     all.push_back(scene("ManyTips", {}, {pictureOf({1, 1}, square), block[0], {}, odd[0], soft[0]}));
     for (std::uint32_t tip = 0; tip < 5; ++tip) {
         if (tip != 2) {
@@ -72,6 +76,14 @@ std::vector<Scene> scenes() {
     all.push_back(onPaper("Paper", {100, 100}, 1));
     all.push_back(onPaper("PaperEnlarged", {9, 7}, 4.3f));
     all.push_back(onPaper("PaperReduced", {150, 90}, 0.21f));
+    for (const bool multicolour : {false, true}) {
+        all.push_back(onPaper(multicolour ? "ReliefMulticolour" : "Relief", {60, 40}, 1.7f));
+        all.back().style.paperStyle = {.scale = 1.7f, .gain = 1.8f, .level = -0.2f, .lifts = true};
+        all.back().style.multicolour = multicolour;
+        all.back().dabs = {dabAt(20, 15, 25), turned(dabAt(45, 30, 33), 0.6f, 0.8f), dabAt(60, 12, 22)};
+        all.back().dabs[0].paperLift = -0.45f;
+        all.back().dabs[1].paperLift = 0.3f;
+    }
     return all;
 }
 

@@ -40,12 +40,15 @@ TEST(CommandLineTest, PresetCommandsTakeTheirOwnOptions) {
     ASSERT_NE(make, nullptr);
     EXPECT_EQ(make->output + make->name + make->brush, "a.xbfb.xbf");
     EXPECT_EQ(make->settings.size(), 1u);
-    const auto previewed = readWords("preset preview a.xbf --sheet b.xbf --size 40x30 -o sheet.png");
+    const auto previewed = readWords("preset preview a.xbf b.xbf --size 40x30 -o previews");
     const auto* preview = std::get_if<PresetPreviewOptions>(&previewed);
     ASSERT_NE(preview, nullptr);
     EXPECT_EQ(preview->files.size(), 2);
     EXPECT_EQ(preview->size, QSize(40, 30));
-    EXPECT_TRUE(preview->sheet);
+    const auto compared = readWords("preset sheet a.xbf --across 3 b.xbf -o sheet.png --set flow=1");
+    const auto* sheet = std::get_if<PresetSheetOptions>(&compared);
+    ASSERT_NE(sheet, nullptr);
+    EXPECT_EQ(sheet->across * 100 + sheet->files.size() * 10 + int(sheet->settings.size()), 321);
 }
 
 TEST(CommandLineTest, HelpOfEveryCommand) {

@@ -70,6 +70,31 @@ TEST_F(PresetProgramTest, ShowsWhatWasMade) {
         EXPECT_EQ(values.find(QLatin1String(name))->second, value) << name;
 }
 
+TEST_F(PresetProgramTest, APresetSaysWhatItIs) {
+    const QString from = path("a.xbf"), derived = path("b.xbf"), author = QString::fromUtf8("山田 Ünal");
+    const QStringList make{"preset", "make", "--name", "A", "-o"};
+    ASSERT_EQ(runProgram(make + QStringList{from, "--tags", " pencil,, dry ", "--about", "For sketches.",
+                                            "--author", author, "--licence", "CC0-1.0"})
+                  .status,
+              0);
+    ASSERT_EQ(runProgram(make + QStringList{derived, "--brush", from, "--about", "Softer."}).status, 0);
+    for (const auto& [file, about] : {std::pair(from, "For sketches."), std::pair(derived, "Softer.")}) {
+        const auto shown = QJsonDocument::fromJson(preset("show --json", {file}).out)[0]["brushes"]
+                               .toArray()
+                               .at(0)
+                               .toObject();
+        EXPECT_EQ(shown["tags"], "pencil, dry");
+        EXPECT_EQ(shown["about"], about);
+        EXPECT_EQ(shown["author"], author);
+        EXPECT_EQ(shown["licence"], "CC0-1.0");
+        EXPECT_EQ(preset("show", {file}).out.count("unknown"), 0);
+        EXPECT_EQ(painted("{\"brush\": \"" + QFileInfo(file).fileName().toUtf8() + "\", \"strokes\": [{" +
+                          kLine + "}]}")
+                      .alpha(),
+                  255);
+    }
+}
+
 TEST_F(PresetProgramTest, ShowTellsWhatCouldBeReadAndThenTheDamage) {
     const Ended ended = preset("show", {path("cut.xbf"), path("text.xbf"), path("red.xbf"), _folder.path()});
     EXPECT_EQ(ended.status, 1);
@@ -203,7 +228,7 @@ TEST_F(PresetProgramTest, ShowNamesWhateverIsUnderstood) {
         EXPECT_THAT(shown, ::testing::HasSubstr(line));
 }
 
-TEST_F(PresetProgramTest, PreviewsGoIntoAFolderOrOntoASheet) {
+TEST_F(PresetProgramTest, PreviewsGoIntoAFolder) {
     ASSERT_TRUE(QDir(_folder.path()).mkdir("out"));
     ASSERT_EQ(make("smudge.xbf", {"brushType=3", "radius=60"}).status, 0);
     const QStringList files{path("red.xbf"), path("cut.xbf"), path("smudge.xbf")};
@@ -213,13 +238,41 @@ TEST_F(PresetProgramTest, PreviewsGoIntoAFolderOrOntoASheet) {
     EXPECT_EQ(red.pixelColor(120, 45), QColor(Qt::red));
     EXPECT_EQ(red.pixelColor(5, 85), QColor(Qt::white));
     EXPECT_GT(smudge.pixelColor(5, 85).saturation(), 50);
-    EXPECT_EQ(preset("preview --sheet --size 240x90 -o", QStringList(path("s.jpg")) + files).status, 1);
-    const QImage sheet(path("s.jpg"));
-    EXPECT_GT(sheet.width(), 240);
-    EXPECT_GT(sheet.height(), 2 * 90);
     expectOneLine(preset("preview -o", QStringList(path("p.png")) + files), 1, "need a folder");
     expectOneLine(preset("preview -o", {path("out"), path("red.xbf"), path("out/../red.xbf")}), 1,
                   "two previews");
+}
+
+TEST_F(PresetProgramTest, ASheetHasARowForEachPresetThatCanBeRead) {
+    ASSERT_EQ(make("smudge.xbf", {"brushType=3", "radius=60"}).status, 0);
+    ASSERT_EQ(make("tilt.xbf", {"radius=24", "minRadius=0.1", "radiusControl=0,1,0", "hardness=1"}).status,
+              0);
+    const QStringList files{path("red.xbf"), path("smudge.xbf"), path("cut.xbf"), path("tilt.xbf")};
+    expectOneLine(preset("sheet --size 120x80 --across 2 -o", QStringList(path("s.png")) + files), 1,
+                  "cut.xbf");
+    const QImage sheet(path("s.png"));
+    constexpr int kColumn = 126, kRow = 112, kLeft = 26, kTop = 52, kBlock = 6 * kColumn + 20;
+    ASSERT_EQ(sheet.size(), QSize(2 * kBlock + 26, kTop + kRow + 80 + 26));
+    const auto at = [&](int block, int column, int row, int x, int y) {
+        return sheet.pixelColor(kLeft + block * kBlock + column * kColumn + x, kTop + row * kRow + y);
+    };
+    const auto darkRows = [&](int block, int column, int row, int x) {
+        int count = 0;
+        for (int y = 0; y < 80; ++y)
+            count += at(block, column, row, x, y).lightness() < 128;
+        return count;
+    };
+    for (const int column : {0, 2, 3, 4, 5})
+        EXPECT_EQ(at(0, column, 0, 60, 40), QColor(Qt::red)) << column;
+    EXPECT_EQ(at(0, 4, 0, 2, 2), QColor(Qt::white));
+    EXPECT_NE(at(0, 5, 0, 2, 2), at(0, 5, 0, 117, 2));  // bands
+    EXPECT_GT(at(0, 0, 1, 2, 2).saturation(), 50);      // something to smudge
+    EXPECT_GT(darkRows(1, 4, 0, 30), 0);
+    EXPECT_NE(darkRows(1, 4, 0, 30), darkRows(1, 4, 0, 90));  // as it tilts more
+    EXPECT_EQ(darkRows(1, 5, 1, 60), 0);                      // no fourth preset
+    expectOneLine(preset("sheet --size 4000x40 -o", QStringList(path("s.png")) + files), 2, "too large");
+    expectOneLine(preset("sheet -o", {path("red.xbf"), path("red.xbf")}), 2, "red.xbf");
+    expectOneLine(preset("sheet -o", {path("none/s.png"), path("red.xbf")}), 1, "cannot be written");
 }
 
 }  // namespace

@@ -206,7 +206,9 @@ inline void draw(std::vector<double>& layer, const Size& size, std::span<const D
                 double coverage = place.coverage * sampledAt(tip.alpha, detail, place.x, place.y, false)[0] *
                                   std::clamp<double>(dab.flow, 0, 1);
                 if (paper != nullptr) {
-                    coverage *= paperAt(*paper, style.paperScale, x, y);
+                    const PaperStyle& lies = style.paperStyle;
+                    const double height = paperAt(*paper, lies.scale, x, y);
+                    coverage *= std::clamp<double>(lies.gain * height + lies.level + dab.paperLift, 0, 1);
                 }
                 const Colour colour =
                     style.multicolour
