@@ -18,12 +18,7 @@ Size halfOf(const Size& size) {
 
 // Of places that are `step` apart, from the middle of the first of what is counted in.
 Steps stepsFrom(double start, double step) {
-    const auto fixed = [](double places) {
-        constexpr double kFar = 1 << 24;
-        const double near = std::isfinite(places) ? std::clamp(places, -kFar, kFar) : 0;
-        return static_cast<std::int64_t>(std::floor(near * 65536 + 0.5));
-    };
-    return {fixed(start), fixed(step)};
+    return {fixedPlace(start), fixedPlace(step)};
 }
 
 std::int16_t wordOf(double part) {
@@ -104,6 +99,9 @@ public:
 
     // What is taken up is taken before the dab changes it; off the layer its rim counts.
     void begin(const Rect& texels) override {
+        if (_smudge.bristles.part >= 1) {
+            return _painter.provide(texels);  // all is carried
+        }
         const Size& layer = _painter._layer.size();
         const TexelRange across(placeX(texels.x), placeX(texels.right() - 1), layer.width);
         const TexelRange down(placeY(texels.y), placeY(texels.bottom() - 1), layer.height);
@@ -124,13 +122,18 @@ public:
         std::uint16_t* const to = colours.data() + (part.y % kTileSide * kTileSide + part.x % kTileSide) * 4;
         const Rect& from = _painter._picked.rect;
         const RgbType& color = _smudge.dab.color;
-        pickUp({.from = _painter._picked.view,
-                .across = stepsFrom(placeX(part.x) - from.x, _stretch),
-                .down = stepsFrom(placeY(part.y) - from.y, _stretch),
-                .size = {part.width, part.height},
-                .colour = {wordOf(color.r), wordOf(color.g), wordOf(color.b), kSmudgeFull},
-                .colourPart = wordOf(_colourPart),
-                .to = to});
+        PickedUp picked{.from = _painter._picked.view,
+                        .across = stepsFrom(placeX(part.x) - from.x, _stretch),
+                        .down = stepsFrom(placeY(part.y) - from.y, _stretch),
+                        .size = {part.width, part.height},
+                        .colour = {wordOf(color.r), wordOf(color.g), wordOf(color.b), kSmudgeFull},
+                        .colourPart = wordOf(_colourPart),
+                        .to = to};
+        if (_smudge.bristles.part > 0) {
+            picked.carried = _painter._columns.carried(part);
+            picked.carriedPart = wordOf(_smudge.bristles.part);
+        }
+        pickUp(picked);
         return colours.data();
     }
 
@@ -319,6 +322,10 @@ Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabSt
         const Mixture mixture(smudge, load);
         Exchange exchange(*this, smudge, mixture);
         Dab dab = inLayer(smudge.dab);
+        if (smudge.bristles.part > 0) {
+            provide(BristleColumns::reach(smudge.bristles, dab, _layer.size()));
+            _columns.takeUp(smudge.bristles, dab, _before);
+        }
         dab.flow = std::min(dab.flow, 1.0f) * mixture.exchanged;
         const Rect texels = _painter.draw(_layer, dab, plain, _count++, exchange);
         if (texels.isEmpty()) {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "Dabs/SmudgeDabs.h"
+#include "Processor/BristleColumns.h"
 #include "Processor/DabPainter.h"
 #include "Processor/SmudgeRows.h"
 #include "Processor/Tiles.h"
@@ -81,6 +82,7 @@ private:
     DabPainter& _painter;
     std::vector<Dab> _coverage;
     Texels _picked, _old;
+    BristleColumns _columns;
     std::vector<Channel> _pixels;
 };
 

@@ -46,18 +46,71 @@ void Reduce16(const ReducedPart<std::uint16_t>& part) {
     reducePart(part);
 }
 
-void PickUp(const PickedUp& part) {
-    std::uint64_t four;
-    std::memcpy(&four, part.colour.data(), sizeof(four));
-    const Word colour = hn::BitCast(kWords, hn::Set(kPixels, four));
-    const Word colourPart = hn::Set(kWords, part.colourPart);
+namespace {
+
+// Mixes what was taken with the dab's colour.
+class TakenRows {
+public:
+    HWY_INLINE explicit TakenRows(const PickedUp& part)
+        : _to(part.to), _colourPart(hn::Set(kWords, part.colourPart)) {
+        std::uint64_t four;
+        std::memcpy(&four, part.colour.data(), sizeof(four));
+        _colour = hn::BitCast(kWords, hn::Set(kPixels, four));
+    }
+
+    HWY_INLINE void put(int x, int y, Word taken) const {
+        const Word mixed = between(taken, _colour, _colourPart);
+        hn::StoreU(hn::BitCast(kUnsigned, mixed), kUnsigned, _to + (y * kTileSide + x) * 4);
+    }
+
+private:
+    std::uint16_t* _to;
+    Word _colour, _colourPart;
+};
+
+HWY_INLINE void pickUpUnder(const PickedUp& part) {
+    const TakenRows to(part);
     const Columns around(part.across, 0, part.size.width, part.from.size.width);
     for (int y = 0; y < part.size.height; ++y) {
         const TwoRows rows(part.from, part.down.at(y));
         for (int x = 0; x < part.size.width; x += lanes()) {
-            const Word mixed = between(around.from(x).in(rows), colour, colourPart);
-            hn::StoreU(hn::BitCast(kUnsigned, mixed), kUnsigned, part.to + (y * kTileSide + x) * 4);
+            to.put(x, y, around.from(x).in(rows));
         }
+    }
+}
+
+HWY_INLINE void pickUpCarried(const PickedUp& part) {
+    const TakenRows to(part);
+    const Carried carried(part.carried, part.size);
+    for (int y = 0; y < part.size.height; ++y) {
+        for (int x = 0; x < part.size.width; x += lanes()) {
+            to.put(x, y, carried.at(x, y));
+        }
+    }
+}
+
+HWY_INLINE void pickUpBoth(const PickedUp& part) {
+    const TakenRows to(part);
+    const Carried carried(part.carried, part.size);
+    const Word carriedPart = hn::Set(kWords, part.carriedPart);
+    const Columns around(part.across, 0, part.size.width, part.from.size.width);
+    for (int y = 0; y < part.size.height; ++y) {
+        const TwoRows rows(part.from, part.down.at(y));
+        for (int x = 0; x < part.size.width; x += lanes()) {
+            to.put(x, y, between(around.from(x).in(rows), carried.at(x, y), carriedPart));
+        }
+    }
+}
+
+}  // namespace
+
+void PickUp(const PickedUp& part) {
+    if (part.carriedPart == 0) {
+        pickUpUnder(part);
+    } else if (part.carriedPart < kSmudgeFull) {
+        pickUpBoth(part);
+    } else {
+        pickUpCarried(part);
     }
 }
 

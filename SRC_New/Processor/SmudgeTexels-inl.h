@@ -169,9 +169,9 @@ public:
         }
     }
 
-    // What lies at the pixels between two rows of texels.
-    template <typename Channel>
-    HWY_INLINE Word in(const TwoRows<Channel>& rows) const {
+    // What lies at the pixels in a row of texels, or between two.
+    template <typename Rows>
+    HWY_INLINE Word in(const Rows& rows) const {
         if (_kind == Kind::far) {
             return between(rows.picked(_lows), rows.picked(_highs), _part);
         }
@@ -211,6 +211,69 @@ public:
 
 private:
     Neighbours _around[kTileSide / 2];
+};
+
+// Colours in a row of their own.
+class OneRow {
+public:
+    HWY_INLINE explicit OneRow(const std::int16_t* colours) : _colours(colours) {}
+
+    HWY_INLINE Word at(int first) const { return wordsAt(_colours + std::ptrdiff_t{4} * first); }
+    HWY_INLINE Word picked(const int* texels) const {
+        HWY_ALIGN std::int16_t values[kMostLanes * 4];
+        for (int lane = 0; lane < lanes(); ++lane) {
+            std::memcpy(values + 4 * lane, _colours + std::ptrdiff_t{4} * texels[lane],
+                        4 * sizeof(std::int16_t));
+        }
+        return wordsAt(values);
+    }
+
+private:
+    const std::int16_t* _colours;
+};
+
+// What is carried along, at the pixels of a part.
+class Carried {
+public:
+    HWY_INLINE Carried(const CarriedColours& colours, const Size& part)
+        : _colours(&colours), _width(part.width), _row(colours.colours) {
+        HWY_ALIGN std::uint64_t steps[kMostLanes];
+        for (int lane = 0; lane < lanes(); ++lane) {
+            steps[lane] = static_cast<std::uint64_t>(colours.right * lane);
+        }
+        _steps = hn::Load(kPixels, steps);
+        const std::int64_t width = part.width + lanes(), bottom = colours.down * (part.height - 1);
+        const std::int64_t least = colours.start + std::min<std::int64_t>(bottom, 0);
+        const std::int64_t most = colours.start + std::max<std::int64_t>(bottom, 0) + colours.right * width;
+        // As many colours as there are lanes hold all that a vector needs.
+        _isNear = colours.right <= 1 << 16 && least >= 0 && wholeOf(most) + 1 < colours.count;
+    }
+
+    // Of those from x on.
+    HWY_INLINE Word at(int x, int y) const {
+        const std::int64_t start = _colours->start + _colours->down * y + _colours->right * x;
+        if (!_isNear) {
+            const Columns columns(Steps{start, _colours->right}, 0, std::min(_width - x, lanes()),
+                                  _colours->count);
+            return columns.from(0).in(_row);
+        }
+        const Pixel place = hn::Add(hn::Set(kPixels, static_cast<std::uint64_t>(start & 0xffff)), _steps);
+        const Word part = hn::BitCast(kWords, hn::ShiftRight<1>(lowestOf(hn::BitCast(kUnsigned, place))));
+        const auto index = hn::IndicesFromVec(kPixels, hn::ShiftRight<16>(place));
+        const auto picked = [&](int first) HWY_ATTR {
+            return hn::BitCast(kWords, hn::TableLookupLanes(hn::BitCast(kPixels, _row.at(first)), index));
+        };
+        return between(picked(wholeOf(start)), picked(wholeOf(start) + 1), part);
+    }
+
+private:
+    using Pixel = hn::Vec<Pixels>;
+
+    const CarriedColours* _colours;
+    int _width;
+    OneRow _row;
+    Pixel _steps;
+    bool _isNear;
 };
 
 }  // namespace
