@@ -69,8 +69,8 @@ public:
 
     // ---- Paint
     // One stroke is a begin, any number of moves and an end; nothing is drawn at begin. Pressure and altitude (pen
-    // tilt, 0 upright to 1 flat) are 0..1, -1 when not given. online: ask the display to show each segment at once; the
-    // pixels are the same without. A move within 1.0 buffer pixel of the last accepted one draws nothing.
+    // tilt, 0 upright to 1 at 60 degrees) are 0..1, -1 when not given. online: ask the display to show each segment at
+    // once; the pixels are the same without. A move within 1.0 buffer pixel of the last accepted one draws nothing.
     // A sample that is not finite is refused, with one log line a stroke: a refused begin leaves the beginning to the
     // first good move, a refused end ends where the stroke got to. Moves and ends without a begin do nothing; a begin
     // in mid-stroke first ends that stroke as it stands, as a step of its own (a preview's leaves nothing). What was

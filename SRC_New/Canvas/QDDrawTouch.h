@@ -10,18 +10,23 @@
 struct QDDrawTouch {
     QPointF locationInWindow;  // view points from the top left of the window that shows the canvas
     float pressure = 1;        // 0..1
-    float altitude = -1;       // tilt of a pen: 0 upright to 1 flat, -1 for none
+    float altitude = -1;       // tilt of a pen: 0 upright to 1 at 60 degrees, -1 for none
 };
 
 namespace dabcanvas {
 
-// The altitude of a pen that leans so far to the right and towards the user, in radians.
+// The altitude of a pen that leans so far from upright, in radians: 1 from 60 degrees on, as far as pens tell.
+inline float altitudeOfLean(double radians) {
+    return static_cast<float>(std::clamp(radians / (std::numbers::pi / 3), 0.0, 1.0));
+}
+
+// The same of one that leans so far to the right and towards the user.
 inline float altitudeOfTilts(double tiltX, double tiltY) {
     // The tangent comes back from beyond a right angle, where a pen cannot be.
     constexpr double kRightAngle = std::numbers::pi / 2;
     const double tangentX = std::tan(std::clamp(tiltX, -kRightAngle, kRightAngle));
     const double tangentY = std::tan(std::clamp(tiltY, -kRightAngle, kRightAngle));
-    return static_cast<float>(std::clamp(std::atan(std::hypot(tangentX, tangentY)) / kRightAngle, 0.0, 1.0));
+    return altitudeOfLean(std::atan(std::hypot(tangentX, tangentY)));
 }
 
 }  // namespace dabcanvas

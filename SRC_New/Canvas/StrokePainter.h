@@ -20,7 +20,7 @@
 
 namespace dabcanvas {
 
-// One place of a stroke. Pressure and altitude (pen tilt, 0 upright to 1 flat) are 0..1, -1 when not given.
+// One place of a stroke. Pressure and altitude (pen tilt, 0 upright to 1 at 60 degrees) are 0..1, -1 when not given.
 struct StrokeSample {
     QPointF place;
     float pressure = -1, altitude = -1;

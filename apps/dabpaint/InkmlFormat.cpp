@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "Canvas/QDDrawTouch.h"
+
 namespace dabcanvas::dabpaint {
 
 namespace {
@@ -99,7 +101,7 @@ double inkAngle(const InkChannel& channel, const InkResolutions& resolutions, do
 }
 
 float altitudeOfElevation(double elevation) {
-    return float(std::clamp(1 - std::abs(elevation) / kRightAngle, 0.0, 1.0));
+    return altitudeOfLean(kRightAngle - std::abs(elevation));
 }
 
 }  // namespace dabcanvas::dabpaint

@@ -54,7 +54,7 @@ std::optional<double> forceShare(const InkChannel& channel, double value);
 // An angle channel's number in radians.
 double inkAngle(const InkChannel& channel, const InkResolutions& resolutions, double value);
 
-// Angle from upright as a share of a right angle, 0..1, of an elevation (radians).
+// As altitudeOfLean(), of an elevation (radians).
 float altitudeOfElevation(double elevation);
 
 }  // namespace dabcanvas::dabpaint

@@ -121,7 +121,7 @@ OPTIONS
 
 RECORDINGS
     The form of a recording is told by its content, not by its name. Pressure is
-    0 to 1; altitude, the tilt of the pen, is 0 upright to 1 flat on the surface.
+    0 to 1; altitude, the tilt of the pen, is 0 upright to 1 from 60 degrees on.
     Positions are pixels from the top left, up to 131072 either way.
 
     Rows

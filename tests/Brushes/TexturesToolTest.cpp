@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <vector>
@@ -57,6 +56,7 @@ TEST(TexturesToolBytes, AreThoseWorkedOutByHand) {
         {"centre mirrored", kRectangle, 0, 1, 4, {0, 0, 0, 0, 0, 255, 255, 0, 0, 255, 255, 0, 0, 0, 0, 0}},
         {"hard disc", kDisc, 1, 0, 1, {255}},
         {"hard square", kRectangle, 1, 1, 1, {255}},
+        {"line", kRectangle, 1, kInfinity, 3, {0, 0, 0, 255, 255, 255, 0, 0, 0}},
         {"disc of two", kDisc, 0, 0, 2, {0, 0, 0, 255}},
         {"type below", -1, 1, 1, 3, std::vector<int>(9, 0)},
         {"type above", 4, 1, 1, 3, std::vector<int>(9, 0)},
@@ -114,26 +114,7 @@ TEST(TexturesToolValues, HardnessAboveOneDrawsAHardEdgeThatNeverWraps) {
     }
 }
 
-TEST(TexturesToolValues, AnEndlessRectangleIsALine) {
-    const std::vector<int> line = alphaOf(toolOf(kRectangle, 1, kInfinity), 33);
-    EXPECT_EQ(line[16 * 33 + 16], 255);
-    EXPECT_EQ(std::count_if(line.begin(), line.end(), [](int a) { return a != 0; }), 33);
-}
-
 // Sizes and images
-
-TEST(TexturesToolImage, HoldsTheBytesOfTheRawBuffer) {
-    const TexturesTool tool = toolOf(kRing, 0.7f, 5);
-    for (const int size : {3, 4, 31, 64}) {
-        const QImage image = tool.textureImageWithSize(size);
-        const auto data = tool.textureDataWithSize(size);
-        ASSERT_TRUE(data);
-        ASSERT_EQ(image.size(), QSize(size, size));
-        EXPECT_EQ(image.format(), QImage::Format_RGBA8888_Premultiplied);
-        ASSERT_EQ(image.bytesPerLine(), size * 4);
-        EXPECT_TRUE(std::equal(data.get(), data.get() + image.sizeInBytes(), image.constBits()));
-    }
-}
 
 TEST(TexturesToolImage, SizesBelowThreeGiveThree) {
     for (const int size : {2, 1, 0, -1, std::numeric_limits<int>::min()})

@@ -122,7 +122,7 @@ TEST_F(CanvasImageTest, QuarterTurnsAreCounterClockwiseAndExact) {
         SCOPED_TRACE(quarters);
         const QImage turned = part().transformed(QTransform().rotate(-90 * (quarters % 4)));
         const QPoint corner(100 - turned.width() / 2, 70 - turned.height() / 2);
-        auto canvas = makeCanvas();
+        auto canvas = makeCanvas(200, 150, SurfaceKind::automatic, quarters % 2 != 0 ? 16 : 8);
         const QImage expected = withPart(canvas->image(), corner, turned);
         ASSERT_TRUE(canvas->setImage(part(), QSizeF(40, 24), QPointF(100, 70), quarters * kQuarter));
         EXPECT_TRUE(imagesMatch(canvas->image(), expected));
@@ -230,10 +230,11 @@ TEST_F(CanvasImageTest, ViewPointsAreScaledBufferPixelsAreNotAndWhatReachesBeyon
 TEST_F(CanvasImageTest, OnlyWhatTheScissorLetsThroughIsTouched) {
     auto canvas = tintedCanvas();
     const QImage before = canvas->image();
-    canvas->setScissorRect(QRectF(60.3, 69.6, 20, 9));
+    canvas->setScissorRect(
+        QRectF(60.3, 69.5, 20, 9));  // rows count from the bottom, where halves go the other way
     canvas->setGlobalScissor(true);
     ASSERT_TRUE(canvas->setImage(part(), _at));
-    EXPECT_TRUE(imagesMatch(canvas->displayImage(), withPart(before, {60, 70}, part().copy(10, 10, 20, 9))));
+    EXPECT_TRUE(imagesMatch(canvas->displayImage(), withPart(before, {60, 69}, part().copy(10, 9, 20, 9))));
     const QImage after = canvas->image();
     const auto clear = [&] { canvas->clearWithColor(ESColor::rgba(0.2f, 0.4f, 0.6f, 0.8f), false); };
     for (const QRectF all : {QRectF(0, 0, 2e9, 2e9), QRectF(-1e10, -1e10, 2e10, 2e10)}) {
@@ -245,7 +246,7 @@ TEST_F(CanvasImageTest, OnlyWhatTheScissorLetsThroughIsTouched) {
     }
     canvas->setNeglectTextureUpdate(false);
     clear();
-    canvas->setScissorRect(QRectF(60.3, 69.6, 20, 9));
+    canvas->setScissorRect(QRectF(60.3, 69.5, 20, 9));
     ASSERT_TRUE(canvas->setData(bottomUp(part()), {40, 24}, _at));
     EXPECT_TRUE(imagesMatch(canvas->image(), after));
     canvas->setNeglectTextureUpdate(true);  // drawn, not copied

@@ -64,6 +64,21 @@ TEST_F(CanvasStrokeTest, DabsOffTheCanvasChangeNothingOnIt) {
     EXPECT_LT(differing, 50);
 }
 
+// A device that gives no tilt is held upright, also where others of the stroke's samples have one.
+TEST_F(CanvasStrokeTest, NoTiltIsAnUprightPen) {
+    QImage pictures[2];
+    for (const float none : {0.0f, -1.0f}) {
+        auto canvas = makeCanvas();
+        canvas->setRadiusControl({0, 1, 0});
+        canvas->drawingWithBeginPoint({20, 75}, 1, none);
+        canvas->drawingWithMoveToPoint({80, 75}, 1, 1);
+        canvas->drawingWithMoveToPoint({120, 75}, 1, none);
+        canvas->drawingWithEndPoint({180, 75}, 1, 1);
+        pictures[none < 0] = canvas->image();
+    }
+    EXPECT_TRUE(imagesMatch(pictures[0], pictures[1]));
+}
+
 // Strokes that do not go as they should
 
 void across(QDDrawCanvas& canvas, double y) {
@@ -116,22 +131,23 @@ TEST_F(CanvasStrokeTest, ChanceIsTheCanvassOwn) {
     ShapeRecord line;
     line.kind = ShapeKind::line;
     line.corners = {{20, 110}, {150, 130}};
-    QImage pictures[4];
-    const std::uint32_t seeds[] = {5, 5, 6, 6};
+    QImage pictures[5];
+    const std::uint32_t seeds[] = {5, 5, 6, 6, 5};
     std::srand(3);
     srand48(3);
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 5; ++i) {
         auto canvas = makeCanvas();
         canvas->setRepeatableRandom(i == 2);
         jitter(*canvas);
-        if (i == 1) {
+        if (i == 1 || i == 4) {
             across(*canvas, 60);
             canvas->drawPoint({50, 60}, 30);
-            canvas->clear();
+            i == 1 ? canvas->clear()
+                   : static_cast<void>(canvas->setImage(solidImage({200, 150}), QRectF(0, 0, 200, 150)));
         }
         canvas->setRandomSeed(seeds[i]);
-        across(*canvas, 60);
         canvas->drawShape(line);
+        across(*canvas, 60);
         const QRectF touched = canvas->drawPoint({50, 60}, 30);
         EXPECT_FALSE(touched.isEmpty());
         canvas->updateImage(true);
@@ -140,6 +156,7 @@ TEST_F(CanvasStrokeTest, ChanceIsTheCanvassOwn) {
     EXPECT_EQ(std::rand(), first);
     EXPECT_EQ(drand48(), other);
     EXPECT_TRUE(imagesMatch(pictures[0], pictures[1])) << "whatever was painted before";
+    EXPECT_TRUE(imagesMatch(pictures[0], pictures[4])) << "and then replaced";
     EXPECT_NE(pictures[0], pictures[3]) << "another seed";
     EXPECT_NE(pictures[2], pictures[3]) << "fixed values";
 }

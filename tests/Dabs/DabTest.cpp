@@ -67,35 +67,6 @@ void everyJitter(DabSettings& s) {
     s.backColor = {0, 0.3f, 0.9f};
 }
 
-bool same(const Dab& a, const Dab& b) {
-    return a.x == b.x && a.y == b.y && a.halfSize == b.halfSize && a.radian == b.radian &&
-           a.roundness == b.roundness && a.flipX == b.flipX && a.flipY == b.flipY && a.flow == b.flow &&
-           a.color.r == b.color.r && a.tip == b.tip;
-}
-
-TEST(DabTest, AStrokeRepeatsHoweverItIsCutIntoCalls) {
-    std::vector<LPPoint> points;
-    for (int i = 0; i < 40; ++i) {
-        points.push_back(pointAt(30 + 5.0f * static_cast<float>(i), 60 + 3 * std::sin(static_cast<float>(i)),
-                                 12, {0.5f, 0.2f, 0.7f}));
-    }
-    DabMaker whole = makerWith(everyJitter);
-    const std::vector<Dab> expected = dabsOf(whole, points);
-    DabMaker cut = makerWith(everyJitter);
-    std::vector<Dab> actual;
-    for (std::size_t i = 0; i < points.size(); i += 7) {
-        const std::size_t end = std::min(i + 7, points.size());
-        const std::vector<Dab> part = dabsOf(cut, {points.begin() + static_cast<std::ptrdiff_t>(i),
-                                                   points.begin() + static_cast<std::ptrdiff_t>(end)});
-        actual.insert(actual.end(), part.begin(), part.end());
-    }
-    ASSERT_EQ(actual.size(), expected.size());
-    EXPECT_GT(actual.size(), points.size());
-    for (std::size_t i = 0; i < actual.size(); ++i) {
-        EXPECT_TRUE(same(actual[i], expected[i])) << "dab " << i;
-    }
-}
-
 TEST(DabTest, EveryJitterStaysInRange) {
     srand48(3);
     for (const bool debug : {true, false}) {

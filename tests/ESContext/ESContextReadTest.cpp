@@ -44,7 +44,10 @@ TEST_F(ESContextReadTest, ReadsComeFromTheCanvasWhateverTargetIsCurrent) {
     QImage display = solidImage({kWidth, kHeight});
     ASSERT_TRUE(_context->updateImage(display, display.rect()));
     EXPECT_TRUE(imagesMatch(display, _expected));
-    fill(QRect(0, 0, 3, 3), Qt::white, kHeight / 2);  // the display update left the smudge layer bound
+    GLint from = 0;  // the display update leaves the smudge layer bound, to read and to draw
+    glGetIntegerv(GL_READ_FRAMEBUFFER_BINDING, &from);
+    EXPECT_EQ(static_cast<GLuint>(from), _context->frameBuffer(ESRenderTypeSmudge));
+    fill(QRect(0, 0, 3, 3), Qt::white, kHeight / 2);
     fillRect(smudge, QRect(0, 0, 3, 3), Qt::white);
     EXPECT_TRUE(imagesMatch(_context->image(), _expected));
     // The store was made for the small layer; the large one must not overrun it.

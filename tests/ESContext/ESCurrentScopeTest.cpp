@@ -104,33 +104,6 @@ TEST_F(ESCurrentScopeTest, AHostsContextAndSurfacesAreCurrentAgainAfterEveryEntr
     EXPECT_EQ(Current(), before) << "after destroying a context";
 }
 
-TEST_F(ESCurrentScopeTest, TwoContextsDrawInterleaved) {
-    const auto other = ESContext::init();
-    ASSERT_TRUE(other);
-    const Current before;
-    ASSERT_EQ(before.context, EGL_NO_CONTEXT) << "a host without one has none again";
-    {
-        const ESCurrentScope a(*_context);
-        ASSERT_TRUE(_context->createBufferWithSize({8, 8}));
-        _context->beginRenderForType(ESRenderTypeCanvas);
-        {
-            const ESCurrentScope b(*other);
-            ASSERT_TRUE(other->createBufferWithSize({8, 8}));
-            other->beginRenderForType(ESRenderTypeCanvas);
-            {
-                const ESCurrentScope again(*_context);
-                fill(QRect(0, 0, 8, 8), Qt::red, 8);
-            }
-            fill(QRect(0, 0, 8, 8), Qt::green, 8);
-            EXPECT_EQ(other->image().pixelColor(3, 3), QColor(Qt::green));
-        }
-        EXPECT_EQ(_context->image().pixelColor(3, 3), QColor(Qt::red));
-    }
-    EXPECT_EQ(Current(), before);
-    const ESCurrentScope b(*other);
-    EXPECT_EQ(other->image().pixelColor(3, 3), QColor(Qt::green)) << "nothing drawn is lost between scopes";
-}
-
 TEST_F(ESCurrentScopeTest, AnotherThreadIsRefusedWhileTheContextIsInUse) {
     {
         const ESCurrentScope current(*_context);

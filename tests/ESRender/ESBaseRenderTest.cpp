@@ -46,15 +46,11 @@ TEST_F(ESBaseRenderTest, EachPointIsASquareOfItsSizeInTheFlatColour) {
     fillRect(expected, QRect(28, 18, 4, 4), QColor(255, 51, 0, 153));
     expected.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
     EXPECT_TRUE(imagesMatch(_context->image(), expected));
-}
-
-TEST_F(ESBaseRenderTest, RenderersDrawWithTheirOwnVertexDataWhicheverWasMadeLast) {
-    const auto other = ESBaseRender::initWithVertexShaderFromString({}, fragment("0.0, 1.0, 0.0, 1.0"));
-    ASSERT_TRUE(other);
-    _render->setRenderColor(QColor(Qt::red));
-    const LPPoint point = {{10, 8}, 6, {}};
-    _render->drawPoints(&point, 1);
-    EXPECT_EQ(_context->image().pixelColor(10, 8), QColor(Qt::red));
+    // And so does a mirror of it, in rows from the bottom and transparent beyond.
+    GLuint texture = 0;
+    _render->updateTextureAtOrigin({0, 0}, {0, 0}, texture, GL_TEXTURE1);
+    EXPECT_TRUE(imagesMatch(readTexture(texture).mirrored(), expected.copy(0, kHeight - 32, 64, 32)));
+    glDeleteTextures(1, &texture);
 }
 
 // Properties
@@ -113,29 +109,6 @@ TEST_F(ESBaseRenderTest, BrushTexturesTakeTheSideTheirNumberAsksFor) {
     _render->setTextureData(tip.constBits(), tip.size());
     EXPECT_EQ(_render->brushTexture()->pixSize(), QSize(8, 8));
     EXPECT_EQ(_render->numberOfTexture(), 1u);
-}
-
-TEST_F(ESBaseRenderTest, MirrorTextureIsCopiedWithinTheBufferOnly) {
-    fill(QRect(0, 0, kWidth, kHeight), QColor(1, 2, 3), kHeight);
-    GLuint texture = 0;
-    _render->updateTextureAtOrigin({0, 0}, {0, 0}, texture, GL_TEXTURE1);
-    QImage expected = solidImage({64, 32});
-    fillRect(expected, QRect(0, 0, kWidth, kHeight), QColor(1, 2, 3));
-    EXPECT_TRUE(imagesMatch(readTexture(texture), expected));
-    // And what is copied of it, in bottom-up rows.
-    int shade = 100;
-    for (const auto& [rect, copied] : {std::pair{QRectF(-5, -4, 10, 10), QRect(0, 0, 5, 6)},
-                                       {{3.4, 2.5, 4, 4}, {3, 3, 4, 4}},
-                                       {{45, 25, 100, 100}, {45, 25, 5, 5}},
-                                       {{60, 40, 4, 4}, {}},
-                                       {{9, 9, -3, 4}, {}}}) {
-        shade += 10;
-        fill(QRect(0, 0, kWidth, kHeight), QColor(shade, 0, 0), kHeight);
-        _render->updateTextureAtOrigin(rect.topLeft(), rect.size(), texture, GL_TEXTURE1);
-        fillRect(expected, copied, QColor(shade, 0, 0));
-        EXPECT_TRUE(imagesMatch(readTexture(texture), expected));
-    }
-    glDeleteTextures(1, &texture);
 }
 
 // Program cache

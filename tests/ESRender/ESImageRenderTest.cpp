@@ -72,8 +72,14 @@ TEST_F(ImageRenderTest, AProgramsTextTellsItsTypeAndTheNormalOneStandsInForNone)
     const QString vertex = _render->vertexShaderString(), erase = _render->fragmentShaderString();
     _render->removeProgramWithVertexShaderString(vertex, erase);
     EXPECT_FALSE(_render->isExistWithVertexShaderString(vertex, erase));
-    EXPECT_EQ(_render->fragmentShaderString(),
-              ESImageRender::fragmentShaderStringForBlendType(ESBlendTypeNormal));
+    const QString normal = ESImageRender::fragmentShaderStringForBlendType(ESBlendTypeNormal);
+    EXPECT_EQ(_render->fragmentShaderString(), normal);
+    EXPECT_EQ(_render->blendType(), std::uint32_t{ESBlendTypeNormal});
+    // A picture with edges between pixels is drawn by a program of its own, and only that.
+    _render->setTextureImage(solidImage({3, 3}, Qt::red));
+    _render->setUseLargeTexture(true);
+    composite(QRectF(2.3, 2.3, 3, 3));
+    EXPECT_EQ(_render->fragmentShaderString(), normal);
 }
 
 }  // namespace

@@ -130,18 +130,4 @@ TEST_F(LineRenderTest, TheTouchedRectangleHoldsWhatJittersMake) {
     }
 }
 
-TEST_F(LineRenderTest, PaperHoldsBackUntilThereIsNone) {
-    _render->setTextureImage(solidImage({128, 128}, Qt::black), GL_TEXTURE1);
-    _render->setMaskImage(solidImage({20, 10}, Qt::black));
-    const auto alpha = [&] { return draw({{{64, 64}, 128, {1, 0, 1}}}).pixelColor(15, 7).alpha(); };
-    EXPECT_EQ(alpha(), 255) << "not asked for";
-    _render->setNeedMaskTexture(true);
-    for (const float scale : {1.0f, 3.0f, 0.0f}) {  // never divides by nothing
-        _render->setMaskScale(scale);
-        EXPECT_EQ(alpha(), 0) << scale;
-    }
-    _render->setMaskImage({});
-    EXPECT_EQ(alpha(), 255);
-}
-
 }  // namespace

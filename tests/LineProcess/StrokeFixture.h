@@ -59,11 +59,11 @@ protected:
     Dabs finish(float x, float y) { return append({x, y}, 1.0f, 0.0f, true); }
 
     // A whole stroke through the places, the last one ending it.
-    Dabs draw(const std::vector<LPPosition>& places, float pressure = 1.0f) {
+    Dabs draw(const std::vector<LPPosition>& places, float pressure = 1.0f, float altitude = 0.0f) {
         Dabs all;
-        lpStartLineWithParams(places.front(), pressure, 0.0f);
+        lpStartLineWithParams(places.front(), pressure, altitude);
         for (std::size_t i = 1; i < places.size(); ++i) {
-            const Dabs more = append(places[i], pressure, 0.0f, i + 1 == places.size());
+            const Dabs more = append(places[i], pressure, altitude, i + 1 == places.size());
             all.insert(all.end(), more.begin(), more.end());
         }
         return all;

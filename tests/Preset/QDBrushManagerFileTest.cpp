@@ -16,9 +16,8 @@
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
+#include "support/DyingProcess.h"
 #include "support/Limits.h"
 #endif
 
@@ -362,18 +361,12 @@ TEST_F(QDBrushManagerFile, AKilledWriterLeavesTheOldFileAndNothingBesideIt) {
     ::close(nameless);
     ASSERT_TRUE(QDBrushManager::saveParams(BrushParams(), 200, {}, path));
     const QByteArray before = content();
-    const pid_t writer = ::fork();
-    if (writer == 0) {
-        const rlimit noCore{0, 0}, small{1000, 1000};
-        ::setrlimit(RLIMIT_CORE, &noCore);
-        ::setrlimit(RLIMIT_FSIZE, &small);
+    inDyingProcess([&] {
+        const Limited noCore(RLIMIT_CORE, 0), small(RLIMIT_FSIZE, 1000);
         QDBrushManager::saveParams(BrushParams{param(1, "", QByteArray(100'000, 'd'), kXBFData)}, 200, {},
                                    path);
         ::_exit(0);
-    }
-    int status = 0;
-    ASSERT_EQ(::waitpid(writer, &status, 0), writer);
-    EXPECT_TRUE(WIFSIGNALED(status));
+    });
     EXPECT_EQ(content(), before);
     EXPECT_EQ(filesInFolder(), 1);
 }

@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <vector>
 
 #include "support/Images.h"
@@ -148,21 +147,6 @@ TEST(LeafDrawingTest, DroppedStrokesCallNothing) {
     EXPECT_EQ(painted(leaf.cgImage()), QRect());
     QCoreApplication::processEvents();
     EXPECT_TRUE(leaf.handed.empty());
-}
-
-TEST(LeafDrawingTest, MayBeDestroyedWhilePendingOrCompleting) {
-    auto leaf = std::make_unique<Leaf>();
-    int calls = 0;
-    leaf->setComplention([&](const QImage&, QSizeF) { ++calls, leaf.reset(); });
-    leaf->stroke(kTriangle);
-    leaf->drawWithBegin({0, 0});
-    EXPECT_TRUE(!leaf && calls == 1);
-    leaf = std::make_unique<Leaf>();
-    leaf->setComplention([&](const QImage&, QSizeF) { ++calls; });
-    leaf->stroke(kTriangle);
-    leaf.reset();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(calls, 1);
 }
 
 TEST(LeafDrawingTest, IgnoresWhatIsNotFinite) {

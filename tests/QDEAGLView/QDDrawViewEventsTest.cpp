@@ -143,7 +143,7 @@ TEST_F(DrawViewEventsTest, TiltReachesTheStrokeWhereItIsAskedForAndKnown) {
     view->setRadiusControl({0, 1, 0});
     tilt = 60;
     for (const auto& [device, uses, height] :
-         {std::tuple(pen, false, 32), std::tuple(otherPen, true, 32), std::tuple(pen, true, 71)}) {
+         {std::tuple(pen, false, 20), std::tuple(otherPen, true, 20), std::tuple(pen, true, 52)}) {
         view->clear();
         view->setUsesPenTilt(uses);
         tablet(QEvent::TabletPress, {20, 75}, 1, device);

@@ -4,11 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <numbers>
 #include <random>
 
-#include "Surface/BlendType.h"
 #include "Surface/Kinds.h"
+#include "support/BlendReference.h"
 #include "support/Dabs.h"
 
 using namespace dabcanvas;
@@ -17,7 +16,8 @@ namespace {
 
 constexpr PictureId kPicture = PictureId::first;
 using Bytes = std::vector<std::uint8_t>;
-using Colour = Pixel;  // premultiplied, 0..1
+using reference::blended;
+using reference::Colour;
 
 class SurfaceTest : public testing::TestWithParam<Kind> {
 protected:
@@ -93,22 +93,24 @@ TEST_P(SurfaceTest, RowsComeBackByteForByteInAnyPartAndOrder) {
 }
 
 TEST_P(SurfaceTest, PictureAndBackgroundGoTheirOwnWays) {
-    const Bytes whole = randomPicture(3, kSize);
+    const Bytes whole = randomPicture(3, kSize), filled{255, 128, 0, 255};
     write(whole);
-    surface->fill(kPicture, {1, 128 / 255.0f, 0, 1});
-    EXPECT_EQ(read({5, 5, 1, 1}), (Bytes{255, 128, 0, 255}));
     const Rect part{20, 30, 77, 40};
-    surface->revert(kPicture, part);
-    Bytes expected = read();
+    Bytes expected = whole;
     for (int y = 0; y < kSize.height; ++y) {
         for (int x = 0; x < kSize.width; ++x) {
             const bool inside = Rect{x, y, 1, 1}.meets(part);
-            const std::uint8_t* const from = whole.data() + at(x, y);
-            const Bytes filled{255, 128, 0, 255};
-            std::copy_n(inside ? from : filled.data(), 4, expected.data() + at(x, y));
+            std::copy_n(inside ? whole.data() + at(x, y) : filled.data(), 4, expected.data() + at(x, y));
         }
     }
-    EXPECT_EQ(read(), expected);
+    // By itself, or below a layer on which there is nothing.
+    for (const std::uint32_t mode : {0u, std::uint32_t{ESBlendTypeNormal}, std::uint32_t{ESBlendTypeReset}}) {
+        surface->fill(kPicture, {1, 128 / 255.0f, 0, 1});
+        EXPECT_EQ(read({5, 5, 1, 1}), filled);
+        mode == 0 ? surface->revert(kPicture, part)
+                  : surface->composite(kPicture, {&part, 1}, {.blendType = mode});
+        EXPECT_EQ(read(), expected) << mode;
+    }
     surface->commit(kPicture, Rect::of(kSize));
     surface->fill(kPicture, {});
     surface->revert(kPicture, {-5, -5, 1000, 1000});
@@ -148,45 +150,6 @@ TEST_P(SurfaceTest, RowsOfThePicturesOwnDepthHoldAllOfIt) {
 }
 
 // ---- Blend modes
-
-// What each mode promises, of a background and what lies on it.
-Colour blended(std::uint32_t mode, const Colour& back, const Colour& line) {
-    const double below = 1 - line[3], beside = 1 - back[3];
-    const double alpha = back[3] * below + line[3];
-    Colour result{};
-    for (std::size_t i = 0; i < 3; ++i) {
-        const double white = beside + back[i], lineWhite = below + line[i];
-        const double mixed = mode == ESBlendTypeTarnish ? std::min(white, lineWhite) : white * lineWhite;
-        switch (mode) {
-            case ESBlendTypeReplace:
-                result[i] = line[i];
-                break;
-            case ESBlendTypeBehind:
-                result[i] = line[i] * beside + back[i];
-                break;
-            case ESBlendTypeErase:
-                result[i] = back[i] * below;
-                break;
-            case ESBlendTypeTarnish:
-            case ESBlendTypeMultiply:
-                result[i] = std::clamp(mixed - (1 - alpha), 0.0, alpha);
-                break;
-            case ESBlendTypeBrightness:
-                result[i] = std::max(back[i], line[i]);
-                break;
-            case ESBlendTypeReset:
-                result[i] = back[i];
-                break;
-            default:
-                result[i] = back[i] * below + line[i];
-        }
-    }
-    result[3] = mode == ESBlendTypeReplace ? line[3]
-                : mode == ESBlendTypeErase ? back[3] * below
-                : mode == ESBlendTypeReset ? back[3]
-                                           : alpha;
-    return result;
-}
 
 TEST_P(SurfaceTest, EachModeBlendsAsItPromises) {
     constexpr float kColours[] = {0, 0.05f, 0.6f, 1};
@@ -269,42 +232,6 @@ TEST_P(SurfaceTest, DabsStraightOnThePictureLeaveTheBackground) {
     EXPECT_EQ(read({60, 30, 1, 1}), (Bytes{0, 0, 0, 255}));
     surface->revert(kPicture, touched);
     EXPECT_EQ(read(), before);
-}
-
-// ---- Pictures on pictures
-
-TEST_P(SurfaceTest, PicturesArePlacedWhereTheyBelong) {
-    // Red above, blue below, on green.
-    const Bytes source{255, 0, 0, 255, 0, 0, 255, 255};
-    const Bytes red{255, 0, 0, 255}, green{0, 255, 0, 255}, blue{0, 0, 255, 255};
-    const double quarter = std::numbers::pi / 2;
-    const struct {
-        double width, height, x, y, radian;
-        int atX, atY;
-        Bytes colour;
-    } rows[] = {
-        {20, 40, 60, 40, 0, 55, 21, red},           {20, 40, 60, 40, 0, 65, 59, blue},
-        {20, 40, 60, 40, 0, 49, 40, green},         {20, 40, 60, 40, 0, 60, 60, green},
-        {20, 40, 60, 40, quarter, 41, 45, red},     {20, 40, 60, 40, quarter, 79, 35, blue},
-        {20, 40, 60, 40, 2 * quarter, 60, 59, red}, {20, 40, 60.5, 40, 0, 50, 22, {128, 128, 0, 255}}};
-    for (const auto& row : rows) {
-        surface->fill(kPicture, {0, 1, 0, 1});
-        surface->commit(kPicture, Rect::of(kSize));
-        ASSERT_TRUE(surface->place(kPicture, {.pixels = PixelView::topRowFirst(source.data(), {1, 2}),
-                                              .width = row.width,
-                                              .height = row.height,
-                                              .centreX = row.x,
-                                              .centreY = row.y,
-                                              .radian = row.radian,
-                                              .clip = Rect::of(kSize)}));
-        const Bytes pixel = read({row.atX, row.atY, 1, 1});
-        for (std::size_t i = 0; i < 4; ++i) {
-            EXPECT_NEAR(pixel[i], row.colour[i], 2)
-                << row.atX << ", " << row.atY << " turned by " << row.radian;
-        }
-        surface->revert(kPicture, Rect::of(kSize));
-        EXPECT_EQ(read({60, 40, 1, 1}), green);
-    }
 }
 
 // ---- Smudging

@@ -41,9 +41,13 @@ TEST_F(BrushStorageTest, EveryValueComesBackInTheNextRun) {
     for (const BrushProperty& property : brushProperties())
         EXPECT_TRUE(sameBrushValue(after[std::size_t(property.key)], before[std::size_t(property.key)]))
             << property.name;
-    // And on a canvas that is made later in the run.
+    // And on a canvas that is made later in the run, where sizes that are not related stay what they are.
+    _window->brush().setValue(BrushKey::slRadiusRelationType, 0);
+    _window->brush().setValue(BrushKey::slRadius, 44.0f);
+    _window->brush().setValue(BrushKey::radius, 90.0f);
     ASSERT_TRUE(_window->startCanvas({QSize(20, 20), Qt::transparent}));
-    EXPECT_EQ(_window->view()->radius(), _window->brush().value(BrushKey::radius).toFloat());
+    EXPECT_EQ(_window->view()->radius(), 90);
+    EXPECT_EQ(_window->view()->slRadius(), 44);
     _window->brush().setValue(BrushKey::textureType, 0);
     EXPECT_EQ(_window->view()->textureImages().size(), 2);
 }

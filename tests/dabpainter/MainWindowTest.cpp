@@ -3,6 +3,7 @@
 
 #include <QFileInfo>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointingDevice>
 #include <QStatusBar>
@@ -12,6 +13,7 @@
 #include <cstring>
 #include <string>
 
+#include "BrushCursor.h"
 #include "ESRender/ESImageRender.h"
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
@@ -19,9 +21,7 @@
 #include "SessionFolder.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
-#include <sys/wait.h>
-#include <unistd.h>
-
+#include "support/DyingProcess.h"
 #include "support/Limits.h"
 #endif
 
@@ -44,6 +44,14 @@ protected:
         send(QEvent::MouseButtonRelease, way.last(), Qt::NoButton);
         settle();
     }
+    void pen(QEvent::Type type, QPointF at, double pressure, const QPointingDevice& device,
+             Qt::MouseButton button = Qt::LeftButton) {
+        QDDrawView* view = _window->view();
+        QTabletEvent event(type, &device, at, view->mapToGlobal(at), pressure, 0, 0, 0, 0, 0, Qt::NoModifier,
+                           type == QEvent::TabletMove ? Qt::NoButton : button,
+                           type == QEvent::TabletRelease ? Qt::NoButton : Qt::MouseButtons(button));
+        QApplication::sendEvent(view, &event);
+    }
     // Where a buffer pixel is in the view.
     QPointF inView(double x, double y) {
         return _window->viewport().pointOfBuffer({x, y}) - _window->view()->pos();
@@ -63,12 +71,16 @@ protected:
 // ---- The pointer
 
 TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
-    _window->brush().setValue(BrushKey::hardness, 1.0f);
-    _window->brush().setValue(BrushKey::radius, 8.0f);
+    BrushModel& brush = _window->brush();
+    brush.setValue(BrushKey::hardness, 1.0f);
+    brush.setValue(BrushKey::radius, 16.0f);
     CanvasViewport& viewport = _window->viewport();
+    const auto* cursor = viewport.findChild<BrushCursor*>();
     for (const double zoom : {2.0, 1.0, 0.5, 3.3}) {
         SCOPED_TRACE(zoom);
         viewport.setZoom(zoom);
+        brush.setValue(BrushKey::radiusControl,
+                       QVariant::fromValue(LPControlParams{zoom < 2 ? 1.0f : 0, 0, 0}));
         EXPECT_NEAR(_window->view()->width() * viewport.devicePixelRatioF(), 200 * zoom, 1);
         // A click leaves a dab, at the pixel below the pointer and nowhere else.
         drag({inView(120.5, 60.5)});
@@ -76,6 +88,11 @@ TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
         EXPECT_EQ(pixel(132, 60), QColor(Qt::white));
         EXPECT_EQ(pixel(108, 60), QColor(Qt::white));
         EXPECT_EQ(pixel(120, 72), QColor(Qt::white));
+        int across = 0;
+        for (int x = 100; x < 140; ++x)
+            across += pixel(x, 60).lightness() < 128;
+        EXPECT_NEAR(cursor->outlineSize() / viewport.scale(), across, 2.5);  // its rim is soft
+        EXPECT_TRUE(_window->view()->pointsDistanceEnabled()) << "the brush is what it was";
         _window->clearCanvas();
     }
 }
@@ -89,10 +106,70 @@ TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
     // Positions are whole screen pixels.
     EXPECT_NEAR(viewport.bufferPoint(at).x(), before.x(), 0.5);
     EXPECT_NEAR(viewport.bufferPoint(at).y(), before.y(), 0.5);
+    _window->resize(940, 690);
+    settle();
+    EXPECT_EQ(viewport.zoom(), 11.7);
     viewport.fit();
     const QRect shown = _window->view()->geometry();
     EXPECT_TRUE(viewport.rect().contains(shown));
     EXPECT_NEAR(shown.center().x(), viewport.rect().center().x(), 2);
+}
+
+TEST_F(MainWindowTest, TheSpaceBarPansUntilTheProgramIsLeft) {
+    CanvasViewport& viewport = _window->viewport();
+    const QDDrawView& view = *_window->view();
+    viewport.setZoom(8);
+    viewport.setFocus();
+    const QImage blank = _window->view()->image();
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QApplication::sendEvent(&viewport, &space);
+    for (const bool pans : {true, false}) {
+        const QPoint before = view.pos();
+        drag({{300, 300}, {340, 280}});
+        EXPECT_EQ(view.pos() - before, pans ? QPoint(40, -20) : QPoint());
+        EXPECT_EQ(_window->view()->image() == blank, pans);
+        QEvent left(QEvent::ApplicationDeactivate);
+        QApplication::sendEvent(qApp, &left);
+    }
+    // Until half the room is empty.
+    const QPoint middle = viewport.rect().center();
+    viewport.pan({1e6, 1e6});
+    EXPECT_LT((view.geometry().topLeft() - middle).manhattanLength(), 5);
+    viewport.pan({-1e6, -1e6});
+    EXPECT_LT((view.geometry().bottomRight() - middle).manhattanLength(), 5);
+}
+
+TEST_F(MainWindowTest, WhatIsPickedIsThePixelBelowThePointer) {
+    QImage dot(200, 150, QImage::Format_ARGB32);
+    dot.fill(Qt::transparent);
+    dot.setPixelColor(60, 40, QColor(0, 200, 100));
+    ASSERT_TRUE(dot.save(path("dot.png")) && _window->openImage(path("dot.png")));
+    _window->viewport().setZoom(8);
+    for (const QPointF at : {QPointF(60.9, 40.8), QPointF(61.3, 40.5), QPointF(59.6, 39.6)}) {
+        action("&Eyedropper")->trigger();
+        send(QEvent::MouseButtonPress, inView(at.x(), at.y()), Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, inView(at.x(), at.y()), Qt::NoButton);
+        const auto color = _window->brush().value(BrushKey::renderColor).value<ESColor>().toQColor();
+        EXPECT_EQ(color.rgb(), qRgb(0, 200, 100)) << "and nothing is picked where nothing is";
+    }
+}
+
+// By its tip alone; the right button is for something else.
+TEST_F(MainWindowTest, APensTapIsAsStrongAsItBecame) {
+    const QPointingDevice device("pen", 9, QInputDevice::DeviceType::Stylus,
+                                 QPointingDevice::PointerType::Pen, QInputDevice::Capability::Pressure, 1, 2);
+    _window->viewport().setZoom(1);
+    _window->brush().setValue(BrushKey::radius, 40.0f);
+    _window->brush().setValue(BrushKey::hardness, 1.0f);
+    _window->brush().setValue(BrushKey::radiusControl, QVariant::fromValue(LPControlParams{1, 0, 0}));
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
+        pen(QEvent::TabletPress, inView(100, 75), 0.1, device, button);
+        pen(QEvent::TabletMove, inView(100, 75), 1, device, button);
+        pen(QEvent::TabletRelease, inView(100, 75), 0, device, button);
+        settle();
+        EXPECT_EQ(pixel(115, 75).lightness() < 60, button == Qt::LeftButton);
+        EXPECT_EQ(pixel(100, 75).lightness() < 60, button == Qt::LeftButton);
+    }
 }
 
 TEST_F(MainWindowTest, AStrokeMayBeginBesideTheCanvas) {
@@ -115,18 +192,11 @@ TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
     const QPointingDevice eraser("eraser", 7, QInputDevice::DeviceType::Stylus,
                                  QPointingDevice::PointerType::Eraser, QInputDevice::Capability::Pressure, 1,
                                  1);
-    QDDrawView* view = _window->view();
-    const auto pen = [&](QEvent::Type type, QPointF at, Qt::MouseButtons held) {
-        QTabletEvent event(type, &eraser, at, view->mapToGlobal(at), 1, 0, 0, 0, 0, 0, Qt::NoModifier,
-                           type == QEvent::TabletMove ? Qt::NoButton : Qt::LeftButton, held);
-        QApplication::sendEvent(view, &event);
-    };
     const auto byPen = [&] {
-        view = _window->view();
-        pen(QEvent::TabletPress, inView(40, 75), Qt::LeftButton);
+        pen(QEvent::TabletPress, inView(40, 75), 1, eraser);
         for (int x = 50; x <= 160; x += 10)
-            pen(QEvent::TabletMove, inView(x, 75), Qt::LeftButton);
-        pen(QEvent::TabletRelease, inView(160, 75), Qt::NoButton);
+            pen(QEvent::TabletMove, inView(x, 75), 1, eraser);
+        pen(QEvent::TabletRelease, inView(160, 75), 1, eraser);
         settle();
     };
     BrushModel& brush = _window->brush();
@@ -157,6 +227,9 @@ TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
                 ASSERT_TRUE(params);
                 EXPECT_EQ(BrushRecords::paramValueForKey(*params, 0x1002), QVariant(int(ESBlendTypeErase)));
                 EXPECT_EQ(BrushRecords::paramValueForKey(*params, 0x1003), ink);
+                brush.setValue(BrushKey::brushType, 3);
+                EXPECT_EQ(_window->view()->renderColor(), ink.value<ESColor>()) << "smudging knows no modes";
+                brush.setValue(BrushKey::brushType, 0);
                 paint();
             }
             EXPECT_NE(painted, row.erased);
@@ -211,6 +284,20 @@ TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
     lift({190, 60}, {40, 100});
     EXPECT_NE(view->image(), before);
     EXPECT_TRUE(_window->isUnsaved());
+
+    // The pixel between the fingers goes along.
+    CanvasViewport& viewport = _window->viewport();
+    viewport.setZoom(8);
+    const auto between = [&](double x) {
+        return viewport.bufferPoint(viewport.mapFromGlobal(corner + QPointF(x, 60))).x();
+    };
+    touch(QEvent::TouchBegin, {{{66, 60}, Finger::Pressed}});
+    touch(QEvent::TouchUpdate, {{{66, 60}, Finger::Stationary}, {{146, 60}, Finger::Pressed}});
+    const double pixel = between(106);
+    for (const double x : {126, 146})
+        touch(QEvent::TouchUpdate, {{{x - 40, 60}, Finger::Updated}, {{x + 40, 60}, Finger::Updated}});
+    EXPECT_NEAR(between(146), pixel, 0.5);
+    lift({106, 60}, {186, 60});
 }
 
 TEST_F(MainWindowTest, NothingElseHappensInTheMiddleOfAStroke) {
@@ -295,32 +382,25 @@ TEST_F(MainWindowTest, AFullDiskLeavesTheOldFiles) {
 
 #ifdef Q_OS_UNIX
 TEST_F(MainWindowTest, WhatDeadRunsLeftGoesWhenTheUserSaysSo) {
-    const auto died = [&](const QByteArray& picture) {
-        const pid_t run = ::fork();
-        if (run == 0) {
-            const SessionFolder session(path("sessions"));
-            QFile file(session.pictures());
-            const bool written = file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size();
-            file.close();
-            if (picture.isEmpty())
-                file.remove();
-            ::_exit(written ? 0 : 1);
-        }
-        int status = -1;
-        return ::waitpid(run, &status, 0) == run && status == 0;
+    const auto die = [&](const QByteArray& picture) {
+        inDyingProcess([&] {
+            const auto* const session = new SessionFolder(path("sessions"));
+            if (!picture.isEmpty())
+                writtenTo(session->pictures(), picture);
+        });
     };
     const auto folders = [&] {
         return QDir(path("sessions")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
     };
     EXPECT_EQ(folders(), 1) << "this run's own";
     EXPECT_TRUE(_window->view()->undoManager().tempDirectory().startsWith(path("sessions")));
-    ASSERT_TRUE(died(""));
+    die("");
     for (int i = 0; i < 4; ++i)
-        ASSERT_TRUE(died("a picture"));
+        die("a picture");
     _window->askAboutOldSessions();
     EXPECT_EQ(folders(), 5) << "what is empty goes, little is kept";
     EXPECT_TRUE(_questions.isEmpty());
-    ASSERT_TRUE(died("a picture"));
+    die("a picture");
     for (const bool confirmed : {false, true}) {
         _confirmed = confirmed;
         _questions.clear();
@@ -357,6 +437,14 @@ TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {
     EXPECT_TRUE(_window->saveTo(file));
     EXPECT_TRUE(_window->saveTo(path("p.jpg")));
     EXPECT_EQ(QImageReader::imageFormat(path("p.jpg")), "jpeg");
+    // As a camera that was held upright says.
+    writtenTo(
+        path("p@2x.jpg"),
+        contentOf(path("p.jpg"))
+            .insert(2, QByteArray::fromHex(
+                           "ffe100224578696600004d4d002a00000008000101120003000000010006000000000000")));
+    EXPECT_TRUE(_window->openImage(path("p@2x.jpg")));
+    EXPECT_EQ(_window->view()->bufferSize(), QSizeF(16, 24));
     EXPECT_FALSE(_window->saveTo(path("p.gif")));
     EXPECT_TRUE(_told.value(0).contains("no picture is written as .gif"));
 }
@@ -416,8 +504,10 @@ TEST_F(MainWindowTest, UndoAndRedoFollowTheCanvas) {
     undo->trigger();
     EXPECT_EQ(_window->view()->image(), blank) << "the background that it was made with";
     EXPECT_FALSE(undo->isEnabled());
+    ASSERT_TRUE(_window->saveTo(path("blank.png")));
     redo->trigger();
     EXPECT_EQ(_window->view()->image(), stroke);
+    EXPECT_TRUE(_window->isUnsaved());
     paint();
     EXPECT_FALSE(redo->isEnabled());
 }

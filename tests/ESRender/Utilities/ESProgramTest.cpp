@@ -44,20 +44,6 @@ TEST_F(ESProgramTest, LinkingMakesItUsableAndLetsGoOfItsShaders) {
     EXPECT_EQ(glGetFragDataLocation(program->programAddr(), "fragColor"), 0);
 }
 
-TEST_F(ESProgramTest, LocationsAreAskedOfGLOnceMissingOnesToo) {
-    const auto program = ESProgram::initWithVertexShaderString(kVertex, kFragment);
-    expectDrainedErrors(1);  // GL holds one error of a kind at a time
-    LogCapture log;
-    // Before linking GL answers with an error and -1; were it asked again, it would answer so again.
-    EXPECT_EQ(program->attributeIndex("a_position"), -1);
-    EXPECT_EQ(program->uniformIndex("u_shift"), -1);
-    ASSERT_TRUE(program->link());
-    EXPECT_EQ(program->attributeIndex("a_position"), -1);
-    EXPECT_EQ(program->uniformIndex("u_shift"), -1);
-    EXPECT_TRUE(log.has(QStringLiteral(
-        "GLError GL_INVALID_OPERATION set in File:SRC_New/ESRender/Utilities/ESProgram Line:222\n")));
-}
-
 TEST_F(ESProgramTest, AShaderFileThatDoesNotCompileIsNamedAndTheEmbeddedOneUsed) {
     const QString name = QStringLiteral("Shaders.bundle/BaseLine_Mac.fsh");
     const QString embedded = dabcanvas::resourcePathIn(QString(), name);
