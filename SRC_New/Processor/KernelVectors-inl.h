@@ -10,6 +10,7 @@
 
 #include <hwy/highway.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -151,8 +152,12 @@ HWY_INLINE Int blocksAhead(Int words, Int lowers) {
     return hn::Or(hn::ShiftLeft<1>(words), hn::ShiftLeft<31>(lowers));
 }
 HWY_INLINE Int blocksOf(const std::uint8_t* upper, const std::uint8_t* lower, Int ahead) {
-    const Int apart = hn::And(hn::BroadcastSignBit(ahead), hn::Set(kInts, static_cast<int>(lower - upper)));
-    return blocksAt(upper, hn::Add(hn::And(ahead, hn::Set(kInts, 0x7fffffff)), apart));
+    // Offsets must not be below 0: of a mirrored dab the lower row comes first.
+    const std::uint8_t* const first = std::min(upper, lower);
+    const Int isLower = hn::BroadcastSignBit(ahead);
+    const Int row = hn::Or(hn::And(isLower, hn::Set(kInts, static_cast<int>(lower - first))),
+                           hn::AndNot(isLower, hn::Set(kInts, static_cast<int>(upper - first))));
+    return blocksAt(first, hn::Add(hn::And(ahead, hn::Set(kInts, 0x7fffffff)), row));
 }
 #endif
 

@@ -27,6 +27,7 @@ std::vector<Dab> mixedDabs(std::size_t count) {
         dab.roundness = i % 3 == 0 ? 0.2f + 0.8f * unit() : 1;
         dab.flow = i % 2 == 0 ? unit() : 0.01f * unit();
         dab.flipX = i % 5 == 0 ? -1.0f : 1.0f;
+        dab.flipY = i % 4 == 0 && i % 3 == 1 ? -1.0f : 1.0f;
         dab.color = {unit(), unit(), unit()};
         dab.random = unit();
         dab.tip = static_cast<std::uint32_t>(i) % 3;
