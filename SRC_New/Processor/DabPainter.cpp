@@ -25,8 +25,11 @@ bool isSame(const std::weak_ptr<const Object>& one, const std::shared_ptr<const 
     return !one.owner_before(other) && !other.owner_before(one);
 }
 
-// As drawDabs(), into a layer of 8 bits.
+// As drawDabs(), into a layer of 8 bits; coverage is no such layer.
 bool drawRounded(std::span<const TileDab> dabs, const DabGround& ground) {
+    if (ground.isCoverage) {
+        return drawDabs(dabs, ground);
+    }
     bool any = false;
     for (const TileDab& dab : dabs) {
         any |= drawDabs({&dab, 1}, ground);

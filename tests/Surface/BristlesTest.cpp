@@ -155,6 +155,19 @@ TEST_P(BristlesTest, StrokesAreWhatTheReferencePaints) {
     }
 }
 
+TEST_P(BristlesTest, LayersOf8BitsSmudgeMuchTheSame) {
+    const std::vector<SmudgeDab> dabs = dabsOf(kStrokes[2]);
+    const std::vector<std::uint8_t> fine = painted(dabs, 1, 7);
+    _scope.reset();
+    _surface = GetParam().make(kSize, 8);
+    ASSERT_TRUE(_surface);
+    _scope.emplace(*_surface);
+    const std::vector<std::uint8_t> coarse = painted(dabs, 1, 7);
+    for (std::size_t i = 0; i < fine.size(); ++i) {
+        ASSERT_NEAR(coarse[i], fine[i], 8) << i / 4;
+    }
+}
+
 TEST_P(BristlesTest, WildDabsDoNoHarmAndLeaveNothingForTheNextStroke) {
     const std::vector<SmudgeDab> tame = dabsOf(kStrokes[1]);
     const std::vector<std::uint8_t> expected = painted(tame, 0, 7);
