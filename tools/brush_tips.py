@@ -98,6 +98,22 @@ def pool(seed, uneven=0.05):
     return stamped(1 - smoothstep(0.62, 1.0, rim(seed, x, y, uneven, 5)), SMOOTH)
 
 
+def puddle(seed, uneven=0.07, turns=7):
+    """Wet paint up to where the paper is dry: full, with a clear bank that wanders. Spacing 0.03 to 0.2, turned."""
+    side = 192
+    x, y = places(side)
+    out = rim(seed, x, y, uneven, turns) + 0.012 * soft(side, seed + 3, 4)
+    return stamped(1 - smoothstep(0.88, 0.98, out))
+
+
+def mop(seed, aspect=0.22):
+    """A flat brush full of water, whose long edge lies across (along y). Spacing 0.02 to 0.05 of its length."""
+    side = 160
+    x, y = places(side)
+    inside = np.minimum(0.93 - np.abs(y), aspect - np.abs(x)) + 0.015 * soft(side, seed, 5)
+    return stamped(smoothstep(0.0, 0.07, inside))
+
+
 def bleed(seed):
     """Colour that runs into wet paper: fingers of unlike length around a soft body. Spacing 0.1 to 0.3, turned."""
     side = 192
@@ -106,9 +122,9 @@ def bleed(seed):
     return stamped((1 - smoothstep(0.35, 1.0, out)) ** 1.3 * (1 - smoothstep(0.9, 1.0, np.hypot(x, y))), SMOOTH)
 
 
-def felt():
+def felt(side=128):
     """A felt tip: full, with an edge of a few fibres' width. Spacing 0.05 to 0.12."""
-    x, y = places(128)
+    x, y = places(side)
     return stamped(1 - smoothstep(0.8, 0.97, np.hypot(x, y)), SMOOTH)
 
 
