@@ -128,6 +128,11 @@ def felt(side=128):
     return stamped(1 - smoothstep(0.8, 0.97, np.hypot(x, y)), SMOOTH)
 
 
+def square():
+    """Opaque up to its edge, for whole pixels."""
+    return stamped(np.ones((16, 16)))
+
+
 def ink_brush(seed, uneven=0.05):
     """A full brush of ink, whose edge is a little torn by the paper. Spacing 0.03 to 0.08, turned or steered."""
     side = 128
@@ -164,7 +169,7 @@ def mist():
     """Airbrush: a bell whose slope and bend begin and end at nothing, so that scribbles show no bands. Spacing 0.05."""
     x, y = places(128)
     inside = np.clip(1 - x * x - y * y, 0, 1)
-    return stamped(inside**4, SMOOTH)
+    return stamped(inside**2.5, SMOOTH)
 
 
 def _drops(side, seed, count, reach, sizes):

@@ -8,11 +8,11 @@ from brush_table import DISC, ERASE, EVEN, LIVE_FILL, brush
 # ---- Spray
 
 brush("Airbrush", "airbrush dry", "A fine jet of colour that builds up as long as it stays.",
-      textureImages=tips.mist(), radius=100, **EVEN, pointsDistance=0.05, flow=0.07, minFlow=0.02,
+      textureImages=tips.mist(), radius=80, **EVEN, pointsDistance=0.05, flow=0.07, minFlow=0.02,
       flowControl=(1, 0, 0), renderColor="#304a8c")
 
 brush("Soft Airbrush", "airbrush dry", "A wide and faint mist for shadows and glows.",
-      textureImages=tips.mist(), radius=240, **EVEN, pointsDistance=0.05, flow=0.025, minFlow=0.05,
+      textureImages=tips.mist(), radius=200, **EVEN, pointsDistance=0.05, flow=0.035, minFlow=0.05,
       flowControl=(1, 0, 0), renderColor="#8c3a5e")
 
 brush("Grainy Airbrush", "airbrush dry", "A jet with too much air, in drops that stay apart.",

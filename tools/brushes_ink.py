@@ -54,7 +54,7 @@ brush("Chisel Marker", "marker wet", "A slanted marker: broad one way, thin the 
 
 # ---- Pixels
 
-brush("Hard Pixel", "pixel", "Whole pixels without a soft edge, for pixel art and masks.",
-      textureType=RECTANGLE, textureControlValue=1, hardness=1, pixelAligned=True, lineProcessType=0, radius=4, minRadius=0.25,
+brush("Hard Pixel", "pixel dry", "Whole pixels without a soft edge, for pixel art and masks.",
+      textureImages=tips.square(), pixelAligned=True, lineProcessType=0, radius=4, minRadius=0.25,
       radiusControl=(1, 0, 0), startRadius=0, endRadius=0, pointsDistance=0.2,
       renderColor="#222034")

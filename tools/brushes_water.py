@@ -59,4 +59,4 @@ brush("Acrylic", "acrylic wet", "Plastic paint from a bristle brush: covers at o
       textureImages=hairs.flat(3, 0.9, lights=0.15), colorFul=True,
       radius=66, minRadius=0.85, radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.9, pointsDistance=0.02,
       moveRadianEnable=True, flow=0.5, minFlow=0.5, flowControl=(0.8, 0, 0), brightnessTingle=0.05,
-      renderColor="#d9662b", **on_paper(paper("canvas"), 0.3, 1.0, 0.15, scale=0.6, control=(0.6, 0, 0)))
+      renderColor="#d9662b", **on_paper(paper("canvas"), 0.3, 0.9, 0.3, scale=0.6, control=(0.6, 0, 0)))
