@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What one pointer event costs the main thread while a pen session is drawn, and what smudging costs.
+// What one pointer event costs the main thread while a pen session is drawn, and what smudging and wet edges cost.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -113,6 +113,45 @@ BENCHMARK(smudging)
     ->Arg(32)
     ->Arg(64)
     ->Arg(256);
+
+// The session with a look at every event, by a brush with wet edges and by the same without.
+void wetEdges(benchmark::State& state) {
+    const Recording& recording = penSession();
+    const auto canvas = makeCanvas(1024, 768);
+    canvas->setRadius(static_cast<float>(state.range(0)));
+    canvas->setWetEdgeWidth(static_cast<float>(state.range(1)));
+    canvas->setPointsDistance(static_cast<float>(state.range(2)) / 100);
+    const auto draw = [&](float wetEdge) {
+        canvas->setWetEdge(wetEdge);
+        for (const Stroke& stroke : recording.strokes) {
+            canvas->drawingWithBeginPoint({stroke[0].x, stroke[0].y}, stroke[0].pressure, -1, true);
+            for (const Sample& sample : stroke) {
+                canvas->drawingWithMoveToPoint({sample.x, sample.y}, sample.pressure, -1, true);
+                canvas->displayImage();
+            }
+            canvas->drawingWithEndPoint({stroke.back().x, stroke.back().y}, stroke.back().pressure, -1, true);
+            canvas->displayImage();
+        }
+    };
+    Rounds wet, plain;
+    for (auto _ : state) {
+        plain.time([&] { draw(0); });
+        state.SetIterationTime(wet.time([&] { draw(0.6f); }));
+    }
+    state.SetLabel(recording.label + ", " + canvas->rendererName().toStdString());
+    state.counters["us/event"] = wet.medianMicros() / static_cast<double>(recording.samples);
+    state.counters["wet/plain"] = wet.median() / plain.median();
+}
+BENCHMARK(wetEdges)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(5)
+    ->ArgNames({"px", "width", "spacing"})
+    ->Args({20, 8, 25})
+    ->Args({20, 8, 5})
+    ->Args({100, 8, 25})
+    ->Args({100, 8, 5})
+    ->Args({100, 64, 5});
 
 }  // namespace
 

@@ -220,6 +220,13 @@ BRUSH_PROPERTY(LPControlParams, flowControl, FlowControl, .group = BrushGroup::f
 BRUSH_PROPERTY(float, decay, Decay, .group = BrushGroup::flow, .presetId = 0x6008, .reset = 0,
                .dab = &DabSettings::decay,
                .about = "Number of dabs after which the paint has run out; 0 or 1 for never.")
+BRUSH_PROPERTY(float, wetEdge, WetEdge, .group = BrushGroup::flow, .presetId = 0xA004, .reset = 0, .low = 0,
+               .high = 1,
+               .about = "How much paler the inside of a stroke dries than its rim, as watercolour does: 0 not at "
+                        "all, 1 until nothing is left of it.")
+BRUSH_PROPERTY(float, wetEdgeWidth, WetEdgeWidth, .group = BrushGroup::flow, .presetId = 0xA005, .reset = 8,
+               .created = 8, .low = 1, .high = 64,
+               .about = "How far that rim reaches into the stroke, in buffer pixels.")
 BRUSH_PROPERTY(bool, textureTingleEnabled, TextureTingleEnabled, .group = BrushGroup::tip, .presetId = 0x8002,
                .reset = 0, .dab = &DabSettings::textureTingleEnabled,
                .about = "Picks one of several tip images at random for each dab.")

@@ -81,6 +81,8 @@ constexpr BrushKey kResetOrder[] = {
     BrushKey::flowControl,
     BrushKey::decay,
     BrushKey::minFlow,
+    BrushKey::wetEdge,
+    BrushKey::wetEdgeWidth,
     BrushKey::smoothEnabled,
 };
 

@@ -384,7 +384,12 @@ DabStyle BrushState::subStyle() const {
 }
 
 CompositeStyle BrushState::compositeStyle() const {
-    return {.blendType = _blendType, .opacity = _settings.opacity, .masked = isMasked()};
+    const bool dries = _settings.wetEdge > 0;
+    return {.blendType = _blendType,
+            .opacity = _settings.opacity,
+            .masked = isMasked(),
+            .wetEdge = _settings.wetEdge,
+            .wetEdgeWidth = dries ? static_cast<int>(std::lround(_settings.wetEdgeWidth)) : 0};
 }
 
 void BrushState::setRepeatable(bool repeatable) {

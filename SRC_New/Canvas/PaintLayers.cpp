@@ -111,10 +111,13 @@ void PaintLayers::setStyle(const CompositeStyle& style) {
     }
 }
 
-void PaintLayers::show(const Rect& area, bool smudged) {
-    if (area.isEmpty()) {
-        return;
+Rect PaintLayers::show(const Rect& drawn, bool smudged) {
+    if (drawn.isEmpty()) {
+        return {};
     }
+    CompositeStyle style = _style;
+    style.smudged = smudged;
+    const Rect area = style.reach() > 0 ? drawn.grownBy(style.reach()).intersected(whole()) : drawn;
     if (smudged != _pendingSmudged) {
         settleDrawn();
         _pendingSmudged = smudged;
@@ -133,6 +136,7 @@ void PaintLayers::show(const Rect& area, bool smudged) {
         _pending.push_back(area);
     }
     notePainted(area);
+    return area;
 }
 
 void PaintLayers::flush() {

@@ -51,8 +51,9 @@ public:
     // Layers go onto the picture in this style from now on; what was drawn so far, in the one before.
     void setStyle(const CompositeStyle& style);
     const CompositeStyle& style() const { return _style; }
-    // A composite of this area is due, of what was smudged or of the line.
-    void show(const Rect& area, bool smudged);
+    // A composite is due where this area was drawn on, of what was smudged or of the line. Returns all that it changes,
+    // which drying may make more; nothing of nothing.
+    Rect show(const Rect& drawn, bool smudged);
     // Draws what is due.
     void flush();
 

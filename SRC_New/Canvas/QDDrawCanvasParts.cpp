@@ -182,9 +182,9 @@ void QDDrawCanvas::Parts::updateImage(bool online, bool smudged) {
     if (lastTouched.isEmpty()) {
         return;
     }
-    layers.show(lastTouched, smudged);
+    const Rect shown = layers.show(lastTouched, smudged);
     if (online) {
-        redisplay(lastTouched);
+        redisplay(shown);
     }
 }
 

@@ -14,6 +14,7 @@
 #include "ESRender/ESSmudgeRender.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "GLSurface/ThreadGL.h"
+#include "GLSurface/WetLayer.h"
 
 namespace dabcanvas {
 namespace {
@@ -142,6 +143,9 @@ GLSurface::~GLSurface() {
         current ? render.reset() : static_cast<void>(render.release());
     };
     release(_compositor);
+    if (_wetLayer) {
+        release(*_wetLayer);
+    }
     for (DabRender* of : {&_line, &_subLine, &_smudge}) {
         release(of->render);
     }
@@ -424,6 +428,10 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         (style.smudged ? !_smudge.render : style.masked && !prepare(PaintLayer::subLine))) {
         return;  // nothing was smudged, or there is no mask
     }
+    const bool isDry = style.reach() > 0 && dry(rects, style);
+    if (isDry) {
+        _compositor->setLineTextureID((*_wetLayer)->texture(), kLineUnit);
+    }
     _context->beginRenderForType(ESRenderTypeCanvas);
     for (const Rect& rect : rects) {
         const Rect cut = rect.intersected(Rect::of(size()));
@@ -439,6 +447,9 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         });
         _kept.blended(cut);
         noteChanged(picture, cut);
+    }
+    if (isDry) {
+        _compositor->setLineTextureID(_context->lineTexture(), kLineUnit);
     }
     _context->finishRender();
 }

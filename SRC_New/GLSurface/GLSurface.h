@@ -30,6 +30,7 @@ class ESSmudgeRender;
 namespace dabcanvas {
 
 class ThreadGL;
+class WetLayer;
 
 class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
 public:
@@ -91,6 +92,7 @@ private:
     Rect drawInto(ESRenderType target, DabRender& with, std::span<const Dab> dabs, const DabStyle& style);
     bool isFine() const { return _context->layerDepth() > 8; }
     void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked, std::uint32_t kept);
+    bool dry(std::span<const Rect> rects, const CompositeStyle& style);
     void showSmudges(const Rect& rect, float opacity, std::uint32_t kept);
     std::optional<float> noiseTurn(std::uint32_t kept) const;
     void noteChanged(PictureId picture, const Rect& rect);
@@ -100,7 +102,8 @@ private:
     std::shared_ptr<ThreadGL> _gl;
     std::unique_ptr<ESContext> _context;
     std::unique_ptr<ESImageRender> _compositor;
-    DabRender _line, _subLine, _smudge;  // the last one's render is an ESSmudgeRender
+    std::optional<std::unique_ptr<WetLayer>> _wetLayer;  // none: not asked for yet; null: cannot be had
+    DabRender _line, _subLine, _smudge;                  // the last one's render is an ESSmudgeRender
     KeptCounts _kept;
     Rect _smudgeStale;                // where the smudge layer may differ from the background
     std::vector<std::uint8_t> _band;  // rows on their way to or from the caller's

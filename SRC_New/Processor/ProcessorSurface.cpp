@@ -298,6 +298,9 @@ void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
         const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;
         return leaves ? void() : copyTiles(_background, _picture, part);
     }
+    if (style.reach() > 0) {
+        line = _wetEdge.dried(_line.grid, index, part);
+    }
     blendTile(index, part, {.layer = line, .mask = mask}, style);
 }
 
@@ -306,8 +309,12 @@ void PictureSurface<Channel>::composite(PictureId picture, std::span<const Rect>
                                         const CompositeStyle& style) {
     for (const Rect& rect : rects) {
         withMemory("composite", [&] {
-            _picture.forEachIn(
-                rect, [&](std::size_t index, const Rect& part) { compositeTile(index, part, style); });
+            const auto compositePiece = [&](const Rect& piece) {
+                _picture.forEachIn(
+                    piece, [&](std::size_t index, const Rect& part) { compositeTile(index, part, style); });
+            };
+            style.reach() > 0 ? _wetEdge.forEachPiece(_line.grid, rect, style, compositePiece)
+                              : compositePiece(rect);
         });
         noteChanged(picture, rect);
     }

@@ -15,6 +15,7 @@
 #include "Processor/DabPainter.h"
 #include "Processor/SmudgePainter.h"
 #include "Processor/Tiles.h"
+#include "Processor/WetEdge.h"
 #include "Surface/PaintSurface.h"
 
 namespace dabcanvas {
@@ -97,6 +98,7 @@ private:
     Grid _picture, _background;
     Layer _straight;  // of what goes straight onto the picture; empty in between
     SmudgePainter<Channel> _smudges;
+    WetEdge _wetEdge;
     bool _isPlain;  // rounds to the nearest
     // Of each tile: how often something blended onto it was kept. Composites of one stroke round alike.
     struct Kept {

@@ -103,6 +103,8 @@ const Hint kHints[] = {
     {.key = K::minFlow, .label = "Least flow", .unit = Unit::percent, .high = 1},
     {.key = K::maxFlow, .label = "Most flow", .unit = Unit::percent, .high = 1},
     {.key = K::decay, .label = "Runs dry after", .unit = Unit::whole, .low = 0, .high = 1000, .bend = 2},
+    {.key = K::wetEdge, .label = "Wet edge", .unit = Unit::percent, .high = 1},
+    {.key = K::wetEdgeWidth, .label = "Edge width", .unit = Unit::pixels, .high = 64},
 
     {.key = K::colorFul, .label = "Multicolour"},
 

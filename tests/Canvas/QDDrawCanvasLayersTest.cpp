@@ -84,6 +84,7 @@ const std::function<void(QDDrawCanvas&, QPointF)> kHappenings[] = {
     [](QDDrawCanvas& c, QPointF at) { c.setOpacity(static_cast<float>(0.2 + at.x() / 300)); },
     [](QDDrawCanvas& c, QPointF at) { c.setBlendType(static_cast<int>(at.y()) % 10); },
     [](QDDrawCanvas& c, QPointF at) { c.setRepeatedlyRenderEnabled(at.x() < 90); },
+    [](QDDrawCanvas& c, QPointF at) { c.setWetEdgeWidth(static_cast<float>(at.y() / 5)); },
     [](QDDrawCanvas& c, QPointF at) { c.setBrushType(at.x() < 80 ? 3 : 0); },
     [](QDDrawCanvas& c, QPointF) { c.clearESBufferWithColor(ESColor::rgba(0.2f, 0.5f, 0.9f, 0.6f), false); },
     [](QDDrawCanvas& c, QPointF) { c.clear(); },
@@ -124,6 +125,7 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
             canvas.setBlendType(GetParam());
             canvas.setOpacity(0.8f);
             canvas.setFlow(0.4f);
+            canvas.setWetEdge(mostly % 2 == 0 ? 0 : 0.7f);
             canvas.setRadius(14);
             canvas.setRenderColor(ESColor::rgba(0.1f, 0.3f, 0.8f));
             canvas.clearWithColor(ESColor::rgba(0.9f, 0.7f, 0.3f, 0.8f), false);
@@ -151,6 +153,52 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
 }
 INSTANTIATE_TEST_SUITE_P(Types, CanvasBlendTest, ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 9),
                          [](const auto& row) { return "Blend" + std::to_string(row.param); });
+
+// A stroke that dries changes pixels beyond its dabs: the host hears of them, and taking it back leaves none.
+TEST_F(CanvasLayersTest, ADryingStrokeIsShownAndTakenBackAsFarAsItReaches) {
+    ShownCanvas canvas({300, 200});
+    canvas.clearWithColor(ESColor::rgba(0.9f, 0.8f, 0.6f, 1), false);
+    canvas.setRadius(50);
+    canvas.setWetEdge(0.8f);
+    canvas.setWetEdgeWidth(40);
+    canvas.resetUndoManager();
+    const auto before = bitsOf(canvas);
+    QImage shown = canvas.displayImage().copy();
+    for (int move = 0; move < 8; ++move) {
+        canvas.redisplayed.clear();
+        const QDDrawTouch at{QPointF(60 + 20 * move, 90 + 9 * (move % 2)), 1};
+        move == 0 ? canvas.mouseDown(at) : canvas.mouseDragged(at);
+        const QImage now = canvas.displayImage().copy();
+        QRect changed;
+        for (int y = 0; y < 200; ++y) {
+            for (int x = 0; x < 300; ++x) {
+                changed = now.pixel(x, y) != shown.pixel(x, y) ? changed | QRect(x, y, 1, 1) : changed;
+            }
+        }
+        EXPECT_TRUE(changed.isNull() || canvas.redisplayedArea().contains(changed)) << move;
+        shown = now;
+    }
+    canvas.mouseUp({QPointF(200, 90), 1});  // so early that it is withdrawn
+    EXPECT_EQ(bitsOf(canvas), before);
+    paintWave(canvas, 90);
+    EXPECT_NE(bitsOf(canvas), before);
+    canvas.undo();
+    EXPECT_EQ(bitsOf(canvas), before);
+}
+
+TEST_F(CanvasLayersTest, WithoutMemoryToDryAStrokeItIsDrawnAsItIs) {
+    const std::unique_ptr<QDDrawCanvas> canvases[] = {makeCanvas(200, 150, SurfaceKind::gpu),
+                                                      makeCanvas(200, 150, SurfaceKind::gpu)};
+    paintWave(*canvases[0], 40);
+    paintWave(*canvases[1], 40);  // which takes up the brush's tip
+    paintWave(*canvases[0]);
+    canvases[1]->setWetEdge(0.8f);
+    const FailingDriver driver(FailingDriver::Fault::noTextureMemory);
+    const LogCapture log;
+    paintWave(*canvases[1]);
+    EXPECT_TRUE(imagesMatch(canvases[1]->image(), canvases[0]->image()));
+    EXPECT_EQ(log.lines().size(), 1) << qPrintable(log.lines().join('\n'));
+}
 
 // Clearing
 

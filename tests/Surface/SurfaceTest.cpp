@@ -6,8 +6,8 @@
 
 #include <random>
 
-#include "Surface/BlendType.h"
 #include "Surface/Kinds.h"
+#include "support/BlendReference.h"
 #include "support/Dabs.h"
 
 using namespace dabcanvas;
@@ -16,7 +16,8 @@ namespace {
 
 constexpr PictureId kPicture = PictureId::first;
 using Bytes = std::vector<std::uint8_t>;
-using Colour = Pixel;  // premultiplied, 0..1
+using reference::blended;
+using reference::Colour;
 
 class SurfaceTest : public testing::TestWithParam<Kind> {
 protected:
@@ -149,45 +150,6 @@ TEST_P(SurfaceTest, RowsOfThePicturesOwnDepthHoldAllOfIt) {
 }
 
 // ---- Blend modes
-
-// What each mode promises, of a background and what lies on it.
-Colour blended(std::uint32_t mode, const Colour& back, const Colour& line) {
-    const double below = 1 - line[3], beside = 1 - back[3];
-    const double alpha = back[3] * below + line[3];
-    Colour result{};
-    for (std::size_t i = 0; i < 3; ++i) {
-        const double white = beside + back[i], lineWhite = below + line[i];
-        const double mixed = mode == ESBlendTypeTarnish ? std::min(white, lineWhite) : white * lineWhite;
-        switch (mode) {
-            case ESBlendTypeReplace:
-                result[i] = line[i];
-                break;
-            case ESBlendTypeBehind:
-                result[i] = line[i] * beside + back[i];
-                break;
-            case ESBlendTypeErase:
-                result[i] = back[i] * below;
-                break;
-            case ESBlendTypeTarnish:
-            case ESBlendTypeMultiply:
-                result[i] = std::clamp(mixed - (1 - alpha), 0.0, alpha);
-                break;
-            case ESBlendTypeBrightness:
-                result[i] = std::max(back[i], line[i]);
-                break;
-            case ESBlendTypeReset:
-                result[i] = back[i];
-                break;
-            default:
-                result[i] = back[i] * below + line[i];
-        }
-    }
-    result[3] = mode == ESBlendTypeReplace ? line[3]
-                : mode == ESBlendTypeErase ? back[3] * below
-                : mode == ESBlendTypeReset ? back[3]
-                                           : alpha;
-    return result;
-}
 
 TEST_P(SurfaceTest, EachModeBlendsAsItPromises) {
     constexpr float kColours[] = {0, 0.05f, 0.6f, 1};
