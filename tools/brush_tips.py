@@ -89,17 +89,11 @@ def conte(seed, aspect=0.34):
     return stamped(smoothstep(0.0, 0.05, inside) * (0.45 + 0.55 * smoothstep(0.1, 0.6, height)))
 
 
-def pool(seed, uneven=0.05):
-    """Water on paper: even within, to a soft rim that wanders a little. No pattern of its own; spacing 0.03 to 0.08.
+def puddle(seed, uneven=0.07, turns=7):
+    """Wet paint up to where the paper is dry: full, with a clear bank that wanders. Spacing 0.03 to 0.2, turned.
 
     The dark rim of a wash is no matter of a dab but of the whole stroke, so the tip has none.
     """
-    x, y = places(192)
-    return stamped(1 - smoothstep(0.62, 1.0, rim(seed, x, y, uneven, 5)), SMOOTH)
-
-
-def puddle(seed, uneven=0.07, turns=7):
-    """Wet paint up to where the paper is dry: full, with a clear bank that wanders. Spacing 0.03 to 0.2, turned."""
     side = 192
     x, y = places(side)
     out = rim(seed, x, y, uneven, turns) + 0.012 * soft(side, seed + 3, 4)
@@ -133,11 +127,14 @@ def square():
     return stamped(np.ones((16, 16)))
 
 
-def ink_brush(seed, uneven=0.05):
-    """A full brush of ink, whose edge is a little torn by the paper. Spacing 0.03 to 0.08, turned or steered."""
+def ink_brush(seed, uneven=0.05, soft_from=0.8):
+    """A full brush of ink, whose edge is a little torn by the paper. Spacing 0.03 to 0.08, turned or steered.
+
+    soft_from   where its edge begins to fade, in radii
+    """
     side = 128
     x, y = places(side)
-    return stamped(1 - smoothstep(0.8, 0.95, np.hypot(x, y) + uneven * np.tanh(tooth(side, seed, 30, 6, 1.3))))
+    return stamped(1 - smoothstep(soft_from, 0.95, np.hypot(x, y) + uneven * np.tanh(tooth(side, seed, 30, 6, 1.3))))
 
 
 def broken_film(seed):

@@ -27,7 +27,7 @@ brush("Speed Pen", "ink wet", "A pen for the mouse: slow lines are thin and quic
       renderColor="#1c3d5a")
 
 brush("Brush Pen", "ink wet", "A full pointed brush of ink, from a hair to a broad stroke.",
-      textureImages=tips.ink_brush(5), radius=44, minRadius=0.03, radiusControl=(1, 0, 0.25), sensitivity=70,
+      textureImages=tips.ink_brush(5, 0.04, 0.55), radius=44, minRadius=0.03, radiusControl=(1, 0, 0.25), sensitivity=70,
       startRadius=0.03, strokeControlValue=70, endRadius=0.01, pointsDistance=0.04, moveRadianEnable=True,
       renderColor="#101014")
 
@@ -55,6 +55,5 @@ brush("Chisel Marker", "marker wet", "A slanted marker: broad one way, thin the 
 # ---- Pixels
 
 brush("Hard Pixel", "pixel dry", "Whole pixels without a soft edge, for pixel art and masks.",
-      textureImages=tips.square(), pixelAligned=True, lineProcessType=0, radius=4, minRadius=0.25,
-      radiusControl=(1, 0, 0), startRadius=0, endRadius=0, pointsDistance=0.2,
+      textureImages=tips.square(), pixelAligned=True, lineProcessType=0, radius=3, **EVEN, pointsDistance=0.2,
       renderColor="#222034")

@@ -7,7 +7,7 @@ from brush_papers import paper
 from brush_table import MULTIPLY, brush, on_paper
 
 # Pigment settles in the paper's pits a little, whatever the pressure.
-GRANULATING = on_paper(paper("cold press"), 0.15, 0.35, 0.1, scale=0.8)
+GRANULATING = on_paper(paper("hot press"), 0.15, 0.35, 0.1)
 
 # ---- Watercolour
 

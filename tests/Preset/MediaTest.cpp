@@ -45,16 +45,19 @@ public:
         }
         stroke(points);
     }
-    // One stroke to and fro, as a hand does it.
+    // One stroke to and fro, as a hand does it: rows lie as close as they happen to.
     void fill(float pressure) const {
         std::mt19937 random(3);
         std::normal_distribution<double> shake(0, 1.5);
-        const double step = std::max(canvas->radius() / 6.0, 2.0);
+        canvas->setRadius(std::min(canvas->radius(), kSide / 6.0f));  // the patch lies within what is filled
+        const double step = std::max(canvas->radius() / 12.0, 2.0);
+        std::uniform_real_distribution<double> apart(0, 2 * step);
         std::vector<Point> points;
-        for (int row = 0; 40 + row * step < kSide - 40; ++row) {
+        int row = 0;
+        for (double down = 40; down < kSide - 40; down += apart(random), ++row) {
             for (int i = 0; i <= 24; ++i) {
                 const double along = 20 + (kSide - 40) * (row % 2 == 0 ? i : 24 - i) / 24.0;
-                points.push_back({along + shake(random), 40 + row * step + shake(random), pressure, 0});
+                points.push_back({along + shake(random), down + shake(random), pressure, 0});
             }
         }
         stroke(points);
