@@ -7,7 +7,7 @@ from brush_papers import paper
 from brush_table import MULTIPLY, brush, on_paper
 
 # Pigment settles in the paper's pits a little, whatever the pressure.
-GRANULATING = on_paper(paper("hot press"), 0.15, 0.35, 0.1)
+GRANULATING = on_paper(paper("hot press"), 0, 0.3, 0.35)
 
 # ---- Watercolour
 
@@ -28,16 +28,16 @@ brush("Flat Watercolour", "watercolour wet", "A flat wash brush with straight en
 brush("Watery Wash", "watercolour wet", "Much water and little pigment, in pools that dry unevenly and leave a rim.",
       textureImages=[tips.puddle(seed, 0.14, 9) for seed in (4, 9, 16, 25)], textureTingleEnabled=True,
       radianTingle=1, radius=110, minRadius=0.55, radiusControl=(0.6, 0, 0), startRadius=0, endRadius=0.7,
-      pointsDistance=0.14, distribution=0.06, disTwoAxes=True, flow=0.3, flowTingle=0.6, opacity=0.6,
+      pointsDistance=0.14, distribution=0.06, disTwoAxes=True, flow=0.3, flowTingle=0.6, opacity=0.75,
       blendType=MULTIPLY, colorTingle=1, brightnessTingle=0.1, wetEdge=0.6, wetEdgeWidth=9, renderColor="#3d78b8",
-      backRenderColor="#6fa6c8", **on_paper(paper("rough"), 0.15, 0.4, 0.1))
+      backRenderColor="#6fa6c8", **on_paper(paper("rough"), 0, 0.2, 0.4))
 
 brush("Bleeding Wash", "watercolour wet", "Colour dropped into wet paper, which runs out in fingers as it likes.",
       textureImages=[tips.bleed(seed) for seed in (3, 13, 23, 33)], textureTingleEnabled=True, radianTingle=1,
       radius=120, minRadius=0.3, maxRadius=1, radiusControl=(0.6, 0, 0), startRadius=0, endRadius=0.6,
-      radiusTingle=0.6, pointsDistance=0.16, distribution=0.25, disTwoAxes=True, distributionCount=2, flow=0.45,
-      flowTingle=0.8, opacity=0.7, blendType=MULTIPLY, colorTingle=1, hueTingle=0.04, wetEdge=0.35,
-      wetEdgeWidth=14, renderColor="#7d3f8c", backRenderColor="#c2476a")
+      radiusTingle=0.6, pointsDistance=0.16, distribution=0.25, disTwoAxes=True, distributionCount=2, flow=0.6,
+      flowTingle=0.7, opacity=0.75, blendType=MULTIPLY, colorTingle=1, hueTingle=0.04, wetEdge=0.5,
+      wetEdgeWidth=12, renderColor="#7d3f8c", backRenderColor="#c2476a")
 
 # ---- Gouache
 
