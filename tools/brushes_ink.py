@@ -27,7 +27,7 @@ brush("Speed Pen", "ink wet", "A pen for the mouse: slow lines are thin and quic
       renderColor="#1c3d5a")
 
 brush("Brush Pen", "ink wet", "A full pointed brush of ink, from a hair to a broad stroke.",
-      textureImages=tips.ink_brush(5, 0.04, 0.55), radius=44, minRadius=0.03, radiusControl=(1, 0, 0.25), sensitivity=70,
+      textureImages=tips.ink_brush(5, 0.04, 0.5), radius=44, minRadius=0.03, radiusControl=(1, 0, 0.25), sensitivity=70,
       startRadius=0.03, strokeControlValue=70, endRadius=0.01, pointsDistance=0.04, moveRadianEnable=True,
       renderColor="#101014")
 

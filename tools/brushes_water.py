@@ -26,7 +26,7 @@ brush("Flat Watercolour", "watercolour wet", "A flat wash brush with straight en
       **GRANULATING)
 
 brush("Watery Wash", "watercolour wet", "Much water and little pigment, in pools that dry unevenly and leave a rim.",
-      textureImages=[tips.puddle(seed, 0.14, 9) for seed in (4, 9, 16, 25)], textureTingleEnabled=True,
+      textureImages=[tips.puddle(seed, 0.11, 9) for seed in (4, 9, 16, 25)], textureTingleEnabled=True,
       radianTingle=1, radius=110, minRadius=0.55, radiusControl=(0.6, 0, 0), startRadius=0, endRadius=0.7,
       pointsDistance=0.14, distribution=0.06, disTwoAxes=True, flow=0.3, flowTingle=0.6, opacity=0.75,
       blendType=MULTIPLY, colorTingle=1, brightnessTingle=0.1, wetEdge=0.6, wetEdgeWidth=9, renderColor="#3d78b8",
