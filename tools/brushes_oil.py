@@ -35,7 +35,7 @@ brush("Fan", "oil dry", "Thin hairs spread wide, for foliage, fur and hair.",
       minFlow=0.3, flowControl=(0.8, 0, 0), renderColor="#4f6b2d")
 
 brush("Dry Bristle", "oil dry", "A stiff brush with little paint, whose hairs each leave a scratch.",
-      textureImages=[hairs.dry(5, load) for load in (0.75, 0.6, 0.45, 0.3, 0.18)], textureControl=(1, 0, 0),
+      textureImages=[hairs.dry(9, load) for load in (0.75, 0.6, 0.45, 0.3, 0.18)], textureControl=(1, 0, 0),
       radius=72, minRadius=0.7, radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.02,
       moveRadianEnable=True, flow=0.45, flowControl=(0.7, 0, 0), minFlow=0.3, renderColor="#6b3f2a",
       **on_paper(paper("canvas"), 0.3, 1.2, 0.1, scale=0.6, control=(0.6, 0, 0)))

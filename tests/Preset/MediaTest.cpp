@@ -51,7 +51,9 @@ public:
         std::normal_distribution<double> shake(0, 1.5);
         canvas->setRadius(std::min(canvas->radius(), kSide / 6.0f));  // the patch lies within what is filled
         const double step = std::max(canvas->radius() / 12.0, 2.0);
-        std::uniform_real_distribution<double> apart(0.3 * step, 1.7 * step);
+        // Hairs draw lines, which even rows would repeat.
+        const double uneven = canvas->moveRadianEnable() ? 0.7 * step : 0;
+        std::uniform_real_distribution<double> apart(step - uneven, step + uneven);
         std::vector<Point> points;
         int row = 0;
         for (double down = 40; down < kSide - 40; down += apart(random), ++row) {
@@ -163,7 +165,7 @@ double strongestPeriod(std::vector<double> patch, int side) {
         const double power = likeness(patch, side, 0, 0);
         double before = power;
         bool falls = true;
-        const int last = power < 1.0 / (255 * 255) ? 0 : side / 2;  // it is flat
+        const int last = power < 4.0 / (255 * 255) ? 0 : side / 2;  // it is flat
         for (int lag = 1; lag <= last; ++lag) {
             const double now = likeness(patch, side, right * lag, down * lag);
             falls = falls && now < before;
