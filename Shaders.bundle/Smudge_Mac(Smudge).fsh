@@ -12,6 +12,8 @@ uniform float u_mixQuantity;     // 0: the own colour alone, 1: the picked up al
 #ifdef RECORDS
 uniform vec4 u_dab[7];           // place, axes, pixel, paint, the tip's two levels, and more, as those of Line_Mac.vsh
 uniform vec4 u_pickUp;           // where the dab's centre takes up colour, and a texel's step there; 0..1 in the layer
+uniform sampler2D u_heldTexture; // what bristles hold, side by side
+uniform vec4 u_carried;          // steps among them of a texel to the right and up, the last one, and their part in the pick-up
 #else
 uniform sampler2D u_brushTexture;
 uniform vec4 a_color;
@@ -43,6 +45,15 @@ vec4 pickedUp(vec2 coord) {
     return mix(low, high, part.y);
 }
 
+#ifdef RECORDS
+vec4 carried(vec2 offset) {
+    float place = clamp(dot(offset, u_carried.xy) + 0.5 * u_carried.z, 0.0, u_carried.z);
+    int bristle = int(place), last = int(u_carried.z);
+    return mix(texelFetch(u_heldTexture, ivec2(bristle, 0), 0),
+               texelFetch(u_heldTexture, ivec2(min(bristle + 1, last), 0), 0), place - float(bristle));
+}
+#endif
+
 void main() {
 #ifdef RECORDS
     vec2 offset = gl_FragCoord.xy - u_dab[0].xy;
@@ -51,6 +62,9 @@ void main() {
                      dabCoverage(place * u_dab[0].zw, u_dab[0].zw, u_dab[2]);
     vec3 color = u_dab[3].rgb;
     vec4 pick = pickedUp(u_pickUp.xy + u_pickUp.zw * offset);
+    if (u_carried.w > 0.0) {
+        pick = mix(pick, carried(offset), u_carried.w);
+    }
 #else
     float coverage = texture(u_brushTexture, clamp(v_texCoord, v_tipCell.xy, v_tipCell.zw)).a * u_flow;
     vec3 color = a_color.rgb;

@@ -62,6 +62,11 @@ BRUSH_PROPERTY(bool, smudgeControl, SmudgeControl, .group = BrushGroup::smudge, 
 BRUSH_PROPERTY(float, smudgeControlValue, SmudgeControlValue, .group = BrushGroup::smudge, .presetId = 0x100C,
                .created = 25, .low = 1,
                .about = "Length of that ramp, in dabs.")
+BRUSH_PROPERTY(float, bristles, Bristles, .group = BrushGroup::smudge, .presetId = 0x9006, .reset = 0,
+               .created = 0, .low = 0, .high = 1,
+               .about = "How far the bristles of a smudge brush carry colour along the stroke, each its own: 0 "
+                        "what lay under the dab before alone, 1 what they hold, at first loadQuantity of the "
+                        "brush colour, taking up more the wetter.")
 BRUSH_PROPERTY(int, textureType, TextureType, .group = BrushGroup::tip, .presetId = 0x200A, .reset = 0,
                .created = 1,
                .choices{{0, 3}},

@@ -19,6 +19,7 @@ constexpr BrushKey kResetOrder[] = {
     BrushKey::moistQuantity,
     BrushKey::loadQuantity,
     BrushKey::mixQuantity,
+    BrushKey::bristles,
     BrushKey::colorFul,
     BrushKey::opacity,
     BrushKey::flow,

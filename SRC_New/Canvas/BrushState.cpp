@@ -343,7 +343,8 @@ void BrushState::derive() {
                          .load = from.loadQuantity,
                          .mix = from.mixQuantity,
                          .control = from.smudgeControl,
-                         .controlValue = from.smudgeControlValue};
+                         .controlValue = from.smudgeControlValue,
+                         .bristles = from.bristles};
 }
 
 DabMaker& BrushState::dabs() {

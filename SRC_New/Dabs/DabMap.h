@@ -28,7 +28,8 @@ struct DabMap {
         // Where turning cannot be seen, the pixels of a dab lying upright add up to it wherever it lies.
         constexpr float kTurnsFrom = 0.75f;
         const float radian = dab.halfSize < kTurnsFrom ? 0 : dab.radian;
-        const float cosine = std::cos(radian), sine = std::sin(radian);
+        const bool isUpright = radian == 0;
+        const float cosine = isUpright ? 1 : std::cos(radian), sine = isUpright ? 0 : std::sin(radian);
         alongX = dab.flipX * cosine;
         alongY = -dab.flipX * sine;
         acrossX = dab.flipY * sine;

@@ -70,6 +70,7 @@ std::unique_ptr<ESSmudgeRender> ESSmudgeRender::init(std::shared_ptr<dabcanvas::
     render->_dabs.updateFlags();
     render->_showProgram = render->makeShowProgram(false);
     render->_fillProgram = render->makeShowProgram(true);
+    render->_held = dabcanvas::HeldPaint::make(render->_pool.get());
     render->_useTextureBarrier = hasTextureBarrier();
     render->setUseFramebufferFetch(true);
     render->_hasStandardBarrier = hasStandardBarrier();
@@ -148,6 +149,8 @@ void ESSmudgeRender::programDidChange() {
     _bgUnit.locate(made.uniformIndex(kBGTexture));
     _tipCell.locate(made.uniformIndex(kTipCell));
     _pickUp.locate(made.uniformIndex(kPickUp));
+    _carried.locate(made.uniformIndex(kCarried));
+    _heldUnit.locate(made.uniformIndex(kHeldTexture));
     _dabRecord = made.uniformIndex(kDab);
 }
 
@@ -318,9 +321,20 @@ QRectF ESSmudgeRender::draw(std::span<const SmudgeDab> dabs, float load, const T
     _load.set(load);
     glActiveTexture(_smudgePos);
     glDisable(GL_BLEND);
+    if (_held) {
+        _heldUnit.set(dabcanvas::HeldPaint::kUnit - GL_TEXTURE0);
+        const auto carries = [](const SmudgeDab& dab) { return dab.bristles.part > 0; };
+        if (std::any_of(dabs.begin(), dabs.end(), carries)) {
+            _held->noteTarget();
+        }
+        glActiveTexture(kBeforeUnit);
+        glBindTexture(GL_TEXTURE_2D, _beforeTexture);
+        glActiveTexture(_smudgePos);
+    }
 
     for (const SmudgeDab& dab : dabs) {
         bounds.grow(dab.dab);
+        provideBristles(dab);
         drawDab(dab);
     }
     glEnable(GL_BLEND);
@@ -397,17 +411,23 @@ void ESSmudgeRender::provideLayer(const QRect& read, const QRect& written) {
     }
 }
 
+dabcanvas::Dab ESSmudgeRender::inLayer(const Dab& dab) const {
+    const double toTexelX = _layerSize.width() / bufferSize().width();
+    const double toTexelY = _layerSize.height() / bufferSize().height();
+    Dab scaled = dab;
+    scaled.x = static_cast<float>(scaled.x * toTexelX);
+    scaled.y = static_cast<float>(scaled.y * toTexelY);
+    scaled.halfSize =
+        static_cast<float>(scaled.halfSize * (toTexelX + toTexelY) / 2);  // they differ by rounding
+    return scaled;
+}
+
 void ESSmudgeRender::setDabRecord(const SmudgeDab& smudge) {
     const double toTexelX = _layerSize.width() / bufferSize().width();
     const double toTexelY = _layerSize.height() / bufferSize().height();
-    Dab inLayer = smudge.dab;
-    inLayer.x = static_cast<float>(inLayer.x * toTexelX);
-    inLayer.y = static_cast<float>(inLayer.y * toTexelY);
-    inLayer.halfSize =
-        static_cast<float>(inLayer.halfSize * (toTexelX + toTexelY) / 2);  // they differ by rounding
     const dabcanvas::DabRecord record = dabcanvas::DabRecord::of(
-        inLayer, *atlas()->sizeOf(inLayer.tip), *atlas(), static_cast<float>(_layerSize.height()),
-        dabcanvas::noiseTurn(_noiseCount++));
+        inLayer(smudge.dab), *atlas()->sizeOf(smudge.dab.tip), *atlas(),
+        static_cast<float>(_layerSize.height()), dabcanvas::noiseTurn(_noiseCount++));
     glUniform4fv(_dabRecord, sizeof record / (4 * sizeof(float)), record.place.data());
     const double scale = pickUpScale(smudge);
     _pickUp.set(smudge.pickUp.x / _sourceSize.width(),
@@ -436,6 +456,23 @@ void ESSmudgeRender::uploadCorners(const SmudgeDab& smudge) {
     glBufferData(GL_ARRAY_BUFFER, sizeof vertices, vertices, GL_STATIC_DRAW);
     _tipCell.set(cell[0], cell[1], cell[4], cell[5]);
     setDabUniforms(smudge.dab);
+}
+
+// What bristles hold, and where the dab reads it.
+void ESSmudgeRender::provideBristles(const SmudgeDab& smudge) {
+    const dabcanvas::BristleDab& bristles = smudge.bristles;
+    if (!(bristles.part > 0) || !_held || _dabRecord < 0) {
+        _carried.set(0, 0, 0, 0);
+        return;
+    }
+    const Dab dab = inLayer(smudge.dab);
+    _held->takeUp(bristles, dab, _layerSize.height(), kBeforeUnit);
+    glActiveTexture(_smudgePos);
+    useOwn();
+    const int count = std::clamp(bristles.count, 1, dabcanvas::kMostBristles);
+    const float perTexel = 0.5f * static_cast<float>(count) / dabcanvas::BristleSpan(dab, bristles).across;
+    _carried.set(bristles.acrossX * perTexel, -bristles.acrossY * perTexel, count - 1,
+                 std::min(bristles.part, 1.0f));
 }
 
 void ESSmudgeRender::drawDab(const SmudgeDab& smudge) {

@@ -20,6 +20,7 @@
 
 #include "Dabs/SmudgeDabs.h"
 #include "ESRender/ESLineRender.h"
+#include "ESRender/HeldPaint.h"
 #include "Maths/Export.h"
 
 // How drawPoints() draws: dabs, or the rectangles in which canvas and layer meet.
@@ -67,6 +68,9 @@ public:
     bool smudgeControl() const { return _smudges.settings.control; }
     void setSmudgeControlValue(float value) { _smudges.settings.controlValue = value; }
     float smudgeControlValue() const { return _smudges.settings.controlValue; }
+    // How far bristles carry colour along, see Dabs/Bristles.h; not with a program of a host's.
+    void setBristles(float value) { _smudges.settings.bristles = value; }
+    float bristles() const { return _smudges.settings.bristles; }
     // The ramp at a dab, counted from 1; the whole mixQuantity at once when its length is not above 0.
     float mixQuantityAtPointIndex(std::int64_t index) const { return _smudges.settings.grownMix(index); }
 
@@ -134,6 +138,8 @@ private:
     void setDabRecord(const dabcanvas::SmudgeDab& smudge);
     void uploadCorners(const dabcanvas::SmudgeDab& smudge);
     void provideLayer(const QRect& read, const QRect& written);
+    Dab inLayer(const Dab& dab) const;
+    void provideBristles(const dabcanvas::SmudgeDab& smudge);
     void drawDab(const dabcanvas::SmudgeDab& smudge);
 
     dabcanvas::SmudgeMaker _smudges;
@@ -155,6 +161,7 @@ private:
     bool _hasStandardBarrier = false;  // asked once: the driver compares names
 
     ShowProgram _showProgram, _fillProgram;
+    std::unique_ptr<dabcanvas::HeldPaint> _held;
     std::optional<bool> _triedRecords;  // with or without framebuffer fetch
     std::uint32_t _noiseCount = 0;
     std::optional<float> _noiseTurn;
@@ -162,6 +169,6 @@ private:
     GLint _bgCoordIndex = -1;
     GLint _dabRecord = -1;  // -1 for a program that is given the uniforms of each dab
     dabcanvas::UniformFloat _moist, _load, _mix;
-    dabcanvas::UniformInt _bgUnit;
-    dabcanvas::UniformVec4 _tipCell, _pickUp;
+    dabcanvas::UniformInt _bgUnit, _heldUnit;
+    dabcanvas::UniformVec4 _tipCell, _pickUp, _carried;
 };

@@ -14,6 +14,14 @@ inline constexpr char kBGTexture[] = "u_bgTexture";
 inline constexpr char kTipCell[] = "u_tipCell";
 inline constexpr char kDab[] = "u_dab";  // these two where a dab comes as a record
 inline constexpr char kPickUp[] = "u_pickUp";
+inline constexpr char kCarried[] = "u_carried";  // and these of bristles; the first one's part is 0 without
+inline constexpr char kHeldTexture[] = "u_heldTexture";
+
+// What "Shaders.bundle/Bristles" declares besides.
+inline constexpr char kCentre[] = "u_centre";
+inline constexpr char kSpan[] = "u_span";
+inline constexpr char kUptake[] = "u_uptake";
+inline constexpr char kOwnColour[] = "u_ownColour";
 
 inline constexpr char kCanvasTexture[] = "u_canvasTexture";
 inline constexpr char kBeforeTexture[] = "u_beforeTexture";

@@ -342,7 +342,7 @@ bool GLSurface::prepareSmudge(PictureId) {
     return true;
 }
 
-// As warmUp() does: two dabs without flow, the second of which takes up colour, and a look at where no dab was.
+// As warmUp() does: two dabs without flow, the second of which takes up colour, with bristles, and a look at where no dab was.
 void GLSurface::warmUpSmudging() {
     const Dab dab{.x = 2,
                   .y = 2,
@@ -355,7 +355,8 @@ void GLSurface::warmUpSmudging() {
                   .color = {0, 0, 0},
                   .random = 0,
                   .tip = 0};
-    const SmudgeDab dabs[] = {{dab, {0, 0}, 0, 0, 0, 1}, {dab, {3, 2}, 2, 1, 1, 1}};
+    const BristleDab bristles{.part = 0.5f, .isFirst = true};
+    const SmudgeDab dabs[] = {{dab, {0, 0}, 0, 0, 0, 1}, {dab, {3, 2}, 2, 1, 1, 1, bristles}};
     auto* const render = static_cast<ESSmudgeRender*>(_smudge.render.get());
     _context->beginRenderForType(ESRenderTypeSmudge);
     render->drawSmudges(dabs, 1);

@@ -154,9 +154,9 @@ struct UprightDab {
                                         Each&& each) {
         const Order order;
         const Rounding<kLevels> rounding(dab, order);
-        const UprightBox box(dab, ground.width);
+        const UprightBox<kLevels> box(dab, ground.width);
         int leftmost = kTileSide, rightmost = 0;
-        for (int y = dab.firstRow / 2 * 2; y < dab.endRow; ++y) {
+        for (int y = dab.firstRow / 2 * 2; y < (spans.areAlike ? dab.firstRow + 1 : dab.endRow); ++y) {
             leftmost = std::min<int>(leftmost, spans.first[y]);
             rightmost = std::max<int>(rightmost, spans.end[y]);
         }
@@ -171,10 +171,10 @@ struct UprightDab {
                     x >= std::max(spans.end[y], spans.end[y + 1])) {
                     continue;
                 }
-                const UprightRows& rows = box.rows(y);
-                Int texels = rounding.levels(one.at(rows.levels[0]),
-                                             kLevels > 1 ? two.at(rows.levels[1]) : hn::Zero(kInts));
-                texels = rounding.times(texels, nearest(hn::Mul(columns, perRow(rows.covered))));
+                Int texels =
+                    rounding.levels(one.at(box.level(0), y),
+                                    kLevels > 1 ? two.at(box.level(kLevels - 1), y) : hn::Zero(kInts));
+                texels = rounding.times(texels, nearest(hn::Mul(columns, box.covered(y))));
                 if (kPaper != Paper::none) {
                     texels = rounding.template timesPaper<kPaper>(texels, ground.paper, x, y);
                 }
@@ -279,6 +279,12 @@ bool isUpright(const DabShape& shape) {
     return is(shape.levels[0]) && is(shape.levels[1]);
 }
 
+// The rows of such a dab lie in as many vectors as its box.
+bool isSmallUpright(const DabShape& shape) {
+    constexpr float kSmall = 12;
+    return shape.multicolour == nullptr && shape.box.halfWidth < kSmall && isUpright(shape);
+}
+
 Draw drawOf(const DabShape& shape, const DabGround& ground) {
     return shape.multicolour != nullptr ? drawInMulticolour
            : isUpright(shape)           ? drawOf<UprightDab>(shape, ground)
@@ -295,7 +301,11 @@ bool DrawDabs(std::span<const TileDab> dabs, const DabGround& ground) {
     for (std::size_t start = 0; start < dabs.size(); start += kTogether) {
         const std::span<const TileDab> some = dabs.subspan(start, std::min(kTogether, dabs.size() - start));
         for (std::size_t i = 0; i < some.size(); ++i) {
-            SpanMaker(some[i], ground.width).make(spans[i]);
+            if (isSmallUpright(*some[i].shape)) {
+                fillSpans(some[i], ground.width, spans[i]);
+            } else {
+                SpanMaker(some[i], ground.width).make(spans[i]);
+            }
         }
         for (std::size_t i = 0; i < some.size(); ++i) {
             any |= drawOf(*some[i].shape, ground)(some[i], spans[i], ground);

@@ -8,6 +8,7 @@
 #define DABCANVAS_PROCESSOR_DABSPANS_INL_H_
 #endif
 
+#include <algorithm>
 #include <cmath>
 
 #include "Processor/DabKernel.h"
@@ -23,7 +24,24 @@ namespace {
 struct RowSpans {
     static constexpr std::size_t kMost = kTileSide + 16;  // as whole vectors are stored
     HWY_ALIGN std::uint8_t first[kMost], end[kMost], innerFirst[kMost], innerEnd[kMost];
+    bool areAlike;  // of all rows but those not touched
 };
+
+// All columns that an upright dab touches, in each of its rows. There is no inside.
+HWY_INLINE void fillSpans(const TileDab& dab, int width, RowSpans& spans) {
+    const DabBox& box = dab.shape->box;
+    const float middle = -dab.along * box.alongX, half = box.halfWidth + box.foot + 1;
+    const auto column = [width](float place) {
+        return static_cast<std::uint8_t>(std::clamp(place, 0.0f, static_cast<float>(width)));
+    };
+    const hn::CappedTag<std::uint8_t, 16> bytes;
+    const auto first = hn::Set(bytes, column(middle - half)), end = hn::Set(bytes, column(middle + half));
+    for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += static_cast<int>(hn::Lanes(bytes))) {
+        hn::StoreU(first, bytes, spans.first + y);
+        hn::StoreU(end, bytes, spans.end + y);
+    }
+    spans.areAlike = true;
+}
 
 class SpanMaker {
 public:
@@ -38,6 +56,7 @@ public:
         for (int y = _dab->firstRow / 2 * 2; y < _dab->endRow; y += lanes()) {
             makeRows(y, spans);
         }
+        spans.areAlike = false;
     }
 
 private:

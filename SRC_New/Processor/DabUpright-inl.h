@@ -20,10 +20,33 @@ namespace dabcanvas {
 namespace HWY_NAMESPACE {
 namespace {
 
-// Two rows of pixels in one level of the tip.
-struct TexelRows {
-    const std::uint8_t *upper, *lower;
-    std::int32_t weights[2];  // of the upper and the lower row, see rowWeights()
+// Rows of a tile, and what whole vectors of them reach.
+constexpr std::size_t kMostRows = kTileSide + hn::MaxLanes(kInts);
+
+// Rows of pixels in one level of the tip: where each reads, and its rows' weights, see rowWeights().
+class TexelRows {
+public:
+    HWY_INLINE TexelRows() {}  // by itself, compilers would make one without the vectors' instructions
+
+    // From an even row on.
+    HWY_INLINE void find(const DabLevel& level, std::int32_t v, int firstRow, int endRow) {
+        _pairs = level.pairs;
+        for (int y = firstRow; y < endRow; y += lanes()) {
+            const Int row = hn::Mul(hn::Iota(kInts, 0), hn::Set(kInts, level.downV));
+            const Int texel = place(placeAt(v, 0, level.downV, 0, y), row, hn::Set(kInts, level.lastV()));
+            const Int part = hn::BitCast(kInts, of127(hn::And(texel, hn::Set(kInts, 0xffff))));
+            const Int weight = hn::Or(hn::ShiftLeft<8>(part), hn::Xor(part, hn::Set(kInts, 127)));
+            hn::StoreU(hn::Or(hn::ShiftLeft<16>(weight), weight), kInts, _weights + y);
+            hn::StoreU(hn::Mul(hn::ShiftRight<16>(texel), hn::Set(kInts, level.stride)), kInts, _offsets + y);
+        }
+    }
+    HWY_INLINE const std::uint8_t* at(int y) const { return _pairs + _offsets[y]; }
+    // Of a row and the next one.
+    HWY_INLINE Int weights(int y) const { return perRow(_weights + y); }
+
+private:
+    const std::uint8_t* _pairs;
+    HWY_ALIGN std::int32_t _offsets[kMostRows], _weights[kMostRows];
 };
 
 // As many columns of pixels as two rows have in a vector, in one level of the tip.
@@ -42,9 +65,9 @@ public:
     }
 
     // Sixteen bits and a few more, of which the lower eight are not worth keeping.
-    HWY_INLINE Int at(const TexelRows& rows) const {
-        const Int blocks = blocksOf(rows.upper + _first, rows.lower + _first, _blocks);
-        return pairProducts(bytePairProducts(blocks, perRow(rows.weights)), _weights);
+    HWY_INLINE Int at(const TexelRows& rows, int y) const {
+        const Int blocks = blocksOf(rows.at(y) + _first, rows.at(y + 1) + _first, _blocks);
+        return pairProducts(bytePairProducts(blocks, rows.weights(y)), _weights);
     }
 
 private:
@@ -52,37 +75,27 @@ private:
     Int _blocks, _weights;
 };
 
-// Two rows of a dab in a tile.
-struct UprightRows {
-    TexelRows levels[2];
-    float covered[2];  // by the box
-};
-
 // Its rows, and what its box covers.
+template <int kLevels>
 class UprightBox {
 public:
     HWY_INLINE UprightBox(const TileDab& dab, int width) : _width(width), _box(dab) {
-        const DabShape& shape = *dab.shape;
-        HWY_ALIGN float covered[kTileSide + hn::MaxLanes(kInts)];
-        for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += lanes()) {
+        const int from = dab.firstRow / 2 * 2;
+        for (int y = from; y < dab.endRow; y += lanes()) {
             const Int row = hn::Add(hn::Iota(kInts, 0), hn::Set(kInts, y));
             const auto isRow = hn::And(hn::Lt(hn::Set(kInts, dab.firstRow - 1), row),
                                        hn::Lt(row, hn::Set(kInts, dab.endRow)));
             hn::StoreU(hn::IfThenElseZero(hn::RebindMask(kFloats, isRow), _box.acrossAt(row)), kFloats,
-                       covered + y);
+                       _covered + y);
         }
-        for (int y = dab.firstRow / 2 * 2; y < dab.endRow; y += 2) {
-            UprightRows& rows = _rows[y / 2];
-            for (int level = 0; level < shape.levelCount; ++level) {
-                rows.levels[level] = texelRows(shape.levels[static_cast<std::size_t>(level)],
-                                               dab.v[static_cast<std::size_t>(level)], y);
-            }
-            rows.covered[0] = covered[y];
-            rows.covered[1] = covered[y + 1];
+        for (std::size_t i = 0; i < kLevels; ++i) {
+            _rows[i].find(dab.shape->levels[i], dab.v[i], from, dab.endRow);
         }
     }
 
-    const UprightRows& rows(int y) const { return _rows[y / 2]; }
+    HWY_INLINE const TexelRows& level(std::size_t i) const { return _rows[i]; }
+    // What it covers of a row and the next one.
+    HWY_INLINE Float covered(int y) const { return perRow(_covered + y); }
     // What the box covers of columns, 0 of those before `from` and beyond the tile.
     HWY_INLINE Float covered(Int columns, int from) const {
         const auto isColumn =
@@ -91,22 +104,10 @@ public:
     }
 
 private:
-    static TexelRows texelRows(const DabLevel& level, std::int32_t v, int y) {
-        TexelRows rows;
-        const auto row = [&](int at, std::int32_t& weights) {
-            const std::int32_t texel = std::clamp(placeAt(v, 0, level.downV, 0, at), 0, level.lastV());
-            const std::int32_t part = (((texel & 0xffff) >> 1) * 127 + 0x4000) >> 15;
-            weights = (part << 8 | (part ^ 127)) * 0x10001;
-            return level.pairs + static_cast<std::ptrdiff_t>(texel >> 16) * level.stride;
-        };
-        rows.upper = row(y, rows.weights[0]);
-        rows.lower = row(y + 1, rows.weights[1]);
-        return rows;
-    }
-
     int _width;
     BoxPixels _box;
-    UprightRows _rows[kTileSide / 2];
+    HWY_ALIGN float _covered[kMostRows];
+    TexelRows _rows[kLevels];
 };
 
 }  // namespace

@@ -181,13 +181,13 @@ struct Order {
         return hn::IfThenElse(hn::Eq(down, hn::Zero(kInts)), hn::Set(kInts, upper), hn::Set(kInts, lower));
     }
 };
-// One of both for each lane, by the row of its pixel.
+// Of two values one for each lane, by the row of its pixel.
 template <typename Value>
-HWY_INLINE auto perRow(const Value (&values)[2]) {
+HWY_INLINE auto perRow(const Value* values) {
     const hn::Rebind<Value, Ints> tag;
     const hn::Repartition<std::uint64_t, Ints> pairs;
     std::uint64_t both;
-    static_assert(sizeof(both) == sizeof(values));
+    static_assert(sizeof(both) == 2 * sizeof(Value));
     std::memcpy(&both, values, sizeof(both));
     const auto each = hn::BitCast(tag, hn::Set(pairs, both));
     return hn::InterleaveLower(tag, each, each);

@@ -18,12 +18,7 @@ Size halfOf(const Size& size) {
 
 // Of places that are `step` apart, from the middle of the first of what is counted in.
 Steps stepsFrom(double start, double step) {
-    const auto fixed = [](double places) {
-        constexpr double kFar = 1 << 24;
-        const double near = std::isfinite(places) ? std::clamp(places, -kFar, kFar) : 0;
-        return static_cast<std::int64_t>(std::floor(near * 65536 + 0.5));
-    };
-    return {fixed(start), fixed(step)};
+    return {fixedPlace(start), fixedPlace(step)};
 }
 
 std::int16_t wordOf(double part) {
@@ -53,6 +48,16 @@ struct BlockRange {
 
     BlockRange(int from, int end) : first(from % kTileSide / kBlock), last((end - 1) % kTileSide / kBlock) {}
 };
+
+// Few, most often, so that calling for them would take as long.
+void copyTexels(const std::uint16_t* from, int count, std::int16_t* to) {
+    for (; count >= 2; count -= 2, from += 8, to += 8) {
+        std::memcpy(to, from, 16);
+    }
+    if (count > 0) {
+        std::memcpy(to, from, 8);
+    }
+}
 
 bool isInOneTile(const Rect& rect) {
     return !rect.isEmpty() && rect.x / kTileSide == (rect.right() - 1) / kTileSide &&
@@ -94,6 +99,9 @@ public:
 
     // What is taken up is taken before the dab changes it; off the layer its rim counts.
     void begin(const Rect& texels) override {
+        if (_smudge.bristles.part >= 1) {
+            return _painter.provide(texels);  // all is carried
+        }
         const Size& layer = _painter._layer.size();
         const TexelRange across(placeX(texels.x), placeX(texels.right() - 1), layer.width);
         const TexelRange down(placeY(texels.y), placeY(texels.bottom() - 1), layer.height);
@@ -114,13 +122,18 @@ public:
         std::uint16_t* const to = colours.data() + (part.y % kTileSide * kTileSide + part.x % kTileSide) * 4;
         const Rect& from = _painter._picked.rect;
         const RgbType& color = _smudge.dab.color;
-        pickUp({.from = _painter._picked.view,
-                .across = stepsFrom(placeX(part.x) - from.x, _stretch),
-                .down = stepsFrom(placeY(part.y) - from.y, _stretch),
-                .size = {part.width, part.height},
-                .colour = {wordOf(color.r), wordOf(color.g), wordOf(color.b), kSmudgeFull},
-                .colourPart = wordOf(_colourPart),
-                .to = to});
+        PickedUp picked{.from = _painter._picked.view,
+                        .across = stepsFrom(placeX(part.x) - from.x, _stretch),
+                        .down = stepsFrom(placeY(part.y) - from.y, _stretch),
+                        .size = {part.width, part.height},
+                        .colour = {wordOf(color.r), wordOf(color.g), wordOf(color.b), kSmudgeFull},
+                        .colourPart = wordOf(_colourPart),
+                        .to = to};
+        if (_smudge.bristles.part > 0) {
+            picked.carried = _painter._columns.carried(part);
+            picked.carriedPart = wordOf(_smudge.bristles.part);
+        }
+        pickUp(picked);
         return colours.data();
     }
 
@@ -158,7 +171,7 @@ void SmudgePainter<Channel>::show(const TileGrid<Channel>& picture) {
         _before.drop(index);
         _blocks[index] = 0;
     });
-    _provided = {};
+    _provided = _lastProvided = {};
 }
 
 template <typename Channel>
@@ -172,6 +185,11 @@ void SmudgePainter<Channel>::forget() {
 
 template <typename Channel>
 void SmudgePainter<Channel>::provide(const Rect& texels) {
+    if (_lastProvided.contains(texels)) {
+        return;
+    }
+    const auto down16 = [](int edge) { return edge / kBlock * kBlock; };
+    const auto up16 = [](int edge) { return (edge + kBlock - 1) / kBlock * kBlock; };
     _layer.forEachIn(texels, [&](std::size_t index, const Rect& part) {
         const BlockRange across(part.x, part.right()), down(part.y, part.bottom());
         const unsigned columns = (2u << across.last) - (1u << across.first);
@@ -187,6 +205,8 @@ void SmudgePainter<Channel>::provide(const Rect& texels) {
             _blocks[index] = static_cast<std::uint16_t>(_blocks[index] | 1u << bit);
         }
     });
+    _lastProvided =
+        Rect::between(down16(texels.x), down16(texels.y), up16(texels.right()), up16(texels.bottom()));
 }
 
 template <typename Channel>
@@ -275,8 +295,7 @@ void SmudgePainter<Channel>::copy(const Layer& from, const Rect& rect, Texels& t
         const auto* tile = from.tile(index);
         for (int y = part.y; tile != nullptr && y < part.bottom(); ++y) {
             const std::ptrdiff_t first = std::ptrdiff_t{y - rect.y} * rect.width + part.x - rect.x;
-            std::memcpy(to.copied.data() + first * 4, tile->at(part.x % kTileSide, y % kTileSide),
-                        static_cast<std::size_t>(part.width) * 8);
+            copyTexels(tile->at(part.x % kTileSide, y % kTileSide), part.width, to.copied.data() + first * 4);
         }
     });
 }
@@ -303,6 +322,10 @@ Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabSt
         const Mixture mixture(smudge, load);
         Exchange exchange(*this, smudge, mixture);
         Dab dab = inLayer(smudge.dab);
+        if (smudge.bristles.part > 0) {
+            provide(BristleColumns::reach(smudge.bristles, dab, _layer.size()));
+            _columns.takeUp(smudge.bristles, dab, _before);
+        }
         dab.flow = std::min(dab.flow, 1.0f) * mixture.exchanged;
         const Rect texels = _painter.draw(_layer, dab, plain, _count++, exchange);
         if (texels.isEmpty()) {
@@ -311,15 +334,18 @@ Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabSt
         if (_layerDepth == 8) {
             round(_layer, texels);
         }
-        // Each texel reaches as far as the next ones.
-        touched =
-            touched.united(Rect::covering((texels.x - 1) / _scaleX, (texels.y - 1) / _scaleY,
-                                          (texels.right() + 1) / _scaleX, (texels.bottom() + 1) / _scaleY));
+        touched = touched.united(texels);
         _coverage.push_back(smudge.dab);
         _coverage.back().flow *= smudge.exchange;
     }
+    if (touched.isEmpty()) {
+        return {};
+    }
     _holds = _holds.united(_painter.draw(_exchanged, _coverage, plain, first));
-    return touched.intersected(Rect::of(_size));
+    // Each texel reaches as far as the next ones.
+    return Rect::covering((touched.x - 1) / _scaleX, (touched.y - 1) / _scaleY,
+                          (touched.right() + 1) / _scaleX, (touched.bottom() + 1) / _scaleY)
+        .intersected(Rect::of(_size));
 }
 
 template <typename Channel>

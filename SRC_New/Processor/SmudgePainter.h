@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "Dabs/SmudgeDabs.h"
+#include "Processor/BristleColumns.h"
 #include "Processor/DabPainter.h"
 #include "Processor/SmudgeRows.h"
 #include "Processor/Tiles.h"
@@ -72,6 +73,7 @@ private:
     Layer _layer, _before;               // now and then; tiles exist where the layer was needed
     std::vector<std::uint16_t> _blocks;  // of each tile: a bit for each block that shows the picture
     Rect _provided;                      // texels of the tiles that there are
+    Rect _lastProvided;                  // some of which all show it: mostly what is asked for next
     double _scaleX, _scaleY;             // of the layer to the picture
     // How much of each pixel of the picture was exchanged, at full resolution: what no dab covered is never touched.
     CoverageGrid _exchanged;
@@ -80,6 +82,7 @@ private:
     DabPainter& _painter;
     std::vector<Dab> _coverage;
     Texels _picked, _old;
+    BristleColumns _columns;
     std::vector<Channel> _pixels;
 };
 

@@ -7,7 +7,9 @@
 // Same     whatever instruction set the processor has; what is of one colour stays so to the bit.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
@@ -26,6 +28,13 @@ struct Steps {
 
     std::int64_t at(int i) const { return start + step * i; }
 };
+
+// A place as they count.
+inline std::int64_t fixedPlace(double places) {
+    constexpr double kFar = 1 << 24;
+    const double near = std::isfinite(places) ? std::clamp(places, -kFar, kFar) : 0;
+    return static_cast<std::int64_t>(std::floor(near * 65536 + 0.5));
+}
 
 // Part of a layer or a picture. Beyond its edges it goes on as it is there.
 template <typename Channel>
@@ -47,7 +56,16 @@ struct ReducedPart {
 void reduce(const ReducedPart<std::uint8_t>& part);
 void reduce(const ReducedPart<std::uint16_t>& part);
 
-// What a dab's pixels turn into where it covers them wholly: what lies under another place, mixed with a colour.
+// Colours that lie side by side, in whatever direction: where a part's first pixel is among them, and the steps from pixel to
+// pixel, that to the right not below 0.
+struct CarriedColours {
+    const std::int16_t* colours;  // with kSpareValues beyond them
+    int count;
+    std::int64_t start, right, down;
+};
+
+// What a dab's pixels turn into where it covers them wholly: what lies under another place, or is carried along, mixed with a
+// colour.
 struct PickedUp {
     SmudgeTexels from;
     Steps across, down;
@@ -55,6 +73,8 @@ struct PickedUp {
     std::array<std::int16_t, 4> colour;
     std::int16_t colourPart;  // of kSmudgeFull
     std::uint16_t* to;        // laid out as a tile
+    CarriedColours carried{};
+    std::int16_t carriedPart = 0;  // of it in what is not the colour, of kSmudgeFull
 };
 void pickUp(const PickedUp& part);
 

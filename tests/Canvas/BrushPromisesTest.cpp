@@ -285,6 +285,8 @@ const Promise kPromises[] = {
      [](P l, P m) { return l.pixels(isBlue, kStart) == 0 && m.pixels(isBlue, kStart) > 500; }, [](C& c) { smudging(c); c.setMixQuantity(1); c.setSmudgeControlValue(12); }},
     {"smudgeControlValue", "the canvas's colour is moved later", 4.0f, 40.0f,
      [](P l, P m) { return l.pixels(isRed, kRightHalf) > m.pixels(isRed, kRightHalf) + 300; }, [](C& c) { smudging(c); c.setLoadQuantity(0); c.setMixQuantity(1); c.setSmudgeControl(true); }},
+    {"bristles", "the own colour lasts for a while and runs out", 0.0f, 1.0f,
+     [](P l, P m) { return l.pixels(isBlue) == 0 && m.pixels(isBlue, kStart) > 500 && m.pixels(isBlue, kRightHalf) * 4 < m.pixels(isBlue); }, [](C& c) { smudging(c); c.setMixQuantity(1); c.setMoistQuantity(0.5f); }},
     {"textureType_ring", "a ring is a disc with a hole", 1, 2,
      [](P l, P m) { return isPainted(l.image.pixelColor(l.marks[2].box.center())) && isHole(m.image.pixelColor(m.marks[2].box.center())) && m.marks[2].box.size() == l.marks[2].box.size(); }, ring},
     {"textureType_rectangle", "a rectangle has the corners that a disc lacks", 1, 3,

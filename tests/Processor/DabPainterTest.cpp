@@ -111,6 +111,14 @@ std::vector<std::uint8_t> smudged(const Size& size) {
         const LPPosition place{dab.x + 20 * unit() - 10, dab.y + 20 * unit() - 10};
         dabs.push_back({dab, place, std::nearbyint(dab.halfSize * (0.5f + unit())), 1, unit(), unit()});
         dabs.back().dab.tip = 0;
+        const float turn = 6.3f * unit();
+        dabs.back().bristles = {.part = random() % 3 == 0 ? 1.0f : 0.4f,
+                                .uptake = unit(),
+                                .acrossX = std::cos(turn),
+                                .acrossY = std::sin(turn),
+                                .load = 0.5f,
+                                .count = 20,
+                                .isFirst = dabs.size() == 1};
     }
     const Rect touched[] = {surface.smudge(dabs, mixedStyle(Paper::none, false), 0.5f)};
     surface.composite(PictureId::first, touched, {.opacity = 0.9f, .smudged = true});
