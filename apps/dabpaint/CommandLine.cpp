@@ -60,6 +60,14 @@ QString presetRefusal(const QString& file) {
     return file.isEmpty() ? QStringLiteral("the brush's name is empty") : QString();
 }
 
+// A preset may have an empty one.
+void name(CLI::App& app, std::optional<QString>& name) {
+    value(app, "--name", [&name](const QString& given) {
+        name = given;
+        return QString();
+    });
+}
+
 void brush(CLI::App& app, QString& brush) {
     value(app, "--brush", [&brush](const QString& given) { return presetRefusal(brush = given); });
 }
@@ -215,10 +223,9 @@ private:
         text(make, "-o,--output", _make.output)->required();
         brush(make, _make.brush);
         settings(make, _make.settings);
-        value(make, "--name", [this](const QString& name) {
-            _make.name = name;
-            return QString();
-        })->required();
+        name(make, _make.name);
+        text(make, "--tip", _make.tip);
+        text(make, "--paper", _make.paper);
         for (auto [name, text] :
              {std::pair("--tags", &_make.tags), std::pair("--about", &_make.about),
               std::pair("--author", &_make.author), std::pair("--licence", &_make.licence)})
@@ -226,6 +233,10 @@ private:
                 *text = given;
                 return QString();
             });
+        CLI::App& import = *app.add_subcommand("import");
+        files(import, "FILE", _import.files, presetRefusal)->required();
+        text(import, "-o,--output", _import.output)->required();
+        name(import, _import.name);
         CLI::App& preview = *app.add_subcommand("preview");
         files(preview, "FILE", _preview.files, presetRefusal)->required();
         text(preview, "-o,--output", _preview.output)->required();
@@ -270,7 +281,8 @@ private:
         if (app->get_name() == "preset")
             return noCommand(QStringLiteral("preset ") + word,
                              {QStringLiteral("preset show"), QStringLiteral("preset make"),
-                              QStringLiteral("preset preview"), QStringLiteral("preset sheet")});
+                              QStringLiteral("preset preview"), QStringLiteral("preset sheet"),
+                              QStringLiteral("preset import")});
         return QStringLiteral("%1 takes no \"%2\"").arg(QString::fromStdString(app->get_name()), word);
     }
 
@@ -305,9 +317,14 @@ private:
         if (command == QLatin1String("sheet"))
             return _sheet;
         if (command.isEmpty())
-            return UsageFault{QStringLiteral("preset needs a command: show, make, preview or sheet")};
-        if (_make.output == QLatin1String("-"))
+            return UsageFault{QStringLiteral("preset needs a command: show, make, preview, sheet or import")};
+        const bool imports = command == QLatin1String("import");
+        if ((imports ? _import.output : _make.output) == QLatin1String("-"))
             return UsageFault{QStringLiteral("a preset is written to a file, not to standard output")};
+        if (imports)
+            return _import;
+        if (!_make.name && _make.tip.isEmpty())
+            return UsageFault{QStringLiteral("--name is required; see dabpaint help preset")};
         return _make;
     }
 
@@ -318,6 +335,7 @@ private:
     PresetShowOptions _show;
     PresetMakeOptions _make;
     PresetPreviewOptions _preview;
+    PresetImportOptions _import;
     PresetSheetOptions _sheet;
     DabsOptions _dabs;
     PropertiesOptions _properties;
@@ -350,6 +368,7 @@ int runDabpaint(const QStringList& arguments) {
                           [](const PresetShowOptions& options) { return runPresetShow(options); },
                           [](const PresetMakeOptions& options) { return runPresetMake(options); },
                           [](const PresetPreviewOptions& options) { return runPresetPreview(options); },
+                          [](const PresetImportOptions& options) { return runPresetImport(options); },
                           [](const PresetSheetOptions& options) { return runPresetSheet(options); },
                           [](const PropertiesOptions& options) { return runProperties(options.json); },
                           [](const HelpOptions& options) { return print(usageText(options.topic)); },

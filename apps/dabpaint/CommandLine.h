@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <variant>
 
+#include "BrushImports.h"
 #include "DabsCommand.h"
 #include "PaintCommand.h"
 #include "PresetCommand.h"
@@ -27,9 +28,10 @@ struct UsageFault {
     QString what;
 };
 
-using CommandLine = std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions,
-                                 PresetShowOptions, PresetMakeOptions, PresetPreviewOptions,
-                                 PresetSheetOptions, HelpOptions, VersionOptions, UsageFault>;
+using CommandLine =
+    std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions, PresetShowOptions,
+                 PresetMakeOptions, PresetPreviewOptions, PresetImportOptions, PresetSheetOptions,
+                 HelpOptions, VersionOptions, UsageFault>;
 
 // Reads the arguments after the program's name. Touches no file.
 CommandLine readCommandLine(const QStringList& arguments);

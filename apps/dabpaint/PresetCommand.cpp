@@ -3,11 +3,10 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTemporaryDir>
 
+#include "BrushImports.h"
 #include "BrushPlan.h"
 #include "Console.h"
-#include "LogCatcher.h"
 #include "OutputFile.h"
 #include "Preset/PresetInfo.h"
 #include "Preset/QDBrushManager.h"
@@ -39,6 +38,22 @@ int runPresetShow(const PresetShowOptions& options) {
 
 namespace {
 
+using ImportedPart = std::pair<QString, ImportedBrush>;  // and the file that it is from
+
+// Tip and paper; the message when one cannot be read.
+QString readParts(const PresetMakeOptions& options, std::vector<ImportedPart>& parts) {
+    const std::pair<QString, ImportOf> files[] = {{options.tip, importTip}, {options.paper, importPaper}};
+    for (const auto& [path, import] : files) {
+        if (path.isEmpty())
+            continue;
+        const auto brush = importedFile(path, import);
+        if (!brush)
+            return brush.problem().text(path);
+        parts.emplace_back(path, *brush);
+    }
+    return {};
+}
+
 BrushParams paramsOf(const QDDrawCanvas& canvas, const Brush* start, const PresetMakeOptions& options) {
     PresetInfo info = start != nullptr ? infoOfParams(start->params) : PresetInfo();
     if (options.tags)
@@ -58,7 +73,8 @@ int runPresetMake(const PresetMakeOptions& options) {
     QString wrong = plan.fix(options.settings);
     if (!wrong.isEmpty())
         return refuse(wrong);
-    wrong = overwritingRefusal({options.output}, plan.files() + QStringList(options.brush));
+    wrong = overwritingRefusal({options.output},
+                               plan.files() + QStringList{options.brush, options.tip, options.paper});
     if (!wrong.isEmpty())
         return refuse(wrong);
     std::shared_ptr<const Brush> start;
@@ -68,6 +84,11 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(brush.problem().text(options.brush));
         start = *brush;
     }
+    std::vector<ImportedPart> imported;
+    if (wrong = readParts(options, imported); !wrong.isEmpty())
+        return fail(wrong);
+    const QString name =
+        options.name || imported.empty() ? options.name.value_or(QString()) : imported.front().second.name;
     if (OutputFile output(options.output); !output.check())
         return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, output.errorString()));
     const auto canvas = makeCanvas(QSize(1, 1));  // which clamps and keeps the values; nothing is painted
@@ -75,6 +96,8 @@ int runPresetMake(const PresetMakeOptions& options) {
         return fail(canvas.problem().what);
     if (start)
         start->applyTo(**canvas);
+    for (const auto& [path, brush] : imported)
+        brush.applyTo(**canvas);
     for (const auto& [property, value] : plan.fixed()) {
         if (property->presetId == 0)
             return refuse(
@@ -83,22 +106,10 @@ int runPresetMake(const PresetMakeOptions& options) {
             return fail(QStringLiteral("the canvas does not take this value of %1")
                             .arg(QLatin1String(property->name)));
     }
-    const BrushParams params = paramsOf(**canvas, start.get(), options);
-    const auto save = [&](const QString& path) {
-        return QDBrushManager::saveParams(params, QDBrushManager::kVersion, options.name, path, &wrong);
-    };
-    const LogCatcher log;  // the messages below say it
-    // What would not be read again takes no place: read first, from elsewhere.
-    const QTemporaryDir elsewhere;
-    const QString trial = elsewhere.filePath(QStringLiteral("trial.xbf"));
-    if (!save(trial))
-        return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
-    if (const auto again = readBrush(trial); !again)
-        return fail(
-            QStringLiteral("%1: could not be read again: %2").arg(options.output, again.problem().what));
-    if (!save(options.output))
-        return fail(QStringLiteral("%1: cannot be written: %2").arg(options.output, wrong));
-    return kDone;
+    const int status = saveBrush(paramsOf(**canvas, start.get(), options), name, options.output);
+    for (const auto& [path, brush] : imported)
+        tellLosses(path, brush);
+    return status != kDone ? status : finishOut();
 }
 
 }  // namespace dabcanvas::dabpaint

@@ -19,8 +19,9 @@ struct PresetShowOptions {
 
 struct PresetMakeOptions {
     QString output;
-    QString name;
-    QString brush;  // the preset to start with; empty for the default brush
+    std::optional<QString> name;  // none: as the tip is called
+    QString brush;                // the preset to start with; empty for the default brush
+    QString tip, paper;           // files to take them from; empty for none
     std::vector<Assignment> settings;
     // Of itself, in place of what the preset to start with says.
     std::optional<QString> tags, about, author, licence;

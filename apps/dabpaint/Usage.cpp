@@ -11,7 +11,7 @@ constexpr const char* kTool = R"(NAME
 SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [OPTION]...
     dabpaint shapes [INPUT.csv]... [-o OUT.csv] [--outlines OUT.csv]
-    dabpaint preset show | make | preview ...
+    dabpaint preset show | make | preview | import ...
     dabpaint dabs INPUT.json [--header]
     dabpaint properties [--json]
     dabpaint help [COMMAND]
@@ -20,7 +20,7 @@ SYNOPSIS
 DESCRIPTION
     paint       paints recordings of pen strokes onto a canvas and writes it as PNG
     shapes      tells the shapes that strokes were meant as
-    preset      shows, makes and previews brush presets
+    preset      shows, makes, previews and imports brush presets
     dabs        runs samples through the line process alone and prints its dabs
     properties  lists the brush properties that paint --set and recordings take
     help        prints the help of a command, as does --help after its name
@@ -215,17 +215,18 @@ EXAMPLES
 )";
 
 constexpr const char* kPreset = R"(NAME
-    dabpaint preset - show, make, preview and compare brush presets
+    dabpaint preset - show, make, preview, compare and import brush presets
 
 SYNOPSIS
     dabpaint preset show FILE.xbf... [--json]
     dabpaint preset make -o FILE.xbf --name NAME [--brush FILE.xbf]
-                    [--set PROPERTY=VALUE]... [--tags A,B] [--about SENTENCE]
-                    [--author NAME] [--licence TEXT]
+                    [--tip FILE] [--paper FILE] [--set PROPERTY=VALUE]...
+                    [--tags A,B] [--about SENTENCE] [--author NAME] [--licence TEXT]
     dabpaint preset preview FILE.xbf... -o OUT.png [--size WxH]
                     [--set PROPERTY=VALUE]...
     dabpaint preset sheet FILE.xbf... -o OUT.jpg [--size WxH] [--across N]
                     [--set PROPERTY=VALUE]...
+    dabpaint preset import FILE... -o OUT.xbf [--name NAME]
 
 DESCRIPTION
     A preset is an XBF file: a name and a record for every brush property that
@@ -235,7 +236,7 @@ DESCRIPTION
                 property and its value, or the id of one that is not known. Of a
                 damaged file, what can be read; then it fails.
     make        writes a preset of the default brush, or of another preset's,
-                with the given settings.
+                with the given tip, paper and settings.
     preview     paints a stroke of each file's last brush on white, pressure and
                 speed rising and falling; stripes lie under a brush that smudges,
                 erases or shades. Several pictures need a folder.
@@ -244,6 +245,9 @@ DESCRIPTION
                 pressure, one of a pen that tilts from upright to flat, and a
                 line over colours.
     What preview and sheet cannot read is told and left out; they fail at the end.
+    import      writes a preset for a brush of another program: GIMP's .gbr and
+                .gih, MyPaint's .myb of version 3, or a picture as a tip. It tells
+                line by line what could not be carried over. Several need a folder.
 
 OPTIONS
     --json
@@ -254,13 +258,24 @@ OPTIONS
 
     -o FILE, --output FILE
         The preset to write; or the picture, of the kind that its suffix says; or
-        an existing folder, which gets a NAME.png for NAME.xbf.
+        an existing folder, which gets a NAME.png for NAME.xbf, or a NAME.xbf
+        for what is imported.
 
     --name NAME
-        What the brush is called.
+        What the brush is called; else an imported one, or one made with a tip,
+        as that file says, or as the file is called.
 
     --brush FILE.xbf
         The preset to start with.
+
+    --tip FILE
+        The brush's tip or tips, 16 at most: a GIMP brush with its spacing and
+        size, or a picture, of which what is dark paints, or, where it has
+        transparency, what is not transparent. --set comes after it.
+
+    --paper FILE
+        Paints through this paper, a picture or a GIMP brush of one tip: white
+        lets paint through.
 
     --tags A,B --about SENTENCE --author NAME --licence TEXT
         What the preset says of itself, else what the preset to start with says.
@@ -283,6 +298,8 @@ EXIT STATUS
 EXAMPLES
     dabpaint preset make -o chalk.xbf --name Chalk --set radius=40 \
         --set needMaskTexture=yes --set maskImage=paper.png
+    dabpaint preset make -o leaf.xbf --tip leaf.gih --set radius=60
+    dabpaint preset import charcoal.myb -o charcoal.xbf
     dabpaint preset preview chalk.xbf -o chalk.png
     dabpaint preset sheet *.xbf -o brushes.jpg
 )";

@@ -17,12 +17,12 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QUrl>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "BrushCursor.h"
+#include "BrushDrops.h"
 #include "BrushPanel.h"
 #include "BrushStorage.h"
 #include "CanvasPointer.h"
@@ -53,16 +53,6 @@ void setIfOther(QSettings& settings, const QString& name, const QVariant& value)
 
 bool endsTyping(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Escape;
-}
-
-QStringList brushFilesOf(const QMimeData& data) {
-    QStringList paths;
-    for (const QUrl& url : data.urls()) {
-        const QString path = url.toLocalFile();
-        if (path.endsWith(QLatin1String(".xbf"), Qt::CaseInsensitive))
-            paths << path;
-    }
-    return paths;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -10,10 +11,12 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QMimeData>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QVBoxLayout>
 
+#include "BrushDrops.h"
 #include "Preset/QDBrushManager.h"
 #include "PresetList.h"
 #include "Widgets.h"
@@ -50,6 +53,7 @@ PresetBrowser::PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFo
     _filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     makeActions();
     makeLayout();
+    setAcceptDrops(true);
     // Both once, however many settings or files have changed.
     _changeTimer.setSingleShot(true);
     _refreshTimer.setSingleShot(true);
@@ -207,6 +211,17 @@ void PresetBrowser::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
 }
 
+void PresetBrowser::dragEnterEvent(QDragEnterEvent* event) {
+    // What is dragged out of the list is here already.
+    if (!event->source() && !brushAndPictureFilesOf(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void PresetBrowser::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    importFiles(brushAndPictureFilesOf(*event->mimeData()));
+}
+
 void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
     _chosen = id;
     _chosenName = name;
@@ -339,18 +354,22 @@ bool PresetBrowser::remove(const PresetId& id) {
 }
 
 bool PresetBrowser::importFiles(const QStringList& paths) {
-    QStringList faults;
+    QStringList faults, losses;
     PresetId last;
     for (const QString& path : paths) {
         PresetId now;
-        const QString fault = _library.importFile(path, now);
+        QStringList lost;
+        const QString fault = _library.importFile(path, now, lost);
         if (fault.isEmpty())
             last = now;
         else
             faults << fault;
+        if (!lost.isEmpty())
+            losses << tr("Of \"%1\" could not be carried over:\n%2")
+                          .arg(QFileInfo(path).fileName(), lost.join(QLatin1Char('\n')));
     }
     refresh();
-    succeeds(faults.join(QLatin1Char('\n')));
+    succeeds((faults + losses).join(QLatin1Char('\n')));
     return !last.path.isEmpty() && choose(last);
 }
 

@@ -48,7 +48,8 @@ public:
     bool overwrite(const PresetId& id);
     bool rename(const PresetId& id);
     bool remove(const PresetId& id);
-    // Takes files over and chooses the last one's last brush; one message for all that cannot be.
+    // Takes files over and chooses the last one's last brush; one message for all that cannot be, and for what other
+    // programs' brushes have lost.
     bool importFiles(const QStringList& paths);
     bool exportTo(const PresetId& id);
 
@@ -68,6 +69,9 @@ signals:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    // Brush files, from elsewhere, and pictures, of which each becomes a brush with that tip.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void makeActions();

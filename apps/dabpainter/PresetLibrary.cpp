@@ -10,7 +10,9 @@
 #include <QStandardPaths>
 #include <algorithm>
 
+#include "BrushDrops.h"
 #include "ImageFiles.h"
+#include "Import/BrushImport.h"
 #include "OutputFile.h"
 #include "Preset/PresetInfo.h"
 #include "Preset/QDBrushManager.h"
@@ -234,10 +236,46 @@ QString PresetLibrary::removeFile(const Preset& preset) {
     return {};
 }
 
-QString PresetLibrary::importFile(const QString& path, PresetId& now) {
+// The user's file of this content, but for one; empty for none.
+QString PresetLibrary::sameAs(const QByteArray& content, const QString& but) const {
+    const auto ownFiles =
+        QDir(_folders.own).entryInfoList({QStringLiteral("*") + QLatin1String(kSuffix)}, QDir::Files);
+    for (const QFileInfo& file : ownFiles) {
+        if (file.filePath() != but && file.size() == content.size() && contentOf(file.filePath()) == content)
+            return file.filePath();
+    }
+    return {};
+}
+
+QString PresetLibrary::importForeign(const QString& path, PresetId& now, QStringList& lost) {
+    QFile file(path);
+    QString problem;
+    if (!file.open(QIODevice::ReadOnly))
+        return fault(path, file.errorString());
+    const auto brush = importBrush(file.readAll(), &problem);
+    if (!brush)
+        return fault(path, problem);
+    const auto params = brush->params();
+    if (!params)
+        return fault(path, tr("there is no memory for it"));
+    const QString name = brush->name.isEmpty() ? QFileInfo(path).completeBaseName() : brush->name;
+    if (const QString wrong = add(name, *params, now); !wrong.isEmpty())
+        return wrong;
+    if (const QString same = sameAs(contentOf(now.path), now.path); !same.isEmpty()) {
+        QFile::remove(now.path);
+        now.path = same;
+        refresh();
+    }
+    lost = brush->lost;
+    return {};
+}
+
+QString PresetLibrary::importFile(const QString& path, PresetId& now, QStringList& lost) {
     const QFileInfo source(path);
     if (!source.isFile())
         return fault(path, tr("there is no such file"));
+    if (isForeignBrush(path))
+        return importForeign(path, now, lost);
     QString problem;
     const auto brushes = QDBrushManager::brushesWithXBFPath(path, nullptr, &problem);
     if (brushes && problem.isEmpty())
@@ -250,14 +288,9 @@ QString PresetLibrary::importFile(const QString& path, PresetId& now) {
         return wrong;
     now.index = int(brushes->size()) - 1;
     const QByteArray content = contentOf(path);
-    const auto ownFiles =
-        QDir(_folders.own).entryInfoList({QStringLiteral("*") + QLatin1String(kSuffix)}, QDir::Files);
-    for (const QFileInfo& file : ownFiles) {
-        if (file.size() == content.size() && contentOf(file.filePath()) == content) {
-            now.path = file.filePath();
-            refresh();
-            return {};
-        }
+    if (now.path = sameAs(content, QString()); !now.path.isEmpty()) {
+        refresh();
+        return {};
     }
     const QString target = freePath(source.completeBaseName());
     OutputFile file(target);

@@ -62,12 +62,15 @@ public:
     QString replace(const Preset& preset, const BrushParams& params);
     QString rename(const Preset& preset, const QString& name, PresetId& now);
     QString removeFile(const Preset& preset);
-    // Copies a file into the user's folder, unless it is there already; `now` is its last brush.
-    QString importFile(const QString& path, PresetId& now);
+    // Copies a file into the user's folder, unless it is there already; `now` is its last brush. Other programs' brushes
+    // become presets, and `lost` says in words what could not be carried over.
+    QString importFile(const QString& path, PresetId& now, QStringList& lost);
     QString exportTo(const PresetId& id, const QString& path) const;
 
 private:
     void listFolder(const QString& folder, bool own, QHash<QString, std::vector<Preset>>& found);
+    QString importForeign(const QString& path, PresetId& now, QStringList& lost);
+    QString sameAs(const QByteArray& content, const QString& but) const;
     QString makeOwnFolder() const;
     QString freePath(const QString& name) const;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Prompts.h"
+#include "BrushDrops.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QUrl>
 
+#include "BrushDrops.h"
 #include "PictureKinds.h"
 
 namespace dabcanvas::dabpainter {
@@ -82,8 +84,9 @@ QString pickBrushName(QWidget* parent, const QString& suggested) {
 }
 
 QStringList pickBrushes(QWidget* parent) {
-    return QFileDialog::getOpenFileNames(parent, tr("Import Brushes"), QString(),
-                                         tr("Brushes (*.xbf)") + QStringLiteral(";;") + tr("All files (*)"));
+    return QFileDialog::getOpenFileNames(
+        parent, tr("Import Brushes"), QString(),
+        tr("Brushes (*.xbf %1)").arg(foreignBrushPatterns()) + QStringLiteral(";;") + tr("All files (*)"));
 }
 
 QString askName(QWidget* parent, const QString& title, const QString& suggested) {

@@ -38,7 +38,7 @@ TEST(CommandLineTest, PresetCommandsTakeTheirOwnOptions) {
     const auto made = readWords("preset make --set radius=5 --name= -o a.xbf --brush b.xbf");
     const auto* make = std::get_if<PresetMakeOptions>(&made);
     ASSERT_NE(make, nullptr);
-    EXPECT_EQ(make->output + make->name + make->brush, "a.xbfb.xbf");
+    EXPECT_EQ(make->output + make->name.value_or("none") + make->brush, "a.xbfb.xbf");
     EXPECT_EQ(make->settings.size(), 1u);
     const auto previewed = readWords("preset preview a.xbf b.xbf --size 40x30 -o previews");
     const auto* preview = std::get_if<PresetPreviewOptions>(&previewed);

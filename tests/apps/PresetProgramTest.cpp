@@ -6,6 +6,7 @@
 #include <cmath>
 #include <map>
 
+#include "Import/GimpFiles.h"
 #include "Preset/QDBrushManager.h"
 #include "apps/Program.h"
 
@@ -102,6 +103,44 @@ TEST_F(PresetProgramTest, ShowTellsWhatCouldBeReadAndThenTheDamage) {
     EXPECT_EQ(ended.err.count('\n'), 3) << ended.err.constData();
     EXPECT_THAT(ended.err.toStdString(), ::testing::ContainsRegex("cut.xbf: record [0-9]+ of brush 1 of 1"));
     EXPECT_THAT(ended.err.toStdString(), ::testing::HasSubstr("text.xbf: this is not an XBF file"));
+}
+
+TEST_F(PresetProgramTest, BrushesOfOtherProgramsBecomePresets) {
+    const QString tip = write("leaf.gbr", gbr({.width = 1, .height = 1, .pixels = "\xFF"}));
+    const QByteArray myb = R"({"version": 3, "settings": {"opaque_multiply": {"base_value": 1, "inputs": {}},
+        "opaque": {"base_value": 1, "inputs": {"direction": [[0, 0], [180, -0.2]]}}}})";
+    const QString pen = write("pen.myb", myb);
+    write("wash.myb", myb);
+    const auto nameIn = [&](const char* file) {
+        const QByteArray shown = preset("show", {path(file)}).out;
+        return shown.mid(shown.indexOf('"'), shown.indexOf(',') - shown.indexOf('"'));
+    };
+    EXPECT_EQ(run("preset make -o %leaf.xbf --tip %leaf.gbr --set radius=20").status, 0);
+    EXPECT_EQ(nameIn("leaf.xbf"), "\"Leaf\"");
+    const Ended ended = run("preset import %pen.myb -o %pen.xbf");
+    EXPECT_EQ(ended.status, 0) << ended.err.constData();
+    EXPECT_EQ(ended.out, pen.toUtf8() + ": not carried over: the curve of opacity over direction\n");
+    EXPECT_EQ(nameIn("pen.xbf"), "\"pen\"");
+    for (const char* brush : {"leaf.xbf", "pen.xbf"}) {
+        const QColor paint =
+            painted(R"({"brush": ")" + QByteArray(brush) + R"(", "strokes": [{)" + kLine + "}]}");
+        EXPECT_LT(paint.lightness(), 80) << brush;
+    }
+    QDir(_folder.path()).mkdir("all");
+    EXPECT_EQ(run("preset import %pen.myb %wash.myb %leaf.gbr -o %all").status, 0);
+    EXPECT_EQ(QDir(path("all")).entryList(QDir::Files), (QStringList{"leaf.xbf", "pen.xbf", "wash.xbf"}));
+
+    write("cut.gbr", contentOf(tip).chopped(1));
+    write("cut.myb", myb.left(60));
+    const auto before = filesThere();
+    expectOneLine(run("preset import %cut.gbr -o %new.xbf"), 1, "cut.gbr: cannot be imported: the file ends");
+    expectOneLine(run("preset import %cut.myb -o %new.xbf"), 1, "cut.myb: cannot be imported: it is no JSON");
+    expectOneLine(run("preset make --tip %pen.myb -o %new.xbf"), 1,
+                  "pen.myb: cannot be imported: it is not an");
+    expectOneLine(run("preset make --tip %none.gbr -o %new.xbf"), 1, "none.gbr: cannot be read");
+    expectOneLine(run("preset import %pen.myb %wash.myb -o %new.xbf"), 1, "need a folder");
+    expectOneLine(run("preset make --tip %leaf.gbr -o %leaf.gbr"), 2, "is what is read");
+    EXPECT_EQ(filesThere(), before);
 }
 
 TEST_F(PresetProgramTest, WhatIsNotWholeIsRefused) {

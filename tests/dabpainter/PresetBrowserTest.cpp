@@ -12,10 +12,12 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QUrl>
+#include <cmath>
 #include <map>
 
 #include "BrushPanel.h"
 #include "BrushPresentation.h"
+#include "Import/GimpFiles.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
 #include "PresetList.h"
@@ -285,6 +287,42 @@ TEST_F(PresetBrowserTest, DroppedFilesAreImportedOnceAndTheLastIsChosen) {
     const auto exported = QDBrushManager::brushesWithXBFPath(_saveName);
     ASSERT_TRUE(exported);
     EXPECT_EQ(*exported, *QDBrushManager::brushesWithXBFPath(presets().chosen().path));
+}
+
+TEST_F(PresetBrowserTest, OtherProgramsBrushesAndPicturesAreDroppedOntoTheList) {
+    const auto drop = [&](QWidget& onto, const QString& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QApplication::sendEvent(&onto, &enter);
+        if (enter.isAccepted()) {
+            QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&onto, &event);
+        }
+        return enter.isAccepted();
+    };
+    const QString pen = writtenTo(path("Pen.myb"), R"({"version": 3, "settings": {
+        "radius_logarithmic": {"base_value": 3, "inputs": {}}, "lock_alpha": {"base_value": 1, "inputs": {}}}})");
+    const QString leaf = writtenTo(path("a.gbr"), gbr({}));
+    const QString dots = savedImage("Dots.png", Qt::black);
+    EXPECT_FALSE(drop(*_window, dots));
+    for (int time = 0; time < 2; ++time) {  // the second time each is there already
+        _told.clear();
+        EXPECT_TRUE(drop(*_window, leaf));
+        EXPECT_EQ(presets().chosenName(), "Leaf");
+        EXPECT_TRUE(drop(presets(), dots));
+        EXPECT_EQ(presets().chosenName(), "Dots");
+        EXPECT_EQ(_told, QStringList());
+        EXPECT_TRUE(drop(presets(), pen));
+        EXPECT_NEAR(radius(), 2 * std::exp(3.0f), 0.1f);
+        ASSERT_EQ(_told.size(), 1);
+        EXPECT_TRUE(_told[0].contains("Pen.myb") && _told[0].contains("keeping transparency"));
+        EXPECT_EQ(shownNames(), (QStringList{"Dots", "Leaf", "Pen"}));
+    }
+    EXPECT_TRUE(drop(presets(), writtenTo(path("cut.gbr"), gbr({}).chopped(1))));
+    EXPECT_TRUE(_told.last().contains("cut.gbr"));
+    EXPECT_EQ(shownNames().size(), 3);
 }
 
 TEST_F(PresetBrowserTest, EveryBrushOfAFileIsAPresetOfItsOwn) {
