@@ -113,7 +113,7 @@ def bleed(seed):
     side = 192
     x, y = places(side)
     out = rim(seed, x, y, 0.12, 9) + 0.06 * soft(side, seed + 3, 11)
-    return stamped((1 - smoothstep(0.35, 1.0, out)) ** 1.3 * (1 - smoothstep(0.9, 1.0, np.hypot(x, y))), SMOOTH)
+    return stamped((1 - smoothstep(0.6, 0.98, out)) * (1 - smoothstep(0.9, 1.0, np.hypot(x, y))), SMOOTH)
 
 
 def felt(side=128):

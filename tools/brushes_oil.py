@@ -53,10 +53,10 @@ brush("Smudge Finger", "smudge wet", "A fingertip that drags wet paint along.",
       smudgeControl=False)
 
 brush("Soft Blender", "blender wet", "A soft dry brush that blurs the border between colours.",
-      brushType=SMUDGE, textureImages=tips.mist(), radius=84, **EVEN, pointsDistance=0.1, loadQuantity=0,
+      brushType=SMUDGE, textureImages=tips.mist(), radius=84, **EVEN, pointsDistance=0.04, loadQuantity=0,
       mixQuantity=1, moistQuantity=0.9, smudgeControl=False, flow=0.9, flowControl=(0.5, 0, 0), minFlow=0.3)
 
 brush("True Blender", "blender wet", "Hairs without paint that draw one colour into the other in fine streaks.",
       brushType=SMUDGE, textureImages=hairs.filbert(21), moveRadianEnable=True, radius=70, minRadius=0.7,
       radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0, pointsDistance=0.02, loadQuantity=0, mixQuantity=1,
-      moistQuantity=0.98, smudgeControl=False, flow=1, flowControl=(0.5, 0, 0), minFlow=0.4)
+      moistQuantity=0.98, bristles=0.5, smudgeControl=False, flow=1, flowControl=(0.5, 0, 0), minFlow=0.4)
