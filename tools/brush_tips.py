@@ -58,7 +58,7 @@ def graphite(seed):
 
 def coal(seed):
     """Charcoal: crumbs and gaps up to a ragged rim. Spacing 0.06 to 0.12."""
-    return _stick(192, seed, 0.3, 0.12, (40, 5), 0.0, 0.7)
+    return _stick(192, seed, 0.45, 0.12, (40, 5), -0.15, 0.55)
 
 
 def chalk(seed):

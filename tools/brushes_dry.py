@@ -19,7 +19,7 @@ brush("Pencil", "pencil dry", "A well sharpened HB pencil on drawing paper.",
 
 brush("Pencil 2B", "pencil dry tilt", "A soft pencil; tilt it to shade with the side of its lead.",
       textureImages=[tips.graphite(seed) for seed in (5, 15, 25)], **LOOSE, radius=32, minRadius=0.16, maxRadius=0.28,
-      radiusControl=(0.5, 0.75, 0), startRadius=0.12, strokeControlValue=10, endRadius=0.12, pointsDistance=0.11,
+      radiusControl=(0.5, 1, 0), startRadius=0.12, strokeControlValue=10, endRadius=0.12, pointsDistance=0.11,
       flow=0.36, minFlow=0.22, flowControl=(1, 0.3, 0), renderColor="#26262a",
       **on_paper(paper("cartridge"), 0.35, 1.0, 0.12, scale=0.7, control=(0.5, 0.2, 0)))
 
@@ -32,17 +32,17 @@ brush("Charcoal", "charcoal dry", "A stick of charcoal: dusty when light, black 
       textureImages=[tips.coal(seed) for seed in (3, 13, 23, 33)], **LOOSE, radius=44, minRadius=0.5, maxRadius=0.8,
       radiusControl=(0.4, 0.9, 0), startRadius=0, endRadius=0.5, pointsDistance=0.07, flow=0.2, minFlow=0.3,
       flowControl=(1, 0.3, 0), flowTingle=0.3, renderColor="#1d1b1b",
-      **on_paper(paper("sugar"), 0.4, 1.1, -0.05, control=(0.6, 0, 0)))
+      **on_paper(paper("sugar"), 0.4, 0.95, 0.06, control=(0.6, 0, 0)))
 
 brush("Chalk", "chalk dry", "A hard stick of chalk whose face breaks up over the tooth.",
       textureImages=[tips.chalk(seed) for seed in (3, 13, 23)], **LOOSE, radius=36, minRadius=0.8,
       radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.09, flow=0.25, minFlow=0.4,
       flowControl=(0.8, 0, 0), renderColor="#3a6aa0",
-      **on_paper(paper("sugar"), 0.3, 1.15, 0.0, control=(0.6, 0, 0)))
+      **on_paper(paper("sugar"), 0.3, 1.0, 0.06, control=(0.6, 0, 0)))
 
 brush("Soft Pastel", "pastel dry", "Soft pastel: powder that fills the tooth and blooms under pressure.",
       textureImages=[tips.soft_pastel(seed) for seed in (3, 13, 23)], **LOOSE, radius=48, minRadius=0.8,
-      radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.06, flow=0.13, minFlow=0.3,
+      radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.06, flow=0.2, minFlow=0.3,
       flowControl=(1, 0, 0), renderColor="#b8577a",
       **on_paper(paper("cartridge"), 0.35, 0.8, 0.05, control=(0.6, 0, 0)))
 
@@ -56,4 +56,4 @@ brush("Wax Crayon", "crayon dry", "A blunt greasy crayon that skips the paper's 
       textureImages=[tips.wax(seed) for seed in (3, 13, 23)], **LOOSE, radius=24, minRadius=0.8,
       radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.09, flow=0.22, minFlow=0.5,
       flowControl=(0.8, 0, 0), renderColor="#c8452e",
-      **on_paper(paper("cartridge"), 0.25, 1.2, 0.05, scale=1.3, control=(0.5, 0, 0)))
+      **on_paper(paper("cartridge"), 0.25, 1.0, 0.1, scale=1.0, control=(0.5, 0, 0)))

@@ -51,7 +51,7 @@ brush("Gouache Dry", "gouache dry", "The rest of the paint on a brush: broken st
       textureImages=[hairs.dry(7, load) for load in (0.8, 0.65, 0.5, 0.35)], textureControl=(1, 0, 0), radius=70,
       minRadius=0.75, radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.02,
       moveRadianEnable=True, flow=0.35, minFlow=0.4, flowControl=(0.7, 0, 0), renderColor="#c79a2e",
-      **on_paper(paper("rough"), 0.3, 1.0, 0.0, scale=0.5, control=(0.6, 0, 0)))
+      **on_paper(paper("rough"), 0.3, 1.0, 0.08, scale=0.5, control=(0.6, 0, 0)))
 
 # ---- Acrylic
 
