@@ -2,7 +2,7 @@
 // Inputs of JournalReadFuzz. Sums of 64 bits are never hit by chance, so that most inputs leave them to be made:
 //
 //     0, then any bytes                              a segment as it is
-//     1, then frames: op, length (2 bytes), bytes    segments: ops 2 to 5 are records of these types, whose sums are made;
+//     1, then frames: op, length (2 bytes), bytes    segments: ops 2 to 4 are records of these types, whose sums are made;
 //                                                    6 begins another segment, all others are bytes between the records
 #pragma once
 
@@ -41,7 +41,7 @@ inline std::vector<NumberedSegment> segmentsOf(const std::uint8_t* data, std::si
         if (op == kNextSegment) {
             segments.push_back(segmentBegun(number + 1));
         } else if (op >= static_cast<std::uint8_t>(RecordType::tile) &&
-                   op <= static_cast<std::uint8_t>(RecordType::present)) {
+                   op <= static_cast<std::uint8_t>(RecordType::stacks)) {
             RecordWriter record(static_cast<RecordType>(op), payload.size());
             record.put(payload);
             file += record.sealed({kFramesJournal, number, static_cast<std::uint32_t>(file.size())});

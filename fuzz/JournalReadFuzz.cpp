@@ -80,7 +80,7 @@ std::optional<JournalContents> readBack() {
 
 void goOn(const JournalContents& found) {
     const JournalStep step{QStringLiteral("new"), {}, {{0, found.lastTile + 1}}};
-    const JournalState state{{step}, {}, step.name, {}, {}};
+    const JournalState state{{step}, {}, {}, step.name, {}};
     QString problem;
     TileJournal journal({folder, found.format, 1 << 20, [&] { return std::optional(state); }});
     if (!journal.adopt(found) ||

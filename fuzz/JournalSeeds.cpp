@@ -18,7 +18,7 @@ namespace {
 // Steps of a few tiles each, of which the last ones can be undone and redone, and a canvas that is none of them.
 void paint(const QString& folder, unsigned seed, int steps) {
     std::mt19937 random(seed);
-    JournalState state;
+    JournalState state;  // all of it
     const auto all = [&] { return std::optional(state); };
     TileJournal journal({[&] { return folder; }, kFramesFormat, 400, all});
     QString problem;
@@ -29,17 +29,24 @@ void paint(const QString& folder, unsigned seed, int steps) {
             journal.appendTile(++tile, QByteArray(static_cast<int>(random() % 20 + 1), 'x'), 64, &problem);
             step.changes.push_back({static_cast<std::uint32_t>(random() % kFramesFormat.tiles()), tile});
         }
+        const auto keep = [](const StackChange<QString>& stack) {
+            return StackChange<QString>{0, stack.added.size(), {}};
+        };
+        JournalState now{{}, keep(state.undo), keep(state.redo), state.current, {}};
         if (random() % 4 == 0 && !state.current.isEmpty()) {
-            journal.appendPresent({state.current, step.changes}, &problem);
+            now.present = {state.current, step.changes};
+            journal.appendState(now, &problem);
             continue;
         }
         if (!state.current.isEmpty()) {
-            (random() % 3 == 0 ? state.redo : state.undo).append(state.current);
+            const auto stack = random() % 3 == 0 ? &JournalState::redo : &JournalState::undo;
+            (state.*stack).added.push_back(state.current);
+            (now.*stack).added.push_back(state.current);
         }
-        state.current = step.name;
-        JournalState now = state;
         now.steps = {step};
+        now.current = step.name;
         if (journal.appendState(now, &problem)) {
+            state.current = step.name;
             state.steps.push_back(step);
         }
     }

@@ -62,7 +62,7 @@ BRUSH_PROPERTY(bool, smudgeControl, SmudgeControl, .group = BrushGroup::smudge, 
 BRUSH_PROPERTY(float, smudgeControlValue, SmudgeControlValue, .group = BrushGroup::smudge, .presetId = 0x100C,
                .created = 25, .low = 1,
                .about = "Length of that ramp, in dabs.")
-BRUSH_PROPERTY(float, bristles, Bristles, .group = BrushGroup::smudge, .presetId = 0x9006, .reset = 0,
+BRUSH_PROPERTY(float, bristles, Bristles, .group = BrushGroup::smudge, .presetId = 0xA006, .reset = 0,
                .created = 0, .low = 0, .high = 1,
                .about = "How far the bristles of a smudge brush carry colour along the stroke, each its own: 0 "
                         "what lay under the dab before alone, 1 what they hold, at first loadQuantity of the "

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/CanvasHistory.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <new>
 #include <utility>
 #include <vector>
@@ -48,24 +50,21 @@ Pictures picturesOf(const JournalContents& contents, const TileStore& tiles) {
     return pictures;
 }
 
-HistoryMoment momentOf(const JournalContents& contents, const Pictures& pictures) {
+HistoryChange historyOf(const JournalContents& contents, const Pictures& pictures) {
     const auto step = [&](int index) {
         const auto at = static_cast<std::size_t>(index);
-        return HistoryMoment::Step{contents.steps[at].name, pictures[at]};
+        return HistoryChange::Step{contents.steps[at].name, pictures[at]};
     };
-    HistoryMoment moment;
-    for (const int index : contents.undo) {
-        moment.undo.push_back(step(index));
-    }
+    const auto steps = [&](const std::vector<int>& stack) {
+        StackChange<HistoryChange::Step> all;
+        std::transform(stack.begin(), stack.end(), std::back_inserter(all.added), step);
+        return all;
+    };
     const bool hasCurrent =
         contents.current >= 0 && !contents.steps[static_cast<std::size_t>(contents.current)].name.isEmpty();
-    moment.present = pictures[static_cast<std::size_t>(contents.present)];
-    moment.current =
-        hasCurrent ? step(contents.current) : HistoryMoment::Step{Tools::dateString(), moment.present};
-    for (const int index : contents.redo) {
-        moment.redo.push_back(step(index));
-    }
-    return moment;
+    auto present = pictures[static_cast<std::size_t>(contents.present)];
+    auto current = hasCurrent ? step(contents.current) : HistoryChange::Step{Tools::dateString(), present};
+    return {steps(contents.undo), steps(contents.redo), std::move(current), std::move(present)};
 }
 
 }  // namespace
@@ -234,6 +233,7 @@ bool CanvasHistory::keep(bool keeps, QString* problem) {
         return false;
     }
     images(_record.isGiven());
+    _images->endWritingDown();
     _record.tiles()->keepIn(std::move(folder));
     note();
     return true;
@@ -243,9 +243,14 @@ void CanvasHistory::note() {
     if (!isKept() || _images == nullptr) {
         return;
     }
-    HistoryMoment moment = _images->moment();
-    moment.present = _record.present();
-    _record.tiles()->note(std::move(moment), UndoRecovery::syncs());
+    QString problem;
+    TileStore& tiles = *_record.tiles();
+    if (!tiles.holdsFolder()) {
+        if (auto folder = startKeptHistory(&problem)) {
+            tiles.keepIn(std::move(folder));
+        }
+    }
+    _images->writeDown(_record.present());
 }
 
 bool CanvasHistory::recover(const QString& id, QString* problem) {
@@ -270,7 +275,7 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
                            .arg(contents->format.pixelBytes * 2);
             return refuse();
         }
-        images(false);
+        images(false).endWritingDown();
         _layers.settle();
         _record.startAnew();
         _images->keepTilesIn(_record.tiles());
@@ -278,12 +283,12 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
             return refuse();
         }
         const auto pictures = picturesOf(*contents, *_record.tiles());
-        const HistoryMoment moment = momentOf(*contents, pictures);
+        const HistoryChange history = historyOf(*contents, pictures);
         if (!_record.show(StepPicture(pictures[static_cast<std::size_t>(contents->present)]), problem)) {
             return refuse();
         }
-        _images->become(moment);
-        _layers.edits.setBoth(moment.current.picture != moment.present);
+        _images->become(history);
+        _layers.edits.setBoth(history.current.picture != history.present);
     } catch (const std::bad_alloc&) {
         *problem = QStringLiteral("there is no memory for it");
         return refuse();

@@ -43,7 +43,7 @@ public:
     // Kept, the history outlives the process, see UndoRecovery.h. False, and `problem` in words, where it cannot.
     bool isKept() const { return _record.tiles()->isKept(); }
     bool keep(bool keeps, QString* problem);
-    // Has written down what the history and the canvas are now, where it is kept.
+    // Has written down what the history and the canvas have become, where it is kept.
     void note();
     // Canvas and history become what another process left. False, and `problem` in words, where they cannot; the canvas is
     // as it was then.

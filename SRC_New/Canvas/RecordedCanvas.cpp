@@ -183,11 +183,13 @@ std::optional<Rect> RecordedCanvas::restore(const Rect& area) {
         std::optional<Rect>());
 }
 
-// False when the tile cannot be had.
+// False when the tile cannot be had. One that lies in many places, as a colour does that fills the canvas, is had once.
 bool RecordedCanvas::place(const TilePicture& picture, std::size_t index, std::vector<PlacedTile>& placed,
                            QString* problem) {
     const TileRef& tile = picture.at(index);
-    placed.push_back({index, tile ? pixelsOf(*tile, problem) : nullptr});
+    const bool isLast = !placed.empty() && picture.at(placed.back().index) == tile;
+    SharedTile pixels = !tile ? nullptr : isLast ? placed.back().tile : pixelsOf(*tile, problem);
+    placed.push_back({index, std::move(pixels)});
     return !tile || placed.back().tile;
 }
 

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QThread>
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -97,6 +98,7 @@ void ImagesUndoManager::writeData(const QByteArray& data, const QString& path) {
     }
     const QString name = nameOfPath(path);
     if (data.isNull()) {
+        replaced(name);
         SnapshotStore::Task task = _store.replaceFile(name, path, nullptr);
         startWrite(task ? std::move(task) : _store.remove({name}, [path](const QString&) { return path; }));
         return;
@@ -120,6 +122,7 @@ void ImagesUndoManager::writeImage(const QImage& image, const QString& path) {
 
 void ImagesUndoManager::putIntoFile(const QString& name, const QString& path,
                                     const std::shared_ptr<Snapshot>& image) {
+    replaced(name);
     SnapshotStore::Task task = _store.replaceFile(name, path, image);
     startWrite(task ? std::move(task) : _store.write(name, path, image));
 }
@@ -127,6 +130,7 @@ void ImagesUndoManager::putIntoFile(const QString& name, const QString& path,
 void ImagesUndoManager::removeImageWithNames(const QStringList& names) {
     const std::lock_guard lock(_operation);
     if (!names.isEmpty()) {
+        std::for_each(names.begin(), names.end(), [this](const QString& name) { replaced(name); });
         asynOperator(_store.remove(names, [this](const QString& name) { return pathWithName(name); }));
     }
 }
@@ -140,6 +144,7 @@ void ImagesUndoManager::clearAllTempFiles() {
             folder->restore();
         });
     }
+    endWritingDown();  // what is kept is not to be emptied when the application ends
     reset();
 }
 

@@ -9,6 +9,7 @@
 #include "History/StepJournal.h"
 #include "History/TempFolder.h"
 #include "History/TileStore.h"
+#include "History/UndoRecovery.h"
 #include "Maths/Tools.h"
 
 using namespace dabcanvas;
@@ -33,6 +34,19 @@ constexpr qint64 fileOf(qint64 budget) {
 
 }  // namespace
 
+// While a canvas changes its history, and where that ends.
+class ImagesUndoManager::Busy {
+public:
+    explicit Busy(ImagesUndoManager& history)
+        : _history(history), _before(std::exchange(history._isBusy, true)) {}
+    ~Busy() { _history._isBusy = _before; }
+    Q_DISABLE_COPY_MOVE(Busy)
+
+private:
+    ImagesUndoManager& _history;
+    const bool _before;
+};
+
 void ImagesUndoManager::keepTilesIn(std::shared_ptr<TileStore> tiles) {
     const std::lock_guard lock(_operation);
     _tiles = std::move(tiles);
@@ -46,10 +60,11 @@ bool ImagesUndoManager::isOwn(const StepPicture& picture) const {
 }
 
 bool ImagesUndoManager::addItemWithPicture(const StepPicture& picture) {
+    const std::lock_guard lock(_operation);
+    const Busy busy(*this);
     if (!isOwn(picture)) {
         return addItemWithImageData(picture);
     }
-    const std::lock_guard lock(_operation);
     beginItem();
     _store.cache(currentStringItem(), std::make_shared<Snapshot>(picture));
     keepToBudgets();
@@ -58,6 +73,7 @@ bool ImagesUndoManager::addItemWithPicture(const StepPicture& picture) {
 
 bool ImagesUndoManager::resetWithPictureOfCurrentItem(const StepPicture& picture) {
     const std::lock_guard lock(_operation);
+    const Busy busy(*this);
     if (!isOwn(picture)) {
         return resetWithImageDataOfCurrentItem(picture);
     }
@@ -84,28 +100,54 @@ bool ImagesUndoManager::redoAtOnce() {
 
 // ---- As a whole
 
-HistoryMoment ImagesUndoManager::moment() const {
-    const std::lock_guard lock(_operation);
+HistoryChange ImagesUndoManager::takeChange(bool all) {
     const auto step = [this](const QString& name) {
-        return HistoryMoment::Step{name, _store.step(name).tiles()};
+        return HistoryChange::Step{name, _store.step(name).tiles()};
     };
-    HistoryMoment moment;
-    for (const QString& name : undoItems()) {
-        moment.undo.push_back(step(name));
+    const auto steps = [&](const StackChange<QString>& names) {
+        StackChange<HistoryChange::Step> change{names.dropped, names.kept, {}};
+        std::transform(names.added.begin(), names.added.end(), std::back_inserter(change.added), step);
+        return change;
+    };
+    Changes changes = takeChanges();
+    if (std::exchange(_picturesChanged, false) || all) {
+        const QStringList undo = undoItems(), redo = redoItems();
+        changes.undo = {0, 0, {undo.begin(), undo.end()}};
+        changes.redo = {0, 0, {redo.begin(), redo.end()}};
     }
-    moment.current = step(currentStringItem());
-    for (const QString& name : redoItems()) {
-        moment.redo.push_back(step(name));
-    }
-    std::reverse(moment.redo.begin(), moment.redo.end());
-    return moment;
+    return {steps(changes.undo), steps(changes.redo), step(changes.current), nullptr};
 }
 
-void ImagesUndoManager::become(const HistoryMoment& moment) {
+void ImagesUndoManager::writeDown(std::shared_ptr<const TilePicture> present) {
     const std::lock_guard lock(_operation);
-    auto steps = moment.undo;
-    steps.push_back(moment.current);
-    steps.insert(steps.end(), moment.redo.begin(), moment.redo.end());
+    HistoryChange change = takeChange(!std::exchange(_writesDown, true));
+    change.present = std::move(present);
+    _tiles->note(std::move(change), UndoRecovery::syncs());
+}
+
+void ImagesUndoManager::endWritingDown() {
+    const std::lock_guard lock(_operation);
+    _writesDown = false;
+}
+
+void ImagesUndoManager::tell() {
+    if (_writesDown && !_isBusy) {
+        writeDown(nullptr);
+    }
+}
+
+// Which is told with what became of the stacks where it is the current one's alone.
+void ImagesUndoManager::replaced(const QString& name) {
+    const bool isCurrent = name == currentStringItem();
+    _picturesChanged = _picturesChanged || usesOf(name) > (isCurrent ? 1 : 0);
+}
+
+void ImagesUndoManager::become(const HistoryChange& all) {
+    const std::lock_guard lock(_operation);
+    const Busy busy(*this);
+    auto steps = all.undo.added;
+    steps.push_back(all.current);
+    steps.insert(steps.end(), all.redo.added.rbegin(), all.redo.added.rend());
     const unsigned most = undoStepCount();
     UndoManager::setUndoStepCount(static_cast<unsigned>(steps.size()));  // while all of them are to be undone
     resetWithCurrentItem(steps.front().name);
@@ -117,10 +159,10 @@ void ImagesUndoManager::become(const HistoryMoment& moment) {
             _store.cache(steps[i].name, std::make_shared<Snapshot>(StepPicture(steps[i].picture)));
         }
     }
-    for (std::size_t i = 0; i < moment.redo.size(); ++i) {
+    for (std::size_t i = 0; i < all.redo.added.size(); ++i) {
         stepAnyway(Way::back);
     }
-    UndoManager::setUndoStepCount(std::max(most, static_cast<unsigned>(moment.undo.size())));
+    UndoManager::setUndoStepCount(std::max(most, static_cast<unsigned>(all.undo.added.size())));
 }
 
 // ---- Budgets
@@ -134,6 +176,7 @@ void ImagesUndoManager::setCacheByteBudget(qint64 bytes) {
     const std::lock_guard lock(_operation);
     _cacheByteBudget = std::max<qint64>(bytes, 0);
     keepToBudgets();
+    tell();
 }
 
 qint64 ImagesUndoManager::diskByteBudget() const {
@@ -148,6 +191,7 @@ void ImagesUndoManager::setDiskByteBudget(qint64 bytes) {
         _tiles->setFileBytes(fileOf(_diskByteBudget));
     }
     keepToBudgets();
+    tell();
 }
 
 qint64 ImagesUndoManager::cachedBytes() const {
@@ -186,16 +230,14 @@ void ImagesUndoManager::relieve(qint64 most) {
 
 // The oldest, and where there are only undone ones, the one undone first.
 bool ImagesUndoManager::dropFarthest() {
-    const QStringList undo = undoItems(), redo = redoItems();
-    if (!undo.isEmpty()) {
-        dropOldestUndoItem();
+    if (canUndo()) {
+        letGoOfUnused({dropOldestUndoItem()});
         ++_stepsDropped;
-    } else if (!redo.isEmpty()) {
-        dropLastRedoItem();
+    } else if (canRedo()) {
+        letGoOfUnused({dropLastRedoItem()});
     } else {
         return false;
     }
-    letGoOfUnused({undo.isEmpty() ? redo.first() : undo.first()});
     return true;
 }
 

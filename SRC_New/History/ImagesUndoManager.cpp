@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "Brushes/ImageData.h"
@@ -84,6 +85,7 @@ ImagesUndoManager::~ImagesUndoManager() {
         _quitting->history = nullptr;
     }
     QObject::disconnect(_quitting->connection);
+    endWritingDown();
     reset();
     // What is still to be written is not wanted any more; deleting it is quicker than waiting for it.
     removeImageWithNames(_store.names());
@@ -106,10 +108,8 @@ bool ImagesUndoManager::addItemWithImageData(const QByteArray& data) {
 }
 
 void ImagesUndoManager::beginItem() {
-    const QStringList items = undoItems();
-    if (!items.isEmpty() && static_cast<std::uint64_t>(items.size()) >= undoStepCount()) {
-        dropOldestUndoItem();
-        letGoOfUnused({items.first()});
+    if (canUndo() && static_cast<std::uint64_t>(undoCount()) >= undoStepCount()) {
+        letGoOfUnused({dropOldestUndoItem()});
     }
     QString name = Tools::dateString();
     while (!_store.step(name).isNull() || _store.has(name, {})) {
@@ -142,6 +142,7 @@ bool ImagesUndoManager::setCurrentItemWithImage(const QImage& image) {
     if (pathWithName(name).isNull()) {
         return setCurrentItemWithImageData(UIImagePNGRepresentation(image));  // there is no file
     }
+    replaced(name);
     startWrite(_store.write(name, pathWithName(name), std::make_shared<Snapshot>(image)));
     return true;
 }
@@ -161,6 +162,7 @@ bool ImagesUndoManager::resetWithImageOfCurrentItem(const QImage& image) {
 void ImagesUndoManager::keepCurrent(const QByteArray& data) {
     const QString name = currentStringItem();
     const QString path = pathWithName(name);
+    replaced(name);
     if (_maxCacheCount == 0 && !path.isNull()) {
         startWrite(_store.write(name, path, std::make_shared<Snapshot>(data)));
         return;
@@ -206,39 +208,45 @@ QString ImagesUndoManager::currentPathOfItem() const {
 
 bool ImagesUndoManager::addItemWithString(const QString& item) {
     const std::lock_guard lock(_operation);
-    const QStringList before = undoItems();
-    const QStringList redone = redoItems();
-    if (!UndoManager::addItemWithString(item)) {
-        return false;
-    }
-    QStringList dropped = redone;
-    if (!before.isEmpty() && undoItems().size() <= before.size()) {
-        dropped.append(before.first());
-    }
+    QStringList dropped;
+    const bool added = addItem(item, &dropped);
     letGoOfUnused(dropped);
-    return true;
+    tell();
+    return added;
+}
+
+void ImagesUndoManager::setCurrentItem(const QString& item) {
+    const std::lock_guard lock(_operation);
+    UndoManager::setCurrentItem(item);
+    tell();
 }
 
 bool ImagesUndoManager::undo() {
     const std::lock_guard lock(_operation);
-    return UndoManager::undo();
+    const bool done = UndoManager::undo();
+    tell();
+    return done;
 }
 
 bool ImagesUndoManager::redo() {
     const std::lock_guard lock(_operation);
-    return UndoManager::redo();
+    const bool done = UndoManager::redo();
+    tell();
+    return done;
 }
 
 void ImagesUndoManager::clearUndoItems() {
     const std::lock_guard lock(_operation);
     removeImageWithNames(undoItems());
     UndoManager::clearUndoItems();
+    tell();
 }
 
 void ImagesUndoManager::clearRedoItems() {
     const std::lock_guard lock(_operation);
     removeImageWithNames(redoItems());
     UndoManager::clearRedoItems();
+    tell();
 }
 
 void ImagesUndoManager::reset() {
@@ -255,16 +263,9 @@ void ImagesUndoManager::resetWithCurrentItem(const QString& item) {
 
 // Items set by hand may stand in several places at once.
 void ImagesUndoManager::letGoOfUnused(const QStringList& names) {
-    if (names.isEmpty()) {
-        return;
-    }
-    const QStringList used = undoItems() + redoItems() + QStringList(currentStringItem());
     QStringList unused;
-    for (const QString& name : names) {
-        if (!used.contains(name)) {
-            unused.append(name);
-        }
-    }
+    std::copy_if(names.begin(), names.end(), std::back_inserter(unused),
+                 [this](const QString& name) { return usesOf(name) == 0; });
     removeImageWithNames(unused);
 }
 

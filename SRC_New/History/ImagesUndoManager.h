@@ -33,8 +33,9 @@
 namespace dabcanvas {
 class BackgroundQueue;
 class TempFolder;
+class TilePicture;
 class TileStore;
-struct HistoryMoment;
+struct HistoryChange;
 }  // namespace dabcanvas
 
 class DABCANVAS_CANVAS_API ImagesUndoManager : public UndoManager {
@@ -73,6 +74,7 @@ public:
 
     // These let go of the images of the names that are dropped.
     bool addItemWithString(const QString& item) override;
+    void setCurrentItem(const QString& item) override;
     bool undo() override;
     bool redo() override;
     // The same while files are being written: the images are in memory so long.
@@ -112,9 +114,12 @@ public:
     // memory, at most 1 GiB, and 4 GiB.
     void keepTilesIn(std::shared_ptr<dabcanvas::TileStore> tiles);
     void keepToBudgets();  // as it does when what it shows has changed
-    // The steps with their pictures, and making them the history.
-    dabcanvas::HistoryMoment moment() const;
-    void become(const dabcanvas::HistoryMoment& moment);
+    // Has what became of the steps written down by their tiles' journal, the first time what they are, and from then on what a
+    // host does to them by itself, too. present: the canvas; null: as it was.
+    void writeDown(std::shared_ptr<const dabcanvas::TilePicture> present);
+    void endWritingDown();
+    // The history becomes these steps, all of them.
+    void become(const dabcanvas::HistoryChange& steps);
     // Puts the cached image farthest from the current step into its file.
     void removeOneObjectFromCache();
     // Two of them, and fewer from then on; and half of what a canvas's steps take.
@@ -157,6 +162,7 @@ protected:
 
 private:
     struct Quitting;
+    class Busy;
 
     bool isMainThread() const;
     void startFolder();
@@ -175,6 +181,9 @@ private:
     void pack(const std::shared_ptr<dabcanvas::Snapshot>& image);
     QString nameOfPath(const QString& path) const;
     void letGoOfUnused(const QStringList& names);
+    void replaced(const QString& name);
+    dabcanvas::HistoryChange takeChange(bool all);
+    void tell();
     void letGoOfOthers();
 
     mutable std::recursive_mutex _operation;  // one call at a time; the tasks in the background never take it
@@ -185,6 +194,8 @@ private:
     qint64 _cacheByteBudget = 0, _diskByteBudget = 0;
     bool _dropsSteps = true;
     unsigned _stepsDropped = 0;
+    bool _picturesChanged = false;              // of steps that takeChange() told before
+    bool _writesDown = false, _isBusy = false;  // with a change that is written down as one
     std::shared_ptr<dabcanvas::TileStore> _tiles;
     dabcanvas::SnapshotStore _store;
     std::shared_ptr<Quitting> _quitting;

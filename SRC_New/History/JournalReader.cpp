@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "History/JournalScan.h"
+#include "History/JournalStacks.h"
 #include "History/SegmentFile.h"
 
 namespace dabcanvas {
@@ -29,23 +30,15 @@ private:
         std::uint32_t child = kNone, sibling = kNone;  // who is based on it; the next one on the same base
         bool whole = false, needed = false;
     };
-    struct Entry {
-        std::uint64_t serial = 0;
-        QString name;
-    };
-
     void takeTile(const RecordHead& head, const JournalSegment& segment, std::uint32_t offset);
-    void take(const RecordHead& head, const char* payload);
     void takeStep(RecordParser& parser);
-    void takeStacks(RecordParser& parser);
-    void takePresent(RecordParser& parser);
-    void takeCanvas(RecordParser& parser, std::int64_t time);
-    bool takeEntry(RecordParser& parser, Entry* entry);
+    void takeStacks(RecordParser& parser, const TilePlace& place);
+    void takeCanvas(RecordParser& parser);
     std::optional<int> addNode(RecoveredStep step, std::uint64_t base);
     void note(std::uint64_t serial) { _contents.lastSerial = std::max(_contents.lastSerial, serial); }
 
     void findWhole();
-    int wholeNodeOf(const Entry& entry);
+    int wholeNodeOf(const JournalEntry& entry);
     void choosePosition();
     int latestWhole() const;
     void emitNeeded();
@@ -56,8 +49,7 @@ private:
     std::vector<char> _payload;
     std::vector<Node> _nodes;
     std::unordered_map<std::uint64_t, int> _bySerial;
-    std::vector<Entry> _undo, _redo;
-    Entry _current;
+    ReadStacks _stacks;
     int _present = -1;
     std::uint32_t _firstRoot = kNone;
 };
@@ -70,7 +62,12 @@ void Assembly::read(const JournalSegment& segment) {
         if (found->head.type == RecordType::tile) {
             takeTile(found->head, segment, found->offset);
         } else if (scan.readPayload(*found, &_payload)) {
-            take(found->head, _payload.data());
+            RecordParser parser(_payload.data(), _payload.size());
+            if (found->head.type == RecordType::step) {
+                takeStep(parser);
+            } else if (found->head.type == RecordType::stacks) {
+                takeStacks(parser, {segment.number, found->offset, 0, 0});
+            }
         }
     }
 }
@@ -95,20 +92,6 @@ void Assembly::takeTile(const RecordHead& head, const JournalSegment& segment, s
     }
 }
 
-void Assembly::take(const RecordHead& head, const char* payload) {
-    RecordParser parser(payload, head.length);
-    switch (head.type) {
-        case RecordType::step:
-            return takeStep(parser);
-        case RecordType::stacks:
-            return takeStacks(parser);
-        case RecordType::present:
-            return takePresent(parser);
-        default:
-            return;
-    }
-}
-
 void Assembly::takeStep(RecordParser& parser) {
     RecoveredStep step;
     std::uint64_t base = 0;
@@ -125,19 +108,22 @@ void Assembly::takeStep(RecordParser& parser) {
     }
 }
 
-void Assembly::takePresent(RecordParser& parser) {
+// And the rest of the record, which may tell the canvas.
+void Assembly::takeStacks(RecordParser& parser, const TilePlace& place) {
     std::int64_t time = 0;
-    if (parser.take(&time)) {
-        takeCanvas(parser, time);
+    const bool taken = _stacks.take(parser, place, &time);
+    note(_stacks.lastSerial());
+    if (taken) {
+        _contents.lastRecord = std::max(_contents.lastRecord, time);
+        _present = -1;
+        takeCanvas(parser);
     }
 }
 
-// The rest of a record, which tells the canvas.
-void Assembly::takeCanvas(RecordParser& parser, std::int64_t time) {
+void Assembly::takeCanvas(RecordParser& parser) {
     RecoveredStep step;
     std::uint64_t base = 0;
     if (parser.take(&base) && parser.take(&step.changes, _contents.format) && parser.isDone()) {
-        _contents.lastRecord = std::max(_contents.lastRecord, time);
         _present = addNode(std::move(step), base).value_or(-1);
     }
 }
@@ -161,35 +147,6 @@ std::optional<int> Assembly::addNode(RecoveredStep step, std::uint64_t base) {
     node.step = std::move(step);
     _nodes.push_back(std::move(node));
     return static_cast<int>(number);
-}
-
-bool Assembly::takeEntry(RecordParser& parser, Entry* entry) {
-    const bool taken = parser.take(&entry->serial) && parser.take(&entry->name);
-    note(taken ? entry->serial : 0);
-    return taken;
-}
-
-void Assembly::takeStacks(RecordParser& parser) {
-    std::int64_t time = 0;
-    std::uint32_t undoCount = 0, redoCount = 0;
-    std::vector<Entry> undo, redo;
-    Entry current;
-    bool sound = parser.take(&time) && parser.take(&undoCount) && parser.take(&redoCount);
-    for (std::uint32_t i = 0; sound && i < undoCount; ++i) {
-        sound = takeEntry(parser, &undo.emplace_back());
-    }
-    sound = sound && takeEntry(parser, &current);
-    for (std::uint32_t i = 0; sound && i < redoCount; ++i) {
-        sound = takeEntry(parser, &redo.emplace_back());
-    }
-    if (sound) {
-        _contents.lastRecord = std::max(_contents.lastRecord, time);
-        _undo = std::move(undo);
-        _redo = std::move(redo);
-        _current = std::move(current);
-        _present = -1;
-        takeCanvas(parser, time);  // if it tells one
-    }
 }
 
 // ---- What is whole
@@ -233,7 +190,7 @@ void Assembly::findWhole() {
     }
 }
 
-int Assembly::wholeNodeOf(const Entry& entry) {
+int Assembly::wholeNodeOf(const JournalEntry& entry) {
     const auto found = _bySerial.find(entry.serial);
     if (entry.serial == 0 || found == _bySerial.end() ||
         !_nodes[static_cast<std::size_t>(found->second)].whole) {
@@ -249,24 +206,24 @@ int Assembly::latestWhole() const {
 
 // Where the current step is lost, the one before it takes its place; else the one after it, or whatever there is.
 void Assembly::choosePosition() {
-    const auto wholeOf = [&](const std::vector<Entry>& entries, std::vector<int>* result) {
-        for (const Entry& entry : entries) {
+    const auto wholeOf = [&](const std::deque<JournalEntry>& entries, std::vector<int>* result) {
+        for (const JournalEntry& entry : entries) {
             const int node = wholeNodeOf(entry);
             if (node >= 0) {
                 result->push_back(node);
             }
         }
     };
-    wholeOf(_undo, &_contents.undo);
-    wholeOf(_redo, &_contents.redo);
-    _contents.current = wholeNodeOf(_current);
+    wholeOf(_stacks.undo(), &_contents.undo);
+    wholeOf(_stacks.redo(), &_contents.redo);
+    _contents.current = wholeNodeOf(_stacks.current());
     _contents.present = _present >= 0 && _nodes[static_cast<std::size_t>(_present)].whole ? _present : -1;
     if (_contents.current < 0 && !_contents.undo.empty()) {
         _contents.current = _contents.undo.back();
         _contents.undo.pop_back();
     } else if (_contents.current < 0 && !_contents.redo.empty()) {
-        _contents.current = _contents.redo.front();
-        _contents.redo.erase(_contents.redo.begin());
+        _contents.current = _contents.redo.back();
+        _contents.redo.pop_back();
     } else if (_contents.current < 0) {
         _contents.current = _contents.present >= 0 ? _contents.present : latestWhole();
     }
@@ -386,6 +343,12 @@ std::optional<JournalContents> readJournal(const QString& folder, TileCheck chec
     }
     assembly.finish();
     return contents;
+}
+
+bool isBarren(const QString& folder) {
+    QString problem;
+    const auto contents = readJournal(folder, TileCheck::heads, &problem);
+    return contents ? contents->present < 0 : !mayHoldJournal(folder);
 }
 
 }  // namespace dabcanvas

@@ -39,7 +39,7 @@ struct JournalContents {
         0;  // milliseconds since 1970, when the last step or change of the stacks was appended
 
     std::vector<RecoveredStep> steps;  // each after its base
-    std::vector<int> undo, redo;       // steps: the oldest first, as in JournalState
+    std::vector<int> undo, redo;       // steps, the one nearest to the current one last
     int current = -1;  // the step before the present, where that itself is lost; -1: none is left
     int present = -1;  // the canvas; the current step, where it was no other or is lost
     std::unordered_map<std::uint64_t, TilePlace> tiles;  // all that the steps name
@@ -62,5 +62,9 @@ enum class TileCheck {
 
 // None when there is no journal in the folder, of which `problem` tells.
 std::optional<JournalContents> readJournal(const QString& folder, TileCheck check, QString* problem);
+
+// Whether nobody will ever find a step or a canvas there: its process died before it wrote one, or all is damaged. Journals
+// of other versions, and those that cannot be opened now, may hold some.
+bool isBarren(const QString& folder);
 
 }  // namespace dabcanvas

@@ -108,7 +108,7 @@ bool RecordParser::take(std::vector<TileChange>* changes, const JournalFormat& f
 std::optional<RecordHead> headOf(const char* bytes, const RecordPlace& place) {
     const auto mark = numberAt<std::uint32_t>(bytes);
     const auto type = static_cast<RecordType>(mark & 0xFF);
-    if ((mark & ~0xFFu) != kMark || type < RecordType::segment || type > RecordType::present) {
+    if ((mark & ~0xFFu) != kMark || type < RecordType::segment || type > RecordType::stacks) {
         return {};
     }
     const std::uint64_t seed = seedOf(bytes, place);
@@ -154,6 +154,12 @@ std::optional<SegmentHead> segmentHeadOf(const char* bytes) {
     result.format = {{width, height}, pixelBytes};
     const bool known = parser.isDone() && version == kJournalVersion && tileSide == kTileSide;
     return known && result.format.isSound() && result.segment != 0 ? std::optional(result) : std::nullopt;
+}
+
+bool beginsSegment(const char* bytes, std::size_t size) {
+    const auto head = size < kRecordHead ? std::nullopt : headOf(bytes, kSegmentHead);
+    return head && head->type == RecordType::segment && head->length <= size - kRecordHead &&
+           isWhole(*head, bytes + kRecordHead);
 }
 
 QString segmentName(std::uint32_t number) {

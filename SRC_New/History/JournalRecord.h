@@ -59,12 +59,12 @@ struct TileChange {
 
 // ---- Its records
 
-enum class RecordType : std::uint8_t { segment = 1, tile, step, stacks, present };
+enum class RecordType : std::uint8_t { segment = 1, tile, step, stacks };
 
 inline constexpr std::uint32_t kRecordHead = 20;
 inline constexpr std::uint32_t kTileHead = 10;  // of a tile's payload: its id and its size unpacked
 inline constexpr std::uint32_t kMostRecord = 64 << 20;
-inline constexpr std::uint32_t kJournalVersion = 1;
+inline constexpr std::uint32_t kJournalVersion = 2;
 inline constexpr std::uint32_t kMostNameBytes = 1 << 16;
 
 struct RecordPlace {
@@ -153,6 +153,8 @@ RecordWriter recordOf(const SegmentHead& head);
 inline constexpr std::uint32_t kSegmentHeadBytes = kRecordHead + 40;
 // Of kSegmentHeadBytes; none for another version, too.
 std::optional<SegmentHead> segmentHeadOf(const char* bytes);
+// Whether these begin with one, of whatever version.
+bool beginsSegment(const char* bytes, std::size_t size);
 
 QString segmentName(std::uint32_t number);
 std::uint32_t numberOfSegment(const QString& name);  // 0 for another file's

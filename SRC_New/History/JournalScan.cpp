@@ -2,6 +2,8 @@
 #include "History/JournalScan.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <unordered_map>
 
@@ -80,6 +82,17 @@ bool openJournal(const QString& folder, JournalContents* contents, QString* prob
         }
     }
     return true;
+}
+
+bool mayHoldJournal(const QString& folder) {
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    return !QFileInfo(folder).isReadable() ||
+           std::any_of(files.begin(), files.end(), [](const QFileInfo& info) {
+               char head[4096];
+               QFile file(info.filePath());
+               const qint64 size = file.open(QIODevice::ReadOnly) ? file.read(head, sizeof head) : -1;
+               return size < 0 || beginsSegment(head, static_cast<std::size_t>(size));
+           });
 }
 
 std::optional<JournalScan::Found> JournalScan::foundAt(const char* bytes, std::int64_t offset) const {

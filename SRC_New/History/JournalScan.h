@@ -15,6 +15,9 @@ namespace dabcanvas {
 // and why, without one segment that can be read, and where there are too many for now: a part would be taken for all.
 bool openJournal(const QString& folder, JournalContents* contents, QString* problem);
 
+// Whether a file there looks like a segment, of whatever version, or cannot be looked at.
+bool mayHoldJournal(const QString& folder);
+
 class JournalScan {
 public:
     JournalScan(const JournalSegment& segment, std::uint64_t journal)

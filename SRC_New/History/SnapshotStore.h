@@ -102,6 +102,7 @@ private:
 
     Record& cached(const QString& name, std::shared_ptr<Snapshot> image);
     void uncache(Record& record);
+    void enter(Record& record, const QString& name);
     Task writing(const QString& name, Record& record, bool mayReturn);
     void runWrite(const QString& name, std::uint64_t ticket, bool mayReturn);
     bool writeFile(const QString& name, std::uint64_t ticket, const QString& path, const QByteArray& data);
@@ -117,6 +118,7 @@ private:
     mutable std::mutex _mutex;  // everything below; never held while files are read or written
     QHash<QString, Record> _records;
     std::map<std::uint64_t, QString> _order;
+    std::map<std::uint64_t, QString> _images;  // of these, all but what a canvas keeps account of
     std::uint64_t _lastPlace = 0;
     std::uint64_t _lastTicket = 0;
     bool _saidFull = false;

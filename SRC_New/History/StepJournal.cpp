@@ -10,65 +10,140 @@ namespace {
 
 constexpr qsizetype kMostName = 1 << 14;  // a journal takes longer ones for nothing
 
-bool isWritable(const HistoryMoment::Step& step) {
+bool isWritable(const HistoryChange::Step& step) {
     return step.picture && !step.name.isEmpty() && step.name.size() <= kMostName;
+}
+
+// Null for one that is not: a step of its name may have been.
+QString nameOf(const HistoryChange::Step& step) {
+    return isWritable(step) ? step.name : QString();
+}
+
+StackChange<QString> namesOf(const StackChange<HistoryChange::Step>& stack) {
+    StackChange<QString> names{stack.dropped, stack.kept, {}};
+    std::transform(stack.added.begin(), stack.added.end(), std::back_inserter(names.added), nameOf);
+    return names;
 }
 
 }  // namespace
 
-bool StepJournal::write(const HistoryMoment& moment, TileJournal& journal, QString* problem) {
-    const auto state = changes(moment, _written, problem);
-    if (!state || !journal.appendState(*state, problem)) {
-        _written.clear();
-        return false;
+void HistoryChange::then(HistoryChange next) {
+    undo.then(std::move(next.undo));
+    redo.then(std::move(next.redo));
+    current = std::move(next.current);
+    if (next.present) {
+        present = std::move(next.present);
     }
-    _last = moment;  // what only the one before held goes now, that the journal does without it
-    _written.clear();
-    const auto note = [&](const HistoryMoment::Step& step) { _written.insert(step.name, step.picture); };
-    std::for_each(moment.undo.begin(), moment.undo.end(), note);
-    note(moment.current);
-    std::for_each(moment.redo.begin(), moment.redo.end(), note);
-    return true;
+}
+
+bool StepJournal::write(HistoryChange change, TileJournal& journal, QString* problem) {
+    if (!change.present) {
+        change.present = _present;
+    }
+    if (!_isTold) {
+        HistoryChange whole = all();
+        whole.then(std::move(change));
+        change = std::move(whole);
+        _undo.clear();
+        _redo.clear();
+        _current = {};
+    }
+    const auto state = told(change, _written, problem);
+    const bool done = state && journal.appendState(*state, problem);
+    if (!done && _isTold) {
+        std::transform(_written.cbegin(), _written.cend(), std::back_inserter(_owned),
+                       [](const Written& step) { return step.picture; });
+        _owned.push_back(std::exchange(_present, nullptr));
+        _written.clear();
+    }
+    apply(change, done);
+    _isTold = done;
+    return done;
+}
+
+HistoryChange StepJournal::all() const {
+    return {{0, 0, {_undo.begin(), _undo.end()}}, {0, 0, {_redo.begin(), _redo.end()}}, _current, _present};
 }
 
 std::optional<JournalState> StepJournal::whole() const {
     QString problem;
-    return _last ? changes(*_last, {}, &problem) : std::nullopt;
+    return _isTold ? told(all(), {}, &problem) : std::nullopt;
+}
+
+void StepJournal::forget() {
+    _undo.clear();
+    _redo.clear();
+    _current = {};
+    _present.reset();
+    _written.clear();
+    _owned.clear();
+    _isTold = false;
+}
+
+// What is written of it stays as it was until the journal tells something else.
+void StepJournal::apply(const HistoryChange& change, bool isWritten) {
+    std::vector<QString> gone{_current.name};
+    const auto let = [&](const Step& step) { gone.push_back(step.name); };
+    change.undo.applyTo(_undo, let);
+    change.redo.applyTo(_redo, let);
+    _current = change.current;
+    _present = change.present;
+    if (!isWritten) {
+        return;
+    }
+    const auto note = [&](const Step& step) {
+        Written& written = _written[step.name];
+        written.picture = step.picture;
+        ++written.places;
+    };
+    std::for_each(change.undo.added.begin(), change.undo.added.end(), note);
+    std::for_each(change.redo.added.begin(), change.redo.added.end(), note);
+    note(_current);
+    for (const QString& name : gone) {
+        const auto step = _written.find(name);
+        if (step != _written.end() && --step->places <= 0) {
+            _written.erase(step);
+        }
+    }
+    _owned.clear();
+}
+
+// The nearest one that is written.
+StepJournal::Step StepJournal::lastKept(const StackChange<Step>& undo) const {
+    for (std::size_t i = undo.dropped + undo.kept; i > undo.dropped; --i) {
+        if (isWritable(_undo[i - 1])) {
+            return _undo[i - 1];
+        }
+    }
+    return {};
 }
 
 // Writing a tile may begin a file, which asks for the whole: nothing of this object changes meanwhile.
-std::optional<JournalState> StepJournal::changes(const HistoryMoment& moment, const Written& written,
-                                                 QString* problem) const {
-    JournalState state;
-    HistoryMoment::Step base;  // the last step that is written
+std::optional<JournalState> StepJournal::told(const HistoryChange& change, const Steps& written,
+                                              QString* problem) const {
+    JournalState state{{}, namesOf(change.undo), namesOf(change.redo), nameOf(change.current), {}};
+    Step base = lastKept(change.undo);
     bool sound = true;
     // As the change of the step before it, unless it is written already.
-    const auto add = [&](const HistoryMoment::Step& step) {
+    const auto add = [&](const Step& step) {
         if (!sound || !isWritable(step)) {
             return;
         }
-        if (written.value(step.name) != step.picture) {
+        if (written.value(step.name).picture != step.picture) {
             auto changed = difference(base.picture.get(), *step.picture, problem);
             sound = changed.has_value();
             state.steps.push_back({step.name, base.name, std::move(changed).value_or(Changes())});
         }
         base = step;
     };
-    for (const auto& step : moment.undo) {
-        add(step);
-        state.undo.append(step.name);
-    }
-    add(moment.current);
-    state.current = moment.current.name;
-    if (sound && moment.present && (!base.picture || *moment.present != *base.picture)) {
-        auto changed = difference(base.picture.get(), *moment.present, problem);
+    std::for_each(change.undo.added.begin(), change.undo.added.end(), add);
+    add(change.current);
+    if (sound && change.present && (!base.picture || *change.present != *base.picture)) {
+        auto changed = difference(base.picture.get(), *change.present, problem);
         sound = changed.has_value();
         state.present = JournalPresent{base.name, std::move(changed).value_or(Changes())};
     }
-    for (const auto& step : moment.redo) {
-        add(step);
-        state.redo.append(step.name);
-    }
+    std::for_each(change.redo.added.rbegin(), change.redo.added.rend(), add);
     return sound ? std::optional(std::move(state)) : std::nullopt;
 }
 

@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QString>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -17,16 +18,18 @@
 
 namespace dabcanvas {
 
-// What a history is at some moment. A step without a picture of tiles is a host's, and not written.
-struct HistoryMoment {
+// What a history has become since the change before, or, as a first one, what it is.
+struct HistoryChange {
+    // Without a picture of tiles it is a host's, and not written.
     struct Step {
         QString name;
         std::shared_ptr<const TilePicture> picture;
     };
-    std::vector<Step> undo;  // the oldest first
+    StackChange<Step> undo, redo;
     Step current;
-    std::vector<Step> redo;                      // the next first
-    std::shared_ptr<const TilePicture> present;  // the canvas, be it a step or not
+    std::shared_ptr<const TilePicture> present;  // the canvas, be it a step or not; null: as it was
+
+    void then(HistoryChange next);
 };
 
 class StepJournal {
@@ -36,25 +39,36 @@ public:
     explicit StepJournal(Numbered numbered) : _numbered(std::move(numbered)) {}
 
     // False, and why, when the disk does not take it; then all of it is written next time.
-    bool write(const HistoryMoment& moment, TileJournal& journal, QString* problem);
-    // All of what was written last; nothing before.
+    bool write(HistoryChange change, TileJournal& journal, QString* problem);
+    // All of what was written last; nothing before, and while it is not what the journal tells.
     std::optional<JournalState> whole() const;
-    // Lets go of what was written last: its tiles hold the store that holds this.
-    void forget() {
-        _last.reset();
-        _written.clear();
-    }
+    // Lets go of all of it: the tiles hold the store that holds this.
+    void forget();
 
 private:
+    using Step = HistoryChange::Step;
+    using Picture = std::shared_ptr<const TilePicture>;
     using Changes = std::vector<TileChange>;
-    using Written = QHash<QString, std::shared_ptr<const TilePicture>>;
-    std::optional<JournalState> changes(const HistoryMoment& moment, const Written& written,
-                                        QString* problem) const;
+    struct Written {
+        Picture picture;
+        int places = 0;  // in the stacks
+    };
+    using Steps = QHash<QString, Written>;
+
+    HistoryChange all() const;
+    std::optional<JournalState> told(const HistoryChange& change, const Steps& written,
+                                     QString* problem) const;
+    Step lastKept(const StackChange<Step>& undo) const;
     std::optional<Changes> difference(const TilePicture* from, const TilePicture& to, QString* problem) const;
+    void apply(const HistoryChange& change, bool isWritten);
 
     const Numbered _numbered;
-    std::optional<HistoryMoment> _last;
-    Written _written;  // of the last
+    std::deque<Step> _undo, _redo;  // the nearest to the current one last
+    Step _current;
+    Picture _present;
+    Steps _written;               // by name
+    bool _isTold = false;         // all of this in the journal
+    std::vector<Picture> _owned;  // what the journal tells meanwhile: its tiles are not to go
 };
 
 }  // namespace dabcanvas

@@ -105,22 +105,26 @@ void TileStore::Shared::keep(bool isKept) {
 }
 
 void TileStore::Shared::writeNoted() {
-    std::optional<HistoryMoment> moment;
+    std::optional<HistoryChange> change;
     bool isWanted = false, waitsForDisk = false;
     {
         const std::lock_guard lock(mutex);
-        moment.swap(noted);
-        isWanted = moment && !isEnding;
+        change.swap(noted);
+        isWanted = change && !isEnding;
         waitsForDisk = syncs;
     }
     if (!isWanted) {
         return;
     }
     QString problem;
-    const bool written = steps.write(*moment, journal, &problem) && (!waitsForDisk || journal.sync(&problem));
-    moment.reset();
+    bool done = steps.write(std::move(*change), journal, &problem);
+    change.reset();
     freeFiles();
-    if (!written || !writeSparse(&problem)) {
+    if (done) {  // what lies in a folder that was removed has to move before the disk can be waited for
+        done = writeSparse(&problem);
+        done = (!waitsForDisk || journal.sync(&problem)) && done;
+    }
+    if (!done) {
         tellFull(problem);
     }
 }

@@ -34,7 +34,7 @@ struct TileStore::Shared {
     std::uint64_t lastNumber = 0;
     QString folder, keptFolder;
     StepJournal steps;  // of the background
-    std::optional<HistoryMoment> noted;
+    std::optional<HistoryChange> noted;
     bool syncs = false;
     bool isEnding = false;  // what is loose stays so
     bool saidFull = false;

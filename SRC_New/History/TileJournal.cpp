@@ -138,18 +138,31 @@ bool TileJournal::writeState(const JournalState& state, QString* problem) {
     if (state.present && !knows(state.present->base, problem)) {
         return false;
     }
-    RecordWriter record(RecordType::stacks, 256);
-    record.put(now());
-    record.put(static_cast<std::uint32_t>(state.undo.size()))
-        .put(static_cast<std::uint32_t>(state.redo.size()));
-    const auto put = [&](const QString& name) { record.put(serialOf(name)).put(name); };
-    std::for_each(state.undo.begin(), state.undo.end(), put);
-    put(state.current);
-    std::for_each(state.redo.begin(), state.redo.end(), put);
+    const StacksChange change = changeOf(state);
+    if (!_stacks.fits(change)) {
+        *problem = QStringLiteral("there is less of the stacks to keep");
+        return false;
+    }
+    RecordWriter record = _stacks.recordOf(change, now());
     if (state.present) {
         record.put(serialOf(state.present->base)).put(state.present->changes);
     }
-    return write(record, nullptr, problem);
+    TilePlace place;
+    if (!write(record, &place, problem)) {
+        return false;
+    }
+    _stacks.become(change, place);
+    return true;
+}
+
+StacksChange TileJournal::changeOf(const JournalState& state) const {
+    const auto entry = [this](const QString& name) { return JournalEntry{serialOf(name), name}; };
+    const auto entries = [&](const StackChange<QString>& stack) {
+        StackChange<JournalEntry> change{stack.dropped, stack.kept, {}};
+        std::transform(stack.added.begin(), stack.added.end(), std::back_inserter(change.added), entry);
+        return change;
+    };
+    return {entries(state.undo), entries(state.redo), entry(state.current)};
 }
 
 bool TileJournal::writeStep(const JournalStep& step, QString* problem) {
@@ -158,8 +171,7 @@ bool TileJournal::writeStep(const JournalStep& step, QString* problem) {
         return false;
     }
     if (!knows(step.base, problem)) {
-        return _restated &&
-               serialOf(step.name) != 0;  // its base has gone by now, and the checkpoint told it already
+        return false;
     }
     RecordWriter record(RecordType::step, bytesOf(step.changes) + step.name.size() * 2);
     record.put(++_lastSerial).put(serialOf(step.base)).put(now()).put(step.name).put(step.changes);
@@ -170,19 +182,6 @@ bool TileJournal::writeStep(const JournalStep& step, QString* problem) {
     return true;
 }
 
-bool TileJournal::appendPresent(const JournalPresent& present, QString* problem) {
-    return append(
-        [&] {
-            if (!knows(present.base, problem)) {
-                return false;
-            }
-            RecordWriter record(RecordType::present, bytesOf(present.changes));
-            record.put(now()).put(serialOf(present.base)).put(present.changes);
-            return write(record, nullptr, problem);
-        },
-        problem);
-}
-
 // The clock may be set back meanwhile.
 std::int64_t TileJournal::now() {
     return _lastTime = std::max<std::int64_t>(_lastTime, QDateTime::currentMSecsSinceEpoch());
@@ -191,7 +190,6 @@ std::int64_t TileJournal::now() {
 // ---- Segments
 
 bool TileJournal::append(const std::function<bool()>& records, QString* problem) {
-    _restated = false;
     for (int segments = 0; segments < 2 && ready(problem); ++segments) {
         if (records()) {
             return true;
@@ -265,6 +263,7 @@ std::shared_ptr<SegmentFile> TileJournal::makeFile(QString* problem) {
 // What it tells is all that later steps can be based on. Without it they go on with what older segments have.
 void TileJournal::runCheckpoint() {
     auto former = std::exchange(_serials, {});
+    const WrittenStacks formerStacks = _stacks;
     bool holds = false;
     try {
         QString problem;
@@ -274,12 +273,12 @@ void TileJournal::runCheckpoint() {
     }
     if (!holds) {
         _serials.swap(former);
+        _stacks = formerStacks;
     }
     const std::lock_guard lock(_mutex);
     Segment& segment = _segments.at(_open);
     segment.begin = segment.size;
     if (holds) {
-        _restated = true;
         _checkpointed = _open;
         dropEmpty();
     }

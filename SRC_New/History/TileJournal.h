@@ -26,7 +26,7 @@
 #include <optional>
 #include <vector>
 
-#include "History/JournalRecord.h"
+#include "History/JournalStacks.h"
 
 namespace dabcanvas {
 
@@ -45,12 +45,12 @@ struct JournalPresent {
     std::vector<TileChange> changes;
 };
 
-// What becomes of the history in one go: steps, each after its base, and the stacks from then on.
+// What becomes of the history in one go: steps, each after its base, and what changed of the stacks since they were
+// appended last.
 struct JournalState {
     std::vector<JournalStep> steps;
-    QStringList undo;  // the oldest first
+    StackChange<QString> undo, redo;
     QString current;
-    QStringList redo;  // the next first
     std::optional<JournalPresent> present;
 };
 
@@ -63,8 +63,8 @@ public:
         JournalFormat format;
         // From its checkpoint on, before it is closed, see setSegmentBytes(); at most 1 GiB.
         std::int64_t segmentBytes = 64 << 20;
-        // All that lives, as it was appended last or as it is now: every step, not only new ones. None when it cannot be
-        // told now; then the older segments stay. Null: nothing outlives the journal.
+        // All that lives, as it was appended last: every step, not only new ones, and nothing kept of the stacks. None when
+        // it cannot be told now; then the older segments stay. Null: nothing outlives the journal.
         std::function<std::optional<JournalState>()> checkpoint;
     };
     explicit TileJournal(Settings settings);
@@ -93,10 +93,8 @@ public:
 
     // Steps that are new, in the place of older ones of their names, and the stacks. A name without a step is one without a
     // picture. After a crash all of it comes back, or what was before. False when a base is not known, too; then all that
-    // lives is told again.
+    // lives is told again, and nothing kept of the stacks.
     bool appendState(const JournalState& state, QString* problem);
-    // Between changes of the stacks: holds until the next of either.
-    bool appendPresent(const JournalPresent& present, QString* problem);
 
     bool sync(QString* problem);
 
@@ -140,6 +138,7 @@ private:
     void closeSegment();
     void dropEmpty();
     std::uint64_t serialOf(const QString& name) const { return _serials.value(name, 0); }
+    StacksChange changeOf(const JournalState& state) const;
     bool knows(const QString& base, QString* problem) const;
     std::int64_t now();
     std::int64_t sumOf(std::int64_t Segment::*bytes) const;
@@ -152,12 +151,12 @@ private:
     std::uint32_t _open = 0;          // the number of the one that grows; 0 while there is none
     std::uint32_t _last = 0;          // number given
     std::uint32_t _checkpointed = 0;  // older segments are needed for tiles only
-    bool _restated = false;           // by a checkpoint in the course of this call
     std::uint64_t _journal = 0;       // the id of all its segments
     std::int64_t _lastTime = 0;       // of a record; later ones are never earlier, whatever the clock does
     // Each record of a step has a number, as a name may come again with another picture: by number others are based on it.
     QHash<QString, std::uint64_t> _serials;
     std::uint64_t _lastSerial = 0;
+    WrittenStacks _stacks;
 };
 
 }  // namespace dabcanvas

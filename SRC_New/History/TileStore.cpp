@@ -58,7 +58,7 @@ TileStore::TileStore(const Size& picture, int pixelBytes)
     : _shared(std::make_shared<Shared>(picture, pixelBytes)) {}
 
 TileStore::~TileStore() {
-    std::optional<HistoryMoment> noted;
+    std::optional<HistoryChange> noted;
     {
         const std::lock_guard lock(_shared->mutex);
         _shared->isEnding = true;
@@ -145,17 +145,27 @@ void TileStore::keepIn(std::unique_ptr<TempFolder> folder) {
     _kept = std::move(folder);
 }
 
-void TileStore::note(HistoryMoment moment, bool sync) {
-    if (_kept && !QFileInfo(_kept->path()).isDir()) {
-        _kept->restore();
-    }
-    auto noted = std::optional(std::move(moment));
+void TileStore::note(HistoryChange change, bool sync) {
+    std::optional<HistoryChange> all;
     {
         const std::lock_guard lock(_shared->mutex);
-        _shared->noted.swap(noted);  // what waited until now goes when the lock has, as its tiles take it
+        all.swap(_shared->noted);
         _shared->syncs = sync;
     }
+    if (all) {  // without the lock, as what goes now takes it
+        all->then(std::move(change));
+    } else {
+        all = std::move(change);
+    }
+    {
+        const std::lock_guard lock(_shared->mutex);
+        _shared->noted = std::move(all);
+    }
     _writing.run([shared = _shared.get()] { shared->writeNoted(); });
+}
+
+bool TileStore::holdsFolder() {
+    return !_kept || (_kept->isOurs() && QFileInfo(_kept->path()).isDir()) || _kept->restore();
 }
 
 std::int64_t TileStore::bytes() const {

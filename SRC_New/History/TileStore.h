@@ -22,7 +22,7 @@ namespace dabcanvas {
 
 class StoredTile;
 class TempFolder;
-struct HistoryMoment;
+struct HistoryChange;
 struct JournalContents;
 // A version of a tile; null is the transparent one.
 using TileRef = std::shared_ptr<StoredTile>;
@@ -69,9 +69,11 @@ public:
     // From now on in this folder; null: not any more.
     void keepIn(std::unique_ptr<TempFolder> folder);
     bool isKept() const { return _kept != nullptr; }
-    // Writes down what the history is now, in the background; of several that wait, the last. sync: waits for the disk, so
+    // False where somebody has removed that folder and it cannot be made again, as another history may have it now.
+    bool holdsFolder();
+    // Writes down what the history has become, in the background; the first time, what it is. sync: waits for the disk, so
     // that it outlives the machine, too.
-    void note(HistoryMoment moment, bool sync);
+    void note(HistoryChange change, bool sync);
 
 private:
     friend class StoredTile;

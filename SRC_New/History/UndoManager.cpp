@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "History/UndoManager.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::uint64_t kCountBits = 0xffffffffu;
@@ -39,22 +41,44 @@ void UndoManager::setCurrentItem(const QString& item) {
         return;
     }
     const std::lock_guard lock(_fields);
+    letGo(_selectItem);
+    select(item);
+}
+
+void UndoManager::select(const QString& item) {
     _selectItem = item;
+    ++_uses[item];
+}
+
+void UndoManager::letGo(const QString& item) {
+    const auto uses = _uses.find(item);
+    if (--*uses == 0) {
+        _uses.erase(uses);
+    }
+}
+
+qsizetype UndoManager::usesOf(const QString& item) const {
+    const std::lock_guard lock(_fields);
+    return _uses.value(item);
 }
 
 QStringList UndoManager::undoItems() const {
     const std::lock_guard lock(_fields);
-    return _undoItems;
+    return _undoItems.items();
 }
 
 QStringList UndoManager::redoItems() const {
     const std::lock_guard lock(_fields);
-    return _redoItems;
+    return _redoItems.items();
+}
+
+qsizetype UndoManager::undoCount() const {
+    const std::lock_guard lock(_fields);
+    return _undoItems.size();
 }
 
 bool UndoManager::canUndo() const {
-    const std::lock_guard lock(_fields);
-    return !_undoItems.isEmpty();
+    return undoCount() != 0;
 }
 
 bool UndoManager::canRedo() const {
@@ -62,7 +86,17 @@ bool UndoManager::canRedo() const {
     return !_redoItems.isEmpty();
 }
 
+UndoManager::Changes UndoManager::takeChanges() {
+    const std::lock_guard lock(_fields);
+    return {_undoItems.takeChange(), _redoItems.takeChange(), _selectItem};
+}
+
 bool UndoManager::addItemWithString(const QString& item) {
+    QStringList dropped;
+    return addItem(item, &dropped);
+}
+
+bool UndoManager::addItem(const QString& item, QStringList* dropped) {
     if (item.isNull()) {
         return false;
     }
@@ -70,24 +104,29 @@ bool UndoManager::addItemWithString(const QString& item) {
     const std::lock_guard lock(_fields);
     // Deliberate: one item an add, so a lowered step count takes effect gradually; 0 keeps one.
     if (!_undoItems.isEmpty() && static_cast<std::uint64_t>(_undoItems.size()) >= _undoStepCount) {
-        _undoItems.removeFirst();
+        dropped->append(_undoItems.dropFarthest());
     }
-    _undoItems.append(_selectItem);
-    _selectItem = item;
-    _redoItems.clear();
+    _undoItems.push(_selectItem);
+    select(item);
+    dropped->append(_redoItems.clear());
+    std::for_each(dropped->cbegin(), dropped->cend(), [this](const QString& one) { letGo(one); });
     return true;
 }
 
-void UndoManager::dropOldestUndoItem() {
+QString UndoManager::dropOldestUndoItem() {
     const Compound compound(_itemAccessSemaphore);
     const std::lock_guard lock(_fields);
-    _undoItems.removeFirst();
+    const QString item = _undoItems.dropFarthest();
+    letGo(item);
+    return item;
 }
 
-void UndoManager::dropLastRedoItem() {
+QString UndoManager::dropLastRedoItem() {
     const Compound compound(_itemAccessSemaphore);
     const std::lock_guard lock(_fields);
-    _redoItems.removeFirst();
+    const QString item = _redoItems.dropFarthest();
+    letGo(item);
+    return item;
 }
 
 bool UndoManager::undo() {
@@ -102,25 +141,27 @@ bool UndoManager::stepAnyway(Way way) {
     return way == Way::back ? step(_undoItems, _redoItems, true) : step(_redoItems, _undoItems, true);
 }
 
-bool UndoManager::step(QStringList& from, QStringList& to, bool anyway) {
+bool UndoManager::step(ItemStack& from, ItemStack& to, bool anyway) {
     const Compound compound(_itemAccessSemaphore);
     const std::lock_guard lock(_fields);
     if (from.isEmpty() || (!anyway && processCount() != 0)) {
         return false;
     }
-    to.append(_selectItem);
-    _selectItem = from.takeLast();
+    to.push(_selectItem);
+    _selectItem = from.pop();
     return true;
 }
 
 void UndoManager::clearUndoItems() {
     const std::lock_guard lock(_fields);
-    _undoItems.clear();
+    const QStringList gone = _undoItems.clear();
+    std::for_each(gone.begin(), gone.end(), [this](const QString& item) { letGo(item); });
 }
 
 void UndoManager::clearRedoItems() {
     const std::lock_guard lock(_fields);
-    _redoItems.clear();
+    const QStringList gone = _redoItems.clear();
+    std::for_each(gone.begin(), gone.end(), [this](const QString& item) { letGo(item); });
 }
 
 void UndoManager::reset() {

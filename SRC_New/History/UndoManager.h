@@ -5,6 +5,7 @@
 // Errors   never throws. A null string is no item: false, or nothing happens. An empty string is one.
 #pragma once
 
+#include <QHash>
 #include <QSemaphore>
 #include <QString>
 #include <QStringList>
@@ -13,6 +14,7 @@
 #include <memory>
 #include <mutex>
 
+#include "History/ItemStack.h"
 #include "Maths/Export.h"
 
 class DABCANVAS_CANVAS_API UndoManager {
@@ -27,7 +29,7 @@ public:
     UndoManager& operator=(const UndoManager&) = delete;
 
     QString currentStringItem() const;
-    void setCurrentItem(const QString& item);
+    virtual void setCurrentItem(const QString& item);
     QStringList undoItems() const;  // oldest first
     QStringList redoItems() const;  // the one undone last stands last
 
@@ -59,21 +61,34 @@ public:
 
 protected:
     UndoManager() = default;
-    void dropOldestUndoItem();  // of at least one
-    void dropLastRedoItem();    // that redo() would reach last; of at least one
+    // What addItemWithString() drops, in the order in which it goes; not null.
+    bool addItem(const QString& item, QStringList* dropped);
+    QString dropOldestUndoItem();  // of at least one
+    QString dropLastRedoItem();    // that redo() would reach last; of at least one
+    qsizetype undoCount() const;
+    qsizetype usesOf(const QString& item) const;  // in how many places it is, current or in a stack
     enum class Way : std::uint8_t { back, forth };
     // undo() or redo(), also while background operations run.
     bool stepAnyway(Way way);
+    struct Changes {
+        dabcanvas::StackChange<QString> undo, redo;
+        QString current;
+    };
+    // Of the stacks since it was asked last.
+    Changes takeChanges();
 
 private:
-    bool step(QStringList& from, QStringList& to, bool anyway);
+    using ItemStack = dabcanvas::ItemStack;
+    bool step(ItemStack& from, ItemStack& to, bool anyway);
+    void select(const QString& item);
+    void letGo(const QString& item);
     void forgetProcesses();
 
     QSemaphore _itemAccessSemaphore{1};  // held for the length of a compound change
-    mutable std::mutex _fields;          // held for moments: guards the three below
-    QStringList _undoItems;
-    QStringList _redoItems;
+    mutable std::mutex _fields;          // held for moments: guards the four below
+    ItemStack _undoItems, _redoItems;
     QString _selectItem = QStringLiteral("InitString");
+    QHash<QString, qsizetype> _uses{{_selectItem, 1}};
     std::atomic<std::uint64_t> _processes{0};  // high half: resets so far, low half: the count
     std::atomic<unsigned> _undoStepCount{0};
 };

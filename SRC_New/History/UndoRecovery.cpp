@@ -75,6 +75,18 @@ RecoverableHistory historyAt(const QString& path) {
     return history;
 }
 
+// Of what is never listed nobody needs to hear.
+void removeBarren() {
+    for (const QString& path : TempFolder::keptIn(UndoRecovery::folder())) {
+        try {
+            if (TempFolder::isLeft(path) && isBarren(path)) {
+                UndoRecovery::discard(QFileInfo(path).fileName());
+            }
+        } catch (const std::bad_alloc&) {  // another time
+        }
+    }
+}
+
 }  // namespace
 
 QString UndoRecovery::folder() {
@@ -102,7 +114,7 @@ QList<RecoverableHistory> UndoRecovery::list() {
         }
         const RecoverableHistory history = historyAt(path);
         // Somebody may have taken it over meanwhile.
-        if (!history.size.isEmpty() && TempFolder::isLeft(path)) {
+        if (!history.size.isEmpty() && history.steps > 0 && TempFolder::isLeft(path)) {
             left.prepend(history);
         }
     }
@@ -144,6 +156,7 @@ void UndoRecovery::setByteLimit(qint64 bytes) {
 
 int UndoRecovery::makeRoom(const std::function<bool(const RecoverableHistory&)>& mayGo) {
     TempFolder::removeStrayClaims(folder());
+    removeBarren();
     const QStringList paths = TempFolder::keptIn(folder());
     qint64 bytes = 0;
     for (const QString& path : paths) {

@@ -56,7 +56,7 @@ public:
     static qint64 byteLimit();
     static void setByteLimit(qint64 bytes);
     // Discards what was used longest ago, and is dead, until the limit is kept. `mayGo` hears of each one before, and
-    // keeps it by false. Returns how many went.
+    // keeps it by false. Returns how many went. What the dead left that holds neither step nor canvas goes unheard.
     static int makeRoom(const std::function<bool(const RecoverableHistory&)>& mayGo = {});
 };
 

@@ -236,7 +236,7 @@ private:
 class Carried {
 public:
     HWY_INLINE Carried(const CarriedColours& colours, const Size& part)
-        : _colours(&colours), _width(part.width), _row(colours.colours) {
+        : _colours(&colours), _row(colours.colours) {
         HWY_ALIGN std::uint64_t steps[kMostLanes];
         for (int lane = 0; lane < lanes(); ++lane) {
             steps[lane] = static_cast<std::uint64_t>(colours.right * lane);
@@ -252,13 +252,17 @@ public:
     // Of those from x on.
     HWY_INLINE Word at(int x, int y) const {
         const std::int64_t start = _colours->start + _colours->down * y + _colours->right * x;
-        if (!_isNear) {
-            const Columns columns(Steps{start, _colours->right}, 0, std::min(_width - x, lanes()),
-                                  _colours->count);
-            return columns.from(0).in(_row);
-        }
         const Pixel place = hn::Add(hn::Set(kPixels, static_cast<std::uint64_t>(start & 0xffff)), _steps);
         const Word part = hn::BitCast(kWords, hn::ShiftRight<1>(lowestOf(hn::BitCast(kUnsigned, place))));
+        if (!_isNear) {
+            int lows[kMostLanes], highs[kMostLanes];
+            for (int lane = 0; lane < lanes(); ++lane) {
+                const int low = wholeOf(start + _colours->right * lane);
+                lows[lane] = std::clamp(low, 0, _colours->count - 1);
+                highs[lane] = std::clamp(low + 1, 0, _colours->count - 1);
+            }
+            return between(_row.picked(lows), _row.picked(highs), part);
+        }
         const auto index = hn::IndicesFromVec(kPixels, hn::ShiftRight<16>(place));
         const auto picked = [&](int first) HWY_ATTR {
             return hn::BitCast(kWords, hn::TableLookupLanes(hn::BitCast(kPixels, _row.at(first)), index));
@@ -270,7 +274,6 @@ private:
     using Pixel = hn::Vec<Pixels>;
 
     const CarriedColours* _colours;
-    int _width;
     OneRow _row;
     Pixel _steps;
     bool _isNear;

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
 // Random sketches whose every step is known, under budgets that hold few of them, while disks fail.
+#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 #include <deque>
 #include <random>
 
 #include "History/ImagesUndoManager.h"
+#include "History/JournalReader.h"
 #include "History/UndoRecovery.h"
 #include "support/CanvasTest.h"
 #include "support/Hearer.h"
 #include "support/Limits.h"
 #include "support/LogCapture.h"
+
+using dabcanvas::UndoRecovery;
 
 namespace {
 
@@ -38,9 +42,17 @@ protected:
     }
     void TearDown() override {
         canvas.reset();
+        UndoRecovery::setFolder({});
+        UndoRecovery::setSyncs(false);
         CanvasTest::TearDown();
     }
 
+    // Kept, in this folder.
+    QDir kept() {
+        UndoRecovery::setFolder(folder.filePath("kept"));
+        EXPECT_TRUE(canvas->setKeepsForRecovery(true));
+        return QDir(UndoRecovery::folder());
+    }
     int below(int most) { return static_cast<int>(random() % static_cast<unsigned>(most)); }
     // Nothing of this can be compressed.
     QImage noise(const QSize& size) {
@@ -137,15 +149,94 @@ TEST_F(CanvasHistoryTest, EveryStepThatIsKeptComesBackWhateverTheDiskDoes) {
 }
 
 TEST_F(CanvasHistoryTest, WhatIsWrittenDownMeanwhileChangesNothing) {
-    dabcanvas::UndoRecovery::setFolder(folder.filePath("kept"));
+    const QDir folders = kept();
     for (const bool keeps : {true, false, true}) {
         ASSERT_TRUE(canvas->setKeepsForRecovery(keeps));
         sketch(50);
     }
-    dabcanvas::UndoRecovery::setFolder({});
-    EXPECT_EQ(QDir(folder.filePath("kept")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
+    EXPECT_EQ(folders.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
     canvas.reset();
-    EXPECT_TRUE(QDir(folder.filePath("kept")).isEmpty());
+    EXPECT_TRUE(folders.isEmpty());
+}
+
+TEST_F(CanvasHistoryTest, AKeptFolderThatIsLostIsHadAnew) {
+    const QString first = "History000001", second = "History000002";
+    QDir folders = kept();
+    ASSERT_TRUE(QFile::remove(folders.filePath(first + ".lock")));
+    sketch(5);
+    EXPECT_TRUE(folders.exists(first + ".lock"));
+    ASSERT_TRUE(folders.removeRecursively());
+    auto other = makeCanvas();
+    ASSERT_TRUE(other->setKeepsForRecovery(true)) << "by the same name";
+    other->undoManager().waitForWrites();
+    const QStringList files = QDir(folders.filePath(first)).entryList(QDir::Files);
+    sketch(20);
+    history->waitForWrites();
+    EXPECT_EQ(folders.entryList(),
+              QStringList({".", "..", first, first + ".lock", second, second + ".lock"}));
+    EXPECT_EQ(QDir(folders.filePath(first)).entryList(QDir::Files), files);
+    canvas.reset();
+    folders.refresh();
+    EXPECT_EQ(folders.entryList(), QStringList({".", "..", first, first + ".lock"}));
+}
+
+TEST_F(CanvasHistoryTest, WhatAHostDoesByItselfIsWrittenDown) {
+    const QDir folders = kept();
+    history->setCacheByteBudget(0);
+    constexpr std::size_t kCount = 6;
+    for (std::size_t i = 0; i < kCount; ++i) {
+        paint();
+    }
+    history->waitForWrites();
+    UndoRecovery::setSyncs(true);
+    ASSERT_TRUE(folders.mkdir("History000002"));  // somebody's
+    for (const bool keeps : {false, true}) {      // what is on disk moves along
+        ASSERT_TRUE(canvas->setKeepsForRecovery(keeps));
+    }
+    const auto atEnd = [](ImagesUndoManager&) {
+        QMetaObject::invokeMethod(QCoreApplication::instance(), "aboutToQuit", Qt::DirectConnection);
+    };
+    const struct {
+        void (*act)(ImagesUndoManager&);
+        std::size_t fewer, redo;
+    } rows[] = {
+        {[](ImagesUndoManager& steps) { steps.undoAtOnce(), steps.undo(); }, 2, 2},
+        {[](ImagesUndoManager& steps) { steps.redo(); }, 1, 1},
+        {[](ImagesUndoManager& steps) { steps.clearRedoItems(); }, 1, 0},
+        {[](ImagesUndoManager& steps) { steps.removeImageWithNames({steps.undoItems()[1]}), steps.undo(); },
+         3, 1},
+        {[](ImagesUndoManager& steps) { steps.addItemWithString(QString(1 << 17, 'x')); }, 3, 0},
+        {atEnd, 3, 0},
+    };
+    for (const auto& row : rows) {
+        history->waitForWrites();
+        row.act(*history);
+        history->waitForWrites();
+        QString problem;
+        const auto contents =
+            dabcanvas::readJournal(folders.filePath("History000003"), dabcanvas::TileCheck::whole, &problem);
+        ASSERT_TRUE(contents) << problem.toStdString();
+        EXPECT_EQ(contents->undo.size(), kCount - row.fewer);
+        EXPECT_EQ(contents->redo.size(), row.redo);
+    }
+    EXPECT_FALSE(canvas->canUndo()) << "but not what the application's end takes";
+}
+
+TEST_F(CanvasHistoryTest, AColourThatComesBackIsOneTile) {
+    constexpr int kSide = 4096;
+    const auto large =
+        QDDrawCanvas::initWithFrame(QRectF(0, 0, kSide, kSide), {.kind = dabcanvas::SurfaceKind::processor});
+    ASSERT_TRUE(large);
+    large->setAutoMark(true);
+    large->clearWithColor(ESColor::grey(0.2f), true);
+    large->clearWithColor(ESColor::grey(0.8f), true);
+    large->undoManager().waitForCompression();
+    if (kMemoryIsLimited) {
+        auto room = std::make_unique<char[]>(24 << 20);
+        const FullMemory memory;
+        room.reset();  // 4096 tiles are 64 MiB
+        EXPECT_FALSE(large->undo().isNull());
+    }
 }
 
 TEST_F(CanvasHistoryTest, AStepThatTheDiskHasLostIsRefusedAndTheNextOnesAreNot) {

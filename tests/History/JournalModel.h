@@ -46,26 +46,11 @@ inline std::vector<TileChange> changesOf(const Picture& from, const Picture& to)
 // A history at one moment, as its user would see it.
 struct HistoryState {
     using Step = std::pair<QString, Picture>;
-    std::vector<Step> undo, redo;
+    std::vector<Step> undo, redo;  // the nearest to the current one last
     Step current;
     Picture canvas;
 
     friend bool operator==(const HistoryState&, const HistoryState&) = default;
-    friend void PrintTo(const HistoryState& state, std::ostream* out) {
-        const auto print = [&](const Step& step) {
-            *out << step.first.toStdString() << '{';
-            for (const auto& [index, tile] : step.second) {
-                *out << index << ':' << tile << ' ';
-            }
-            *out << "} ";
-        };
-        std::for_each(state.undo.begin(), state.undo.end(), print);
-        *out << "| ";
-        print(state.current);
-        *out << "| ";
-        std::for_each(state.redo.begin(), state.redo.end(), print);
-        print({"canvas", state.canvas});
-    }
 };
 
 // What was read, each tile byte for byte what it was.
@@ -134,7 +119,7 @@ public:
             mark(QString::number(_random() % 30));  // names come again
         } else if (what < 7) {
             paint();
-            appendPresent();
+            appendState({});
         } else if (what < 8 && !_now.undo.empty()) {
             move(_now.undo, _now.redo);
         } else if (!_now.redo.empty()) {
@@ -205,42 +190,45 @@ private:
         appendState(std::move(step));
     }
     void move(std::vector<HistoryState::Step>& from, std::vector<HistoryState::Step>& to) {
-        const bool back = &from == &_now.undo;
-        to.insert(back ? to.begin() : to.end(), _now.current);
-        _now.current = back ? from.back() : from.front();
-        from.erase(back ? from.end() - 1 : from.begin());
+        to.push_back(_now.current);
+        _now.current = from.back();
+        from.pop_back();
         _now.canvas = _now.current.second;
         appendState({});
     }
-    static JournalState stacksOf(const HistoryState& state) {
+    // With as much kept as can be.
+    static StackChange<QString> changeOf(const std::vector<HistoryState::Step>& before,
+                                         const std::vector<HistoryState::Step>& after) {
+        StackChange<QString> change;
+        for (std::size_t dropped = 0; dropped < before.size(); ++dropped) {
+            const auto begin = before.begin() + static_cast<std::ptrdiff_t>(dropped);
+            const auto kept = static_cast<std::size_t>(
+                std::mismatch(begin, before.end(), after.begin(), after.end()).first - begin);
+            if (kept > change.kept) {
+                change = {dropped, kept, {}};
+            }
+        }
+        std::transform(after.begin() + static_cast<std::ptrdiff_t>(change.kept), after.end(),
+                       std::back_inserter(change.added), [](const auto& step) { return step.first; });
+        return change;
+    }
+    static JournalState stacksOf(const HistoryState& state, const HistoryState& before) {
         JournalState stacks;
+        stacks.undo = changeOf(before.undo, state.undo);
         stacks.current = state.current.first;
-        for (const auto& step : state.undo) {
-            stacks.undo.append(step.first);
-        }
-        for (const auto& step : state.redo) {
-            stacks.redo.append(step.first);
-        }
+        stacks.redo = changeOf(before.redo, state.redo);
         if (state.canvas != state.current.second) {
             stacks.present = {state.current.first, changesOf(state.current.second, state.canvas)};
         }
         return stacks;
     }
     void appendState(std::optional<JournalStep> step) {
-        JournalState state = _failed ? allOf(_now) : stacksOf(_now);
+        JournalState state = _failed ? allOf(_now) : stacksOf(_now, _written);
         if (step && !_failed) {
             state.steps.push_back(std::move(*step));
         }
         _failed = !journal->appendState(state, &problem);
         if (!_failed) {
-            _written = _now;
-            told(true);
-            releaseUnused();
-        }
-    }
-    void appendPresent() {
-        if (journal->appendPresent({_now.current.first, changesOf(_now.current.second, _now.canvas)},
-                                   &problem)) {
             _written = _now;
             told(true);
             releaseUnused();
@@ -269,7 +257,7 @@ private:
         }
     }
     static JournalState allOf(const HistoryState& history) {
-        JournalState state = stacksOf(history);
+        JournalState state = stacksOf(history, {});
         HistoryState::Step base;
         const auto add = [&](const HistoryState::Step& step) {
             state.steps.push_back({step.first, base.first, changesOf(base.second, step.second)});
@@ -279,7 +267,7 @@ private:
         if (!history.current.first.isEmpty()) {
             add(history.current);
         }
-        std::for_each(history.redo.begin(), history.redo.end(), add);
+        std::for_each(history.redo.rbegin(), history.redo.rend(), add);
         return state;
     }
 

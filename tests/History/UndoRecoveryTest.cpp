@@ -38,7 +38,7 @@ protected:
                             state.current,
                             {{static_cast<std::uint32_t>(i) % format.tiles(), tile}}}};
             if (!state.current.isEmpty()) {
-                state.undo.append(state.current);
+                state.undo.added.push_back(state.current);
             }
             state.current = QString::number(i);
             if (!journal.appendTile(tile, stored, static_cast<int>(pixels.size()), &problem()) ||
@@ -181,6 +181,27 @@ TEST_F(UndoRecoveryTest, OnlyTheDeadsOwnFoldersAreTouched) {
     QString why;
     EXPECT_EQ(QFileInfo(startKeptHistory(&why)->path()).fileName(), "History000009");
     EXPECT_FALSE(TempFolder::claim(path("1"), &why));
+}
+
+TEST_F(UndoRecoveryTest, WhatHoldsNothingGoesWithTheNextToMakeRoom) {
+    for (int steps = 1; steps <= 5; ++steps) {
+        leave(steps);
+    }
+    const auto path = [](int number) {
+        return UndoRecovery::folder() + "/History00000" + QString::number(number) + '/' + segmentName(1);
+    };
+    QFile::remove(path(2));
+    QFile::resize(path(3), kSegmentHeadBytes);
+    QByteArray damaged = contentOf(path(4));
+    damaged[5] ^= 1;
+    writtenTo(path(4), damaged);
+    RecordWriter later(RecordType::segment, 4);  // of a version that is none yet
+    later.put(kJournalVersion + 1);
+    writtenTo(path(5), later.sealed(kSegmentHead));
+    EXPECT_EQ(stepsOf(UndoRecovery::list()), QList<int>({1}));
+    EXPECT_EQ(UndoRecovery::makeRoom(), 0) << "of whom somebody could hear";
+    EXPECT_EQ(entries(),
+              QStringList({"History000001", "History000001.lock", "History000005", "History000005.lock"}));
 }
 
 TEST_F(UndoRecoveryTest, OtherFoldersOfHistoriesAreCleanedUpAsBefore) {
