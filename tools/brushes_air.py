@@ -7,7 +7,7 @@ from brush_table import DISC, ERASE, EVEN, LIVE_FILL, brush
 
 # ---- Spray
 
-brush("Airbrush", "airbrush dry", "A fine jet of colour that builds up as long as it stays.",
+brush("Airbrush", "airbrush dry", "A soft jet of colour that builds up with every pass.",
       textureImages=tips.mist(), radius=80, **EVEN, pointsDistance=0.05, flow=0.07, minFlow=0.02,
       flowControl=(1, 0, 0), renderColor="#304a8c")
 
@@ -54,8 +54,8 @@ brush("Meadow Grass", "stamp wet", "Tufts of grass that stand upright along the 
 
 brush("Confetti", "stamp dry", "Paper scraps of all colours, thrown wide.",
       textureImages=[stamps.shard(64, kind) for kind in range(4)], textureTingleEnabled=True,
-      colorFul=True, hueTingle=1, brightnessTingle=0.1, radius=28, minRadius=0.6, maxRadius=1, startRadius=0, endRadius=0,
-      radiusTingle=0.5, radianTingle=1, roundnessTingle=0.4, minRoundness=0.5, pointsDistance=0.7,
+      colorFul=True, hueTingle=1, brightnessTingle=0.1, radius=28, minRadius=0.6, maxRadius=1, startRadius=0,
+      endRadius=0, radiusTingle=0.5, radianTingle=1, roundnessTingle=0.4, minRoundness=0.5, pointsDistance=0.7,
       distribution=1.8, disTwoAxes=True, distributionCount=4, distributionCountControl=(0.7, 0, 0))
 
 # ---- Erasers, and the fill

@@ -26,7 +26,8 @@ brush("Pencil 2B", "pencil dry tilt", "A soft pencil; tilt it to shade with the 
 brush("Mechanical Pencil", "pencil dry", "A thin lead that is always sharp, for lines of one width.",
       textureImages=[tips.graphite(seed) for seed in (7, 17)], **LOOSE, radius=4, minRadius=0.9,
       radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0, pointsDistance=0.2, flow=0.5, minFlow=0.3,
-      flowControl=(1, 0, 0), renderColor="#34343a", **on_paper(paper("cartridge"), 0.25, 0.8, 0.2, scale=0.6, control=(0.5, 0, 0)))
+      flowControl=(1, 0, 0), renderColor="#34343a",
+      **on_paper(paper("cartridge"), 0.25, 0.8, 0.2, scale=0.6, control=(0.5, 0, 0)))
 
 brush("Charcoal", "charcoal dry", "A stick of charcoal: dusty when light, black where it is pressed.",
       textureImages=[tips.coal(seed) for seed in (3, 13, 23, 33)], **LOOSE, radius=44, minRadius=0.5, maxRadius=0.8,

@@ -21,7 +21,7 @@ brush("Ballpoint", "ink wet", "A ball that skips a little and lays down more ink
       endRadius=0, pointsDistance=0.15, flow=0.8, minFlow=0.5, flowControl=(1, 0, 0), flowTingle=0.3,
       renderColor="#20348f", **on_paper(paper("cartridge"), 0.2, 0.6, 0.35, control=(0.6, 0, 0)))
 
-brush("Speed Pen", "ink wet", "A pen for the mouse: slow lines are thin and quick ones wide.",
+brush("Speed Pen", "ink wet", "A pen for the mouse: slow lines are wide and quick ones thin.",
       textureType=DISC, hardness=0.7, radius=20, minRadius=0.12, radiusControl=(0, 0, 1), sensitivity=15,
       speedSencitive=0.5, startRadius=0.2, strokeControlValue=30, endRadius=0.05, pointsDistance=0.1,
       renderColor="#1c3d5a")
@@ -38,7 +38,7 @@ brush("Calligraphy Nib", "ink wet", "A broad nib held at 45 degrees: thick and t
 
 # ---- Markers
 
-brush("Felt Tip", "marker wet", "A fibre pen whose edge frays on the paper and whose ink pales when it is quick.",
+brush("Felt Tip", "marker wet", "A fibre pen whose edge frays a little on the paper.",
       textureImages=[tips.ink_brush(seed, 0.09) for seed in (11, 21, 31)], textureTingleEnabled=True, radianTingle=1,
       radius=14, minRadius=0.7, radiusControl=(0.6, 0, 0), startRadius=0, endRadius=0.7, pointsDistance=0.09,
       flow=0.6, minFlow=0.6, flowControl=(0.6, 0, 0), renderColor="#0f6b5c",

@@ -30,9 +30,9 @@ brush("Palette Knife", "oil wet", "A steel blade that lays a film of paint and s
       moistQuantity=0.8, bristles=1, renderColor="#5d7f9f")
 
 brush("Fan", "oil dry", "Thin hairs spread wide, for foliage, fur and hair.",
-      textureImages=[hairs.fan(3, load) for load in (0.7, 0.62, 0.54, 0.46)], textureControl=(1, 0, 0), radius=90, minRadius=0.7,
-      radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.015, moveRadianEnable=True, flow=0.45,
-      minFlow=0.3, flowControl=(0.8, 0, 0), renderColor="#4f6b2d")
+      textureImages=[hairs.fan(3, load) for load in (0.7, 0.62, 0.54, 0.46)], textureControl=(1, 0, 0), radius=90,
+      minRadius=0.7, radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.015,
+      moveRadianEnable=True, flow=0.45, minFlow=0.3, flowControl=(0.8, 0, 0), renderColor="#4f6b2d")
 
 brush("Dry Bristle", "oil dry", "A stiff brush with little paint, whose hairs each leave a scratch.",
       textureImages=[hairs.dry(9, load) for load in (0.75, 0.6, 0.45, 0.3, 0.18)], textureControl=(1, 0, 0),

@@ -11,7 +11,8 @@ GRANULATING = on_paper(paper("hot press"), 0, 0.3, 0.35)
 
 # ---- Watercolour
 
-brush("Round Watercolour", "watercolour wet", "A pointed round of sable: transparent colour that dries with a dark rim.",
+brush("Round Watercolour", "watercolour wet",
+      "A pointed round of sable: transparent colour that dries with a dark rim.",
       textureImages=[tips.puddle(seed, 0.04) for seed in (3, 13, 23)], textureTingleEnabled=True, radianTingle=1,
       radius=54, minRadius=0.12, radiusControl=(1, 0, 0), startRadius=0.1, strokeControlValue=40, endRadius=0.05,
       pointsDistance=0.05, flow=0.4, minFlow=0.5, flowControl=(0.5, 0, 0), opacity=0.8, blendType=MULTIPLY,
@@ -47,7 +48,8 @@ brush("Textured Gouache", "gouache wet", "Opaque matt paint, a little uneven in 
       flow=0.6, minFlow=0.5, flowControl=(0.8, 0, 0), brightnessTingle=0.13, saturationTingle=0.08,
       renderColor="#7a4b9a", **on_paper(paper("cold press"), 0.25, 0.9, 0.4, scale=0.6, control=(0.6, 0, 0)))
 
-brush("Gouache Dry", "gouache dry", "The rest of the paint on a brush: broken strokes of single hairs over rough paper.",
+brush("Gouache Dry", "gouache dry",
+      "The rest of the paint on a brush: broken strokes of single hairs over rough paper.",
       textureImages=[hairs.dry(7, load) for load in (0.8, 0.65, 0.5, 0.35)], textureControl=(1, 0, 0), radius=70,
       minRadius=0.75, radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.02,
       moveRadianEnable=True, flow=0.35, minFlow=0.4, flowControl=(0.7, 0, 0), renderColor="#c79a2e",

@@ -50,8 +50,8 @@ def written(value, folder, key):
 def make(program, name):
     brush = BRUSHES[name]
     with tempfile.TemporaryDirectory() as folder:
-        words = [program, "preset", "make", "-o", FOLDER / file_name(name), "--name", name, "--tags", ",".join(brush.tags),
-                 "--about", brush.about, "--author", AUTHOR, "--licence", LICENCE]
+        words = [program, "preset", "make", "-o", FOLDER / file_name(name), "--name", name,
+                 "--tags", ",".join(brush.tags), "--about", brush.about, "--author", AUTHOR, "--licence", LICENCE]
         for key, value in brush.settings.items():
             words += ["--set", f"{key}={written(value, Path(folder), key)}"]
         subprocess.run(words, check=True)
