@@ -41,7 +41,7 @@ brush("Dry Bristle", "oil dry", "A stiff brush with little paint, whose hairs ea
       **on_paper(paper("canvas"), 0.3, 1.2, 0.1, scale=0.6, control=(0.6, 0, 0)))
 
 brush("Rake", "oil dry", "Clumps of hairs as apart as a comb's teeth, for fur, grass and grain of wood.",
-      textureImages=hairs.rake(3), radius=70, minRadius=0.8, radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.8,
+      textureImages=hairs.rake(4), radius=70, minRadius=0.8, radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.8,
       pointsDistance=0.02, moveRadianEnable=True, flow=0.5, minFlow=0.3, flowControl=(0.8, 0, 0),
       renderColor="#7a5230")
 
