@@ -33,7 +33,7 @@ def cold_press():
 
 
 def hot_press():
-    """Smooth paper, ironed: an even tooth with pits of up to 8 px. At scale 0.5 it suits the thin line of a pencil."""
+    """Smooth paper, ironed: an even tooth with pits of up to 8 px, where washes settle."""
     return _heights(-np.maximum(tooth(SIDE, 121, 17, 4.8, 1.4), tooth(SIDE, 122, 17, 4.8, 1.4)), 18)
 
 
