@@ -77,7 +77,7 @@ def dry(seed, load=0.4):
 def rake(seed, teeth=11):
     """Clumps of hairs as apart as the teeth of a comb, each of its own width, strength and gap."""
     x, y = places(SIDE)
-    gaps = np.cumsum(np.exp(0.3 * bells(seed, teeth + 1)))
+    gaps = np.cumsum(np.exp(0.5 * bells(seed, teeth + 1)))
     at = -0.9 + 1.8 * (gaps[:-1] - gaps[0] * 0.5) / (gaps[-1] - gaps[0] * 0.5)
     width = 0.36 / teeth * np.exp(0.25 * bells(seed + 1, teeth))
     alpha = np.zeros((SIDE, SIDE))

@@ -5,6 +5,8 @@ Every height is as frequent, so that a paper lets through as large a share of a 
 feature that would be found again where it repeats. PNG bytes, the same every time.
 """
 
+import functools
+
 import numpy as np
 
 from brush_fields import bells, between, evened, png, ranked, soft, tooth, unit
@@ -31,7 +33,7 @@ def cold_press():
 
 
 def hot_press():
-    """Smooth paper, ironed: an even tooth with pits of up to 8 px. At scale 0.5 it suits the thin line of a pencil."""
+    """Smooth paper, ironed: an even tooth with pits of up to 8 px, where washes settle."""
     return _heights(-np.maximum(tooth(SIDE, 121, 17, 4.8, 1.4), tooth(SIDE, 122, 17, 4.8, 1.4)), 18)
 
 
@@ -68,9 +70,22 @@ def canvas():
     return _heights(unit(bulge) + 0.75 * tooth(SIDE, 146, 20, 4.4, 1.0), 24)
 
 
-PAPERS = {"rough": rough, "laid": laid, "canvas": canvas, "cold press": cold_press, "hot press": hot_press}
+def cartridge():
+    """Drawing paper: a tooth of 3 to 6 px, as fine as the crumbs that a pencil or a stick of chalk leaves on it."""
+    return _heights(tooth(SIDE, 151, 10, 2.4, 0.7), 16)
 
 
+def sugar():
+    """Pastel paper: crumbs of 2 px upon a mottling of up to 14 px."""
+    return _heights(tooth(SIDE, 152, 16, 1.8, 0.75), 20)
+
+
+PAPERS = {"rough": rough, "laid": laid, "canvas": canvas, "cold press": cold_press, "hot press": hot_press,
+          "cartridge": cartridge, "sugar": sugar}
+COARSE_STEP = 11  # where grains are so fine that a dab covers many
+
+
+@functools.cache
 def paper(name):
     """The PNG bytes of one of PAPERS."""
-    return png(PAPERS[name](), STEP)
+    return png(PAPERS[name](), COARSE_STEP if name in ("cartridge", "sugar") else STEP)

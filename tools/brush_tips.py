@@ -58,7 +58,7 @@ def graphite(seed):
 
 def coal(seed):
     """Charcoal: crumbs and gaps up to a ragged rim. Spacing 0.06 to 0.12."""
-    return _stick(192, seed, 0.3, 0.12, (40, 5), 0.0, 0.7)
+    return _stick(192, seed, 0.45, 0.12, (40, 5), -0.15, 0.55)
 
 
 def chalk(seed):
@@ -89,13 +89,23 @@ def conte(seed, aspect=0.34):
     return stamped(smoothstep(0.0, 0.05, inside) * (0.45 + 0.55 * smoothstep(0.1, 0.6, height)))
 
 
-def pool(seed, uneven=0.05):
-    """Water on paper: even within, to a soft rim that wanders a little. No pattern of its own; spacing 0.03 to 0.08.
+def puddle(seed, uneven=0.07, turns=7):
+    """Wet paint up to where the paper is dry: full, with a clear bank that wanders. Spacing 0.03 to 0.2, turned.
 
     The dark rim of a wash is no matter of a dab but of the whole stroke, so the tip has none.
     """
-    x, y = places(192)
-    return stamped(1 - smoothstep(0.62, 1.0, rim(seed, x, y, uneven, 5)), SMOOTH)
+    side = 192
+    x, y = places(side)
+    out = rim(seed, x, y, uneven, turns) + 0.012 * soft(side, seed + 3, 4)
+    return stamped(1 - smoothstep(0.88, 0.98, out))
+
+
+def mop(seed, aspect=0.22):
+    """A flat brush full of water, whose long edge lies across (along y). Spacing 0.02 to 0.05 of its length."""
+    side = 160
+    x, y = places(side)
+    inside = np.minimum(0.93 - np.abs(y), aspect - np.abs(x)) + 0.015 * soft(side, seed, 5)
+    return stamped(smoothstep(0.0, 0.07, inside))
 
 
 def bleed(seed):
@@ -103,20 +113,28 @@ def bleed(seed):
     side = 192
     x, y = places(side)
     out = rim(seed, x, y, 0.12, 9) + 0.06 * soft(side, seed + 3, 11)
-    return stamped((1 - smoothstep(0.35, 1.0, out)) ** 1.3 * (1 - smoothstep(0.9, 1.0, np.hypot(x, y))), SMOOTH)
+    return stamped((1 - smoothstep(0.6, 0.98, out)) * (1 - smoothstep(0.9, 1.0, np.hypot(x, y))), SMOOTH)
 
 
-def felt():
+def felt(side=128):
     """A felt tip: full, with an edge of a few fibres' width. Spacing 0.05 to 0.12."""
-    x, y = places(128)
+    x, y = places(side)
     return stamped(1 - smoothstep(0.8, 0.97, np.hypot(x, y)), SMOOTH)
 
 
-def ink_brush(seed, uneven=0.05):
-    """A full brush of ink, whose edge is a little torn by the paper. Spacing 0.03 to 0.08, turned or steered."""
+def square():
+    """Opaque up to its edge, for whole pixels."""
+    return stamped(np.ones((16, 16)))
+
+
+def ink_brush(seed, uneven=0.05, soft_from=0.8):
+    """A full brush of ink, whose edge is a little torn by the paper. Spacing 0.03 to 0.08, turned or steered.
+
+    soft_from   where its edge begins to fade, in radii
+    """
     side = 128
     x, y = places(side)
-    return stamped(1 - smoothstep(0.8, 0.95, np.hypot(x, y) + uneven * np.tanh(tooth(side, seed, 30, 6, 1.3))))
+    return stamped(1 - smoothstep(soft_from, 0.95, np.hypot(x, y) + uneven * np.tanh(tooth(side, seed, 30, 6, 1.3))))
 
 
 def broken_film(seed):
@@ -148,7 +166,7 @@ def mist():
     """Airbrush: a bell whose slope and bend begin and end at nothing, so that scribbles show no bands. Spacing 0.05."""
     x, y = places(128)
     inside = np.clip(1 - x * x - y * y, 0, 1)
-    return stamped(inside**4, SMOOTH)
+    return stamped(inside**2.5, SMOOTH)
 
 
 def _drops(side, seed, count, reach, sizes):

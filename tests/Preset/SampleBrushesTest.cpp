@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "Brushes/ImageData.h"
+#include "Preset/PresetInfo.h"
 #include "Preset/QDBrushManager.h"
 #include "TestFolders.h"
 #include "support/CanvasTest.h"
@@ -37,14 +38,22 @@ TEST_P(SampleBrushesTest, IsKeptAndPaints) {
     ASSERT_TRUE(canvas->resetWithXBFPath(path));
 
     const BrushParams stored = brushParams(brushes->first());
-    const auto kept = QDBrushManager::paramsOfDrawView(canvas.get());
-    ASSERT_TRUE(kept && kept->size() == stored.size());
+    const dabcanvas::PresetInfo info = dabcanvas::infoOfParams(stored);
+    EXPECT_GE(info.tags.size(), 2);
+    EXPECT_TRUE(info.about.endsWith(QLatin1Char('.'))) << info.about.toStdString();
+    EXPECT_EQ(info.author, QStringLiteral("Dabcanvas"));
+    EXPECT_EQ(info.licence, QStringLiteral("CC0-1.0"));
+
+    auto kept = QDBrushManager::paramsOfDrawView(canvas.get());
+    ASSERT_TRUE(kept);
+    setInfoOfParams(*kept, info);
+    ASSERT_EQ(kept->size(), stored.size());
     for (qsizetype i = 0; i < stored.size(); ++i) {
         SCOPED_TRACE(method(stored[i]).toStdString());
         EXPECT_EQ(key((*kept)[i]), key(stored[i]));
         EXPECT_EQ(method((*kept)[i]), method(stored[i]));
         EXPECT_EQ(type((*kept)[i]), type(stored[i]));
-        if (type(stored[i]) == kXBFData) {
+        if (type(stored[i]) == kXBFData && !dabcanvas::isPresetInfo(key(stored[i]))) {
             const QByteArray data = paramValue(stored[i]).toByteArray();
             if (!data.isEmpty()) {
                 EXPECT_FALSE(imageWithData(data).isNull());
