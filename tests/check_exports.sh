@@ -29,7 +29,7 @@ shift 2
             next  # the type of a function
         }
         name = substr($0, 1, RLENGTH)
-        if (name ~ /^(std|QMeta[A-Za-z]*|QtPrivate)$/) {
+        if (name ~ /^(std|__gnu_cxx|QMeta[A-Za-z]*|QtPrivate)$/) {
             next
         }
         count++
