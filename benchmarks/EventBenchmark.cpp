@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <random>
 #include <vector>
 
 #include "Canvas/QDDrawCanvas.h"
@@ -114,7 +115,23 @@ BENCHMARK(smudging)
     ->Arg(64)
     ->Arg(256);
 
-// The session with a look at every event, by a brush with wet edges and by the same without.
+// The session at this tilt, with a look at every event or one after each stroke.
+void drawSession(QDDrawCanvas& canvas, const Recording& recording, float altitude, bool looks) {
+    for (const Stroke& stroke : recording.strokes) {
+        const auto& [first, last] = std::pair(stroke.front(), stroke.back());
+        canvas.drawingWithBeginPoint({first.x, first.y}, first.pressure, altitude, true);
+        for (const Sample& sample : stroke) {
+            canvas.drawingWithMoveToPoint({sample.x, sample.y}, sample.pressure, altitude, true);
+            if (looks) {
+                canvas.displayImage();
+            }
+        }
+        canvas.drawingWithEndPoint({last.x, last.y}, last.pressure, altitude, true);
+        canvas.displayImage();
+    }
+}
+
+// By a brush with wet edges and by the same without.
 void wetEdges(benchmark::State& state) {
     const Recording& recording = penSession();
     const auto canvas = makeCanvas(1024, 768);
@@ -123,15 +140,7 @@ void wetEdges(benchmark::State& state) {
     canvas->setPointsDistance(static_cast<float>(state.range(2)) / 100);
     const auto draw = [&](float wetEdge) {
         canvas->setWetEdge(wetEdge);
-        for (const Stroke& stroke : recording.strokes) {
-            canvas->drawingWithBeginPoint({stroke[0].x, stroke[0].y}, stroke[0].pressure, -1, true);
-            for (const Sample& sample : stroke) {
-                canvas->drawingWithMoveToPoint({sample.x, sample.y}, sample.pressure, -1, true);
-                canvas->displayImage();
-            }
-            canvas->drawingWithEndPoint({stroke.back().x, stroke.back().y}, stroke.back().pressure, -1, true);
-            canvas->displayImage();
-        }
+        drawSession(*canvas, recording, -1, true);
     };
     Rounds wet, plain;
     for (auto _ : state) {
@@ -152,6 +161,45 @@ BENCHMARK(wetEdges)
     ->Args({100, 8, 25})
     ->Args({100, 8, 5})
     ->Args({100, 64, 5});
+
+// By a brush with paper of depth, wet edges and tilt in its flow, and by the same without them.
+void naturalMedia(benchmark::State& state) {
+    const Recording& recording = penSession();
+    const auto canvas = makeCanvas(1024, 768);
+    canvas->setRadius(static_cast<float>(state.range(0)));
+    canvas->setPointsDistance(0.1f);
+    QImage paper(512, 512, QImage::Format_Grayscale8);
+    std::mt19937 random(1);
+    std::generate_n(paper.bits(), paper.sizeInBytes(), [&] { return static_cast<uchar>(random()); });
+    canvas->setMaskImage(paper);
+    canvas->setMaskDepthControl({1, 0, 0});
+    canvas->setMaskContrast(1.5f);
+    const auto draw = [&](bool natural) {
+        canvas->setNeedMaskTexture(natural);
+        canvas->setMaskDepth(natural ? 0.5f : 0);
+        canvas->setWetEdge(natural ? 0.6f : 0);
+        canvas->setFlowControl({0, natural ? 0.5f : 0, 0});
+        drawSession(*canvas, recording, 0.9f, state.range(1) != 0);
+    };
+    Rounds natural, plain;
+    for (auto _ : state) {
+        plain.time([&] { draw(false); });
+        state.SetIterationTime(natural.time([&] { draw(true); }));
+    }
+    state.SetLabel(recording.label + ", " + canvas->rendererName().toStdString());
+    state.counters["us/event"] = natural.medianMicros() / static_cast<double>(recording.samples);
+    state.counters["natural/plain"] = natural.median() / plain.median();
+}
+BENCHMARK(naturalMedia)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(5)
+    ->ArgNames({"px", "looks"})
+    ->Args({8, 0})
+    ->Args({20, 0})
+    ->Args({100, 0})
+    ->Args({20, 1})
+    ->Args({100, 1});
 
 }  // namespace
 
