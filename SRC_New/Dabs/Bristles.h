@@ -56,7 +56,7 @@ struct BristleSpan {
         // Of the ellipse in the dab's box, along a way.
         const auto half = [&](float x, float y) {
             const float along = cosine * x - sine * y, aside = (sine * x + cosine * y) * dab.roundness;
-            return std::max(dab.halfSize * std::sqrt(along * along + aside * aside), 0.25f);
+            return (std::max)(dab.halfSize * std::sqrt(along * along + aside * aside), 0.25f);
         };
         across = half(bristles.acrossX, bristles.acrossY);
         ahead = half(-bristles.acrossY, bristles.acrossX);

@@ -18,7 +18,7 @@ public:
     void push(const QString& item) { _items.append(item); }
     // Of at least one.
     QString pop() {
-        _kept = std::min(_kept, _items.size() - 1);
+        _kept = (std::min)(_kept, _items.size() - 1);
         return _items.takeLast();
     }
     QString dropFarthest() {

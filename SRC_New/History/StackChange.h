@@ -22,14 +22,14 @@ struct StackChange {
 
     // Becomes both, one after the other.
     void then(StackChange next) {
-        const std::size_t fromKept = std::min(next.dropped, kept);
+        const std::size_t fromKept = (std::min)(next.dropped, kept);
         dropped += fromKept;
         kept -= fromKept;
         added.erase(added.begin(), added.begin() + static_cast<std::ptrdiff_t>(
-                                                       std::min(next.dropped - fromKept, added.size())));
+                                                       (std::min)(next.dropped - fromKept, added.size())));
         const std::size_t ofAdded = next.kept > kept ? next.kept - kept : 0;
-        kept = std::min(kept, next.kept);
-        added.resize(std::min(ofAdded, added.size()));
+        kept = (std::min)(kept, next.kept);
+        added.resize((std::min)(ofAdded, added.size()));
         added.insert(added.end(), std::make_move_iterator(next.added.begin()),
                      std::make_move_iterator(next.added.end()));
     }
