@@ -430,6 +430,9 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         return;  // nothing was smudged, or there is no mask
     }
     const bool isDry = style.reach() > 0 && dry(rects, style);
+    // Of those modes the programs leave what is nearly bare as it is, and drying takes paint away that was composited there.
+    const bool startsAnew =
+        isDry && style.blendType >= ESBlendTypeBehind && style.blendType < ESBlendTypeReset;
     if (isDry) {
         _compositor->setLineTextureID((*_wetLayer)->texture(), kLineUnit);
     }
@@ -442,9 +445,12 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         _kept.forEachPart(cut, [&](const Rect& part, std::uint32_t kept) {
             if (style.smudged) {
                 showSmudges(part, style.opacity, kept);
-            } else {
-                blend(part, style.blendType, style.opacity, style.masked, kept);
+                return;
             }
+            if (startsAnew) {
+                blend(part, ESBlendTypeReset, 1, false, kept);
+            }
+            blend(part, style.blendType, style.opacity, style.masked, kept);
         });
         _kept.blended(cut);
         noteChanged(picture, cut);

@@ -145,9 +145,12 @@ HWY_INLINE void blendVector(const BlendRow<Channel>& row, Value scale, hn::Vec<I
     }
     Value mixed = Mode::template mix<Channel>(back, line);
     mixed = hn::Min(mixed, alphaOf(mixed));
-    const Value up = hn::Add(hn::Mul(hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Floats>(), noise)),
-                                     hn::Set(kFloats, 1.0f / 256)),
-                             hn::Set(kFloats, 1.0f / 512));
+    Value up = hn::Add(hn::Mul(hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Floats>(), noise)),
+                               hn::Set(kFloats, 1.0f / 256)),
+                       hn::Set(kFloats, 1.0f / 512));
+    if (sizeof(Channel) == 2) {  // more would take large whole numbers to the next ones
+        up = hn::Min(up, hn::Set(kFloats, 255.0f / 256));
+    }
     auto rounded = hn::ConvertTo(hn::RebindToSigned<Floats>(), hn::Add(mixed, up));
     if (Mode::kLeavesBare || (replaces && row.mask != nullptr)) {
         const auto bare = hn::Le(bareUnless, hn::Zero(kFloats));

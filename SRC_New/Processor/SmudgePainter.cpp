@@ -380,8 +380,11 @@ void SmudgePainter<Channel>::composite(std::size_t index, const Rect& part, Tile
     const auto place = [](int pixel, double scale) { return (pixel + 0.5) * scale - 0.5; };
     const int first = part.x / kTogether * kTogether,
               end = (part.right() + kTogether - 1) / kTogether * kTogether;
-    const TexelRange across(place(first, _scaleX), place(end - 1, _scaleX), _layer.size().width);
-    const TexelRange down(place(part.y, _scaleY), place(part.bottom() - 1, _scaleY), _layer.size().height);
+    constexpr double kOff = 1.0 / 1024;  // by which whole steps lead astray in a tile, at most
+    const TexelRange across(place(first, _scaleX) - kOff, place(end - 1, _scaleX) + kOff,
+                            _layer.size().width);
+    const TexelRange down(place(part.y, _scaleY) - kOff, place(part.bottom() - 1, _scaleY) + kOff,
+                          _layer.size().height);
     const Rect texels = Rect::between(across.first, down.first, across.end, down.end);
     provide(texels);
     take(_layer, texels, _picked);

@@ -68,7 +68,7 @@ Result<ImportedBrush> importedFile(const QString& path, const ImportOf& import) 
 
 void tellLosses(const QString& path, const ImportedBrush& brush) {
     for (const QString& what : brush.lost)
-        printOut(QStringLiteral("%1: not carried over: %2\n").arg(path, what).toStdString());
+        printOut(QStringLiteral("%1: not carried over: %2\n").arg(path, what.simplified()).toStdString());
 }
 
 int saveBrush(const BrushParams& params, const QString& name, const QString& output) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Prompts.h"
-#include "BrushDrops.h"
 
 #include <QColorDialog>
 #include <QCoreApplication>

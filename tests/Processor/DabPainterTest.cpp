@@ -95,7 +95,7 @@ TEST(DabPainterTest, GivesTheSameBytesHoweverItIsDone) {
 }
 
 // A picture that dabs of all sizes have smudged, turned and upright ones, near and across its rims and those of tiles.
-std::vector<std::uint8_t> smudged(const Size& size) {
+std::vector<std::uint8_t> smudged(const Size& size, int rowsAtOnce = 1000) {
     std::mt19937 random(5);
     const auto unit = [&] { return std::uniform_real_distribution<float>(0, 1)(random); };
     std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size.width) *
@@ -121,16 +121,20 @@ std::vector<std::uint8_t> smudged(const Size& size) {
                                 .count = 20,
                                 .isFirst = dabs.size() == 1};
     }
-    const Rect touched[] = {surface.smudge(dabs, mixedStyle(Paper::none, false), 0.5f)};
-    surface.composite(PictureId::first, touched, {.opacity = 0.9f, .smudged = true});
+    const Rect touched = surface.smudge(dabs, mixedStyle(Paper::none, false), 0.5f);
+    for (int y = 0; y < size.height; y += rowsAtOnce) {
+        const Rect rows[] = {touched.intersected({0, y, size.width, rowsAtOnce})};
+        surface.composite(PictureId::first, rows, {.opacity = 0.9f, .smudged = true});
+    }
     surface.read(PictureId::first, Rect::of(size), MutablePixelView::topRowFirst(bytes.data(), size));
     return bytes;
 }
 
 TEST(DabPainterTest, SmudgesToTheSameBytesHoweverItIsDone) {
-    for (const Size size : {Size{400, 150}, Size{331, 149}, Size{5, 3}, Size{1, 1}}) {
+    for (const Size size : {Size{400, 150}, Size{331, 149}, Size{248, 71}, Size{5, 3}, Size{1, 1}}) {
         Workers::setMost(1);
         const auto alone = smudged(size);
+        EXPECT_EQ(alone, smudged(size, 1)) << "row by row";
         Workers::setMost(3);
         EXPECT_EQ(alone, smudged(size)) << "three threads";
         for (const std::int64_t target : kernelTargets()) {

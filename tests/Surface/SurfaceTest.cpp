@@ -115,6 +115,15 @@ TEST_P(SurfaceTest, PictureAndBackgroundGoTheirOwnWays) {
     surface->fill(kPicture, {});
     surface->revert(kPicture, {-5, -5, 1000, 1000});
     EXPECT_EQ(read(), expected);
+    // To the last bit that the picture has, beside what is drawn.
+    const Rect all = Rect::of(kSize);
+    const int own = surface->pixelBytes();
+    const Bytes before = read(all, own);
+    square(PaintLayer::line, {0, 0, 4, 4}, {0, 0, 0}, 1);
+    surface->composite(kPicture, {&all, 1}, {});
+    const auto rowsBelow = static_cast<std::ptrdiff_t>(at(0, 8)) / 4 * own;
+    const Bytes after = read(all, own);
+    EXPECT_TRUE(std::equal(before.begin() + rowsBelow, before.end(), after.begin() + rowsBelow));
 }
 
 // What has more bits than go out comes out alike however it is looked at, and is put back with all of them.

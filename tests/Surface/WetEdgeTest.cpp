@@ -77,6 +77,7 @@ const Row kRows[] = {
     {"erasing, masked", {.blendType = ESBlendTypeErase, .masked = true, .wetEdge = 0.7f, .wetEdgeWidth = 8}},
     {"masked", {.opacity = 0.9f, .masked = true, .wetEdge = 0.8f, .wetEdgeWidth = 20}},
     {"widest, beyond the canvas", {.wetEdge = 0.9f, .wetEdgeWidth = 64}},
+    {"to almost nothing, erasing", {.blendType = ESBlendTypeErase, .wetEdge = 1, .wetEdgeWidth = 8}},
 };
 
 TEST_P(WetEdgeTest, DriesAsTheReferenceDoes) {
@@ -129,7 +130,10 @@ TEST_P(WetEdgeTest, ComposesInAnyPartsAndAgainTheSame) {
     for (const auto& [name, style] : kRows) {
         Scene scene(GetParam(), PaintLayer::line, 16);
         const auto whole = scene.composited(style);
-        EXPECT_EQ(scene.composited(style), whole) << name;
+        CompositeStyle wet = style;
+        wet.wetEdge = 0;
+        scene.composited(wet);
+        EXPECT_EQ(scene.composited(style), whole) << name << ", over what was wet";
         scene.surface->revert(kPicture, kAll);
         std::vector<Rect> parts;
         for (int y = -3; y < kSize.height; y += 29) {

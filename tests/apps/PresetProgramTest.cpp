@@ -108,7 +108,8 @@ TEST_F(PresetProgramTest, ShowTellsWhatCouldBeReadAndThenTheDamage) {
 TEST_F(PresetProgramTest, BrushesOfOtherProgramsBecomePresets) {
     const QString tip = write("leaf.gbr", gbr({.width = 1, .height = 1, .pixels = "\xFF"}));
     const QByteArray myb = R"({"version": 3, "settings": {"opaque_multiply": {"base_value": 1, "inputs": {}},
-        "opaque": {"base_value": 1, "inputs": {"direction": [[0, 0], [180, -0.2]]}}}})";
+        "opaque": {"base_value": 1, "inputs": {"direction": [[0, 0], [180, -0.2]]}},
+        "of\n2 lines": {"base_value": 1}}})";
     const QString pen = write("pen.myb", myb);
     write("wash.myb", myb);
     const auto nameIn = [&](const char* file) {
@@ -119,7 +120,8 @@ TEST_F(PresetProgramTest, BrushesOfOtherProgramsBecomePresets) {
     EXPECT_EQ(nameIn("leaf.xbf"), "\"Leaf\"");
     const Ended ended = run("preset import %pen.myb -o %pen.xbf");
     EXPECT_EQ(ended.status, 0) << ended.err.constData();
-    EXPECT_EQ(ended.out, pen.toUtf8() + ": not carried over: the curve of opacity over direction\n");
+    const QByteArray lost = pen.toUtf8() + ": not carried over: the ";
+    EXPECT_EQ(ended.out, lost + "unknown setting of 2 lines\n" + lost + "curve of opacity over direction\n");
     EXPECT_EQ(nameIn("pen.xbf"), "\"pen\"");
     for (const char* brush : {"leaf.xbf", "pen.xbf"}) {
         const QColor paint =
