@@ -116,8 +116,8 @@ BENCHMARK(smudging)
     ->Arg(256);
 
 // The session at this tilt, with a look at every event or one after each stroke.
-void drawSession(QDDrawCanvas& canvas, const Recording& recording, float altitude, bool looks) {
-    for (const Stroke& stroke : recording.strokes) {
+void drawSession(QDDrawCanvas& canvas, float altitude, bool looks) {
+    for (const Stroke& stroke : penSession().strokes) {
         const auto& [first, last] = std::pair(stroke.front(), stroke.back());
         canvas.drawingWithBeginPoint({first.x, first.y}, first.pressure, altitude, true);
         for (const Sample& sample : stroke) {
@@ -131,25 +131,29 @@ void drawSession(QDDrawCanvas& canvas, const Recording& recording, float altitud
     }
 }
 
+// Times the session drawn in its special way, draw(true), against the plain one.
+template <typename Draw>
+void compare(benchmark::State& state, QDDrawCanvas& canvas, const char* ratio, const Draw& draw) {
+    Rounds special, plain;
+    for (auto _ : state) {
+        plain.time([&] { draw(false); });
+        state.SetIterationTime(special.time([&] { draw(true); }));
+    }
+    state.SetLabel(penSession().label + ", " + canvas.rendererName().toStdString());
+    state.counters["us/event"] = special.medianMicros() / static_cast<double>(penSession().samples);
+    state.counters[ratio] = special.median() / plain.median();
+}
+
 // By a brush with wet edges and by the same without.
 void wetEdges(benchmark::State& state) {
-    const Recording& recording = penSession();
     const auto canvas = makeCanvas(1024, 768);
     canvas->setRadius(static_cast<float>(state.range(0)));
     canvas->setWetEdgeWidth(static_cast<float>(state.range(1)));
     canvas->setPointsDistance(static_cast<float>(state.range(2)) / 100);
-    const auto draw = [&](float wetEdge) {
-        canvas->setWetEdge(wetEdge);
-        drawSession(*canvas, recording, -1, true);
-    };
-    Rounds wet, plain;
-    for (auto _ : state) {
-        plain.time([&] { draw(0); });
-        state.SetIterationTime(wet.time([&] { draw(0.6f); }));
-    }
-    state.SetLabel(recording.label + ", " + canvas->rendererName().toStdString());
-    state.counters["us/event"] = wet.medianMicros() / static_cast<double>(recording.samples);
-    state.counters["wet/plain"] = wet.median() / plain.median();
+    compare(state, *canvas, "wet/plain", [&](bool wet) {
+        canvas->setWetEdge(wet ? 0.6f : 0);
+        drawSession(*canvas, -1, true);
+    });
 }
 BENCHMARK(wetEdges)
     ->UseManualTime()
@@ -164,7 +168,6 @@ BENCHMARK(wetEdges)
 
 // By a brush with paper of depth, wet edges and tilt in its flow, and by the same without them.
 void naturalMedia(benchmark::State& state) {
-    const Recording& recording = penSession();
     const auto canvas = makeCanvas(1024, 768);
     canvas->setRadius(static_cast<float>(state.range(0)));
     canvas->setPointsDistance(0.1f);
@@ -174,21 +177,13 @@ void naturalMedia(benchmark::State& state) {
     canvas->setMaskImage(paper);
     canvas->setMaskDepthControl({1, 0, 0});
     canvas->setMaskContrast(1.5f);
-    const auto draw = [&](bool natural) {
+    compare(state, *canvas, "natural/plain", [&](bool natural) {
         canvas->setNeedMaskTexture(natural);
         canvas->setMaskDepth(natural ? 0.5f : 0);
         canvas->setWetEdge(natural ? 0.6f : 0);
         canvas->setFlowControl({0, natural ? 0.5f : 0, 0});
-        drawSession(*canvas, recording, 0.9f, state.range(1) != 0);
-    };
-    Rounds natural, plain;
-    for (auto _ : state) {
-        plain.time([&] { draw(false); });
-        state.SetIterationTime(natural.time([&] { draw(true); }));
-    }
-    state.SetLabel(recording.label + ", " + canvas->rendererName().toStdString());
-    state.counters["us/event"] = natural.medianMicros() / static_cast<double>(recording.samples);
-    state.counters["natural/plain"] = natural.median() / plain.median();
+        drawSession(*canvas, 0.9f, state.range(1) != 0);
+    });
 }
 BENCHMARK(naturalMedia)
     ->UseManualTime()

@@ -28,18 +28,23 @@ namespace {
 
 constexpr double kSketchWidth = 1024;
 
+// Ends the program where there is no memory for it.
+std::unique_ptr<QDDrawCanvas> canvasOf(const QSize& size) {
+    auto canvas = QDDrawCanvas::initWithFrame(QRectF(QPointF(0, 0), size));
+    if (!canvas) {
+        std::fprintf(stderr, "a canvas of %d x %d pixels cannot be made\n", size.width(), size.height());
+        std::exit(1);
+    }
+    return canvas;
+}
+
 // Somebody sketches on white paper: stroke by stroke of the pen session, as large as the canvas, each time
 // round in another colour.
 class Sketch {
 public:
     explicit Sketch(const benchmark::State& state)
         : _size(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))),
-          _canvas(QDDrawCanvas::initWithFrame(QRectF(QPointF(0, 0), _size))) {
-        if (!_canvas) {
-            std::fprintf(stderr, "a canvas of %d x %d pixels cannot be made\n", _size.width(),
-                         _size.height());
-            std::exit(1);
-        }
+          _canvas(canvasOf(_size)) {
         _canvas->clearWithColor(ESColor::grey(1), false);
         _canvas->setRadius(static_cast<float>(6 * scale()));
         _canvas->setRadiusControl({1, 0, 0});
@@ -171,13 +176,7 @@ QImage noise(const QSize& size) {
 class Photo {
 public:
     Photo(const benchmark::State& state, double radius)
-        : _size(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))),
-          canvas(QDDrawCanvas::initWithFrame(QRectF(QPointF(0, 0), _size))) {
-        if (!canvas) {
-            std::fprintf(stderr, "a canvas of %d x %d pixels cannot be made\n", _size.width(),
-                         _size.height());
-            std::exit(1);
-        }
+        : _size(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))), canvas(canvasOf(_size)) {
         canvas->setImage(noise(_size), QRectF(QPointF(0, 0), _size));
         canvas->setRadius(static_cast<float>(radius));
         canvas->resetUndoManager();

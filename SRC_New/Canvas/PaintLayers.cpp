@@ -115,9 +115,8 @@ Rect PaintLayers::show(const Rect& drawn, bool smudged) {
     if (drawn.isEmpty()) {
         return {};
     }
-    CompositeStyle style = _style;
-    style.smudged = smudged;
-    const Rect area = style.reach() > 0 ? drawn.grownBy(style.reach()).intersected(whole()) : drawn;
+    const int reach = smudged ? 0 : _style.reach();
+    const Rect area = reach > 0 ? drawn.grownBy(reach).intersected(whole()) : drawn;
     if (smudged != _pendingSmudged) {
         settleDrawn();
         _pendingSmudged = smudged;

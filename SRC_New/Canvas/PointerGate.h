@@ -3,7 +3,7 @@
 // a short one. A stroke belongs to the kind of device that began it: while a finger draws, mouse and pen are refused,
 // and the other way round.
 //
-// Units    view points, as the display says them; pressure 0..1; altitude 0 upright to 1 flat, -1 for none.
+// Units    view points, as the display says them; pressure 0..1; altitude as QDDrawTouch has it.
 // Life     the host may destroy the canvas, and this with it, in any callback.
 #pragma once
 

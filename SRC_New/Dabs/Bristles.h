@@ -18,8 +18,8 @@ inline constexpr int kMostBristles = 64;
 
 // What bristles do in one dab.
 struct BristleDab {
-    float part =
-        0;  // of what is laid down that comes from the bristles; the rest is taken up as without. 0: none do
+    // Of what is laid down that comes from the bristles; the rest is taken up as without. 0: none do.
+    float part = 0;
     float uptake = 0;  // how far a bristle goes towards the paint below it: by 1 - exp(-uptake) of the way
     float acrossX = 0, acrossY = 1;  // a step across the stroke's way, one pixel long
     float ahead = 1;                 // 1 where the stroke goes a quarter turn clockwise from that, else -1

@@ -94,6 +94,10 @@ std::size_t DabMaker::beginPoint(const LPPoint* points, std::size_t count, std::
     _thinFlow = (settings.lineProcessType & kThinFlow) != 0 ? std::min(size / kThinSize, 1.0f) : 1.0f;
     _halfSize = ((settings.lineProcessType & kNoThinDabs) != 0 ? std::max(size, kThinSize) : size) * 0.5f;
 
+    if (_flags.paperLift) {
+        _reach = std::clamp(influence(_point.params, settings.maskDepthControl), 0.0f, 1.0f);
+    }
+
     const LPPosition& here = _point.position;
     if (_flags.moveRadian && (here.x != _lastPosition.x || here.y != _lastPosition.y)) {
         const bool hasLast =
@@ -170,8 +174,7 @@ const Dab& DabMaker::makeDab() {
 // A firm dab reaches the paper's valleys, a light one, or one that lays down less than the brush can, its tops alone.
 float DabMaker::paperLift(float flow) const {
     const float share = settings.flow > 0 ? std::clamp(flow / settings.flow, 0.0f, 1.0f) : 0;
-    const float reach = std::clamp(influence(_point.params, settings.maskDepthControl), 0.0f, 1.0f) * share;
-    return settings.maskDepth * (2 * reach - 1);
+    return settings.maskDepth * (2 * _reach * share - 1);
 }
 
 RgbType DabMaker::jitteredColor() const {

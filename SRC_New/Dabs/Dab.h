@@ -136,6 +136,7 @@ private:
     std::size_t _dabsHere = 1;
     float _halfSize = 0;
     float _thinFlow = 1;
+    float _reach = 0;  // into the paper, at full flow
     Dab _dab{};
 };
 

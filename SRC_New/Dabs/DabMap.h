@@ -38,8 +38,8 @@ struct DabMap {
         foot = (std::fabs(cosine) + std::fabs(sine)) / 2;
         top = std::fabs(std::fabs(cosine) - std::fabs(sine)) / 2;
         height = 1 / (foot + top);
-        constexpr float kLeastSide =
-            1e-6f;  // of the trapezoid; a steeper one counts as upright without exceeding 1
+        // Of the trapezoid; a steeper one counts as upright without exceeding 1.
+        constexpr float kLeastSide = 1e-6f;
         slope = foot - top > kLeastSide ? height / (2 * (foot - top)) : 0;
 
         // Texels that a step of one pixel to the right and one down leads over, the longer of both; squared.

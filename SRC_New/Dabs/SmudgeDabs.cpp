@@ -57,8 +57,7 @@ float SmudgeMaker::follow(const DabMaker& dabs) {
 // Bristles lay down what they carry however dry they are: as a part of what is taken up by a wetter brush, so that surfaces
 // reckon with the wetness alone.
 void SmudgeMaker::beginBristles(const DabMaker& dabs, float moved) {
-    constexpr float kThirst =
-        3;  // of the wettest, in dab widths of way; as many as take a bristle most of the way
+    constexpr float kThirst = 3;  // of the wettest: a dab's width of way takes a bristle most of the way
     constexpr float kFewest = 5, kPerPixel = 0.35f;
     const float part = std::min(settings.bristles, 1.0f);
     const float dry = part < 1 ? (1 - settings.moist) * std::cbrt(1 - part) : 0.0f;

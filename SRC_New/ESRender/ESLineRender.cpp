@@ -393,7 +393,7 @@ bool ESLineRender::useMask() {
             _paperTexture->bind(kMaskUnit, kReducedMaskUnit);
             const dabcanvas::PaperTexture::Reading reading = _paperTexture->readingAt(width, height);
             _maskLevel.set(reading.part, reading.level);
-            _maskRelief.set(_maskGain, _maskLevelling);
+            _maskRelief.set(_reliefGain, _reliefLevel);
         }
         return _paperTexture != nullptr;
     }

@@ -94,8 +94,8 @@ public:
     float maskScale() const { return _maskScale; }
     // What a height of the paper, 0..1, lets through: gain * height + level; the library's own program alone asks.
     void setMaskRelief(float gain, float level) {
-        _maskGain = gain;
-        _maskLevelling = level;
+        _reliefGain = gain;
+        _reliefLevel = level;
     }
 
     const DabSettings& settings() const { return _dabs.settings; }
@@ -211,7 +211,7 @@ private:
 
     bool _needMaskTexture = false;
     float _maskScale = 1;
-    float _maskGain = 1, _maskLevelling = 0;
+    float _reliefGain = 1, _reliefLevel = 0;
     QImage _maskImage;
     std::unique_ptr<TextureObject> _maskTexture;
 

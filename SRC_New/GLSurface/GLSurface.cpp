@@ -34,6 +34,11 @@ float roundnessOf(const Rect& rect) {
     return static_cast<float>(static_cast<double>(rect.height) / rect.width);
 }
 
+// The mode's program writes nothing where the layer has next to no paint.
+bool leavesNearlyBare(std::uint32_t blendType) {
+    return blendType >= ESBlendTypeBehind && blendType <= ESBlendTypeMultiply;
+}
+
 }  // namespace
 
 // ---- Making
@@ -342,7 +347,7 @@ bool GLSurface::prepareSmudge(PictureId) {
     return true;
 }
 
-// As warmUp() does: two dabs without flow, the second of which takes up colour, with bristles, and a look at where no dab was.
+// As warmUp() does: two dabs without flow, the second of which takes up colour, with bristles, and a look at where none was.
 void GLSurface::warmUpSmudging() {
     const Dab dab{.x = 2,
                   .y = 2,
@@ -430,9 +435,8 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         return;  // nothing was smudged, or there is no mask
     }
     const bool isDry = style.reach() > 0 && dry(rects, style);
-    // Of those modes the programs leave what is nearly bare as it is, and drying takes paint away that was composited there.
-    const bool startsAnew =
-        isDry && style.blendType >= ESBlendTypeBehind && style.blendType < ESBlendTypeReset;
+    // Drying takes paint away that was composited there.
+    const bool startsAnew = isDry && leavesNearlyBare(style.blendType);
     if (isDry) {
         _compositor->setLineTextureID((*_wetLayer)->texture(), kLineUnit);
     }

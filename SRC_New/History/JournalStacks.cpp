@@ -8,7 +8,7 @@ namespace dabcanvas {
 // ---- Writing
 
 bool WrittenStacks::fits(const StacksChange& change) const {
-    const auto fit = [](const Stack& stack, const StackChange<JournalEntry>& one) {
+    const auto fit = [](const JournalStack& stack, const StackChange<JournalEntry>& one) {
         return one.kept == 0 ||
                (one.dropped <= stack.entries.size() && one.kept <= stack.entries.size() - one.dropped);
     };
@@ -21,7 +21,7 @@ bool WrittenStacks::tellsAll(const StacksChange& change) const {
 }
 
 // The first place that a record tells.
-std::uint32_t WrittenStacks::told(const Stack& stack, const StackChange<JournalEntry>& change,
+std::uint32_t WrittenStacks::told(const JournalStack& stack, const StackChange<JournalEntry>& change,
                                   std::size_t which) const {
     const std::uint32_t first = stack.first + static_cast<std::uint32_t>(change.dropped);
     std::uint32_t from = first + static_cast<std::uint32_t>(change.kept);
@@ -32,8 +32,8 @@ std::uint32_t WrittenStacks::told(const Stack& stack, const StackChange<JournalE
 }
 
 // from: the first place that is told; none: as a whole.
-void WrittenStacks::put(RecordWriter& record, const Stack& stack, const StackChange<JournalEntry>& change,
-                        std::optional<std::uint32_t> from) const {
+void WrittenStacks::put(RecordWriter& record, const JournalStack& stack,
+                        const StackChange<JournalEntry>& change, std::optional<std::uint32_t> from) const {
     const std::uint32_t first = stack.first + static_cast<std::uint32_t>(change.dropped);
     const std::size_t begin = from.value_or(first) - stack.first;
     const std::size_t end = std::max(begin, change.dropped + change.kept);
@@ -66,17 +66,18 @@ RecordWriter WrittenStacks::recordOf(const StacksChange& change, std::int64_t ti
     return record;
 }
 
-void WrittenStacks::apply(Stack& stack, const StackChange<JournalEntry>& change, bool restarts) {
+void WrittenStacks::apply(JournalStack& stack, const StackChange<JournalEntry>& change, bool restarts) {
     change.applyTo(stack.entries, [](const JournalEntry&) {});
     stack.first = restarts ? 0 : stack.first + static_cast<std::uint32_t>(change.dropped);
 }
 
 void WrittenStacks::become(const StacksChange& change, const TilePlace& place) {
     const bool restarts = tellsAll(change);
-    const auto keptOf = [](const Stack& stack, const StackChange<JournalEntry>& one) {
+    const auto keptOf = [](const JournalStack& stack, const StackChange<JournalEntry>& one) {
         return stack.first + static_cast<std::uint32_t>(one.dropped + one.kept);
     };
-    const auto toldOf = [&](const Stack& stack, const StackChange<JournalEntry>& one, std::size_t which) {
+    const auto toldOf = [&](const JournalStack& stack, const StackChange<JournalEntry>& one,
+                            std::size_t which) {
         return keptOf(stack, one) + one.added.size() - told(stack, one, which);
     };
     if (restarts) {
@@ -113,7 +114,7 @@ bool ReadStacks::parse(RecordParser& parser, Told* told) {
     return sound && told->from >= told->first;
 }
 
-void ReadStacks::apply(Stack& stack, const Told& told, bool follows) {
+void ReadStacks::apply(JournalStack& stack, const Told& told, bool follows) {
     auto& entries = stack.entries;
     const auto end = stack.first + entries.size();
     if (!follows || told.from < stack.first || told.from > end) {  // what lies below is not known

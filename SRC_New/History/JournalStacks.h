@@ -34,6 +34,11 @@ struct StacksChange {
     bool isWhole() const { return undo.kept == 0 && redo.kept == 0; }
 };
 
+struct JournalStack {
+    std::deque<JournalEntry> entries;  // the nearest last
+    std::uint32_t first = 0;           // place of the first one
+};
+
 // As they were written last.
 class WrittenStacks {
 public:
@@ -47,18 +52,15 @@ public:
 private:
     static constexpr std::size_t kLost = 7;  // records in a row that may be
 
-    struct Stack {
-        std::deque<JournalEntry> entries;
-        std::uint32_t first = 0;  // place of the first one
-    };
     using Kept = std::array<std::uint32_t, 2>;  // up to which place, of undo and redo stack
     bool tellsAll(const StacksChange& change) const;
-    std::uint32_t told(const Stack& stack, const StackChange<JournalEntry>& change, std::size_t which) const;
-    void put(RecordWriter& record, const Stack& stack, const StackChange<JournalEntry>& change,
+    std::uint32_t told(const JournalStack& stack, const StackChange<JournalEntry>& change,
+                       std::size_t which) const;
+    void put(RecordWriter& record, const JournalStack& stack, const StackChange<JournalEntry>& change,
              std::optional<std::uint32_t> from) const;
-    static void apply(Stack& stack, const StackChange<JournalEntry>& change, bool restarts);
+    static void apply(JournalStack& stack, const StackChange<JournalEntry>& change, bool restarts);
 
-    Stack _undo, _redo;
+    JournalStack _undo, _redo;
     std::optional<TilePlace> _whole;
     std::uint32_t _number = 0;  // of records since
     std::size_t _told = 0;      // entries in them
@@ -77,19 +79,15 @@ public:
     std::uint64_t lastSerial() const { return _lastSerial; }  // the greatest of all that were read
 
 private:
-    struct Stack {
-        std::deque<JournalEntry> entries;
-        std::uint32_t first = 0;
-    };
     struct Told {
         std::uint32_t first = 0, from = 0;
         std::vector<JournalEntry> entries;
     };
     bool parse(RecordParser& parser, JournalEntry* entry);
     bool parse(RecordParser& parser, Told* told);
-    static void apply(Stack& stack, const Told& told, bool follows);
+    static void apply(JournalStack& stack, const Told& told, bool follows);
 
-    Stack _undo, _redo;
+    JournalStack _undo, _redo;
     JournalEntry _current;
     std::uint32_t _segment = 0, _offset = 0, _number = 0;
     std::uint64_t _lastSerial = 0;

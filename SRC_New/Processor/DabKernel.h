@@ -34,10 +34,10 @@ struct DabLevel {
     std::int32_t lastV() const { return (size.height - 1) << 16; }
 };
 // A level gives 14 bits; times its weight, shifted right by 13 and the dab's faintness, it is a coverage.
-inline constexpr int kRelief = 16383;  // a paper's height of 1, where dabs are lifted
 inline constexpr int kFullTexel = 255 * 127 * 127 >> 8;
 inline constexpr int kWeightShift = 13;
 inline constexpr double kFullWeight = static_cast<double>(kWhole) * (1 << kWeightShift) / kFullTexel;
+inline constexpr int kRelief = 16383;  // a paper's height of 1, where dabs are lifted
 
 // The dab's box: steps of along and across, as DabMap has them, and what it covers of a pixel.
 struct DabBox {

@@ -277,8 +277,13 @@ void WetEdge::dry(const Layer& layer, const Rect& piece, const CompositeStyle& s
     _turnedMeans.make(around.height, _rect.width);
     _sums.assign(2 * static_cast<std::size_t>(_turnedMeans.stride), 0);
     HWY_DYNAMIC_DISPATCH(findMeans)
-    ({words(_turnedAlpha), around.width, words(_turnedMeans), around.height, _rect.width, _sums.data(),
-      tent});
+    ({.from = words(_turnedAlpha),
+      .zeros = around.width,
+      .to = words(_turnedMeans),
+      .width = around.height,
+      .height = _rect.width,
+      .sums = _sums.data(),
+      .tent = tent});
     _means.make(_rect.width, around.height);
     HWY_DYNAMIC_DISPATCH(turn)(words(_turnedMeans), around.height, _rect.width, words(_means));
     std::fill_n(_means.row(around.height), _means.stride, std::uint16_t{0});
@@ -286,15 +291,15 @@ void WetEdge::dry(const Layer& layer, const Rect& piece, const CompositeStyle& s
     _losses.make(_rect.width, _rect.height);
     _sums.assign(2 * static_cast<std::size_t>(_losses.stride), 0);
     HWY_DYNAMIC_DISPATCH(findLosses)
-    ({words(_means),
-      around.height,
-      words(_losses),
-      _rect.width,
-      _rect.height,
-      _sums.data(),
-      tent,
-      style.wetEdge,
-      {_alpha.row(tent.reach()) + tent.reach(), _alpha.stride}});
+    ({.from = words(_means),
+      .zeros = around.height,
+      .to = words(_losses),
+      .width = _rect.width,
+      .height = _rect.height,
+      .sums = _sums.data(),
+      .tent = tent,
+      .wetEdge = style.wetEdge,
+      .alpha = {_alpha.row(tent.reach()) + tent.reach(), _alpha.stride}});
 }
 
 const Tile<std::uint16_t>* WetEdge::dried(const Layer& layer, std::size_t index, const Rect& part) {

@@ -65,9 +65,9 @@ struct CompositeStyle {
     float opacity = 1;            // 0..1
     bool masked = false;          // the line layer counts where the sub-line layer has paint
     bool smudged = false;         // what smudging brought, in place of line and blend mode
-    // Before all else the line dries, unless it was smudged: see WetEdge.h.
+    // Before all else the line dries, unless it was smudged: pigment wanders to its rim.
     float wetEdge = 0;     // 0..1: how much paler its inside gets than its rim
-    int wetEdgeWidth = 0;  // pixels, up to kMostWetEdge: how far the rim reaches in
+    int wetEdgeWidth = 0;  // pixels, up to 64: how far the rim reaches in
 
     // So far from a pixel lies what decides how it comes out.
     int reach() const { return wetEdge > 0 && !smudged ? wetEdgeWidth : 0; }
