@@ -232,6 +232,9 @@ Rect GLSurface::drawInto(ESRenderType target, DabRender& with, std::span<const D
     if (target != ESRenderTypeCanvas) {
         with.holds = with.holds.united(touched);
     }
+    if (target == ESRenderTypeLine) {
+        _kept.drawn(touched);
+    }
     return touched;
 }
 
@@ -288,7 +291,11 @@ void GLSurface::clear(PaintLayer layer, const Rect& rect) {
         glEnable(GL_SCISSOR_TEST);  // to the pixel, where scissorRect() leaves a margin
         glScissor(rect.x, size().height - rect.bottom(), rect.width, rect.height);
         DabRender& of = dabRenderOf(layer);
-        if (rect.contains(of.holds)) {
+        const bool all = rect.contains(of.holds);
+        if (layer == PaintLayer::line) {
+            _kept.cleared(all ? Rect::of(size()) : rect);
+        }
+        if (all) {
             of.holds = {};
             of.dabs = 0;
         }
