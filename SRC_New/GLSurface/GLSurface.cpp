@@ -34,9 +34,9 @@ float roundnessOf(const Rect& rect) {
     return static_cast<float>(static_cast<double>(rect.height) / rect.width);
 }
 
-// The mode's program writes nothing where the layer has next to no paint.
+// The mode's program writes nothing where the layer, dry, has next to no paint.
 bool leavesNearlyBare(std::uint32_t blendType) {
-    return blendType >= ESBlendTypeBehind && blendType <= ESBlendTypeMultiply;
+    return blendType >= ESBlendTypeReplace && blendType <= ESBlendTypeMultiply;
 }
 
 }  // namespace
@@ -444,6 +444,7 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
     const bool isDry = style.reach() > 0 && dry(rects, style);
     // Drying takes paint away that was composited there.
     const bool startsAnew = isDry && leavesNearlyBare(style.blendType);
+    _compositor->setLeavesBare(isDry);
     if (isDry) {
         _compositor->setLineTextureID((*_wetLayer)->texture(), kLineUnit);
     }

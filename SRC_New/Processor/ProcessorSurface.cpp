@@ -241,7 +241,8 @@ void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, con
         .mask = style.masked ? pixelsAt(paint.mask, part.x, part.y) : nullptr,
         .count = part.width,
         .opacity = style.opacity,
-        .noise = noiseOf(index, part.x, part.y)};
+        .noise = noiseOf(index, part.x, part.y),
+        .showsBare = paint.showsBare};
     blendRows(style.blendType, row, part.height);
 }
 
@@ -287,16 +288,18 @@ void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
     const auto* line = _line.grid.tile(index);
     const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     const bool bare = line == nullptr || (style.masked && mask == nullptr);
-    if (bare && style.blendType != ESBlendTypeReplace) {
-        const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;
+    const bool isDry = style.reach() > 0;
+    if (bare && (style.blendType != ESBlendTypeReplace || isDry)) {
+        const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset &&
+                            style.blendType != ESBlendTypeReplace;
         return leaves ? void() : copyTiles(_background, _picture, part);
     }
     _kept[index].isBlended =
         true;  // where paint lies alone: rectangles reach as far as the looks between them let them
-    if (style.reach() > 0) {
+    if (isDry) {
         line = _wetEdge.dried(_line.grid, index, part);
     }
-    blendTile(index, part, {.layer = line, .mask = mask}, style);
+    blendTile(index, part, {.layer = line, .mask = mask, .showsBare = isDry}, style);
 }
 
 template <typename Channel>
