@@ -56,9 +56,9 @@ function(dabcanvas_library name)
         INSTALL_RPATH "$<IF:$<PLATFORM_ID:Darwin>,@loader_path,$ORIGIN>")
     if(DABCANVAS_INSTALL)
         install(TARGETS ${name} EXPORT Dabcanvas${arg_EXPORT}Targets
-            RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-            ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+            RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
+            ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
         dabcanvas_pkg_config(${name} ${arg_EXPORT} PUBLIC ${public} PRIVATE ${arg_PRIVATE})
     endif()
 endfunction()
