@@ -20,7 +20,7 @@ set(DABCANVAS_NEEDS_HIGHWAY OFF)
 if(NOT DABCANVAS_BUILD_SHARED)
     set(DABCANVAS_NEEDS_THREADS ON)
     set(DABCANVAS_NEEDS_LZ4 ${lz4_FOUND})
-    set(DABCANVAS_NEEDS_HIGHWAY ON)
+    set(DABCANVAS_NEEDS_HIGHWAY ${hwy_FOUND})
 endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DabcanvasConfig.cmake.in
     ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake INSTALL_DESTINATION ${package_folder})

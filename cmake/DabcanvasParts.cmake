@@ -22,6 +22,19 @@ if(PkgConfig_FOUND)
     endif()
 endif()
 
+# Where Highway is not packed for the machine that is built for, its headers do. They are linked to from a folder of their
+# own, as beside them there may be another machine's.
+if(DABCANVAS_HIGHWAY_HEADERS)
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/highway)
+    file(CREATE_LINK ${DABCANVAS_HIGHWAY_HEADERS}/hwy ${PROJECT_BINARY_DIR}/highway/hwy SYMBOLIC COPY_ON_ERROR)
+    add_library(dabcanvas_highway INTERFACE)
+    target_include_directories(dabcanvas_highway SYSTEM INTERFACE ${PROJECT_BINARY_DIR}/highway)
+    target_compile_definitions(dabcanvas_highway INTERFACE HWY_COMPILE_ONLY_STATIC)
+    set(highway dabcanvas_highway)
+else()
+    set(highway PkgConfig::hwy)
+endif()
+
 # A part is ON, OFF, or AUTO: built where all that it stands on is to be had. DABCANVAS_HAS_... says what came of it.
 #   ONLY_WITH  the option without which AUTO is OFF
 #   PARTS      other parts that it stands on
@@ -62,7 +75,7 @@ function(dabcanvas_part part about)
 endfunction()
 
 dabcanvas_part(SHAPES "shapes" TARGETS Eigen3::Eigen)
-dabcanvas_part(PROCESSOR "painting by the processor" TARGETS PkgConfig::hwy Threads::Threads)
+dabcanvas_part(PROCESSOR "painting by the processor" TARGETS ${highway} Threads::Threads)
 dabcanvas_part(RENDER "painting by OpenGL" TARGETS Qt6::Gui PkgConfig::epoxy)
 set(DABCANVAS_HAS_BRUSHES ${DABCANVAS_HAS_RENDER})
 dabcanvas_part(CANVAS "the canvas" PARTS SHAPES PROCESSOR RENDER TARGETS PkgConfig::xxhash)
