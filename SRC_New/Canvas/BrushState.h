@@ -58,6 +58,9 @@ public:
 
     // ---- what strokes are made from
 
+    // How the canvas is shown, see DabSettings.
+    void setViewTurn(float radian, bool mirrored);
+
     LPLineParams& line() { return _line; }
     const LPLineParams& line() const { return _line; }
     LPLineParams& subLine() { return _subLine; }

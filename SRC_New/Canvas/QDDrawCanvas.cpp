@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "Canvas/CanvasLog.h"
 #include "Canvas/QDDrawCanvasParts.h"
@@ -41,12 +42,12 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
     _inside->parts = std::make_unique<Parts>(_inside->host, std::move(surface));
     Parts& parts = *_inside->parts;
     _inside->host.watch(parts);
-    parts.preview->setComplention([this](const QImage& image, QSizeF) {
+    parts.placePreview = [this](const QImage& image, QSizeF) {
         // The preview stands for the whole buffer, at whatever size it is shown.
         const QSizeF buffer = bufferSize();
         const QSizeF& view = _inside->parts->outScale;
         drawImage(image, QRectF(0, 0, buffer.width() * view.width(), buffer.height() * view.height()));
-    });
+    };
     return true;
 }
 
@@ -98,6 +99,19 @@ GLSurface* QDDrawCanvas::glSurface() {
     return asGLSurface(surface());
 }
 
+bool QDDrawCanvas::setCanvasArea(const QRect& area) {
+    const Host::Call call(_inside->host);
+    Parts& parts = *_inside->parts;
+    SurfaceOptions options = _inside->options;
+    options.kind = asGLSurface(surface()) != nullptr ? SurfaceKind::gpu : SurfaceKind::processor;
+    if (parts.isDrawing() || !parts.finishPreview()) {
+        qCWarning(lcDabcanvas, "a canvas cannot change its size in mid-stroke");
+        return false;
+    }
+    auto made = makeSurface(QSizeF(area.size()), options);
+    return made && parts.cropTo(std::move(made), {area.x(), area.y(), area.width(), area.height()});
+}
+
 QString QDDrawCanvas::rendererName() {
     const SurfaceScope scope(surface());
     return scope ? QString::fromStdString(surface().name()) : QString();
@@ -138,6 +152,13 @@ void QDDrawCanvas::setRandomSeed(std::uint32_t seed) {
     parts.painter.setSeed(seed);
     if (!parts.isDrawing()) {
         parts.painter.restartRandom();
+    }
+}
+
+void QDDrawCanvas::setViewTurn(double radians, bool mirrored) {
+    if (std::isfinite(radians)) {
+        _inside->parts->brush.setViewTurn(static_cast<float>(std::remainder(radians, 2 * std::numbers::pi)),
+                                          mirrored);
     }
 }
 
@@ -238,7 +259,15 @@ float QDDrawCanvas::radiusForInRadius(float value) const {
 // ---- History
 
 bool QDDrawCanvas::edited() const {
-    return _inside->parts->layers.edits.edited;
+    return _inside->parts->layers.edits.unrecorded.now;
+}
+
+bool QDDrawCanvas::isModified() const {
+    return _inside->parts->isModified();
+}
+
+void QDDrawCanvas::setModified(bool modified) {
+    _inside->parts->setModified(modified);
 }
 
 bool QDDrawCanvas::isContextLost() const {

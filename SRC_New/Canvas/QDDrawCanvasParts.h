@@ -39,7 +39,8 @@ public:
     dabcanvas::ImagePlacing placing;
     dabcanvas::CanvasHistory history;
     std::unique_ptr<LeafDrawing> preview;
-    dabcanvas::Rect lastTouched;  // by dabs that are yet to be shown, see updateImage()
+    LeafDrawing::Complention placePreview;  // its stroke comes onto the canvas
+    dabcanvas::Rect lastTouched;            // by dabs that are yet to be shown, see updateImage()
 
     // ---- what must be done first
 
@@ -74,6 +75,7 @@ public:
     dabcanvas::StepPicture undo();
     dabcanvas::StepPicture redo();
     bool recover(const QString& id, QString* problem);
+    bool cropTo(std::unique_ptr<dabcanvas::PaintSurface> surface, const dabcanvas::Rect& area);
     dabcanvas::UndoRefusal refusal = dabcanvas::UndoRefusal::none;  // of the last of them
     void updateScale();
     void redisplay(const dabcanvas::Rect& area);
@@ -89,10 +91,14 @@ public:
     bool canUndo() const override;
     bool canRedo() const override;
     bool isLost() const override;
+    bool isModified() const override;
+    void setModified(bool modified);
+    dabcanvas::Rect takeChanged() override { return layers.takeChanged(); }
     bool canUndoAgain() override;
     std::pair<int, int> stepsDropped() override;
     bool acceptsPoint(QPointF point) override { return entry.accepts(point, 0, 0); }
     bool canBegin() const override;
+    double pointScale() const override { return host.pointScale(); }
     bool recognises() const override { return brush.present().enableRecogition; }
 
 private:
@@ -107,6 +113,7 @@ private:
                          dabcanvas::StrokeKind kindAfter) override;
     void brushChanged(dabcanvas::BrushKey key) override;
 
+    void makePreview();
     void leaveDrawn();
     void showDrawn(const std::optional<dabcanvas::Rect>& area, bool online);
     void endSketch(QPointF place, bool online);
@@ -120,6 +127,7 @@ private:
     dabcanvas::StepPicture stepped(dabcanvas::CanvasHistory::Outcome outcome, const dabcanvas::Rect& changed);
 
     bool _kindChanges = false;     // by the property that is being set
+    bool _valueChanges = false;    // so does its value
     bool _recognisesAnew = false;  // so does recognition
     bool _refusedStep = false;     // as a stroke was in progress
 };
