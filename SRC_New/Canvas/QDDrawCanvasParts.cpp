@@ -507,12 +507,13 @@ bool QDDrawCanvas::Parts::cropTo(std::unique_ptr<PaintSurface> surface, const Re
     if (!layers.cropTo(std::move(surface), area)) {
         return false;
     }
-    layers.edits.changed();
+    layers.edits.unsaved = {true, true};
     lastTouched = {};
     makePreview();
     host.showPreview(brush.present().brushType == kPreviewBrush);
     updateScale();
     history.startAnew();
+    host.canvasSizeChanged();
     if (kind() == StrokeKind::smudge) {
         prepareSmudge();
     }

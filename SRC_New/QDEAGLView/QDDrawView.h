@@ -95,6 +95,7 @@ signals:
     void strokeEnded(QPointF place);
     void strokeWithdrawn();
     // All others come when the call that caused them is done.
+    void canvasSizeChanged();
     void canvasChanged(const QRect& bufferPixels);
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);
@@ -153,6 +154,7 @@ protected:
     void strokeWasWithdrawn() override {
         emit strokeWithdrawn();
     }
+    void canvasSizeDidChange() override;
     void pictureDidChange(const QRect& bufferPixels) override;
     void canUndoDidChange(bool can) override {
         emit canUndoChanged(can);
