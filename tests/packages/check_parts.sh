@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Builds what there is without Qt, and without Qt's widgets, installs it and runs hosts on it:
+# Builds what there is without Qt, and without Qt's widgets (and EGL), installs it and runs hosts on it:
 #     tests/packages/check_parts.sh SCRATCH JOBS
 # The build folders stand beside the others, build/without-...: compiler caches then know what is compiled.
 set -euo pipefail
@@ -18,7 +18,7 @@ quietly() {
 build() {
     local out=build/without-$1
     quietly cmake --preset ci -B "$out" -DCMAKE_DISABLE_FIND_PACKAGE_"$2"=ON -DDABCANVAS_BUILD_TOOL=AUTO \
-        -DDABCANVAS_BUILD_PAINTER=AUTO -DDABCANVAS_BUILD_TESTS=OFF -DDABCANVAS_BUILD_BENCHMARKS=OFF
+        -DDABCANVAS_BUILD_PAINTER=AUTO -DDABCANVAS_WITH_EGL=OFF -DDABCANVAS_BUILD_TESTS=OFF -DDABCANVAS_BUILD_BENCHMARKS=OFF
     quietly cmake --build "$out" -j "$jobs"
     quietly cmake --install "$out" --prefix "$scratch/$1"
     quietly cmake -S tests/hosts/plain -B "$scratch/$1-plain" -G Ninja -DCMAKE_PREFIX_PATH="$scratch/$1" -DWITHOUT="$3"
@@ -34,7 +34,11 @@ fi
 
 build widgets Qt6Widgets View
 export QT_QPA_PLATFORM=offscreen
-quietly "$scratch/widgets/bin/dabpaint" paint samples/signature.inkml -o "$scratch/signature.png"
+if nm -D "$scratch"/widgets/lib*/libDabcanvasRender-qt6.so | grep epoxy_egl; then
+    echo "what is built without EGL calls it" >&2
+    exit 1
+fi
+DABCANVAS_SURFACE=auto quietly "$scratch/widgets/bin/dabpaint" paint samples/signature.inkml -o "$scratch/signature.png"
 if ldd "$scratch/widgets/bin/dabpaint" | grep Qt6Widgets; then
     echo "dabpaint links Qt's widgets" >&2
     exit 1
