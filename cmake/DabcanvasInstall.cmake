@@ -3,7 +3,7 @@
 include(CMakePackageConfigHelpers)
 
 # Each stands on those before it.
-set(components Stroke Shapes Dabs Processor Brushes Render Canvas View)
+set(components Stroke Shapes Dabs Processor Brushes Render Canvas Recording View)
 list(JOIN components " " DABCANVAS_COMPONENTS)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Dabcanvas)
 set(DABCANVAS_NEEDS_THREADS OFF)

@@ -29,6 +29,8 @@ public:
     // Stamps with a drawn tip, or, of type 0, with the images last given.
     void choose(const Drawing& drawing);
 
+    const QList<QImage>& given() const { return _given; }  // last
+    bool isDrawn() const { return _wanted.type != 0; }
     // The present ones, drawn by now. Empty after drop().
     const QList<QImage>& images() const;
     // The same for a surface, never empty; `radius` is that of the disc in place of none. The same object for as long as

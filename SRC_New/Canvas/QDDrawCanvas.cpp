@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "Canvas/CanvasLog.h"
 #include "Canvas/QDDrawCanvasParts.h"
@@ -43,9 +44,14 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
     _inside->host.watch(parts);
     parts.preview->setComplention([this](const QImage& image, QSizeF) {
         // The preview stands for the whole buffer, at whatever size it is shown.
+        const Host::Call placing(_inside->host);
+        Parts& made = *_inside->parts;
+        made.tell([&](CanvasInput& to) { to.previewPlaced(made.limits()); });
+        const bool wasUntold = std::exchange(made.isUntold, true);
         const QSizeF buffer = bufferSize();
-        const QSizeF& view = _inside->parts->outScale;
+        const QSizeF& view = made.outScale;
         drawImage(image, QRectF(0, 0, buffer.width() * view.width(), buffer.height() * view.height()));
+        made.isUntold = wasUntold;
     });
     return true;
 }
@@ -80,6 +86,13 @@ LeafDrawing& QDDrawCanvas::leafDrawView() {
 
 PaintSurface& QDDrawCanvas::surface() {
     return _inside->parts->layers.surface();
+}
+
+SurfaceOptions QDDrawCanvas::surfaceOptions() const {
+    SurfaceOptions options = _inside->options;
+    const bool isGpu = asGLSurface(_inside->parts->layers.surface()) != nullptr;
+    options.kind = isGpu ? SurfaceKind::gpu : SurfaceKind::processor;
+    return options;
 }
 
 GLSurface* QDDrawCanvas::glSurface() {
@@ -126,19 +139,11 @@ bool QDDrawCanvas::drawShape(const ShapeRecord& shape) {
 }
 
 void QDDrawCanvas::setRepeatableRandom(bool repeatable) {
-    Parts& parts = *_inside->parts;
-    parts.painter.setRepeatable(repeatable);
-    if (!parts.isDrawing()) {
-        parts.painter.restartRandom();
-    }
+    _inside->parts->repeatRandom(repeatable);
 }
 
 void QDDrawCanvas::setRandomSeed(std::uint32_t seed) {
-    Parts& parts = *_inside->parts;
-    parts.painter.setSeed(seed);
-    if (!parts.isDrawing()) {
-        parts.painter.restartRandom();
-    }
+    _inside->parts->seedRandom(seed);
 }
 
 void QDDrawCanvas::setProfiling(bool profiling) {
@@ -188,7 +193,7 @@ bool QDDrawCanvas::resetWithXBFPath(const QString& path, QString* problem) {
 }
 
 void QDDrawCanvas::restoreSubLine(float slRadius, float relationValue) {
-    _inside->parts->brush.restoreSubLine(slRadius, relationValue);
+    _inside->parts->setSecondLine(slRadius, relationValue);
 }
 
 bool QDDrawCanvas::isSmudgeType() const {
