@@ -9,12 +9,21 @@
 // order in which presets are captured. A property of a new name needs a row here, and the code that uses it; one that
 // dabs use, a field of DabSettings too; one with a reset value, its place in kResetOrder of BrushState+Reset.cpp.
 //
+// A number that stands for something has a row BRUSH_KIND(Kind, name, Name, columns...), with its enumeration of BrushKinds.h,
+// and the tips one BRUSH_IMAGES(name, Name, columns...); for those who do not tell them apart they are rows as all.
+//
 // Included by whoever defines BRUSH_PROPERTY for what it makes of the rows; for anyone else it is empty.
 // clang-format off
 #ifndef BRUSH_PROPERTY
 #define BRUSH_PROPERTY(...)
 #endif
-BRUSH_PROPERTY(int, brushType, BrushType, .group = BrushGroup::brush, .presetId = 0x1001, .reset = 0,
+#ifndef BRUSH_KIND
+#define BRUSH_KIND(Kind, name, Name, ...) BRUSH_PROPERTY(int, name, Name, __VA_ARGS__)
+#endif
+#ifndef BRUSH_IMAGES
+#define BRUSH_IMAGES(name, Name, ...) BRUSH_PROPERTY(QList<QImage>, name, Name, __VA_ARGS__)
+#endif
+BRUSH_KIND(BrushKind, brushType, BrushType, .group = BrushGroup::brush, .presetId = 0x1001, .reset = 0,
                .choices{{0, 4}},
                .about = "Kind of brush: 3 smudges, 4 is the live preview brush, any other paints dabs.")
 BRUSH_PROPERTY(bool, isDebug, IsDebug, .group = BrushGroup::brush,
@@ -24,7 +33,7 @@ BRUSH_PROPERTY(bool, enableRecogition, EnableRecogition, .group = BrushGroup::re
                         "and 4 draw plain dabs meanwhile.")
 BRUSH_PROPERTY(float, gaussianRadius, GaussianRadius, .group = BrushGroup::brush, .created = 1, .low = 1,
                .about = "Blur of the live preview brush when its stroke is placed, in preview pixels.")
-BRUSH_PROPERTY(int, blendType, BlendType, .group = BrushGroup::brush, .presetId = 0x1002, .reset = 1,
+BRUSH_KIND(BlendKind, blendType, BlendType, .group = BrushGroup::brush, .presetId = 0x1002, .reset = 1,
                .created = 1,
                .choices{{1, 9}},
                .about = "How a stroke meets the canvas: 1 normal, 2 replace, 4 behind, 5 erase, 6 tarnish "
@@ -67,7 +76,7 @@ BRUSH_PROPERTY(float, bristles, Bristles, .group = BrushGroup::smudge, .presetId
                .about = "How far the bristles of a smudge brush carry colour along the stroke, each its own: 0 "
                         "what lay under the dab before alone, 1 what they hold, at first loadQuantity of the "
                         "brush colour, taking up more the wetter.")
-BRUSH_PROPERTY(int, textureType, TextureType, .group = BrushGroup::tip, .presetId = 0x200A, .reset = 0,
+BRUSH_KIND(TipKind, textureType, TextureType, .group = BrushGroup::tip, .presetId = 0x200A, .reset = 0,
                .created = 1,
                .choices{{0, 3}},
                .about = "Brush tip: 0 the tip images, 1 soft disc, 2 ring, 3 rounded rectangle.")
@@ -77,7 +86,7 @@ BRUSH_PROPERTY(float, hardness, Hardness, .group = BrushGroup::tip, .presetId = 
 BRUSH_PROPERTY(float, textureControlValue, TextureControlValue, .group = BrushGroup::tip, .presetId = 0x200C,
                .created = 1,
                .about = "Thickness of the ring tip in pixels, or width to height of the rectangle tip.")
-BRUSH_PROPERTY(QList<QImage>, textureImages, TextureImages, .group = BrushGroup::tip, .presetId = 0x2001,
+BRUSH_IMAGES(textureImages, TextureImages, .group = BrushGroup::tip, .presetId = 0x2001,
                .about = "Tip images of texture type 0, up to 16: alpha is the shape; own colours show in "
                         "multicolour mode.")
 BRUSH_PROPERTY(bool, flipX, FlipX, .group = BrushGroup::angle, .presetId = 0x2003, .reset = 0,
@@ -276,7 +285,7 @@ BRUSH_PROPERTY(bool, slDistbTwoAxes, SlDistbTwoAxes, .group = BrushGroup::second
 BRUSH_PROPERTY(float, slDistbCount, SlDistbCount, .group = BrushGroup::secondLine, .presetId = 0x4011,
                .reset = 1, .created = 1,
                .about = "Dabs at each place of the second line, whole; at most 64 are drawn.")
-BRUSH_PROPERTY(int, slRadiusRelationType, SlRadiusRelationType, .group = BrushGroup::secondLine,
+BRUSH_KIND(SizeRelation, slRadiusRelationType, SlRadiusRelationType, .group = BrushGroup::secondLine,
                .presetId = 0x4012, .reset = 0,
                .choices{{0, 2}},
                .about = "How the second line's size follows radius: 1 by a difference, 2 by a ratio, any "
@@ -288,3 +297,5 @@ BRUSH_PROPERTY(float, recogPointScale, RecogPointScale, .group = BrushGroup::rec
                .about = "Divides the points handed to shape recognition.")
 // clang-format on
 #undef BRUSH_PROPERTY
+#undef BRUSH_KIND
+#undef BRUSH_IMAGES

@@ -394,6 +394,13 @@ CompositeStyle BrushState::compositeStyle() const {
             .wetEdgeWidth = dries ? static_cast<int>(std::lround(_settings.wetEdgeWidth)) : 0};
 }
 
+void BrushState::setViewTurn(float radian, bool mirrored) {
+    for (DabMaker* maker : {&_dabs, &_subDabs, &_smudgeDabs}) {
+        maker->settings.viewRadian = radian;
+        maker->settings.viewMirrored = mirrored;
+    }
+}
+
 void BrushState::setRepeatable(bool repeatable) {
     for (DabMaker* maker : {&_dabs, &_subDabs, &_smudgeDabs}) {
         maker->settings.isDebug = repeatable;

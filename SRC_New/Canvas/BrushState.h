@@ -64,6 +64,11 @@ public:
 
     // ---- what strokes are made from
 
+    // How the canvas is shown, see DabSettings.
+    void setViewTurn(float radian, bool mirrored);
+    float viewRadian() const { return _dabs.settings.viewRadian; }
+    bool isViewMirrored() const { return _dabs.settings.viewMirrored; }
+
     LPLineParams& line() { return _line; }
     const LPLineParams& line() const { return _line; }
     LPLineParams& subLine() { return _subLine; }

@@ -91,8 +91,22 @@ ImagesUndoManager& CanvasHistory::images(bool leavesRecord) {
             _record.giveBlank();
         }
         _images->setFilePathExtension({});  // raw pixels
+        if (!_layers.edits.unsaved.now) {
+            noteSaved();
+        }
     }
     return *_images;
+}
+
+// Nothing is read while there are no steps by which the canvas could come back to it.
+void CanvasHistory::noteSaved() {
+    _layers.edits.unsaved = {false, !_layers.strokeArea().isEmpty()};
+    _saved = _images == nullptr ? nullptr : _record.present();
+}
+
+bool CanvasHistory::showsSaved() {
+    const auto shown = _saved != nullptr ? _record.present() : nullptr;
+    return shown != nullptr && shown->hasSameTiles(*_saved);
 }
 
 StepPicture CanvasHistory::load(bool sketching) {
@@ -119,6 +133,14 @@ StepPicture CanvasHistory::reset() {
     return _record.data();
 }
 
+void CanvasHistory::startAnew() {
+    _record.startAnew();
+    if (_images != nullptr) {
+        _images->keepTilesIn(_record.tiles());
+        reset();
+    }
+}
+
 StepPicture CanvasHistory::mark() {
     const double passed = steadySeconds() - _lastMark;
     const bool tooSoon = autoMark && passed >= 0 && passed < static_cast<double>(markTimeInterval);
@@ -127,7 +149,7 @@ StepPicture CanvasHistory::mark() {
 
 // Null where nothing was drawn since the last step, and without the memory or the surface.
 StepPicture CanvasHistory::record() {
-    if (!_layers.edits.edited || _layers.isLost()) {
+    if (!_layers.edits.unrecorded.now || _layers.isLost()) {
         return {};
     }
     _lastMark = steadySeconds();
@@ -148,8 +170,7 @@ StepPicture CanvasHistory::record() {
 
 // A step recorded in mid-stroke holds what withdrawing the stroke takes back: the canvas without it is another picture.
 void CanvasHistory::noteRecorded() {
-    _layers.edits.edited = false;
-    _layers.edits.withoutStroke = !_layers.strokeArea().isEmpty();
+    _layers.edits.unrecorded = {false, !_layers.strokeArea().isEmpty()};
 }
 
 std::pair<int, int> CanvasHistory::stepsDropped() {
@@ -173,7 +194,7 @@ bool CanvasHistory::canRedo(bool unrecorded) const {
 }
 
 CanvasHistory::Outcome CanvasHistory::undo(Rect& changed) {
-    if (_layers.edits.edited && record().isNull()) {
+    if (_layers.edits.unrecorded.now && record().isNull()) {
         return Outcome::refused;  // what was drawn since the last step would be lost
     }
     return go(&ImagesUndoManager::undoAtOnce, &ImagesUndoManager::redoAtOnce, changed);
@@ -213,6 +234,8 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back, Rect& changed) {
         return refuse();
     }
     changed = *shown;
+    const bool differs = !showsSaved();
+    _layers.edits.unsaved = {differs, differs};
     _images->keepToBudgets();
     note();
     return Outcome::restored;
@@ -289,7 +312,9 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
             return refuse();
         }
         _images->become(history);
-        _layers.edits.setBoth(history.current.picture != history.present);
+        _layers.edits.changed();  // it is nowhere saved as a picture
+        const bool isStep = history.current.picture == history.present;
+        _layers.edits.unrecorded = {!isStep, !isStep};
     } catch (const std::bad_alloc&) {
         *problem = QStringLiteral("there is no memory for it");
         return refuse();

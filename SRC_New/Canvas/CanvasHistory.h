@@ -36,9 +36,14 @@ public:
     StepPicture load(bool sketching);
     // Makes the present canvas the only step; null without the memory.
     StepPicture reset();
+    // The canvas has another size: steps of the one before are gone.
+    void startAnew();
     // Records the canvas as a step; null, and nothing recorded, when nothing was drawn since the last, or too shortly
     // after it, or without the memory.
     StepPicture mark();
+
+    // The canvas is saved as it is now: what is unsaved counts from here, and not while a step shows it again.
+    void noteSaved();
 
     // Those that went for want of room since this was asked last, and how many are left to undo.
     std::pair<int, int> stepsDropped();
@@ -69,11 +74,13 @@ private:
     using Step = bool (ImagesUndoManager::*)();
     StepPicture record();
     void noteRecorded();
+    bool showsSaved();
     Outcome go(Step there, Step back, Rect& changed);
 
     PaintLayers& _layers;
     RecordedCanvas& _record;
     std::unique_ptr<ImagesUndoManager> _images;
+    std::shared_ptr<const TilePicture> _saved;  // null: no step may show it
     unsigned _droppedTold = 0;
     double _lastMark = -std::numeric_limits<double>::infinity();  // when the last step was recorded
 };

@@ -12,6 +12,7 @@
 
 #include <QImage>
 #include <QPointF>
+#include <QRect>
 #include <QRectF>
 #include <QSizeF>
 #include <cstdint>
@@ -79,6 +80,11 @@ public:
     // The picture with all its bits, between strokes, premultiplied; null: transparent. isStep: the history shows it, too,
     // so that steps to come lead back to it; else no step that can be told of does. False when it could not be taken.
     virtual bool pictureSet(const QImage& picture, bool isStep) = 0;
+
+    // The buffer became this area of itself, and the history began anew. False when it could not be.
+    [[nodiscard]] virtual bool areaSet(const QRect& area) = 0;
+    // The canvas is shown turned, see QDDrawCanvas::setViewTurn().
+    virtual void viewTurned(float radian, bool mirrored) = 0;
 
     // ---- the history
 

@@ -25,7 +25,9 @@ bool PaintLayers::linesHoldPaint() const {
 }
 
 void PaintLayers::noteChanged(const Rect& area) {
-    _stale = _stale.united(area.intersected(whole()));
+    const Rect cut = area.intersected(whole());
+    _stale = _stale.united(cut);
+    _changed = _changed.united(cut);
 }
 
 void PaintLayers::notePainted(const Rect& area) {
@@ -334,6 +336,40 @@ bool PaintLayers::moveTo(std::unique_ptr<PaintSurface> surface) {
     }
     _surface = std::move(surface);
     return true;
+}
+
+bool PaintLayers::cropTo(std::unique_ptr<PaintSurface> surface, const Rect& area) {
+    const Rect kept = area.intersected(whole());
+    {
+        const SurfaceScope from(*_surface), to(*surface);
+        if (!from || !to) {
+            return false;
+        }
+        settle();
+        for (int y = 0; y < kept.height; y += kMostMovedRows) {
+            const Rect band = Rect{kept.x, kept.y + y, kept.width, kMostMovedRows}.intersected(kept);
+            if (!copyBand(band, {band.x - area.x, band.y - area.y, band.width, band.height}, *surface)) {
+                return false;
+            }
+        }
+    }
+    _surface = std::move(surface);
+    for (Rect& content : _content) {
+        content = {};
+    }
+    _uncommitted = _painted = {};
+    _changed = {};
+    noteChanged(whole());
+    return true;
+}
+
+bool PaintLayers::copyBand(const Rect& band, const Rect& there, PaintSurface& to) try {
+    const int pixelBytes = _surface->pixelBytes();
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(band.area() * pixelBytes));
+    const auto rows = MutablePixelView::topRowFirst(bytes.data(), {band.width, band.height}, pixelBytes);
+    return band.isEmpty() || (_surface->read(kPicture, band, rows) && to.write(kPicture, there, rows));
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 // With the background, where that differs.

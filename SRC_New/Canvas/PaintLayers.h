@@ -14,6 +14,7 @@
 #include <QImage>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "Canvas/EditFlag.h"
@@ -100,6 +101,9 @@ public:
     // Paint lies in the other surface from now on, of the same size, byte for byte. False, and nothing has changed, while
     // the layers hold paint, and where one of both cannot be had.
     bool moveTo(std::unique_ptr<PaintSurface> surface);
+    // The same of one of another size, between strokes: it shows that area of the picture, and what lies outside of
+    // that is transparent.
+    bool cropTo(std::unique_ptr<PaintSurface> surface, const Rect& area);
 
     // ---- looking
 
@@ -107,6 +111,8 @@ public:
     const QImage& display();
     // Everything that was composited or placed since the last fill.
     const Rect& painted() const { return _painted; }
+    // What changed of the picture since this was asked last.
+    Rect takeChanged() { return std::exchange(_changed, Rect()); }
 
 private:
     Rect& contentOf(PaintLayer layer) { return _content[static_cast<std::size_t>(layer)]; }
@@ -119,6 +125,7 @@ private:
     void noteBackgroundShows(const Rect& area);
     void settleDrawn();
     bool moveBand(const Rect& band, PaintSurface& to);
+    bool copyBand(const Rect& band, const Rect& there, PaintSurface& to);
 
     std::unique_ptr<PaintSurface> _surface;
     StageClock& _clock;
@@ -130,6 +137,7 @@ private:
     Rect _strokeArea;
     Rect _uncommitted;  // where the picture may differ from its background
     Rect _painted;
+    Rect _changed;
     Rect _stale;  // where the displayed image may differ from the picture
     QImage _display;
 };

@@ -3,7 +3,9 @@
 
 #include <QLineF>
 #include <QLoggingCategory>
+#include <limits>
 #include <utility>
+#include <vector>
 
 #include "Canvas/Clock.h"
 
@@ -41,7 +43,7 @@ private:
 
 // ---- One pointer's stroke
 
-bool PointerGate::begin(QPointF point, float pressure, float altitude) {
+bool PointerGate::begin(QPointF point, float pressure, float altitude, double time) {
     if (!_canvas.canBegin()) {
         return false;
     }
@@ -57,21 +59,30 @@ bool PointerGate::begin(QPointF point, float pressure, float altitude) {
     lineMove = false;
     moveCount = 0;
     lastPoint = point;
-    _entry.begin(point, pressure, tilt(altitude));
+    const PointerSample sample = sampleOf(point, pressure, altitude, time);
+    _stabiliser.begin(options.stabiliser, _canvas.pointScale(), sample);
+    _entry.begin(point, sample.pressure, sample.altitude);
     return true;
 }
 
-void PointerGate::move(QPointF point, float pressure, float altitude) {
+void PointerGate::move(QPointF point, float pressure, float altitude, double time) {
     if (_canvas.recognises() && !canAddPoint) {
         return;
     }
     lineMove = true;
     ++moveCount;
     lastPoint = point;
-    _entry.move(point, pressure, tilt(altitude), true);
+    const Alive alive(_life);
+    // A copy, as a callback may begin another stroke.
+    for (const PointerSample& sample :
+         std::vector(_stabiliser.move(sampleOf(point, pressure, altitude, time)))) {
+        if (alive && !lineFinish) {
+            _entry.move(sample.point, sample.pressure, sample.altitude, true);
+        }
+    }
 }
 
-void PointerGate::end(QPointF point, float pressure, float altitude) {
+void PointerGate::end(QPointF point, float pressure, float altitude, double time) {
     if (_canvas.recognises()) {
         if (!canAddPoint) {
             return;
@@ -89,7 +100,7 @@ void PointerGate::end(QPointF point, float pressure, float altitude) {
         _entry.drop();
     } else {
         lineMove = false;
-        _entry.end(point, pressure, tilt(altitude), true);
+        endAt(sampleOf(point, pressure, altitude, time));
     }
     if (!ending.alive) {
         return;
@@ -101,7 +112,7 @@ void PointerGate::end(QPointF point, float pressure, float altitude) {
     _isProcess = false;
 }
 
-void PointerGate::leave(QPointF point, float pressure, float altitude, bool withdraw) {
+void PointerGate::leave(const PointerSample& sample, bool withdraw) {
     qCDebug(lcPointer, "cancelWithTouch:");
     if (_canvas.recognises() && !canAddPoint) {
         return;
@@ -110,7 +121,7 @@ void PointerGate::leave(QPointF point, float pressure, float altitude, bool with
     const bool moved = !lineFinish && lineMove;
     const bool tooShort = moveCount <= kShortStroke && adjustCancelLine;
     if (moved && (withdraw || tooShort)) {
-        _entry.tellEnd(point, [this, alive = Alive(_life)](QPointF place) {
+        _entry.tellEnd(sample.point, [this, alive = Alive(_life)](QPointF place) {
             startProcess();
             _entry.withdraw(place);
             if (alive) {
@@ -122,7 +133,7 @@ void PointerGate::leave(QPointF point, float pressure, float altitude, bool with
             startProcess();
         }
         lineMove = false;
-        _entry.end(point, pressure, tilt(altitude), true);
+        endAt(sample);
     } else {
         _entry.drop();  // a click leaves nothing
     }
@@ -131,6 +142,28 @@ void PointerGate::leave(QPointF point, float pressure, float altitude, bool with
         lineFinish = true;
         lineMove = false;
         moveCount = 0;
+    }
+}
+
+PointerSample PointerGate::sampleOf(QPointF point, float pressure, float altitude, double time) const {
+    return {point, options.pressure.at(pressure), usesPenTilt ? altitude : -1.0f,
+            time >= 0 ? time : steadySeconds()};
+}
+
+// What follows the pointer goes on to there first.
+void PointerGate::endAt(const PointerSample& sample) {
+    const Alive alive(_life);
+    if (options.stabiliser.kind != Stabilising::none) {
+        for (const PointerSample& step : std::vector(_stabiliser.move(sample))) {
+            if (!alive) {
+                return;
+            }
+            _entry.move(step.point, step.pressure, step.altitude, true);
+        }
+    }
+    if (alive) {
+        const PointerSample end = _stabiliser.end(sample);
+        _entry.end(end.point, end.pressure, end.altitude, true);
     }
 }
 
@@ -155,52 +188,52 @@ void PointerGate::finish(bool& own, bool other, How&& how) {
 
 // ---- Touch, refused while a mouse or pen draws
 
-void PointerGate::touchBegan(QPointF point, float pressure, float altitude) {
+void PointerGate::touchBegan(QPointF point, float pressure, float altitude, double time) {
     normalMoing = !digitPenMoving;
     const Alive alive(_life);
-    if (normalMoing && !begin(point, pressure, altitude) && alive) {
+    if (normalMoing && !begin(point, pressure, altitude, time) && alive) {
         normalMoing = false;
     }
 }
 
-void PointerGate::touchMoved(QPointF point, float pressure, float altitude) {
+void PointerGate::touchMoved(QPointF point, float pressure, float altitude, double time) {
     if (!digitPenMoving && normalMoing) {
-        move(point, pressure, altitude);
+        move(point, pressure, altitude, time);
     } else {
         normalMoing = false;
     }
 }
 
-void PointerGate::touchEnded(QPointF point, float pressure, float altitude) {
-    finish(normalMoing, digitPenMoving, [&] { end(point, pressure, altitude); });
+void PointerGate::touchEnded(QPointF point, float pressure, float altitude, double time) {
+    finish(normalMoing, digitPenMoving, [&] { end(point, pressure, altitude, time); });
 }
 
-void PointerGate::touchCancelled(QPointF point, float pressure, float altitude) {
-    finish(normalMoing, digitPenMoving, [&] { cancel(point, pressure, altitude); });
+void PointerGate::touchCancelled(QPointF point, float pressure, float altitude, double time) {
+    finish(normalMoing, digitPenMoving, [&] { cancel(point, pressure, altitude, time); });
 }
 
 // ---- Mouse and pen, refused while a finger draws
 
-void PointerGate::mouseDown(QPointF point, float pressure, float altitude) {
+void PointerGate::mouseDown(QPointF point, float pressure, float altitude, double time) {
     if (normalMoing) {
         return;
     }
     digitPenMoving = true;
     const Alive alive(_life);
-    if (!begin(point, pressure, altitude) && alive) {
+    if (!begin(point, pressure, altitude, time) && alive) {
         digitPenMoving = false;
     }
 }
 
-void PointerGate::mouseDragged(QPointF point, float pressure, float altitude) {
+void PointerGate::mouseDragged(QPointF point, float pressure, float altitude, double time) {
     if (!normalMoing && digitPenMoving) {
-        move(point, pressure, altitude);
+        move(point, pressure, altitude, time);
     }
 }
 
 // Deliberate: the cancel path, not the end path. A stroke long enough is finished there all the same.
-void PointerGate::mouseUp(QPointF point, float pressure, float altitude) {
-    finish(digitPenMoving, normalMoing, [&] { cancel(point, pressure, altitude); });
+void PointerGate::mouseUp(QPointF point, float pressure, float altitude, double time) {
+    finish(digitPenMoving, normalMoing, [&] { cancel(point, pressure, altitude, time); });
 }
 
 // ---- What the display does to a pointer's stroke
@@ -211,7 +244,10 @@ void PointerGate::abandon(bool withdraw) {
     }
     const Alive alive(_life);
     if (normalMoing || digitPenMoving) {
-        leave(lastPoint, _entry.lastSample().pressure, _entry.lastSample().altitude, withdraw);
+        // No time passes: what follows the pointer stays where it is.
+        leave({lastPoint, _entry.lastSample().pressure, _entry.lastSample().altitude,
+               std::numeric_limits<double>::quiet_NaN()},
+              withdraw);
     }
     if (alive) {
         normalMoing = digitPenMoving = false;

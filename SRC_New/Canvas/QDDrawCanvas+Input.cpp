@@ -56,6 +56,7 @@ bool QDDrawCanvas::Parts::listen(CanvasInput* hears) {
     brush.tell([&](BrushKey key, const BrushValue& value) { hears->brushSet(key, value); });
     hears->secondLineSet(brush.present().slRadius, brush.present().relationValue);
     hears->randomRepeats(painter.repeats());
+    hears->viewTurned(brush.viewRadian(), brush.isViewMirrored());
     if (!tellPicture(isKnown || isAsMade)) {
         listener = nullptr;
         return false;
@@ -237,6 +238,14 @@ bool QDDrawCanvas::Input::pictureSet(const QImage& picture, bool) {
     const bool isAsMade = picture.isNull() && !_parts.history.isMade() && !_parts.isUnrecorded();
     _parts.layers.settle();
     return _parts.putPicture(picture) && (isAsMade || !_parts.resetHistory().isNull());
+}
+
+bool QDDrawCanvas::Input::areaSet(const QRect& area) {
+    return _parts.setArea(area);
+}
+
+void QDDrawCanvas::Input::viewTurned(float radian, bool mirrored) {
+    _parts.turnView(radian, mirrored);
 }
 
 void QDDrawCanvas::Input::stepRecorded() {

@@ -2,17 +2,21 @@
 // The pointer's events and state, handed on to the gate.
 #include "Canvas/QDDrawCanvasParts.h"
 
+using namespace dabcanvas;
+
 QPointF QDDrawCanvas::localPointWithTouch(const QDDrawTouch& touch) const {
     return touch.locationInWindow - displayFrame().topLeft();
 }
 
 bool QDDrawCanvas::beginWithTouch(const QDDrawTouch& touch) {
-    return _inside->parts->pointer.begin(_inside->host.pointOf(touch), touch.pressure, touch.altitude);
+    return _inside->parts->pointer.begin(_inside->host.pointOf(touch), touch.pressure, touch.altitude,
+                                         touch.time);
 }
 
-#define POINTER_EVENT(name, step)                                                                   \
-    void QDDrawCanvas::name(const QDDrawTouch& touch) {                                             \
-        _inside->parts->pointer.step(_inside->host.pointOf(touch), touch.pressure, touch.altitude); \
+#define POINTER_EVENT(name, step)                                                                  \
+    void QDDrawCanvas::name(const QDDrawTouch& touch) {                                            \
+        _inside->parts->pointer.step(_inside->host.pointOf(touch), touch.pressure, touch.altitude, \
+                                     touch.time);                                                  \
     }
 POINTER_EVENT(moveWithTouch, move)
 POINTER_EVENT(endWithTouch, end)
@@ -79,6 +83,14 @@ POINTER_STATE(bool, canAddPoint, setCanAddPoint)
 POINTER_STATE(bool, normalMoing, setNormalMoing)
 POINTER_STATE(bool, digitPenMoving, setDigitPenMoving)
 #undef POINTER_STATE
+
+const PointerOptions& QDDrawCanvas::pointerOptions() const {
+    return _inside->parts->pointer.options;
+}
+
+void QDDrawCanvas::setPointerOptions(const PointerOptions& options) {
+    _inside->parts->pointer.options = options;
+}
 
 bool QDDrawCanvas::isLining() const {
     return _inside->parts->pointer.isLining();

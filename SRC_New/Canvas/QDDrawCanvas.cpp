@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <utility>
 
 #include "Canvas/CanvasLog.h"
@@ -42,7 +43,7 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
     _inside->parts = std::make_unique<Parts>(_inside->host, std::move(surface));
     Parts& parts = *_inside->parts;
     _inside->host.watch(parts);
-    parts.preview->setComplention([this](const QImage& image, QSizeF) {
+    parts.placePreview = [this](const QImage& image, QSizeF) {
         // The preview stands for the whole buffer, at whatever size it is shown.
         const Host::Call placing(_inside->host);
         Parts& made = *_inside->parts;
@@ -52,7 +53,8 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
         const QSizeF& view = made.outScale;
         drawImage(image, QRectF(0, 0, buffer.width() * view.width(), buffer.height() * view.height()));
         made.isUntold = wasUntold;
-    });
+    };
+    parts.setArea = [this](const QRect& area) { return setCanvasArea(area); };
     return true;
 }
 
@@ -111,6 +113,21 @@ GLSurface* QDDrawCanvas::glSurface() {
     return asGLSurface(surface());
 }
 
+bool QDDrawCanvas::setCanvasArea(const QRect& area) {
+    const Host::Call call(_inside->host);
+    Parts& parts = *_inside->parts;
+    if (parts.isDrawing() || !parts.finishPreview()) {
+        qCWarning(lcDabcanvas, "a canvas cannot change its size in mid-stroke");
+        return false;
+    }
+    auto made = makeSurface(QSizeF(area.size()), surfaceOptions());
+    if (!made || !parts.cropTo(std::move(made), {area.x(), area.y(), area.width(), area.height()})) {
+        return false;
+    }
+    parts.tell([&](CanvasInput& to) { static_cast<void>(to.areaSet(area)); });
+    return true;
+}
+
 QString QDDrawCanvas::rendererName() {
     const SurfaceScope scope(surface());
     return scope ? QString::fromStdString(surface().name()) : QString();
@@ -144,6 +161,12 @@ void QDDrawCanvas::setRepeatableRandom(bool repeatable) {
 
 void QDDrawCanvas::setRandomSeed(std::uint32_t seed) {
     _inside->parts->seedRandom(seed);
+}
+
+void QDDrawCanvas::setViewTurn(double radians, bool mirrored) {
+    if (std::isfinite(radians)) {
+        _inside->parts->turnView(static_cast<float>(std::remainder(radians, 2 * std::numbers::pi)), mirrored);
+    }
 }
 
 void QDDrawCanvas::setProfiling(bool profiling) {
@@ -243,7 +266,15 @@ float QDDrawCanvas::radiusForInRadius(float value) const {
 // ---- History
 
 bool QDDrawCanvas::edited() const {
-    return _inside->parts->layers.edits.edited;
+    return _inside->parts->layers.edits.unrecorded.now;
+}
+
+bool QDDrawCanvas::isModified() const {
+    return _inside->parts->isModified();
+}
+
+void QDDrawCanvas::setModified(bool modified) {
+    _inside->parts->setModified(modified);
 }
 
 bool QDDrawCanvas::isContextLost() const {

@@ -33,6 +33,8 @@
 #include <optional>
 
 #include "Brushes/BrushProperties.h"
+#include "Canvas/CanvasEvents.h"
+#include "Canvas/PointerOptions.h"
 #include "Canvas/QDDrawTouch.h"
 #include "Canvas/QDDrawViewDelegate.h"
 #include "Canvas/StageClock.h"
@@ -54,7 +56,7 @@ class GLSurface;
 class PaintSurface;
 }  // namespace dabcanvas
 
-class DABCANVAS_CANVAS_API QDDrawCanvas {
+class DABCANVAS_CANVAS_API QDDrawCanvas : public dabcanvas::CanvasEvents {
 public:
     // ---- Make
     // As large as the frame, transparent, with the default brush. Null, after one log line, when the surface that is
@@ -136,12 +138,20 @@ public:
     void clearWithColor(const ESColor& color, bool online);
 
     QSizeF bufferSize() const;
+    // The buffer becomes this area of itself, in its pixels; what lies outside of what it was is transparent. False, after a
+    // log line, and nothing changed, in mid-stroke and where no surface of that size can be had. The history begins anew.
+    bool setCanvasArea(const QRect& area);
     // View points per buffer pixel, per axis; (1, 1) while frame and buffer have one size.
     QSizeF scale() const;
     // To be called when the frame has changed its size: points and redisplay rectangles scale from then on.
     void updateScaleInfo();
-    bool edited() const;         // the canvas was drawn on or cleared since the last step
-    bool isContextLost() const;  // see Loss; found by what draws or reads next
+    // A display shows it mirrored left to right, then turned counter-clockwise: tips keep their angle as seen.
+    void setViewTurn(double radians, bool mirrored);
+    bool edited() const;  // the canvas was drawn on or cleared since the last step
+    bool isModified()
+        const;  // it differs from what it was made as, or when the host last saved it and said so:
+    void setModified(bool modified);  // false; a step that shows that picture again is not modified either
+    bool isContextLost() const;       // see Loss; found by what draws or reads next
 
     // ---- Images
     // Reading back: rectangles in view points (readDataBufferRect(): buffer pixels) on the canvas and at least a pixel
@@ -267,6 +277,9 @@ public:
     void setAdjustCancelLine(bool value);
     bool usesPenTilt() const;  // off: events reach the stroke without altitude
     void setUsesPenTilt(bool value);
+    // Who may paint, what pressure counts as, and a stabiliser; a stroke keeps the one that it began with.
+    const dabcanvas::PointerOptions& pointerOptions() const;
+    void setPointerOptions(const dabcanvas::PointerOptions& options);
 
     // Draws brush type 4; a stroke comes onto the canvas by the event loop, or when that is read or drawn on before.
     LeafDrawing& leafDrawView();
@@ -388,6 +401,10 @@ protected:
     // others may: they come at the end of the call that caused them, with the host's own GL context current.
     // Where the canvas is shown, in view points; its size against bufferSize() gives scale().
     virtual QRectF displayFrame() const;
+    // Of those points, how many lie on one as seen, where the display shows the canvas smaller or larger.
+    virtual double pointScale() const {
+        return 1;
+    }
     // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once.
     virtual void redisplayRect(const QRectF&) {}
     // What shows brush type 4 over the canvas; frame is the buffer, in pixels. Called once, by initCanvas(). Never null.

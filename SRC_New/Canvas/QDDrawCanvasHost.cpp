@@ -6,6 +6,7 @@
 #include "Preview/LeafDrawing.h"
 
 using dabcanvas::Alive;
+using dabcanvas::Rect;
 using dabcanvas::StrokeStage;
 
 namespace {
@@ -52,14 +53,13 @@ QDDrawCanvas::Host::Call::Call(Host& host)
     : _host(host),
       _alive(host.life),
       _isOutermost(host.takeThread()),
-      _canUndo(host._watched != nullptr && host._watched->canUndo()),
-      _canRedo(host._watched != nullptr && host._watched->canRedo()) {
+      _before(host._calls == 0 ? host.present() : Before()) {
     ++host._calls;
 }
 
 QDDrawCanvas::Host::Call::~Call() {
     if (_alive && --_host._calls == 0) {
-        _host.tellAll(_canUndo, _canRedo);
+        _host.tellAll(_before);
     }
     if (_alive && _isOutermost) {
         _host._user = std::thread::id();
@@ -76,6 +76,11 @@ QRectF QDDrawCanvas::Host::shownFrame() const {
 QPointF QDDrawCanvas::Host::pointOf(const QDDrawTouch& touch) const {
     const MustStay stays(_canvas);
     return _canvas.localPointWithTouch(touch);
+}
+
+double QDDrawCanvas::Host::pointScale() const {
+    const MustStay stays(_canvas);
+    return _canvas.pointScale();
 }
 
 std::unique_ptr<LeafDrawing> QDDrawCanvas::Host::makePreview(const QRectF& buffer) const {
@@ -109,10 +114,49 @@ bool QDDrawCanvas::Host::tellDone(StrokeStage stage, QPointF point) {
     if (delegate != nullptr) {
         (delegate->*callbacks.did)(_canvas, point);
     }
+    if (alive) {
+        tellStroke(stage, point);
+    }
     return static_cast<bool>(alive);
 }
 
+void QDDrawCanvas::Host::tellStroke(StrokeStage stage, QPointF point) {
+    _strokeAt = point;
+    switch (stage) {
+        case StrokeStage::begin:
+            _strokeBegan = true;
+            _strokeStays = _strokeWasLeft = false;
+            return _canvas.strokeDidBegin(point);
+        case StrokeStage::move:
+            return _canvas.strokeDidMove(point);
+        case StrokeStage::end:
+            return tellStrokeEnd();
+    }
+}
+
+void QDDrawCanvas::Host::tellStrokeEnd() {
+    if (std::exchange(_strokeBegan, false)) {
+        _strokeStays ? _canvas.strokeDidEnd(_strokeAt) : _canvas.strokeWasWithdrawn();
+    }
+}
+
+void QDDrawCanvas::Host::strokeWasLeft(bool stays) {
+    const Call call(*this);
+    _strokeStays = stays;
+    _strokeWasLeft = true;
+}
+
 // ---- What is told when a call is done
+
+QDDrawCanvas::Host::Before QDDrawCanvas::Host::present() const {
+    return _watched == nullptr ? Before()
+                               : Before{_watched->canUndo(), _watched->canRedo(), _watched->isModified()};
+}
+
+void QDDrawCanvas::Host::brushChanged() {
+    const Call call(*this);
+    _brushChanged = true;
+}
 
 void QDDrawCanvas::Host::redisplay(const QRectF& viewRect) {
     const Call call(*this);
@@ -128,32 +172,36 @@ void QDDrawCanvas::Host::showPreview(bool shown) {
     _showsPreview = shown;
 }
 
-void QDDrawCanvas::Host::tellAll(bool couldUndo, bool couldRedo) {
+// Whatever is heard may destroy the canvas, and change what is yet to be told.
+void QDDrawCanvas::Host::tellAll(const Before& before) {
     const Alive alive(life);
     if (const auto shown = std::exchange(_showsPreview, {})) {
         _canvas.showLeafDrawView(*shown);
     }
-    if (!alive) {
-        return;
-    }
-    for (const QRectF& rect : std::exchange(_toShow, {})) {
-        _canvas.redisplayRect(rect);
-        if (!alive) {
-            return;
+    for (const QRectF& rect : alive ? std::exchange(_toShow, {}) : std::vector<QRectF>()) {
+        if (alive) {
+            _canvas.redisplayRect(rect);
         }
     }
-    if (_watched == nullptr) {
-        return;
+    if (alive && _watched != nullptr) {
+        tellDelegate(before);
     }
-    const bool lossIsNew = _watched->isLost() && !std::exchange(_lossTold, true);
-    if (lossIsNew && delegate != nullptr) {
+    if (alive && _watched != nullptr) {
+        tellDisplay(before);
+    }
+}
+
+void QDDrawCanvas::Host::tellDelegate(const Before& before) {
+    const Alive alive(life);
+    _lossIsNew = _watched->isLost() && !std::exchange(_lossTold, true);
+    if (_lossIsNew && delegate != nullptr) {
         delegate->drawViewDidLoseContext(_canvas);
     }
-    if (alive && delegate != nullptr && _watched->canUndo() != couldUndo) {
-        delegate->drawViewDidUpdateUndoStatus(_canvas, !couldUndo);
+    if (alive && delegate != nullptr && _watched->canUndo() != before.canUndo) {
+        delegate->drawViewDidUpdateUndoStatus(_canvas, !before.canUndo);
     }
-    if (alive && delegate != nullptr && _watched->canRedo() != couldRedo) {
-        delegate->drawViewDidUpdateRedoStatus(_canvas, !couldRedo);
+    if (alive && delegate != nullptr && _watched->canRedo() != before.canRedo) {
+        delegate->drawViewDidUpdateRedoStatus(_canvas, !before.canRedo);
     }
     if (alive && delegate != nullptr && _watched->canUndoAgain()) {
         delegate->drawViewCanUndoAgain(_canvas);
@@ -163,5 +211,30 @@ void QDDrawCanvas::Host::tellAll(bool couldUndo, bool couldRedo) {
     }
     if (const auto [dropped, left] = _watched->stepsDropped(); dropped > 0) {
         delegate->drawViewDidDropUndoSteps(_canvas, dropped, left);
+    }
+}
+
+void QDDrawCanvas::Host::tellDisplay(const Before& before) {
+    const Alive alive(life);
+    if (std::exchange(_strokeWasLeft, false)) {
+        tellStrokeEnd();
+    }
+    if (const Rect area = alive ? _watched->takeChanged() : Rect(); !area.isEmpty()) {
+        _canvas.pictureDidChange(QRect(area.x, area.y, area.width, area.height));
+    }
+    if (alive && std::exchange(_brushChanged, false)) {
+        _canvas.brushDidChange();
+    }
+    if (alive && _watched->canUndo() != before.canUndo) {
+        _canvas.canUndoDidChange(!before.canUndo);
+    }
+    if (alive && _watched->canRedo() != before.canRedo) {
+        _canvas.canRedoDidChange(!before.canRedo);
+    }
+    if (alive && _watched->isModified() != before.isModified) {
+        _canvas.modifiedDidChange(!before.isModified);
+    }
+    if (alive && std::exchange(_lossIsNew, false)) {
+        _canvas.contextWasLost();
     }
 }

@@ -20,6 +20,9 @@ public:
         virtual bool canUndo() const = 0;
         virtual bool canRedo() const = 0;
         virtual bool isLost() const = 0;
+        virtual bool isModified() const = 0;
+        // What changed of the picture since this was asked last.
+        virtual dabcanvas::Rect takeChanged() = 0;
         // Whether what an undo was refused for has passed; once.
         virtual bool canUndoAgain() = 0;
         // Steps that went since this was asked last, and how many are left to undo.
@@ -46,6 +49,11 @@ public:
     void mustNotBeNeeded() const;
     void watch(Watched& watched) { _watched = &watched; }
 
+    // What a host hears of when it is another after a call.
+    struct Before {
+        bool canUndo = false, canRedo = false, isModified = false;
+    };
+
     // One call of the host's: the first local of every function that may change what the host is to hear of. That waits
     // for the end of the outermost one, when none of the canvas's scopes is open and no member is needed any more:
     // hearing it, the host may destroy the canvas. Ends debug builds when another thread is in one: members are no
@@ -61,13 +69,14 @@ public:
         Host& _host;
         dabcanvas::Alive _alive;
         bool _isOutermost;  // until what waited for its end was told
-        bool _canUndo, _canRedo;
+        Before _before;
     };
 
     // ---- questions, whose answer is waited for
 
     QRectF shownFrame() const;
     QPointF pointOf(const QDDrawTouch& touch) const;
+    double pointScale() const;
     std::unique_ptr<LeafDrawing> makePreview(const QRectF& buffer) const;
 
     // ---- callbacks of a stroke
@@ -80,11 +89,21 @@ public:
     void redisplay(const QRectF& viewRect);
     void redisplayAll();
     void showPreview(bool shown);
+    void brushChanged();
+    // A stroke's end is on its way: it stays, or nothing of it does.
+    void strokeEnds(bool stays) { _strokeStays = stays; }
+    // The same of an end that no delegate hears of.
+    void strokeWasLeft(bool stays);
     bool isLossTold() const { return _lossTold; }
 
 private:
     bool takeThread();
-    void tellAll(bool couldUndo, bool couldRedo);
+    Before present() const;
+    void tellAll(const Before& before);
+    void tellDelegate(const Before& before);
+    void tellDisplay(const Before& before);
+    void tellStroke(dabcanvas::StrokeStage stage, QPointF point);
+    void tellStrokeEnd();
 
     QDDrawCanvas& _canvas;
     Watched* _watched = nullptr;           // null until the canvas is made
@@ -92,5 +111,10 @@ private:
     int _calls = 0;
     std::vector<QRectF> _toShow;
     std::optional<bool> _showsPreview;
-    bool _lossTold = false;
+    bool _lossTold = false, _lossIsNew = false;
+    bool _brushChanged = false;
+    bool _strokeBegan = false;    // and its end was not told of yet
+    bool _strokeWasLeft = false;  // as it is to be when the call is done
+    bool _strokeStays = false;
+    QPointF _strokeAt;  // buffer pixels
 };

@@ -20,6 +20,21 @@ PaintColor paintOf(const ESColor& color) {
     return {color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha};
 }
 
+// Pictures are not compared, which may take longer than setting them.
+bool isOther(const BrushValue& one, const BrushValue& other) {
+    return std::visit(
+        [](const auto& a, const auto& b) {
+            if constexpr (std::is_same_v<decltype(a), decltype(b)> &&
+                          !std::is_same_v<decltype(a), const QImage&> &&
+                          !std::is_same_v<decltype(a), const QList<QImage>&>) {
+                return !(a == b);
+            } else {
+                return true;
+            }
+        },
+        one, other);
+}
+
 }  // namespace
 
 QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> surface)
@@ -38,13 +53,18 @@ QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> sur
             listener->stepRecorded();
         }
     };
-    preview = host.makePreview(QRectF(QPointF(0, 0), bufferSize()));
+    makePreview();
     brush.setListener(this);
     layers.setStyle(brush.compositeStyle());
     layers.commit();
+    updateScale();
+}
+
+void QDDrawCanvas::Parts::makePreview() {
+    preview = host.makePreview(QRectF(QPointF(0, 0), bufferSize()));
+    preview->setComplention([this](const QImage& image, QSizeF size) { placePreview(image, size); });
     preview->setGaussianRadius(brush.present().gaussianRadius);
     sendPreviewColor();
-    updateScale();
 }
 
 // ---- What must be done first
@@ -137,6 +157,7 @@ void QDDrawCanvas::Parts::strokeMoved(const StrokeSample& sample, bool online) {
 void QDDrawCanvas::Parts::strokeEnded(const StrokeSample& sample, bool online) {
     const Host::Call call(host);
     tell([&](CanvasInput& to) { to.strokeEnded(inputOf(sample)); });
+    host.strokeEnds(true);
     if (sketch.isOn()) {
         endSketch(sample.place, online);
     } else if (kind() == StrokeKind::preview) {
@@ -174,6 +195,7 @@ void QDDrawCanvas::Parts::strokeDropped() {
 
 // Without an end. What it may have drawn stays, as a step of its own; a preview or a sketch never reaches the canvas.
 void QDDrawCanvas::Parts::leaveDrawn() {
+    host.strokeWasLeft(kind() != StrokeKind::preview && !sketch.isOn() && !layers.strokeArea().isEmpty());
     if (kind() == StrokeKind::preview) {
         preview->drawWithCanceled(entry.lastSample().place);
         return;
@@ -194,7 +216,7 @@ void QDDrawCanvas::Parts::updateImage(bool online, bool smudged) {
     if (isLost()) {
         return;
     }
-    layers.edits.edited = true;
+    layers.edits.drawn();
     if (lastTouched.isEmpty()) {
         return;
     }
@@ -261,7 +283,7 @@ Rect QDDrawCanvas::Parts::drawPoints(std::span<const LPPoint> points, DrawTarget
     const Rect touched = painter.drawPoints(points, target);
     layers.drawnIsBelow();
     if (target == DrawTarget::picture && !touched.isEmpty()) {
-        layers.edits.setBoth(true);  // withdrawing a stroke does not take it back
+        layers.edits.changed();  // withdrawing a stroke does not take it back
     }
     return touched;
 }
@@ -307,8 +329,14 @@ void QDDrawCanvas::Parts::repeatRandom(bool repeats) {
     }
 }
 
+void QDDrawCanvas::Parts::turnView(float radian, bool mirrored) {
+    tell([&](CanvasInput& to) { to.viewTurned(radian, mirrored); });
+    brush.setViewTurn(radian, mirrored);
+}
+
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {
     _kindChanges = kindAfter != kind();
+    _valueChanges = _valueChanges || isOther(brush.value(key), value);
     _recognisesAnew = key == BrushKey::enableRecogition && std::get<bool>(value) != recognises();
     if (_recognisesAnew) {
         sketch.drop();  // what a stroke in progress has drawn stays, whatever it was to become
@@ -321,6 +349,9 @@ void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value,
 }
 
 void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
+    if (std::exchange(_valueChanges, false)) {
+        host.brushChanged();
+    }
     const bool anew = std::exchange(_recognisesAnew, false);
     updateStyle();
     if (std::exchange(_kindChanges, false) && kind() == StrokeKind::smudge) {
@@ -380,7 +411,7 @@ void QDDrawCanvas::Parts::clear(const ESColor& color) {
         return;
     }
     tell([&](CanvasInput& to) { to.cleared(color, true); });
-    layers.edits.setBoth(true);
+    layers.edits.changed();
     layers.forgetDue();
     layers.emptyLines();
     layers.empty(PaintLayer::smudge);
@@ -418,8 +449,10 @@ bool QDDrawCanvas::Parts::place(const PlacedImage& image, const Spot& spot, bool
         return false;
     }
     tellPlaced(image, spot, isUndo);
-    if (!isUndo) {
-        layers.edits.setBoth(true);
+    const SinceThen unrecorded = layers.edits.unrecorded;
+    layers.edits.changed();
+    if (isUndo) {
+        layers.edits.unrecorded = unrecorded;
     }
     host.redisplayAll();
     if (!placing.rules.neglects) {
@@ -461,7 +494,8 @@ bool QDDrawCanvas::Parts::isLost() const {
 
 // Whether the canvas holds, or will hold, what no step does. A stroke in progress cannot be undone and does not count.
 bool QDDrawCanvas::Parts::isUnrecorded() const {
-    return (isDrawing() ? layers.edits.withoutStroke : layers.edits.edited) || preview->isPending();
+    return (isDrawing() ? layers.edits.unrecorded.withoutStroke : layers.edits.unrecorded.now) ||
+           preview->isPending();
 }
 
 bool QDDrawCanvas::Parts::canUndo() const {
@@ -534,6 +568,26 @@ bool QDDrawCanvas::Parts::refuses(bool hasStep) {
     return refusal != UndoRefusal::none;
 }
 
+bool QDDrawCanvas::Parts::cropTo(std::unique_ptr<PaintSurface> surface, const Rect& area) {
+    const Host::Call call(host);
+    settleSketch();
+    settle();
+    if (!layers.cropTo(std::move(surface), area)) {
+        return false;
+    }
+    layers.edits.changed();
+    lastTouched = {};
+    makePreview();
+    host.showPreview(brush.present().brushType == kPreviewBrush);
+    updateScale();
+    history.startAnew();
+    if (kind() == StrokeKind::smudge) {
+        prepareSmudge();
+    }
+    host.redisplayAll();
+    return true;
+}
+
 bool QDDrawCanvas::Parts::recover(const QString& id, QString* problem) {
     const Host::Call call(host);
     if (!finishPreview() || isDrawing() || isLost()) {
@@ -549,6 +603,20 @@ bool QDDrawCanvas::Parts::recover(const QString& id, QString* problem) {
     }
     tellPicture(true);
     return true;
+}
+
+bool QDDrawCanvas::Parts::isModified() const {
+    return layers.edits.unsaved.now || preview->isPending();
+}
+
+void QDDrawCanvas::Parts::setModified(bool modified) {
+    const Host::Call call(host);
+    if (modified) {
+        layers.edits.unsaved = {true, true};
+    } else if (finishPreview()) {
+        settleSketch();
+        history.noteSaved();
+    }
 }
 
 bool QDDrawCanvas::Parts::canUndoAgain() {
@@ -568,7 +636,7 @@ StepPicture QDDrawCanvas::Parts::stepped(CanvasHistory::Outcome outcome, const R
             const bool marks = std::exchange(history.autoMark, false);  // clearing is no step of its own here
             clear({});
             history.autoMark = marks;
-            layers.edits.setBoth(false);  // it is what the step has become
+            layers.edits.unrecorded = {};  // it is what the step has become
             break;
         }
         case CanvasHistory::Outcome::restored:

@@ -7,6 +7,8 @@
 // Life     after whatever may call the host back, a part asks Alive before it touches a member.
 #pragma once
 
+#include <functional>
+
 #include "Canvas/BrushState.h"
 #include "Canvas/CanvasHistory.h"
 #include "Canvas/ImagePlacing.h"
@@ -40,8 +42,9 @@ public:
     dabcanvas::ImagePlacing placing;
     dabcanvas::CanvasHistory history;
     std::unique_ptr<LeafDrawing> preview;
+    LeafDrawing::Complention placePreview;  // its stroke comes onto the canvas
     Input input;
-    dabcanvas::Rect lastTouched;  // by dabs that are yet to be shown, see updateImage()
+    dabcanvas::Rect lastTouched;            // by dabs that are yet to be shown, see updateImage()
 
     // ---- what must be done first
 
@@ -76,6 +79,7 @@ public:
     dabcanvas::StepPicture undo();
     dabcanvas::StepPicture redo();
     bool recover(const QString& id, QString* problem);
+    bool cropTo(std::unique_ptr<dabcanvas::PaintSurface> surface, const dabcanvas::Rect& area);
     dabcanvas::UndoRefusal refusal = dabcanvas::UndoRefusal::none;  // of the last of them
     void updateScale();
     void redisplay(const dabcanvas::Rect& area);
@@ -92,6 +96,8 @@ public:
     void setSecondLine(float slRadius, float relationValue);
     void seedRandom(std::uint32_t seed);
     void repeatRandom(bool repeats);
+    void turnView(float radian, bool mirrored);
+    std::function<bool(const QRect&)> setArea;
     template <typename Tell>
     void tell(Tell&& tell) {
         if (listener != nullptr && !isUntold) {
@@ -111,10 +117,14 @@ public:
     bool canUndo() const override;
     bool canRedo() const override;
     bool isLost() const override;
+    bool isModified() const override;
+    void setModified(bool modified);
+    dabcanvas::Rect takeChanged() override { return layers.takeChanged(); }
     bool canUndoAgain() override;
     std::pair<int, int> stepsDropped() override;
     bool acceptsPoint(QPointF point) override { return entry.accepts(point, 0, 0); }
     bool canBegin() const override;
+    double pointScale() const override { return host.pointScale(); }
     bool recognises() const override { return brush.present().enableRecogition; }
 
 private:
@@ -130,6 +140,7 @@ private:
                          dabcanvas::StrokeKind kindAfter) override;
     void brushChanged(dabcanvas::BrushKey key) override;
 
+    void makePreview();
     void leaveDrawn();
     void showDrawn(const std::optional<dabcanvas::Rect>& area, bool online);
     void endSketch(QPointF place, bool online);
@@ -148,6 +159,7 @@ private:
     dabcanvas::StepPicture stepped(dabcanvas::CanvasHistory::Outcome outcome, const dabcanvas::Rect& changed);
 
     bool _kindChanges = false;     // by the property that is being set
+    bool _valueChanges = false;    // so does its value
     bool _recognisesAnew = false;  // so does recognition
     bool _refusedStep = false;     // as a stroke was in progress
 };

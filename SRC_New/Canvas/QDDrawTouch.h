@@ -11,6 +11,7 @@ struct QDDrawTouch {
     QPointF locationInWindow;  // view points from the top left of the window that shows the canvas
     float pressure = 1;        // 0..1
     float altitude = -1;       // tilt of a pen: 0 upright to 1 at 60 degrees, -1 for none
+    double time = -1;          // seconds, by the clock of the stroke's first event; -1: now
 };
 
 namespace dabcanvas {

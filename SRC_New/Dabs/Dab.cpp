@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "LineProcess/Tingle.h"
 #include "LineProcess/TingleBlocks.h"
@@ -78,7 +79,7 @@ void DabMaker::comeFrom(const LPPosition& place) {
 void DabMaker::beginRun() {
     SetDebugModel(settings.isDebug ? 1 : 0);
     _baseRadian = settings.radian + (settings.startRadianEnable ? _startRadian : 0.0f);
-    _dab.radian = _baseRadian;
+    _dab.radian = onCanvas(_baseRadian);
     _dab.roundness = settings.roundness;
     _dab.flow = settings.flow;
     _dab.color = settings.color;
@@ -148,8 +149,8 @@ const Dab& DabMaker::makeDab() {
         dab.paperLift = paperLift(flow);
     }
     if (_flags.radianTingle) {
-        dab.radian = radianTingleBlock(_point, _baseRadian, _direction, s.radianTingle, s.moveRadianEnable,
-                                       _pointIndex, s.radianControl);
+        dab.radian = onCanvas(radianTingleBlock(_point, _baseRadian, seenDirection(), s.radianTingle,
+                                                s.moveRadianEnable, _pointIndex, s.radianControl));
     }
     if (_flags.roundnessTingle) {
         const float roundness = roundnessTingleBlock(_point, s.roundness, s.roundnessTingle, s.minRoundness,
@@ -166,9 +167,18 @@ const Dab& DabMaker::makeDab() {
     if (s.pixelAligned) {
         alignToPixels(dab);
     }
-    dab.flipX = mirrored(s.flipX, s.flipXTingle, _pointIndex);
+    dab.flipX = mirrored(s.flipX != s.viewMirrored, s.flipXTingle, _pointIndex);
     dab.flipY = mirrored(s.flipY, s.flipYTingle, _pointIndex);
     return dab;
+}
+
+float DabMaker::seenDirection() const {
+    constexpr float kHalfTurn = std::numbers::pi_v<float>;
+    return settings.viewRadian + (settings.viewMirrored ? kHalfTurn - _direction : _direction);
+}
+
+float DabMaker::onCanvas(float seenRadian) const {
+    return settings.viewMirrored ? settings.viewRadian - seenRadian : seenRadian - settings.viewRadian;
 }
 
 // A firm dab reaches the paper's valleys, a light one, or one that lays down less than the brush can, its tops alone.

@@ -55,6 +55,9 @@ struct DabSettings {
     LPControlParams colorControl{};
     float hueTingle = 0, saturationTingle = 0, brightnessTingle = 0;
     bool colorFul = false;
+    // How the canvas is shown: mirrored left to right, then turned. Tips keep the angle that they are seen at.
+    float viewRadian = 0;
+    bool viewMirrored = false;
     bool isDebug = false;  // repeatable random sequences instead of a generator's
     int lineProcessType = 0;
     std::uint32_t numberOfTips = 0;  // tip images handed in; an atlas may hold fewer
@@ -121,6 +124,8 @@ private:
     float paperLift(float flow) const;
     RgbType jitteredColor() const;
     std::uint32_t jitteredTip() const;
+    float seenDirection() const;
+    float onCanvas(float seenRadian) const;
 
     DabFlags _flags;
     // Of the stroke

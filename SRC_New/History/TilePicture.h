@@ -36,6 +36,15 @@ public:
         return one._rows == other._rows;
     }
 
+    // The same, found tile by tile where it must be; of any sizes.
+    bool hasSameTiles(const TilePicture& other) const {
+        bool same = _layout.picture() == other._layout.picture();
+        if (same) {
+            forEachDifference(other, [&](std::size_t) { same = false; });
+        }
+        return same;
+    }
+
     // Calls visit(std::size_t index) for each tile that is another version there. Of pictures of one size.
     template <typename Visit>
     void forEachDifference(const TilePicture& other, Visit&& visit) const {

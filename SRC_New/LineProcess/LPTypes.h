@@ -17,6 +17,8 @@ struct LPControlParams {
     float pressure;
     float altitude;
     float speed;
+
+    friend bool operator==(const LPControlParams&, const LPControlParams&) = default;
 };
 
 // One dab. A stored dab's radius is above 0.

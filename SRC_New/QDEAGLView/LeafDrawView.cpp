@@ -19,11 +19,26 @@ std::unique_ptr<LeafDrawView> LeafDrawView::initWithFrame(const QRectF& frame, Q
 }
 
 LeafDrawView::LeafDrawView(const QRectF& frame, QWidget* parent)
-    : QWidget(parent), LeafDrawing(frame.size()) {
+    : QWidget(parent), LeafDrawing(frame.size()), _buffer(frame.size()) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
     setGeometry(frame.toRect());
+}
+
+QTransform LeafDrawView::transform() const {
+    return _transform.value_or(
+        _buffer.isEmpty() ? QTransform()
+                          : QTransform::fromScale(width() / _buffer.width(), height() / _buffer.height()));
+}
+
+void LeafDrawView::setTransform(const QTransform& bufferToView) {
+    _transform = bufferToView;
+    update();
+}
+
+void LeafDrawView::redisplayRect(const QRectF& rect) {
+    update(transform().mapRect(rect).toAlignedRect().adjusted(-1, -1, 1, 1));
 }
 
 void LeafDrawView::paintEvent(QPaintEvent* event) {
@@ -33,5 +48,6 @@ void LeafDrawView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(rect()), cgImage());
+    painter.setTransform(transform(), true);
+    painter.drawImage(QRectF(QPointF(), _buffer), cgImage());
 }

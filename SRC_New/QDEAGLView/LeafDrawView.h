@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QTransform>
 #include <QWidget>
 #include <memory>
+#include <optional>
 
 #include "Preview/LeafDrawing.h"
 
@@ -21,11 +23,20 @@ public:
     // when a number of it is not finite or beyond what a widget can have.
     static std::unique_ptr<LeafDrawView> initWithFrame(const QRectF& frame, QWidget* parent = nullptr);
 
+    // How the canvas lies in this widget, from buffer pixels; at first over all of it, whatever its geometry.
+    void setTransform(const QTransform& bufferToView);
+
 protected:
     explicit LeafDrawView(const QRectF& frame, QWidget* parent = nullptr);
 
     void paintEvent(QPaintEvent* event) override;
 
-    QSizeF frameSize() const override { return size(); }
-    void redisplayRect(const QRectF& viewRect) override { update(viewRect.toAlignedRect()); }
+    QSizeF frameSize() const override { return _buffer; }
+    void redisplayRect(const QRectF& rect) override;
+
+private:
+    QTransform transform() const;
+
+    QSizeF _buffer;
+    std::optional<QTransform> _transform;
 };

@@ -6,16 +6,12 @@
 #include <QWidget>
 
 #include "Canvas/CanvasLog.h"
+#include "Display/DevicePointers.h"
 #include "QDEAGLView/LeafDrawView.h"
 
 namespace {
 
-// So that colour properties take a QColor through setProperty() and style sheets, and give one.
-void registerColorConversions() {
-    static const bool registered = QMetaType::registerConverter<QColor, ESColor>() &&
-                                   QMetaType::registerConverter<ESColor, QColor>(&ESColor::toQColor);
-    Q_UNUSED(registered);
-}
+constexpr QRectF kUnseen(0, 0, 640, 480);  // until a view is shown
 
 bool isUsable(double side) {
     return side >= 1 && side <= QWIDGETSIZE_MAX;
@@ -29,42 +25,86 @@ std::unique_ptr<QDDrawView> QDDrawView::initWithFrame(const QRectF& frame, QWidg
         qCWarning(lcDabcanvas, "a view cannot be %g x %g view points large", frame.width(), frame.height());
         return nullptr;
     }
-    registerColorConversions();
     std::unique_ptr<QDDrawView> view(new QDDrawView(frame, parent));
-    return view->initCanvas(options) ? std::move(view) : nullptr;
+    if (!view->initCanvas(options)) {
+        return nullptr;
+    }
+    view->viewWasResized();
+    return view;
 }
 
-QDDrawView::QDDrawView(const QRectF& frame, QWidget* parent) : QWidget(parent), QDDrawCanvas(frame) {
+QDDrawView::QDDrawView(const QRectF& frame, QWidget* parent)
+    : QWidget(parent), CanvasDisplay(QRectF(QPointF(), frame.toRect().size())) {
     setGeometry(frame.toRect());
     setAttribute(Qt::WA_AcceptTouchEvents);
 }
 
+QDDrawView::QDDrawView(QWidget* parent, const dabcanvas::SurfaceOptions& options)
+    : QDDrawView(kUnseen, parent) {
+    initCanvasOrSayWhy(options);
+    viewWasResized();
+    _takesViewSize = problem().isEmpty();
+}
+
+QDDrawView::~QDDrawView() = default;
+
 QSize QDDrawView::sizeHint() const {
-    return bufferSize().toSize();
+    return (_takesViewSize ? kUnseen.size() : bufferSize()).toSize();
+}
+
+void QDDrawView::showEvent(QShowEvent* event) {
+    if (_takesViewSize) {
+        _takesViewSize = false;
+        if (!isModified()) {
+            setCanvasArea(QRect(QPoint(), (QSizeF(size()) * devicePixelRatioF()).toSize()));
+        }
+        updateGeometry();
+    }
+    QWidget::showEvent(event);
+    viewWasResized();  // a screen of another density
 }
 
 void QDDrawView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    const QImage& canvas = displayImage();
-    // Interpolating an unscaled picture would cost time and change nothing.
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, canvas.size() != size() * devicePixelRatioF());
-    painter.drawImage(QRectF(rect()), canvas);
+    paintCanvas(painter, event->rect());
 }
 
 void QDDrawView::resizeEvent(QResizeEvent* event) {
     const MustStay stays(*this);
     QWidget::resizeEvent(event);
-    updateScaleInfo();
+    viewWasResized();
     if (rect().isEmpty()) {
-        forgetPointer();
+        pointers().forget();
     }
     if (_leafWidget != nullptr) {
         _leafWidget->setGeometry(rect());
     }
 }
 
-// The canvas owns it, which is destroyed before this widget's children are.
+void QDDrawView::updateView(const QRectF& viewRect) {
+    update((viewRect & QRectF(rect())).toAlignedRect());
+}
+
+void QDDrawView::viewDidChange() {
+    if (_leafWidget != nullptr) {
+        _leafWidget->setTransform(bufferToView());
+    }
+    emit viewChanged();
+}
+
+void QDDrawView::pictureDidChange(const QRect& bufferPixels) {
+    CanvasDisplay::pictureDidChange(bufferPixels);
+    emit canvasChanged(bufferPixels);
+}
+
+void QDDrawView::contextWasLost() {
+    CanvasDisplay::contextWasLost();
+    emit contextLost();
+}
+
+// ---- The live preview, which the canvas owns: it is destroyed before this widget's children are
+
 std::unique_ptr<LeafDrawing> QDDrawView::makeLeafDrawView(const QRectF& frame) {
     std::unique_ptr<LeafDrawView> leaf = LeafDrawView::initWithFrame(frame, this);
     if (!leaf) {
@@ -80,9 +120,4 @@ void QDDrawView::showLeafDrawView(bool shown) {
     if (_leafWidget != nullptr) {
         _leafWidget->setVisible(shown);
     }
-}
-
-void QDDrawView::redisplayRect(const QRectF& viewRect) {
-    // One more point on each side: a stretched picture is interpolated across the edge.
-    update(viewRect.toAlignedRect().adjusted(-1, -1, 1, 1));
 }

@@ -167,6 +167,18 @@ bool CanvasRecorder::pictureSet(const QImage& picture, bool isStep) {
     return true;
 }
 
+// What undo leads to from here depends on whether there was a history.
+bool CanvasRecorder::areaSet(const QRect& area) {
+    add(AreaChange{area});
+    _undoSteps = -1;
+    _redoSteps = 0;
+    return true;
+}
+
+void CanvasRecorder::viewTurned(float radian, bool mirrored) {
+    add(ViewChange{radian, mirrored});
+}
+
 void CanvasRecorder::stepRecorded() {
     add(RecordedCall::stepRecorded);
     ++_undoSteps;

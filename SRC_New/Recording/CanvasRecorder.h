@@ -64,6 +64,8 @@ private:
     void cleared(const ESColor& color, bool layersToo) override;
     void imagePlaced(const InputImage& placed) override;
     bool pictureSet(const QImage& picture, bool isStep) override;
+    bool areaSet(const QRect& area) override;
+    void viewTurned(float radian, bool mirrored) override;
     void stepRecorded() override;
     void historyReset() override;
     bool undone() override;

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <QImage>
+#include <QRect>
 #include <QSize>
 #include <QString>
 #include <cstdint>
@@ -82,11 +83,20 @@ struct WholePicture {
 struct PlacedPreview {
     InputLimits limits;
 };
+// The canvas became this area of itself.
+struct AreaChange {
+    QRect area;
+};
+// How it is shown.
+struct ViewChange {
+    float radian = 0;
+    bool mirrored = false;
+};
 enum class RecordedCall : std::uint8_t { stepRecorded, historyReset, undone, redone };
 
 using RecordedWhat =
     std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange, ClearedCanvas,
-                 InputImage, PlacedPreview, DrawnShape, WholePicture, RecordedCall>;
+                 InputImage, PlacedPreview, DrawnShape, WholePicture, AreaChange, ViewChange, RecordedCall>;
 
 struct RecordedEvent {
     double time = 0;  // when it began

@@ -101,6 +101,17 @@ public:
                    _player.fail(QStringLiteral("the canvas does not take the recorded picture"));
         return _player.fail(QStringLiteral("a recorded picture has another size than the canvas"));
     }
+    bool operator()(const AreaChange& change) {
+        const auto scaledSide = [this](int pixels) { return int(std::lround(pixels * scale())); };
+        const QRect area(scaledSide(change.area.x()), scaledSide(change.area.y()),
+                         std::max(1, scaledSide(change.area.width())),
+                         std::max(1, scaledSide(change.area.height())));
+        return _to.areaSet(area) || _player.fail(QStringLiteral("the canvas does not change its size"));
+    }
+    bool operator()(const ViewChange& change) {
+        _to.viewTurned(change.radian, change.mirrored);
+        return true;
+    }
     bool operator()(RecordedCall call) {
         switch (call) {
             case RecordedCall::stepRecorded:

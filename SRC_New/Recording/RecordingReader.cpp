@@ -132,6 +132,8 @@ private:
     bool readImage(InputImage& placed);
     bool readPreview(InputLimits& limits);
     bool readScissor(InputLimits& limits);
+    bool readArea(QRect& area);
+    bool readView(ViewChange& change);
     bool readShape(ShapeRecord& shape);
     bool readPicture(QImage& image);
     bool readPictures(QList<QImage>& images);
@@ -148,9 +150,25 @@ private:
 };
 
 bool EventReader::read(std::vector<RecordedEvent>& events) {
-    enum { at, stroke, brush, secondLine, seed, repeatable, clear, image, preview, shape, picture, call };
-    static const QStringList kMembers{"at",    "stroke", "brush",   "secondLine", "seed",    "repeatable",
-                                      "clear", "image",  "preview", "shape",      "picture", "do"};
+    enum {
+        at,
+        stroke,
+        brush,
+        secondLine,
+        seed,
+        repeatable,
+        clear,
+        image,
+        preview,
+        shape,
+        picture,
+        area,
+        view,
+        call
+    };
+    static const QStringList kMembers{"at",         "stroke", "brush", "secondLine", "seed",
+                                      "repeatable", "clear",  "image", "preview",    "shape",
+                                      "picture",    "area",   "view",  "do"};
     JsonMembers members(_reader, kMembers);
     double time = 0;
     QString name;
@@ -200,6 +218,12 @@ bool EventReader::read(std::vector<RecordedEvent>& events) {
                 break;
             case picture:
                 one<WholePicture>(events, [&](WholePicture& whole) { return readPicture(whole.picture); });
+                break;
+            case area:
+                one<AreaChange>(events, [&](AreaChange& change) { return readArea(change.area); });
+                break;
+            case view:
+                one<ViewChange>(events, [&](ViewChange& change) { return readView(change); });
                 break;
             case call:
                 one<RecordedCall>(events,
@@ -360,6 +384,34 @@ bool EventReader::readPreview(InputLimits& limits) {
         if (place < 0)
             return false;
         place == neglects ? _reader.readBoolean(limits.neglects) : readScissor(limits);
+    }
+    return !_reader.failed();
+}
+
+bool EventReader::readArea(QRect& area) {
+    double box[4] = {};
+    if (!readNumbers(_reader, box))
+        return false;
+    for (const double number : box) {
+        if (number != std::floor(number) || std::abs(number) > kFarthest)
+            return _reader.fail(QStringLiteral("expected whole numbers of pixels"));
+    }
+    area = QRect(int(box[0]), int(box[1]), int(box[2]), int(box[3]));
+    const QString refusal = sizeRefusal(area.width(), area.height());
+    return refusal.isEmpty() || _reader.fail(refusal);
+}
+
+bool EventReader::readView(ViewChange& change) {
+    enum { radian, mirrored };
+    static const QStringList kMembers{"radian", "mirrored"};
+    JsonMembers members(_reader, kMembers);
+    QString name;
+    _reader.beginObject();
+    while (_reader.nextMember(name)) {
+        const int place = members.place(name);
+        if (place < 0)
+            return false;
+        place == radian ? readFloat(_reader, change.radian) : _reader.readBoolean(change.mirrored);
     }
     return !_reader.failed();
 }

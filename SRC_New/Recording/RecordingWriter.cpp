@@ -194,6 +194,17 @@ public:
         text += '}';
     }
     void operator()(const WholePicture& whole) { picture("picture", whole.picture); }
+    void operator()(const AreaChange& change) {
+        open(text, "area", '[');
+        text.pop_back();
+        appendList(text, change.area.x(), change.area.y(), change.area.width(), change.area.height());
+    }
+    void operator()(const ViewChange& change) {
+        open(text, "view", '{');
+        member(text, "radian", change.radian);
+        member(text, "mirrored", change.mirrored);
+        text += '}';
+    }
     void operator()(const RecordedCall& call) {
         member(text, "do", QString::fromLatin1(kCallNames[std::size_t(call)]));
     }

@@ -56,6 +56,7 @@ struct Heard final : StrokeEntry::Listener, StrokeHost, PointerGate::Canvas {
     void strokeDropped() override { calls += '-'; }
     bool canBegin() const override { return canDraw; }
     bool recognises() const override { return recognising; }
+    double pointScale() const override { return 1; }
 };
 
 // ---- A stroke's stages

@@ -1,0 +1,363 @@
+// SPDX-License-Identifier: MIT
+#include "Display/DevicePointers.h"
+
+#include <QLineF>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPointingDevice>
+#include <QTabletEvent>
+#include <QTouchEvent>
+#include <QWheelEvent>
+#include <QtMath>
+#include <cmath>
+#include <utility>
+
+#include "Display/CanvasDisplay.h"
+
+namespace dabcanvas {
+namespace {
+
+// A second finger within this time, or as long as the first one drew no line, makes a pinch of both.
+constexpr std::uint64_t kPinchMilliseconds = 400;
+constexpr std::uint64_t kTapMilliseconds = 300;
+constexpr double kTapPoints = 12;      // by which a finger that taps may slide
+constexpr double kTurnsFrom = 0.2;     // radians; a pinch turns a little by itself
+constexpr double kWheelDoubles = 480;  // eighths of a degree of wheel for twice the size
+
+double secondsOf(std::uint64_t milliseconds) {
+    return milliseconds == 0 ? -1 : static_cast<double>(milliseconds) / 1000;
+}
+
+}  // namespace
+
+QDDrawTouch DevicePointers::touchAt(QPointF position, double pressure, std::uint64_t milliseconds) const {
+    return {_display.toWindow(position), static_cast<float>(pressure), -1, secondsOf(milliseconds)};
+}
+
+// ---- Which device is heard
+
+void DevicePointers::pressed(Pointer pointer, const QDDrawTouch& touch) {
+    if (_pointer != Pointer::none && _pointer != pointer) {
+        return;
+    }
+    const Alive alive(life);
+    pointer == Pointer::finger ? _display.touchesBeganWithEvent(touch) : _display.mouseDown(touch);
+    if (!alive) {
+        return;  // a callback destroyed the display
+    }
+    _pointer = _display.normalMoing() || _display.digitPenMoving() ? pointer : Pointer::none;
+}
+
+void DevicePointers::dragged(Pointer pointer, const QDDrawTouch& touch) {
+    if (_pointer == pointer) {
+        pointer == Pointer::finger ? _display.touchesMovedWithEvent(touch) : _display.mouseDragged(touch);
+    }
+}
+
+void DevicePointers::released(Pointer pointer, const QDDrawTouch& touch) {
+    if (_pointer == pointer) {
+        _pointer = Pointer::none;
+        pointer == Pointer::finger ? _display.touchesEndedWithEvent(touch) : _display.mouseUp(touch);
+    }
+}
+
+bool DevicePointers::forget() {
+    const Alive alive(life);
+    _pointer = Pointer::none;
+    _panning = false;
+    _display.endPointerStroke();
+    return static_cast<bool>(alive);
+}
+
+// ---- Mouse
+
+// Pens and fingers come by themselves; the mouse events that are made of theirs must not paint again.
+bool DevicePointers::isOurs(const QMouseEvent& event) const {
+    return event.source() == Qt::MouseEventNotSynthesized &&
+           event.pointerType() != QPointingDevice::PointerType::Finger &&
+           event.pointerType() != QPointingDevice::PointerType::Pen &&
+           event.pointerType() != QPointingDevice::PointerType::Eraser;
+}
+
+bool DevicePointers::mousePress(const QMouseEvent& event) {
+    if (event.button() == Qt::MiddleButton && _display.isNavigable() && _pointer == Pointer::none) {
+        _panning = true;
+        _panFrom = event.position();
+        return true;
+    }
+    if (event.button() != Qt::LeftButton) {
+        return false;
+    }
+    if (isOurs(event)) {
+        pressed(Pointer::mouse, touchAt(event.position(), 1, event.timestamp()));
+    }
+    return true;
+}
+
+bool DevicePointers::mouseMove(const QMouseEvent& event) {
+    if (_panning) {
+        _display.panBy(event.position() - std::exchange(_panFrom, event.position()));
+        _panning = (event.buttons() & Qt::MiddleButton) != 0;
+        return true;
+    }
+    if ((event.buttons() & Qt::LeftButton) == 0) {
+        return _pointer == Pointer::mouse && !forget();  // its release went elsewhere
+    }
+    if (isOurs(event)) {
+        dragged(Pointer::mouse, touchAt(event.position(), 1, event.timestamp()));
+    }
+    return true;
+}
+
+bool DevicePointers::mouseRelease(const QMouseEvent& event) {
+    if (event.button() == Qt::MiddleButton && std::exchange(_panning, false)) {
+        return true;
+    }
+    if (event.button() != Qt::LeftButton) {
+        return false;
+    }
+    if (isOurs(event)) {
+        released(Pointer::mouse, touchAt(event.position(), 1, event.timestamp()));
+    }
+    return true;
+}
+
+// ---- Pen
+
+// What a palm drew before its pen came is nothing. False when the display is gone.
+bool DevicePointers::seePen() {
+    const bool isFirst = !std::exchange(_penSeen, true);
+    if (isFirst && _pointer == Pointer::finger &&
+        _display.pointerOptions().touch == TouchPolicy::pensOnceSeen) {
+        const Alive alive(life);
+        _pointer = Pointer::none;
+        _palmRests = true;
+        _display.withdrawPointerStroke();
+        return static_cast<bool>(alive);
+    }
+    return true;
+}
+
+bool DevicePointers::tablet(const QTabletEvent& event) {
+    if (!seePen()) {
+        return true;
+    }
+    QDDrawTouch touch = touchAt(event.position(), event.pressure(), event.timestamp());
+    if (event.device()->hasCapability(QInputDevice::Capability::XTilt)) {
+        touch.altitude = altitudeOfTilts(qDegreesToRadians(double{event.xTilt()}),
+                                         qDegreesToRadians(double{event.yTilt()}));
+    }
+    const auto id = static_cast<std::int64_t>(event.pointingDevice()->uniqueId().numericId());
+    const bool ofStroke = _pointer == Pointer::pen && id == _penId;
+    if (event.type() == QEvent::TabletPress && event.button() == Qt::LeftButton) {
+        if (_pointer != Pointer::pen || ofStroke) {
+            _penId = id;
+            _palmRests = true;
+            pressed(Pointer::pen, touch);
+        }
+    } else if (event.type() == QEvent::TabletMove && ofStroke) {
+        if ((event.buttons() & Qt::LeftButton) != 0) {
+            dragged(Pointer::pen, touch);
+        } else {
+            forget();  // its release went elsewhere
+        }
+    } else if (event.type() == QEvent::TabletRelease && event.button() == Qt::LeftButton) {
+        if (ofStroke) {
+            released(Pointer::pen, touch);
+        }
+    } else {
+        return false;  // hovering, and other buttons
+    }
+    return true;
+}
+
+// ---- Fingers
+
+bool DevicePointers::fingersPaint() const {
+    switch (_display.pointerOptions().touch) {
+        case TouchPolicy::fingersPaint:
+            return true;
+        case TouchPolicy::pensOnly:
+            return false;
+        case TouchPolicy::pensOnceSeen:
+            break;
+    }
+    return !_penSeen;
+}
+
+bool DevicePointers::touch(const QTouchEvent& event) {
+    const Alive alive(life);
+    if (event.device() != nullptr && event.device()->type() == QInputDevice::DeviceType::TouchPad) {
+        return false;  // which moves the mouse
+    }
+    if (event.type() == QEvent::TouchBegin) {
+        _fingersIgnored = false;  // the end of earlier ones may have been lost
+        _palmRests = _pointer == Pointer::pen;
+        _mostFingers = _gripping = 0;
+    }
+    const bool paints = fingersPaint();
+    if (!paints && !_display.isNavigable()) {
+        return false;
+    }
+    if (event.type() == QEvent::TouchCancel) {
+        _fingersIgnored = false;
+        _mostFingers = _gripping = 0;
+        if (std::exchange(_pointer, _pointer == Pointer::finger ? Pointer::none : _pointer) ==
+            Pointer::finger) {
+            _display.touchesCancelledWithEvent(touchAt(_display.inView(_display.lastPoint()), 0, 0));
+        }
+        return true;
+    }
+    countFingers(event);
+    if (paints) {
+        paintWithFinger(event);
+    }
+    if (alive && !_palmRests && _display.isNavigable() && (!paints || _fingersIgnored)) {
+        navigate(event);
+    }
+    if (alive && event.type() == QEvent::TouchEnd) {
+        const bool taps = !_fingersMoved && !_palmRests && _mostFingers > 1 &&
+                          event.timestamp() - _fingerDown < kTapMilliseconds;
+        const int fingers = std::exchange(_mostFingers, 0);
+        _fingersIgnored = _palmRests = false;
+        _gripping = 0;
+        if (taps) {
+            _display.fingersDidTap(fingers);
+        }
+    }
+    return true;
+}
+
+void DevicePointers::paintWithFinger(const QTouchEvent& event) {
+    const Alive alive(life);
+    if (event.points().size() > 1 && !std::exchange(_fingersIgnored, true) && _pointer == Pointer::finger) {
+        _pointer = Pointer::none;
+        // Nothing of a pinch is painted; a line that has long been drawn is kept.
+        const bool pinch = event.timestamp() - _fingerDown < kPinchMilliseconds || !_display.isLining();
+        pinch ? _display.withdrawPointerStroke() : _display.endPointerStroke();
+    }
+    if (!alive || _fingersIgnored || event.points().isEmpty()) {
+        return;
+    }
+    const QEventPoint& finger = event.points().first();
+    const bool measures = event.pointingDevice() != nullptr &&
+                          event.pointingDevice()->hasCapability(QInputDevice::Capability::Pressure);
+    const QDDrawTouch touch = touchAt(_display.fromGlobal(finger.globalPosition()),
+                                      measures ? finger.pressure() : 1, event.timestamp());
+    switch (finger.state()) {
+        case QEventPoint::State::Pressed:
+            return pressed(Pointer::finger, touch);
+        case QEventPoint::State::Updated:
+            return dragged(Pointer::finger, touch);
+        case QEventPoint::State::Released:
+            return released(Pointer::finger, touch);
+        default:
+            return;
+    }
+}
+
+// ---- Fingers that move the view
+
+void DevicePointers::countFingers(const QTouchEvent& event) {
+    if (event.type() == QEvent::TouchBegin) {
+        _fingersMoved = false;
+        _fingerDown = event.timestamp();
+    }
+    _mostFingers = std::max(_mostFingers, static_cast<int>(event.points().size()));
+    for (const QEventPoint& finger : event.points()) {
+        _fingersMoved = _fingersMoved ||
+                        QLineF(finger.globalPressPosition(), finger.globalPosition()).length() > kTapPoints;
+    }
+}
+
+DevicePointers::Grip DevicePointers::gripOf(const QTouchEvent& event) const {
+    const QPointF first = _display.fromGlobal(event.points().first().globalPosition());
+    if (event.points().size() < 2) {
+        return {first};
+    }
+    const QPointF second = _display.fromGlobal(event.points().at(1).globalPosition());
+    const QPointF between = second - first;
+    return {(first + second) / 2, std::hypot(between.x(), between.y()),
+            std::atan2(-between.y(), between.x())};
+}
+
+void DevicePointers::navigate(const QTouchEvent& event) {
+    int down = 0;
+    for (const QEventPoint& finger : event.points()) {
+        down += finger.state() != QEventPoint::State::Released ? 1 : 0;
+    }
+    if (down < static_cast<int>(event.points().size()) || event.points().isEmpty()) {
+        _gripping = 0;  // others grip next
+        return;
+    }
+    const Grip to = gripOf(event);
+    if (_gripping == down && _pointer == Pointer::none) {
+        if (_fingersMoved) {
+            moveView(to);
+            _grip = to;
+        }
+        return;
+    }
+    _gripping = down;
+    _grip = to;
+    _turn = 0;
+    _turns = false;
+}
+
+void DevicePointers::moveView(const Grip& to) {
+    const Alive alive(life);
+    _display.panBy(to.middle - _grip.middle);
+    if (!alive || !(to.span > 0) || !(_grip.span > 0)) {
+        return;
+    }
+    _display.zoomAbout(_display.zoom() * to.span / _grip.span, to.middle);
+    if (!alive) {
+        return;
+    }
+    const double turned = std::remainder(to.angle - _grip.angle, 2 * M_PI);
+    _turn += turned;
+    if (_turns || std::abs(_turn) > kTurnsFrom) {
+        _display.turnAbout(_display.viewRotation() + (std::exchange(_turns, true) ? turned : _turn),
+                           to.middle);
+    }
+}
+
+// ---- Wheel and touch pad
+
+bool DevicePointers::wheel(const QWheelEvent& event) {
+    if (!_display.isNavigable()) {
+        return false;
+    }
+    if (_pointer != Pointer::none) {
+        return true;
+    }
+    const bool isPad =
+        event.device() != nullptr && event.device()->type() == QInputDevice::DeviceType::TouchPad;
+    const bool slides = isPad || !event.pixelDelta().isNull() || event.phase() != Qt::NoScrollPhase;
+    if (slides && (event.modifiers() & Qt::ControlModifier) == 0) {
+        const QPointF by =
+            event.pixelDelta().isNull() ? QPointF(event.angleDelta()) / 2 : QPointF(event.pixelDelta());
+        _display.panBy(by);
+    } else {
+        _display.zoomAbout(_display.zoom() * std::exp2(event.angleDelta().y() / kWheelDoubles),
+                           event.position());
+    }
+    return true;
+}
+
+bool DevicePointers::nativeGesture(const QNativeGestureEvent& event) {
+    if (!_display.isNavigable() || _pointer != Pointer::none) {
+        return false;
+    }
+    if (event.gestureType() == Qt::ZoomNativeGesture) {
+        _display.zoomAbout(_display.zoom() * (1 + event.value()), event.position());
+        return true;
+    }
+    if (event.gestureType() == Qt::RotateNativeGesture) {
+        _display.turnAbout(_display.viewRotation() - qDegreesToRadians(event.value()), event.position());
+        return true;
+    }
+    return false;
+}
+
+}  // namespace dabcanvas
