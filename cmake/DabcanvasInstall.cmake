@@ -3,7 +3,7 @@
 include(CMakePackageConfigHelpers)
 
 # Each stands on those before it.
-set(all_components Stroke Shapes Dabs Processor Brushes Render Canvas View)
+set(all_components Stroke Shapes Dabs Processor Brushes Render Canvas Recording View)
 set(components "")
 foreach(component IN LISTS all_components)
     string(TOUPPER ${component} upper)

@@ -79,9 +79,10 @@ dabcanvas_part(PROCESSOR "painting by the processor" TARGETS ${highway} Threads:
 dabcanvas_part(RENDER "painting by OpenGL" TARGETS Qt6::Gui PkgConfig::epoxy)
 set(DABCANVAS_HAS_BRUSHES ${DABCANVAS_HAS_RENDER})
 dabcanvas_part(CANVAS "the canvas" PARTS SHAPES PROCESSOR RENDER TARGETS PkgConfig::xxhash)
+dabcanvas_part(RECORDING "recordings" PARTS CANVAS TARGETS nlohmann_json::nlohmann_json)
 dabcanvas_part(VIEW "the widget" PARTS CANVAS TARGETS Qt6::Widgets)
 dabcanvas_part(TOOL "dabpaint, the command-line tool" ONLY_WITH DABCANVAS_BUILD_APPS
-    PARTS CANVAS TARGETS CLI11::CLI11 nlohmann_json::nlohmann_json)
+    PARTS RECORDING TARGETS CLI11::CLI11)
 dabcanvas_part(PAINTER "dabpainter, the painting application" ONLY_WITH DABCANVAS_BUILD_APPS PARTS VIEW)
 
 set(DABCANVAS_HAVE_EGL OFF)

@@ -142,6 +142,7 @@ bool BrushState::set(BrushKey key, const BrushValue& given) {
         return false;
     }
     if (_listener != nullptr) {
+        _listener->brushIsGiven(key, given);
         _listener->brushWillChange(key, value, kindAfter(key, value));
     }
     std::visit(

@@ -7,6 +7,7 @@
 // Owns      the two line records, the makers of dabs with what they remember of a stroke, tips and papers.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "Brushes/BrushProperties.h"
@@ -27,6 +28,8 @@ class BrushState {
 public:
     // Hears of each change of a property before and after it.
     struct Listener {
+        // A value that will be taken, as it was given.
+        virtual void brushIsGiven(BrushKey key, const BrushValue& value) = 0;
         virtual void brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) = 0;
         virtual void brushChanged(BrushKey key) = 0;
 
@@ -49,6 +52,9 @@ public:
     void reset();
     // Size and relation of the second line as a pair: setting either alone changes the other.
     void restoreSubLine(float slRadius, float relationValue);
+    // The values that make another state this one, in the order in which they are to be set; but for restoreSubLine(),
+    // which comes last.
+    void tell(const std::function<void(BrushKey, const BrushValue&)>& take) const;
 
     StrokeKind kind() const {
         return kindOf(_settings.brushType, _settings.isDebug, _settings.enableRecogition);
@@ -60,6 +66,8 @@ public:
 
     // How the canvas is shown, see DabSettings.
     void setViewTurn(float radian, bool mirrored);
+    float viewRadian() const { return _dabs.settings.viewRadian; }
+    bool isViewMirrored() const { return _dabs.settings.viewMirrored; }
 
     LPLineParams& line() { return _line; }
     const LPLineParams& line() const { return _line; }
@@ -87,6 +95,8 @@ private:
     void takeBlendProgram();
     void chooseTip(bool concerned);
     void takeImages();
+    void tellBlend(const std::function<void(BrushKey, const BrushValue&)>& take) const;
+    void tellTips(const std::function<void(BrushKey, const BrushValue&)>& take) const;
     float subRadiusFor(float relation) const;
     void setSubRadius(float radius);
     void takeRelationValue();

@@ -29,6 +29,8 @@ public:
     // Stamps with a drawn tip, or, of type 0, with the images last given.
     void choose(const Drawing& drawing);
 
+    const QList<QImage>& given() const { return _given; }  // last
+    bool isDrawn() const { return _wanted.type != 0; }
     // The present ones, drawn by now. Empty after drop().
     const QList<QImage>& images() const;
     // For a surface, never empty: the same, but small drawn tips with more texels. `radius` is that of the disc in place of

@@ -164,6 +164,7 @@ StepPicture CanvasHistory::record() {
     noteRecorded();
     steps.addItemWithPicture(_record.data());
     note();
+    stepRecorded();
     return _record.data();
 }
 

@@ -9,6 +9,7 @@
 // that is yet to be taken back.
 #pragma once
 
+#include <functional>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -26,6 +27,8 @@ public:
 
     bool autoMark = false;
     float markTimeInterval = 0;  // seconds
+    std::function<void()> stepRecorded = [] {};
+    bool isMade() const { return _images != nullptr; }
 
     // Makes it, if there is none yet, and the blank canvas that it begins with what is recorded. leavesRecord: but for
     // that, as a sketch has yet to be taken back to what is recorded, or the canvas was just read.

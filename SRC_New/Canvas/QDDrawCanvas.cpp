@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "Canvas/CanvasLog.h"
 #include "Canvas/QDDrawCanvasParts.h"
@@ -44,10 +45,16 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
     _inside->host.watch(parts);
     parts.placePreview = [this](const QImage& image, QSizeF) {
         // The preview stands for the whole buffer, at whatever size it is shown.
+        const Host::Call placing(_inside->host);
+        Parts& made = *_inside->parts;
+        made.tell([&](CanvasInput& to) { to.previewPlaced(made.limits()); });
+        const bool wasUntold = std::exchange(made.isUntold, true);
         const QSizeF buffer = bufferSize();
-        const QSizeF& view = _inside->parts->outScale;
+        const QSizeF& view = made.outScale;
         drawImage(image, QRectF(0, 0, buffer.width() * view.width(), buffer.height() * view.height()));
+        made.isUntold = wasUntold;
     };
+    parts.setArea = [this](const QRect& area) { return setCanvasArea(area); };
     return true;
 }
 
@@ -83,6 +90,13 @@ PaintSurface& QDDrawCanvas::surface() {
     return _inside->parts->layers.surface();
 }
 
+SurfaceOptions QDDrawCanvas::surfaceOptions() const {
+    SurfaceOptions options = _inside->options;
+    const bool isGpu = asGLSurface(_inside->parts->layers.surface()) != nullptr;
+    options.kind = isGpu ? SurfaceKind::gpu : SurfaceKind::processor;
+    return options;
+}
+
 GLSurface* QDDrawCanvas::glSurface() {
     if (asGLSurface(surface()) == nullptr) {
         Parts& parts = *_inside->parts;
@@ -102,14 +116,16 @@ GLSurface* QDDrawCanvas::glSurface() {
 bool QDDrawCanvas::setCanvasArea(const QRect& area) {
     const Host::Call call(_inside->host);
     Parts& parts = *_inside->parts;
-    SurfaceOptions options = _inside->options;
-    options.kind = asGLSurface(surface()) != nullptr ? SurfaceKind::gpu : SurfaceKind::processor;
     if (parts.isDrawing() || !parts.finishPreview()) {
         qCWarning(lcDabcanvas, "a canvas cannot change its size in mid-stroke");
         return false;
     }
-    auto made = makeSurface(QSizeF(area.size()), options);
-    return made && parts.cropTo(std::move(made), {area.x(), area.y(), area.width(), area.height()});
+    auto made = makeSurface(QSizeF(area.size()), surfaceOptions());
+    if (!made || !parts.cropTo(std::move(made), {area.x(), area.y(), area.width(), area.height()})) {
+        return false;
+    }
+    parts.tell([&](CanvasInput& to) { static_cast<void>(to.areaSet(area)); });
+    return true;
 }
 
 QString QDDrawCanvas::rendererName() {
@@ -140,25 +156,16 @@ bool QDDrawCanvas::drawShape(const ShapeRecord& shape) {
 }
 
 void QDDrawCanvas::setRepeatableRandom(bool repeatable) {
-    Parts& parts = *_inside->parts;
-    parts.painter.setRepeatable(repeatable);
-    if (!parts.isDrawing()) {
-        parts.painter.restartRandom();
-    }
+    _inside->parts->repeatRandom(repeatable);
 }
 
 void QDDrawCanvas::setRandomSeed(std::uint32_t seed) {
-    Parts& parts = *_inside->parts;
-    parts.painter.setSeed(seed);
-    if (!parts.isDrawing()) {
-        parts.painter.restartRandom();
-    }
+    _inside->parts->seedRandom(seed);
 }
 
 void QDDrawCanvas::setViewTurn(double radians, bool mirrored) {
     if (std::isfinite(radians)) {
-        _inside->parts->brush.setViewTurn(static_cast<float>(std::remainder(radians, 2 * std::numbers::pi)),
-                                          mirrored);
+        _inside->parts->turnView(static_cast<float>(std::remainder(radians, 2 * std::numbers::pi)), mirrored);
     }
 }
 
@@ -209,7 +216,7 @@ bool QDDrawCanvas::resetWithXBFPath(const QString& path, QString* problem) {
 }
 
 void QDDrawCanvas::restoreSubLine(float slRadius, float relationValue) {
-    _inside->parts->brush.restoreSubLine(slRadius, relationValue);
+    _inside->parts->setSecondLine(slRadius, relationValue);
 }
 
 bool QDDrawCanvas::isSmudgeType() const {

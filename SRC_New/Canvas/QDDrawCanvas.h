@@ -51,6 +51,7 @@ class ImagesUndoManager;
 class LeafDrawing;
 
 namespace dabcanvas {
+class CanvasInput;
 class GLSurface;
 class PaintSurface;
 }  // namespace dabcanvas
@@ -244,8 +245,14 @@ public:
     void setProfiling(bool profiling);
     const dabcanvas::StrokeStats& strokeStats() const;
 
+    // Hears what enters the canvas, first what it is; null for none. False, after a log line, in mid-stroke and where the
+    // canvas cannot be read. input() takes what another canvas told. See CanvasInput.h.
+    bool setInputListener(dabcanvas::CanvasInput* listener);
+    dabcanvas::CanvasInput& input();
+
     // What paint lies in. A SurfaceScope of it, held over many strokes, is cheaper than one for every call.
     dabcanvas::PaintSurface& surface();
+    dabcanvas::SurfaceOptions surfaceOptions() const;  // with the kind that it is, gpu or processor
     // For hosts that draw with OpenGL themselves: a canvas that does not moves there, byte for byte, to another surface().
     // Null, after one log line, in mid-stroke and where there is no OpenGL.
     dabcanvas::GLSurface* glSurface();
@@ -411,6 +418,7 @@ private:
     void restoreSubLine(float slRadius, float relationValue);
 
     class Host;
+    class Input;
     class Parts;
     struct Inside;
     std::unique_ptr<Inside> _inside;

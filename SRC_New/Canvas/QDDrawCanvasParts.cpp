@@ -11,6 +11,10 @@ namespace {
 
 constexpr int kBackgroundLine = 2246;  // of the fixed message
 
+InputSample inputOf(const StrokeSample& sample) {
+    return {sample.place, sample.pressure, sample.altitude};
+}
+
 PaintColor paintOf(const ESColor& color) {
     const float alpha = color.alpha();
     return {color.red() * alpha, color.green() * alpha, color.blue() * alpha, alpha};
@@ -42,7 +46,13 @@ QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> sur
       record(layers),
       sketch(layers, record),
       placing(layers, [this] { settle(); }),
-      history(layers, record) {
+      history(layers, record),
+      input(*this) {
+    history.stepRecorded = [this] {
+        if (listener != nullptr) {
+            listener->stepRecorded();
+        }
+    };
     makePreview();
     brush.setListener(this);
     layers.setStyle(brush.compositeStyle());
@@ -110,6 +120,7 @@ bool QDDrawCanvas::Parts::canBegin() const {
 bool QDDrawCanvas::Parts::strokeIsDue(bool unended) {
     const Host::Call call(host);
     if (unended) {
+        tell([](CanvasInput& to) { to.strokeDropped(); });
         leaveDrawn();
     }
     return finishPreview() && !isLost();  // strokes come onto the canvas in their order
@@ -117,6 +128,7 @@ bool QDDrawCanvas::Parts::strokeIsDue(bool unended) {
 
 void QDDrawCanvas::Parts::strokeBegan(const StrokeSample& sample) {
     const Host::Call call(host);
+    tell([&](CanvasInput& to) { to.strokeBegan(device(), inputOf(sample)); });
     painter.restartRandom();
     layers.beginStroke();
     if (recognises()) {
@@ -131,6 +143,7 @@ void QDDrawCanvas::Parts::strokeBegan(const StrokeSample& sample) {
 
 void QDDrawCanvas::Parts::strokeMoved(const StrokeSample& sample, bool online) {
     const Host::Call call(host);
+    tell([&](CanvasInput& to) { to.strokeMoved(inputOf(sample)); });
     if (kind() == StrokeKind::preview) {
         preview->drawWithMove(sample.place);
         return;
@@ -143,6 +156,7 @@ void QDDrawCanvas::Parts::strokeMoved(const StrokeSample& sample, bool online) {
 
 void QDDrawCanvas::Parts::strokeEnded(const StrokeSample& sample, bool online) {
     const Host::Call call(host);
+    tell([&](CanvasInput& to) { to.strokeEnded(inputOf(sample)); });
     host.strokeEnds(true);
     if (sketch.isOn()) {
         endSketch(sample.place, online);
@@ -157,6 +171,7 @@ void QDDrawCanvas::Parts::strokeEnded(const StrokeSample& sample, bool online) {
 // As if it had never been begun.
 void QDDrawCanvas::Parts::strokeWithdrawn(QPointF place) {
     const Host::Call call(host);
+    tell([](CanvasInput& to) { to.strokeWithdrawn(); });
     if (kind() == StrokeKind::preview) {
         preview->drawWithCanceled(place);
     } else if (sketch.isOn()) {
@@ -174,6 +189,7 @@ void QDDrawCanvas::Parts::strokeWithdrawn(QPointF place) {
 
 void QDDrawCanvas::Parts::strokeDropped() {
     const Host::Call call(host);
+    tell([](CanvasInput& to) { to.strokeDropped(); });
     leaveDrawn();
 }
 
@@ -236,6 +252,7 @@ bool QDDrawCanvas::Parts::drawShape(const ShapeRecord& shape) {
         return false;
     }
     settle();
+    tell([&](CanvasInput& to) { to.shapeDrawn(shape); });
     if (!shape || !drawOutline(shape, true)) {
         return false;
     }
@@ -285,6 +302,36 @@ void QDDrawCanvas::Parts::settleKind(StrokeKind after) {
     if (isDrawing() && after != StrokeKind::preview) {
         painter.restartDabs(after);
     }
+}
+
+void QDDrawCanvas::Parts::brushIsGiven(BrushKey key, const BrushValue& value) {
+    tell([&](CanvasInput& to) { to.brushSet(key, value); });
+}
+
+void QDDrawCanvas::Parts::setSecondLine(float slRadius, float relationValue) {
+    tell([&](CanvasInput& to) { to.secondLineSet(slRadius, relationValue); });
+    brush.restoreSubLine(slRadius, relationValue);
+}
+
+void QDDrawCanvas::Parts::seedRandom(std::uint32_t seed) {
+    tell([&](CanvasInput& to) { to.randomSeeded(seed); });
+    painter.setSeed(seed);
+    if (!isDrawing()) {
+        painter.restartRandom();
+    }
+}
+
+void QDDrawCanvas::Parts::repeatRandom(bool repeats) {
+    tell([&](CanvasInput& to) { to.randomRepeats(repeats); });
+    painter.setRepeatable(repeats);
+    if (!isDrawing()) {
+        painter.restartRandom();
+    }
+}
+
+void QDDrawCanvas::Parts::turnView(float radian, bool mirrored) {
+    tell([&](CanvasInput& to) { to.viewTurned(radian, mirrored); });
+    brush.setViewTurn(radian, mirrored);
 }
 
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {
@@ -363,11 +410,12 @@ void QDDrawCanvas::Parts::clear(const ESColor& color) {
     if (!finishPreview() || isLost()) {
         return;
     }
+    tell([&](CanvasInput& to) { to.cleared(color, true); });
     layers.edits.changed();
     layers.forgetDue();
     layers.emptyLines();
     layers.empty(PaintLayer::smudge);
-    clearPicture(color);
+    fill(color);
 }
 
 void QDDrawCanvas::Parts::clearPicture(const ESColor& color) {
@@ -375,6 +423,11 @@ void QDDrawCanvas::Parts::clearPicture(const ESColor& color) {
     if (!finishPreview() || isLost()) {
         return;
     }
+    tell([&](CanvasInput& to) { to.cleared(color, false); });
+    fill(color);
+}
+
+void QDDrawCanvas::Parts::fill(const ESColor& color) {
     settleSketch();
     layers.forgetDue();
     if (isDrawing()) {
@@ -395,6 +448,7 @@ bool QDDrawCanvas::Parts::place(const PlacedImage& image, const Spot& spot, bool
     if (!spot.isUsable() || !finishPreview() || isLost() || !placing.put(image, spot)) {
         return false;
     }
+    tellPlaced(image, spot, isUndo);
     const SinceThen unrecorded = layers.edits.unrecorded;
     layers.edits.changed();
     if (isUndo) {
@@ -476,19 +530,33 @@ StepPicture QDDrawCanvas::Parts::resetHistory() {
         return {};
     }
     settleSketch();
+    tell([](CanvasInput& to) { to.historyReset(); });
     return history.reset();
 }
 
 StepPicture QDDrawCanvas::Parts::undo() {
     const Host::Call call(host);
     Rect changed;
-    return !finishPreview() || refuses(canUndo()) ? StepPicture() : stepped(history.undo(changed), changed);
+    return !finishPreview() || refuses(canUndo())
+               ? StepPicture()
+               : went(history.undo(changed), changed, &CanvasInput::undone);
 }
 
 StepPicture QDDrawCanvas::Parts::redo() {
     const Host::Call call(host);
     Rect changed;
-    return !finishPreview() || refuses(canRedo()) ? StepPicture() : stepped(history.redo(changed), changed);
+    return !finishPreview() || refuses(canRedo())
+               ? StepPicture()
+               : went(history.redo(changed), changed, &CanvasInput::redone);
+}
+
+StepPicture QDDrawCanvas::Parts::went(CanvasHistory::Outcome outcome, const Rect& changed,
+                                      bool (CanvasInput::*step)()) {
+    const bool wasUntold = std::exchange(isUntold, true);
+    const StepPicture picture = stepped(outcome, changed);
+    isUntold = wasUntold;
+    tellStep(outcome, step);
+    return picture;
 }
 
 bool QDDrawCanvas::Parts::refuses(bool hasStep) {
@@ -534,6 +602,7 @@ bool QDDrawCanvas::Parts::recover(const QString& id, QString* problem) {
     if (kind() == StrokeKind::smudge) {
         prepareSmudge();
     }
+    tellPicture(true);
     return true;
 }
 

@@ -7,12 +7,15 @@
 // Life     after whatever may call the host back, a part asks Alive before it touches a member.
 #pragma once
 
+#include <functional>
+
 #include "Canvas/BrushState.h"
 #include "Canvas/CanvasHistory.h"
 #include "Canvas/ImagePlacing.h"
 #include "Canvas/PaintLayers.h"
 #include "Canvas/PointerGate.h"
 #include "Canvas/QDDrawCanvasHost.h"
+#include "Canvas/QDDrawCanvasInput.h"
 #include "Canvas/RecordedCanvas.h"
 #include "Canvas/ShapeSketch.h"
 #include "Canvas/StrokeEntry.h"
@@ -40,6 +43,7 @@ public:
     dabcanvas::CanvasHistory history;
     std::unique_ptr<LeafDrawing> preview;
     LeafDrawing::Complention placePreview;  // its stroke comes onto the canvas
+    Input input;
     dabcanvas::Rect lastTouched;            // by dabs that are yet to be shown, see updateImage()
 
     // ---- what must be done first
@@ -80,6 +84,27 @@ public:
     void updateScale();
     void redisplay(const dabcanvas::Rect& area);
 
+    // ---- what enters the canvas, see CanvasInput.h
+
+    dabcanvas::CanvasInput* listener = nullptr;
+    bool isUntold = false;  // what is done follows of something that was told
+    bool listen(dabcanvas::CanvasInput* hears);
+    // The canvas's picture, all of it, to whoever listens; and what another canvas told. False when it cannot be.
+    bool tellPicture(bool isStep);
+    bool putPicture(const QImage& picture);
+    dabcanvas::InputLimits limits() const;
+    void setSecondLine(float slRadius, float relationValue);
+    void seedRandom(std::uint32_t seed);
+    void repeatRandom(bool repeats);
+    void turnView(float radian, bool mirrored);
+    std::function<bool(const QRect&)> setArea;
+    template <typename Tell>
+    void tell(Tell&& tell) {
+        if (listener != nullptr && !isUntold) {
+            tell(*listener);
+        }
+    }
+
     bool isDrawing() const { return entry.isDrawing(); }
     dabcanvas::StrokeKind kind() const { return brush.kind(); }
     QSizeF bufferSize() const { return QSizeF(layers.size().width, layers.size().height); }
@@ -88,6 +113,7 @@ public:
 
     // ---- what the parts and the host hear
 
+    bool isUnrecorded() const;
     bool canUndo() const override;
     bool canRedo() const override;
     bool isLost() const override;
@@ -109,6 +135,7 @@ private:
     void strokeEnded(const dabcanvas::StrokeSample& sample, bool online) override;
     void strokeWithdrawn(QPointF place) override;
     void strokeDropped() override;
+    void brushIsGiven(dabcanvas::BrushKey key, const dabcanvas::BrushValue& value) override;
     void brushWillChange(dabcanvas::BrushKey key, const dabcanvas::BrushValue& value,
                          dabcanvas::StrokeKind kindAfter) override;
     void brushChanged(dabcanvas::BrushKey key) override;
@@ -118,12 +145,17 @@ private:
     void showDrawn(const std::optional<dabcanvas::Rect>& area, bool online);
     void endSketch(QPointF place, bool online);
     bool drawOutline(const ShapeRecord& shape, bool online);
+    void fill(const ESColor& color);
     double recognitionUnit() const;
     void settleKind(dabcanvas::StrokeKind after);
     void updateStyle();
     void sendPreviewColor();
-    bool isUnrecorded() const;
     bool refuses(bool hasStep);
+    dabcanvas::InputDevice device() const;
+    void tellPlaced(const dabcanvas::PlacedImage& image, const dabcanvas::Spot& spot, bool isUndo);
+    void tellStep(dabcanvas::CanvasHistory::Outcome outcome, bool (dabcanvas::CanvasInput::*step)());
+    dabcanvas::StepPicture went(dabcanvas::CanvasHistory::Outcome outcome, const dabcanvas::Rect& changed,
+                                bool (dabcanvas::CanvasInput::*step)());
     dabcanvas::StepPicture stepped(dabcanvas::CanvasHistory::Outcome outcome, const dabcanvas::Rect& changed);
 
     bool _kindChanges = false;     // by the property that is being set

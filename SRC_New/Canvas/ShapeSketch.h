@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Canvas/RecordedCanvas.h"
+#include "Maths/Export.h"
 #include "Recognition/ShapeRecord.h"
 
 namespace dabcanvas {
@@ -35,6 +36,6 @@ private:
 };
 
 // A shape whose lengths are multiplied.
-ShapeRecord scaled(ShapeRecord shape, double factor);
+DABCANVAS_CANVAS_API ShapeRecord scaled(ShapeRecord shape, double factor);
 
 }  // namespace dabcanvas

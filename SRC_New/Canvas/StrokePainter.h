@@ -62,6 +62,7 @@ public:
 
     // On: every stroke begins its sequences anew and so repeats by itself.
     void setRepeatable(bool repeatable);
+    bool repeats() const { return _repeats; }
     void setSeed(std::uint32_t seed);
     // Begins them anew where that is due: before a stroke, and when a seed comes between two.
     void restartRandom();

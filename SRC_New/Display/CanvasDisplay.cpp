@@ -167,7 +167,7 @@ void CanvasDisplay::setGround(const QBrush& underCanvas, const QBrush& around) {
 
 void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
     painter.save();
-    painter.setClipRect(exposed);
+    painter.setClipRect(exposed, Qt::IntersectClip);
     const bool isTurned = std::remainder(viewRotation(), M_PI_2) != 0;
     painter.setRenderHint(QPainter::Antialiasing, isTurned);
     const QImage& picture = displayImage();

@@ -10,7 +10,7 @@
 
 #include "Brushes/BrushProperties.h"
 #include "Preset/BrushRecords.h"
-#include "Problem.h"
+#include "Recording/Problem.h"
 
 class QDDrawCanvas;
 

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "Import/BrushImport.h"
-#include "Problem.h"
+#include "Recording/Problem.h"
 
 namespace dabcanvas::dabpaint {
 

@@ -76,7 +76,7 @@ QString BrushPlan::fix(const std::vector<Assignment>& settings) {
     return {};
 }
 
-std::optional<Problem> BrushPlan::add(const Recording& recording, const QString& folder) {
+std::optional<Problem> BrushPlan::add(const RecordedStrokes& recording, const QString& folder) {
     auto& changes = _changes.emplace_back(recording.strokes.size());
     if (recording.brush && !changes.empty()) {
         if (const auto problem = addBrush(*recording.brush, folder, changes[0]))

@@ -10,8 +10,8 @@
 
 #include "Assignment.h"
 #include "BrushFile.h"
-#include "PropertyValue.h"
-#include "Recording.h"
+#include "Recording/PropertyValue.h"
+#include "Recording/StrokesFile.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -31,7 +31,7 @@ public:
     // The command line's settings, which hold for all strokes; the message when one is wrong.
     QString fix(const std::vector<Assignment>& settings);
     // Plans the next recording; the first faulty setting or brush otherwise. Paths are relative to `folder`.
-    std::optional<Problem> add(const Recording& recording, const QString& folder);
+    std::optional<Problem> add(const RecordedStrokes& recording, const QString& folder);
 
     // What every recording starts with.
     const std::shared_ptr<const Brush>& brush() const { return _brush; }

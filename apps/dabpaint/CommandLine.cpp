@@ -8,10 +8,10 @@
 #include <optional>
 #include <vector>
 
-#include "CloseNames.h"
 #include "Console.h"
 #include "PropertiesCommand.h"
-#include "PropertyValue.h"
+#include "Recording/CloseNames.h"
+#include "Recording/PropertyValue.h"
 #include "Usage.h"
 
 namespace dabcanvas::dabpaint {

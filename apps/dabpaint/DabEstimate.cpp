@@ -81,7 +81,8 @@ double strokeDabs(const RecordedStroke& stroke, const BrushNumbers& brush) {
 
 }  // namespace
 
-std::vector<double> estimatedDabs(const Recording& recording, const BrushPlan& plan, std::size_t index) {
+std::vector<double> estimatedDabs(const RecordedStrokes& recording, const BrushPlan& plan,
+                                  std::size_t index) {
     BrushNumbers brush(plan);
     std::vector<double> dabs;
     for (std::size_t i = 0; i < recording.strokes.size(); ++i) {

@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "BrushPlan.h"
-#include "Recording.h"
+#include "Recording/StrokesFile.h"
 
 namespace dabcanvas::dabpaint {
 
 // By stroke: the length of the path over the mean distance of dabs, times the dabs at each place, of both lines.
 // Pressure and jitter are left out of it, so that the true number may be a few times smaller or larger.
-std::vector<double> estimatedDabs(const Recording& recording, const BrushPlan& plan, std::size_t index);
+std::vector<double> estimatedDabs(const RecordedStrokes& recording, const BrushPlan& plan, std::size_t index);
 
 }  // namespace dabcanvas::dabpaint

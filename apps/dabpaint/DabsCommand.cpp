@@ -7,10 +7,10 @@
 #include <memory>
 #include <utility>
 
-#include "CloseNames.h"
 #include "Console.h"
 #include "LineProcess/LPLineProcess.h"
-#include "Numbers.h"
+#include "Recording/CloseNames.h"
+#include "Recording/Numbers.h"
 
 namespace dabcanvas::dabpaint {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "JsonRecording.h"
+#include "Recording/StrokesJson.h"
 
 namespace dabcanvas::dabpaint {
 

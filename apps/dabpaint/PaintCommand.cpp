@@ -21,7 +21,7 @@
 #include "OutputFile.h"
 #include "PictureKinds.h"
 #include "Progress.h"
-#include "Recording.h"
+#include "Recording/StrokesFile.h"
 #include "Surface/PaintSurface.h"
 #include "ToolCanvas.h"
 
@@ -30,7 +30,7 @@ namespace dabcanvas::dabpaint {
 namespace {
 
 struct Job {
-    std::vector<Recording> recordings;
+    std::vector<RecordedStrokes> recordings;
     BrushPlan plan;
     QSize size;
     QColor background = Qt::white;
@@ -53,7 +53,7 @@ QString readRecordings(const PaintOptions& options, Job& job) {
         const auto bytes = readFile(path);
         if (!bytes)
             return bytes.problem().text(path);
-        auto recording = readRecording(*bytes);
+        auto recording = readStrokes(*bytes);
         if (!recording)
             return recording.problem().text(path);
         if (const auto problem = job.plan.add(*recording, QFileInfo(path).path()))
@@ -97,7 +97,7 @@ QString chooseSize(const PaintOptions& options, Job& job) {
 QString chooseBackground(const PaintOptions& options, Job& job) {
     bool chosen = false;
     for (std::size_t i = 0; i < job.recordings.size(); ++i) {
-        const Recording& recording = job.recordings[i];
+        const RecordedStrokes& recording = job.recordings[i];
         if (recording.background.isEmpty())
             continue;
         const auto color = colorFromText(recording.background);
@@ -183,7 +183,7 @@ private:
         const SurfaceScope current(_canvas->surface());  // nobody else draws meanwhile
         Progress progress(_job.allDabs);
         std::size_t left = 0;
-        for (const Recording& recording : _job.recordings)
+        for (const RecordedStrokes& recording : _job.recordings)
             left += recording.strokes.size();
         const auto undone = static_cast<std::size_t>(_options.undo);
         if (undone > 0) {

@@ -7,10 +7,10 @@
 #include <cmath>
 
 #include "Brushes/BrushProperties.h"
-#include "Numbers.h"
 #include "Preset/ParamNumbers.h"
 #include "Preset/PresetInfo.h"
-#include "PropertyValue.h"
+#include "Recording/Numbers.h"
+#include "Recording/PropertyValue.h"
 
 namespace dabcanvas::dabpaint {
 

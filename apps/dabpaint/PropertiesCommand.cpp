@@ -9,8 +9,8 @@
 #include <string_view>
 
 #include "Console.h"
-#include "Numbers.h"
-#include "PropertyValue.h"
+#include "Recording/Numbers.h"
+#include "Recording/PropertyValue.h"
 
 namespace dabcanvas::dabpaint {
 

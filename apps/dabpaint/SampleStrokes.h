@@ -5,7 +5,7 @@
 #include <QSize>
 #include <vector>
 
-#include "Recording.h"
+#include "Recording/StrokesFile.h"
 
 namespace dabcanvas::dabpaint {
 

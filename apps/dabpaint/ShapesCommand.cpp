@@ -8,11 +8,11 @@
 #include <vector>
 
 #include "Console.h"
-#include "Numbers.h"
 #include "OutputFile.h"
 #include "Recognition/Unitily.h"
-#include "Recording.h"
-#include "StrokesCsv.h"
+#include "Recording/Numbers.h"
+#include "Recording/StrokesCsv.h"
+#include "Recording/StrokesFile.h"
 
 namespace dabcanvas::dabpaint {
 

@@ -8,8 +8,8 @@
 #include <memory>
 
 #include "Canvas/QDDrawCanvas.h"
-#include "Problem.h"
-#include "Recording.h"
+#include "Recording/Problem.h"
+#include "Recording/StrokesFile.h"
 
 namespace dabcanvas::dabpaint {
 

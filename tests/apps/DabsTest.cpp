@@ -6,7 +6,7 @@
 #include <QList>
 
 #include "DabsCommand.h"
-#include "Numbers.h"
+#include "Recording/Numbers.h"
 
 namespace dabcanvas::dabpaint {
 namespace {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Numbers are the same under a locale that writes 0,5 for a half.
-#include "Numbers.h"
+#include "Recording/Numbers.h"
 #include "apps/Program.h"
 
 namespace dabcanvas::dabpaint {

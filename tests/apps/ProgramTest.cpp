@@ -6,8 +6,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include "Recording/Samples.h"
 #include "apps/Program.h"
-#include "apps/Samples.h"
 
 namespace dabcanvas::dabpaint {
 namespace {

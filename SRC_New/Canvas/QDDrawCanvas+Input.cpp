@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MIT
+// What enters a canvas: telling a listener what it is at present, and taking what another canvas told.
+#include <algorithm>
+#include <utility>
+
+#include "Canvas/CanvasLog.h"
+#include "Canvas/QDDrawCanvasParts.h"
+
+using namespace dabcanvas;
+
+namespace {
+
+bool isBlank(const QImage& image) {
+    const auto rowIsBlank = [&](int y) {
+        const uchar* const row = image.constScanLine(y);
+        return std::all_of(row, row + qsizetype{image.width()} * image.depth() / 8,
+                           [](uchar byte) { return byte == 0; });
+    };
+    for (int y = 0; y < image.height(); ++y) {
+        if (!rowIsBlank(y)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QImage::Format formatOf(int pixelBytes) {
+    return pixelBytes == 8 ? QImage::Format_RGBA64_Premultiplied : QImage::Format_RGBA8888_Premultiplied;
+}
+
+}  // namespace
+
+bool QDDrawCanvas::setInputListener(CanvasInput* listener) {
+    return _inside->parts->listen(listener);
+}
+
+CanvasInput& QDDrawCanvas::input() {
+    return _inside->parts->input;
+}
+
+// ---- Telling
+
+bool QDDrawCanvas::Parts::listen(CanvasInput* hears) {
+    const Host::Call call(host);
+    if (hears == nullptr) {
+        listener = nullptr;
+        return true;
+    }
+    if (isDrawing() || !finishPreview() || isLost()) {
+        qCWarning(lcDabcanvas, "nobody can begin to listen in mid-stroke or to a canvas that is lost");
+        return false;
+    }
+    const bool isKnown = history.isMade() && !isUnrecorded();
+    const bool isAsMade = !history.isMade() && !isUnrecorded() && layers.painted().isEmpty();
+    listener = hears;
+    brush.tell([&](BrushKey key, const BrushValue& value) { hears->brushSet(key, value); });
+    hears->secondLineSet(brush.present().slRadius, brush.present().relationValue);
+    hears->randomRepeats(painter.repeats());
+    hears->viewTurned(brush.viewRadian(), brush.isViewMirrored());
+    if (!tellPicture(isKnown || isAsMade)) {
+        listener = nullptr;
+        return false;
+    }
+    return true;
+}
+
+// The canvas takes its own picture, as whoever is told of it does: what its surface remembers of how the picture came about,
+// such as which rounding is due, begins anew on both.
+bool QDDrawCanvas::Parts::tellPicture(bool isStep) {
+    if (listener == nullptr) {
+        return true;
+    }
+    layers.settle();
+    const int pixelBytes = layers.surface().pixelBytes();
+    QImage picture(layers.size().width, layers.size().height, formatOf(pixelBytes));
+    if (picture.isNull() ||
+        !read(layers.whole(), {picture.bits(), layers.size(), picture.bytesPerLine(), pixelBytes})) {
+        qCWarning(lcDabcanvas, "the canvas cannot be read for its listener");
+        return false;
+    }
+    if (isBlank(picture)) {
+        picture = QImage();
+    }
+    return putPicture(picture) && listener->pictureSet(picture, isStep);
+}
+
+bool QDDrawCanvas::Parts::putPicture(const QImage& picture) {
+    layers.forgetDue();
+    layers.emptyLines();
+    layers.empty(PaintLayer::smudge);
+    layers.commit();
+    host.redisplayAll();
+    if (picture.isNull()) {
+        layers.fill({});
+        layers.commit();
+        return true;
+    }
+    const int pixelBytes = layers.surface().pixelBytes();
+    const QImage rows = picture.convertToFormat(formatOf(pixelBytes));
+    return Size{rows.width(), rows.height()} == layers.size() &&
+           layers.paint(layers.whole(), {rows.constBits(), layers.size(), rows.bytesPerLine(), pixelBytes});
+}
+
+void QDDrawCanvas::Parts::tellStep(CanvasHistory::Outcome outcome, bool (CanvasInput::*step)()) {
+    if (listener == nullptr || outcome == CanvasHistory::Outcome::refused) {
+        return;
+    }
+    if (outcome == CanvasHistory::Outcome::lost || !(listener->*step)()) {
+        tellPicture(true);
+    }
+}
+
+InputDevice QDDrawCanvas::Parts::device() const {
+    return pointer.normalMoing      ? InputDevice::touch
+           : pointer.digitPenMoving ? InputDevice::pen
+                                    : InputDevice::program;
+}
+
+void QDDrawCanvas::Parts::tellPlaced(const PlacedImage& image, const Spot& spot, bool isUndo) {
+    if (listener == nullptr || isUntold) {
+        return;
+    }
+    // A copy: the pixels may be the caller's own bytes.
+    listener->imagePlaced({.image = image.topRowFirst ? image.image.copy() : image.image.mirrored(),
+                           .size = {spot.width, spot.height},
+                           .centre = {spot.centre.x, spot.centre.y},
+                           .radian = spot.radian,
+                           .replaces = image.replaces,
+                           .isUndo = isUndo,
+                           .limits = limits()});
+}
+
+InputLimits QDDrawCanvas::Parts::limits() const {
+    const ImagePlacing::Box& box = placing.scissor;
+    InputLimits limits{.neglects = placing.rules.neglects};
+    if (placing.rules.scissors) {
+        limits.scissor = QRectF(box.x, box.y, box.width, box.height);
+    }
+    return limits;
+}
+
+// ---- Taking
+
+// Placing is restricted so while this lives.
+class QDDrawCanvas::Input::Limited {
+public:
+    Limited(Parts& parts, const InputLimits& limits)
+        : _call(parts.host),
+          _parts(parts),
+          _alive(parts.host.life),
+          _rules(std::exchange(parts.placing.rules, {limits.scissor.has_value(), limits.neglects})),
+          _box(parts.placing.scissor) {
+        if (const auto& box = limits.scissor) {
+            parts.placing.scissor = {box->x(), box->y(), box->width(), box->height()};
+        }
+    }
+    ~Limited() {
+        if (_alive) {
+            _parts.placing.rules = _rules;
+            _parts.placing.scissor = _box;
+        }
+    }
+    Limited(const Limited&) = delete;
+    Limited& operator=(const Limited&) = delete;
+
+private:
+    const Host::Call _call;
+    Parts& _parts;
+    const Alive _alive;
+    const ImagePlacing::Rules _rules;
+    const ImagePlacing::Box _box;
+};
+
+void QDDrawCanvas::Input::strokeBegan(InputDevice, const InputSample& sample) {
+    _parts.entry.begin(_parts.view.toView(sample.place), sample.pressure, sample.altitude);
+}
+
+void QDDrawCanvas::Input::strokeMoved(const InputSample& sample) {
+    _parts.entry.move(_parts.view.toView(sample.place), sample.pressure, sample.altitude, true);
+}
+
+void QDDrawCanvas::Input::strokeEnded(const InputSample& sample) {
+    _parts.entry.end(_parts.view.toView(sample.place), sample.pressure, sample.altitude, true);
+}
+
+void QDDrawCanvas::Input::strokeWithdrawn() {
+    _parts.entry.withdraw(_parts.view.toView(_parts.entry.lastSample().place));
+}
+
+void QDDrawCanvas::Input::strokeDropped() {
+    _parts.entry.drop();
+}
+
+void QDDrawCanvas::Input::previewPlaced(const InputLimits& limits) {
+    const Limited limited(_parts, limits);
+    static_cast<void>(_parts.finishPreview());
+}
+
+void QDDrawCanvas::Input::shapeDrawn(const ShapeRecord& shape) {
+    _parts.drawShape(shape);
+}
+
+void QDDrawCanvas::Input::brushSet(BrushKey key, const BrushValue& value) {
+    const Host::Call call(_parts.host);
+    if (value.index() == brushProperty(key).field.index()) {
+        _parts.brush.set(key, value);
+    }
+}
+
+void QDDrawCanvas::Input::secondLineSet(float slRadius, float relationValue) {
+    _parts.setSecondLine(slRadius, relationValue);
+}
+
+void QDDrawCanvas::Input::randomSeeded(std::uint32_t seed) {
+    _parts.seedRandom(seed);
+}
+
+void QDDrawCanvas::Input::randomRepeats(bool repeats) {
+    _parts.repeatRandom(repeats);
+}
+
+void QDDrawCanvas::Input::cleared(const ESColor& color, bool layersToo) {
+    layersToo ? _parts.clear(color) : _parts.clearPicture(color);
+}
+
+void QDDrawCanvas::Input::imagePlaced(const InputImage& placed) {
+    const Limited limited(_parts, placed.limits);
+    const Spot spot{
+        placed.size.width(), placed.size.height(), {placed.centre.x(), placed.centre.y()}, placed.radian};
+    _parts.place({.image = placed.image, .replaces = placed.replaces}, spot, placed.isUndo);
+}
+
+bool QDDrawCanvas::Input::pictureSet(const QImage& picture, bool) {
+    const Host::Call call(_parts.host);
+    if (_parts.isDrawing() || !_parts.finishPreview() || _parts.isLost()) {
+        return false;
+    }
+    const bool isAsMade = picture.isNull() && !_parts.history.isMade() && !_parts.isUnrecorded();
+    _parts.layers.settle();
+    return _parts.putPicture(picture) && (isAsMade || !_parts.resetHistory().isNull());
+}
+
+bool QDDrawCanvas::Input::areaSet(const QRect& area) {
+    return _parts.setArea(area);
+}
+
+void QDDrawCanvas::Input::viewTurned(float radian, bool mirrored) {
+    _parts.turnView(radian, mirrored);
+}
+
+void QDDrawCanvas::Input::stepRecorded() {
+    _parts.mark();
+}
+
+void QDDrawCanvas::Input::historyReset() {
+    _parts.resetHistory();
+}
+
+bool QDDrawCanvas::Input::undone() {
+    _parts.undo();
+    return _parts.refusal == UndoRefusal::none;
+}
+
+bool QDDrawCanvas::Input::redone() {
+    _parts.redo();
+    return _parts.refusal == UndoRefusal::none;
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// Reads what RecordingWriter writes, whole or line by line.
+//
+// Errors   the first fault, with its line and its place in it; lines before it are good. What a line claims is checked:
+//          numbers are finite and in reach, pictures have at most 2^28 pixels together.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <vector>
+
+#include "Maths/Export.h"
+#include "Recording/Problem.h"
+#include "Recording/Recording.h"
+
+namespace dabcanvas {
+
+class JsonReader;
+
+class DABCANVAS_RECORDING_API RecordingReader {
+public:
+    // `number`: the line's, for messages.
+    Result<RecordingHeader> readHeader(QByteArrayView line, int number);
+    // What one line holds; a brush's may hold several changes.
+    Result<std::vector<RecordedEvent>> readLine(QByteArrayView line, int number);
+
+private:
+    friend class EventReader;
+
+    std::vector<QImage> _pictures;  // in the order in which they were embedded
+    qint64 _pixels = 0;
+};
+
+// Whether the bytes begin as a recording does.
+DABCANVAS_RECORDING_API bool isRecording(const QByteArray& bytes);
+DABCANVAS_RECORDING_API Result<Recording> readRecording(const QByteArray& bytes);
+
+}  // namespace dabcanvas
