@@ -18,7 +18,7 @@ namespace dabcanvas {
 
 namespace {
 
-constexpr qint64 kLargestFile = qint64(1) << 30;
+constexpr qint64 kLargestFile = qint64(1) << 30, kLargestUnpacked = qint64(1) << 28;
 
 enum class Form { rows, table, inkml, svg, xopp, json, unknown };
 
@@ -95,7 +95,7 @@ Result<RecordedStrokes> readStrokes(const QByteArray& bytes) {
     if (isBlankOnly(bytes))
         return Problem{0, {}, QStringLiteral("the recording is empty")};
     if (bytes.startsWith("\x1F\x8B")) {
-        const auto unpacked = unpackedGzip(bytes, kLargestFile);
+        const auto unpacked = unpackedGzip(bytes, kLargestUnpacked);
         if (!unpacked || unpacked->startsWith("\x1F\x8B"))
             return unpacked ? Problem{0, {}, QStringLiteral("it is packed more than once")}
                             : unpacked.problem();

@@ -156,6 +156,22 @@ RECORDINGS
         One sample a line: seconds x y pressure [altitude]. Pressure 0 lifts the
         pen. Blank lines and anything after a # are left out.
 
+    Tables
+        Comma-separated values, a row a point. The first row names the columns,
+        in any order: x and y; t (time, seconds), pressure (p, force), altitude
+        (tilt) and stroke (stroke_id, sample_id, id) may be left out. Without
+        names x,y or x,y,pressure or seconds,x,y,pressure[,altitude]. Pressure 0
+        lifts the pen.
+
+    SVG
+        Paths, lines, polygons, rectangles, circles and ellipses by their outlines,
+        curves as many short lines, with transforms and the view box; pressure 1.
+        stroke and stroke-width give renderColor and radius.
+
+    Xournal++
+        The strokes of a notebook (.xopp), packed or not. The width at each point
+        becomes the pressure. Several pages lie side by side.
+
     JSON
         {"canvas": {"width": 640, "height": 480, "background": "#ffffff"},
          "brush": "pencil.xbf",
