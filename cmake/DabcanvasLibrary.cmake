@@ -54,6 +54,16 @@ function(dabcanvas_library name)
     set_target_properties(${name} PROPERTIES EXPORT_NAME ${arg_EXPORT}
         VERSION ${DABCANVAS_ABI}.${PROJECT_VERSION_MINOR}.${PROJECT_VERSION_PATCH} SOVERSION ${DABCANVAS_ABI}
         INSTALL_RPATH "$<IF:$<PLATFORM_ID:Darwin>,@loader_path,$ORIGIN>")
+    # Those that stand on Qt name it, so that they can stand beside ones that stand on another.
+    foreach(below IN LISTS public)
+        set(name_below "")
+        if(TARGET ${below})
+            get_target_property(name_below ${below} OUTPUT_NAME)
+        endif()
+        if(below MATCHES "^Qt6::" OR name_below MATCHES "-qt6$")
+            set_target_properties(${name} PROPERTIES OUTPUT_NAME ${name}-qt6)
+        endif()
+    endforeach()
     if(DABCANVAS_INSTALL)
         install(TARGETS ${name} EXPORT Dabcanvas${arg_EXPORT}Targets
             RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime

@@ -6,10 +6,13 @@
 #include <cstdlib>
 
 #include "Recording/InkmlReader.h"
-#include "Recording/StrokesJson.h"
-#include "Recording/StrokesFile.h"
 #include "Recording/RowsReader.h"
 #include "Recording/StrokesCsv.h"
+#include "Recording/StrokesFile.h"
+#include "Recording/StrokesJson.h"
+#include "Recording/SvgReader.h"
+#include "Recording/TableReader.h"
+#include "Recording/XoppReader.h"
 
 using namespace dabcanvas;
 
@@ -56,6 +59,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     check(readStrokesJson(bytes));
     check(readInkml(bytes));
     check(readRows(bytes));
+    check(readTable(bytes));
+    check(readSvg(bytes));
+    check(readXopp(bytes));
+    isRead(unpackedGzip(bytes, 1 << 20));
     if (const auto input = readDabsInput(bytes); isRead(input)) {
         extentOf(input->strokes);
     }

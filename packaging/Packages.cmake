@@ -26,11 +26,12 @@ set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/DebianDocuments.cmake)
 set(CPACK_DABCANVAS_SOURCES ${PROJECT_SOURCE_DIR})
 set(CPACK_COMPONENTS_ALL "")
 
-# A package of one component. ON are components that it depends on; OF is the part that has to be built for it; ABOUT is
-# laid out as lines of at most 78 columns.
+# A package of one component, where anything is installed of it. ON are components that it depends on; ABOUT is laid out as
+# lines of at most 78 columns.
+get_cmake_property(installed COMPONENTS)
 macro(dabcanvas_package component package section)
-    cmake_parse_arguments(arg "FOR_EVERY_MACHINE" "OF;SUMMARY;ABOUT;NEEDS;RECOMMENDS" "ON" ${ARGN})
-    if(NOT arg_OF OR DABCANVAS_HAS_${arg_OF})
+    cmake_parse_arguments(arg "FOR_EVERY_MACHINE" "SUMMARY;ABOUT;NEEDS;RECOMMENDS" "ON" ${ARGN})
+    if(${component} IN_LIST installed)
         list(APPEND CPACK_COMPONENTS_ALL ${component})
         string(TOUPPER ${component} upper)
         set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package})
@@ -60,21 +61,21 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/trig
 dabcanvas_package(Development libdabcanvas-dev libdevel ON Runtime NEEDS "${headers_of}"
     SUMMARY "${canvas} - headers"
     ABOUT "${about}These are its headers, and what CMake and pkg-config find it by.")
-dabcanvas_package(Tools dabcanvas-tools graphics OF TOOL ON Runtime RECOMMENDS dabcanvas-brushes
+dabcanvas_package(Tools dabcanvas-tools graphics ON Runtime RECOMMENDS dabcanvas-brushes
     SUMMARY "paint recorded strokes into pictures"
     ABOUT "dabpaint paints recordings of pen strokes without a display, tells the shapes
 that strokes were meant as, and makes, shows and imports presets of brushes.")
-dabcanvas_package(Painter dabpainter graphics OF PAINTER ON Runtime RECOMMENDS dabcanvas-brushes
+dabcanvas_package(Painter dabpainter graphics ON Runtime RECOMMENDS dabcanvas-brushes
     SUMMARY "paint with natural-media brushes"
     ABOUT "A painting application for mouse, pen and finger. A pen's pressure and tilt
 shape every stroke, paper fills under pressure, watercolours dry with a dark
 rim, and oils take up the colours below and carry them along.")
-dabcanvas_package(Brushes dabcanvas-brushes graphics FOR_EVERY_MACHINE OF CANVAS
+dabcanvas_package(Brushes dabcanvas-brushes graphics FOR_EVERY_MACHINE
     SUMMARY "natural-media brushes for Dabcanvas"
     ABOUT "Presets of pencils, charcoal, chalk, pastels, crayons, inks, watercolours,
 gouache, oils and airbrushes for whatever paints with Dabcanvas.")
-dabcanvas_package(Qml qml6-module-dabcanvas libs OF QUICK ON Runtime NEEDS qml6-module-qtquick
+dabcanvas_package(Qml qml6-module-dabcanvas libs ON Runtime NEEDS qml6-module-qtquick
     SUMMARY "${canvas} - QML module" ABOUT "${about}This is its module for QML.")
-dabcanvas_package(Designer dabcanvas-designer libdevel OF DESIGNER ON Runtime
+dabcanvas_package(Designer dabcanvas-designer libdevel ON Runtime
     SUMMARY "${canvas} - Qt Designer" ABOUT "${about}This is its plug-in for Qt Designer.")
 include(CPack)

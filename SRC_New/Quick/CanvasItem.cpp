@@ -71,6 +71,9 @@ void CanvasItem::takeViewSize() {
         if (!_display->isModified()) {
             const ItemDisplay::MustStay stays(*_display);
             _display->setCanvasArea(QRect(QPoint(), (size() * _display->viewPixelRatio()).toSize()));
+            if (_display->canUndo()) {
+                _display->resetUndoManager();  // it is as if made so
+            }
             _display->setModified(false);
         }
     }

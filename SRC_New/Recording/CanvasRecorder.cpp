@@ -8,6 +8,7 @@
 
 #include "Canvas/QDDrawCanvas.h"
 #include "Maths/Version.h"
+#include "Recording/RecordingWriter.h"
 #include "Surface/PaintSurface.h"
 
 namespace dabcanvas {
@@ -24,35 +25,45 @@ bool isFinite(const ShapeRecord& shape) {
 
 }  // namespace
 
-CanvasRecorder::CanvasRecorder(QDDrawCanvas& canvas, Take take, std::uint32_t seed)
+CanvasRecorder::CanvasRecorder(QDDrawCanvas& canvas, Take take, std::optional<std::uint32_t> seed)
     : _canvas(canvas), _take(std::move(take)) {
     const SurfaceOptions options = canvas.surfaceOptions();
     _header.library = QStringLiteral(DABCANVAS_VERSION_STRING);
     _header.surface = options.kind == SurfaceKind::gpu ? QStringLiteral("gpu") : QStringLiteral("processor");
-    _header.seed = seed;
+    _header.seed = seed ? *seed : std::uint32_t(std::random_device()());
     _header.size = canvas.bufferSize().toSize();
     _header.canvasDepth = options.canvasDepth;
     _header.layerDepth = options.layerDepth;
     _clock.start();
 }
 
+bool CanvasRecorder::listen() {
+    if (!_canvas.isDrawing())
+        _canvas.setRandomSeed(_header.seed);
+    _isOn = _canvas.setInputListener(this);
+    return _isOn;
+}
+
 std::unique_ptr<CanvasRecorder> CanvasRecorder::start(QDDrawCanvas& canvas, Take take,
                                                       std::optional<std::uint32_t> seed) {
-    const std::uint32_t number = seed ? *seed : std::uint32_t(std::random_device()());
-    std::unique_ptr<CanvasRecorder> recorder(new CanvasRecorder(canvas, std::move(take), number));
-    if (!canvas.isDrawing())
-        canvas.setRandomSeed(number);
-    recorder->_isOn = canvas.setInputListener(recorder.get());
-    return recorder->_isOn ? std::move(recorder) : nullptr;
+    std::unique_ptr<CanvasRecorder> recorder(new CanvasRecorder(canvas, std::move(take), seed));
+    return recorder->listen() ? std::move(recorder) : nullptr;
+}
+
+std::unique_ptr<CanvasRecorder> CanvasRecorder::start(QDDrawCanvas& canvas, RecordingWriter& writer,
+                                                      std::optional<std::uint32_t> seed) {
+    const auto take = [&writer](const RecordedEvent& event) { writer.write(event); };
+    std::unique_ptr<CanvasRecorder> recorder(new CanvasRecorder(canvas, take, seed));
+    writer.begin(recorder->_header);
+    return recorder->listen() ? std::move(recorder) : nullptr;
 }
 
 std::unique_ptr<CanvasRecorder> CanvasRecorder::start(QDDrawCanvas& canvas, Recording& into,
                                                       std::optional<std::uint32_t> seed) {
-    auto recorder = start(
-        canvas, [&into](RecordedEvent event) { into.events.push_back(std::move(event)); }, seed);
-    if (recorder)
-        into.header = recorder->_header;
-    return recorder;
+    const auto take = [&into](RecordedEvent event) { into.events.push_back(std::move(event)); };
+    std::unique_ptr<CanvasRecorder> recorder(new CanvasRecorder(canvas, take, seed));
+    into.header = recorder->_header;
+    return recorder->listen() ? std::move(recorder) : nullptr;
 }
 
 CanvasRecorder::~CanvasRecorder() {

@@ -22,6 +22,8 @@ class QDDrawCanvas;
 
 namespace dabcanvas {
 
+class RecordingWriter;
+
 class DABCANVAS_RECORDING_API CanvasRecorder final : private CanvasInput {
 public:
     // Takes each event once it is whole: strokes at their end.
@@ -32,7 +34,9 @@ public:
     // mid-stroke and where the canvas cannot be read.
     static std::unique_ptr<CanvasRecorder> start(QDDrawCanvas& canvas, Take take,
                                                  std::optional<std::uint32_t> seed = std::nullopt);
-    // The same into a value, header and all, which must outlive the recorder.
+    // The same through a writer, header and all, and into a value; either must outlive the recorder.
+    static std::unique_ptr<CanvasRecorder> start(QDDrawCanvas& canvas, RecordingWriter& writer,
+                                                 std::optional<std::uint32_t> seed = std::nullopt);
     static std::unique_ptr<CanvasRecorder> start(QDDrawCanvas& canvas, Recording& into,
                                                  std::optional<std::uint32_t> seed = std::nullopt);
     ~CanvasRecorder();
@@ -44,7 +48,8 @@ public:
     void flush();
 
 private:
-    CanvasRecorder(QDDrawCanvas& canvas, Take take, std::uint32_t seed);
+    CanvasRecorder(QDDrawCanvas& canvas, Take take, std::optional<std::uint32_t> seed);
+    bool listen();
     double now() const;
     void add(RecordedWhat what);
     void addSample(const InputSample& sample);

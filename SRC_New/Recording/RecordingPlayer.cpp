@@ -43,9 +43,14 @@ bool isLength(const QDDrawCanvas& canvas, BrushKey key) {
 // Does one event but a stroke.
 class RecordingPlayer::Doing {
 public:
-    Doing(RecordingPlayer& player) : _player(player), _canvas(player._canvas), _to(player._canvas.input()) {}
+    // `sample`: the next one of a stroke.
+    Doing(RecordingPlayer& player, std::size_t& sample)
+        : _player(player), _canvas(player._canvas), _to(player._canvas.input()), _sample(sample) {}
 
-    bool operator()(const StrokePart& part) { return _player.playSample(part); }
+    bool operator()(const StrokePart& part) {
+        _player.playSample(part, _sample);
+        return true;
+    }
     bool operator()(const BrushChange& change) {
         if (_player._options.fixed.count(change.key) > 0)
             return true;
@@ -139,6 +144,7 @@ private:
     RecordingPlayer& _player;
     QDDrawCanvas& _canvas;
     CanvasInput& _to;
+    std::size_t& _sample;
 };
 
 RecordingPlayer::RecordingPlayer(const Recording& recording, QDDrawCanvas& canvas, PlayOptions options)
@@ -182,42 +188,54 @@ bool RecordingPlayer::begin() {
     return true;
 }
 
-// The samples of a stroke come one by one.
-bool RecordingPlayer::playSample(const StrokePart& part) {
+// The samples of a stroke come one by one; how it ends, with the last.
+void RecordingPlayer::playSample(const StrokePart& part, std::size_t& sample) {
     CanvasInput& to = _canvas.input();
-    if (_sample < part.samples.size()) {
-        const RecordedSample& from = part.samples[_sample];
-        const InputSample sample{QPointF(from.x, from.y) * _options.scale, from.pressure, from.altitude};
-        const bool isFirst = part.begins && _sample == 0;
-        const bool isLast = _sample + 1 == part.samples.size() && part.end == StrokePart::End::ended;
+    if (sample < part.samples.size()) {
+        const RecordedSample& from = part.samples[sample];
+        const InputSample taken{QPointF(from.x, from.y) * _options.scale, from.pressure, from.altitude};
+        const bool isFirst = part.begins && sample == 0;
+        const bool isLast = sample + 1 == part.samples.size() && part.end == StrokePart::End::ended;
         if (isFirst)
-            to.strokeBegan(part.device, sample);
+            to.strokeBegan(part.device, taken);
         if (isLast)
-            to.strokeEnded(sample);
+            to.strokeEnded(taken);
         else if (!isFirst)
-            to.strokeMoved(sample);
-        ++_sample;
+            to.strokeMoved(taken);
+        ++sample;
     }
-    if (_sample < part.samples.size())
-        return true;
+    if (sample < part.samples.size())
+        return;
     if (part.end == StrokePart::End::withdrawn)
         to.strokeWithdrawn();
     else if (part.end == StrokePart::End::dropped)
         to.strokeDropped();
-    return true;
 }
 
 bool RecordingPlayer::step() {
     if (!_problem.isEmpty() || !begin() || isAtEnd())
         return false;
     const RecordedWhat& what = _recording.events[_event].what;
-    if (!std::visit(Doing(*this), what))
+    if (!std::visit(Doing(*this, _sample), what))
         return false;
     const auto* part = std::get_if<StrokePart>(&what);
     if (part == nullptr || _sample >= part->samples.size()) {
         ++_event;
         _sample = 0;
     }
+    return true;
+}
+
+bool RecordingPlayer::play(const RecordedEvent& event) {
+    _problem.clear();
+    if (!begin())
+        return false;
+    const auto* part = std::get_if<StrokePart>(&event.what);
+    std::size_t sample = 0;
+    do {
+        if (!std::visit(Doing(*this, sample), event.what))
+            return false;
+    } while (part != nullptr && sample < part->samples.size());
     return true;
 }
 

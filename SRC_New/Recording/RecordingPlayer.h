@@ -53,7 +53,11 @@ public:
     // False where anything could not be done.
     bool playAll();
 
+    // One event, whole, that is none of the recording's: of a stroke that ends in it, say.
+    bool play(const RecordedEvent& event);
+
     bool isAtEnd() const { return _event == _recording.events.size(); }
+    std::size_t eventsPlayed() const { return _event; }
     // When what comes next happened; at the end, when the last did.
     double time() const;
     // What could not be done, after which nothing is played; empty for nothing.
@@ -62,7 +66,7 @@ public:
 private:
     class Doing;
 
-    bool playSample(const StrokePart& part);
+    void playSample(const StrokePart& part, std::size_t& sample);
     bool fail(const QString& problem);
     // Whether what comes next is no stroke of its own: a step recorded after one, say.
     bool followsStroke() const;

@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <memory>
 #include <vector>
 
 #include "Maths/Export.h"
@@ -15,20 +16,22 @@
 
 namespace dabcanvas {
 
-class JsonReader;
+struct EmbeddedPictures;
 
 class DABCANVAS_RECORDING_API RecordingReader {
 public:
+    RecordingReader();
+    ~RecordingReader();
+    RecordingReader(const RecordingReader&) = delete;
+    RecordingReader& operator=(const RecordingReader&) = delete;
+
     // `number`: the line's, for messages.
     Result<RecordingHeader> readHeader(QByteArrayView line, int number);
     // What one line holds; a brush's may hold several changes.
     Result<std::vector<RecordedEvent>> readLine(QByteArrayView line, int number);
 
 private:
-    friend class EventReader;
-
-    std::vector<QImage> _pictures;  // in the order in which they were embedded
-    qint64 _pixels = 0;
+    std::unique_ptr<EmbeddedPictures> _pictures;
 };
 
 // Whether the bytes begin as a recording does.

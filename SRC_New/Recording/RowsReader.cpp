@@ -93,7 +93,8 @@ Result<RecordedStrokes> readRows(const QByteArray& bytes) {
         if (!wasDown)
             recording.strokes.emplace_back();
         recording.strokes.back().samples.push_back({row.numbers[1], row.numbers[2], float(row.numbers[3]),
-                                                    columns == 5 ? float(row.numbers[4]) : -1.0f});
+                                                    columns == 5 ? float(row.numbers[4]) : -1.0f,
+                                                    row.numbers[0]});
     }
     return recording;
 }

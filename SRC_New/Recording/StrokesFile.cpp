@@ -2,6 +2,7 @@
 #include "Recording/StrokesFile.h"
 
 #include <QFile>
+#include <QXmlStreamReader>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -9,17 +10,32 @@
 #include "Recording/InkmlReader.h"
 #include "Recording/RowsReader.h"
 #include "Recording/StrokesJson.h"
+#include "Recording/SvgReader.h"
+#include "Recording/TableReader.h"
+#include "Recording/XoppReader.h"
 
 namespace dabcanvas {
 
 namespace {
 
-constexpr qint64 kLargestFile = qint64(1) << 30;
+constexpr qint64 kLargestFile = qint64(1) << 30, kLargestUnpacked = qint64(1) << 28;
 
-enum class Form { rows, inkml, json, unknown };
+enum class Form { rows, table, inkml, svg, xopp, json, unknown };
 
 bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+// Of XML, by its outermost element.
+Form formOfXml(const QByteArray& bytes) {
+    QXmlStreamReader xml(bytes);
+    if (xml.readNextStartElement()) {
+        if (xml.name() == QLatin1String("svg"))
+            return Form::svg;
+        if (xml.name() == QLatin1String("xournal"))
+            return Form::xopp;
+    }
+    return Form::inkml;
 }
 
 // The first byte that is not blank settles it, but for numbers, which garbage may start with too.
@@ -33,9 +49,11 @@ Form formOf(const QByteArray& bytes) {
         return Form::unknown;
     const char c = bytes[at];
     if (c == '<')
-        return Form::inkml;
+        return formOfXml(bytes);
     if (c == '{')
         return Form::json;
+    if (isTable(bytes))
+        return Form::table;
     if (c != '#' && c != '-' && c != '.' && !(c >= '0' && c <= '9'))
         return Form::unknown;
     const auto window = bytes.cbegin() + std::min<qsizetype>(bytes.size(), 4096);
@@ -52,6 +70,12 @@ Result<RecordedStrokes> readForm(const QByteArray& bytes) {
     switch (formOf(bytes)) {
         case Form::rows:
             return readRows(bytes);
+        case Form::table:
+            return readTable(bytes);
+        case Form::svg:
+            return readSvg(bytes);
+        case Form::xopp:
+            return readXopp(bytes);
         case Form::inkml:
             return readInkml(bytes);
         case Form::json:
@@ -59,8 +83,10 @@ Result<RecordedStrokes> readForm(const QByteArray& bytes) {
         case Form::unknown:
             break;
     }
-    return Problem{
-        1, {}, QStringLiteral("not a recording I know: neither rows of numbers nor InkML nor JSON")};
+    return Problem{1,
+                   {},
+                   QStringLiteral("not a recording I know: neither rows of numbers nor a table with columns "
+                                  "x and y, nor InkML, SVG, a Xournal++ notebook or JSON")};
 }
 
 }  // namespace
@@ -68,6 +94,13 @@ Result<RecordedStrokes> readForm(const QByteArray& bytes) {
 Result<RecordedStrokes> readStrokes(const QByteArray& bytes) {
     if (isBlankOnly(bytes))
         return Problem{0, {}, QStringLiteral("the recording is empty")};
+    if (bytes.startsWith("\x1F\x8B")) {
+        const auto unpacked = unpackedGzip(bytes, kLargestUnpacked);
+        if (!unpacked || unpacked->startsWith("\x1F\x8B"))
+            return unpacked ? Problem{0, {}, QStringLiteral("it is packed more than once")}
+                            : unpacked.problem();
+        return readStrokes(*unpacked);
+    }
     Result<RecordedStrokes> recording = readForm(bytes);
     if (!recording)
         return recording;

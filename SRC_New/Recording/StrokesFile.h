@@ -66,7 +66,7 @@ inline constexpr qint64 kMostPixels = qint64(1) << 28;
 // canvas do not keep the painter busy for hours.
 inline constexpr double kFarthest = 131072;
 
-// Tells rows of numbers, InkML and JSON apart by what the bytes say and reads them. A recording without any
+// Tells rows of numbers, tables, InkML, SVG, Xournal++ and JSON apart by what the bytes say and reads them, unpacked. A recording without any
 // sample is refused. Linear in the size of the bytes, in time and in memory.
 DABCANVAS_RECORDING_API Result<RecordedStrokes> readStrokes(const QByteArray& bytes);
 

@@ -112,6 +112,26 @@ void depth(CLI::App& app, const char* name, int& depth) {
     });
 }
 
+void surface(CLI::App& app, SurfaceOptions& surface) {
+    value(app, "--surface", [&surface](const QString& text) {
+        const auto kind = surfaceKindOf(text.toStdString());
+        surface.kind = kind.value_or(SurfaceKind::automatic);
+        return kind ? QString() : QStringLiteral("expected auto, gpu or processor, not \"%1\"").arg(text);
+    });
+    depth(app, "--canvas-depth", surface.canvasDepth);
+    depth(app, "--layer-depth", surface.layerDepth);
+}
+
+void seed(CLI::App& app, std::optional<std::uint32_t>& seed) {
+    value(app, "--seed", [&seed](const QString& text) {
+        bool isNumber = false;
+        seed = text.toUInt(&isNumber);
+        return isNumber
+                   ? QString()
+                   : QStringLiteral("expected a whole number from 0 to 4294967295, not \"%1\"").arg(text);
+    });
+}
+
 void background(CLI::App& app, std::optional<QColor>& color) {
     value(app, "--background", [&color](const QString& text) {
         color = colorFromText(text);
@@ -154,6 +174,7 @@ public:
         _app.require_subcommand(0, 1);
         flag(_app, "--version", _version);
         addPaint(command("paint"));
+        addSession(command("session"));
         addShapes(command("shapes"));
         addPreset(command("preset"));
         addDabs(command("dabs"));
@@ -201,13 +222,20 @@ private:
         flag(app, "--recognise", _paint.recognise);
         flag(app, "--repeatable", _paint.repeatable);
         flag(app, "--stats", _paint.stats);
-        value(app, "--surface", [this](const QString& text) {
-            const auto kind = surfaceKindOf(text.toStdString());
-            _paint.surface.kind = kind.value_or(SurfaceKind::automatic);
-            return kind ? QString() : QStringLiteral("expected auto, gpu or processor, not \"%1\"").arg(text);
-        });
-        depth(app, "--canvas-depth", _paint.surface.canvasDepth);
-        depth(app, "--layer-depth", _paint.surface.layerDepth);
+        seed(app, _paint.seed);
+        count(app, "--every", 1, [this](qint64 strokes) { _paint.every = int(strokes); });
+        text(app, "--timelapse", _paint.timelapse);
+        count(app, "--jobs", 1, [this](qint64 jobs) { _paint.jobs = int(jobs); });
+        surface(app, _paint.surface);
+    }
+    void addSession(CLI::App& app) {
+        size(app, _session.size);
+        brush(app, _session.brush);
+        settings(app, _session.settings);
+        background(app, _session.background);
+        seed(app, _session.seed);
+        text(app, "--record", _session.record);
+        surface(app, _session.surface);
     }
     void addShapes(CLI::App& app) {
         files(app, "INPUT", _shapes.inputs);
@@ -288,10 +316,12 @@ private:
 
     CommandLine result(const QString& command) const {
         const QString standard = QStringLiteral("-");
-        if (command == QLatin1String("paint") && _paint.stats && _paint.output == standard)
-            return UsageFault{QStringLiteral("--stats and -o - would both write to standard output")};
-        if (command == QLatin1String("paint"))
-            return _paint;
+        if (command == QLatin1String("paint")) {
+            const QString wrong = paintRefusal(_paint);
+            return wrong.isEmpty() ? CommandLine(_paint) : CommandLine(UsageFault{wrong});
+        }
+        if (command == QLatin1String("session"))
+            return _session;
         if (command == QLatin1String("shapes") && _shapes.output == standard && _shapes.outlines == standard)
             return UsageFault{
                 QStringLiteral("the shapes and their outlines would both go to standard output")};
@@ -306,7 +336,7 @@ private:
         if (command == QLatin1String("help"))
             return _help;
         return UsageFault{
-            QStringLiteral("a command is missing: paint, shapes, preset, dabs, properties or help")};
+            QStringLiteral("a command is missing: paint, session, shapes, preset, dabs, properties or help")};
     }
 
     CommandLine preset(const QString& command) const {
@@ -331,6 +361,7 @@ private:
     CLI::App _app;
     bool _version = false;
     PaintOptions _paint;
+    SessionOptions _session;
     ShapesOptions _shapes;
     PresetShowOptions _show;
     PresetMakeOptions _make;
@@ -363,6 +394,7 @@ CommandLine readCommandLine(const QStringList& arguments) {
 int runDabpaint(const QStringList& arguments) {
     return std::visit(Overloaded{
                           [](const PaintOptions& options) { return runPaint(options); },
+                          [](const SessionOptions& options) { return runSession(options); },
                           [](const ShapesOptions& options) { return runShapes(options); },
                           [](const DabsOptions& options) { return runDabs(options); },
                           [](const PresetShowOptions& options) { return runPresetShow(options); },

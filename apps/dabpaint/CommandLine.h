@@ -10,6 +10,7 @@
 #include "DabsCommand.h"
 #include "PaintCommand.h"
 #include "PresetCommand.h"
+#include "SessionCommand.h"
 #include "ShapesCommand.h"
 
 namespace dabcanvas::dabpaint {
@@ -29,9 +30,9 @@ struct UsageFault {
 };
 
 using CommandLine =
-    std::variant<PaintOptions, ShapesOptions, DabsOptions, PropertiesOptions, PresetShowOptions,
-                 PresetMakeOptions, PresetPreviewOptions, PresetImportOptions, PresetSheetOptions,
-                 HelpOptions, VersionOptions, UsageFault>;
+    std::variant<PaintOptions, SessionOptions, ShapesOptions, DabsOptions, PropertiesOptions,
+                 PresetShowOptions, PresetMakeOptions, PresetPreviewOptions, PresetImportOptions,
+                 PresetSheetOptions, HelpOptions, VersionOptions, UsageFault>;
 
 // Reads the arguments after the program's name. Touches no file.
 CommandLine readCommandLine(const QStringList& arguments);

@@ -6,6 +6,7 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -19,7 +20,7 @@ inline constexpr qint64 kMostDabs = 50'000'000;
 
 struct PaintOptions {
     QStringList recordings;
-    QString output;  // "-" for standard output
+    QString output;  // "-" for standard output; may be a pattern, see OutputPattern.h
     QSize size;      // invalid: as large as the recordings need
     QString brush;   // an XBF file; empty for the default brush
     std::vector<Assignment> settings;
@@ -29,8 +30,17 @@ struct PaintOptions {
     bool recognise = false;  // strokes are meant as shapes
     bool repeatable = false;
     bool stats = false;
+    std::optional<std::uint32_t> seed;
+    int every = 0;      // strokes from one picture on the way to the next; 0: none
+    QString timelapse;  // an animated WebP, or a folder of frames; empty: none
+    int jobs = 0;       // processes at once; 0: this one alone
     SurfaceOptions surface;
 };
+
+// The message when the options do not go together.
+QString paintRefusal(const PaintOptions& options);
+// One for each picture.
+std::vector<PaintOptions> paintedApart(const PaintOptions& options);
 
 int runPaint(const PaintOptions& options);
 

@@ -20,6 +20,7 @@ public:
     Progress& operator=(const Progress&) = delete;
 
     void advance(double work) { _done.store(_done.load() + work); }  // from one thread only
+    double done() const { return _done.load(); }
 
 private:
     void watch();

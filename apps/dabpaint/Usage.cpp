@@ -12,6 +12,7 @@ constexpr const char* kTool = R"(NAME
 
 SYNOPSIS
     dabpaint paint RECORDING... -o OUT.png [OPTION]...
+    dabpaint session [--size WxH] [--record FILE.jsonl] [OPTION]...
     dabpaint shapes [INPUT.csv]... [-o OUT.csv] [--outlines OUT.csv]
     dabpaint preset show | make | preview | import ...
     dabpaint dabs INPUT.json [--header]
@@ -21,6 +22,7 @@ SYNOPSIS
 
 DESCRIPTION
     paint       paints recordings of pen strokes onto a canvas and writes it as PNG
+    session     a canvas for programs that paint: a line in, a line out
     shapes      tells the shapes that strokes were meant as
     preset      shows, makes, previews and imports brush presets
     dabs        runs samples through the line process alone and prints its dabs
@@ -48,11 +50,12 @@ SYNOPSIS
                    [--set PROPERTY=VALUE]... [--background COLOUR]
                    [--undo N] [--most-dabs N] [--recognise] [--repeatable]
                    [--stats] [--surface auto|gpu|processor]
-                   [--canvas-depth 8|16] [--layer-depth 8|16]
+                   [--canvas-depth 8|16] [--layer-depth 8|16] [--seed N]
+                   [--every N] [--timelapse OUT.webp|FOLDER] [--jobs N]
 
 DESCRIPTION
     Paints the strokes of every RECORDING, in order, onto one canvas and writes
-    the picture. A RECORDING of - is standard input. The picture appears under its
+    the picture; or, where -o has %n or %i in it, each onto one of its own. A RECORDING of - is standard input. The picture appears under its
     name only once it is whole, and never takes the place of a file that is read.
     Painting needs neither a window nor a GPU.
 
@@ -60,7 +63,25 @@ OPTIONS
     -o OUT.png, --output OUT.png
         Where to write the picture; - is standard output. The suffix says the
         kind, any that Qt can write here: .png, .jpg, .bmp, .ppm and others. PNG
-        without one. Of kinds that keep no transparency, on white.
+        without one. Of kinds that keep no transparency, on white. In the name,
+        %n is the RECORDING's without folder and suffix, %i its number from 1,
+        %s how many strokes are painted, and %% a percent sign.
+
+    --jobs N
+        Paints up to N RECORDINGs at once, each in a process of its own, to a
+        name with %n or %i. One that fails does not keep others from it.
+
+    --every N
+        A picture after every N strokes: to the name of -o, which needs %s, or a
+        frame of the timelapse.
+
+    --timelapse OUT.webp|FOLDER
+        Writes how the picture came about, a frame a stroke or as --every says
+        and the finished picture: an animated WebP, or FOLDER/000001.png and so on.
+
+    --seed N
+        Begins the random numbers with N, 0 to 4294967295, so that two runs give
+        the same bytes. Of a canvas's recording, in place of its own.
 
     --size WxH
         Size of the canvas in pixels, at most 16384 a side and 268435456 in all.
@@ -122,6 +143,13 @@ OPTIONS
         faint dabs within a stroke do not add up.
 
 RECORDINGS
+    A canvas's recording, JSON lines that begin with {"dabcanvas":"recording"
+    (docs/recordings.md), is played by itself, on the surface and with the depths
+    that it names: it paints the very bytes that were painted, on another surface
+    within 3 of 255. --size makes it as much larger or smaller as fits, --set holds
+    whatever it says, --background lies below the picture; --brush, --undo,
+    --recognise and --repeatable are refused. All else is strokes:
+
     The form of a recording is told by its content, not by its name. Pressure is
     0 to 1; altitude, the tilt of the pen, is 0 upright to 1 from 60 degrees on.
     Positions are pixels from the top left, up to 131072 either way.
@@ -129,6 +157,22 @@ RECORDINGS
     Rows
         One sample a line: seconds x y pressure [altitude]. Pressure 0 lifts the
         pen. Blank lines and anything after a # are left out.
+
+    Tables
+        Comma-separated values, a row a point. The first row names the columns,
+        in any order: x and y; t (time, seconds), pressure (p, force), altitude
+        (tilt) and stroke (stroke_id, sample_id, id) may be left out. Without
+        names x,y or x,y,pressure or seconds,x,y,pressure[,altitude]. Pressure 0
+        lifts the pen.
+
+    SVG
+        Paths, lines, polygons, rectangles, circles and ellipses by their outlines,
+        curves as many short lines, with transforms and the view box; pressure 1.
+        stroke and stroke-width give renderColor and radius.
+
+    Xournal++
+        The strokes of a notebook (.xopp), packed or not. The width at each point
+        becomes the pressure. Several pages lie side by side.
 
     JSON
         {"canvas": {"width": 640, "height": 480, "background": "#ffffff"},
@@ -168,6 +212,58 @@ EXAMPLES
     dabpaint paint session.dat -o session.png --set radius=24 --set radiusControl=1,0,0
     dabpaint paint session.dat -o chalk.png --brush chalk.xbf --set radius=60
     dabpaint paint a.json b.inkml -o both.png --size 1024x768 --repeatable --stats
+)";
+
+constexpr const char* kSession = R"(NAME
+    dabpaint session - a canvas for programs that paint
+
+SYNOPSIS
+    dabpaint session [--size WxH] [--brush FILE.xbf] [--set PROPERTY=VALUE]...
+                     [--background COLOUR] [--seed N] [--record FILE.jsonl]
+                     [--surface auto|gpu|processor]
+                     [--canvas-depth 8|16] [--layer-depth 8|16]
+
+DESCRIPTION
+    Reads standard input line by line and answers each line by one on standard
+    output, at once: a JSON object with the number of the line and "ok", or an
+    "error", after which it goes on. Blank lines have no answer.
+
+    {"stroke": {"samples": [[10, 20, 0.5], [12, 24, 0.7, 0.2]]}}
+        x, y, pressure, altitude and seconds; all but x and y may be left out.
+        "end": "open" leaves the stroke to a line that has "begins": false.
+    {"brush": {"radius": 12, "renderColor": "#203040"}}
+        Brush properties; dabpaint properties lists them.
+    {"set": {"maskImage": "paper.png"}}
+        The same as JSON recordings have them: images by their files.
+    {"preset": "pencil.xbf"}
+    {"clear": {"color": "#ffffff"}}   {"do": "undo"}   {"do": "redo"}
+        Strokes and clears are steps.
+    {"save": "out.png"}
+        Writes the picture, of the kind that the suffix says.
+    {"look": [x, y, width, height]}
+        Answers with that part of the canvas, [] for all of it, as "png" in
+        base64.
+
+    Whatever else a canvas's recording has in its lines is taken, too; see
+    docs/recordings.md.
+
+OPTIONS
+    --size WxH
+        Size of the canvas in pixels, 800x600 unless given.
+
+    --record FILE.jsonl
+        Writes down all that enters the canvas, to be painted again by
+        dabpaint paint FILE.jsonl.
+
+    --brush, --set, --background, --seed, --surface, --canvas-depth, --layer-depth
+        As in dabpaint help paint.
+
+EXIT STATUS
+    0 done, 1 the work failed, 2 the command line is wrong. A line that was
+    answered by an error is no failure.
+
+EXAMPLES
+    my_program | dabpaint session --size 640x480 --record painted.jsonl
 )";
 
 constexpr const char* kShapes = R"(NAME
@@ -372,7 +468,7 @@ constexpr const char* kHelp = R"(NAME
     dabpaint help - print the help of a command
 
 SYNOPSIS
-    dabpaint help [paint | shapes | preset | dabs | properties]
+    dabpaint help [paint | session | shapes | preset | dabs | properties]
 
 DESCRIPTION
     Without a command, prints the help of the tool.
@@ -387,7 +483,7 @@ EXAMPLES
 constexpr struct {
     const char* topic;
     const char* text;
-} kTopics[] = {{"paint", kPaint}, {"shapes", kShapes},         {"preset", kPreset},
+} kTopics[] = {{"paint", kPaint}, {"session", kSession},       {"shapes", kShapes}, {"preset", kPreset},
                {"dabs", kDabs},   {"properties", kProperties}, {"help", kHelp}};
 
 }  // namespace

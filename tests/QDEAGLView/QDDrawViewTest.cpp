@@ -168,6 +168,16 @@ TEST_F(DrawViewTest, ACanvasIsCroppedAndExtendedWithWhatIsThere) {
     EXPECT_FALSE(imagesMatch(view.image(), wanted));
     view.undo();
     EXPECT_TRUE(imagesMatch(view.image(), wanted));
+    // Steps of either size follow each other.
+    view.undo();
+    EXPECT_TRUE(imagesMatch(view.image(), before));
+    EXPECT_EQ(view.sizeHint(), before.size());
+    view.undo();
+    EXPECT_TRUE(painted(view.image()).isEmpty());
+    view.redo();
+    EXPECT_TRUE(imagesMatch(view.displayImage(), before));
+    view.redo();
+    EXPECT_TRUE(imagesMatch(view.displayImage(), wanted));
     const LogCapture log;
     EXPECT_FALSE(view.setCanvasArea(QRect(0, 0, 0, 10)));
     EXPECT_FALSE(view.setCanvasArea(QRect(0, 0, 1 << 30, 1 << 30)));

@@ -12,6 +12,8 @@
 #include "Recording/RecordingPlayer.h"
 #include "Recording/RecordingReader.h"
 #include "Recording/RecordingWriter.h"
+#include "Recording/StrokesRecording.h"
+#include "TestFolders.h"
 #include "support/CanvasTest.h"
 
 namespace dabcanvas {
@@ -360,6 +362,31 @@ TEST_F(RecordingPlayerTest, AnotherSeedPaintsSomethingElse) {
     EXPECT_TRUE(RecordingPlayer(recording, *other, {.seed = 6}).playAll());
     EXPECT_EQ(same->image(), canvas->image());
     EXPECT_NE(other->image(), canvas->image());
+}
+
+TEST_F(RecordingPlayerTest, StrokesOfAnyFormArePlayedLikeAnyOther) {
+    const QByteArray json = R"({"canvas": {"width": 200, "height": 150, "background": "#ffe0c0"}, "strokes": [
+        {"set": {"radius": 9, "renderColor": "#203040"}, "samples": [[20, 30, 0.5], [90, 60, 1], [150, 20]]},
+        {"brush": "soft-blender.xbf", "samples": [[20, 60], [60, 10], [150, 90]]}]})";
+    const auto recording = readAsRecording(json, QStringLiteral(DABCANVAS_SAMPLES "/brushes"));
+    ASSERT_TRUE(recording) << recording.problem().text("R").toStdString();
+    EXPECT_GT(durationOf(*recording), 1);
+    auto played = makeCanvas(200, 150, SurfaceKind::processor),
+         painted = makeCanvas(200, 150, SurfaceKind::processor);
+    ASSERT_TRUE(RecordingPlayer(*recording, *played).playAll());
+    painted->setRepeatableRandom(false);
+    painted->setRandomSeed(0);
+    painted->clearWithColor(ESColor(QColor("#ffe0c0")), false);
+    painted->setRadius(9);
+    painted->setRenderColor(ESColor(QColor("#203040")));
+    painted->drawingWithBeginPoint({20, 30}, 0.5f);
+    painted->drawingWithMoveToPoint({90, 60}, 1.0f);
+    painted->drawingWithEndPoint({150, 20});
+    ASSERT_TRUE(painted->resetWithXBFPath(QStringLiteral(DABCANVAS_SAMPLES "/brushes/soft-blender.xbf")));
+    paintThrough(*painted, {{20, 60}, {60, 10}, {150, 90}});
+    EXPECT_EQ(played->image(), painted->image());
+    EXPECT_FALSE(readAsRecording(QByteArray(json).replace("soft-blender", "none"), "."));
+    EXPECT_FALSE(readAsRecording(QByteArray(json).replace("\"radius\": 9", "\"radius\": 0"), "."));
 }
 
 }  // namespace

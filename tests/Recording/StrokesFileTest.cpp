@@ -4,10 +4,12 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QLineF>
 #include <set>
 
 #include "Recording/Samples.h"
 #include "Recording/StrokesJson.h"
+#include "Recording/SvgPath.h"
 #include "support/Rows.h"
 
 namespace dabcanvas {
@@ -79,6 +81,91 @@ TEST(JsonRecordingTest, DabsInputTakesWhatPaintingRefuses) {
         EXPECT_FALSE(readDabsInput(bad)) << bad;
 }
 
+// ---- Tables
+
+TEST(TableTest, ColumnsAreFoundByNameAndStrokesByTheirs) {
+    const auto named = readNamed("table.csv");
+    ASSERT_TRUE(named) << named.problem().what.toStdString();
+    ASSERT_EQ(named->strokes.size(), 2u);
+    EXPECT_THAT(named->strokes[0].samples,
+                ::testing::ElementsAre(IsSample(1, 2, 0.5, -1), IsSample(3, 4, 1, -1)));
+    EXPECT_EQ(named->strokes[0].samples[1].time, 0.2);
+    EXPECT_THAT(named->strokes[1].samples, ::testing::ElementsAre(IsSample(7, 8, -1, -1)));
+    const auto plain = readNamed("plain.csv");
+    ASSERT_TRUE(plain) << plain.problem().what.toStdString();
+    ASSERT_EQ(plain->strokes.size(), 2u);
+    EXPECT_THAT(plain->strokes[0].samples,
+                ::testing::ElementsAre(IsSample(1, 2, 0.5, -1), IsSample(3, 4, 1, -1)));
+    EXPECT_THAT(plain->strokes[1].samples, ::testing::ElementsAre(IsSample(7, 8, 0.25, -1)));
+}
+
+// ---- SVG
+
+TEST(SvgTest, OutlinesComeOutWhereTheyAreSeen) {
+    const auto drawing = readNamed("paths.svg");
+    ASSERT_TRUE(drawing) << drawing.problem().what.toStdString();
+    EXPECT_EQ(drawing->size, QSize(200, 100));
+    const auto& strokes = drawing->strokes;
+    ASSERT_EQ(strokes.size(), 5u);
+    EXPECT_THAT(strokes[0].samples, ::testing::ElementsAre(IsSample(20, 10, 1, -1), IsSample(60, 10, 1, -1),
+                                                           IsSample(60, 30, 1, -1), IsSample(20, 10, 1, -1)));
+    EXPECT_EQ(strokes[0].settings.at(0).value, SettingValue("#ff0000"));
+    EXPECT_EQ(strokes[0].settings.at(1).value, SettingValue(8.0));
+    EXPECT_THAT(strokes[1].samples, ::testing::ElementsAre(IsSample(80, 20, 1, -1), IsSample(69, 21, 1, -1)));
+    // Turned by a quarter, (1, 2) lies at (-2, 1).
+    EXPECT_THAT(strokes[2].samples, ::testing::ElementsAre(IsSample(16, 12, 1, -1), IsSample(12, 16, 1, -1)));
+    EXPECT_EQ(strokes[2].settings.at(0).value, SettingValue("#00ff00"));
+    // Half a circle about (40, 80), as large as it is in pixels.
+    ASSERT_GT(strokes[3].samples.size(), 8u);
+    for (const RecordedSample& sample : strokes[3].samples)
+        EXPECT_NEAR(std::hypot(sample.x - 40, sample.y - 80), 20, 0.2);
+    EXPECT_NEAR(strokes[3].samples[strokes[3].samples.size() / 2].y, 60, 3);  // over the top
+    EXPECT_EQ(strokes[3].settings.at(0).value, SettingValue("#0000ff"));
+    EXPECT_EQ(strokes[4].samples.size(), 4u);  // back to where it began
+}
+
+TEST(SvgTest, PathDataAsItIsWritten) {
+    struct Case {
+        const char* data;
+        bool whole;
+        QPointF end;
+    };
+    for (const Case& row : std::vector<Case>{{"M1 2 3 4", true, {3, 4}},
+                                             {"m1,2-3.5.5", true, {-2.5, 2.5}},
+                                             {"M0 0c1 1 2 2 3 0s1 1 3 0", true, {6, 0}},
+                                             {"M0 0Q1 1 2 0t2 0T+8e0-1", true, {8, -1}},
+                                             {"M0 0a5 5 0 1110 0a2 3 45 00-1-1", true, {9, -1}},
+                                             {"M0 0 A0 5 0 0 0 7 7 V2 H-3", true, {-3, 2}},
+                                             {"L1 1", false, {0, 0}},
+                                             {"M0 0 L5 5 6", false, {5, 5}},
+                                             {"M0 0 L5 5 X1", false, {5, 5}},
+                                             {"M0 0 z 3 3", false, {0, 0}},
+                                             {"M0 0 A1 1 0 2 0 3 3", false, {0, 0}},
+                                             {"M1e999 0", false, {0, 0}}}) {
+        SCOPED_TRACE(row.data);
+        QPainterPath path;
+        EXPECT_EQ(parseSvgPath(row.data, path), row.whole);
+        EXPECT_NEAR(QLineF(path.currentPosition(), row.end).length(), 0, 1e-9);
+    }
+}
+
+// ---- Xournal++
+
+TEST(XoppTest, WidthsBecomePressureAndPagesLieSideBySide) {
+    const auto notebook = readNamed("notebook.xopp");
+    ASSERT_TRUE(notebook) << notebook.problem().what.toStdString();
+    EXPECT_EQ(notebook->size, QSize(192, 48));
+    ASSERT_EQ(notebook->strokes.size(), 3u);
+    EXPECT_THAT(notebook->strokes[0].samples,
+                ::testing::ElementsAre(IsSample(0, 0, 0.5, -1), IsSample(12, 12, 1, -1),
+                                       IsSample(24, 0, 1, -1), IsSample(36, 12, 1, -1)));
+    EXPECT_EQ(notebook->strokes[0].settings.at(0).value, SettingValue(4.0));
+    EXPECT_EQ(notebook->strokes[0].settings.at(6).value, SettingValue("#204060"));
+    EXPECT_EQ(notebook->strokes[1].settings.at(5).value, SettingValue(0.5));
+    EXPECT_THAT(notebook->strokes[2].samples,
+                ::testing::ElementsAre(IsSample(98, 4, 1, -1), IsSample(100, 4, 1, -1)));
+}
+
 // ---- Refusals
 
 // What is told of each damaged file stands beside them: its name, a bar, and what follows "FILE:".
@@ -99,7 +186,8 @@ TEST(BadRecordingTest, EveryDamagedFileIsRefusedByLineAndReason) {
 
 // Every prefix of a good file must be read or refused, whatever it breaks off.
 TEST(BadRecordingTest, TruncationNeverCrashes) {
-    for (const char* name : {"hover.dat", "canvas.json", "office.inkml", "groups.inkml"}) {
+    for (const char* name : {"hover.dat", "canvas.json", "office.inkml", "groups.inkml", "paths.svg",
+                             "notebook.xopp", "table.csv", "plain.csv"}) {
         const auto bytes = readFile(kRecordings + QLatin1String(name));
         ASSERT_TRUE(bytes) << name;
         for (qsizetype size = 0; size < bytes->size(); ++size) {

@@ -24,3 +24,10 @@ quietly cmake --build --preset mingw -j "$jobs"
 export WINEPREFIX=$scratch/wine WINEDEBUG=-all
 quietly wineboot --init
 quietly ctest --preset mingw -j "$jobs"
+
+# A host on what is installed.
+quietly cmake --install build/mingw --prefix "$scratch/windows"
+quietly cmake -S tests/hosts/plain -B "$scratch/windows-plain" -G Ninja \
+    -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/mingw-w64.cmake" -DDabcanvas_DIR="$scratch/windows/lib/cmake/Dabcanvas"
+quietly cmake --build "$scratch/windows-plain"
+quietly wine "$scratch/windows-plain/plain.exe"

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// A timelapse as an animated WebP, and as a folder of pictures.
+#include <QDir>
+#include <QPainter>
+
+#include "Frames.h"
+#include "OutputFile.h"
+#include "PictureKinds.h"
+
+#ifdef DABPAINT_HAVE_WEBP
+#include <webp/encode.h>
+#include <webp/mux.h>
+#endif
+
+namespace dabcanvas::dabpaint {
+
+namespace {
+
+QString written(const QString& path, const QByteArray& bytes) {
+    OutputFile file(path);
+    return file.write(bytes) ? QString()
+                             : QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString());
+}
+
+class FrameFolder final : public FrameTaker {
+public:
+    explicit FrameFolder(QString path) : _path(std::move(path)) {}
+
+    QString add(const QImage& frame) override {
+        const QString path =
+            QDir(_path).filePath(QStringLiteral("%1.png").arg(++_count, 6, 10, QLatin1Char('0')));
+        QByteArray bytes;
+        const QString wrong = encodePicture(frame, path, bytes);
+        return wrong.isEmpty() ? written(path, bytes) : wrong;
+    }
+    QString finish() override { return {}; }
+
+private:
+    QString _path;
+    int _count = 0;
+};
+
+#ifdef DABPAINT_HAVE_WEBP
+
+constexpr int kFrameTime = 80, kLastFrameTime = 2000;  // milliseconds
+constexpr float kQuality = 80;
+
+class WebpAnimation final : public FrameTaker {
+public:
+    explicit WebpAnimation(QString path) : _path(std::move(path)) {}
+    ~WebpAnimation() override { WebPAnimEncoderDelete(_encoder); }
+    WebpAnimation(const WebpAnimation&) = delete;
+    WebpAnimation& operator=(const WebpAnimation&) = delete;
+
+    QString add(const QImage& frame) override {
+        if (_encoder == nullptr && !begin(frame.size()))
+            return fail();
+        WebPPicture picture;
+        if (!WebPPictureInit(&picture))
+            return fail();
+        picture.use_argb = 1;
+        picture.width = _size.width();
+        picture.height = _size.height();
+        const QImage pixels = asLargeAsTheFirst(frame).convertToFormat(QImage::Format_RGBA8888);
+        const bool isAdded =
+            WebPPictureImportRGBA(&picture, pixels.constBits(), int(pixels.bytesPerLine())) &&
+            WebPAnimEncoderAdd(_encoder, &picture, _time, &_config);
+        WebPPictureFree(&picture);
+        _lastTime = std::exchange(_time, _time + kFrameTime);
+        return isAdded ? QString() : fail();
+    }
+    QString finish() override {
+        WebPData data;
+        WebPDataInit(&data);
+        if (_encoder == nullptr ||
+            !WebPAnimEncoderAdd(_encoder, nullptr, _lastTime + kLastFrameTime, nullptr) ||
+            !WebPAnimEncoderAssemble(_encoder, &data))
+            return fail();
+        const QString wrong =
+            written(_path, QByteArray(reinterpret_cast<const char*>(data.bytes), qsizetype(data.size)));
+        WebPDataClear(&data);
+        return wrong;
+    }
+
+private:
+    bool begin(const QSize& size) {
+        WebPAnimEncoderOptions options;
+        if (!WebPAnimEncoderOptionsInit(&options) || !WebPConfigInit(&_config))
+            return false;
+        _config.quality = kQuality;
+        _size = size;
+        _encoder = WebPAnimEncoderNew(size.width(), size.height(), &options);
+        return _encoder != nullptr;
+    }
+    // A canvas may change its size.
+    QImage asLargeAsTheFirst(const QImage& frame) const {
+        if (frame.size() == _size)
+            return frame;
+        QImage same(_size, QImage::Format_RGBA8888_Premultiplied);
+        same.fill(Qt::transparent);
+        QPainter(&same).drawImage(0, 0, frame);
+        return same;
+    }
+    QString fail() const {
+        const char* why =
+            _encoder != nullptr ? WebPAnimEncoderGetError(_encoder) : "its sides have at most 16383 pixels";
+        return QStringLiteral("%1: the animation cannot be encoded: %2").arg(_path, QString::fromUtf8(why));
+    }
+
+    QString _path;
+    QSize _size;
+    WebPAnimEncoder* _encoder = nullptr;
+    WebPConfig _config{};
+    int _time = 0, _lastTime = 0;
+};
+
+#endif
+
+}  // namespace
+
+QString makeFrameTaker(const QString& path, std::unique_ptr<FrameTaker>& taker) {
+    if (path.endsWith(QLatin1String(".webp"), Qt::CaseInsensitive)) {
+#ifdef DABPAINT_HAVE_WEBP
+        OutputFile file(path);
+        if (!file.check())
+            return QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString());
+        taker = std::make_unique<WebpAnimation>(path);
+        return {};
+#else
+        return QStringLiteral(
+                   "%1: this dabpaint was built without libwebp; --timelapse FOLDER writes pictures")
+            .arg(path);
+#endif
+    }
+    if (!QDir().mkpath(path))
+        return QStringLiteral("%1: the folder cannot be made").arg(path);
+    taker = std::make_unique<FrameFolder>(path);
+    return {};
+}
+
+}  // namespace dabcanvas::dabpaint
