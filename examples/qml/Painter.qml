@@ -29,22 +29,19 @@ Window {
         radiusControl: [0.7, 0, 0]  // thinner, the lighter the pen presses
         navigable: true
         fit: Canvas.Whole
+
+        function take(color: color) {
+            renderColor = color
+            blendType = Brush.Normal
+        }
     }
     Row {
         x: 12
         y: 12
         spacing: 8
-        Repeater {
-            model: ["#20364f", "#b03a2e", "#1e8449", "#d68910"]
-            Choice {
-                required property color modelData
-                color: modelData
-                onChosen: {
-                    canvas.renderColor = modelData
-                    canvas.blendType = Brush.Normal
-                }
-            }
-        }
+        Choice { color: "#20364f"; onChosen: canvas.take(color) }
+        Choice { color: "#b03a2e"; onChosen: canvas.take(color) }
+        Choice { color: "#1e8449"; onChosen: canvas.take(color) }
         Choice { text: qsTr("Rubber"); onChosen: canvas.blendType = Brush.Erase }
         Choice { text: qsTr("Undo"); opacity: canvas.canUndo ? 1 : 0.5; onChosen: canvas.undo() }
         Choice { text: qsTr("Redo"); opacity: canvas.canRedo ? 1 : 0.5; onChosen: canvas.redo() }
