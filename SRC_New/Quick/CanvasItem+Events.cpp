@@ -16,8 +16,9 @@ void CanvasItem::mousePressEvent(QMouseEvent* event) {
     event->setAccepted(_display->pointers().mousePress(*event));
 }
 
+// Its press has come before.
 void CanvasItem::mouseDoubleClickEvent(QMouseEvent* event) {
-    event->setAccepted(_display->pointers().mousePress(*event));
+    event->setAccepted(event->button() == Qt::LeftButton);
 }
 
 void CanvasItem::mouseMoveEvent(QMouseEvent* event) {
@@ -33,6 +34,10 @@ void CanvasItem::mouseUngrabEvent() {
 }
 
 void CanvasItem::touchEvent(QTouchEvent* event) {
+    if (event->type() == QEvent::TouchUpdate && event->timestamp() <= _heardUntil &&
+        _display->pointers().isPainting(DevicePointers::Pointer::finger) && event->points().size() == 1) {
+        return event->setAccepted(true);  // heard from the window
+    }
     const bool isTaken = _display->pointers().touch(*event);
     event->setAccepted(isTaken);
 }
@@ -73,6 +78,7 @@ bool CanvasItem::eventFilter(QObject*, QEvent* event) {
             if (auto& touch = static_cast<QTouchEvent&>(*event);
                 touch.points().size() == 1 &&
                 _display->pointers().isPainting(DevicePointers::Pointer::finger)) {
+                _heardUntil = touch.timestamp();
                 _display->pointers().touch(touch);
             }
             return false;
@@ -85,11 +91,12 @@ bool CanvasItem::eventFilter(QObject*, QEvent* event) {
     }
 }
 
-// What is taken here makes no mouse events.
+// What is taken here makes no mouse events. A release is of who took the press, wherever it comes.
 bool CanvasItem::tablet(QTabletEvent& event) {
-    const bool isOurs = _display->pointers().isPainting(DevicePointers::Pointer::pen);
-    if (!isVisible() || !isEnabled() ||
-        (!isOurs && !isTopmostAt(*this, *window()->contentItem(), event.position()))) {
+    DevicePointers& pointers = _display->pointers();
+    const bool isAbove = event.type() != QEvent::TabletRelease && isVisible() && isEnabled() &&
+                         isTopmostAt(*this, *window()->contentItem(), event.position());
+    if (!isAbove && !pointers.isPainting(DevicePointers::Pointer::pen)) {
         return false;
     }
     QTabletEvent local(event.type(), event.pointingDevice(), mapFromScene(event.position()),
@@ -98,7 +105,7 @@ bool CanvasItem::tablet(QTabletEvent& event) {
                        event.rotation(), static_cast<float>(event.z()), event.modifiers(), event.button(),
                        event.buttons());
     local.setTimestamp(event.timestamp());
-    const bool isTaken = _display->pointers().tablet(local);
+    const bool isTaken = pointers.tablet(local);
     event.setAccepted(isTaken);
     return isTaken;
 }

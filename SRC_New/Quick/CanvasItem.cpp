@@ -90,6 +90,8 @@ void CanvasItem::itemChange(ItemChange change, const ItemChangeData& data) {
         case ItemSceneChange:
             _display->pointers().forget();
             watch(data.window);
+            _scene->picture.changeAll();
+            _scene->preview.changeAll();
             _display->viewWasResized();
             break;
         case ItemVisibleHasChanged:

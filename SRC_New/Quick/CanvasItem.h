@@ -223,6 +223,7 @@ private:
     QPointer<QQuickWindow> _window;
     QMap<QString, QString> _problems;
     bool _takesViewSize = false;  // when it is shown
+    quint64 _heardUntil = 0;      // of a finger, in milliseconds
 };
 
 }  // namespace dabcanvas

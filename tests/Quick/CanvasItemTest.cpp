@@ -161,6 +161,9 @@ TEST_F(CanvasItemTest, DevicesPaintWhatTheyPaintInTheWidget) {
         EXPECT_TRUE(imagesMatch(item->image(), view->image())) << int(device);
         EXPECT_EQ(item->property("canUndo"), view->canUndo());
     }
+    const QSignalSpy began(item, &CanvasItem::strokeBegan);
+    QTest::mouseDClick(window.get(), Qt::LeftButton, {}, kPlace.center());
+    EXPECT_EQ(began.size(), 2);
 }
 
 TEST_F(CanvasItemTest, ItIsShownAsTheWidgetIs) {
@@ -306,6 +309,25 @@ TEST_F(CanvasItemTest, ItemsGoInMidStroke) {
         QTest::mouseRelease(window.get(), Qt::LeftButton, {}, {60, 60});
         QApplication::processEvents();
     }
+}
+
+TEST_F(CanvasItemTest, ItIsShownAsBeforeInAnotherWindowAndAnew) {
+    stroke(*window, Device::mouse, 50);
+    const QImage before = itemShown();
+    const std::unique_ptr<QQuickWindow> first = std::move(window);
+    make("Item { objectName: 'place'; Canvas { visible: false } }");
+    QQuickItem* place = window->findChild<QQuickItem*>("place");
+    item = first->findChild<CanvasItem*>();
+    item->setParentItem(place);
+    EXPECT_EQ(itemShown(), before);
+    window->setPersistentSceneGraph(false);
+    window->setPersistentGraphics(false);
+    window->hide();
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    itemShown();
+    EXPECT_EQ(itemShown(), before);
+    item->setParentItem(nullptr);
 }
 
 TEST_F(CanvasItemTest, WhatLiesAboveItTakesThePen) {
