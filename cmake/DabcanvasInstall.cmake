@@ -3,7 +3,15 @@
 include(CMakePackageConfigHelpers)
 
 # Each stands on those before it.
-set(components Stroke Shapes Dabs Processor Brushes Render Canvas Recording View)
+set(all_components Stroke Shapes Dabs Processor Brushes Render Canvas Recording View)
+set(components "")
+foreach(component IN LISTS all_components)
+    string(TOUPPER ${component} upper)
+    if(NOT DEFINED DABCANVAS_HAS_${upper} OR DABCANVAS_HAS_${upper})
+        list(APPEND components ${component})
+    endif()
+endforeach()
+list(JOIN all_components " " DABCANVAS_ALL_COMPONENTS)
 list(JOIN components " " DABCANVAS_COMPONENTS)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Dabcanvas)
 set(DABCANVAS_NEEDS_THREADS OFF)
@@ -14,11 +22,11 @@ if(NOT DABCANVAS_BUILD_SHARED)
     set(DABCANVAS_NEEDS_THREADS ON)
     set(DABCANVAS_NEEDS_LZ4 ${lz4_FOUND})
     set(DABCANVAS_NEEDS_ZLIB ${zlib_FOUND})
-    set(DABCANVAS_NEEDS_HIGHWAY ON)
+    set(DABCANVAS_NEEDS_HIGHWAY ${hwy_FOUND})
 endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DabcanvasConfig.cmake.in
     ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake INSTALL_DESTINATION ${package_folder})
-# Before 1.0 a minor version may change the interface; the libraries' SOVERSION says the same.
+# Before 1.0 a minor version may change the interface.
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 
 foreach(component IN LISTS components)
@@ -26,5 +34,7 @@ foreach(component IN LISTS components)
 endforeach()
 install(FILES ${PROJECT_BINARY_DIR}/DabcanvasConfig.cmake ${PROJECT_BINARY_DIR}/DabcanvasConfigVersion.cmake
     DESTINATION ${package_folder})
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/samples/brushes DESTINATION ${CMAKE_INSTALL_DATADIR}/dabcanvas)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Documents)
+if(DABCANVAS_HAS_CANVAS)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/samples/brushes DESTINATION ${CMAKE_INSTALL_DATADIR}/dabcanvas COMPONENT Brushes)
+endif()

@@ -29,21 +29,23 @@ brush("Palette Knife", "oil wet", "A steel blade that lays a film of paint and s
       radiusControl=(0.3, 0, 0), endRadius=0, pointsDistance=0.015, flow=1, loadQuantity=0.9, mixQuantity=0.4,
       moistQuantity=0.8, bristles=1, renderColor="#5d7f9f")
 
+# Hairs on the inside of a turn run together: where single hairs nearly reach the stroke's opacity, that makes no knots.
+
 brush("Fan", "oil dry", "Thin hairs spread wide, for foliage, fur and hair.",
       textureImages=[hairs.fan(3, load) for load in (0.7, 0.62, 0.54, 0.46)], textureControl=(1, 0, 0), radius=90,
       minRadius=0.7, radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.015,
-      moveRadianEnable=True, flow=0.45, minFlow=0.3, flowControl=(0.8, 0, 0), renderColor="#4f6b2d")
+      moveRadianEnable=True, flow=0.8, minFlow=0.4, flowControl=(0.8, 0, 0), opacity=0.72, renderColor="#3d5a1b")
 
 brush("Dry Bristle", "oil dry", "A stiff brush with little paint, whose hairs each leave a scratch.",
       textureImages=[hairs.dry(9, load) for load in (0.75, 0.6, 0.45, 0.3, 0.18)], textureControl=(1, 0, 0),
       radius=72, minRadius=0.7, radiusControl=(0.5, 0, 0), startRadius=0, endRadius=0.8, pointsDistance=0.02,
-      moveRadianEnable=True, flow=0.45, flowControl=(0.7, 0, 0), minFlow=0.3, renderColor="#6b3f2a",
+      moveRadianEnable=True, flow=0.8, flowControl=(0.7, 0, 0), minFlow=0.35, opacity=0.72, renderColor="#56290f",
       **on_paper(paper("canvas"), 0.3, 1.2, 0.1, scale=0.6, control=(0.6, 0, 0)))
 
 brush("Rake", "oil dry", "Clumps of hairs as apart as a comb's teeth, for fur, grass and grain of wood.",
       textureImages=hairs.rake(4), radius=70, minRadius=0.8, radiusControl=(0.4, 0, 0), startRadius=0, endRadius=0.8,
-      pointsDistance=0.02, moveRadianEnable=True, flow=0.5, minFlow=0.3, flowControl=(0.8, 0, 0),
-      renderColor="#7a5230")
+      pointsDistance=0.02, moveRadianEnable=True, flow=0.85, minFlow=0.4, flowControl=(0.8, 0, 0), opacity=0.74,
+      renderColor="#5e3817")
 
 # ---- Without paint of their own
 

@@ -33,7 +33,7 @@ enum class TipKind { Images = 0, SoftDisc = 1, Ring = 2, RoundedRectangle = 3 };
 Q_ENUM_NS(TipKind)
 
 // slRadiusRelationType: what the second line's size keeps to the first one's
-enum class SizeRelation { None = 0, Difference = 1, Ratio = 2 };
+enum class SizeRelation { Free = 0, Difference = 1, Ratio = 2 };
 Q_ENUM_NS(SizeRelation)
 
 }  // namespace dabcanvas

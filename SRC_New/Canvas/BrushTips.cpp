@@ -1,7 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/BrushTips.h"
 
+#include <algorithm>
+
 namespace dabcanvas {
+namespace {
+
+// With fewer texels a shape is not itself any more.
+constexpr int kLeastSide = 64;
+
+// The same shape with so many at least.
+BrushTips::Drawing finer(const BrushTips::Drawing& drawing) {
+    const int size = std::max(drawing.size, 3);  // as they are drawn
+    const int times = (kLeastSide + size - 1) / size;
+    BrushTips::Drawing fine = drawing;
+    fine.size = size * times;
+    if (drawing.type == TexturesTool::kRing) {  // whose thickness counts texels, 2 at least
+        fine.controlValue = (drawing.controlValue > 2 ? drawing.controlValue : 2) * static_cast<float>(times);
+    }
+    return fine;
+}
+
+}  // namespace
 
 void BrushTips::give(const QList<QImage>& images) {
     _images = _given = images;
@@ -36,24 +56,21 @@ const QList<QImage>& BrushTips::images() const {
     if (_wanted != _made) {
         _made = _wanted;
         _images = {drawn(_wanted)};
-        _pictures.reset();
     }
     return _images;
 }
 
 std::shared_ptr<const TipSet> BrushTips::pictures(float radius) const {
-    const QList<QImage>& present = images();
-    const int discSize = present.isEmpty() ? static_cast<int>(radius) : -1;
-    if (!_pictures || discSize != _discSize) {
-        _discSize = discSize;
+    Drawing drawing = _wanted;
+    if (drawing.type == 0 && _images.isEmpty()) {
+        drawing = {TexturesTool::kSoftDisc, static_cast<int>(radius), TexturesTool().hardness(), 0};
+    }
+    if (!_pictures || drawing != _pictured) {
         auto made = std::make_shared<TipSet>();
-        if (present.isEmpty()) {
-            made->push_back(
-                pictureOf(drawn({TexturesTool::kSoftDisc, discSize, TexturesTool().hardness(), 0})));
-        }
-        for (const QImage& image : present) {
+        for (const QImage& image : drawing.type != 0 ? QList{drawn(finer(drawing))} : _images) {
             made->push_back(pictureOf(image));
         }
+        _pictured = drawing;
         _pictures = std::move(made);
     }
     return _pictures;

@@ -33,8 +33,8 @@ public:
     bool isDrawn() const { return _wanted.type != 0; }
     // The present ones, drawn by now. Empty after drop().
     const QList<QImage>& images() const;
-    // The same for a surface, never empty; `radius` is that of the disc in place of none. The same object for as long as
-    // they are the same.
+    // For a surface, never empty: the same, but small drawn tips with more texels. `radius` is that of the disc in place of
+    // none. The same object for as long as they are the same.
     std::shared_ptr<const TipSet> pictures(float radius) const;
 
 private:
@@ -44,8 +44,8 @@ private:
     Drawing _wanted;  // type 0: nothing is to be drawn
     mutable Drawing _made;
     mutable QList<QImage> _images;
-    mutable int _discSize = -1;                       // of the disc that _pictures is; -1 for any other
-    mutable std::shared_ptr<const TipSet> _pictures;  // null: to be made of the images
+    mutable Drawing _pictured;                        // what _pictures shows, or, of type 0, the images
+    mutable std::shared_ptr<const TipSet> _pictures;  // null: to be made
 };
 
 }  // namespace dabcanvas

@@ -23,6 +23,7 @@ protected:
     virtual void strokeDidEnd(QPointF) {}
     virtual void strokeWasWithdrawn() {}
 
+    virtual void canvasSizeDidChange() {}
     virtual void pictureDidChange(const QRect& /*bufferPixels*/) {}
     virtual void canUndoDidChange(bool) {}
     virtual void canRedoDidChange(bool) {}

@@ -40,7 +40,7 @@ Pictures picturesOf(const JournalContents& contents, const TileStore& tiles) {
     Pictures pictures;
     for (const RecoveredStep& step : contents.steps) {
         auto picture = step.base < 0
-                           ? std::make_shared<TilePicture>(contents.format.picture)
+                           ? std::make_shared<TilePicture>(step.picture)
                            : std::make_shared<TilePicture>(*pictures[static_cast<std::size_t>(step.base)]);
         for (const TileChange& change : step.changes) {
             picture->set(change.index, tiles.adopted(change.tile));
@@ -69,8 +69,8 @@ HistoryChange historyOf(const JournalContents& contents, const Pictures& picture
 
 }  // namespace
 
-CanvasHistory::CanvasHistory(PaintLayers& layers, RecordedCanvas& record)
-    : _layers(layers), _record(record) {}
+CanvasHistory::CanvasHistory(PaintLayers& layers, RecordedCanvas& record, Resize resize)
+    : _layers(layers), _record(record), _resize(std::move(resize)) {}
 
 CanvasHistory::~CanvasHistory() = default;
 
@@ -133,11 +133,9 @@ StepPicture CanvasHistory::reset() {
     return _record.data();
 }
 
-void CanvasHistory::startAnew() {
-    _record.startAnew();
-    if (_images != nullptr) {
-        _images->keepTilesIn(_record.tiles());
-        reset();
+void CanvasHistory::noteBeforeResize() {
+    if (_images != nullptr || autoMark) {
+        record();
     }
 }
 
@@ -220,7 +218,7 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back, Rect& changed) {
     if (picture.isNull() && _images->hasCurrentImage()) {  // but no memory for it
         return refuse();
     }
-    if (picture.size() != _record.bytesOfCanvas()) {
+    if (!picture.tiles() && picture.size() != _record.bytesOfCanvas()) {
         qCWarning(
             lcDabcanvas, "%ls; the canvas is cleared",
             qUtf16Printable(problem.isEmpty() ? QStringLiteral("An undo step has no image of this canvas")
@@ -229,7 +227,7 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back, Rect& changed) {
     }
     // All of it, whatever a host has restricted placing to.
     _layers.settle();
-    const auto shown = _record.show(picture, &problem);
+    const auto shown = showResized(picture, &problem);
     if (!shown) {
         return refuse();
     }
@@ -239,6 +237,26 @@ CanvasHistory::Outcome CanvasHistory::go(Step there, Step back, Rect& changed) {
     _images->keepToBudgets();
     note();
     return Outcome::restored;
+}
+
+// A step of another size makes the canvas as large, and the canvas is as it was where it cannot be had then.
+std::optional<Rect> CanvasHistory::showResized(const StepPicture& picture, QString* problem) {
+    const Size before = _layers.size();
+    const Size after = picture.tiles() ? picture.tiles()->layout().picture() : before;
+    if (after == before) {
+        return _record.show(picture, problem);
+    }
+    const auto present = _record.present();
+    if (!present || !_resize(after)) {
+        *problem = QStringLiteral("there is no surface for a step of another size");
+        return {};
+    }
+    const auto shown = _record.show(picture, problem);
+    if (!shown && _resize(before)) {
+        QString unheard;
+        _record.show(StepPicture(present), &unheard);
+    }
+    return shown;
 }
 
 // ---- Kept
@@ -291,11 +309,11 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
         if (!contents) {
             return refuse();
         }
-        const JournalFormat own{_layers.size(), _layers.surface().pixelBytes()};
-        if (contents->present < 0 || contents->format != own) {
+        if (contents->present < 0 || contents->pictureSize() != _layers.size() ||
+            contents->format.pixelBytes != _layers.surface().pixelBytes()) {
             *problem = QStringLiteral("it is of a canvas of %1 x %2 pixels and %3 bits")
-                           .arg(contents->format.picture.width)
-                           .arg(contents->format.picture.height)
+                           .arg(contents->pictureSize().width)
+                           .arg(contents->pictureSize().height)
                            .arg(contents->format.pixelBytes * 2);
             return refuse();
         }

@@ -10,8 +10,10 @@
 #pragma once
 
 #include <functional>
+#include <functional>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "Canvas/RecordedCanvas.h"
@@ -22,7 +24,10 @@ namespace dabcanvas {
 
 class CanvasHistory {
 public:
-    CanvasHistory(PaintLayers& layers, RecordedCanvas& record);
+    // Makes the canvas another size, whatever it shows then, and tells whom that concerns; false, and nothing changed, where
+    // there is no such surface.
+    using Resize = std::function<bool(const Size& size)>;
+    CanvasHistory(PaintLayers& layers, RecordedCanvas& record, Resize resize);
     ~CanvasHistory();
 
     bool autoMark = false;
@@ -36,8 +41,8 @@ public:
     StepPicture load(bool sketching);
     // Makes the present canvas the only step; null without the memory.
     StepPicture reset();
-    // The canvas has another size: steps of the one before are gone.
-    void startAnew();
+    // The canvas is about to get another size: what was drawn is a step of its own.
+    void noteBeforeResize();
     // Records the canvas as a step; null, and nothing recorded, when nothing was drawn since the last, or too shortly
     // after it, or without the memory.
     StepPicture mark();
@@ -75,10 +80,12 @@ private:
     StepPicture record();
     void noteRecorded();
     bool showsSaved();
+    std::optional<Rect> showResized(const StepPicture& picture, QString* problem);
     Outcome go(Step there, Step back, Rect& changed);
 
     PaintLayers& _layers;
     RecordedCanvas& _record;
+    const Resize _resize;
     std::unique_ptr<ImagesUndoManager> _images;
     std::shared_ptr<const TilePicture> _saved;  // null: no step may show it
     unsigned _droppedTold = 0;

@@ -20,7 +20,7 @@ Q_LOGGING_CATEGORY(lcDabcanvas, "dabcanvas.canvas")
 // ---- Making
 
 QDDrawCanvas::QDDrawCanvas(const QRectF& frame)
-    : _inside(new Inside{.host = Host(*this, frame), .options = {}, .parts = {}}) {}
+    : _inside(new Inside{.host = Host(*this, frame), .parts = {}}) {}
 
 QDDrawCanvas::~QDDrawCanvas() {
     _inside->host.mustNotBeNeeded();
@@ -39,9 +39,9 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
     if (!surface) {
         return false;
     }
-    _inside->options = options;
     _inside->parts = std::make_unique<Parts>(_inside->host, std::move(surface));
     Parts& parts = *_inside->parts;
+    parts.options = options;
     _inside->host.watch(parts);
     parts.placePreview = [this](const QImage& image, QSizeF) {
         // The preview stands for the whole buffer, at whatever size it is shown.
@@ -54,7 +54,6 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
         drawImage(image, QRectF(0, 0, buffer.width() * view.width(), buffer.height() * view.height()));
         made.isUntold = wasUntold;
     };
-    parts.setArea = [this](const QRect& area) { return setCanvasArea(area); };
     return true;
 }
 
@@ -91,17 +90,14 @@ PaintSurface& QDDrawCanvas::surface() {
 }
 
 SurfaceOptions QDDrawCanvas::surfaceOptions() const {
-    SurfaceOptions options = _inside->options;
-    const bool isGpu = asGLSurface(_inside->parts->layers.surface()) != nullptr;
-    options.kind = isGpu ? SurfaceKind::gpu : SurfaceKind::processor;
-    return options;
+    return _inside->parts->presentOptions();
 }
 
 GLSurface* QDDrawCanvas::glSurface() {
     if (asGLSurface(surface()) == nullptr) {
         Parts& parts = *_inside->parts;
         const Size size = parts.layers.size();
-        SurfaceOptions options = _inside->options;
+        SurfaceOptions options = parts.options;
         options.kind = SurfaceKind::gpu;
         auto moved = parts.isDrawing() ? nullptr : makeSurface(QSizeF(size.width, size.height), options);
         if (!moved || !parts.layers.moveTo(std::move(moved))) {
@@ -114,18 +110,7 @@ GLSurface* QDDrawCanvas::glSurface() {
 }
 
 bool QDDrawCanvas::setCanvasArea(const QRect& area) {
-    const Host::Call call(_inside->host);
-    Parts& parts = *_inside->parts;
-    if (parts.isDrawing() || !parts.finishPreview()) {
-        qCWarning(lcDabcanvas, "a canvas cannot change its size in mid-stroke");
-        return false;
-    }
-    auto made = makeSurface(QSizeF(area.size()), surfaceOptions());
-    if (!made || !parts.cropTo(std::move(made), {area.x(), area.y(), area.width(), area.height()})) {
-        return false;
-    }
-    parts.tell([&](CanvasInput& to) { static_cast<void>(to.areaSet(area)); });
-    return true;
+    return _inside->parts->setArea(area);
 }
 
 QString QDDrawCanvas::rendererName() {

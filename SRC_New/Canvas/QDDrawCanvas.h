@@ -139,7 +139,8 @@ public:
 
     QSizeF bufferSize() const;
     // The buffer becomes this area of itself, in its pixels; what lies outside of what it was is transparent. False, after a
-    // log line, and nothing changed, in mid-stroke and where no surface of that size can be had. The history begins anew.
+    // log line, and nothing changed, in mid-stroke and where no surface of that size can be had. A change like any other: a
+    // step may be of another size, and undo() makes the canvas as large again.
     bool setCanvasArea(const QRect& area);
     // View points per buffer pixel, per axis; (1, 1) while frame and buffer have one size.
     QSizeF scale() const;

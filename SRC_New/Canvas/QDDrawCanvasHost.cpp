@@ -153,6 +153,11 @@ QDDrawCanvas::Host::Before QDDrawCanvas::Host::present() const {
                                : Before{_watched->canUndo(), _watched->canRedo(), _watched->isModified()};
 }
 
+void QDDrawCanvas::Host::canvasSizeChanged() {
+    const Call call(*this);
+    _sizeChanged = true;
+}
+
 void QDDrawCanvas::Host::brushChanged() {
     const Call call(*this);
     _brushChanged = true;
@@ -175,8 +180,15 @@ void QDDrawCanvas::Host::showPreview(bool shown) {
 // Whatever is heard may destroy the canvas, and change what is yet to be told.
 void QDDrawCanvas::Host::tellAll(const Before& before) {
     const Alive alive(life);
-    if (const auto shown = std::exchange(_showsPreview, {})) {
+    if (std::exchange(_sizeChanged, false)) {
+        _canvas.canvasSizeDidChange();
+    }
+    if (const auto shown = alive ? std::exchange(_showsPreview, {}) : std::nullopt) {
         _canvas.showLeafDrawView(*shown);
+    }
+    const Rect area = alive && _watched != nullptr ? _watched->takeChanged() : Rect();
+    if (!area.isEmpty()) {
+        _canvas.pictureDidChange(QRect(area.x, area.y, area.width, area.height));
     }
     for (const QRectF& rect : alive ? std::exchange(_toShow, {}) : std::vector<QRectF>()) {
         if (alive) {
@@ -218,9 +230,6 @@ void QDDrawCanvas::Host::tellDisplay(const Before& before) {
     const Alive alive(life);
     if (std::exchange(_strokeWasLeft, false)) {
         tellStrokeEnd();
-    }
-    if (const Rect area = alive ? _watched->takeChanged() : Rect(); !area.isEmpty()) {
-        _canvas.pictureDidChange(QRect(area.x, area.y, area.width, area.height));
     }
     if (alive && std::exchange(_brushChanged, false)) {
         _canvas.brushDidChange();

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "Canvas/CanvasLog.h"
+#include "Canvas/SurfaceChoice.h"
+#include "GLSurface/MakeGLSurface.h"
 
 using namespace dabcanvas;
 
@@ -46,7 +48,7 @@ QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> sur
       record(layers),
       sketch(layers, record),
       placing(layers, [this] { settle(); }),
-      history(layers, record),
+      history(layers, record, [this](const Size& size) { return cropTo(Rect::of(size)); }),
       input(*this) {
     history.stepRecorded = [this] {
         if (listener != nullptr) {
@@ -568,23 +570,49 @@ bool QDDrawCanvas::Parts::refuses(bool hasStep) {
     return refusal != UndoRefusal::none;
 }
 
-bool QDDrawCanvas::Parts::cropTo(std::unique_ptr<PaintSurface> surface, const Rect& area) {
+SurfaceOptions QDDrawCanvas::Parts::presentOptions() {
+    SurfaceOptions present = options;
+    present.kind = asGLSurface(layers.surface()) != nullptr ? SurfaceKind::gpu : SurfaceKind::processor;
+    return present;
+}
+
+bool QDDrawCanvas::Parts::setArea(const QRect& area) {
     const Host::Call call(host);
-    settleSketch();
-    settle();
-    if (!layers.cropTo(std::move(surface), area)) {
+    if (isDrawing() || !finishPreview() || isLost()) {
+        qCWarning(lcDabcanvas, "a canvas cannot change its size in mid-stroke");
         return false;
     }
+    settleSketch();
+    settle();
+    history.noteBeforeResize();
+    if (!cropTo({area.x(), area.y(), area.width(), area.height()})) {
+        return false;
+    }
+    tell([&](CanvasInput& to) { static_cast<void>(to.areaSet(area)); });
     layers.edits.changed();
+    if (autoMarked().isNull()) {
+        history.note();
+    }
+    return true;
+}
+
+// Nothing is drawn or told but that it has another size.
+bool QDDrawCanvas::Parts::cropTo(const Rect& area) {
+    const Host::Call call(host);
+    auto surface = makeSurface(QSizeF(area.width, area.height), presentOptions());
+    if (!surface || !layers.cropTo(std::move(surface), area)) {
+        return false;
+    }
+    record.forgetCanvas();
     lastTouched = {};
     makePreview();
     host.showPreview(brush.present().brushType == kPreviewBrush);
     updateScale();
-    history.startAnew();
+    host.canvasSizeChanged();
+    host.redisplayAll();
     if (kind() == StrokeKind::smudge) {
         prepareSmudge();
     }
-    host.redisplayAll();
     return true;
 }
 

@@ -30,6 +30,7 @@ public:
     Parts(Host& host, std::unique_ptr<dabcanvas::PaintSurface> surface);
 
     Host& host;
+    dabcanvas::SurfaceOptions options;  // as the canvas was made
     dabcanvas::StageClock clock;
     dabcanvas::PaintLayers layers;
     dabcanvas::BrushState brush;
@@ -79,7 +80,8 @@ public:
     dabcanvas::StepPicture undo();
     dabcanvas::StepPicture redo();
     bool recover(const QString& id, QString* problem);
-    bool cropTo(std::unique_ptr<dabcanvas::PaintSurface> surface, const dabcanvas::Rect& area);
+    bool setArea(const QRect& area);
+    dabcanvas::SurfaceOptions presentOptions();
     dabcanvas::UndoRefusal refusal = dabcanvas::UndoRefusal::none;  // of the last of them
     void updateScale();
     void redisplay(const dabcanvas::Rect& area);
@@ -97,7 +99,6 @@ public:
     void seedRandom(std::uint32_t seed);
     void repeatRandom(bool repeats);
     void turnView(float radian, bool mirrored);
-    std::function<bool(const QRect&)> setArea;
     template <typename Tell>
     void tell(Tell&& tell) {
         if (listener != nullptr && !isUntold) {
@@ -141,6 +142,7 @@ private:
     void brushChanged(dabcanvas::BrushKey key) override;
 
     void makePreview();
+    bool cropTo(const dabcanvas::Rect& area);
     void leaveDrawn();
     void showDrawn(const std::optional<dabcanvas::Rect>& area, bool online);
     void endSketch(QPointF place, bool online);
@@ -166,6 +168,5 @@ private:
 
 struct QDDrawCanvas::Inside {
     Host host;
-    dabcanvas::SurfaceOptions options;  // as the canvas was made
     std::unique_ptr<Parts> parts;
 };

@@ -53,6 +53,13 @@ void RecordedCanvas::startAnew() {
     _tiles = std::move(tiles);
 }
 
+void RecordedCanvas::forgetCanvas() {
+    become(nullptr);
+    _told = nullptr;
+    _bytes.clear();
+    _isCanvas = false;
+}
+
 bool RecordedCanvas::giveBlank() {
     give({});
     return withMemory(

@@ -30,6 +30,8 @@ public:
     const std::shared_ptr<TileStore>& tiles() const { return _tiles; }
     // With other tiles from now on, and no picture.
     void startAnew();
+    // The canvas has another size: with the same tiles, and no picture of it yet.
+    void forgetCanvas();
 
     // Any other picture, as a host does; sketches are taken back to it, all of it, until it is read anew.
     void give(const QByteArray& data);

@@ -167,7 +167,9 @@ void CanvasDisplay::setGround(const QBrush& underCanvas, const QBrush& around) {
 
 void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
     painter.save();
-    painter.setClipRect(exposed);
+    painter.setClipRect(exposed, Qt::IntersectClip);
+    const bool isTurned = std::remainder(viewRotation(), M_PI_2) != 0;
+    painter.setRenderHint(QPainter::Antialiasing, isTurned);
     const QImage& picture = displayImage();
     const QRectF whole(QPointF(), bufferSize());
     QPainterPath outline;
@@ -188,11 +190,10 @@ void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
     const QImage& copy = _copies->at(level, picture);
     // The copy that there is may be a larger one.
     const double side = std::exp2(std::round(std::log2(double(picture.width()) / copy.width())));
-    const bool isStraight = map.m12() == 0 && map.m21() == 0;
-    const bool isAsItIs = isStraight && map.m11() * dots == 1 && map.m22() * dots == 1;
+    const bool isAsItIs = map.m11() * dots == 1 && map.m22() * dots == 1;
     // Interpolating an unscaled picture would cost time and change nothing.
     painter.setRenderHint(QPainter::SmoothPixmapTransform,
-                          !isAsItIs && (fit() == ViewFit::stretch || least < kSquares || !isStraight));
+                          !isAsItIs && (fit() == ViewFit::stretch || least < kSquares || isTurned));
     painter.setTransform(QTransform::fromScale(side, side) * map, true);
     const QRectF shown(QPointF(), whole.size() / side);
     painter.drawImage(shown, copy, shown);

@@ -121,6 +121,9 @@ protected:
     double pointScale() const override;
     QPointF localPointWithTouch(const QDDrawTouch& touch) const override;
     void redisplayRect(const QRectF& rect) override;
+    void canvasSizeDidChange() override {
+        viewWasResized();
+    }
     void pictureDidChange(const QRect& bufferPixels) override;
     void contextWasLost() override {
         updateView(QRectF(QPointF(), viewSize()));

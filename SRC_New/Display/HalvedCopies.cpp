@@ -42,7 +42,9 @@ void halve(const QImage& from, QImage& to, const QRect& area) {
 }  // namespace
 
 int HalvedCopies::levelFor(double zoom) {
-    return zoom >= 1 ? 0 : static_cast<int>(std::floor(-std::log2(std::max(zoom, 1e-6))));
+    // A little early, as interpolating what is shown at half its size takes some of its pixels for more than others.
+    constexpr double kEarly = 0.4;
+    return zoom >= 1 ? 0 : static_cast<int>(std::floor(kEarly - std::log2(std::max(zoom, 1e-6))));
 }
 
 const QImage& HalvedCopies::at(int level, const QImage& picture) {

@@ -15,7 +15,7 @@ namespace dabcanvas {
 class HalvedCopies {
 public:
     // The copy to show the picture at a zoom from: enlarged or as it is, 0 is the picture itself; then the one that is to be
-    // shown at half its size or larger.
+    // shown at two thirds of its size or a little enlarged.
     static int levelFor(double zoom);
 
     // Premultiplied RGBA, the picture's side / 2^level, rounded up; one that has no memory for it gives the picture itself.

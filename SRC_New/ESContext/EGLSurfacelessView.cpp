@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ESContext/EGLSurfacelessView.h"
 
+#ifdef DABCANVAS_HAVE_EGL
+
 #include <epoxy/egl.h>
 
 #include <array>
@@ -156,6 +158,24 @@ bool EGLSurfacelessView::makeCurrent() {
 bool EGLSurfacelessView::isCurrent() const {
     return eglGetCurrentContext() == _context;
 }
+
+#else
+
+std::unique_ptr<EGLSurfacelessView> EGLSurfacelessView::create(QString* reason) {
+    if (reason) {
+        *reason = QStringLiteral("this was built without EGL");
+    }
+    return nullptr;
+}
+EGLSurfacelessView::~EGLSurfacelessView() = default;
+bool EGLSurfacelessView::makeCurrent() {
+    return false;
+}
+bool EGLSurfacelessView::isCurrent() const {
+    return false;
+}
+
+#endif
 
 void EGLSurfacelessView::doneCurrent() {
     if (isCurrent()) {

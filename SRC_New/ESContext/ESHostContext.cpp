@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ESContext/ESHostContext.h"
 
-#include <epoxy/egl.h>
-
 #include <QOpenGLContext>
 #include <type_traits>
 
+#include "ESContext/HostEGL.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 
 #ifdef __unix__
@@ -60,23 +59,15 @@ const GLX* glx() {
     return found ? &functions : nullptr;
 }
 
-bool eglIsThere() {
-    static const bool has = epoxy_has_egl();  // calling EGL through epoxy without it would end the process
-    return has;
-}
-
 }  // namespace
 
 ESHostContext ESHostContext::capture() {
     ESHostContext host;
-    if (eglIsThere()) {
-        host.eglContext = eglGetCurrentContext();
-        if (host.eglContext) {
-            host.eglDisplay = eglGetCurrentDisplay();
-            host.eglDraw = eglGetCurrentSurface(EGL_DRAW);
-            host.eglRead = eglGetCurrentSurface(EGL_READ);
-        }
-    }
+    const dabcanvas::HostEGL egl = dabcanvas::HostEGL::current();
+    host.eglDisplay = egl.display;
+    host.eglContext = egl.context;
+    host.eglDraw = egl.draw;
+    host.eglRead = egl.read;
     if (!host.eglContext) {
         const GLX* const calls = glx();
         host.glxContext = calls ? calls->currentContext() : nullptr;
@@ -93,13 +84,11 @@ ESHostContext ESHostContext::capture() {
 
 bool ESHostContext::restoreNative() const {
     bool restored = true;
-    if (eglIsThere()) {
-        if (eglContext) {
-            releaseGLX();
-            restored = eglMakeCurrent(eglDisplay, eglDraw, eglRead, eglContext);
-        } else {
-            releaseEGL();
-        }
+    if (eglContext) {
+        releaseGLX();
+        restored = dabcanvas::HostEGL{eglDisplay, eglContext, eglDraw, eglRead}.makeCurrent();
+    } else {
+        releaseEGL();
     }
     if (glxContext) {
         const GLX* const calls = glx();
@@ -121,7 +110,5 @@ void ESHostContext::releaseGLX() {
 }
 
 void ESHostContext::releaseEGL() {
-    if (eglIsThere() && eglGetCurrentContext()) {
-        eglMakeCurrent(eglGetCurrentDisplay(), EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
-    }
+    dabcanvas::HostEGL::release();
 }

@@ -172,6 +172,7 @@ void ESImageRender::programDidChange() {
     _center.locate(made.uniformIndex(kCenter));
     _placedSize.locate(made.uniformIndex(kPlacedSize));
     _replace.locate(made.uniformIndex(kReplace));
+    _leavesBareUniform.locate(made.uniformIndex(kLeavesBare));
     _noiseTurnUniform.locate(made.uniformIndex(kNoiseTurn));
 }
 
@@ -297,6 +298,7 @@ bool ESImageRender::bindSources() {
     }
     _noiseTurnUniform.set(_noiseTurn.value_or(0));
     _useSubLine.set(_repeatedlyRenderEnabled);
+    _leavesBareUniform.set(_leavesBare);
     _subLineUnit.set(_subLine.unitNumber());
     if (_useLargeTexture) {
         if (brushTexture() == nullptr || !brushTexture()->useAtPosition(texturePos())) {

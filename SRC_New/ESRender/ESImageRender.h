@@ -101,6 +101,8 @@ public:
     // The sub-line layer masks the line layer.
     bool repeatedlyRenderEnabled() const { return _repeatedlyRenderEnabled; }
     void setRepeatedlyRenderEnabled(bool value) { _repeatedlyRenderEnabled = value; }
+    // The mode replace, too, changes nothing where the source is transparent.
+    void setLeavesBare(bool value) { _leavesBare = value; }
     // Offsets count upwards, so a source is upright with flipY set.
     bool flipX() const { return _flipX; }
     void setFlipX(bool value) { _flipX = value; }
@@ -148,14 +150,14 @@ private:
     bool _flipX = false, _flipY = false;
     float _radian = 0, _roundness = 1;
     bool _hasLevels = false;  // the image to place
-    bool _useLargeTexture = false, _repeatedlyRenderEnabled = false;
+    bool _useLargeTexture = false, _repeatedlyRenderEnabled = false, _leavesBare = false;
     Role _background, _line, _subLine;
     int _canvasDepth = 8;
     std::optional<float> _noiseTurn;
 
     GLint _positionIndex = -1, _texCoordIndex = -1;
     dabcanvas::UniformFloat _opacityUniform, _radianUniform, _noiseTurnUniform;
-    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit, _replace;
+    dabcanvas::UniformInt _useSubLine, _lineUnit, _subLineUnit, _bgUnit, _replace, _leavesBareUniform;
     dabcanvas::UniformVec2 _viewSize, _bgTextureSize, _flip, _center, _placedSize;
 };
 

@@ -20,6 +20,7 @@ inline constexpr char kFlip[] = "a_flip";
 inline constexpr char kCenter[] = "a_center";
 inline constexpr char kPlacedSize[] = "u_placedSize";  // these two of "ImageRender_Mac(place).fsh" only
 inline constexpr char kReplace[] = "u_replace";
+inline constexpr char kLeavesBare[] = "u_leavesBare";
 inline constexpr char kNoiseTurn[] = "u_noiseTurn";  // of programs that round by noise
 
 }  // namespace dabcanvas::image

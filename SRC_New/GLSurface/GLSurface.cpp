@@ -34,9 +34,9 @@ float roundnessOf(const Rect& rect) {
     return static_cast<float>(static_cast<double>(rect.height) / rect.width);
 }
 
-// The mode's program writes nothing where the layer has next to no paint.
+// The mode's program writes nothing where the layer, dry, has next to no paint.
 bool leavesNearlyBare(std::uint32_t blendType) {
-    return blendType >= ESBlendTypeBehind && blendType <= ESBlendTypeMultiply;
+    return blendType >= ESBlendTypeReplace && blendType <= ESBlendTypeMultiply;
 }
 
 }  // namespace
@@ -232,6 +232,9 @@ Rect GLSurface::drawInto(ESRenderType target, DabRender& with, std::span<const D
     if (target != ESRenderTypeCanvas) {
         with.holds = with.holds.united(touched);
     }
+    if (target == ESRenderTypeLine) {
+        _kept.drawn(touched);
+    }
     return touched;
 }
 
@@ -288,7 +291,11 @@ void GLSurface::clear(PaintLayer layer, const Rect& rect) {
         glEnable(GL_SCISSOR_TEST);  // to the pixel, where scissorRect() leaves a margin
         glScissor(rect.x, size().height - rect.bottom(), rect.width, rect.height);
         DabRender& of = dabRenderOf(layer);
-        if (rect.contains(of.holds)) {
+        const bool all = rect.contains(of.holds);
+        if (layer == PaintLayer::line) {
+            _kept.cleared(all ? Rect::of(size()) : rect);
+        }
+        if (all) {
             of.holds = {};
             of.dabs = 0;
         }
@@ -437,6 +444,7 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
     const bool isDry = style.reach() > 0 && dry(rects, style);
     // Drying takes paint away that was composited there.
     const bool startsAnew = isDry && leavesNearlyBare(style.blendType);
+    _compositor->setLeavesBare(isDry);
     if (isDry) {
         _compositor->setLineTextureID((*_wetLayer)->texture(), kLineUnit);
     }

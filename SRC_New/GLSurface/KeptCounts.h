@@ -20,8 +20,16 @@ public:
           _tiles(static_cast<std::size_t>(_columns) *
                  static_cast<std::size_t>((picture.height + kTileSide - 1) / kTileSide)) {}
 
+    // The layer that is blended holds paint there, from now on or no more.
+    void drawn(const Rect& rect) {
+        forEachTile(rect, [](Tile& tile, const Rect&) { tile.holdsPaint = true; });
+    }
+    void cleared(const Rect& rect) {
+        forEachTile(rect, [&](Tile& tile, const Rect& pixels) { tile.holdsPaint &= !rect.contains(pixels); });
+    }
+    // Only where there is paint: rectangles reach as far as the looks between them let them.
     void blended(const Rect& rect) {
-        forEachTile(rect, [](Tile& tile, const Rect&) { tile.isBlended = true; });
+        forEachTile(rect, [](Tile& tile, const Rect&) { tile.isBlended |= tile.holdsPaint; });
     }
     // Counts the tiles onto which something was blended since they were last.
     void kept(const Rect& rect) {
@@ -33,7 +41,7 @@ public:
     void forget(const Rect& rect) {
         forEachTile(rect, [&](Tile& tile, const Rect& pixels) {
             if (rect.contains(pixels)) {
-                tile = {};
+                tile = {.holdsPaint = tile.holdsPaint};
             }
         });
     }
@@ -71,7 +79,7 @@ public:
 private:
     struct Tile {
         std::uint32_t times = 0;
-        bool isBlended = false;
+        bool holdsPaint = false, isBlended = false;
     };
 
     template <typename Visit>

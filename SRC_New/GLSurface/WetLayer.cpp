@@ -62,6 +62,7 @@ void main() {
     float root = sqrt(L.a);
     float inside = clamp(2.0 * mean / sum() / (root * sqrt(root)) - 1.0, 0.0, 1.0);
     fragColor = L * (1.0 - u_wetEdge * inside * inside * (3.0 - 2.0 * inside));
+    fragColor.a = max(fragColor.a, 1.0 / 65535.0); // what is left tells that there was paint
 }
 )";
 

@@ -97,7 +97,7 @@ void Assembly::takeStep(RecordParser& parser) {
     std::uint64_t base = 0;
     std::int64_t time = 0;
     if (parser.take(&step.serial) && parser.take(&base) && parser.take(&time) && parser.take(&step.name) &&
-        parser.take(&step.changes, _contents.format) && parser.isDone()) {
+        parser.take(&step.picture, &step.changes, _contents.format) && parser.isDone()) {
         _contents.lastRecord = std::max(_contents.lastRecord, time);
         note(step.serial);
         const std::uint64_t serial = step.serial;
@@ -123,7 +123,7 @@ void Assembly::takeStacks(RecordParser& parser, const TilePlace& place) {
 void Assembly::takeCanvas(RecordParser& parser) {
     RecoveredStep step;
     std::uint64_t base = 0;
-    if (parser.take(&base) && parser.take(&step.changes, _contents.format) && parser.isDone()) {
+    if (parser.take(&base) && parser.take(&step.picture, &step.changes, _contents.format) && parser.isDone()) {
         _present = addNode(std::move(step), base).value_or(-1);
     }
 }
@@ -135,7 +135,8 @@ std::optional<int> Assembly::addNode(RecoveredStep step, std::uint64_t base) {
     }
     if (base != 0) {
         const auto known = _bySerial.find(base);
-        if (known == _bySerial.end()) {
+        if (known == _bySerial.end() ||
+            _nodes[static_cast<std::size_t>(known->second)].step.picture != step.picture) {
             return {};
         }
         step.base = known->second;

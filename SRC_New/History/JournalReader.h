@@ -23,6 +23,7 @@ struct RecoveredStep {
     QString name;   // empty: it is in no stack, but another's base, or the present canvas
     int base = -1;  // -1: blank
     std::vector<TileChange> changes;
+    Size picture;  // its base's as well
     std::uint64_t serial = 0;
 };
 
@@ -48,6 +49,10 @@ struct JournalContents {
     std::uint64_t lastTile = 0, lastSerial = 0;
     std::vector<JournalSegment> segments;
 
+    // Of the canvas.
+    const Size& pictureSize() const {
+        return present < 0 ? format.picture : steps[static_cast<std::size_t>(present)].picture;
+    }
     int stepCount() const { return static_cast<int>(undo.size() + redo.size()) + (current >= 0 ? 1 : 0); }
     std::int64_t bytes() const;
     // The tiles of a step's whole picture, by index, without transparent ones.

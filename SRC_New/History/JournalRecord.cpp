@@ -91,16 +91,21 @@ bool RecordParser::take(QString* name) {
     return true;
 }
 
-bool RecordParser::take(std::vector<TileChange>* changes, const JournalFormat& format) {
-    std::uint32_t count = 0;
-    if (!take(&count) || !has(std::size_t{count} * kChangeBytes)) {
+bool RecordParser::take(Size* picture, std::vector<TileChange>* changes, const JournalFormat& format) {
+    std::uint32_t width = 0, height = 0, count = 0;
+    if (!take(&width) || !take(&height) || width > kMostSide || height > kMostSide) {
+        return _sound = false;
+    }
+    *picture = {static_cast<int>(width), static_cast<int>(height)};
+    const JournalFormat own{*picture, format.pixelBytes};
+    if (!own.isSound() || !take(&count) || !has(std::size_t{count} * kChangeBytes)) {
         return false;
     }
     changes->resize(count);
     for (TileChange& change : *changes) {
         take(&change.index);
         take(&change.tile);
-        _sound = _sound && change.index < format.tiles();
+        _sound = _sound && change.index < own.tiles();
     }
     return _sound;
 }

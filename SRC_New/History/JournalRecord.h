@@ -31,7 +31,7 @@ class SegmentFile;
 // ---- What a journal holds
 
 struct JournalFormat {
-    Size picture;
+    Size picture;  // as the journal began: steps tell their own
     int pixelBytes = 4;  // or 8
 
     friend bool operator==(const JournalFormat&, const JournalFormat&) = default;
@@ -64,7 +64,7 @@ enum class RecordType : std::uint8_t { segment = 1, tile, step, stacks };
 inline constexpr std::uint32_t kRecordHead = 20;
 inline constexpr std::uint32_t kTileHead = 10;  // of a tile's payload: its id and its size unpacked
 inline constexpr std::uint32_t kMostRecord = 64 << 20;
-inline constexpr std::uint32_t kJournalVersion = 2;
+inline constexpr std::uint32_t kJournalVersion = 3;
 inline constexpr std::uint32_t kMostNameBytes = 1 << 16;
 
 struct RecordPlace {
@@ -95,6 +95,9 @@ public:
     }
     RecordWriter& put(const QString& name);  // as it is, whatever is in it
     RecordWriter& put(const std::vector<TileChange>& changes);
+    RecordWriter& put(const Size& picture) {
+        return put(static_cast<std::uint32_t>(picture.width)).put(static_cast<std::uint32_t>(picture.height));
+    }
 
     // Writes the head; may be done again for another place.
     const QByteArray& sealed(const RecordPlace& place);
@@ -119,7 +122,8 @@ public:
         return true;
     }
     bool take(QString* name);
-    bool take(std::vector<TileChange>* changes, const JournalFormat& format);
+    // A picture's size and what changed of it; pixels are of the format.
+    bool take(Size* picture, std::vector<TileChange>* changes, const JournalFormat& format);
     bool isDone() const { return _sound && _left == 0; }
 
 private:

@@ -96,7 +96,7 @@ QImage thumbnailOf(const JournalContents& contents, int step, int side) {
     if (step < 0) {
         return {};
     }
-    const Size& picture = contents.format.picture;
+    const Size& picture = contents.pictureSize();
     const bool deep = contents.format.pixelBytes == 8;
     Averages averages(picture, side);
     const auto columns = static_cast<std::uint32_t>((picture.width + kTileSide - 1) / kTileSide);

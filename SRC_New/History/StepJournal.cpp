@@ -8,6 +8,11 @@ namespace dabcanvas {
 
 namespace {
 
+// Of another size it is none.
+bool isBase(const HistoryChange::Step& step, const TilePicture& of) {
+    return step.picture && step.picture->layout().picture() == of.layout().picture();
+}
+
 constexpr qsizetype kMostName = 1 << 14;  // a journal takes longer ones for nothing
 
 bool isWritable(const HistoryChange::Step& step) {
@@ -123,6 +128,7 @@ std::optional<JournalState> StepJournal::told(const HistoryChange& change, const
                                               QString* problem) const {
     JournalState state{{}, namesOf(change.undo), namesOf(change.redo), nameOf(change.current), {}};
     Step base = lastKept(change.undo);
+    const Step none;
     bool sound = true;
     // As the change of the step before it, unless it is written already.
     const auto add = [&](const Step& step) {
@@ -130,18 +136,22 @@ std::optional<JournalState> StepJournal::told(const HistoryChange& change, const
             return;
         }
         if (written.value(step.name).picture != step.picture) {
-            auto changed = difference(base.picture.get(), *step.picture, problem);
+            const Step& from = isBase(base, *step.picture) ? base : none;
+            auto changed = difference(from.picture.get(), *step.picture, problem);
             sound = changed.has_value();
-            state.steps.push_back({step.name, base.name, std::move(changed).value_or(Changes())});
+            state.steps.push_back({step.name, from.name, std::move(changed).value_or(Changes()),
+                                   step.picture->layout().picture()});
         }
         base = step;
     };
     std::for_each(change.undo.added.begin(), change.undo.added.end(), add);
     add(change.current);
     if (sound && change.present && (!base.picture || *change.present != *base.picture)) {
-        auto changed = difference(base.picture.get(), *change.present, problem);
+        const Step& from = isBase(base, *change.present) ? base : none;
+        auto changed = difference(from.picture.get(), *change.present, problem);
         sound = changed.has_value();
-        state.present = JournalPresent{base.name, std::move(changed).value_or(Changes())};
+        state.present = JournalPresent{from.name, std::move(changed).value_or(Changes()),
+                                       change.present->layout().picture()};
     }
     std::for_each(change.redo.added.rbegin(), change.redo.added.rend(), add);
     return sound ? std::optional(std::move(state)) : std::nullopt;

@@ -37,7 +37,7 @@ TileJournal::~TileJournal() {
 
 bool TileJournal::adopt(const JournalContents& contents) {
     const std::lock_guard lock(_mutex);
-    if (contents.format != _settings.format || _last != 0) {
+    if (contents.format.pixelBytes != _settings.format.pixelBytes || _last != 0) {
         return false;
     }
     _journal = contents.journal;
@@ -145,7 +145,9 @@ bool TileJournal::writeState(const JournalState& state, QString* problem) {
     }
     RecordWriter record = _stacks.recordOf(change, now());
     if (state.present) {
-        record.put(serialOf(state.present->base)).put(state.present->changes);
+        record.put(serialOf(state.present->base))
+            .put(sizeOf(state.present->picture))
+            .put(state.present->changes);
     }
     TilePlace place;
     if (!write(record, &place, problem)) {
@@ -174,7 +176,7 @@ bool TileJournal::writeStep(const JournalStep& step, QString* problem) {
         return false;
     }
     RecordWriter record(RecordType::step, bytesOf(step.changes) + step.name.size() * 2);
-    record.put(++_lastSerial).put(serialOf(step.base)).put(now()).put(step.name).put(step.changes);
+    record.put(++_lastSerial).put(serialOf(step.base)).put(now()).put(step.name).put(sizeOf(step.picture)).put(step.changes);
     if (!write(record, nullptr, problem)) {
         return false;
     }

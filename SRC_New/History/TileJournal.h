@@ -37,12 +37,14 @@ struct JournalStep {
     QString name;
     QString base;
     std::vector<TileChange> changes;
+    Size picture{};  // empty: as large as the journal's; its base is as large
 };
 
 // The canvas where it is not the current step, likewise.
 struct JournalPresent {
     QString base;
     std::vector<TileChange> changes;
+    Size picture{};
 };
 
 // What becomes of the history in one go: steps, each after its base, and what changed of the stacks since they were
@@ -73,7 +75,7 @@ public:
     TileJournal& operator=(const TileJournal&) = delete;
 
     // Goes on where another ended: its tiles can be read, and new segments follow with the next append. Before anything
-    // is appended; false, and nothing changed, for another format.
+    // is appended; false, and nothing changed, for other pixels.
     bool adopt(const JournalContents& contents);
 
     // From now on it is kept, or, by null, not any more. The next append begins a segment.
@@ -139,6 +141,9 @@ private:
     void dropEmpty();
     std::uint64_t serialOf(const QString& name) const { return _serials.value(name, 0); }
     StacksChange changeOf(const JournalState& state) const;
+    const Size& sizeOf(const Size& picture) const {
+        return picture.width <= 0 ? _settings.format.picture : picture;
+    }
     bool knows(const QString& base, QString* problem) const;
     std::int64_t now();
     std::int64_t sumOf(std::int64_t Segment::*bytes) const;

@@ -46,7 +46,7 @@ qint64 bytesIn(const QString& path) {
 
 void describe(const JournalContents& contents, RecoverableHistory* history) {
     history->canvasDepth = contents.format.pixelBytes * 2;
-    history->size = QSize(contents.format.picture.width, contents.format.picture.height);
+    history->size = QSize(contents.pictureSize().width, contents.pictureSize().height);
     history->lastChange = QDateTime::fromMSecsSinceEpoch(contents.lastRecord);
     history->steps = contents.stepCount();
     history->thumbnail = thumbnailOf(contents, contents.present, kThumbnailSide);

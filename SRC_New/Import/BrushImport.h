@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -35,6 +36,9 @@ struct ImportedBrush {
 
 // Suffixes of brush files that are read, without their dots; pictures are Qt's.
 DABCANVAS_CANVAS_API QStringList importedBrushSuffixes();
+
+// No brush is larger; who reads files for the functions below does not read more.
+inline constexpr std::int64_t kMostImportedBytes = std::int64_t{1} << 30;
 
 // Any of these kinds, a picture as a tip.
 DABCANVAS_CANVAS_API std::optional<ImportedBrush> importBrush(const QByteArray& file,

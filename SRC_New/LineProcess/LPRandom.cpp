@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <ctime>
 
+#include "LineProcess/SystemRandom.h"
+
 namespace {
 
 constexpr float kRandScale = 4.656612873e-10f;  // 2 to the power -31
@@ -24,7 +26,7 @@ float lpRandom() {
         std::srand(static_cast<unsigned>(std::time(nullptr)));
         return true;
     }();
-    return std::min(static_cast<float>(std::rand()) * kRandScale, kBelowOne);
+    return std::min(static_cast<float>(dabcanvas::systemRandom()) * kRandScale, kBelowOne);
 }
 
 float lpUniformRandom(float low, float high) {

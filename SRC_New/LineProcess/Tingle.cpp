@@ -7,6 +7,7 @@
 
 #include "LineProcess/LPRandom.h"
 #include "LineProcess/LPSettings.h"
+#include "LineProcess/SystemRandom.h"
 #include "LineProcess/TingleInternal.h"
 #include "LineProcess/TingleTables.h"
 
@@ -41,7 +42,7 @@ float uniform() {
         return uniformOf(*tingleState.generator);
     }
     // Rounding to float can reach 1; the next value below keeps the interval open.
-    return std::min(std::fabs(static_cast<float>(drand48())), 0x1.fffffep-1f);
+    return std::min(std::fabs(static_cast<float>(dabcanvas::systemUniform())), 0x1.fffffep-1f);
 }
 
 bool isActive(const LPControlParams& control) {
@@ -134,8 +135,9 @@ std::int32_t PreRandI(int index) {
 }
 
 float RadiusTingle(float radius, float minimum, float amount) {
-    const double drawn =
-        tingleState.generator != nullptr ? static_cast<double>(uniformOf(*tingleState.generator)) : drand48();
+    const double drawn = tingleState.generator != nullptr
+                             ? static_cast<double>(uniformOf(*tingleState.generator))
+                             : dabcanvas::systemUniform();
     const double cut = static_cast<double>(radius - minimum) * drawn * static_cast<double>(amount);
     return finiteOr(static_cast<float>(static_cast<double>(radius) - cut), finiteOr(radius, 0.0f));
 }

@@ -77,6 +77,14 @@ struct Replace {
         return line;
     }
 };
+// The background where the layer is bare.
+struct ReplaceInPaint {
+    static constexpr bool kLeavesBare = false;
+    template <typename Channel>
+    static HWY_INLINE Value mix(Value back, Value line) {
+        return hn::IfThenElse(hn::Gt(alphaOf(line), hn::Zero(kFloats)), line, back);
+    }
+};
 struct Behind {
     static constexpr bool kLeavesBare = true;
     template <typename Channel>
@@ -273,10 +281,10 @@ void blendNormal(const BlendRow<std::uint16_t>& row) {
 
 // The kernel of a mode.
 template <typename Channel>
-auto kernelOf(std::uint32_t blendType, bool isMasked) -> void (*)(const BlendRow<Channel>&) {
+auto kernelOf(std::uint32_t blendType, const BlendRow<Channel>& row) -> void (*)(const BlendRow<Channel>&) {
     switch (blendType) {
         case ESBlendTypeReplace:
-            return blendWhole<Replace, Channel>;
+            return row.showsBare ? blendWhole<ReplaceInPaint, Channel> : blendWhole<Replace, Channel>;
         case ESBlendTypeBehind:
             return blendWhole<Behind, Channel>;
         case ESBlendTypeErase:
@@ -290,7 +298,7 @@ auto kernelOf(std::uint32_t blendType, bool isMasked) -> void (*)(const BlendRow
         case ESBlendTypeReset:
             return blendWhole<Reset, Channel>;
         default:
-            if (isMasked) {
+            if (row.mask != nullptr) {
                 return blendWhole<Normal, Channel>;
             }
             return blendNormal;
@@ -300,7 +308,7 @@ auto kernelOf(std::uint32_t blendType, bool isMasked) -> void (*)(const BlendRow
 template <typename Channel>
 HWY_INLINE void blend(std::uint32_t blendType, const BlendRow<Channel>& first, int rows) {
     constexpr std::ptrdiff_t kDown = kTileSide * 4;
-    const auto kernel = kernelOf<Channel>(blendType, first.mask != nullptr);
+    const auto kernel = kernelOf<Channel>(blendType, first);
     BlendRow<Channel> row = first;
     for (int y = 0; y < rows; ++y) {
         kernel(row);

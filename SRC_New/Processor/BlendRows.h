@@ -26,6 +26,7 @@ struct BlendRow {
     int count;                   // pixels
     float opacity;               // 0..1
     RowNoise noise;              // from noiseAt(), as a rule
+    bool showsBare = false;      // replace shows the background where the layer holds nothing
 };
 
 // Rounds by noise instead of to the nearest, so that faint strokes over one another add up to what they hold. Places next

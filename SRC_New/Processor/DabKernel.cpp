@@ -327,6 +327,13 @@ bool drawDabs(std::span<const TileDab> dabs, const DabGround& ground) {
     return HWY_DYNAMIC_DISPATCH(DrawDabs)(dabs, ground);
 }
 
+#ifdef HWY_COMPILE_ONLY_STATIC
+std::vector<std::int64_t> kernelTargets() {
+    return {HWY_STATIC_TARGET};
+}
+
+void useKernelTarget(std::int64_t) {}
+#else
 std::vector<std::int64_t> kernelTargets() {
     std::vector<std::int64_t> targets;
     for (std::int64_t left = hwy::SupportedTargets() & HWY_TARGETS; left != 0; left &= left - 1) {
@@ -339,6 +346,7 @@ void useKernelTarget(std::int64_t target) {
     hwy::SetSupportedTargetsForTest(target);
     hwy::GetChosenTarget().DeInit();  // so that the next call chooses anew
 }
+#endif
 
 }  // namespace dabcanvas
 #endif

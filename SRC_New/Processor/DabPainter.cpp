@@ -25,9 +25,9 @@ bool isSame(const std::weak_ptr<const Object>& one, const std::shared_ptr<const 
     return !one.owner_before(other) && !other.owner_before(one);
 }
 
-// As drawDabs(), into a layer of 8 bits; coverage is no such layer.
+// As drawDabs(), into a layer of 8 bits. Coverage is no such layer; what has colours of its own has another full scale.
 bool drawRounded(std::span<const TileDab> dabs, const DabGround& ground) {
-    if (ground.isCoverage) {
+    if (ground.isCoverage || ground.colours != nullptr) {
         return drawDabs(dabs, ground);
     }
     bool any = false;

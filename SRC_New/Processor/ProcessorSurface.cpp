@@ -61,25 +61,18 @@ void copyShortRows(const PixelView& from, const MutablePixelView& to) {
     }
 }
 
-// `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing. Calls changed(index) for each tile that
-// was another.
-template <typename Channel, typename Changed>
-void copyTiles(const TileGrid<Channel>& from, TileGrid<Channel>& to, const Rect& rect, Changed&& changed) {
+// `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing.
+template <typename Channel>
+void copyTiles(const TileGrid<Channel>& from, TileGrid<Channel>& to, const Rect& rect) {
     to.forEachIn(rect, [&](std::size_t index, const Rect& part) {
         if (to.sharesWith(from, index)) {
             return;
         }
-        changed(index);
         if (part == to.rectOf(index)) {
             return to.share(from, index);
         }
         copyShortRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
     });
-}
-
-template <typename Channel>
-void copyTiles(const TileGrid<Channel>& from, TileGrid<Channel>& to, const Rect& rect) {
-    copyTiles(from, to, rect, [](std::size_t) {});
 }
 
 // What the grid, a copy of one, holds with these rows in the rectangle.
@@ -248,7 +241,8 @@ void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, con
         .mask = style.masked ? pixelsAt(paint.mask, part.x, part.y) : nullptr,
         .count = part.width,
         .opacity = style.opacity,
-        .noise = noiseOf(index, part.x, part.y)};
+        .noise = noiseOf(index, part.x, part.y),
+        .showsBare = paint.showsBare};
     blendRows(style.blendType, row, part.height);
 }
 
@@ -282,9 +276,9 @@ void PictureSurface<Channel>::putStraight(std::size_t index, const Rect& part) {
 template <typename Channel>
 void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
                                             const CompositeStyle& style) {
-    _kept[index].isBlended = true;
     if (style.smudged) {
         if (_smudges.hasExchanged(index)) {
+            _kept[index].isBlended = true;
             const int left = part.x / kTileSide * kTileSide, top = part.y / kTileSide * kTileSide;
             _smudges.composite(index, part, _picture.writable(index), _background.tile(index), style.opacity,
                                noiseOf(index, left, top));
@@ -294,14 +288,18 @@ void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
     const auto* line = _line.grid.tile(index);
     const auto* mask = style.masked ? _subLine.grid.tile(index) : nullptr;
     const bool bare = line == nullptr || (style.masked && mask == nullptr);
-    if (bare && style.blendType != ESBlendTypeReplace) {
-        const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset;
+    const bool isDry = style.reach() > 0;
+    if (bare && (style.blendType != ESBlendTypeReplace || isDry)) {
+        const bool leaves = style.blendType != ESBlendTypeNormal && style.blendType != ESBlendTypeReset &&
+                            style.blendType != ESBlendTypeReplace;
         return leaves ? void() : copyTiles(_background, _picture, part);
     }
-    if (style.reach() > 0) {
+    _kept[index].isBlended =
+        true;  // where paint lies alone: rectangles reach as far as the looks between them let them
+    if (isDry) {
         line = _wetEdge.dried(_line.grid, index, part);
     }
-    blendTile(index, part, {.layer = line, .mask = mask}, style);
+    blendTile(index, part, {.layer = line, .mask = mask, .showsBare = isDry}, style);
 }
 
 template <typename Channel>
@@ -329,10 +327,9 @@ void PictureSurface<Channel>::revert(PictureId picture, const Rect& rect) {
 template <typename Channel>
 void PictureSurface<Channel>::commit(PictureId, const Rect& rect) {
     _smudges.noteChanged(rect);
-    withMemory("keep a stroke", [&] {
-        copyTiles(_picture, _background, rect, [this](std::size_t index) {
-            _kept[index].times += std::exchange(_kept[index].isBlended, false) ? 1 : 0;
-        });
+    withMemory("keep a stroke", [&] { copyTiles(_picture, _background, rect); });
+    _picture.forEachIn(rect, [&](std::size_t index, const Rect&) {
+        _kept[index].times += std::exchange(_kept[index].isBlended, false) ? 1 : 0;
     });
 }
 

@@ -89,7 +89,7 @@ private:
     // Null tiles are bare.
     struct Paint {
         const Tile<std::uint16_t>*layer = nullptr, *mask = nullptr;
-        bool overPicture = false;
+        bool overPicture = false, showsBare = false;
     };
     RowNoise noiseOf(std::size_t index, int x, int y) const;
     void blendTile(std::size_t index, const Rect& part, const Paint& paint, const CompositeStyle& style);

@@ -25,8 +25,11 @@ struct Shelf {
     Waiting* first = nullptr;
 };
 
-// Without a constructor or destructor that runs: the last tile may go when the process ends.
-constinit std::mutex lock;
+// Never destroyed: the last tile may go when the process ends. Not every system's mutex is ready without a constructor.
+std::mutex& lock() {
+    static auto* const made = new std::mutex;
+    return *made;
+}
 constinit std::array<Shelf, 4> shelves{};
 constinit std::size_t kept = 0;
 
@@ -44,7 +47,7 @@ Shelf* shelfOf(std::size_t bytes) {
 
 void* TileMemory::take(std::size_t bytes, std::align_val_t alignment) {
     {
-        const std::lock_guard guard(lock);
+        const std::lock_guard guard(lock());
         Shelf* const shelf = shelfOf(bytes);
         if (shelf != nullptr && shelf->first != nullptr) {
             Waiting* const block = shelf->first;
@@ -58,7 +61,7 @@ void* TileMemory::take(std::size_t bytes, std::align_val_t alignment) {
 
 void TileMemory::leave(void* block, std::size_t bytes, std::align_val_t alignment) noexcept {
     {
-        const std::lock_guard guard(lock);
+        const std::lock_guard guard(lock());
         Shelf* const shelf = kept + bytes <= kMost ? shelfOf(bytes) : nullptr;
         if (shelf != nullptr) {
             *shelf = {bytes, ::new (block) Waiting{shelf->first}};

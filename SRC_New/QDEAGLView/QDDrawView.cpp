@@ -57,6 +57,7 @@ void QDDrawView::showEvent(QShowEvent* event) {
         _takesViewSize = false;
         if (!isModified()) {
             setCanvasArea(QRect(QPoint(), (QSizeF(size()) * devicePixelRatioF()).toSize()));
+            setModified(false);
         }
         updateGeometry();
     }
@@ -91,6 +92,12 @@ void QDDrawView::viewDidChange() {
         _leafWidget->setTransform(bufferToView());
     }
     emit viewChanged();
+}
+
+void QDDrawView::canvasSizeDidChange() {
+    CanvasDisplay::canvasSizeDidChange();
+    updateGeometry();
+    emit canvasSizeChanged();
 }
 
 void QDDrawView::pictureDidChange(const QRect& bufferPixels) {

@@ -88,13 +88,14 @@ public:
         setFit(static_cast<dabcanvas::ViewFit>(fit));
     }
 
-signals:
+Q_SIGNALS:
     // Of a stroke, in buffer pixels, in the course of it. After each begin comes one of the two ends.
     void strokeBegan(QPointF place);
     void strokeMoved(QPointF place);
     void strokeEnded(QPointF place);
     void strokeWithdrawn();
     // All others come when the call that caused them is done.
+    void canvasSizeChanged();
     void canvasChanged(const QRect& bufferPixels);
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);
@@ -142,33 +143,34 @@ protected:
     void showLeafDrawView(bool shown) override;
 
     void strokeDidBegin(QPointF place) override {
-        emit strokeBegan(place);
+        Q_EMIT strokeBegan(place);
     }
     void strokeDidMove(QPointF place) override {
-        emit strokeMoved(place);
+        Q_EMIT strokeMoved(place);
     }
     void strokeDidEnd(QPointF place) override {
-        emit strokeEnded(place);
+        Q_EMIT strokeEnded(place);
     }
     void strokeWasWithdrawn() override {
-        emit strokeWithdrawn();
+        Q_EMIT strokeWithdrawn();
     }
+    void canvasSizeDidChange() override;
     void pictureDidChange(const QRect& bufferPixels) override;
     void canUndoDidChange(bool can) override {
-        emit canUndoChanged(can);
+        Q_EMIT canUndoChanged(can);
     }
     void canRedoDidChange(bool can) override {
-        emit canRedoChanged(can);
+        Q_EMIT canRedoChanged(can);
     }
     void modifiedDidChange(bool modified) override {
-        emit modifiedChanged(modified);
+        Q_EMIT modifiedChanged(modified);
     }
     void brushDidChange() override {
-        emit brushChanged();
+        Q_EMIT brushChanged();
     }
     void contextWasLost() override;
     void fingersDidTap(int fingers) override {
-        emit fingersTapped(fingers);
+        Q_EMIT fingersTapped(fingers);
     }
 
 private:

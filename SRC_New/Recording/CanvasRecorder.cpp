@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Canvas/QDDrawCanvas.h"
+#include "Maths/Version.h"
 #include "Recording/RecordingWriter.h"
 #include "Surface/PaintSurface.h"
 
@@ -27,7 +28,7 @@ bool isFinite(const ShapeRecord& shape) {
 CanvasRecorder::CanvasRecorder(QDDrawCanvas& canvas, Take take, std::optional<std::uint32_t> seed)
     : _canvas(canvas), _take(std::move(take)) {
     const SurfaceOptions options = canvas.surfaceOptions();
-    _header.library = QStringLiteral(DABCANVAS_VERSION);
+    _header.library = QStringLiteral(DABCANVAS_VERSION_STRING);
     _header.surface = options.kind == SurfaceKind::gpu ? QStringLiteral("gpu") : QStringLiteral("processor");
     _header.seed = seed ? *seed : std::uint32_t(std::random_device()());
     _header.size = canvas.bufferSize().toSize();
@@ -178,11 +179,8 @@ bool CanvasRecorder::pictureSet(const QImage& picture, bool isStep) {
     return true;
 }
 
-// What undo leads to from here depends on whether there was a history.
 bool CanvasRecorder::areaSet(const QRect& area) {
     add(AreaChange{area});
-    _undoSteps = -1;
-    _redoSteps = 0;
     return true;
 }
 

@@ -17,8 +17,6 @@ namespace dabcanvas::dabpaint {
 
 namespace {
 
-constexpr qint64 kMostBytes = qint64(1) << 30;
-
 // Where each file's preset goes when the output is a folder; the message when two would meet.
 QString placesInFolder(const PresetImportOptions& options, QStringList& places) {
     std::set<QString> taken;
@@ -54,7 +52,7 @@ Result<ImportedBrush> importedFile(const QString& path, const ImportOf& import) 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return Problem{0, {}, QStringLiteral("cannot be read: %1").arg(file.errorString())};
-    if (file.size() > kMostBytes)
+    if (file.size() > kMostImportedBytes)
         return Problem{0, {}, QStringLiteral("cannot be read: it is too large")};
     const LogCatcher log;  // the problem says it
     QString problem;

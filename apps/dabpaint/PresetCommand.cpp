@@ -107,9 +107,11 @@ int runPresetMake(const PresetMakeOptions& options) {
                             .arg(QLatin1String(property->name)));
     }
     const int status = saveBrush(paramsOf(**canvas, start.get(), options), name, options.output);
+    if (status != kDone)
+        return status;
     for (const auto& [path, brush] : imported)
         tellLosses(path, brush);
-    return status != kDone ? status : finishOut();
+    return finishOut();
 }
 
 }  // namespace dabcanvas::dabpaint

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Usage.h"
 
+#include "Maths/Version.h"
+
 namespace dabcanvas::dabpaint {
 
 namespace {
@@ -504,7 +506,7 @@ QByteArray usageText(const QString& topic) {
 }
 
 QByteArray versionText() {
-    return "dabpaint " DABPAINT_VERSION "\n";
+    return "dabpaint " DABCANVAS_VERSION_STRING "\n";
 }
 
 }  // namespace dabcanvas::dabpaint

@@ -5,9 +5,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QLineF>
 #include <QMouseEvent>
-#include <QNativeGestureEvent>
 #include <QPainter>
 #include <QTabletEvent>
 #include <QTimer>
@@ -27,8 +25,7 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr float kPress = 1;            // what the view takes a device for that measures none
-constexpr double kWheelDoubles = 480;  // eighths of a degree of wheel for twice the size
+constexpr float kPress = 1;  // what the view takes a device for that measures none
 
 // The hot spot inside the brush's outline.
 QCursor dotCursor() {
@@ -73,62 +70,38 @@ bool CanvasPointer::isIdle() const {
 bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
         return watched->isWidgetType() && filterKey(*static_cast<QKeyEvent*>(event));
-    const bool inView = watched == _viewport.view();
     if (event->type() == QEvent::ApplicationDeactivate && watched == qApp) {
         _spaceHeld = _panning = false;  // nobody will tell of the key's release
         chooseCursor();
     }
-    if (!inView && watched != &_viewport)
+    if (!_viewport.view() || watched != _viewport.view())
         return false;
-    const auto mapped = [&](QPointF local) {
-        return inView ? local + QPointF(_viewport.view()->pos()) : local;
-    };
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseMove:
         case QEvent::MouseButtonRelease: {
             auto& mouse = *static_cast<QMouseEvent*>(event);
-            const QPointF at = mapped(mouse.position());
-            return filterMouse(mouse, at) || (!inView && forwardToView(mouse, at));
+            return filterMouse(mouse, mouse.position());
         }
         case QEvent::TabletPress:
         case QEvent::TabletMove:
         case QEvent::TabletRelease: {
             auto& tablet = *static_cast<QTabletEvent*>(event);
-            const QPointF at = mapped(tablet.position());
-            return inView ? filterTablet(tablet, at) : forwardToView(tablet, at);
+            return filterTablet(tablet, tablet.position());
         }
         case QEvent::TouchBegin:
         case QEvent::TouchUpdate:
         case QEvent::TouchEnd:
         case QEvent::TouchCancel:
             filterTouch(*static_cast<QTouchEvent*>(event));
-            if (inView)
-                return false;  // which has to hear of every finger
-            event->setAccepted(true);
-            return true;
-        case QEvent::Wheel: {
-            const auto& wheel = *static_cast<QWheelEvent*>(event);
-            if (isIdle())
-                _viewport.zoomAbout(_viewport.zoom() * std::exp2(wheel.angleDelta().y() / kWheelDoubles),
-                                    mapped(wheel.position()));
-            pointTo(mapped(wheel.position()));
-            return true;
-        }
-        case QEvent::NativeGesture: {
-            const auto& gesture = *static_cast<QNativeGestureEvent*>(event);
-            if (gesture.gestureType() != Qt::ZoomNativeGesture)
-                return false;
-            if (isIdle())
-                _viewport.zoomAbout(_viewport.zoom() * (1 + gesture.value()), mapped(gesture.position()));
-            return true;
-        }
+            return false;  // the view has to hear of every finger
+        case QEvent::Wheel:
+            pointTo(static_cast<QWheelEvent*>(event)->position());
+            return false;
         case QEvent::Leave:
-            if (!inView) {
-                _cursor.hideOutline();
-                emit left();
-            }
+            _cursor.hideOutline();
+            emit left();
             return false;
         default:
             return false;
@@ -180,10 +153,8 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
             pickAt(at);
             return true;
         }
-        if (_viewport.view() && _viewport.view()->geometry().contains(at.toPoint())) {
-            _downPressure = kPress;
-            pressed(at);
-        }
+        _downPressure = kPress;
+        pressed(at);
         return false;
     }
     if (event.type() == QEvent::MouseMove) {
@@ -212,50 +183,6 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
     return false;
 }
 
-// So that a stroke may begin beside the canvas and come in over its edge.
-bool CanvasPointer::mayForward(QEvent::Type type, Qt::MouseButton button, QPointF at) {
-    if (type == QEvent::TabletPress || type == QEvent::MouseButtonPress ||
-        type == QEvent::MouseButtonDblClick) {
-        if (button == Qt::LeftButton)
-            _forwarding = !_viewport.view()->geometry().contains(at.toPoint());
-        return _forwarding;
-    }
-    const bool isEnd = type == QEvent::TabletRelease || type == QEvent::MouseButtonRelease;
-    return isEnd && button == Qt::LeftButton ? std::exchange(_forwarding, false) : _forwarding;
-}
-
-bool CanvasPointer::forwardToView(QMouseEvent& event, QPointF at) {
-    QDDrawView* view = _viewport.view();
-    if (_sending || !view)
-        return _sending;  // the view did not want it
-    if (!mayForward(event.type(), event.button(), at))
-        return false;
-    QMouseEvent forwarded(event.type(), at - QPointF(view->pos()), event.scenePosition(),
-                          event.globalPosition(), event.button(), event.buttons(), event.modifiers(),
-                          event.pointingDevice());
-    _sending = true;
-    QCoreApplication::sendEvent(view, &forwarded);
-    _sending = false;
-    return true;
-}
-
-bool CanvasPointer::forwardToView(QTabletEvent& event, QPointF at) {
-    QDDrawView* view = _viewport.view();
-    if (_sending || !view)
-        return _sending;
-    if (_spaceHeld || _panning || _picking || _pickPressed || !mayForward(event.type(), event.button(), at))
-        return false;
-    QTabletEvent forwarded(event.type(), event.pointingDevice(), at - QPointF(view->pos()),
-                           event.globalPosition(), event.pressure(), event.xTilt(), event.yTilt(),
-                           event.tangentialPressure(), event.rotation(), event.z(), event.modifiers(),
-                           event.button(), event.buttons());
-    _sending = true;
-    QCoreApplication::sendEvent(view, &forwarded);
-    _sending = false;
-    event.accept();  // else a mouse event would follow
-    return true;
-}
-
 bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
     emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
     // Left to the mouse event that follows a tablet event which nobody took.
@@ -280,7 +207,7 @@ bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
 }
 
 void CanvasPointer::pressed(QPointF at) {
-    _down = true;
+    _down = _viewport.isOnCanvas(at);
     _marked = false;
     _downAt = _viewport.bufferPoint(at);
 }
@@ -307,10 +234,7 @@ void CanvasPointer::leaveDab(QPointF at) {
     view->setPointsDistanceEnabled(false);
     view->setStartRadius(0);
     view->setEndRadius(0);
-    const QSizeF scale = view->scale();
-    const auto viewPoint = [&](double x) {
-        return QPointF((at.x() + x) * scale.width(), at.y() * scale.height());
-    };
+    const auto viewPoint = [&](double x) { return at + QPointF(x, 0); };
     constexpr double kAccepted = 1.1;  // buffer pixels; a shorter move would be dropped
     view->drawingWithBeginPoint(viewPoint(0), _downPressure);
     view->drawingWithMoveToPoint(viewPoint(kAccepted), _downPressure);
@@ -344,31 +268,14 @@ void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) {
 void CanvasPointer::filterTouch(const QTouchEvent& event) {
     if (event.device() && event.device()->type() == QInputDevice::DeviceType::TouchPad)
         return;  // which moves the mouse
-    QList<QPointF> fingers;
-    for (const QEventPoint& point : event.points()) {
-        if (point.state() != QEventPoint::Released)
-            fingers << _viewport.mapFromGlobal(point.globalPosition());
-    }
-    if (event.type() == QEvent::TouchBegin && fingers.size() == 1) {
-        _manyFingers = false;
+    const QList<QEventPoint>& fingers = event.points();
+    _manyFingers = (_manyFingers && event.type() != QEvent::TouchBegin) || fingers.size() > 1;
+    if (event.type() == QEvent::TouchBegin && !_manyFingers) {
         _downPressure = kPress;
-        pressed(fingers.first());
+        pressed(_viewport.mapFromGlobal(fingers.first().globalPosition()));
+    } else if (event.type() == QEvent::TouchEnd) {
+        released();
     }
-    if (fingers.size() < 2) {
-        _pinchSpan = 0;
-        if (event.type() == QEvent::TouchEnd)
-            released();
-        return;
-    }
-    _manyFingers = true;
-    const QPointF center = (fingers[0] + fingers[1]) / 2;
-    const double span = std::max(1.0, QLineF(fingers[0], fingers[1]).length());
-    if (_pinchSpan > 0 && isIdle()) {
-        _viewport.pan(center - _pinchCenter);
-        _viewport.zoomAbout(_viewport.zoom() * span / _pinchSpan, center);
-    }
-    _pinchCenter = center;
-    _pinchSpan = span;
 }
 
 // ---- What the pointer shows

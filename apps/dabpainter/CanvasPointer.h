@@ -20,7 +20,7 @@ namespace dabcanvas::dabpainter {
 class BrushCursor;
 class CanvasViewport;
 
-// What the pointer does besides painting, which the view does itself: panning, zooming, picking colours, the
+// What the pointer does besides painting, which the view does itself: panning by the space bar, picking colours, the
 // dab of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the
 // keyboard.
 class CanvasPointer : public QObject, public QDDrawViewDelegate {
@@ -59,9 +59,6 @@ private:
     bool filterMouse(QMouseEvent& event, QPointF at);
     bool filterTablet(QTabletEvent& event, QPointF at);
     void filterTouch(const QTouchEvent& event);
-    bool forwardToView(QMouseEvent& event, QPointF at);
-    bool forwardToView(QTabletEvent& event, QPointF at);
-    bool mayForward(QEvent::Type type, Qt::MouseButton button, QPointF at);
     void pickAt(QPointF at);
     void pressed(QPointF at);
     void released();
@@ -80,18 +77,12 @@ private:
     QPointF _panFrom;
     bool _picking = false;
     bool _pickPressed = false;
-    bool _forwarding = false;  // a stroke began beside the canvas
-    bool _sending = false;
 
     // Of the pointer that is down
     bool _down = false, _marked = false, _manyFingers = false;
     QPointF _downAt;  // buffer pixels
     float _downPressure = 1;
     dabcanvas::StepPicture _recordedBefore;  // of a stroke that is to be a shape
-
-    // Of the last pinch event
-    QPointF _pinchCenter;
-    double _pinchSpan = 0;
 };
 
 }  // namespace dabcanvas::dabpainter

@@ -5,6 +5,7 @@
 #include <QRegularExpression>
 
 #include "ImageFiles.h"
+#include "Maths/Version.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -82,7 +83,7 @@ EXIT STATUS
 }
 
 QByteArray versionText() {
-    return "dabpainter " DABPAINTER_VERSION "\n";
+    return "dabpainter " DABCANVAS_VERSION_STRING "\n";
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -252,6 +252,8 @@ QString PresetLibrary::importForeign(const QString& path, PresetId& now, QString
     QString problem;
     if (!file.open(QIODevice::ReadOnly))
         return fault(path, file.errorString());
+    if (file.size() > kMostImportedBytes)
+        return fault(path, tr("it is too large"));
     const auto brush = importBrush(file.readAll(), &problem);
     if (!brush)
         return fault(path, problem);

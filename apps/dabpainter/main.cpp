@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QIcon>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
@@ -77,6 +78,8 @@ int main(int argc, char** argv) {
         const QApplication application(argc, argv);
         QApplication::setApplicationName(QStringLiteral("dabpainter"));
         QApplication::setApplicationDisplayName(QStringLiteral("Dabpainter"));
+        QApplication::setDesktopFileName(QStringLiteral("org.dabcanvas.dabpainter"));
+        QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("dabpainter")));
         return runWindow(line);
     } catch (const std::bad_alloc&) {
         complain(QStringLiteral("out of memory"));

@@ -12,6 +12,7 @@
 namespace {
 
 using CanvasLayersTest = CanvasTest;
+using dabcanvas::SurfaceKind;
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kEndless = std::numeric_limits<double>::infinity();
 
@@ -153,6 +154,67 @@ TEST_P(CanvasBlendTest, ComposingLateGivesTheSamePixels) {
 }
 INSTANTIATE_TEST_SUITE_P(Types, CanvasBlendTest, ::testing::Values(0, 1, 2, 3, 4, 5, 6, 7, 8, 9),
                          [](const auto& row) { return "Blend" + std::to_string(row.param); });
+
+// Of strokes after one another on any surface, looked at after every event or never.
+struct LookedAt {
+    SurfaceKind kind;
+    int canvasDepth, layerDepth;
+};
+class CanvasLooksTest : public CanvasTest, public ::testing::WithParamInterface<LookedAt> {
+protected:
+    static void paint(QDDrawCanvas& canvas, unsigned seed, bool look) {
+        std::mt19937 random(seed);
+        const auto within = [&](int most) {
+            return static_cast<float>(random() % 1000) / 999 * static_cast<float>(most);
+        };
+        canvas.setBrushType(seed % 3 == 0 ? 3 : 0);
+        canvas.setMixQuantity(within(1));
+        canvas.setMoistQuantity(within(1));
+        canvas.setBlendType(static_cast<int>(seed % 10));
+        canvas.setWetEdge(seed % 4 < 2 ? 0 : within(1));
+        canvas.setWetEdgeWidth(within(64));
+        canvas.setRepeatedlyRenderEnabled(seed % 5 == 0);
+        canvas.setRadius(1 + within(40));
+        canvas.setFlow(0.1f + within(1));
+        canvas.setOpacity(0.3f + within(1));
+        canvas.setRenderColor(ESColor::rgba(within(1), within(1), within(1)));
+        QPointF at(within(300), within(200));
+        canvas.drawingWithBeginPoint(at, within(1));
+        for (int move = 0; move < 9; ++move) {
+            at += QPointF(within(90) - 45, within(90) - 45);
+            canvas.drawingWithMoveToPoint(at, within(1));
+            if (look) {
+                canvas.displayImage();
+            }
+        }
+        canvas.drawingWithEndPoint(at, within(1));
+    }
+};
+TEST_P(CanvasLooksTest, ALookInMidStrokeChangesNothing) {
+    const auto& [kind, canvasDepth, layerDepth] = GetParam();
+    const auto make = [&] { return makeCanvas(300, 200, kind, canvasDepth, layerDepth); };
+    const auto plain = make(), lookedAt = make();
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        for (QDDrawCanvas* canvas : {plain.get(), lookedAt.get()}) {
+            if (seed % 6 == 0) {
+                canvas->drawImage(patternImage({300, 200}), QRectF(0, 0, 300, 200));
+            }
+            paint(*canvas, seed, canvas == lookedAt.get());
+        }
+        EXPECT_TRUE(bitsOf(*plain) == bitsOf(*lookedAt)) << "stroke " << seed;
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Surfaces, CanvasLooksTest,
+                         ::testing::Values(LookedAt{SurfaceKind::gpu, 8, 16},
+                                           LookedAt{SurfaceKind::gpu, 16, 8},
+                                           LookedAt{SurfaceKind::processor, 8, 16},
+                                           LookedAt{SurfaceKind::processor, 16, 8},
+                                           LookedAt{SurfaceKind::processor, 16, 16}),
+                         [](const auto& of) {
+                             return std::string(of.param.kind == SurfaceKind::gpu ? "Gpu" : "Processor") +
+                                    std::to_string(of.param.canvasDepth) + "Layer" +
+                                    std::to_string(of.param.layerDepth);
+                         });
 
 // A stroke that dries changes pixels beyond its dabs: the host hears of them, and taking it back leaves none.
 TEST_F(CanvasLayersTest, ADryingStrokeIsShownAndTakenBackAsFarAsItReaches) {

@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+#include "LineProcess/SystemRandom.h"
+
 using namespace dabcanvas;
 
 namespace {
@@ -68,7 +70,7 @@ void everyJitter(DabSettings& s) {
 }
 
 TEST(DabTest, EveryJitterStaysInRange) {
-    srand48(3);
+    seedSystemUniform(3);
     for (const bool debug : {true, false}) {
         DabMaker maker = makerWith([&](DabSettings& s) {
             everyJitter(s);

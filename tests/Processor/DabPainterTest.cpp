@@ -16,6 +16,13 @@ namespace {
 
 constexpr Size kLayer{700, 150};
 
+// More instruction sets than these must be there, or nothing is compared.
+#ifdef DABCANVAS_ONE_INSTRUCTION_SET
+constexpr std::size_t kFewestTargets = 0;
+#else
+constexpr std::size_t kFewestTargets = 1;
+#endif
+
 // Dabs of all kinds, as many as make threads worth their while.
 std::vector<Dab> mixedDabs(std::size_t count) {
     std::mt19937 random(11);
@@ -84,7 +91,7 @@ TEST(DabPainterTest, GivesTheSameBytesHoweverItIsDone) {
             EXPECT_TRUE(areSame(alone, drawn(dabs.size()))) << "three threads";
             EXPECT_TRUE(areSame(alone, drawn(70))) << "runs of 70";
             EXPECT_TRUE(areSame(alone, drawn(1))) << "one by one";
-            ASSERT_GT(kernelTargets().size(), 1u);
+            ASSERT_GT(kernelTargets().size(), kFewestTargets);
             for (const std::int64_t target : kernelTargets()) {
                 useKernelTarget(target);
                 EXPECT_TRUE(areSame(alone, drawn(dabs.size()))) << "instruction set " << target;

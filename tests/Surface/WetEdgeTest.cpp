@@ -74,6 +74,8 @@ const Row kRows[] = {
     {"odd, over colour",
      {.blendType = ESBlendTypeMultiply, .opacity = 0.8f, .wetEdge = 0.6f, .wetEdgeWidth = 7}},
     {"replacing", {.blendType = ESBlendTypeReplace, .wetEdge = 0.5f, .wetEdgeWidth = 8}},
+    {"replacing, inside to almost nothing",
+     {.blendType = ESBlendTypeReplace, .wetEdge = 1, .wetEdgeWidth = 8}},
     {"erasing, masked", {.blendType = ESBlendTypeErase, .masked = true, .wetEdge = 0.7f, .wetEdgeWidth = 8}},
     {"masked", {.opacity = 0.9f, .masked = true, .wetEdge = 0.8f, .wetEdgeWidth = 20}},
     {"widest, beyond the canvas", {.wetEdge = 0.9f, .wetEdgeWidth = 64}},
@@ -112,7 +114,9 @@ TEST_P(WetEdgeTest, DriesAsTheReferenceDoes) {
                                  : bare        ? 0
                                                : 0.5);
                     }
-                    const auto expected = reference::blended(style.blendType, {0.8, 0.6, 0.3, 0.9}, of);
+                    const reference::Colour below{0.8, 0.6, 0.3, 0.9};
+                    const auto expected =
+                        alphaAt(x, y) > 0 ? reference::blended(style.blendType, below, of) : below;
                     for (std::size_t i = 0; i < 4; ++i) {
                         const double off = std::abs(dry[at(x, y) + i] / full - expected[i]) * 255;
                         most = std::max(most, off);

@@ -134,12 +134,16 @@ TEST_F(PresetProgramTest, BrushesOfOtherProgramsBecomePresets) {
 
     write("cut.gbr", contentOf(tip).chopped(1));
     write("cut.myb", myb.left(60));
+    write("many.gih", "many\n17 ncells:17\n" + gbr({.width = 1, .height = 1, .pixels = "\xFF"}).repeated(17));
+    EXPECT_THAT(run("preset make -o %leaf.xbf --tip %many.gih").out.toStdString(),
+                ::testing::HasSubstr("many.gih: not carried over: 1 of its 17 tips"));
     const auto before = filesThere();
     expectOneLine(run("preset import %cut.gbr -o %new.xbf"), 1, "cut.gbr: cannot be imported: the file ends");
     expectOneLine(run("preset import %cut.myb -o %new.xbf"), 1, "cut.myb: cannot be imported: it is no JSON");
     expectOneLine(run("preset make --tip %pen.myb -o %new.xbf"), 1,
                   "pen.myb: cannot be imported: it is not an");
     expectOneLine(run("preset make --tip %none.gbr -o %new.xbf"), 1, "none.gbr: cannot be read");
+    expectOneLine(run("preset make -o /dev/full --tip %many.gih"), 1, "/dev/full: cannot be written");
     expectOneLine(run("preset import %pen.myb %wash.myb -o %new.xbf"), 1, "need a folder");
     expectOneLine(run("preset make --tip %leaf.gbr -o %leaf.gbr"), 2, "is what is read");
     EXPECT_EQ(filesThere(), before);

@@ -53,8 +53,10 @@ protected:
         QApplication::sendEvent(view, &event);
     }
     // Where a buffer pixel is in the view.
-    QPointF inView(double x, double y) {
-        return _window->viewport().pointOfBuffer({x, y}) - _window->view()->pos();
+    QPointF inView(double x, double y) { return _window->viewport().pointOfBuffer({x, y}); }
+    QRectF shownCanvas() {
+        const QDDrawView& view = *_window->view();
+        return view.bufferToView().mapRect(QRectF(QPointF(), view.bufferSize()));
     }
     QAction* action(const char* text) {
         const auto actions = _window->findChildren<QAction*>();
@@ -81,7 +83,7 @@ TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
         viewport.setZoom(zoom);
         brush.setValue(BrushKey::radiusControl,
                        QVariant::fromValue(LPControlParams{zoom < 2 ? 1.0f : 0, 0, 0}));
-        EXPECT_NEAR(_window->view()->width() * viewport.devicePixelRatioF(), 200 * zoom, 1);
+        EXPECT_NEAR(shownCanvas().width() * viewport.devicePixelRatioF(), 200 * zoom, 1);
         // A click leaves a dab, at the pixel below the pointer and nowhere else.
         drag({inView(120.5, 60.5)});
         EXPECT_LT(pixel(120, 60).lightness(), 60);
@@ -110,33 +112,31 @@ TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
     settle();
     EXPECT_EQ(viewport.zoom(), 11.7);
     viewport.fit();
-    const QRect shown = _window->view()->geometry();
-    EXPECT_TRUE(viewport.rect().contains(shown));
-    EXPECT_NEAR(shown.center().x(), viewport.rect().center().x(), 2);
+    EXPECT_TRUE(QRectF(viewport.rect()).contains(shownCanvas()));
+    EXPECT_NEAR(shownCanvas().center().x(), viewport.rect().center().x(), 2);
 }
 
 TEST_F(MainWindowTest, TheSpaceBarPansUntilTheProgramIsLeft) {
     CanvasViewport& viewport = _window->viewport();
-    const QDDrawView& view = *_window->view();
     viewport.setZoom(8);
     viewport.setFocus();
     const QImage blank = _window->view()->image();
     QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
     QApplication::sendEvent(&viewport, &space);
     for (const bool pans : {true, false}) {
-        const QPoint before = view.pos();
+        const QPointF before = shownCanvas().topLeft();
         drag({{300, 300}, {340, 280}});
-        EXPECT_EQ(view.pos() - before, pans ? QPoint(40, -20) : QPoint());
+        EXPECT_EQ((shownCanvas().topLeft() - before).toPoint(), pans ? QPoint(40, -20) : QPoint());
         EXPECT_EQ(_window->view()->image() == blank, pans);
         QEvent left(QEvent::ApplicationDeactivate);
         QApplication::sendEvent(qApp, &left);
     }
     // Until half the room is empty.
-    const QPoint middle = viewport.rect().center();
+    const QPointF middle = viewport.rect().center();
     viewport.pan({1e6, 1e6});
-    EXPECT_LT((view.geometry().topLeft() - middle).manhattanLength(), 5);
+    EXPECT_LT((shownCanvas().topLeft() - middle).manhattanLength(), 5);
     viewport.pan({-1e6, -1e6});
-    EXPECT_LT((view.geometry().bottomRight() - middle).manhattanLength(), 5);
+    EXPECT_LT((shownCanvas().bottomRight() - middle).manhattanLength(), 5);
 }
 
 TEST_F(MainWindowTest, WhatIsPickedIsThePixelBelowThePointer) {
@@ -175,13 +175,13 @@ TEST_F(MainWindowTest, APensTapIsAsStrongAsItBecame) {
 TEST_F(MainWindowTest, AStrokeMayBeginBesideTheCanvas) {
     CanvasViewport& viewport = _window->viewport();
     viewport.setZoom(1);
-    const auto sendToViewport = [&](QEvent::Type type, QPointF bufferPoint, Qt::MouseButtons buttons) {
-        send(type, viewport.pointOfBuffer(bufferPoint), buttons, &viewport);
+    const auto sendAt = [&](QEvent::Type type, QPointF bufferPoint, Qt::MouseButtons buttons) {
+        send(type, viewport.pointOfBuffer(bufferPoint), buttons);
     };
-    sendToViewport(QEvent::MouseButtonPress, {-40, 75}, Qt::LeftButton);
+    sendAt(QEvent::MouseButtonPress, {-40, 75}, Qt::LeftButton);
     for (int x = -30; x < 60; x += 10)
-        sendToViewport(QEvent::MouseMove, QPointF(x, 75), Qt::LeftButton);
-    sendToViewport(QEvent::MouseButtonRelease, {60, 75}, Qt::NoButton);
+        sendAt(QEvent::MouseMove, QPointF(x, 75), Qt::LeftButton);
+    sendAt(QEvent::MouseButtonRelease, {60, 75}, Qt::NoButton);
     EXPECT_FALSE(_window->view()->isDrawing());
     EXPECT_LT(pixel(2, 75).lightness(), 128);
     EXPECT_TRUE(_window->isUnsaved());
@@ -251,7 +251,8 @@ TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
                                  0);
     QDDrawView* view = _window->view();
     _window->viewport().setZoom(1);
-    const QPointF corner = view->mapToGlobal(QPointF(0, 0));
+    const auto cornerOfCanvas = [&] { return view->mapToGlobal(shownCanvas().topLeft()); };
+    QPointF corner = cornerOfCanvas();
     quint64 time = 0;
     using Finger = QEventPoint::State;
     const auto touch = [&](QEvent::Type type, const QList<std::pair<QPointF, Finger>>& fingers,
@@ -277,6 +278,7 @@ TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
     EXPECT_EQ(view->image(), before);
     EXPECT_FALSE(_window->isUnsaved());
 
+    corner = cornerOfCanvas();
     touch(QEvent::TouchBegin, {{{40, 60}, Finger::Pressed}});
     for (int x = 50; x < 200; x += 10)
         touch(QEvent::TouchUpdate, {{{double(x), 60}, Finger::Updated}}, 60);

@@ -241,6 +241,10 @@ TEST_F(PresetBrowserTest, ADamagedFileLeavesTheBrushAsItWas) {
         EXPECT_FALSE(presets().choose({there, 0}));
         EXPECT_EQ(_told.size(), 2);
     }
+    QFile large(writtenTo(path("large.gbr"), {}));
+    ASSERT_TRUE(large.resize((qint64(1) << 30) + 1));  // nothing of which takes room
+    EXPECT_FALSE(presets().importFiles({large.fileName()}));
+    EXPECT_TRUE(_told.last().contains("too large"));
     EXPECT_FALSE(presets().choose({path("missing.xbf"), 0}));
     EXPECT_EQ(radius(), 77);
     EXPECT_FALSE(brush().preset());

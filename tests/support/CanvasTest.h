@@ -20,9 +20,10 @@ protected:
     using SurfaceKind = dabcanvas::SurfaceKind;
     static std::unique_ptr<QDDrawCanvas> makeCanvas(int width = 200, int height = 150,
                                                     SurfaceKind surface = SurfaceKind::automatic,
-                                                    int canvasDepth = 8) {
-        auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, width, height),
-                                                  {.kind = surface, .canvasDepth = canvasDepth});
+                                                    int canvasDepth = 8, int layerDepth = 16) {
+        auto canvas = QDDrawCanvas::initWithFrame(
+            QRectF(0, 0, width, height),
+            {.kind = surface, .canvasDepth = canvasDepth, .layerDepth = layerDepth});
         if (!canvas) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";
             std::abort();

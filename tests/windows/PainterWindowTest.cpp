@@ -19,7 +19,9 @@ protected:
     // In the window, of a place in the view from 0 to 1.
     QPoint at(double x, double y) {
         QDDrawView& view = *_window->view();
-        return view.mapTo(_window.get(), QPointF(x * view.width(), y * view.height())).toPoint();
+        const QPointF inView =
+            view.bufferToView().map(QPointF(x * view.bufferSize().width(), y * view.bufferSize().height()));
+        return view.mapTo(_window.get(), inView).toPoint();
     }
     // Whether it left something.
     bool mouseStroke(double y) {
@@ -45,11 +47,16 @@ TEST_F(PainterWindowTest, AMouseStrokeIsOnTheScreenAsItIsOnTheCanvas) {
         settle();
         QTest::qWait(20);
     }
-    const QPoint corner = view.mapTo(_window.get(), QPoint(0, 0));
+    const double dots = view.devicePixelRatioF();  // a canvas may lie on half points
+    const QPointF corner = view.bufferToView().map(QPointF(0, 0)) * dots;
+    const QPoint from = view.mapTo(_window.get(), QPoint(0, 0));
     QImage shown = handle->screen()
-                       ->grabWindow(_window->winId(), corner.x(), corner.y(), view.width(), view.height())
+                       ->grabWindow(_window->winId(), from.x(), from.y(), view.width(), view.height())
                        .toImage();
     shown.setDevicePixelRatio(1);
+    shown = shown.copy(
+        QRect(corner.toPoint(),
+              (view.bufferToView().mapRect(QRectF(QPointF(), view.bufferSize())).size() * dots).toSize()));
     ASSERT_EQ(shown.size(), view.image().size()) << "at 100 %, a canvas pixel is a screen pixel";
     EXPECT_TRUE(imagesMatch(shown.convertToFormat(QImage::Format_RGBA8888_Premultiplied), view.image()));
 }
