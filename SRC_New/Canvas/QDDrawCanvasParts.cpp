@@ -584,12 +584,16 @@ bool QDDrawCanvas::Parts::setArea(const QRect& area) {
     }
     settleSketch();
     settle();
+    // Before anybody painted it is as if the canvas had been made so.
+    const bool isAsMade = !layers.edits.unsaved.now && !layers.edits.unrecorded.now && !history.isMade();
     history.noteBeforeResize();
     if (!cropTo({area.x(), area.y(), area.width(), area.height()})) {
         return false;
     }
     tell([&](CanvasInput& to) { static_cast<void>(to.areaSet(area)); });
-    layers.edits.changed();
+    if (!isAsMade) {
+        layers.edits.changed();
+    }
     if (autoMarked().isNull()) {
         history.note();
     }

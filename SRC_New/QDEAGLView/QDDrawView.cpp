@@ -57,6 +57,9 @@ void QDDrawView::showEvent(QShowEvent* event) {
         _takesViewSize = false;
         if (!isModified()) {
             setCanvasArea(QRect(QPoint(), (QSizeF(size()) * devicePixelRatioF()).toSize()));
+            if (canUndo()) {
+                resetUndoManager();  // it is as if made so
+            }
             setModified(false);
         }
         updateGeometry();

@@ -48,7 +48,7 @@ TEST_F(CanvasSmudgeTest, PixelsThatNoDabCoveredKeepEveryBit) {
             const QImage before = canvas->image();
             for (QDDrawCanvas* one : {canvas.get(), covered.get()}) {
                 const bool smudges = one == canvas.get();
-                useFinger(*one, smudges ? 22 : 24);
+                useFinger(*one, smudges ? 22 : 25);
                 one->setBrushType(smudges ? 3 : 0);  // where a plain brush a little larger paints
                 one->setHardness(smudges ? hardness : 1);
                 drag(*one, {-5, size.height() * 0.3}, {size.width() + 5.0, size.height() * 0.7});
