@@ -10,7 +10,6 @@
 #pragma once
 
 #include <functional>
-#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>

@@ -81,7 +81,7 @@ public:
     // so that steps to come lead back to it; else no step that can be told of does. False when it could not be taken.
     virtual bool pictureSet(const QImage& picture, bool isStep) = 0;
 
-    // The buffer became this area of itself, and the history began anew. False when it could not be.
+    // The buffer became this area of itself. False when it could not be.
     [[nodiscard]] virtual bool areaSet(const QRect& area) = 0;
     // The canvas is shown turned, see QDDrawCanvas::setViewTurn().
     virtual void viewTurned(float radian, bool mirrored) = 0;

@@ -52,6 +52,7 @@ bool QDDrawCanvas::Parts::listen(CanvasInput* hears) {
     }
     const bool isKnown = history.isMade() && !isUnrecorded();
     const bool isAsMade = !history.isMade() && !isUnrecorded() && layers.painted().isEmpty();
+    history.images(true);  // what a change of size records depends on whether there is one
     listener = hears;
     brush.tell([&](BrushKey key, const BrushValue& value) { hears->brushSet(key, value); });
     hears->secondLineSet(brush.present().slRadius, brush.present().relationValue);
@@ -106,6 +107,8 @@ void QDDrawCanvas::Parts::tellStep(CanvasHistory::Outcome outcome, bool (CanvasI
         return;
     }
     if (outcome == CanvasHistory::Outcome::lost || !(listener->*step)()) {
+        // It may be of another size.
+        static_cast<void>(listener->areaSet(QRect(0, 0, layers.size().width, layers.size().height)));
         tellPicture(true);
     }
 }
@@ -237,6 +240,7 @@ bool QDDrawCanvas::Input::pictureSet(const QImage& picture, bool) {
     }
     const bool isAsMade = picture.isNull() && !_parts.history.isMade() && !_parts.isUnrecorded();
     _parts.layers.settle();
+    _parts.history.images(true);
     return _parts.putPicture(picture) && (isAsMade || !_parts.resetHistory().isNull());
 }
 

@@ -45,7 +45,7 @@ public:
     std::unique_ptr<LeafDrawing> preview;
     LeafDrawing::Complention placePreview;  // its stroke comes onto the canvas
     Input input;
-    dabcanvas::Rect lastTouched;            // by dabs that are yet to be shown, see updateImage()
+    dabcanvas::Rect lastTouched;  // by dabs that are yet to be shown, see updateImage()
 
     // ---- what must be done first
 

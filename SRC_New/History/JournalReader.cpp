@@ -123,7 +123,8 @@ void Assembly::takeStacks(RecordParser& parser, const TilePlace& place) {
 void Assembly::takeCanvas(RecordParser& parser) {
     RecoveredStep step;
     std::uint64_t base = 0;
-    if (parser.take(&base) && parser.take(&step.picture, &step.changes, _contents.format) && parser.isDone()) {
+    if (parser.take(&base) && parser.take(&step.picture, &step.changes, _contents.format) &&
+        parser.isDone()) {
         _present = addNode(std::move(step), base).value_or(-1);
     }
 }

@@ -31,7 +31,7 @@ class SegmentFile;
 // ---- What a journal holds
 
 struct JournalFormat {
-    Size picture;  // as the journal began: steps tell their own
+    Size picture;        // as the journal began: steps tell their own
     int pixelBytes = 4;  // or 8
 
     friend bool operator==(const JournalFormat&, const JournalFormat&) = default;

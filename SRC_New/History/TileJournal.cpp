@@ -176,7 +176,12 @@ bool TileJournal::writeStep(const JournalStep& step, QString* problem) {
         return false;
     }
     RecordWriter record(RecordType::step, bytesOf(step.changes) + step.name.size() * 2);
-    record.put(++_lastSerial).put(serialOf(step.base)).put(now()).put(step.name).put(sizeOf(step.picture)).put(step.changes);
+    record.put(++_lastSerial)
+        .put(serialOf(step.base))
+        .put(now())
+        .put(step.name)
+        .put(sizeOf(step.picture))
+        .put(step.changes);
     if (!write(record, nullptr, problem)) {
         return false;
     }

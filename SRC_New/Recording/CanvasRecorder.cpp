@@ -179,11 +179,8 @@ bool CanvasRecorder::pictureSet(const QImage& picture, bool isStep) {
     return true;
 }
 
-// What undo leads to from here depends on whether there was a history.
 bool CanvasRecorder::areaSet(const QRect& area) {
     add(AreaChange{area});
-    _undoSteps = -1;
-    _redoSteps = 0;
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "Canvas/QDDrawCanvas.h"
+#include "Maths/Version.h"
 #include "Recording/CanvasRecorder.h"
 #include "Recording/PropertyValue.h"
 #include "Recording/RecordingReader.h"
@@ -33,7 +34,7 @@ public:
         }
         if (_problem)
             return *_problem;
-        _recording.header.library = QStringLiteral(DABCANVAS_VERSION);
+        _recording.header.library = QStringLiteral(DABCANVAS_VERSION_STRING);
         _recording.header.surface = QStringLiteral("processor");
         _recording.header.size = neededSize(_strokes, _largestRadius);
         const QSize size = _recording.header.size;

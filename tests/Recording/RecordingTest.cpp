@@ -148,7 +148,7 @@ private:
         _canvas.drawShape(shape);
     }
     void area() {
-        if (!_canvas.isDrawing() && below(3) == 0)
+        if (!_canvas.isDrawing() && below(2) == 0)
             _canvas.setCanvasArea(QRect(below(20) - 10, below(20) - 10, kWidth - 10 + below(20), kHeight));
     }
     void stroke() {
