@@ -2,8 +2,8 @@
 # What find_package(Dabcanvas) reads. The libraries, their headers and resources are installed where they are made.
 include(CMakePackageConfigHelpers)
 
-# Each stands on those before it.
-set(all_components Stroke Shapes Dabs Processor Brushes Render Canvas Recording View)
+# Each stands on those before it, but for View and Quick, which both stand on Canvas.
+set(all_components Stroke Shapes Dabs Processor Brushes Render Canvas Recording View Quick)
 set(components "")
 foreach(component IN LISTS all_components)
     string(TOUPPER ${component} upper)

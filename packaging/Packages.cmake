@@ -74,7 +74,7 @@ dabcanvas_package(Brushes dabcanvas-brushes graphics FOR_EVERY_MACHINE
     SUMMARY "natural-media brushes for Dabcanvas"
     ABOUT "Presets of pencils, charcoal, chalk, pastels, crayons, inks, watercolours,
 gouache, oils and airbrushes for whatever paints with Dabcanvas.")
-dabcanvas_package(Qml qml6-module-dabcanvas libs ON Runtime
+dabcanvas_package(Qml qml6-module-dabcanvas libs ON Runtime NEEDS qml6-module-qtquick
     SUMMARY "${canvas} - QML module" ABOUT "${about}This is its module for QML.")
 dabcanvas_package(Designer dabcanvas-designer libdevel ON Runtime
     SUMMARY "${canvas} - Qt Designer" ABOUT "${about}This is its plug-in for Qt Designer.")

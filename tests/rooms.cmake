@@ -3,7 +3,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 # From the ground up; each may include those before it and its own.
-set(rooms Maths LineProcess Recognition Dabs Surface Processor Brushes GL History Preset Preview Canvas Import Recording Display QDEAGLView)
+set(rooms Maths LineProcess Recognition Dabs Surface Processor Brushes GL History Preset Preview Canvas Import Recording Display QDEAGLView Quick)
 # Rooms that are one: the prescribed classes call each other.
 set(room_of_ESContext GL)
 set(room_of_ESRender GL)

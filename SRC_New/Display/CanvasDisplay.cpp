@@ -165,24 +165,13 @@ void CanvasDisplay::setGround(const QBrush& underCanvas, const QBrush& around) {
     updateView(QRectF(QPointF(), viewSize()));
 }
 
-void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
-    painter.save();
-    painter.setClipRect(exposed, Qt::IntersectClip);
+bool CanvasDisplay::hasGround() const {
+    return _underCanvas.style() != Qt::NoBrush || _around.style() != Qt::NoBrush;
+}
+
+CanvasDisplay::ShownPicture CanvasDisplay::shownPicture() {
     const bool isTurned = std::remainder(viewRotation(), M_PI_2) != 0;
-    painter.setRenderHint(QPainter::Antialiasing, isTurned);
     const QImage& picture = displayImage();
-    const QRectF whole(QPointF(), bufferSize());
-    QPainterPath outline;
-    outline.addPolygon(bufferToView().map(QPolygonF(whole)));
-    if (_around.style() != Qt::NoBrush) {
-        QPainterPath around;
-        around.addRect(exposed);
-        painter.fillPath(around.subtracted(outline), _around);
-    }
-    if (_underCanvas.style() != Qt::NoBrush) {
-        painter.setBrushOrigin(outline.boundingRect().topLeft());
-        painter.fillPath(outline, _underCanvas);
-    }
     const QTransform& map = bufferToView();
     const double dots = viewPixelRatio();
     const double least = std::min(std::hypot(map.m11(), map.m12()), std::hypot(map.m21(), map.m22())) * dots;
@@ -192,11 +181,30 @@ void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
     const double side = std::exp2(std::round(std::log2(double(picture.width()) / copy.width())));
     const bool isAsItIs = map.m11() * dots == 1 && map.m22() * dots == 1;
     // Interpolating an unscaled picture would cost time and change nothing.
-    painter.setRenderHint(QPainter::SmoothPixmapTransform,
-                          !isAsItIs && (fit() == ViewFit::stretch || least < kSquares || isTurned));
-    painter.setTransform(QTransform::fromScale(side, side) * map, true);
-    const QRectF shown(QPointF(), whole.size() / side);
-    painter.drawImage(shown, copy, shown);
+    const bool isSmooth = !isAsItIs && (fit() == ViewFit::stretch || least < kSquares || isTurned);
+    return {copy, QRectF(QPointF(), bufferSize() / side), QTransform::fromScale(side, side) * map, isSmooth,
+            isTurned};
+}
+
+void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
+    painter.save();
+    painter.setClipRect(exposed, Qt::IntersectClip);
+    const ShownPicture picture = shownPicture();
+    painter.setRenderHint(QPainter::Antialiasing, picture.isTurned);
+    QPainterPath outline;
+    outline.addPolygon(bufferToView().map(QPolygonF(QRectF(QPointF(), bufferSize()))));
+    if (_around.style() != Qt::NoBrush) {
+        QPainterPath around;
+        around.addRect(exposed);
+        painter.fillPath(around.subtracted(outline), _around);
+    }
+    if (_underCanvas.style() != Qt::NoBrush) {
+        painter.setBrushOrigin(outline.boundingRect().topLeft());
+        painter.fillPath(outline, _underCanvas);
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, picture.isSmooth);
+    painter.setTransform(picture.toView, true);
+    painter.drawImage(picture.area, picture.image, picture.area);
     painter.restore();
     paintProblem(painter);
 }

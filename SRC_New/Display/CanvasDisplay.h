@@ -113,6 +113,16 @@ protected:
 
     void viewWasResized();
     void paintCanvas(QPainter& painter, const QRectF& exposed);
+    // The picture, or a halved copy of it, as it is shown now; valid until the next call of any member.
+    struct ShownPicture {
+        const QImage& image;
+        QRectF area;  // of its pixels, and parts of pixels, that are the canvas
+        QTransform toView;
+        bool isSmooth;  // interpolated
+        bool isTurned;  // by no quarter
+    };
+    ShownPicture shownPicture();
+    bool hasGround() const;
     DevicePointers& pointers() {
         return *_pointers;
     }

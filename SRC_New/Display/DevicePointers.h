@@ -39,11 +39,14 @@ public:
     void penIsNear() { _penSeen = true; }
     // No pointer will be heard of again: its stroke ends where it got to. False when the display is gone.
     bool forget();
+    // The same for one kind of device alone, for views that learn of each.
+    enum class Pointer : std::uint8_t { none, mouse, pen, finger };
+    bool forget(Pointer pointer) { return _pointer != pointer || forget(); }
+    bool isPainting(Pointer pointer) const { return _pointer == pointer; }
 
     const Life life;
 
 private:
-    enum class Pointer : std::uint8_t { none, mouse, pen, finger };
     // Two fingers' place between them, distance and direction; of one its place alone.
     struct Grip {
         QPointF middle;

@@ -58,7 +58,7 @@ class DABCANVAS_VIEW_API QDDrawView : public QWidget, public dabcanvas::CanvasDi
     Q_PROPERTY(bool autoMark READ autoMark WRITE setAutoMark)
     Q_PROPERTY(bool adjustCancelLine READ adjustCancelLine WRITE setAdjustCancelLine)
     Q_PROPERTY(bool usesPenTilt READ usesPenTilt WRITE setUsesPenTilt)
-    Q_PROPERTY(Fit fit READ fitKind WRITE setFitKind NOTIFY viewChanged)
+    Q_PROPERTY(Fit fit READ fitKind WRITE setFit NOTIFY viewChanged)
     Q_PROPERTY(double zoom READ zoom WRITE setZoom NOTIFY viewChanged STORED false)
     Q_PROPERTY(double viewRotation READ viewRotation WRITE setViewRotation NOTIFY viewChanged)
     Q_PROPERTY(bool viewMirrored READ isViewMirrored WRITE setViewMirrored NOTIFY viewChanged)
@@ -84,7 +84,8 @@ public:
     Fit fitKind() const {
         return static_cast<Fit>(fit());
     }
-    void setFitKind(Fit fit) {
+    using CanvasDisplay::setFit;
+    void setFit(Fit fit) {
         setFit(static_cast<dabcanvas::ViewFit>(fit));
     }
 

@@ -47,12 +47,15 @@ holds libdabcanvas-dev '/include/Dabcanvas/.*\.h$' '\.so$' '/cmake/Dabcanvas/.*\
 holds dabcanvas-tools '/bin/dabpaint$' '/man1/dabpaint(-[a-z]+)?\.1\.gz$'
 holds dabpainter '/bin/dabpainter$' '/man1/dabpainter\.1\.gz$' '/icons/hicolor/' '/applications/' '/metainfo/' '/mime/packages/'
 holds dabcanvas-brushes '/share/dabcanvas/brushes/[a-z0-9-]+\.xbf$'
+holds qml6-module-dabcanvas '/qt6/qml/Dabcanvas/(qmldir|plugins\.qmltypes|libdabcanvasplugin\.so)$'
+holds dabcanvas-designer '/qt6/plugins/designer/libdabcanvasdesigner\.so$'
 depends() {
     dpkg-deb -f build/packages/packages/"$1"_*.deb Depends | grep -qE "$2" || fail "$1 does not depend on $2"
 }
 depends libdabcanvas-dev 'libdabcanvas0 \(= 0'
 depends dabcanvas-tools 'libdabcanvas0'
 depends libdabcanvas0 'libqt6gui6'
+depends qml6-module-dabcanvas 'qml6-module-qtquick'
 if dpkg-deb -f build/packages/packages/dabcanvas-tools_*.deb Depends | grep libqt6widgets6; then
     fail "dabcanvas-tools depends on Qt's widgets"
 fi
