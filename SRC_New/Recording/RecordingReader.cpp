@@ -88,6 +88,8 @@ bool isRecording(const QByteArray& bytes) {
 }
 
 Result<Recording> readRecording(const QByteArray& bytes) {
+    if (bytes.isEmpty())
+        return Problem{0, {}, QStringLiteral("the recording is empty")};
     RecordingReader reader;
     Recording recording;
     const char* at = bytes.constData();

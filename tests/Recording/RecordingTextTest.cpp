@@ -40,6 +40,7 @@ TEST(RecordingTextTest, HeadersAreChecked) {
     EXPECT_TRUE(isRecording("{ \"dabcanvas\" : \"recording\"}"));
     EXPECT_FALSE(isRecording("{\"strokes\": []}"));
     EXPECT_EQ(told(kHeader), "");
+    EXPECT_EQ(told(""), "R: the recording is empty");
     EXPECT_THAT(told(QByteArray(kHeader).replace(":1,", ":2,")),
                 ::testing::HasSubstr("of version 2; this program reads"));
     EXPECT_THAT(told(QByteArray(kHeader).replace("64", "0")), ::testing::HasSubstr("R:1: width: expected"));

@@ -151,7 +151,8 @@ TEST(PaintProcessesTest, ArgumentsComeBackAsTheOptions) {
     ASSERT_NE(same, nullptr);
     EXPECT_EQ(argumentsOf(*same), argumentsOf(*options));
     for (const QString& word : given.mid(2)) {
-        EXPECT_TRUE(argumentsOf(*same).contains(word) || word == "--set" || !word.startsWith("--")) << word.toStdString();
+        EXPECT_TRUE(argumentsOf(*same).contains(word) || word == "--set" || !word.startsWith("--"))
+            << word.toStdString();
     }
 }
 
