@@ -7,9 +7,9 @@
 #include <new>
 #include <numbers>
 
+#include "Dabs/MipLevels.h"
 #include "ESRender/ESImageRender.h"
 #include "ESRender/Texture/GLPictures.h"
-#include "ESRender/Texture/ScaledPixels.h"
 #include "ESRender/Utilities/ESGLErrors.h"
 #include "GLSurface/GLSurface.h"
 #include "Maths/Rounding.h"
@@ -31,22 +31,21 @@ QRectF qRectOf(const Rect& rect) {
             static_cast<double>(rect.height)};
 }
 
-// Mip levels shrink both axes alike. Of an image that is reduced much more on one axis they would blur the
-// other, so that axis is brought to the other's measure first.
-QImage evenlyReduced(const QImage& picture, double width, double height) {
-    const double across = picture.width() / width;
-    const double down = picture.height() / height;
-    const double least = std::max(std::min(across, down), 1.0);
-    constexpr double kUneven = 1.5;
-    if (std::max(across, down) <= least * kUneven) {
-        return picture;
-    }
-    const auto side = [&](int pixels, double reduction) {
-        return reduction > least * kUneven ? std::max(nearestInt(pixels * least / reduction), 1) : pixels;
+// What is reduced is averaged here, as on every surface: a driver's levels would blur it. Null for a picture that is not, and
+// without the memory.
+QImage reducedFor(const Placed& placed) try {
+    const Size& from = placed.pixels.size;
+    const auto side = [](int texels, double pixels) {
+        return std::clamp(nearestInt(std::min(pixels, 1e6)), 1, texels);
     };
-    const QImage reduced =
-        scaledPixels(picture, {side(picture.width(), across), side(picture.height(), down)});
-    return reduced.isNull() ? picture : reduced;  // short of memory: blurred is better than nothing
+    const Size to{side(from.width, placed.width), side(from.height, placed.height)};
+    if (to == from) {
+        return {};
+    }
+    const Pixels small = reduced(pixelsOf(placed.pixels), to);
+    return imageOf(PixelView::topRowFirst(small.bytes.data(), small.size)).copy();
+} catch (const std::bad_alloc&) {
+    return {};
 }
 
 }  // namespace
@@ -134,7 +133,8 @@ bool GLSurface::place(PictureId picture, const Placed& placed) {
         return false;
     }
     ESImageRender& render = *_compositor;
-    render.setTextureImage(evenlyReduced(imageOf(placed.pixels), placed.width, placed.height), GL_TEXTURE0);
+    const QImage small = reducedFor(placed);
+    render.setTextureImage(small.isNull() ? imageOf(placed.pixels) : small, GL_TEXTURE0);
     const LPPoint dab{{static_cast<float>(placed.centreX), static_cast<float>(placed.centreY)},
                       static_cast<float>(placed.width),
                       {1.0f, 1.0f, 1.0f}};
@@ -149,7 +149,7 @@ bool GLSurface::place(PictureId picture, const Placed& placed) {
     render.setNoiseTurn({});
     render.setBlendType(placed.replaces ? ESBlendTypeReplace : ESBlendTypeNormal);
     render.setFlipX(false);
-    render.setFlipY(placed.pixels.stride > 0);
+    render.setFlipY(placed.pixels.stride > 0 || !small.isNull());
     render.setUseLargeTexture(true);
     render.setOpacity(1);
     render.setRepeatedlyRenderEnabled(false);

@@ -356,12 +356,26 @@ TEST_F(CanvasImageTest, BadInputIsRefusedWithOneLine) {
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
 }
 
+TEST_F(CanvasImageTest, BothSurfacesPlaceAlike) {
+    for (const QSizeF size : {QSizeF(90, 70), QSizeF(130, 100), QSizeF(47.5, 35), QSizeF(20, 80)}) {
+        for (const double radian : {0.0, 0.3}) {
+            QImage placed[2];
+            for (const SurfaceKind kind : {SurfaceKind::processor, SurfaceKind::gpu}) {
+                auto canvas = tintedCanvas(kind);
+                EXPECT_TRUE(canvas->drawImage(noise({90, 70}), size, {80.4, 70}, radian));
+                placed[kind == SurfaceKind::gpu] = canvas->image();
+            }
+            EXPECT_TRUE(imagesMatch(placed[1], placed[0], 2)) << size.width() << " turned by " << radian;
+        }
+    }
+}
+
 TEST_F(CanvasImageTest, WithoutTheDriversMemoryNothingIsPlacedOrUndone) {
     using Fault = FailingDriver::Fault;
     const QImage image = noise({300, 260});
     for (const auto& [fault, rect] : {std::pair{Fault::noTextureMemory, QRectF(10.5, 10, 400, 300)},
                                       {Fault::noUploadMemory, {10.5, 10, 400, 300}},
-                                      {Fault::noLevelMemory, {20, 20, 60, 50}},
+                                      {Fault::noLevelMemory, {20, 20, 299.7, 259.7}},
                                       {Fault::noUploadMemory, {0, 0, 300, 260}}}) {  // copied
         SCOPED_TRACE(static_cast<int>(fault));
         auto canvas = tintedCanvas(SurfaceKind::gpu);
