@@ -28,20 +28,28 @@ struct Bar {
     double named, kind, accepted, legs;
 };
 
+// Recordings beside the checkout are not everywhere; the hurried ones are.
+std::vector<Bar> thoseAtHand(std::vector<Bar> bars) {
+    std::erase_if(bars, [](const Bar& bar) {
+        return QString(bar.folder).startsWith(DABCANVAS_SHARED_DATA) &&
+               !QDir(bar.folder).exists("labels.csv");
+    });
+    return bars;
+}
+
 class GestureFiles : public testing::TestWithParam<Bar> {};
 // The hurried ones are strokes of made-up people, all of which were once taken for nothing or something else.
 INSTANTIATE_TEST_SUITE_P(
     All, GestureFiles,
-    testing::Values(Bar{DABCANVAS_SHARED_DATA "/gestures-pilot", 0.993, 0.985, 0.01, 0.99},
-                    Bar{DABCANVAS_SHARED_DATA "/gestures-synthetic", 0.993, 0.985, 0.01, 0.96},
-                    Bar{DABCANVAS_TEST_DATA "/gestures-hurried", 0.85, 0.5, 0, 0.6}),
+    testing::ValuesIn(thoseAtHand({Bar{DABCANVAS_SHARED_DATA "/gestures-pilot", 0.993, 0.985, 0.01, 0.99},
+                                   Bar{DABCANVAS_SHARED_DATA "/gestures-synthetic", 0.993, 0.985, 0.01, 0.96},
+                                   Bar{DABCANVAS_TEST_DATA "/gestures-hurried", 0.85, 0.5, 0, 0.6}})),
     [](const auto& row) { return QDir(row.param.folder).dirName().mid(9).toStdString(); });
 
 TEST_P(GestureFiles, AreRecognised) {
     const Bar& bar = GetParam();
     const QDir folder(bar.folder);
-    if (!folder.exists("labels.csv"))
-        GTEST_SKIP() << bar.folder << " is not here";
+    ASSERT_TRUE(folder.exists("labels.csv")) << bar.folder;
     std::map<std::string, std::vector<ShapePoint>> strokes;
     for (const QString& file : folder.entryList({"*.csv"})) {
         if (file == "labels.csv" || file == "ideal.csv")
