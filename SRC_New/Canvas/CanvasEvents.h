@@ -9,7 +9,7 @@
 namespace dabcanvas {
 
 // What becomes of a canvas, for the class that displays it, whatever delegate a host has set: QDDrawView makes signals of
-// it. A stroke is told of in the course of it, after the delegate; all else when the call that caused it is done, once.
+// it. A stroke is told of in the course of it, after the delegate but for its begin; all else when the call that caused it is done, once.
 // Each may destroy the canvas.
 class DABCANVAS_CANVAS_API CanvasEvents {
 protected:

@@ -93,6 +93,8 @@ ImagesUndoManager& CanvasHistory::images(bool leavesRecord) {
         _images->setFilePathExtension({});  // raw pixels
         if (!_layers.edits.unsaved.now) {
             noteSaved();
+        } else if (_savedAsMade) {
+            _saved = blank.tiles();
         }
     }
     return *_images;
@@ -101,6 +103,7 @@ ImagesUndoManager& CanvasHistory::images(bool leavesRecord) {
 // Nothing is read while there are no steps by which the canvas could come back to it.
 void CanvasHistory::noteSaved() {
     _layers.edits.unsaved = {false, !_layers.strokeArea().isEmpty()};
+    _savedAsMade = !_layers.edits.unrecorded.now && _layers.painted().isEmpty();
     _saved = _images == nullptr ? nullptr : _record.present();
 }
 

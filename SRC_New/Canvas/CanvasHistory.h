@@ -86,6 +86,7 @@ private:
     RecordedCanvas& _record;
     const Resize _resize;
     std::unique_ptr<ImagesUndoManager> _images;
+    bool _savedAsMade = true;                   // what is saved is the blank canvas
     std::shared_ptr<const TilePicture> _saved;  // null: no step may show it
     unsigned _droppedTold = 0;
     double _lastMark = -std::numeric_limits<double>::infinity();  // when the last step was recorded

@@ -358,7 +358,7 @@ bool PaintLayers::cropTo(std::unique_ptr<PaintSurface> surface, const Rect& area
         content = {};
     }
     _uncommitted = _painted = {};
-    _changed = {};
+    _changed = _stale = {};  // which was told in places of the size before
     noteChanged(whole());
     return true;
 }

@@ -408,7 +408,8 @@ protected:
     }
     // Show this area, in view points with a top-left origin, again soon. To note it, not to draw at once.
     virtual void redisplayRect(const QRectF&) {}
-    // What shows brush type 4 over the canvas; frame is the buffer, in pixels. Called once, by initCanvas(). Never null.
+    // What shows brush type 4 over the canvas; frame is the buffer, in pixels. By initCanvas(), and anew
+    // when the canvas changes its size: the one before is gone then. Never null.
     virtual std::unique_ptr<LeafDrawing> makeLeafDrawView(const QRectF& frame);
     virtual void showLeafDrawView(bool) {}  // brush type 4 was chosen, or another
 

@@ -111,10 +111,14 @@ bool QDDrawCanvas::Host::announce(StrokeStage stage, QPointF& point) {
 bool QDDrawCanvas::Host::tellDone(StrokeStage stage, QPointF point) {
     const Alive alive(life);
     const StageCallbacks& callbacks = kCallbacks[static_cast<std::size_t>(stage)];
-    if (delegate != nullptr) {
+    // The display hears of a begin first: the delegate may end the stroke, of which the display then hears after it.
+    if (stage == StrokeStage::begin) {
+        tellStroke(stage, point);
+    }
+    if (alive && delegate != nullptr) {
         (delegate->*callbacks.did)(_canvas, point);
     }
-    if (alive) {
+    if (alive && stage != StrokeStage::begin) {
         tellStroke(stage, point);
     }
     return static_cast<bool>(alive);
@@ -128,7 +132,7 @@ void QDDrawCanvas::Host::tellStroke(StrokeStage stage, QPointF point) {
             _strokeStays = _strokeWasLeft = false;
             return _canvas.strokeDidBegin(point);
         case StrokeStage::move:
-            return _canvas.strokeDidMove(point);
+            return _strokeBegan ? _canvas.strokeDidMove(point) : void();
         case StrokeStage::end:
             return tellStrokeEnd();
     }

@@ -191,6 +191,9 @@ SurfaceOptions QDDrawCanvas::Parts::presentOptions() {
 
 bool QDDrawCanvas::Parts::setArea(const QRect& area) {
     const Host::Call call(host);
+    if (area == QRect(QPoint(), bufferSize().toSize())) {
+        return true;
+    }
     if (isDrawing() || !finishPreview() || isLost()) {
         qCWarning(lcDabcanvas, "a canvas cannot change its size in mid-stroke");
         return false;

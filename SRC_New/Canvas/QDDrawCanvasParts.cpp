@@ -372,6 +372,9 @@ void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
             if (recognises() && anew && isDrawing()) {
                 sketch.begin(entry.lastSample().place);
             }
+            // A pointer's stroke that was begun without goes on.
+            pointer.canAddPoint = pointer.canAddPoint ||
+                                  (recognises() && anew && (pointer.normalMoing || pointer.digitPenMoving));
             return;
         default:
             return;

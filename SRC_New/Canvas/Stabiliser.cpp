@@ -30,8 +30,11 @@ PointerSample between(const PointerSample& from, const PointerSample& to, double
 
 void Stabiliser::begin(const StabiliserOptions& options, double lengthScale, const PointerSample& sample) {
     _options = options;
-    _options.seconds = std::clamp(options.seconds, 0.0, kMostSeconds);
-    _length = std::clamp(options.length, 0.0, kMostLength) * lengthScale;
+    const auto bounded = [](double value, double most) {
+        return std::isfinite(value) ? std::clamp(value, 0.0, most) : 0.0;
+    };
+    _options.seconds = bounded(options.seconds, kMostSeconds);
+    _length = bounded(options.length, kMostLength) * lengthScale;
     _pointer = _follower = sample;
 }
 

@@ -96,8 +96,8 @@ bool DevicePointers::mousePress(const QMouseEvent& event) {
 
 bool DevicePointers::mouseMove(const QMouseEvent& event) {
     if (_panning) {
-        _display.panBy(event.position() - std::exchange(_panFrom, event.position()));
         _panning = (event.buttons() & Qt::MiddleButton) != 0;
+        _display.panBy(event.position() - std::exchange(_panFrom, event.position()));
         return true;
     }
     if ((event.buttons() & Qt::LeftButton) == 0) {
@@ -126,9 +126,8 @@ bool DevicePointers::mouseRelease(const QMouseEvent& event) {
 
 // What a palm drew before its pen came is nothing. False when the display is gone.
 bool DevicePointers::seePen() {
-    const bool isFirst = !std::exchange(_penSeen, true);
-    if (isFirst && _pointer == Pointer::finger &&
-        _display.pointerOptions().touch == TouchPolicy::pensOnceSeen) {
+    _penSeen = true;
+    if (_pointer == Pointer::finger && _display.pointerOptions().touch == TouchPolicy::pensOnceSeen) {
         const Alive alive(life);
         _pointer = Pointer::none;
         _palmRests = true;
@@ -151,9 +150,12 @@ bool DevicePointers::tablet(const QTabletEvent& event) {
     const bool ofStroke = _pointer == Pointer::pen && id == _penId;
     if (event.type() == QEvent::TabletPress && event.button() == Qt::LeftButton) {
         if (_pointer != Pointer::pen || ofStroke) {
-            _penId = id;
-            _palmRests = true;
+            const Alive alive(life);
             pressed(Pointer::pen, touch);
+            if (alive && _pointer == Pointer::pen) {
+                _penId = id;
+                _palmRests = true;
+            }
         }
     } else if (event.type() == QEvent::TabletMove && ofStroke) {
         if ((event.buttons() & Qt::LeftButton) != 0) {
@@ -195,7 +197,7 @@ bool DevicePointers::touch(const QTouchEvent& event) {
         _palmRests = _pointer == Pointer::pen;
         _mostFingers = _gripping = 0;
     }
-    const bool paints = fingersPaint();
+    const bool paints = fingersPaint() || _pointer == Pointer::finger;
     if (!paints && !_display.isNavigable()) {
         return false;
     }
@@ -293,8 +295,7 @@ void DevicePointers::navigate(const QTouchEvent& event) {
     const Grip to = gripOf(event);
     if (_gripping == down && _pointer == Pointer::none) {
         if (_fingersMoved) {
-            moveView(to);
-            _grip = to;
+            moveView(std::exchange(_grip, to), to);
         }
         return;
     }
@@ -304,17 +305,17 @@ void DevicePointers::navigate(const QTouchEvent& event) {
     _turns = false;
 }
 
-void DevicePointers::moveView(const Grip& to) {
+void DevicePointers::moveView(const Grip& from, const Grip& to) {
     const Alive alive(life);
-    _display.panBy(to.middle - _grip.middle);
-    if (!alive || !(to.span > 0) || !(_grip.span > 0)) {
+    _display.panBy(to.middle - from.middle);
+    if (!alive || !(to.span > 0) || !(from.span > 0)) {
         return;
     }
-    _display.zoomAbout(_display.zoom() * to.span / _grip.span, to.middle);
+    _display.zoomAbout(_display.zoom() * to.span / from.span, to.middle);
     if (!alive) {
         return;
     }
-    const double turned = std::remainder(to.angle - _grip.angle, 2 * M_PI);
+    const double turned = std::remainder(to.angle - from.angle, 2 * M_PI);
     _turn += turned;
     if (_turns || std::abs(_turn) > kTurnsFrom) {
         _display.turnAbout(_display.viewRotation() + (std::exchange(_turns, true) ? turned : _turn),

@@ -36,7 +36,7 @@ public:
     bool wheel(const QWheelEvent& event);
     bool nativeGesture(const QNativeGestureEvent& event);
     // A pen is near, by an event that is not the view's.
-    void penIsNear() { _penSeen = true; }
+    void penIsNear() { seePen(); }
     // No pointer will be heard of again: its stroke ends where it got to. False when the display is gone.
     bool forget();
     // The same for one kind of device alone, for views that learn of each.
@@ -63,7 +63,7 @@ private:
     void paintWithFinger(const QTouchEvent& event);
     void countFingers(const QTouchEvent& event);
     void navigate(const QTouchEvent& event);
-    void moveView(const Grip& to);
+    void moveView(const Grip& from, const Grip& to);
     Grip gripOf(const QTouchEvent& event) const;
 
     CanvasDisplay& _display;

@@ -3,6 +3,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QWidget>
 
 #include "Canvas/CanvasLog.h"
@@ -53,6 +54,7 @@ QSize QDDrawView::sizeHint() const {
 }
 
 void QDDrawView::showEvent(QShowEvent* event) {
+    const MustStay stays(*this);
     if (_takesViewSize) {
         _takesViewSize = false;
         if (!isModified()) {
@@ -98,7 +100,11 @@ void QDDrawView::viewDidChange() {
 }
 
 void QDDrawView::canvasSizeDidChange() {
+    const QPointer<QDDrawView> alive(this);
     CanvasDisplay::canvasSizeDidChange();
+    if (!alive) {
+        return;
+    }
     updateGeometry();
     emit canvasSizeChanged();
 }

@@ -32,7 +32,7 @@ class LeafDrawView;
 //          stretched, and points scale, unless fit() says otherwise.
 // Undo     the first step is the blank canvas: resetUndoManager() makes a picture that was placed the first one.
 // Owner    whoever holds the unique_ptr. With a parent, or once put into a layout, release() it: the parent owns.
-// Life     a delegate may destroy it in any callback, but not in one that ends a stroke because the view is hidden or
+// Life     a delegate may destroy it in any callback, but not in one that comes because the view is shown, hidden or
 //          resized: Qt goes on with it. deleteLater() is fine there. So for slots.
 // Thread   the application's main thread, as for every widget.
 class DABCANVAS_VIEW_API QDDrawView : public QWidget, public dabcanvas::CanvasDisplay {

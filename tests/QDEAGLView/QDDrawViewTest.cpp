@@ -97,6 +97,11 @@ TEST_F(DrawViewTest, SignalsTellWhatBecomesOfTheCanvas) {
     expect("and further", "no undo modified");
     view.redo();
     expect("and forth", "undo saved");
+    while (view.canUndo()) {
+        view.undo();
+    }
+    view.setModified(false);
+    heard.clear();
     view.setRadius(33);
     view.setRadius(33);
     view.setProperty("renderColor", "#00ff00");
@@ -178,6 +183,12 @@ TEST_F(DrawViewTest, ACanvasIsCroppedAndExtendedWithWhatIsThere) {
     EXPECT_TRUE(imagesMatch(view.displayImage(), before));
     view.redo();
     EXPECT_TRUE(imagesMatch(view.displayImage(), wanted));
+    // Grown and shrunk before anybody looks.
+    EXPECT_TRUE(view.setCanvasArea(QRect(0, 0, 400, 200)));
+    view.undo();
+    stroke(100);
+    EXPECT_TRUE(imagesMatch(view.displayImage(), view.image()));
+    view.undo();
     const LogCapture log;
     EXPECT_FALSE(view.setCanvasArea(QRect(0, 0, 0, 10)));
     EXPECT_FALSE(view.setCanvasArea(QRect(0, 0, 1 << 30, 1 << 30)));
