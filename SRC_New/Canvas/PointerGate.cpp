@@ -72,13 +72,22 @@ void PointerGate::move(QPointF point, float pressure, float altitude, double tim
     lineMove = true;
     ++moveCount;
     lastPoint = point;
+    follow(sampleOf(point, pressure, altitude, time));
+}
+
+// What follows the pointer goes on to where that is now.
+void PointerGate::follow(const PointerSample& pointer) {
     const Alive alive(_life);
-    // A copy, as a callback may begin another stroke.
-    for (const PointerSample& sample :
-         std::vector(_stabiliser.move(sampleOf(point, pressure, altitude, time)))) {
+    const auto drag = [&](const PointerSample& sample) {
         if (alive && !lineFinish) {
             _entry.move(sample.point, sample.pressure, sample.altitude, true);
         }
+    };
+    if (!_stabiliser.isOn()) {
+        return drag(pointer);
+    }
+    for (const PointerSample& sample : std::vector(_stabiliser.move(pointer))) {
+        drag(sample);  // of a copy, as a callback may begin another stroke
     }
 }
 
@@ -150,16 +159,10 @@ PointerSample PointerGate::sampleOf(QPointF point, float pressure, float altitud
             time >= 0 ? time : steadySeconds()};
 }
 
-// What follows the pointer goes on to there first.
 void PointerGate::endAt(const PointerSample& sample) {
     const Alive alive(_life);
-    if (options.stabiliser.kind != Stabilising::none) {
-        for (const PointerSample& step : std::vector(_stabiliser.move(sample))) {
-            if (!alive) {
-                return;
-            }
-            _entry.move(step.point, step.pressure, step.altitude, true);
-        }
+    if (_stabiliser.isOn()) {
+        follow(sample);
     }
     if (alive) {
         const PointerSample end = _stabiliser.end(sample);

@@ -75,6 +75,7 @@ private:
 
     void leave(const PointerSample& sample, bool withdraw);
     PointerSample sampleOf(QPointF point, float pressure, float altitude, double time) const;
+    void follow(const PointerSample& pointer);
     void endAt(const PointerSample& sample);
     void startProcess();
     template <typename How>

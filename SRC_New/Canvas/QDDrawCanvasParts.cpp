@@ -15,19 +15,9 @@ InputSample inputOf(const StrokeSample& sample) {
     return {sample.place, sample.pressure, sample.altitude};
 }
 
-// Pictures are not compared, which may take longer than setting them.
-bool isOther(const BrushValue& one, const BrushValue& other) {
-    return std::visit(
-        [](const auto& a, const auto& b) {
-            if constexpr (std::is_same_v<decltype(a), decltype(b)> &&
-                          !std::is_same_v<decltype(a), const QImage&> &&
-                          !std::is_same_v<decltype(a), const QList<QImage>&>) {
-                return !(a == b);
-            } else {
-                return true;
-            }
-        },
-        one, other);
+// Pictures are not compared, which may take longer than setting them, nor drawn for it.
+bool isPicture(const BrushValue& value) {
+    return std::holds_alternative<QImage>(value) || std::holds_alternative<QList<QImage>>(value);
 }
 
 }  // namespace
@@ -331,7 +321,7 @@ void QDDrawCanvas::Parts::turnView(float radian, bool mirrored) {
 
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {
     _kindChanges = kindAfter != kind();
-    _valueChanges = _valueChanges || isOther(brush.value(key), value);
+    _valueChanges = _valueChanges || isPicture(value) || brush.value(key) != value;
     _recognisesAnew = key == BrushKey::enableRecogition && std::get<bool>(value) != recognises();
     if (_recognisesAnew) {
         sketch.drop();  // what a stroke in progress has drawn stays, whatever it was to become

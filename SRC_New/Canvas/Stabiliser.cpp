@@ -58,11 +58,12 @@ const std::vector<PointerSample>& Stabiliser::move(const PointerSample& sample) 
 // Of a pointer at an even pace the lag is known: it goes towards what the pointer covers within `seconds`, by e^-t.
 void Stabiliser::follow(const PointerSample& to, double seconds) {
     const double lag = _options.seconds;
-    if (!(seconds > 0) || lag <= 0) {
-        if (lag <= 0) {
-            _follower = to;
-            _steps.push_back(to);
-        }
+    if (lag <= 0) {
+        _follower = to;
+        _steps.push_back(to);
+        return;
+    }
+    if (!(seconds > 0)) {
         return;
     }
     const int steps = stepsFor(seconds, kStepSeconds);

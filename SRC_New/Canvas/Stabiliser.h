@@ -21,6 +21,7 @@ struct PointerSample {
 class Stabiliser {
 public:
     void begin(const StabiliserOptions& options, double lengthScale, const PointerSample& sample);
+    bool isOn() const { return _options.kind != Stabilising::none; }
     // What follows, on the way there; the sample itself without stabilising. Valid until the next call.
     const std::vector<PointerSample>& move(const PointerSample& sample);
     // Where the stroke ends, after what move() to there gave.

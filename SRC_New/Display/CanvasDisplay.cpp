@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "Display/DevicePointers.h"
 #include "Display/HalvedCopies.h"
@@ -170,7 +171,7 @@ bool CanvasDisplay::hasGround() const {
 }
 
 CanvasDisplay::ShownPicture CanvasDisplay::shownPicture() {
-    const bool isTurned = std::remainder(viewRotation(), M_PI_2) != 0;
+    const bool isTurned = std::remainder(viewRotation(), std::numbers::pi / 2) != 0;
     const QImage& picture = displayImage();
     const QTransform& map = bufferToView();
     const double dots = viewPixelRatio();
@@ -191,6 +192,17 @@ void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
     painter.setClipRect(exposed, Qt::IntersectClip);
     const ShownPicture picture = shownPicture();
     painter.setRenderHint(QPainter::Antialiasing, picture.isTurned);
+    if (hasGround()) {
+        paintGround(painter, exposed);
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, picture.isSmooth);
+    painter.setTransform(picture.toView, true);
+    painter.drawImage(picture.area, picture.image, picture.area);
+    painter.restore();
+    paintProblem(painter);
+}
+
+void CanvasDisplay::paintGround(QPainter& painter, const QRectF& exposed) const {
     QPainterPath outline;
     outline.addPolygon(bufferToView().map(QPolygonF(QRectF(QPointF(), bufferSize()))));
     if (_around.style() != Qt::NoBrush) {
@@ -202,11 +214,6 @@ void CanvasDisplay::paintCanvas(QPainter& painter, const QRectF& exposed) {
         painter.setBrushOrigin(outline.boundingRect().topLeft());
         painter.fillPath(outline, _underCanvas);
     }
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, picture.isSmooth);
-    painter.setTransform(picture.toView, true);
-    painter.drawImage(picture.area, picture.image, picture.area);
-    painter.restore();
-    paintProblem(painter);
 }
 
 QString CanvasDisplay::problem() const {

@@ -15,6 +15,7 @@ class QPainter;
 namespace dabcanvas {
 
 class DevicePointers;
+class HalvedCopies;
 
 // A canvas on screen, be it in a widget or in an item: where it lies in its view, how it is drawn there, and what the view's
 // mouse, pen and fingers do.
@@ -144,6 +145,7 @@ private:
     void viewChanged();
     QPointF middle() const;
     QPointF inView(QPointF canvasPoint) const;
+    void paintGround(QPainter& painter, const QRectF& exposed) const;
     void paintProblem(QPainter& painter) const;
 
     ViewTransform _transform;
@@ -152,7 +154,7 @@ private:
     bool _navigable = false;
     QBrush _underCanvas, _around;
     QString _problem;
-    std::unique_ptr<class HalvedCopies> _copies;
+    std::unique_ptr<HalvedCopies> _copies;
     std::unique_ptr<DevicePointers> _pointers;
 };
 

@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 #include <QtMath>
 #include <cmath>
+#include <numbers>
 #include <utility>
 
 #include "Display/CanvasDisplay.h"
@@ -315,7 +316,7 @@ void DevicePointers::moveView(const Grip& from, const Grip& to) {
     if (!alive) {
         return;
     }
-    const double turned = std::remainder(to.angle - from.angle, 2 * M_PI);
+    const double turned = std::remainder(to.angle - from.angle, 2 * std::numbers::pi);
     _turn += turned;
     if (_turns || std::abs(_turn) > kTurnsFrom) {
         _display.turnAbout(_display.viewRotation() + (std::exchange(_turns, true) ? turned : _turn),

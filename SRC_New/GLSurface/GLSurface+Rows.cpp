@@ -14,6 +14,7 @@
 #include "GLSurface/GLSurface.h"
 #include "Maths/Rounding.h"
 #include "Surface/DepthRows.h"
+#include "Surface/Placement.h"
 
 namespace dabcanvas {
 namespace {
@@ -35,10 +36,8 @@ QRectF qRectOf(const Rect& rect) {
 // without the memory.
 QImage reducedFor(const Placed& placed) try {
     const Size& from = placed.pixels.size;
-    const auto side = [](int texels, double pixels) {
-        return std::clamp(nearestInt(std::min(pixels, 1e6)), 1, texels);
-    };
-    const Size to{side(from.width, placed.width), side(from.height, placed.height)};
+    const Placement placement({placed.centreX, placed.centreY}, placed.width, placed.height, placed.radian);
+    const Size to = placement.reducedSize(from);
     if (to == from) {
         return {};
     }

@@ -23,11 +23,7 @@ public:
     Source(const PixelView& pixels, const Placement& placement) : _view(pixels) {
         _reading = placement.readingOf(pixels.size);
         if (_reading == Placement::Reading::averaged) {
-            const auto side = [](int texels, double pixelsWide) {
-                return std::clamp(static_cast<int>(std::lround(std::min(pixelsWide, 1e6))), 1, texels);
-            };
-            _reduced = reduced(pixelsOf(pixels), {side(pixels.size.width, placement.width()),
-                                                  side(pixels.size.height, placement.height())});
+            _reduced = reduced(pixelsOf(pixels), placement.reducedSize(pixels.size));
             _view = PixelView::topRowFirst(_reduced.bytes.data(), _reduced.size);
         }
     }

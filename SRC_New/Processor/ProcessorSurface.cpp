@@ -294,8 +294,8 @@ void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
                             style.blendType != ESBlendTypeReplace;
         return leaves ? void() : copyTiles(_background, _picture, part);
     }
-    _kept[index].isBlended =
-        true;  // where paint lies alone: rectangles reach as far as the looks between them let them
+    // Where paint lies alone: rectangles reach as far as the looks between them let them.
+    _kept[index].isBlended = true;
     if (isDry) {
         line = _wetEdge.dried(_line.grid, index, part);
     }

@@ -13,6 +13,16 @@
 
 namespace dabcanvas {
 
+// A field without the blanks around it.
+inline std::string_view trimmed(std::string_view text) {
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
 class CsvReader {
 public:
     // The bytes must outlive the reader.

@@ -273,31 +273,18 @@ bool EventReader::readValue(const BrushProperty& property, BrushValue& value) {
 bool EventReader::readClear(ClearedCanvas& cleared) {
     enum { color, layers };
     static const QStringList kMembers{"color", "layers"};
-    JsonMembers members(_reader, kMembers);
-    QString name;
-    _reader.beginObject();
-    while (_reader.nextMember(name)) {
-        const int place = members.place(name);
-        if (place < 0)
-            return false;
+    return JsonMembers(_reader, kMembers).readObject([&](int place) {
         place == color ? readColor(_reader, cleared.color) : _reader.readBoolean(cleared.layersToo);
-    }
-    return !_reader.failed();
+    });
 }
 
 bool EventReader::readImage(InputImage& placed) {
     static const QStringList kMembers{"picture", "width",    "height", "x",        "y",
                                       "radian",  "replaces", "isUndo", "neglects", "scissor"};
     enum { picture, width, replaces = 6, scissor = 9 };
-    JsonMembers members(_reader, kMembers);
     double numbers[5] = {};
     bool flags[3] = {};
-    QString name;
-    _reader.beginObject();
-    while (_reader.nextMember(name)) {
-        const int place = members.place(name);
-        if (place < 0)
-            return false;
+    const bool isRead = JsonMembers(_reader, kMembers).readObject([&](int place) {
         if (place == picture) {
             readPicture(placed.image);
         } else if (place < replaces) {
@@ -307,8 +294,8 @@ bool EventReader::readImage(InputImage& placed) {
         } else {
             readScissor(placed.limits);
         }
-    }
-    if (!_reader.failed() && placed.image.isNull())
+    });
+    if (isRead && placed.image.isNull())
         return _reader.fail(QStringLiteral("the image has no \"picture\""));
     placed.size = {numbers[0], numbers[1]};
     placed.centre = {numbers[2], numbers[3]};
@@ -316,22 +303,15 @@ bool EventReader::readImage(InputImage& placed) {
     placed.replaces = flags[0];
     placed.isUndo = flags[1];
     placed.limits.neglects = flags[2];
-    return !_reader.failed();
+    return isRead;
 }
 
 bool EventReader::readPreview(InputLimits& limits) {
     enum { neglects, scissor };
     static const QStringList kMembers{"neglects", "scissor"};
-    JsonMembers members(_reader, kMembers);
-    QString name;
-    _reader.beginObject();
-    while (_reader.nextMember(name)) {
-        const int place = members.place(name);
-        if (place < 0)
-            return false;
+    return JsonMembers(_reader, kMembers).readObject([&](int place) {
         place == neglects ? _reader.readBoolean(limits.neglects) : readScissor(limits);
-    }
-    return !_reader.failed();
+    });
 }
 
 bool EventReader::readArea(QRect& area) {
@@ -350,16 +330,9 @@ bool EventReader::readArea(QRect& area) {
 bool EventReader::readView(ViewChange& change) {
     enum { radian, mirrored };
     static const QStringList kMembers{"radian", "mirrored"};
-    JsonMembers members(_reader, kMembers);
-    QString name;
-    _reader.beginObject();
-    while (_reader.nextMember(name)) {
-        const int place = members.place(name);
-        if (place < 0)
-            return false;
+    return JsonMembers(_reader, kMembers).readObject([&](int place) {
         place == radian ? readFloat(_reader, change.radian) : _reader.readBoolean(change.mirrored);
-    }
-    return !_reader.failed();
+    });
 }
 
 bool EventReader::readScissor(InputLimits& limits) {
@@ -375,13 +348,7 @@ bool EventReader::readShape(ShapeRecord& shape) {
     enum { kind, corners, first };
     double* const numbers[] = {&shape.centre.x, &shape.centre.y,   &shape.a,       &shape.b,
                                &shape.rotation, &shape.startAngle, &shape.endAngle};
-    JsonMembers members(_reader, kMembers);
-    QString name;
-    _reader.beginObject();
-    while (_reader.nextMember(name)) {
-        const int place = members.place(name);
-        if (place < 0)
-            return false;
+    return JsonMembers(_reader, kMembers).readObject([&](int place) {
         if (place == kind) {
             readWord(_reader, kShapeNames, shape.kind);
         } else if (place >= first) {
@@ -390,12 +357,11 @@ bool EventReader::readShape(ShapeRecord& shape) {
             for (_reader.beginList(); _reader.nextElement();) {
                 double corner[2] = {};
                 if (!readNumbers(_reader, corner))
-                    return false;
+                    return;
                 shape.corners.push_back({corner[0], corner[1]});
             }
         }
-    }
-    return !_reader.failed();
+    });
 }
 
 bool EventReader::readPictures(QList<QImage>& images) {

@@ -31,6 +31,19 @@ public:
         _seen |= bit;
         return index;
     }
+    // Reads the object, each member's value by read(int place). False after a failure.
+    template <typename Read>
+    bool readObject(Read&& read) {
+        QString name;
+        _reader.beginObject();
+        while (_reader.nextMember(name)) {
+            const int index = place(name);
+            if (index < 0)
+                return false;
+            read(index);
+        }
+        return !_reader.failed();
+    }
     bool has(int index) const { return (_seen >> index) & 1u; }
     int count() const { return std::popcount(_seen); }
 

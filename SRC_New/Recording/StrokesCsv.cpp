@@ -23,15 +23,6 @@ QString shown(std::string_view text) {
     return QString::fromUtf8(text.data(), qsizetype(std::min(text.size(), kLongest)));
 }
 
-std::string_view trimmed(std::string_view text) {
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 // Where the columns are; the message when one is missing.
 QString findColumns(const Row& header, std::array<std::size_t, kColumns>& places) {
     for (std::size_t i = 0; i < kColumns; ++i) {

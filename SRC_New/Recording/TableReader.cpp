@@ -39,15 +39,6 @@ constexpr struct {
               {"stroke_id", kStroke},
               {"sample_id", kStroke}};
 
-std::string_view trimmed(std::string_view text) {
-    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 std::optional<double> numberOf(std::string_view text) {
     text = trimmed(text);
     return numberFromText(QByteArrayView(text.data(), qsizetype(text.size())));

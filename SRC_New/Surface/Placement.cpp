@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <numbers>
 
+#include "Maths/Rounding.h"
+
 namespace dabcanvas {
 namespace {
 
@@ -72,6 +74,11 @@ std::array<Point, 4> Placement::corners(double rim, bool flipX, bool flipY) cons
         return Point{right * _cosine - up * _sine, right * _sine + up * _cosine};
     };
     return {turned(-x, -y), turned(x, -y), turned(x, y), turned(-x, y)};
+}
+
+Size Placement::reducedSize(const Size& texels) const {
+    const auto side = [](int most, double pixels) { return std::clamp(nearestInt(pixels), 1, most); };
+    return {side(texels.width, _width), side(texels.height, _height)};
 }
 
 Placement::Reading Placement::readingOf(const Size& texels) const {

@@ -42,6 +42,8 @@ public:
         averaged,      // reduced
     };
     Reading readingOf(const Size& texels) const;
+    // What a picture of this size is averaged to first: no more texels on a side than there are pixels for them.
+    Size reducedSize(const Size& texels) const;
 
 private:
     Point _centre;
