@@ -28,6 +28,10 @@ QImage noise(int seed) {
     return image;
 }
 
+bool isUndo(int act) {
+    return act % 8 == 4;
+}
+
 // One act of many: a stroke, of which every fifth is no step, a picture, or a step back.
 void paint(QDDrawCanvas& canvas, int i) {
     if (i % 8 == 6) {
@@ -35,7 +39,7 @@ void paint(QDDrawCanvas& canvas, int i) {
         canvas.setImage(noise(i), QRectF(0, 0, 200, 150));
         return;
     }
-    if (i % 8 == 4) {
+    if (isUndo(i)) {
         canvas.undo();
         return;
     }
@@ -122,6 +126,10 @@ TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
         auto expected = makeCanvas();
         int acts = 0;
         while (acts < told + 20 && (acts < (rests ? told : 1) || looks(*expected) != found)) {
+            // Before a step back, what is no step yet becomes one.
+            if (isUndo(acts) && !rests && !expected->markAction().isNull() && looks(*expected) == found) {
+                break;
+            }
             paint(*expected, acts++);
         }
         ASSERT_TRUE(imagesMatch(canvas->image(), expected->image())) << acts << " of " << told;
