@@ -137,7 +137,7 @@ std::optional<int> Assembly::addNode(RecoveredStep step, std::uint64_t base) {
     if (base != 0) {
         const auto known = _bySerial.find(base);
         if (known == _bySerial.end() ||
-            _nodes[static_cast<std::size_t>(known->second)].step.picture != step.picture) {
+            !_nodes[static_cast<std::size_t>(known->second)].step.picture.hasGridOf(step.picture)) {
             return {};
         }
         step.base = known->second;

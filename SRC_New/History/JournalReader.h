@@ -23,7 +23,7 @@ struct RecoveredStep {
     QString name;   // empty: it is in no stack, but another's base, or the present canvas
     int base = -1;  // -1: blank
     std::vector<TileChange> changes;
-    Size picture;  // its base's as well
+    PictureShape picture;  // its base has the same grid
     std::uint64_t serial = 0;
 };
 
@@ -51,7 +51,7 @@ struct JournalContents {
 
     // Of the canvas.
     const Size& pictureSize() const {
-        return present < 0 ? format.picture : steps[static_cast<std::size_t>(present)].picture;
+        return present < 0 ? format.picture : steps[static_cast<std::size_t>(present)].picture.size;
     }
     int stepCount() const { return static_cast<int>(undo.size() + redo.size()) + (current >= 0 ? 1 : 0); }
     std::int64_t bytes() const;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "History/JournalRecord.h"
 
+#include <algorithm>
 #include <new>
+#include <utility>
 
 #define XXH_INLINE_ALL
 #include <xxhash.h>
@@ -17,6 +19,7 @@ constexpr std::uint32_t kMark = 0x7B54D700;  // the lowest byte is the type
 constexpr std::uint32_t kLengthAt = 4, kHeadSumAt = 8, kSumAt = 12;
 constexpr std::size_t kChangeBytes = 12;
 constexpr int kMostSide = 1 << 20;
+constexpr std::uint8_t kVisible = 1, kLocked = 2;  // of a layer
 
 std::uint64_t seedOf(const char* head, const RecordPlace& place) {
     const std::uint64_t where = place.journal ^ (std::uint64_t{place.segment} << 32 | place.offset);
@@ -65,6 +68,19 @@ RecordWriter& RecordWriter::put(const std::vector<TileChange>& changes) {
     return *this;
 }
 
+RecordWriter& RecordWriter::put(const PictureShape& picture) {
+    put(static_cast<std::uint32_t>(picture.size.width)).put(static_cast<std::uint32_t>(picture.size.height));
+    put(static_cast<std::uint32_t>(picture.layers ? picture.layers->size() : 0));
+    put(static_cast<std::uint32_t>(picture.front));
+    for (const Layer& layer : picture.layers ? *picture.layers : std::vector<Layer>()) {
+        const LayerSettings& settings = layer.settings;
+        put(layer.id).put(settings.name).put(settings.opacity).put(settings.blendType);
+        put(static_cast<std::uint8_t>((settings.isVisible ? kVisible : 0) |
+                                      (settings.locksAlpha ? kLocked : 0)));
+    }
+    return *this;
+}
+
 const QByteArray& RecordWriter::sealed(const RecordPlace& place) {
     char* head = _bytes.data();
     const auto length = static_cast<std::uint32_t>(_bytes.size()) - kRecordHead;
@@ -91,21 +107,46 @@ bool RecordParser::take(QString* name) {
     return true;
 }
 
-bool RecordParser::take(Size* picture, std::vector<TileChange>* changes, const JournalFormat& format) {
+// Of none, there is nothing to say of the single one.
+bool RecordParser::takeLayers(PictureShape* picture) {
+    std::uint32_t count = 0, front = 0;
+    if (!take(&count) || !take(&front) || count > kMostLayers || front >= (std::max)(count, 1u)) {
+        return _sound = false;
+    }
+    std::vector<Layer> layers(count);
+    for (Layer& layer : layers) {
+        LayerSettings& settings = layer.settings;
+        std::uint8_t flags = 0;
+        const bool taken = take(&layer.id) && take(&settings.name) && take(&settings.opacity) &&
+                           take(&settings.blendType) && take(&flags);
+        if (!taken || !(settings.opacity >= 0 && settings.opacity <= 1)) {
+            return _sound = false;
+        }
+        settings.isVisible = (flags & kVisible) != 0;
+        settings.locksAlpha = (flags & kLocked) != 0;
+    }
+    picture->front = front;
+    picture->layers = count > 0 ? std::make_shared<const std::vector<Layer>>(std::move(layers)) : nullptr;
+    return true;
+}
+
+bool RecordParser::take(PictureShape* picture, std::vector<TileChange>* changes,
+                        const JournalFormat& format) {
     std::uint32_t width = 0, height = 0, count = 0;
     if (!take(&width) || !take(&height) || width > kMostSide || height > kMostSide) {
         return _sound = false;
     }
-    *picture = {static_cast<int>(width), static_cast<int>(height)};
-    const JournalFormat own{*picture, format.pixelBytes};
-    if (!own.isSound() || !take(&count) || !has(std::size_t{count} * kChangeBytes)) {
-        return false;
+    picture->size = {static_cast<int>(width), static_cast<int>(height)};
+    const JournalFormat own{picture->size, format.pixelBytes};
+    if (!takeLayers(picture) || !own.isSound() || !take(&count) || !has(std::size_t{count} * kChangeBytes)) {
+        return _sound = false;
     }
+    const std::uint64_t tiles = own.tiles() * std::uint64_t{picture->planes()};
     changes->resize(count);
     for (TileChange& change : *changes) {
         take(&change.index);
         take(&change.tile);
-        _sound = _sound && change.index < own.tiles();
+        _sound = _sound && change.index < tiles;
     }
     return _sound;
 }

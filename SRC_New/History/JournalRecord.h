@@ -22,7 +22,7 @@
 #include <optional>
 #include <vector>
 
-#include "Maths/Rect.h"
+#include "History/PictureShape.h"
 
 namespace dabcanvas {
 
@@ -64,7 +64,7 @@ enum class RecordType : std::uint8_t { segment = 1, tile, step, stacks };
 inline constexpr std::uint32_t kRecordHead = 20;
 inline constexpr std::uint32_t kTileHead = 10;  // of a tile's payload: its id and its size unpacked
 inline constexpr std::uint32_t kMostRecord = 64 << 20;
-inline constexpr std::uint32_t kJournalVersion = 3;
+inline constexpr std::uint32_t kJournalVersion = 4;
 inline constexpr std::uint32_t kMostNameBytes = 1 << 16;
 
 struct RecordPlace {
@@ -95,9 +95,7 @@ public:
     }
     RecordWriter& put(const QString& name);  // as it is, whatever is in it
     RecordWriter& put(const std::vector<TileChange>& changes);
-    RecordWriter& put(const Size& picture) {
-        return put(static_cast<std::uint32_t>(picture.width)).put(static_cast<std::uint32_t>(picture.height));
-    }
+    RecordWriter& put(const PictureShape& picture);
 
     // Writes the head; may be done again for another place.
     const QByteArray& sealed(const RecordPlace& place);
@@ -122,11 +120,12 @@ public:
         return true;
     }
     bool take(QString* name);
-    // A picture's size and what changed of it; pixels are of the format.
-    bool take(Size* picture, std::vector<TileChange>* changes, const JournalFormat& format);
+    // What a picture is and what changed of it; pixels are of the format.
+    bool take(PictureShape* picture, std::vector<TileChange>* changes, const JournalFormat& format);
     bool isDone() const { return _sound && _left == 0; }
 
 private:
+    bool takeLayers(PictureShape* picture);
     bool has(std::size_t bytes) { return _sound = _sound && bytes <= _left; }
     void skip(std::size_t bytes) {
         _at += bytes;

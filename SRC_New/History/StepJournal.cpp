@@ -8,9 +8,9 @@ namespace dabcanvas {
 
 namespace {
 
-// Of another size it is none.
+// Of another size, or of more layers or fewer, it is none.
 bool isBase(const HistoryChange::Step& step, const TilePicture& of) {
-    return step.picture && step.picture->layout().picture() == of.layout().picture();
+    return step.picture && step.picture->shape().hasGridOf(of.shape());
 }
 
 constexpr qsizetype kMostName = 1 << 14;  // a journal takes longer ones for nothing
@@ -139,8 +139,8 @@ std::optional<JournalState> StepJournal::told(const HistoryChange& change, const
             const Step& from = isBase(base, *step.picture) ? base : none;
             auto changed = difference(from.picture.get(), *step.picture, problem);
             sound = changed.has_value();
-            state.steps.push_back({step.name, from.name, std::move(changed).value_or(Changes()),
-                                   step.picture->layout().picture()});
+            state.steps.push_back(
+                {step.name, from.name, std::move(changed).value_or(Changes()), step.picture->shape()});
         }
         base = step;
     };
@@ -150,8 +150,8 @@ std::optional<JournalState> StepJournal::told(const HistoryChange& change, const
         const Step& from = isBase(base, *change.present) ? base : none;
         auto changed = difference(from.picture.get(), *change.present, problem);
         sound = changed.has_value();
-        state.present = JournalPresent{from.name, std::move(changed).value_or(Changes()),
-                                       change.present->layout().picture()};
+        state.present =
+            JournalPresent{from.name, std::move(changed).value_or(Changes()), change.present->shape()};
     }
     std::for_each(change.redo.added.rbegin(), change.redo.added.rend(), add);
     return sound ? std::optional(std::move(state)) : std::nullopt;
@@ -159,7 +159,7 @@ std::optional<JournalState> StepJournal::told(const HistoryChange& change, const
 
 std::optional<StepJournal::Changes> StepJournal::difference(const TilePicture* from, const TilePicture& to,
                                                             QString* problem) const {
-    const TilePicture blank(to.layout().picture());
+    const TilePicture blank(to.shape());
     std::vector<TileChange> changes;
     bool sound = true;
     to.forEachDifference(from != nullptr ? *from : blank, [&](std::size_t index) {

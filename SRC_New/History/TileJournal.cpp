@@ -146,7 +146,7 @@ bool TileJournal::writeState(const JournalState& state, QString* problem) {
     RecordWriter record = _stacks.recordOf(change, now());
     if (state.present) {
         record.put(serialOf(state.present->base))
-            .put(sizeOf(state.present->picture))
+            .put(shapeOf(state.present->picture))
             .put(state.present->changes);
     }
     TilePlace place;
@@ -180,7 +180,7 @@ bool TileJournal::writeStep(const JournalStep& step, QString* problem) {
         .put(serialOf(step.base))
         .put(now())
         .put(step.name)
-        .put(sizeOf(step.picture))
+        .put(shapeOf(step.picture))
         .put(step.changes);
     if (!write(record, nullptr, problem)) {
         return false;

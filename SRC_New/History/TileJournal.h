@@ -37,14 +37,14 @@ struct JournalStep {
     QString name;
     QString base;
     std::vector<TileChange> changes;
-    Size picture{};  // empty: as large as the journal's; its base is as large
+    PictureShape picture{};  // empty: as large as the journal's; its base has the same grid
 };
 
 // The canvas where it is not the current step, likewise.
 struct JournalPresent {
     QString base;
     std::vector<TileChange> changes;
-    Size picture{};
+    PictureShape picture{};
 };
 
 // What becomes of the history in one go: steps, each after its base, and what changed of the stacks since they were
@@ -141,8 +141,8 @@ private:
     void dropEmpty();
     std::uint64_t serialOf(const QString& name) const { return _serials.value(name, 0); }
     StacksChange changeOf(const JournalState& state) const;
-    const Size& sizeOf(const Size& picture) const {
-        return picture.width <= 0 ? _settings.format.picture : picture;
+    PictureShape shapeOf(const PictureShape& picture) const {
+        return picture.size.width <= 0 ? PictureShape(_settings.format.picture) : picture;
     }
     bool knows(const QString& base, QString* problem) const;
     std::int64_t now();

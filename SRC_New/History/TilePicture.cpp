@@ -3,12 +3,28 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include "Surface/DepthRows.h"
 
 namespace dabcanvas {
 
-TilePicture::TilePicture(const Size& size) : _layout(size), _rows(static_cast<std::size_t>(_layout.rows())) {}
+TilePicture::TilePicture(PictureShape shape)
+    : _shape(std::move(shape)),
+      _layout(_shape.size),
+      _rows(static_cast<std::size_t>(_layout.rows()) * _shape.planes()) {}
+
+TilePicture TilePicture::plane(std::size_t layer) const {
+    TilePicture picture(_shape.size);
+    std::copy_n(_rows.begin() + static_cast<std::ptrdiff_t>(layer * picture._rows.size()),
+                picture._rows.size(), picture._rows.begin());
+    return picture;
+}
+
+void TilePicture::setPlane(std::size_t layer, const TilePicture& picture) {
+    std::copy(picture._rows.begin(), picture._rows.end(),
+              _rows.begin() + static_cast<std::ptrdiff_t>(layer * picture._rows.size()));
+}
 
 const TileRef& TilePicture::at(std::size_t index) const {
     static const TileRef kTransparent;
@@ -44,7 +60,7 @@ void TilePicture::set(std::size_t index, const TileRef& tile) {
 
 bool TilePicture::read(const MutablePixelView& rows, QString* problem) const {
     for (std::size_t index = 0; index < _layout.count(); ++index) {
-        const TileRef& tile = at(index);
+        const TileRef& tile = at(_shape.front * _layout.count() + index);
         const SharedTile pixels = tile ? pixelsOf(*tile, problem) : nullptr;
         if (tile && !pixels) {
             return false;

@@ -35,8 +35,8 @@ HWY_INLINE Value one() {
 // Full scale of a picture's channels, and what a layer's are divided by to become their units.
 template <typename Channel>
 constexpr float kFull = std::numeric_limits<Channel>::max();
-template <typename Channel>
-constexpr float kLayerUnits = 65535 / kFull<Channel>;
+template <typename Channel, typename OfLayer>
+constexpr float kLayerUnits = kFull<OfLayer> / kFull<Channel>;
 
 template <typename Channel>
 HWY_INLINE Value full() {
@@ -140,15 +140,15 @@ HWY_INLINE Value loaded(const From* from) {
 }
 
 // One vector: the last of a row comes from and goes to a copy.
-template <typename Mode, typename Channel>
-HWY_INLINE void blendVector(const BlendRow<Channel>& row, Value scale, hn::Vec<Ints> noise) {
+template <typename Mode, typename Channel, typename OfLayer>
+HWY_INLINE void blendVector(const BlendRow<Channel, OfLayer>& row, Value scale, hn::Vec<Ints> noise) {
     const Value back = loaded(row.background);
     Value line = hn::Mul(loaded(row.layer), scale);
     Value bareUnless = alphaOf(line);
     constexpr bool replaces = std::is_same_v<Mode, Replace>;
     if (row.mask != nullptr) {
         const Value mask = alphaOf(loaded(row.mask));
-        line = hn::Mul(line, hn::Mul(mask, hn::Set(kFloats, 1.0f / 65535)));
+        line = hn::Mul(line, hn::Mul(mask, hn::Set(kFloats, 1 / kFull<OfLayer>)));
         bareUnless = replaces ? mask : alphaOf(line);
     }
     Value mixed = Mode::template mix<Channel>(back, line);
@@ -170,8 +170,8 @@ HWY_INLINE void blendVector(const BlendRow<Channel>& row, Value scale, hn::Vec<I
 }
 
 // What is to come of a row, so many pixels further on.
-template <typename Channel>
-HWY_INLINE void move(BlendRow<Channel>& row, int pixels) {
+template <typename Channel, typename OfLayer>
+HWY_INLINE void move(BlendRow<Channel, OfLayer>& row, int pixels) {
     const std::ptrdiff_t values = std::ptrdiff_t{4} * pixels;
     row.picture += values;
     row.background += values;
@@ -182,8 +182,8 @@ HWY_INLINE void move(BlendRow<Channel>& row, int pixels) {
 }
 // Steps back from the last pixels, fewer than a vector has, so that they are one with some that are blended once more.
 // False where that cannot be.
-template <typename Channel>
-HWY_INLINE bool moveBack(BlendRow<Channel>& row, const BlendRow<Channel>& whole, int step) {
+template <typename Channel, typename OfLayer>
+HWY_INLINE bool moveBack(BlendRow<Channel, OfLayer>& row, const BlendRow<Channel, OfLayer>& whole, int step) {
     if (row.count == 0 || whole.count < step || whole.picture == whole.background) {
         return false;
     }
@@ -191,12 +191,12 @@ HWY_INLINE bool moveBack(BlendRow<Channel>& row, const BlendRow<Channel>& whole,
     return true;
 }
 
-template <typename Mode, typename Channel>
-void blendWhole(const BlendRow<Channel>& whole) {
+template <typename Mode, typename Channel, typename OfLayer>
+void blendWhole(const BlendRow<Channel, OfLayer>& whole) {
     const int step = static_cast<int>(hn::Lanes(kFloats)) / 4;
-    const Value scale = hn::Set(kFloats, whole.opacity / kLayerUnits<Channel>);
+    const Value scale = hn::Set(kFloats, whole.opacity / (kLayerUnits<Channel, OfLayer>));
     const auto places = hn::Mul(hn::ShiftRight<2>(hn::Iota(kInts, 0)), hn::Set(kInts, whole.noise.along));
-    BlendRow<Channel> row = whole;
+    BlendRow<Channel, OfLayer> row = whole;
     const auto noise = [&] {
         return hn::And(hn::Add(places, hn::Set(kInts, row.noise.first)), hn::Set(kInts, 255));
     };
@@ -207,7 +207,7 @@ void blendWhole(const BlendRow<Channel>& whole) {
         blendVector<Mode>(row, scale, noise());
     } else if (row.count > 0) {
         Channel picture[16] = {}, background[16] = {};
-        std::uint16_t layer[16] = {}, mask[16] = {};
+        OfLayer layer[16] = {}, mask[16] = {};
         const auto values = static_cast<std::size_t>(row.count) * 4;
         std::copy_n(row.picture, values, picture);
         std::copy_n(row.background, values, background);
@@ -215,9 +215,9 @@ void blendWhole(const BlendRow<Channel>& whole) {
         if (row.mask != nullptr) {
             std::copy_n(row.mask, values, mask);
         }
-        blendVector<Mode, Channel>({picture, background, layer, row.mask != nullptr ? mask : nullptr,
-                                    row.count, row.opacity, row.noise},
-                                   scale, noise());
+        blendVector<Mode, Channel, OfLayer>({picture, background, layer, row.mask != nullptr ? mask : nullptr,
+                                             row.count, row.opacity, row.noise},
+                                            scale, noise());
         std::copy_n(picture, values, row.picture);
     }
 }
@@ -278,38 +278,43 @@ void blendNormal(const BlendRow<std::uint8_t>& whole) {
 void blendNormal(const BlendRow<std::uint16_t>& row) {
     blendWhole<Normal>(row);
 }
+void blendNormal(const BlendRow<std::uint8_t, std::uint8_t>& row) {
+    blendWhole<Normal>(row);
+}
 
 // The kernel of a mode.
-template <typename Channel>
-auto kernelOf(std::uint32_t blendType, const BlendRow<Channel>& row) -> void (*)(const BlendRow<Channel>&) {
+template <typename Channel, typename OfLayer>
+auto kernelOf(std::uint32_t blendType, const BlendRow<Channel, OfLayer>& row)
+    -> void (*)(const BlendRow<Channel, OfLayer>&) {
     switch (blendType) {
         case ESBlendTypeReplace:
-            return row.showsBare ? blendWhole<ReplaceInPaint, Channel> : blendWhole<Replace, Channel>;
+            return row.showsBare ? blendWhole<ReplaceInPaint, Channel, OfLayer>
+                                 : blendWhole<Replace, Channel, OfLayer>;
         case ESBlendTypeBehind:
-            return blendWhole<Behind, Channel>;
+            return blendWhole<Behind, Channel, OfLayer>;
         case ESBlendTypeErase:
-            return blendWhole<Erase, Channel>;
+            return blendWhole<Erase, Channel, OfLayer>;
         case ESBlendTypeTarnish:
-            return blendWhole<Tarnish, Channel>;
+            return blendWhole<Tarnish, Channel, OfLayer>;
         case ESBlendTypeBrightness:
-            return blendWhole<Brightness, Channel>;
+            return blendWhole<Brightness, Channel, OfLayer>;
         case ESBlendTypeMultiply:
-            return blendWhole<Multiply, Channel>;
+            return blendWhole<Multiply, Channel, OfLayer>;
         case ESBlendTypeReset:
-            return blendWhole<Reset, Channel>;
+            return blendWhole<Reset, Channel, OfLayer>;
         default:
             if (row.mask != nullptr) {
-                return blendWhole<Normal, Channel>;
+                return blendWhole<Normal, Channel, OfLayer>;
             }
             return blendNormal;
     }
 }
 
-template <typename Channel>
-HWY_INLINE void blend(std::uint32_t blendType, const BlendRow<Channel>& first, int rows) {
+template <typename Channel, typename OfLayer>
+HWY_INLINE void blend(std::uint32_t blendType, const BlendRow<Channel, OfLayer>& first, int rows) {
     constexpr std::ptrdiff_t kDown = kTileSide * 4;
-    const auto kernel = kernelOf<Channel>(blendType, first);
-    BlendRow<Channel> row = first;
+    const auto kernel = kernelOf(blendType, first);
+    BlendRow<Channel, OfLayer> row = first;
     for (int y = 0; y < rows; ++y) {
         kernel(row);
         row.picture += kDown;
@@ -326,6 +331,9 @@ void blend8(std::uint32_t blendType, const BlendRow<std::uint8_t>& first, int ro
 void blend16(std::uint32_t blendType, const BlendRow<std::uint16_t>& first, int rows) {
     blend(blendType, first, rows);
 }
+void blend8of8(std::uint32_t blendType, const BlendRow<std::uint8_t, std::uint8_t>& first, int rows) {
+    blend(blendType, first, rows);
+}
 
 const char* targetName() {
     return hwy::TargetName(HWY_TARGET);
@@ -339,6 +347,7 @@ namespace dabcanvas {
 
 HWY_EXPORT(blend8);
 HWY_EXPORT(blend16);
+HWY_EXPORT(blend8of8);
 HWY_EXPORT(targetName);
 
 void blendRows(std::uint32_t blendType, const BlendRow<std::uint8_t>& first, int rows) {
@@ -346,6 +355,9 @@ void blendRows(std::uint32_t blendType, const BlendRow<std::uint8_t>& first, int
 }
 void blendRows(std::uint32_t blendType, const BlendRow<std::uint16_t>& first, int rows) {
     HWY_DYNAMIC_DISPATCH(blend16)(blendType, first, rows);
+}
+void blendRows(std::uint32_t blendType, const BlendRow<std::uint8_t, std::uint8_t>& first, int rows) {
+    HWY_DYNAMIC_DISPATCH(blend8of8)(blendType, first, rows);
 }
 
 const char* vectorsInUse() {

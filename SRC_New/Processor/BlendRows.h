@@ -16,17 +16,18 @@ struct RowNoise {
 };
 inline constexpr RowNoise kToNearest{128, 0, 0};
 
-// Pixels side by side in one row of a tile. Picture and background may be one.
-template <typename Channel>
+// Pixels side by side in one row of a tile. Picture and background may be one. A layer that strokes go through has 16 bits a
+// channel, one of a picture as many as that.
+template <typename Channel, typename OfLayer = std::uint16_t>
 struct BlendRow {
     Channel* picture;
     const Channel* background;
-    const std::uint16_t* layer;  // full scale 65535
-    const std::uint16_t* mask;   // of which alpha counts; null: none
-    int count;                   // pixels
-    float opacity;               // 0..1
-    RowNoise noise;              // from noiseAt(), as a rule
-    bool showsBare = false;      // replace shows the background where the layer holds nothing
+    const OfLayer* layer;
+    const OfLayer* mask;     // of which alpha counts; null: none
+    int count;               // pixels
+    float opacity;           // 0..1
+    RowNoise noise;          // from noiseAt(), as a rule
+    bool showsBare = false;  // replace shows the background where the layer holds nothing
 };
 
 // Rounds by noise instead of to the nearest, so that faint strokes over one another add up to what they hold. Places next
@@ -45,6 +46,7 @@ constexpr float upBy(std::uint32_t noise) {
 // blend type that is none counts as normal.
 void blendRows(std::uint32_t blendType, const BlendRow<std::uint8_t>& first, int rows);
 void blendRows(std::uint32_t blendType, const BlendRow<std::uint16_t>& first, int rows);
+void blendRows(std::uint32_t blendType, const BlendRow<std::uint8_t, std::uint8_t>& first, int rows);
 
 // What the processor offers, by name.
 const char* vectorsInUse();
