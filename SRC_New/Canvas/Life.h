@@ -5,8 +5,8 @@
 
 namespace dabcanvas {
 
-// Belongs to an object that its host may destroy in any callback; Alive tells after one whether it is still there. Where
-// it is not, no member may be touched.
+/// Belongs to an object that its host may destroy in any callback; Alive tells after one whether it is still there.
+/// Where it is not, no member may be touched.
 class Life {
 public:
     Life() : _token(std::make_shared<char>()) {}

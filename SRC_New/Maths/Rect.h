@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Whole pixels: sizes and rectangles with a top-left origin. Plain C++, for everything that paint lies in.
+/// \file
+/// Whole pixels: sizes and rectangles with a top-left origin. Plain C++, for everything that paint lies in.
 #pragma once
 
 #include <algorithm>
@@ -14,7 +15,7 @@ struct Size {
     friend bool operator==(const Size&, const Size&) = default;
 };
 
-// From (x, y) up to, but not with, (right(), bottom()). One without pixels is empty, wherever it lies.
+/// From (x, y) up to, but not with, (right(), bottom()). One without pixels is empty, wherever it lies.
 struct Rect {
     int x = 0, y = 0, width = 0, height = 0;
 
@@ -22,8 +23,8 @@ struct Rect {
     static Rect between(int left, int top, int right, int bottom) {
         return {left, top, (std::max)(right - left, 0), (std::max)(bottom - top, 0)};
     }
-    // Every pixel that the edges enclose, at least in part. Edges far off any buffer are taken as nearer; an edge that
-    // is no number makes it empty.
+    /// Every pixel that the edges enclose, at least in part. Edges far off any buffer are taken as nearer; an edge that
+    /// is no number makes it empty.
     static Rect covering(double left, double top, double right, double bottom) {
         static constexpr double kFar = 1 << 28;
         if (!(left < right && top < bottom)) {
@@ -43,7 +44,7 @@ struct Rect {
         return between((std::max)(x, other.x), (std::max)(y, other.y), (std::min)(right(), other.right()),
                        (std::min)(bottom(), other.bottom()));
     }
-    // The smallest one around both; an empty one adds nothing.
+    /// The smallest one around both; an empty one adds nothing.
     Rect united(const Rect& other) const {
         if (isEmpty() || other.isEmpty()) {
             return isEmpty() ? other : *this;
