@@ -24,6 +24,7 @@ protected:
     virtual void strokeWasWithdrawn() {}
 
     virtual void canvasSizeDidChange() {}
+    virtual void layersDidChange() {}
     virtual void pictureDidChange(const QRect& /*bufferPixels*/) {}
     virtual void canUndoDidChange(bool) {}
     virtual void canRedoDidChange(bool) {}

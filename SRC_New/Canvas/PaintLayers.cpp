@@ -404,7 +404,7 @@ const QImage& PaintLayers::display() {
     }
     if (!_stale.isEmpty() && !_display.isNull()) {
         const MutablePixelView all{_display.bits(), this->size(), _display.bytesPerLine()};
-        if (read(_stale, all.part(_stale))) {
+        if (look ? look(_stale, all.part(_stale)) : read(_stale, all.part(_stale))) {
             _stale = {};
         }
     }

@@ -107,8 +107,12 @@ public:
 
     // ---- looking
 
-    // The picture as premultiplied RGBA; only what changed since the last call is read. Valid until the next.
+    // What the canvas looks like as premultiplied RGBA; only what changed since the last call is read. Valid until the next.
     const QImage& display();
+    // Reads it, where that is more than the picture.
+    std::function<bool(const Rect& area, const MutablePixelView& rows)> look;
+    // It looks another way there, whatever the picture is.
+    void noteShown(const Rect& area) { noteChanged(area); }
     // Everything that was composited or placed since the last fill.
     const Rect& painted() const { return _painted; }
     // What changed of the picture since this was asked last.

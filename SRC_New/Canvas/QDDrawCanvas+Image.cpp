@@ -100,16 +100,21 @@ QImage QDDrawCanvas::newCGImageWithRect(const QRectF& rect) {
 
 // Null for an empty part and where there is no memory.
 QImage QDDrawCanvas::Parts::imageOf(const Rect& part) {
+    return imageBy({part.width, part.height}, [&](const MutablePixelView& rows) { return read(part, rows); });
+}
+
+QImage QDDrawCanvas::Parts::imageBy(const Size& size,
+                                    const std::function<bool(const MutablePixelView&)>& read) {
     const Host::Call call(host);
-    if (part.isEmpty() || !finishPreview()) {
+    if (size.width <= 0 || size.height <= 0 || !finishPreview()) {
         return {};
     }
-    QImage image(part.width, part.height, kDataFormat);
+    QImage image(size.width, size.height, kDataFormat);
     if (image.isNull()) {
-        qCWarning(lcDabcanvas, "there is no memory for an image of %d x %d pixels", part.width, part.height);
+        qCWarning(lcDabcanvas, "there is no memory for an image of %d x %d pixels", size.width, size.height);
         return image;
     }
-    return read(part, viewOf(image)) ? image : QImage();
+    return read(viewOf(image)) ? image : QImage();
 }
 
 bool QDDrawCanvas::readData(unsigned char* bytes, const QRectF& rect) {

@@ -7,6 +7,7 @@
 #include <numbers>
 #include <utility>
 
+#include "Canvas/CanvasLayers.h"
 #include "Canvas/CanvasLog.h"
 #include "Canvas/QDDrawCanvasParts.h"
 #include "Canvas/SurfaceChoice.h"
@@ -107,6 +108,10 @@ GLSurface* QDDrawCanvas::glSurface() {
         }
     }
     return asGLSurface(surface());
+}
+
+CanvasLayers QDDrawCanvas::layers() {
+    return CanvasLayers(*this);
 }
 
 bool QDDrawCanvas::setCanvasArea(const QRect& area) {

@@ -31,6 +31,7 @@ class LeafDrawing;
 
 namespace dabcanvas {
 class CanvasInput;
+class CanvasLayers;
 class GLSurface;
 class PaintSurface;
 }  // namespace dabcanvas
@@ -137,6 +138,8 @@ public:
     void clear();
     void clearOnline(bool online);
     void clearWithColor(const ESColor& color, bool online);
+
+    dabcanvas::CanvasLayers layers();  ///< see there; all else is of the active one, but for displayImage()
 
     QSizeF bufferSize() const;
     /// The buffer becomes this area of itself, in its pixels; what lies outside of what it was is transparent. False,
@@ -422,6 +425,7 @@ protected:
 
 private:
     friend class QDBrushManager;
+    friend class dabcanvas::CanvasLayers;
     dabcanvas::BrushValue storedValue(dabcanvas::BrushKey key) const;
     void store(dabcanvas::BrushKey key, const dabcanvas::BrushValue& value);
     void restoreSubLine(float slRadius, float relationValue);

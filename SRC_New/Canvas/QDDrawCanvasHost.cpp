@@ -162,6 +162,11 @@ void QDDrawCanvas::Host::canvasSizeChanged() {
     _sizeChanged = true;
 }
 
+void QDDrawCanvas::Host::layersChanged() {
+    const Call call(*this);
+    _layersChanged = true;
+}
+
 void QDDrawCanvas::Host::brushChanged() {
     const Call call(*this);
     _brushChanged = true;
@@ -186,6 +191,9 @@ void QDDrawCanvas::Host::tellAll(const Before& before) {
     const Alive alive(life);
     if (std::exchange(_sizeChanged, false)) {
         _canvas.canvasSizeDidChange();
+    }
+    if (alive && std::exchange(_layersChanged, false)) {
+        _canvas.layersDidChange();
     }
     if (const auto shown = alive ? std::exchange(_showsPreview, {}) : std::nullopt) {
         _canvas.showLeafDrawView(*shown);

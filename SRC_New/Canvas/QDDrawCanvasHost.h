@@ -91,6 +91,7 @@ public:
     void showPreview(bool shown);
     void brushChanged();
     void canvasSizeChanged();
+    void layersChanged();
     // A stroke's end is on its way: it stays, or nothing of it does.
     void strokeEnds(bool stays) { _strokeStays = stays; }
     // The same of an end that no delegate hears of.
@@ -113,7 +114,7 @@ private:
     std::vector<QRectF> _toShow;
     std::optional<bool> _showsPreview;
     bool _lossTold = false, _lossIsNew = false;
-    bool _brushChanged = false, _sizeChanged = false;
+    bool _brushChanged = false, _sizeChanged = false, _layersChanged = false;
     bool _strokeBegan = false;    // and its end was not told of yet
     bool _strokeWasLeft = false;  // as it is to be when the call is done
     bool _strokeStays = false;

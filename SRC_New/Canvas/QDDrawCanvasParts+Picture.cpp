@@ -168,6 +168,7 @@ StepPicture QDDrawCanvas::Parts::redo() {
 StepPicture QDDrawCanvas::Parts::went(CanvasHistory::Outcome outcome, const Rect& changed,
                                       bool (CanvasInput::*step)()) {
     const bool wasUntold = std::exchange(isUntold, true);
+    layersChanged();
     const StepPicture picture = stepped(outcome, changed);
     isUntold = wasUntold;
     tellStep(outcome, step);
@@ -219,11 +220,16 @@ bool QDDrawCanvas::Parts::setArea(const QRect& area) {
 // Nothing is drawn or told but that it has another size.
 bool QDDrawCanvas::Parts::cropTo(const Rect& area) {
     const Host::Call call(host);
+    QString problem;
     auto surface = makeSurface(QSizeF(area.width, area.height), presentOptions());
-    if (!surface || !layers.cropTo(std::move(surface), area)) {
+    auto others = record.cropped(area, &problem);
+    if (!others) {
+        qCWarning(lcDabcanvas, "the canvas keeps its size: %ls", qUtf16Printable(problem));
+    }
+    if (!surface || !others || !layers.cropTo(std::move(surface), area)) {
         return false;
     }
-    record.forgetCanvas();
+    record.forgetCanvas(std::move(*others));
     lastTouched = {};
     makePreview();
     host.showPreview(brush.present().brushType == kPreviewBrush);
@@ -245,6 +251,7 @@ bool QDDrawCanvas::Parts::recover(const QString& id, QString* problem) {
     if (!history.recover(id, problem)) {
         return false;
     }
+    layersChanged();
     host.redisplayAll();
     if (kind() == StrokeKind::smudge) {
         prepareSmudge();

@@ -29,6 +29,7 @@ QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> sur
       entry(*this, host, view),
       pointer(entry, *this),
       record(layers),
+      look(layers, record.planes()),
       sketch(layers, record),
       placing(layers, [this] { settle(); }),
       history(layers, record, [this](const Size& size) { return cropTo(Rect::of(size)); }),
@@ -37,6 +38,9 @@ QDDrawCanvas::Parts::Parts(Host& hostOfCanvas, std::unique_ptr<PaintSurface> sur
         if (listener != nullptr) {
             listener->stepRecorded();
         }
+    };
+    layers.look = [this](const Rect& area, const MutablePixelView& rows) {
+        return record.planes().isPlain() ? layers.read(area, rows) : look.read(area, rows);
     };
     makePreview();
     brush.setListener(this);

@@ -12,6 +12,7 @@
 #include "Canvas/BrushState.h"
 #include "Canvas/CanvasHistory.h"
 #include "Canvas/ImagePlacing.h"
+#include "Canvas/LayerLook.h"
 #include "Canvas/PaintLayers.h"
 #include "Canvas/PointerGate.h"
 #include "Canvas/QDDrawCanvasHost.h"
@@ -39,6 +40,7 @@ public:
     dabcanvas::StrokeEntry entry;
     dabcanvas::PointerGate pointer;
     dabcanvas::RecordedCanvas record;
+    dabcanvas::LayerLook look;
     dabcanvas::ShapeSketch sketch;
     dabcanvas::ImagePlacing placing;
     dabcanvas::CanvasHistory history;
@@ -74,6 +76,8 @@ public:
                      double radian, bool isUndo);
     bool read(const dabcanvas::Rect& part, const dabcanvas::MutablePixelView& rows);
     QImage imageOf(const dabcanvas::Rect& part);
+    QImage imageBy(const dabcanvas::Size& size,
+                   const std::function<bool(const dabcanvas::MutablePixelView& rows)>& read);
     dabcanvas::StepPicture mark();
     dabcanvas::StepPicture autoMarked();
     dabcanvas::StepPicture resetHistory();
@@ -81,6 +85,11 @@ public:
     dabcanvas::StepPicture redo();
     bool recover(const QString& id, QString* problem);
     bool setArea(const QRect& area);
+    // The canvas becomes what `edit` makes of all of its layers, as a step where steps are recorded. False, and nothing
+    // changed, after a log line; or where edit gives none.
+    using LayerEdit = std::function<std::optional<dabcanvas::TilePicture>(const dabcanvas::TilePicture&)>;
+    bool editLayers(const LayerEdit& edit);
+    bool setActiveLayer(std::size_t layer);
     dabcanvas::SurfaceOptions presentOptions();
     dabcanvas::UndoRefusal refusal = dabcanvas::UndoRefusal::none;  // of the last of them
     void updateScale();
@@ -143,6 +152,8 @@ private:
 
     void makePreview();
     bool cropTo(const dabcanvas::Rect& area);
+    bool mayEditLayers();
+    void layersChanged();
     void leaveDrawn();
     void showDrawn(const std::optional<dabcanvas::Rect>& area, bool online);
     void endSketch(QPointF place, bool online);
@@ -160,10 +171,11 @@ private:
                                 bool (dabcanvas::CanvasInput::*step)());
     dabcanvas::StepPicture stepped(dabcanvas::CanvasHistory::Outcome outcome, const dabcanvas::Rect& changed);
 
-    bool _kindChanges = false;     // by the property that is being set
-    bool _valueChanges = false;    // so does its value
-    bool _recognisesAnew = false;  // so does recognition
-    bool _refusedStep = false;     // as a stroke was in progress
+    dabcanvas::PictureShape _shape;  // as it was told
+    bool _kindChanges = false;       // by the property that is being set
+    bool _valueChanges = false;      // so does its value
+    bool _recognisesAnew = false;    // so does recognition
+    bool _refusedStep = false;       // as a stroke was in progress
 };
 
 struct QDDrawCanvas::Inside {

@@ -35,7 +35,9 @@ void tellNoMemory(int line) {
 }
 
 RecordedCanvas::RecordedCanvas(PaintLayers& layers)
-    : _layers(layers), _tiles(std::make_shared<TileStore>(layers.size(), layers.surface().pixelBytes())) {}
+    : _layers(layers),
+      _tiles(std::make_shared<TileStore>(layers.size(), layers.surface().pixelBytes())),
+      _planes(layers.size()) {}
 
 // ---- Given
 
@@ -49,12 +51,17 @@ void RecordedCanvas::give(const QByteArray& data) {
 
 void RecordedCanvas::startAnew() {
     auto tiles = std::make_shared<TileStore>(_layers.size(), _layers.surface().pixelBytes());
+    LayerPlanes::Others others = othersIn(*tiles);
     give({});
+    becomeLayers(_planes.shape(), std::move(others));
     _tiles = std::move(tiles);
 }
 
-void RecordedCanvas::forgetCanvas() {
+void RecordedCanvas::forgetCanvas(LayerPlanes::Others others) {
     become(nullptr);
+    PictureShape shape = _planes.shape();
+    shape.size = _layers.size();
+    becomeLayers(shape, std::move(others));
     _told = nullptr;
     _bytes.clear();
     _isCanvas = false;
@@ -76,10 +83,13 @@ TilePicture RecordedCanvas::tilesOf(const QByteArray& bytes) {
     if (bytes.size() != bytesOfCanvas()) {
         throw std::bad_alloc();  // there was no memory for them
     }
-    const int pixelBytes = _layers.surface().pixelBytes();
-    TilePicture picture = _picture && _isCanvas ? *_picture : TilePicture(_layers.size());
     const auto* const block = reinterpret_cast<const std::uint8_t*>(bytes.constData());
-    const auto rows = PixelView::bottomRowFirst(block, _layers.size());
+    return tilesOf(PixelView::bottomRowFirst(block, _layers.size()),
+                   _picture && _isCanvas ? *_picture : TilePicture(_layers.size()));
+}
+
+TilePicture RecordedCanvas::tilesOf(const PixelView& rows, TilePicture picture) {
+    const int pixelBytes = _layers.surface().pixelBytes();
     for (std::size_t index = 0; index < picture.layout().count(); ++index) {
         const Rect rect = picture.layout().rectOf(index);
         const auto tile = newTile(pixelBytes);
@@ -147,8 +157,9 @@ bool RecordedCanvas::readCanvas() {
 }
 
 bool RecordedCanvas::read(int line) {
-    if (readCanvas()) {
-        _told = _picture;
+    const Picture whole = readCanvas() ? wholePicture() : nullptr;
+    if (whole) {
+        _told = whole;
         _bytes.clear();
         return true;
     }
@@ -159,7 +170,7 @@ bool RecordedCanvas::read(int line) {
 }
 
 std::shared_ptr<const TilePicture> RecordedCanvas::present() {
-    return !_given && readCanvas() ? _picture : nullptr;
+    return !_given && readCanvas() ? wholePicture() : nullptr;
 }
 
 void RecordedCanvas::refresh(int line) {
@@ -200,60 +211,28 @@ bool RecordedCanvas::place(const TilePicture& picture, std::size_t index, std::v
     return !tile || placed.back().tile;
 }
 
-std::optional<Rect> RecordedCanvas::show(const StepPicture& picture, QString* problem) {
-    *problem = QStringLiteral("there is no memory to put a step back");
-    return withMemory(
-        [&]() -> std::optional<Rect> {
-            if (!readCanvas()) {
-                return std::nullopt;
-            }
-            auto tiles = picture.tiles();
-            if (!tiles || tiles->layout().picture() != _layers.size() || !tiles->isIn(*_tiles)) {
-                tiles = std::make_shared<const TilePicture>(tilesOf(picture));
-            }
-            std::vector<PlacedTile> placed;
-            bool all = true;
-            Rect area;
-            tiles->forEachDifference(*_picture, [&](std::size_t index) {
-                all = all && place(*tiles, index, placed, problem);
-                area = area.united(tiles->layout().rectOf(index));
-            });
-            if (!all || !_layers.put(placed, area)) {
-                return std::nullopt;
-            }
-            become(std::move(tiles));
-            _told = _picture;
-            _bytes.clear();
-            for (const PlacedTile& shown : placed) {
-                if (const TileRef& tile = _picture->at(shown.index)) {
-                    TileStore::hold(*tile, shown.tile);
-                }
-            }
-            _layers.surface().forgetTouched(kPicture);
-            return area;
-        },
-        std::optional<Rect>());
-}
-
 // What this holds is what is shown: each version knows in how many places.
-void RecordedCanvas::become(std::shared_ptr<const TilePicture> picture) {
-    const auto change = [](const TileRef& from, const TileRef& to) {
-        if (to) {
-            TileStore::show(*to);
-        }
-        if (from) {
-            TileStore::retire(*from);
+void RecordedCanvas::changeShown(const TilePicture* from, const TilePicture* to) {
+    const auto show = [](const TileRef& tile) { tile ? TileStore::show(*tile) : void(); };
+    const auto retire = [](const TileRef& tile) { tile ? TileStore::retire(*tile) : void(); };
+    const auto all = [](const TilePicture* picture, const auto& change) {
+        for (std::size_t index = 0; picture != nullptr && index < picture->tiles(); ++index) {
+            change(picture->at(index));
         }
     };
-    const TilePicture* const old = _picture.get();
-    if (picture && old != nullptr) {
-        picture->forEachDifference(*old,
-                                   [&](std::size_t index) { change(old->at(index), picture->at(index)); });
-    } else if (const TilePicture* const one = old != nullptr ? old : picture.get()) {
-        for (std::size_t index = 0; index < one->layout().count(); ++index) {
-            old != nullptr ? change(one->at(index), nullptr) : change(nullptr, one->at(index));
-        }
+    if (from != nullptr && to != nullptr && from->shape().hasGridOf(to->shape())) {
+        to->forEachDifference(*from, [&](std::size_t index) {
+            show(to->at(index));
+            retire(from->at(index));
+        });
+    } else {
+        all(to, show);
+        all(from, retire);
     }
+}
+
+void RecordedCanvas::become(Picture picture) {
+    changeShown(_picture.get(), picture.get());
     _picture = std::move(picture);
     _given = false;
     _tiles->compress();

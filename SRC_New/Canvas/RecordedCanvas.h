@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "Canvas/LayerPlanes.h"
 #include "Canvas/PaintLayers.h"
 #include "History/StepPicture.h"
 #include "History/TilePicture.h"
@@ -30,8 +31,11 @@ public:
     const std::shared_ptr<TileStore>& tiles() const { return _tiles; }
     // With other tiles from now on, and no picture.
     void startAnew();
-    // The canvas has another size: with the same tiles, and no picture of it yet.
-    void forgetCanvas();
+    const LayerPlanes& planes() const { return _planes; }
+    // The layers that are not in the surface, as they are in an area of the canvas. None where that cannot be had.
+    std::optional<LayerPlanes::Others> cropped(const Rect& area, QString* problem);
+    // The canvas has another size: with the same tiles, and no picture of the front yet.
+    void forgetCanvas(LayerPlanes::Others others);
 
     // Any other picture, as a host does; sketches are taken back to it, all of it, until it is read anew.
     void give(const QByteArray& data);
@@ -39,7 +43,7 @@ public:
     // A transparent one, whatever the canvas is. False without the memory.
     bool giveBlank();
 
-    // What the canvas is now, which data() is not told of; null when it cannot be read.
+    // What the canvas is now, all layers of it, which data() is not told of; null when it cannot be read.
     std::shared_ptr<const TilePicture> present();
     // Makes it the present canvas. False, and nothing changed, when the surface is lost and, after the fixed message of
     // that line, without the memory.
@@ -49,28 +53,52 @@ public:
     // Canvas and background become it there; what was given becomes them everywhere, and is the canvas from now on. The
     // area of that; nothing when there is none that fits.
     std::optional<Rect> restore(const Rect& area);
-    // Canvas and background become another picture of their size, and so does this. The area that changed; nothing, and
-    // `problem` in words, without the memory or when that picture cannot be had.
-    std::optional<Rect> show(const StepPicture& picture, QString* problem);
+    // Which layer is in the surface after another picture was shown: the same, if there is such a one, or the picture's.
+    enum class FrontIs : std::uint8_t { kept, given };
+    // Canvas and background become another picture of their size, and so does this; what is only bytes becomes the front.
+    // The area that changed; nothing, and `problem` in words, without the memory or when that picture cannot be had.
+    std::optional<Rect> show(const StepPicture& picture, QString* problem, FrontIs front = FrontIs::kept);
+    // A layer of these rows, of 4 bytes a pixel, as large as the canvas. Throws std::bad_alloc.
+    TilePicture planeOf(const PixelView& rows) { return tilesOf(rows, TilePicture(_layers.size())); }
+    // Another layer goes into the surface. False, and nothing changed, where it cannot be had.
+    bool setFront(std::size_t layer, QString* problem);
 
 private:
     using Changes = std::vector<std::pair<std::size_t, TileRef>>;
+    using Picture = std::shared_ptr<const TilePicture>;
+    // Tiles of another picture with their pixels, those of the front by their place.
+    struct Fetched {
+        std::vector<PlacedTile> front;
+        std::vector<std::pair<TileRef, SharedTile>> others;
+        Rect area;
+    };
     TileSet tilesIn(const Rect& area) const;
     bool readCanvas();
     std::optional<Changes> readTiles(const TilePicture& before);
     TileRef version(const PlacedTile& read, const TileRef& before);
     TilePicture tilesOf(const QByteArray& bytes);
+    TilePicture tilesOf(const PixelView& rows, TilePicture picture);
     static bool place(const TilePicture& picture, std::size_t index, std::vector<PlacedTile>& placed,
                       QString* problem);
-    void become(std::shared_ptr<const TilePicture> picture);
+    Picture wholePicture() const;
+    Picture ownPicture(const StepPicture& picture, FrontIs front);
+    bool fetch(const TilePicture& next, const TilePicture& front, Fetched& fetched, QString* problem) const;
+    const TilePicture* planeOf(std::uint32_t layer) const;
+    Rect changedArea(const TilePicture& next) const;
+    bool crop(const TilePicture& from, const Rect& area, TilePicture& to, QString* problem) const;
+    LayerPlanes::Others othersIn(TileStore& tiles) const;
+    static void changeShown(const TilePicture* from, const TilePicture* to);
+    void become(Picture picture);
+    void becomeLayers(const PictureShape& shape, LayerPlanes::Others others);
 
     PaintLayers& _layers;
     std::shared_ptr<TileStore> _tiles;
-    std::shared_ptr<const TilePicture> _picture;  // as the canvas was read last, or what was given
-    std::shared_ptr<const TilePicture> _told;     // the same, as it was recorded last
-    QByteArray _bytes;                            // a host's, in its place
-    bool _isCanvas = false;                       // but for touched tiles it is the canvas's picture
-    bool _given = false;                          // by a host, and of the canvas's size
+    LayerPlanes _planes;
+    Picture _picture;        // the front as the canvas was read last, or what was given
+    Picture _told;           // with all layers, as it was recorded last
+    QByteArray _bytes;       // a host's, in its place
+    bool _isCanvas = false;  // but for touched tiles it is the canvas's picture
+    bool _given = false;     // by a host, and of the canvas's size
 };
 
 void tellNoMemory(int line);

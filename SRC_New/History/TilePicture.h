@@ -30,6 +30,7 @@ public:
     // A layer as a picture of its own, and the other way round; of the same size.
     TilePicture plane(std::size_t layer) const;
     void setPlane(std::size_t layer, const TilePicture& picture);
+    void setFront(std::size_t layer) { _shape.front = layer; }
     std::int64_t bytesOfRows() const {
         return std::int64_t{4} * _layout.picture().width * _layout.picture().height;
     }

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// What the layers of a canvas look like together.
+//
+// Units    buffer pixels.
+// Thread   one at a time.
+// Errors   false, and some of it written, where the surface or a tile cannot be read, and without the memory.
+#pragma once
+
+#include "Canvas/LayerPlanes.h"
+#include "Canvas/PaintLayers.h"
+
+namespace dabcanvas {
+
+class LayerLook {
+public:
+    LayerLook(PaintLayers& layers, const LayerPlanes& planes) : _layers(layers), _planes(planes) {}
+
+    // Into rows as large as the area, of 4 bytes a pixel or as many as the surface has.
+    bool read(const Rect& area, const MutablePixelView& rows);
+
+private:
+    bool readTiles(const Rect& area, const Rect& ofTiles, const MutablePixelView& rows);
+
+    PaintLayers& _layers;
+    const LayerPlanes& _planes;
+};
+
+// The tile that two layers make, the upper one by its settings; null where nothing is in it.
+SharedTile mergedTile(const SharedTile& lower, const SharedTile& upper, const LayerSettings& settings,
+                      int pixelBytes);
+
+}  // namespace dabcanvas

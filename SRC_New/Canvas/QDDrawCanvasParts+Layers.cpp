@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// What becomes of a canvas when its layers do.
+#include <utility>
+
+#include "Canvas/CanvasLog.h"
+#include "Canvas/QDDrawCanvasParts.h"
+
+using namespace dabcanvas;
+
+namespace {
+
+constexpr int kLayersLine = 2310;  // of the fixed message
+
+}  // namespace
+
+// Between strokes, when all that was drawn is part of a layer.
+bool QDDrawCanvas::Parts::mayEditLayers() {
+    if (isDrawing() || !finishPreview() || isLost()) {
+        qCWarning(lcDabcanvas, "layers cannot change in mid-stroke");
+        return false;
+    }
+    settleSketch();
+    settle();
+    return true;
+}
+
+void QDDrawCanvas::Parts::layersChanged() {
+    const PictureShape& now = record.planes().shape();
+    const PictureShape before = std::exchange(_shape, now);
+    if (before.front == now.front && before.layers == now.layers) {
+        return;
+    }
+    updateStyle();
+    host.layersChanged();
+}
+
+bool QDDrawCanvas::Parts::editLayers(const LayerEdit& edit) try {
+    const Host::Call call(host);
+    if (!mayEditLayers()) {
+        return false;
+    }
+    history.noteBeforeResize();
+    auto present = record.present();
+    if (!present && record.read(kLayersLine)) {
+        present = record.data().tiles();
+    }
+    auto next = present ? edit(*present) : std::nullopt;
+    if (!next) {
+        return false;
+    }
+    QString problem;
+    const auto changed = record.show(StepPicture(std::make_shared<const TilePicture>(std::move(*next))),
+                                     &problem, RecordedCanvas::FrontIs::given);
+    if (!changed) {
+        qCWarning(lcDabcanvas, "the layers stay as they are: %ls", qUtf16Printable(problem));
+        return false;
+    }
+    layers.edits.changed();
+    layersChanged();
+    redisplay(*changed);
+    if (kind() == StrokeKind::smudge) {
+        prepareSmudge();
+    }
+    if (autoMarked().isNull()) {
+        history.note();
+    }
+    return true;
+} catch (const std::bad_alloc&) {
+    tellNoMemory(kLayersLine);
+    return false;
+}
+
+bool QDDrawCanvas::Parts::setActiveLayer(std::size_t layer) {
+    const Host::Call call(host);
+    QString problem;
+    if (layer == record.planes().shape().front) {
+        return true;
+    }
+    if (!mayEditLayers()) {
+        return false;
+    }
+    if (!record.setFront(layer, &problem)) {
+        qCWarning(lcDabcanvas, "the layer cannot be had: %ls", qUtf16Printable(problem));
+        return false;
+    }
+    layersChanged();
+    if (kind() == StrokeKind::smudge) {
+        prepareSmudge();
+    }
+    return true;
+}
