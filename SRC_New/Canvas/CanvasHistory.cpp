@@ -42,6 +42,7 @@ Pictures picturesOf(const JournalContents& contents, const TileStore& tiles) {
         auto picture = step.base < 0
                            ? std::make_shared<TilePicture>(step.picture)
                            : std::make_shared<TilePicture>(*pictures[static_cast<std::size_t>(step.base)]);
+        picture->setShape(step.picture);
         for (const TileChange& change : step.changes) {
             picture->set(change.index, tiles.adopted(change.tile));
         }

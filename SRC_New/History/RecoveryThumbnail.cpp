@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "History/Packing.h"
-#include "Surface/TileSet.h"
+#include "Processor/LayerTiles.h"
+#include "Surface/TilePixels.h"
 
 namespace dabcanvas {
 
@@ -90,30 +91,81 @@ QByteArray pixelsOf(const JournalContents& contents, std::uint64_t tile) {
     return pixels.size() == expected ? pixels : QByteArray();
 }
 
+// What a layer looks like; null when a tile is lost.
+QImage reducedLayer(const JournalContents& contents, const std::vector<TileChange>& tiles, std::size_t layer,
+                    int side) {
+    const TileLayout layout(contents.pictureSize());
+    const bool deep = contents.format.pixelBytes == 8;
+    Averages averages(layout.picture(), side);
+    for (const TileChange& tile : tiles) {
+        if (tile.index / layout.count() != layer) {
+            continue;
+        }
+        const QByteArray pixels = pixelsOf(contents, tile.tile);
+        const Rect place = layout.rectOf(tile.index % layout.count());
+        if (pixels.isNull()) {
+            return {};
+        }
+        if (deep) {
+            averages.add<std::uint16_t>(pixels, place.x, place.y);
+        } else {
+            averages.add<std::uint8_t>(pixels, place.x, place.y);
+        }
+    }
+    return averages.image(deep ? 65535 : 255);
+}
+
+// Small pictures are put together as the canvas is: a tile's worth of them at a time.
+void compose(const std::vector<QImage>& layers, const std::vector<Layer>& settings, QImage* result) {
+    const auto part = [](const QImage& image, const Rect& place) {
+        return PixelView{image.constScanLine(place.y) + qsizetype{place.x} * 4,
+                         {place.width, place.height},
+                         image.bytesPerLine()};
+    };
+    const TileLayout layout(Size{result->width(), result->height()});
+    for (std::size_t index = 0; index < layout.count(); ++index) {
+        const Rect place = layout.rectOf(index);
+        const auto composed = newTile(4);
+        std::vector<SharedTile> tiles;
+        LayeredTile tile{{}, composed.get()};
+        for (std::size_t i = 0; i < layers.size(); ++i) {
+            const auto pixels = newTile(4);
+            copyRows(part(layers[i], place), rowsOfTile(pixels, {place.width, place.height}, 4));
+            if (settings[i].settings.isVisible) {
+                tile.layers.push_back(
+                    {pixels.get(), settings[i].settings.blendType, settings[i].settings.opacity});
+            }
+            tiles.push_back(pixels);
+        }
+        composeTiles({&tile, 1}, 4);
+        copyRows(rowsOfTile(SharedTile(composed), {place.width, place.height}, 4),
+                 {result->scanLine(place.y) + qsizetype{place.x} * 4,
+                  {place.width, place.height},
+                  result->bytesPerLine()});
+    }
+}
+
 }  // namespace
 
 QImage thumbnailOf(const JournalContents& contents, int step, int side) {
     if (step < 0) {
         return {};
     }
-    const Size& picture = contents.pictureSize();
-    const bool deep = contents.format.pixelBytes == 8;
-    Averages averages(picture, side);
-    const auto columns = static_cast<std::uint32_t>((picture.width + kTileSide - 1) / kTileSide);
-    for (const TileChange& tile : contents.pictureOf(step)) {
-        const QByteArray pixels = pixelsOf(contents, tile.tile);
-        const int x = static_cast<int>(tile.index % columns) * kTileSide;
-        const int y = static_cast<int>(tile.index / columns) * kTileSide;
-        if (pixels.isNull()) {
+    const PictureShape& shape = contents.steps[static_cast<std::size_t>(step)].picture;
+    const std::vector<TileChange> tiles = contents.pictureOf(step);
+    std::vector<QImage> layers;
+    for (std::size_t i = 0; i < shape.planes(); ++i) {
+        layers.push_back(reducedLayer(contents, tiles, i, side));
+        if (layers.back().isNull()) {
             return {};
         }
-        if (deep) {
-            averages.add<std::uint16_t>(pixels, x, y);
-        } else {
-            averages.add<std::uint8_t>(pixels, x, y);
-        }
     }
-    return averages.image(deep ? 65535 : 255);
+    if (!shape.layers) {
+        return layers.front();
+    }
+    QImage result(layers.front().size(), QImage::Format_RGBA8888_Premultiplied);
+    compose(layers, *shape.layers, &result);
+    return result;
 }
 
 }  // namespace dabcanvas

@@ -31,6 +31,7 @@ public:
     TilePicture plane(std::size_t layer) const;
     void setPlane(std::size_t layer, const TilePicture& picture);
     void setFront(std::size_t layer) { _shape.front = layer; }
+    void setShape(const PictureShape& shape) { _shape = shape; }  // of the same grid
     std::int64_t bytesOfRows() const {
         return std::int64_t{4} * _layout.picture().width * _layout.picture().height;
     }

@@ -99,6 +99,10 @@ void QDDrawView::viewDidChange() {
     emit viewChanged();
 }
 
+void QDDrawView::layersDidChange() {
+    emit layersChanged();
+}
+
 void QDDrawView::canvasSizeDidChange() {
     const QPointer<QDDrawView> alive(this);
     CanvasDisplay::canvasSizeDidChange();

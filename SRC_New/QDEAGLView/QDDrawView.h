@@ -98,6 +98,7 @@ Q_SIGNALS:
     void strokeWithdrawn();
     /// All others come when the call that caused them is done.
     void canvasSizeChanged();
+    void layersChanged();  ///< one came or went, or is another way; or another is active
     void canvasChanged(const QRect& bufferPixels);
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);
@@ -157,6 +158,7 @@ protected:
         Q_EMIT strokeWithdrawn();
     }
     void canvasSizeDidChange() override;
+    void layersDidChange() override;
     void pictureDidChange(const QRect& bufferPixels) override;
     void canUndoDidChange(bool can) override {
         Q_EMIT canUndoChanged(can);

@@ -173,6 +173,10 @@ void ItemDisplay::viewDidChange() {
     Q_EMIT _item.viewChanged();
 }
 
+void ItemDisplay::layersDidChange() {
+    Q_EMIT _item.layersChanged();
+}
+
 void ItemDisplay::canvasSizeDidChange() {
     CanvasDisplay::canvasSizeDidChange();
     const QSizeF points = bufferSize() / viewPixelRatio();

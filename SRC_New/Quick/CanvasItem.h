@@ -127,6 +127,7 @@ Q_SIGNALS:
     void strokeEnded(QPointF place);
     void strokeWithdrawn();
     void canvasSizeChanged();
+    void layersChanged();
     void canvasChanged(const QRect& bufferPixels);
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);

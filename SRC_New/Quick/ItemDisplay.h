@@ -45,6 +45,7 @@ protected:
     void strokeDidEnd(QPointF place) override { Q_EMIT _item.strokeEnded(place); }
     void strokeWasWithdrawn() override { Q_EMIT _item.strokeWithdrawn(); }
     void canvasSizeDidChange() override;
+    void layersDidChange() override;
     void pictureDidChange(const QRect& bufferPixels) override;
     void canUndoDidChange(bool can) override { Q_EMIT _item.canUndoChanged(can); }
     void canRedoDidChange(bool can) override { Q_EMIT _item.canRedoChanged(can); }
