@@ -10,6 +10,7 @@ uniform sampler2D u_canvasTexture;    // the canvas as it was before the stroke
 uniform sampler2D u_beforeTexture;    // the smudge layer as it was then
 uniform sampler2D u_coverageTexture;  // how much of each canvas pixel the stroke has exchanged: alpha
 uniform float u_opacity;
+uniform float u_locksAlpha;           // 1: the canvas keeps its own
 #ifdef NOISE
 uniform float u_noiseStep, u_noiseTurn;
 #endif
@@ -47,6 +48,9 @@ void main() {
     brought = max(brought, 0.0) * min(1.0, exchanged / max(brought.a, 1e-6));
     brought.rgb = min(brought.rgb, vec3(brought.a));
     fragColor = mix(canvas, canvas * (1.0 - exchanged) + brought, u_opacity);
+    if (u_locksAlpha > 0.0) {
+        fragColor = fragColor.a > 0.0 ? vec4(fragColor.rgb * (canvas.a / fragColor.a), canvas.a) : canvas;
+    }
 #ifdef NOISE
     fragColor += u_noiseStep * dabNoise(u_noiseTurn);
 #endif

@@ -377,7 +377,8 @@ void QDDrawCanvas::Parts::brushChanged(BrushKey key) {
 
 // How layers go onto the canvas. In mid-stroke, what was drawn without a mask must not be masked, nor the other way round.
 void QDDrawCanvas::Parts::updateStyle() {
-    const CompositeStyle style = brush.compositeStyle();
+    CompositeStyle style = brush.compositeStyle();
+    style.locksAlpha = record.planes().frontSettings().locksAlpha;
     const bool inALine =
         style.masked != layers.style().masked && isDrawing() && kind() != StrokeKind::preview;
     if (inALine) {

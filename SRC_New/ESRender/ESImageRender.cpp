@@ -48,6 +48,23 @@ void readAs(Placement::Reading reading) {
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, exact ? GL_NEAREST : GL_LINEAR);
 }
 
+// The text of a mode on a background without holes, whose colours come onto the background's own alpha.
+QString onLockedAlpha(QString fragment) {
+    fragment.replace(QLatin1String("texture(u_bgTexture, v_bgCoord)"), QLatin1String("opaqueBackground()"));
+    fragment.replace(QLatin1String("void main()"), QLatin1String("void mixedMain()"));
+    return ESShaderTools::withDefines(fragment, QStringLiteral("vec4 opaqueBackground();\n")) +
+           QStringLiteral(
+               "\nvec4 opaqueBackground() {\n"
+               "    vec4 B = texture(u_bgTexture, v_bgCoord);\n"
+               "    return B.a > 0.0 ? vec4(min(B.rgb / B.a, 1.0), 1.0) : vec4(0.0);\n"
+               "}\n"
+               "void main() {\n"
+               "    mixedMain();\n"
+               "    vec4 B = texture(u_bgTexture, v_bgCoord);\n"
+               "    fragColor = fragColor.a > 0.0 ? vec4(fragColor.rgb * (B.a / fragColor.a), B.a) : B;\n"
+               "}\n");
+}
+
 // The text of a mode, whose main() gets another name, with what rounds its result.
 QString withNoise(const QString& fragment, int depth) {
     return ESShaderTools::withDefines(fragment, QStringLiteral("#define main blendedMain\n")) +
@@ -179,7 +196,8 @@ void ESImageRender::programDidChange() {
 void ESImageRender::setBlendType(std::uint32_t blendType) {
     _blendType = blendType;
     const QString vertex = vertexShaderStringForBlendType(blendType);
-    const QString fragment = fragmentShaderStringForBlendType(blendType);
+    const QString plain = fragmentShaderStringForBlendType(blendType);
+    const QString fragment = _locksAlpha ? onLockedAlpha(plain) : plain;
     if (!_noiseTurn || !useProgramWithVertexShaderString(vertex, withNoise(fragment, _canvasDepth))) {
         useProgramWithVertexShaderString(vertex, fragment);
     }
@@ -189,6 +207,13 @@ void ESImageRender::setNoiseTurn(std::optional<float> turn) {
     const bool switches = turn.has_value() != _noiseTurn.has_value();
     _noiseTurn = turn;
     if (switches) {
+        setBlendType(_blendType);
+    }
+}
+
+void ESImageRender::setLocksAlpha(bool locks) {
+    if (_locksAlpha != locks) {
+        _locksAlpha = locks;
         setBlendType(_blendType);
     }
 }

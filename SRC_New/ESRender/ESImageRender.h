@@ -65,6 +65,9 @@ public:
     /// pixel with none stays as it is. Without a turn, rounds to nearest.
     void setNoiseTurn(std::optional<float> turn);
 
+    /// The canvas keeps its alpha, as if the mode's background had no holes.
+    void setLocksAlpha(bool locks);
+
     // ---- what is combined
 
     void setLineTextureID(GLuint texture, GLenum texturePos);
@@ -154,6 +157,7 @@ private:
     Role _background, _line, _subLine;
     int _canvasDepth = 8;
     std::optional<float> _noiseTurn;
+    bool _locksAlpha = false;
 
     GLint _positionIndex = -1, _texCoordIndex = -1;
     dabcanvas::UniformFloat _opacityUniform, _radianUniform, _noiseTurnUniform;

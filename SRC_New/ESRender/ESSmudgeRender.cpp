@@ -183,6 +183,7 @@ ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
     show.noiseTurn = program->uniformIndex(smudge::kNoiseTurn);
     show.noiseStep = program->uniformIndex(smudge::kNoiseStep);
     show.opacity = program->uniformIndex(smudge::kOpacity);
+    show.locksAlpha = program->uniformIndex(smudge::kLocksAlpha);
     show.program = std::move(program);
     return show;
 }
@@ -542,6 +543,7 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
             glUniform1i(source.uniform, static_cast<GLint>(source.unit - GL_TEXTURE0));
         }
         glUniform1f(show.opacity, opacity());
+        glUniform1f(show.locksAlpha, _locksAlpha ? 1 : 0);
         glUniform1f(show.noiseStep, _noiseStep);
         glUniform1f(show.noiseTurn, _noiseTurn.value_or(0));
         useSmudgeTexture();

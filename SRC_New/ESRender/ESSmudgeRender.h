@@ -108,6 +108,9 @@ public:
         _noiseStep = turn ? 1.0f / static_cast<float>((1 << canvasDepth) - 1) : 0;
     }
 
+    /// What is shown keeps the canvas's alpha.
+    void setLocksAlpha(bool locks) { _locksAlpha = locks; }
+
     /// Where the driver has a texture barrier, a dab that lies clear of its pick-up place reads the layer itself;
     /// else, and always without one, it reads a copy. The picture is the same.
     void setUseTextureBarrier(bool value) { _useTextureBarrier = value && hasTextureBarrier(); }
@@ -126,6 +129,7 @@ private:
         GLint position = -1, texCoord = -1;
         GLint viewSize = -1, center = -1, pointSize = -1, roundness = -1, source = -1;
         GLint canvas = -1, before = -1, coverage = -1, noiseTurn = -1, noiseStep = -1, opacity = -1;
+        GLint locksAlpha = -1;
     };
 
     ShowProgram makeShowProgram(bool fill) const;
@@ -166,6 +170,7 @@ private:
     std::uint32_t _noiseCount = 0;
     std::optional<float> _noiseTurn;
     float _noiseStep = 0;
+    bool _locksAlpha = false;
     GLint _bgCoordIndex = -1;
     GLint _dabRecord = -1;  // -1 for a program that is given the uniforms of each dab
     dabcanvas::UniformFloat _moist, _load, _mix;

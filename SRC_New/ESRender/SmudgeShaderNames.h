@@ -27,6 +27,7 @@ inline constexpr char kCanvasTexture[] = "u_canvasTexture";
 inline constexpr char kBeforeTexture[] = "u_beforeTexture";
 inline constexpr char kCoverageTexture[] = "u_coverageTexture";
 inline constexpr char kOpacity[] = "u_opacity";
+inline constexpr char kLocksAlpha[] = "u_locksAlpha";
 inline constexpr char kNoiseTurn[] = "u_noiseTurn";
 inline constexpr char kNoiseStep[] = "u_noiseStep";
 

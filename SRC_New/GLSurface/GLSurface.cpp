@@ -374,7 +374,7 @@ void GLSurface::warmUpSmudging() {
     render->drawSmudges(dabs, 1);
     render->takeCoverage();
     _context->beginRenderForType(ESRenderTypeCanvas);
-    showSmudges({0, 0, 1, 1}, 1, 0);
+    showSmudges({0, 0, 1, 1}, {}, 0);
     _context->finishRender();
 }
 
@@ -397,12 +397,13 @@ Rect GLSurface::smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, f
 }
 
 // Puts one rectangle of the smudge layer onto the picture, which is the target.
-void GLSurface::showSmudges(const Rect& rect, float opacity, std::uint32_t kept) {
+void GLSurface::showSmudges(const Rect& rect, const CompositeStyle& style, std::uint32_t kept) {
     auto& render = static_cast<ESSmudgeRender&>(*_smudge.render);
     _context->setBlendWithSCFactor(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
     render.setShowSources(_context->lineTexture(), _compositor->backgroundTexture());
     render.setNoiseTurn(noiseTurn(kept), _context->canvasDepth());
-    render.setOpacity(opacity);
+    render.setOpacity(style.opacity);
+    render.setLocksAlpha(style.locksAlpha);
     render.setRoundness(roundnessOf(rect));
     const LPPoint dab = dabOf(rect);
     render.drawPoints(&dab, 1, ESSmudgeDrawShow);
@@ -445,6 +446,7 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
     // Drying takes paint away that was composited there.
     const bool startsAnew = isDry && leavesNearlyBare(style.blendType);
     _compositor->setLeavesBare(isDry);
+    _compositor->setLocksAlpha(style.locksAlpha);
     if (isDry) {
         _compositor->setLineTextureID((*_wetLayer)->texture(), kLineUnit);
     }
@@ -456,13 +458,13 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
         }
         _kept.forEachPart(cut, [&](const Rect& part, std::uint32_t kept) {
             if (style.smudged) {
-                showSmudges(part, style.opacity, kept);
+                showSmudges(part, style, kept);
                 return;
             }
             if (startsAnew) {
                 blend(part, ESBlendTypeReset, 1, false, kept);
             }
-            blend(part, style.blendType, style.opacity, style.masked, kept);
+            blend(part, style.shownType(), style.opacity, style.masked, kept);
         });
         _kept.blended(cut);
         noteChanged(picture, cut);
@@ -470,6 +472,7 @@ void GLSurface::composite(PictureId picture, std::span<const Rect> rects, const 
     if (isDry) {
         _compositor->setLineTextureID(_context->lineTexture(), kLineUnit);
     }
+    _compositor->setLocksAlpha(false);
     _context->finishRender();
 }
 

@@ -94,7 +94,7 @@ private:
     bool isFine() const { return _context->layerDepth() > 8; }
     void blend(const Rect& rect, std::uint32_t blendType, float opacity, bool masked, std::uint32_t kept);
     bool dry(std::span<const Rect> rects, const CompositeStyle& style);
-    void showSmudges(const Rect& rect, float opacity, std::uint32_t kept);
+    void showSmudges(const Rect& rect, const CompositeStyle& style, std::uint32_t kept);
     std::optional<float> noiseTurn(std::uint32_t kept) const;
     void noteChanged(PictureId picture, const Rect& rect);
     bool provideBand(std::size_t bytes);

@@ -62,6 +62,11 @@ HWY_INLINE Value onWhite(Value pixel) {
     return hn::Add(hn::Sub(full<Channel>(), alphaOf(pixel)), pixel);
 }
 
+HWY_INLINE auto alphaLanes() {
+    const auto isAlpha = hn::Eq(hn::And(hn::Iota(kInts, 0), hn::Set(kInts, 3)), hn::Set(kInts, 3));
+    return hn::RebindMask(kFloats, isAlpha);
+}
+
 // What a mode makes of a background and a layer, premultiplied, and whether pixels without paint in the layer stay.
 struct Normal {
     static constexpr bool kLeavesBare = false;
@@ -110,9 +115,7 @@ struct Brightness {
     static constexpr bool kLeavesBare = true;
     template <typename Channel>
     static HWY_INLINE Value mix(Value back, Value line) {
-        const auto isAlpha = hn::Eq(hn::And(hn::Iota(kInts, 0), hn::Set(kInts, 3)), hn::Set(kInts, 3));
-        return hn::IfThenElse(hn::RebindMask(kFloats, isAlpha), over<Channel>(back, line),
-                              hn::Max(back, line));
+        return hn::IfThenElse(alphaLanes(), over<Channel>(back, line), hn::Max(back, line));
     }
 };
 struct Multiply {
@@ -129,6 +132,23 @@ struct Reset {
     template <typename Channel>
     static HWY_INLINE Value mix(Value back, Value) {
         return back;
+    }
+};
+
+// Any mode, on a background of which only the colours change: as if it had no holes.
+template <typename Mode>
+struct Locked {
+    static constexpr bool kLeavesBare = Mode::kLeavesBare;
+    template <typename Channel>
+    static HWY_INLINE Value mix(Value back, Value line) {
+        const Value alpha = alphaOf(back);
+        const auto isThere = hn::Gt(alpha, hn::Zero(kFloats));
+        const Value mixed = Mode::template mix<Channel>(
+            hn::IfThenElseZero(isThere, hn::Mul(back, hn::Div(full<Channel>(), alpha))), line);
+        const Value left = alphaOf(mixed);
+        const Value colours =
+            hn::IfThenElse(hn::Gt(left, hn::Zero(kFloats)), hn::Mul(mixed, hn::Div(alpha, left)), back);
+        return hn::IfThenElse(alphaLanes(), back, colours);
     }
 };
 
@@ -282,32 +302,44 @@ void blendNormal(const BlendRow<std::uint8_t, std::uint8_t>& row) {
     blendWhole<Normal>(row);
 }
 
-// The kernel of a mode.
+// The kernel of a mode; Of<Mode> is what it makes of pixels.
+template <template <typename> typename Of, typename Channel, typename OfLayer>
+auto kernelOf(std::uint32_t blendType, bool showsBare) -> void (*)(const BlendRow<Channel, OfLayer>&) {
+    switch (blendType) {
+        case ESBlendTypeReplace:
+            return showsBare ? blendWhole<Of<ReplaceInPaint>, Channel, OfLayer>
+                             : blendWhole<Of<Replace>, Channel, OfLayer>;
+        case ESBlendTypeBehind:
+            return blendWhole<Of<Behind>, Channel, OfLayer>;
+        case ESBlendTypeErase:
+            return blendWhole<Of<Erase>, Channel, OfLayer>;
+        case ESBlendTypeTarnish:
+            return blendWhole<Of<Tarnish>, Channel, OfLayer>;
+        case ESBlendTypeBrightness:
+            return blendWhole<Of<Brightness>, Channel, OfLayer>;
+        case ESBlendTypeMultiply:
+            return blendWhole<Of<Multiply>, Channel, OfLayer>;
+        case ESBlendTypeReset:
+            return blendWhole<Of<Reset>, Channel, OfLayer>;
+        default:
+            return blendWhole<Of<Normal>, Channel, OfLayer>;
+    }
+}
+template <typename Mode>
+using Plain = Mode;
+
+bool isNormal(std::uint32_t blendType) {
+    return blendType < ESBlendTypeReplace || blendType == 3 || blendType > ESBlendTypeReset;
+}
+
 template <typename Channel, typename OfLayer>
 auto kernelOf(std::uint32_t blendType, const BlendRow<Channel, OfLayer>& row)
     -> void (*)(const BlendRow<Channel, OfLayer>&) {
-    switch (blendType) {
-        case ESBlendTypeReplace:
-            return row.showsBare ? blendWhole<ReplaceInPaint, Channel, OfLayer>
-                                 : blendWhole<Replace, Channel, OfLayer>;
-        case ESBlendTypeBehind:
-            return blendWhole<Behind, Channel, OfLayer>;
-        case ESBlendTypeErase:
-            return blendWhole<Erase, Channel, OfLayer>;
-        case ESBlendTypeTarnish:
-            return blendWhole<Tarnish, Channel, OfLayer>;
-        case ESBlendTypeBrightness:
-            return blendWhole<Brightness, Channel, OfLayer>;
-        case ESBlendTypeMultiply:
-            return blendWhole<Multiply, Channel, OfLayer>;
-        case ESBlendTypeReset:
-            return blendWhole<Reset, Channel, OfLayer>;
-        default:
-            if (row.mask != nullptr) {
-                return blendWhole<Normal, Channel, OfLayer>;
-            }
-            return blendNormal;
+    if (isNormal(blendType) && row.mask == nullptr && !row.locksAlpha) {
+        return blendNormal;
     }
+    return row.locksAlpha ? kernelOf<Locked, Channel, OfLayer>(blendType, row.showsBare)
+                          : kernelOf<Plain, Channel, OfLayer>(blendType, row.showsBare);
 }
 
 template <typename Channel, typename OfLayer>

@@ -23,11 +23,12 @@ struct BlendRow {
     Channel* picture;
     const Channel* background;
     const OfLayer* layer;
-    const OfLayer* mask;     // of which alpha counts; null: none
-    int count;               // pixels
-    float opacity;           // 0..1
-    RowNoise noise;          // from noiseAt(), as a rule
-    bool showsBare = false;  // replace shows the background where the layer holds nothing
+    const OfLayer* mask;      // of which alpha counts; null: none
+    int count;                // pixels
+    float opacity;            // 0..1
+    RowNoise noise;           // from noiseAt(), as a rule
+    bool locksAlpha = false;  // see CompositeStyle
+    bool showsBare = false;   // replace shows the background where the layer holds nothing
 };
 
 // Rounds by noise instead of to the nearest, so that faint strokes over one another add up to what they hold. Places next

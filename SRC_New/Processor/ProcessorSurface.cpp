@@ -229,6 +229,27 @@ RowNoise PictureSurface<Channel>::noiseOf(std::size_t index, int x, int y) const
     return _isPlain ? kToNearest : RowNoise{noiseAt(x, y, _kept[index].times)};
 }
 
+// What was smudged there keeps its colours on the alpha of before.
+template <typename Channel>
+void lockAlpha(Tile<Channel>& picture, const Tile<Channel>* background, const Rect& part) {
+    for (int y = 0; y < part.height; ++y) {
+        Channel* to = picture.at(part.x % kTileSide, part.y % kTileSide + y);
+        for (int x = 0; x < part.width; ++x, to += 4) {
+            const Channel* const back = background != nullptr
+                                            ? background->at(part.x % kTileSide + x, part.y % kTileSide + y)
+                                            : nullptr;
+            const float alpha = back != nullptr ? back[3] : 0,
+                        share = to[3] > 0 ? alpha / static_cast<float>(to[3]) : 0;
+            for (std::size_t i = 0; i < 3; ++i) {
+                to[i] = to[3] > 0 || back == nullptr
+                            ? static_cast<Channel>(static_cast<float>(to[i]) * share + 0.5f)
+                            : back[i];
+            }
+            to[3] = static_cast<Channel>(alpha);
+        }
+    }
+}
+
 // The layer goes onto the picture in one part of a tile, with the background below, or the picture itself.
 template <typename Channel>
 void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, const Paint& paint,
@@ -242,8 +263,9 @@ void PictureSurface<Channel>::blendTile(std::size_t index, const Rect& part, con
         .count = part.width,
         .opacity = style.opacity,
         .noise = noiseOf(index, part.x, part.y),
+        .locksAlpha = style.locksAlpha,
         .showsBare = paint.showsBare};
-    blendRows(style.blendType, row, part.height);
+    blendRows(style.shownType(), row, part.height);
 }
 
 // Drawn by themselves and then put over the picture, which comes to the same.
@@ -282,6 +304,9 @@ void PictureSurface<Channel>::compositeTile(std::size_t index, const Rect& part,
             const int left = part.x / kTileSide * kTileSide, top = part.y / kTileSide * kTileSide;
             _smudges.composite(index, part, _picture.writable(index), _background.tile(index), style.opacity,
                                noiseOf(index, left, top));
+            if (style.locksAlpha) {
+                lockAlpha(_picture.writable(index), _background.tile(index), part);
+            }
         }
         return;
     }

@@ -13,6 +13,7 @@
 #include "Maths/Export.h"
 #include "Maths/PixelView.h"
 #include "Maths/Rect.h"
+#include "Surface/BlendType.h"
 #include "Surface/TilePixels.h"
 
 namespace dabcanvas {
@@ -50,11 +51,17 @@ struct CompositeStyle {
     std::uint32_t blendType = 1;  ///< a blend mode, see ESBlendType
     float opacity = 1;            ///< 0..1
     bool masked = false;          ///< the line layer counts where the sub-line layer has paint
-    bool smudged = false;         ///< what smudging brought, in place of line and blend mode
+    /// The picture's alpha stays as it is: colours mix as on a background without holes, and erasing changes nothing.
+    bool locksAlpha = false;
+    bool smudged = false;  ///< what smudging brought, in place of line and blend mode
     /// Before all else the line dries, unless it was smudged: pigment wanders to its rim.
     float wetEdge = 0;     ///< 0..1: how much paler its inside gets than its rim
     int wetEdgeWidth = 0;  ///< pixels, up to 64: how far the rim reaches in
 
+    /// The mode that it comes to.
+    std::uint32_t shownType() const {
+        return locksAlpha && blendType == ESBlendTypeErase ? std::uint32_t{ESBlendTypeReset} : blendType;
+    }
     /// So far from a pixel lies what decides how it comes out.
     int reach() const { return wetEdge > 0 && !smudged ? wetEdgeWidth : 0; }
 
