@@ -12,12 +12,12 @@
 
 namespace dabcanvas {
 
+struct EmbeddedPictures;
+
 /// Reads what RecordingWriter writes, whole or line by line.
 ///
 /// Errors   the first fault, with its line and its place in it; lines before it are good. What a line claims is
 ///          checked: numbers are finite and in reach, pictures have at most 2^28 pixels together.
-struct EmbeddedPictures;
-
 class DABCANVAS_RECORDING_API RecordingReader {
 public:
     RecordingReader();
