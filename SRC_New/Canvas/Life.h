@@ -18,6 +18,7 @@ private:
     std::shared_ptr<void> _token;
 };
 
+/// Taken before a callback of a host; false after it once the object has gone.
 class Alive {
 public:
     explicit Alive(const Life& life) : _token(life._token) {}

@@ -39,6 +39,7 @@ class DABCANVAS_DABS_API SmudgeMaker {
 public:
     SmudgeSettings settings;
 
+    /// Begins the next stroke.
     void reset() {
         _hasPlace = false;
         _place = {0, 0};

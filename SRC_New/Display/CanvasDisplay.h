@@ -43,7 +43,9 @@ public:
     /// What of the canvas is in the view's middle, in buffer pixels; to be set with ViewFit::free.
     QPointF viewCentre() const { return _transform.centre(); }
     void setViewCentre(QPointF bufferPoint);
+    /// Moves the canvas by so much.
     void panBy(QPointF viewPoints);
+    /// From buffer pixels to view points, and back.
     const QTransform& bufferToView() const { return _transform.toView(); }
     const QTransform& viewToBuffer() const { return _transform.toCanvas(); }
 

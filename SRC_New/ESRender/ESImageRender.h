@@ -36,7 +36,7 @@ public:
     void removeProgramWithVertexShaderString(const QString& vertexShaderString,
                                              const QString& fragmentShaderString) override;
 
-    // ---- default shaders: resources under "Shaders.bundle/"
+    // ---- Default shaders: resources under "Shaders.bundle/"
 
     static QString imageRenderVertexShaderString();
     static QString normalFSHString();
@@ -49,7 +49,7 @@ public:
     static QString resetFSHString();
     static QString placeFSHString();  ///< normal or replace, of a placed image with smooth edges
 
-    // ---- blend mode
+    // ---- Blend mode
 
     std::uint32_t blendType() const { return _blendType; }
     void setBlendType(std::uint32_t blendType);
@@ -65,7 +65,7 @@ public:
     /// pixel with none stays as it is. Without a turn, rounds to nearest.
     void setNoiseTurn(std::optional<float> turn);
 
-    // ---- what is combined
+    // ---- What is combined
 
     void setLineTextureID(GLuint texture, GLenum texturePos);
     void setSubLineTextureID(GLuint texture, GLenum texturePos);

@@ -40,6 +40,7 @@ private:
     std::shared_ptr<const TilePicture> _tiles;
 };
 
+/// Compares bytes, for which the picture becomes them.
 inline bool operator==(const StepPicture& picture, const QByteArray& bytes) {
     return picture.bytes() == bytes;
 }

@@ -12,6 +12,7 @@
 
 namespace dabcanvas {
 
+/// What a dead process left of a canvas.
 struct RecoverableHistory {
     QString id;
     QString path;         ///< of its folder

@@ -5,6 +5,7 @@
 
 #include "Maths/Export.h"
 
+/// Red, green and blue.
 struct RgbType {
     float r;
     float g;
@@ -18,6 +19,7 @@ struct HsvType {
     float v;
 };
 
+/// Of three numbers, as they are.
 DABCANVAS_STROKE_API RgbType RgbTypeMake(float r, float g, float b);
 DABCANVAS_STROKE_API HsvType HsvTypeMake(float h, float s, float v);
 

@@ -6,6 +6,7 @@
 /// Layout   floats without gaps, so that arrays of LPPoint go to the renderers as they are.
 #pragma once
 
+/// A place in the plane.
 struct LPPosition {
     float x;
     float y;

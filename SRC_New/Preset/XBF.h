@@ -51,6 +51,7 @@ struct XBFInfo {
     constexpr std::uint32_t kind() const { return static_cast<std::uint32_t>(versionAndKind >> 32); }
 };
 
+/// The header of a file that is to be written.
 constexpr XBFInfo XBFInfoMake(std::uint32_t version, std::uint32_t count) {
     return {std::uint64_t{kXBFKind} << 32 | version, count};
 }
@@ -60,10 +61,12 @@ struct _RGBAType {
     short r, g, b, a;
 };
 
+/// Of a data block, in its own unit.
 struct _XBFSize {
     int width, height;
 };
 
+/// A data block, such as an image.
 struct _XBFTexture {
     _XBFSize size;
     int depth;

@@ -91,20 +91,20 @@ public:
     }
 
 Q_SIGNALS:
-    /// Of a stroke, in buffer pixels, in the course of it. After each begin comes one of the two ends.
+    // ---- Signals of strokes: in buffer pixels, in the course of them; after each begin comes one of the two ends
     void strokeBegan(QPointF place);
     void strokeMoved(QPointF place);
     void strokeEnded(QPointF place);
-    void strokeWithdrawn();
-    /// All others come when the call that caused them is done.
+    void strokeWithdrawn();  ///< nothing of it stays
+    // ---- Signals of the canvas: when the call that caused them is done, once
     void canvasSizeChanged();
-    void canvasChanged(const QRect& bufferPixels);
+    void canvasChanged(const QRect& bufferPixels);  ///< these show something else
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);
     void modifiedChanged(bool modified);
-    void brushChanged();  ///< a property of it, or many at once
-    void viewChanged();   ///< fit, zoom, place, turn or mirroring
-    void contextLost();
+    void brushChanged();              ///< a property of it, or many at once
+    void viewChanged();               ///< fit, zoom, place, turn or mirroring
+    void contextLost();               ///< nothing can be painted any more, see QDDrawCanvas::isContextLost()
     void fingersTapped(int fingers);  ///< two or more, of a view that is navigable
 
 protected:

@@ -97,6 +97,7 @@ public:
     QSize canvasSize() const;
     /// The history begins anew. Empty: as large as the item, once it is shown.
     void setCanvasSize(const QSize& size);
+    /// What is wrong, in words, which the item shows as well; empty when all is well.
     QString problem() const;
 
     // ---- For QML. Files by path or URL; relative ones lie beside the QML file. Points as for QDDrawCanvas.

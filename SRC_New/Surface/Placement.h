@@ -26,6 +26,7 @@ public:
 
     /// Every edge runs between two pixels: no pixel is covered in part.
     bool isOnPixelEdges() const { return _onPixelEdges; }
+    /// By any angle, of which the others tell cosine and sine.
     bool isTurned() const { return _cosine != 1; }
     double cosine() const { return _cosine; }
     double sine() const { return _sine; }
