@@ -27,14 +27,15 @@ if [ -n "$dabpaint" ] && "$dabpaint" help properties | grep -q -e --reference; t
     "$dabpaint" properties --reference "$out/pages"
 fi
 
-python3 tools/reference/sources.py "$work/sources"
+python3 -B tools/reference/sources.py "$work/sources"
 shopt -s nullglob
-theme=(/usr/share/doxygen-awesome-css/doxygen-awesome{,-sidebar-only}.css)
+theme=(/usr/share/doxygen-awesome-css/doxygen-awesome{,-sidebar-only}.cs[s])  # none where it is not installed
 version=$(sed -n 's/^#define DABCANVAS_VERSION_[MP][A-Z]* //p' SRC_New/Maths/Version.h | paste -sd.)
 {
     cat docs/reference/Doxyfile
     echo "PROJECT_NUMBER = $version"
-    echo "INPUT = $work/sources" docs/guide/*.md "$out"/pages/*.md docs/recordings.md docs/architecture.md CHANGELOG.md
+    echo "INPUT = $work/sources" docs/guide/*.md "$out"/pages/*.md docs/recordings.md docs/architecture.md \
+        benchmarks/README.md CHANGELOG.md
     echo "USE_MDFILE_AS_MAINPAGE = $work/sources/README.md"
     echo "IMAGE_PATH = docs/images" "$out"/pages/*/
     echo "STRIP_FROM_PATH = $work/sources $work $root $out"
@@ -46,11 +47,14 @@ version=$(sed -n 's/^#define DABCANVAS_VERSION_[MP][A-Z]* //p' SRC_New/Maths/Ver
 } >"$work/Doxyfile"
 doxygen "$work/Doxyfile" >"$work/log" 2>&1 || cat "$work/log" >&2
 cat "$work/warnings" "$work/log" | sed "s,$work/sources/,SRC_New/,; s,$root/,," >&2
-[ ! -s "$work/warnings" ] && [ ! -s "$work/log" ]
-python3 tools/reference/check.py "$work/xml"
+if [ -s "$work/warnings" ] || [ -s "$work/log" ]; then
+    exit 1
+fi
+python3 -B tools/reference/check.py "$work/xml"
 if grep -rlF -e "$work" -e "$root" "$work/html" >&2; then
     echo "pages name a place on this machine" >&2
     exit 1
 fi
+rm -f "$work"/html/dir_*.html  # to which nothing leads
 mv "$work/html" "$out/html"
 echo "$out/html/index.html"

@@ -93,6 +93,19 @@ def with_properties(lines):
     return out
 
 
+def one_by_one(lines):
+    """Members that are declared together, a line each: a comment is about all of them."""
+    member = r"\w+(?:\{[^{}]*\}| = [^,;{}()]+)?"
+    together = re.compile(rf"(\s*(?:[\w:<>]+ )+)({member}(?:, {member})+);(\s*///<.*)?$")
+    for line in lines:
+        found = together.match(line)
+        if not found or found[1].strip() in ("return", "using"):
+            yield line
+            continue
+        for name in re.findall(member + r"(?=, |$)", found[2]):
+            yield f"{found[1]}{name};{found[3] or ''}"
+
+
 # ---- What each line is
 
 
@@ -192,11 +205,12 @@ def plain(text):
     for at in range(0, len(parts), 2):
         parts[at] = re.sub(r"([<>#@*&|])", r"\\\1", parts[at])
         parts[at] = re.sub(r"(?:\w+/)*\b(\w+\.h)\b", leads, parts[at])
+        parts[at] = re.sub(r"\bdocs/(\w+)\.md\b", r'\\ref md_docs_\1 "\g<0>"', parts[at])
     return "".join(parts)
 
 
 def capital(text):
-    return text[0].upper() + text[1:] if re.match(r"(?!is |are )[a-z]+[,;:. ]", text + " ") else text
+    return text[0].upper() + text[1:] if re.match(r"(?!is |are |of )[a-z][a-z-]*[,;:. ]", text + " ") else text
 
 
 def sentence(text):
@@ -285,7 +299,7 @@ class Header:
         texts = (SOURCES / header).read_text().split("\n")
         uses = header != PROPERTIES and any(text.startswith(f'#include "{PROPERTIES}"') for text in texts)
         self.header, self.topic = header, topic_of_library(library)
-        self.lines = Scan(with_properties(texts) if uses else texts).lines
+        self.lines = Scan(one_by_one(with_properties(texts) if uses else texts)).lines
         self.out, self.shared, self.section = [], None, 0
 
     def say(self, comment, indent=""):
@@ -355,7 +369,7 @@ class Header:
         self.close_section()
         head = re.match(r"// ---- (.*?)(?: ----)?$", texts[0].strip())[1]
         title, rest = re.match(r"(.*?)(?:[;:.] (.*)| \((.*)\))?$", head).group(1, 2)
-        about = ([rest[0].upper() + rest[1:]] if rest else []) + [text.strip()[3:] for text in texts[1:]]
+        about = ([sentence(rest)] if rest and len(texts) == 1 else [capital(rest)] if rest else []) + [text.strip()[3:] for text in texts[1:]]
         self.say([f"\\name {title[0].upper()}{title[1:]}", *Comment(about).out, "@{"])
         self.section, self.shared = self.lines[at].depth, None
         return end
@@ -366,7 +380,7 @@ class Header:
             return at + 1  # which the deleted constructor above it says
         if line.begins and not line.hidden and line.scope != "enum":
             if APART.search(line.whole) or self.has_remark(at):
-                self.shared = self.shared if line.told else None
+                self.shared = self.shared if line.told and line.whole.startswith(" using ") else None
             elif self.shared and not line.told:
                 self.say(self.shared, line.indent)
         if self.section and line.after < self.section:
@@ -407,6 +421,24 @@ def libraries_page():
     return "\n".join(out + ["*/", ""])
 
 
+def guide_page():
+    """The pages of the guide, each of which ends in a link to the next."""
+    texts = {path.name: path.read_text() for path in (ROOT / "docs/guide").glob("*.md")}
+    following = {name: re.search(r"^Next: .*\]\((.*?)\)", text, re.M) for name, text in texts.items()}
+    following = {name: link[1] for name, link in following.items() if link}
+    name = next((name for name in texts if name not in following.values()), None)
+    out, listed = ["# Guide", ""], set()
+    while name in texts and name not in listed:
+        listed.add(name)
+        about = re.match(r"# [^\n]*\n\n(.*?[.:])(?=\s)", texts[name], re.S)[1].rstrip(":.")
+        label = re.sub(r"\W", "_", name.removesuffix(".md"))
+        out += [f"- \\subpage md_docs_guide_{label} <br>", f"  {' '.join(about.split())}."]
+        name = following.get(name)
+    if listed != set(texts):
+        raise SystemExit(f"no page of the guide leads to {', '.join(sorted(set(texts) - listed))}")
+    return "\n".join(out + [""])
+
+
 def main(folder):
     folder.mkdir(parents=True, exist_ok=True)
     for library, headers in libraries().items():
@@ -415,6 +447,8 @@ def main(folder):
             path.parent.mkdir(parents=True, exist_ok=True)
             path.write_text(list_of_properties() if header == PROPERTIES else Header(header, library).written())
     (folder / "libraries.dox").write_text(libraries_page())
+    if (ROOT / "docs/guide").is_dir():
+        (folder / "guide.md").write_text(guide_page())
     # Headings of the first page would stand beside the other pages in the list of contents.
     readme = (ROOT / "README.md").read_text()
     (folder / "README.md").write_text(re.sub(r"^## (.*)$", r"<h2>\1</h2>", readme, flags=re.M))
