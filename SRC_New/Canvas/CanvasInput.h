@@ -44,11 +44,13 @@ struct InputImage {
 /// QDDrawCanvas::setInputListener(), and takes the same calls, QDDrawCanvas::input(): given to another canvas of that
 /// size, without automatic steps and shown as large as it is, they paint the same bytes on the same surface.
 ///
-/// Units    buffer pixels, top-left origin; pressure and altitude as StrokeSample has them.
+/// Units    buffer pixels, top-left origin; pressure and altitude 0..1, -1 where none was given.
 /// Order    a call is told before what follows of it. What follows is not told, but for undo steps, however they came
 ///          about.
 /// Untold   runs of dabs and other calls that QDDrawCanvas.h keeps for callers of old, what a host does to
 ///          undoManager(), and that the canvas moves to another surface.
+/// Life     a listener is the host's, and taken off by setInputListener(nullptr) before it goes; input() is the
+///          canvas's.
 /// Thread   the canvas's. A listener must not call the canvas.
 class CanvasInput {
 public:

@@ -22,7 +22,7 @@ public:
     PressureCurve() = default;  ///< as it is
     /// Monotone cubics after Fritsch and Carlson (1980): no value lies beyond those of the points beside it. From two
     /// points on, each 0..1, with rising x and y that does not fall; below the first and above the last the curve is
-    /// level.
+    /// level. None for any others.
     static std::optional<PressureCurve> through(const std::vector<QPointF>& points);
 
     /// Of a pressure 0..1; -1, no pressure, stays so.

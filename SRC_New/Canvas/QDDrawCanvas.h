@@ -51,8 +51,8 @@ class PaintSurface;
 /// Owns     all that it paints with. The caller's GL context is current again when a member returns, and in a delegate.
 /// Thread   one at a time, asserted in debug builds. Canvases are independent, also where they take turns on a thread;
 ///          those made on one thread share an OpenGL context, wait for each other on several, and lose it together.
-/// Life     to be destroyed before main() returns, as static objects may outlive OpenGL and Qt. A host may destroy it
-///          in any callback, see QDDrawViewDelegate.h.
+/// Life     the caller's from initWithFrame() on, to be destroyed before main() returns, as static objects may outlive
+///          OpenGL and Qt. A host may destroy it in any callback, see QDDrawViewDelegate.h.
 /// Errors   never throws; a failure is a log line and a false or null result.
 /// Loss     of a driver's device: after one log line isContextLost() holds for good, and nothing is drawn, read or
 ///          cleared any more. Another canvas can go on from undoManager() and displayImage().

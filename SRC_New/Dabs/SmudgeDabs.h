@@ -33,8 +33,8 @@ struct SmudgeSettings {
     DABCANVAS_DABS_API float grownMix(std::int64_t index) const;
 };
 
-/// Adds to the dabs of a stroke what smudging needs. Keeps the pick-up place from call to call; reset() begins the next
-/// stroke.
+/// Adds to the dabs of a stroke, which a DabMaker makes for it, what smudging needs. Keeps the pick-up place from call
+/// to call; reset() begins the next stroke.
 class DABCANVAS_DABS_API SmudgeMaker {
 public:
     SmudgeSettings settings;

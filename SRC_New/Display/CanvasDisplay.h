@@ -20,6 +20,9 @@ class HalvedCopies;
 /// A canvas on screen, be it in a widget or in an item: where it lies in its view, how it is drawn there, and what the
 /// view's mouse, pen and fingers do.
 ///
+/// Use      hosts call what is public of QDDrawView or of CanvasItem::canvas(). A view of another kind derives from it,
+///          calls initCanvasOrSayWhy() once, answers what is asked below, has paintCanvas() paint and hands events to
+///          pointers().
 /// Units    a view point is one of the widget or item, from its top left. What QDDrawCanvas calls view points are these
 ///          with ViewFit::stretch, and buffer pixels with any other fit.
 /// Thread   the application's main thread.

@@ -22,7 +22,8 @@ class CanvasDisplay;
 /// What Qt tells of mouse, pen and fingers, as pointer events of the canvas: only the device that began a stroke goes
 /// on with it. What does not paint moves the view, where that is navigable.
 ///
-/// Each member tells whether the event was taken; a host may have destroyed the display then, and this with it.
+/// A display has its own, CanvasDisplay::pointers(). Each member tells whether the event was taken; a host may have
+/// destroyed the display then, and this with it.
 class DABCANVAS_CANVAS_API DevicePointers {
 public:
     explicit DevicePointers(CanvasDisplay& display) : _display(display) {}

@@ -22,7 +22,7 @@
 /// Owns     its programs, a placed image's texture and the background copy. The line and sub-line textures are
 ///          the context's: they have the buffer's size and are read one texel a pixel, so their filters are
 ///          set to nearest.
-/// Errors   init gives null when the program does not build. GL errors are logged and drawing goes on.
+/// Errors   init() gives null when the program does not build. GL errors are logged and drawing goes on.
 class DABCANVAS_RENDER_API ESImageRender : public ESBaseRender {
 public:
     static std::unique_ptr<ESImageRender> init();

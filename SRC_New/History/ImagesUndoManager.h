@@ -23,7 +23,7 @@ struct HistoryChange;
 }  // namespace dabcanvas
 
 /// An undo history of images. Each step's item is the name of an image, which is in memory (the cache) or,
-/// when it is far from the current step, in a file of a private folder.
+/// when it is far from the current step, in a file of a private folder. A canvas has one, QDDrawCanvas::undoManager().
 ///
 /// Units    bytes. An image is whatever bytes it is given as, such as raw pixels or a PNG file; the same bytes
 ///          come back. In memory they may be held compressed, in files never.

@@ -16,7 +16,7 @@
 
 /// The live preview brush: while the pointer moves, the area that it encloses is shown as one filled, smoothed
 /// path, drawn on the CPU; at the end of the stroke it is softened and handed over, to be placed on the
-/// canvas. This is the whole logic without a widget; LeafDrawView shows it in a window.
+/// canvas. This is the whole logic without a widget; a canvas has one, QDDrawCanvas::leafDrawView().
 ///
 ///     LeafDrawing leaf(QSizeF(1000, 500));
 ///     leaf.setRenderColor(ESColor::rgba(0.2f, 0.6f, 0.1f, 0.8f));

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Tells what Doxygen alone does not, from its XML: check.py FOLDER
 
-Classes, enumerations and free functions that nothing is said about, and names of functions and headers in the text that
-lead nowhere, as they are nowhere.
+Classes, enumerations and free functions that nothing is said about, and names in the text of what there is not: functions,
+headers, and all that is spelled as names of code are.
 """
 
 import re
@@ -10,10 +10,10 @@ import sys
 import xml.etree.ElementTree as xml
 from pathlib import Path
 
-# Of the C library, Qt, POSIX and the like.
+# Of other libraries, formats and this one's inside.
 ELSEWHERE = set(
-    "drand48 fclose ferror fmemopen free fromRawData main malloc rand srand strcmp deleteLater "
-    "currentContext glValidateProgram release destroy".split()
+    "drand48 fclose ferror fmemopen free fromRawData main malloc rand srand strcmp deleteLater currentContext release destroy "
+    "glUseProgram glValidateProgram OpenGL QtGui QtWidgets QtQuick InkML clipPath penUp MyPaint BrushState kResetOrder".split()
 )
 
 
@@ -55,13 +55,14 @@ def mentions(element):
 
 
 def dangling(compound, known):
-    for part in list(compound.iter("briefdescription")) + list(compound.iter("detaileddescription")):
+    about = f"{where(compound)}: {compound.findtext('compoundname')} speaks of"
+    for part in [*compound.iter("briefdescription"), *compound.iter("detaileddescription")]:
         text = "".join(mentions(part))
-        for name in re.findall(r"(?<![\w.:])(\w+)\(\)", text):
-            if name not in known:
-                yield f"{where(compound)}: {compound.findtext('compoundname')} speaks of {name}(), which there is not"
-        for name in re.findall(r"\b(\w+\.h)\b", text):
-            yield f"{where(compound)}: {compound.findtext('compoundname')} speaks of {name}, which is not installed"
+        names = re.findall(r"(?<![\w.:])(\w+)\(\)", text)
+        names += re.findall(r"(?<![\w.:/\"])((?:[A-Z][a-z]+|[a-z]+)[A-Z]\w+)\b(?![(.])", text)
+        yield from (f"{about} {name}, which there is not" for name in names if name not in known)
+        for name in re.findall(r"\b\w+\.h\b", text):
+            yield f"{about} {name}, which is not installed"
 
 
 def main(folder):
@@ -71,7 +72,9 @@ def main(folder):
         for compound in xml.parse(path).getroot().findall("compounddef")
         if compound.get("kind") in ("class", "struct", "union", "namespace", "group", "file")
     ]
-    known = ELSEWHERE | {name.text for compound in compounds for name in compound.iter("name")}
+    known = ELSEWHERE | {compound.findtext("compoundname").split("::")[-1] for compound in compounds}
+    for tag in ("name", "declname", "defname"):
+        known.update(name.text for compound in compounds for name in compound.iter(tag))
     problems = set()
     for compound in compounds:
         problems.update(undocumented(compound))

@@ -210,7 +210,7 @@ def plain(text):
 
 
 def capital(text):
-    return text[0].upper() + text[1:] if re.match(r"(?!is |are |of )[a-z][a-z-]*[,;:. ]", text + " ") else text
+    return text[0].upper() + text[1:] if re.match(r"(?!is |are |of |that )[a-z][a-z-]*[,;:. ]", text + " ") else text
 
 
 def sentence(text):
@@ -224,8 +224,14 @@ class Comment:
     def __init__(self, lines, declaration=""):
         self.parameters = re.findall(r"(\w+)\s*(?:=[^,()]*|=.*?\{\})?\s*[,)]", declaration)
         self.out, self.inside, self.hang = [], "", 0
-        for line in lines:
-            self.take(line, len(line) - len(line.lstrip()))
+        for line, following in zip(lines, [*lines[1:], ""]):
+            word = re.match(r"\S{8,} (?=\S)", line)
+            if word and re.match(rf" {{{word.end()}}}\S", following):  # too long a name for two blanks after it
+                line = f"{word[0]} {line[word.end():]}"
+                self.take(line, 0)
+                self.hang -= 1
+            else:
+                self.take(line, len(line) - len(line.lstrip()))
         self.close()
 
     def close(self):
