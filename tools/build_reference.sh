@@ -23,22 +23,23 @@ trap 'rm -rf "$work"' EXIT
 mkdir -p "$out"
 rm -rf "$out/html" "$out/pages"
 dabpaint=$(PATH=build/ci/bin:$PATH command -v dabpaint || true)
+pages=()
 if [ -n "$dabpaint" ] && "$dabpaint" help properties | grep -q -e --reference; then
-    "$dabpaint" properties --reference "$out/pages"
+    pages=("$out/pages")
+    "$dabpaint" properties --reference "${pages[0]}"
 fi
 
-python3 -B tools/reference/sources.py "$work/sources"
+python3 -B tools/reference/sources.py "$work/sources" "${pages[@]}"
 shopt -s nullglob
 theme=(/usr/share/doxygen-awesome-css/doxygen-awesome{,-sidebar-only}.cs[s])  # none where it is not installed
 version=$(sed -n 's/^#define DABCANVAS_VERSION_[MP][A-Z]* //p' SRC_New/Maths/Version.h | paste -sd.)
 {
     cat docs/reference/Doxyfile
     echo "PROJECT_NUMBER = $version"
-    echo "INPUT = $work/sources" docs/guide/*.md "$out"/pages/*.md docs/recordings.md docs/architecture.md \
-        benchmarks/README.md CHANGELOG.md
+    echo "INPUT = $work/sources" docs/guide/*.md docs/recordings.md docs/architecture.md benchmarks/README.md CHANGELOG.md
     echo "USE_MDFILE_AS_MAINPAGE = $work/sources/README.md"
     echo "IMAGE_PATH = docs/images" "$out"/pages/*/
-    echo "STRIP_FROM_PATH = $work/sources $work $root $out"
+    echo "STRIP_FROM_PATH = $work/sources $root"
     echo "STRIP_FROM_INC_PATH = $work/sources"
     echo "INCLUDE_PATH = $work/sources"
     echo "HTML_EXTRA_STYLESHEET = ${theme[*]} docs/reference/style.css"

@@ -1,5 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Writes what Doxygen reads: sources.py FOLDER
+"""Writes what Doxygen reads: sources.py FOLDER [PAGES]
+
+PAGES is where dabpaint has written properties.md, the page of brush properties.
 
 Headers are free of commands. What house style says once is said here in Doxygen's words:
 
@@ -12,286 +14,17 @@ Headers are free of commands. What house style says once is said here in Doxygen
 """
 
 import re
-import subprocess
 import sys
-from functools import cache
 from pathlib import Path
 
+from comments import Comment, capital, plain, pointing, sentence
+from declarations import PROPERTIES, Scan, one_by_one, with_properties
 from headers import ROOT, SOURCES, about_library, libraries
-
-PROPERTIES = "Brushes/BrushPropertyList.h"
-LONG = 240  # characters of a comment that is told once and pointed to, not repeated
 
 
 def topic_of_library(name):
     return f"library_{name.lower()}"
 
-
-@cache
-def targets():
-    """Header's name -> what a mention of it leads to: its topic, or its class."""
-    found = {}
-    for header in (header for headers in libraries().values() for header in headers):
-        text, stem = (SOURCES / header).read_text(), Path(header).stem
-        kind = r"^(?:class|struct|enum(?: class)?) (?:alignas\(\d+\) |DABCANVAS_\w+ )*"
-        named = {m[1]: m.start() for m in re.finditer(kind + r"(\w+)\b[^;]*?\{", text, re.M)}
-        if "/// \\file" in text:
-            found[f"{stem}.h"] = f"header_{stem}"
-        elif named:
-            name = stem if stem in named else next(iter(named))
-            inside = text[: named[name]].count("namespace dabcanvas {") > text[: named[name]].count("}  // namespace")
-            found[f"{stem}.h"] = f"dabcanvas::{name}" if inside else name
-    return found
-
-
-# ---- The members that brush properties give
-
-
-def preprocessed(defines, rows):
-    """What macros of a header make of the rows, a declaration a line."""
-    command = ["c++", "-E", "-P", "-CC", "-nostdinc", "-x", "c++", "-"]
-    text = "\n".join([*defines, rows])
-    made = subprocess.run(command, input=text, text=True, capture_output=True, check=True).stdout
-    lines, depth = [""], 0
-    for line in made.splitlines():
-        if line.startswith("///"):
-            lines += [line, ""]
-            continue
-        for char in line + " ":
-            lines[-1] += char
-            depth += {"{": 1, "(": 1, "}": -1, ")": -1}.get(char, 0)
-            if depth == 0 and char in ";}":
-                lines.append("")
-    return [line.strip() for line in lines if line.strip()]
-
-
-@cache
-def told_rows():
-    """The list of properties, the text of a row above it."""
-
-    def told(row):
-        about = "".join(re.findall(r'"([^"]*)"', row[0][row[0].index(".about") :]))
-        return f"/// {about}\n{row[0]}"
-
-    rows = (SOURCES / PROPERTIES).read_text()
-    rows = rows[rows.index("#ifndef BRUSH_PROPERTY") :]
-    return re.sub(r"^BRUSH_\w+\(.*?\)\n(?=BRUSH|// clang)", told, rows, flags=re.M | re.S)
-
-
-def with_properties(lines):
-    """The lines of a header, its own macros used up."""
-    defines, out, rest = {}, [], iter(lines)
-    for line in rest:
-        if line.startswith(f'#include "{PROPERTIES}"'):
-            out += ["", *preprocessed(defines.values(), told_rows()), ""]
-        elif line.startswith("#define"):
-            while line.endswith("\\"):
-                line += "\n" + next(rest)
-            defines[re.match(r"#define (\w+)", line)[1]] = line
-        else:
-            out.append(line)
-    return out
-
-
-def one_by_one(lines):
-    """Members that are declared together, a line each: a comment is about all of them."""
-    member = r"\w+(?:\{[^{}]*\}| = [^,;{}()]+)?"
-    together = re.compile(rf"(\s*(?:[\w:<>]+ )+)({member}(?:, {member})+);(\s*///<.*)?$")
-    for line in lines:
-        found = together.match(line)
-        if not found or found[1].strip() in ("return", "using"):
-            yield line
-            continue
-        for name in re.findall(member + r"(?=, |$)", found[2]):
-            yield f"{found[1]}{name};{found[3] or ''}"
-
-
-# ---- What each line is
-
-
-class Line:
-    """kind    blank, doc, note (a comment for readers of the header alone), macro, access or code
-    begins  a declaration does, of which `whole` is the code; ends: with this line
-    depth   scopes that it stands in, `after` it; hidden: in one that is private or a function's"""
-
-    def __init__(self, text, scopes, kind):
-        self.text, self.kind = text, kind
-        self.indent = re.match(r"\s*", text)[0]
-        self.hidden = any(hides for _, hides in scopes)
-        self.scope, self.depth, self.after = scopes[-1][0], len(scopes), len(scopes)
-        self.begins, self.ends, self.told, self.whole = False, False, False, ""
-
-
-def kind_of(text, continues):
-    text = text.strip()
-    if continues or text.startswith("#"):
-        return "macro"
-    if re.match(r"///(?!<)", text):
-        return "doc"
-    if text.startswith("//") and not text.startswith("///<"):
-        return "note"
-    return "code" if text else "blank"
-
-
-def code_of(text):
-    """Without strings and comments."""
-    text = re.sub(r'"(\\.|[^"\\])*"|\'(\\.|[^\'\\])\'', "''", text)
-    return re.sub(r"/\*.*?\*/|//.*", "", text)
-
-
-def scope_of(head):
-    """What a brace opens, and whether what is in it is hidden."""
-    head = re.sub(r"^template ?<.*?> ?(?=class|struct)", "", " ".join(head.split()))
-    if head.startswith("namespace"):
-        return "namespace", False
-    if head.startswith("enum"):
-        return "enum", False
-    if re.match(r"(class|struct|union)\b", head):
-        return "class", head.startswith("class")
-    return "code", True
-
-
-class Scan:
-    def __init__(self, texts):
-        self.lines, self.scopes, self.head, self.brackets, self.first = [], [("namespace", False)], "", 0, None
-        continues = False
-        for text in texts:
-            line = Line(text, self.scopes, kind_of(text, continues))
-            self.lines.append(line)
-            continues = line.kind == "macro" and text.endswith("\\")
-            if line.kind == "code":
-                self.read(line, code_of(text).strip())
-
-    def read(self, line, code):
-        access = re.match(r"(public|protected|private|Q_SIGNALS)\s*:(?!:)", code)
-        if access and self.scopes[-1][0] == "class":
-            self.scopes[-1] = ("class", access[1] == "private")
-            line.kind, self.head = "access", ""
-            return
-        if code and not self.head.strip() and self.brackets == 0:
-            line.begins, self.first = True, line
-        if self.first:
-            self.first.whole += " " + code
-        for char in code:
-            self.step(char)
-        if self.brackets == 0 and re.fullmatch(r"\s*Q_[A-Z_]+\(.*\)\s*", self.head):
-            self.head = ""  # Qt's macros take no semicolon
-        self.head += " "
-        line.ends, line.after = not self.head.strip() and self.brackets == 0, len(self.scopes)
-
-    def step(self, char):
-        self.brackets += {"(": 1, ")": -1}.get(char, 0)
-        if char == "{":
-            self.scopes.append(scope_of(self.head) if self.brackets == 0 else ("code", True))
-        elif char == "}":
-            self.scopes.pop()
-        elif char != ";" or self.brackets:
-            self.head += char
-            return
-        self.head = ""
-
-
-# ---- Comments, in Doxygen's words
-
-
-def plain(text):
-    """A line of text, of which nothing is a command; mentions of headers lead there."""
-
-    def leads(mention):
-        target = targets().get(mention[1])
-        return f'\\ref {target} "{mention[1]}"' if target else mention[0]
-
-    parts = re.split(r"(`[^`]*`)", text)
-    for at in range(0, len(parts), 2):
-        parts[at] = re.sub(r"([<>#@*&|])", r"\\\1", parts[at])
-        parts[at] = re.sub(r"(?:\w+/)*\b(\w+\.h)\b", leads, parts[at])
-        parts[at] = re.sub(r"\bdocs/(\w+)\.md\b", r'\\ref md_docs_\1 "\g<0>"', parts[at])
-    return "".join(parts)
-
-
-def capital(text):
-    return text[0].upper() + text[1:] if re.match(r"(?!is |are |of |that )[a-z][a-z-]*[,;:. ]", text + " ") else text
-
-
-def sentence(text):
-    """A remark at a line's end, as a sentence."""
-    return capital(text) if text[-1] in ".:!?" else capital(text) + "."
-
-
-class Comment:
-    """Takes the lines of a comment, without their slashes; `out` is what Doxygen is to have."""
-
-    def __init__(self, lines, declaration=""):
-        self.parameters = re.findall(r"(\w+)\s*(?:=[^,()]*|=.*?\{\})?\s*[,)]", declaration)
-        self.out, self.inside, self.hang = [], "", 0
-        for line, following in zip(lines, [*lines[1:], ""]):
-            word = re.match(r"\S{8,} (?=\S)", line)
-            if word and re.match(rf" {{{word.end()}}}\S", following):  # too long a name for two blanks after it
-                line = f"{word[0]} {line[word.end():]}"
-                self.take(line, 0)
-                self.hang -= 1
-            else:
-                self.take(line, len(line) - len(line.lstrip()))
-        self.close()
-
-    def close(self):
-        if self.inside == "code":
-            while not self.out[-1].strip():
-                self.out.pop()
-            self.out.append("\\endcode")
-        self.inside = ""
-
-    def apart(self):
-        if self.out and self.out[-1]:
-            self.out.append("")
-
-    def take(self, line, lead):
-        named = re.match(r"( {0,2})(\S+(?:,? \S+)*?) {2,}(?=\S)", line)
-        if self.inside == "code" and (lead >= 4 or not line.strip()):
-            self.out.append(line[4:])
-        elif self.inside == "item" and line.strip() and lead == self.hang:
-            self.out.append("  " + plain(line.strip()))
-        elif lead >= 4 and (not self.out or not self.out[-1] or self.out[-1].endswith(":")):
-            self.begin_code(line)
-        elif named:
-            self.begin_item(len(named[1]), named[2], line[named.end() :], named.end())
-        else:
-            if self.inside and line.strip():
-                self.close()
-                self.apart()
-            self.out.append(plain(line))
-
-    def begin_code(self, line):
-        self.close()
-        language = ".qml" if "import Qt" in line else ".json" if line.strip()[0] == "{" else ".cpp"
-        self.out += [f"\\code{{{language}}}", line[4:]]
-        self.inside = "code"
-
-    def begin_item(self, indent, name, text, hang):
-        self.close()
-        names = name.split(", ")
-        if indent == 0:
-            self.apart()
-            self.out += [f"\\par {name}", plain(capital(text))]
-        elif all(name in self.parameters for name in names):
-            self.out.append(f"\\param {','.join(names)} {plain(text)}")
-        else:
-            if self.inside != "item" and self.out and not self.out[-1].startswith(("- ", "  ")):
-                self.apart()
-            self.out.append(f"- **{plain(name)}**: {plain(text)}")
-        self.inside, self.hang = "item", hang
-
-
-def pointing(comment, declaration):
-    """A long comment in short, for one more declaration that it is about."""
-    whole = " ".join(comment)
-    name = re.search(r"(\w+)\(", declaration)
-    if len(whole) < LONG or not name:
-        return comment
-    return [re.match(r".*?(?:[.:](?=\s)|$)", whole)[0].rstrip(":."), f"\\see {name[1]}()"]
-
-
-# ---- A header anew
 
 # Declarations that a comment above others is not about.
 APART = re.compile(
@@ -301,11 +34,11 @@ APART = re.compile(
 
 
 class Header:
-    def __init__(self, header, library):
+    def __init__(self, header, library, is_pictured=False):
         texts = (SOURCES / header).read_text().split("\n")
         uses = header != PROPERTIES and any(text.startswith(f'#include "{PROPERTIES}"') for text in texts)
         self.header, self.topic = header, topic_of_library(library)
-        self.lines = Scan(one_by_one(with_properties(texts) if uses else texts)).lines
+        self.lines = Scan(one_by_one(with_properties(texts, is_pictured) if uses else texts)).lines
         self.out, self.shared, self.section = [], None, 0
 
     def say(self, comment, indent=""):
@@ -436,22 +169,30 @@ def guide_page():
     out, listed = ["# Guide", ""], set()
     while name in texts and name not in listed:
         listed.add(name)
-        about = re.match(r"# [^\n]*\n\n(.*?[.:])(?=\s)", texts[name], re.S)[1].rstrip(":.")
+        about = re.match(r"# [^\n]*\n\n(.*?[.])(?=\s)", texts[name], re.S)[1]
         label = re.sub(r"\W", "_", name.removesuffix(".md"))
-        out += [f"- \\subpage md_docs_guide_{label} <br>", f"  {' '.join(about.split())}."]
+        out += [f"- \\subpage md_docs_guide_{label} <br>", f"  {' '.join(about.split())}"]
         name = following.get(name)
     if listed != set(texts):
         raise SystemExit(f"no page of the guide leads to {', '.join(sorted(set(texts) - listed))}")
     return "\n".join(out + [""])
 
 
-def main(folder):
+def properties_page(pages):
+    """With a place for each property to lead to."""
+    text = (pages / "properties.md").read_text()
+    return re.sub(r"^### (\w+)$", r"### \1 {#property_\1}", text, flags=re.M)
+
+
+def main(folder, pages=None):
     folder.mkdir(parents=True, exist_ok=True)
+    if pages:
+        (folder / "properties.md").write_text(properties_page(pages))
     for library, headers in libraries().items():
         for header in headers:
             path = folder / header
             path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_text(list_of_properties() if header == PROPERTIES else Header(header, library).written())
+            path.write_text(list_of_properties() if header == PROPERTIES else Header(header, library, bool(pages)).written())
     (folder / "libraries.dox").write_text(libraries_page())
     if (ROOT / "docs/guide").is_dir():
         (folder / "guide.md").write_text(guide_page())
@@ -461,4 +202,4 @@ def main(folder):
 
 
 if __name__ == "__main__":
-    main(Path(sys.argv[1]))
+    main(*map(Path, sys.argv[1:]))
