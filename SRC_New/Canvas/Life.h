@@ -5,7 +5,7 @@
 
 namespace dabcanvas {
 
-/// Belongs to an object that its host may destroy in any callback; Alive tells after one whether it is still there.
+/// A member of an object that its host may destroy in any callback; Alive tells after one whether it is still there.
 /// Where it is not, no member may be touched.
 class Life {
 public:

@@ -22,7 +22,8 @@ struct SmudgeDab {
     BristleDab bristles{};
 };
 
-/// The canvas's properties of the same names tell what each does; 0..1, but for controlValue.
+/// What a smudge brush is set to. The canvas's properties of the same names tell what each does; 0..1, but for
+/// controlValue.
 struct SmudgeSettings {
     float moist = 0.3f, load = 1, mix = 1;
     bool control = true;      ///< mix grows from 0 over the first dabs of a stroke

@@ -12,7 +12,7 @@ struct RgbType {
     float b;
 };
 
-/// Hue is a fraction of the full circle, not degrees.
+/// Hue, saturation and value. Hue is a fraction of the full circle, not degrees.
 struct HsvType {
     float h;
     float s;

@@ -16,7 +16,7 @@ struct Size {
     friend bool operator==(const Size&, const Size&) = default;
 };
 
-/// From (x, y) up to, but not with, (right(), bottom()). One without pixels is empty, wherever it lies.
+/// The pixels from (x, y) up to, but not with, (right(), bottom()). One without pixels is empty, wherever it lies.
 struct Rect {
     int x = 0, y = 0, width = 0, height = 0;
 

@@ -84,7 +84,7 @@ struct ClearedCanvas {
 struct DrawnShape {
     ShapeRecord shape;
 };
-/// All of the canvas, from which the history begins anew; null: transparent.
+/// All of the canvas was set, from which the history begins anew; null: transparent.
 struct WholePicture {
     QImage picture;
 };
@@ -96,7 +96,7 @@ struct PlacedPreview {
 struct AreaChange {
     QRect area;
 };
-/// How it is shown.
+/// The canvas was turned or mirrored in its view.
 struct ViewChange {
     float radian = 0;
     bool mirrored = false;

@@ -54,7 +54,7 @@ struct RecordedStroke {
     bool end = true;  ///< the last sample lifts the pen
 };
 
-/// All that a file says.
+/// All strokes of a file, and what it says of their canvas.
 struct RecordedStrokes {
     QSize size;          ///< invalid when not given
     QString background;  ///< a colour as written; empty when not given

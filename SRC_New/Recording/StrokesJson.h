@@ -21,7 +21,7 @@ namespace dabcanvas {
 /// are 0..1 or -1. Members that are not known, and members given twice, are refused.
 DABCANVAS_RECORDING_API Result<RecordedStrokes> readStrokesJson(const QByteArray& bytes);
 
-/// What dabs are to be placed for.
+/// Strokes whose dabs are asked for.
 struct DabsInput {
     std::optional<std::uint32_t> seed;
     std::vector<RecordedStroke> strokes;

@@ -183,8 +183,8 @@ private:
     TileSet _touched;
 };
 
-/// Operations on a surface come inside one. Costs next to nothing inside another of the same surface; whatever device
-/// the host was using is its own again when the outermost one ends.
+/// The scope that operations on a surface come inside of. Costs next to nothing inside another of the same surface;
+/// whatever device the host was using is its own again when the outermost one ends.
 class SurfaceScope {
 public:
     explicit SurfaceScope(PaintSurface& surface) : _surface(surface), _entered(surface.enter()) {}

@@ -8,7 +8,7 @@
 
 namespace dabcanvas {
 
-/// In buffer pixels, between which it may lie.
+/// A place in buffer pixels, between which it may lie.
 struct Point {
     double x = 0, y = 0;
 };

@@ -15,8 +15,8 @@ namespace dabcanvas {
 
 inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
 
-/// Premultiplied RGBA, rows from the top, or fewer channels; transparent when made. What lies beyond a picture's rim
-/// counts for nothing.
+/// The pixels of a tile: premultiplied RGBA, rows from the top, or fewer channels; transparent when made. What lies
+/// beyond a picture's rim counts for nothing.
 template <typename Channel, std::size_t kChannels = 4>
 struct alignas(64) Tile {
     std::array<Channel, kTilePixels * kChannels> values{};

@@ -156,7 +156,7 @@ def libraries_page():
         about, needs = about_library(name)
         out += [f"\\defgroup {topic_of_library(name)} {name}", f"{about[0].upper()}{about[1:]}.", ""]
         out += [f"To link: `Dabcanvas::{name}`" + (f"; needs, besides the libraries below it: {needs}." if needs else "."), ""]
-    out += ["\\namespace dabcanvas", "What has no name of old, and all that comes."]
+    out += ["\\namespace dabcanvas", "The newer names; those of old are global."]
     return "\n".join(out + ["*/", ""])
 
 
