@@ -21,12 +21,12 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 mkdir -p "$out"
-rm -rf "$out/html" "$out/pages"
+rm -rf "$out/html"
 dabpaint=$(PATH=build/ci/bin:$PATH command -v dabpaint || true)
 pages=()
 if [ -n "$dabpaint" ] && "$dabpaint" help properties | grep -q -e --reference; then
-    pages=("$out/pages")
-    "$dabpaint" properties --reference "${pages[0]}"
+    pages=("$work/pages")
+    "$dabpaint" properties --reference "$work/pages"
 fi
 
 python3 -B tools/reference/sources.py "$work/sources" "${pages[@]}"
@@ -38,8 +38,8 @@ version=$(sed -n 's/^#define DABCANVAS_VERSION_[MP][A-Z]* //p' SRC_New/Maths/Ver
     echo "PROJECT_NUMBER = $version"
     echo "INPUT = $work/sources" docs/guide/*.md docs/recordings.md docs/architecture.md benchmarks/README.md CHANGELOG.md
     echo "USE_MDFILE_AS_MAINPAGE = $work/sources/README.md"
-    echo "IMAGE_PATH = docs/images" "$out"/pages/*/
-    echo "STRIP_FROM_PATH = $work/sources $root"
+    echo "IMAGE_PATH = docs/images ${pages[*]/%//properties}"
+    echo "STRIP_FROM_PATH = $work/sources \"$root\""
     echo "STRIP_FROM_INC_PATH = $work/sources"
     echo "INCLUDE_PATH = $work/sources"
     echo "HTML_EXTRA_STYLESHEET = ${theme[*]} docs/reference/style.css"
