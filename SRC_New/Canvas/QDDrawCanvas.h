@@ -229,11 +229,16 @@ public:
     // The last step's picture, or the canvas's where there is no step or curImageData() is of another size.
     QImage currentImage();
     ImagesUndoManager& undoManager();
-    // Writes steps down within moments, so that the history outlives a crash; off at first. Canvas and history become what a
-    // dead process left, see UndoRecovery, which is kept on. False, and why after a log line or in `problem`.
+    // Writes steps down within moments, and a stroke in progress each second, so that the history outlives a crash; off at
+    // first. Canvas and history become what a dead process left, see UndoRecovery, which is kept on. False, and why after a
+    // log line or in `problem`.
     bool keepsForRecovery() const;
     bool setKeepsForRecovery(bool keeps);
     bool recoverHistory(const QString& id, QString* problem = nullptr);
+    // A host's own, such as the file that the canvas goes to, up to 64 KiB in UTF-8: whoever finds the history gets them with
+    // it (RecoverableHistory). Written when set; false where they are not, as a history that is not kept has none on disk.
+    QString recoveryWords() const;
+    bool setRecoveryWords(const QString& words);
 
     // ---- Repeat and measure
     // Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After either
