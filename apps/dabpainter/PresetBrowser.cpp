@@ -251,8 +251,7 @@ bool PresetBrowser::succeeds(const QString& fault) {
 // ---- What can be done
 
 bool PresetBrowser::choose(const PresetId& id) {
-    if (!_isIdle())
-        return false;
+    emit aboutToUseBrush();
     if (id.path.isEmpty()) {
         const QVariant color = _brush.value(BrushKey::renderColor);
         const QVariant second = _brush.value(BrushKey::backRenderColor);
@@ -278,6 +277,7 @@ bool PresetBrowser::choose(const PresetId& id) {
 }
 
 bool PresetBrowser::saveNew() {
+    emit aboutToUseBrush();
     const std::optional<BrushParams> params = _brush.params();
     if (!params)
         return false;

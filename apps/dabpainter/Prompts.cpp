@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include "BrushDrops.h"
+#include "LeftPicturesDialog.h"
 #include "PictureKinds.h"
 
 namespace dabcanvas::dabpainter {
@@ -104,11 +105,16 @@ void tell(QWidget* parent, const QString& what) {
     QMessageBox::warning(parent, QString(), what);
 }
 
+std::optional<LeftPicture> pickLeft(QWidget* parent, const LeftPictures& left) {
+    LeftPicturesDialog dialog(left, parent);
+    return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
+}
+
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved, pickImages, pickSaveName, pickColor,     tell,
-            confirm,    askName,    pickBrushes,  pickBrushName, showFolder};
+    return {askUnsaved, pickImages,  pickSaveName,  pickColor,  tell,    confirm,
+            askName,    pickBrushes, pickBrushName, showFolder, pickLeft};
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -10,6 +10,7 @@
 
 #include "BrushModel.h"
 #include "CanvasViewport.h"
+#include "History/UndoRecovery.h"
 #include "MainWindow.h"
 #include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
@@ -21,6 +22,7 @@ namespace dabcanvas::dabpainter {
 class PainterTest : public ::testing::Test {
 protected:
     void SetUp() override {
+        UndoRecovery::setFolder(path("recovery"));
         _settings.emplace(_folder.filePath("settings.ini"), QSettings::IniFormat);
         makeWindow();
     }
@@ -43,9 +45,14 @@ protected:
         prompts.pickBrushes = [this](QWidget*) { return _images; };
         prompts.pickBrushName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.showFolder = [](const QString&) {};
+        prompts.pickLeft = [this](QWidget*, const LeftPictures& left) {
+            const auto pictures = left.list();
+            _offered = int(pictures.size());
+            return _takesLeft && !pictures.isEmpty() ? std::optional(pictures.first()) : std::nullopt;
+        };
         _window.reset();
         _window = std::make_unique<MainWindow>(
-            *_settings, prompts, PresetFolders{path("brushes"), {path("installed")}}, path("sessions"));
+            *_settings, prompts, PresetFolders{path("brushes"), {path("installed")}}, path("copies"));
         _window->resize(1000, 700);
         if (!_window->startCanvas({QSize(200, 150), Qt::white})) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";
@@ -79,7 +86,8 @@ protected:
     QStringList _images, _told, _questions;
     QString _saveName, _name;
     bool _confirmed = true;
-    int _asked = 0;
+    int _asked = 0, _offered = 0;
+    bool _takesLeft = true;
     std::unique_ptr<MainWindow> _window;
 };
 
