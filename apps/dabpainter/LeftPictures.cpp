@@ -76,7 +76,7 @@ QList<LeftPicture> LeftPictures::list() const {
             return one.history.isEmpty() && one.copy == picture.copy;
         });
         if (!history.isChanged && copy == left.end()) {
-            UndoRecovery::discard(history.id);
+            discard(picture);
             continue;
         }
         if (copy != left.end()) {
@@ -124,6 +124,12 @@ QString LeftPictures::newCopy() const {
 }
 
 void LeftPictures::makeRoom(qint64 mostBytes) const {
+    // Of who died before there was a copy; it goes with who has it.
+    for (const QString& lock : QDir(_folder).entryList({QStringLiteral("*.png.lock")}, QDir::Files)) {
+        const QString copy = QDir(_folder).filePath(lock.chopped(5));
+        if (!QFile::exists(copy))
+            claim(copy);
+    }
     const QFileInfoList files = copiesIn(_folder);
     qint64 bytes = 0;
     for (const QFileInfo& file : files)

@@ -19,11 +19,14 @@
 
 namespace dabcanvas::dabpainter {
 
+// Where another process's painter has its files.
+inline constexpr const char* kFolderVariable = "DABPAINTER_TEST_FOLDER";
+
 class PainterTest : public ::testing::Test {
 protected:
     void SetUp() override {
         UndoRecovery::setFolder(path("recovery"));
-        _settings.emplace(_folder.filePath("settings.ini"), QSettings::IniFormat);
+        _settings.emplace(path("settings.ini"), QSettings::IniFormat);
         makeWindow();
     }
 
@@ -64,7 +67,9 @@ protected:
 
     static void settle() { QApplication::processEvents(); }
 
-    QString path(const QString& name) const { return _folder.filePath(name); }
+    QString path(const QString& name) const {
+        return qEnvironmentVariable(kFolderVariable, _folder.path()) + QLatin1Char('/') + name;
+    }
 
     QString savedImage(const QString& name, const QColor& color, QSize size = QSize(24, 16)) const {
         return savedPicture(path(name), color, size);

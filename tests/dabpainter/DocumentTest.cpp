@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+// What the painter keeps of a picture, without its window.
+#include "Document.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include "Autosave.h"
+#include "Canvas/QDDrawCanvas.h"
+#include "History/UndoRecovery.h"
+#include "PainterSettings.h"
+#include "support/Files.h"
+#ifdef Q_OS_UNIX
+#include "support/DyingProcess.h"
+#include "support/Limits.h"
+#endif
+
+namespace dabcanvas::dabpainter {
+namespace {
+
+class DocumentTest : public ::testing::Test {
+protected:
+    void SetUp() override { UndoRecovery::setFolder(path("recovery")); }
+    void TearDown() override { UndoRecovery::setFolder({}); }
+
+    QString path(const QString& name) const { return _folder.filePath(name); }
+    void begin(const Document::Origin& origin) {
+        auto next = QDDrawCanvas::initWithFrame(QRectF(0, 0, 60, 40), {.kind = SurfaceKind::processor});
+        next->clearWithColor(ESColor::grey(1), false);
+        document.begin(*next, origin);
+        canvas = std::move(next);
+    }
+    void paint() {
+        canvas->drawingWithBeginPoint({10, 20});
+        canvas->drawingWithMoveToPoint({30, 20});
+        canvas->drawingWithEndPoint({50, 20});
+        document.noteChange();
+    }
+
+    QTemporaryDir _folder;
+    Document document;
+    std::unique_ptr<QDDrawCanvas> canvas;
+};
+
+TEST_F(DocumentTest, SavingGoesOnWhereNothingGetsPoorer) {
+    const struct {
+        const char *opened, *saved;  // null: not yet
+        bool hasFile;
+        const char* suggested;
+    } rows[] = {{nullptr, nullptr, false, "Untitled.png"}, {"a.png", nullptr, true, "a.png"},
+                {"A.PNG", nullptr, true, "A.PNG"},         {"a.b.jpg", nullptr, false, "a.b.png"},
+                {"a.jpg", "b.jpg", true, "b.jpg"},         {nullptr, "c.png", true, "c.png"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.suggested);
+        begin({.path = row.opened ? path(row.opened) : QString(), .plan = {}, .copy = {}});
+        paint();
+        if (row.saved) {
+            EXPECT_EQ(document.saveTo(path(row.saved)), QString());
+            EXPECT_EQ(document.path(), path(row.saved));
+        }
+        EXPECT_EQ(document.hasFile(), row.hasFile);
+        EXPECT_EQ(document.suggestedPath(), row.opened || row.saved ? path(row.suggested) : row.suggested);
+    }
+}
+
+TEST_F(DocumentTest, WhatIsUndoneToTheSavedPictureIsSaved) {
+    begin({});
+    EXPECT_FALSE(document.isModified());
+    paint();
+    paint();
+    EXPECT_TRUE(document.isModified());
+    EXPECT_EQ(document.saveTo(path("a.png")), QString());
+    EXPECT_FALSE(document.isModified());
+    for (const bool saved : {false, true, false}) {
+        saved ? canvas->redo() : canvas->undo();
+        EXPECT_EQ(document.isModified(), !saved);
+    }
+    EXPECT_NE(document.saveTo(path("no such folder/a.png")), QString());
+    EXPECT_TRUE(document.isModified());
+    EXPECT_EQ(document.path(), path("a.png"));
+}
+
+// ---- Copies
+
+TEST_F(DocumentTest, ACopyIsThereWhileSomethingIsUnsaved) {
+    Autosave autosave(document, path("copies"));
+    autosave.setDelays(0, 0);
+    const auto settle = [&] {
+        for (int i = 0; i < 3; ++i) {
+            QCoreApplication::processEvents();
+            autosave.wait();
+        }
+    };
+    const QString copy = autosave.takeName();
+    begin({.path = {}, .plan = {}, .copy = copy});
+    settle();
+    EXPECT_FALSE(QFile::exists(copy)) << "nothing was painted";
+    paint();
+    settle();
+    EXPECT_EQ(QImage(copy).convertToFormat(QImage::Format_RGB32),
+              canvas->image().convertToFormat(QImage::Format_RGB32));
+    EXPECT_TRUE(LeftPictures(path("copies")).list().isEmpty()) << "it is nobody else's";
+    const QByteArray before = contentOf(copy);
+#ifdef Q_OS_UNIX
+    {
+        int failed = 0;
+        QObject::connect(&autosave, &Autosave::failed, [&] { ++failed; });
+        const FullDisk full;
+        for (int i = 0; i < 2; ++i) {
+            paint();
+            settle();
+        }
+        EXPECT_EQ(contentOf(copy), before);
+        EXPECT_EQ(failed, 1) << "which is said once";
+    }
+#endif
+    canvas->undo();
+    canvas->undo();
+    canvas->undo();
+    document.noteChange();
+    settle();
+    EXPECT_FALSE(QFile::exists(copy)) << "undone to what is saved";
+    for (const bool saves : {true, false}) {
+        paint();
+        settle();
+        ASSERT_TRUE(QFile::exists(copy));
+        saves ? static_cast<void>(document.saveTo(path("a.png")))
+              : begin({.path = {}, .plan = {}, .copy = autosave.takeName()});
+        settle();
+        EXPECT_FALSE(QFile::exists(copy));
+    }
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(DocumentTest, WhatDeadRunsLeftIsListedUntilSomebodyTakesItOrDeletesIt) {
+    const LeftPictures left(path("copies"));
+    const auto die = [&](const QString& name, bool paints, bool copies) {
+        inDyingProcess([&] {
+            auto* autosave = new Autosave(document, path("copies"));
+            autosave->setDelays(0, 0);
+            begin({.path = path(name), .plan = {{60, 40}, Qt::white}, .copy = autosave->takeName()});
+            if (paints)
+                paint();
+            if (paints && copies) {
+                QCoreApplication::processEvents();
+                autosave->wait();
+            }
+            QThread::msleep(500);  // the history is written in the background
+        });
+    };
+    die("blank.png", false, false);
+    EXPECT_TRUE(left.list().isEmpty()) << "there is nothing but what it began with";
+    die("both.png", true, true);
+    die("history.png", true, false);
+    auto found = left.list();
+    ASSERT_EQ(found.size(), 2);
+    EXPECT_EQ(found[0].path, path("history.png")) << "the last one first";
+    EXPECT_EQ(found[1].path, path("both.png"));
+    EXPECT_EQ(found[1].background, QColor(Qt::white));
+    EXPECT_LT(found[1].thumbnail.pixelColor(30, 20).lightness(), 128);
+    EXPECT_EQ(found[1].steps, 1);
+
+    // Without its history the copy is there.
+    ASSERT_TRUE(UndoRecovery::discard(found[1].history));
+    const auto byCopy = left.list().last();
+    EXPECT_TRUE(byCopy.history.isEmpty());
+    EXPECT_EQ(byCopy.path, path("both.png"));
+    EXPECT_LT(byCopy.thumbnail.pixelColor(30, 20).lightness(), 128);
+    left.makeRoom(qint64{1} << 20);
+    EXPECT_EQ(left.list().size(), 2);
+    {
+        const auto taken = LeftPictures::claim(byCopy.copy);
+        EXPECT_EQ(left.list().size(), 1);
+    }
+    die("early.png", false, false);
+    ASSERT_TRUE(UndoRecovery::discard(UndoRecovery::list().first().id));
+    left.makeRoom(qint64{1} << 20);
+    EXPECT_TRUE(left.discard(byCopy));
+    EXPECT_TRUE(left.discard(found[0]));
+    EXPECT_TRUE(left.list().isEmpty());
+    EXPECT_TRUE(QDir(path("copies")).isEmpty());
+}
+#endif
+
+// ---- Settings
+
+TEST_F(DocumentTest, SettingsAreInTheirFileWithinASecond) {
+    QSettings file(path("settings.ini"), QSettings::IniFormat);
+    PainterSettings settings(file);
+    int written = 0;
+    settings.addWriter([&](QSettings& to) { to.setValue("others", ++written); });
+    EXPECT_EQ(settings.touch(), TouchPolicy::pensOnceSeen);
+    settings.setTouch(TouchPolicy::pensOnly);
+    settings.setUndoSteps(1 << 20);
+    for (int i = 0; i < 100 && written == 0; ++i) {
+        settings.noteChange();  // which puts nothing off
+        QThread::msleep(13);
+        QCoreApplication::processEvents();
+    }
+    const QSettings again(path("settings.ini"), QSettings::IniFormat);
+    EXPECT_EQ(again.value("others").toInt(), 1);
+    EXPECT_EQ(settings.touch(), TouchPolicy::pensOnly);
+    EXPECT_EQ(settings.undoSteps(), PainterSettings::kMostUndoSteps);
+}
+
+}  // namespace
+}  // namespace dabcanvas::dabpainter
