@@ -16,6 +16,7 @@ constexpr double kFitMargin = 16;
 
 CanvasViewport::CanvasViewport(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Canvas"));
     setMinimumSize(200, 150);
 }
 
@@ -61,6 +62,7 @@ void CanvasViewport::zoomAbout(double zoom, QPointF anchor) {
 void CanvasViewport::fit() {
     if (!_view)
         return;
+    _view->setViewRotation(0);
     const QSizeF room = QSizeF(size()) - QSizeF(2 * kFitMargin, 2 * kFitMargin);
     const QSizeF canvas =
         _view->bufferToView().mapRect(QRectF(QPointF(), _view->bufferSize())).size() / zoom();
@@ -77,7 +79,7 @@ void CanvasViewport::pan(QPointF by) {
 void CanvasViewport::resizeEvent(QResizeEvent*) {
     if (!_view)
         return;
-    const bool isFitted = zoom() == _fitZoom;
+    const bool isFitted = zoom() == _fitZoom && _view->viewRotation() == 0;
     _view->setGeometry(rect());
     if (isFitted)
         fit();

@@ -99,7 +99,8 @@ void LeftPicturesDialog::refresh() {
         return;
     }
     const QString steps = picture->history.isEmpty() ? tr("without undo steps")
-                                                     : tr("%n undo step(s)", nullptr, picture->steps);
+                          : picture->steps == 1      ? tr("one undo step")
+                                                     : tr("%1 undo steps").arg(picture->steps);
     _facts->setText(
         tr("%1 × %2 pixels, %3, %4 on the disk")
             .arg(picture->size.width())

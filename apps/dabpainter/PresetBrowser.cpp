@@ -98,6 +98,7 @@ void PresetBrowser::makeActions() {
 void PresetBrowser::makeLayout() {
     _search->setObjectName(QStringLiteral("presetSearch"));
     _search->setPlaceholderText(tr("Search brushes"));
+    _search->setAccessibleName(_search->placeholderText());
     _search->setClearButtonEnabled(true);
     auto* save = new GlyphButton(Glyph::add, tr("Save the present settings as a new brush"));
     auto* more = new GlyphButton(Glyph::menu, tr("More to do with the chosen brush"));

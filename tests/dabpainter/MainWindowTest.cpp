@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
+#include <QAccessible>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QKeyEvent>
@@ -9,6 +10,7 @@
 #include <QStatusBar>
 #include <QTabletEvent>
 #include <QTouchEvent>
+#include <QWheelEvent>
 #include <cerrno>
 #include <cstring>
 #include <string>
@@ -98,6 +100,38 @@ TEST_F(MainWindowTest, WhatIsPointedAtIsPaintedAtEveryZoom) {
     }
 }
 
+// As far as one sees it, which for a soft tip is not all of it.
+TEST_F(MainWindowTest, TheOutlineIsAsWideAsTheMark) {
+    ASSERT_TRUE(_window->startCanvas({QSize(600, 500), Qt::transparent}));
+    BrushModel& brush = _window->brush();
+    brush.setValue(BrushKey::radius, 400.0f);
+    brush.setValue(BrushKey::radiusControl, QVariant::fromValue(LPControlParams{1, 0, 0}));
+    brush.setValue(BrushKey::startRadius, 0.0f);
+    brush.setValue(BrushKey::endRadius, 0.0f);
+    const auto* cursor = _window->viewport().findChild<BrushCursor*>();
+    for (const int tip : {1, 2, 3}) {
+        for (const float hardness : {0.0f, 0.5f, 1.0f}) {
+            SCOPED_TRACE(std::to_string(tip) + " " + std::to_string(hardness));
+            brush.setValue(BrushKey::textureType, tip);
+            brush.setValue(BrushKey::hardness, hardness);
+            _window->clearCanvas();
+            QDDrawView& view = *_window->view();
+            view.drawingWithBeginPoint({100, 250}, 1);
+            view.drawingWithMoveToPoint({300, 250}, 1);
+            view.drawingWithEndPoint({500, 250}, 1);
+            const QImage mark = view.image();
+            int first = 0, last = 499, most = 0;
+            for (int y = 0; y < 500; ++y)
+                most = std::max(most, mark.pixelColor(300, y).alpha());
+            while (first < 499 && mark.pixelColor(300, first).alpha() < most / 10)
+                ++first;
+            while (last > first && mark.pixelColor(300, last).alpha() < most / 10)
+                --last;
+            EXPECT_NEAR(cursor->outlineSize() / _window->viewport().scale(), last - first + 1, 0.03 * 400);
+        }
+    }
+}
+
 TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
     CanvasViewport& viewport = _window->viewport();
     viewport.setZoom(8);
@@ -113,6 +147,72 @@ TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
     viewport.fit();
     EXPECT_TRUE(QRectF(viewport.rect()).contains(shownCanvas()));
     EXPECT_NEAR(shownCanvas().center().x(), viewport.rect().center().x(), 2);
+}
+
+TEST_F(MainWindowTest, KeysAndTheWheelZoomAboutThePointerAndTwoFingersOnAPadPan) {
+    const QPointingDevice pad("pad", 21, QInputDevice::DeviceType::TouchPad,
+                              QPointingDevice::PointerType::Finger, QInputDevice::Capability::Scroll, 2, 0);
+    CanvasViewport& viewport = _window->viewport();
+    viewport.setZoom(4);
+    const QPointF at(310, 260);
+    const auto scroll = [&](const QPointingDevice& device, QPoint pixels, QPoint angle,
+                            Qt::KeyboardModifiers keys) {
+        QWheelEvent event(at, viewport.mapToGlobal(at), pixels, angle, Qt::NoButton, keys,
+                          pixels.isNull() ? Qt::NoScrollPhase : Qt::ScrollUpdate, false,
+                          Qt::MouseEventNotSynthesized, &device);
+        QApplication::sendEvent(_window->view(), &event);
+    };
+    const auto& mouse = *QPointingDevice::primaryPointingDevice();
+    const std::tuple<const char*, std::function<void()>, bool> rows[] = {
+        {"key", [&] { action("Zoom &In")->trigger(); }, true},
+        {"wheel",
+         [&] {
+             scroll(mouse, {}, {0, 120}, Qt::NoModifier);
+         },
+         true},
+        {"pad with Ctrl",
+         [&] {
+             scroll(pad, {0, 20}, {0, 40}, Qt::ControlModifier);
+         },
+         true},
+        {"pad",
+         [&] {
+             scroll(pad, {15, -20}, {30, -40}, Qt::NoModifier);
+         },
+         false}};
+    send(QEvent::MouseMove, at, Qt::NoButton);
+    for (const auto& [name, act, zooms] : rows) {
+        SCOPED_TRACE(name);
+        const QPointF before = viewport.bufferPoint(at), corner = shownCanvas().topLeft();
+        const double zoom = viewport.zoom();
+        act();
+        EXPECT_EQ(viewport.zoom() > zoom, zooms);
+        if (zooms) {
+            EXPECT_LT((viewport.bufferPoint(at) - before).manhattanLength(), 0.6);
+        } else {
+            EXPECT_EQ((shownCanvas().topLeft() - corner).toPoint(), QPoint(15, -20));
+        }
+    }
+}
+
+// Whoever cannot see them is told where the keyboard is.
+TEST_F(MainWindowTest, EveryTabStopHasAName) {
+    QStringList nameless;
+    int stops = 0;
+    for (const QWidget* one = _window->nextInFocusChain(); one != _window.get();
+         one = one->nextInFocusChain()) {
+        if ((one->focusPolicy() & Qt::TabFocus) == 0 || one->focusProxy())
+            continue;
+        ++stops;
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(one));
+        if (!spoken || spoken->text(QAccessible::Name).trimmed().isEmpty())
+            nameless << QLatin1String(one->metaObject()->className()) + QLatin1Char(' ') + one->objectName() +
+                            QLatin1String(" in ") + one->parentWidget()->objectName() + QLatin1Char(' ') +
+                            QLatin1String(one->parentWidget()->metaObject()->className());
+    }
+    EXPECT_GT(stops, 60);
+    EXPECT_TRUE(nameless.isEmpty()) << nameless.size() << " of " << stops << ":\n"
+                                    << qPrintable(nameless.join(QLatin1Char('\n')));
 }
 
 TEST_F(MainWindowTest, TheSpaceBarPansUntilTheProgramIsLeft) {

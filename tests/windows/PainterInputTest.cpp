@@ -3,9 +3,11 @@
 // releases that are lost and devices that vanish.
 #include <qpa/qwindowsysteminterface.h>
 
+#include <QLineF>
 #include <QPointingDevice>
 #include <QTest>
 #include <QWindow>
+#include <QtMath>
 #include <array>
 #include <map>
 #include <string>
@@ -114,6 +116,27 @@ protected:
         }
         settle();
     }
+    // Of one hand that comes and goes at once; in the window's points.
+    void fingers(QEventPoint::State state, const QList<QPointF>& places) {
+        QList<QWindowSystemInterface::TouchPoint> points;
+        for (const QPointF& place : places) {
+            QWindowSystemInterface::TouchPoint point;
+            point.id = 1 + int(points.size());
+            point.state = state;
+            point.pressure = state == QEventPoint::State::Released ? 0 : 1;
+            const QPointF global =
+                QPointF(_window->mapToGlobal(place.toPoint())) * _window->devicePixelRatioF();
+            point.area = QRectF(global - QPointF(2, 2), QSizeF(4, 4));
+            points << point;
+        }
+        QWindowSystemInterface::handleTouchEvent(_window->windowHandle(), &device(Hand::finger), points);
+        settle();
+    }
+    QPointF placeOfStart() {
+        const QDDrawView& view = *_window->view();
+        return view.mapTo(_window.get(), QPointF(view.width() / 2.0 - 30, view.height() / 2.0));
+    }
+
     void press(Hand hand) {
         if (hand == Hand::pen || hand == Hand::eraser) {  // it hovers before
             report(hand, 0.1, false, QEvent::MouseMove, QEventPoint::State::Stationary);
@@ -254,6 +277,69 @@ TEST_F(PainterInputTest, APenWithoutPressureLeavesNothing) {
     stroke(0.7);
     EXPECT_LT(inTheMiddle(Hand::pen).lightness(), 60);
     EXPECT_TRUE(paints(Hand::mouse));
+}
+
+// By the policy that is set, for every canvas to come.
+TEST_F(PainterInputTest, FingersPaintOrMoveTheCanvasAsTheUserLikes) {
+    const struct {
+        TouchPolicy policy;
+        bool penSeen, paints;
+    } rows[] = {{TouchPolicy::pensOnceSeen, false, true},
+                {TouchPolicy::pensOnceSeen, true, false},
+                {TouchPolicy::pensOnly, false, false},
+                {TouchPolicy::fingersPaint, true, true}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::to_string(int(row.policy)) + (row.penSeen ? ", a pen was seen" : ""));
+        _window->settings().setTouch(row.policy);
+        ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::white}));
+        if (row.penSeen) {
+            report(Hand::pen, 0.5, false, QEvent::MouseMove, QEventPoint::State::Stationary);
+        }
+        const QImage blank = _window->view()->image();
+        _window->viewport().setZoom(8);
+        fingers(QEventPoint::State::Pressed, {placeOfStart()});
+        fingers(QEventPoint::State::Released, {placeOfStart()});
+        EXPECT_EQ(_window->view()->image() != blank, row.paints) << "a tap leaves a dab";
+        const QImage before = _window->view()->image();
+        const QPointF corner = _window->view()->bufferToView().map(QPointF());
+        fingers(QEventPoint::State::Pressed, {placeOfStart()});
+        for (int i = 1; i <= 6; ++i) {
+            fingers(QEventPoint::State::Updated, {placeOfStart() + QPointF(10 * i, 0)});
+        }
+        fingers(QEventPoint::State::Released, {placeOfStart() + QPointF(60, 0)});
+        EXPECT_EQ(_window->view()->image() != before, row.paints);
+        EXPECT_EQ(_window->view()->bufferToView().map(QPointF()) != corner, !row.paints);
+    }
+}
+
+TEST_F(PainterInputTest, TwoFingersThatTapUndoThreeRedoAndATwistTurns) {
+    const QImage before = _window->view()->image();
+    ASSERT_TRUE(paints(Hand::mouse));
+    const QImage after = _window->view()->image();
+    const QPointF at = placeOfStart();
+    const auto tap = [&](const QList<QPointF>& places) {
+        fingers(QEventPoint::State::Pressed, places);
+        fingers(QEventPoint::State::Released, places);
+    };
+    tap({at, at + QPointF(50, 0)});
+    EXPECT_EQ(_window->view()->image(), before);
+    tap({at, at + QPointF(50, 0), at + QPointF(25, 30)});
+    EXPECT_EQ(_window->view()->image(), after);
+
+    const auto turned = [&](double degrees) {
+        QLineF between(at + QPointF(50, 0), at + QPointF(90, 0));
+        between.setAngle(degrees);
+        return QList<QPointF>{between.p1(), between.p2()};
+    };
+    fingers(QEventPoint::State::Pressed, turned(0));
+    for (int degrees = 10; degrees <= 60; degrees += 10) {
+        fingers(QEventPoint::State::Updated, turned(degrees));
+    }
+    fingers(QEventPoint::State::Released, turned(60));
+    EXPECT_NEAR(qRadiansToDegrees(_window->view()->viewRotation()), 60, 2);
+    EXPECT_EQ(_window->view()->image(), after);
+    _window->viewport().fit();
+    EXPECT_EQ(_window->view()->viewRotation(), 0);
 }
 
 }  // namespace
