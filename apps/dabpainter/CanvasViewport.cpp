@@ -50,10 +50,6 @@ QPointF CanvasViewport::pointOfBuffer(QPointF bufferPoint) const {
     return _view ? _view->bufferToView().map(bufferPoint) : QPointF();
 }
 
-bool CanvasViewport::isOnCanvas(QPointF at) const {
-    return _view && QRectF(QPointF(), _view->bufferSize()).contains(bufferPoint(at));
-}
-
 void CanvasViewport::zoomAbout(double zoom, QPointF anchor) {
     if (_view)
         _view->zoomAbout(zoom, anchor);

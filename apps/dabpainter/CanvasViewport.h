@@ -32,7 +32,6 @@ public:
 
     QPointF bufferPoint(QPointF at) const;
     QPointF pointOfBuffer(QPointF bufferPoint) const;
-    bool isOnCanvas(QPointF at) const;
     // Points per buffer pixel.
     double scale() const;
 

@@ -30,7 +30,8 @@ void Document::begin(QDDrawCanvas& canvas, const Origin& origin) {
     setUndoSteps(_undoSteps);
     if (!origin.hasHistory) {
         canvas.resetUndoManager();
-        canvas.setKeepsForRecovery(true);
+        if (!canvas.setKeepsForRecovery(true))
+            emit notKept();
     }
     canvas.setModified(origin.isUnsaved);
     canvas.setAutoMark(true);

@@ -56,6 +56,7 @@ signals:
     void changed();         // name, or what is unsaved
     void pictureChanged();  // often
     void saved();
+    void notKept();  // its history cannot be written down, so that a crash would lose it
 
 private:
     void describe();

@@ -38,8 +38,8 @@ QIcon iconOf(const QImage& thumbnail, double dots) {
 
 }  // namespace
 
-LeftPicturesDialog::LeftPicturesDialog(const LeftPictures& left, QWidget* parent)
-    : QDialog(parent), _left(left), _list(new QListWidget), _facts(new QLabel) {
+LeftPicturesDialog::LeftPicturesDialog(const LeftPictures& left, QList<LeftPicture> now, QWidget* parent)
+    : QDialog(parent), _left(left), _pictures(std::move(now)), _list(new QListWidget), _facts(new QLabel) {
     setWindowTitle(tr("Recover Pictures"));
     auto* about = new QLabel(
         tr("Dabpainter ended unexpectedly while these were painted. Each goes on where it was, with its undo "
@@ -78,7 +78,6 @@ LeftPicturesDialog::LeftPicturesDialog(const LeftPictures& left, QWidget* parent
 }
 
 void LeftPicturesDialog::fill() {
-    _pictures = _left.list();
     _list->clear();
     for (const LeftPicture& picture : _pictures) {
         const QString name = picture.path.isEmpty() ? tr("Untitled") : QFileInfo(picture.path).fileName();
@@ -121,6 +120,7 @@ void LeftPicturesDialog::discard() {
         return;
     if (!_left.discard(*picture))
         QMessageBox::warning(this, QString(), tr("It cannot be deleted: it is in use, or the disk refuses."));
+    _pictures = _left.list();
     fill();
     if (_pictures.isEmpty())
         reject();

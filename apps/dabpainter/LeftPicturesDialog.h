@@ -18,7 +18,7 @@ class LeftPicturesDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit LeftPicturesDialog(const LeftPictures& left, QWidget* parent = nullptr);
+    LeftPicturesDialog(const LeftPictures& left, QList<LeftPicture> now, QWidget* parent = nullptr);
     // None before one was accepted.
     std::optional<LeftPicture> chosen() const;
 

@@ -176,15 +176,15 @@ bool MainWindow::openCopy(const LeftPicture& picture) {
                                 : tellFault(read.fault);
 }
 
-void MainWindow::offerLeftPictures() {
-    if (_left.list().isEmpty())
-        return;
-    const auto chosen = _prompts.pickLeft(this, _left);
-    if (!chosen)
-        return;
+bool MainWindow::offerLeftPictures() {
+    const QList<LeftPicture> pictures = _left.list();
+    if (pictures.isEmpty())
+        return false;
+    const auto chosen = _prompts.pickLeft(this, _left, pictures);
     _pointer->endStroke();
-    if (mayDiscard())
+    if (chosen && mayDiscard())
         recover(*chosen);
+    return true;
 }
 
 bool MainWindow::placeImage(const QString& path) {

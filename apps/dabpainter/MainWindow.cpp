@@ -87,6 +87,10 @@ void MainWindow::connectParts() {
     connect(&_document, &Document::changed, this, &MainWindow::showDocument);
     connect(_autosave, &Autosave::failed, this,
             [this](const QString& fault) { statusBar()->showMessage(fault, 4 * kMessageTime); });
+    connect(&_document, &Document::notKept, this, [this] {
+        statusBar()->showMessage(tr("The disk takes no undo steps: save, as a crash would lose this picture"),
+                                 4 * kMessageTime);
+    });
     connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
     connect(_panel, &BrushPanel::eyedropper, this, [this] { _pointer->setPicking(true); });
     connect(_pointer, &CanvasPointer::picked, this, [this](const QColor& color) {
@@ -173,8 +177,8 @@ void MainWindow::makeFileMenu() {
     addTo(menu, tr("&Open…"), {QKeySequence::Open}, [this] { open(); });
     addTo(menu, tr("&Place Image…"), {}, [this] { place(); });
     addTo(menu, tr("&Recover Pictures…"), {}, [this] {
-        _left.list().isEmpty() ? statusBar()->showMessage(tr("No run has left a picture"), kMessageTime)
-                               : offerLeftPictures();
+        if (!offerLeftPictures())
+            statusBar()->showMessage(tr("No run has left a picture"), kMessageTime);
     });
     menu->addSeparator();
     addTo(menu, tr("&Save"), {QKeySequence::Save}, [this] { save(); });

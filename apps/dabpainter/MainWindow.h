@@ -49,8 +49,8 @@ public:
     bool saveTo(const QString& path);
     void clearCanvas();
 
-    // What dead runs left may be gone on with; when nothing was, not a word.
-    void offerLeftPictures();
+    // What dead runs left may be gone on with. False, and not a word, when there is nothing.
+    bool offerLeftPictures();
 
     bool isUnsaved() const { return _document.isModified(); }
     // Whether the canvas may go: there is nothing unsaved, or the user saved or gave it up.

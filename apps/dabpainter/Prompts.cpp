@@ -105,8 +105,9 @@ void tell(QWidget* parent, const QString& what) {
     QMessageBox::warning(parent, QString(), what);
 }
 
-std::optional<LeftPicture> pickLeft(QWidget* parent, const LeftPictures& left) {
-    LeftPicturesDialog dialog(left, parent);
+std::optional<LeftPicture> pickLeft(QWidget* parent, const LeftPictures& left,
+                                    const QList<LeftPicture>& now) {
+    LeftPicturesDialog dialog(left, now, parent);
     return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
 }
 

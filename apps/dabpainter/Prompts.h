@@ -31,7 +31,8 @@ struct Prompts {
     std::function<QString(QWidget*, const QString& suggested)> pickBrushName;  // to save as; empty: given up
     std::function<void(const QString& path)> showFolder;
     // Which one to go on with; none: not now.
-    std::function<std::optional<LeftPicture>(QWidget*, const LeftPictures&)> pickLeft;
+    std::function<std::optional<LeftPicture>(QWidget*, const LeftPictures&, const QList<LeftPicture>& now)>
+        pickLeft;
 };
 
 // Message boxes and file dialogs of Qt's own.

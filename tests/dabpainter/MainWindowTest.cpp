@@ -9,13 +9,13 @@
 #include <QPointingDevice>
 #include <QStatusBar>
 #include <QTabletEvent>
-#include <QTouchEvent>
 #include <QWheelEvent>
 #include <cerrno>
 #include <cstring>
 #include <string>
 
 #include "BrushCursor.h"
+#include "CanvasPointer.h"
 #include "ESRender/ESImageRender.h"
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
@@ -132,28 +132,25 @@ TEST_F(MainWindowTest, TheOutlineIsAsWideAsTheMark) {
     }
 }
 
-TEST_F(MainWindowTest, ZoomingKeepsThePixelBelowThePointer) {
+TEST_F(MainWindowTest, TheCanvasStaysFittedUntilItIsZoomed) {
     CanvasViewport& viewport = _window->viewport();
-    viewport.setZoom(8);
-    const QPointF at(310, 260);
-    const QPointF before = viewport.bufferPoint(at);
-    viewport.zoomAbout(11.7, at);
-    // Positions are whole screen pixels.
-    EXPECT_NEAR(viewport.bufferPoint(at).x(), before.x(), 0.5);
-    EXPECT_NEAR(viewport.bufferPoint(at).y(), before.y(), 0.5);
-    _window->resize(940, 690);
-    settle();
-    EXPECT_EQ(viewport.zoom(), 11.7);
-    viewport.fit();
-    EXPECT_TRUE(QRectF(viewport.rect()).contains(shownCanvas()));
-    EXPECT_NEAR(shownCanvas().center().x(), viewport.rect().center().x(), 2);
+    for (const bool fits : {true, false}) {
+        if (!fits)
+            viewport.setZoom(11.7);
+        _window->resize(340, 390);
+        settle();
+        EXPECT_EQ(QRectF(viewport.rect()).contains(shownCanvas()), fits);
+        _window->resize(940, 690);
+        settle();
+        EXPECT_EQ(viewport.zoom(), fits ? 1 : 11.7);
+    }
 }
 
 TEST_F(MainWindowTest, KeysAndTheWheelZoomAboutThePointerAndTwoFingersOnAPadPan) {
     const QPointingDevice pad("pad", 21, QInputDevice::DeviceType::TouchPad,
                               QPointingDevice::PointerType::Finger, QInputDevice::Capability::Scroll, 2, 0);
     CanvasViewport& viewport = _window->viewport();
-    viewport.setZoom(4);
+    viewport.setZoom(8);
     const QPointF at(310, 260);
     const auto scroll = [&](const QPointingDevice& device, QPoint pixels, QPoint angle,
                             Qt::KeyboardModifiers keys) {
@@ -230,12 +227,21 @@ TEST_F(MainWindowTest, TheSpaceBarPansUntilTheProgramIsLeft) {
         QEvent left(QEvent::ApplicationDeactivate);
         QApplication::sendEvent(qApp, &left);
     }
-    // Until half the room is empty.
-    const QPointF middle = viewport.rect().center();
-    viewport.pan({1e6, 1e6});
-    EXPECT_LT((shownCanvas().topLeft() - middle).manhattanLength(), 5);
-    viewport.pan({-1e6, -1e6});
-    EXPECT_LT((shownCanvas().bottomRight() - middle).manhattanLength(), 5);
+    // A release that is lost ends both, as the move after it tells.
+    for (const bool picks : {false, true}) {
+        if (picks)
+            action("&Eyedropper")->trigger();
+        else
+            QApplication::sendEvent(&viewport, &space);
+        send(QEvent::MouseButtonPress, {300, 300}, Qt::LeftButton);
+        send(QEvent::MouseMove, {310, 300}, Qt::NoButton);
+        const QPointF before = shownCanvas().topLeft();
+        send(QEvent::MouseMove, {340, 330}, Qt::NoButton);
+        EXPECT_EQ(shownCanvas().topLeft(), before);
+        EXPECT_FALSE(_window->pointer().isPicking());
+        QEvent left(QEvent::ApplicationDeactivate);
+        QApplication::sendEvent(qApp, &left);
+    }
 }
 
 TEST_F(MainWindowTest, WhatIsPickedIsThePixelBelowThePointer) {
@@ -269,21 +275,6 @@ TEST_F(MainWindowTest, APensTapIsAsStrongAsItBecame) {
         EXPECT_EQ(pixel(115, 75).lightness() < 60, button == Qt::LeftButton);
         EXPECT_EQ(pixel(100, 75).lightness() < 60, button == Qt::LeftButton);
     }
-}
-
-TEST_F(MainWindowTest, AStrokeMayBeginBesideTheCanvas) {
-    CanvasViewport& viewport = _window->viewport();
-    viewport.setZoom(1);
-    const auto sendAt = [&](QEvent::Type type, QPointF bufferPoint, Qt::MouseButtons buttons) {
-        send(type, viewport.pointOfBuffer(bufferPoint), buttons);
-    };
-    sendAt(QEvent::MouseButtonPress, {-40, 75}, Qt::LeftButton);
-    for (int x = -30; x < 60; x += 10)
-        sendAt(QEvent::MouseMove, QPointF(x, 75), Qt::LeftButton);
-    sendAt(QEvent::MouseButtonRelease, {60, 75}, Qt::NoButton);
-    EXPECT_FALSE(_window->view()->isDrawing());
-    EXPECT_LT(pixel(2, 75).lightness(), 128);
-    EXPECT_TRUE(_window->isUnsaved());
 }
 
 // On an opaque canvas down to the paper, on another one through it; by the pen's other end as by a brush that erases.
@@ -342,63 +333,6 @@ TEST_F(MainWindowTest, ErasingLeavesNoHolesInAnOpaquePicture) {
             EXPECT_EQ(_window->view()->hueTingle(), 0.5f);
         }
     }
-}
-
-TEST_F(MainWindowTest, TwoFingersZoomAndOneLongLineStays) {
-    const QPointingDevice screen("touch", 8, QInputDevice::DeviceType::TouchScreen,
-                                 QPointingDevice::PointerType::Finger, QInputDevice::Capability::Position, 5,
-                                 0);
-    QDDrawView* view = _window->view();
-    _window->viewport().setZoom(1);
-    const auto cornerOfCanvas = [&] { return view->mapToGlobal(shownCanvas().topLeft()); };
-    QPointF corner = cornerOfCanvas();
-    quint64 time = 0;
-    using Finger = QEventPoint::State;
-    const auto touch = [&](QEvent::Type type, const QList<std::pair<QPointF, Finger>>& fingers,
-                           quint64 after = 16) {
-        QList<QEventPoint> points;
-        for (const auto& [at, state] : fingers)
-            points << QEventPoint(int(points.size()) + 1, state, at, corner + at);
-        QTouchEvent event(type, &screen, Qt::NoModifier, points);
-        event.setTimestamp(time += after);
-        QApplication::sendEvent(view, &event);
-    };
-    const auto lift = [&](QPointF a, QPointF b) {
-        touch(QEvent::TouchEnd, {{a, Finger::Released}, {b, Finger::Released}});
-        settle();
-    };
-    const QImage before = view->image();
-    touch(QEvent::TouchBegin, {{{80, 60}, Finger::Pressed}});
-    touch(QEvent::TouchUpdate, {{{86, 60}, Finger::Updated}});
-    touch(QEvent::TouchUpdate, {{{86, 60}, Finger::Stationary}, {{126, 60}, Finger::Pressed}});
-    touch(QEvent::TouchUpdate, {{{66, 60}, Finger::Updated}, {{146, 60}, Finger::Updated}});
-    lift({66, 60}, {146, 60});
-    EXPECT_NEAR(_window->viewport().zoom(), 2, 0.05);
-    EXPECT_EQ(view->image(), before);
-    EXPECT_FALSE(_window->isUnsaved());
-
-    corner = cornerOfCanvas();
-    touch(QEvent::TouchBegin, {{{40, 60}, Finger::Pressed}});
-    for (int x = 50; x < 200; x += 10)
-        touch(QEvent::TouchUpdate, {{{double(x), 60}, Finger::Updated}}, 60);
-    touch(QEvent::TouchUpdate, {{{190, 60}, Finger::Stationary}, {{40, 100}, Finger::Pressed}});
-    lift({190, 60}, {40, 100});
-    EXPECT_NE(view->image(), before);
-    EXPECT_TRUE(_window->isUnsaved());
-
-    // The pixel between the fingers goes along.
-    CanvasViewport& viewport = _window->viewport();
-    viewport.setZoom(8);
-    const auto between = [&](double x) {
-        return viewport.bufferPoint(viewport.mapFromGlobal(corner + QPointF(x, 60))).x();
-    };
-    touch(QEvent::TouchBegin, {{{66, 60}, Finger::Pressed}});
-    touch(QEvent::TouchUpdate, {{{66, 60}, Finger::Stationary}, {{146, 60}, Finger::Pressed}});
-    const double pixel = between(106);
-    for (const double x : {126, 146})
-        touch(QEvent::TouchUpdate, {{{x - 40, 60}, Finger::Updated}, {{x + 40, 60}, Finger::Updated}});
-    EXPECT_NEAR(between(146), pixel, 0.5);
-    lift({106, 60}, {186, 60});
 }
 
 // Whatever the user wants besides: it comes after the stroke, which ends where it got to.
@@ -504,6 +438,28 @@ TEST_F(MainWindowTest, WhatPaintsIsChosenForTheNextPictureAndForGood) {
     }
     makeWindow();
     EXPECT_TRUE(isProcessor() && action("&Processor")->isChecked());
+}
+
+TEST_F(MainWindowTest, WhatCannotBeHadFromItsHistoryComesFromItsCopy) {
+    QDir().mkpath(path("copies"));
+    for (const char* history : {"", "History000999"}) {
+        LeftPicture left;
+        left.history = QLatin1String(history);
+        left.copy = savedImage(QLatin1String("copies/left") + history + ".png", Qt::blue, QSize(80, 50));
+        left.path = path("mine.jpg");
+        left.size = QSize(80, 50);
+        const LogCapture quiet;
+        EXPECT_TRUE(_window->recover(left));
+        EXPECT_EQ(pixel(20, 20), QColor(Qt::blue));
+        EXPECT_TRUE(_window->isUnsaved());
+        EXPECT_EQ(_window->document().suggestedPath(), path("mine.png"));
+        ASSERT_TRUE(QFile::exists(left.copy)) << "until there is a newer one";
+        ASSERT_TRUE(_window->saveTo(path("mine.png")));
+        EXPECT_FALSE(QFile::exists(left.copy));
+        EXPECT_FALSE(_window->recover(left)) << "it is nowhere any more";
+        EXPECT_EQ(_told.size(), 1);
+        _told.clear();
+    }
 }
 
 // ---- Image files

@@ -48,10 +48,9 @@ protected:
         prompts.pickBrushes = [this](QWidget*) { return _images; };
         prompts.pickBrushName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.showFolder = [](const QString&) {};
-        prompts.pickLeft = [this](QWidget*, const LeftPictures& left) {
-            const auto pictures = left.list();
+        prompts.pickLeft = [this](QWidget*, const LeftPictures&, const QList<LeftPicture>& pictures) {
             _offered = int(pictures.size());
-            return _takesLeft && !pictures.isEmpty() ? std::optional(pictures.first()) : std::nullopt;
+            return std::optional(pictures.first());
         };
         _window.reset();
         _window = std::make_unique<MainWindow>(
@@ -92,7 +91,6 @@ protected:
     QString _saveName, _name;
     bool _confirmed = true;
     int _asked = 0, _offered = 0;
-    bool _takesLeft = true;
     std::unique_ptr<MainWindow> _window;
 };
 

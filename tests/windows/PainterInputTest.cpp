@@ -326,17 +326,20 @@ TEST_F(PainterInputTest, TwoFingersThatTapUndoThreeRedoAndATwistTurns) {
     tap({at, at + QPointF(50, 0), at + QPointF(25, 30)});
     EXPECT_EQ(_window->view()->image(), after);
 
+    // From one to the other they get twice as far apart.
     const auto turned = [&](double degrees) {
-        QLineF between(at + QPointF(50, 0), at + QPointF(90, 0));
+        QLineF between(at + QPointF(50, 0), at + QPointF(90 + degrees * 2 / 3, 0));
         between.setAngle(degrees);
         return QList<QPointF>{between.p1(), between.p2()};
     };
+    const double zoom = _window->viewport().zoom();
     fingers(QEventPoint::State::Pressed, turned(0));
     for (int degrees = 10; degrees <= 60; degrees += 10) {
         fingers(QEventPoint::State::Updated, turned(degrees));
     }
     fingers(QEventPoint::State::Released, turned(60));
     EXPECT_NEAR(qRadiansToDegrees(_window->view()->viewRotation()), 60, 2);
+    EXPECT_NEAR(_window->viewport().zoom(), 2 * zoom, 0.1 * zoom);
     EXPECT_EQ(_window->view()->image(), after);
     _window->viewport().fit();
     EXPECT_EQ(_window->view()->viewRotation(), 0);
