@@ -85,6 +85,7 @@ void MainWindow::watchView() {
     connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);
     connect(now, &QDDrawView::modifiedChanged, this, &MainWindow::showDocument);
     connect(now, &QDDrawView::canvasChanged, &_document, &Document::noteChange);
+    connect(now, &QDDrawView::contextLost, this, &MainWindow::replaceLost, Qt::QueuedConnection);
     connect(now, &QDDrawView::fingersTapped, this, [this](int fingers) {
         if (fingers == 2)
             stepHistory(&QDDrawCanvas::undo);
@@ -94,6 +95,21 @@ void MainWindow::watchView() {
     _undo->setEnabled(now->canUndo());
     _redo->setEnabled(now->canRedo());
     _status->showCanvas();
+}
+
+// A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
+void MainWindow::replaceLost() {
+    if (!view() || !view()->isContextLost())
+        return;
+    const QImage seen = view()->displayImage();
+    const bool replaced = openPicture(seen, {.path = _document.path(),
+                                             .plan = _document.plan(),
+                                             .copy = _autosave->takeName(),
+                                             .isUnsaved = true});
+    if (replaced)
+        statusBar()->showMessage(
+            tr("The graphics card was lost for a moment; the picture is here, its undo steps are not"),
+            2 * kMessageTime);
 }
 
 // Always false.

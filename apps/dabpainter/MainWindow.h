@@ -96,6 +96,7 @@ private:
     bool openCopy(const LeftPicture& picture);
     bool openPicture(const QImage& image, const Document::Origin& origin);
     void watchView();
+    void replaceLost();
     bool tellFault(const QString& fault);
     void newCanvas();
     void open();

@@ -20,6 +20,7 @@
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
+#include "support/FailingDriver.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
 #include "support/DyingProcess.h"
@@ -460,6 +461,24 @@ TEST_F(MainWindowTest, WhatCannotBeHadFromItsHistoryComesFromItsCopy) {
         EXPECT_EQ(_told.size(), 1);
         _told.clear();
     }
+}
+
+TEST_F(MainWindowTest, APictureOutlivesItsGraphicsCard) {
+    _window->settings().setSurface(SurfaceKind::gpu);
+    ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::white}));
+    paint();
+    const QImage painted = _window->view()->image();
+    settle();  // which shows it
+    {
+        const FailingDriver driver(FailingDriver::Fault::lostContext);
+        const LogCapture quiet;
+        _window->clearCanvas();
+        settle();
+    }
+    EXPECT_FALSE(_window->view()->isContextLost());
+    EXPECT_EQ(_window->view()->image(), painted);
+    EXPECT_TRUE(_window->isUnsaved());
+    EXPECT_TRUE(_window->saveTo(path("rescued.png")));
 }
 
 // ---- Image files
