@@ -6,29 +6,34 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QThread>
+#include <cstdlib>
 
 #include "Autosave.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "History/UndoRecovery.h"
 #include "PainterSettings.h"
-#include "support/Files.h"
+#include "PainterTest.h"
 #ifdef Q_OS_UNIX
-#include "support/DyingProcess.h"
 #include "support/Limits.h"
 #endif
 
 namespace dabcanvas::dabpainter {
 namespace {
 
+constexpr const char* kHow = "DABPAINTER_TEST_HOW";
+
 class DocumentTest : public ::testing::Test {
 protected:
     void SetUp() override { UndoRecovery::setFolder(path("recovery")); }
     void TearDown() override { UndoRecovery::setFolder({}); }
 
-    QString path(const QString& name) const { return _folder.filePath(name); }
+    QString path(const QString& name) const {
+        return qEnvironmentVariable(kFolderVariable, _folder.path()) + QLatin1Char('/') + name;
+    }
     void begin(const Document::Origin& origin) {
         auto next = QDDrawCanvas::initWithFrame(QRectF(0, 0, 60, 40), {.kind = SurfaceKind::processor});
         next->clearWithColor(ESColor::grey(1), false);
@@ -136,31 +141,42 @@ TEST_F(DocumentTest, ACopyIsThereWhileSomethingIsUnsaved) {
     }
 }
 
-#ifdef Q_OS_UNIX
+// Ends without cleaning up.
+TEST_F(DocumentTest, DISABLED_Dying) {
+    const QString how = qEnvironmentVariable(kHow);
+    Autosave autosave(document, path("copies"));
+    autosave.setDelays(0, how == "copied" ? 0 : 60000);
+    begin({.path = path(how + ".png"), .plan = {{60, 40}, Qt::white}, .copy = autosave.takeName()});
+    if (how != "blank")
+        paint();
+    QThread::msleep(500);  // the history is written in the background
+    if (how == "copied") {
+        QCoreApplication::processEvents();
+        autosave.wait();
+    }
+    std::_Exit(0);
+}
+
 TEST_F(DocumentTest, WhatDeadRunsLeftIsListedUntilSomebodyTakesItOrDeletesIt) {
     const LeftPictures left(path("copies"));
-    const auto die = [&](const QString& name, bool paints, bool copies) {
-        inDyingProcess([&] {
-            auto* autosave = new Autosave(document, path("copies"));
-            autosave->setDelays(0, 0);
-            begin({.path = path(name), .plan = {{60, 40}, Qt::white}, .copy = autosave->takeName()});
-            if (paints)
-                paint();
-            if (paints && copies) {
-                QCoreApplication::processEvents();
-                autosave->wait();
-            }
-            QThread::msleep(500);  // the history is written in the background
-        });
+    const auto die = [&](const char* how) {
+        QProcess dying;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(kFolderVariable, _folder.path());
+        environment.insert(kHow, how);
+        dying.setProcessEnvironment(environment);
+        dying.start(QCoreApplication::applicationFilePath(),
+                    {"--gtest_also_run_disabled_tests", "--gtest_filter=*DISABLED_Dying"});
+        EXPECT_TRUE(dying.waitForFinished());
     };
-    die("blank.png", false, false);
+    die("blank");
     EXPECT_TRUE(left.list().isEmpty()) << "there is nothing but what it began with";
-    die("both.png", true, true);
-    die("history.png", true, false);
+    die("copied");
+    die("painted");
     auto found = left.list();
     ASSERT_EQ(found.size(), 2);
-    EXPECT_EQ(found[0].path, path("history.png")) << "the last one first";
-    EXPECT_EQ(found[1].path, path("both.png"));
+    EXPECT_EQ(found[0].path, path("painted.png")) << "the last one first";
+    EXPECT_EQ(found[1].path, path("copied.png"));
     EXPECT_EQ(found[1].background, QColor(Qt::white));
     EXPECT_LT(found[1].thumbnail.pixelColor(30, 20).lightness(), 128);
     EXPECT_EQ(found[1].steps, 1);
@@ -169,7 +185,7 @@ TEST_F(DocumentTest, WhatDeadRunsLeftIsListedUntilSomebodyTakesItOrDeletesIt) {
     ASSERT_TRUE(UndoRecovery::discard(found[1].history));
     const auto byCopy = left.list().last();
     EXPECT_TRUE(byCopy.history.isEmpty());
-    EXPECT_EQ(byCopy.path, path("both.png"));
+    EXPECT_EQ(byCopy.path, path("copied.png"));
     EXPECT_LT(byCopy.thumbnail.pixelColor(30, 20).lightness(), 128);
     left.makeRoom(qint64{1} << 20);
     EXPECT_EQ(left.list().size(), 2);
@@ -177,7 +193,7 @@ TEST_F(DocumentTest, WhatDeadRunsLeftIsListedUntilSomebodyTakesItOrDeletesIt) {
         const auto taken = LeftPictures::claim(byCopy.copy);
         EXPECT_EQ(left.list().size(), 1);
     }
-    die("early.png", false, false);
+    die("blank");
     ASSERT_TRUE(UndoRecovery::discard(UndoRecovery::list().first().id));
     left.makeRoom(0);
     EXPECT_EQ(left.list().size(), 1) << "of copies beyond the bound, those with a history stay";
@@ -186,7 +202,6 @@ TEST_F(DocumentTest, WhatDeadRunsLeftIsListedUntilSomebodyTakesItOrDeletesIt) {
     EXPECT_TRUE(left.list().isEmpty());
     EXPECT_TRUE(QDir(path("copies")).isEmpty());
 }
-#endif
 
 // ---- Settings
 
