@@ -49,8 +49,7 @@ signals:
     void moved(QPointF bufferPoint);
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
-    void strokeEnded();
-    void noShapeFound();  // a stroke that was to be one is gone
+    void noShapeFound();                   // a stroke that was to be one is gone
     void picked(const QColor& color);
     void pickingChanged(bool picking);
 
