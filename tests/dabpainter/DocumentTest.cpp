@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QThread>
 #include <cstdlib>
@@ -15,7 +14,6 @@
 #include "Autosave.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "History/UndoRecovery.h"
-#include "PainterSettings.h"
 #include "PainterTest.h"
 #ifdef Q_OS_UNIX
 #include "support/Limits.h"
@@ -201,27 +199,6 @@ TEST_F(DocumentTest, WhatDeadRunsLeftIsListedUntilSomebodyTakesItOrDeletesIt) {
     EXPECT_TRUE(left.discard(found[0]));
     EXPECT_TRUE(left.list().isEmpty());
     EXPECT_TRUE(QDir(path("copies")).isEmpty());
-}
-
-// ---- Settings
-
-TEST_F(DocumentTest, SettingsAreInTheirFileWithinASecond) {
-    QSettings file(path("settings.ini"), QSettings::IniFormat);
-    PainterSettings settings(file);
-    int written = 0;
-    settings.addWriter([&](QSettings& to) { to.setValue("others", ++written); });
-    EXPECT_EQ(settings.touch(), TouchPolicy::pensOnceSeen);
-    settings.setTouch(TouchPolicy::pensOnly);
-    settings.setUndoSteps(1 << 20);
-    for (int i = 0; i < 100 && written == 0; ++i) {
-        settings.noteChange();  // which puts nothing off
-        QThread::msleep(13);
-        QCoreApplication::processEvents();
-    }
-    const QSettings again(path("settings.ini"), QSettings::IniFormat);
-    EXPECT_EQ(again.value("others").toInt(), 1);
-    EXPECT_EQ(settings.touch(), TouchPolicy::pensOnly);
-    EXPECT_EQ(settings.undoSteps(), PainterSettings::kMostUndoSteps);
 }
 
 }  // namespace
