@@ -19,14 +19,17 @@
 
 namespace dabcanvas {
 
+/// A key for each row, by the name of its property.
 enum class BrushKey : std::uint8_t {
 #define BRUSH_PROPERTY(type, name, Name, ...) name,
 #include "Brushes/BrushPropertyList.h"
     count
 };
 
+/// What kind of value a property has, as BrushValue holds it.
 enum class BrushValueType : std::uint8_t { boolean, integer, real, control, color, image, images, text };
 
+/// What properties have to do with, for those who list them.
 enum class BrushGroup : std::uint8_t {
     brush,
     tip,
@@ -62,12 +65,14 @@ enum class PresetForm : std::uint8_t {
 /// A value as a property holds it.
 using BrushValue = std::variant<bool, int, float, LPControlParams, ESColor, QImage, QList<QImage>, QString>;
 
+/// A row of the table: all that follows from a property.
 struct BrushProperty {
     /// In the order of BrushValueType.
     using Field =
         std::variant<bool BrushSettings::*, int BrushSettings::*, float BrushSettings::*,
                      LPControlParams BrushSettings::*, ESColor BrushSettings::*, QImage BrushSettings::*,
                      QList<QImage> BrushSettings::*, QString BrushSettings::*>;
+    /// Where what dabs are made from has it.
     using DabField = std::variant<std::monostate, bool DabSettings::*, int DabSettings::*,
                                   float DabSettings::*, LPControlParams DabSettings::*>;
 
@@ -109,12 +114,14 @@ DABCANVAS_BRUSHES_API QVariant brushDefault(const BrushProperty& property);
 /// Values by their row's type. None for a QVariant of another type, and for numbers that are not finite.
 DABCANVAS_BRUSHES_API std::optional<BrushValue> brushValueOf(const BrushProperty& property,
                                                              const QVariant& value);
+/// As a property of Qt has it.
 DABCANVAS_BRUSHES_API QVariant variantOf(const BrushValue& value);
 
 /// The row of a preset id, with the number of the control's part (0 speed, 1 pressure, 2 altitude; -1 for a property of
 /// one value); null for an id that no property has.
 DABCANVAS_BRUSHES_API const BrushProperty* brushPropertyOfPresetId(std::uint32_t id, int* part);
 
+/// As the tools name it.
 DABCANVAS_BRUSHES_API const char* brushGroupName(BrushGroup group);
 DABCANVAS_BRUSHES_API const char* brushValueTypeName(BrushValueType type);
 

@@ -29,7 +29,7 @@ public:
     std::int32_t textureType() const { return _textureType; }
     void setTextureType(std::int32_t type) { _textureType = type; }
 
-    /// 0 soft .. 1 hard.
+    /// From 0, soft, to 1, hard.
     float hardness() const { return _hardness; }
     void setHardness(float hardness) { _hardness = hardness; }
 

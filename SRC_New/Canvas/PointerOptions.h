@@ -22,11 +22,12 @@ public:
     PressureCurve() = default;  ///< as it is
     /// Monotone cubics after Fritsch and Carlson (1980): no value lies beyond those of the points beside it. From two
     /// points on, each 0..1, with rising x and y that does not fall; below the first and above the last the curve is
-    /// level.
+    /// level. None for any others.
     static std::optional<PressureCurve> through(const std::vector<QPointF>& points);
 
     /// Of a pressure 0..1; -1, no pressure, stays so.
     float at(float pressure) const;
+    /// What it goes through; none of a pressure that counts as it is.
     const std::vector<QPointF>& points() const { return _points; }
     friend bool operator==(const PressureCurve&, const PressureCurve&) = default;
 
@@ -35,6 +36,7 @@ private:
     std::vector<double> _slopes;
 };
 
+/// What steadies a hand.
 enum class Stabilising {
     none,
     average,  ///< follows the pointer as a weight in oil does: by 1 - 1/e of the way within `seconds`

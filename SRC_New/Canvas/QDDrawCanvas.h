@@ -52,13 +52,17 @@ class PaintSurface;
 /// Owns     all that it paints with. The caller's GL context is current again when a member returns, and in a delegate.
 /// Thread   one at a time, asserted in debug builds. Canvases are independent, also where they take turns on a thread;
 ///          those made on one thread share an OpenGL context, wait for each other on several, and lose it together.
-/// Life     to be destroyed before main() returns, as static objects may outlive OpenGL and Qt. A host may destroy it
-///          in any callback, see QDDrawViewDelegate.h.
+/// Life     the caller's from initWithFrame() on, to be destroyed before main() returns, as static objects may outlive
+///          OpenGL and Qt. A host may destroy it in any callback, see QDDrawViewDelegate.h.
 /// Errors   never throws; a failure is a log line and a false or null result.
 /// Loss     of a driver's device: after one log line isContextLost() holds for good, and nothing is drawn, read or
 ///          cleared any more. Another canvas can go on from undoManager() and displayImage().
 class DABCANVAS_CANVAS_API QDDrawCanvas : public dabcanvas::CanvasEvents {
 public:
+    /// What the setter of a brush property takes.
+    template <typename Type>
+    using BrushArgument = std::conditional_t<std::is_arithmetic_v<Type>, Type, const Type&>;
+
     // ---- Make
     /// As large as the frame, transparent, with the default brush. Null, after one log line, when the surface that is
     /// asked for cannot be had, or a side is not from 1 to its limit.
@@ -93,15 +97,13 @@ public:
     bool drawShape(const ShapeRecord& shape);
 
     // ---- Brush
-    /// Getter and setter of every property, such as `float opacity() const; void setOpacity(float value);`: a pair for
-    /// each row of BrushPropertyList.h, which says type, range, default and meaning. Numbers out of range are clamped,
-    /// numbers that are not finite refused with a log line. Setting takes effect with the next segment. What is
-    /// special:
-    ///   textureImages     none: textureType becomes 0, and dabs are soft discs.
-    ///                     Deliberate: only a tip's alpha counts, but for colorFul, which shows its own colours.
-    ///   enableRecogition  on: takes curImageData() from the canvas, unless autoMark() is on.
-    template <typename Type>
-    using BrushArgument = std::conditional_t<std::is_arithmetic_v<Type>, Type, const Type&>;
+    // Getter and setter of every property, such as `float opacity() const; void setOpacity(float value);`: a pair for
+    // each row of BrushPropertyList.h, which says type, range, default and meaning. Numbers out of range are clamped,
+    // numbers that are not finite refused with a log line. Setting takes effect with the next segment. What is
+    // special:
+    //   textureImages     none: textureType becomes 0, and dabs are soft discs.
+    //                     Deliberate: only a tip's alpha counts, but for colorFul, which shows its own colours.
+    //   enableRecogition  on: takes curImageData() from the canvas, unless autoMark() is on.
 #define BRUSH_PROPERTY(type, name, Name, ...)                          \
     type name() const {                                                \
         return std::get<type>(storedValue(dabcanvas::BrushKey::name)); \
@@ -113,6 +115,7 @@ public:
 
     /// By row, for tools. False for a QVariant of another type than the row's and for numbers that are not finite.
     bool setBrushValue(const dabcanvas::BrushProperty& property, const QVariant& value);
+    /// One value, and all of them.
     QVariant brushValue(const dabcanvas::BrushProperty& property) const;
     const dabcanvas::BrushSettings& brush() const;
 
@@ -206,11 +209,10 @@ public:
     void setScissorRect(const QRectF& rect);
 
     // ---- Undo
-    /// Steps are pictures of the canvas, of which only what changed is kept; they become the bytes that readData()
-    /// gives where a host asks for them. The first is the canvas as it was made; a host that prepares a picture calls
-    /// resetUndoManager() then. How many there are is undoManager()'s. Nothing of a history is made before it is asked
-    /// for.
-    ///
+    // Steps are pictures of the canvas, of which only what changed is kept; they become the bytes that readData()
+    // gives where a host asks for them. The first is the canvas as it was made; a host that prepares a picture calls
+    // resetUndoManager() then. How many there are is undoManager()'s. Nothing of a history is made before it is asked
+    // for.
     /// Record a step at the end of every stroke, after every image placed and every clear.
     bool autoMark() const;
     void setAutoMark(bool autoMark);
@@ -226,6 +228,7 @@ public:
     /// a host has removed clears the canvas, with a log line.
     dabcanvas::StepPicture undo();
     dabcanvas::StepPicture redo();
+    /// Why the last undo() or redo() did nothing.
     dabcanvas::UndoRefusal undoRefusal() const;
     /// Whether there is a step to go to; in mid-stroke, whether there will be without the stroke.
     bool canUndo() const;
@@ -236,12 +239,20 @@ public:
     dabcanvas::StepPicture loadUndoManager();
     /// The last step's picture, or the canvas's where there is no step or curImageData() is of another size.
     QImage currentImage();
+    /// The history, which is made where there is none yet; the canvas's, for as long as it lives.
     ImagesUndoManager& undoManager();
-    /// Writes steps down within moments, so that the history outlives a crash; off at first. Canvas and history become
-    /// what a dead process left, see UndoRecovery, which is kept on. False, and why after a log line or in `problem`.
+    /// Whether steps are written down within moments, and a stroke in progress each second, so that the history outlives
+    /// a crash; off at first. False, after a log line, where they cannot be.
     bool keepsForRecovery() const;
     bool setKeepsForRecovery(bool keeps);
+    /// Canvas and history become what a dead process left, see UndoRecovery, which is kept on. False, after a log line
+    /// or with the reason in `problem`.
     bool recoverHistory(const QString& id, QString* problem = nullptr);
+    /// A host's own, such as the file that the canvas goes to, up to 64 KiB in UTF-8: whoever finds the history gets
+    /// them with it (RecoverableHistory). Written when set; false where they are not, as a history that is not kept has
+    /// none on disk.
+    QString recoveryWords() const;
+    bool setRecoveryWords(const QString& words);
 
     // ---- Repeat and measure
     /// Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After
@@ -252,6 +263,7 @@ public:
     void setRandomSeed(std::uint32_t seed);
     /// Times each stage, waiting for the surface at each: honest shares, but slower strokes.
     void setProfiling(bool profiling);
+    /// What strokes have cost so far.
     const dabcanvas::StrokeStats& strokeStats() const;
 
     /// Hears what enters the canvas, first what it is; null for none. False, after a log line, in mid-stroke and where
@@ -283,6 +295,7 @@ public:
     /// A pointer will not be heard of again: its stroke ends where it got to, or is taken back, however long it is.
     void endPointerStroke();
     void withdrawPointerStroke();
+    /// Whether a mouse or pen stroke of up to nine moves is withdrawn; on at first.
     bool adjustCancelLine() const;
     void setAdjustCancelLine(bool value);
     bool usesPenTilt() const;  ///< off: events reach the stroke without altitude
@@ -408,8 +421,8 @@ protected:
     };
 
     // ---- Display hooks
-    /// displayFrame(), localPointWithTouch() and makeLeafDrawView() are questions: they may not destroy the canvas. The
-    /// others may: they come at the end of the call that caused them, with the host's own GL context current.
+    // displayFrame(), localPointWithTouch() and makeLeafDrawView() are questions: they may not destroy the canvas. The
+    // others may: they come at the end of the call that caused them, with the host's own GL context current.
     /// Where the canvas is shown, in view points; its size against bufferSize() gives scale().
     virtual QRectF displayFrame() const;
     /// Of those points, how many lie on one as seen, where the display shows the canvas smaller or larger.

@@ -30,6 +30,7 @@ public:
     virtual void drawViewWillDrawMove(QDDrawCanvas&, QPointF) {}
     /// Not sent for a move that lies within 1.0 buffer pixel of the last accepted one.
     virtual void drawViewDidDrawMove(QDDrawCanvas&, QPointF) {}
+    /// As at the begin.
     virtual void drawViewWillDrawEnd(QDDrawCanvas&, QPointF) {}
     virtual void drawViewDidDrawEnd(QDDrawCanvas&, QPointF) {}
 

@@ -17,7 +17,8 @@ struct StrokeStats {
     double compositingSeconds = 0;
 };
 
-/// Gathers them. While it is on, each stage waits for the surface to finish, or reading back would be charged for all.
+/// Gathers StrokeStats. While it is on, each stage waits for the surface to finish, or reading back would be charged
+/// for all.
 struct StageClock {
     StrokeStats stats;
     bool isOn = false;

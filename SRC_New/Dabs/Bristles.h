@@ -46,7 +46,7 @@ inline float bristleLoad(int bristle, float load) {
     return std::clamp(load + spread * (bristleChance(bristle, 0.59f) - 0.5f), 0.0f, 1.0f);
 }
 
-/// Half of what a dab measures across, and ahead; pixels.
+/// Half of what a dab measures across the stroke's way, and along it; pixels.
 struct BristleSpan {
     float across, ahead;
 

@@ -82,9 +82,9 @@ struct DabFlags {
     bool paperLift = false;
 };
 
-/// Turns the points of one stroke into dabs. Keeps the stroke's dab counter and direction from call to call;
-/// reset() begins the next stroke. On one thread at a time: the jitters use that thread's state, and the generator
-/// that its LPSharedState brings, or the C library's.
+/// Turns the points of one stroke into dabs: set `settings`, call updateFlags(), then make() for each run of points.
+/// Keeps the stroke's dab counter and direction from call to call; reset() begins the next stroke. On one thread at a
+/// time: the jitters use that thread's state, and the generator that its LPSharedState brings, or the C library's.
 class DABCANVAS_DABS_API DabMaker {
 public:
     static constexpr std::size_t kMostDabsAPoint = 64;
@@ -93,8 +93,10 @@ public:
 
     /// To be called after settings changed: derives which jitters are active.
     void updateFlags();
+    /// What updateFlags() found.
     const DabFlags& flags() const { return _flags; }
 
+    /// Begins the next stroke.
     void reset();
     /// The stroke led here before its first point, so that this one knows its direction.
     void comeFrom(const LPPosition& place);

@@ -42,6 +42,7 @@ struct DabBounds {
         return {x, y, (std::max)(0.0, (std::min)(maxX, bufferWidth) - x),
                 (std::max)(0.0, (std::min)(maxY, bufferHeight) - y)};
     }
+    /// The same in whole pixels.
     Rect pixelsOnBuffer() const {
         const Part part = onBuffer();
         return Rect::covering(part.x, part.y, part.x + part.width, part.y + part.height);

@@ -10,7 +10,7 @@
 
 namespace dabcanvas {
 
-/// Keeps whatever holds its pixels alive.
+/// A tip or a paper. Keeps whatever holds its pixels alive.
 struct Picture {
     PixelView pixels;    ///< premultiplied; null for an image that is none
     double density = 1;  ///< pixels a point, of images for dense screens: a tip counts in points

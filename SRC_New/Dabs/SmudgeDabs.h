@@ -22,7 +22,8 @@ struct SmudgeDab {
     BristleDab bristles{};
 };
 
-/// The canvas's properties of the same names tell what each does; 0..1, but for controlValue.
+/// What a smudge brush is set to. The canvas's properties of the same names tell what each does; 0..1, but for
+/// controlValue.
 struct SmudgeSettings {
     float moist = 0.3f, load = 1, mix = 1;
     bool control = true;      ///< mix grows from 0 over the first dabs of a stroke
@@ -33,12 +34,13 @@ struct SmudgeSettings {
     DABCANVAS_DABS_API float grownMix(std::int64_t index) const;
 };
 
-/// Adds to the dabs of a stroke what smudging needs. Keeps the pick-up place from call to call; reset() begins the next
-/// stroke.
+/// Adds to the dabs of a stroke, which a DabMaker makes for it, what smudging needs. Keeps the pick-up place from call
+/// to call; reset() begins the next stroke.
 class DABCANVAS_DABS_API SmudgeMaker {
 public:
     SmudgeSettings settings;
 
+    /// Begins the next stroke.
     void reset() {
         _hasPlace = false;
         _place = {0, 0};

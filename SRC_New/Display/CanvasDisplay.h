@@ -20,6 +20,9 @@ class HalvedCopies;
 /// A canvas on screen, be it in a widget or in an item: where it lies in its view, how it is drawn there, and what the
 /// view's mouse, pen and fingers do.
 ///
+/// Use      hosts call what is public of QDDrawView or of CanvasItem::canvas(). A view of another kind derives from it,
+///          calls initCanvasOrSayWhy() once, answers what is asked below, has paintCanvas() paint and hands events to
+///          pointers().
 /// Units    a view point is one of the widget or item, from its top left. What QDDrawCanvas calls view points are these
 ///          with ViewFit::stretch, and buffer pixels with any other fit.
 /// Thread   the application's main thread.
@@ -43,7 +46,9 @@ public:
     /// What of the canvas is in the view's middle, in buffer pixels; to be set with ViewFit::free.
     QPointF viewCentre() const { return _transform.centre(); }
     void setViewCentre(QPointF bufferPoint);
+    /// Moves the canvas by so much.
     void panBy(QPointF viewPoints);
+    /// From buffer pixels to view points, and back.
     const QTransform& bufferToView() const { return _transform.toView(); }
     const QTransform& viewToBuffer() const { return _transform.toCanvas(); }
 

@@ -9,6 +9,7 @@
 
 namespace dabcanvas {
 
+/// How a canvas lies in its view.
 enum class ViewFit {
     stretch,  ///< over all of the view, whatever its shape; neither turned nor mirrored
     whole,    ///< all of it in sight, with its shape kept, as large as that goes
@@ -35,13 +36,16 @@ public:
     void zoomAbout(double zoom, QPointF anchor);
     void turnAbout(double rotation, QPointF anchor);
     void setMirrored(bool mirrored, QPointF anchor);
+    /// Moves the canvas by so much; is free then.
     void panBy(QPointF points);
+    /// None with stretch.
     double rotation() const { return _fit == ViewFit::stretch ? 0 : _rotation; }
     bool isMirrored() const { return _fit != ViewFit::stretch && _mirrored; }
     /// The canvas's place in the middle of the view.
     QPointF centre() const { return _centre; }
     void setCentre(QPointF canvasPoint);
 
+    /// From canvas to view, and back.
     const QTransform& toView() const { return _toView; }
     const QTransform& toCanvas() const { return _toCanvas; }
 

@@ -38,7 +38,7 @@
 ///          false; what it had made of an incomplete set stays for destoryBuffer().
 class DABCANVAS_RENDER_API ESContext {
 public:
-    // ---- make
+    // ---- Make
 
     /// A context over the first platform view that works here: surfaceless EGL, else Qt. Null when neither
     /// does, after one log line that says what is missing. No buffers yet; leaves the host's context current.
@@ -69,6 +69,7 @@ public:
     bool provideTarget(ESRenderType type);
     /// Gives one layer's memory back; provideTarget() makes it anew.
     void releaseTarget(ESRenderType type);
+    /// Whether it is there.
     bool hasTarget(ESRenderType type) const { return _frameBuffer[type] != 0; }
     /// Gives the canvas, line and, where there is one, sub-line targets new, cleared storage of another size.
     /// Deliberate: the smudge layer keeps the size it was created with. A bad size changes nothing.
@@ -76,7 +77,7 @@ public:
     /// Deletes all four targets; safe to call again.
     void destoryBuffer();
 
-    // ---- draw
+    // ---- Draw
 
     /// Deliberate: always true. ESCurrentScope tells whether the context really is current.
     bool changeToCurrentContext();
@@ -87,6 +88,7 @@ public:
     void beginRenderForType(ESRenderType type);
     /// Ends what beginRenderForType() began: no scissor. Does not flush, see ESOpenGLView::flushBuffer().
     void finishRender();
+    /// The target of the last beginRenderForType().
     ESRenderType currentRenderType() const { return static_cast<ESRenderType>(_currentRenderType); }
 
     /// Whether the driver has taken the context away, as far as was found. Another view is a new chance.
@@ -118,7 +120,7 @@ public:
     /// copied, and the caller owns the name. Parts outside the target are not copied.
     void updateTextureAtPosition(const QPointF& centre, const QSizeF& size, GLuint& forTexID, GLenum pos);
 
-    // ---- read back
+    // ---- Read back
 
     /// Whether the rectangle lies in the buffer and is at least one pixel each way.
     bool isEnableRect(const QRectF& rect) const;
@@ -153,12 +155,13 @@ public:
     /// bound.
     bool updateImage(QImage& image, const QRect& rect);
 
-    // ---- state
+    // ---- State
 
     GLint backingWidth() const { return _backingWidth; }
     GLint backingHeight() const { return _backingHeight; }
     /// Size in pixels of one target's storage.
     QSize sizeForType(ESRenderType type) const;
+    /// Names of GL objects, to bind and never to delete; 0 where there is none.
     GLuint frameBuffer(ESRenderType type) const { return _frameBuffer[type]; }
     GLuint renderBuffer() const { return _renderBuffer; }
     GLuint lineTexture() const { return _lineTexture; }

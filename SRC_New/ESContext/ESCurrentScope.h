@@ -7,6 +7,8 @@
 #include "Maths/Export.h"
 
 class ESContext;
+class ESOpenGLView;
+
 /// Makes one canvas's OpenGL context current for a scope and then puts back exactly what the host had:
 /// another context with its surfaces, or none. Every public entry of the library stands in one.
 ///
@@ -16,8 +18,6 @@ class ESContext;
 ///
 ///     ESCurrentScope current(*context);
 ///     if (!current) return false;   // the platform refused; nothing changed
-class ESOpenGLView;
-
 class DABCANVAS_RENDER_API ESCurrentScope {
 public:
     explicit ESCurrentScope(ESContext& context);  ///< false, too, once the context is lost

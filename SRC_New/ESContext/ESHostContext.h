@@ -4,14 +4,14 @@
 #include "Maths/Export.h"
 
 class QOpenGLContext;
+class QSurface;
+
 /// The OpenGL context that a thread had current before one of ours took its place, to be put back later.
 ///
 /// A plain value: it owns nothing, so the host must not destroy what is written down here in between.
 /// It records the window system's own state (EGL, or GLX where the process has loaded it), because a host
 /// may bypass any toolkit, and Qt's idea of the current context beside it.
-/// Thread   restore() must run on the thread that took the record.
-class QSurface;
-
+/// Thread   restoreNative() must run on the thread that took the record.
 struct DABCANVAS_RENDER_API ESHostContext {
     /// EGL; all null when no EGL context was current.
     void* eglDisplay = nullptr;

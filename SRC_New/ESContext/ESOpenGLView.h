@@ -27,6 +27,7 @@ public:
     /// Makes the context current on this thread; nearly free when it is already. False when the platform
     /// refuses, with what was current before still current.
     virtual bool makeCurrent() = 0;
+    /// Whether it is current on this thread.
     virtual bool isCurrent() const = 0;
     /// Why makeCurrent() failed: the platform has taken the context away, for good.
     virtual bool isLost() const { return false; }

@@ -8,6 +8,8 @@
 #include "Maths/Export.h"
 
 class QOffscreenSurface;
+class QOpenGLContext;
+
 /// An OpenGL view over QOffscreenSurface and QOpenGLContext, for platforms without surfaceless EGL.
 ///
 /// Needs    a QGuiApplication whose platform has OpenGL (Qt's own "offscreen" platform has none).
@@ -15,8 +17,6 @@ class QOffscreenSurface;
 /// Thread   create() on the GUI thread, as QOffscreenSurface asks; makeCurrent() there too, as a
 ///          QOpenGLContext belongs to the thread that made it.
 /// Errors   create() returns null and says in *reason what is missing.
-class QOpenGLContext;
-
 class DABCANVAS_RENDER_API QtOffscreenView final : public ESOpenGLView {
 public:
     /// Leaves whatever was current on this thread as it was; nothing is made current.

@@ -33,7 +33,7 @@
 /// Errors   a shader pair that does not build leaves the program as it was and returns false.
 class DABCANVAS_RENDER_API ESBaseRender {
 public:
-    // ---- make
+    // ---- Make
 
     /// No program yet: setVertexShaderString({}, {}) makes the default one.
     static std::unique_ptr<ESBaseRender> init();
@@ -45,12 +45,13 @@ public:
     ESBaseRender(const ESBaseRender&) = delete;
     ESBaseRender& operator=(const ESBaseRender&) = delete;
 
-    // ---- shaders (the cache; see ESBaseRenderShaders.cpp)
+    // ---- Shaders: the cache
 
     /// Switches to the program of two sources, building it when it is not cached. A null text (not an empty
     /// one) is replaced by the class default. Subclasses supply their own defaults.
     virtual bool setVertexShaderString(const QString& vertexShaderString,
                                        const QString& fragmentShaderFromString);
+    /// The texts of the default shaders.
     static QString baseRenderVertexShaderString();
     static QString baseRenderFrangmentShaderString();
 
@@ -62,11 +63,13 @@ public:
     /// A current pair is first exchanged for the class default.
     virtual void removeProgramWithVertexShaderString(const QString& vertexShaderString,
                                                      const QString& fragmentShaderString);
+    /// Whether the cache has the pair.
     bool isExistWithVertexShaderString(const QString& vertexShaderString,
                                        const QString& fragmentShaderString) const;
     /// The cache's entry, not the caller's; null when there is none.
     ESProgromObject* programObjectWithVertexShaderString(const QString& vertexShaderString,
                                                          const QString& fragmentShaderString) const;
+    /// All of the cache.
     const std::vector<std::unique_ptr<ESProgromObject>>& programObjects() const { return _programObjects; }
 
     /// Source loaders. Null (not empty) when there is no such file. Read as Latin-1: sources are ASCII.
@@ -83,11 +86,12 @@ public:
     /// Makes the program, its vertex array and its buffer current in GL; without a program does nothing.
     void use() const;
 
-    // ---- brush texture; each replaces the previous one, and null or empty input changes nothing
+    // ---- Brush texture; each replaces the previous one, and null or empty input changes nothing
 
     virtual void setTextureImage(const QImage& image, GLenum atPosition = GL_TEXTURE0);
     /// An atlas of the first 16 images: side 256 for up to 4, 512 for 5 to 9, 1024 for 10 or more.
     virtual void setTextureImages(const QList<QImage>& images, GLenum atPosition = GL_TEXTURE0);
+    /// Premultiplied RGBA, 4 bytes a pixel, top row first.
     virtual void setTextureData(const unsigned char* data, const QSize& dataSize,
                                 GLenum atPosition = GL_TEXTURE0);
     TextureObject* brushTexture() const { return _brushTexture.get(); }  ///< null until set
@@ -96,7 +100,7 @@ public:
     unsigned numberOfTexture() const { return _numberOfTexture; }
     void setNumberOfTexture(unsigned numberOfTexture) { _numberOfTexture = numberOfTexture; }
 
-    // ---- draw
+    // ---- Draw
 
     /// Draws a square per point and returns the touched rectangle with a margin of one pixel. Without points,
     /// deliberately, the inverted rectangle (width, height, -width, -height): nothing drawn.
@@ -114,11 +118,12 @@ public:
     void updateTextureAtOrigin(const QPointF& origin, const QSizeF& size, GLuint& forTexID, GLenum pos,
                                int depth = 8);
 
-    // ---- state
+    // ---- State
 
     const ESColor& renderColor() const { return _renderColor; }
     /// No colour gives black, grey sets all three components; alpha is not used (opacity and flow carry it).
     void setRenderColor(const ESColor& renderColor);
+    /// What is drawn with, 0..1 each.
     float colorR() const { return _colorR; }
     float colorG() const { return _colorG; }
     float colorB() const { return _colorB; }
@@ -130,10 +135,13 @@ public:
     /// Whether the caller wants drawing clipped to what each call touches.
     bool needScissor() const { return _needScissor; }
     void setNeedScissor(bool needScissor) { _needScissor = needScissor; }
+    /// Bits for thin lines, as DabSettings has them.
     std::int32_t lineProcessType() const { return _lineProcessType; }
     void setLineProcessType(std::int32_t lineProcessType) { _lineProcessType = lineProcessType; }
+    /// Pixels of what is drawn into.
     QSizeF bufferSize() const { return _bufferSize; }
     void setBufferSize(const QSizeF& bufferSize) { _bufferSize = bufferSize; }
+    /// The texts of the current program.
     const QString& vertexShaderString() const { return _vertexShaderString; }
     const QString& fragmentShaderString() const { return _fragmentShaderString; }
 
@@ -150,6 +158,7 @@ protected:
 
     /// Where programs come from; null: built for this renderer alone.
     std::shared_ptr<dabcanvas::ProgramPool> _pool;
+
     std::shared_ptr<ESProgram> _program;
     std::unique_ptr<TextureObject> _brushTexture;
     GLenum _texturePos = GL_TEXTURE0;

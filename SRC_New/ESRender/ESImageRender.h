@@ -22,7 +22,7 @@
 /// Owns     its programs, a placed image's texture and the background copy. The line and sub-line textures are
 ///          the context's: they have the buffer's size and are read one texel a pixel, so their filters are
 ///          set to nearest.
-/// Errors   init gives null when the program does not build. GL errors are logged and drawing goes on.
+/// Errors   init() gives null when the program does not build. GL errors are logged and drawing goes on.
 class DABCANVAS_RENDER_API ESImageRender : public ESBaseRender {
 public:
     static std::unique_ptr<ESImageRender> init();
@@ -36,7 +36,7 @@ public:
     void removeProgramWithVertexShaderString(const QString& vertexShaderString,
                                              const QString& fragmentShaderString) override;
 
-    // ---- default shaders: resources under "Shaders.bundle/"
+    // ---- Default shaders: resources under "Shaders.bundle/"
 
     static QString imageRenderVertexShaderString();
     static QString normalFSHString();
@@ -49,7 +49,7 @@ public:
     static QString resetFSHString();
     static QString placeFSHString();  ///< normal or replace, of a placed image with smooth edges
 
-    // ---- blend mode
+    // ---- Blend mode
 
     std::uint32_t blendType() const { return _blendType; }
     void setBlendType(std::uint32_t blendType);
@@ -68,7 +68,7 @@ public:
     /// The canvas keeps its alpha, as if the mode's background had no holes.
     void setLocksAlpha(bool locks);
 
-    // ---- what is combined
+    // ---- What is combined
 
     void setLineTextureID(GLuint texture, GLenum texturePos);
     void setSubLineTextureID(GLuint texture, GLenum texturePos);

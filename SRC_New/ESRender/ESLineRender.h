@@ -45,6 +45,7 @@ public:
 
     bool setVertexShaderString(const QString& vertexShaderString,
                                const QString& fragmentShaderFromString) override;
+    /// The texts of the line program.
     static QString lineRenderNormalVertexShaderString();
     static QString lineRenderNormalFrangmentShaderString();
 
@@ -62,6 +63,7 @@ public:
     /// and of the dabs' number, from `first` on, so that faint ones add up. Exactly where the driver lets programs read
     /// what they draw on; else, and with a host's program, its blending rounds besides.
     void drawDabsFinely(std::span<const Dab> dabs, std::uint32_t first);
+    /// Whether programs read what they draw on, where the driver lets them; off at first.
     void setUseFramebufferFetch(bool value) { _useFetch = value && hasFramebufferFetch(); }
     static bool hasFramebufferFetch();
 
@@ -74,7 +76,7 @@ public:
         return -Radian(position, nextPosition);
     }
 
-    // ---- brush; the canvas's properties of the same names tell ranges and meaning
+    // ---- Brush; the canvas's properties of the same names tell ranges and meaning
 
     using ESBaseRender::setTextureImage;
     /// Deliberate: outside of multicolour (setColorFul()) a tip's own colour is ignored; its alpha is the shape.
@@ -156,6 +158,7 @@ protected:
     static QString recordText(const QString& vertex, const QString& fragment);
     /// The atlas of the tips, made when it is first needed; false, and nothing to draw with, without one.
     bool hasAtlas(bool withColour);
+    /// Binds it, and what it is; null before it was made.
     void useAtlas();
     const dabcanvas::TipAtlas* atlas() const { return _atlas.get(); }
     /// Binds brushTexture(), made of the tips where it was not.

@@ -35,6 +35,7 @@ public:
     /// Makes the smudge program current, whatever the texts.
     bool setVertexShaderString(const QString& vertexShaderString,
                                const QString& fragmentShaderFromString) override;
+    /// The texts of the two programs.
     static QString smudgeRenderSmudgeVertexShaderString();
     static QString smudgeRenderSmudgeFrangmentShaderString();
     static QString smudgeRenderShowVertexShaderString();
@@ -52,7 +53,7 @@ public:
     /// Begins a stroke: its first dab has nothing to pick up yet.
     void resetLineProporty() override;
 
-    // ---- paint; 0..1 each
+    // ---- Paint; 0..1 each
 
     /// How readily canvas colour is taken along, from a dry brush to a wet one.
     void setMoistQuantity(float value) { _smudges.settings.moist = value; }
@@ -78,7 +79,7 @@ public:
     LPPosition texturePosition() const { return _smudges.place(); }
     float textureSize_2() const { return _smudges.half(); }
 
-    // ---- draw
+    // ---- Draw
 
     /// Binds the texture that is read on the smudge texture's unit and yields the size of what it shows.
     using TextureBindBlock = std::function<QSizeF()>;

@@ -21,6 +21,8 @@ class ESSmudgeRender;
 namespace dabcanvas {
 
 class ThreadGL;
+class WetLayer;
+
 /// Paint in the memory of an OpenGL driver, put there by the renderers of ESRender over one ESContext.
 ///
 /// Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab
@@ -31,8 +33,6 @@ class ThreadGL;
 /// Context   is shared with the other surfaces made on the same thread, and so is its loss. It may be used on any
 ///           thread: a SurfaceScope keeps it from the others meanwhile, which wait.
 /// Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
-class WetLayer;
-
 class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
 public:
     /// Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2, a side is not

@@ -23,7 +23,7 @@ struct HistoryChange;
 }  // namespace dabcanvas
 
 /// An undo history of images. Each step's item is the name of an image, which is in memory (the cache) or,
-/// when it is far from the current step, in a file of a private folder.
+/// when it is far from the current step, in a file of a private folder. A canvas has one, QDDrawCanvas::undoManager().
 ///
 /// Units    bytes. An image is whatever bytes it is given as, such as raw pixels or a PNG file; the same bytes
 ///          come back. In memory they may be held compressed, in files never.
@@ -47,7 +47,7 @@ public:
     static std::unique_ptr<ImagesUndoManager> initWithCurrentImageOfData(const QByteArray& data);
     ~ImagesUndoManager() override;
 
-    // ---- Steps ----
+    // ---- Steps
 
     /// A new step with this image. False, after one log line, and nothing changed when it is null.
     bool addItemWithImageData(const QByteArray& data);
@@ -70,6 +70,7 @@ public:
     bool hasCurrentImage() const;
     /// The image in the current step's file. Deliberate: null for one that is only in memory.
     QImage currentImageItem() const;
+    /// Where that file is, or would be.
     QString currentPathOfItem() const;
 
     /// These let go of the images of the names that are dropped.
@@ -80,12 +81,13 @@ public:
     /// The same while files are being written: the images are in memory so long.
     bool undoAtOnce();
     bool redoAtOnce();
+    /// As UndoManager does; images of names that are dropped go.
     void clearUndoItems() override;
     void clearRedoItems() override;
     void reset() override;
     void resetWithCurrentItem(const QString& item) override;
 
-    // ---- Limits ----
+    // ---- Limits
 
     /// 0 counts as 1. Half of it, at least 1, becomes maxCacheCount().
     void setUndoStepCount(unsigned count) override;
@@ -93,15 +95,18 @@ public:
     /// when there are more already, so there may be one more. 0: every image goes to its file at once.
     unsigned maxCacheCount() const;
     void setMaxCacheCount(unsigned count);
+    /// How many it holds now.
     int curCacheCount() const;
     /// The most bytes of memory for cached images, beside the count; 0, as at first, for no such limit. The
     /// image added last stays in memory also when it is larger.
     qint64 cacheByteBudget() const;
     void setCacheByteBudget(qint64 bytes);
+    /// What it takes now.
     qint64 cachedBytes() const;
     /// The most bytes of disk for a canvas's steps; 0 for no such limit.
     qint64 diskByteBudget() const;
     void setDiskByteBudget(qint64 bytes);
+    /// What they take now.
     qint64 bytesOnDisk() const;
     /// Off: where the budgets have no room for a canvas's step, whoever records it waits for the disk, and none goes.
     bool dropsSteps() const;
@@ -117,6 +122,7 @@ public:
     /// Has what became of the steps written down by their tiles' journal, the first time what they are, and from then
     /// on what a host does to them by itself, too. present: the canvas; null: as it was.
     void writeDown(std::shared_ptr<const dabcanvas::TilePicture> present);
+    /// Nothing is written down from now on.
     void endWritingDown();
     /// The history becomes these steps, all of them.
     void become(const dabcanvas::HistoryChange& steps);
@@ -125,7 +131,7 @@ public:
     /// Two of them, and fewer from then on; and half of what a canvas's steps take.
     void didReceiveMemoryWarning();
 
-    // ---- Files ----
+    // ---- Files
 
     /// Null when there is no folder.
     QString tempDirectory() const;

@@ -21,6 +21,7 @@ public:
         _kept = (std::min)(_kept, _items.size() - 1);
         return _items.takeLast();
     }
+    /// The one farthest from the current item goes, of at least one.
     QString dropFarthest() {
         if (_kept > 0) {
             ++_dropped;
@@ -28,6 +29,7 @@ public:
         }
         return _items.takeFirst();
     }
+    /// All of them go, and are returned.
     QStringList clear() {
         _kept = 0;
         return std::exchange(_items, {});

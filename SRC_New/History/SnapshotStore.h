@@ -19,6 +19,7 @@ namespace dabcanvas {
 using FileWriter = std::function<bool(const QString& path, const QByteArray& data)>;
 /// Whether what lies at this path may be read and deleted; false when it has become somebody else's.
 using PathCheck = std::function<bool(const QString& path)>;
+/// The usual one.
 DABCANVAS_CANVAS_API bool writeWholeFile(const QString& path, const QByteArray& data);
 
 /// Where the images of a history are: by name in memory, in a file of their own, or in both. What to keep
@@ -40,7 +41,7 @@ public:
     SnapshotStore(const SnapshotStore&) = delete;
     SnapshotStore& operator=(const SnapshotStore&) = delete;
 
-    // ---- Memory: the cache ----
+    // ---- Memory: the cache
 
     /// Caches the data under the name; of one that is cached already, in the old one's place of the order.
     std::shared_ptr<Snapshot> cache(const QString& name, const QByteArray& data);
@@ -49,12 +50,13 @@ public:
     std::shared_ptr<Snapshot> cacheFileContents(const QString& name, const QByteArray& data);
     /// In the order of their insertion; with what a canvas keeps account of, or without.
     QStringList cachedNames(bool withSteps = true) const;
+    /// How many there are.
     int cachedCount() const;
     /// What memory the cached images hold; one that is being compressed counts raw until it is done.
     qint64 cachedBytes() const;
     qint64 cachedBytesOf(const QString& name) const;
 
-    // ---- Disk ----
+    // ---- Disk
 
     /// Takes a name out of the cache into its file. When the file cannot be written, it returns to the cache,
     /// to its old place.
@@ -73,8 +75,9 @@ public:
     /// Moves all files to another folder, while no task runs. What cannot be moved returns to the cache.
     void moveFiles(const QString& toFolder);
 
-    // ---- Reading ----
+    // ---- Reading
 
+    /// What read() found.
     struct Read {
         QByteArray data;  ///< null when neither memory nor file has it
         bool fromFile = false;

@@ -12,8 +12,9 @@
 
 namespace dabcanvas {
 
-/// Of what the stack held, the farthest from the current step, `dropped`, went, and all but the next `kept`; then these
-/// came, the nearest last. So nothing is dropped, kept or added of a stack that is told anew, but `added`.
+/// What became of a stack. Of what it held, the farthest from the current step, `dropped`, went, and all but the next
+/// `kept`; then these came, the nearest last. So nothing is dropped, kept or added of a stack that is told anew, but
+/// `added`.
 template <typename Item>
 struct StackChange {
     std::size_t dropped = 0, kept = 0;

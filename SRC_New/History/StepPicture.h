@@ -8,6 +8,8 @@
 
 namespace dabcanvas {
 
+class TilePicture;
+
 /// What a canvas was at a step: premultiplied RGBA, 4 bytes a pixel, bottom row first, rows without gaps. It becomes
 /// these bytes where they are asked for, each time anew, and costs next to nothing where they are not:
 ///
@@ -17,8 +19,6 @@ namespace dabcanvas {
 /// Owns     what it is made of, for as long as it lives; the canvas may be gone.
 /// Thread   any, one at a time for an object.
 /// Errors   never throws: bytes() is null, after one log line, when they cannot be had.
-class TilePicture;
-
 class DABCANVAS_CANVAS_API StepPicture {
 public:
     StepPicture() = default;  ///< none
@@ -40,6 +40,7 @@ private:
     std::shared_ptr<const TilePicture> _tiles;
 };
 
+/// Compares bytes, for which the picture becomes them.
 inline bool operator==(const StepPicture& picture, const QByteArray& bytes) {
     return picture.bytes() == bytes;
 }

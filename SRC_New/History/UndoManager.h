@@ -36,6 +36,7 @@ public:
     /// The current item becomes the last undo item, `item` the current one; what could be redone is dropped.
     /// When the step count is reached, one undo item, the oldest, is dropped.
     virtual bool addItemWithString(const QString& item);
+    /// Whether there is a step to go back to, and forth.
     bool canUndo() const;
     bool canRedo() const;
     /// False, and nothing changed, when there is nothing to undo or processCount() is not 0.
@@ -56,6 +57,7 @@ public:
     /// longer counts: its end lowers nothing.
     unsigned processCount() const;
     using ProcessTicket = std::uint32_t;
+    /// A background operation begins; the ticket is for its end.
     ProcessTicket beginProcess();
     void endProcess(ProcessTicket ticket);  ///< once for each beginProcess(), on any thread
 
@@ -70,6 +72,7 @@ protected:
     enum class Way : std::uint8_t { back, forth };
     /// undo() or redo(), also while background operations run.
     bool stepAnyway(Way way);
+    /// What became of the stacks, and what is current.
     struct Changes {
         dabcanvas::StackChange<QString> undo, redo;
         QString current;

@@ -24,6 +24,7 @@ class QDDrawCanvas;
 
 namespace dabcanvas {
 
+/// A brush, a tip or a paper as it was read from another program's file.
 struct ImportedBrush {
     QString name;                                         ///< as the file says; may be empty
     std::vector<std::pair<BrushKey, BrushValue>> values;  ///< in the order of setting

@@ -5,19 +5,21 @@
 
 #include "Maths/Export.h"
 
+/// Red, green and blue.
 struct RgbType {
     float r;
     float g;
     float b;
 };
 
-/// Hue is a fraction of the full circle, not degrees.
+/// Hue, saturation and value. Hue is a fraction of the full circle, not degrees.
 struct HsvType {
     float h;
     float s;
     float v;
 };
 
+/// Of three numbers, as they are.
 DABCANVAS_STROKE_API RgbType RgbTypeMake(float r, float g, float b);
 DABCANVAS_STROKE_API HsvType HsvTypeMake(float h, float s, float v);
 

@@ -9,7 +9,9 @@
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
 
+/// How far it is from a to b.
 DABCANVAS_STROKE_API float lpEuclidDistanceOfTwoPosition(const LPPosition* a, const LPPosition* b);
+/// The place halfway from a to b.
 DABCANVAS_STROKE_API void lpGetMidPosition(const LPPosition* a, const LPPosition* b, LPPosition* out);
 
 /// Of the vectors from o to a and from o to b.
@@ -23,6 +25,7 @@ DABCANVAS_STROKE_API bool lp3PositionInLineWithOrder(const LPPosition* p0, const
 /// f is a fraction of the segment, in spite of the name; outside 0..1 it extends the segment.
 DABCANVAS_STROKE_API void lpGetPositionInSegmentGivenLength(const LPPosition* a, const LPPosition* b,
                                                             LPPosition* out, float f);
+/// The place on the curve at t.
 DABCANVAS_STROKE_API void lpGetPositionInBezierGivenT(const LPPosition* p0, const LPPosition* p1,
                                                       const LPPosition* p2, LPPosition* out, float t);
 

@@ -16,7 +16,8 @@
 #include "LineProcess/LPTypes.h"
 #include "Maths/Export.h"
 
-/// Lengths are in the caller's drawing unit. The number in brackets is the property id.
+/// The settings of a line and the state of its stroke. Lengths are in the caller's drawing unit. The number in brackets
+/// is the property id.
 struct LPLineParams {
     float radius;                        ///< [1] base dab radius
     std::uint8_t pointsDistanceEnabled;  ///< [2] 1: dabs are spaced along the path; 0: one dab a sample

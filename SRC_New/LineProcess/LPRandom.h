@@ -10,6 +10,7 @@
 /// once and give srand() a fixed seed afterwards. Nothing else here seeds anything.
 DABCANVAS_STROKE_API float lpRandom();
 
+/// From low to below high, all alike.
 DABCANVAS_STROKE_API float lpUniformRandom(float low, float high);
 
 /// Normally distributed; every other call uses up the second number of a pair.

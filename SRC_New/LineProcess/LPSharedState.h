@@ -40,5 +40,6 @@ struct LPSharedState {
     LPGenerator* generator = nullptr;
 };
 
+/// What the calling thread has, and puts another in its place.
 DABCANVAS_STROKE_API LPSharedState lpSharedState();
 DABCANVAS_STROKE_API void lpSetSharedState(const LPSharedState& state);

@@ -6,13 +6,14 @@
 /// Layout   floats without gaps, so that arrays of LPPoint go to the renderers as they are.
 #pragma once
 
+/// A place in the plane.
 struct LPPosition {
     float x;
     float y;
 };
 
-/// In a dab: its pressure (0..1, or exactly -1 when the device gives none), altitude (0..1) and speed
-/// (0..1, where 1 is slow or at rest). In a brush setting: the signed strength with which each of them
+/// Pressure, altitude and speed. In a dab: its pressure (0..1, or exactly -1 when the device gives none), altitude
+/// (0..1) and speed (0..1, where 1 is slow or at rest). In a brush setting: the signed strength with which each of them
 /// acts on that setting, 0 meaning not at all.
 struct LPControlParams {
     float pressure;

@@ -6,6 +6,7 @@
 
 #include "Maths/Export.h"
 
+/// The matrices that change nothing, that stretch, that turn about an axis and that move.
 DABCANVAS_BRUSHES_API void mat4f_LoadIdentity(float* m);
 DABCANVAS_BRUSHES_API void mat4f_LoadScale(float sx, float sy, float sz, float* m);
 DABCANVAS_BRUSHES_API void mat4f_LoadXRotation(float radians, float* m);

@@ -37,10 +37,12 @@ inline const QString kBrushParamsKey = QStringLiteral("BrushParams");    ///< Br
 /// Reading them. What an entry lacks, or holds as something that Qt cannot convert, is empty or 0.
 namespace BrushRecords {
 
+/// Of a brush dictionary.
 DABCANVAS_CANVAS_API QString brushName(const QVariantMap& brush);
 DABCANVAS_CANVAS_API BrushParams brushParams(const QVariantMap& brush);
 DABCANVAS_CANVAS_API int brushVersion(const QVariantMap& brush);
 
+/// Of a parameter record.
 DABCANVAS_CANVAS_API int key(const BrushParam& param);
 DABCANVAS_CANVAS_API QString method(const BrushParam& param);
 DABCANVAS_CANVAS_API QVariant paramValue(const BrushParam& param);

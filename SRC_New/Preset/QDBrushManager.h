@@ -11,6 +11,8 @@
 #include "Maths/Export.h"
 #include "Preset/BrushRecords.h"
 
+class QDDrawCanvas;
+
 /// Brush presets: their records, and the XBF files they are kept in.
 ///
 /// Paths    any text; the file system is given their UTF-8 form.
@@ -18,8 +20,6 @@
 /// Errors   never throws: false or nullopt, with one line in the log category dabcanvas.preset that names the
 ///          file and says what was wrong. A `problem`, when given, receives the same in words, or becomes
 ///          empty. A file that cannot be opened also gets XBF.h's message on standard output.
-class QDDrawCanvas;
-
 class DABCANVAS_CANVAS_API QDBrushManager {
 public:
     QDBrushManager() = delete;

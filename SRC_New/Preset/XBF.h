@@ -41,7 +41,7 @@ inline constexpr std::size_t kXBFHeaderSize = 12;       ///< bytes in a file
 inline constexpr std::size_t kXBFInlineSize = 16;       ///< bytes of a value that a record carries
 inline constexpr std::size_t kXBFMaxMethodLength = 39;  ///< bytes; what is longer is cut
 
-/// The header.
+/// The header of a file.
 struct XBFInfo {
     std::uint64_t versionAndKind;  ///< version in the low 32 bits, kind in the high ones
     /// Of brushes. A file's is read as signed, and a negative one means none.
@@ -51,19 +51,22 @@ struct XBFInfo {
     constexpr std::uint32_t kind() const { return static_cast<std::uint32_t>(versionAndKind >> 32); }
 };
 
+/// The header of a file that is to be written.
 constexpr XBFInfo XBFInfoMake(std::uint32_t version, std::uint32_t count) {
     return {std::uint64_t{kXBFKind} << 32 | version, count};
 }
 
-/// Components times 255; outside 0..255 only in files made elsewhere.
+/// A colour: components times 255; outside 0..255 only in files made elsewhere.
 struct _RGBAType {
     short r, g, b, a;
 };
 
+/// Width and height of a data block, in its own unit.
 struct _XBFSize {
     int width, height;
 };
 
+/// A data block, such as an image.
 struct _XBFTexture {
     _XBFSize size;
     int depth;

@@ -16,7 +16,7 @@
 
 /// The live preview brush: while the pointer moves, the area that it encloses is shown as one filled, smoothed
 /// path, drawn on the CPU; at the end of the stroke it is softened and handed over, to be placed on the
-/// canvas. This is the whole logic without a widget; LeafDrawView shows it in a window.
+/// canvas. This is the whole logic without a widget; a canvas has one, QDDrawCanvas::leafDrawView().
 ///
 ///     LeafDrawing leaf(QSizeF(1000, 500));
 ///     leaf.setRenderColor(ESColor::rgba(0.2f, 0.6f, 0.1f, 0.8f));
@@ -46,11 +46,12 @@ public:
     LeafDrawing(const LeafDrawing&) = delete;
     LeafDrawing& operator=(const LeafDrawing&) = delete;
 
-    // ---- A stroke: a begin, any number of moves, an end or a cancel; points may lie anywhere ----
+    // ---- A stroke: a begin, any number of moves, an end or a cancel; points may lie anywhere
 
     /// Finishes a pending stroke first, and drops one that was never ended. Nothing is shown before the first
     /// move; a begin that is not finite begins nothing.
     void drawWithBegin(QPointF point);
+    /// The outline goes on to the point.
     void drawWithMove(QPointF point);
     /// Returns at once: the stroke is pending until the event loop, or finishPending(), finishes it. An end
     /// that is not finite ends at the last point.
@@ -71,7 +72,7 @@ public:
     const Complention& complention() const { return _complention; }
     void setComplention(Complention complention) { _complention = std::move(complention); }
 
-    // ---- Brush; a stroke that has ended keeps what it ended with ----
+    // ---- Brush; a stroke that has ended keeps what it ended with
 
     /// Colour of the fill, with its alpha. A stroke in progress changes as a whole. No colour draws nothing.
     const ESColor& renderColor() const { return _renderColor; }
@@ -80,7 +81,7 @@ public:
     float gaussianRadius() const { return _gaussianRadius; }
     void setGaussianRadius(float radius);
 
-    // ---- What is shown ----
+    // ---- What is shown
 
     /// In bitmap pixels, whole numbers from 1 on: the frame's size times 0.6, rounded, at creation.
     QSizeF graphSize() const { return _graphSize; }
@@ -97,6 +98,7 @@ public:
 
     /// The open outline in bitmap pixels, filled by the winding rule; empty between strokes.
     const QPainterPath& path() const { return _path; }
+    /// Of the stroke, in bitmap pixels.
     QPointF beginPoint() const { return _beginPoint; }
     QPointF lastPoint() const { return _lastPoint; }
     QPointF lastRenderPoint() const { return _lastRenderPoint; }  ///< where the path ends
@@ -107,13 +109,13 @@ public:
     void updateDrawView() { updateDrawViewForOnline(true); }
     void updateDrawViewForOnline(bool online);
 
-    /// Blurs with the radius in pixels of the picture; ImageBlur.h tells how. The first softens strokes; the
-    /// second, a Gaussian, stands by for callers.
+    /// Blurs with the radius in pixels of the picture, whose edges go on beyond it. The first, the mean of a square,
+    /// softens strokes; the second, a Gaussian, stands by for callers.
     static QImage boxblurImage(const QImage& image, float blurNumber);
     static QImage coreBlurImage(const QImage& image, float blurNumber);
 
 protected:
-    // ---- Display hooks; they may not destroy the preview, which ends the process with a log line ----
+    // ---- Display hooks; they may not destroy the preview, which ends the process with a log line
 
     /// How large the preview is shown, in view points.
     virtual QSizeF frameSize() const { return _frame; }

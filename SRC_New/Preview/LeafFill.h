@@ -25,7 +25,9 @@ class LeafFill {
 public:
     /// Forgets everything; a new outline begins in a picture of this size. False: no memory for it.
     bool begin(const QSize& size, QPointF point);
+    /// The outline goes on by a quadratic curve.
     void quadTo(QPointF control, QPointF end);
+    /// Forgets everything and gives the memory back.
     void clear();
 
     /// Draws the rectangle, which must lie within an image of Format_RGBA8888_Premultiplied and this size: the

@@ -25,9 +25,10 @@ class LeafDrawView;
 /// Pointer  left mouse button, pen tip and one finger paint; a mouse presses with 1, a touch screen that measures no
 ///          pressure too. What another device began is not disturbed. A second finger takes the first one's mark back;
 ///          from there until all are up, touch is left to event filters, or moves a view that is navigable. Other
-///          buttons, the wheel and hovering pens go to the parent. A stroke ends where it got to when the window is
-///          deactivated or the view hidden. A stroke of up to nine moves is taken for a slip:
-///          setAdjustCancelLine(false) keeps it.
+///          buttons, the wheel and hovering pens go to the parent. A pen that measures pressure paints from the first
+///          that there is. A stroke ends where it got to when the window is deactivated or the view hidden, when its
+///          device is gone, and for another one that presses after a second of silence. A stroke of up to nine moves
+///          is taken for a slip: setAdjustCancelLine(false) keeps it.
 /// Size     the buffer gets the frame's size at creation and keeps it; a widget of another size shows it
 ///          stretched, and points scale, unless fit() says otherwise.
 /// Undo     the first step is the blank canvas: resetUndoManager() makes a picture that was placed the first one.
@@ -91,21 +92,21 @@ public:
     }
 
 Q_SIGNALS:
-    /// Of a stroke, in buffer pixels, in the course of it. After each begin comes one of the two ends.
+    // ---- Signals of strokes: in buffer pixels, in the course of them; after each begin comes one of the two ends
     void strokeBegan(QPointF place);
     void strokeMoved(QPointF place);
     void strokeEnded(QPointF place);
-    void strokeWithdrawn();
-    /// All others come when the call that caused them is done.
+    void strokeWithdrawn();  ///< nothing of it stays
+    // ---- Signals of the canvas: when the call that caused them is done, once
     void canvasSizeChanged();
     void layersChanged();  ///< one came or went, or is another way; or another is active
-    void canvasChanged(const QRect& bufferPixels);
+    void canvasChanged(const QRect& bufferPixels);  ///< these show something else
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);
     void modifiedChanged(bool modified);
-    void brushChanged();  ///< a property of it, or many at once
-    void viewChanged();   ///< fit, zoom, place, turn or mirroring
-    void contextLost();
+    void brushChanged();              ///< a property of it, or many at once
+    void viewChanged();               ///< fit, zoom, place, turn or mirroring
+    void contextLost();               ///< nothing can be painted any more, see QDDrawCanvas::isContextLost()
     void fingersTapped(int fingers);  ///< two or more, of a view that is navigable
 
 protected:

@@ -38,9 +38,8 @@ class ItemDisplay;
 ///         onStrokeEnded: save("picture.png") || console.log(problem)
 ///     }
 ///
-/// Properties those of QDDrawView, by the same names but for brushOpacity, as items have an opacity of their own.
-/// Number that
-///          are not finite, and files that cannot be read, leave a property as it was: QML's warning says so, and
+/// Names    of properties are those of QDDrawView, but for brushOpacity, as items have an opacity of their own. Numbers
+///          that are not finite, and files that cannot be read, leave a property as it was: QML's warning says so, and
 ///          problem, which the item shows.
 /// Pointer  as for QDDrawView. A pen paints where nothing above the item takes a press. What the item hears it keeps
 ///          from the Flickables around it.
@@ -97,9 +96,11 @@ public:
     QSize canvasSize() const;
     /// The history begins anew. Empty: as large as the item, once it is shown.
     void setCanvasSize(const QSize& size);
+    /// What is wrong, in words, which the item shows as well; empty when all is well.
     QString problem() const;
 
-    // ---- For QML. Files by path or URL; relative ones lie beside the QML file. Points as for QDDrawCanvas.
+    // ---- For QML. Files by path or URL; relative ones lie beside the QML file, and problem says what is wrong with one.
+    // Points as for QDDrawCanvas.
     Q_INVOKABLE bool undo();
     Q_INVOKABLE bool redo();
     Q_INVOKABLE void clear();
@@ -121,7 +122,7 @@ public:
     Q_INVOKABLE QPointF fromCanvas(QPointF pixel) const;
 
 Q_SIGNALS:
-    /// As QDDrawView's.
+    // ---- Signals: as QDDrawView's, and of what else has a property
     void strokeBegan(QPointF place);
     void strokeMoved(QPointF place);
     void strokeEnded(QPointF place);

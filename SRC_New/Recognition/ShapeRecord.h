@@ -7,6 +7,7 @@
 
 #include "Maths/Export.h"
 
+/// A place, in the unit of the points that were recognised.
 struct ShapePoint {
     double x = 0;
     double y = 0;
@@ -14,6 +15,7 @@ struct ShapePoint {
     friend bool operator==(const ShapePoint&, const ShapePoint&) = default;
 };
 
+/// What a stroke was meant as, and what of its record tells the shape.
 enum class ShapeKind : std::uint8_t {
     none,
     line,           ///< corners: both ends
@@ -49,10 +51,12 @@ struct ShapeRecord {
     explicit operator bool() const { return kind != ShapeKind::none; }
     /// A fold line's straight legs; 0 for every other kind.
     int legs() const { return kind == ShapeKind::foldLine ? static_cast<int>(corners.size()) - 1 : 0; }
+    /// Whether its outline comes back to where it began.
     bool isClosed() const {
         return kind == ShapeKind::triangle || kind == ShapeKind::rectangle ||
                kind == ShapeKind::parallelogram || kind == ShapeKind::ellipse;
     }
+    /// Whether it has a centre and half axes instead of corners.
     bool isRound() const { return kind == ShapeKind::ellipse || kind == ShapeKind::arc; }
 };
 

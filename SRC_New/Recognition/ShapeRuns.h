@@ -11,6 +11,7 @@ namespace dabcanvas {
 inline constexpr std::int64_t kMostShapePoints = std::int64_t{1} << 22;
 }  // namespace dabcanvas
 
+/// Dabs in the order in which they are drawn, the caller's to free().
 struct ShapeRun {
     LPPoint* points = nullptr;
     std::uint64_t count = 0;

@@ -15,6 +15,8 @@ class QDDrawCanvas;
 
 namespace dabcanvas {
 
+class RecordingWriter;
+
 /// Records what enters a canvas, from its start() to its end.
 ///
 /// Left out  what CanvasInput.h says that no listener is told of. Places beyond 131072 pixels from the origin are
@@ -22,8 +24,6 @@ namespace dabcanvas {
 /// Costs     a call for each sample; where the canvas is not empty, reading it once at the start and after undo that
 ///           goes back to before that.
 /// Thread    the canvas's. To be destroyed before the canvas is.
-class RecordingWriter;
-
 class DABCANVAS_RECORDING_API CanvasRecorder final : private CanvasInput {
 public:
     /// Takes each event once it is whole: strokes at their end.

@@ -30,7 +30,11 @@ struct Problem {
     }
 };
 
-/// A value, or the reason why there is none.
+/// A value, or the reason why there is none; only what it holds is to be asked for.
+///
+///     const Result<RecordedStrokes> strokes = readStrokes(bytes);
+///     if (!strokes) return complain(strokes.problem().text(path));
+///     use(*strokes);
 template <typename Value>
 class Result {
 public:

@@ -33,6 +33,7 @@ namespace dabcanvas {
 /// Of the form that is written; a later one is not read.
 inline constexpr int kRecordingVersion = 1;
 
+/// What was recorded, on what.
 struct RecordingHeader {
     int version = kRecordingVersion;
     QString library;         ///< the version of the library that recorded it
@@ -44,6 +45,7 @@ struct RecordingHeader {
 
 /// A stroke, or a part of one in which something else happened.
 struct StrokePart {
+    /// How it ends.
     enum class End : std::uint8_t {
         ended,      ///< by its last sample
         withdrawn,  ///< nothing of it stays
@@ -56,27 +58,33 @@ struct StrokePart {
     End end = End::ended;
 };
 
+/// A property of the brush was set.
 struct BrushChange {
     BrushKey key = BrushKey::brushType;
     BrushValue value;  ///< of the property's type
 };
+/// Size and relation of the second line were, together.
 struct SecondLineChange {
     float slRadius = 0, relationValue = 0;
 };
+/// The canvas's random numbers began anew.
 struct SeedChange {
     std::uint32_t seed = 0;
 };
+/// Strokes repeat from here on, or no more.
 struct RepeatChange {
     bool repeats = false;
 };
+/// The canvas was cleared.
 struct ClearedCanvas {
     ESColor color;
     bool layersToo = true;
 };
+/// A shape was drawn without a stroke.
 struct DrawnShape {
     ShapeRecord shape;
 };
-/// All of the canvas, from which the history begins anew; null: transparent.
+/// All of the canvas was set, from which the history begins anew; null: transparent.
 struct WholePicture {
     QImage picture;
 };
@@ -88,22 +96,26 @@ struct PlacedPreview {
 struct AreaChange {
     QRect area;
 };
-/// How it is shown.
+/// The canvas was turned or mirrored in its view.
 struct ViewChange {
     float radian = 0;
     bool mirrored = false;
 };
+/// What has nothing to tell besides.
 enum class RecordedCall : std::uint8_t { stepRecorded, historyReset, undone, redone };
 
+/// What it was; an InputImage was placed.
 using RecordedWhat =
     std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange, ClearedCanvas,
                  InputImage, PlacedPreview, DrawnShape, WholePicture, AreaChange, ViewChange, RecordedCall>;
 
+/// One thing that entered the canvas.
 struct RecordedEvent {
     double time = 0;  ///< when it began
     RecordedWhat what;
 };
 
+/// What entered one canvas, from first to last.
 struct Recording {
     RecordingHeader header;
     std::vector<RecordedEvent> events;

@@ -17,6 +17,7 @@ namespace dabcanvas {
 
 class CanvasInput;
 
+/// What is to be other than it was recorded.
 struct PlayOptions {
     double scale = 1;
     std::optional<std::uint32_t> seed{};  ///< in place of the recording's

@@ -12,12 +12,13 @@
 
 namespace dabcanvas {
 
-/// Reads what RecordingWriter writes, whole or line by line.
+struct EmbeddedPictures;
+
+/// Reads what RecordingWriter writes, line by line: the header's first, then all others in their order, as a picture is
+/// embedded once. readRecording() does so with a whole one.
 ///
 /// Errors   the first fault, with its line and its place in it; lines before it are good. What a line claims is
 ///          checked: numbers are finite and in reach, pictures have at most 2^28 pixels together.
-struct EmbeddedPictures;
-
 class DABCANVAS_RECORDING_API RecordingReader {
 public:
     RecordingReader();
@@ -36,6 +37,7 @@ private:
 
 /// Whether the bytes begin as a recording does.
 DABCANVAS_RECORDING_API bool isRecording(const QByteArray& bytes);
+/// All of a recording.
 DABCANVAS_RECORDING_API Result<Recording> readRecording(const QByteArray& bytes);
 
 }  // namespace dabcanvas

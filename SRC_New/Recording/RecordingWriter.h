@@ -28,10 +28,12 @@ public:
     RecordingWriter(const RecordingWriter&) = delete;
     RecordingWriter& operator=(const RecordingWriter&) = delete;
 
+    /// The header, first and once; then what happened, in its order.
     void begin(const RecordingHeader& header);
     void write(const RecordedEvent& event);
     /// Writes what is held back; false when anything could not be written.
     bool finish();
+    /// What could not be written; empty for nothing.
     const QString& problem() const { return _problem; }
 
 private:

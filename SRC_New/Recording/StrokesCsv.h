@@ -13,6 +13,7 @@
 
 namespace dabcanvas {
 
+/// The points of the rows that have one name.
 struct NamedStroke {
     std::string id;
     std::vector<ShapePoint> points;  ///< in the order of their rows

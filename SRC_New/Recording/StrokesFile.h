@@ -30,6 +30,7 @@ struct RecordedSample {
 /// A setting's value as written: a lone monostate takes the property back to what it was before any recording.
 using SettingValue = std::variant<std::monostate, bool, double, QString, std::vector<double>, QStringList>;
 
+/// A property of the brush, as a file sets it.
 struct Setting {
     QString name;
     SettingValue value;
@@ -44,6 +45,7 @@ struct BrushReference {
     QString element;
 };
 
+/// A stroke, and the brush that it is drawn with.
 struct RecordedStroke {
     /// Takes the place of brush and settings before it, from this stroke on.
     std::optional<BrushReference> brush;
@@ -52,6 +54,7 @@ struct RecordedStroke {
     bool end = true;  ///< the last sample lifts the pen
 };
 
+/// All strokes of a file, and what it says of their canvas.
 struct RecordedStrokes {
     QSize size;          ///< invalid when not given
     QString background;  ///< a colour as written; empty when not given

@@ -77,6 +77,7 @@ struct Placed {
     Rect clip;              ///< nothing beyond is touched
 };
 
+/// A colour to fill with.
 struct PaintColor {
     float red = 0, green = 0, blue = 0, alpha = 0;  ///< premultiplied
 };
@@ -91,6 +92,8 @@ struct PaintColor {
 ///          byte; how much a surface keeps of what is drawn is its own. Rows of pixelBytes() have all of a picture.
 /// Owns     everything that paint lies in. Tips, papers and pixel views are the caller's; a style's pictures are kept
 ///          for as long as the surface draws with them.
+/// Life     made by makeSurface(), or by makeProcessorSurface() and makeGLSurface(), of which that chooses. A canvas
+///          makes its own and may put another in its place, see QDDrawCanvas::surface().
 /// Thread   one thread at a time. Operations come inside a SurfaceScope, except size(), isLost() and what tells of
 ///          touched tiles.
 /// Errors   never throws. An operation that cannot be done logs why, changes nothing and returns an empty rectangle or
@@ -110,7 +113,7 @@ public:
     /// Waits until all that was asked for is done, for those who measure.
     virtual void finish() {}
 
-    // ---- layers
+    // ---- Layers
 
     /// Provides for what is drawn into the layer. False, after one log line, without the memory for it.
     virtual bool prepare(PaintLayer) { return true; }
@@ -120,6 +123,7 @@ public:
     virtual Rect draw(PaintLayer layer, std::span<const Dab> dabs, const DabStyle& style) = 0;
     /// The same straight onto the picture, past background and layers.
     virtual Rect draw(PictureId picture, std::span<const Dab> dabs, const DabStyle& style) = 0;
+    /// Transparent again.
     virtual void clear(PaintLayer layer, const Rect& rect) = 0;
 
     /// Makes the smudge layer show the picture's background; only what changed since it last did is worked on. Before
@@ -129,7 +133,7 @@ public:
     /// that a composite may change.
     virtual Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) = 0;
 
-    // ---- pictures
+    // ---- Pictures
 
     /// The picture becomes its background with the layers blended onto it.
     virtual void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) = 0;
@@ -142,7 +146,7 @@ public:
     /// Another picture over it; the background stays. False, and nothing changed, without the memory.
     virtual bool place(PictureId picture, const Placed& placed) = 0;
 
-    // ---- rows
+    // ---- Rows
 
     /// Of rows that hold a picture bit by bit: 4 where it has 8 bits a channel, 8 where it has 16.
     virtual int pixelBytes() const = 0;
@@ -154,7 +158,7 @@ public:
     /// Into the background alone.
     virtual bool writeBackground(PictureId picture, const Rect& rect, const PixelView& rows) = 0;
 
-    // ---- tiles: rows as whoever keeps a picture's history has them
+    // ---- Tiles: rows as whoever keeps a picture's history has them
 
     /// Calls visit(tile) for each of the set, row by row: shared with the picture where a surface has tiles, else
     /// copied. False where they cannot be read, perhaps after some of them.
@@ -173,6 +177,7 @@ protected:
         return !rows.isNull() && !rect.isEmpty() && rows.size == Size{rect.width, rect.height} &&
                (rows.pixelBytes == 4 || rows.pixelBytes == pixelBytes()) && Rect::of(_size).contains(rect);
     }
+    /// To be called by whatever changes a picture.
     void noteTouched(PictureId, const Rect& rect) { _touched.add(rect); }
 
 private:
@@ -185,8 +190,8 @@ private:
     TileSet _touched;
 };
 
-/// Operations on a surface come inside one. Costs next to nothing inside another of the same surface; whatever device
-/// the host was using is its own again when the outermost one ends.
+/// The scope that operations on a surface come inside of. Costs next to nothing inside another of the same surface;
+/// whatever device the host was using is its own again when the outermost one ends.
 class SurfaceScope {
 public:
     explicit SurfaceScope(PaintSurface& surface) : _surface(surface), _entered(surface.enter()) {}
@@ -198,6 +203,7 @@ public:
     SurfaceScope(const SurfaceScope&) = delete;
     SurfaceScope& operator=(const SurfaceScope&) = delete;
 
+    /// False where the device cannot be had just now: nothing is to be asked of the surface then.
     explicit operator bool() const { return _entered; }
 
 private:

@@ -8,7 +8,7 @@
 
 namespace dabcanvas {
 
-/// In buffer pixels, between which it may lie.
+/// A place in buffer pixels, between which it may lie.
 struct Point {
     double x = 0, y = 0;
 };
@@ -26,6 +26,7 @@ public:
 
     /// Every edge runs between two pixels: no pixel is covered in part.
     bool isOnPixelEdges() const { return _onPixelEdges; }
+    /// By any angle, of which the others tell cosine and sine.
     bool isTurned() const { return _cosine != 1; }
     double cosine() const { return _cosine; }
     double sine() const { return _sine; }

@@ -15,8 +15,8 @@ namespace dabcanvas {
 
 inline constexpr std::size_t kTilePixels = std::size_t{kTileSide} * kTileSide;
 
-/// Premultiplied RGBA, rows from the top, or fewer channels; transparent when made. What lies beyond a picture's rim
-/// counts for nothing.
+/// The pixels of a tile: premultiplied RGBA, rows from the top, or fewer channels; transparent when made. What lies
+/// beyond a picture's rim counts for nothing.
 template <typename Channel, std::size_t kChannels = 4>
 struct alignas(64) Tile {
     std::array<Channel, kTilePixels * kChannels> values{};
@@ -31,9 +31,11 @@ struct alignas(64) Tile {
 /// The bytes of a tile, 4 or 8 a pixel, as its picture has, made by newTile(); nobody changes them while they are
 /// shared. Null: transparent.
 using SharedTile = std::shared_ptr<const std::uint8_t>;
+/// Bytes of a whole tile.
 constexpr std::size_t tileBytes(int pixelBytes) {
     return kTilePixels * static_cast<std::size_t>(pixelBytes);
 }
+/// What a null tile stands for.
 inline constexpr std::uint8_t kTransparentTile[tileBytes(8)]{};
 
 /// Throws std::bad_alloc.

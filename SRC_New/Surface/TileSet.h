@@ -43,13 +43,14 @@ private:
     int _columns = 0, _rows = 0;
 };
 
+/// Some of a picture's tiles.
 class TileSet {
 public:
     TileSet() = default;
     explicit TileSet(const Size& picture) : _layout(picture), _bits(_layout.count(), false) {}
 
     const TileLayout& layout() const { return _layout; }
-    /// Every tile that the rectangle meets.
+    /// Every tile that the rectangle meets, or the one of a number.
     void add(const Rect& rect) {
         const Rect cut = rect.intersected(Rect::of(_layout.picture()));
         for (int row = cut.y / kTileSide; !cut.isEmpty() && row * kTileSide < cut.bottom(); ++row) {
@@ -59,7 +60,9 @@ public:
         }
     }
     void add(std::size_t index) { _bits[index] = true; }
+    /// Whether the tile of this number is one.
     bool contains(std::size_t index) const { return _bits[index]; }
+    /// None from then on.
     void clear() { _bits.assign(_bits.size(), false); }
 
     /// Calls visit(std::size_t index) for each.

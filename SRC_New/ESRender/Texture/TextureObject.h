@@ -32,7 +32,7 @@ public:
     static constexpr int kMaxImageSide = 2048;
     using Cell = std::array<float, 10>;  ///< (s0, t0), (s0, t1), (s1, t1), (s1, t0), (s0, t0)
 
-    // ---- make; each uploads on the active unit and leaves GL_TEXTURE_2D at 0 there
+    // ---- Make; each uploads on the active unit and leaves GL_TEXTURE_2D at 0 there
 
     /// Sides are the image's in points (pixels over its device pixel ratio), rounded up to a power of two,
     /// 2048 at most; a larger image is squeezed.
@@ -58,7 +58,7 @@ public:
     bool loadTextureWithImages(const QList<QImage>& images);
     bool loadTextureWithData(const unsigned char* data, const QSize& size);
 
-    // ---- use
+    // ---- Use
 
     bool isEnabled() const { return _textureID != 0; }
     /// Makes the unit active and binds the texture there, and leaves both so. False, touching nothing,
@@ -66,7 +66,7 @@ public:
     bool use() const { return useAtPosition(GL_TEXTURE0); }
     bool useAtPosition(GLenum unit) const;
 
-    // ---- read
+    // ---- Read
 
     /// The cell of an image, ten floats; cell 0 when index is not below vertiesCount().
     const float* vertiesOfTextureIndex(unsigned index) const;
@@ -76,11 +76,13 @@ public:
     int qualityType() const { return static_cast<int>(_pixWidth > _pixHeight ? _pixWidth : _pixHeight); }
     /// The last mip level: where a cell is a single texel (of a texture of one cell: the whole chain).
     int cellMaxLevel() const;
+    /// 0 without a texture.
     GLuint textureID() const { return _textureID; }
+    /// Whether it was filled, at the last time that it was to be.
     bool didInit() const { return _didInit; }
     void setDidInit(bool didInit) { _didInit = didInit; }
 
-    // ---- helpers, public as they make up other textures of the same kind
+    // ---- Helpers: public as they make up other textures of the same kind
 
     /// Uploads pixSize() pixels, bottom row first, into this object's texture; returns the name used, 0 on
     /// failure.

@@ -38,12 +38,14 @@ public:
     /// Links and, on success, lets go of the shaders; true at once when linked already. GL errors found are
     /// logged either way (a shader that failed to compile leaves one). False when a stage has no shader.
     bool link();
+    /// Whether it is linked.
     bool initialized() const { return _initialized; }
 
     /// glUseProgram only; the vertex array is bound by bind().
     void use() const;
     /// Uses the program with its vertex array and its array buffer bound: ready to upload and draw.
     void bind() const;
+    /// As glValidateProgram(): the log is to be asked for.
     void validate() const;
 
     /// For those who share it: whether somebody else was the last to draw with it, so that uniform values and vertices
