@@ -60,14 +60,14 @@ QByteArray factsOf(const BrushProperty& property) {
     if (const QString standard = defaultText(property); !standard.isEmpty())
         facts += QStringLiteral("; %1 unless set").arg(standard);
     static const QRegularExpression color(QStringLiteral("#[0-9a-z]+"));  // a link, to some who read Markdown
-    return facts.replace(color, QStringLiteral("`\\0`")).toUtf8() + ".\n";
+    return facts.replace(color, QStringLiteral("`\\0`")).toUtf8() + ".";
 }
 
 QByteArray worksWith(const BrushProperty& property) {
     QByteArray names;
     for (const BrushKey key : property.with)
         names += (names.isEmpty() ? "" : ", ") + code(brushProperty(key).name);
-    return names.isEmpty() ? names : "\nWorks with " + names + ".\n";
+    return names.isEmpty() ? names : " Works with " + names + ".";
 }
 
 QByteArray sampleText(const BrushProperty& property) {
@@ -97,7 +97,7 @@ QByteArray propertiesPage() {
     std::map<BrushGroup, QByteArray> groups;
     for (const BrushProperty& property : brushProperties())
         groups[property.group] += QByteArray("\n### ") + property.name + "\n\n" + property.about + "\n\n" +
-                                  factsOf(property) + worksWith(property) + sampleText(property);
+                                  factsOf(property) + worksWith(property) + '\n' + sampleText(property);
     QByteArray page = kIntroduction;
     for (const QByteArray& setting : QByteArray(kPlainBrush).split(' '))
         page += "    " + setting + '\n';

@@ -21,10 +21,13 @@ TEST(PropertiesCommandTest, ListsEveryPropertyInBothForms) {
     for (const QJsonValue& row : list) {
         const QString name = row["name"].toString();
         EXPECT_TRUE(text.contains("  " + name.toLatin1() + ' '));
-        if (name == QLatin1String("radius")) {
+        if (name == QLatin1String("textureType")) {
+            EXPECT_EQ(row["choices"][1]["name"].toString(), "soft disc");
+        } else if (name == QLatin1String("radius")) {
             EXPECT_EQ(row["low"].toDouble(), 2);
             EXPECT_EQ(row["high"].toDouble(), 1280);
             EXPECT_EQ(row["default"].toDouble(), 32);
+            EXPECT_EQ(row["unit"].toString(), "pixels");
         }
     }
 }
