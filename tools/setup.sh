@@ -8,11 +8,11 @@ set -euo pipefail
 
 build=(cmake ninja-build g++ pkg-config libcli11-dev libeigen3-dev nlohmann-json3-dev qt6-base-dev qt6-declarative-dev qt6-tools-dev libepoxy-dev libhwy-dev liblz4-dev libwebp-dev libxxhash-dev zlib1g-dev libegl-dev libegl-mesa0 libgl1-mesa-dri)
 # clang: the fuzzers. locales: the tests compile a locale with a decimal comma from its files. xvfb: Qt's own OpenGL and window tests need a
-# display. qt6-base-private-dev: the window tests report pens to Qt as a platform does. dpkg-dev to abigail-tools: the packages. The last three: what runs
-# on Windows.
-check=(libgtest-dev qt6-base-private-dev qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtqml-workerscript libgmock-dev libbenchmark-dev libmypaint-dev mypaint-brushes clang-format-14 clang libclang-rt-dev ccache locales xvfb xauth
+# display. qt6-base-private-dev: the window tests report pens to Qt as a platform does. dpkg-dev to abigail-tools: the packages. g++-mingw to wine64: what runs
+# on Windows. The last three: the reference.
+check=(libgtest-dev qt6-base-private-dev qml6-module-qtqml qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtqml-workerscript libgmock-dev libbenchmark-dev libmypaint-dev mypaint-brushes clang-format-14 clang libclang-rt-dev ccache locales xvfb xauth
     dpkg-dev lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db groff-base mandoc file gzip abigail-tools
-    g++-mingw-w64-x86-64-posix wine wine64)
+    g++-mingw-w64-x86-64-posix wine wine64 doxygen doxygen-awesome-css python3)
 
 case ${1:-check} in
     build) wanted=("${build[@]}") ;;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What the numbers of some brush properties stand for, by name: for Designer, style sheets and QML, and wherever a name
-// reads better than a number. Any other number counts as the first of its kind, but for ThinLines.
+/// \file
+/// What the numbers of some brush properties stand for, by name: for Designer, style sheets and QML, and wherever a
+/// name reads better than a number. Any other number counts as the first of its kind, but for ThinLines.
 #pragma once
 
 #include <QObject>
@@ -11,11 +12,11 @@ namespace dabcanvas {
 
 Q_NAMESPACE_EXPORT(DABCANVAS_BRUSHES_API)
 
-// brushType
+/// brushType
 enum class BrushKind { Dabs = 0, Smudge = 3, FilledOutline = 4 };
 Q_ENUM_NS(BrushKind)
 
-// blendType, ESBlendType's values
+/// blendType, ESBlendType's values
 enum class BlendKind {
     Normal = 1,
     Replace = 2,
@@ -28,7 +29,7 @@ enum class BlendKind {
 };
 Q_ENUM_NS(BlendKind)
 
-// textureType
+/// textureType
 enum class TipKind { Images = 0, SoftDisc = 1, Ring = 2, RoundedRectangle = 3 };
 Q_ENUM_NS(TipKind)
 
@@ -36,7 +37,7 @@ Q_ENUM_NS(TipKind)
 enum class ThinLines { AsTheyAre = 0, AtLeastThreePixels = 2, ThinnedFlow = 4, Both = 6 };
 Q_ENUM_NS(ThinLines)
 
-// slRadiusRelationType: what the second line's size keeps to the first one's
+/// slRadiusRelationType: what the second line's size keeps to the first one's
 enum class SizeRelation { Free = 0, Difference = 1, Ratio = 2 };
 Q_ENUM_NS(SizeRelation)
 

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
-// Every brush property, one row each. All that a property has follows from its row: its key, the field that it is kept
-// in, its getter and setter on a canvas, its Qt property, its record in presets, what dabs and lines are given of it,
-// and what the tools tell of it.
-//
-//     BRUSH_PROPERTY(type, name, Name, columns...)
-//
-// The columns are those of BrushProperty, in its order; a column left out takes its default there. Rows stand in the
-// order in which presets are captured. A property of a new name needs a row here, and the code that uses it; one that
-// dabs use, a field of DabSettings too; one with a reset value, its place in kResetOrder of BrushState+Reset.cpp.
-//
-// A number that stands for something has a row BRUSH_KIND(Kind, name, Name, columns...), with its enumeration of BrushKinds.h,
-// and the tips one BRUSH_IMAGES(name, Name, columns...); for those who do not tell them apart they are rows as all.
-//
-// Included by whoever defines BRUSH_PROPERTY for what it makes of the rows; for anyone else it is empty.
+/// \file
+/// Every brush property, one row each. All that a property has follows from its row: its key, the field that it is kept
+/// in, its getter and setter on a canvas, its Qt property, its record in presets, what dabs and lines are given of it,
+/// and what the tools tell of it.
+///
+///     BRUSH_PROPERTY(type, name, Name, columns...)
+///
+/// The columns are those of BrushProperty, in its order; a column left out takes its default there. Rows stand in the
+/// order in which presets are captured. A property of a new name needs a row here, and the code that uses it; one that
+/// dabs use, a field of DabSettings too; one with a reset value, its place in kResetOrder of BrushState+Reset.cpp.
+///
+/// A number that stands for something has a row BRUSH_KIND(Kind, name, Name, columns...), with its enumeration of
+/// BrushKinds.h, and the tips one BRUSH_IMAGES(name, Name, columns...); for those who do not tell them apart they are
+/// rows as all.
+///
+/// Included by whoever defines BRUSH_PROPERTY for what it makes of the rows; for anyone else it is empty.
 // clang-format off
 #ifndef BRUSH_PROPERTY
 #define BRUSH_PROPERTY(...)

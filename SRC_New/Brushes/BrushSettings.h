@@ -10,7 +10,7 @@
 
 namespace dabcanvas {
 
-// Every brush setting of one canvas, as stored (after clamping): a field for each row of BrushPropertyList.h.
+/// Every brush setting of one canvas, as stored (after clamping): a field for each row of BrushPropertyList.h.
 struct BrushSettings {
 #define BRUSH_PROPERTY(type, name, Name, ...) type name{};
 #include "Brushes/BrushPropertyList.h"

@@ -1,13 +1,4 @@
 // SPDX-License-Identifier: MIT
-// What enters a canvas, call by call: what a recording is made of. A canvas tells a listener of it,
-// QDDrawCanvas::setInputListener(), and takes the same calls, QDDrawCanvas::input(): given to another canvas of that size,
-// without automatic steps and shown as large as it is, they paint the same bytes on the same surface.
-//
-// Units    buffer pixels, top-left origin; pressure and altitude as StrokeSample has them.
-// Order    a call is told before what follows of it. What follows is not told, but for undo steps, however they came about.
-// Untold   runs of dabs and other calls that QDDrawCanvas.h keeps for callers of old, what a host does to undoManager(),
-//          and that the canvas moves to another surface.
-// Thread   the canvas's. A listener must not call the canvas.
 #pragma once
 
 #include <QImage>
@@ -23,21 +14,22 @@
 
 namespace dabcanvas {
 
-// What a stroke came from: the host's own calls, a finger, a mouse or a pen.
+/// What a stroke came from: the host's own calls, a finger, a mouse or a pen.
 enum class InputDevice : std::uint8_t { program, touch, pen };
 
+/// A place of a stroke; pressure and altitude are -1 where none were given.
 struct InputSample {
     QPointF place;
     float pressure = -1, altitude = -1;
 };
 
-// What placing was restricted by, see QDDrawCanvas.h.
+/// What placing was restricted by, see QDDrawCanvas.h.
 struct InputLimits {
-    bool neglects = false;            // as neglectTextureUpdate()
-    std::optional<QRectF> scissor{};  // nothing outside of it was touched
+    bool neglects = false;            ///< as neglectTextureUpdate()
+    std::optional<QRectF> scissor{};  ///< nothing outside of it was touched
 };
 
-// A picture and where it was put, see QDDrawCanvas.h; top row first.
+/// A picture and where it was put, see QDDrawCanvas.h; top row first.
 struct InputImage {
     QImage image;
     QSizeF size;
@@ -48,50 +40,66 @@ struct InputImage {
     InputLimits limits;
 };
 
+/// What enters a canvas, call by call: what a recording is made of. A canvas tells a listener of it,
+/// QDDrawCanvas::setInputListener(), and takes the same calls, QDDrawCanvas::input(): given to another canvas of that
+/// size, without automatic steps and shown as large as it is, they paint the same bytes on the same surface.
+///
+/// Units    buffer pixels, top-left origin; pressure and altitude 0..1, -1 where none was given.
+/// Order    a call is told before what follows of it. What follows is not told, but for undo steps, however they came
+///          about.
+/// Untold   runs of dabs and other calls that QDDrawCanvas.h keeps for callers of old, what a host does to
+///          undoManager(), and that the canvas moves to another surface.
+/// Life     a listener is the host's, and taken off by setInputListener(nullptr) before it goes; input() is the
+///          canvas's.
+/// Thread   the canvas's. A listener must not call the canvas.
 class CanvasInput {
 public:
-    // ---- strokes: a begin, any number of moves, one of the three ends
+    // ---- Strokes: a begin, any number of moves, one of the three ends
 
     virtual void strokeBegan(InputDevice device, const InputSample& sample) = 0;
     virtual void strokeMoved(const InputSample& sample) = 0;
     virtual void strokeEnded(const InputSample& sample) = 0;
-    virtual void strokeWithdrawn() = 0;  // nothing of it stays
-    virtual void strokeDropped() = 0;    // what it drew stays, without an end
-    // A stroke of the live preview came onto the canvas, some time after its end.
+    virtual void strokeWithdrawn() = 0;  ///< nothing of it stays
+    virtual void strokeDropped() = 0;    ///< what it drew stays, without an end
+    /// A stroke of the live preview came onto the canvas, some time after its end.
     virtual void previewPlaced(const InputLimits& limits) = 0;
+    /// As by QDDrawCanvas::drawShape().
     virtual void shapeDrawn(const ShapeRecord& shape) = 0;
 
-    // ---- the brush
+    // ---- The brush
 
-    // As it was given, before it was clamped.
+    /// As it was given, before it was clamped.
     virtual void brushSet(BrushKey key, const BrushValue& value) = 0;
+    /// Size and relation of the second line, as they were, whatever one makes of the other.
     virtual void secondLineSet(float slRadius, float relationValue) = 0;
 
-    // ---- random numbers
+    // ---- Random numbers
 
     virtual void randomSeeded(std::uint32_t seed) = 0;
     virtual void randomRepeats(bool repeats) = 0;
 
-    // ---- the picture
+    // ---- The picture
 
-    // layersToo: what a stroke in progress has in its layers goes as well.
+    /// layersToo: what a stroke in progress has in its layers goes as well.
     virtual void cleared(const ESColor& color, bool layersToo) = 0;
+    /// As by the draw and set families of QDDrawCanvas.
     virtual void imagePlaced(const InputImage& placed) = 0;
-    // The picture with all its bits, between strokes, premultiplied; null: transparent. isStep: the history shows it, too,
-    // so that steps to come lead back to it; else no step that can be told of does. False when it could not be taken.
+    /// The picture with all its bits, between strokes, premultiplied; null: transparent. isStep: the history shows it,
+    /// too, so that steps to come lead back to it; else no step that can be told of does. False when it could not be
+    /// taken.
     virtual bool pictureSet(const QImage& picture, bool isStep) = 0;
 
-    // The buffer became this area of itself. False when it could not be.
+    /// The buffer became this area of itself. False when it could not be.
     [[nodiscard]] virtual bool areaSet(const QRect& area) = 0;
-    // The canvas is shown turned, see QDDrawCanvas::setViewTurn().
+    /// The canvas is shown turned, see QDDrawCanvas::setViewTurn().
     virtual void viewTurned(float radian, bool mirrored) = 0;
 
-    // ---- the history
+    // ---- The history
 
     virtual void stepRecorded() = 0;
     virtual void historyReset() = 0;
-    // Whether the step is one that the listener was told of; else it is told the picture. Told to a canvas: whether it went
-    // there.
+    /// Whether the step is one that the listener was told of; else it is told the picture. Told to a canvas: whether it
+    /// went there.
     [[nodiscard]] virtual bool undone() = 0;
     [[nodiscard]] virtual bool redone() = 0;
 

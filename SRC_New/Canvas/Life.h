@@ -5,8 +5,8 @@
 
 namespace dabcanvas {
 
-// Belongs to an object that its host may destroy in any callback; Alive tells after one whether it is still there. Where
-// it is not, no member may be touched.
+/// A member of an object that its host may destroy in any callback; Alive tells after one whether it is still there.
+/// Where it is not, no member may be touched.
 class Life {
 public:
     Life() : _token(std::make_shared<char>()) {}
@@ -18,6 +18,7 @@ private:
     std::shared_ptr<void> _token;
 };
 
+/// Taken before a callback of a host; false after it once the object has gone.
 class Alive {
 public:
     explicit Alive(const Life& life) : _token(life._token) {}

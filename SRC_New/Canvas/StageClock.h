@@ -8,21 +8,22 @@
 
 namespace dabcanvas {
 
-// What strokes have cost so far; the seconds are only measured while profiling is on.
+/// What strokes have cost so far; the seconds are only measured while profiling is on.
 struct StrokeStats {
-    std::uint64_t samples = 0;  // points that reached the line process
-    std::uint64_t dabs = 0;     // made and drawn
+    std::uint64_t samples = 0;  ///< points that reached the line process
+    std::uint64_t dabs = 0;     ///< made and drawn
     double geometrySeconds = 0;
     double drawingSeconds = 0;
     double compositingSeconds = 0;
 };
 
-// Gathers them. While it is on, each stage waits for the surface to finish, or reading back would be charged for all.
+/// Gathers StrokeStats. While it is on, each stage waits for the surface to finish, or reading back would be charged
+/// for all.
 struct StageClock {
     StrokeStats stats;
     bool isOn = false;
 
-    // Adds the time that a scope takes. Costs one branch while the clock is off.
+    /// Adds the time that a scope takes. Costs one branch while the clock is off.
     class Stage {
     public:
         Stage(StageClock& clock, double StrokeStats::*seconds, PaintSurface* surface = nullptr)

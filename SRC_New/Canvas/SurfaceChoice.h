@@ -10,8 +10,8 @@
 
 namespace dabcanvas {
 
-// Transparent; the sides are cut to integers. Null, after one log line, where there is no such surface, a side is not
-// from 1 to its limit or a depth neither 8 nor 16.
+/// Transparent; the sides are cut to integers. Null, after one log line, where there is no such surface, a side is not
+/// from 1 to its limit or a depth neither 8 nor 16.
 DABCANVAS_CANVAS_API std::unique_ptr<PaintSurface> makeSurface(const QSizeF& size,
                                                                const SurfaceOptions& options);
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What one dab is, apart from what draws it: the points of a stroke go in, jittered dabs come out. Plain C++.
+/// \file
+/// What one dab is, apart from what draws it: the points of a stroke go in, jittered dabs come out. Plain C++.
 #pragma once
 
 #include <cstddef>
@@ -11,22 +12,22 @@
 
 namespace dabcanvas {
 
-// One quad to draw. Buffer pixels with a top-left origin; angles counter-clockwise in radians.
+/// One quad to draw. Buffer pixels with a top-left origin; angles counter-clockwise in radians.
 struct Dab {
-    float x, y;      // centre
-    float halfSize;  // half the width; the height is roundness times the width
+    float x, y;      ///< centre
+    float halfSize;  ///< half the width; the height is roundness times the width
     float radian;
     float roundness;
-    float flipX, flipY;   // 1, or -1 for mirrored
-    float flow;           // 0..1, multiplies the tip
-    RgbType color;        // straight, 0..1
-    float random;         // 0..1, drawn only in multicolour mode
-    std::uint32_t tip;    // index of the tip image
-    float paperLift = 0;  // added to what the paper lets through, -1..1
+    float flipX, flipY;   ///< 1, or -1 for mirrored
+    float flow;           ///< 0..1, multiplies the tip
+    RgbType color;        ///< straight, 0..1
+    float random;         ///< 0..1, drawn only in multicolour mode
+    std::uint32_t tip;    ///< index of the tip image
+    float paperLift = 0;  ///< added to what the paper lets through, -1..1
 };
 
-// Brush settings that shape dabs; the canvas's properties of the same names tell what each does. A control is
-// active when any of its three influences is not 0.
+/// Brush settings that shape dabs; the canvas's properties of the same names tell what each does. A control is
+/// active when any of its three influences is not 0.
 struct DabSettings {
     RgbType color{0, 0, 0};
     RgbType backColor{0, 0, 0};
@@ -55,20 +56,20 @@ struct DabSettings {
     LPControlParams colorControl{};
     float hueTingle = 0, saturationTingle = 0, brightnessTingle = 0;
     bool colorFul = false;
-    // How the canvas is shown: mirrored left to right, then turned. Tips keep the angle that they are seen at.
+    /// How the canvas is shown: mirrored left to right, then turned. Tips keep the angle that they are seen at.
     float viewRadian = 0;
     bool viewMirrored = false;
-    bool isDebug = false;  // repeatable random sequences instead of a generator's
+    bool isDebug = false;  ///< repeatable random sequences instead of a generator's
     int lineProcessType = 0;
-    std::uint32_t numberOfTips = 0;  // tip images handed in; an atlas may hold fewer
-    std::uint32_t tipCells = 1;      // cells of the tip's atlas
+    std::uint32_t numberOfTips = 0;  ///< tip images handed in; an atlas may hold fewer
+    std::uint32_t tipCells = 1;      ///< cells of the tip's atlas
 };
 
-// Bits of lineProcessType, which count from 0.
-inline constexpr int kNoThinDabs = 1 << 1;  // a point smaller than 3 pixels is drawn 3 pixels large
-inline constexpr int kThinFlow = 1 << 2;    // a point smaller than 3 pixels flows a third per pixel instead
+/// Bits of lineProcessType, which count from 0.
+inline constexpr int kNoThinDabs = 1 << 1;  ///< a point smaller than 3 pixels is drawn 3 pixels large
+inline constexpr int kThinFlow = 1 << 2;    ///< a point smaller than 3 pixels flows a third per pixel instead
 
-// Which jitters can change anything, so that a dab skips the others.
+/// Which jitters can change anything, so that a dab skips the others.
 struct DabFlags {
     bool colorTingle = false, hsvTingle = false, colorTendency = false;
     bool flowTingle = false;
@@ -77,33 +78,35 @@ struct DabFlags {
     bool roundnessTingle = false;
     bool distribution = false, radiusTingle = false;
     bool countTingle = false;
-    bool moveRadian = false;  // the stroke's direction is needed
+    bool moveRadian = false;  ///< the stroke's direction is needed
     bool paperLift = false;
 };
 
-// Turns the points of one stroke into dabs. Keeps the stroke's dab counter and direction from call to call;
-// reset() begins the next stroke. On one thread at a time: the jitters use that thread's state, and the generator
-// that its LPSharedState brings, or the C library's.
+/// Turns the points of one stroke into dabs: set `settings`, call updateFlags(), then make() for each run of points.
+/// Keeps the stroke's dab counter and direction from call to call; reset() begins the next stroke. On one thread at a
+/// time: the jitters use that thread's state, and the generator that its LPSharedState brings, or the C library's.
 class DABCANVAS_DABS_API DabMaker {
 public:
     static constexpr std::size_t kMostDabsAPoint = 64;
 
     DabSettings settings;
 
-    // To be called after settings changed: derives which jitters are active.
+    /// To be called after settings changed: derives which jitters are active.
     void updateFlags();
+    /// What updateFlags() found.
     const DabFlags& flags() const { return _flags; }
 
+    /// Begins the next stroke.
     void reset();
-    // The stroke led here before its first point, so that this one knows its direction.
+    /// The stroke led here before its first point, so that this one knows its direction.
     void comeFrom(const LPPosition& place);
 
-    // Of the point that the present dab belongs to, inside a sink.
+    /// Of the point that the present dab belongs to, inside a sink.
     const LPPoint& point() const { return _point; }
     float halfSizeOfPoint() const { return _halfSize; }
-    std::int64_t pointIndex() const { return _pointIndex; }  // counted from 1 since the stroke began
+    std::int64_t pointIndex() const { return _pointIndex; }  ///< counted from 1 since the stroke began
 
-    // Calls sink(const Dab&) for every dab of the points, in drawing order.
+    /// Calls sink(const Dab&) for every dab of the points, in drawing order.
     template <typename Sink>
     void make(const LPPoint* points, std::size_t count, Sink&& sink) {
         beginRun();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Smudge dabs: what a dab of a smudge brush takes up, where, and how much of it. Plain C++.
+/// \file
+/// Smudge dabs: what a dab of a smudge brush takes up, where, and how much of it. Plain C++.
 #pragma once
 
 #include <cstdint>
@@ -10,45 +11,47 @@
 
 namespace dabcanvas {
 
-// A dab, and the square it takes up colour from: turned, squeezed and mirrored as the dab itself. Buffer pixels.
+/// A dab, and the square it takes up colour from: turned, squeezed and mirrored as the dab itself. Buffer pixels.
 struct SmudgeDab {
     Dab dab;
-    LPPosition pickUp;  // the square's centre
-    float pickUpHalf;   // half its side
-    float moist;        // how readily canvas colour is taken along; 0 where there is none to take yet
-    float mix;          // 0: of the brush's own colour, 1: of what is taken up
-    float exchange;     // share of what is under full coverage that is exchanged
+    LPPosition pickUp;  ///< the square's centre
+    float pickUpHalf;   ///< half its side
+    float moist;        ///< how readily canvas colour is taken along; 0 where there is none to take yet
+    float mix;          ///< 0: of the brush's own colour, 1: of what is taken up
+    float exchange;     ///< share of what is under full coverage that is exchanged
     BristleDab bristles{};
 };
 
-// The canvas's properties of the same names tell what each does; 0..1, but for controlValue.
+/// What a smudge brush is set to. The canvas's properties of the same names tell what each does; 0..1, but for
+/// controlValue.
 struct SmudgeSettings {
     float moist = 0.3f, load = 1, mix = 1;
-    bool control = true;      // mix grows from 0 over the first dabs of a stroke
-    float controlValue = 25;  // over so many
-    float bristles = 0;       // part of what is laid down that bristles carry along
+    bool control = true;      ///< mix grows from 0 over the first dabs of a stroke
+    float controlValue = 25;  ///< over so many
+    float bristles = 0;       ///< part of what is laid down that bristles carry along
 
-    // mix as grown by the point with this number, counted from 1; all of it at once when controlValue is not above 0.
+    /// mix as grown by the point with this number, counted from 1; all of it at once when controlValue is not above 0.
     DABCANVAS_DABS_API float grownMix(std::int64_t index) const;
 };
 
-// Adds to the dabs of a stroke what smudging needs. Keeps the pick-up place from call to call; reset() begins the next
-// stroke.
+/// Adds to the dabs of a stroke, which a DabMaker makes for it, what smudging needs. Keeps the pick-up place from call
+/// to call; reset() begins the next stroke.
 class DABCANVAS_DABS_API SmudgeMaker {
 public:
     SmudgeSettings settings;
 
+    /// Begins the next stroke.
     void reset() {
         _hasPlace = false;
         _place = {0, 0};
         _half = 0;
         _way = {};
     }
-    // Where the next point takes up colour, and half the side of that square.
+    /// Where the next point takes up colour, and half the side of that square.
     LPPosition place() const { return _place; }
     float half() const { return _half; }
 
-    // Calls sink(const SmudgeDab&) for every dab of the points that exchanges anything, in drawing order.
+    /// Calls sink(const SmudgeDab&) for every dab of the points that exchanges anything, in drawing order.
     template <typename Sink>
     void make(DabMaker& dabs, const LPPoint* points, std::size_t count, Sink&& sink) {
         std::int64_t present = 0;

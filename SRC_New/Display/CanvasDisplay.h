@@ -17,12 +17,15 @@ namespace dabcanvas {
 class DevicePointers;
 class HalvedCopies;
 
-// A canvas on screen, be it in a widget or in an item: where it lies in its view, how it is drawn there, and what the view's
-// mouse, pen and fingers do.
-//
-// Units    a view point is one of the widget or item, from its top left. What QDDrawCanvas calls view points are these with
-//          ViewFit::stretch, and buffer pixels with any other fit.
-// Thread   the application's main thread.
+/// A canvas on screen, be it in a widget or in an item: where it lies in its view, how it is drawn there, and what the
+/// view's mouse, pen and fingers do.
+///
+/// Use      hosts call what is public of QDDrawView or of CanvasItem::canvas(). A view of another kind derives from it,
+///          calls initCanvasOrSayWhy() once, answers what is asked below, has paintCanvas() paint and hands events to
+///          pointers().
+/// Units    a view point is one of the widget or item, from its top left. What QDDrawCanvas calls view points are these
+///          with ViewFit::stretch, and buffer pixels with any other fit.
+/// Thread   the application's main thread.
 class DABCANVAS_CANVAS_API CanvasDisplay : public QDDrawCanvas {
 public:
     ~CanvasDisplay() override;
@@ -30,29 +33,31 @@ public:
     // ---- Where the canvas lies. Tips keep the angle that they are seen at, however the canvas is turned.
     ViewFit fit() const { return _transform.fit(); }
     void setFit(ViewFit fit);
-    // 1: a buffer pixel is a pixel of the screen; 1/64 to 64. Setting it keeps the middle, and is ViewFit::free.
+    /// 1: a buffer pixel is a pixel of the screen; 1/64 to 64. Setting it keeps the middle, and is ViewFit::free.
     double zoom() const { return _transform.zoom(); }
     void setZoom(double zoom);
-    void zoomAbout(double zoom, QPointF viewPoint);  // keeps what is there where it is
-    // Radians, counter-clockwise as seen; mirrored left to right before.
+    void zoomAbout(double zoom, QPointF viewPoint);  ///< keeps what is there where it is
+    /// Radians, counter-clockwise as seen; mirrored left to right before.
     double viewRotation() const { return _transform.rotation(); }
     void setViewRotation(double radians);
     void turnAbout(double radians, QPointF viewPoint);
     bool isViewMirrored() const { return _transform.isMirrored(); }
     void setViewMirrored(bool mirrored);
-    // What of the canvas is in the view's middle, in buffer pixels; to be set with ViewFit::free.
+    /// What of the canvas is in the view's middle, in buffer pixels; to be set with ViewFit::free.
     QPointF viewCentre() const { return _transform.centre(); }
     void setViewCentre(QPointF bufferPoint);
+    /// Moves the canvas by so much.
     void panBy(QPointF viewPoints);
+    /// From buffer pixels to view points, and back.
     const QTransform& bufferToView() const { return _transform.toView(); }
     const QTransform& viewToBuffer() const { return _transform.toCanvas(); }
 
-    // On: the wheel zooms, with Ctrl also on a touch pad, whose two fingers pan otherwise; the middle button and fingers that
-    // do not paint pan, two of them zoom and turn as well. Off at first: all of that is left to the host.
+    /// On: the wheel zooms, with Ctrl also on a touch pad, whose two fingers pan otherwise; the middle button and
+    /// fingers that do not paint pan, two of them zoom and turn as well. Off at first: all of that is left to the host.
     bool isNavigable() const { return _navigable; }
     void setNavigable(bool navigable) { _navigable = navigable; }
 
-    // What lies under what is transparent, and around the canvas. None at first: what the view shows behind it.
+    /// What lies under what is transparent, and around the canvas. None at first: what the view shows behind it.
     void setGround(const QBrush& underCanvas, const QBrush& around);
 
     // ---- The brush as Qt's properties have it: kinds by name, colours as QColor, and back to a new canvas's values
@@ -92,35 +97,35 @@ public:
 #undef DISPLAYED_RESET
     void resetBrushValue(BrushKey key);
 
-    // Why nothing can be painted, in words, which the view shows as well; empty when all is well.
+    /// Why nothing can be painted, in words, which the view shows as well; empty when all is well.
     QString problem() const;
 
 protected:
     explicit CanvasDisplay(const QRectF& frame);
-    // initCanvas(), or a canvas of one pixel and a problem() to show in its place.
+    /// initCanvas(), or a canvas of one pixel and a problem() to show in its place.
     void initCanvasOrSayWhy(const SurfaceOptions& options);
 
     // ---- What the view is to tell and to do
     virtual QSizeF viewSize() const = 0;
     virtual double viewPixelRatio() const = 0;
-    virtual void updateView(const QRectF& viewRect) = 0;  // to be painted again, soon
+    virtual void updateView(const QRectF& viewRect) = 0;  ///< to be painted again, soon
     virtual QPointF toWindow(QPointF viewPoint) const = 0;
     virtual QPointF fromWindow(QPointF windowPoint) const = 0;
     virtual QPointF fromGlobal(QPointF globalPoint) const = 0;
-    // Fit, zoom, place or turn are others.
+    /// Fit, zoom, place or turn are others.
     virtual void viewDidChange() {}
-    // So many fingers came and went together, without moving or painting.
+    /// So many fingers came and went together, without moving or painting.
     virtual void fingersDidTap(int) {}
 
     void viewWasResized();
     void paintCanvas(QPainter& painter, const QRectF& exposed);
-    // The picture, or a halved copy of it, as it is shown now; valid until the next call of any member.
+    /// The picture, or a halved copy of it, as it is shown now; valid until the next call of any member.
     struct ShownPicture {
         const QImage& image;
-        QRectF area;  // of its pixels, and parts of pixels, that are the canvas
+        QRectF area;  ///< of its pixels, and parts of pixels, that are the canvas
         QTransform toView;
-        bool isSmooth;  // interpolated
-        bool isTurned;  // by no quarter
+        bool isSmooth;  ///< interpolated
+        bool isTurned;  ///< by no quarter
     };
     ShownPicture shownPicture();
     bool hasGround() const;

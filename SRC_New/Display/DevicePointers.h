@@ -1,8 +1,4 @@
 // SPDX-License-Identifier: MIT
-// What Qt tells of mouse, pen and fingers, as pointer events of the canvas: only the device that began a stroke goes on with
-// it. What does not paint moves the view, where that is navigable.
-//
-// Each member tells whether the event was taken; a host may have destroyed the display then, and this with it.
 #pragma once
 
 #include <QElapsedTimer>
@@ -23,11 +19,16 @@ namespace dabcanvas {
 
 class CanvasDisplay;
 
+/// What Qt tells of mouse, pen and fingers, as pointer events of the canvas: only the device that began a stroke goes
+/// on with it. What does not paint moves the view, where that is navigable.
+///
+/// A display has its own, CanvasDisplay::pointers(). Each member tells whether the event was taken; a host may have
+/// destroyed the display then, and this with it.
 class DABCANVAS_CANVAS_API DevicePointers {
 public:
     explicit DevicePointers(CanvasDisplay& display) : _display(display) {}
 
-    // Positions in the view's points.
+    /// Positions in the view's points.
     bool mousePress(const QMouseEvent& event);
     bool mouseMove(const QMouseEvent& event);
     bool mouseRelease(const QMouseEvent& event);
@@ -35,11 +36,11 @@ public:
     bool touch(const QTouchEvent& event);
     bool wheel(const QWheelEvent& event);
     bool nativeGesture(const QNativeGestureEvent& event);
-    // A pen is near, by an event that is not the view's.
+    /// A pen is near, by an event that is not the view's.
     void penIsNear() { seePen(); }
-    // No pointer will be heard of again: its stroke ends where it got to. False when the display is gone.
+    /// No pointer will be heard of again: its stroke ends where it got to. False when the display is gone.
     bool forget();
-    // The same for one kind of device alone, for views that learn of each.
+    /// The same for one kind of device alone, for views that learn of each.
     enum class Pointer : std::uint8_t { none, mouse, pen, finger };
     bool forget(Pointer pointer) { return _pointer != pointer || forget(); }
     bool isPainting(Pointer pointer) const { return _pointer == pointer; }

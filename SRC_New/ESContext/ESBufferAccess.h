@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Holds a canvas's buffer semaphore for a scope, when there is one.
 #pragma once
 
 #include <QSemaphore>
@@ -8,6 +7,7 @@
 
 #include "Maths/Export.h"
 
+/// Holds a canvas's buffer semaphore for a scope, when there is one.
 class DABCANVAS_RENDER_API ESBufferAccess {
 public:
     explicit ESBufferAccess(std::shared_ptr<QSemaphore> semaphore) : _semaphore(std::move(semaphore)) {

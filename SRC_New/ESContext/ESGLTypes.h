@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The GL types that headers of the canvas's public face need, as every GL header spells them. Those headers
-// do not include epoxy's: it must come before any other GL header, which a host's include order may not
-// allow.
+/// \file
+/// The GL types that headers of the canvas's public face need, as every GL header spells them. Those headers
+/// do not include epoxy's: it must come before any other GL header, which a host's include order may not
+/// allow.
 #pragma once
 
 typedef unsigned int GLenum;

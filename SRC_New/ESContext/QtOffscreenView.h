@@ -1,11 +1,4 @@
 // SPDX-License-Identifier: MIT
-// An OpenGL view over QOffscreenSurface and QOpenGLContext, for platforms without surfaceless EGL.
-//
-// Needs    a QGuiApplication whose platform has OpenGL (Qt's own "offscreen" platform has none).
-// State    the surface format is set on these two objects only, never as the application's default.
-// Thread   create() on the GUI thread, as QOffscreenSurface asks; makeCurrent() there too, as a
-//          QOpenGLContext belongs to the thread that made it.
-// Errors   create() returns null and says in *reason what is missing.
 #pragma once
 
 #include <QString>
@@ -17,9 +10,16 @@
 class QOffscreenSurface;
 class QOpenGLContext;
 
+/// An OpenGL view over QOffscreenSurface and QOpenGLContext, for platforms without surfaceless EGL.
+///
+/// Needs    a QGuiApplication whose platform has OpenGL (Qt's own "offscreen" platform has none).
+/// State    the surface format is set on these two objects only, never as the application's default.
+/// Thread   create() on the GUI thread, as QOffscreenSurface asks; makeCurrent() there too, as a
+///          QOpenGLContext belongs to the thread that made it.
+/// Errors   create() returns null and says in *reason what is missing.
 class DABCANVAS_RENDER_API QtOffscreenView final : public ESOpenGLView {
 public:
-    // Leaves whatever was current on this thread as it was; nothing is made current.
+    /// Leaves whatever was current on this thread as it was; nothing is made current.
     static std::unique_ptr<QtOffscreenView> create(QString* reason = nullptr);
     ~QtOffscreenView() override;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The texts of the blend programs, for those who know nothing of OpenGL.
+/// \file
+/// The texts of the blend programs, for those who know nothing of OpenGL.
 #pragma once
 
 #include <QString>
@@ -9,9 +10,9 @@
 
 namespace dabcanvas {
 
-// The mode whose fragment text this is, with "_Bool" or "bool"; 0 for none.
+/// The mode whose fragment text this is, with "_Bool" or "bool"; 0 for none.
 DABCANVAS_RENDER_API std::uint32_t blendTypeOfProgram(const QString& fragmentText);
-// The fragment text of a mode, with "bool".
+/// The fragment text of a mode, with "bool".
 DABCANVAS_RENDER_API QString programOfBlendType(std::uint32_t blendType);
 
 }  // namespace dabcanvas

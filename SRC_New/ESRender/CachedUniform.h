@@ -7,9 +7,9 @@
 
 namespace dabcanvas {
 
-// One uniform of a program: GL hears of a value only when it differs from the last one. Holds for as long as the program
-// stays the same and nobody else sets it; start anew, by locate(), when it is switched or was another's meanwhile. Set
-// with the program in use.
+/// One uniform of a program: GL hears of a value only when it differs from the last one. Holds for as long as the
+/// program stays the same and nobody else sets it; start anew, by locate(), when it is switched or was another's
+/// meanwhile. Set with the program in use.
 template <typename Value, std::size_t size>
 class CachedUniform {
 public:

@@ -1,13 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Draws the points of a stroke as textured, rotated, squeezed and jittered dabs into the bound framebuffer.
-//
-// Units    buffer pixels, top-left origin; angles counter-clockwise in radians; a point's radius field is the
-//          dab's width.
-// Owns     its programs, tip and paper textures. The context must be current for everything but the plain
-//          setters.
-// State    the dab counter and direction run on from call to call until resetLineProporty() begins the next
-//          stroke.
-// Errors   init() gives null when the program does not build. GL errors are logged and drawing goes on.
 #pragma once
 
 #include <QRectF>
@@ -31,68 +22,79 @@ class PaperTexture;
 class TipAtlas;
 }  // namespace dabcanvas
 
+/// Draws the points of a stroke as textured, rotated, squeezed and jittered dabs into the bound framebuffer.
+///
+/// Units    buffer pixels, top-left origin; angles counter-clockwise in radians; a point's radius field is the
+///          dab's width.
+/// Owns     its programs, tip and paper textures. The context must be current for everything but the plain
+///          setters.
+/// State    the dab counter and direction run on from call to call until resetLineProporty() begins the next
+///          stroke.
+/// Errors   init() gives null when the program does not build. GL errors are logged and drawing goes on.
 class DABCANVAS_RENDER_API ESLineRender : public ESBaseRender {
 public:
     using Dab = dabcanvas::Dab;
     using DabSettings = dabcanvas::DabSettings;
 
-    // Programs come from the pool, where one is given; it must be the current context's.
+    /// Programs come from the pool, where one is given; it must be the current context's.
     static std::unique_ptr<ESLineRender> init(std::shared_ptr<dabcanvas::ProgramPool> pool = {});
-    // Null texts stand for the line program; "_Bool" in either is read as "bool".
+    /// Null texts stand for the line program; "_Bool" in either is read as "bool".
     static std::unique_ptr<ESLineRender> initWithVertexShaderFromString(
         const QString& vertexShader, const QString& fragmentShaderFromString);
     ~ESLineRender() override;
 
     bool setVertexShaderString(const QString& vertexShaderString,
                                const QString& fragmentShaderFromString) override;
+    /// The texts of the line program.
     static QString lineRenderNormalVertexShaderString();
     static QString lineRenderNormalFrangmentShaderString();
 
-    // Begins a stroke.
+    /// Begins a stroke.
     virtual void resetLineProporty() { _dabs.reset(); }
 
-    // Returns the touched rectangle with a margin of one pixel, cut to the buffer; empty when nothing was
-    // drawn.
+    /// Returns the touched rectangle with a margin of one pixel, cut to the buffer; empty when nothing was
+    /// drawn.
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
 
-    // Draws dabs that were made elsewhere, with this renderer's tips, paper and multicolour, blended as GL is set to.
+    /// Draws dabs that were made elsewhere, with this renderer's tips, paper and multicolour, blended as GL is set to.
     void drawDabs(std::span<const Dab> dabs);
 
-    // The same over what a target of 16 bits a channel holds, however GL is set to blend: rounded by a noise of place and
-    // of the dabs' number, from `first` on, so that faint ones add up. Exactly where the driver lets programs read what
-    // they draw on; else, and with a host's program, its blending rounds besides.
+    /// The same over what a target of 16 bits a channel holds, however GL is set to blend: rounded by a noise of place
+    /// and of the dabs' number, from `first` on, so that faint ones add up. Exactly where the driver lets programs read
+    /// what they draw on; else, and with a host's program, its blending rounds besides.
     void drawDabsFinely(std::span<const Dab> dabs, std::uint32_t first);
+    /// Whether programs read what they draw on, where the driver lets them; off at first.
     void setUseFramebufferFetch(bool value) { _useFetch = value && hasFramebufferFetch(); }
     static bool hasFramebufferFetch();
 
-    // Dabs drawn since the renderer was made.
+    /// Dabs drawn since the renderer was made.
     std::uint64_t dabsDrawn() const { return _dabsDrawn; }
 
     bool needMoveRadianSupport() const { return _dabs.flags().moveRadian; }
-    // The negated angle from the first position to the second.
+    /// The negated angle from the first position to the second.
     static float radianWithPosition(LPPosition position, LPPosition nextPosition) {
         return -Radian(position, nextPosition);
     }
 
-    // ---- brush; the canvas's properties of the same names tell ranges and meaning
+    // ---- Brush; the canvas's properties of the same names tell ranges and meaning
 
     using ESBaseRender::setTextureImage;
-    // Deliberate: outside of multicolour (setColorFul()) a tip's own colour is ignored; its alpha is the shape.
+    /// Deliberate: outside of multicolour (setColorFul()) a tip's own colour is ignored; its alpha is the shape.
     void setTextureImage(const QImage& image, GLenum atPosition) override;
     void setTextureImages(const QList<QImage>& images, GLenum atPosition) override;
     void setTextureData(const unsigned char* data, const QSize& dataSize, GLenum atPosition) override;
-    // The same tips and paper as pixels that are shared. Only a host's program has textures made of them that others can
-    // see.
+    /// The same tips and paper as pixels that are shared. Only a host's program has textures made of them that others
+    /// can see.
     void setTips(std::shared_ptr<const dabcanvas::TipSet> tips, GLenum atPosition);
     void setPaper(std::shared_ptr<const dabcanvas::Picture> paper);
-    // Keeps the image; its texture lies on unit 7. A null one turns the mask off.
+    /// Keeps the image; its texture lies on unit 7. A null one turns the mask off.
     void setMaskImage(const QImage& image);
-    const QImage& maskImage() const { return _maskImage; }  // null for a paper that was set as pixels
+    const QImage& maskImage() const { return _maskImage; }  ///< null for a paper that was set as pixels
     void setNeedMaskTexture(bool value) { _needMaskTexture = value; }
     bool needMaskTexture() const { return _needMaskTexture; }
     void setMaskScale(float value) { _maskScale = value; }
     float maskScale() const { return _maskScale; }
-    // What a height of the paper, 0..1, lets through: gain * height + level; the library's own program alone asks.
+    /// What a height of the paper, 0..1, lets through: gain * height + level; the library's own program alone asks.
     void setMaskRelief(float gain, float level) {
         _reliefGain = gain;
         _reliefLevel = level;
@@ -139,7 +141,7 @@ public:
     void setSaturationTingle(float value) { set(&DabSettings::saturationTingle, value); }
     void setBrightnessTingle(float value) { set(&DabSettings::brightnessTingle, value); }
     void setColorFul(bool value) { set(&DabSettings::colorFul, value); }
-    // The secondary colour; no colour gives black, as with setRenderColor().
+    /// The secondary colour; no colour gives black, as with setRenderColor().
     void setBackRenderColor(const ESColor& color);
 
 protected:
@@ -152,13 +154,14 @@ protected:
     bool usesFetch() const { return _useFetch; }
     static constexpr char kFetchDefines[] =
         "#extension GL_EXT_shader_framebuffer_fetch : require\n#define FETCH\n";
-    // What stands before a fragment text that draws by records.
+    /// What stands before a fragment text that draws by records.
     static QString recordText(const QString& vertex, const QString& fragment);
-    // The atlas of the tips, made when it is first needed; false, and nothing to draw with, without one.
+    /// The atlas of the tips, made when it is first needed; false, and nothing to draw with, without one.
     bool hasAtlas(bool withColour);
+    /// Binds it, and what it is; null before it was made.
     void useAtlas();
     const dabcanvas::TipAtlas* atlas() const { return _atlas.get(); }
-    // Binds brushTexture(), made of the tips where it was not.
+    /// Binds brushTexture(), made of the tips where it was not.
     void useBrushTexture();
 
     dabcanvas::DabMaker _dabs;

@@ -1,14 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Draws the points of a stroke as smudge dabs into the smudge layer: each takes up colour where the dab before it lay
-// and mixes it with the brush's own. The layer is half the canvas each way; a second program fills it from the canvas
-// and brings what the dabs changed back.
-//
-// Units    buffer pixels, top-left origin, also where the layer is drawn into; a point's radius field is the dab's
-//          width.
-// Owns     its programs, its tip texture and two textures of the layer's size. The smudge texture is the context's.
-// State    pick-up place, dab counter and direction run on until resetLineProporty() begins the next stroke.
-// Errors   init() gives null when the smudge program does not build. Without a show program dabs are drawn all the
-//          same, but nothing is filled or brought back.
 #pragma once
 
 #include <QRect>
@@ -23,93 +13,104 @@
 #include "ESRender/HeldPaint.h"
 #include "Maths/Export.h"
 
-// How drawPoints() draws: dabs, or the rectangles in which canvas and layer meet.
+/// How drawPoints() draws: dabs, or the rectangles in which canvas and layer meet.
 enum ESSmudgeDraw : std::int32_t { ESSmudgeDrawDabs = 0, ESSmudgeDrawShow = 1 };
 
+/// Draws the points of a stroke as smudge dabs into the smudge layer: each takes up colour where the dab before it lay
+/// and mixes it with the brush's own. The layer is half the canvas each way; a second program fills it from the canvas
+/// and brings what the dabs changed back.
+///
+/// Units    buffer pixels, top-left origin, also where the layer is drawn into; a point's radius field is the dab's
+///          width.
+/// Owns     its programs, its tip texture and two textures of the layer's size. The smudge texture is the context's.
+/// State    pick-up place, dab counter and direction run on until resetLineProporty() begins the next stroke.
+/// Errors   init() gives null when the smudge program does not build. Without a show program dabs are drawn all the
+///          same, but nothing is filled or brought back.
 class DABCANVAS_RENDER_API ESSmudgeRender : public ESLineRender {
 public:
-    // Programs come from the pool, as the line renderer's.
+    /// Programs come from the pool, as the line renderer's.
     static std::unique_ptr<ESSmudgeRender> init(std::shared_ptr<dabcanvas::ProgramPool> pool = {});
     ~ESSmudgeRender() override;
 
-    // Makes the smudge program current, whatever the texts.
+    /// Makes the smudge program current, whatever the texts.
     bool setVertexShaderString(const QString& vertexShaderString,
                                const QString& fragmentShaderFromString) override;
+    /// The texts of the two programs.
     static QString smudgeRenderSmudgeVertexShaderString();
     static QString smudgeRenderSmudgeFrangmentShaderString();
     static QString smudgeRenderShowVertexShaderString();
     static QString smudgeRenderShowFrangmentShaderString();
 
-    // The smudge layer's texture and the unit it is read on.
+    /// The smudge layer's texture and the unit it is read on.
     void setSmudgeTextureID(GLuint texture, GLenum pos);
-    // Binds it there; false without one.
+    /// Binds it there; false without one.
     bool useSmudgeTexture() const;
 
-    // Makes its two textures, unless they are there: on first use, as most brushes never smudge. False, after a log
-    // line, when the driver has no room for them.
+    /// Makes its two textures, unless they are there: on first use, as most brushes never smudge. False, after a log
+    /// line, when the driver has no room for them.
     bool hasOwnTextures();
 
-    // Begins a stroke: its first dab has nothing to pick up yet.
+    /// Begins a stroke: its first dab has nothing to pick up yet.
     void resetLineProporty() override;
 
-    // ---- paint; 0..1 each
+    // ---- Paint; 0..1 each
 
-    // How readily canvas colour is taken along, from a dry brush to a wet one.
+    /// How readily canvas colour is taken along, from a dry brush to a wet one.
     void setMoistQuantity(float value) { _smudges.settings.moist = value; }
     float moistQuantity() const { return _smudges.settings.moist; }
-    // How much of its own colour the brush carries.
+    /// How much of its own colour the brush carries.
     void setLoadQuantity(float value) { _smudges.settings.load = value; }
     float loadQuantity() const { return _smudges.settings.load; }
-    // What a dab is made of: 0 its own colour alone, 1 picked up colour alone.
+    /// What a dab is made of: 0 its own colour alone, 1 picked up colour alone.
     void setMixQuantity(float value) { _smudges.settings.mix = value; }
     float mixQuantity() const { return _smudges.settings.mix; }
-    // Lets that grow from 0 over the first dabs of a stroke, and over how many.
+    /// Lets that grow from 0 over the first dabs of a stroke, and over how many.
     void setSmudgeControl(bool value) { _smudges.settings.control = value; }
     bool smudgeControl() const { return _smudges.settings.control; }
     void setSmudgeControlValue(float value) { _smudges.settings.controlValue = value; }
     float smudgeControlValue() const { return _smudges.settings.controlValue; }
-    // How far bristles carry colour along, see Dabs/Bristles.h; not with a program of a host's.
+    /// How far bristles carry colour along, see Dabs/Bristles.h; not with a program of a host's.
     void setBristles(float value) { _smudges.settings.bristles = value; }
     float bristles() const { return _smudges.settings.bristles; }
-    // The ramp at a dab, counted from 1; the whole mixQuantity at once when its length is not above 0.
+    /// The ramp at a dab, counted from 1; the whole mixQuantity at once when its length is not above 0.
     float mixQuantityAtPointIndex(std::int64_t index) const { return _smudges.settings.grownMix(index); }
 
-    // Place, in buffer pixels, and half size of the dab that the next point picks up from.
+    /// Place, in buffer pixels, and half size of the dab that the next point picks up from.
     LPPosition texturePosition() const { return _smudges.place(); }
     float textureSize_2() const { return _smudges.half(); }
 
-    // ---- draw
+    // ---- Draw
 
-    // Binds the texture that is read on the smudge texture's unit and yields the size of what it shows.
+    /// Binds the texture that is read on the smudge texture's unit and yields the size of what it shows.
     using TextureBindBlock = std::function<QSizeF()>;
 
-    // Dabs go into the smudge layer, which must be the bound framebuffer; blending is switched off meanwhile, as each
-    // dab reads what is there. Returns the touched rectangle, as the line renderer does.
+    /// Dabs go into the smudge layer, which must be the bound framebuffer; blending is switched off meanwhile, as each
+    /// dab reads what is there. Returns the touched rectangle, as the line renderer does.
     QRectF drawPoints(const LPPoint* points, std::size_t count) override;
-    // ESSmudgeDrawShow draws each point as a rectangle, roundness times its width high. Without a block the layer's
-    // smudges are put into it onto the canvas, with it the picture that the block binds is reduced into the layer.
+    /// ESSmudgeDrawShow draws each point as a rectangle, roundness times its width high. Without a block the layer's
+    /// smudges are put into it onto the canvas, with it the picture that the block binds is reduced into the layer.
     QRectF drawPoints(const LPPoint* points, std::size_t count, std::int32_t renderType,
                       const TextureBindBlock& withTextureBindBlock = {});
 
-    // The same of dabs that were made elsewhere, with this renderer's tips. A layer of 16 bits a channel rounds by a noise
-    // of place and of the dabs' number, from `first` on.
+    /// The same of dabs that were made elsewhere, with this renderer's tips. A layer of 16 bits a channel rounds by a
+    /// noise of place and of the dabs' number, from `first` on.
     QRectF drawSmudges(std::span<const dabcanvas::SmudgeDab> dabs, float load, std::uint32_t first = 0);
 
-    // The dabs drawn since the last call, in plain colour, with the flow by which each exchanged what was there. Valid
-    // until dabs are drawn again.
+    /// The dabs drawn since the last call, in plain colour, with the flow by which each exchanged what was there. Valid
+    /// until dabs are drawn again.
     std::span<const Dab> takeCoverage();
-    // Keeps the layer, the bound framebuffer, as it is now inside a rectangle: what later dabs change is told from it.
+    /// Keeps the layer, the bound framebuffer, as it is now inside a rectangle: what later dabs change is told from it.
     void keepLayer(const QRectF& rect);
-    // What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before.
+    /// What ESSmudgeDrawShow puts smudges together from: how much was exchanged (alpha), and the canvas from before.
     void setShowSources(GLuint coverageTexture, GLuint canvasTexture);
-    // What it rounds by, as ESImageRender::setNoiseTurn().
+    /// What it rounds by, as ESImageRender::setNoiseTurn().
     void setNoiseTurn(std::optional<float> turn, int canvasDepth = 8) {
         _noiseTurn = turn;
         _noiseStep = turn ? 1.0f / static_cast<float>((1 << canvasDepth) - 1) : 0;
     }
 
-    // Where the driver has a texture barrier, a dab that lies clear of its pick-up place reads the layer itself;
-    // else, and always without one, it reads a copy. The picture is the same.
+    /// Where the driver has a texture barrier, a dab that lies clear of its pick-up place reads the layer itself;
+    /// else, and always without one, it reads a copy. The picture is the same.
     void setUseTextureBarrier(bool value) { _useTextureBarrier = value && hasTextureBarrier(); }
     static bool hasTextureBarrier();
 

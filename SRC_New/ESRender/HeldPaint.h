@@ -1,8 +1,4 @@
 // SPDX-License-Identifier: MIT
-// What the bristles of a smudge brush hold, on the GPU: a texture of a pixel each. See Dabs/Bristles.h.
-//
-// Owns     a program, two small textures and their framebuffers.
-// Thread   whichever has the context current, which must be so when it goes, too.
 #pragma once
 
 #include <epoxy/gl.h>
@@ -16,20 +12,24 @@
 
 namespace dabcanvas {
 
+/// What the bristles of a smudge brush hold, on the GPU: a texture of a pixel each. See Dabs/Bristles.h.
+///
+/// Owns     a program, two small textures and their framebuffers.
+/// Thread   whichever has the context current, which must be so when it goes, too.
 class HeldPaint {
 public:
-    // Null, after one log line, where the driver cannot.
+    /// Null, after one log line, where the driver cannot.
     static std::unique_ptr<HeldPaint> make(ProgramPool* pool);
     ~HeldPaint();
     HeldPaint(const HeldPaint&) = delete;
     HeldPaint& operator=(const HeldPaint&) = delete;
 
-    // The framebuffer and viewport of now are what takeUp() leaves.
+    /// The framebuffer and viewport of now are what takeUp() leaves.
     void noteTarget();
-    // Before the dab is drawn, takes up what lies in the texture, of so many texels, whose sampler unit is `beforeUnit`; the
-    // dab is in texels, of a layer whose rows count from the top. Leaves another program in use.
+    /// Before the dab is drawn, takes up what lies in the texture, of so many texels, whose sampler unit is
+    /// `beforeUnit`; the dab is in texels, of a layer whose rows count from the top. Leaves another program in use.
     void takeUp(const BristleDab& bristles, const Dab& inLayer, int rows, GLenum beforeUnit);
-    // The sampler unit on which it stands then.
+    /// The sampler unit on which it stands then.
     static constexpr GLenum kUnit = GL_TEXTURE9;
 
 private:

@@ -1,13 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Paint in the memory of an OpenGL driver, put there by the renderers of ESRender over one ESContext.
-//
-// Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab
-//           that needs one.
-// Depth     16 bits a channel in the layers, or 8; so have picture and background. What comes from layers of 16 bits is
-//           rounded by a noise: of place and dabs in the layer, of place and of what was kept there before in the picture.
-// Context   is shared with the other surfaces made on the same thread, and so is its loss. It may be used on any thread: a
-//           SurfaceScope keeps it from the others meanwhile, which wait.
-// Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
 #pragma once
 
 #include <QSizeF>
@@ -32,15 +23,25 @@ namespace dabcanvas {
 class ThreadGL;
 class WetLayer;
 
+/// Paint in the memory of an OpenGL driver, put there by the renderers of ESRender over one ESContext.
+///
+/// Layers    the line layer is made with the surface; sub-line and smudge layer with the first dab
+///           that needs one.
+/// Depth     16 bits a channel in the layers, or 8; so have picture and background. What comes from layers of 16 bits
+///           is rounded by a noise: of place and dabs in the layer, of place and of what was kept there before in the
+///           picture.
+/// Context   is shared with the other surfaces made on the same thread, and so is its loss. It may be used on any
+///           thread: a SurfaceScope keeps it from the others meanwhile, which wait.
+/// Textures  a tip or paper becomes one when it is first drawn with, and stays until another takes its place.
 class DABCANVAS_RENDER_API GLSurface final : public PaintSurface {
 public:
-    // Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2, a side is not
-    // from 1 to the driver's limit or a depth neither 8 nor 16.
+    /// Transparent; the sides are cut to integers. Null, after one log line, when there is no OpenGL 3.2, a side is not
+    /// from 1 to the driver's limit or a depth neither 8 nor 16.
     static std::unique_ptr<GLSurface> make(const QSizeF& size, const SurfaceOptions& options = {});
     ~GLSurface() override;
 
-    // For hosts that draw with OpenGL themselves, inside a SurfaceScope, and leave blending equation, colour mask and
-    // pixel store as they were: other surfaces draw in the same context.
+    /// For hosts that draw with OpenGL themselves, inside a SurfaceScope, and leave blending equation, colour mask and
+    /// pixel store as they were: other surfaces draw in the same context.
     ESContext& context() { return *_context; }
 
     std::string name() override;

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-// How often paint that was blended onto a tile of a picture was kept, for what rounds by it: composites of one stroke round
-// alike, the next stroke's otherwise, and strokes elsewhere change nothing.
 #pragma once
 
 #include <cstdint>
@@ -12,6 +10,8 @@
 
 namespace dabcanvas {
 
+/// How often paint that was blended onto a tile of a picture was kept, for what rounds by it: composites of one stroke
+/// round alike, the next stroke's otherwise, and strokes elsewhere change nothing.
 class KeptCounts {
 public:
     explicit KeptCounts(const Size& picture)
@@ -20,24 +20,24 @@ public:
           _tiles(static_cast<std::size_t>(_columns) *
                  static_cast<std::size_t>((picture.height + kTileSide - 1) / kTileSide)) {}
 
-    // The layer that is blended holds paint there, from now on or no more.
+    /// The layer that is blended holds paint there, from now on or no more.
     void drawn(const Rect& rect) {
         forEachTile(rect, [](Tile& tile, const Rect&) { tile.holdsPaint = true; });
     }
     void cleared(const Rect& rect) {
         forEachTile(rect, [&](Tile& tile, const Rect& pixels) { tile.holdsPaint &= !rect.contains(pixels); });
     }
-    // Only where there is paint: rectangles reach as far as the looks between them let them.
+    /// Only where there is paint: rectangles reach as far as the looks between them let them.
     void blended(const Rect& rect) {
         forEachTile(rect, [](Tile& tile, const Rect&) { tile.isBlended |= tile.holdsPaint; });
     }
-    // Counts the tiles onto which something was blended since they were last.
+    /// Counts the tiles onto which something was blended since they were last.
     void kept(const Rect& rect) {
         forEachTile(rect, [](Tile& tile, const Rect&) {
             tile.times += std::exchange(tile.isBlended, false) ? 1u : 0u;
         });
     }
-    // Of tiles that lie in the rectangle with all their pixels.
+    /// Of tiles that lie in the rectangle with all their pixels.
     void forget(const Rect& rect) {
         forEachTile(rect, [&](Tile& tile, const Rect& pixels) {
             if (rect.contains(pixels)) {
@@ -46,7 +46,7 @@ public:
         });
     }
 
-    // Calls visit(const Rect&, times) with parts of the rectangle, on the picture, in which the count is the same.
+    /// Calls visit(const Rect&, times) with parts of the rectangle, on the picture, in which the count is the same.
     template <typename Visit>
     void forEachPart(const Rect& rect, Visit&& visit) {
         Rect run;

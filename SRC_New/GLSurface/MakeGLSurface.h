@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Surfaces on OpenGL for those who know nothing of it.
+/// \file
+/// Surfaces on OpenGL for those who know nothing of it.
 #pragma once
 
 #include <QSizeF>
@@ -13,10 +14,10 @@ namespace dabcanvas {
 
 class GLSurface;
 
-// As GLSurface::make().
+/// As GLSurface::make().
 DABCANVAS_RENDER_API std::unique_ptr<PaintSurface> makeGLSurface(const QSizeF& size,
                                                                  const SurfaceOptions& options = {});
-// The surface as what it is; null for one of another kind.
+/// The surface as what it is; null for one of another kind.
 DABCANVAS_RENDER_API GLSurface* asGLSurface(PaintSurface& surface);
 
 }  // namespace dabcanvas

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// What became of one of a history's two stacks, so that nobody need tell all of it again. An item is a name, or whatever
-// stands for one.
+/// \file
+/// What became of one of a history's two stacks, so that nobody need tell all of it again. An item is a name, or
+/// whatever stands for one.
 #pragma once
 
 #include <algorithm>
@@ -11,8 +12,9 @@
 
 namespace dabcanvas {
 
-// Of what the stack held, the farthest from the current step, `dropped`, went, and all but the next `kept`; then these came,
-// the nearest last. So nothing is dropped, kept or added of a stack that is told anew, but `added`.
+/// What became of a stack. Of what it held, the farthest from the current step, `dropped`, went, and all but the next
+/// `kept`; then these came, the nearest last. So nothing is dropped, kept or added of a stack that is told anew, but
+/// `added`.
 template <typename Item>
 struct StackChange {
     std::size_t dropped = 0, kept = 0;
@@ -20,7 +22,7 @@ struct StackChange {
 
     std::size_t sizeAfter() const { return kept + added.size(); }
 
-    // Becomes both, one after the other.
+    /// Becomes both, one after the other.
     void then(StackChange next) {
         const std::size_t fromKept = (std::min)(next.dropped, kept);
         dropped += fromKept;
@@ -34,7 +36,7 @@ struct StackChange {
                      std::make_move_iterator(next.added.end()));
     }
 
-    // On a queue of the items. Calls gone(Item) for each that goes.
+    /// On a queue of the items. Calls gone(Item) for each that goes.
     template <typename Queue, typename Gone>
     void applyTo(Queue& stack, const Gone& gone) const {
         for (std::size_t i = 0; i < dropped && !stack.empty(); ++i) {

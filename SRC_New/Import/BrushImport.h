@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Brushes of other painting programs: GIMP's .gbr and .gih, MyPaint's .myb, and pictures as tips and papers.
-//
-// Kinds    told by their content. Tips: of a picture that is grey or opaque, what is dark paints; else its alpha does,
-//          and its colours, where it has any. A tip is made a square around its middle, and at most 16 are kept.
-// Thread   any; nothing is kept between calls.
-// Errors   never throws: nothing, and `problem`, when given, says what is wrong, to follow the file's name.
+/// \file
+/// Brushes of other painting programs: GIMP's .gbr and .gih, MyPaint's .myb, and pictures as tips and papers.
+///
+/// Kinds    told by their content. Tips: of a picture that is grey or opaque, what is dark paints; else its alpha does,
+///          and its colours, where it has any. A tip is made a square around its middle, and at most 16 are kept.
+/// Thread   any; nothing is kept between calls.
+/// Errors   never throws: nothing, and `problem`, when given, says what is wrong, to follow the file's name.
 #pragma once
 
 #include <QByteArray>
@@ -23,27 +24,28 @@ class QDDrawCanvas;
 
 namespace dabcanvas {
 
+/// A brush, a tip or a paper as it was read from another program's file.
 struct ImportedBrush {
-    QString name;                                         // as the file says; may be empty
-    std::vector<std::pair<BrushKey, BrushValue>> values;  // in the order of setting
-    QStringList lost;                                     // in words, what could not be carried over
+    QString name;                                         ///< as the file says; may be empty
+    std::vector<std::pair<BrushKey, BrushValue>> values;  ///< in the order of setting
+    QStringList lost;                                     ///< in words, what could not be carried over
 
-    // Sets the values; all else of the canvas's brush stays.
+    /// Sets the values; all else of the canvas's brush stays.
     DABCANVAS_CANVAS_API void applyTo(QDDrawCanvas& canvas) const;
-    // The whole preset, with defaults for the rest. None when there is no memory for it.
+    /// The whole preset, with defaults for the rest. None when there is no memory for it.
     DABCANVAS_CANVAS_API std::optional<BrushParams> params() const;
 };
 
-// Suffixes of brush files that are read, without their dots; pictures are Qt's.
+/// Suffixes of brush files that are read, without their dots; pictures are Qt's.
 DABCANVAS_CANVAS_API QStringList importedBrushSuffixes();
 
-// No brush is larger; who reads files for the functions below does not read more.
+/// No brush is larger; who reads files for the functions below does not read more.
 inline constexpr std::int64_t kMostImportedBytes = std::int64_t{1} << 30;
 
-// Any of these kinds, a picture as a tip.
+/// Any of these kinds, a picture as a tip.
 DABCANVAS_CANVAS_API std::optional<ImportedBrush> importBrush(const QByteArray& file,
                                                               QString* problem = nullptr);
-// A GIMP brush or a picture; of a MyPaint brush there is neither.
+/// A GIMP brush or a picture; of a MyPaint brush there is neither.
 DABCANVAS_CANVAS_API std::optional<ImportedBrush> importTip(const QByteArray& file,
                                                             QString* problem = nullptr);
 DABCANVAS_CANVAS_API std::optional<ImportedBrush> importPaper(const QByteArray& file,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The whole line process: strokes, their dabs, and the jitter of the dabs' attributes. Plain functions over
-// plain records, with a state of its own on every thread; no Qt and no GL.
+/// \file
+/// The whole line process: strokes, their dabs, and the jitter of the dabs' attributes. Plain functions over
+/// plain records, with a state of its own on every thread; no Qt and no GL.
 #pragma once
 
 #include "LineProcess/ColorTypes.h"

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The plain records that samples, brush settings and dabs are made of.
-//
-// Units    positions and radii are in the caller's drawing unit; the canvas passes buffer pixels.
-// Layout   floats without gaps, so that arrays of LPPoint go to the renderers as they are.
+/// \file
+/// The plain records that samples, brush settings and dabs are made of.
+///
+/// Units    positions and radii are in the caller's drawing unit; the canvas passes buffer pixels.
+/// Layout   floats without gaps, so that arrays of LPPoint go to the renderers as they are.
 #pragma once
 
+/// A place in the plane.
 struct LPPosition {
     float x;
     float y;
 };
 
-// In a dab: its pressure (0..1, or exactly -1 when the device gives none), altitude (0..1) and speed
-// (0..1, where 1 is slow or at rest). In a brush setting: the signed strength with which each of them
-// acts on that setting, 0 meaning not at all.
+/// Pressure, altitude and speed. In a dab: its pressure (0..1, or exactly -1 when the device gives none), altitude
+/// (0..1) and speed (0..1, where 1 is slow or at rest). In a brush setting: the signed strength with which each of them
+/// acts on that setting, 0 meaning not at all.
 struct LPControlParams {
     float pressure;
     float altitude;
@@ -21,7 +23,7 @@ struct LPControlParams {
     friend bool operator==(const LPControlParams&, const LPControlParams&) = default;
 };
 
-// One dab. A stored dab's radius is above 0.
+/// One dab. A stored dab's radius is above 0.
 struct LPPoint {
     LPPosition position;
     float radius;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// What each library lets others link: a class or function that is marked in its header. All else stays inside, where no
-// name of a host's can take its place.
-//
-// DABCANVAS_STATIC comes with the static libraries' targets; each library defines DABCANVAS_BUILDING_... for itself.
+/// \file
+/// What each library lets others link: a class or function that is marked in its header. All else stays inside, where
+/// no name of a host's can take its place.
+///
+/// DABCANVAS_STATIC comes with the static libraries' targets; each library defines DABCANVAS_BUILDING_... for itself.
 #pragma once
 
 #if defined(_WIN32)

@@ -6,12 +6,12 @@
 
 namespace dabcanvas {
 
-// Half the width and half the height of something, or of the upright box around it.
+/// Half the width and half the height of something, or of the upright box around it.
 struct Extent {
     double width = 0, height = 0;
 };
 
-// Of the upright box around a box turned by `angle` radians. Computed in single precision.
+/// Of the upright box around a box turned by `angle` radians. Computed in single precision.
 inline Extent turned(const Extent& half, float angle) {
     const auto width = static_cast<float>(half.width);
     const auto height = static_cast<float>(half.height);

@@ -11,25 +11,27 @@
 
 #include "Brushes/ESColor.h"
 
-// An area that grows curve by curve, filled with antialiasing by the winding rule: the live preview's
-// outline.
-//
-// Why      a painter fills a path anew for every picture of it, which takes longer with every move. This
-//          keeps the outline's edges added up, pixel by pixel, so that a curve costs what it crosses, however
-//          long the stroke.
-// Exact    edges are whole numbers of 1/256 pixel and add up in whole numbers: the order of curves and
-//          pictures changes no pixel.
-// Units    pixels of the picture, origin top left; points may lie outside, up to 32768 pixels away.
-// Owns     four bytes for every pixel, given back by clear().
+/// An area that grows curve by curve, filled with antialiasing by the winding rule: the live preview's
+/// outline.
+///
+/// Why      a painter fills a path anew for every picture of it, which takes longer with every move. This
+///          keeps the outline's edges added up, pixel by pixel, so that a curve costs what it crosses, however
+///          long the stroke.
+/// Exact    edges are whole numbers of 1/256 pixel and add up in whole numbers: the order of curves and
+///          pictures changes no pixel.
+/// Units    pixels of the picture, origin top left; points may lie outside, up to 32768 pixels away.
+/// Owns     four bytes for every pixel, given back by clear().
 class LeafFill {
 public:
-    // Forgets everything; a new outline begins in a picture of this size. False: no memory for it.
+    /// Forgets everything; a new outline begins in a picture of this size. False: no memory for it.
     bool begin(const QSize& size, QPointF point);
+    /// The outline goes on by a quadratic curve.
     void quadTo(QPointF control, QPointF end);
+    /// Forgets everything and gives the memory back.
     void clear();
 
-    // Draws the rectangle, which must lie within an image of Format_RGBA8888_Premultiplied and this size: the
-    // colour with its alpha inside of the outline, closed by a straight line, and transparent elsewhere.
+    /// Draws the rectangle, which must lie within an image of Format_RGBA8888_Premultiplied and this size: the
+    /// colour with its alpha inside of the outline, closed by a straight line, and transparent elsewhere.
     void draw(QImage& image, const QRect& area, const ESColor& color);
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Surfaces in plain memory, drawn by the processor: no context, no driver and no call of OpenGL.
+/// \file
+/// Surfaces in plain memory, drawn by the processor: no context, no driver and no call of OpenGL.
 #pragma once
 
 #include <memory>
@@ -10,8 +11,8 @@
 
 namespace dabcanvas {
 
-// Transparent. Null, after one log line, when a side is not from 1 to 32768, for a depth that is neither 8 nor 16, and
-// without the memory.
+/// Transparent. Null, after one log line, when a side is not from 1 to 32768, for a depth that is neither 8 nor 16, and
+/// without the memory.
 DABCANVAS_PROCESSOR_API std::unique_ptr<PaintSurface> makeProcessorSurface(
     const Size& size, const SurfaceOptions& options = {});
 

@@ -12,29 +12,29 @@
 
 class LeafDrawView;
 
-// A canvas in a window: a widget that shows what a QDDrawCanvas holds and has all of its operations and
-// properties.
-//
-//     auto view = QDDrawView::initWithFrame(QRectF(0, 0, 800, 600));
-//     view->setRadius(24);
-//     view->drawingWithBeginPoint({100, 100}, 0.5f);
-//     view->drawingWithMoveToPoint({300, 180}, 0.9f);
-//     view->drawingWithEndPoint({400, 120}, 0.2f);
-//     view->show();
-//
-// Pointer  left mouse button, pen tip and one finger paint; a mouse presses with 1, a touch screen that measures no
-//          pressure too. What another device began is not disturbed. A second finger takes the first one's mark
-//          back; from there until all are up, touch is left to event filters, or moves a view that is navigable. Other
-//          buttons, the wheel and hovering pens go to the parent. A stroke ends where it got to when the window is
-//          deactivated or the view hidden. A stroke of up to nine moves is taken for a slip: setAdjustCancelLine(false)
-//          keeps it.
-// Size     the buffer gets the frame's size at creation and keeps it; a widget of another size shows it
-//          stretched, and points scale, unless fit() says otherwise.
-// Undo     the first step is the blank canvas: resetUndoManager() makes a picture that was placed the first one.
-// Owner    whoever holds the unique_ptr. With a parent, or once put into a layout, release() it: the parent owns.
-// Life     a delegate may destroy it in any callback, but not in one that comes because the view is shown, hidden or
-//          resized: Qt goes on with it. deleteLater() is fine there. So for slots.
-// Thread   the application's main thread, as for every widget.
+/// A canvas in a window: a widget that shows what a QDDrawCanvas holds and has all of its operations and
+/// properties.
+///
+///     auto view = QDDrawView::initWithFrame(QRectF(0, 0, 800, 600));
+///     view->setRadius(24);
+///     view->drawingWithBeginPoint({100, 100}, 0.5f);
+///     view->drawingWithMoveToPoint({300, 180}, 0.9f);
+///     view->drawingWithEndPoint({400, 120}, 0.2f);
+///     view->show();
+///
+/// Pointer  left mouse button, pen tip and one finger paint; a mouse presses with 1, a touch screen that measures no
+///          pressure too. What another device began is not disturbed. A second finger takes the first one's mark back;
+///          from there until all are up, touch is left to event filters, or moves a view that is navigable. Other
+///          buttons, the wheel and hovering pens go to the parent. A stroke ends where it got to when the window is
+///          deactivated or the view hidden. A stroke of up to nine moves is taken for a slip:
+///          setAdjustCancelLine(false) keeps it.
+/// Size     the buffer gets the frame's size at creation and keeps it; a widget of another size shows it
+///          stretched, and points scale, unless fit() says otherwise.
+/// Undo     the first step is the blank canvas: resetUndoManager() makes a picture that was placed the first one.
+/// Owner    whoever holds the unique_ptr. With a parent, or once put into a layout, release() it: the parent owns.
+/// Life     a delegate may destroy it in any callback, but not in one that comes because the view is shown, hidden or
+///          resized: Qt goes on with it. deleteLater() is fine there. So for slots.
+/// Thread   the application's main thread, as for every widget.
 class DABCANVAS_VIEW_API QDDrawView : public QWidget, public dabcanvas::CanvasDisplay {
     Q_OBJECT
     // A property for each row of BrushPropertyList.h, with the canvas's setter of that name. Designer and QML know doubles
@@ -66,15 +66,16 @@ class DABCANVAS_VIEW_API QDDrawView : public QWidget, public dabcanvas::CanvasDi
     Q_PROPERTY(QString problem READ problem NOTIFY contextLost STORED false)
 
 public:
-    // dabcanvas::ViewFit's.
+    /// dabcanvas::ViewFit's.
     enum class Fit { Stretch, Whole, Free };
     Q_ENUM(Fit)
 
-    // As Designer makes it: with a canvas of the size, in pixels of the screen, that the view is first shown with, unless
-    // something was painted before; until then it is 640 x 480. Where none can be had, the view says so; see problem().
+    /// As Designer makes it: with a canvas of the size, in pixels of the screen, that the view is first shown with,
+    /// unless something was painted before; until then it is 640 x 480. Where none can be had, the view says so; see
+    /// problem().
     explicit QDDrawView(QWidget* parent = nullptr, const dabcanvas::SurfaceOptions& options = {});
-    // Frame: place and size in the parent, in view points, from 1 x 1 on. Null, after one log line, when
-    // the surface that is asked for cannot be had, or not in this size.
+    /// Frame: place and size in the parent, in view points, from 1 x 1 on. Null, after one log line, when
+    /// the surface that is asked for cannot be had, or not in this size.
     static std::unique_ptr<QDDrawView> initWithFrame(const QRectF& frame, QWidget* parent = nullptr,
                                                      const dabcanvas::SurfaceOptions& options = {});
     ~QDDrawView() override;
@@ -90,24 +91,24 @@ public:
     }
 
 Q_SIGNALS:
-    // Of a stroke, in buffer pixels, in the course of it. After each begin comes one of the two ends.
+    // ---- Signals of strokes: in buffer pixels, in the course of them; after each begin comes one of the two ends
     void strokeBegan(QPointF place);
     void strokeMoved(QPointF place);
     void strokeEnded(QPointF place);
-    void strokeWithdrawn();
-    // All others come when the call that caused them is done.
+    void strokeWithdrawn();  ///< nothing of it stays
+    // ---- Signals of the canvas: when the call that caused them is done, once
     void canvasSizeChanged();
-    void canvasChanged(const QRect& bufferPixels);
+    void canvasChanged(const QRect& bufferPixels);  ///< these show something else
     void canUndoChanged(bool canUndo);
     void canRedoChanged(bool canRedo);
     void modifiedChanged(bool modified);
-    void brushChanged();  // a property of it, or many at once
-    void viewChanged();   // fit, zoom, place, turn or mirroring
-    void contextLost();
-    void fingersTapped(int fingers);  // two or more, of a view that is navigable
+    void brushChanged();              ///< a property of it, or many at once
+    void viewChanged();               ///< fit, zoom, place, turn or mirroring
+    void contextLost();               ///< nothing can be painted any more, see QDDrawCanvas::isContextLost()
+    void fingersTapped(int fingers);  ///< two or more, of a view that is navigable
 
 protected:
-    // For one that derives from it, and then calls initCanvas().
+    /// For one that derives from it, and then calls initCanvas().
     explicit QDDrawView(const QRectF& frame, QWidget* parent = nullptr);
 
     void mousePressEvent(QMouseEvent* event) override;
@@ -119,7 +120,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
     bool event(QEvent* event) override;
 
-    // The screen always shows the whole canvas image, never the layers.
+    /// The screen always shows the whole canvas image, never the layers.
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

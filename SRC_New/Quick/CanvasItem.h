@@ -24,30 +24,30 @@ namespace dabcanvas {
 
 class ItemDisplay;
 
-// A canvas in a scene of Qt Quick, which QML knows as Canvas of the module Dabcanvas:
-//
-//     import QtQuick
-//     import Dabcanvas
-//
-//     Canvas {
-//         anchors.fill: parent
-//         renderColor: "steelblue"
-//         blendType: Brush.Multiply
-//         radiusControl: [0.7, 0, 0]             // pressure, altitude, speed
-//         maskImage: "paper.png"                 // by path or URL, as all images
-//         onStrokeEnded: save("picture.png") || console.log(problem)
-//     }
-//
-// Properties those of QDDrawView, by the same names but for brushOpacity, as items have an opacity of their own. Number that
-//          are not finite, and files that cannot be read, leave a property as it was: QML's warning says so, and
-//          problem, which the item shows.
-// Pointer  as for QDDrawView. A pen paints where nothing above the item takes a press. What the item hears it keeps from
-//          the Flickables around it.
-// Size     canvasSize, in pixels; as large as the item in pixels of the screen when it is first shown, where none was set.
-//          An item of another size shows the canvas stretched, unless fit says otherwise.
-// Render   by OpenGL, Vulkan and their like, and by Qt Quick's software renderer: parts that changed are uploaded.
-// Life     destroy() and deleteLater() are fine in any signal; delete is not while Qt hands the item an event.
-// Thread   the application's main thread.
+/// A canvas in a scene of Qt Quick, which QML knows as Canvas of the module Dabcanvas:
+///
+///     import QtQuick
+///     import Dabcanvas
+///
+///     Canvas {
+///         anchors.fill: parent
+///         renderColor: "steelblue"
+///         blendType: Brush.Multiply
+///         radiusControl: [0.7, 0, 0]             // pressure, altitude, speed
+///         maskImage: "paper.png"                 // by path or URL, as all images
+///         onStrokeEnded: save("picture.png") || console.log(problem)
+///     }
+///
+/// Names    of properties are those of QDDrawView, but for brushOpacity, as items have an opacity of their own. Numbers
+///          that are not finite, and files that cannot be read, leave a property as it was: QML's warning says so, and
+///          problem, which the item shows.
+/// Pointer  as for QDDrawView. A pen paints where nothing above the item takes a press. What the item hears it keeps
+///          from the Flickables around it.
+/// Size     canvasSize, in pixels; as large as the item in pixels of the screen when it is first shown, where none was
+///          set. An item of another size shows the canvas stretched, unless fit says otherwise.
+/// Render   by OpenGL, Vulkan and their like, and by Qt Quick's software renderer: parts that changed are uploaded.
+/// Life     destroy() and deleteLater() are fine in any signal; delete is not while Qt hands the item an event.
+/// Thread   the application's main thread.
 class DABCANVAS_QUICK_API CanvasItem : public QQuickItem {
     Q_OBJECT
     // A property for each row of BrushPropertyList.h.
@@ -83,31 +83,33 @@ class DABCANVAS_QUICK_API CanvasItem : public QQuickItem {
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
 
 public:
-    // ViewFit's.
+    /// ViewFit's.
     enum class Fit { Stretch, Whole, Free };
     Q_ENUM(Fit)
 
     explicit CanvasItem(QQuickItem* parent = nullptr, const SurfaceOptions& options = {});
     ~CanvasItem() override;
 
-    // All that a canvas can do, for C++.
+    /// All that a canvas can do, for C++.
     CanvasDisplay& canvas() const;
 
     QSize canvasSize() const;
-    void setCanvasSize(
-        const QSize& size);  // the history begins anew; empty: as large as the item, once it is shown
+    /// The history begins anew. Empty: as large as the item, once it is shown.
+    void setCanvasSize(const QSize& size);
+    /// What is wrong, in words, which the item shows as well; empty when all is well.
     QString problem() const;
 
-    // ---- For QML. Files by path or URL; relative ones lie beside the QML file. Points as for QDDrawCanvas.
+    // ---- For QML. Files by path or URL; relative ones lie beside the QML file, and problem says what is wrong with one.
+    // Points as for QDDrawCanvas.
     Q_INVOKABLE bool undo();
     Q_INVOKABLE bool redo();
     Q_INVOKABLE void clear();
     Q_INVOKABLE void clear(const QColor& color);
-    // By the file's suffix.
+    /// By the file's suffix.
     Q_INVOKABLE bool save(const QUrl& file);
     Q_INVOKABLE bool loadBrush(const QUrl& file);
     Q_INVOKABLE void resetBrush();
-    // A file or an image, over all of the canvas or in a rectangle of view points.
+    /// A file or an image, over all of the canvas or in a rectangle of view points.
     Q_INVOKABLE bool placeImage(const QVariant& image, const QRectF& rect = {});
     Q_INVOKABLE void beginStroke(QPointF point, double pressure = -1, double altitude = -1);
     Q_INVOKABLE void moveStroke(QPointF point, double pressure = -1, double altitude = -1);
@@ -115,12 +117,12 @@ public:
     Q_INVOKABLE QImage image() const;
     Q_INVOKABLE void zoomAbout(double zoom, QPointF itemPoint);
     Q_INVOKABLE void panBy(QPointF itemPoints);
-    // Between the item's points and the canvas's pixels.
+    /// Between the item's points and the canvas's pixels.
     Q_INVOKABLE QPointF toCanvas(QPointF itemPoint) const;
     Q_INVOKABLE QPointF fromCanvas(QPointF pixel) const;
 
 Q_SIGNALS:
-    // As QDDrawView's.
+    // ---- Signals: as QDDrawView's, and of what else has a property
     void strokeBegan(QPointF place);
     void strokeMoved(QPointF place);
     void strokeEnded(QPointF place);
@@ -153,7 +155,7 @@ protected:
     void touchUngrabEvent() override;
     void wheelEvent(QWheelEvent* event) override;
     bool event(QEvent* event) override;
-    // The window's, of pens and its going away.
+    /// The window's, of pens and its going away.
     bool eventFilter(QObject* window, QEvent* event) override;
 
 private:

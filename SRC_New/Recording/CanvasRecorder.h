@@ -1,11 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Records what enters a canvas, from its start() to its end.
-//
-// Left out  what CanvasInput.h says that no listener is told of. Places beyond 131072 pixels from the origin are brought
-//           that near.
-// Costs     a call for each sample; where the canvas is not empty, reading it once at the start and after undo that goes
-//           back to before that.
-// Thread    the canvas's. To be destroyed before the canvas is.
 #pragma once
 
 #include <QElapsedTimer>
@@ -24,17 +17,24 @@ namespace dabcanvas {
 
 class RecordingWriter;
 
+/// Records what enters a canvas, from its start() to its end.
+///
+/// Left out  what CanvasInput.h says that no listener is told of. Places beyond 131072 pixels from the origin are
+///           brought that near.
+/// Costs     a call for each sample; where the canvas is not empty, reading it once at the start and after undo that
+///           goes back to before that.
+/// Thread    the canvas's. To be destroyed before the canvas is.
 class DABCANVAS_RECORDING_API CanvasRecorder final : private CanvasInput {
 public:
-    // Takes each event once it is whole: strokes at their end.
+    /// Takes each event once it is whole: strokes at their end.
     using Take = std::function<void(RecordedEvent event)>;
 
-    // Begins the canvas's random numbers anew, by a seed that is picked by chance where none is given, and hands over
-    // what the canvas is at present: its brush, and its picture where it is not empty. Null, after a log line, in
-    // mid-stroke and where the canvas cannot be read.
+    /// Begins the canvas's random numbers anew, by a seed that is picked by chance where none is given, and hands over
+    /// what the canvas is at present: its brush, and its picture where it is not empty. Null, after a log line, in
+    /// mid-stroke and where the canvas cannot be read.
     static std::unique_ptr<CanvasRecorder> start(QDDrawCanvas& canvas, Take take,
                                                  std::optional<std::uint32_t> seed = std::nullopt);
-    // The same through a writer, header and all, and into a value; either must outlive the recorder.
+    /// The same through a writer, header and all, and into a value; either must outlive the recorder.
     static std::unique_ptr<CanvasRecorder> start(QDDrawCanvas& canvas, RecordingWriter& writer,
                                                  std::optional<std::uint32_t> seed = std::nullopt);
     static std::unique_ptr<CanvasRecorder> start(QDDrawCanvas& canvas, Recording& into,
@@ -44,7 +44,7 @@ public:
     CanvasRecorder& operator=(const CanvasRecorder&) = delete;
 
     const RecordingHeader& header() const { return _header; }
-    // Hands over what a stroke in progress has of samples so far.
+    /// Hands over what a stroke in progress has of samples so far.
     void flush();
 
 private:

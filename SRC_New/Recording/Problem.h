@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What went wrong with one input, in the words its user reads.
+/// \file
+/// What went wrong with one input, in the words its user reads.
 #pragma once
 
 #include <QString>
@@ -9,14 +10,14 @@
 
 namespace dabcanvas {
 
-// One fault of one file. `line` counts from 1; 0 when no line can be named. `element` says where inside a
-// structured file, such as strokes[3].samples[7]; empty when the line says it all.
+/// One fault of one file. `line` counts from 1; 0 when no line can be named. `element` says where inside a
+/// structured file, such as strokes[3].samples[7]; empty when the line says it all.
 struct Problem {
     int line = 0;
     QString element;
     QString what;
 
-    // "FILE:LINE: element: what", without what is not known. The file "-" is standard input.
+    /// "FILE:LINE: element: what", without what is not known. The file "-" is standard input.
     QString text(const QString& file) const {
         QString told =
             (file == QLatin1String("-") ? QStringLiteral("standard input") : file) + QLatin1Char(':');
@@ -29,7 +30,11 @@ struct Problem {
     }
 };
 
-// A value, or the reason why there is none.
+/// A value, or the reason why there is none; only what it holds is to be asked for.
+///
+///     const Result<RecordedStrokes> strokes = readStrokes(bytes);
+///     if (!strokes) return complain(strokes.problem().text(path));
+///     use(*strokes);
 template <typename Value>
 class Result {
 public:

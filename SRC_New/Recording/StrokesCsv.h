@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Strokes as tables of points: one row a point, with columns sample_id, x and y among others.
+/// \file
+/// Strokes as tables of points: one row a point, with columns sample_id, x and y among others.
 #pragma once
 
 #include <QByteArray>
@@ -12,16 +13,17 @@
 
 namespace dabcanvas {
 
+/// The points of the rows that have one name.
 struct NamedStroke {
     std::string id;
-    std::vector<ShapePoint> points;  // in the order of their rows
+    std::vector<ShapePoint> points;  ///< in the order of their rows
 };
 
-// The strokes in the order in which their names first come; the rows of one need not follow each other. The
-// first row names the columns. Linear in the size of the bytes.
+/// The strokes in the order in which their names first come; the rows of one need not follow each other. The
+/// first row names the columns. Linear in the size of the bytes.
 DABCANVAS_RECORDING_API Result<std::vector<NamedStroke>> readStrokesCsv(const QByteArray& bytes);
 
-// Appends text as one field, in quotes where it needs them.
+/// Appends text as one field, in quotes where it needs them.
 DABCANVAS_RECORDING_API void appendCsvField(std::string& out, std::string_view text);
 
 }  // namespace dabcanvas

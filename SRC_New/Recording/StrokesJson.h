@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The tool's own recordings, and the input of the dabs command, which share their list of strokes.
+/// \file
+/// The tool's own recordings, and the input of the dabs command, which share their list of strokes.
 #pragma once
 
 #include <QByteArray>
@@ -11,21 +12,24 @@
 
 namespace dabcanvas {
 
-// {"canvas": {"width": W, "height": H, "background": "#rrggbbaa"},
-//  "brush": "pencil.xbf",
-//  "strokes": [{"brush": "ink.xbf", "set": {property: value, ...},
-//               "samples": [[x, y, pressure, altitude], ...]}, ...]}
-// Everything but "strokes" and "samples" may be left out, pressure and altitude too. Pressure and altitude
-// are 0..1 or -1. Members that are not known, and members given twice, are refused.
+/// Strokes by sample, and the brush and the canvas that they are for:
+///     {"canvas": {"width": W, "height": H, "background": "#rrggbbaa"},
+///      "brush": "pencil.xbf",
+///      "strokes": [{"brush": "ink.xbf", "set": {property: value, ...},
+///                   "samples": [[x, y, pressure, altitude], ...]}, ...]}
+/// Everything but "strokes" and "samples" may be left out, pressure and altitude too. Pressure and altitude
+/// are 0..1 or -1. Members that are not known, and members given twice, are refused.
 DABCANVAS_RECORDING_API Result<RecordedStrokes> readStrokesJson(const QByteArray& bytes);
 
+/// Strokes whose dabs are asked for.
 struct DabsInput {
     std::optional<std::uint32_t> seed;
     std::vector<RecordedStroke> strokes;
 };
 
-// {"srand": N, "strokes": [{"set": {...}, "samples": [...], "end": true}, ...]}
-// Samples may be any numbers that a float holds; a missing pressure is -1, a missing altitude 0.
+/// Strokes by sample, and a seed:
+///     {"srand": N, "strokes": [{"set": {...}, "samples": [...], "end": true}, ...]}
+/// Samples may be any numbers that a float holds; a missing pressure is -1, a missing altitude 0.
 DABCANVAS_RECORDING_API Result<DabsInput> readDabsInput(const QByteArray& bytes);
 
 }  // namespace dabcanvas

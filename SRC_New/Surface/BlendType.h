@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-// How a source meets the canvas. Any other value, 3 among them, draws as normal.
+/// How a source meets the canvas. Any other value, 3 among them, draws as normal.
 enum ESBlendType : std::uint32_t {
     ESBlendTypeNormal = 1,
     ESBlendTypeReplace = 2,

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A picture's tiles, numbered row by row, and sets of them; one size of tile in the whole system.
+/// \file
+/// A picture's tiles, numbered row by row, and sets of them; one size of tile in the whole system.
 #pragma once
 
 #include <algorithm>
@@ -10,9 +11,9 @@
 
 namespace dabcanvas {
 
-inline constexpr int kTileSide = 64;  // buffer pixels; those at the right and lower rim may be cut
+inline constexpr int kTileSide = 64;  ///< buffer pixels; those at the right and lower rim may be cut
 
-// Where a picture's tiles lie.
+/// Where a picture's tiles lie.
 class TileLayout {
 public:
     TileLayout() = default;
@@ -25,12 +26,12 @@ public:
     int columns() const { return _columns; }
     int rows() const { return _rows; }
     std::size_t count() const { return static_cast<std::size_t>(_columns) * static_cast<std::size_t>(_rows); }
-    // Of columns and rows of tiles.
+    /// Of columns and rows of tiles.
     std::size_t indexOf(int column, int row) const {
         return static_cast<std::size_t>(row) * static_cast<std::size_t>(_columns) +
                static_cast<std::size_t>(column);
     }
-    // The pixels of a tile; those beyond the picture's rim are left out.
+    /// The pixels of a tile; those beyond the picture's rim are left out.
     Rect rectOf(std::size_t index) const {
         const int column = static_cast<int>(index) % _columns, row = static_cast<int>(index) / _columns;
         return Rect{column * kTileSide, row * kTileSide, kTileSide, kTileSide}.intersected(
@@ -42,13 +43,14 @@ private:
     int _columns = 0, _rows = 0;
 };
 
+/// Some of a picture's tiles.
 class TileSet {
 public:
     TileSet() = default;
     explicit TileSet(const Size& picture) : _layout(picture), _bits(_layout.count(), false) {}
 
     const TileLayout& layout() const { return _layout; }
-    // Every tile that the rectangle meets.
+    /// Every tile that the rectangle meets, or the one of a number.
     void add(const Rect& rect) {
         const Rect cut = rect.intersected(Rect::of(_layout.picture()));
         for (int row = cut.y / kTileSide; !cut.isEmpty() && row * kTileSide < cut.bottom(); ++row) {
@@ -58,10 +60,12 @@ public:
         }
     }
     void add(std::size_t index) { _bits[index] = true; }
+    /// Whether the tile of this number is one.
     bool contains(std::size_t index) const { return _bits[index]; }
+    /// None from then on.
     void clear() { _bits.assign(_bits.size(), false); }
 
-    // Calls visit(std::size_t index) for each.
+    /// Calls visit(std::size_t index) for each.
     template <typename Visit>
     void forEach(Visit&& visit) const {
         for (auto at = std::find(_bits.begin(), _bits.end(), true); at != _bits.end();
@@ -69,7 +73,7 @@ public:
             visit(static_cast<std::size_t>(at - _bits.begin()));
         }
     }
-    // Calls visit(std::size_t first, int count) for neighbours in a row.
+    /// Calls visit(std::size_t first, int count) for neighbours in a row.
     template <typename Visit>
     void forEachRun(Visit&& visit) const {
         for (int row = 0; row < _layout.rows(); ++row) {

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-// One entry of a renderer's program cache: a linked program and the sources it was built from.
-// The context must be current when an entry goes.
 #pragma once
 
 #include <QString>
@@ -10,10 +8,12 @@
 #include "ESRender/Utilities/ESProgram.h"
 #include "Maths/Export.h"
 
+/// One entry of a renderer's program cache: a linked program and the sources it was built from.
+/// The context must be current when an entry goes.
 class DABCANVAS_RENDER_API ESProgromObject {
 public:
     ESProgromObject() = default;
-    // Deliberate: validates the program one last time before letting go of it.
+    /// Deliberate: validates the program one last time before letting go of it.
     ~ESProgromObject();
     ESProgromObject(const ESProgromObject&) = delete;
     ESProgromObject& operator=(const ESProgromObject&) = delete;
@@ -25,7 +25,7 @@ public:
     const QString& fragmentShaderString() const { return _fragmentShaderString; }
     void setFragmentShaderString(const QString& text) { _fragmentShaderString = text; }
 
-    // Free for the owner's use; the cache reads neither.
+    /// Free for the owner's use; the cache reads neither.
     std::int32_t blendType() const { return _blendType; }
     void setBlendType(std::int32_t blendType) { _blendType = blendType; }
     const QString& key() const { return _key; }

@@ -1,8 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Programs that the renderers of one context share, each compiled once. Uniform values and vertices lie in a program:
-// a renderer that draws with one asks ESProgram::passTo() whether they still are its own.
-//
-// The context must be current for everything, the destructor included.
 #pragma once
 
 #include <QString>
@@ -14,9 +10,13 @@
 
 namespace dabcanvas {
 
+/// Programs that the renderers of one context share, each compiled once. Uniform values and vertices lie in a program:
+/// a renderer that draws with one asks ESProgram::passTo() whether they still are its own.
+///
+/// The context must be current for everything, the destructor included.
 class ProgramPool {
 public:
-    // The linked program of two sources; null, with the lines that ESProgram logs, when it does not build.
+    /// The linked program of two sources; null, with the lines that ESProgram logs, when it does not build.
     std::shared_ptr<ESProgram> program(const QString& vertexShader, const QString& fragmentShader) {
         std::shared_ptr<ESProgram>& known = _programs[{vertexShader, fragmentShader}];
         if (!known) {
