@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 /// \file
 /// What the numbers of some brush properties stand for, by name: for Designer, style sheets and QML, and wherever a
-/// name reads better than a number. Any other number counts as the first of its kind.
+/// name reads better than a number. Any other number counts as the first of its kind, but for ThinLines.
 #pragma once
 
 #include <QObject>
@@ -32,6 +32,10 @@ Q_ENUM_NS(BlendKind)
 /// textureType
 enum class TipKind { Images = 0, SoftDisc = 1, Ring = 2, RoundedRectangle = 3 };
 Q_ENUM_NS(TipKind)
+
+/// lineProcessType, whose numbers are bits
+enum class ThinLines { AsTheyAre = 0, AtLeastThreePixels = 2, ThinnedFlow = 4, Both = 6 };
+Q_ENUM_NS(ThinLines)
 
 /// slRadiusRelationType: what the second line's size keeps to the first one's
 enum class SizeRelation { Free = 0, Difference = 1, Ratio = 2 };

@@ -1,15 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "Brushes/BrushProperties.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
+
+#include "Brushes/BrushKinds.h"
 
 namespace dabcanvas {
 namespace {
 
+template <typename Kind>
+QMetaEnum kindOf() {
+    return QMetaEnum::fromType<Kind>();
+}
+
 constexpr BrushProperty kBrushProperties[] = {
 #define BRUSH_PROPERTY(type, property, Name, ...) \
     {.key = BrushKey::property, .name = #property, .field = &BrushSettings::property, __VA_ARGS__},
+#define BRUSH_KIND(Kind, property, Name, ...) \
+    {.key = BrushKey::property,               \
+     .name = #property,                       \
+     .field = &BrushSettings::property,       \
+     .kind = kindOf<Kind>,                    \
+     __VA_ARGS__},
 #include "Brushes/BrushPropertyList.h"
 };
 static_assert(std::size(kBrushProperties) == static_cast<std::size_t>(BrushKey::count), "one row a key");
@@ -18,8 +32,33 @@ constexpr const char* kGroupNames[] = {"brush", "tip",  "spacing", "size",   "sc
                                        "shape", "flow", "color",   "smudge", "second line", "recognition"};
 constexpr const char* kTypeNames[] = {"boolean", "integer", "number", "control",
                                       "colour",  "image",   "images", "text"};
+constexpr const char* kUnitNames[] = {"ratio", "", "pixels", "radians", "dabs", "samples"};
+static_assert(std::size(kUnitNames) == static_cast<std::size_t>(BrushUnit::samples) + 1);
 static_assert(std::size(kGroupNames) == static_cast<std::size_t>(BrushGroup::recognition) + 1);
 static_assert(std::size(kTypeNames) == std::variant_size_v<BrushProperty::Field>);
+
+constexpr bool isNumber(const BrushProperty& row) {
+    return row.type() == BrushValueType::real ||
+           (row.type() == BrushValueType::integer && row.kind == nullptr);
+}
+
+constexpr bool sliderEnds(const BrushProperty& row) {
+    return !isNumber(row) || row.useful || (row.low > -kFree && row.high < kFree);
+}
+static_assert(std::all_of(std::begin(kBrushProperties), std::end(kBrushProperties), sliderEnds),
+              "each number without bounds has a useful range");
+
+// "SoftDisc" as "soft disc".
+QString inWords(const char* name) {
+    QString words;
+    for (const QChar letter : QString::fromLatin1(name)) {
+        if (letter.isUpper() && !words.isEmpty()) {
+            words += QLatin1Char(' ');
+        }
+        words += letter.toLower();
+    }
+    return words;
+}
 
 }  // namespace
 
@@ -50,6 +89,24 @@ const BrushProperty* brushPropertyOfPresetId(std::uint32_t id, int* part) {
         }
     }
     return nullptr;
+}
+
+std::vector<BrushChoice> brushChoices(const BrushProperty& property) {
+    std::vector<BrushChoice> choices;
+    if (property.kind != nullptr) {
+        const QMetaEnum kind = property.kind();
+        for (int i = 0; i < kind.keyCount(); ++i) {
+            choices.push_back({kind.value(i), inWords(kind.key(i))});
+        }
+    }
+    return choices;
+}
+
+BrushRange brushUsefulRange(const BrushProperty& property) {
+    if (property.type() == BrushValueType::control) {
+        return {-1, 1};
+    }
+    return property.useful.value_or(BrushRange{property.low, property.high});
 }
 
 QVariant brushDefault(const BrushProperty& property) {
@@ -106,6 +163,11 @@ std::optional<BrushValue> brushValueOf(const BrushProperty& property, const QVar
 
 QVariant variantOf(const BrushValue& value) {
     return std::visit([](const auto& typed) { return QVariant::fromValue(typed); }, value);
+}
+
+const char* brushUnitName(const BrushProperty& property) {
+    const bool isCounted = isNumber(property) || property.type() == BrushValueType::control;
+    return kUnitNames[static_cast<std::size_t>(isCounted ? property.unit : BrushUnit::number)];
 }
 
 const char* brushGroupName(BrushGroup group) {

@@ -31,6 +31,17 @@ QString rangeText(const BrushProperty& property) {
     return {};
 }
 
+// ": 0 images, 1 soft disc"
+QString choicesText(const BrushProperty& property) {
+    QString text;
+    for (const auto& [value, name] : brushChoices(property))
+        text += QStringLiteral("%1 %2 %3")
+                    .arg(text.isEmpty() ? QLatin1String(":") : QLatin1String(","))
+                    .arg(value)
+                    .arg(name);
+    return text;
+}
+
 Result<QVariant> fromBoolean(const BrushProperty& property, const SettingValue& value) {
     if (const auto* boolean = std::get_if<bool>(&value))
         return QVariant(*boolean);
@@ -157,8 +168,8 @@ SettingValue valueOfText(BrushValueType type, const QString& text) {
 }  // namespace
 
 BrushRange meantRange(const BrushProperty& property) {
-    if (property.choices)
-        return {float(property.choices->first), float(property.choices->second)};
+    if (const auto choices = brushChoices(property); !choices.empty())
+        return {float(choices.front().value), float(choices.back().value)};
     return {property.low, property.high};
 }
 
@@ -209,7 +220,7 @@ QString expectedValue(const BrushProperty& property) {
         case BrushValueType::boolean:
             return QStringLiteral("yes or no");
         case BrushValueType::integer:
-            return QStringLiteral("a whole number") + rangeText(property);
+            return QStringLiteral("a whole number") + rangeText(property) + choicesText(property);
         case BrushValueType::real:
             return QStringLiteral("a number") + rangeText(property);
         case BrushValueType::control:

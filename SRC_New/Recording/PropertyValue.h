@@ -15,10 +15,7 @@ namespace dabcanvas {
 // "#rrggbb", "#rrggbbaa", a colour's name or "transparent"; none for anything else.
 DABCANVAS_RECORDING_API std::optional<QColor> colorFromText(const QString& text);
 
-// What a number may be: the property's range, or its choices.
-struct BrushRange {
-    float low, high;
-};
+// What a number may be: the property's range, or from its first choice to its last.
 DABCANVAS_RECORDING_API BrushRange meantRange(const BrushProperty& property);
 
 // "a number from 0 to 1", as messages and listings say it.

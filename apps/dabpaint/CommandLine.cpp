@@ -10,6 +10,7 @@
 
 #include "Console.h"
 #include "PropertiesCommand.h"
+#include "PropertyReference.h"
 #include "Recording/CloseNames.h"
 #include "Recording/PropertyValue.h"
 #include "Usage.h"
@@ -178,7 +179,7 @@ public:
         addShapes(command("shapes"));
         addPreset(command("preset"));
         addDabs(command("dabs"));
-        flag(command("properties"), "--json", _properties.json);
+        addProperties(command("properties"));
         value(command("help"), "COMMAND", [this](const QString& topic) {
             _help.topic = topic;
             return usageText(topic).isEmpty() ? noCommand(topic, commandNames()) : QString();
@@ -277,6 +278,10 @@ private:
         count(sheet, "--across", 1, [this](qint64 presets) { _sheet.across = int(presets); });
         settings(sheet, _sheet.settings);
     }
+    void addProperties(CLI::App& app) {
+        flag(app, "--json", _properties.json);
+        text(app, "--reference", _properties.reference);
+    }
     void addDabs(CLI::App& app) {
         text(app, "INPUT", _dabs.input)->required();
         flag(app, "--header", _dabs.header);
@@ -331,6 +336,9 @@ private:
             return preset(given(*_app.get_subcommand("preset")));
         if (command == QLatin1String("dabs"))
             return _dabs;
+        if (command == QLatin1String("properties") && _properties.json && !_properties.reference.isEmpty())
+            return UsageFault{
+                QStringLiteral("--json lists, --reference writes a page: one of them at a time")};
         if (command == QLatin1String("properties"))
             return _properties;
         if (command == QLatin1String("help"))
@@ -402,7 +410,10 @@ int runDabpaint(const QStringList& arguments) {
                           [](const PresetPreviewOptions& options) { return runPresetPreview(options); },
                           [](const PresetImportOptions& options) { return runPresetImport(options); },
                           [](const PresetSheetOptions& options) { return runPresetSheet(options); },
-                          [](const PropertiesOptions& options) { return runProperties(options.json); },
+                          [](const PropertiesOptions& options) {
+                              return options.reference.isEmpty() ? runProperties(options.json)
+                                                                 : writePropertyReference(options.reference);
+                          },
                           [](const HelpOptions& options) { return print(usageText(options.topic)); },
                           [](const VersionOptions&) { return print(versionText()); },
                           [](const UsageFault& fault) { return refuse(fault.what); },

@@ -17,6 +17,7 @@ namespace dabcanvas::dabpaint {
 
 struct PropertiesOptions {
     bool json = false;
+    QString reference;  // folder of the page and its pictures; empty for a listing
 };
 
 struct HelpOptions {

@@ -46,7 +46,32 @@ QJsonValue defaultJson(const BrushProperty& property) {
     }
 }
 
+// The slider's ends; null of what has none.
+QJsonValue usefulJson(const BrushProperty& property) {
+    const auto [low, high] = brushUsefulRange(property);
+    return std::isfinite(low) && std::isfinite(high) ? QJsonArray{bound(low), bound(high)} : QJsonValue();
+}
+
+QJsonArray choicesJson(const BrushProperty& property) {
+    QJsonArray list;
+    for (const auto& [value, name] : brushChoices(property))
+        list.append(QJsonObject{{QStringLiteral("value"), value}, {QStringLiteral("name"), name}});
+    return list;
+}
+
+QJsonArray withJson(const BrushProperty& property) {
+    QJsonArray list;
+    for (const BrushKey key : property.with)
+        list.append(QLatin1String(brushProperty(key).name));
+    return list;
+}
+
 }  // namespace
+
+QByteArray unitText(const BrushProperty& property) {
+    const QByteArray unit = brushUnitName(property);
+    return unit.isEmpty() || property.unit == BrushUnit::ratio ? QByteArray() : "; in " + unit;
+}
 
 QByteArray propertiesAsText() {
     // The table stands in the order of its keys; readers look for what belongs together.
@@ -57,6 +82,7 @@ QByteArray propertiesAsText() {
         text += "  " + QByteArray(property.name).leftJustified(kNameWidth) + expectedValue(property).toUtf8();
         if (!standard.isEmpty())
             text += "; default " + standard.toUtf8();
+        text += unitText(property);
         text += '\n' + QByteArray(kNameWidth + 2, ' ') + property.about + '\n';
     }
     QByteArray all;
@@ -77,6 +103,11 @@ QByteArray propertiesAsJson() {
         row.insert(QStringLiteral("low"), bound(meantRange(property).low));
         row.insert(QStringLiteral("high"), bound(meantRange(property).high));
         row.insert(QStringLiteral("default"), defaultJson(property));
+        const QLatin1String unit(brushUnitName(property));
+        row.insert(QStringLiteral("unit"), unit.isEmpty() ? QJsonValue() : unit);
+        row.insert(QStringLiteral("useful"), usefulJson(property));
+        row.insert(QStringLiteral("choices"), choicesJson(property));
+        row.insert(QStringLiteral("with"), withJson(property));
         row.insert(QStringLiteral("about"), QString::fromUtf8(property.about));
         list.append(row);
     }

@@ -2,11 +2,10 @@
 #include "SampleSheet.h"
 
 #include <QFont>
-#include <QGuiApplication>
 #include <QPainter>
 #include <iterator>
 
-#include "LogCatcher.h"
+#include "TextPlatform.h"
 
 namespace dabcanvas::dabpaint {
 
@@ -90,14 +89,7 @@ QSize sheetSize(const QSize& sample, int rows, int across) {
 }
 
 QImage sampleSheet(const std::vector<SheetRow>& rows, int across) {
-    // Only text needs Qt's platform, and no window of it.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    int count = 1;
-    char name[] = "dabpaint";
-    char* arguments[] = {name, nullptr};
-    const LogCatcher log;  // what the platform says of its surroundings is not about presets
-    const QGuiApplication platform(count, arguments);
+    const TextPlatform platform;
 
     const QSize sample = rows.front().samples.front().size();
     const int all = int(rows.size()), down = (all + across - 1) / across;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SampleStrokes.h"
 
+#include <QPointF>
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <numbers>
 
 namespace dabcanvas::dabpaint {
@@ -102,6 +104,74 @@ Samples ramp(const QSize& size, bool tilts) {
     return samples;
 }
 
+// Samples for shares of the way from 0 to 1; at full pressure.
+Samples along(int last, const std::function<QPointF(double share)>& place) {
+    Samples samples;
+    for (int i = 0; i <= last; ++i) {
+        const QPointF at = place(double(i) / last);
+        samples.push_back({at.x(), at.y(), 1, -1});
+    }
+    return samples;
+}
+
+// All at once, a third of the way along.
+Samples speedUp(const QSize& size) {
+    const double margin = marginOf(size), length = size.width() - 2 * margin;
+    return along(16, [&](double share) {
+        const double way = share < 0.75 ? share * 0.48 : 1 - (1 - share) * 2.56;
+        return QPointF(margin + way * length, size.height() * 0.5);
+    });
+}
+
+Samples loop(const QSize& size) {
+    const double width = size.width(), height = size.height(), margin = marginOf(size);
+    return along(60, [&](double share) {
+        const double turn = share * 3 * pi;
+        return QPointF(margin + share * (width - 2 * margin) - 0.16 * width * std::sin(turn),
+                       height * (0.5 - 0.24 * std::cos(turn)));
+    });
+}
+
+Samples zigzag(const QSize& size) {
+    const double margin = marginOf(size), length = size.width() - 2 * margin;
+    constexpr int kLegs = 6, kStops = 3;
+    return along(kLegs * kStops, [&](double share) {
+        const double leg = share * kLegs, across = std::abs(leg - 2 * std::round(leg / 2));
+        return QPointF(margin + share * length, size.height() * (0.25 + 0.5 * across));
+    });
+}
+
+// The same numbers on every run and machine.
+double tremble(int i) {
+    return std::sin(i * 2.3) + std::sin(i * 5.1 + 1);
+}
+
+Samples shaky(const QSize& size) {
+    const double margin = marginOf(size), length = size.width() - 2 * margin;
+    int i = 0;
+    return along(30, [&](double share) {
+        return QPointF(margin + share * length, size.height() * (0.5 + 0.09 * tremble(i++)));
+    });
+}
+
+Samples ring(const QSize& size) {
+    int i = 0;
+    return along(48, [&](double share) {
+        const double reach = size.height() * (0.36 + 0.008 * tremble(i++)), turn = share * 2 * pi;
+        return QPointF(size.width() * 0.5 + 1.5 * reach * std::cos(turn),
+                       size.height() * 0.5 + reach * std::sin(turn));
+    });
+}
+
+std::vector<Samples> threeLines(const QSize& size) {
+    std::vector<Samples> lines;
+    for (const double height : {0.2, 0.5, 0.8})
+        lines.push_back(along(20, [&](double share) {
+            return QPointF(size.width() * (0.15 + 0.7 * share), size.height() * height);
+        }));
+    return lines;
+}
+
 }  // namespace
 
 std::vector<Samples> sampleStrokes(SampleKind kind, const QSize& size, double width) {
@@ -115,6 +185,18 @@ std::vector<Samples> sampleStrokes(SampleKind kind, const QSize& size, double wi
         case SampleKind::pressure:
         case SampleKind::tilt:
             return {ramp(size, kind == SampleKind::tilt)};
+        case SampleKind::speed:
+            return {speedUp(size)};
+        case SampleKind::loop:
+            return {loop(size)};
+        case SampleKind::zigzag:
+            return {zigzag(size)};
+        case SampleKind::shaky:
+            return {shaky(size)};
+        case SampleKind::ring:
+            return {ring(size)};
+        case SampleKind::threeLines:
+            return threeLines(size);
         case SampleKind::wave:
             break;
     }

@@ -16,7 +16,7 @@ SYNOPSIS
     dabpaint shapes [INPUT.csv]... [-o OUT.csv] [--outlines OUT.csv]
     dabpaint preset show | make | preview | import ...
     dabpaint dabs INPUT.json [--header]
-    dabpaint properties [--json]
+    dabpaint properties [--json | --reference FOLDER]
     dabpaint help [COMMAND]
     dabpaint --help | --version
 
@@ -446,7 +446,7 @@ constexpr const char* kProperties = R"(NAME
     dabpaint properties - list the brush properties
 
 SYNOPSIS
-    dabpaint properties [--json]
+    dabpaint properties [--json | --reference FOLDER]
 
 DESCRIPTION
     Lists every brush property with the values it takes, its default and what it
@@ -455,7 +455,13 @@ DESCRIPTION
 OPTIONS
     --json
         Prints a JSON list instead: name, group, type, low, high (null for no
-        bound), default and about of each property.
+        bound), default and about of each property; unit (null for none); useful,
+        where a slider may end (null of what is no number); choices, a list of
+        value and name; and with, the properties that it works together with.
+
+    --reference FOLDER
+        Writes FOLDER/properties.md, a page of all of them, and a picture of what
+        each does to a stroke; the folder is made.
 
 EXIT STATUS
     0 done, 1 the work failed, 2 the command line is wrong.

@@ -71,13 +71,13 @@ private:
 
 class ChoiceEditor : public BrushEditor {
 public:
-    ChoiceEditor(const BrushProperty& property, QWidget* parent)
-        : BrushEditor(parent), _choices(brushPresentation(property).choices), _box(new QComboBox) {
+    ChoiceEditor(const BrushProperty& property, QWidget* parent) : BrushEditor(parent), _box(new QComboBox) {
         lineLayout(this)->addWidget(_box);
         setFocusProxy(_box);
         guardFromWheel(_box);
-        for (const BrushChoice& choice : _choices)
-            _box->addItem(QString::fromUtf8(choice.label), choice.value);
+        for (const BrushChoice& choice : brushChoices(property))
+            _box->addItem(choiceLabel(choice), choice.value);
+        _named = _box->count();
         connect(_box, &QComboBox::currentIndexChanged, this, [this](int index) {
             if (index >= 0)
                 emit edited(_box->itemData(index).toInt());
@@ -85,18 +85,18 @@ public:
     }
     void setValue(const QVariant& value) override {
         const QSignalBlocker quiet(_box);
-        const int known = choiceIndex(_choices, value.toInt());
         // A value that has no name stays visible as what it is.
-        while (_box->count() > int(_choices.size()))
+        while (_box->count() > _named)
             _box->removeItem(_box->count() - 1);
+        const int known = _box->findData(value.toInt());
         if (known < 0)
             _box->addItem(tr("Other (%1)").arg(value.toInt()), value.toInt());
         _box->setCurrentIndex(known < 0 ? _box->count() - 1 : known);
     }
 
 private:
-    std::span<const BrushChoice> _choices;
     QComboBox* _box;
+    int _named = 0;
 };
 
 class ControlEditor : public BrushEditor {
@@ -242,7 +242,7 @@ BrushEditor* makeBrushEditor(const BrushProperty& property, const Prompts& promp
         case BrushValueType::boolean:
             return new BooleanEditor(parent);
         case BrushValueType::integer:
-            if (!brushPresentation(property).choices.empty())
+            if (property.kind)
                 return new ChoiceEditor(property, parent);
             return new NumberEditor(property, parent);
         case BrushValueType::real:

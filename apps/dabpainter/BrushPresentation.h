@@ -3,8 +3,8 @@
 #pragma once
 
 #include <QString>
-#include <span>
 
+#include "Brushes/BrushKinds.h"
 #include "Brushes/BrushProperties.h"
 
 namespace dabcanvas::dabpainter {
@@ -16,12 +16,7 @@ enum class BrushPlace : std::uint8_t {
 };
 
 // The kinds of brush, as the property brushType has them, that are more than dabs.
-inline constexpr int kSmudgeBrush = 3, kLiveFillBrush = 4;
-
-struct BrushChoice {
-    int value;
-    const char* label;
-};
+inline constexpr int kSmudgeBrush = int(BrushKind::Smudge), kLiveFillBrush = int(BrushKind::FilledOutline);
 
 // Of a number: shown = stored * scale. All numbers below are shown ones.
 struct BrushPresentation {
@@ -34,8 +29,7 @@ struct BrushPresentation {
     double least = 0, most = 1;  // what may be typed
     double step = 0.01;
     int decimals = 2;
-    double bend = 1;                         // above 1 the slider is finer at its low end
-    std::span<const BrushChoice> choices{};  // of an integer; none: any number
+    double bend = 1;  // above 1 the slider is finer at its low end
 };
 
 // Complete for every row: what the presentation's own table does not name follows from type, range and name.
@@ -44,8 +38,8 @@ BrushPresentation brushPresentation(const BrushProperty& property);
 // The parts of a control, such as its pressure, are signed strengths.
 BrushPresentation controlPresentation();
 
-// Named choices are listed in this order; -1 when the value is none of them.
-int choiceIndex(std::span<const BrushChoice> choices, int value);
+// "soft disc" as "Soft disc".
+QString choiceLabel(const BrushChoice& choice);
 
 QString brushGroupTitle(BrushGroup group);
 

@@ -1,0 +1,23 @@
+# SPDX-License-Identifier: MIT
+# Writes the program of a page: its C++ fences, one after the other. Compilers name the page's lines.
+#     cmake -D PAGE=docs/guide/undo.md -D NAME=docs/guide/undo.md -D PROGRAM=undo.cpp -P GuideProgram.cmake
+file(READ "${PAGE}" rest)
+set(program "")
+set(line 1)
+string(FIND "${rest}" "\n```cpp\n" at)
+while(at GREATER_EQUAL 0)
+    math(EXPR at "${at} + 8")
+    string(SUBSTRING "${rest}" 0 ${at} text)
+    string(SUBSTRING "${rest}" ${at} -1 rest)
+    string(REGEX REPLACE "[^\n]" "" text "${text}")
+    string(LENGTH "${text}" lines)
+    math(EXPR line "${line} + ${lines}")
+    string(FIND "${rest}" "\n```\n" end)
+    if(end LESS 0)
+        message(FATAL_ERROR "${NAME}:${line}: this fence has no end")
+    endif()
+    string(SUBSTRING "${rest}" 0 ${end} code)
+    string(APPEND program "#line ${line} \"${NAME}\"\n${code}\n")
+    string(FIND "${rest}" "\n```cpp\n" at)
+endwhile()
+file(WRITE "${PROGRAM}" "${program}")
