@@ -22,6 +22,7 @@
 namespace dabcanvas {
 namespace {
 
+constexpr double kDrawingNoted = 1;  // seconds; a stroke may be long
 // Of the fixed message
 constexpr int kLoadLine = 57, kResetLine = 92, kMarkLine = 128;
 
@@ -280,19 +281,34 @@ bool CanvasHistory::keep(bool keeps, QString* problem) {
     images(_record.isGiven());
     _images->endWritingDown();
     _record.tiles()->keepIn(std::move(folder));
+    setWords(_words);
     note();
     return true;
+}
+
+bool CanvasHistory::setWords(const QString& words) {
+    _words = words;
+    const QString path = _record.tiles()->keptPath();
+    return !path.isEmpty() && writeKeptWords(path, words);
+}
+
+void CanvasHistory::noteDrawing() {
+    if (isKept() && steadySeconds() - _lastNoted >= kDrawingNoted) {
+        note();
+    }
 }
 
 void CanvasHistory::note() {
     if (!isKept() || _images == nullptr) {
         return;
     }
+    _lastNoted = steadySeconds();
     QString problem;
     TileStore& tiles = *_record.tiles();
     if (!tiles.holdsFolder()) {
         if (auto folder = startKeptHistory(&problem)) {
             tiles.keepIn(std::move(folder));
+            setWords(_words);
         }
     }
     _images->writeDown(_record.present());
@@ -340,6 +356,7 @@ bool CanvasHistory::recover(const QString& id, QString* problem) {
         *problem = QStringLiteral("there is no memory for it");
         return refuse();
     }
+    _words = keptWords(folder->path());
     folder->renumber();
     _record.tiles()->keepIn(std::move(folder));
     note();

@@ -57,6 +57,11 @@ public:
     bool keep(bool keeps, QString* problem);
     // Has written down what the history and the canvas have become, where it is kept.
     void note();
+    // The same in the course of a stroke, now and then.
+    void noteDrawing();
+    // A host's own words, which are found again with it. False where it is not kept, or they cannot be written.
+    bool setWords(const QString& words);
+    const QString& words() const { return _words; }
     // Canvas and history become what another process left. False, and `problem` in words, where they cannot; the canvas is
     // as it was then.
     bool recover(const QString& id, QString* problem);
@@ -89,6 +94,8 @@ private:
     bool _savedAsMade = true;                   // what is saved is the blank canvas
     std::shared_ptr<const TilePicture> _saved;  // null: no step may show it
     unsigned _droppedTold = 0;
+    QString _words;
+    double _lastNoted = -std::numeric_limits<double>::infinity();
     double _lastMark = -std::numeric_limits<double>::infinity();  // when the last step was recorded
 };
 

@@ -340,6 +340,14 @@ bool QDDrawCanvas::recoverHistory(const QString& id, QString* problem) {
     return _inside->parts->recover(id, problem != nullptr ? problem : &unheard);
 }
 
+QString QDDrawCanvas::recoveryWords() const {
+    return _inside->parts->history.words();
+}
+
+bool QDDrawCanvas::setRecoveryWords(const QString& words) {
+    return _inside->parts->history.setWords(words);
+}
+
 StepPicture QDDrawCanvas::curImageData() const {
     return _inside->parts->record.data();
 }

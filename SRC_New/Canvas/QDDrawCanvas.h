@@ -238,13 +238,18 @@ public:
     QImage currentImage();
     /// The history, which is made where there is none yet; the canvas's, for as long as it lives.
     ImagesUndoManager& undoManager();
-    /// Whether steps are written down within moments, so that the history outlives a crash; off at first. False, after
-    /// a log line, where they cannot be.
+    /// Whether steps are written down within moments, and a stroke in progress each second, so that the history outlives
+    /// a crash; off at first. False, after a log line, where they cannot be.
     bool keepsForRecovery() const;
     bool setKeepsForRecovery(bool keeps);
     /// Canvas and history become what a dead process left, see UndoRecovery, which is kept on. False, after a log line
     /// or with the reason in `problem`.
     bool recoverHistory(const QString& id, QString* problem = nullptr);
+    /// A host's own, such as the file that the canvas goes to, up to 64 KiB in UTF-8: whoever finds the history gets
+    /// them with it (RecoverableHistory). Written when set; false where they are not, as a history that is not kept has
+    /// none on disk.
+    QString recoveryWords() const;
+    bool setRecoveryWords(const QString& words);
 
     // ---- Repeat and measure
     /// Random numbers are the canvas's own: painting neither moves rand() and drand48() nor is moved by them. After

@@ -136,6 +136,8 @@ void QDDrawCanvas::Parts::strokeMoved(const StrokeSample& sample, bool online) {
     showDrawn(painter.extend(sample), online);
     if (sketch.isOn()) {
         sketch.add(sample.place);
+    } else {
+        history.noteDrawing();
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Display/DevicePointers.h"
 
+#include <QCoreApplication>
 #include <QLineF>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -21,6 +22,8 @@ namespace {
 // A second finger within this time, or as long as the first one drew no line, makes a pinch of both.
 constexpr std::uint64_t kPinchMilliseconds = 400;
 constexpr std::uint64_t kTapMilliseconds = 300;
+// A device that is held still may tell nothing; one that nobody hears of for as long does not keep others from painting.
+constexpr qint64 kSilentMilliseconds = 1000;
 constexpr double kTapPoints = 12;      // by which a finger that taps may slide
 constexpr double kTurnsFrom = 0.2;     // radians; a pinch turns a little by itself
 constexpr double kWheelDoubles = 480;  // eighths of a degree of wheel for twice the size
@@ -29,7 +32,46 @@ double secondsOf(std::uint64_t milliseconds) {
     return milliseconds == 0 ? -1 : static_cast<double>(milliseconds) / 1000;
 }
 
+std::int64_t idOf(const QTabletEvent& event) {
+    return static_cast<std::int64_t>(event.pointingDevice()->uniqueId().numericId());
+}
+
 }  // namespace
+
+// What no view is told: a pen comes near and goes, and the painting device is there no more.
+class DevicePointers::Watch : public QObject {
+public:
+    explicit Watch(DevicePointers& pointers) : _pointers(pointers) {
+        if (QCoreApplication::instance() != nullptr) {
+            QCoreApplication::instance()->installEventFilter(this);
+        }
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == QCoreApplication::instance()) {
+            if (event->type() == QEvent::TabletEnterProximity) {
+                _pointers.seePen();
+            } else if (event->type() == QEvent::TabletLeaveProximity) {
+                _pointers.penWent(idOf(static_cast<const QTabletEvent&>(*event)));
+            }
+        }
+        return false;
+    }
+    void follow(const QPointingDevice* device) {
+        disconnect(_device);
+        if (device != nullptr) {
+            _device = connect(device, &QObject::destroyed, this, [this] { _pointers.forget(); });
+        }
+    }
+
+private:
+    DevicePointers& _pointers;
+    QMetaObject::Connection _device;
+};
+
+DevicePointers::DevicePointers(CanvasDisplay& display)
+    : _display(display), _watch(std::make_unique<Watch>(*this)) {}
+
+DevicePointers::~DevicePointers() = default;
 
 QDDrawTouch DevicePointers::touchAt(QPointF position, double pressure, std::uint64_t milliseconds) const {
     return {_display.toWindow(position), static_cast<float>(pressure), -1, secondsOf(milliseconds)};
@@ -37,10 +79,19 @@ QDDrawTouch DevicePointers::touchAt(QPointF position, double pressure, std::uint
 
 // ---- Which device is heard
 
-void DevicePointers::pressed(Pointer pointer, const QDDrawTouch& touch) {
-    if (_pointer != Pointer::none && _pointer != pointer) {
-        return;
+// Not while another one paints; but a stroke that is over, or that nobody goes on with, keeps nobody waiting.
+bool DevicePointers::letsPaint(Pointer pointer, std::int64_t id) {
+    const bool isOther = _pointer != pointer || (pointer == Pointer::pen && id != _penId);
+    if (_pointer == Pointer::none || !isOther) {
+        return true;
     }
+    const bool paints = _display.normalMoing() || _display.digitPenMoving();
+    return (!paints || _heard.hasExpired(kSilentMilliseconds)) && forget();
+}
+
+void DevicePointers::pressed(Pointer pointer, const QDDrawTouch& touch, const QPointingDevice* device) {
+    _heard.start();
+    _watch->follow(device);
     const Alive alive(life);
     pointer == Pointer::finger ? _display.touchesBeganWithEvent(touch) : _display.mouseDown(touch);
     if (!alive) {
@@ -51,6 +102,7 @@ void DevicePointers::pressed(Pointer pointer, const QDDrawTouch& touch) {
 
 void DevicePointers::dragged(Pointer pointer, const QDDrawTouch& touch) {
     if (_pointer == pointer) {
+        _heard.start();
         pointer == Pointer::finger ? _display.touchesMovedWithEvent(touch) : _display.mouseDragged(touch);
     }
 }
@@ -65,7 +117,7 @@ void DevicePointers::released(Pointer pointer, const QDDrawTouch& touch) {
 bool DevicePointers::forget() {
     const Alive alive(life);
     _pointer = Pointer::none;
-    _panning = false;
+    _panning = _penWaits = false;
     _display.endPointerStroke();
     return static_cast<bool>(alive);
 }
@@ -89,8 +141,8 @@ bool DevicePointers::mousePress(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) {
         return false;
     }
-    if (isOurs(event)) {
-        pressed(Pointer::mouse, touchAt(event.position(), 1, event.timestamp()));
+    if (isOurs(event) && letsPaint(Pointer::mouse, 0)) {
+        pressed(Pointer::mouse, touchAt(event.position(), 1, event.timestamp()), event.pointingDevice());
     }
     return true;
 }
@@ -138,40 +190,60 @@ bool DevicePointers::seePen() {
     return true;
 }
 
-bool DevicePointers::tablet(const QTabletEvent& event) {
-    if (!seePen()) {
-        return true;
+void DevicePointers::penWent(std::int64_t id) {
+    if (id == _penId) {
+        _penWaits = false;
+        forget(Pointer::pen);
     }
+}
+
+QDDrawTouch DevicePointers::penTouch(const QTabletEvent& event) const {
     QDDrawTouch touch = touchAt(event.position(), event.pressure(), event.timestamp());
     if (event.device()->hasCapability(QInputDevice::Capability::XTilt)) {
         touch.altitude = altitudeOfTilts(qDegreesToRadians(double{event.xTilt()}),
                                          qDegreesToRadians(double{event.yTilt()}));
     }
-    const auto id = static_cast<std::int64_t>(event.pointingDevice()->uniqueId().numericId());
-    const bool ofStroke = _pointer == Pointer::pen && id == _penId;
-    if (event.type() == QEvent::TabletPress && event.button() == Qt::LeftButton) {
-        if (_pointer != Pointer::pen || ofStroke) {
-            const Alive alive(life);
-            pressed(Pointer::pen, touch);
-            if (alive && _pointer == Pointer::pen) {
-                _penId = id;
-                _palmRests = true;
-            }
-        }
-    } else if (event.type() == QEvent::TabletMove && ofStroke) {
-        if ((event.buttons() & Qt::LeftButton) != 0) {
-            dragged(Pointer::pen, touch);
-        } else {
+    return touch;
+}
+
+bool DevicePointers::tablet(const QTabletEvent& event) {
+    if (!seePen()) {
+        return true;
+    }
+    const std::int64_t id = idOf(event);
+    const bool paints = _pointer == Pointer::pen && id == _penId, waits = _penWaits && id == _penId;
+    if (event.type() == QEvent::TabletMove && (paints || waits)) {
+        if ((event.buttons() & Qt::LeftButton) == 0) {
             forget();  // its release went elsewhere
+        } else {
+            waits ? penDown(event, id) : dragged(Pointer::pen, penTouch(event));
         }
-    } else if (event.type() == QEvent::TabletRelease && event.button() == Qt::LeftButton) {
-        if (ofStroke) {
-            released(Pointer::pen, touch);
-        }
-    } else {
+        return true;
+    }
+    if (event.type() == QEvent::TabletMove || event.button() != Qt::LeftButton) {
         return false;  // hovering, and other buttons
     }
+    if (event.type() == QEvent::TabletPress && letsPaint(Pointer::pen, id)) {
+        penDown(event, id);
+    } else if (event.type() == QEvent::TabletRelease && (paints || waits)) {
+        _penWaits = false;
+        released(Pointer::pen, penTouch(event));
+    }
     return true;
+}
+
+// One that measures pressure paints from the first that there is: some are told to be down before they touch.
+void DevicePointers::penDown(const QTabletEvent& event, std::int64_t id) {
+    _penId = id;
+    _penWaits = event.device()->hasCapability(QInputDevice::Capability::Pressure) && !(event.pressure() > 0);
+    if (_penWaits) {
+        return;
+    }
+    const Alive alive(life);
+    pressed(Pointer::pen, penTouch(event), event.pointingDevice());
+    if (alive && _pointer == Pointer::pen) {
+        _palmRests = true;
+    }
 }
 
 // ---- Fingers
@@ -249,7 +321,8 @@ void DevicePointers::paintWithFinger(const QTouchEvent& event) {
                                       measures ? finger.pressure() : 1, event.timestamp());
     switch (finger.state()) {
         case QEventPoint::State::Pressed:
-            return pressed(Pointer::finger, touch);
+            return letsPaint(Pointer::finger, 0) ? pressed(Pointer::finger, touch, event.pointingDevice())
+                                                 : void();
         case QEventPoint::State::Updated:
             return dragged(Pointer::finger, touch);
         case QEventPoint::State::Released:

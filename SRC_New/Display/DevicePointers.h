@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QPointF>
 #include <cstdint>
+#include <memory>
 
 #include "Canvas/Life.h"
 #include "Canvas/QDDrawTouch.h"
@@ -11,6 +12,7 @@
 
 class QMouseEvent;
 class QNativeGestureEvent;
+class QPointingDevice;
 class QTabletEvent;
 class QTouchEvent;
 class QWheelEvent;
@@ -26,7 +28,8 @@ class CanvasDisplay;
 /// destroyed the display then, and this with it.
 class DABCANVAS_CANVAS_API DevicePointers {
 public:
-    explicit DevicePointers(CanvasDisplay& display) : _display(display) {}
+    explicit DevicePointers(CanvasDisplay& display);
+    ~DevicePointers();
 
     /// Positions in the view's points.
     bool mousePress(const QMouseEvent& event);
@@ -54,13 +57,18 @@ private:
         double span = 0, angle = 0;
     };
 
+    class Watch;
     QDDrawTouch touchAt(QPointF position, double pressure, std::uint64_t milliseconds) const;
     bool isOurs(const QMouseEvent& event) const;
-    void pressed(Pointer pointer, const QDDrawTouch& touch);
+    bool letsPaint(Pointer pointer, std::int64_t id);
+    void pressed(Pointer pointer, const QDDrawTouch& touch, const QPointingDevice* device);
     void dragged(Pointer pointer, const QDDrawTouch& touch);
     void released(Pointer pointer, const QDDrawTouch& touch);
     bool fingersPaint() const;
     bool seePen();
+    QDDrawTouch penTouch(const QTabletEvent& event) const;
+    void penDown(const QTabletEvent& event, std::int64_t id);
+    void penWent(std::int64_t id);
     void paintWithFinger(const QTouchEvent& event);
     void countFingers(const QTouchEvent& event);
     void navigate(const QTouchEvent& event);
@@ -68,8 +76,11 @@ private:
     Grip gripOf(const QTouchEvent& event) const;
 
     CanvasDisplay& _display;
+    const std::unique_ptr<Watch> _watch;
     Pointer _pointer = Pointer::none;
+    QElapsedTimer _heard;  // since it was heard of last
     std::int64_t _penId = 0;
+    bool _penWaits = false;  // it is down, without a pressure so far
     bool _penSeen = false;
     bool _fingersIgnored = false;   // until all are up
     bool _palmRests = false;        // the same, as a pen or the mouse painted meanwhile

@@ -17,4 +17,8 @@ std::unique_ptr<TempFolder> startKeptHistory(QString* problem);
 // One that a dead process left; renumber() makes it the one used last, by another id.
 std::unique_ptr<TempFolder> claimKeptHistory(const QString& id, QString* problem);
 
+// What a host says of it, in the folder of this path: whole, or as it was before.
+bool writeKeptWords(const QString& path, const QString& words);
+QString keptWords(const QString& path);
+
 }  // namespace dabcanvas

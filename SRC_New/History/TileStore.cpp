@@ -164,6 +164,10 @@ void TileStore::note(HistoryChange change, bool sync) {
     _writing.run([shared = _shared.get()] { shared->writeNoted(); });
 }
 
+QString TileStore::keptPath() const {
+    return _kept ? _kept->path() : QString();
+}
+
 bool TileStore::holdsFolder() {
     return !_kept || (_kept->isOurs() && QFileInfo(_kept->path()).isDir()) || _kept->restore();
 }

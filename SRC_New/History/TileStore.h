@@ -69,6 +69,7 @@ public:
     // From now on in this folder; null: not any more.
     void keepIn(std::unique_ptr<TempFolder> folder);
     bool isKept() const { return _kept != nullptr; }
+    QString keptPath() const;  // of that folder; empty for none
     // False where somebody has removed that folder and it cannot be made again, as another history may have it now.
     bool holdsFolder();
     // Writes down what the history has become, in the background; the first time, what it is. sync: waits for the disk, so

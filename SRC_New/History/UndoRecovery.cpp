@@ -2,7 +2,9 @@
 #include "History/UndoRecovery.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <algorithm>
 #include <mutex>
@@ -19,6 +21,7 @@ namespace dabcanvas {
 namespace {
 
 constexpr int kThumbnailSide = 256;
+constexpr qint64 kMostWords = 1 << 16;  // bytes
 
 struct Choice {
     std::mutex mutex;
@@ -36,6 +39,10 @@ QString pathOf(const QString& id) {
     return UndoRecovery::folder() + QLatin1Char('/') + id;
 }
 
+QString wordsPath(const QString& path) {
+    return path + QLatin1String("/about");
+}
+
 qint64 bytesIn(const QString& path) {
     qint64 bytes = 0;
     for (const QFileInfo& file : QDir(path).entryInfoList(QDir::Files | QDir::Hidden | QDir::System)) {
@@ -49,6 +56,7 @@ void describe(const JournalContents& contents, RecoverableHistory* history) {
     history->size = QSize(contents.pictureSize().width, contents.pictureSize().height);
     history->lastChange = QDateTime::fromMSecsSinceEpoch(contents.lastRecord);
     history->steps = contents.stepCount();
+    history->isChanged = history->steps > 1 || contents.present != contents.current;
     history->thumbnail = thumbnailOf(contents, contents.present, kThumbnailSide);
 }
 
@@ -58,6 +66,7 @@ RecoverableHistory historyAt(const QString& path) {
     history.id = QFileInfo(path).fileName();
     history.path = path;
     history.bytes = bytesIn(path);
+    history.words = keptWords(path);
     try {
         QString problem;
         auto contents = readJournal(path, TileCheck::heads, &problem);
@@ -176,6 +185,18 @@ int UndoRecovery::makeRoom(const std::function<bool(const RecoverableHistory&)>&
         }
     }
     return gone;
+}
+
+bool writeKeptWords(const QString& path, const QString& words) {
+    QSaveFile file(wordsPath(path));
+    const QByteArray text = words.toUtf8();
+    return text.size() <= kMostWords && file.open(QIODevice::WriteOnly) && file.write(text) == text.size() &&
+           file.commit();
+}
+
+QString keptWords(const QString& path) {
+    QFile file(wordsPath(path));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(kMostWords)) : QString();
 }
 
 std::unique_ptr<TempFolder> startKeptHistory(QString* problem) {

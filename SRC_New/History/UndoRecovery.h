@@ -21,7 +21,10 @@ struct RecoverableHistory {
     /// When the last step, undo or redo was written, or what was painted after it.
     QDateTime lastChange;
     int steps = 0;  ///< pictures that can be had: the current step, what can be undone, what can be redone
+    /// There are other steps than the one that it began with, or the canvas is none of them.
+    bool isChanged = false;
     qint64 bytes = 0;
+    QString words;  ///< what its host has said of it, see QDDrawCanvas::setRecoveryWords()
     /// The canvas as it was last, its longer side up to 256 pixels: premultiplied RGBA. Null when it was lost.
     QImage thumbnail;
 };

@@ -25,9 +25,10 @@ class LeafDrawView;
 /// Pointer  left mouse button, pen tip and one finger paint; a mouse presses with 1, a touch screen that measures no
 ///          pressure too. What another device began is not disturbed. A second finger takes the first one's mark back;
 ///          from there until all are up, touch is left to event filters, or moves a view that is navigable. Other
-///          buttons, the wheel and hovering pens go to the parent. A stroke ends where it got to when the window is
-///          deactivated or the view hidden. A stroke of up to nine moves is taken for a slip:
-///          setAdjustCancelLine(false) keeps it.
+///          buttons, the wheel and hovering pens go to the parent. A pen that measures pressure paints from the first
+///          that there is. A stroke ends where it got to when the window is deactivated or the view hidden, when its
+///          device is gone, and for another one that presses after a second of silence. A stroke of up to nine moves
+///          is taken for a slip: setAdjustCancelLine(false) keeps it.
 /// Size     the buffer gets the frame's size at creation and keeps it; a widget of another size shows it
 ///          stretched, and points scale, unless fit() says otherwise.
 /// Undo     the first step is the blank canvas: resetUndoManager() makes a picture that was placed the first one.

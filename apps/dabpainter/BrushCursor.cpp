@@ -9,6 +9,7 @@
 #include <numbers>
 
 #include "CanvasViewport.h"
+#include "TipExtent.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -43,7 +44,11 @@ BrushCursor::BrushCursor(const BrushModel& model, CanvasViewport& viewport)
     setFocusPolicy(Qt::NoFocus);
     resize(viewport.size());
     viewport.installEventFilter(this);  // it covers all of it
-    connect(&model, &BrushModel::changed, this, [this](BrushKey) { refresh(); });
+    connect(&model, &BrushModel::changed, this, [this](BrushKey key) {
+        if (isOfTipExtent(key))
+            _extent.reset();
+        refresh();
+    });
     connect(&viewport, &CanvasViewport::zoomChanged, this, &BrushCursor::refresh);
 }
 
@@ -54,7 +59,9 @@ double BrushCursor::outlineSize() const {
     const bool influenced = control.pressure != 0 || control.altitude != 0 || control.speed != 0;
     const double share = influenced ? number(BrushKey::maxRadius)
                                     : (number(BrushKey::minRadius) + number(BrushKey::maxRadius)) / 2;
-    return number(BrushKey::radius) * share * _viewport.scale();
+    if (!_extent)
+        _extent = tipExtent(_model);
+    return number(BrushKey::radius) * share * *_extent * _viewport.scale();
 }
 
 bool BrushCursor::eventFilter(QObject*, QEvent* event) {

@@ -3,6 +3,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <optional>
 
 #include "BrushModel.h"
 
@@ -23,7 +24,7 @@ public:
     // Below this many points across only a cross-hair is shown, the pointer's own.
     static constexpr double kTiny = 6;
     bool isTiny() const { return outlineSize() < kTiny; }
-    // Across, in points.
+    // Across, in points: of the mark that is seen, at full pressure.
     double outlineSize() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,6 +44,7 @@ private:
     QPointF _at;
     bool _shown = false;
     QRegion _painted;
+    mutable std::optional<double> _extent;  // of the tip, while that is known
 };
 
 }  // namespace dabcanvas::dabpainter

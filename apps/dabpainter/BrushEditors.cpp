@@ -28,6 +28,14 @@ QHBoxLayout* lineLayout(QWidget* widget) {
     return layout;
 }
 
+void nameStops(QWidget& parent, const QString& name) {
+    for (QWidget* stop : parent.findChildren<QWidget*>()) {
+        const auto* button = qobject_cast<QPushButton*>(stop);  // that says what it does, and not with what
+        if ((stop->focusPolicy() & Qt::TabFocus) && !stop->focusProxy())
+            stop->setAccessibleName(button ? name + QStringLiteral(": ") + button->text() : name);
+    }
+}
+
 class BooleanEditor : public BrushEditor {
 public:
     explicit BooleanEditor(QWidget* parent) : BrushEditor(parent), _box(new QCheckBox) {
@@ -113,6 +121,11 @@ public:
             });
         }
         setFocusProxy(_fields[0]);
+    }
+    void setName(const QString& name) override {
+        const QString names[] = {tr("Pressure"), tr("Tilt"), tr("Speed")};
+        for (int i = 0; i < 3; ++i)
+            nameStops(*_fields[i], tr("%1 by %2").arg(name, names[i]));
     }
     void setValue(const QVariant& value) override {
         _value = value.value<LPControlParams>();
@@ -218,6 +231,10 @@ private:
 };
 
 }  // namespace
+
+void BrushEditor::setName(const QString& name) {
+    nameStops(*this, name);
+}
 
 BrushEditor* makeBrushEditor(const BrushProperty& property, const Prompts& prompts, int labelWidth,
                              QWidget* parent) {

@@ -17,6 +17,8 @@ public:
     using QWidget::QWidget;
     // Shows a value; does not report it back.
     virtual void setValue(const QVariant& value) = 0;
+    // For whoever cannot see its label: every part of it that the keyboard gets to is called so.
+    virtual void setName(const QString& name);
 
 signals:
     void edited(const QVariant& value);

@@ -67,7 +67,7 @@ BrushRow::BrushRow(const BrushProperty& property, BrushModel& model, const Promp
     keeps.setRetainSizeWhenHidden(true);
     _reset->setSizePolicy(keeps);
     label->setBuddy(_editor);
-    _editor->focusProxy()->setAccessibleName(_label);
+    _editor->setName(_label);
 
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -195,6 +195,7 @@ BrushPanel::BrushPanel(BrushModel& model, const Prompts& prompts, QWidget* paren
     auto* search = new QLineEdit;
     search->setObjectName(QStringLiteral("search"));
     search->setPlaceholderText(tr("Search settings"));
+    search->setAccessibleName(search->placeholderText());
     search->setClearButtonEnabled(true);
     _resetAll = new QPushButton;
     _resetAll->setObjectName(QStringLiteral("resetAll"));
@@ -291,6 +292,7 @@ QWidget* BrushPanel::makeGroups() {
     auto* scroll = new QScrollArea;
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);  // it follows the row that has it
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     scroll->setWidget(groups);

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QTabletEvent>
 #include <QTimer>
 #include <QTouchEvent>
@@ -55,23 +56,52 @@ CanvasPointer::CanvasPointer(CanvasViewport& viewport, BrushCursor& cursor, Brus
 
 void CanvasPointer::watchView() {
     QDDrawView* view = _viewport.view();
-    view->setDelegate(this);
     view->setAdjustCancelLine(false);  // short strokes are meant
     view->setUsesPenTilt(true);
+    setTouch(_touch);
     view->setMouseTracking(true);
     view->setTabletTracking(true);
-    _down = false;
+    _stroke = Stroke::none;
+    connect(view, &QDDrawView::strokeBegan, this, [this](QPointF place) {
+        _stroke = Stroke::begun;
+        _beganAt = place;
+        const QDDrawView& began = *_viewport.view();
+        _recordedBefore = began.enableRecogition() ? began.curImageData() : StepPicture();
+    });
+    connect(view, &QDDrawView::strokeMoved, this, [this] { _stroke = Stroke::drawn; });
+    connect(view, &QDDrawView::strokeEnded, this, &CanvasPointer::strokeEnds);
+    connect(view, &QDDrawView::strokeWithdrawn, this, &CanvasPointer::strokeEnds);
+}
+
+void CanvasPointer::setTouch(TouchPolicy policy) {
+    _touch = policy;
+    if (QDDrawView* view = _viewport.view()) {
+        PointerOptions options = view->pointerOptions();
+        options.touch = policy;
+        view->setPointerOptions(options);
+    }
+}
+
+QPointF CanvasPointer::place() const {
+    return _place.value_or(QRectF(_viewport.rect()).center());
 }
 
 bool CanvasPointer::isIdle() const {
     return !_viewport.view() || !_viewport.view()->isDrawing();
 }
 
+void CanvasPointer::endStroke() {
+    if (QDDrawView* view = _viewport.view())
+        view->endPointerStroke();
+    if (isIdle())
+        _model.endOverride();
+}
+
 bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
         return watched->isWidgetType() && filterKey(*static_cast<QKeyEvent*>(event));
     if (event->type() == QEvent::ApplicationDeactivate && watched == qApp) {
-        _spaceHeld = _panning = false;  // nobody will tell of the key's release
+        _spaceHeld = _panning = _pickPressed = false;  // nobody will tell of the releases
         chooseCursor();
     }
     if (!_viewport.view() || watched != _viewport.view())
@@ -94,13 +124,13 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::TouchUpdate:
         case QEvent::TouchEnd:
         case QEvent::TouchCancel:
-            filterTouch(*static_cast<QTouchEvent*>(event));
-            return false;  // the view has to hear of every finger
+            return filterTouch(*static_cast<QTouchEvent*>(event));
         case QEvent::Wheel:
             pointTo(static_cast<QWheelEvent*>(event)->position());
             return false;
         case QEvent::Leave:
             _cursor.hideOutline();
+            _place.reset();
             emit left();
             return false;
         default:
@@ -154,33 +184,30 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
             return true;
         }
         _downPressure = kPress;
-        pressed(at);
+        pressed(false);
         return false;
     }
-    if (event.type() == QEvent::MouseMove) {
+    // A release may have gone elsewhere.
+    const bool isHeld = event.type() == QEvent::MouseMove && event.buttons() != Qt::NoButton;
+    if (event.type() == QEvent::MouseMove)
         pointTo(at);
-        if (_panning) {
-            _viewport.pan(at - _panFrom);
-            _panFrom = at;
-            return true;
-        }
-        if (_pickPressed)
-            pickAt(at);
-        return _pickPressed || (event.buttons() == Qt::NoButton && isIdle());  // hovering is not for the view
-    }
     if (_panning) {
-        _panning = false;
+        if (event.type() == QEvent::MouseMove)
+            _viewport.pan(at - std::exchange(_panFrom, at));
+        _panning = isHeld;
         chooseCursor();
         return true;
     }
     if (_pickPressed) {
-        _pickPressed = false;
-        setPicking(false);
+        if (isHeld)
+            pickAt(at);
+        else
+            setPicking(_pickPressed = false);
         return true;
     }
-    if (event.button() == Qt::LeftButton)
-        released();
-    return false;
+    if (event.type() == QEvent::MouseMove)
+        return !isHeld && isIdle();  // hovering is not for the view
+    return event.button() == Qt::LeftButton && deliverRelease(event);
 }
 
 bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
@@ -192,90 +219,89 @@ bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
         return true;
     }
     pointTo(at);
-    if (event.type() == QEvent::TabletPress) {
+    if (event.type() == QEvent::TabletRelease)
+        return deliverRelease(event);
+    if (event.type() == QEvent::TabletPress)
         _viewport.setFocus(Qt::MouseFocusReason);
-        if (event.pointerType() == QPointingDevice::PointerType::Eraser)
-            _model.beginOverride(BrushKey::blendType, int(ESBlendTypeErase));
-        _downPressure = float(event.pressure());
-        pressed(at);
-    } else if (event.type() == QEvent::TabletMove) {
-        _downPressure = std::max(_downPressure, float(event.pressure()));
-    } else {
-        released();
+    if ((event.buttons() & Qt::LeftButton) && isIdle()) {  // the view may let it begin with any of these
+        pressed(event.pointerType() == QPointingDevice::PointerType::Eraser);
+        _downPressure = 0;
     }
+    _downPressure = std::max(_downPressure, float(event.pressure()));
     return false;
 }
 
-void CanvasPointer::pressed(QPointF at) {
-    _down = _viewport.isOnCanvas(at);
-    _marked = false;
-    _downAt = _viewport.bufferPoint(at);
-}
-
-void CanvasPointer::released() {
-    if (!_down)
+// What is about to begin a stroke, if the view has it.
+void CanvasPointer::pressed(bool isEraser) {
+    if (!isIdle())
         return;
-    _down = false;
-    // After the view has ended the stroke, too.
-    QTimer::singleShot(0, this, [this] {
-        if (!_marked && !_manyFingers && isIdle())
-            leaveDab(_downAt);
-        _manyFingers = false;
+    if (isEraser)
+        _model.beginOverride(BrushKey::blendType, int(ESBlendTypeErase));
+    else
         _model.endOverride();
-    });
 }
 
-// The view draws nothing for a click. A stroke there and back that places a dab a sample and has no tapers
-// leaves one: a stroke's first dab is never drawn, its last one always is.
-void CanvasPointer::leaveDab(QPointF at) {
+// The view draws nothing for a click, which is to leave a dab when it has heard of the release.
+bool CanvasPointer::deliverRelease(QEvent& event) {
+    const QPointer<QDDrawView> view = _viewport.view();
+    const bool isClick = _stroke == Stroke::begun && !_manyFingers;
+    static_cast<QObject*>(view)->event(&event);
+    if (view && isClick && isIdle())
+        leaveDab(_beganAt);
+    if (isIdle())
+        _model.endOverride();
+    return true;
+}
+
+// A stroke there and back that places a dab a sample and has no tapers leaves one: a stroke's first dab is never drawn, its
+// last one always is.
+void CanvasPointer::leaveDab(QPointF bufferPoint) {
     QDDrawView* view = _viewport.view();
     if (!view || view->isSmudgeType() || view->brushType() == kLiveFillBrush)
         return;
     view->setPointsDistanceEnabled(false);
     view->setStartRadius(0);
     view->setEndRadius(0);
-    const auto viewPoint = [&](double x) { return at + QPointF(x, 0); };
     constexpr double kAccepted = 1.1;  // buffer pixels; a shorter move would be dropped
-    view->drawingWithBeginPoint(viewPoint(0), _downPressure);
-    view->drawingWithMoveToPoint(viewPoint(kAccepted), _downPressure);
-    view->drawingWithEndPoint(viewPoint(0), _downPressure);
+    view->drawingWithBeginPoint(bufferPoint, _downPressure);
+    view->drawingWithMoveToPoint(bufferPoint + QPointF(kAccepted, 0), _downPressure);
+    view->drawingWithEndPoint(bufferPoint, _downPressure);
     _model.apply(*view, {BrushKey::pointsDistanceEnabled, BrushKey::startRadius, BrushKey::endRadius});
 }
 
-void CanvasPointer::drawViewDidDrawBegin(QDDrawCanvas& canvas, QPointF) {
-    _recordedBefore = canvas.enableRecogition() ? canvas.curImageData() : StepPicture();
-}
-
-void CanvasPointer::drawViewDidDrawMove(QDDrawCanvas&, QPointF) {
-    _marked = true;
-}
-
-void CanvasPointer::drawViewDidDrawEnd(QDDrawCanvas& canvas, QPointF) {
-    // A press that slid away ends, too, but leaves nothing, as does a finger's stroke that a pinch takes
-    // back: that one still moves when it ends.
-    const bool withdrawn = _manyFingers && canvas.lineMove();
-    if (!_marked || withdrawn)
-        return;
-    // A shape is a step, with a picture of its own.
+// However it ended: released, taken back, or as its device was never heard of again.
+void CanvasPointer::strokeEnds() {
+    const bool drawn = std::exchange(_stroke, Stroke::none) == Stroke::drawn;
     const StepPicture before = std::exchange(_recordedBefore, {});
-    const bool isGone = canvas.enableRecogition() && !canvas.edited() && !before.isNull() &&
-                        canvas.curImageData().isSameAs(before);
-    emit(isGone ? noShapeFound() : strokeEnded());
+    QMetaObject::invokeMethod(
+        this,
+        [this, drawn, before] {
+            if (isIdle())
+                _model.endOverride();
+            if (drawn && !before.isNull())
+                judgeShape(before);
+        },
+        Qt::QueuedConnection);
+}
+
+// Of a stroke that was to become a shape.
+void CanvasPointer::judgeShape(const StepPicture& before) {
+    const QDDrawView* view = _viewport.view();
+    if (view && view->enableRecogition() && !view->edited() && view->curImageData().isSameAs(before))
+        emit noShapeFound();
 }
 
 // ---- Fingers
 
-void CanvasPointer::filterTouch(const QTouchEvent& event) {
+bool CanvasPointer::filterTouch(QTouchEvent& event) {
     if (event.device() && event.device()->type() == QInputDevice::DeviceType::TouchPad)
-        return;  // which moves the mouse
-    const QList<QEventPoint>& fingers = event.points();
-    _manyFingers = (_manyFingers && event.type() != QEvent::TouchBegin) || fingers.size() > 1;
-    if (event.type() == QEvent::TouchBegin && !_manyFingers) {
+        return false;  // which moves the mouse
+    _manyFingers = (_manyFingers && event.type() != QEvent::TouchBegin) || event.points().size() > 1;
+    if (event.type() == QEvent::TouchBegin) {
         _downPressure = kPress;
-        pressed(_viewport.mapFromGlobal(fingers.first().globalPosition()));
-    } else if (event.type() == QEvent::TouchEnd) {
-        released();
+        pressed(false);
     }
+    return event.type() == QEvent::TouchEnd && deliverRelease(event);
 }
 
 // ---- What the pointer shows
@@ -302,6 +328,7 @@ void CanvasPointer::pickAt(QPointF at) {
 }
 
 void CanvasPointer::pointTo(QPointF at) {
+    _place = at;
     if (_picking || _panning)
         _cursor.hideOutline();
     else

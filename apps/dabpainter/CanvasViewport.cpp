@@ -16,6 +16,7 @@ constexpr double kFitMargin = 16;
 
 CanvasViewport::CanvasViewport(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Canvas"));
     setMinimumSize(200, 150);
 }
 
@@ -49,10 +50,6 @@ QPointF CanvasViewport::pointOfBuffer(QPointF bufferPoint) const {
     return _view ? _view->bufferToView().map(bufferPoint) : QPointF();
 }
 
-bool CanvasViewport::isOnCanvas(QPointF at) const {
-    return _view && QRectF(QPointF(), _view->bufferSize()).contains(bufferPoint(at));
-}
-
 void CanvasViewport::zoomAbout(double zoom, QPointF anchor) {
     if (_view)
         _view->zoomAbout(zoom, anchor);
@@ -61,6 +58,7 @@ void CanvasViewport::zoomAbout(double zoom, QPointF anchor) {
 void CanvasViewport::fit() {
     if (!_view)
         return;
+    _view->setViewRotation(0);
     const QSizeF room = QSizeF(size()) - QSizeF(2 * kFitMargin, 2 * kFitMargin);
     const QSizeF canvas =
         _view->bufferToView().mapRect(QRectF(QPointF(), _view->bufferSize())).size() / zoom();
@@ -77,7 +75,7 @@ void CanvasViewport::pan(QPointF by) {
 void CanvasViewport::resizeEvent(QResizeEvent*) {
     if (!_view)
         return;
-    const bool isFitted = zoom() == _fitZoom;
+    const bool isFitted = zoom() == _fitZoom && _view->viewRotation() == 0;
     _view->setGeometry(rect());
     if (isFitted)
         fit();

@@ -26,13 +26,12 @@ public:
     void setZoom(double zoom) { zoomAbout(zoom, QRectF(rect()).center()); }
     // Keeps what lies at the anchor where it is.
     void zoomAbout(double zoom, QPointF anchor);
-    // Whole in sight, at most 1.
+    // Whole in sight and upright, at most 1.
     void fit();
     void pan(QPointF by);
 
     QPointF bufferPoint(QPointF at) const;
     QPointF pointOfBuffer(QPointF bufferPoint) const;
-    bool isOnCanvas(QPointF at) const;
     // Points per buffer pixel.
     double scale() const;
 

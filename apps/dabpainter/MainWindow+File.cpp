@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-// The canvas as a file: new, open, place, save, and what is unsaved.
-#include <QActionGroup>
+// The document's canvas: new, opened, recovered, placed on and saved.
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLabel>
-#include <QMenu>
-#include <QSettings>
 #include <QStatusBar>
 
+#include "Autosave.h"
+#include "BrushCommands.h"
 #include "BrushStorage.h"
 #include "CanvasPointer.h"
+#include "CanvasStatus.h"
 #include "CanvasViewport.h"
 #include "ImageFiles.h"
 #include "MainWindow.h"
+#include "NewCanvasDialog.h"
 #include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 
@@ -21,7 +21,6 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr char kSurfaceKey[] = "canvas/surface";
 constexpr int kMessageTime = 5000;  // milliseconds
 
 // Shows that the application is at work.
@@ -38,105 +37,107 @@ ReadImage readBusily(const QString& path) {
     return readImageFile(path);
 }
 
-ESColor colorOf(const QColor& background) {
-    return background.alpha() == 0 ? ESColor() : ESColor(background);
-}
-
-bool isPng(const QString& path) {
-    return QFileInfo(path).suffix().compare(QLatin1String("png"), Qt::CaseInsensitive) == 0;
-}
-
 }  // namespace
 
 // ---- The canvas
 
-// The present picture stays where it is: moving it could fail for want of memory.
-void MainWindow::addSurfaces(QMenu& menu) {
-    auto* group = new QActionGroup(&menu);
-    const struct {
-        QString text;
-        const char* name;
-    } rows[] = {{tr("&Automatic"), "auto"}, {tr("&Graphics Card"), "gpu"}, {tr("&Processor"), "processor"}};
-    for (const auto& row : rows) {
-        QAction* action = group->addAction(row.text);
-        action->setCheckable(true);
-        action->setChecked(surfaceKind() == surfaceKindOf(row.name));
-        connect(action, &QAction::triggered, this, [this, name = row.name] {
-            _settings.setValue(QLatin1String(kSurfaceKey), QLatin1String(name));
-            statusBar()->showMessage(tr("Holds for pictures that are made or opened from now on"),
-                                     kMessageTime);
-        });
-        menu.addAction(action);
-    }
-}
-
-SurfaceKind MainWindow::surfaceKind() const {
-    const QString name = _settings.value(QLatin1String(kSurfaceKey)).toString();
-    return surfaceKindOf(name.toStdString()).value_or(SurfaceKind::automatic);
-}
-
-bool MainWindow::replaceCanvas(QSize size, const std::function<bool(QDDrawView&)>& paint) {
+bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(QDDrawView&)>& paint,
+                               const Document::Origin& origin) {
     const QRectF frame(QPointF(0, 0), QSizeF(size));
-    const SurfaceKind kind = surfaceKind();
-    std::unique_ptr<QDDrawView> made = QDDrawView::initWithFrame(frame, nullptr, {.kind = kind});
+    const SurfaceKind kind = _settings.surface();
+    std::unique_ptr<QDDrawView> made =
+        QDDrawView::initWithFrame(frame, nullptr, {.kind = kind, .canvasDepth = depth});
     if (!made && kind != SurfaceKind::automatic) {  // a setting must not keep anybody from painting
-        made = QDDrawView::initWithFrame(frame);
+        made = QDDrawView::initWithFrame(frame, nullptr, {.canvasDepth = depth});
         statusBar()->showMessage(tr("The graphics card cannot paint this picture"), kMessageTime);
     }
     if (!made || !paint(*made)) {
-        _prompts.tell(this, tr("A canvas of %1 × %2 pixels cannot be had from this graphics driver.")
-                                .arg(size.width())
-                                .arg(size.height()));
-        return false;
+        return origin.hasHistory && made  // of which the caller knows more
+                   ? false
+                   : tellFault(tr("A canvas of %1 × %2 pixels cannot be had from this graphics driver.")
+                                   .arg(size.width())
+                                   .arg(size.height()));
     }
     _brush.attach(made.get());
     if (!_brushRead) {
         _brushRead = true;
-        defaultColors();  // of a first start
-        readBrush(_settings, _brush);
-        _presets->readState(_settings);
+        setDefaultColors(_brush);  // of a first start
+        readBrush(_settings.file(), _brush);
+        _presets->readState(_settings.file());
         // What was read need not be written; a first start's colours are in no file yet.
         _unwritten = {BrushKey::renderColor, BrushKey::backRenderColor};
     }
+    // An opaque picture has no holes: what is erased of it shows what it was painted on.
+    const QColor& ground = origin.plan.background;
+    _brush.setPaper(ground.alpha() == 255 ? ground : QColor());
+    QDDrawView& next = *made;
+    _document.begin(next, origin);
     _viewport->setView(std::move(made));
-    _pointer->watchView();
-    startHistory();
-    view()->setEnableRecogition(_shapes->isChecked());
-    _driverLabel->setText(view()->rendererName());
-    showCanvasFacts();
+    watchView();
     return true;
 }
 
-// An opaque picture has no holes: what is erased of it shows what it was painted on.
-void MainWindow::setPlan(const CanvasPlan& plan) {
-    _plan = plan;
-    _brush.setPaper(plan.background.alpha() == 255 ? plan.background : QColor());
+void MainWindow::watchView() {
+    QDDrawView* now = view();
+    _pointer->watchView();
+    now->setEnableRecogition(_shapes->isChecked());
+    connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
+    connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);
+    connect(now, &QDDrawView::modifiedChanged, this, &MainWindow::showDocument);
+    connect(now, &QDDrawView::canvasChanged, &_document, &Document::noteChange);
+    connect(now, &QDDrawView::contextLost, this, &MainWindow::replaceLost, Qt::QueuedConnection);
+    connect(now, &QDDrawView::fingersTapped, this, [this](int fingers) {
+        if (fingers == 2)
+            stepHistory(&QDDrawCanvas::undo);
+        else if (fingers == 3)
+            stepHistory(&QDDrawCanvas::redo);
+    });
+    _undo->setEnabled(now->canUndo());
+    _redo->setEnabled(now->canRedo());
+    _status->showCanvas();
+}
+
+// A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
+void MainWindow::replaceLost() {
+    if (!view() || !view()->isContextLost())
+        return;
+    const QImage seen = view()->displayImage();
+    const bool replaced = openPicture(seen, {.path = _document.path(),
+                                             .plan = _document.plan(),
+                                             .copy = _autosave->takeName(),
+                                             .isUnsaved = true});
+    if (replaced)
+        statusBar()->showMessage(
+            tr("The graphics card was lost for a moment; the picture is here, its undo steps are not"),
+            2 * kMessageTime);
+}
+
+// Always false.
+bool MainWindow::tellFault(const QString& fault) {
+    _prompts.tell(this, fault);
+    return false;
 }
 
 bool MainWindow::startCanvas(const CanvasPlan& plan) {
-    const bool made = replaceCanvas(plan.size, [&](QDDrawView& view) {
-        view.clearWithColor(colorOf(plan.background), false);
-        return true;
-    });
-    if (!made)
-        return false;
-    setPlan(plan);
-    setPath(QString());
-    markSaved();  // there is nothing on it that could be lost
-    return true;
+    const QColor& ground = plan.background;
+    return replaceCanvas(plan.size, 8,
+                         [&](QDDrawView& view) {
+                             view.clearWithColor(ground.alpha() == 0 ? ESColor() : ESColor(ground), false);
+                             return true;
+                         },
+                         {.path = {}, .plan = plan, .copy = _autosave->takeName()});
 }
 
 void MainWindow::clearCanvas() {
-    if (!view() || !_pointer->isIdle())
-        return;
-    view()->clearWithColor(colorOf(_plan.background), true);
-    markChanged();
+    _pointer->endStroke();
+    _document.clear();
 }
 
 void MainWindow::newCanvas() {
-    if (!_pointer->isIdle() || !mayDiscard())
+    _pointer->endStroke();
+    if (!mayDiscard())
         return;
-    NewCanvasDialog dialog(_plan, this);
+    NewCanvasDialog dialog(_document.plan(), this);
     while (dialog.exec() == QDialog::Accepted && !startCanvas(dialog.plan())) {
     }
 }
@@ -145,18 +146,60 @@ void MainWindow::newCanvas() {
 
 bool MainWindow::openImage(const QString& path) {
     const ReadImage read = readBusily(path);
-    if (!read.fault.isEmpty()) {
-        _prompts.tell(this, read.fault);
+    if (!read.fault.isEmpty())
+        return tellFault(read.fault);
+    const CanvasPlan plan{read.image.size(), isOpaque(read.image) ? Qt::white : Qt::transparent};
+    return openPicture(
+        read.image,
+        {.path = QFileInfo(path).absoluteFilePath(), .plan = plan, .copy = _autosave->takeName()});
+}
+
+bool MainWindow::openPicture(const QImage& image, const Document::Origin& origin) {
+    return replaceCanvas(
+        image.size(), 8,
+        [&](QDDrawView& view) { return view.setImageInBufferRect(image, QRectF(image.rect())); }, origin);
+}
+
+// From its history, or, where that cannot be had, from its copy.
+bool MainWindow::recover(const LeftPicture& picture) {
+    if (picture.history.isEmpty())
+        return openCopy(picture);
+    QString problem;
+    const bool recovered = replaceCanvas(
+        picture.size, picture.depth,
+        [&](QDDrawView& view) { return view.recoverHistory(picture.history, &problem); },
+        {.path = picture.path,
+         .plan = {picture.size, picture.background.isValid() ? picture.background : QColor(Qt::white)},
+         .copy = _autosave->takeName(picture.copy),
+         .isUnsaved = true,
+         .hasHistory = true});
+    if (recovered || problem.isEmpty())
+        return recovered;
+    return QFileInfo::exists(picture.copy)
+               ? openCopy(picture)
+               : tellFault(tr("The picture cannot be recovered: %1.").arg(problem));
+}
+
+bool MainWindow::openCopy(const LeftPicture& picture) {
+    const ReadImage read = readBusily(picture.copy);
+    const QColor ground = picture.background.isValid() ? picture.background
+                          : isOpaque(read.image)       ? QColor(Qt::white)
+                                                       : QColor(Qt::transparent);
+    return read.fault.isEmpty() ? openPicture(read.image, {.path = picture.path,
+                                                           .plan = {read.image.size(), ground},
+                                                           .copy = _autosave->takeName(picture.copy),
+                                                           .isUnsaved = true})
+                                : tellFault(read.fault);
+}
+
+bool MainWindow::offerLeftPictures() {
+    const QList<LeftPicture> pictures = _left.list();
+    if (pictures.isEmpty())
         return false;
-    }
-    const bool opened = replaceCanvas(read.image.size(), [&](QDDrawView& view) {
-        return view.setImageInBufferRect(read.image, QRectF(read.image.rect()));
-    });
-    if (!opened)
-        return false;
-    setPlan({read.image.size(), isOpaque(read.image) ? Qt::white : Qt::transparent});
-    setPath(QFileInfo(path).absoluteFilePath());
-    markSaved();
+    const auto chosen = _prompts.pickLeft(this, _left, pictures);
+    _pointer->endStroke();
+    if (chosen && mayDiscard())
+        recover(*chosen);
     return true;
 }
 
@@ -164,10 +207,8 @@ bool MainWindow::placeImage(const QString& path) {
     if (!view())
         return false;
     const ReadImage read = readBusily(path);
-    if (!read.fault.isEmpty()) {
-        _prompts.tell(this, read.fault);
-        return false;
-    }
+    if (!read.fault.isEmpty())
+        return tellFault(read.fault);
     const QSizeF canvas = view()->bufferSize();
     QSizeF size = read.image.size();
     if (size.width() > canvas.width() || size.height() > canvas.height())
@@ -178,34 +219,26 @@ bool MainWindow::placeImage(const QString& path) {
     const QSizeF scale = view()->scale();
     const QRectF inView(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
                         rect.height() * scale.height());
-    if (!view()->drawImage(read.image, inView)) {
-        _prompts.tell(this, tr("The image could not be placed; the log says why."));
-        return false;
-    }
-    markChanged();
-    return true;
+    _pointer->endStroke();
+    return view()->drawImage(read.image, inView) ||
+           tellFault(tr("The image could not be placed; the log says why."));
 }
 
 bool MainWindow::saveTo(const QString& path) {
-    if (!view() || !_pointer->isIdle())
-        return false;
+    _pointer->endStroke();
     const QString fault = [&] {
         const BusyCursor busy;
-        return writeImageFile(path, view()->image());
+        return _document.saveTo(path);
     }();
-    if (!fault.isEmpty()) {
-        _prompts.tell(this, fault);
-        return false;
-    }
-    setPath(QFileInfo(path).absoluteFilePath());
-    _savedPath = _path;
-    markSaved();
-    statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), 3000);
+    if (!fault.isEmpty())
+        return tellFault(fault);
+    statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), kMessageTime);
     return true;
 }
 
 void MainWindow::open() {
-    if (!_pointer->isIdle() || !mayDiscard())
+    _pointer->endStroke();
+    if (!mayDiscard())
         return;
     const QStringList paths = _prompts.pickImages(this, tr("Open Image"), false);
     if (!paths.isEmpty())
@@ -213,51 +246,26 @@ void MainWindow::open() {
 }
 
 void MainWindow::place() {
-    if (!_pointer->isIdle())
-        return;
+    _pointer->endStroke();
     const QStringList paths = _prompts.pickImages(this, tr("Place Image"), false);
     if (!paths.isEmpty())
         placeImage(paths.first());
 }
 
-// PNG keeps everything; a picture opened from another kind is not replaced by a poorer copy before a name was asked for.
 bool MainWindow::save() {
-    return isPng(_path) || (!_path.isEmpty() && _path == _savedPath) ? saveTo(_path) : saveAs();
+    return _document.hasFile() ? saveTo(_document.path()) : saveAs();
 }
 
 bool MainWindow::saveAs() {
-    if (!view() || !_pointer->isIdle())
-        return false;
-    QString suggested = _path.isEmpty() ? tr("Untitled") : _path;
-    if (!isPng(suggested) && suggested != _savedPath)
-        suggested = QFileInfo(suggested).dir().filePath(QFileInfo(suggested).completeBaseName()) +
-                    QStringLiteral(".png");
-    const QString path = _prompts.pickSaveName(this, suggested);
+    _pointer->endStroke();
+    const QString path = _prompts.pickSaveName(this, _document.suggestedPath());
     return !path.isEmpty() && saveTo(path);
-}
-
-// ---- What is unsaved
-
-void MainWindow::setPath(const QString& path) {
-    _path = path;
-    _savedPath.clear();
-    const QString name = path.isEmpty() ? tr("Untitled") : QFileInfo(path).fileName();
-    setWindowTitle(QStringLiteral("%1[*] – Dabpainter").arg(name));
-}
-
-void MainWindow::markChanged() {
-    setWindowModified(true);
-}
-
-void MainWindow::markSaved() {
-    setWindowModified(false);
 }
 
 bool MainWindow::mayDiscard() {
     if (!isUnsaved())
         return true;
-    const QString name = _path.isEmpty() ? tr("Untitled") : QFileInfo(_path).fileName();
-    switch (_prompts.askUnsaved(this, name)) {
+    switch (_prompts.askUnsaved(this, _document.name())) {
         case UnsavedAnswer::save:
             return save();
         case UnsavedAnswer::discard:

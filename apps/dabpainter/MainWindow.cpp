@@ -1,31 +1,31 @@
 // SPDX-License-Identifier: MIT
-// The window itself: menus, panel, status bar and what it remembers.
+// The window itself: menus, panels and what it remembers.
 #include "MainWindow.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDir>
 #include <QDockWidget>
 #include <QDragEnterEvent>
+#include <QInputDialog>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
+#include "Autosave.h"
+#include "BrushCommands.h"
 #include "BrushCursor.h"
 #include "BrushDrops.h"
 #include "BrushPanel.h"
 #include "BrushStorage.h"
 #include "CanvasPointer.h"
+#include "CanvasStatus.h"
 #include "CanvasViewport.h"
 #include "History/ImagesUndoManager.h"
 #include "MemoryWatch.h"
@@ -39,8 +39,6 @@ namespace {
 constexpr double kZoomStep = 1.25;
 constexpr int kStateVersion = 2;
 constexpr int kMessageTime = 2500;  // milliseconds
-constexpr int kWriteDelay = 1000;   // milliseconds from a change of the settings to their file
-constexpr int kMostOldSessions = 4;
 
 QKeySequence key(const char* text) {
     return QKeySequence(QString::fromLatin1(text));
@@ -57,11 +55,11 @@ bool endsTyping(const QKeyEvent& event) {
 
 }  // namespace
 
-MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& sessions)
+MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& copies)
     : _settings(settings),
       _prompts(std::move(prompts)),
-      _sessions(sessions),
-      _session(sessions),
+      _left(copies),
+      _autosave(new Autosave(_document, copies, this)),
       _viewport(new CanvasViewport) {
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
@@ -71,6 +69,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _panel = new BrushPanel(_brush, _prompts);
     _dock = addDock(tr("Brush settings"), QStringLiteral("brushDock"), _panel);
     resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
+    _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
     makeFileMenu();
@@ -78,50 +77,51 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeCanvasMenu();
     makeBrushMenu();
     makeViewMenu();
-    makeStatusBar();
+    showDocument();
+    readState();
+    connectParts();
+    _viewport->setFocus();
+}
 
-    connect(_panel, &BrushPanel::swapColors, this, &MainWindow::swapColors);
+void MainWindow::connectParts() {
+    connect(&_document, &Document::changed, this, &MainWindow::showDocument);
+    connect(_autosave, &Autosave::failed, this,
+            [this](const QString& fault) { statusBar()->showMessage(fault, 4 * kMessageTime); });
+    connect(&_document, &Document::notKept, this, [this] {
+        statusBar()->showMessage(tr("The disk takes no undo steps: save, as a crash would lose this picture"),
+                                 4 * kMessageTime);
+    });
+    connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
     connect(_panel, &BrushPanel::eyedropper, this, [this] { _pointer->setPicking(true); });
     connect(_pointer, &CanvasPointer::picked, this, [this](const QColor& color) {
         _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor(color)));
     });
-    connect(_pointer, &CanvasPointer::strokeEnded, this, &MainWindow::markChanged);
     connect(_pointer, &CanvasPointer::noShapeFound, this,
             [this] { statusBar()->showMessage(tr("No shape was recognised"), kMessageTime); });
-    connect(_pointer, &CanvasPointer::moved, this, &MainWindow::showPosition);
-    connect(_pointer, &CanvasPointer::left, _positionLabel, &QLabel::clear);
-    connect(_pointer, &CanvasPointer::pressureChanged, this, [this](float pressure) {
-        _pressureLabel->setText(pressure < 0 ? QString()
-                                             : tr("Pressure %1 %").arg(std::lround(pressure * 100)));
-    });
-    connect(_viewport, &CanvasViewport::zoomChanged, this, &MainWindow::showCanvasFacts);
     connect(_presets, &PresetBrowser::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));
-    setPath(QString());
-    readState();
-    _writeTimer.setSingleShot(true);
-    _writeTimer.setInterval(kWriteDelay);
-    connect(&_writeTimer, &QTimer::timeout, this, [this] {
-        // Nothing slows down a stroke.
-        _pointer->isIdle() ? writeState() : noteChange();
+    connect(_presets, &PresetBrowser::aboutToUseBrush, _pointer, &CanvasPointer::endStroke);
+    connect(new MemoryWatch(this), &MemoryWatch::runsShort, this, [this] {
+        if (view())
+            view()->undoManager().didReceiveMemoryWarning();
     });
+    connect(&_settings, &PainterSettings::undoStepsChanged, &_document, &Document::setUndoSteps);
+    connect(&_settings, &PainterSettings::touchChanged, _pointer, &CanvasPointer::setTouch);
+    _document.setUndoSteps(_settings.undoSteps());
+    _pointer->setTouch(_settings.touch());
+
+    _settings.addWriter([this](QSettings& file) { writeState(file); });
     connect(&_brush, &BrushModel::changed, this, [this](BrushKey key) {
         _unwritten.insert(key);
-        noteChange();
+        _settings.noteChange();
     });
-    connect(new MemoryWatch(this), &MemoryWatch::runsShort, this, [this] {
-        if (view() != nullptr) {
-            view()->undoManager().didReceiveMemoryWarning();
-        }
-    });
-    connect(_presets, &PresetBrowser::stateChanged, this, &MainWindow::noteChange);
-    connect(_panel, &BrushPanel::stateChanged, this, &MainWindow::noteChange);
-    _viewport->setFocus();
+    connect(_presets, &PresetBrowser::stateChanged, &_settings, &PainterSettings::noteChange);
+    connect(_panel, &BrushPanel::stateChanged, &_settings, &PainterSettings::noteChange);
 }
 
 MainWindow::~MainWindow() {
+    _document.end();
+    delete _autosave;  // with its copy, while there is a document
     _brush.attach(nullptr);
-    if (view())
-        view()->setDelegate(nullptr);
     // While this is still a window that their last signals can reach; the pointer goes before what it
     // watches.
     delete _pointer;
@@ -158,11 +158,28 @@ QAction* MainWindow::addTo(QMenu* menu, const QString& text, const QList<QKeySeq
     return action;
 }
 
+template <typename Value>
+void MainWindow::addChoices(QMenu* menu, const QList<std::pair<QString, Value>>& rows, Value now,
+                            const std::function<void(Value)>& choose) {
+    auto* group = new QActionGroup(menu);
+    for (const auto& [text, value] : rows) {
+        QAction* action = group->addAction(text);
+        action->setCheckable(true);
+        action->setChecked(value == now);
+        connect(action, &QAction::triggered, this, [choose, value = value] { choose(value); });
+        menu->addAction(action);
+    }
+}
+
 void MainWindow::makeFileMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     addTo(menu, tr("&New…"), {QKeySequence::New}, [this] { newCanvas(); });
     addTo(menu, tr("&Open…"), {QKeySequence::Open}, [this] { open(); });
     addTo(menu, tr("&Place Image…"), {}, [this] { place(); });
+    addTo(menu, tr("&Recover Pictures…"), {}, [this] {
+        if (!offerLeftPictures())
+            statusBar()->showMessage(tr("No run has left a picture"), kMessageTime);
+    });
     menu->addSeparator();
     addTo(menu, tr("&Save"), {QKeySequence::Save}, [this] { save(); });
     addTo(menu, tr("Save &As…"), {key("Ctrl+Shift+S")}, [this] { saveAs(); });
@@ -170,27 +187,60 @@ void MainWindow::makeFileMenu() {
     addTo(menu, tr("&Quit"), {key("Ctrl+Q")}, [this] { close(); });
 }
 
+void MainWindow::makeEditMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    _undo =
+        addTo(menu, tr("&Undo"), {QKeySequence(tr("Ctrl+Z"))}, [this] { stepHistory(&QDDrawCanvas::undo); });
+    _redo = addTo(menu, tr("&Redo"), {QKeySequence(tr("Ctrl+Shift+Z")), QKeySequence(tr("Ctrl+Y"))},
+                  [this] { stepHistory(&QDDrawCanvas::redo); });
+    menu->addSeparator();
+    addTo(menu, tr("Undo &Steps…"), {}, [this] { askUndoSteps(); });
+    auto* buttons = new QToolBar(tr("History"));
+    buttons->setObjectName(QStringLiteral("historyBar"));
+    buttons->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    buttons->addAction(_undo);
+    buttons->addAction(_redo);
+    addToolBar(buttons);
+    _undo->setEnabled(false);
+    _redo->setEnabled(false);
+}
+
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
     addTo(menu, tr("&Clear"), {key("Delete")}, [this] { clearCanvas(); });
-    addSurfaces(*menu->addMenu(tr("&Paint with")));
+    // The present picture stays where it is: moving it could fail for want of memory.
+    addChoices<SurfaceKind>(menu->addMenu(tr("&Paint with")),
+                            {{tr("&Automatic"), SurfaceKind::automatic},
+                             {tr("&Graphics Card"), SurfaceKind::gpu},
+                             {tr("&Processor"), SurfaceKind::processor}},
+                            _settings.surface(), [this](SurfaceKind kind) {
+                                _settings.setSurface(kind);
+                                statusBar()->showMessage(
+                                    tr("Holds for pictures that are made or opened from now on"),
+                                    2 * kMessageTime);
+                            });
+    addChoices<TouchPolicy>(menu->addMenu(tr("&Fingers")),
+                            {{tr("Move the Canvas Once a &Pen Was Seen"), TouchPolicy::pensOnceSeen},
+                             {tr("Always &Move the Canvas"), TouchPolicy::pensOnly},
+                             {tr("Al&ways Paint"), TouchPolicy::fingersPaint}},
+                            _settings.touch(), [this](TouchPolicy policy) { _settings.setTouch(policy); });
 }
 
 void MainWindow::makeBrushMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Brush"));
-    addTo(menu, tr("&Smaller"), {key("[")}, [this] { stepRadius(-1); });
-    addTo(menu, tr("&Larger"), {key("]")}, [this] { stepRadius(1); });
+    addTo(menu, tr("&Smaller"), {key("[")}, [this] { stepRadius(_brush, -1); });
+    addTo(menu, tr("&Larger"), {key("]")}, [this] { stepRadius(_brush, 1); });
     // What Shift makes of the bracket keys depends on the keyboard.
-    addTo(menu, tr("So&fter"), {key("{"), key("Shift+[")}, [this] { stepHardness(-1); });
-    addTo(menu, tr("&Harder"), {key("}"), key("Shift+]")}, [this] { stepHardness(1); });
+    addTo(menu, tr("So&fter"), {key("{"), key("Shift+[")}, [this] { stepHardness(_brush, -1); });
+    addTo(menu, tr("&Harder"), {key("}"), key("Shift+]")}, [this] { stepHardness(_brush, 1); });
     QMenu* opacity = menu->addMenu(tr("&Opacity"));
     for (int tenth = 1; tenth <= 10; ++tenth) {
         addTo(opacity, tr("%1 %").arg(tenth * 10), {QKeySequence(Qt::Key_0 + tenth % 10)},
               [this, tenth] { _brush.setValue(BrushKey::opacity, float(tenth) / 10); });
     }
     menu->addSeparator();
-    addTo(menu, tr("S&wap Colours"), {key("X")}, [this] { swapColors(); });
-    addTo(menu, tr("&Default Colours"), {key("D")}, [this] { defaultColors(); });
+    addTo(menu, tr("S&wap Colours"), {key("X")}, [this] { swapColors(_brush); });
+    addTo(menu, tr("&Default Colours"), {key("D")}, [this] { setDefaultColors(_brush); });
     QAction* pick = addTo(menu, tr("&Eyedropper"), {key("I")}, [] {});
     pick->setCheckable(true);
     connect(pick, &QAction::toggled, _pointer, &CanvasPointer::setPicking);
@@ -218,19 +268,12 @@ void MainWindow::makeBrushMenu() {
 
 void MainWindow::makeViewMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
-    const auto zoomBy = [this](double factor) {
-        if (_pointer->isIdle())
-            _viewport->setZoom(_viewport->zoom() * factor);
-    };
-    addTo(menu, tr("Zoom &In"), {key("Ctrl++"), key("Ctrl+=")}, [zoomBy] { zoomBy(kZoomStep); });
-    addTo(menu, tr("Zoom &Out"), {key("Ctrl+-")}, [zoomBy] { zoomBy(1 / kZoomStep); });
-    addTo(menu, tr("&Actual Pixels"), {key("Ctrl+1")}, [this] {
-        if (_pointer->isIdle())
-            _viewport->setZoom(1);
-    });
+    addTo(menu, tr("Zoom &In"), {key("Ctrl++"), key("Ctrl+=")}, [this] { zoomBy(kZoomStep); });
+    addTo(menu, tr("Zoom &Out"), {key("Ctrl+-")}, [this] { zoomBy(1 / kZoomStep); });
+    addTo(menu, tr("&Actual Pixels"), {key("Ctrl+1")}, [this] { zoomBy(1 / _viewport->zoom()); });
     addTo(menu, tr("&Whole Canvas"), {key("Ctrl+0")}, [this] {
-        if (_pointer->isIdle())
-            _viewport->fit();
+        _pointer->endStroke();
+        _viewport->fit();
     });
     menu->addSeparator();
     const auto isAnyShown = [this] { return !_dock->isHidden() || !_presetDock->isHidden(); };
@@ -251,42 +294,38 @@ void MainWindow::makeViewMenu() {
     addTo(menu, tr("&Full Screen"), {key("F11")}, [this] { toggleFullScreen(); });
 }
 
-// ---- Brush
+// ---- What they do
 
-void MainWindow::stepRadius(int direction) {
-    const float radius = _brush.value(BrushKey::radius).toFloat();
-    // A tenth; on the way down of what is come to, so that there and back is the same size.
-    const float step = std::max(1.0f, std::round(radius / (direction > 0 ? 10 : 11)));
-    _brush.setValue(BrushKey::radius, radius + float(direction) * step);
+void MainWindow::stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)()) {
+    _pointer->endStroke();
+    if (view())
+        (view()->*step)();
 }
 
-void MainWindow::stepHardness(int direction) {
-    const float hardness = _brush.value(BrushKey::hardness).toFloat();
-    _brush.setValue(BrushKey::hardness, std::round((hardness + 0.1f * float(direction)) * 100) / 100);
-}
-
-void MainWindow::swapColors() {
-    const QVariant color = _brush.value(BrushKey::renderColor);
-    _brush.setValue(BrushKey::renderColor, _brush.value(BrushKey::backRenderColor));
-    _brush.setValue(BrushKey::backRenderColor, color);
-}
-
-// Black and white, so that swapping them makes a difference.
-void MainWindow::defaultColors() {
-    _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor::rgba(0, 0, 0)));
-    _brush.setValue(BrushKey::backRenderColor, QVariant::fromValue(ESColor::rgba(1, 1, 1)));
+void MainWindow::askUndoSteps() {
+    bool accepted = false;
+    const int steps =
+        QInputDialog::getInt(this, tr("Undo Steps"), tr("Steps that can be undone:"), _settings.undoSteps(),
+                             1, PainterSettings::kMostUndoSteps, 1, &accepted);
+    if (accepted)
+        _settings.setUndoSteps(steps);
 }
 
 void MainWindow::recogniseShapes(bool on) {
+    _pointer->endStroke();
     if (view())
         view()->setEnableRecogition(on);
-    _shapesLabel->setVisible(on);
+    _status->showShapes(on);
     statusBar()->showMessage(
         on ? tr("Strokes become shapes; what is none is taken away") : tr("Strokes stay as they are drawn"),
         kMessageTime);
 }
 
-// ---- Window
+// About the pointer, where it is on the canvas.
+void MainWindow::zoomBy(double factor) {
+    _pointer->endStroke();
+    _viewport->zoomAbout(_viewport->zoom() * factor, _pointer->place());
+}
 
 void MainWindow::toggleFullScreen() {
     if (isFullScreen()) {
@@ -299,49 +338,17 @@ void MainWindow::toggleFullScreen() {
     }
 }
 
-void MainWindow::makeStatusBar() {
-    const auto addLabel = [this](int stretch) {
-        auto* label = new QLabel;
-        label->setContentsMargins(6, 0, 6, 0);
-        statusBar()->addWidget(label, stretch);
-        return label;
-    };
-    // Wide enough for what comes, so that nothing moves about.
-    const auto wide = [](QLabel* label, const QString& longest) {
-        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(longest) + 16);
-    };
-    _sizeLabel = addLabel(0);
-    _zoomLabel = addLabel(0);
-    wide(_zoomLabel, QStringLiteral("3200 %"));
-    _positionLabel = addLabel(0);
-    wide(_positionLabel, QStringLiteral("-16384, -16384"));
-    _pressureLabel = addLabel(1);
-    _shapesLabel = new QLabel(tr("Shapes"));
-    _shapesLabel->setContentsMargins(6, 0, 6, 0);
-    _shapesLabel->setVisible(false);
-    statusBar()->addPermanentWidget(_shapesLabel);
-    _driverLabel = new QLabel;
-    _driverLabel->setContentsMargins(6, 0, 6, 0);
-    _driverLabel->setToolTip(tr("What paints this picture"));
-    statusBar()->addPermanentWidget(_driverLabel);
-}
+// ---- Window
 
-void MainWindow::showPosition(QPointF bufferPoint) {
-    _positionLabel->setText(
-        QStringLiteral("%1, %2").arg(int(std::floor(bufferPoint.x()))).arg(int(std::floor(bufferPoint.y()))));
-}
-
-void MainWindow::showCanvasFacts() {
-    const QSize size = view() ? view()->bufferSize().toSize() : QSize();
-    _sizeLabel->setText(tr("%1 × %2 px").arg(size.width()).arg(size.height()));
-    const double percent = _viewport->zoom() * 100;
-    _zoomLabel->setText(QStringLiteral("%1 %").arg(percent, 0, 'f', percent < 10 ? 1 : 0));
+void MainWindow::showDocument() {
+    setWindowTitle(QStringLiteral("%1[*] – Dabpainter").arg(_document.name()));
+    setWindowModified(_document.isModified());
 }
 
 bool MainWindow::event(QEvent* event) {
     if (event->type() == QEvent::Resize || event->type() == QEvent::Move ||
         event->type() == QEvent::WindowStateChange)
-        noteChange();
+        _settings.noteChange();
     return QMainWindow::event(event);
 }
 
@@ -351,7 +358,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::Move:
         case QEvent::ShowToParent:
         case QEvent::HideToParent:
-            noteChange();
+            _settings.noteChange();
             break;
         case QEvent::KeyPress:
             // A dock of its own is a window, and its keys do not come to this one.
@@ -375,13 +382,14 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!_pointer->isIdle() || !mayDiscard()) {
+    _pointer->endStroke();
+    if (!mayDiscard()) {
         event->ignore();
         return;
     }
     if (isFullScreen())
         toggleFullScreen();
-    writeState();
+    _settings.write();
     event->accept();
 }
 
@@ -397,41 +405,22 @@ void MainWindow::dropEvent(QDropEvent* event) {
 }
 
 void MainWindow::readState() {
-    if (!restoreGeometry(_settings.value(QStringLiteral("window/geometry")).toByteArray()))
+    QSettings& file = _settings.file();
+    if (!restoreGeometry(file.value(QStringLiteral("window/geometry")).toByteArray()))
         resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(QSize(1440, 900)));
-    restoreState(_settings.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
-    _panel->readState(_settings);
+    restoreState(file.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
+    _panel->readState(file);
 }
 
-void MainWindow::noteChange() {
-    if (!_writeTimer.isActive())
-        _writeTimer.start();
-}
-
-void MainWindow::writeState() {
-    _writeTimer.stop();
+void MainWindow::writeState(QSettings& file) {
     if (!isFullScreen()) {  // a window that comes up without its menu bar would puzzle
-        setIfOther(_settings, QStringLiteral("window/geometry"), saveGeometry());
-        setIfOther(_settings, QStringLiteral("window/state"), saveState(kStateVersion));
+        setIfOther(file, QStringLiteral("window/geometry"), saveGeometry());
+        setIfOther(file, QStringLiteral("window/state"), saveState(kStateVersion));
     }
-    _panel->writeState(_settings);
+    _panel->writeState(file);
     if (_brushRead) {
-        writeBrush(_settings, _brush, std::exchange(_unwritten, {}));
-        _presets->writeState(_settings);
-    }
-    _settings.sync();
-}
-
-void MainWindow::askAboutOldSessions() {
-    const auto old = SessionFolder::abandoned(_sessions);
-    if (old.folders.size() <= kMostOldSessions)
-        return;
-    const QString size = locale().formattedDataSize(old.bytes);
-    if (_prompts.confirm(
-            this, tr("Delete the undo steps of %1 runs that ended unexpectedly?").arg(old.folders.size()),
-            tr("They take %1 in \"%2\".").arg(size, QDir::toNativeSeparators(_sessions)), tr("Delete"))) {
-        for (const QString& folder : old.folders)
-            QDir(folder).removeRecursively();
+        writeBrush(file, _brush, std::exchange(_unwritten, {}));
+        _presets->writeState(file);
     }
 }
 

@@ -2,55 +2,57 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QTimer>
 #include <set>
 
 #include "BrushModel.h"
+#include "CanvasPlan.h"
+#include "Document.h"
 #include "History/StepPicture.h"
-#include "NewCanvasDialog.h"
+#include "LeftPictures.h"
+#include "PainterSettings.h"
 #include "PresetLibrary.h"
 #include "Prompts.h"
-#include "SessionFolder.h"
-#include "Surface/SurfaceKind.h"
 
 class QAction;
+class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
-class QLabel;
-class QSettings;
 
 namespace dabcanvas::dabpainter {
 
+class Autosave;
 class BrushPanel;
 class CanvasPointer;
+class CanvasStatus;
 class CanvasViewport;
 class PresetBrowser;
 
-// The application's window: one canvas, the brush and the file the canvas goes to.
+// The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
+// stroke in progress first.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    // The settings must outlive the window. They are written shortly after something changed, so that a run that is
-    // killed loses no more than that. sessions: the folder of the folders of all runs.
-    MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& sessions);
+    // The settings' file must outlive the window. copies: the folder of the copies of all runs, see LeftPictures.h.
+    MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& copies);
     ~MainWindow() override;
 
     // Each makes a canvas in place of the present one. False, after a message, when it cannot be had; then
     // the present one stays. Unsaved changes are not asked for.
     bool startCanvas(const CanvasPlan& plan);
     bool openImage(const QString& path);
+    bool recover(const LeftPicture& picture);
 
     // Onto the middle of the canvas, made smaller when it does not fit.
     bool placeImage(const QString& path);
     bool saveTo(const QString& path);
     void clearCanvas();
 
-    // Whether what dead runs left may go, when it has become much.
-    void askAboutOldSessions();
+    // What dead runs left may be gone on with. False, and not a word, when there is nothing.
+    bool offerLeftPictures();
 
-    bool isUnsaved() const { return isWindowModified(); }
+    bool isUnsaved() const { return _document.isModified(); }
     // Whether the canvas may go: there is nothing unsaved, or the user saved or gave it up.
     bool mayDiscard();
 
@@ -59,8 +61,10 @@ public:
     PresetBrowser& presets() { return *_presets; }
     CanvasViewport& viewport() { return *_viewport; }
     CanvasPointer& pointer() { return *_pointer; }
+    Document& document() { return _document; }
+    PainterSettings& settings() { return _settings; }
+    Autosave& autosave() { return *_autosave; }
     QDDrawView* view() const;
-    const CanvasPlan& plan() const { return _plan; }
 
 protected:
     bool event(QEvent* event) override;
@@ -78,64 +82,53 @@ private:
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
-    void makeStatusBar();
+    void connectParts();
     QAction* addTo(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
                    const std::function<void()>& act);
+    // Of which one holds.
+    template <typename Value>
+    void addChoices(QMenu* menu, const QList<std::pair<QString, Value>>& rows, Value now,
+                    const std::function<void(Value)>& choose);
 
     // File
-    void addSurfaces(QMenu& menu);
-    SurfaceKind surfaceKind() const;
-    bool replaceCanvas(QSize size, const std::function<bool(QDDrawView&)>& paint);
+    bool replaceCanvas(QSize size, int depth, const std::function<bool(QDDrawView&)>& paint,
+                       const Document::Origin& origin);
+    bool openCopy(const LeftPicture& picture);
+    bool openPicture(const QImage& image, const Document::Origin& origin);
+    void watchView();
+    void replaceLost();
+    bool tellFault(const QString& fault);
     void newCanvas();
     void open();
     void place();
     bool save();
     bool saveAs();
-    void setPlan(const CanvasPlan& plan);
-    void setPath(const QString& path);
-    void markChanged();
-    void markSaved();
+    void showDocument();
 
-    // Edit
-    void startHistory();
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
-    int undoSteps() const;
-    void setUndoSteps(int steps);
-
-    // Brush
-    void stepRadius(int direction);
-    void stepHardness(int direction);
-    void swapColors();
-    void defaultColors();
+    void askUndoSteps();
     void recogniseShapes(bool on);
-
+    void zoomBy(double factor);
     void toggleFullScreen();
-    void showPosition(QPointF bufferPoint);
-    void showCanvasFacts();
-    void noteChange();
     void readState();
-    void writeState();
+    void writeState(QSettings& file);
 
-    QSettings& _settings;
+    PainterSettings _settings;
     Prompts _prompts;
-    QString _sessions;
-    SessionFolder _session;
+    const LeftPictures _left;
     BrushModel _brush;
-    CanvasPlan _plan;
-    QString _path;       // where Save writes; empty until there is one
-    QString _savedPath;  // the same while it is the last one written
+    Document _document;
+    Autosave* _autosave;
 
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;
+    CanvasStatus* _status;
     BrushPanel* _panel;
     PresetBrowser* _presets;
     QDockWidget *_presetDock, *_dock;
     QAction *_undo, *_redo, *_shapes;
-    QLabel* _shapesLabel;
-    QLabel *_sizeLabel, *_zoomLabel, *_positionLabel, *_pressureLabel, *_driverLabel;
     bool _brushRead = false;
     std::set<BrushKey> _unwritten;  // since the settings were written
-    QTimer _writeTimer;
     bool _wasMaximized = false;
 };
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QColor>
 #include <QDialog>
-#include <QSize>
+
+#include "CanvasPlan.h"
 
 class QComboBox;
 class QLabel;
@@ -13,12 +13,6 @@ class QSpinBox;
 namespace dabcanvas::dabpainter {
 
 class SwatchButton;
-
-// What a canvas is to begin with.
-struct CanvasPlan {
-    QSize size{1600, 1000};         // pixels
-    QColor background = Qt::white;  // transparent: nothing
-};
 
 class NewCanvasDialog : public QDialog {
     Q_OBJECT

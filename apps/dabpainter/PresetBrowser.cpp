@@ -98,6 +98,7 @@ void PresetBrowser::makeActions() {
 void PresetBrowser::makeLayout() {
     _search->setObjectName(QStringLiteral("presetSearch"));
     _search->setPlaceholderText(tr("Search brushes"));
+    _search->setAccessibleName(_search->placeholderText());
     _search->setClearButtonEnabled(true);
     auto* save = new GlyphButton(Glyph::add, tr("Save the present settings as a new brush"));
     auto* more = new GlyphButton(Glyph::menu, tr("More to do with the chosen brush"));
@@ -251,8 +252,7 @@ bool PresetBrowser::succeeds(const QString& fault) {
 // ---- What can be done
 
 bool PresetBrowser::choose(const PresetId& id) {
-    if (!_isIdle())
-        return false;
+    emit aboutToUseBrush();
     if (id.path.isEmpty()) {
         const QVariant color = _brush.value(BrushKey::renderColor);
         const QVariant second = _brush.value(BrushKey::backRenderColor);
@@ -278,6 +278,7 @@ bool PresetBrowser::choose(const PresetId& id) {
 }
 
 bool PresetBrowser::saveNew() {
+    emit aboutToUseBrush();
     const std::optional<BrushParams> params = _brush.params();
     if (!params)
         return false;

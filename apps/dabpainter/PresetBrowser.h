@@ -29,7 +29,7 @@ class PresetBrowser : public QWidget {
     Q_OBJECT
 
 public:
-    // isIdle: whether the brush may be exchanged now; while the user paints it may not.
+    // isIdle: whether previews may be painted now.
     PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFolders folders,
                   std::function<bool()> isIdle, QWidget* parent = nullptr);
 
@@ -63,6 +63,7 @@ public:
     void writeState(QSettings& settings) const;
 
 signals:
+    void aboutToUseBrush();  // to exchange or to keep it: a stroke is to end before
     void chosenByPointer();  // who did so wants to paint now
     void stateChanged();     // what writeState() writes
 

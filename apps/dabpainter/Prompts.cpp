@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include "BrushDrops.h"
+#include "LeftPicturesDialog.h"
 #include "PictureKinds.h"
 
 namespace dabcanvas::dabpainter {
@@ -104,11 +105,17 @@ void tell(QWidget* parent, const QString& what) {
     QMessageBox::warning(parent, QString(), what);
 }
 
+std::optional<LeftPicture> pickLeft(QWidget* parent, const LeftPictures& left,
+                                    const QList<LeftPicture>& now) {
+    LeftPicturesDialog dialog(left, now, parent);
+    return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
+}
+
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved, pickImages, pickSaveName, pickColor,     tell,
-            confirm,    askName,    pickBrushes,  pickBrushName, showFolder};
+    return {askUnsaved, pickImages,  pickSaveName,  pickColor,  tell,    confirm,
+            askName,    pickBrushes, pickBrushName, showFolder, pickLeft};
 }
 
 }  // namespace dabcanvas::dabpainter

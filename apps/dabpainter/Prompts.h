@@ -6,6 +6,9 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
+
+#include "LeftPictures.h"
 
 class QWidget;
 
@@ -27,6 +30,9 @@ struct Prompts {
     std::function<QStringList(QWidget*)> pickBrushes;
     std::function<QString(QWidget*, const QString& suggested)> pickBrushName;  // to save as; empty: given up
     std::function<void(const QString& path)> showFolder;
+    // Which one to go on with; none: not now.
+    std::function<std::optional<LeftPicture>(QWidget*, const LeftPictures&, const QList<LeftPicture>& now)>
+        pickLeft;
 };
 
 // Message boxes and file dialogs of Qt's own.

@@ -46,7 +46,7 @@ int runWindow(const CommandLine& line) {
                        QStringLiteral("dabpainter"));
     const QDir data(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
     MainWindow window(settings, standardPrompts(), standardPresetFolders(),
-                      data.filePath(QStringLiteral("sessions")));
+                      data.filePath(QStringLiteral("autosave")));
     CanvasPlan plan;
     plan.size = line.size.value_or(plan.size);
     if (!window.startCanvas(plan))
@@ -54,7 +54,7 @@ int runWindow(const CommandLine& line) {
     window.show();
     if (!line.image.isEmpty())
         window.openImage(line.image);
-    QTimer::singleShot(0, &window, &MainWindow::askAboutOldSessions);
+    QTimer::singleShot(0, &window, &MainWindow::offerLeftPictures);
     return QApplication::exec();
 }
 

@@ -16,7 +16,10 @@ using dabcanvas::UndoRecovery;
 namespace {
 
 constexpr const char* kFolder = "DABCANVAS_TEST_RECOVERY";
+constexpr const char* kWords = "{\"file\": \"/home/somebody/Übung.png\"}";
 constexpr const char* kActs = "DABCANVAS_TEST_ACTS";  // after which the painter rests; none: he goes on
+
+constexpr int kInStroke = -1;
 
 // Nothing of it can be compressed.
 QImage noise(int seed) {
@@ -59,11 +62,11 @@ protected:
         CanvasTest::TearDown();
     }
     // How many acts a painting had said to be done when it was killed.
-    int killed(int afterActs, int andMillis, bool rests = false) {
+    int killed(int afterActs, int andMillis, int restsAfter = 0) {
         QProcess painting;
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(kFolder, folder.path());
-        environment.insert(kActs, rests ? QString::number(afterActs) : QString());
+        environment.insert(kActs, restsAfter != 0 ? QString::number(restsAfter) : QString());
         painting.setProcessEnvironment(environment);
         painting.setReadChannel(QProcess::StandardError);
         painting.start(QCoreApplication::applicationFilePath(),
@@ -86,7 +89,18 @@ protected:
 TEST_F(CanvasRecoveryTest, DISABLED_Painting) {
     auto canvas = makeCanvas();
     canvas->undoManager().setDiskByteBudget(128 << 20);  // so that files are begun while it paints
+    EXPECT_FALSE(canvas->setRecoveryWords("of nothing that is kept"));
     ASSERT_TRUE(canvas->setKeepsForRecovery(true));
+    ASSERT_TRUE(canvas->setRecoveryWords(kWords));
+    if (qEnvironmentVariableIntValue(kActs) == kInStroke) {
+        canvas->drawingWithBeginPoint({10, 75});
+        for (int i = 0; i < 25; ++i) {
+            canvas->drawingWithMoveToPoint({10.0 + i * 7, 75});
+            QThread::msleep(100);
+        }
+        std::fputc('.', stderr);
+        QThread::sleep(60);
+    }
     for (int i = 0;; ++i) {
         paint(*canvas, i);
         std::fputc('.', stderr);
@@ -102,8 +116,8 @@ TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
     for (int round = 0; round < std::max(rounds, 4); ++round) {
         SCOPED_TRACE(round);
         const bool rests = round % 2 == 1;
-        const int told = killed(1 + static_cast<int>(random() % 60),
-                                rests ? 1500 : static_cast<int>(random() % 30), rests);
+        const int acts = 1 + static_cast<int>(random() % 60);
+        const int told = killed(acts, rests ? 1500 : static_cast<int>(random() % 30), rests ? acts : 0);
         const auto left = UndoRecovery::list();
         if (left.isEmpty() && !rests) {
             continue;  // it died before its first moment was written
@@ -111,12 +125,15 @@ TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
         ASSERT_EQ(left.size(), 1);
         EXPECT_EQ(left[0].size, QSize(200, 150));
         EXPECT_FALSE(left[0].thumbnail.isNull());
+        EXPECT_EQ(left[0].words, QString::fromUtf8(kWords));
+        EXPECT_TRUE(left[0].isChanged);
 
         auto canvas = makeCanvas();
         QString problem;
         EXPECT_EQ(left[0].canvasDepth, 8);
         ASSERT_TRUE(canvas->recoverHistory(left[0].id, &problem)) << qPrintable(problem);
         EXPECT_TRUE(UndoRecovery::list().isEmpty());
+        EXPECT_EQ(canvas->recoveryWords(), QString::fromUtf8(kWords));
         EXPECT_FALSE(makeCanvas()->recoverHistory(left[0].id)) << "it is taken";
         // It is what it was after some act, the last one of a painter who rests, and so is all before it.
         const auto looks = [](QDDrawCanvas& c) {
@@ -124,16 +141,16 @@ TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
         };
         const auto found = looks(*canvas);
         auto expected = makeCanvas();
-        int acts = 0;
-        while (acts < told + 20 && (acts < (rests ? told : 1) || looks(*expected) != found)) {
+        int done = 0;
+        while (done < told + 20 && (done < (rests ? told : 1) || looks(*expected) != found)) {
             // Before a step back, what is no step yet becomes one.
-            if (isUndo(acts) && !rests && !expected->markAction().isNull() && looks(*expected) == found) {
+            if (isUndo(done) && !rests && !expected->markAction().isNull() && looks(*expected) == found) {
                 break;
             }
-            paint(*expected, acts++);
+            paint(*expected, done++);
         }
-        ASSERT_TRUE(imagesMatch(canvas->image(), expected->image())) << acts << " of " << told;
-        EXPECT_TRUE(!rests || acts == told) << acts << " of " << told;
+        ASSERT_TRUE(imagesMatch(canvas->image(), expected->image())) << done << " of " << told;
+        EXPECT_TRUE(!rests || done == told) << done << " of " << told;
         for (bool more = true; more;) {
             more = !expected->undo().isNull();
             EXPECT_EQ(!canvas->undo().isNull(), more);
@@ -148,8 +165,20 @@ TEST_F(CanvasRecoveryTest, APaintingThatIsKilledComesBackWithItsSteps) {
     }
 }
 
+// But for its last second, as one may go on for minutes.
+TEST_F(CanvasRecoveryTest, AStrokeThatIsKilledComesBackToo) {
+    ASSERT_EQ(killed(1, 500, kInStroke), 1);
+    ASSERT_EQ(UndoRecovery::list().size(), 1);
+    EXPECT_TRUE(UndoRecovery::list()[0].isChanged);
+    auto canvas = makeCanvas();
+    ASSERT_TRUE(canvas->recoverHistory(UndoRecovery::list()[0].id));
+    EXPECT_GT(painted(canvas->image()).right(), 10 + 25 * 7 - 90);
+    EXPECT_FALSE(canvas->undo().isNull());
+    EXPECT_TRUE(painted(canvas->image()).isEmpty());
+}
+
 TEST_F(CanvasRecoveryTest, WhatCannotBeOpenedChangesNothing) {
-    killed(10, 1500, true);  // so that it has been written, whatever else the machine does
+    killed(10, 1500, 10);  // so that it has been written, whatever else the machine does
     ASSERT_EQ(UndoRecovery::list().size(), 1);
     const QString id = UndoRecovery::list().at(0).id;
     auto other = makeCanvas(100, 100);

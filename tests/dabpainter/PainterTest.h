@@ -10,6 +10,7 @@
 
 #include "BrushModel.h"
 #include "CanvasViewport.h"
+#include "History/UndoRecovery.h"
 #include "MainWindow.h"
 #include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
@@ -18,10 +19,14 @@
 
 namespace dabcanvas::dabpainter {
 
+// Where another process's painter has its files.
+inline constexpr const char* kFolderVariable = "DABPAINTER_TEST_FOLDER";
+
 class PainterTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        _settings.emplace(_folder.filePath("settings.ini"), QSettings::IniFormat);
+        UndoRecovery::setFolder(path("recovery"));
+        _settings.emplace(path("settings.ini"), QSettings::IniFormat);
         makeWindow();
     }
 
@@ -43,9 +48,13 @@ protected:
         prompts.pickBrushes = [this](QWidget*) { return _images; };
         prompts.pickBrushName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.showFolder = [](const QString&) {};
+        prompts.pickLeft = [this](QWidget*, const LeftPictures&, const QList<LeftPicture>& pictures) {
+            _offered = int(pictures.size());
+            return std::optional(pictures.first());
+        };
         _window.reset();
         _window = std::make_unique<MainWindow>(
-            *_settings, prompts, PresetFolders{path("brushes"), {path("installed")}}, path("sessions"));
+            *_settings, prompts, PresetFolders{path("brushes"), {path("installed")}}, path("copies"));
         _window->resize(1000, 700);
         if (!_window->startCanvas({QSize(200, 150), Qt::white})) {
             ADD_FAILURE() << "no canvas could be made; no test of this program can run without OpenGL";
@@ -57,7 +66,9 @@ protected:
 
     static void settle() { QApplication::processEvents(); }
 
-    QString path(const QString& name) const { return _folder.filePath(name); }
+    QString path(const QString& name) const {
+        return qEnvironmentVariable(kFolderVariable, _folder.path()) + QLatin1Char('/') + name;
+    }
 
     QString savedImage(const QString& name, const QColor& color, QSize size = QSize(24, 16)) const {
         return savedPicture(path(name), color, size);
@@ -79,7 +90,7 @@ protected:
     QStringList _images, _told, _questions;
     QString _saveName, _name;
     bool _confirmed = true;
-    int _asked = 0;
+    int _asked = 0, _offered = 0;
     std::unique_ptr<MainWindow> _window;
 };
 

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QSize>
+
+namespace dabcanvas::dabpainter {
+
+// What a canvas is to begin with.
+struct CanvasPlan {
+    QSize size{1600, 1000};         // pixels
+    QColor background = Qt::white;  // transparent: nothing
+};
+
+}  // namespace dabcanvas::dabpainter

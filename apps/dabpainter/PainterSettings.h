@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+#include "Canvas/PointerOptions.h"
+#include "Surface/SurfaceKind.h"
+
+class QSettings;
+
+namespace dabcanvas::dabpainter {
+
+// What the painter remembers from run to run. It is in its file within a second of each change, whatever goes on meanwhile.
+class PainterSettings : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr int kMostUndoSteps = 1000;
+
+    // The file must outlive it.
+    explicit PainterSettings(QSettings& file, QObject* parent = nullptr);
+
+    int undoSteps() const;
+    void setUndoSteps(int steps);
+    SurfaceKind surface() const;  // of canvases to come
+    void setSurface(SurfaceKind kind);
+    TouchPolicy touch() const;
+    void setTouch(TouchPolicy policy);
+
+    // What others remember: called when it is due to be written.
+    void addWriter(std::function<void(QSettings&)> write) { _writers.push_back(std::move(write)); }
+    // Something that they write has changed.
+    void noteChange();
+    void write();
+    QSettings& file() { return _file; }
+
+signals:
+    void undoStepsChanged(int steps);
+    void touchChanged(dabcanvas::TouchPolicy policy);
+
+private:
+    void set(const char* name, const QVariant& value);
+
+    QSettings& _file;
+    std::vector<std::function<void(QSettings&)>> _writers;
+    QTimer _timer;
+};
+
+}  // namespace dabcanvas::dabpainter
