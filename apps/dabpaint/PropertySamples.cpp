@@ -194,7 +194,8 @@ QStringList PropertySample::valuesShown() const {
 }
 
 QString PropertySample::settingsShown() const {
-    return QStringLiteral("%1 %2").arg(QLatin1String(settings), QLatin1String(after)).simplified();
+    const QString before = QString::fromLatin1(settings);
+    return *after ? QStringLiteral("%1, then %2").arg(before, QLatin1String(after)) : before;
 }
 
 Result<QImage> paintPropertySample(const PropertySample& sample, const QString& value, const QSize& size) {
