@@ -23,6 +23,7 @@ struct PictureShape;
 /// Undo     all of them are a step: whatever changes here is recorded as strokes are, when autoMark() is on or
 ///          markAction() is called. Which one is active is no step; undo leaves it, unless there is no such layer then.
 /// Numbers  0 to count() - 1; they change with the order, and with steps.
+/// Recorded not yet: a canvas that somebody listens to, see setInputListener(), has one layer and keeps it.
 /// Life     a handle, to be made anew for each use: canvas.layers(). Of no use once the canvas is gone.
 /// Thread   the canvas's.
 /// Errors   false or null, after a log line, and nothing changed: in mid-stroke, for a number that no layer has, without

@@ -50,6 +50,10 @@ bool QDDrawCanvas::Parts::listen(CanvasInput* hears) {
         qCWarning(lcDabcanvas, "nobody can begin to listen in mid-stroke or to a canvas that is lost");
         return false;
     }
+    if (!record.planes().isPlain()) {
+        qCWarning(lcDabcanvas, "a canvas of several layers cannot be listened to");
+        return false;
+    }
     const bool isKnown = history.isMade() && !isUnrecorded();
     const bool isAsMade = !history.isMade() && !isUnrecorded() && layers.painted().isEmpty();
     history.images(true);  // what a change of size records depends on whether there is one

@@ -15,6 +15,10 @@ constexpr int kLayersLine = 2310;  // of the fixed message
 
 // Between strokes, when all that was drawn is part of a layer.
 bool QDDrawCanvas::Parts::mayEditLayers() {
+    if (listener != nullptr) {
+        qCWarning(lcDabcanvas, "layers cannot change while the canvas is recorded");
+        return false;
+    }
     if (isDrawing() || !finishPreview() || isLost()) {
         qCWarning(lcDabcanvas, "layers cannot change in mid-stroke");
         return false;

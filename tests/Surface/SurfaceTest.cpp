@@ -160,11 +160,22 @@ TEST_P(SurfaceTest, RowsOfThePicturesOwnDepthHoldAllOfIt) {
 
 // ---- Blend modes
 
+// The same where the background keeps its alpha: on one without holes, and none of it erased.
+Colour blendedLocked(std::uint32_t mode, const Colour& back, const Colour& line) {
+    const auto scaled = [](Colour colour, double by) {
+        std::transform(colour.begin(), colour.end(), colour.begin(), [by](double one) { return one * by; });
+        return colour;
+    };
+    const Colour mixed = back[3] > 0 ? blended(mode, scaled(back, 1 / back[3]), line) : Colour();
+    return mode == ESBlendTypeErase || mixed[3] <= 0 ? back : scaled(mixed, back[3] / mixed[3]);
+}
+
 TEST_P(SurfaceTest, EachModeBlendsAsItPromises) {
     constexpr float kColours[] = {0, 0.05f, 0.6f, 1};
     constexpr int kSide = 6;
     for (const std::uint32_t mode : {1u, 2u, 3u, 4u, 5u, 6u, 7u, 8u, 9u}) {
-        for (const bool masked : {false, true}) {
+        for (const int variant : {0, 1, 2, 3}) {
+            const bool masked = variant % 2 == 1, locks = variant >= 2;
             const Bytes background = randomPicture(mode, kSize);
             write(background);
             const float opacity = masked ? 0.7f : 1, mask = 0.5f;
@@ -182,7 +193,8 @@ TEST_P(SurfaceTest, EachModeBlendsAsItPromises) {
                 square(PaintLayer::subLine, {0, 0, 150, 40}, {0, 0, 0}, mask);
             }
             const Rect all[] = {Rect::of(kSize)};
-            const CompositeStyle how{.blendType = mode, .opacity = opacity, .masked = masked};
+            const CompositeStyle how{
+                .blendType = mode, .opacity = opacity, .masked = masked, .locksAlpha = locks};
             surface->composite(kPicture, all, how);
             const Bytes once = read();
             surface->composite(kPicture, all, how);
@@ -194,14 +206,16 @@ TEST_P(SurfaceTest, EachModeBlendsAsItPromises) {
                     back[i] = background[middle + i] / 255.0;
                 }
                 // Replacing takes a transparent line as it is, but not what is masked away.
-                const Colour expected = masked && rect.y >= 40 ? back : blended(mode, back, line);
+                const Colour expected = masked && rect.y >= 40 ? back
+                                        : locks                ? blendedLocked(mode, back, line)
+                                                               : blended(mode, back, line);
                 for (std::size_t i = 0; i < 4; ++i) {
                     EXPECT_NEAR(once[middle + i], expected[i] * 255, 1.3)
-                        << "mode " << mode << " channel " << i;
+                        << "mode " << mode << " channel " << i << " variant " << variant;
                     EXPECT_LE(once[middle + i], once[middle + 3]) << "mode " << mode << " channel " << i;
                 }
                 const std::size_t beside = at(rect.right() + 1, rect.y + 3);
-                if (mode != ESBlendTypeReplace) {
+                if (mode != ESBlendTypeReplace || locks) {
                     EXPECT_TRUE(std::equal(&once[beside], &once[beside] + 4, &background[beside]))
                         << "mode " << mode;
                 }
