@@ -43,7 +43,9 @@ bool QDDrawCanvas::Parts::editLayers(const LayerEdit& edit) try {
     if (!mayEditLayers()) {
         return false;
     }
-    history.noteBeforeResize();
+    if (history.autoMark) {
+        history.noteBeforeResize();
+    }
     auto present = record.present();
     if (!present && record.read(kLayersLine)) {
         present = record.data().tiles();

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "History/ImagesUndoManager.h"
 #include "ImageFiles.h"
@@ -59,6 +60,10 @@ bool Document::isModified() const {
     return _canvas && _canvas->isModified();
 }
 
+bool Document::hasLayers() const {
+    return _canvas && _canvas->layers().count() > 1;
+}
+
 bool Document::hasFile() const {
     return !path().isEmpty() && (isPng(path()) || path() == _savedPath);
 }
@@ -72,7 +77,8 @@ QString Document::suggestedPath() const {
 }
 
 QString Document::saveTo(const QString& path) {
-    if (const QString fault = writeImageFile(path, _canvas ? _canvas->image() : QImage()); !fault.isEmpty())
+    if (const QString fault = writeImageFile(path, _canvas ? _canvas->layers().flattened() : QImage());
+        !fault.isEmpty())
         return fault;
     _origin.path = _savedPath = QFileInfo(path).absoluteFilePath();
     _canvas->setModified(false);

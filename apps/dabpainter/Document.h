@@ -39,6 +39,7 @@ public:
     const CanvasPlan& plan() const { return _origin.plan; }
     QString name() const;
     bool isModified() const;
+    bool hasLayers() const;  // more than one, which are one in a file
 
     // Whether saving goes on in path(). PNG keeps everything; a picture opened from another kind is not replaced by a
     // poorer copy before a name was asked for.

@@ -12,6 +12,7 @@
 #include "CanvasStatus.h"
 #include "CanvasViewport.h"
 #include "ImageFiles.h"
+#include "LayerPanel.h"
 #include "MainWindow.h"
 #include "NewCanvasDialog.h"
 #include "PresetBrowser.h"
@@ -67,9 +68,6 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
         // What was read need not be written; a first start's colours are in no file yet.
         _unwritten = {BrushKey::renderColor, BrushKey::backRenderColor};
     }
-    // An opaque picture has no holes: what is erased of it shows what it was painted on.
-    const QColor& ground = origin.plan.background;
-    _brush.setPaper(ground.alpha() == 255 ? ground : QColor());
     QDDrawView& next = *made;
     _document.begin(next, origin);
     _viewport->setView(std::move(made));
@@ -80,6 +78,8 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
 void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
+    _flattens = false;
+    _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
     connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);
@@ -95,6 +95,12 @@ void MainWindow::watchView() {
     _undo->setEnabled(now->canUndo());
     _redo->setEnabled(now->canRedo());
     _status->showCanvas();
+}
+
+// The lowest layer of an opaque picture gets no holes: what is erased of it shows what it was painted on.
+void MainWindow::choosePaper(int layer) {
+    const QColor& ground = _document.plan().background;
+    _brush.setPaper(layer == 0 && ground.alpha() == 255 ? ground : QColor());
 }
 
 // A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
@@ -252,12 +258,27 @@ void MainWindow::place() {
         placeImage(paths.first());
 }
 
+// Once a picture: what is saved has no layers any more, what is painted on has.
+bool MainWindow::mayFlatten() {
+    _flattens =
+        _flattens || !_document.hasLayers() ||
+        _prompts.confirm(
+            this, tr("Save the layers as one picture?"),
+            tr("The file shows all of them together. They stay here as long as this picture is open."),
+            tr("Save"));
+    return _flattens;
+}
+
 bool MainWindow::save() {
+    if (!mayFlatten())
+        return false;
     return _document.hasFile() ? saveTo(_document.path()) : saveAs();
 }
 
 bool MainWindow::saveAs() {
     _pointer->endStroke();
+    if (!mayFlatten())
+        return false;
     const QString path = _prompts.pickSaveName(this, _document.suggestedPath());
     return !path.isEmpty() && saveTo(path);
 }

@@ -28,6 +28,7 @@
 #include "CanvasStatus.h"
 #include "CanvasViewport.h"
 #include "History/ImagesUndoManager.h"
+#include "LayerPanel.h"
 #include "MemoryWatch.h"
 #include "PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
@@ -37,7 +38,7 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr double kZoomStep = 1.25;
-constexpr int kStateVersion = 2;
+constexpr int kStateVersion = 3;
 constexpr int kMessageTime = 2500;  // milliseconds
 
 QKeySequence key(const char* text) {
@@ -68,6 +69,10 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _presetDock = addDock(tr("Brushes"), QStringLiteral("presetDock"), _presets);
     _panel = new BrushPanel(_brush, _prompts);
     _dock = addDock(tr("Brush settings"), QStringLiteral("brushDock"), _panel);
+    _layers = new LayerPanel;
+    _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), _layers);
+    tabifyDockWidget(_layerDock, _dock);
+    _dock->raise();
     resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
@@ -91,6 +96,8 @@ void MainWindow::connectParts() {
         statusBar()->showMessage(tr("The disk takes no undo steps: save, as a crash would lose this picture"),
                                  4 * kMessageTime);
     });
+    connect(_layers, &LayerPanel::aboutToEdit, _pointer, &CanvasPointer::endStroke);
+    connect(_layers, &LayerPanel::activeChanged, this, &MainWindow::choosePaper);
     connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
     connect(_panel, &BrushPanel::eyedropper, this, [this] { _pointer->setPicking(true); });
     connect(_pointer, &CanvasPointer::picked, this, [this](const QColor& color) {
@@ -125,7 +132,7 @@ MainWindow::~MainWindow() {
     // While this is still a window that their last signals can reach; the pointer goes before what it
     // watches.
     delete _pointer;
-    for (QDockWidget* dock : {_dock, _presetDock}) {
+    for (QDockWidget* dock : {_dock, _layerDock, _presetDock}) {
         disconnect(dock, &QDockWidget::visibilityChanged, nullptr, nullptr);  // which looks at both
         delete dock;
     }
@@ -276,14 +283,16 @@ void MainWindow::makeViewMenu() {
         _viewport->fit();
     });
     menu->addSeparator();
-    const auto isAnyShown = [this] { return !_dock->isHidden() || !_presetDock->isHidden(); };
-    QAction* panel = addTo(menu, tr("Brush &Panels"), {}, [this, isAnyShown] {
+    const auto isAnyShown = [this] {
+        return !_dock->isHidden() || !_presetDock->isHidden() || !_layerDock->isHidden();
+    };
+    QAction* panel = addTo(menu, tr("&Panels"), {}, [this, isAnyShown] {
         const bool show = !isAnyShown();
-        _presetDock->setVisible(show);
-        _dock->setVisible(show);
+        for (QDockWidget* dock : {_presetDock, _layerDock, _dock})
+            dock->setVisible(show);
     });
     panel->setCheckable(true);
-    for (const QDockWidget* dock : {_presetDock, _dock})
+    for (const QDockWidget* dock : {_presetDock, _layerDock, _dock})
         connect(dock, &QDockWidget::visibilityChanged, panel,
                 [panel, isAnyShown] { panel->setChecked(isAnyShown()); });
     // On the canvas alone: elsewhere the tabulator goes from field to field.

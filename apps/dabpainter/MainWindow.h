@@ -26,6 +26,7 @@ class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
+class LayerPanel;
 class PresetBrowser;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
@@ -96,6 +97,8 @@ private:
     bool openCopy(const LeftPicture& picture);
     bool openPicture(const QImage& image, const Document::Origin& origin);
     void watchView();
+    void choosePaper(int layer);
+    bool mayFlatten();
     void replaceLost();
     bool tellFault(const QString& fault);
     void newCanvas();
@@ -125,9 +128,11 @@ private:
     CanvasStatus* _status;
     BrushPanel* _panel;
     PresetBrowser* _presets;
-    QDockWidget *_presetDock, *_dock;
+    LayerPanel* _layers;
+    QDockWidget *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes;
     bool _brushRead = false;
+    bool _flattens = false;         // the user knows
     std::set<BrushKey> _unwritten;  // since the settings were written
     bool _wasMaximized = false;
 };

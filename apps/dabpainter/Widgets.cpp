@@ -93,6 +93,33 @@ QPainterPath glyphPath(Glyph glyph) {
             path.moveTo(3, 8);
             path.lineTo(13, 8);
             break;
+        case Glyph::copy:
+            path.addRect(QRectF(2.5, 2.5, 8, 8));
+            path.moveTo(13.5, 5.5);
+            path.lineTo(13.5, 13.5);
+            path.lineTo(5.5, 13.5);
+            break;
+        case Glyph::up:
+        case Glyph::down:
+        case Glyph::merge: {
+            const double tip = glyph == Glyph::up ? 3 : 12, back = glyph == Glyph::up ? 4 : -4;
+            path.moveTo(8, glyph == Glyph::up ? 13 : 3);
+            path.lineTo(8, tip);
+            path.moveTo(8 - 4, tip + back);
+            path.lineTo(8, tip);
+            path.lineTo(8 + 4, tip + back);
+            if (glyph == Glyph::merge) {
+                path.moveTo(3, 14.5);
+                path.lineTo(13, 14.5);
+            }
+            break;
+        }
+        case Glyph::remove:
+            path.moveTo(4, 4);
+            path.lineTo(12, 12);
+            path.moveTo(12, 4);
+            path.lineTo(4, 12);
+            break;
         case Glyph::menu:
             for (const double y : {4.5, 8.0, 11.5}) {
                 path.moveTo(3, y);
