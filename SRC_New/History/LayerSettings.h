@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// How a layer lies on those below it.
 #pragma once
 
 #include <QString>
@@ -9,12 +8,13 @@
 
 namespace dabcanvas {
 
+/// How a layer lies on those below it; see CanvasLayers.
 struct LayerSettings {
     QString name;
-    float opacity = 1;                            // 0..1
-    std::uint32_t blendType = ESBlendTypeNormal;  // as of strokes, see ESBlendType
+    float opacity = 1;                            ///< 0..1
+    std::uint32_t blendType = ESBlendTypeNormal;  ///< as of strokes, see ESBlendType
     bool isVisible = true;
-    bool locksAlpha = false;  // strokes change its colours alone
+    bool locksAlpha = false;  ///< strokes change its colours alone
 
     friend bool operator==(const LayerSettings&, const LayerSettings&) = default;
 };
