@@ -15,8 +15,12 @@ namespace {
 
 constexpr const char* kSeed = "DABCANVAS_TEST_SEED";
 constexpr int kWidth = 400, kHeight = 300, kRow = 12, kEdge = 10;
-constexpr int kStep = 2, kPause = 12;   // buffer pixels and milliseconds from one sample to the next
-constexpr qint64 kMostMissing = 2000;   // milliseconds of painting
+constexpr int kStep = 2, kPause = 12;  // buffer pixels and milliseconds from one sample to the next
+#ifdef __SANITIZE_ADDRESS__
+constexpr qint64 kMostMissing = 10'000;  // where all of it takes several times as long
+#else
+constexpr qint64 kMostMissing = 2000;  // milliseconds of painting
+#endif
 constexpr int kBehind = 3 * kStep + 4;  // pixels by which a stroke's paint is behind its pointer
 
 qint64 now() {
