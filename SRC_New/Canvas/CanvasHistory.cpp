@@ -138,7 +138,7 @@ StepPicture CanvasHistory::reset() {
     return _record.data();
 }
 
-void CanvasHistory::noteBeforeResize() {
+void CanvasHistory::noteBeforeChange() {
     if (_images != nullptr || autoMark) {
         record();
     }

@@ -40,8 +40,8 @@ public:
     StepPicture load(bool sketching);
     // Makes the present canvas the only step; null without the memory.
     StepPicture reset();
-    // The canvas is about to get another size: what was drawn is a step of its own.
-    void noteBeforeResize();
+    // The canvas is about to get another size, or other layers: what was drawn is a step of its own.
+    void noteBeforeChange();
     // Records the canvas as a step; null, and nothing recorded, when nothing was drawn since the last, or too shortly
     // after it, or without the memory.
     StepPicture mark();

@@ -18,15 +18,10 @@ struct Plane {
 };
 using Planes = std::vector<Plane>;
 
-// A canvas's first layer, as long as nobody has said anything of it.
-Layer layerOf(const PictureShape& shape, std::size_t index) {
-    return shape.layers ? (*shape.layers)[index] : Layer{1, {}};
-}
-
 Planes planesOf(const TilePicture& whole) {
     Planes planes;
     for (std::size_t i = 0; i < whole.shape().planes(); ++i) {
-        planes.push_back({layerOf(whole.shape(), i), whole.plane(i)});
+        planes.push_back({whole.shape().layer(i), whole.plane(i)});
     }
     return planes;
 }
@@ -61,6 +56,15 @@ bool merge(const Plane& upper, Plane& lower, TileStore& tiles, int pixelBytes) {
         }
     }
     return true;
+}
+
+std::optional<LayerSettings> clamped(LayerSettings settings) {
+    if (!std::isfinite(settings.opacity)) {
+        qCWarning(lcDabcanvas, "a layer's opacity is a number");
+        return {};
+    }
+    settings.opacity = std::clamp(settings.opacity, 0.0f, 1.0f);
+    return settings;
 }
 
 }  // namespace
@@ -105,21 +109,8 @@ bool CanvasLayers::setActive(int layer) {
 }
 
 LayerSettings CanvasLayers::settings(int layer) const {
-    return has(layer) ? layerOf(shape(), static_cast<std::size_t>(layer)).settings : LayerSettings();
+    return has(layer) ? shape().layer(static_cast<std::size_t>(layer)).settings : LayerSettings();
 }
-
-namespace {
-
-std::optional<LayerSettings> clamped(LayerSettings settings) {
-    if (!std::isfinite(settings.opacity)) {
-        qCWarning(lcDabcanvas, "a layer's opacity is a number");
-        return {};
-    }
-    settings.opacity = std::clamp(settings.opacity, 0.0f, 1.0f);
-    return settings;
-}
-
-}  // namespace
 
 bool CanvasLayers::setSettings(int layer, const LayerSettings& settings) {
     const auto sound = clamped(settings);
@@ -127,7 +118,7 @@ bool CanvasLayers::setSettings(int layer, const LayerSettings& settings) {
         return false;
     }
     const auto at = static_cast<std::size_t>(layer);
-    return layerOf(shape(), at).settings == *sound || edit([&](Planes& planes, std::size_t*) {
+    return shape().layer(at).settings == *sound || edit([&](Planes& planes, std::size_t*) {
                planes[at].layer.settings = *sound;
                return true;
            });

@@ -22,7 +22,7 @@ bool LayerLook::read(const Rect& area, const MutablePixelView& rows) try {
     for (int y = area.y / kTileSide * kTileSide; y < area.bottom(); y += kTileSide) {
         const Rect band = Rect{area.x, y, area.width, kTileSide}.intersected(area);
         const Rect there{0, band.y - area.y, band.width, band.height};
-        if (!readTiles(band, Rect{area.x, y, area.width, kTileSide}, rows.part(there))) {
+        if (!readBand(band, rows.part(there))) {
             return false;
         }
     }
@@ -31,15 +31,14 @@ bool LayerLook::read(const Rect& area, const MutablePixelView& rows) try {
     return false;
 }
 
-bool LayerLook::readTiles(const Rect& area, const Rect& ofTiles, const MutablePixelView& rows) {
+bool LayerLook::readBand(const Rect& area, const MutablePixelView& rows) {
     const int pixelBytes = _layers.surface().pixelBytes();
     TileSet set(_layers.size());
-    set.add(ofTiles);
+    set.add(area);
     std::vector<SharedTile> held;
     std::vector<LayeredTile> tiles;
     std::vector<PlacedTile> places;
-    const bool isRead = _layers.keep(set, [&](const PlacedTile& tile) { places.push_back(tile); });
-    bool all = isRead;
+    bool all = _layers.keep(set, [&](const PlacedTile& tile) { places.push_back(tile); });
     const std::vector<Layer>& layers = *_planes.shape().layers;
     for (PlacedTile& place : places) {
         const auto result = newTile(pixelBytes);

@@ -19,7 +19,7 @@ public:
     bool read(const Rect& area, const MutablePixelView& rows);
 
 private:
-    bool readTiles(const Rect& area, const Rect& ofTiles, const MutablePixelView& rows);
+    bool readBand(const Rect& area, const MutablePixelView& rows);  // of one row of tiles
 
     PaintLayers& _layers;
     const LayerPlanes& _planes;

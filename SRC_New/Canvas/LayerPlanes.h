@@ -25,9 +25,7 @@ public:
     bool isPlain() const { return !_shape.layers; }
     const PictureShape& shape() const { return _shape; }
     const Others& others() const { return _others; }
-    LayerSettings frontSettings() const {
-        return isPlain() ? LayerSettings() : (*_shape.layers)[_shape.front].settings;
-    }
+    LayerSettings frontSettings() const { return _shape.layer(_shape.front).settings; }
     // All of them as one picture, with this as the front; null for null.
     Front whole(const Front& front) const;
     // And the other way round.
@@ -42,7 +40,7 @@ public:
 private:
     PictureShape _shape;
     Others _others;
-    std::uint32_t _lastId = 1;
+    std::uint32_t _lastId = kFirstLayer;
     mutable Front _wholeOf, _whole;  // the last one, so that it stays the same object
 };
 

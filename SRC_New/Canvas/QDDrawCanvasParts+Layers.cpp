@@ -13,19 +13,12 @@ constexpr int kLayersLine = 2310;  // of the fixed message
 
 }  // namespace
 
-// Between strokes, when all that was drawn is part of a layer.
 bool QDDrawCanvas::Parts::mayEditLayers() {
     if (listener != nullptr) {
         qCWarning(lcDabcanvas, "layers cannot change while the canvas is recorded");
         return false;
     }
-    if (isDrawing() || !finishPreview() || isLost()) {
-        qCWarning(lcDabcanvas, "layers cannot change in mid-stroke");
-        return false;
-    }
-    settleSketch();
-    settle();
-    return true;
+    return comesToRest("layers cannot change in mid-stroke");
 }
 
 void QDDrawCanvas::Parts::layersChanged() {
@@ -44,7 +37,7 @@ bool QDDrawCanvas::Parts::editLayers(const LayerEdit& edit) try {
         return false;
     }
     if (history.autoMark) {
-        history.noteBeforeResize();
+        history.noteBeforeChange();
     }
     auto present = record.present();
     if (!present && record.read(kLayersLine)) {

@@ -190,20 +190,27 @@ SurfaceOptions QDDrawCanvas::Parts::presentOptions() {
     return present;
 }
 
+bool QDDrawCanvas::Parts::comesToRest(const char* complaint) {
+    if (isDrawing() || !finishPreview() || isLost()) {
+        qCWarning(lcDabcanvas, "%s", complaint);
+        return false;
+    }
+    settleSketch();
+    settle();
+    return true;
+}
+
 bool QDDrawCanvas::Parts::setArea(const QRect& area) {
     const Host::Call call(host);
     if (area == QRect(QPoint(), bufferSize().toSize())) {
         return true;
     }
-    if (isDrawing() || !finishPreview() || isLost()) {
-        qCWarning(lcDabcanvas, "a canvas cannot change its size in mid-stroke");
+    if (!comesToRest("a canvas cannot change its size in mid-stroke")) {
         return false;
     }
-    settleSketch();
-    settle();
     // Before anybody painted it is as if the canvas had been made so.
     const bool isAsMade = !layers.edits.unsaved.now && !layers.edits.unrecorded.now && !history.isMade();
-    history.noteBeforeResize();
+    history.noteBeforeChange();
     if (!cropTo({area.x(), area.y(), area.width(), area.height()})) {
         return false;
     }

@@ -152,6 +152,8 @@ private:
 
     void makePreview();
     bool cropTo(const dabcanvas::Rect& area);
+    // Between strokes, when all that was drawn is part of the canvas. False in mid-stroke, after this line in the log.
+    bool comesToRest(const char* complaint);
     bool mayEditLayers();
     void layersChanged();
     void leaveDrawn();

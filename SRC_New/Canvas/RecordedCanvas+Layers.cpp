@@ -7,17 +7,6 @@
 #include "Canvas/RecordedCanvas.h"
 
 namespace dabcanvas {
-namespace {
-
-// Of a plain picture's single layer.
-constexpr std::uint32_t kFirstLayer = 1;
-
-std::uint32_t idOf(const PictureShape& shape, std::size_t layer) {
-    return shape.layers ? (*shape.layers)[layer].id : kFirstLayer;
-}
-
-}  // namespace
-
 RecordedCanvas::Picture RecordedCanvas::wholePicture() const try {
     return _planes.whole(_picture);
 } catch (const std::bad_alloc&) {
@@ -32,9 +21,9 @@ RecordedCanvas::Picture RecordedCanvas::ownPicture(const StepPicture& picture, F
         next->setPlane(next->shape().front, tilesOf(picture));
         return next;
     }
-    const std::uint32_t id = idOf(_planes.shape(), _planes.shape().front);
+    const std::uint32_t id = _planes.shape().idOf(_planes.shape().front);
     for (std::size_t i = 0; front == FrontIs::kept && i < tiles->shape().planes(); ++i) {
-        if (i != tiles->shape().front && idOf(tiles->shape(), i) == id) {
+        if (i != tiles->shape().front && tiles->shape().idOf(i) == id) {
             auto next = std::make_shared<TilePicture>(*tiles);
             next->setFront(i);
             return next;
@@ -45,7 +34,7 @@ RecordedCanvas::Picture RecordedCanvas::ownPicture(const StepPicture& picture, F
 
 const TilePicture* RecordedCanvas::planeOf(std::uint32_t layer) const {
     for (std::size_t i = 0; i < _planes.shape().planes(); ++i) {
-        if (idOf(_planes.shape(), i) == layer) {
+        if (_planes.shape().idOf(i) == layer) {
             return i == _planes.shape().front ? _picture.get() : &_planes.others()[i];
         }
     }
@@ -78,7 +67,7 @@ bool RecordedCanvas::fetch(const TilePicture& next, const TilePicture& front, Fe
             continue;
         }
         const TilePicture plane = next.plane(i);
-        const TilePicture* const before = planeOf(idOf(next.shape(), i));
+        const TilePicture* const before = planeOf(next.shape().idOf(i));
         plane.forEachDifference(before != nullptr ? *before : blank, [&](std::size_t index) {
             if (const TileRef& tile = plane.at(index); all && tile) {
                 fetched.others.emplace_back(tile, pixelsOf(*tile, problem));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -21,6 +22,9 @@ struct Layer {
     friend bool operator==(const Layer&, const Layer&) = default;
 };
 
+// Of the single layer of a picture of which nothing more is said.
+inline constexpr std::uint32_t kFirstLayer = 1;
+
 struct PictureShape {
     Size size{};
     // From the lowest one up; null: a single one of which there is nothing to say.
@@ -31,6 +35,8 @@ struct PictureShape {
     PictureShape(const Size& one) : size(one) {}
 
     std::size_t planes() const { return layers ? layers->size() : 1; }
+    Layer layer(std::size_t plane) const { return layers ? (*layers)[plane] : Layer{kFirstLayer, {}}; }
+    std::uint32_t idOf(std::size_t plane) const { return layers ? (*layers)[plane].id : kFirstLayer; }
     // Whether a tile of one has a tile at the same index of the other.
     bool hasGridOf(const PictureShape& other) const {
         return size == other.size && planes() == other.planes();

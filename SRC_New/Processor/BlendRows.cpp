@@ -302,9 +302,12 @@ void blendNormal(const BlendRow<std::uint8_t, std::uint8_t>& row) {
     blendWhole<Normal>(row);
 }
 
-// The kernel of a mode; Of<Mode> is what it makes of pixels.
+template <typename Channel, typename OfLayer>
+using Kernel = void (*)(const BlendRow<Channel, OfLayer>&);
+
+// The kernel of a mode, or what is normal; Of<Mode> is what it makes of pixels.
 template <template <typename> typename Of, typename Channel, typename OfLayer>
-auto kernelOf(std::uint32_t blendType, bool showsBare) -> void (*)(const BlendRow<Channel, OfLayer>&) {
+Kernel<Channel, OfLayer> kernelOf(std::uint32_t blendType, bool showsBare, Kernel<Channel, OfLayer> normal) {
     switch (blendType) {
         case ESBlendTypeReplace:
             return showsBare ? blendWhole<Of<ReplaceInPaint>, Channel, OfLayer>
@@ -322,24 +325,21 @@ auto kernelOf(std::uint32_t blendType, bool showsBare) -> void (*)(const BlendRo
         case ESBlendTypeReset:
             return blendWhole<Of<Reset>, Channel, OfLayer>;
         default:
-            return blendWhole<Of<Normal>, Channel, OfLayer>;
+            return normal;
     }
 }
 template <typename Mode>
 using Plain = Mode;
 
-bool isNormal(std::uint32_t blendType) {
-    return blendType < ESBlendTypeReplace || blendType == 3 || blendType > ESBlendTypeReset;
-}
-
 template <typename Channel, typename OfLayer>
-auto kernelOf(std::uint32_t blendType, const BlendRow<Channel, OfLayer>& row)
-    -> void (*)(const BlendRow<Channel, OfLayer>&) {
-    if (isNormal(blendType) && row.mask == nullptr && !row.locksAlpha) {
-        return blendNormal;
+Kernel<Channel, OfLayer> kernelOf(std::uint32_t blendType, const BlendRow<Channel, OfLayer>& row) {
+    if (row.locksAlpha) {
+        return kernelOf<Locked, Channel, OfLayer>(blendType, row.showsBare,
+                                                  blendWhole<Locked<Normal>, Channel, OfLayer>);
     }
-    return row.locksAlpha ? kernelOf<Locked, Channel, OfLayer>(blendType, row.showsBare)
-                          : kernelOf<Plain, Channel, OfLayer>(blendType, row.showsBare);
+    const Kernel<Channel, OfLayer> unmasked = blendNormal;
+    return kernelOf<Plain, Channel, OfLayer>(
+        blendType, row.showsBare, row.mask == nullptr ? unmasked : blendWhole<Normal, Channel, OfLayer>);
 }
 
 template <typename Channel, typename OfLayer>

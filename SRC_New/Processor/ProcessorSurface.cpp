@@ -25,6 +25,26 @@ const Channel* pixelsAt(const Tile<Channel>* tile, int x, int y) {
     return (tile != nullptr ? tile : &kTransparent)->at(x % kTileSide, y % kTileSide);
 }
 
+// What was smudged there keeps its colours on the alpha of before.
+template <typename Channel>
+void lockAlpha(Tile<Channel>& picture, const Tile<Channel>* background, const Rect& part) {
+    for (int y = part.y; y < part.bottom(); ++y) {
+        Channel* to = picture.at(part.x % kTileSide, y % kTileSide);
+        const Channel* back = pixelsAt(background, part.x, y);
+        for (int x = 0; x < part.width; ++x, to += 4, back += 4) {
+            if (to[3] == 0) {
+                std::copy_n(back, 4, to);
+                continue;
+            }
+            const float share = static_cast<float>(back[3]) / static_cast<float>(to[3]);
+            std::transform(to, to + 3, to, [share](Channel colour) {
+                return static_cast<Channel>(static_cast<float>(colour) * share + 0.5f);
+            });
+            to[3] = back[3];
+        }
+    }
+}
+
 // As rows of the grid's own depth.
 template <typename Channel>
 MutablePixelView viewOf(Tile<Channel>& tile, const Rect& part) {
@@ -227,27 +247,6 @@ Rect PictureSurface<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabS
 template <typename Channel>
 RowNoise PictureSurface<Channel>::noiseOf(std::size_t index, int x, int y) const {
     return _isPlain ? kToNearest : RowNoise{noiseAt(x, y, _kept[index].times)};
-}
-
-// What was smudged there keeps its colours on the alpha of before.
-template <typename Channel>
-void lockAlpha(Tile<Channel>& picture, const Tile<Channel>* background, const Rect& part) {
-    for (int y = 0; y < part.height; ++y) {
-        Channel* to = picture.at(part.x % kTileSide, part.y % kTileSide + y);
-        for (int x = 0; x < part.width; ++x, to += 4) {
-            const Channel* const back = background != nullptr
-                                            ? background->at(part.x % kTileSide + x, part.y % kTileSide + y)
-                                            : nullptr;
-            const float alpha = back != nullptr ? back[3] : 0,
-                        share = to[3] > 0 ? alpha / static_cast<float>(to[3]) : 0;
-            for (std::size_t i = 0; i < 3; ++i) {
-                to[i] = to[3] > 0 || back == nullptr
-                            ? static_cast<Channel>(static_cast<float>(to[i]) * share + 0.5f)
-                            : back[i];
-            }
-            to[3] = static_cast<Channel>(alpha);
-        }
-    }
 }
 
 // The layer goes onto the picture in one part of a tile, with the background below, or the picture itself.

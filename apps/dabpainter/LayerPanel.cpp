@@ -40,7 +40,7 @@ LayerPanel::LayerPanel(QWidget* parent)
     _opacity->setAccessibleName(tr("Opacity of the layer"));
     makeLayout();
     connectEdits();
-    show();
+    showLayers();
 }
 
 QToolButton* LayerPanel::addButton(Glyph sign, const QString& toolTip, void (LayerPanel::*act)()) {
@@ -78,7 +78,7 @@ void LayerPanel::connectEdits() {
         _view->layers().setActive(layerOf(row));
     });
     connect(_list, &QListWidget::itemChanged, this,
-            [this](QListWidgetItem* item) { take(_list->row(item)); });
+            [this](QListWidgetItem* item) { takeRow(_list->row(item)); });
     connect(_mode, &QComboBox::activated, this, [this](int index) {
         change(active(),
                [&](LayerSettings& settings) { settings.blendType = _mode->itemData(index).toUInt(); });
@@ -95,8 +95,8 @@ void LayerPanel::setView(QDDrawView* view) {
         disconnect(_view, nullptr, this, nullptr);
     _view = view;
     if (_view)
-        connect(_view, &QDDrawView::layersChanged, this, &LayerPanel::show);
-    show();
+        connect(_view, &QDDrawView::layersChanged, this, &LayerPanel::showLayers);
+    showLayers();
 }
 
 int LayerPanel::active() const {
@@ -110,7 +110,7 @@ int LayerPanel::layerOf(int row) const {
 
 // ---- Showing
 
-void LayerPanel::show() {
+void LayerPanel::showLayers() {
     const QScopedValueRollback showing(_showing, true);
     const int count = _view ? _view->layers().count() : 0;
     while (_list->count() > count)
@@ -158,7 +158,7 @@ void LayerPanel::change(int layer, const Change& change) {
     _view->layers().setSettings(layer, settings);
 }
 
-void LayerPanel::take(int row) {
+void LayerPanel::takeRow(int row) {
     if (_showing || !_view)
         return;
     const QListWidgetItem* item = _list->item(row);

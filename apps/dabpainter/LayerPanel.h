@@ -42,11 +42,11 @@ private:
     void up() { moveLayer(1); }
     void down() { moveLayer(-1); }
     void connectEdits();
-    void show();
+    void showLayers();
     void showActive();
     int active() const;
     int layerOf(int row) const;
-    void take(int row);
+    void takeRow(int row);
     template <typename Change>
     void change(int layer, const Change& change);
     void takeOpacity(int percent);

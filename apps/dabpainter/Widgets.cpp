@@ -55,76 +55,55 @@ public:
 // In a square of 16 x 16.
 QPainterPath glyphPath(Glyph glyph) {
     QPainterPath path;
+    const auto line = [&path](std::initializer_list<QPointF> way) { path.addPolygon(QPolygonF(way)); };
+    const auto arrow = [&line](double from, double to, double back) {
+        line({{8, from}, {8, to}});
+        line({{4, to + back}, {8, to}, {12, to + back}});
+    };
     switch (glyph) {
         case Glyph::reset:
             path.arcMoveTo(QRectF(3.5, 3.5, 9, 9), 150);
             path.arcTo(QRectF(3.5, 3.5, 9, 9), 150, -300);
-            path.moveTo(3.2, 2.2);
-            path.lineTo(3.9, 6);
-            path.lineTo(7.6, 5.2);
+            line({{3.2, 2.2}, {3.9, 6}, {7.6, 5.2}});
             break;
         case Glyph::swap:
-            path.moveTo(2, 5.5);
-            path.lineTo(13.5, 5.5);
-            path.moveTo(10.5, 2.5);
-            path.lineTo(13.5, 5.5);
-            path.moveTo(14, 10.5);
-            path.lineTo(2.5, 10.5);
-            path.moveTo(5.5, 13.5);
-            path.lineTo(2.5, 10.5);
+            line({{2, 5.5}, {13.5, 5.5}});
+            line({{10.5, 2.5}, {13.5, 5.5}});
+            line({{14, 10.5}, {2.5, 10.5}});
+            line({{5.5, 13.5}, {2.5, 10.5}});
             break;
         case Glyph::eyedropper:
-            path.moveTo(2.5, 13.5);
-            path.lineTo(3.2, 10.9);
-            path.lineTo(8.6, 5.5);
-            path.lineTo(10.5, 7.4);
-            path.lineTo(5.1, 12.8);
+            line({{2.5, 13.5}, {3.2, 10.9}, {8.6, 5.5}, {10.5, 7.4}, {5.1, 12.8}});
             path.closeSubpath();
-            path.moveTo(7.3, 4.2);
-            path.lineTo(11.8, 8.7);
-            path.moveTo(9.8, 6.2);
-            path.lineTo(12.8, 3.2);
-            path.moveTo(12, 2.4);
-            path.lineTo(13.6, 4);
+            line({{7.3, 4.2}, {11.8, 8.7}});
+            line({{9.8, 6.2}, {12.8, 3.2}});
+            line({{12, 2.4}, {13.6, 4}});
             break;
         case Glyph::add:
-            path.moveTo(8, 3);
-            path.lineTo(8, 13);
-            path.moveTo(3, 8);
-            path.lineTo(13, 8);
+            line({{8, 3}, {8, 13}});
+            line({{3, 8}, {13, 8}});
             break;
         case Glyph::copy:
             path.addRect(QRectF(2.5, 2.5, 8, 8));
-            path.moveTo(13.5, 5.5);
-            path.lineTo(13.5, 13.5);
-            path.lineTo(5.5, 13.5);
+            line({{13.5, 5.5}, {13.5, 13.5}, {5.5, 13.5}});
             break;
         case Glyph::up:
-        case Glyph::down:
-        case Glyph::merge: {
-            const double tip = glyph == Glyph::up ? 3 : 12, back = glyph == Glyph::up ? 4 : -4;
-            path.moveTo(8, glyph == Glyph::up ? 13 : 3);
-            path.lineTo(8, tip);
-            path.moveTo(8 - 4, tip + back);
-            path.lineTo(8, tip);
-            path.lineTo(8 + 4, tip + back);
-            if (glyph == Glyph::merge) {
-                path.moveTo(3, 14.5);
-                path.lineTo(13, 14.5);
-            }
+            arrow(13, 3, 4);
             break;
-        }
+        case Glyph::down:
+            arrow(3, 12, -4);
+            break;
+        case Glyph::merge:
+            arrow(3, 12, -4);
+            line({{3, 14.5}, {13, 14.5}});
+            break;
         case Glyph::remove:
-            path.moveTo(4, 4);
-            path.lineTo(12, 12);
-            path.moveTo(12, 4);
-            path.lineTo(4, 12);
+            line({{4, 4}, {12, 12}});
+            line({{12, 4}, {4, 12}});
             break;
         case Glyph::menu:
-            for (const double y : {4.5, 8.0, 11.5}) {
-                path.moveTo(3, y);
-                path.lineTo(13, y);
-            }
+            for (const double y : {4.5, 8.0, 11.5})
+                line({{3, y}, {13, y}});
             break;
     }
     return path;
