@@ -2,6 +2,7 @@
 #include "CanvasViewport.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "QDEAGLView/QDDrawView.h"
 #include "Widgets.h"
@@ -20,8 +21,17 @@ CanvasViewport::CanvasViewport(QWidget* parent) : QWidget(parent) {
     setMinimumSize(200, 150);
 }
 
+CanvasViewport::~CanvasViewport() {
+    dropView();
+}
+
+// Nobody who hears that it goes (the pointer leaves it, the focus) may ask it for anything any more.
+void CanvasViewport::dropView() {
+    delete std::exchange(_view, nullptr);
+}
+
 void CanvasViewport::setView(std::unique_ptr<QDDrawView> view) {
-    delete _view;
+    dropView();
     _view = view.release();
     _view->setParent(this);
     _view->setNavigable(true);

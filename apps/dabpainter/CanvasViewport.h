@@ -17,6 +17,7 @@ class CanvasViewport : public QWidget {
 
 public:
     explicit CanvasViewport(QWidget* parent = nullptr);
+    ~CanvasViewport() override;
 
     // Takes a canvas over and destroys the one before; it is shown whole.
     void setView(std::unique_ptr<QDDrawView> view);
@@ -42,6 +43,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void dropView();
+
     QDDrawView* _view = nullptr;
     double _fitZoom = 0;  // until the user zooms or pans, the canvas is fitted to the window
 };
