@@ -11,9 +11,9 @@
 #include <new>
 
 #include "Canvas/QDDrawCanvas.h"
-#include "CommandLine.h"
-#include "MainWindow.h"
-#include "PresetLibrary.h"
+#include "Presets/PresetLibrary.h"
+#include "Window/CommandLine.h"
+#include "Window/MainWindow.h"
 
 namespace {
 

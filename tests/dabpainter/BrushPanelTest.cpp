@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "BrushPanel.h"
+#include "Brush/BrushPanel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,7 +10,7 @@
 #include <string>
 
 #include "PainterTest.h"
-#include "Widgets.h"
+#include "Window/Widgets.h"
 
 namespace dabcanvas::dabpainter {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "BrushStorage.h"
+#include "Brush/BrushStorage.h"
 
 #include <QDeadlineTimer>
 
-#include "BrushPresentation.h"
+#include "Brush/BrushPresentation.h"
 #include "PainterTest.h"
 
 namespace dabcanvas::dabpainter {

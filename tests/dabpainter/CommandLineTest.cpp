@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "CommandLine.h"
+#include "Window/CommandLine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the painter keeps of a picture, without its window.
-#include "Document.h"
+#include "Documents/Document.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +11,8 @@
 #include <QThread>
 #include <cstdlib>
 
-#include "Autosave.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Documents/Autosave.h"
 #include "History/UndoRecovery.h"
 #include "PainterTest.h"
 #ifdef Q_OS_UNIX

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "LayerPanel.h"
+#include "Layers/LayerPanel.h"
 
 #include <QAction>
 #include <QFileInfo>

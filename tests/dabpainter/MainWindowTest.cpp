@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "MainWindow.h"
+#include "Window/MainWindow.h"
 
 #include <QAccessible>
 #include <QFileInfo>
@@ -14,12 +14,12 @@
 #include <cstring>
 #include <string>
 
-#include "BrushCursor.h"
-#include "CanvasPointer.h"
 #include "ESRender/ESImageRender.h"
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
+#include "Viewport/BrushCursor.h"
+#include "Viewport/CanvasPointer.h"
 #include "support/FailingDriver.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "MemoryWatch.h"
+#include "Window/MemoryWatch.h"
 
 #include <gtest/gtest.h>
 

@@ -8,12 +8,12 @@
 #include <memory>
 #include <optional>
 
-#include "BrushModel.h"
-#include "CanvasViewport.h"
+#include "Brush/BrushModel.h"
 #include "History/UndoRecovery.h"
-#include "MainWindow.h"
-#include "PresetBrowser.h"
+#include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Viewport/CanvasViewport.h"
+#include "Window/MainWindow.h"
 #include "support/BrushValues.h"
 #include "support/Files.h"
 

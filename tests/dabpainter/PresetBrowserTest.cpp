@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "PresetBrowser.h"
+#include "Presets/PresetBrowser.h"
 
 #include <QDir>
 #include <QDropEvent>
@@ -15,12 +15,12 @@
 #include <cmath>
 #include <map>
 
-#include "BrushPanel.h"
-#include "BrushPresentation.h"
+#include "Brush/BrushPanel.h"
+#include "Brush/BrushPresentation.h"
 #include "Import/GimpFiles.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
-#include "PresetList.h"
+#include "Presets/PresetList.h"
 #include "support/LogCapture.h"
 
 namespace dabcanvas::dabpainter {

@@ -12,7 +12,7 @@
 #include <map>
 #include <string>
 
-#include "CanvasPointer.h"
+#include "Viewport/CanvasPointer.h"
 #include "dabpainter/PainterTest.h"
 
 namespace dabcanvas::dabpainter {

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "Brush/BrushModel.h"
+#include "Presets/PresetLibrary.h"
+#include "Presets/PresetPreviews.h"
+#include "Window/Prompts.h"
+
+class QAction;
+class QLabel;
+class QLineEdit;
+class QListView;
+class QMenu;
+class QSettings;
+class QSortFilterProxyModel;
+
+namespace dabcanvas::dabpainter {
+
+class PresetListModel;
+
+// The presets to choose from, and what can be done with them. Brush and prompts must outlive it.
+class PresetBrowser : public QWidget {
+    Q_OBJECT
+
+public:
+    // isIdle: whether previews may be painted now.
+    PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFolders folders,
+                  std::function<bool()> isIdle, QWidget* parent = nullptr);
+
+    const PresetLibrary& library() const { return _library; }
+    const PresetPreviews& previews() const { return _previews; }
+    QListView* list() const { return _list; }
+    QLineEdit* search() const { return _search; }
+
+    // The preset that the brush was made from; an empty id: none.
+    const PresetId& chosen() const { return _chosen; }
+    QString chosenName() const { return _chosenName; }
+
+    // Each asks and tells through the prompts; false when nothing was done.
+    bool choose(const PresetId& id);  // the brush with all settings at their defaults for an empty id
+    bool saveNew();
+    bool overwrite(const PresetId& id);
+    bool rename(const PresetId& id);
+    bool remove(const PresetId& id);
+    // Takes files over and chooses the last one's last brush; one message for all that cannot be, and for what other
+    // programs' brushes have lost.
+    bool importFiles(const QStringList& paths);
+    bool exportTo(const PresetId& id);
+
+    // What is not about one preset, for menus.
+    QAction* saveAction() const { return _save; }
+    QAction* importAction() const { return _import; }
+
+    // Which preset it was and whether presets set the colour. The brush itself must have been read before,
+    // and is left as it is.
+    void readState(QSettings& settings);
+    void writeState(QSettings& settings) const;
+
+signals:
+    void aboutToUseBrush();  // to exchange or to keep it: a stroke is to end before
+    void chosenByPointer();  // who did so wants to paint now
+    void stateChanged();     // what writeState() writes
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    // Brush files, from elsewhere, and pictures, of which each becomes a brush with that tip.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void makeActions();
+    void makeLayout();
+    QAction* add(const QString& text, const std::function<void()>& act);
+    void popUp(const PresetId& target, const QPoint& at);
+    void setChosen(const PresetId& id, const QString& name);
+    void showChosen();
+    void refresh();
+    void setOwnLook();
+    PresetId idAt(const QModelIndex& index) const;
+    bool succeeds(const QString& fault);
+
+    BrushModel& _brush;
+    const Prompts& _prompts;
+    std::function<bool()> _isIdle;
+    PresetLibrary _library;
+    PresetPreviews _previews;
+    PresetId _chosen, _target;  // the target of the menu
+    QString _chosenName;
+
+    PresetListModel* _model;
+    QSortFilterProxyModel* _filtered;
+    QListView* _list;
+    QLineEdit* _search;
+    QLabel *_status, *_nothing;
+    QMenu* _menu;
+    QAction *_save, *_overwrite, *_rename, *_remove, *_import, *_export, *_setsColors;
+    QFileSystemWatcher _watcher;
+    QTimer _changeTimer, _refreshTimer;
+};
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "Presets/PresetList.h"
+
+#include <QDir>
+#include <QImage>
+#include <QMimeData>
+#include <QPainter>
+#include <QUrl>
+#include <algorithm>
+
+#include "Presets/PresetPreviews.h"
+#include "Window/Widgets.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+constexpr int kPad = 4;
+
+}  // namespace
+
+PresetListModel::PresetListModel(PresetLibrary& library, PresetPreviews& previews, QObject* parent)
+    : QAbstractListModel(parent), _library(library), _previews(previews) {
+    connect(&previews, &PresetPreviews::painted, this, [this](const PresetId& id) { rowChanged(rowOf(id)); });
+    connect(&previews, &PresetPreviews::damaged, this, &PresetListModel::setProblem);
+}
+
+void PresetListModel::refresh() {
+    _library.refresh();
+    if (_shown == _library.presets())
+        return;
+    beginResetModel();
+    _shown = _library.presets();
+    endResetModel();
+}
+
+void PresetListModel::setProblem(const PresetId& id, const QString& problem) {
+    _library.setProblem(id, problem);
+    const int row = rowOf(id);
+    if (row > 0)
+        _shown[std::size_t(row) - 1].problem = problem;
+    rowChanged(row);
+}
+
+const Preset* PresetListModel::presetAt(int row) const {
+    return row > 0 && row <= int(_shown.size()) ? &_shown[std::size_t(row) - 1] : nullptr;
+}
+
+int PresetListModel::rowOf(const PresetId& id) const {
+    if (id.path.isEmpty())
+        return 0;
+    const auto found =
+        std::find_if(_shown.begin(), _shown.end(), [&](const Preset& preset) { return preset.id == id; });
+    return found == _shown.end() ? -1 : int(found - _shown.begin()) + 1;
+}
+
+void PresetListModel::setChosen(const PresetId& id, bool modified) {
+    if (id == _chosen && modified == _modified)
+        return;
+    const int before = rowOf(_chosen);
+    _chosen = id;
+    _modified = modified;
+    rowChanged(before);
+    rowChanged(rowOf(id));
+}
+
+void PresetListModel::rowChanged(int row) {
+    if (row >= 0)
+        emit dataChanged(index(row), index(row));
+}
+
+int PresetListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(_shown.size()) + 1;
+}
+
+QString PresetListModel::toolTip(const Preset* preset) const {
+    if (!preset)
+        return tr("Every setting at its default");
+    if (!preset->problem.isEmpty())
+        return tr("\"%1\" cannot be used: %2").arg(preset->name, preset->problem);
+    return preset->name + QLatin1Char('\n') + QDir::toNativeSeparators(preset->id.path);
+}
+
+QVariant PresetListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Preset* preset = presetAt(index.row());
+    switch (role) {
+        case Qt::DisplayRole:
+        case Qt::AccessibleTextRole:
+            return preset ? preset->name : tr("Plain");
+        case Qt::ToolTipRole:
+            return toolTip(preset);
+        case pictureRole:
+            return preset ? _previews.picture(*preset) : QImage();
+        case chosenRole:
+            return (preset ? preset->id : PresetId()) == _chosen;
+        case modifiedRole:
+            return _modified;
+        case problemRole:
+            return preset ? preset->problem : QString();
+        case plainRole:
+            return !preset;
+        default:
+            return {};
+    }
+}
+
+Qt::ItemFlags PresetListModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractListModel::flags(index);
+    return presetAt(index.row()) ? flags | Qt::ItemIsDragEnabled : flags;
+}
+
+QStringList PresetListModel::mimeTypes() const {
+    return {QStringLiteral("text/uri-list")};
+}
+
+QMimeData* PresetListModel::mimeData(const QModelIndexList& indexes) const {
+    QList<QUrl> files;
+    for (const QModelIndex& index : indexes) {
+        if (const Preset* preset = presetAt(index.row()))
+            files << QUrl::fromLocalFile(preset->id.path);
+    }
+    auto* data = new QMimeData;
+    data->setUrls(files);
+    return data;
+}
+
+// ---- One item
+
+QSize PresetDelegate::pictureSize() {
+    return QSize(91, 36);
+}
+
+QSize PresetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return pictureSize() + QSize(2 * kPad, 2 * kPad + 2 + option.fontMetrics.height());
+}
+
+void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const {
+    painter->save();
+    const bool isChosen = index.data(PresetListModel::chosenRole).toBool();
+    const bool isBroken = !index.data(PresetListModel::problemRole).toString().isEmpty();
+    const QPalette& palette = option.palette;
+    const QRect cell = option.rect.adjusted(1, 1, -1, -1);
+    if (isChosen)
+        painter->fillRect(cell, palette.highlight());
+    else if (option.state & QStyle::State_MouseOver)
+        painter->fillRect(cell, palette.alternateBase());
+    if (option.state & QStyle::State_HasFocus) {
+        painter->setPen(QPen(palette.color(QPalette::Highlight), 1, Qt::DotLine));
+        painter->drawRect(cell.adjusted(0, 0, -1, -1));
+    }
+
+    const QRect frame(
+        QPoint(option.rect.x() + (option.rect.width() - pictureSize().width()) / 2, option.rect.y() + kPad),
+        pictureSize());
+    const QImage picture = index.data(PresetListModel::pictureRole).value<QImage>();
+    if (!picture.isNull()) {
+        painter->setBrushOrigin(frame.topLeft());
+        painter->fillRect(frame, checkerBrush());
+        painter->drawImage(frame, picture);
+    }
+    painter->setPen(palette.color(QPalette::Mid));
+    painter->drawRect(frame.adjusted(0, 0, -1, -1));
+
+    const auto group = isBroken ? QPalette::Disabled : QPalette::Normal;
+    painter->setPen(palette.color(group, isChosen ? QPalette::HighlightedText : QPalette::Text));
+    if (isBroken || index.data(PresetListModel::plainRole).toBool())
+        painter->drawText(frame, Qt::AlignCenter, isBroken ? tr("damaged") : tr("no preset"));
+    QString name = index.data(Qt::DisplayRole).toString();
+    if (isChosen && index.data(PresetListModel::modifiedRole).toBool())
+        name.prepend(QStringLiteral("* "));
+    const QRect line(frame.x(), frame.bottom() + 2, frame.width(), option.fontMetrics.height());
+    painter->drawText(line, Qt::AlignCenter,
+                      option.fontMetrics.elidedText(name, Qt::ElideRight, line.width()));
+    painter->restore();
+}
+
+}  // namespace dabcanvas::dabpainter

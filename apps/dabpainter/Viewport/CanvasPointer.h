@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QEvent>
+#include <QObject>
+#include <QPointF>
+#include <optional>
+
+#include "Brush/BrushModel.h"
+#include "Canvas/PointerOptions.h"
+#include "History/StepPicture.h"
+
+class QDDrawView;
+class QKeyEvent;
+class QMouseEvent;
+class QTabletEvent;
+class QTouchEvent;
+
+namespace dabcanvas::dabpainter {
+
+class BrushCursor;
+class CanvasViewport;
+
+// What the pointer does besides painting, which the view does itself: panning by the space bar, picking colours, the
+// dab of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the
+// keyboard.
+class CanvasPointer : public QObject {
+    Q_OBJECT
+
+public:
+    CanvasPointer(CanvasViewport& viewport, BrushCursor& cursor, BrushModel& model);
+
+    // To be called with every new view.
+    void watchView();
+    // Where it is over the canvas, or else the middle; in the viewport's points.
+    QPointF place() const;
+    void setTouch(TouchPolicy policy);
+    bool isPicking() const { return _picking; }
+    void setPicking(bool picking);
+    bool isIdle() const;  // no stroke is in progress
+    // It ends where it got to. Before the canvas is saved, replaced, zoomed or anything else: nothing waits for a device
+    // that may never be heard of again.
+    void endStroke();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void moved(QPointF bufferPoint);
+    void left();
+    void pressureChanged(float pressure);  // -1: the device gives none
+    void noShapeFound();                   // a stroke that was to be one is gone
+    void picked(const QColor& color);
+    void pickingChanged(bool picking);
+
+private:
+    bool filterKey(QKeyEvent& event);
+    bool filterMouse(QMouseEvent& event, QPointF at);
+    bool filterTablet(QTabletEvent& event, QPointF at);
+    bool filterTouch(QTouchEvent& event);
+    void pickAt(QPointF at);
+    void pressed(bool isEraser);
+    bool deliverRelease(QEvent& event);
+    void leaveDab(QPointF bufferPoint);
+    void strokeEnds();
+    void judgeShape(const dabcanvas::StepPicture& before);
+    void pointTo(QPointF at);
+    void chooseCursor();
+
+    CanvasViewport& _viewport;
+    BrushCursor& _cursor;
+    BrushModel& _model;
+
+    enum class Shown { none, grab, hand, cross, dot };
+    Shown _shown = Shown::none;
+    bool _spaceHeld = false;
+    bool _panning = false;
+    QPointF _panFrom;
+    std::optional<QPointF> _place;
+    TouchPolicy _touch = TouchPolicy::fingersPaint;
+    bool _picking = false;
+    bool _pickPressed = false;
+
+    // Of the stroke in progress: none has begun, or nothing was drawn yet
+    enum class Stroke { none, begun, drawn };
+    Stroke _stroke = Stroke::none;
+    QPointF _beganAt;  // buffer pixels
+    bool _manyFingers = false;
+    float _downPressure = 1;
+    dabcanvas::StepPicture _recordedBefore;  // of a stroke that is to be a shape
+};
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "Viewport/CanvasViewport.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "QDEAGLView/QDDrawView.h"
+#include "Window/Widgets.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+constexpr double kFitMargin = 16;
+
+}  // namespace
+
+CanvasViewport::CanvasViewport(QWidget* parent) : QWidget(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Canvas"));
+    setMinimumSize(200, 150);
+}
+
+CanvasViewport::~CanvasViewport() {
+    dropView();
+}
+
+// Nobody who hears that it goes (the pointer leaves it, the focus) may ask it for anything any more.
+void CanvasViewport::dropView() {
+    delete std::exchange(_view, nullptr);
+}
+
+void CanvasViewport::setView(std::unique_ptr<QDDrawView> view) {
+    dropView();
+    _view = view.release();
+    _view->setParent(this);
+    _view->setNavigable(true);
+    _view->setGround(checkerBrush(), palette().color(QPalette::Window).darker(130));
+    _view->setFit(ViewFit::free);
+    _view->setGeometry(rect());
+    _view->lower();
+    _view->show();
+    connect(_view, &QDDrawView::viewChanged, this, [this] { emit zoomChanged(zoom()); });
+    fit();
+}
+
+double CanvasViewport::zoom() const {
+    return _view ? _view->zoom() : 1;
+}
+
+double CanvasViewport::scale() const {
+    return zoom() / devicePixelRatioF();
+}
+
+QPointF CanvasViewport::bufferPoint(QPointF at) const {
+    return _view ? _view->viewToBuffer().map(at) : QPointF();
+}
+
+QPointF CanvasViewport::pointOfBuffer(QPointF bufferPoint) const {
+    return _view ? _view->bufferToView().map(bufferPoint) : QPointF();
+}
+
+void CanvasViewport::zoomAbout(double zoom, QPointF anchor) {
+    if (_view)
+        _view->zoomAbout(zoom, anchor);
+}
+
+void CanvasViewport::fit() {
+    if (!_view)
+        return;
+    _view->setViewRotation(0);
+    const QSizeF room = QSizeF(size()) - QSizeF(2 * kFitMargin, 2 * kFitMargin);
+    const QSizeF canvas =
+        _view->bufferToView().mapRect(QRectF(QPointF(), _view->bufferSize())).size() / zoom();
+    setZoom(std::min({1.0, room.width() / canvas.width(), room.height() / canvas.height()}));
+    _view->setViewCentre({_view->bufferSize().width() / 2, _view->bufferSize().height() / 2});
+    _fitZoom = zoom();
+}
+
+void CanvasViewport::pan(QPointF by) {
+    if (_view)
+        _view->panBy(by);
+}
+
+void CanvasViewport::resizeEvent(QResizeEvent*) {
+    if (!_view)
+        return;
+    const bool isFitted = zoom() == _fitZoom && _view->viewRotation() == 0;
+    _view->setGeometry(rect());
+    if (isFitted)
+        fit();
+}
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: MIT
+// The document's canvas: new, opened, recovered, placed on and saved.
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStatusBar>
+
+#include "Brush/BrushCommands.h"
+#include "Brush/BrushStorage.h"
+#include "Documents/Autosave.h"
+#include "Documents/ImageFiles.h"
+#include "Documents/NewCanvasDialog.h"
+#include "Layers/LayerPanel.h"
+#include "Presets/PresetBrowser.h"
+#include "QDEAGLView/QDDrawView.h"
+#include "Viewport/CanvasPointer.h"
+#include "Viewport/CanvasStatus.h"
+#include "Viewport/CanvasViewport.h"
+#include "Window/MainWindow.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+constexpr int kMessageTime = 5000;  // milliseconds
+
+// Shows that the application is at work.
+class BusyCursor {
+public:
+    BusyCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyCursor() { QApplication::restoreOverrideCursor(); }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
+};
+
+ReadImage readBusily(const QString& path) {
+    const BusyCursor busy;
+    return readImageFile(path);
+}
+
+}  // namespace
+
+// ---- The canvas
+
+bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(QDDrawView&)>& paint,
+                               const Document::Origin& origin) {
+    const QRectF frame(QPointF(0, 0), QSizeF(size));
+    const SurfaceKind kind = _settings.surface();
+    std::unique_ptr<QDDrawView> made =
+        QDDrawView::initWithFrame(frame, nullptr, {.kind = kind, .canvasDepth = depth});
+    if (!made && kind != SurfaceKind::automatic) {  // a setting must not keep anybody from painting
+        made = QDDrawView::initWithFrame(frame, nullptr, {.canvasDepth = depth});
+        statusBar()->showMessage(tr("The graphics card cannot paint this picture"), kMessageTime);
+    }
+    if (!made || !paint(*made)) {
+        return origin.hasHistory && made  // of which the caller knows more
+                   ? false
+                   : tellFault(tr("A canvas of %1 × %2 pixels cannot be had from this graphics driver.")
+                                   .arg(size.width())
+                                   .arg(size.height()));
+    }
+    _brush.attach(made.get());
+    if (!_brushRead) {
+        _brushRead = true;
+        setDefaultColors(_brush);  // of a first start
+        readBrush(_settings.file(), _brush);
+        _presets->readState(_settings.file());
+        // What was read need not be written; a first start's colours are in no file yet.
+        _unwritten = {BrushKey::renderColor, BrushKey::backRenderColor};
+    }
+    QDDrawView& next = *made;
+    _document.begin(next, origin);
+    _viewport->setView(std::move(made));
+    watchView();
+    return true;
+}
+
+void MainWindow::watchView() {
+    QDDrawView* now = view();
+    _pointer->watchView();
+    _flattens = false;
+    _layers->setView(now);
+    now->setEnableRecogition(_shapes->isChecked());
+    connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
+    connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);
+    connect(now, &QDDrawView::modifiedChanged, this, &MainWindow::showDocument);
+    connect(now, &QDDrawView::canvasChanged, &_document, &Document::noteChange);
+    connect(now, &QDDrawView::contextLost, this, &MainWindow::replaceLost, Qt::QueuedConnection);
+    connect(now, &QDDrawView::fingersTapped, this, [this](int fingers) {
+        if (fingers == 2)
+            stepHistory(&QDDrawCanvas::undo);
+        else if (fingers == 3)
+            stepHistory(&QDDrawCanvas::redo);
+    });
+    _undo->setEnabled(now->canUndo());
+    _redo->setEnabled(now->canRedo());
+    _status->showCanvas();
+}
+
+// The lowest layer of an opaque picture gets no holes: what is erased of it shows what it was painted on.
+void MainWindow::choosePaper(int layer) {
+    const QColor& ground = _document.plan().background;
+    _brush.setPaper(layer == 0 && ground.alpha() == 255 ? ground : QColor());
+}
+
+// A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
+void MainWindow::replaceLost() {
+    if (!view() || !view()->isContextLost())
+        return;
+    const QImage seen = view()->displayImage();
+    const bool replaced = openPicture(seen, {.path = _document.path(),
+                                             .plan = _document.plan(),
+                                             .copy = _autosave->takeName(),
+                                             .isUnsaved = true});
+    if (replaced)
+        statusBar()->showMessage(
+            tr("The graphics card was lost for a moment; the picture is here, its undo steps are not"),
+            2 * kMessageTime);
+}
+
+// Always false.
+bool MainWindow::tellFault(const QString& fault) {
+    _prompts.tell(this, fault);
+    return false;
+}
+
+bool MainWindow::startCanvas(const CanvasPlan& plan) {
+    const QColor& ground = plan.background;
+    return replaceCanvas(plan.size, 8,
+                         [&](QDDrawView& view) {
+                             view.clearWithColor(ground.alpha() == 0 ? ESColor() : ESColor(ground), false);
+                             return true;
+                         },
+                         {.path = {}, .plan = plan, .copy = _autosave->takeName()});
+}
+
+void MainWindow::clearCanvas() {
+    _pointer->endStroke();
+    _document.clear();
+}
+
+void MainWindow::newCanvas() {
+    _pointer->endStroke();
+    if (!mayDiscard())
+        return;
+    NewCanvasDialog dialog(_document.plan(), this);
+    while (dialog.exec() == QDialog::Accepted && !startCanvas(dialog.plan())) {
+    }
+}
+
+// ---- Files
+
+bool MainWindow::openImage(const QString& path) {
+    const ReadImage read = readBusily(path);
+    if (!read.fault.isEmpty())
+        return tellFault(read.fault);
+    const CanvasPlan plan{read.image.size(), isOpaque(read.image) ? Qt::white : Qt::transparent};
+    return openPicture(
+        read.image,
+        {.path = QFileInfo(path).absoluteFilePath(), .plan = plan, .copy = _autosave->takeName()});
+}
+
+bool MainWindow::openPicture(const QImage& image, const Document::Origin& origin) {
+    return replaceCanvas(
+        image.size(), 8,
+        [&](QDDrawView& view) { return view.setImageInBufferRect(image, QRectF(image.rect())); }, origin);
+}
+
+// From its history, or, where that cannot be had, from its copy.
+bool MainWindow::recover(const LeftPicture& picture) {
+    if (picture.history.isEmpty())
+        return openCopy(picture);
+    QString problem;
+    const bool recovered = replaceCanvas(
+        picture.size, picture.depth,
+        [&](QDDrawView& view) { return view.recoverHistory(picture.history, &problem); },
+        {.path = picture.path,
+         .plan = {picture.size, picture.background.isValid() ? picture.background : QColor(Qt::white)},
+         .copy = _autosave->takeName(picture.copy),
+         .isUnsaved = true,
+         .hasHistory = true});
+    if (recovered || problem.isEmpty())
+        return recovered;
+    return QFileInfo::exists(picture.copy)
+               ? openCopy(picture)
+               : tellFault(tr("The picture cannot be recovered: %1.").arg(problem));
+}
+
+bool MainWindow::openCopy(const LeftPicture& picture) {
+    const ReadImage read = readBusily(picture.copy);
+    const QColor ground = picture.background.isValid() ? picture.background
+                          : isOpaque(read.image)       ? QColor(Qt::white)
+                                                       : QColor(Qt::transparent);
+    return read.fault.isEmpty() ? openPicture(read.image, {.path = picture.path,
+                                                           .plan = {read.image.size(), ground},
+                                                           .copy = _autosave->takeName(picture.copy),
+                                                           .isUnsaved = true})
+                                : tellFault(read.fault);
+}
+
+bool MainWindow::offerLeftPictures() {
+    const QList<LeftPicture> pictures = _left.list();
+    if (pictures.isEmpty())
+        return false;
+    const auto chosen = _prompts.pickLeft(this, _left, pictures);
+    _pointer->endStroke();
+    if (chosen && mayDiscard())
+        recover(*chosen);
+    return true;
+}
+
+bool MainWindow::placeImage(const QString& path) {
+    if (!view())
+        return false;
+    const ReadImage read = readBusily(path);
+    if (!read.fault.isEmpty())
+        return tellFault(read.fault);
+    const QSizeF canvas = view()->bufferSize();
+    QSizeF size = read.image.size();
+    if (size.width() > canvas.width() || size.height() > canvas.height())
+        size.scale(canvas, Qt::KeepAspectRatio);
+    const QPointF corner((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2);
+    // On whole pixels, so that a picture of its own size stays sharp.
+    const QRect rect(corner.toPoint(), size.toSize().expandedTo(QSize(1, 1)));
+    const QSizeF scale = view()->scale();
+    const QRectF inView(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
+                        rect.height() * scale.height());
+    _pointer->endStroke();
+    return view()->drawImage(read.image, inView) ||
+           tellFault(tr("The image could not be placed; the log says why."));
+}
+
+bool MainWindow::saveTo(const QString& path) {
+    _pointer->endStroke();
+    const QString fault = [&] {
+        const BusyCursor busy;
+        return _document.saveTo(path);
+    }();
+    if (!fault.isEmpty())
+        return tellFault(fault);
+    statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), kMessageTime);
+    return true;
+}
+
+void MainWindow::open() {
+    _pointer->endStroke();
+    if (!mayDiscard())
+        return;
+    const QStringList paths = _prompts.pickImages(this, tr("Open Image"), false);
+    if (!paths.isEmpty())
+        openImage(paths.first());
+}
+
+void MainWindow::place() {
+    _pointer->endStroke();
+    const QStringList paths = _prompts.pickImages(this, tr("Place Image"), false);
+    if (!paths.isEmpty())
+        placeImage(paths.first());
+}
+
+// Once a picture: what is saved has no layers any more, what is painted on has.
+bool MainWindow::mayFlatten() {
+    _flattens =
+        _flattens || !_document.hasLayers() ||
+        _prompts.confirm(
+            this, tr("Save the layers as one picture?"),
+            tr("The file shows all of them together. They stay here as long as this picture is open."),
+            tr("Save"));
+    return _flattens;
+}
+
+bool MainWindow::save() {
+    if (!mayFlatten())
+        return false;
+    return _document.hasFile() ? saveTo(_document.path()) : saveAs();
+}
+
+bool MainWindow::saveAs() {
+    _pointer->endStroke();
+    if (!mayFlatten())
+        return false;
+    const QString path = _prompts.pickSaveName(this, _document.suggestedPath());
+    return !path.isEmpty() && saveTo(path);
+}
+
+bool MainWindow::mayDiscard() {
+    if (!isUnsaved())
+        return true;
+    switch (_prompts.askUnsaved(this, _document.name())) {
+        case UnsavedAnswer::save:
+            return save();
+        case UnsavedAnswer::discard:
+            return true;
+        case UnsavedAnswer::cancel:
+            break;
+    }
+    return false;
+}
+
+}  // namespace dabcanvas::dabpainter

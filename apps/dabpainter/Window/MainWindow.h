@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMainWindow>
+#include <set>
+
+#include "Brush/BrushModel.h"
+#include "Documents/CanvasPlan.h"
+#include "Documents/Document.h"
+#include "Documents/LeftPictures.h"
+#include "History/StepPicture.h"
+#include "Presets/PresetLibrary.h"
+#include "Window/PainterSettings.h"
+#include "Window/Prompts.h"
+
+class QAction;
+class QActionGroup;
+class QDDrawCanvas;
+class QDDrawView;
+class QDockWidget;
+
+namespace dabcanvas::dabpainter {
+
+class Autosave;
+class BrushPanel;
+class CanvasPointer;
+class CanvasStatus;
+class CanvasViewport;
+class LayerPanel;
+class PresetBrowser;
+
+// The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
+// stroke in progress first.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    // The settings' file must outlive the window. copies: the folder of the copies of all runs, see LeftPictures.h.
+    MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& copies);
+    ~MainWindow() override;
+
+    // Each makes a canvas in place of the present one. False, after a message, when it cannot be had; then
+    // the present one stays. Unsaved changes are not asked for.
+    bool startCanvas(const CanvasPlan& plan);
+    bool openImage(const QString& path);
+    bool recover(const LeftPicture& picture);
+
+    // Onto the middle of the canvas, made smaller when it does not fit.
+    bool placeImage(const QString& path);
+    bool saveTo(const QString& path);
+    void clearCanvas();
+
+    // What dead runs left may be gone on with. False, and not a word, when there is nothing.
+    bool offerLeftPictures();
+
+    bool isUnsaved() const { return _document.isModified(); }
+    // Whether the canvas may go: there is nothing unsaved, or the user saved or gave it up.
+    bool mayDiscard();
+
+    BrushModel& brush() { return _brush; }
+    BrushPanel& panel() { return *_panel; }
+    PresetBrowser& presets() { return *_presets; }
+    CanvasViewport& viewport() { return *_viewport; }
+    CanvasPointer& pointer() { return *_pointer; }
+    Document& document() { return _document; }
+    PainterSettings& settings() { return _settings; }
+    Autosave& autosave() { return *_autosave; }
+    QDDrawView* view() const;
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    // Brush files, from elsewhere; pictures only where the list of brushes is.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    QDockWidget* addDock(const QString& title, const QString& name, QWidget* widget);
+    void makeFileMenu();
+    void makeEditMenu();
+    void makeCanvasMenu();
+    void makeBrushMenu();
+    void makeViewMenu();
+    void connectParts();
+    QAction* addTo(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
+                   const std::function<void()>& act);
+    // Of which one holds.
+    template <typename Value>
+    void addChoices(QMenu* menu, const QList<std::pair<QString, Value>>& rows, Value now,
+                    const std::function<void(Value)>& choose);
+
+    // File
+    bool replaceCanvas(QSize size, int depth, const std::function<bool(QDDrawView&)>& paint,
+                       const Document::Origin& origin);
+    bool openCopy(const LeftPicture& picture);
+    bool openPicture(const QImage& image, const Document::Origin& origin);
+    void watchView();
+    void choosePaper(int layer);
+    bool mayFlatten();
+    void replaceLost();
+    bool tellFault(const QString& fault);
+    void newCanvas();
+    void open();
+    void place();
+    bool save();
+    bool saveAs();
+    void showDocument();
+
+    void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
+    void askUndoSteps();
+    void recogniseShapes(bool on);
+    void zoomBy(double factor);
+    void toggleFullScreen();
+    void readState();
+    void writeState(QSettings& file);
+
+    PainterSettings _settings;
+    Prompts _prompts;
+    const LeftPictures _left;
+    BrushModel _brush;
+    Document _document;
+    Autosave* _autosave;
+
+    CanvasViewport* _viewport;
+    CanvasPointer* _pointer;
+    CanvasStatus* _status;
+    BrushPanel* _panel;
+    PresetBrowser* _presets;
+    LayerPanel* _layers;
+    QDockWidget *_presetDock, *_layerDock, *_dock;
+    QAction *_undo, *_redo, *_shapes;
+    bool _brushRead = false;
+    bool _flattens = false;         // the user knows
+    std::set<BrushKey> _unwritten;  // since the settings were written
+    bool _wasMaximized = false;
+};
+
+}  // namespace dabcanvas::dabpainter

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "Window/PainterSettings.h"
+
+#include <QSettings>
+#include <algorithm>
+#include <array>
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+constexpr char kSteps[] = "history/steps", kSurface[] = "canvas/surface", kTouch[] = "pointer/touch";
+constexpr int kDefaultSteps = 100;
+constexpr int kWriteDelay = 1000;  // milliseconds from a change to the file
+
+constexpr std::array kTouchNames{"paint", "move", "move once a pen was seen"};
+static_assert(kTouchNames.size() == std::size_t(TouchPolicy::pensOnceSeen) + 1);
+
+}  // namespace
+
+PainterSettings::PainterSettings(QSettings& file, QObject* parent) : QObject(parent), _file(file) {
+    _timer.setSingleShot(true);
+    _timer.setInterval(kWriteDelay);
+    connect(&_timer, &QTimer::timeout, this, &PainterSettings::write);
+}
+
+int PainterSettings::undoSteps() const {
+    return std::clamp(_file.value(QLatin1String(kSteps), kDefaultSteps).toInt(), 1, kMostUndoSteps);
+}
+
+void PainterSettings::setUndoSteps(int steps) {
+    set(kSteps, steps);
+    emit undoStepsChanged(undoSteps());
+}
+
+SurfaceKind PainterSettings::surface() const {
+    const QString name = _file.value(QLatin1String(kSurface)).toString();
+    return surfaceKindOf(name.toStdString()).value_or(SurfaceKind::automatic);
+}
+
+void PainterSettings::setSurface(SurfaceKind kind) {
+    set(kSurface, kind == SurfaceKind::gpu         ? QStringLiteral("gpu")
+                  : kind == SurfaceKind::processor ? QStringLiteral("processor")
+                                                   : QStringLiteral("auto"));
+}
+
+TouchPolicy PainterSettings::touch() const {
+    const QString name = _file.value(QLatin1String(kTouch)).toString();
+    const auto found = std::find(kTouchNames.begin(), kTouchNames.end(), name);
+    return found == kTouchNames.end() ? TouchPolicy::pensOnceSeen : TouchPolicy(found - kTouchNames.begin());
+}
+
+void PainterSettings::setTouch(TouchPolicy policy) {
+    set(kTouch, QLatin1String(kTouchNames[std::size_t(policy)]));
+    emit touchChanged(policy);
+}
+
+void PainterSettings::set(const char* name, const QVariant& value) {
+    _file.setValue(QLatin1String(name), value);
+    noteChange();
+}
+
+// Not put off by further changes: who drags a slider loses no more than a second of it.
+void PainterSettings::noteChange() {
+    if (!_timer.isActive())
+        _timer.start();
+}
+
+void PainterSettings::write() {
+    _timer.stop();
+    for (const auto& write : _writers)
+        write(_file);
+    _file.sync();
+}
+
+}  // namespace dabcanvas::dabpainter
