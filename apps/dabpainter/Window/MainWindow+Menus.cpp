@@ -72,11 +72,10 @@ void MainWindow::makeFileMenu() {
 
 void MainWindow::makeEditMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    _undo = addTo(menu, "edit.undo", tr("&Undo"), {QKeySequence(tr("Ctrl+Z"))},
-                  [this] { stepHistory(&QDDrawCanvas::undo); });
-    _redo =
-        addTo(menu, "edit.redo", tr("&Redo"), {QKeySequence(tr("Ctrl+Shift+Z")), QKeySequence(tr("Ctrl+Y"))},
-              [this] { stepHistory(&QDDrawCanvas::redo); });
+    _undo =
+        addTo(menu, "edit.undo", tr("&Undo"), {key("Ctrl+Z")}, [this] { stepHistory(&QDDrawCanvas::undo); });
+    _redo = addTo(menu, "edit.redo", tr("&Redo"), {key("Ctrl+Shift+Z"), key("Ctrl+Y")},
+                  [this] { stepHistory(&QDDrawCanvas::redo); });
     menu->addSeparator();
     addClipboard(menu);
     addTo(menu, "edit.undoSteps", tr("Undo &Steps…"), {}, [this] { askUndoSteps(); });
