@@ -36,6 +36,10 @@ public:
     // Where it is over the canvas, or else the middle; in the viewport's points.
     QPointF place() const;
     void setTouch(TouchPolicy policy);
+    bool fingersPaint() const { return _touch == TouchPolicy::fingersPaint; }
+    // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
+    void setSelecting(bool selecting);
+    bool isFree() const;  // it neither pans nor picks
     bool isPicking() const { return _picking; }
     void setPicking(bool picking);
     bool isIdle() const;  // no stroke is in progress
@@ -78,6 +82,7 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     TouchPolicy _touch = TouchPolicy::fingersPaint;
+    bool _selecting = false;
     bool _picking = false;
     bool _pickPressed = false;
 
