@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QImageReader>
 #include <QtEndian>
 #include <algorithm>
@@ -9,6 +8,7 @@
 #include "Documents/OpenRaster.h"
 #include "Documents/OpenRasterStack.h"
 #include "Documents/ZipFile.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -17,10 +17,6 @@ namespace {
 constexpr qint64 kMostText = 4 << 20;             // bytes of stack.xml
 constexpr qint64 kMostDecoded = qint64{1} << 30;  // pixels of all layers together
 constexpr qint64 kHeader = 24;                    // bytes of a PNG file up to its height
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("OpenRaster", text);
-}
 
 // By a PNG file's first bytes; empty for any other.
 QSize pngSize(const QByteArray& head) {

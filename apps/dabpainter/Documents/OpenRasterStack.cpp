@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Documents/OpenRasterStack.h"
 
-#include <QCoreApplication>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -31,10 +32,6 @@ constexpr Operation kOperations[] = {
     {ESBlendTypeErase, "svg:dst-out", "erase"},      {ESBlendTypeBehind, "svg:dst-over", "behind"},
     {ESBlendTypeReplace, "svg:src-over", "replace"}, {ESBlendTypeReset, "svg:src-over", "reset"},
 };
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("OpenRaster", text);
-}
 
 const Operation& operationOf(std::uint32_t blendType) {
     const auto* found =

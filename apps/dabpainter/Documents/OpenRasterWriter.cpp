@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include <QBuffer>
-#include <QCoreApplication>
 #include <algorithm>
 
 #include "Documents/OpenRaster.h"
 #include "Documents/OpenRasterStack.h"
 #include "Documents/ZipFile.h"
 #include "PictureKinds.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
 
 constexpr int kThumbnailSide = 256;
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("OpenRaster", text);
-}
 
 // Whether any of these bytes is another than 0.
 bool hasSome(const uchar* bytes, qsizetype count) {

@@ -16,6 +16,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/StraightLines.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -89,6 +90,7 @@ void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
     _lossesKnown.clear();
+    _lines->watchView();
     _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);

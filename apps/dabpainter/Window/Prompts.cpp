@@ -2,7 +2,6 @@
 #include "Window/Prompts.h"
 
 #include <QColorDialog>
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -16,14 +15,11 @@
 #include "Brush/BrushDrops.h"
 #include "Documents/ImageFiles.h"
 #include "Documents/LeftPicturesDialog.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("Prompts", text);
-}
 
 QString imageFilter() {
     QStringList patterns;
@@ -106,10 +102,10 @@ QString pickName(QWidget* parent, const QString& title, const QString& suggested
 QString nameOfKind(const QString& suffix) {
     const struct {
         const char *suffix, *name;
-    } kinds[] = {{"ora", QT_TRANSLATE_NOOP("Prompts", "OpenRaster, with layers (*.ora)")},
-                 {"png", QT_TRANSLATE_NOOP("Prompts", "PNG image (*.png)")},
-                 {"jpg", QT_TRANSLATE_NOOP("Prompts", "JPEG image (*.jpg *.jpeg)")},
-                 {"webp", QT_TRANSLATE_NOOP("Prompts", "WebP image, lossless (*.webp)")}};
+    } kinds[] = {{"ora", QT_TRANSLATE_NOOP("dabcanvas::dabpainter", "OpenRaster, with layers (*.ora)")},
+                 {"png", QT_TRANSLATE_NOOP("dabcanvas::dabpainter", "PNG image (*.png)")},
+                 {"jpg", QT_TRANSLATE_NOOP("dabcanvas::dabpainter", "JPEG image (*.jpg *.jpeg)")},
+                 {"webp", QT_TRANSLATE_NOOP("dabcanvas::dabpainter", "WebP image, lossless (*.webp)")}};
     for (const auto& kind : kinds) {
         if (suffix == QLatin1String(kind.suffix))
             return tr(kind.name);
