@@ -109,14 +109,14 @@ private:
     bool openPicture(const QImage& image, const Document::Origin& origin);
     void watchView();
     void choosePaper(int layer);
-    bool mayFlatten();
     void replaceLost();
     bool tellFault(const QString& fault);
     void newCanvas();
     void open();
     void place();
     bool save();
-    bool saveAs();
+    bool saveAs(const QString& suggested = {});
+    bool saveAsking(const QString& path);
     void showDocument();
 
     // A stroke, and what floats: before the canvas is saved, replaced or changed by something else.
@@ -156,8 +156,8 @@ private:
     QDockWidget *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;
-    bool _flattens = false;         // the user knows
-    std::set<BrushKey> _unwritten;  // since the settings were written
+    std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
+    std::set<BrushKey> _unwritten;          // since the settings were written
     bool _wasMaximized = false;
 };
 
