@@ -14,6 +14,7 @@
 #include "Presets/PresetLibrary.h"
 #include "Window/CommandLine.h"
 #include "Window/MainWindow.h"
+#include "Window/Translations.h"
 
 namespace {
 
@@ -41,7 +42,8 @@ int giveUp(const QString& what) {
 
 int runWindow(const CommandLine& line) {
     if (!QDDrawCanvas::initWithFrame(QRectF(0, 0, 16, 16)))
-        return giveUp(QStringLiteral("There is nothing to paint with; the log says what is missing."));
+        return giveUp(QCoreApplication::translate(
+            "dabcanvas::dabpainter", "There is nothing to paint with; the log says what is missing."));
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Dabcanvas"),
                        QStringLiteral("dabpainter"));
     const QDir data(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
@@ -75,11 +77,12 @@ int main(int argc, char** argv) {
             return print(usageText());
         if (line.version)
             return print(versionText());
-        const QApplication application(argc, argv);
+        QApplication application(argc, argv);
         QApplication::setApplicationName(QStringLiteral("dabpainter"));
         QApplication::setApplicationDisplayName(QStringLiteral("Dabpainter"));
         QApplication::setDesktopFileName(QStringLiteral("org.dabcanvas.dabpainter"));
         QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("dabpainter")));
+        installTranslations(application, line.language.isEmpty() ? QLocale() : QLocale(line.language));
         return runWindow(line);
     } catch (const std::bad_alloc&) {
         complain(QStringLiteral("out of memory"));

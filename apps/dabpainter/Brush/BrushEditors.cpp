@@ -12,6 +12,7 @@
 #include <cmath>
 
 #include "Documents/ImageFiles.h"
+#include "Window/Translations.h"
 #include "Window/Widgets.h"
 
 namespace dabcanvas::dabpainter {
@@ -70,6 +71,8 @@ private:
 };
 
 class ChoiceEditor : public BrushEditor {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::ChoiceEditor)
+
 public:
     ChoiceEditor(const BrushProperty& property, QWidget* parent) : BrushEditor(parent), _box(new QComboBox) {
         lineLayout(this)->addWidget(_box);
@@ -100,6 +103,8 @@ private:
 };
 
 class ControlEditor : public BrushEditor {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::ControlEditor)
+
 public:
     ControlEditor(int labelWidth, QWidget* parent) : BrushEditor(parent) {
         auto* grid = new QGridLayout(this);
@@ -158,6 +163,8 @@ private:
 };
 
 class ImagesEditor : public BrushEditor {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::ImagesEditor)
+
 public:
     ImagesEditor(const BrushProperty& property, const Prompts& prompts, QWidget* parent)
         : BrushEditor(parent),

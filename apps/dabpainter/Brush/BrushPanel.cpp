@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "Presets/SampleStroke.h"
+#include "Window/Translations.h"
 #include "Window/Widgets.h"
 
 namespace dabcanvas::dabpainter {
@@ -87,8 +88,9 @@ BrushRow::BrushRow(const BrushProperty& property, BrushModel& model, const Promp
     }
     grid->addWidget(_reset, 0, 2, Qt::AlignTop);
     // Rich text, so that long ones break into lines.
-    setToolTip(QStringLiteral("<p>%1</p><p><i>%2</i></p>")
-                   .arg(QString::fromUtf8(property.about).toHtmlEscaped(), QLatin1String(property.name)));
+    setToolTip(
+        QStringLiteral("<p>%1</p><p><i>%2</i></p>")
+            .arg(trOfTable(QString::fromUtf8(property.about)).toHtmlEscaped(), QLatin1String(property.name)));
 
     connect(_editor, &BrushEditor::edited, this, &BrushRow::edit);
     connect(_editor, &BrushEditor::cleared, this, [this] { _model.reset(_property.key); });
@@ -121,7 +123,7 @@ void BrushRow::refreshReset() {
 
 bool BrushRow::matches(const QString& text) const {
     const QString all = _label + QLatin1Char(' ') + QLatin1String(_property.name) + QLatin1Char(' ') +
-                        QString::fromUtf8(_property.about);
+                        trOfTable(QString::fromUtf8(_property.about));
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return std::all_of(words.begin(), words.end(),
                        [&](const QString& word) { return all.contains(word, Qt::CaseInsensitive); });

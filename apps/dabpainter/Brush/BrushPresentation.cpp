@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Window/Translations.h"
+
 namespace dabcanvas::dabpainter {
 
 namespace {
@@ -178,7 +180,8 @@ BrushPresentation brushPresentation(const BrushProperty& property) {
     const Hint hint = given ? *given : Hint{property.key};
     BrushPresentation shown;
     shown.order = int(given ? given - kHints : std::ssize(kHints) + std::ptrdiff_t(property.key));
-    shown.label = hint.label ? QString::fromUtf8(hint.label) : labelFromName(QLatin1String(property.name));
+    shown.label =
+        trOfTable(hint.label ? QString::fromUtf8(hint.label) : labelFromName(QLatin1String(property.name)));
     // Recognising shapes is a mode of the window's, whatever the brush.
     shown.place = property.group == BrushGroup::recognition ? BrushPlace::hidden : hint.place;
     shown.bend = hint.bend;
@@ -208,17 +211,17 @@ BrushPresentation controlPresentation() {
 }
 
 QString choiceLabel(const BrushChoice& choice) {
-    return choice.name.left(1).toUpper() + choice.name.mid(1);
+    return trOfTable(choice.name.left(1).toUpper() + choice.name.mid(1));
 }
 
 QString brushGroupTitle(BrushGroup group) {
     for (const auto& row : kGroupTitles) {
         if (row.group == group)
-            return QString::fromUtf8(row.title);
+            return trOfTable(QString::fromUtf8(row.title));
     }
     QString title = QString::fromUtf8(brushGroupName(group));
     title[0] = title[0].toUpper();
-    return title;
+    return trOfTable(title);
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Documents/ImageFiles.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
@@ -9,14 +8,11 @@
 
 #include "OutputFile.h"
 #include "PictureKinds.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("ImageFiles", text);
-}
 
 QString shown(const QString& path) {
     return QDir::toNativeSeparators(path);

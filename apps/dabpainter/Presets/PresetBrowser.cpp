@@ -224,6 +224,8 @@ void PresetBrowser::dropEvent(QDropEvent* event) {
 }
 
 void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
+    if (_chosen != id)
+        _previous = _chosen;
     _chosen = id;
     _chosenName = name;
     emit stateChanged();
@@ -275,6 +277,10 @@ bool PresetBrowser::choose(const PresetId& id) {
     const Preset* preset = _library.find(id);
     setChosen(id, preset ? preset->name : QFileInfo(id.path).completeBaseName());
     return true;
+}
+
+bool PresetBrowser::choosePrevious() {
+    return (_previous.path.isEmpty() || _library.find(_previous)) && choose(_previous);
 }
 
 bool PresetBrowser::saveNew() {

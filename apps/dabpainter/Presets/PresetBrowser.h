@@ -44,6 +44,7 @@ public:
 
     // Each asks and tells through the prompts; false when nothing was done.
     bool choose(const PresetId& id);  // the brush with all settings at their defaults for an empty id
+    bool choosePrevious();            // and back again
     bool saveNew();
     bool overwrite(const PresetId& id);
     bool rename(const PresetId& id);
@@ -91,7 +92,7 @@ private:
     std::function<bool()> _isIdle;
     PresetLibrary _library;
     PresetPreviews _previews;
-    PresetId _chosen, _target;  // the target of the menu
+    PresetId _chosen, _previous, _target;  // the target of the menu
     QString _chosenName;
 
     PresetListModel* _model;

@@ -2,7 +2,6 @@
 #include "Presets/PresetLibrary.h"
 
 #include <QCollator>
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -24,16 +23,12 @@ namespace {
 constexpr char kSuffix[] = ".xbf";
 constexpr int kMostFileName = 80;  // characters; of at most three bytes each, which file systems take
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("PresetLibrary", text);
-}
-
 QString fault(const QString& path, const QString& problem) {
-    return tr("\"%1\" is no usable brush file: %2.").arg(QFileInfo(path).fileName(), problem);
+    return PresetLibrary::tr("\"%1\" is no usable brush file: %2.").arg(QFileInfo(path).fileName(), problem);
 }
 
 QString unwritable(const QString& path, const QString& problem) {
-    return tr("\"%1\" could not be written: %2.").arg(QDir::toNativeSeparators(path), problem);
+    return PresetLibrary::tr("\"%1\" could not be written: %2.").arg(QDir::toNativeSeparators(path), problem);
 }
 
 QByteArray contentOf(const QString& path) {
@@ -46,7 +41,7 @@ std::vector<Preset> presetsOfFile(const QFileInfo& file, bool own) {
     QString problem;
     const auto names = QDBrushManager::brushNamesWithXBFPath(file.filePath(), nullptr, &problem);
     if (names && names->isEmpty() && problem.isEmpty())
-        problem = tr("it holds no brush");
+        problem = PresetLibrary::tr("it holds no brush");
     std::vector<Preset> presets;
     const int count = names ? int(names->size()) : 0;
     for (int i = 0; i < std::max(count, 1); ++i) {

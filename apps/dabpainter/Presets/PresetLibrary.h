@@ -2,6 +2,7 @@
 // The brush files of the user and of the installation.
 #pragma once
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -41,6 +42,8 @@ struct Preset {
 //
 // Errors   a fault is a sentence for the user and empty when all went well; then nothing is half done.
 class PresetLibrary {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::PresetLibrary)
+
 public:
     explicit PresetLibrary(PresetFolders folders) : _folders(std::move(folders)) {}
     const PresetFolders& folders() const { return _folders; }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Viewport/CanvasPointer.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
@@ -37,11 +35,6 @@ QCursor dotCursor() {
     painter.fillRect(4, 4, 3, 3, QColor(0, 0, 0, 220));
     painter.end();
     return QCursor(dot, 5, 5);
-}
-
-bool isTyping() {
-    const QWidget* focus = QApplication::focusWidget();
-    return qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QAbstractSpinBox*>(focus);
 }
 
 }  // namespace
@@ -153,8 +146,7 @@ bool CanvasPointer::filterKey(QKeyEvent& event) {
         return true;
     }
     // Over the canvas the space bar is for panning; elsewhere it presses the button that has the focus.
-    const bool blocked = QApplication::activeModalWidget() || QApplication::activePopupWidget() || isTyping();
-    if (blocked || !(_viewport.underMouse() || _viewport.hasFocus()))
+    if (!_viewport.takesKeys())
         return false;
     _spaceHeld = true;
     chooseCursor();

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Viewport/CanvasViewport.h"
 
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QLineEdit>
 #include <algorithm>
 #include <utility>
 
@@ -76,6 +79,14 @@ void CanvasViewport::fit() {
     setZoom(std::min({1.0, room.width() / canvas.width(), room.height() / canvas.height()}));
     _view->setViewCentre({_view->bufferSize().width() / 2, _view->bufferSize().height() / 2});
     _fitZoom = zoom();
+}
+
+bool CanvasViewport::takesKeys() const {
+    const QWidget* focus = QApplication::focusWidget();
+    const bool isTyping =
+        qobject_cast<const QLineEdit*>(focus) || qobject_cast<const QAbstractSpinBox*>(focus);
+    return !isTyping && !QApplication::activeModalWidget() && !QApplication::activePopupWidget() &&
+           (underMouse() || hasFocus());
 }
 
 void CanvasViewport::pan(QPointF by) {

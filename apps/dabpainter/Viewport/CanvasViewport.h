@@ -40,6 +40,9 @@ public:
     QPointF pointOfBuffer(QPointF bufferPoint) const;
     // Points per buffer pixel.
     double scale() const;
+    // Whether a key that is pressed is meant for the canvas: nobody types, chooses or is asked, and the pointer is here
+    // or the keyboard.
+    bool takesKeys() const;
 
 signals:
     void zoomChanged(double zoom);

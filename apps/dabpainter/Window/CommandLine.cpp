@@ -2,6 +2,7 @@
 #include "Window/CommandLine.h"
 
 #include <QCommandLineParser>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include "Documents/ImageFiles.h"
@@ -38,9 +39,11 @@ QString imageFault(const QStringList& names, bool sized) {
 CommandLine readCommandLine(const QStringList& arguments) {
     QCommandLineParser parser;
     const QString help = QStringLiteral("help"), version = QStringLiteral("version"),
-                  size = QStringLiteral("size");
-    parser.addOptions(
-        {{{QStringLiteral("h"), help}, QString()}, {version, QString()}, {size, QString(), size}});
+                  size = QStringLiteral("size"), language = QStringLiteral("language");
+    parser.addOptions({{{QStringLiteral("h"), help}, QString()},
+                       {version, QString()},
+                       {size, QString(), size},
+                       {language, QString(), language}});
     CommandLine line;
     // The parser expects the program's name first.
     if (!parser.parse(QStringList(QStringLiteral("dabpainter")) + arguments)) {
@@ -50,6 +53,10 @@ CommandLine readCommandLine(const QStringList& arguments) {
     line.help = parser.isSet(help);
     line.version = parser.isSet(version);
     line.image = parser.positionalArguments().value(0);
+    line.language = parser.value(language);
+    if (parser.isSet(language) && QLocale(line.language).language() == QLocale::C)
+        line.fault =
+            QStringLiteral("--language is a language such as de or zh_CN, not \"%1\"").arg(line.language);
     if (parser.isSet(size))
         line.fault = takeSize(parser.value(size), line.size);
     if (line.fault.isEmpty())
@@ -62,8 +69,8 @@ QByteArray usageText() {
     dabpainter - paint with natural-media brushes
 
 SYNOPSIS
-    dabpainter [IMAGE]
-    dabpainter --size WxH
+    dabpainter [--language LANGUAGE] [IMAGE]
+    dabpainter [--language LANGUAGE] --size WxH
     dabpainter --help | --version
 
 DESCRIPTION
@@ -74,6 +81,9 @@ OPTIONS
     --size WxH
         Size of the new canvas in pixels, at most 16384 a side and 134217728 in
         all.
+
+    --language LANGUAGE
+        Speaks de, fr, ja, zh_CN or en instead of the system's language.
 
 EXIT STATUS
     0  the window was closed

@@ -13,6 +13,7 @@ struct CommandLine {
     bool help = false, version = false;
     QString image;              // to open; empty for none
     std::optional<QSize> size;  // of a new canvas, in pixels
+    QString language;           // empty: the system's
     QString fault;              // one line on what is wrong; then nothing else counts
 };
 

@@ -16,6 +16,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/StraightLines.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -78,6 +79,7 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
 void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
+    _lines->watchView();
     _flattens = false;
     _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window itself: menus, panels and what it remembers.
+// The window itself: its parts, and what it remembers.
 #include "Window/MainWindow.h"
 
 #include <QAction>
@@ -31,19 +31,17 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/SizeDrag.h"
+#include "Viewport/StraightLines.h"
+#include "Window/Commands.h"
 #include "Window/MemoryWatch.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr double kZoomStep = 1.25;
 constexpr int kStateVersion = 3;
 constexpr int kMessageTime = 2500;  // milliseconds
-
-QKeySequence key(const char* text) {
-    return QKeySequence(QString::fromLatin1(text));
-}
 
 void setIfOther(QSettings& settings, const QString& name, const QVariant& value) {
     if (settings.value(name) != value)
@@ -61,6 +59,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
       _prompts(std::move(prompts)),
       _left(copies),
       _autosave(new Autosave(_document, copies, this)),
+      _commands(new Commands(*this)),
       _viewport(new CanvasViewport) {
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
@@ -82,6 +81,8 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeCanvasMenu();
     makeBrushMenu();
     makeViewMenu();
+    new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
+    _lines = new StraightLines(*_viewport);
     showDocument();
     readState();
     connectParts();
@@ -121,6 +122,7 @@ void MainWindow::connectParts() {
         _unwritten.insert(key);
         _settings.noteChange();
     });
+    connect(_commands, &Commands::keysChanged, &_settings, &PainterSettings::noteChange);
     connect(_presets, &PresetBrowser::stateChanged, &_settings, &PainterSettings::noteChange);
     connect(_panel, &BrushPanel::stateChanged, &_settings, &PainterSettings::noteChange);
 }
@@ -151,156 +153,6 @@ QDockWidget* MainWindow::addDock(const QString& title, const QString& name, QWid
     addDockWidget(Qt::RightDockWidgetArea, dock);
     dock->installEventFilter(this);
     return dock;
-}
-
-// ---- Menus
-
-QAction* MainWindow::addTo(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
-                           const std::function<void()>& act) {
-    auto* action = new QAction(text, this);
-    action->setShortcuts(keys);
-    connect(action, &QAction::triggered, this, act);
-    addAction(action);  // so that the keys work while the menu bar is hidden
-    menu->addAction(action);
-    return action;
-}
-
-template <typename Value>
-void MainWindow::addChoices(QMenu* menu, const QList<std::pair<QString, Value>>& rows, Value now,
-                            const std::function<void(Value)>& choose) {
-    auto* group = new QActionGroup(menu);
-    for (const auto& [text, value] : rows) {
-        QAction* action = group->addAction(text);
-        action->setCheckable(true);
-        action->setChecked(value == now);
-        connect(action, &QAction::triggered, this, [choose, value = value] { choose(value); });
-        menu->addAction(action);
-    }
-}
-
-void MainWindow::makeFileMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
-    addTo(menu, tr("&New…"), {QKeySequence::New}, [this] { newCanvas(); });
-    addTo(menu, tr("&Open…"), {QKeySequence::Open}, [this] { open(); });
-    addTo(menu, tr("&Place Image…"), {}, [this] { place(); });
-    addTo(menu, tr("&Recover Pictures…"), {}, [this] {
-        if (!offerLeftPictures())
-            statusBar()->showMessage(tr("No run has left a picture"), kMessageTime);
-    });
-    menu->addSeparator();
-    addTo(menu, tr("&Save"), {QKeySequence::Save}, [this] { save(); });
-    addTo(menu, tr("Save &As…"), {key("Ctrl+Shift+S")}, [this] { saveAs(); });
-    menu->addSeparator();
-    addTo(menu, tr("&Quit"), {key("Ctrl+Q")}, [this] { close(); });
-}
-
-void MainWindow::makeEditMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    _undo =
-        addTo(menu, tr("&Undo"), {QKeySequence(tr("Ctrl+Z"))}, [this] { stepHistory(&QDDrawCanvas::undo); });
-    _redo = addTo(menu, tr("&Redo"), {QKeySequence(tr("Ctrl+Shift+Z")), QKeySequence(tr("Ctrl+Y"))},
-                  [this] { stepHistory(&QDDrawCanvas::redo); });
-    menu->addSeparator();
-    addTo(menu, tr("Undo &Steps…"), {}, [this] { askUndoSteps(); });
-    auto* buttons = new QToolBar(tr("History"));
-    buttons->setObjectName(QStringLiteral("historyBar"));
-    buttons->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    buttons->addAction(_undo);
-    buttons->addAction(_redo);
-    addToolBar(buttons);
-    _undo->setEnabled(false);
-    _redo->setEnabled(false);
-}
-
-void MainWindow::makeCanvasMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
-    addTo(menu, tr("&Clear"), {key("Delete")}, [this] { clearCanvas(); });
-    // The present picture stays where it is: moving it could fail for want of memory.
-    addChoices<SurfaceKind>(menu->addMenu(tr("&Paint with")),
-                            {{tr("&Automatic"), SurfaceKind::automatic},
-                             {tr("&Graphics Card"), SurfaceKind::gpu},
-                             {tr("&Processor"), SurfaceKind::processor}},
-                            _settings.surface(), [this](SurfaceKind kind) {
-                                _settings.setSurface(kind);
-                                statusBar()->showMessage(
-                                    tr("Holds for pictures that are made or opened from now on"),
-                                    2 * kMessageTime);
-                            });
-    addChoices<TouchPolicy>(menu->addMenu(tr("&Fingers")),
-                            {{tr("Move the Canvas Once a &Pen Was Seen"), TouchPolicy::pensOnceSeen},
-                             {tr("Always &Move the Canvas"), TouchPolicy::pensOnly},
-                             {tr("Al&ways Paint"), TouchPolicy::fingersPaint}},
-                            _settings.touch(), [this](TouchPolicy policy) { _settings.setTouch(policy); });
-}
-
-void MainWindow::makeBrushMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&Brush"));
-    addTo(menu, tr("&Smaller"), {key("[")}, [this] { stepRadius(_brush, -1); });
-    addTo(menu, tr("&Larger"), {key("]")}, [this] { stepRadius(_brush, 1); });
-    // What Shift makes of the bracket keys depends on the keyboard.
-    addTo(menu, tr("So&fter"), {key("{"), key("Shift+[")}, [this] { stepHardness(_brush, -1); });
-    addTo(menu, tr("&Harder"), {key("}"), key("Shift+]")}, [this] { stepHardness(_brush, 1); });
-    QMenu* opacity = menu->addMenu(tr("&Opacity"));
-    for (int tenth = 1; tenth <= 10; ++tenth) {
-        addTo(opacity, tr("%1 %").arg(tenth * 10), {QKeySequence(Qt::Key_0 + tenth % 10)},
-              [this, tenth] { _brush.setValue(BrushKey::opacity, float(tenth) / 10); });
-    }
-    menu->addSeparator();
-    addTo(menu, tr("S&wap Colours"), {key("X")}, [this] { swapColors(_brush); });
-    addTo(menu, tr("&Default Colours"), {key("D")}, [this] { setDefaultColors(_brush); });
-    QAction* pick = addTo(menu, tr("&Eyedropper"), {key("I")}, [] {});
-    pick->setCheckable(true);
-    connect(pick, &QAction::toggled, _pointer, &CanvasPointer::setPicking);
-    connect(_pointer, &CanvasPointer::pickingChanged, pick, &QAction::setChecked);
-    menu->addSeparator();
-    _shapes = addTo(menu, tr("Reco&gnise Shapes"), {key("Shift+R")}, [] {});
-    _shapes->setCheckable(true);
-    _shapes->setIconText(tr("Shapes"));
-    _shapes->setToolTip(
-        tr("Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)"));
-    connect(_shapes, &QAction::toggled, this, &MainWindow::recogniseShapes);
-    auto* buttons = new QToolBar(tr("Shapes"));
-    buttons->setObjectName(QStringLiteral("shapesBar"));
-    buttons->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    buttons->addAction(_shapes);
-    addToolBar(buttons);
-    menu->addSeparator();
-    menu->addAction(_presets->saveAction());
-    menu->addAction(_presets->importAction());
-    QAction* reset = addTo(menu, tr("&Reset All Settings"), {}, [this] { _brush.resetAll(); });
-    connect(&_brush, &BrushModel::presetChanged, reset, [this, reset] {
-        reset->setText(_brush.preset() ? tr("&Reset to Preset") : tr("&Reset All Settings"));
-    });
-}
-
-void MainWindow::makeViewMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&View"));
-    addTo(menu, tr("Zoom &In"), {key("Ctrl++"), key("Ctrl+=")}, [this] { zoomBy(kZoomStep); });
-    addTo(menu, tr("Zoom &Out"), {key("Ctrl+-")}, [this] { zoomBy(1 / kZoomStep); });
-    addTo(menu, tr("&Actual Pixels"), {key("Ctrl+1")}, [this] { zoomBy(1 / _viewport->zoom()); });
-    addTo(menu, tr("&Whole Canvas"), {key("Ctrl+0")}, [this] {
-        _pointer->endStroke();
-        _viewport->fit();
-    });
-    menu->addSeparator();
-    const auto isAnyShown = [this] {
-        return !_dock->isHidden() || !_presetDock->isHidden() || !_layerDock->isHidden();
-    };
-    QAction* panel = addTo(menu, tr("&Panels"), {}, [this, isAnyShown] {
-        const bool show = !isAnyShown();
-        for (QDockWidget* dock : {_presetDock, _layerDock, _dock})
-            dock->setVisible(show);
-    });
-    panel->setCheckable(true);
-    for (const QDockWidget* dock : {_presetDock, _layerDock, _dock})
-        connect(dock, &QDockWidget::visibilityChanged, panel,
-                [panel, isAnyShown] { panel->setChecked(isAnyShown()); });
-    // On the canvas alone: elsewhere the tabulator goes from field to field.
-    removeAction(panel);
-    _viewport->addAction(panel);
-    panel->setShortcut(Qt::Key_Tab);
-    panel->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    addTo(menu, tr("&Full Screen"), {key("F11")}, [this] { toggleFullScreen(); });
 }
 
 // ---- What they do
@@ -386,6 +238,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (!endsTyping(*event))
         return QMainWindow::keyPressEvent(event);
+    if (event->key() == Qt::Key_Escape && _viewport->hasFocus() && isFullScreen())
+        return toggleFullScreen();
     activateWindow();
     _viewport->setFocus();
 }
@@ -419,6 +273,7 @@ void MainWindow::readState() {
         resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(QSize(1440, 900)));
     restoreState(file.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
     _panel->readState(file);
+    _commands->read(file);
 }
 
 void MainWindow::writeState(QSettings& file) {
@@ -427,6 +282,7 @@ void MainWindow::writeState(QSettings& file) {
         setIfOther(file, QStringLiteral("window/state"), saveState(kStateVersion));
     }
     _panel->writeState(file);
+    _commands->write(file);
     if (_brushRead) {
         writeBrush(file, _brush, std::exchange(_unwritten, {}));
         _presets->writeState(file);

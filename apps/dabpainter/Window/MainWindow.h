@@ -26,8 +26,10 @@ class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
+class Commands;
 class LayerPanel;
 class PresetBrowser;
+class StraightLines;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -65,6 +67,7 @@ public:
     Document& document() { return _document; }
     PainterSettings& settings() { return _settings; }
     Autosave& autosave() { return *_autosave; }
+    Commands& commands() { return *_commands; }
     QDDrawView* view() const;
 
 protected:
@@ -84,7 +87,8 @@ private:
     void makeBrushMenu();
     void makeViewMenu();
     void connectParts();
-    QAction* addTo(QMenu* menu, const QString& text, const QList<QKeySequence>& keys,
+    // name: see Commands.h
+    QAction* addTo(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
                    const std::function<void()>& act);
     // Of which one holds.
     template <typename Value>
@@ -122,15 +126,17 @@ private:
     BrushModel _brush;
     Document _document;
     Autosave* _autosave;
+    Commands* _commands;
 
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;
     CanvasStatus* _status;
+    StraightLines* _lines;
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;
     QDockWidget *_presetDock, *_layerDock, *_dock;
-    QAction *_undo, *_redo, *_shapes;
+    QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;
     bool _flattens = false;         // the user knows
     std::set<BrushKey> _unwritten;  // since the settings were written

@@ -2,7 +2,6 @@
 #include "Window/Prompts.h"
 
 #include <QColorDialog>
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QImageReader>
@@ -14,14 +13,11 @@
 #include "Brush/BrushDrops.h"
 #include "Documents/LeftPicturesDialog.h"
 #include "PictureKinds.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("Prompts", text);
-}
 
 QString imageFilter() {
     QStringList patterns;

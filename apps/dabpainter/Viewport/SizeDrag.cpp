@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "Viewport/SizeDrag.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTabletEvent>
+#include <cmath>
+
+#include "QDEAGLView/QDDrawView.h"
+#include "Viewport/BrushCursor.h"
+#include "Viewport/CanvasViewport.h"
+
+namespace dabcanvas::dabpainter {
+
+namespace {
+
+constexpr double kTwice = 120;  // points that make it twice as large
+
+}  // namespace
+
+SizeDrag::SizeDrag(CanvasViewport& viewport, BrushCursor& cursor, BrushModel& brush, const QAction& key)
+    : QObject(&viewport), _viewport(viewport), _cursor(cursor), _brush(brush), _key(key) {
+    qApp->installEventFilter(this);  // before the pointer's own, which came earlier
+}
+
+bool SizeDrag::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            return watched->isWidgetType() && filterKey(*static_cast<QKeyEvent*>(event));
+        case QEvent::ApplicationDeactivate:
+            _held = false;  // nobody will tell of the release
+            return false;
+        case QEvent::MouseMove:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::TabletMove:
+        case QEvent::TabletPress:
+        case QEvent::TabletRelease:
+            if (!_held || watched != _viewport.view())
+                return false;
+            dragTo(static_cast<QSinglePointEvent*>(event)->position());
+            event->accept();
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool SizeDrag::filterKey(const QKeyEvent& event) {
+    const QKeySequence key = _key.shortcut();
+    if (key.isEmpty() || event.key() != key[0].key())
+        return false;
+    if (event.type() == QEvent::KeyRelease) {
+        const bool held = _held;
+        _held = _held && event.isAutoRepeat();
+        return held;
+    }
+    const QDDrawView* view = _viewport.view();
+    if (_held || event.modifiers() != key[0].keyboardModifiers() || !view || view->isDrawing() ||
+        !_viewport.takesKeys())
+        return _held;
+    _held = true;
+    _from.reset();
+    _radius = _brush.value(BrushKey::radius).toFloat();
+    return true;
+}
+
+void SizeDrag::dragTo(QPointF at) {
+    if (!_from)
+        _from = at;
+    _cursor.showAt(*_from);
+    const double times = std::exp2((at.x() - _from->x()) / kTwice);
+    _brush.setValue(BrushKey::radius, std::round(_radius * float(times) * 2) / 2);
+}
+
+}  // namespace dabcanvas::dabpainter
