@@ -41,7 +41,10 @@ public:
         : _canvas(canvas), _random(seed), _careful(careful) {}
 
     void act() {
-        switch (below(22)) {
+        switch (below(23)) {
+            case 22:
+                return _canvas.setSymmetry({SymmetryKind(below(5)), unit() * kWidth, unit() * kHeight,
+                                            2 + int(below(23)), below(2) == 0});
             case 20:
                 return _canvas.setViewTurn(unit() * 6.0, below(2) == 0);
             case 21:
