@@ -51,7 +51,7 @@ void CanvasPointer::watchView() {
     QDDrawView* view = _viewport.view();
     view->setAdjustCancelLine(false);  // short strokes are meant
     view->setUsesPenTilt(true);
-    setTouch(_touch);
+    tellOptions();
     view->setMouseTracking(true);
     view->setTabletTracking(true);
     _stroke = Stroke::none;
@@ -67,12 +67,23 @@ void CanvasPointer::watchView() {
 }
 
 void CanvasPointer::setTouch(TouchPolicy policy) {
-    _touch = policy;
-    if (QDDrawView* view = _viewport.view()) {
-        PointerOptions options = view->pointerOptions();
-        options.touch = policy;
-        view->setPointerOptions(options);
-    }
+    _options.touch = policy;
+    tellOptions();
+}
+
+void CanvasPointer::setPressure(const PressureCurve& curve) {
+    _options.pressure = curve;
+    tellOptions();
+}
+
+void CanvasPointer::setStabiliser(const StabiliserOptions& options) {
+    _options.stabiliser = options;
+    tellOptions();
+}
+
+void CanvasPointer::tellOptions() {
+    if (QDDrawView* view = _viewport.view())
+        view->setPointerOptions(_options);
 }
 
 QPointF CanvasPointer::place() const {

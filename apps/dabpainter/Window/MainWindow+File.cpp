@@ -17,6 +17,7 @@
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -80,6 +81,7 @@ void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
     _lines->watchView();
+    _symmetry->watchView();
     _flattens = false;
     _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());

@@ -30,6 +30,7 @@ class Commands;
 class LayerPanel;
 class PresetBrowser;
 class StraightLines;
+class SymmetryGuide;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -86,6 +87,13 @@ private:
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // To these menus: see MainWindow+Input.cpp
+    void addCanvasSizes(QMenu* menu);
+    bool takeCanvasArea(const QRect& area);
+    void addTurns(QMenu* menu);
+    void addPen(QMenu* menu);
+    void addSymmetry(QMenu* canvasMenu);
+    void addSymmetryOptions(QMenu* menu);
     void connectParts();
     // name: see Commands.h
     QAction* addTo(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
@@ -132,6 +140,7 @@ private:
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
+    SymmetryGuide* _symmetry;
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;
