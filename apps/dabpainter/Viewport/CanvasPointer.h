@@ -39,6 +39,10 @@ public:
     void setTouch(TouchPolicy policy);
     void setPressure(const PressureCurve& curve);
     void setStabiliser(const StabiliserOptions& options);
+    bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
+    // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
+    void setSelecting(bool selecting);
+    bool isFree() const;  // it neither pans nor picks
     bool isPicking() const { return _picking; }
     void setPicking(bool picking);
     bool isIdle() const;  // no stroke is in progress
@@ -82,6 +86,7 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     PointerOptions _options;
+    bool _selecting = false;
     bool _picking = false;
     bool _pickPressed = false;
 

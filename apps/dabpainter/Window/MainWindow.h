@@ -18,6 +18,7 @@ class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
+class QMimeData;
 
 namespace dabcanvas::dabpainter {
 
@@ -29,6 +30,8 @@ class CanvasViewport;
 class Commands;
 class LayerPanel;
 class PresetBrowser;
+class SelectionEditor;
+class SelectionTool;
 class StraightLines;
 class SymmetryGuide;
 
@@ -48,7 +51,7 @@ public:
     bool openImage(const QString& path);
     bool recover(const LeftPicture& picture);
 
-    // Onto the middle of the canvas, made smaller when it does not fit.
+    // Floats over the middle of the canvas, made smaller when it does not fit.
     bool placeImage(const QString& path);
     bool saveTo(const QString& path);
     void clearCanvas();
@@ -68,6 +71,7 @@ public:
     Document& document() { return _document; }
     PainterSettings& settings() { return _settings; }
     Autosave& autosave() { return *_autosave; }
+    SelectionEditor& selection() { return *_selection; }
     Commands& commands() { return *_commands; }
     QDDrawView* view() const;
 
@@ -76,7 +80,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    // Brush files, from elsewhere; pictures only where the list of brushes is.
+    // Brush files and pictures, from elsewhere; pictures become brushes where the list of brushes is.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -94,6 +98,9 @@ private:
     void addPen(QMenu* menu);
     void addSymmetry(QMenu* canvasMenu);
     void addSymmetryOptions(QMenu* menu);
+    void makeSelection();
+    void makeSelectMenu();
+    void addClipboard(QMenu* menu);
     void connectParts();
     // name: see Commands.h
     QAction* addTo(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
@@ -110,15 +117,24 @@ private:
     bool openPicture(const QImage& image, const Document::Origin& origin);
     void watchView();
     void choosePaper(int layer);
-    bool mayFlatten();
     void replaceLost();
     bool tellFault(const QString& fault);
     void newCanvas();
     void open();
     void place();
     bool save();
-    bool saveAs();
+    bool saveAs(const QString& suggested = {});
+    bool saveAsking(const QString& path);
     void showDocument();
+
+    // A stroke, and what floats: before the canvas is saved, replaced or changed by something else.
+    void finishEdits();
+    void watchSelection();
+    void removeSelected();
+    void cutSelected();
+    bool copyPicture(const QImage& picture);
+    bool placePicture(const QImage& picture);
+    bool placePicture(const QMimeData& from);
 
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
@@ -144,11 +160,13 @@ private:
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;
+    SelectionEditor* _selection;
+    SelectionTool* _selectionTool;
     QDockWidget *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;
-    bool _flattens = false;         // the user knows
-    std::set<BrushKey> _unwritten;  // since the settings were written
+    std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
+    std::set<BrushKey> _unwritten;          // since the settings were written
     bool _wasMaximized = false;
 };
 
