@@ -18,6 +18,7 @@
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -94,6 +95,7 @@ void MainWindow::watchView() {
     watchSelection();
     _lossesKnown.clear();
     _lines->watchView();
+    _symmetry->watchView();
     _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
