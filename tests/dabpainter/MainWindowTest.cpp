@@ -14,6 +14,8 @@
 #include <cstring>
 #include <string>
 
+#include "Canvas/CanvasLayers.h"
+#include "Documents/ImageFiles.h"
 #include "ESRender/ESImageRender.h"
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
@@ -448,7 +450,7 @@ TEST_F(MainWindowTest, WhatCannotBeHadFromItsHistoryComesFromItsCopy) {
         EXPECT_TRUE(_window->recover(left));
         EXPECT_EQ(pixel(20, 20), QColor(Qt::blue));
         EXPECT_TRUE(_window->isUnsaved());
-        EXPECT_EQ(_window->document().suggestedPath(), path("mine.png"));
+        EXPECT_EQ(_window->document().suggestedPath(), path("mine.jpg"));
         ASSERT_TRUE(QFile::exists(left.copy)) << "until there is a newer one";
         ASSERT_TRUE(_window->saveTo(path("mine.png")));
         EXPECT_FALSE(QFile::exists(left.copy));
@@ -499,6 +501,38 @@ TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {
     EXPECT_TRUE(_told.value(0).contains("no picture is written as .gif"));
 }
 
+TEST_F(MainWindowTest, WhatAFileCannotKeepIsAskedForOnce) {
+    _window->view()->layers().add(1, {.name = "Ink", .opacity = 0.5f});
+    paint();
+    const QImage seen = _window->view()->displayImage(), ink = _window->view()->layers().image(1);
+    EXPECT_TRUE(_window->document().suggestedPath().endsWith(".ora"));
+    _saveName = path("flat.png");
+    _lossAnswer = LossAnswer::cancel;
+    action("&Save")->trigger();
+    EXPECT_FALSE(QFile::exists(_saveName));
+    _lossAnswer = LossAnswer::lose;
+    for (int i = 0; i < 2; ++i)
+        action("&Save")->trigger();
+    EXPECT_EQ(_losses, std::vector(2, Document::Loss::layers)) << "and not when it was known";
+    EXPECT_EQ(QImage(_saveName).pixelColor(100, 75), seen.pixelColor(100, 75));
+    _saveName = path("layered.ora");
+    action("Save &As…")->trigger();
+    ASSERT_TRUE(_window->openImage(_saveName));
+    EXPECT_EQ(_window->view()->layers().image(1), ink);
+    EXPECT_EQ(_window->view()->layers().settings(1).name, "Ink");
+    EXPECT_FALSE(_window->isUnsaved() || _window->view()->canUndo());
+    paint();
+    action("&Save")->trigger();
+    EXPECT_EQ(_losses.size(), 2u) << "it goes on with its layers";
+    EXPECT_EQ(readPictureFile(_saveName).picture.layers.size(), 2u);
+
+    ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::transparent}));
+    _saveName = path("filled.jpg");
+    action("&Save")->trigger();
+    EXPECT_EQ(_losses.back(), Document::Loss::transparency);
+    EXPECT_TRUE(_told.isEmpty());
+}
+
 TEST_F(MainWindowTest, APlacedImageIsInTheMiddleAndFits) {
     _window->viewport().setZoom(1.37);
     ASSERT_TRUE(_window->placeImage(savedImage("small.png", Qt::red)));
@@ -520,6 +554,7 @@ TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
     const std::pair<const char*, QByteArray> kBad[] = {{"empty.png", ""},
                                                        {"text.png", "this is no picture"},
                                                        {"cut.png", png.left(png.size() / 2)},
+                                                       {"cut.ora", QByteArray("PK\3\4") + png},
                                                        {"huge.ppm", "P6\n200000 200000\n255\nabc"},
                                                        {"area.ppm", "P6\n16000 16000\n255\nabc"}};
     paint();

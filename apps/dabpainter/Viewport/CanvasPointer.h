@@ -35,8 +35,11 @@ public:
     void watchView();
     // Where it is over the canvas, or else the middle; in the viewport's points.
     QPointF place() const;
+    // These hold for every view.
     void setTouch(TouchPolicy policy);
-    bool fingersPaint() const { return _touch == TouchPolicy::fingersPaint; }
+    void setPressure(const PressureCurve& curve);
+    void setStabiliser(const StabiliserOptions& options);
+    bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
     // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
     void setSelecting(bool selecting);
     bool isFree() const;  // it neither pans nor picks
@@ -62,6 +65,7 @@ private:
     bool filterMouse(QMouseEvent& event, QPointF at);
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
+    void tellOptions();
     void pickAt(QPointF at);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
@@ -81,7 +85,7 @@ private:
     bool _panning = false;
     QPointF _panFrom;
     std::optional<QPointF> _place;
-    TouchPolicy _touch = TouchPolicy::fingersPaint;
+    PointerOptions _options;
     bool _selecting = false;
     bool _picking = false;
     bool _pickPressed = false;

@@ -18,6 +18,7 @@
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -35,9 +36,19 @@ public:
     BusyCursor& operator=(const BusyCursor&) = delete;
 };
 
-ReadImage readBusily(const QString& path) {
+template <typename Read>
+auto readBusily(const QString& path, const Read& read) {
     const BusyCursor busy;
-    return readImageFile(path);
+    return read(path);
+}
+
+// What a picture of a file is erased to, where it does not tell.
+QColor paperOf(const LayeredPicture& picture) {
+    if (picture.paper.isValid())
+        return picture.paper;
+    const PictureLayer& lowest = picture.layers.front();
+    const bool isWhole = lowest.image.size() == picture.size && isOpaque(lowest.image);
+    return isWhole ? Qt::white : Qt::transparent;
 }
 
 }  // namespace
@@ -82,8 +93,9 @@ void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
     watchSelection();
+    _lossesKnown.clear();
     _lines->watchView();
-    _flattens = false;
+    _symmetry->watchView();
     _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
@@ -158,13 +170,18 @@ void MainWindow::newCanvas() {
 // ---- Files
 
 bool MainWindow::openImage(const QString& path) {
-    const ReadImage read = readBusily(path);
+    const ReadPicture read = readBusily(path, readPictureFile);
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
-    const CanvasPlan plan{read.image.size(), isOpaque(read.image) ? Qt::white : Qt::transparent};
-    return openPicture(
-        read.image,
-        {.path = QFileInfo(path).absoluteFilePath(), .plan = plan, .copy = _autosave->takeName()});
+    const bool opened =
+        replaceCanvas(read.picture.size, 8, [&](QDDrawView& view) { return showLayers(read.picture, view); },
+                      {.path = QFileInfo(path).absoluteFilePath(),
+                       .plan = {read.picture.size, paperOf(read.picture)},
+                       .copy = _autosave->takeName(),
+                       .isPart = read.isPart});
+    if (opened && !read.warning.isEmpty())
+        _prompts.tell(this, read.warning);
+    return opened;
 }
 
 bool MainWindow::openPicture(const QImage& image, const Document::Origin& origin) {
@@ -194,7 +211,7 @@ bool MainWindow::recover(const LeftPicture& picture) {
 }
 
 bool MainWindow::openCopy(const LeftPicture& picture) {
-    const ReadImage read = readBusily(picture.copy);
+    const ReadImage read = readBusily(picture.copy, readImageFile);
     const QColor ground = picture.background.isValid() ? picture.background
                           : isOpaque(read.image)       ? QColor(Qt::white)
                                                        : QColor(Qt::transparent);
@@ -219,7 +236,7 @@ bool MainWindow::offerLeftPictures() {
 bool MainWindow::placeImage(const QString& path) {
     if (!view())
         return false;
-    const ReadImage read = readBusily(path);
+    const ReadImage read = readBusily(path, readImageFile);
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
     return placePicture(read.image);
@@ -253,29 +270,31 @@ void MainWindow::place() {
         placeImage(paths.first());
 }
 
-// Once a picture: what is saved has no layers any more, what is painted on has.
-bool MainWindow::mayFlatten() {
-    _flattens =
-        _flattens || !_document.hasLayers() ||
-        _prompts.confirm(
-            this, tr("Save the layers as one picture?"),
-            tr("The file shows all of them together. They stay here as long as this picture is open."),
-            tr("Save"));
-    return _flattens;
+// Once a picture: it stays whole as long as it is open.
+bool MainWindow::saveAsking(const QString& path) {
+    const Document::Loss loss = _document.lossIn(path);
+    if (loss != Document::Loss::none && !_lossesKnown.contains(loss)) {
+        switch (_prompts.askLoss(this, loss)) {
+            case LossAnswer::cancel:
+                return false;
+            case LossAnswer::keep:
+                return saveAs(Document::withoutLoss(path, loss));
+            case LossAnswer::lose:
+                _lossesKnown.insert(loss);
+        }
+    }
+    return saveTo(path);
 }
 
 bool MainWindow::save() {
-    if (!mayFlatten())
-        return false;
-    return _document.hasFile() ? saveTo(_document.path()) : saveAs();
+    return _document.hasFile() ? saveAsking(_document.path()) : saveAs();
 }
 
-bool MainWindow::saveAs() {
+bool MainWindow::saveAs(const QString& suggested) {
     finishEdits();
-    if (!mayFlatten())
-        return false;
-    const QString path = _prompts.pickSaveName(this, _document.suggestedPath());
-    return !path.isEmpty() && saveTo(path);
+    const QString path =
+        _prompts.pickSaveName(this, suggested.isEmpty() ? _document.suggestedPath() : suggested);
+    return !path.isEmpty() && saveAsking(path);
 }
 
 bool MainWindow::mayDiscard() {

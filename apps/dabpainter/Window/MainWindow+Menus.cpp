@@ -93,6 +93,9 @@ void MainWindow::makeEditMenu() {
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
     addTo(menu, "canvas.clear", tr("&Clear"), {key("Delete")}, [this] { removeSelected(); });
+    addCanvasSizes(menu);
+    addSymmetry(menu);
+    addPen(menu);
     // The present picture stays where it is: moving it could fail for want of memory.
     addChoices<SurfaceKind>(menu->addMenu(tr("&Paint with")),
                             {{tr("&Automatic"), SurfaceKind::automatic},
@@ -172,6 +175,8 @@ void MainWindow::makeViewMenu() {
         _pointer->endStroke();
         _viewport->fit();
     });
+    menu->addSeparator();
+    addTurns(menu);
     menu->addSeparator();
     const auto isAnyShown = [this] {
         return !_dock->isHidden() || !_presetDock->isHidden() || !_layerDock->isHidden();

@@ -36,6 +36,7 @@
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/Commands.h"
 #include "Window/MemoryWatch.h"
 
@@ -76,6 +77,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
     resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
+    _symmetry = new SymmetryGuide(*_viewport);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 

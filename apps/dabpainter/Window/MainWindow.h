@@ -33,6 +33,7 @@ class PresetBrowser;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
+class SymmetryGuide;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -90,6 +91,13 @@ private:
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // To these menus: see MainWindow+Input.cpp
+    void addCanvasSizes(QMenu* menu);
+    bool takeCanvasArea(const QRect& area);
+    void addTurns(QMenu* menu);
+    void addPen(QMenu* menu);
+    void addSymmetry(QMenu* canvasMenu);
+    void addSymmetryOptions(QMenu* menu);
     void makeSelection();
     void makeSelectMenu();
     void addClipboard(QMenu* menu);
@@ -109,14 +117,14 @@ private:
     bool openPicture(const QImage& image, const Document::Origin& origin);
     void watchView();
     void choosePaper(int layer);
-    bool mayFlatten();
     void replaceLost();
     bool tellFault(const QString& fault);
     void newCanvas();
     void open();
     void place();
     bool save();
-    bool saveAs();
+    bool saveAs(const QString& suggested = {});
+    bool saveAsking(const QString& path);
     void showDocument();
 
     // A stroke, and what floats: before the canvas is saved, replaced or changed by something else.
@@ -148,6 +156,7 @@ private:
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
+    SymmetryGuide* _symmetry;
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;
@@ -156,8 +165,8 @@ private:
     QDockWidget *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;
-    bool _flattens = false;         // the user knows
-    std::set<BrushKey> _unwritten;  // since the settings were written
+    std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
+    std::set<BrushKey> _unwritten;          // since the settings were written
     bool _wasMaximized = false;
 };
 
