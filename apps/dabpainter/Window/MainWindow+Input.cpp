@@ -41,13 +41,13 @@ QKeySequence key(const char* text) {
 
 void MainWindow::addCanvasSizes(QMenu* menu) {
     addTo(menu, "canvas.size", tr("Canvas &Size…"), {}, [this] {
-        _pointer->endStroke();
+        finishEdits();
         CanvasSizeDialog dialog(view()->bufferSize().toSize(), this);
         while (dialog.exec() == QDialog::Accepted && !takeCanvasArea(dialog.area())) {
         }
     });
     addTo(menu, "canvas.crop", tr("C&rop to Drawn"), {}, [this] {
-        _pointer->endStroke();
+        finishEdits();
         const QRect drawn = drawnArea(view()->layers().flattened(), _document.plan().background);
         if (drawn.isEmpty())
             statusBar()->showMessage(tr("Nothing is drawn"), kMessageTime);
