@@ -184,7 +184,7 @@ TEST_F(SelectionToolTest, PicturesComeInAndFloat) {
     QGuiApplication::clipboard()->setImage(solidImage({400, 100}, Qt::red));  // another program's
     run("edit.paste");
     EXPECT_EQ(_window->selection().floating()->bounds(), QRect(0, 50, 200, 50));
-    drag({{20, 20}, {40, 25}, {60, 20}});  // which paints
+    drag({{150, 15}, {140, 20}, {130, 15}});  // which paints
     EXPECT_FALSE(_window->selection().floating());
     EXPECT_TRUE(where().contains(QRect(0, 50, 200, 50)));
     EXPECT_LT(where().top(), 40);
