@@ -24,6 +24,7 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
+constexpr double kTap = 12;  // points that a finger may slip
 constexpr float kPress = 1;  // what the view takes a device for that measures none
 
 // The hot spot inside the brush's outline.
@@ -70,9 +71,14 @@ void CanvasPointer::setTouch(TouchPolicy policy) {
     _touch = policy;
     if (QDDrawView* view = _viewport.view()) {
         PointerOptions options = view->pointerOptions();
-        options.touch = policy;
+        options.touch = _paints ? policy : TouchPolicy::pensOnly;
         view->setPointerOptions(options);
     }
+}
+
+void CanvasPointer::setPaints(bool paints) {
+    _paints = paints;
+    setTouch(_touch);
 }
 
 QPointF CanvasPointer::place() const {
@@ -203,6 +209,7 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
 }
 
 bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
+    _penSeen = true;
     emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
     // Left to the mouse event that follows a tablet event which nobody took.
     if (_spaceHeld || _panning || _picking || _pickPressed ||
@@ -289,11 +296,24 @@ bool CanvasPointer::filterTouch(QTouchEvent& event) {
     if (event.device() && event.device()->type() == QInputDevice::DeviceType::TouchPad)
         return false;  // which moves the mouse
     _manyFingers = (_manyFingers && event.type() != QEvent::TouchBegin) || event.points().size() > 1;
+    watchTap(event);
     if (event.type() == QEvent::TouchBegin) {
         _downPressure = kPress;
         pressed(false);
     }
     return event.type() == QEvent::TouchEnd && deliverRelease(event);
+}
+
+void CanvasPointer::watchTap(const QTouchEvent& event) {
+    const bool fingersPaint =
+        _touch == TouchPolicy::fingersPaint || (_touch == TouchPolicy::pensOnceSeen && !_penSeen);
+    const QPointF at = event.points().isEmpty() ? QPointF() : event.points().first().position();
+    if (event.type() == QEvent::TouchBegin && fingersPaint)
+        _tapFrom = at;
+    if (_tapFrom && (_manyFingers || (at - *_tapFrom).manhattanLength() > kTap))
+        _tapFrom.reset();
+    if (event.type() == QEvent::TouchEnd && _tapFrom)
+        emit tapped(*std::exchange(_tapFrom, std::nullopt));
 }
 
 // ---- What the pointer shows

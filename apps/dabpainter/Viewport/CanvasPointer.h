@@ -36,6 +36,8 @@ public:
     // Where it is over the canvas, or else the middle; in the viewport's points.
     QPointF place() const;
     void setTouch(TouchPolicy policy);
+    // Off: nothing of the pointer's becomes a stroke, and fingers only move the canvas.
+    void setPaints(bool paints);
     bool isPicking() const { return _picking; }
     void setPicking(bool picking);
     bool isIdle() const;  // no stroke is in progress
@@ -49,6 +51,7 @@ signals:
     void moved(QPointF bufferPoint);
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
+    void tapped(QPointF viewPoint);        // one finger that may paint, and hardly moved
     void noShapeFound();                   // a stroke that was to be one is gone
     void picked(const QColor& color);
     void pickingChanged(bool picking);
@@ -58,6 +61,7 @@ private:
     bool filterMouse(QMouseEvent& event, QPointF at);
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
+    void watchTap(const QTouchEvent& event);
     void pickAt(QPointF at);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
@@ -78,6 +82,7 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     TouchPolicy _touch = TouchPolicy::fingersPaint;
+    bool _paints = true;
     bool _picking = false;
     bool _pickPressed = false;
 
@@ -85,7 +90,8 @@ private:
     enum class Stroke { none, begun, drawn };
     Stroke _stroke = Stroke::none;
     QPointF _beganAt;  // buffer pixels
-    bool _manyFingers = false;
+    bool _manyFingers = false, _penSeen = false;
+    std::optional<QPointF> _tapFrom;
     float _downPressure = 1;
     dabcanvas::StepPicture _recordedBefore;  // of a stroke that is to be a shape
 };

@@ -11,6 +11,7 @@ namespace dabcanvas::dabpainter {
 
 struct CommandLine {
     bool help = false, version = false;
+    bool startOnly = false;     // shows the window once, says so and ends: for measuring, and not in the usage
     QString image;              // to open; empty for none
     std::optional<QSize> size;  // of a new canvas, in pixels
     QString language;           // empty: the system's

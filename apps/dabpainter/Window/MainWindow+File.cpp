@@ -13,11 +13,13 @@
 #include "Layers/LayerPanel.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Tools/FillPointer.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
 #include "Window/MainWindow.h"
+#include "Window/RecentFiles.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -64,10 +66,13 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     if (!_brushRead) {
         _brushRead = true;
         setDefaultColors(_brush);  // of a first start
+        const bool isFirst = !_settings.file().childGroups().contains(QStringLiteral("brush"));
         readBrush(_settings.file(), _brush);
         _presets->readState(_settings.file());
         // What was read need not be written; a first start's colours are in no file yet.
         _unwritten = {BrushKey::renderColor, BrushKey::backRenderColor};
+        if (isFirst)
+            _presets->chooseShipped(QStringLiteral("pencil.xbf"));
     }
     QDDrawView& next = *made;
     _document.begin(next, origin);
@@ -82,6 +87,7 @@ void MainWindow::watchView() {
     _lines->watchView();
     _flattens = false;
     _layers->setView(now);
+    _fill->watch(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
     connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);
@@ -157,9 +163,12 @@ bool MainWindow::openImage(const QString& path) {
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
     const CanvasPlan plan{read.image.size(), isOpaque(read.image) ? Qt::white : Qt::transparent};
-    return openPicture(
+    const bool opened = openPicture(
         read.image,
         {.path = QFileInfo(path).absoluteFilePath(), .plan = plan, .copy = _autosave->takeName()});
+    if (opened)
+        _recent->add(path);
+    return opened;
 }
 
 bool MainWindow::openPicture(const QImage& image, const Document::Origin& origin) {
@@ -240,6 +249,7 @@ bool MainWindow::saveTo(const QString& path) {
     }();
     if (!fault.isEmpty())
         return tellFault(fault);
+    _recent->add(path);
     statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), kMessageTime);
     return true;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 #include <set>
 
 #include "Brush/BrushModel.h"
@@ -18,18 +19,25 @@ class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
+class QToolBar;
 
 namespace dabcanvas::dabpainter {
 
 class Autosave;
+class BrushBar;
 class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
 class Commands;
+class FillPointer;
 class LayerPanel;
 class PresetBrowser;
+class RecentFiles;
 class StraightLines;
+class Theme;
+class Tools;
+enum class Tool;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -68,6 +76,8 @@ public:
     PainterSettings& settings() { return _settings; }
     Autosave& autosave() { return *_autosave; }
     Commands& commands() { return *_commands; }
+    Tools& tools() { return *_tools; }
+    BrushBar& brushBar() { return *_brushBar; }
     QDDrawView* view() const;
 
 protected:
@@ -84,8 +94,11 @@ private:
     void makeFileMenu();
     void makeEditMenu();
     void makeCanvasMenu();
+    void makeToolMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    void makeHelpMenu();
+    void makeToolBars();
     void connectParts();
     // name: see Commands.h
     QAction* addTo(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
@@ -115,6 +128,9 @@ private:
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
     void recogniseShapes(bool on);
+    QAction* addTool(QMenu* menu, const char* name, const QString& text, const char* keys, Tool tool);
+    void showTool(Tool tool);
+    void fillAt(QPointF viewPoint);
     void zoomBy(double factor);
     void toggleFullScreen();
     void readState();
@@ -127,16 +143,23 @@ private:
     Document _document;
     Autosave* _autosave;
     Commands* _commands;
+    RecentFiles* _recent;
+    Theme* _theme;
 
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
+    Tools* _tools;
+    FillPointer* _fill;
     BrushPanel* _panel;
+    QToolBar* _toolBar;
+    BrushBar* _brushBar;
     PresetBrowser* _presets;
     LayerPanel* _layers;
     QDockWidget *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
+    std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;
     bool _flattens = false;         // the user knows
     std::set<BrushKey> _unwritten;  // since the settings were written
