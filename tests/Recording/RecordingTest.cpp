@@ -273,7 +273,7 @@ INSTANTIATE_TEST_SUITE_P(All, RecordingTest,
                          ::testing::Values(Script{"fresh", 100, 12, 0, 25, false},
                                            Script{"steps", 200, 12, 0, 25, true},
                                            Script{"begun later", 300, 12, 12, 25, true},
-                                           Script{"16 bits", 400, 6, 8, 20, true, 16}),
+                                           Script{"16 bits", 402, 6, 8, 20, true, 16}),
                          [](const auto& script) {
                              return QByteArray(script.param.name).replace(' ', "").toStdString();
                          });

@@ -132,6 +132,12 @@ TEST_P(CanvasFillTest, FillsBelowALineOfAnotherLayerInOneStep) {
     EXPECT_EQ(_canvas->image().convertToFormat(QImage::Format_Alpha8),
               line.convertToFormat(QImage::Format_Alpha8));
     EXPECT_EQ(_canvas->image().pixelColor(60 + 33, 45).green(), 255);
+    QPainterPath selected;
+    selected.addRect(0, 0, 60.5, 90);
+    EXPECT_EQ(fillCanvas(*_canvas, {61, 45}, Qt::red, 255, selected), FillOutcome::nothingToFill);
+    ASSERT_EQ(fillCanvas(*_canvas, {6, 45}, Qt::red, 255, selected), FillOutcome::filled);
+    EXPECT_EQ(_canvas->image().pixelColor(60 - 33, 45).red(), 255);
+    EXPECT_EQ(_canvas->image().pixelColor(60 + 33, 45).red(), 0);
     ASSERT_TRUE(layers.setSettings(1, {.name = {}, .isVisible = false}));
     EXPECT_EQ(fillCanvas(*_canvas, {60, 45}, Qt::green, 0), FillOutcome::layerHidden);
 }

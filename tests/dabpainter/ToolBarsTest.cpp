@@ -49,16 +49,19 @@ TEST_F(ToolBarsTest, AClickFillsInOneStepAndNothingIsDrawn) {
 }
 
 TEST_F(ToolBarsTest, TheCheckedToolIsTheOneInHand) {
-    const char* const names[] = {"tool.brush", "tool.eraser", "tool.smudge", "tool.fill", "brush.pick"};
-    for (int i = 0; i < 5; ++i) {
-        // A second time takes no check off; of the eraser it gives back what was before.
+    const char* const names[] = {"tool.brush", "tool.eraser", "tool.smudge",
+                                 "tool.fill",  "brush.pick",  "select.lasso"};
+    constexpr int kTools = int(std::size(names));
+    for (int i = 0; i < kTools; ++i) {
+        // A second time takes no check off; the eraser and a selection give back what was before.
         for (int times = 0; times < 2; ++times) {
             command(names[i])->trigger();
-            const int expected = i == 1 && times == 1 ? 0 : i;
-            for (int j = 0; j < 5; ++j)
+            const int expected = times == 0 ? i : i == 1 ? 0 : i == 5 ? 3 : i;
+            for (int j = 0; j < kTools; ++j)
                 EXPECT_EQ(command(names[j])->isChecked(), j == expected) << names[i] << ", " << names[j];
         }
     }
+    command("brush.pick")->trigger();
     click(20, 20);
     EXPECT_EQ(_window->tools().tool(), Tool::fill) << "one colour was picked";
 }

@@ -6,6 +6,7 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Selection/SelectedArea.h"
 #include "Tools/FloodFill.h"
 
 namespace dabcanvas::dabpainter {
@@ -27,6 +28,15 @@ public:
           _tolerance(tolerance),
           _locksAlpha(locksAlpha) {}
 
+    // selected: how much of the pixel, up to 255.
+    void put(std::uint8_t* pixel, int cover, int selected) const {
+        const std::uint8_t before[4] = {pixel[0], pixel[1], pixel[2], pixel[3]};
+        put(pixel, cover);
+        for (int i = 0; i < 4 && selected < 255; ++i)
+            pixel[i] = std::uint8_t(divided255(pixel[i] * selected + before[i] * (255 - selected)));
+    }
+
+private:
     void put(std::uint8_t* pixel, int cover) const {
         // A line that is seen at the rim may be another layer's, above: this one is filled below it.
         if (cover == 255 || isAsSeed(pixel))
@@ -41,8 +51,6 @@ public:
         if (_locksAlpha)
             giveAlpha(pixel, alpha);
     }
-
-private:
     bool isAsSeed(Pixel pixel) const {
         for (int i = 0; i < 4; ++i) {
             if (std::abs(pixel[i] - _seed[i]) > _tolerance)
@@ -75,11 +83,13 @@ QImage layerImage(QDDrawCanvas& canvas, const QRect& rect) {
 
 }  // namespace
 
-FillOutcome fillCanvas(QDDrawCanvas& canvas, QPoint at, const QColor& color, int tolerance) {
+FillOutcome fillCanvas(QDDrawCanvas& canvas, QPoint at, const QColor& color, int tolerance,
+                       const QPainterPath& selected) {
     const LayerSettings layer = canvas.layers().settings(canvas.layers().active());
     if (!layer.isVisible)
         return FillOutcome::layerHidden;
-    const FloodMask mask = floodMask(canvas.displayImage(), at, tolerance);
+    const bool isOutside = !selected.isEmpty() && !selected.contains(QPointF(at) + QPointF(0.5, 0.5));
+    const FloodMask mask = isOutside ? FloodMask() : floodMask(canvas.displayImage(), at, tolerance);
     if (mask.rect.isEmpty())
         return FillOutcome::nothingToFill;
     QImage picture = layerImage(canvas, mask.rect);
@@ -87,12 +97,14 @@ FillOutcome fillCanvas(QDDrawCanvas& canvas, QPoint at, const QColor& color, int
         return FillOutcome::failed;
     const QPoint seed = at - mask.rect.topLeft();
     const Paint paint(color, picture.constScanLine(seed.y()) + 4 * seed.x(), tolerance, layer.locksAlpha);
+    const QImage limits = selected.isEmpty() ? QImage() : coverageOf(selected, mask.rect);
     for (int y = 0; y < picture.height(); ++y) {
         std::uint8_t* row = picture.scanLine(y);
+        Pixel limit = limits.isNull() ? nullptr : limits.constScanLine(y);
         const std::uint8_t* cover = mask.row(mask.rect.top() + y);
         for (int x = 0; x < picture.width(); ++x) {
             if (cover[x] != 0)
-                paint.put(row + 4 * x, cover[x]);
+                paint.put(row + 4 * x, cover[x], limit ? limit[x] : 255);
         }
     }
     return canvas.setImageInBufferRect(picture, QRectF(mask.rect)) ? FillOutcome::filled

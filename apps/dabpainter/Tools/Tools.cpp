@@ -10,6 +10,14 @@
 
 namespace dabcanvas::dabpainter {
 
+namespace {
+
+bool usesBrush(Tool tool) {
+    return tool == Tool::brush || tool == Tool::eraser || tool == Tool::smudge;
+}
+
+}  // namespace
+
 Tools::Tools(BrushModel& brush, ToolBrushes brushes, QObject* parent)
     : QObject(parent), _brush(brush), _brushes(std::move(brushes)) {
     connect(&_brush, &BrushModel::changed, this, [this](BrushKey key) {
@@ -42,6 +50,11 @@ void Tools::endPick() {
         choose(_beforePick);
 }
 
+void Tools::endSelecting() {
+    if (_tool == Tool::rectangle || _tool == Tool::lasso)
+        choose(_painting);
+}
+
 void Tools::brushWillBeChosen() {
     if (!_exchanging)
         (smudges() ? _smudge : _paint) = _brushes.keep();
@@ -62,13 +75,13 @@ void Tools::setTolerance(int tolerance) {
 
 // The brush has become one of the other kind, by a preset or by its settings.
 void Tools::follow() {
-    if (!_exchanging && smudges() != (_tool == Tool::smudge) && _tool != Tool::fill && _tool != Tool::pick)
+    if (!_exchanging && smudges() != (_tool == Tool::smudge) && usesBrush(_tool))
         become(smudges() ? Tool::smudge : Tool::brush);
 }
 
 void Tools::takeBrushFor(Tool tool) {
     const bool toSmudge = tool == Tool::smudge;
-    if (tool == Tool::fill || tool == Tool::pick || toSmudge == smudges())
+    if (!usesBrush(tool) || toSmudge == smudges())
         return;
     const QScopedValueRollback exchanging(_exchanging, true);
     (toSmudge ? _paint : _smudge) = _brushes.keep();
@@ -81,6 +94,8 @@ void Tools::takeBrushFor(Tool tool) {
 
 void Tools::become(Tool tool) {
     _brush.setErases(tool == Tool::eraser);
+    if (paints(tool))
+        _painting = tool;
     if (std::exchange(_tool, tool) != tool)
         emit changed(tool);
 }

@@ -10,7 +10,11 @@ namespace dabcanvas::dabpainter {
 
 class BrushModel;
 
-enum class Tool { brush, eraser, smudge, fill, pick };
+enum class Tool { brush, eraser, smudge, fill, pick, rectangle, lasso };
+// Whether it puts paint onto the canvas or takes it off.
+inline bool paints(Tool tool) {
+    return tool <= Tool::fill;
+}
 
 // Where brushes come from.
 struct ToolBrushes {
@@ -36,8 +40,9 @@ public:
     // The user takes a brush of the list, and wants to paint with it.
     void brushWillBeChosen();
     void brushWasChosen();
-    // One colour is picked, and the tool before comes back.
+    // One colour is picked, or there is nothing more to select, and the tool before comes back.
     void endPick();
+    void endSelecting();
 
     // How much colours may differ that a fill takes for one: 0 to 255.
     int tolerance() const { return _tolerance; }
@@ -56,7 +61,7 @@ private:
     BrushModel& _brush;
     const ToolBrushes _brushes;
     Tool _tool = Tool::brush;
-    Tool _beforeEraser = Tool::brush, _beforePick = Tool::brush;
+    Tool _beforeEraser = Tool::brush, _beforePick = Tool::brush, _painting = Tool::brush;
     std::function<void()> _paint, _smudge;  // make the brushes again that are not in hand
     bool _exchanging = false;
     int _tolerance = 32;

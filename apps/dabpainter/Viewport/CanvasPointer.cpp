@@ -71,7 +71,8 @@ void CanvasPointer::setTouch(TouchPolicy policy) {
     _touch = policy;
     if (QDDrawView* view = _viewport.view()) {
         PointerOptions options = view->pointerOptions();
-        options.touch = _paints ? policy : TouchPolicy::pensOnly;
+        const bool noStrokes = !_paints || (_selecting && !fingersPaint());
+        options.touch = noStrokes ? TouchPolicy::pensOnly : policy;
         view->setPointerOptions(options);
     }
 }
@@ -79,6 +80,17 @@ void CanvasPointer::setTouch(TouchPolicy policy) {
 void CanvasPointer::setPaints(bool paints) {
     _paints = paints;
     setTouch(_touch);
+}
+
+void CanvasPointer::setSelecting(bool selecting) {
+    _selecting = selecting;
+    setTouch(_touch);
+    if (selecting)
+        _cursor.hideOutline();
+}
+
+bool CanvasPointer::isFree() const {
+    return !_spaceHeld && !_panning && !_picking && !_pickPressed;
 }
 
 QPointF CanvasPointer::place() const {
@@ -212,8 +224,7 @@ bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
     _penSeen = true;
     emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
     // Left to the mouse event that follows a tablet event which nobody took.
-    if (_spaceHeld || _panning || _picking || _pickPressed ||
-        (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
+    if (!isFree() || (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
         event.ignore();
         return true;
     }
@@ -341,7 +352,7 @@ void CanvasPointer::pickAt(QPointF at) {
 
 void CanvasPointer::pointTo(QPointF at) {
     _place = at;
-    if (_picking || _panning)
+    if (_picking || _panning || _selecting)
         _cursor.hideOutline();
     else
         _cursor.showAt(at);

@@ -38,6 +38,10 @@ public:
     void setTouch(TouchPolicy policy);
     // Off: nothing of the pointer's becomes a stroke, and fingers only move the canvas.
     void setPaints(bool paints);
+    bool fingersPaint() const { return _touch == TouchPolicy::fingersPaint; }
+    // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
+    void setSelecting(bool selecting);
+    bool isFree() const;  // it neither pans nor picks
     bool isPicking() const { return _picking; }
     void setPicking(bool picking);
     bool isIdle() const;  // no stroke is in progress
@@ -83,6 +87,7 @@ private:
     std::optional<QPointF> _place;
     TouchPolicy _touch = TouchPolicy::fingersPaint;
     bool _paints = true;
+    bool _selecting = false;
     bool _picking = false;
     bool _pickPressed = false;
 

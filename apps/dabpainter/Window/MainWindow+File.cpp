@@ -13,6 +13,7 @@
 #include "Layers/LayerPanel.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Selection/SelectionEditor.h"
 #include "Tools/FillPointer.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
@@ -76,6 +77,7 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     }
     QDDrawView& next = *made;
     _document.begin(next, origin);
+    _selection->setCanvas(nullptr);
     _viewport->setView(std::move(made));
     watchView();
     return true;
@@ -84,6 +86,7 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
 void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
+    watchSelection();
     _lines->watchView();
     _flattens = false;
     _layers->setView(now);
@@ -105,10 +108,12 @@ void MainWindow::watchView() {
     _status->showCanvas();
 }
 
-// The lowest layer of an opaque picture gets no holes: what is erased of it shows what it was painted on.
+// The lowest layer of an opaque picture gets no holes: what is erased or lifted off it shows what it was painted on.
 void MainWindow::choosePaper(int layer) {
     const QColor& ground = _document.plan().background;
-    _brush.setPaper(layer == 0 && ground.alpha() == 255 ? ground : QColor());
+    const QColor paper = layer == 0 && ground.alpha() == 255 ? ground : QColor();
+    _brush.setPaper(paper);
+    _selection->setPaper(paper);
 }
 
 // A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
@@ -143,12 +148,12 @@ bool MainWindow::startCanvas(const CanvasPlan& plan) {
 }
 
 void MainWindow::clearCanvas() {
-    _pointer->endStroke();
+    finishEdits();
     _document.clear();
 }
 
 void MainWindow::newCanvas() {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayDiscard())
         return;
     NewCanvasDialog dialog(_document.plan(), this);
@@ -214,7 +219,7 @@ bool MainWindow::offerLeftPictures() {
     if (pictures.isEmpty())
         return false;
     const auto chosen = _prompts.pickLeft(this, _left, pictures);
-    _pointer->endStroke();
+    finishEdits();
     if (chosen && mayDiscard())
         recover(*chosen);
     return true;
@@ -226,23 +231,11 @@ bool MainWindow::placeImage(const QString& path) {
     const ReadImage read = readBusily(path);
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
-    const QSizeF canvas = view()->bufferSize();
-    QSizeF size = read.image.size();
-    if (size.width() > canvas.width() || size.height() > canvas.height())
-        size.scale(canvas, Qt::KeepAspectRatio);
-    const QPointF corner((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2);
-    // On whole pixels, so that a picture of its own size stays sharp.
-    const QRect rect(corner.toPoint(), size.toSize().expandedTo(QSize(1, 1)));
-    const QSizeF scale = view()->scale();
-    const QRectF inView(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
-                        rect.height() * scale.height());
-    _pointer->endStroke();
-    return view()->drawImage(read.image, inView) ||
-           tellFault(tr("The image could not be placed; the log says why."));
+    return placePicture(read.image);
 }
 
 bool MainWindow::saveTo(const QString& path) {
-    _pointer->endStroke();
+    finishEdits();
     const QString fault = [&] {
         const BusyCursor busy;
         return _document.saveTo(path);
@@ -255,7 +248,7 @@ bool MainWindow::saveTo(const QString& path) {
 }
 
 void MainWindow::open() {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayDiscard())
         return;
     const QStringList paths = _prompts.pickImages(this, tr("Open Image"), false);
@@ -264,7 +257,7 @@ void MainWindow::open() {
 }
 
 void MainWindow::place() {
-    _pointer->endStroke();
+    finishEdits();
     const QStringList paths = _prompts.pickImages(this, tr("Place Image"), false);
     if (!paths.isEmpty())
         placeImage(paths.first());
@@ -288,7 +281,7 @@ bool MainWindow::save() {
 }
 
 bool MainWindow::saveAs() {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayFlatten())
         return false;
     const QString path = _prompts.pickSaveName(this, _document.suggestedPath());

@@ -6,10 +6,13 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <cmath>
+#include <tuple>
 
 #include "Brush/BrushPresentation.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Selection/SelectionEditor.h"
+#include "Selection/SelectionTool.h"
 #include "Tools/BrushBar.h"
 #include "Tools/CanvasFill.h"
 #include "Tools/FillPointer.h"
@@ -18,6 +21,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
+#include "Window/Commands.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -81,6 +85,16 @@ void MainWindow::makeToolBars() {
     for (const Tool tool : {Tool::brush, Tool::eraser, Tool::smudge, Tool::fill, Tool::pick})
         _toolBar->addAction(_toolActions[tool]);
     _toolBar->addSeparator();
+    const std::initializer_list<std::tuple<Tool, const char*, ToolSign>> selecting{
+        {Tool::rectangle, "select.rectangle", ToolSign::select},
+        {Tool::lasso, "select.lasso", ToolSign::lasso}};
+    for (const auto& [tool, name, sign] : selecting) {
+        QAction* action = _commands->find(QLatin1String(name))->action;
+        action->setIcon(toolIcon(sign));
+        _toolActions[tool] = action;
+        _toolBar->addAction(action);
+    }
+    _toolBar->addSeparator();
     _toolBar->addAction(_shapes);
     addToolBar(Qt::LeftToolBarArea, _toolBar);
     _undo->setIcon(toolIcon(ToolSign::undo));
@@ -105,6 +119,12 @@ void MainWindow::makeToolBars() {
         if (!picking)
             _tools->endPick();
     });
+    using Kind = SelectionTool::Kind;
+    connect(_selectionTool, &SelectionTool::kindChanged, this, [this] {
+        const Kind kind = _selectionTool->kind();
+        kind == Kind::none ? _tools->endSelecting()
+                           : _tools->choose(kind == Kind::lasso ? Tool::lasso : Tool::rectangle);
+    });
     connect(_presets, &PresetBrowser::aboutToUseBrush, _tools, &Tools::brushWillBeChosen);
     connect(_presets, &PresetBrowser::chosenByPointer, _tools, &Tools::brushWasChosen);
     connect(_tools, &Tools::changed, this, &MainWindow::showTool);
@@ -114,21 +134,25 @@ void MainWindow::makeToolBars() {
 void MainWindow::showTool(Tool tool) {
     for (const auto& [of, action] : _toolActions)
         action->setChecked(of == tool);
-    const bool paints = tool != Tool::fill;
-    _fill->setOn(!paints);
-    _lines->setOn(paints);
-    _pointer->setPaints(paints);
+    using Kind = SelectionTool::Kind;
+    _selectionTool->setKind(tool == Tool::rectangle ? Kind::rectangle
+                            : tool == Tool::lasso   ? Kind::lasso
+                                                    : Kind::none);
+    const bool draws = paints(tool) && tool != Tool::fill;
+    _fill->setOn(tool == Tool::fill);
+    _lines->setOn(draws);
+    _pointer->setPaints(tool != Tool::fill);
     _pointer->setPicking(tool == Tool::pick);
 }
 
 void MainWindow::fillAt(QPointF viewPoint) {
     if (!view())
         return;
-    _pointer->endStroke();
+    finishEdits();
     const QPointF at = _viewport->bufferPoint(viewPoint);
     const QColor color = _brush.value(BrushKey::renderColor).value<ESColor>().toQColor();
     switch (fillCanvas(*view(), QPoint(int(std::floor(at.x())), int(std::floor(at.y()))), color,
-                       _tools->tolerance())) {
+                       _tools->tolerance(), _selection->area())) {
         case FillOutcome::layerHidden:
             return statusBar()->showMessage(tr("This layer is hidden: nothing would be seen of it"),
                                             kMessageTime);

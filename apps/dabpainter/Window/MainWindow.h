@@ -20,6 +20,7 @@ class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
 class QToolBar;
+class QMimeData;
 
 namespace dabcanvas::dabpainter {
 
@@ -34,6 +35,8 @@ class FillPointer;
 class LayerPanel;
 class PresetBrowser;
 class RecentFiles;
+class SelectionEditor;
+class SelectionTool;
 class StraightLines;
 class Theme;
 class Tools;
@@ -55,7 +58,7 @@ public:
     bool openImage(const QString& path);
     bool recover(const LeftPicture& picture);
 
-    // Onto the middle of the canvas, made smaller when it does not fit.
+    // Floats over the middle of the canvas, made smaller when it does not fit.
     bool placeImage(const QString& path);
     bool saveTo(const QString& path);
     void clearCanvas();
@@ -75,6 +78,7 @@ public:
     Document& document() { return _document; }
     PainterSettings& settings() { return _settings; }
     Autosave& autosave() { return *_autosave; }
+    SelectionEditor& selection() { return *_selection; }
     Commands& commands() { return *_commands; }
     Tools& tools() { return *_tools; }
     BrushBar& brushBar() { return *_brushBar; }
@@ -85,7 +89,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    // Brush files, from elsewhere; pictures only where the list of brushes is.
+    // Brush files and pictures, from elsewhere; pictures become brushes where the list of brushes is.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -99,6 +103,9 @@ private:
     void makeViewMenu();
     void makeHelpMenu();
     void makeToolBars();
+    void makeSelection();
+    void makeSelectMenu();
+    void addClipboard(QMenu* menu);
     void connectParts();
     // name: see Commands.h
     QAction* addTo(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
@@ -124,6 +131,15 @@ private:
     bool save();
     bool saveAs();
     void showDocument();
+
+    // A stroke, and what floats: before the canvas is saved, replaced or changed by something else.
+    void finishEdits();
+    void watchSelection();
+    void removeSelected();
+    void cutSelected();
+    bool copyPicture(const QImage& picture);
+    bool placePicture(const QImage& picture);
+    bool placePicture(const QMimeData& from);
 
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
@@ -157,6 +173,8 @@ private:
     BrushBar* _brushBar;
     PresetBrowser* _presets;
     LayerPanel* _layers;
+    SelectionEditor* _selection;
+    SelectionTool* _selectionTool;
     QDockWidget *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     std::map<Tool, QAction*> _toolActions;

@@ -33,6 +33,9 @@ struct Prompts {
     // Which one to go on with; none: not now.
     std::function<std::optional<LeftPicture>(QWidget*, const LeftPictures&, const QList<LeftPicture>& now)>
         pickLeft;
+    std::function<QStringList(QWidget*)> pickPalettes;
+    std::function<QString(QWidget*, const QString& suggested)>
+        pickPaletteName;  // to save as; empty: given up
 };
 
 // Message boxes and file dialogs of Qt's own.
