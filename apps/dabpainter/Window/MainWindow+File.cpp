@@ -7,6 +7,7 @@
 
 #include "Brush/BrushCommands.h"
 #include "Brush/BrushStorage.h"
+#include "Colour/ColorPanel.h"
 #include "Documents/Autosave.h"
 #include "Documents/ImageFiles.h"
 #include "Documents/NewCanvasDialog.h"
@@ -82,6 +83,7 @@ void MainWindow::watchView() {
     _lines->watchView();
     _flattens = false;
     _layers->setView(now);
+    _colours->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
     connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);

@@ -40,7 +40,7 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr int kStateVersion = 3;
+constexpr int kStateVersion = 4;
 constexpr int kMessageTime = 2500;  // milliseconds
 
 void setIfOther(QSettings& settings, const QString& name, const QVariant& value) {
@@ -64,6 +64,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
     setCentralWidget(_viewport);
+    makeColourDock(folders);
     _presets = new PresetBrowser(_brush, _prompts, std::move(folders), [this] { return _pointer->isIdle(); });
     _presetDock = addDock(tr("Brushes"), QStringLiteral("presetDock"), _presets);
     _panel = new BrushPanel(_brush, _prompts);
@@ -72,7 +73,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), _layers);
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
-    resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
+    resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
@@ -134,7 +135,7 @@ MainWindow::~MainWindow() {
     // While this is still a window that their last signals can reach; the pointer goes before what it
     // watches.
     delete _pointer;
-    for (QDockWidget* dock : {_dock, _layerDock, _presetDock}) {
+    for (QDockWidget* dock : {_dock, _layerDock, _presetDock, _colourDock}) {
         disconnect(dock, &QDockWidget::visibilityChanged, nullptr, nullptr);  // which looks at both
         delete dock;
     }

@@ -26,6 +26,7 @@ class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
+class ColorPanel;
 class Commands;
 class LayerPanel;
 class PresetBrowser;
@@ -61,6 +62,7 @@ public:
 
     BrushModel& brush() { return _brush; }
     BrushPanel& panel() { return *_panel; }
+    ColorPanel& colours() { return *_colours; }
     PresetBrowser& presets() { return *_presets; }
     CanvasViewport& viewport() { return *_viewport; }
     CanvasPointer& pointer() { return *_pointer; }
@@ -81,6 +83,7 @@ protected:
 
 private:
     QDockWidget* addDock(const QString& title, const QString& name, QWidget* widget);
+    void makeColourDock(const PresetFolders& brushes);
     void makeFileMenu();
     void makeEditMenu();
     void makeCanvasMenu();
@@ -135,7 +138,8 @@ private:
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;
-    QDockWidget *_presetDock, *_layerDock, *_dock;
+    ColorPanel* _colours;
+    QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;
     bool _flattens = false;         // the user knows

@@ -92,7 +92,8 @@ QStringList pickPalettes(QWidget* parent) {
 }
 
 QString pickPaletteName(QWidget* parent, const QString& suggested) {
-    return pickName(parent, tr("Export Palette"), suggested, tr("GIMP palette (*.gpl)"), QStringLiteral("gpl"));
+    return pickName(parent, tr("Export Palette"), suggested, tr("GIMP palette (*.gpl)"),
+                    QStringLiteral("gpl"));
 }
 
 QString askName(QWidget* parent, const QString& title, const QString& suggested) {
@@ -120,8 +121,8 @@ std::optional<LeftPicture> pickLeft(QWidget* parent, const LeftPictures& left,
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved, pickImages,  pickSaveName,  pickColor,  tell,    confirm,
-            askName,    pickBrushes, pickBrushName, showFolder, pickLeft, pickPalettes, pickPaletteName};
+    return {askUnsaved,  pickImages,    pickSaveName, pickColor, tell,         confirm,        askName,
+            pickBrushes, pickBrushName, showFolder,   pickLeft,  pickPalettes, pickPaletteName};
 }
 
 }  // namespace dabcanvas::dabpainter

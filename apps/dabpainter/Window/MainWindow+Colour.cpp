@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// The colours' dock and what it goes together with.
+#include "Brush/BrushPanel.h"
+#include "Colour/ColorPanel.h"
+#include "Viewport/CanvasPointer.h"
+#include "Viewport/CanvasViewport.h"
+#include "Window/MainWindow.h"
+
+namespace dabcanvas::dabpainter {
+
+void MainWindow::makeColourDock(const PresetFolders& brushes) {
+    _colours = new ColorPanel(_brush, _prompts, brushes);
+    _colourDock = addDock(tr("Colour"), QStringLiteral("colourDock"), _colours);
+    connect(_colours, &ColorPanel::eyedropper, this, [this] { _pointer->setPicking(true); });
+    connect(_colours, &ColorPanel::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));
+    _colours->readState(_settings.file());
+    connect(_colours, &ColorPanel::stateChanged, &_settings, &PainterSettings::noteChange);
+    _settings.addWriter([this](QSettings& file) { _colours->writeState(file); });
+}
+
+}  // namespace dabcanvas::dabpainter
