@@ -35,6 +35,16 @@ double coverage(double distanceInside) {
     return std::clamp(distanceInside + 0.5, 0.0, 1.0);
 }
 
+const std::vector<QRgb>& ringHues() {
+    static const auto hues = [] {
+        std::vector<QRgb> all;
+        for (int i = 0; i < kHues; ++i)
+            all.push_back(colorOf(purest(360.0 * i / kHues)).rgb());
+        return all;
+    }();
+    return hues;
+}
+
 QRgb covered(QRgb color, double share) {
     return qPremultiply(qRgba(qRed(color), qGreen(color), qBlue(color), int(std::lround(share * 255))));
 }
@@ -107,16 +117,6 @@ bool ShadeMap::contains(QPointF place, double margin) const {
 }
 
 // ---- As images
-
-static const std::vector<QRgb>& ringHues() {
-    static const auto hues = [] {
-        std::vector<QRgb> all;
-        for (int i = 0; i < kHues; ++i)
-            all.push_back(colorOf(purest(360.0 * i / kHues)).rgb());
-        return all;
-    }();
-    return hues;
-}
 
 QImage hueRingImage(int pixels, double innerShare) {
     const std::vector<QRgb>& hues = ringHues();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QColor>
 #include <QEvent>
 #include <QObject>
 #include <QPointF>
@@ -21,8 +20,9 @@ namespace dabcanvas::dabpainter {
 
 class BrushCursor;
 class CanvasViewport;
+class ColorPicker;
 
-// What the pointer does besides painting, which the view does itself: panning by the space bar, picking colours, the
+// What the pointer does besides painting, which the view does itself: panning by the space bar, the
 // dab of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the
 // keyboard.
 class CanvasPointer : public QObject {
@@ -36,8 +36,7 @@ public:
     // Where it is over the canvas, or else the middle; in the viewport's points.
     QPointF place() const;
     void setTouch(TouchPolicy policy);
-    bool isPicking() const { return _picking; }
-    void setPicking(bool picking);
+    ColorPicker& picker() { return *_picker; }
     bool isIdle() const;  // no stroke is in progress
     // It ends where it got to. Before the canvas is saved, replaced, zoomed or anything else: nothing waits for a device
     // that may never be heard of again.
@@ -50,26 +49,25 @@ signals:
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
     void noShapeFound();                   // a stroke that was to be one is gone
-    void picked(const QColor& color);
-    void pickingChanged(bool picking);
 
 private:
     bool filterKey(QKeyEvent& event);
     bool filterMouse(QMouseEvent& event, QPointF at);
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
-    void pickAt(QPointF at);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
     void leaveDab(QPointF bufferPoint);
     void strokeEnds();
     void judgeShape(const dabcanvas::StepPicture& before);
     void pointTo(QPointF at);
+    void showPointer();
     void chooseCursor();
 
     CanvasViewport& _viewport;
     BrushCursor& _cursor;
     BrushModel& _model;
+    ColorPicker* _picker;
 
     enum class Shown { none, grab, hand, cross, dot };
     Shown _shown = Shown::none;
@@ -78,8 +76,6 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     TouchPolicy _touch = TouchPolicy::fingersPaint;
-    bool _picking = false;
-    bool _pickPressed = false;
 
     // Of the stroke in progress: none has begun, or nothing was drawn yet
     enum class Stroke { none, begun, drawn };

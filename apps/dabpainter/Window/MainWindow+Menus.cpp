@@ -13,6 +13,7 @@
 #include "Presets/PresetBrowser.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/ColorPicker.h"
 #include "Window/Commands.h"
 #include "Window/MainWindow.h"
 #include "Window/ShortcutsDialog.h"
@@ -135,8 +136,8 @@ void MainWindow::makeBrushMenu() {
           [this] { setDefaultColors(_brush); });
     QAction* pick = addTo(menu, "brush.pick", tr("&Eyedropper"), {key("I")}, [] {});
     pick->setCheckable(true);
-    connect(pick, &QAction::toggled, _pointer, &CanvasPointer::setPicking);
-    connect(_pointer, &CanvasPointer::pickingChanged, pick, &QAction::setChecked);
+    connect(pick, &QAction::toggled, &_pointer->picker(), &ColorPicker::setOn);
+    connect(&_pointer->picker(), &ColorPicker::onChanged, pick, &QAction::setChecked);
     menu->addSeparator();
     _shapes = addTo(menu, "brush.shapes", tr("Reco&gnise Shapes"), {key("Shift+R")}, [] {});
     _shapes->setCheckable(true);

@@ -31,6 +31,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/ColorPicker.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
 #include "Window/Commands.h"
@@ -100,11 +101,8 @@ void MainWindow::connectParts() {
     });
     connect(_layers, &LayerPanel::aboutToEdit, _pointer, &CanvasPointer::endStroke);
     connect(_layers, &LayerPanel::activeChanged, this, &MainWindow::choosePaper);
+    connect(_panel, &BrushPanel::eyedropper, &_pointer->picker(), [this] { _pointer->picker().setOn(true); });
     connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
-    connect(_panel, &BrushPanel::eyedropper, this, [this] { _pointer->setPicking(true); });
-    connect(_pointer, &CanvasPointer::picked, this, [this](const QColor& color) {
-        _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor(color)));
-    });
     connect(_pointer, &CanvasPointer::noShapeFound, this,
             [this] { statusBar()->showMessage(tr("No shape was recognised"), kMessageTime); });
     connect(_presets, &PresetBrowser::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));

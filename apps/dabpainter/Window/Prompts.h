@@ -34,7 +34,8 @@ struct Prompts {
     std::function<std::optional<LeftPicture>(QWidget*, const LeftPictures&, const QList<LeftPicture>& now)>
         pickLeft;
     std::function<QStringList(QWidget*)> pickPalettes;
-    std::function<QString(QWidget*, const QString& suggested)> pickPaletteName;  // to save as; empty: given up
+    std::function<QString(QWidget*, const QString& suggested)>
+        pickPaletteName;  // to save as; empty: given up
 };
 
 // Message boxes and file dialogs of Qt's own.
