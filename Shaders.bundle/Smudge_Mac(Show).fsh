@@ -4,6 +4,7 @@
 // FILL reduces the canvas into the layer; without it the layer's smudges are put onto the canvas. NOISE lets
 // their rounding even out; Noise.glsl stands before this text then.
 uniform vec2 u_viewSize;              // buffer pixels
+uniform vec2 u_targetSize;            // FILL: pixels of the layer; else u_viewSize
 uniform sampler2D u_bgTexture;        // FILL: the canvas; else the smudge layer
 #ifndef FILL
 uniform sampler2D u_canvasTexture;    // the canvas as it was before the stroke
@@ -16,8 +17,13 @@ uniform float u_noiseStep, u_noiseTurn;
 #endif
 #endif
 
-in vec2 v_texCoord;
 out vec4 fragColor;
+
+// 0..1 across the buffer, bottom-up: of the pixel alone, as what is interpolated differs in its last bit with the
+// rectangle that is drawn, and a recording is to play to the same bits from wherever it began.
+vec2 place() {
+    return gl_FragCoord.xy / u_targetSize;
+}
 
 #ifdef FILL
 // The canvas lies in the lower left of a larger texture, so its edges are clamped by hand.
@@ -26,9 +32,9 @@ vec4 canvasTexel(ivec2 at) {
 }
 
 void main() {
-    vec2 place = v_texCoord * u_viewSize - 0.5;
-    ivec2 at = ivec2(floor(place));
-    vec2 part = place - vec2(at);
+    vec2 inCanvas = place() * u_viewSize - 0.5;
+    ivec2 at = ivec2(floor(inCanvas));
+    vec2 part = inCanvas - vec2(at);
     vec4 low = mix(canvasTexel(at), canvasTexel(at + ivec2(1, 0)), part.x);
     vec4 high = mix(canvasTexel(at + ivec2(0, 1)), canvasTexel(at + ivec2(1, 1)), part.x);
     fragColor = mix(low, high, part.y);
@@ -43,7 +49,7 @@ void main() {
     // The layer holds the canvas at half its resolution. What the dabs brought is what it has now less what remains of
     // what it had; only that is enlarged, and the canvas keeps its detail where the dabs were thin.
     vec4 canvas = texelFetch(u_canvasTexture, pixel, 0);
-    vec4 brought = texture(u_bgTexture, v_texCoord) - texture(u_beforeTexture, v_texCoord) * (1.0 - exchanged);
+    vec4 brought = texture(u_bgTexture, place()) - texture(u_beforeTexture, place()) * (1.0 - exchanged);
     // At hard rims the layer's coarser pixels do not agree with the coverage; what is too much keeps its colour.
     brought = max(brought, 0.0) * min(1.0, exchanged / max(brought.a, 1e-6));
     brought.rgb = min(brought.rgb, vec3(brought.a));

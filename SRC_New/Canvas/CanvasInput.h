@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "Brushes/BrushProperties.h"
+#include "Dabs/Symmetry.h"
 #include "Recognition/ShapeRecord.h"
 
 namespace dabcanvas {
@@ -93,6 +94,7 @@ public:
     [[nodiscard]] virtual bool areaSet(const QRect& area) = 0;
     /// The canvas is shown turned, see QDDrawCanvas::setViewTurn().
     virtual void viewTurned(float radian, bool mirrored) = 0;
+    virtual void symmetrySet(const Symmetry& symmetry) = 0;
 
     // ---- The history
 

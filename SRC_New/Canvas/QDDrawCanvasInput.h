@@ -25,6 +25,7 @@ public:
     bool pictureSet(const QImage& picture, bool isStep) override;
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
+    void symmetrySet(const dabcanvas::Symmetry& symmetry) override;
     void stepRecorded() override;
     void historyReset() override;
     bool undone() override;

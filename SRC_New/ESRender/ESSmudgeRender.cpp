@@ -171,8 +171,8 @@ ESSmudgeRender::ShowProgram ESSmudgeRender::makeShowProgram(bool fill) const {
         return show;
     }
     show.position = program->attributeIndex(line::kPosition);
-    show.texCoord = program->attributeIndex(line::kTexCoord);
     show.viewSize = program->uniformIndex(line::kViewSize);
+    show.targetSize = program->uniformIndex(smudge::kTargetSize);
     show.center = program->uniformIndex(line::kCenter);
     show.pointSize = program->uniformIndex(line::kPointSize);
     show.roundness = program->uniformIndex(line::kRoundness);
@@ -526,9 +526,10 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
         return {};
     }
     show.program->bind();
-    QSizeF size = bufferSize();
+    QSizeF size = bufferSize(), target = size;
     if (bind) {
         size = bind();
+        target = _layerSize;
     } else {
         const struct {
             GLenum unit;
@@ -550,6 +551,7 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
     }
     glUniform1i(show.source, static_cast<GLint>(_smudgePos - GL_TEXTURE0));
     glUniform2f(show.viewSize, static_cast<GLfloat>(size.width()), static_cast<GLfloat>(size.height()));
+    glUniform2f(show.targetSize, static_cast<GLfloat>(target.width()), static_cast<GLfloat>(target.height()));
     glUniform1f(show.roundness, settings().roundness);
 
     std::array<Vertex, kCorners> corners{};
@@ -558,7 +560,6 @@ QRectF ESSmudgeRender::show(const LPPoint* points, std::size_t count, const Text
     }
     glBufferData(GL_ARRAY_BUFFER, sizeof corners, corners.data(), GL_STATIC_DRAW);
     dabcanvas::setVertexAttribute(show.position, 4, sizeof(Vertex), 0);
-    dabcanvas::setVertexAttribute(show.texCoord, 2, sizeof(Vertex), offsetof(Vertex, s));
     for (std::size_t i = 0; i < count; ++i) {
         const LPPoint& point = points[i];
         Dab place{};

@@ -127,8 +127,8 @@ private:
     // One of the two forms of the show program; null when it did not build.
     struct ShowProgram {
         std::shared_ptr<ESProgram> program;
-        GLint position = -1, texCoord = -1;
-        GLint viewSize = -1, center = -1, pointSize = -1, roundness = -1, source = -1;
+        GLint position = -1;
+        GLint viewSize = -1, targetSize = -1, center = -1, pointSize = -1, roundness = -1, source = -1;
         GLint canvas = -1, before = -1, coverage = -1, noiseTurn = -1, noiseStep = -1, opacity = -1;
         GLint locksAlpha = -1;
     };

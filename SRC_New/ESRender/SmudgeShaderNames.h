@@ -26,6 +26,7 @@ inline constexpr char kOwnColour[] = "u_ownColour";
 inline constexpr char kCanvasTexture[] = "u_canvasTexture";
 inline constexpr char kBeforeTexture[] = "u_beforeTexture";
 inline constexpr char kCoverageTexture[] = "u_coverageTexture";
+inline constexpr char kTargetSize[] = "u_targetSize";
 inline constexpr char kOpacity[] = "u_opacity";
 inline constexpr char kLocksAlpha[] = "u_locksAlpha";
 inline constexpr char kNoiseTurn[] = "u_noiseTurn";

@@ -71,6 +71,7 @@ private:
     bool pictureSet(const QImage& picture, bool isStep) override;
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
+    void symmetrySet(const Symmetry& symmetry) override;
     void stepRecorded() override;
     void historyReset() override;
     bool undone() override;

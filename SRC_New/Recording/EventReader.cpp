@@ -110,11 +110,12 @@ bool EventReader::read(std::vector<RecordedEvent>& events) {
         picture,
         area,
         view,
+        symmetry,
         call
     };
     static const QStringList kMembers{"at",         "stroke", "brush", "secondLine", "seed",
                                       "repeatable", "clear",  "image", "preview",    "shape",
-                                      "picture",    "area",   "view",  "do"};
+                                      "picture",    "area",   "view",  "symmetry",   "do"};
     JsonMembers members(_reader, kMembers);
     double time = 0;
     QString name;
@@ -170,6 +171,9 @@ bool EventReader::read(std::vector<RecordedEvent>& events) {
                 break;
             case view:
                 one<ViewChange>(events, [&](ViewChange& change) { return readView(change); });
+                break;
+            case symmetry:
+                one<Symmetry>(events, [&](Symmetry& symmetryRead) { return readSymmetry(symmetryRead); });
                 break;
             case call:
                 one<RecordedCall>(events,
@@ -332,6 +336,29 @@ bool EventReader::readView(ViewChange& change) {
     static const QStringList kMembers{"radian", "mirrored"};
     return JsonMembers(_reader, kMembers).readObject([&](int place) {
         place == radian ? readFloat(_reader, change.radian) : _reader.readBoolean(change.mirrored);
+    });
+}
+
+bool EventReader::readSymmetry(Symmetry& symmetry) {
+    enum { kind, x, y, rays, mirrored };
+    static const QStringList kMembers{"kind", "x", "y", "rays", "mirrored"};
+    return JsonMembers(_reader, kMembers).readObject([&](int place) {
+        switch (place) {
+            case kind:
+                readWord(_reader, kSymmetryNames, symmetry.kind);
+                break;
+            case x:
+                _reader.readNumber(symmetry.centreX);
+                break;
+            case y:
+                _reader.readNumber(symmetry.centreY);
+                break;
+            case rays:
+                readWhole(_reader, kFewestRays, kMostRays, symmetry.rays);
+                break;
+            default:
+                _reader.readBoolean(symmetry.mirrored);
+        }
     });
 }
 

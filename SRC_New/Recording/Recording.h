@@ -104,10 +104,10 @@ struct ViewChange {
 /// What has nothing to tell besides.
 enum class RecordedCall : std::uint8_t { stepRecorded, historyReset, undone, redone };
 
-/// What it was; an InputImage was placed.
-using RecordedWhat =
-    std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange, ClearedCanvas,
-                 InputImage, PlacedPreview, DrawnShape, WholePicture, AreaChange, ViewChange, RecordedCall>;
+/// What it was; an InputImage was placed, a Symmetry set.
+using RecordedWhat = std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange,
+                                  ClearedCanvas, InputImage, PlacedPreview, DrawnShape, WholePicture,
+                                  AreaChange, ViewChange, Symmetry, RecordedCall>;
 
 /// One thing that entered the canvas.
 struct RecordedEvent {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Which kinds of pictures are written: those that Qt can write here, told apart by the suffix of a file's name.
+// Which kinds of pictures are written: those that Qt can write here, and WebP, told apart by the suffix of a file's name.
 #pragma once
 
 #include <QByteArray>
+#include <QColor>
 #include <QImage>
 #include <QString>
 #include <QStringList>
@@ -16,7 +17,12 @@ QStringList writtenPictureSuffixes();
 // without a suffix means PNG, as does "-".
 QString pictureKindRefusal(const QString& path);
 
-// Encodes as the suffix says; the message when it cannot be done. Of a kind that may keep no transparency, on white.
-QString encodePicture(const QImage& image, const QString& path, QByteArray& bytes);
+// Whether a picture of that name keeps what can be seen through.
+bool keepsAlpha(const QString& path);
+
+// Encodes as the suffix says; the message when it cannot be done. Of a kind that may keep no transparency, on `ground`.
+// WebP is lossless; JPEG's quality is Qt's own, or 0..100.
+QString encodePicture(const QImage& image, const QString& path, QByteArray& bytes,
+                      const QColor& ground = Qt::white, int jpegQuality = -1);
 
 }  // namespace dabcanvas

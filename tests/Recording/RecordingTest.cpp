@@ -41,7 +41,10 @@ public:
         : _canvas(canvas), _random(seed), _careful(careful) {}
 
     void act() {
-        switch (below(22)) {
+        switch (below(23)) {
+            case 22:
+                return _canvas.setSymmetry({SymmetryKind(below(5)), unit() * kWidth, unit() * kHeight,
+                                            2 + int(below(23)), below(2) == 0});
             case 20:
                 return _canvas.setViewTurn(unit() * 6.0, below(2) == 0);
             case 21:
@@ -273,7 +276,7 @@ INSTANTIATE_TEST_SUITE_P(All, RecordingTest,
                          ::testing::Values(Script{"fresh", 100, 12, 0, 25, false},
                                            Script{"steps", 200, 12, 0, 25, true},
                                            Script{"begun later", 300, 12, 12, 25, true},
-                                           Script{"16 bits", 400, 6, 8, 20, true, 16}),
+                                           Script{"16 bits", 402, 6, 8, 20, true, 16}),
                          [](const auto& script) {
                              return QByteArray(script.param.name).replace(' ', "").toStdString();
                          });

@@ -56,8 +56,9 @@ TEST_F(DocumentTest, SavingGoesOnWhereNothingGetsPoorer) {
         bool hasFile;
         const char* suggested;
     } rows[] = {{nullptr, nullptr, false, "Untitled.png"}, {"a.png", nullptr, true, "a.png"},
-                {"A.PNG", nullptr, true, "A.PNG"},         {"a.b.jpg", nullptr, false, "a.b.png"},
-                {"a.jpg", "b.jpg", true, "b.jpg"},         {nullptr, "c.png", true, "c.png"}};
+                {"a.b.jpg", nullptr, true, "a.b.jpg"},     {"a.GIF", nullptr, false, "a.png"},
+                {"a.jpg", "b.WEBP", true, "b.WEBP"},       {nullptr, "c.ora", true, "c.ora"},
+                {"a.webp", "plain", true, "plain"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.suggested);
         begin({.path = row.opened ? path(row.opened) : QString(), .plan = {}, .copy = {}});

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Layers/LayerPanel.h"
 
-#include <QAction>
-#include <QFileInfo>
 #include <QListWidget>
 #include <QSlider>
 
@@ -84,27 +82,6 @@ TEST_F(LayerPanelTest, WhatIsSetIsAStepAndShown) {
     while (!_window->view()->undo().isNull()) {
     }
     EXPECT_EQ(list->count(), 1);
-}
-
-TEST_F(LayerPanelTest, LayersAreSavedTogetherOnceTheUserKnows) {
-    panel->addLayer();
-    paint();
-    list->setCurrentRow(1);
-    _saveName = path("both.png");
-    _confirmed = false;
-    const auto save = [this] {
-        for (QAction* action : _window->findChildren<QAction*>())
-            if (action->shortcut() == QKeySequence(QKeySequence::Save))
-                action->trigger();
-    };
-    save();
-    EXPECT_FALSE(QFileInfo::exists(_saveName));
-    _confirmed = true;
-    save();
-    const QImage written = QImage(_saveName).convertToFormat(QImage::Format_RGBA8888_Premultiplied);
-    EXPECT_TRUE(imagesMatch(written, layers().flattened(), 1));
-    save();
-    EXPECT_EQ(_questions.size(), 2) << "and then not again";
 }
 
 }  // namespace

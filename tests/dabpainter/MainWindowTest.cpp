@@ -14,10 +14,13 @@
 #include <cstring>
 #include <string>
 
+#include "Canvas/CanvasLayers.h"
+#include "Documents/ImageFiles.h"
 #include "ESRender/ESImageRender.h"
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
+#include "Selection/SelectionEditor.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/ColorPicker.h"
@@ -350,6 +353,7 @@ TEST_F(MainWindowTest, EveryCommandEndsAStrokeFirst) {
             send(QEvent::MouseMove, inView(x, 40), Qt::LeftButton);
         EXPECT_LT(pixel(60, 40).lightness(), 128);
         action(text)->trigger();
+        _window->selection().settle();
         settle();
         EXPECT_FALSE(_window->view()->isDrawing());
         const bool isGone = command == "&Undo" || command == "&Clear";
@@ -447,7 +451,7 @@ TEST_F(MainWindowTest, WhatCannotBeHadFromItsHistoryComesFromItsCopy) {
         EXPECT_TRUE(_window->recover(left));
         EXPECT_EQ(pixel(20, 20), QColor(Qt::blue));
         EXPECT_TRUE(_window->isUnsaved());
-        EXPECT_EQ(_window->document().suggestedPath(), path("mine.png"));
+        EXPECT_EQ(_window->document().suggestedPath(), path("mine.jpg"));
         ASSERT_TRUE(QFile::exists(left.copy)) << "until there is a newer one";
         ASSERT_TRUE(_window->saveTo(path("mine.png")));
         EXPECT_FALSE(QFile::exists(left.copy));
@@ -498,15 +502,49 @@ TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {
     EXPECT_TRUE(_told.value(0).contains("no picture is written as .gif"));
 }
 
+TEST_F(MainWindowTest, WhatAFileCannotKeepIsAskedForOnce) {
+    _window->view()->layers().add(1, {.name = "Ink", .opacity = 0.5f});
+    paint();
+    const QImage seen = _window->view()->displayImage(), ink = _window->view()->layers().image(1);
+    EXPECT_TRUE(_window->document().suggestedPath().endsWith(".ora"));
+    _saveName = path("flat.png");
+    _lossAnswer = LossAnswer::cancel;
+    action("&Save")->trigger();
+    EXPECT_FALSE(QFile::exists(_saveName));
+    _lossAnswer = LossAnswer::lose;
+    for (int i = 0; i < 2; ++i)
+        action("&Save")->trigger();
+    EXPECT_EQ(_losses, std::vector(2, Document::Loss::layers)) << "and not when it was known";
+    EXPECT_EQ(QImage(_saveName).pixelColor(100, 75), seen.pixelColor(100, 75));
+    _saveName = path("layered.ora");
+    action("Save &As…")->trigger();
+    ASSERT_TRUE(_window->openImage(_saveName));
+    EXPECT_EQ(_window->view()->layers().image(1), ink);
+    EXPECT_EQ(_window->view()->layers().settings(1).name, "Ink");
+    EXPECT_FALSE(_window->isUnsaved() || _window->view()->canUndo());
+    paint();
+    action("&Save")->trigger();
+    EXPECT_EQ(_losses.size(), 2u) << "it goes on with its layers";
+    EXPECT_EQ(readPictureFile(_saveName).picture.layers.size(), 2u);
+
+    ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::transparent}));
+    _saveName = path("filled.jpg");
+    action("&Save")->trigger();
+    EXPECT_EQ(_losses.back(), Document::Loss::transparency);
+    EXPECT_TRUE(_told.isEmpty());
+}
+
 TEST_F(MainWindowTest, APlacedImageIsInTheMiddleAndFits) {
     _window->viewport().setZoom(1.37);
     ASSERT_TRUE(_window->placeImage(savedImage("small.png", Qt::red)));
+    _window->selection().settle();
     EXPECT_EQ(pixel(100, 75), QColor(Qt::red));
     EXPECT_EQ(pixel(88, 67), QColor(Qt::red));
     EXPECT_EQ(pixel(87, 75), QColor(Qt::white));
     EXPECT_EQ(pixel(112, 75), QColor(Qt::white));
     EXPECT_TRUE(_window->isUnsaved());
     ASSERT_TRUE(_window->placeImage(savedImage("tall.png", Qt::blue, QSize(100, 600))));
+    _window->selection().settle();
     EXPECT_EQ(pixel(100, 0), QColor(Qt::blue));
     EXPECT_EQ(pixel(100, 149), QColor(Qt::blue));
     EXPECT_EQ(pixel(80, 75), QColor(Qt::white));
@@ -517,6 +555,7 @@ TEST_F(MainWindowTest, ABadImageIsRefusedInWordsAndChangesNothing) {
     const std::pair<const char*, QByteArray> kBad[] = {{"empty.png", ""},
                                                        {"text.png", "this is no picture"},
                                                        {"cut.png", png.left(png.size() / 2)},
+                                                       {"cut.ora", QByteArray("PK\3\4") + png},
                                                        {"huge.ppm", "P6\n200000 200000\n255\nabc"},
                                                        {"area.ppm", "P6\n16000 16000\n255\nabc"}};
     paint();

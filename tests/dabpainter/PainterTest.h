@@ -54,6 +54,10 @@ protected:
             _offered = int(pictures.size());
             return std::optional(pictures.first());
         };
+        prompts.askLoss = [this](QWidget*, Document::Loss loss) {
+            _losses.push_back(loss);
+            return _lossAnswer;
+        };
         _window.reset();
         _window = std::make_unique<MainWindow>(
             *_settings, prompts, PresetFolders{path("brushes"), {path("installed")}}, path("copies"));
@@ -92,6 +96,8 @@ protected:
     QStringList _images, _told, _questions;
     QString _saveName, _name;
     bool _confirmed = true;
+    LossAnswer _lossAnswer = LossAnswer::lose;
+    std::vector<Document::Loss> _losses;
     int _asked = 0, _offered = 0;
     std::unique_ptr<MainWindow> _window;
 };

@@ -9,13 +9,14 @@
 #include "Documents/ImageFiles.h"
 #include "Documents/LeftPictures.h"
 #include "History/ImagesUndoManager.h"
+#include "PictureKinds.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
 
-bool isPng(const QString& path) {
-    return QFileInfo(path).suffix().compare(QLatin1String("png"), Qt::CaseInsensitive) == 0;
+bool isWritten(const QString& path) {
+    return keepsLayers(path) || pictureKindRefusal(path).isEmpty();
 }
 
 ESColor colorOf(const QColor& background) {
@@ -27,7 +28,6 @@ ESColor colorOf(const QColor& background) {
 void Document::begin(QDDrawCanvas& canvas, const Origin& origin) {
     _canvas = &canvas;
     _origin = origin;
-    _savedPath.clear();
     setUndoSteps(_undoSteps);
     if (!origin.hasHistory) {
         canvas.resetUndoManager();
@@ -60,27 +60,54 @@ bool Document::isModified() const {
     return _canvas && _canvas->isModified();
 }
 
-bool Document::hasLayers() const {
-    return _canvas && _canvas->layers().count() > 1;
-}
-
 bool Document::hasFile() const {
-    return !path().isEmpty() && (isPng(path()) || path() == _savedPath);
+    return !path().isEmpty() && !_origin.isPart && isWritten(path());
 }
 
 QString Document::suggestedPath() const {
     if (hasFile())
         return path();
+    const bool isLayered = _canvas && _canvas->layers().count() > 1;
     const QFileInfo file(path().isEmpty() ? tr("Untitled") : path());
-    const QString png = file.completeBaseName() + QStringLiteral(".png");
-    return path().isEmpty() ? png : file.dir().filePath(png);
+    const QString named = file.completeBaseName() + QLatin1Char('.') +
+                          (isLayered ? savedSuffixes().first() : QStringLiteral("png"));
+    return path().isEmpty() ? named : file.dir().filePath(named);
+}
+
+QString Document::suffixOf(const QString& path) const {
+    const QString own = QFileInfo(path).suffix(), present = QFileInfo(this->path()).suffix();
+    return !own.isEmpty() ? own : hasFile() && !present.isEmpty() ? present : QStringLiteral("png");
+}
+
+Document::Loss Document::lossIn(const QString& path) const {
+    const QString kind = QLatin1Char('.') + suffixOf(path);
+    if (!_canvas || keepsLayers(kind))
+        return Loss::none;
+    if (_canvas->layers().count() > 1)
+        return Loss::layers;
+    return keepsAlpha(kind) || isOpaque(_canvas->displayImage()) ? Loss::none : Loss::transparency;
+}
+
+QString Document::withoutLoss(const QString& path, Loss loss) {
+    const QFileInfo file(path);
+    const QString suffix = loss == Loss::layers ? savedSuffixes().first() : QStringLiteral("png");
+    return file.dir().filePath(file.completeBaseName() + QLatin1Char('.') + suffix);
 }
 
 QString Document::saveTo(const QString& path) {
-    if (const QString fault = writeImageFile(path, _canvas ? _canvas->layers().flattened() : QImage());
-        !fault.isEmpty())
+    LayeredPicture picture;
+    const QString suffix = suffixOf(path);
+    if (!_canvas)
+        return tr("There is no picture to save.");
+    if (!keepsLayers(QLatin1Char('.') + suffix))
+        picture.merged = _canvas->layers().flattened();
+    else if (!readLayers(*_canvas, picture))
+        picture.merged = {};
+    picture.paper = plan().background;
+    if (const QString fault = writePictureFile(path, suffix, picture); !fault.isEmpty())
         return fault;
-    _origin.path = _savedPath = QFileInfo(path).absoluteFilePath();
+    _origin.path = QFileInfo(path).absoluteFilePath();
+    _origin.isPart = false;
     _canvas->setModified(false);
     describe();
     emit saved();

@@ -28,6 +28,7 @@ public:
         QString copy;  // where it is copied to from time to time; empty: nowhere
         bool isUnsaved = false;
         bool hasHistory = false;  // of another run; else what it is now is its first step
+        bool isPart = false;      // the file has more than this picture
     };
     // Goes on with this canvas; until the next one, or end(), it must not be destroyed.
     void begin(QDDrawCanvas& canvas, const Origin& origin);
@@ -39,12 +40,16 @@ public:
     const CanvasPlan& plan() const { return _origin.plan; }
     QString name() const;
     bool isModified() const;
-    bool hasLayers() const;  // more than one, which are one in a file
 
-    // Whether saving goes on in path(). PNG keeps everything; a picture opened from another kind is not replaced by a
-    // poorer copy before a name was asked for.
+    // Whether saving goes on in path(); else under a name that is asked for first.
     bool hasFile() const;
     QString suggestedPath() const;
+    // What saving there would lose.
+    enum class Loss { none, layers, transparency };
+    Loss lossIn(const QString& path) const;
+    // A name beside it that loses nothing.
+    static QString withoutLoss(const QString& path, Loss loss);
+    // Without a suffix, of the kind that path() is.
     QString saveTo(const QString& path);
     // To what it began with.
     void clear();
@@ -61,10 +66,10 @@ signals:
 
 private:
     void describe();
+    QString suffixOf(const QString& path) const;
 
     QDDrawCanvas* _canvas = nullptr;
     Origin _origin;
-    QString _savedPath;  // path() while it is the last one written
     int _undoSteps = 100;
 };
 

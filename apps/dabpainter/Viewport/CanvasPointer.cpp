@@ -76,9 +76,21 @@ void CanvasPointer::setTouch(TouchPolicy policy) {
     _touch = policy;
     if (QDDrawView* view = _viewport.view()) {
         PointerOptions options = view->pointerOptions();
-        options.touch = policy;
+        options.touch = _selecting && !fingersPaint() ? TouchPolicy::pensOnly : policy;
         view->setPointerOptions(options);
     }
+}
+
+void CanvasPointer::setSelecting(bool selecting) {
+    _selecting = selecting;
+    setTouch(_touch);
+    _picker->setHoldable(!selecting);  // where Ctrl means something else
+    if (selecting)
+        _cursor.hideOutline();
+}
+
+bool CanvasPointer::isFree() const {
+    return !_spaceHeld && !_panning && !_picker->isActive();
 }
 
 QPointF CanvasPointer::place() const {
@@ -213,8 +225,7 @@ bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
     if (isIdle() && (event.type() == QEvent::TabletPress || event.buttons() == Qt::NoButton))
         _picker->hover(at, event.modifiers());
     // Left to the mouse event that follows a tablet event which nobody took.
-    if (_spaceHeld || _panning || _picker->isActive() ||
-        (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
+    if (!isFree() || (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
         event.ignore();
         return true;
     }
@@ -313,7 +324,7 @@ void CanvasPointer::pointTo(QPointF at) {
 }
 
 void CanvasPointer::showPointer() {
-    if (!_place || _picker->isActive() || _panning)
+    if (!_place || _picker->isActive() || _panning || _selecting)
         _cursor.hideOutline();
     else
         _cursor.showAt(*_place);

@@ -37,6 +37,10 @@ public:
     QPointF place() const;
     void setTouch(TouchPolicy policy);
     ColorPicker& picker() { return *_picker; }
+    bool fingersPaint() const { return _touch == TouchPolicy::fingersPaint; }
+    // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
+    void setSelecting(bool selecting);
+    bool isFree() const;  // it neither pans nor picks
     bool isIdle() const;  // no stroke is in progress
     // It ends where it got to. Before the canvas is saved, replaced, zoomed or anything else: nothing waits for a device
     // that may never be heard of again.
@@ -76,6 +80,7 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     TouchPolicy _touch = TouchPolicy::fingersPaint;
+    bool _selecting = false;
 
     // Of the stroke in progress: none has begun, or nothing was drawn yet
     enum class Stroke { none, begun, drawn };

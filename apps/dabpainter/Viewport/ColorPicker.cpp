@@ -52,6 +52,11 @@ void ColorPicker::setOn(bool on) {
     emit activeChanged();
 }
 
+void ColorPicker::setHoldable(bool holdable) {
+    _holdable = holdable;
+    setHeld(_held && holdable);
+}
+
 void ColorPicker::setHeld(bool held) {
     _timer.stop();
     if (std::exchange(_held, held) == held)
@@ -66,7 +71,7 @@ void ColorPicker::setHeld(bool held) {
 void ColorPicker::hover(QPointF at, Qt::KeyboardModifiers modifiers) {
     if (_pressed)
         return;
-    setHeld(modifiers == Qt::ControlModifier && isIdle());
+    setHeld(_holdable && modifiers == Qt::ControlModifier && isIdle());
     if (isActive())
         showAt(at);
 }
@@ -108,7 +113,7 @@ void ColorPicker::leave() {
 void ColorPicker::watchKey(const QKeyEvent& event, QPointF pointer) {
     if (event.isAutoRepeat() || _pressed)
         return;
-    const bool isMeant = event.type() == QEvent::KeyPress && event.key() == Qt::Key_Control &&
+    const bool isMeant = _holdable && event.type() == QEvent::KeyPress && event.key() == Qt::Key_Control &&
                          event.modifiers() == Qt::ControlModifier && _viewport.underMouse() &&
                          !QApplication::activeModalWidget() && !QApplication::activePopupWidget() && isIdle();
     if (!isMeant)

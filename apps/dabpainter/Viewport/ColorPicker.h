@@ -23,6 +23,8 @@ public:
 
     bool isOn() const { return _on; }
     void setOn(bool on);
+    // Whether holding Ctrl picks; at first it does.
+    void setHoldable(bool holdable);
     bool isActive() const { return _on || _held || _pressed; }
     bool isPressed() const { return _pressed; }
     // Of how many pixels across the average is taken.
@@ -56,7 +58,7 @@ private:
 
     CanvasViewport& _viewport;
     const BrushModel& _brush;
-    bool _on = false, _held = false, _pressed = false;
+    bool _on = false, _held = false, _pressed = false, _holdable = true;
     int _side = 1;
     QPointF _at;
     QColor _new, _before;  // invalid: there is none; what the brush had when it was pressed

@@ -77,6 +77,9 @@ DESCRIPTION
     Opens a window to paint in by mouse, pen or finger: on IMAGE, or on a new
     white canvas. It paints with a GPU where there is one.
 
+    Pictures are opened and saved as OpenRaster (.ora), which keeps layers,
+    PNG, JPEG, WebP and the other kinds that Qt knows; the suffix decides.
+
 OPTIONS
     --size WxH
         Size of the new canvas in pixels, at most 16384 a side and 134217728 in

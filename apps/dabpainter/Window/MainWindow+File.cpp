@@ -14,6 +14,7 @@
 #include "Layers/LayerPanel.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Selection/SelectionEditor.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
@@ -35,9 +36,19 @@ public:
     BusyCursor& operator=(const BusyCursor&) = delete;
 };
 
-ReadImage readBusily(const QString& path) {
+template <typename Read>
+auto readBusily(const QString& path, const Read& read) {
     const BusyCursor busy;
-    return readImageFile(path);
+    return read(path);
+}
+
+// What a picture of a file is erased to, where it does not tell.
+QColor paperOf(const LayeredPicture& picture) {
+    if (picture.paper.isValid())
+        return picture.paper;
+    const PictureLayer& lowest = picture.layers.front();
+    const bool isWhole = lowest.image.size() == picture.size && isOpaque(lowest.image);
+    return isWhole ? Qt::white : Qt::transparent;
 }
 
 }  // namespace
@@ -72,6 +83,7 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     }
     QDDrawView& next = *made;
     _document.begin(next, origin);
+    _selection->setCanvas(nullptr);
     _viewport->setView(std::move(made));
     watchView();
     return true;
@@ -80,8 +92,9 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
 void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
+    watchSelection();
+    _lossesKnown.clear();
     _lines->watchView();
-    _flattens = false;
     _layers->setView(now);
     _colours->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
@@ -101,10 +114,12 @@ void MainWindow::watchView() {
     _status->showCanvas();
 }
 
-// The lowest layer of an opaque picture gets no holes: what is erased of it shows what it was painted on.
+// The lowest layer of an opaque picture gets no holes: what is erased or lifted off it shows what it was painted on.
 void MainWindow::choosePaper(int layer) {
     const QColor& ground = _document.plan().background;
-    _brush.setPaper(layer == 0 && ground.alpha() == 255 ? ground : QColor());
+    const QColor paper = layer == 0 && ground.alpha() == 255 ? ground : QColor();
+    _brush.setPaper(paper);
+    _selection->setPaper(paper);
 }
 
 // A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
@@ -139,12 +154,12 @@ bool MainWindow::startCanvas(const CanvasPlan& plan) {
 }
 
 void MainWindow::clearCanvas() {
-    _pointer->endStroke();
+    finishEdits();
     _document.clear();
 }
 
 void MainWindow::newCanvas() {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayDiscard())
         return;
     NewCanvasDialog dialog(_document.plan(), this);
@@ -155,13 +170,18 @@ void MainWindow::newCanvas() {
 // ---- Files
 
 bool MainWindow::openImage(const QString& path) {
-    const ReadImage read = readBusily(path);
+    const ReadPicture read = readBusily(path, readPictureFile);
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
-    const CanvasPlan plan{read.image.size(), isOpaque(read.image) ? Qt::white : Qt::transparent};
-    return openPicture(
-        read.image,
-        {.path = QFileInfo(path).absoluteFilePath(), .plan = plan, .copy = _autosave->takeName()});
+    const bool opened =
+        replaceCanvas(read.picture.size, 8, [&](QDDrawView& view) { return showLayers(read.picture, view); },
+                      {.path = QFileInfo(path).absoluteFilePath(),
+                       .plan = {read.picture.size, paperOf(read.picture)},
+                       .copy = _autosave->takeName(),
+                       .isPart = read.isPart});
+    if (opened && !read.warning.isEmpty())
+        _prompts.tell(this, read.warning);
+    return opened;
 }
 
 bool MainWindow::openPicture(const QImage& image, const Document::Origin& origin) {
@@ -191,7 +211,7 @@ bool MainWindow::recover(const LeftPicture& picture) {
 }
 
 bool MainWindow::openCopy(const LeftPicture& picture) {
-    const ReadImage read = readBusily(picture.copy);
+    const ReadImage read = readBusily(picture.copy, readImageFile);
     const QColor ground = picture.background.isValid() ? picture.background
                           : isOpaque(read.image)       ? QColor(Qt::white)
                                                        : QColor(Qt::transparent);
@@ -207,7 +227,7 @@ bool MainWindow::offerLeftPictures() {
     if (pictures.isEmpty())
         return false;
     const auto chosen = _prompts.pickLeft(this, _left, pictures);
-    _pointer->endStroke();
+    finishEdits();
     if (chosen && mayDiscard())
         recover(*chosen);
     return true;
@@ -216,26 +236,14 @@ bool MainWindow::offerLeftPictures() {
 bool MainWindow::placeImage(const QString& path) {
     if (!view())
         return false;
-    const ReadImage read = readBusily(path);
+    const ReadImage read = readBusily(path, readImageFile);
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
-    const QSizeF canvas = view()->bufferSize();
-    QSizeF size = read.image.size();
-    if (size.width() > canvas.width() || size.height() > canvas.height())
-        size.scale(canvas, Qt::KeepAspectRatio);
-    const QPointF corner((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2);
-    // On whole pixels, so that a picture of its own size stays sharp.
-    const QRect rect(corner.toPoint(), size.toSize().expandedTo(QSize(1, 1)));
-    const QSizeF scale = view()->scale();
-    const QRectF inView(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
-                        rect.height() * scale.height());
-    _pointer->endStroke();
-    return view()->drawImage(read.image, inView) ||
-           tellFault(tr("The image could not be placed; the log says why."));
+    return placePicture(read.image);
 }
 
 bool MainWindow::saveTo(const QString& path) {
-    _pointer->endStroke();
+    finishEdits();
     const QString fault = [&] {
         const BusyCursor busy;
         return _document.saveTo(path);
@@ -247,7 +255,7 @@ bool MainWindow::saveTo(const QString& path) {
 }
 
 void MainWindow::open() {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayDiscard())
         return;
     const QStringList paths = _prompts.pickImages(this, tr("Open Image"), false);
@@ -256,35 +264,37 @@ void MainWindow::open() {
 }
 
 void MainWindow::place() {
-    _pointer->endStroke();
+    finishEdits();
     const QStringList paths = _prompts.pickImages(this, tr("Place Image"), false);
     if (!paths.isEmpty())
         placeImage(paths.first());
 }
 
-// Once a picture: what is saved has no layers any more, what is painted on has.
-bool MainWindow::mayFlatten() {
-    _flattens =
-        _flattens || !_document.hasLayers() ||
-        _prompts.confirm(
-            this, tr("Save the layers as one picture?"),
-            tr("The file shows all of them together. They stay here as long as this picture is open."),
-            tr("Save"));
-    return _flattens;
+// Once a picture: it stays whole as long as it is open.
+bool MainWindow::saveAsking(const QString& path) {
+    const Document::Loss loss = _document.lossIn(path);
+    if (loss != Document::Loss::none && !_lossesKnown.contains(loss)) {
+        switch (_prompts.askLoss(this, loss)) {
+            case LossAnswer::cancel:
+                return false;
+            case LossAnswer::keep:
+                return saveAs(Document::withoutLoss(path, loss));
+            case LossAnswer::lose:
+                _lossesKnown.insert(loss);
+        }
+    }
+    return saveTo(path);
 }
 
 bool MainWindow::save() {
-    if (!mayFlatten())
-        return false;
-    return _document.hasFile() ? saveTo(_document.path()) : saveAs();
+    return _document.hasFile() ? saveAsking(_document.path()) : saveAs();
 }
 
-bool MainWindow::saveAs() {
-    _pointer->endStroke();
-    if (!mayFlatten())
-        return false;
-    const QString path = _prompts.pickSaveName(this, _document.suggestedPath());
-    return !path.isEmpty() && saveTo(path);
+bool MainWindow::saveAs(const QString& suggested) {
+    finishEdits();
+    const QString path =
+        _prompts.pickSaveName(this, suggested.isEmpty() ? _document.suggestedPath() : suggested);
+    return !path.isEmpty() && saveAsking(path);
 }
 
 bool MainWindow::mayDiscard() {

@@ -79,6 +79,7 @@ void MainWindow::makeEditMenu() {
     _redo = addTo(menu, "edit.redo", tr("&Redo"), {key("Ctrl+Shift+Z"), key("Ctrl+Y")},
                   [this] { stepHistory(&QDDrawCanvas::redo); });
     menu->addSeparator();
+    addClipboard(menu);
     addTo(menu, "edit.undoSteps", tr("Undo &Steps…"), {}, [this] { askUndoSteps(); });
     addTo(menu, "edit.shortcuts", tr("&Keys…"), {}, [this] { ShortcutsDialog(*_commands, this).exec(); });
     auto* buttons = new QToolBar(tr("History"));
@@ -93,7 +94,7 @@ void MainWindow::makeEditMenu() {
 
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
-    addTo(menu, "canvas.clear", tr("&Clear"), {key("Delete")}, [this] { clearCanvas(); });
+    addTo(menu, "canvas.clear", tr("&Clear"), {key("Delete")}, [this] { removeSelected(); });
     // The present picture stays where it is: moving it could fail for want of memory.
     addChoices<SurfaceKind>(menu->addMenu(tr("&Paint with")),
                             {{tr("&Automatic"), SurfaceKind::automatic},

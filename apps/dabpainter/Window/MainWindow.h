@@ -18,6 +18,7 @@ class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
+class QMimeData;
 
 namespace dabcanvas::dabpainter {
 
@@ -30,6 +31,8 @@ class ColorPanel;
 class Commands;
 class LayerPanel;
 class PresetBrowser;
+class SelectionEditor;
+class SelectionTool;
 class StraightLines;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
@@ -48,7 +51,7 @@ public:
     bool openImage(const QString& path);
     bool recover(const LeftPicture& picture);
 
-    // Onto the middle of the canvas, made smaller when it does not fit.
+    // Floats over the middle of the canvas, made smaller when it does not fit.
     bool placeImage(const QString& path);
     bool saveTo(const QString& path);
     void clearCanvas();
@@ -69,6 +72,7 @@ public:
     Document& document() { return _document; }
     PainterSettings& settings() { return _settings; }
     Autosave& autosave() { return *_autosave; }
+    SelectionEditor& selection() { return *_selection; }
     Commands& commands() { return *_commands; }
     QDDrawView* view() const;
 
@@ -77,7 +81,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    // Brush files, from elsewhere; pictures only where the list of brushes is.
+    // Brush files and pictures, from elsewhere; pictures become brushes where the list of brushes is.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -89,6 +93,9 @@ private:
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    void makeSelection();
+    void makeSelectMenu();
+    void addClipboard(QMenu* menu);
     void connectParts();
     // name: see Commands.h
     QAction* addTo(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
@@ -105,15 +112,24 @@ private:
     bool openPicture(const QImage& image, const Document::Origin& origin);
     void watchView();
     void choosePaper(int layer);
-    bool mayFlatten();
     void replaceLost();
     bool tellFault(const QString& fault);
     void newCanvas();
     void open();
     void place();
     bool save();
-    bool saveAs();
+    bool saveAs(const QString& suggested = {});
+    bool saveAsking(const QString& path);
     void showDocument();
+
+    // A stroke, and what floats: before the canvas is saved, replaced or changed by something else.
+    void finishEdits();
+    void watchSelection();
+    void removeSelected();
+    void cutSelected();
+    bool copyPicture(const QImage& picture);
+    bool placePicture(const QImage& picture);
+    bool placePicture(const QMimeData& from);
 
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
@@ -139,11 +155,13 @@ private:
     PresetBrowser* _presets;
     LayerPanel* _layers;
     ColorPanel* _colours;
+    SelectionEditor* _selection;
+    SelectionTool* _selectionTool;
     QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;
-    bool _flattens = false;         // the user knows
-    std::set<BrushKey> _unwritten;  // since the settings were written
+    std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
+    std::set<BrushKey> _unwritten;          // since the settings were written
     bool _wasMaximized = false;
 };
 

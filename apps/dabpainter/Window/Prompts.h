@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 
+#include "Documents/Document.h"
 #include "Documents/LeftPictures.h"
 
 class QWidget;
@@ -15,6 +16,7 @@ class QWidget;
 namespace dabcanvas::dabpainter {
 
 enum class UnsavedAnswer { save, discard, cancel };
+enum class LossAnswer { lose, keep, cancel };  // keep: by another kind of file
 
 struct Prompts {
     std::function<UnsavedAnswer(QWidget*, const QString& name)> askUnsaved;
@@ -35,7 +37,8 @@ struct Prompts {
         pickLeft;
     std::function<QStringList(QWidget*)> pickPalettes;
     std::function<QString(QWidget*, const QString& suggested)>
-        pickPaletteName;  // to save as; empty: given up
+        pickPaletteName;                                          // to save as; empty: given up
+    std::function<LossAnswer(QWidget*, Document::Loss)> askLoss;  // in the file that is to be saved
 };
 
 // Message boxes and file dialogs of Qt's own.
