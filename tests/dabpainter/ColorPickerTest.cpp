@@ -68,8 +68,15 @@ protected:
 
 TEST_F(ColorPickerTest, CtrlPicksWhatIsShownByAPressAlone) {
     const QImage before = _window->view()->displayImage().copy();
+    QEvent left(QEvent::Leave);
+    QApplication::sendEvent(_window->view(), &left);
     send(QEvent::MouseMove, {150, 75}, Qt::ControlModifier, false);
-    EXPECT_TRUE(picker().isVisible());
+    ASSERT_TRUE(picker().isVisible());
+    const QImage ring = picker().grab().toImage();
+    const QPointF middle = _window->viewport().pointOfBuffer({150, 75}) * ring.devicePixelRatio();
+    const QPoint up(0, qRound(33 * ring.devicePixelRatio()));
+    EXPECT_EQ(ring.pixel(middle.toPoint() - up), qRgb(0, 60, 200));
+    EXPECT_EQ(ring.pixel(middle.toPoint() + up), QColor(Qt::red).rgb()) << "the present one";
     send(QEvent::MouseMove, {150, 75}, Qt::NoModifier, false);
     EXPECT_FALSE(picker().isVisible());
     EXPECT_EQ(color().rgb(), QColor(Qt::red).rgb()) << "looking takes nothing";

@@ -94,7 +94,7 @@ void ColorPicker::drag(QPointF at) {
 
 void ColorPicker::release(Qt::KeyboardModifiers modifiers) {
     _pressed = false;
-    _before = {};
+    _before = QColor();
     setOn(false);
     hover(_at, modifiers);
     if (!isActive())
@@ -104,7 +104,7 @@ void ColorPicker::release(Qt::KeyboardModifiers modifiers) {
 
 void ColorPicker::leave() {
     _pressed = false;
-    _before = {};
+    _before = QColor();
     setHeld(false);
     hide();
 }
