@@ -47,6 +47,8 @@ protected:
         prompts.askName = [this](QWidget*, const QString&, const QString&) { return _name; };
         prompts.pickBrushes = [this](QWidget*) { return _images; };
         prompts.pickBrushName = [this](QWidget*, const QString&) { return _saveName; };
+        prompts.pickPalettes = [this](QWidget*) { return _images; };
+        prompts.pickPaletteName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.showFolder = [](const QString&) {};
         prompts.pickLeft = [this](QWidget*, const LeftPictures&, const QList<LeftPicture>& pictures) {
             _offered = int(pictures.size());

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QColor>
 #include <QEvent>
 #include <QObject>
 #include <QPointF>
@@ -21,8 +20,9 @@ namespace dabcanvas::dabpainter {
 
 class BrushCursor;
 class CanvasViewport;
+class ColorPicker;
 
-// What the pointer does besides painting, which the view does itself: panning by the space bar, picking colours, the
+// What the pointer does besides painting, which the view does itself: panning by the space bar, the
 // dab of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the
 // keyboard.
 class CanvasPointer : public QObject {
@@ -42,11 +42,10 @@ public:
     // Off: nothing of the pointer's becomes a stroke, and fingers only move the canvas.
     void setPaints(bool paints);
     bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
+    ColorPicker& picker() { return *_picker; }
     // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
     void setSelecting(bool selecting);
     bool isFree() const;  // it neither pans nor picks
-    bool isPicking() const { return _picking; }
-    void setPicking(bool picking);
     bool isIdle() const;  // no stroke is in progress
     // It ends where it got to. Before the canvas is saved, replaced, zoomed or anything else: nothing waits for a device
     // that may never be heard of again.
@@ -60,8 +59,6 @@ signals:
     void pressureChanged(float pressure);  // -1: the device gives none
     void tapped(QPointF viewPoint);        // one finger that may paint, and hardly moved
     void noShapeFound();                   // a stroke that was to be one is gone
-    void picked(const QColor& color);
-    void pickingChanged(bool picking);
 
 private:
     bool filterKey(QKeyEvent& event);
@@ -70,18 +67,19 @@ private:
     bool filterTouch(QTouchEvent& event);
     void tellOptions();
     void watchTap(const QTouchEvent& event);
-    void pickAt(QPointF at);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
     void leaveDab(QPointF bufferPoint);
     void strokeEnds();
     void judgeShape(const dabcanvas::StepPicture& before);
     void pointTo(QPointF at);
+    void showPointer();
     void chooseCursor();
 
     CanvasViewport& _viewport;
     BrushCursor& _cursor;
     BrushModel& _model;
+    ColorPicker* _picker;
 
     enum class Shown { none, grab, hand, cross, dot };
     Shown _shown = Shown::none;
@@ -92,8 +90,6 @@ private:
     PointerOptions _options;
     bool _paints = true;
     bool _selecting = false;
-    bool _picking = false;
-    bool _pickPressed = false;
 
     // Of the stroke in progress: none has begun, or nothing was drawn yet
     enum class Stroke { none, begun, drawn };

@@ -8,6 +8,7 @@
 #include "Brush/BrushCommands.h"
 #include "Brush/BrushStorage.h"
 #include "Canvas/CanvasLayers.h"
+#include "Colour/ColorPanel.h"
 #include "Documents/Autosave.h"
 #include "Documents/ImageFiles.h"
 #include "Documents/NewCanvasDialog.h"
@@ -104,6 +105,7 @@ void MainWindow::watchView() {
     _symmetry->watchView();
     _layers->setView(now);
     _fill->watch(now);
+    _colours->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
     connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);

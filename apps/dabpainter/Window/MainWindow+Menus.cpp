@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QUrl>
+#include <algorithm>
 
 #include "Brush/BrushCommands.h"
 #include "Canvas/QDDrawCanvas.h"
@@ -14,6 +15,7 @@
 #include "QDEAGLView/QDDrawView.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/ColorPicker.h"
 #include "Window/AboutReport.h"
 #include "Window/Commands.h"
 #include "Window/MainWindow.h"
@@ -171,17 +173,19 @@ void MainWindow::makeViewMenu() {
                                 _theme->setChoice(choice);
                             });
     const auto isAnyShown = [this] {
-        return !_dock->isHidden() || !_presetDock->isHidden() || !_layerDock->isHidden();
+        const auto docks = {_colourDock, _presetDock, _layerDock, _dock};
+        return std::any_of(docks.begin(), docks.end(),
+                           [](const QDockWidget* dock) { return !dock->isHidden(); });
     };
     auto* panel = new QAction(tr("&Panels"), this);
     menu->addAction(panel);
     connect(panel, &QAction::triggered, this, [this, isAnyShown] {
         const bool show = !isAnyShown();
-        for (QDockWidget* dock : {_presetDock, _layerDock, _dock})
+        for (QDockWidget* dock : {_colourDock, _presetDock, _layerDock, _dock})
             dock->setVisible(show);
     });
     panel->setCheckable(true);
-    for (const QDockWidget* dock : {_presetDock, _layerDock, _dock})
+    for (const QDockWidget* dock : {_colourDock, _presetDock, _layerDock, _dock})
         connect(dock, &QDockWidget::visibilityChanged, panel,
                 [panel, isAnyShown] { panel->setChecked(isAnyShown()); });
     // On the canvas alone: elsewhere the tabulator goes from field to field.

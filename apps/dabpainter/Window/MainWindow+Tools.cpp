@@ -20,6 +20,7 @@
 #include "Tools/Tools.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/ColorPicker.h"
 #include "Viewport/StraightLines.h"
 #include "Window/Commands.h"
 #include "Window/MainWindow.h"
@@ -115,7 +116,7 @@ void MainWindow::makeToolBars() {
         if (_tools->tool() == Tool::fill)
             fillAt(at);
     });
-    connect(_pointer, &CanvasPointer::pickingChanged, this, [this](bool picking) {
+    connect(&_pointer->picker(), &ColorPicker::onChanged, this, [this](bool picking) {
         if (!picking)
             _tools->endPick();
     });
@@ -142,7 +143,7 @@ void MainWindow::showTool(Tool tool) {
     _fill->setOn(tool == Tool::fill);
     _lines->setOn(draws);
     _pointer->setPaints(tool != Tool::fill);
-    _pointer->setPicking(tool == Tool::pick);
+    _pointer->picker().setOn(tool == Tool::pick);
 }
 
 void MainWindow::fillAt(QPointF viewPoint) {

@@ -34,6 +34,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/ColorPicker.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
@@ -73,6 +74,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
     setCentralWidget(_viewport);
+    makeColourDock(folders);
     _presets = new PresetBrowser(_brush, _prompts, std::move(folders), [this] { return _pointer->isIdle(); });
     _presetDock = addDock(tr("Brushes"), QStringLiteral("presetDock"), _presets);
     _panel = new BrushPanel(_brush, _prompts);
@@ -81,7 +83,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), _layers);
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
-    resizeDocks({_presetDock, _dock}, {1, 1}, Qt::Vertical);
+    resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
     _symmetry = new SymmetryGuide(*_viewport);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
@@ -116,9 +118,6 @@ void MainWindow::connectParts() {
     connect(_layers, &LayerPanel::activeChanged, this, &MainWindow::choosePaper);
     connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
     connect(_panel, &BrushPanel::eyedropper, this, [this] { _tools->choose(Tool::pick); });
-    connect(_pointer, &CanvasPointer::picked, this, [this](const QColor& color) {
-        _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor(color)));
-    });
     connect(_pointer, &CanvasPointer::noShapeFound, this,
             [this] { statusBar()->showMessage(tr("No shape was recognised"), kMessageTime); });
     connect(_presets, &PresetBrowser::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));
@@ -158,7 +157,7 @@ MainWindow::~MainWindow() {
     // While this is still a window that their last signals can reach; the pointer goes before what it
     // watches.
     delete _pointer;
-    for (QDockWidget* dock : {_dock, _layerDock, _presetDock}) {
+    for (QDockWidget* dock : {_dock, _layerDock, _presetDock, _colourDock}) {
         disconnect(dock, &QDockWidget::visibilityChanged, nullptr, nullptr);  // which looks at both
         delete dock;
     }

@@ -30,6 +30,7 @@ class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
+class ColorPanel;
 class Commands;
 class FillPointer;
 class LayerPanel;
@@ -73,6 +74,7 @@ public:
 
     BrushModel& brush() { return _brush; }
     BrushPanel& panel() { return *_panel; }
+    ColorPanel& colours() { return *_colours; }
     PresetBrowser& presets() { return *_presets; }
     CanvasViewport& viewport() { return *_viewport; }
     CanvasPointer& pointer() { return *_pointer; }
@@ -96,6 +98,7 @@ protected:
 
 private:
     QDockWidget* addDock(const QString& title, const QString& name, QWidget* widget);
+    void makeColourDock(const PresetFolders& brushes);
     void makeFileMenu();
     void makeEditMenu();
     void makeCanvasMenu();
@@ -182,9 +185,10 @@ private:
     BrushBar* _brushBar;
     PresetBrowser* _presets;
     LayerPanel* _layers;
+    ColorPanel* _colours;
     SelectionEditor* _selection;
     SelectionTool* _selectionTool;
-    QDockWidget *_presetDock, *_layerDock, *_dock;
+    QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;
