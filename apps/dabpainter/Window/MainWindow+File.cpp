@@ -17,6 +17,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PulledString.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
@@ -96,6 +97,7 @@ void MainWindow::watchView() {
     _lossesKnown.clear();
     _lines->watchView();
     _symmetry->watchView();
+    _string->watchView();
     _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);

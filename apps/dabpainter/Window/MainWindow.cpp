@@ -34,6 +34,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PulledString.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
@@ -78,6 +79,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _dock->raise();
     resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
     _symmetry = new SymmetryGuide(*_viewport);
+    _string = new PulledString(*_viewport, *_pointer);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 

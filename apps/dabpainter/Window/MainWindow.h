@@ -30,6 +30,7 @@ class CanvasViewport;
 class Commands;
 class LayerPanel;
 class PresetBrowser;
+class PulledString;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
@@ -157,6 +158,7 @@ private:
     CanvasStatus* _status;
     StraightLines* _lines;
     SymmetryGuide* _symmetry;
+    PulledString* _string;
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;
