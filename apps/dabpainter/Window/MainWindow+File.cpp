@@ -128,7 +128,7 @@ void MainWindow::choosePaper(int layer) {
 void MainWindow::replaceLost() {
     if (!view() || !view()->isContextLost())
         return;
-    const QImage seen = view()->displayImage();
+    const QImage seen = _selection->seenIn(view()->displayImage());
     const bool replaced = openPicture(seen, {.path = _document.path(),
                                              .plan = _document.plan(),
                                              .copy = _autosave->takeName(),
