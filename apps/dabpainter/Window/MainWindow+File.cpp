@@ -7,6 +7,7 @@
 
 #include "Brush/BrushCommands.h"
 #include "Brush/BrushStorage.h"
+#include "Canvas/CanvasLayers.h"
 #include "Documents/Autosave.h"
 #include "Documents/ImageFiles.h"
 #include "Documents/NewCanvasDialog.h"
@@ -147,12 +148,13 @@ bool MainWindow::tellFault(const QString& fault) {
 
 bool MainWindow::startCanvas(const CanvasPlan& plan) {
     const QColor& ground = plan.background;
-    return replaceCanvas(plan.size, 8,
-                         [&](QDDrawView& view) {
-                             view.clearWithColor(ground.alpha() == 0 ? ESColor() : ESColor(ground), false);
-                             return true;
-                         },
-                         {.path = {}, .plan = plan, .copy = _autosave->takeName()});
+    const auto begin = [&](QDDrawView& view) {
+        view.clearWithColor(ground.alpha() == 0 ? ESColor() : ESColor(ground), false);
+        return !plan.paintsApart || ground.alpha() < 255 ||
+               (view.layers().setSettings(0, {.name = tr("Paper")}) &&
+                view.layers().add(1, {.name = tr("Paint")}));
+    };
+    return replaceCanvas(plan.size, 8, begin, {.path = {}, .plan = plan, .copy = _autosave->takeName()});
 }
 
 void MainWindow::clearCanvas() {
