@@ -20,6 +20,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PulledString.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
@@ -103,6 +104,7 @@ void MainWindow::watchView() {
     _lossesKnown.clear();
     _lines->watchView();
     _symmetry->watchView();
+    _string->watchView();
     _layers->setView(now);
     _fill->watch(now);
     _colours->setView(now);

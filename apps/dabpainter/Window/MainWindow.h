@@ -36,6 +36,7 @@ class FillPointer;
 class LayerPanel;
 class PresetBrowser;
 class RecentFiles;
+class PulledString;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
@@ -180,6 +181,7 @@ private:
     SymmetryGuide* _symmetry;
     Tools* _tools;
     FillPointer* _fill;
+    PulledString* _string;
     BrushPanel* _panel;
     QToolBar* _toolBar;
     BrushBar* _brushBar;
