@@ -90,7 +90,8 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
-    makeSelection();
+    _lines = new StraightLines(*_viewport);
+    makeSelection();  // which hears of presses before those do, and after held keys
     makeFileMenu();
     makeEditMenu();
     makeSelectMenu();
@@ -100,7 +101,6 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeViewMenu();
     makeHelpMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
-    _lines = new StraightLines(*_viewport);
     makeToolBars();
     showDocument();
     readState();
