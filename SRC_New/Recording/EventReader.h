@@ -53,6 +53,10 @@ private:
     bool readArea(QRect& area);
     bool readView(ViewChange& change);
     bool readShape(ShapeRecord& shape);
+    bool readLayers(InputLayers& layers);
+    bool readLayerEdit(InputLayerEdit& edit);
+    // A member of a layer, by its place among them.
+    void readOfLayer(int place, LayerSettings& settings, QImage& picture);
     bool readPicture(QImage& image);
     bool readPictures(QList<QImage>& images);
     template <typename What, typename Read>

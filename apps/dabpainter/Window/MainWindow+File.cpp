@@ -169,7 +169,7 @@ bool MainWindow::openImage(const QString& path) {
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
     const bool opened =
-        replaceCanvas(read.picture.size, 8, [&](QDDrawView& view) { return showLayers(read.picture, view); },
+        replaceCanvas(read.picture.size, depthOf(read.picture), [&](QDDrawView& view) { return showLayers(read.picture, view); },
                       {.path = QFileInfo(path).absoluteFilePath(),
                        .plan = {read.picture.size, paperOf(read.picture)},
                        .copy = _autosave->takeName(),
