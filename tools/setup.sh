@@ -6,7 +6,7 @@
 # apt-get is called only when a package is missing, as root or through sudo.
 set -euo pipefail
 
-build=(cmake ninja-build g++ pkg-config libcli11-dev libeigen3-dev nlohmann-json3-dev qt6-base-dev qt6-declarative-dev qt6-tools-dev libepoxy-dev libhwy-dev liblz4-dev libquazip1-qt6-dev libwebp-dev libxxhash-dev zlib1g-dev libegl-dev libegl-mesa0 libgl1-mesa-dri)
+build=(cmake ninja-build g++ pkg-config libcli11-dev libeigen3-dev nlohmann-json3-dev qt6-base-dev qt6-declarative-dev qt6-tools-dev qt6-l10n-tools libepoxy-dev libhwy-dev liblz4-dev libquazip1-qt6-dev libwebp-dev libxxhash-dev zlib1g-dev libegl-dev libegl-mesa0 libgl1-mesa-dri)
 # clang: the fuzzers. locales: the tests compile a locale with a decimal comma from its files. xvfb: Qt's own OpenGL and window tests need a
 # display. qt6-base-private-dev: the window tests report pens to Qt as a platform does. dpkg-dev to abigail-tools: the packages. g++-mingw to wine64: what runs
 # on Windows. The last three: the reference.

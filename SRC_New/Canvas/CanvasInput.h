@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "Brushes/BrushProperties.h"
+#include "Dabs/Symmetry.h"
 #include "History/LayerSettings.h"
 #include "Recognition/ShapeRecord.h"
 
@@ -120,6 +121,7 @@ public:
     [[nodiscard]] virtual bool areaSet(const QRect& area) = 0;
     /// The canvas is shown turned, see QDDrawCanvas::setViewTurn().
     virtual void viewTurned(float radian, bool mirrored) = 0;
+    virtual void symmetrySet(const Symmetry& symmetry) = 0;
 
     // ---- The history
 

@@ -59,6 +59,9 @@ bool QDDrawCanvas::Parts::listen(CanvasInput* hears) {
     hears->secondLineSet(brush.present().slRadius, brush.present().relationValue);
     hears->randomRepeats(painter.repeats());
     hears->viewTurned(brush.viewRadian(), brush.isViewMirrored());
+    if (painter.symmetry() != Symmetry()) {
+        hears->symmetrySet(painter.symmetry());
+    }
     if (!tellPicture(isKnown || isAsMade)) {
         listener = nullptr;
         return false;
@@ -337,6 +340,10 @@ bool QDDrawCanvas::Input::areaSet(const QRect& area) {
 
 void QDDrawCanvas::Input::viewTurned(float radian, bool mirrored) {
     _parts.turnView(radian, mirrored);
+}
+
+void QDDrawCanvas::Input::symmetrySet(const Symmetry& symmetry) {
+    _parts.setSymmetry(symmetry);
 }
 
 void QDDrawCanvas::Input::stepRecorded() {

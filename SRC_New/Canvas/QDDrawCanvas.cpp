@@ -159,6 +159,14 @@ void QDDrawCanvas::setViewTurn(double radians, bool mirrored) {
     }
 }
 
+const Symmetry& QDDrawCanvas::symmetry() const {
+    return _inside->parts->painter.symmetry();
+}
+
+void QDDrawCanvas::setSymmetry(const Symmetry& symmetry) {
+    _inside->parts->setSymmetry(symmetry);
+}
+
 void QDDrawCanvas::setProfiling(bool profiling) {
     _inside->parts->clock.isOn = profiling;
 }

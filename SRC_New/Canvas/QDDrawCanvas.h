@@ -17,6 +17,7 @@
 #include "Canvas/QDDrawTouch.h"
 #include "Canvas/QDDrawViewDelegate.h"
 #include "Canvas/StageClock.h"
+#include "Dabs/Symmetry.h"
 #include "History/StepPicture.h"
 #include "History/UndoRefusal.h"
 #include "Maths/Export.h"
@@ -155,6 +156,10 @@ public:
     void updateScaleInfo();
     /// A display shows it mirrored left to right, then turned counter-clockwise: tips keep their angle as seen.
     void setViewTurn(double radians, bool mirrored);
+    /// Of strokes and shapes, copies are drawn with them from the next segment on; none at first. The live preview and
+    /// brushes with bristles draw no copies. A centre that is not finite is refused, with a log line.
+    const dabcanvas::Symmetry& symmetry() const;
+    void setSymmetry(const dabcanvas::Symmetry& symmetry);
     bool edited() const;  ///< the canvas was drawn on or cleared since the last step
     /// Whether it differs from what it was made as, or from what it was when the host last saved it and said so, by
     /// false; a step that shows that picture again is not modified either.

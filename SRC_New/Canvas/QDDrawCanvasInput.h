@@ -27,6 +27,7 @@ public:
     bool layersEdited(const dabcanvas::InputLayerEdit& edit) override;
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
+    void symmetrySet(const dabcanvas::Symmetry& symmetry) override;
     void stepRecorded() override;
     void historyReset() override;
     bool undone() override;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/QDDrawCanvasParts.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "Canvas/CanvasLog.h"
@@ -196,9 +198,15 @@ void QDDrawCanvas::Parts::leaveDrawn() {
 }
 
 void QDDrawCanvas::Parts::showDrawn(const std::optional<Rect>& area, bool online) {
-    if (area) {
-        lastTouched = *area;
-        updateImage(online, kind() == StrokeKind::smudge);
+    const std::vector<Rect> copied = painter.takeCopied();
+    if (!area) {
+        return;
+    }
+    lastTouched = *area;
+    updateImage(online, kind() == StrokeKind::smudge);
+    for (const Rect& copy : copied) {
+        lastTouched = copy;
+        updateImage(online, false);
     }
 }
 
@@ -323,6 +331,18 @@ void QDDrawCanvas::Parts::repeatRandom(bool repeats) {
 void QDDrawCanvas::Parts::turnView(float radian, bool mirrored) {
     tell([&](CanvasInput& to) { to.viewTurned(radian, mirrored); });
     brush.setViewTurn(radian, mirrored);
+}
+
+void QDDrawCanvas::Parts::setSymmetry(Symmetry symmetry) {
+    if (!std::isfinite(symmetry.centreX) || !std::isfinite(symmetry.centreY)) {
+        qCWarning(lcDabcanvas, "the centre of a symmetry is a place");
+        return;
+    }
+    symmetry.rays = std::clamp(symmetry.rays, kFewestRays, kMostRays);
+    if (symmetry != painter.symmetry()) {
+        tell([&](CanvasInput& to) { to.symmetrySet(symmetry); });
+        painter.setSymmetry(symmetry);
+    }
 }
 
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {

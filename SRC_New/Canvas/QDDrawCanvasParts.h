@@ -113,6 +113,7 @@ public:
     void seedRandom(std::uint32_t seed);
     void repeatRandom(bool repeats);
     void turnView(float radian, bool mirrored);
+    void setSymmetry(dabcanvas::Symmetry symmetry);
     template <typename Tell>
     void tell(Tell&& tell) {
         if (listener != nullptr && !isUntold) {

@@ -185,45 +185,81 @@ void StrokePainter::resetMaker(DrawTarget target) {
 
 Rect StrokePainter::drawRun(std::span<const LPPoint> points, DrawTarget target) {
     const SurfaceScope surface(_layers.surface());
+    const std::size_t most = std::max<std::size_t>(kMostPoints / (1 + _copies.size()), 1);
     Rect touched;
-    for (std::size_t first = 0; surface && first < points.size(); first += kMostPoints) {
+    for (std::size_t first = 0; surface && first < points.size(); first += most) {
         const StageClock::Stage stage(_clock, &StrokeStats::drawingSeconds, &_layers.surface());
-        touched = touched.united(
-            drawSome(points.subspan(first, std::min(kMostPoints, points.size() - first)), target));
+        touched =
+            touched.united(drawSome(points.subspan(first, std::min(most, points.size() - first)), target));
     }
     return touched;
 }
 
 Rect StrokePainter::drawSome(std::span<const LPPoint> points, DrawTarget target) {
-    DabMaker& maker = makerOf(target);
     if (target == DrawTarget::smudge) {
-        SmudgeMaker& smudges = _brush.smudges();
-        _madeSmudges.clear();
-        smudges.make(maker, points.data(), points.size(),
-                     [&](const SmudgeDab& dab) { _madeSmudges.push_back(dab); });
-        _clock.stats.dabs += _madeSmudges.size();
-        return _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
+        return smudgeSome(points);
     }
     _made.clear();
     DabBounds bounds{static_cast<double>(_layers.size().width), static_cast<double>(_layers.size().height)};
-    maker.make(points.data(), points.size(), [&](const Dab& dab) {
+    std::vector<DabBounds> ofCopies(_copies.size(), bounds);
+    const auto take = [this](const Dab& dab, DabBounds& touched) {
         ++_clock.stats.dabs;
         // A stroke may leave the picture and be far off for a million dabs.
-        if (bounds.grow(dab)) {
+        if (touched.grow(dab)) {
             _made.push_back(dab);
         }
+    };
+    makerOf(target).make(points.data(), points.size(), [&](const Dab& dab) {
+        take(dab, bounds);
+        for (std::size_t i = 0; i < _copies.size(); ++i) {
+            take(_copies[i].of(dab), ofCopies[i]);
+        }
     });
-    const Rect drawn = target == DrawTarget::line ? _layers.draw(PaintLayer::line, _made, _brush.style())
-                       : target == DrawTarget::subLine
-                           ? _layers.draw(PaintLayer::subLine, _made, _brush.subStyle())
-                           : _layers.drawOnPicture(_made, _brush.subStyle());
+    if (drawMade(target).isEmpty() && !_made.empty()) {
+        return {};
+    }
+    for (const DabBounds& copied : ofCopies) {
+        _copied.push_back(copied.pixelsOnBuffer());
+    }
     // Of all dabs: what lies between two of them counts as touched.
-    return drawn.isEmpty() && !_made.empty() ? Rect() : bounds.pixelsOnBuffer();
+    return bounds.pixelsOnBuffer();
+}
+
+Rect StrokePainter::drawMade(DrawTarget target) {
+    return target == DrawTarget::line      ? _layers.draw(PaintLayer::line, _made, _brush.style())
+           : target == DrawTarget::subLine ? _layers.draw(PaintLayer::subLine, _made, _brush.subStyle())
+                                           : _layers.drawOnPicture(_made, _brush.subStyle());
+}
+
+// What bristles carry is of one way, so that they have no copies.
+Rect StrokePainter::smudgeSome(std::span<const LPPoint> points) {
+    SmudgeMaker& smudges = _brush.smudges();
+    _madeSmudges.clear();
+    smudges.make(_brush.smudgeDabs(), points.data(), points.size(), [&](const SmudgeDab& dab) {
+        _madeSmudges.push_back(dab);
+        if (dab.bristles.part > 0) {
+            return;
+        }
+        for (const SymmetryMap& copy : _copies) {
+            _madeSmudges.push_back(copy.of(dab));
+        }
+    });
+    _clock.stats.dabs += _madeSmudges.size();
+    return _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
+}
+
+void StrokePainter::setSymmetry(const Symmetry& symmetry) {
+    _symmetry = symmetry;
+    _copies = copiesOf(symmetry);
 }
 
 Rect StrokePainter::drawPoints(std::span<const LPPoint> points, DrawTarget target) {
     const LineScope scope(*this);
-    return drawRun(points, target);
+    Rect touched = drawRun(points, target);
+    for (const Rect& copied : takeCopied()) {
+        touched = touched.united(copied);
+    }
+    return touched;
 }
 
 Rect StrokePainter::drawRuns(const std::vector<std::vector<LPPoint>>& runs, DrawTarget target) {

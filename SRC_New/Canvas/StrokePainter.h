@@ -10,11 +10,13 @@
 
 #include <QPointF>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "Canvas/BrushState.h"
 #include "Canvas/PaintLayers.h"
 #include "Canvas/StageClock.h"
+#include "Dabs/Symmetry.h"
 #include "LineProcess/LPSharedState.h"
 #include "Recognition/ShapeRecord.h"
 
@@ -51,6 +53,12 @@ public:
     // The dabs to come are no continuation of those before: no direction leads from one to the next.
     void restartDabs(StrokeKind kind);
 
+    // Of every dab from now on, copies are drawn with it.
+    void setSymmetry(const Symmetry& symmetry);
+    const Symmetry& symmetry() const { return _symmetry; }
+    // Areas that copies have touched since this was asked last, and extend() and its fellows did not tell of.
+    std::vector<Rect> takeCopied() { return std::exchange(_copied, {}); }
+
     // ---- dabs without a stroke
 
     // Runs of points, or the outline of a shape, a run at a time, in the present brush. None for a shape that cannot be
@@ -77,6 +85,8 @@ private:
     std::optional<Rect> addSample(const StrokeSample& sample, bool end, bool subLineToo);
     Rect drawRun(std::span<const LPPoint> points, DrawTarget target);
     Rect drawSome(std::span<const LPPoint> points, DrawTarget target);
+    Rect smudgeSome(std::span<const LPPoint> points);
+    Rect drawMade(DrawTarget target);
     Rect drawRuns(const std::vector<std::vector<LPPoint>>& runs, DrawTarget target);
     DabMaker& makerOf(DrawTarget target);
     void resetMaker(DrawTarget target);
@@ -86,6 +96,9 @@ private:
     StageClock& _clock;
     std::vector<Dab> _made;  // of the present run
     std::vector<SmudgeDab> _madeSmudges;
+    Symmetry _symmetry;
+    std::vector<SymmetryMap> _copies;
+    std::vector<Rect> _copied;
 
     bool _isRefused = false;  // there is no memory for a layer of it: nothing of the stroke is drawn
     bool _hasMoved = false;   // the first move of the stroke was taken

@@ -9,7 +9,7 @@
 
 namespace dabcanvas {
 
-/// How a canvas lies in its view.
+/// How a canvas lies in its view. For scroll bars put a view of the canvas's size into a QScrollArea, stretched as it is.
 enum class ViewFit {
     stretch,  ///< over all of the view, whatever its shape; neither turned nor mirrored
     whole,    ///< all of it in sight, with its shape kept, as large as that goes

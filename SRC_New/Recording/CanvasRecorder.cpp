@@ -201,6 +201,10 @@ void CanvasRecorder::viewTurned(float radian, bool mirrored) {
     add(ViewChange{radian, mirrored});
 }
 
+void CanvasRecorder::symmetrySet(const Symmetry& symmetry) {
+    add(symmetry);
+}
+
 void CanvasRecorder::stepRecorded() {
     add(RecordedCall::stepRecorded);
     ++_undoSteps;

@@ -74,6 +74,7 @@ private:
     bool layersEdited(const InputLayerEdit& edit) override;
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
+    void symmetrySet(const Symmetry& symmetry) override;
     void stepRecorded() override;
     void historyReset() override;
     bool undone() override;

@@ -113,13 +113,14 @@ bool EventReader::read(std::vector<RecordedEvent>& events) {
         picture,
         area,
         view,
+        symmetry,
         call,
         layers,
         layer
     };
-    static const QStringList kMembers{"at",    "stroke", "brush",   "secondLine", "seed",    "repeatable",
-                                      "clear", "image",  "preview", "shape",      "picture", "area",
-                                      "view",  "do",     "layers",  "layer"};
+    static const QStringList kMembers{"at",    "stroke",   "brush",   "secondLine", "seed",    "repeatable",
+                                      "clear", "image",    "preview", "shape",      "picture", "area",
+                                      "view",  "symmetry", "do",      "layers",     "layer"};
     JsonMembers members(_reader, kMembers);
     double time = 0;
     QString name;
@@ -175,6 +176,9 @@ bool EventReader::read(std::vector<RecordedEvent>& events) {
                 break;
             case view:
                 one<ViewChange>(events, [&](ViewChange& change) { return readView(change); });
+                break;
+            case symmetry:
+                one<Symmetry>(events, [&](Symmetry& symmetryRead) { return readSymmetry(symmetryRead); });
                 break;
             case call:
                 one<RecordedCall>(events,
@@ -402,6 +406,29 @@ bool EventReader::readLayerEdit(InputLayerEdit& edit) {
             readWhole(_reader, 0, kMostLayers, place == to ? edit.to : edit.layer);
         else
             readOfLayer(place - first, edit.settings, edit.picture);
+    });
+}
+
+bool EventReader::readSymmetry(Symmetry& symmetry) {
+    enum { kind, x, y, rays, mirrored };
+    static const QStringList kMembers{"kind", "x", "y", "rays", "mirrored"};
+    return JsonMembers(_reader, kMembers).readObject([&](int place) {
+        switch (place) {
+            case kind:
+                readWord(_reader, kSymmetryNames, symmetry.kind);
+                break;
+            case x:
+                _reader.readNumber(symmetry.centreX);
+                break;
+            case y:
+                _reader.readNumber(symmetry.centreY);
+                break;
+            case rays:
+                readWhole(_reader, kFewestRays, kMostRays, symmetry.rays);
+                break;
+            default:
+                _reader.readBoolean(symmetry.mirrored);
+        }
     });
 }
 

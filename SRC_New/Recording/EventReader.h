@@ -52,6 +52,7 @@ private:
     bool readScissor(InputLimits& limits);
     bool readArea(QRect& area);
     bool readView(ViewChange& change);
+    bool readSymmetry(Symmetry& symmetry);
     bool readShape(ShapeRecord& shape);
     bool readLayers(InputLayers& layers);
     bool readLayerEdit(InputLayerEdit& edit);

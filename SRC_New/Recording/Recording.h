@@ -112,10 +112,10 @@ struct ViewChange {
 /// What has nothing to tell besides.
 enum class RecordedCall : std::uint8_t { stepRecorded, historyReset, undone, redone };
 
-/// What it was; an InputImage was placed.
+/// What it was; an InputImage was placed, a Symmetry set.
 using RecordedWhat = std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange,
                                   ClearedCanvas, InputImage, PlacedPreview, DrawnShape, WholePicture,
-                                  AreaChange, ViewChange, RecordedCall, WholeLayers, LayerChange>;
+                                  AreaChange, ViewChange, Symmetry, RecordedCall, WholeLayers, LayerChange>;
 
 /// One thing that entered the canvas.
 struct RecordedEvent {

@@ -124,6 +124,13 @@ public:
         _to.viewTurned(change.radian, change.mirrored);
         return true;
     }
+    bool operator()(const Symmetry& symmetry) {
+        Symmetry scaledSymmetry = symmetry;
+        scaledSymmetry.centreX *= scale();
+        scaledSymmetry.centreY *= scale();
+        _to.symmetrySet(scaledSymmetry);
+        return true;
+    }
     bool operator()(RecordedCall call) {
         switch (call) {
             case RecordedCall::stepRecorded:

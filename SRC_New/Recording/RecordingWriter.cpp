@@ -231,6 +231,15 @@ public:
         member(text, "mirrored", change.mirrored);
         text += '}';
     }
+    void operator()(const Symmetry& symmetry) {
+        open(text, "symmetry", '{');
+        member(text, "kind", QString::fromLatin1(kSymmetryNames[std::size_t(symmetry.kind)]));
+        member(text, "x", symmetry.centreX);
+        member(text, "y", symmetry.centreY);
+        member(text, "rays", symmetry.rays);
+        member(text, "mirrored", symmetry.mirrored);
+        text += '}';
+    }
     void operator()(const RecordedCall& call) {
         member(text, "do", QString::fromLatin1(kCallNames[std::size_t(call)]));
     }

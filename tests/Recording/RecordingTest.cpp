@@ -51,7 +51,7 @@ public:
             case 27:
                 return layer();
             case 20:
-                return _canvas.setViewTurn(unit() * 6.0, below(2) == 0);
+                return turn(unit(), below(2) == 0);
             case 21:
                 return area();
             case 0:
@@ -145,6 +145,11 @@ private:
         else
             _canvas.setImage(picture, QRectF(below(99), below(99), picture.width(), picture.height()),
                              below(4) == 0);
+    }
+    void turn(float share, bool mirrored) {
+        _canvas.setViewTurn(share * 6.0, mirrored);
+        _canvas.setSymmetry(
+            {SymmetryKind(int(share * 100) % 5), share * kWidth, 50, 2 + int(share * 22), mirrored});
     }
     void ellipse() {
         ShapeRecord shape;

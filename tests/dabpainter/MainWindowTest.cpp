@@ -20,6 +20,7 @@
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
 #include "Preset/QDBrushManager.h"
+#include "Selection/SelectionEditor.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasPointer.h"
 #include "support/FailingDriver.h"
@@ -351,6 +352,7 @@ TEST_F(MainWindowTest, EveryCommandEndsAStrokeFirst) {
             send(QEvent::MouseMove, inView(x, 40), Qt::LeftButton);
         EXPECT_LT(pixel(60, 40).lightness(), 128);
         action(text)->trigger();
+        _window->selection().settle();
         settle();
         EXPECT_FALSE(_window->view()->isDrawing());
         const bool isGone = command == "&Undo" || command == "&Clear";
@@ -552,12 +554,14 @@ TEST_F(MainWindowTest, WhatAFileCannotKeepIsAskedForOnce) {
 TEST_F(MainWindowTest, APlacedImageIsInTheMiddleAndFits) {
     _window->viewport().setZoom(1.37);
     ASSERT_TRUE(_window->placeImage(savedImage("small.png", Qt::red)));
+    _window->selection().settle();
     EXPECT_EQ(pixel(100, 75), QColor(Qt::red));
     EXPECT_EQ(pixel(88, 67), QColor(Qt::red));
     EXPECT_EQ(pixel(87, 75), QColor(Qt::white));
     EXPECT_EQ(pixel(112, 75), QColor(Qt::white));
     EXPECT_TRUE(_window->isUnsaved());
     ASSERT_TRUE(_window->placeImage(savedImage("tall.png", Qt::blue, QSize(100, 600))));
+    _window->selection().settle();
     EXPECT_EQ(pixel(100, 0), QColor(Qt::blue));
     EXPECT_EQ(pixel(100, 149), QColor(Qt::blue));
     EXPECT_EQ(pixel(80, 75), QColor(Qt::white));

@@ -51,7 +51,7 @@ void CanvasPointer::watchView() {
     QDDrawView* view = _viewport.view();
     view->setAdjustCancelLine(false);  // short strokes are meant
     view->setUsesPenTilt(true);
-    setTouch(_touch);
+    tellOptions();
     view->setMouseTracking(true);
     view->setTabletTracking(true);
     _stroke = Stroke::none;
@@ -67,12 +67,38 @@ void CanvasPointer::watchView() {
 }
 
 void CanvasPointer::setTouch(TouchPolicy policy) {
-    _touch = policy;
-    if (QDDrawView* view = _viewport.view()) {
-        PointerOptions options = view->pointerOptions();
-        options.touch = policy;
-        view->setPointerOptions(options);
-    }
+    _options.touch = policy;
+    tellOptions();
+}
+
+void CanvasPointer::setPressure(const PressureCurve& curve) {
+    _options.pressure = curve;
+    tellOptions();
+}
+
+void CanvasPointer::setStabiliser(const StabiliserOptions& options) {
+    _options.stabiliser = options;
+    tellOptions();
+}
+
+void CanvasPointer::tellOptions() {
+    QDDrawView* view = _viewport.view();
+    if (!view)
+        return;
+    PointerOptions options = _options;
+    options.touch = _selecting && !fingersPaint() ? TouchPolicy::pensOnly : _options.touch;
+    view->setPointerOptions(options);
+}
+
+void CanvasPointer::setSelecting(bool selecting) {
+    _selecting = selecting;
+    tellOptions();
+    if (selecting)
+        _cursor.hideOutline();
+}
+
+bool CanvasPointer::isFree() const {
+    return !_spaceHeld && !_panning && !_picking && !_pickPressed;
 }
 
 QPointF CanvasPointer::place() const {
@@ -205,8 +231,7 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
 bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
     emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
     // Left to the mouse event that follows a tablet event which nobody took.
-    if (_spaceHeld || _panning || _picking || _pickPressed ||
-        (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
+    if (!isFree() || (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
         event.ignore();
         return true;
     }
@@ -321,7 +346,7 @@ void CanvasPointer::pickAt(QPointF at) {
 
 void CanvasPointer::pointTo(QPointF at) {
     _place = at;
-    if (_picking || _panning)
+    if (_picking || _panning || _selecting)
         _cursor.hideOutline();
     else
         _cursor.showAt(at);

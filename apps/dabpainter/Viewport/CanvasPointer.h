@@ -35,7 +35,14 @@ public:
     void watchView();
     // Where it is over the canvas, or else the middle; in the viewport's points.
     QPointF place() const;
+    // These hold for every view.
     void setTouch(TouchPolicy policy);
+    void setPressure(const PressureCurve& curve);
+    void setStabiliser(const StabiliserOptions& options);
+    bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
+    // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
+    void setSelecting(bool selecting);
+    bool isFree() const;  // it neither pans nor picks
     bool isPicking() const { return _picking; }
     void setPicking(bool picking);
     bool isIdle() const;  // no stroke is in progress
@@ -58,6 +65,7 @@ private:
     bool filterMouse(QMouseEvent& event, QPointF at);
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
+    void tellOptions();
     void pickAt(QPointF at);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
@@ -77,7 +85,8 @@ private:
     bool _panning = false;
     QPointF _panFrom;
     std::optional<QPointF> _place;
-    TouchPolicy _touch = TouchPolicy::fingersPaint;
+    PointerOptions _options;
+    bool _selecting = false;
     bool _picking = false;
     bool _pickPressed = false;
 

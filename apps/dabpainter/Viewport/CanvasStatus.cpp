@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QStatusBar>
 #include <cmath>
+#include <numbers>
 
 #include "QDEAGLView/QDDrawView.h"
 #include "Viewport/CanvasPointer.h"
@@ -17,6 +18,7 @@ CanvasStatus::CanvasStatus(QStatusBar& bar, const CanvasViewport& viewport, cons
       _viewport(viewport),
       _size(addLabel({})),
       _zoom(addLabel(QStringLiteral("3200 %"))),
+      _turn(addLabel({})),
       _position(addLabel(QStringLiteral("-16384, -16384"))),
       _pressure(addLabel({}, 1)),
       _shapes(new QLabel(tr("Shapes"))),
@@ -51,7 +53,18 @@ void CanvasStatus::showCanvas() {
     _size->setText(tr("%1 × %2 px").arg(size.width()).arg(size.height()));
     const double percent = _viewport.zoom() * 100;
     _zoom->setText(QStringLiteral("%1 %").arg(percent, 0, 'f', percent < 10 ? 1 : 0));
+    _turn->setText(view ? turnOf(*view) : QString());
+    _turn->setVisible(!_turn->text().isEmpty());
     _driver->setText(view ? view->rendererName() : QString());
+}
+
+// Nothing of a canvas that is shown as it is.
+QString CanvasStatus::turnOf(const QDDrawView& view) const {
+    const double degrees = std::round(view.viewRotation() * 180 / std::numbers::pi);
+    const QString turned = degrees == 0 ? QString() : tr("%1°").arg(degrees);
+    if (!view.isViewMirrored())
+        return turned;
+    return turned.isEmpty() ? tr("Mirrored") : tr("Mirrored, %1").arg(turned);
 }
 
 void CanvasStatus::showShapes(bool on) {

@@ -5,6 +5,7 @@
 #include <QPointF>
 
 class QLabel;
+class QDDrawView;
 class QStatusBar;
 
 namespace dabcanvas::dabpainter {
@@ -24,11 +25,12 @@ public:
 
 private:
     QLabel* addLabel(const QString& longest, int stretch = 0);
+    QString turnOf(const QDDrawView& view) const;
     void showPosition(QPointF bufferPoint);
 
     QStatusBar& _bar;
     const CanvasViewport& _viewport;
-    QLabel *_size, *_zoom, *_position, *_pressure, *_shapes, *_driver;
+    QLabel *_size, *_zoom, *_turn, *_position, *_pressure, *_shapes, *_driver;
 };
 
 }  // namespace dabcanvas::dabpainter

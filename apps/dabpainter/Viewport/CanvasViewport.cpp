@@ -44,6 +44,7 @@ void CanvasViewport::setView(std::unique_ptr<QDDrawView> view) {
     _view->lower();
     _view->show();
     connect(_view, &QDDrawView::viewChanged, this, [this] { emit zoomChanged(zoom()); });
+    connect(_view, &QDDrawView::canvasSizeChanged, this, &CanvasViewport::fit);
     fit();
 }
 
@@ -91,6 +92,25 @@ bool CanvasViewport::takesKeys() const {
 void CanvasViewport::pan(QPointF by) {
     if (_view)
         _view->panBy(by);
+}
+
+void CanvasViewport::turnBy(double radians) {
+    if (_view)
+        _view->setViewRotation(_view->viewRotation() + radians);
+}
+
+void CanvasViewport::turnUpright() {
+    if (_view)
+        _view->setViewRotation(0);
+}
+
+bool CanvasViewport::isMirrored() const {
+    return _view && _view->isViewMirrored();
+}
+
+void CanvasViewport::setMirrored(bool mirrored) {
+    if (_view)
+        _view->setViewMirrored(mirrored);
 }
 
 void CanvasViewport::resizeEvent(QResizeEvent*) {

@@ -30,6 +30,11 @@ public:
     // Whole in sight and upright, at most 1.
     void fit();
     void pan(QPointF by);
+    // About its middle; radians, counter-clockwise as seen.
+    void turnBy(double radians);
+    void turnUpright();
+    bool isMirrored() const;
+    void setMirrored(bool mirrored);
 
     QPointF bufferPoint(QPointF at) const;
     QPointF pointOfBuffer(QPointF bufferPoint) const;

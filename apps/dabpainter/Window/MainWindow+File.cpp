@@ -14,10 +14,12 @@
 #include "Layers/LayerPanel.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Selection/SelectionEditor.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -82,6 +84,7 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     }
     QDDrawView& next = *made;
     _document.begin(next, origin);
+    _selection->setCanvas(nullptr);
     _viewport->setView(std::move(made));
     watchView();
     return true;
@@ -90,8 +93,10 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
 void MainWindow::watchView() {
     QDDrawView* now = view();
     _pointer->watchView();
+    watchSelection();
     _lossesKnown.clear();
     _lines->watchView();
+    _symmetry->watchView();
     _layers->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
@@ -110,17 +115,19 @@ void MainWindow::watchView() {
     _status->showCanvas();
 }
 
-// The lowest layer of an opaque picture gets no holes: what is erased of it shows what it was painted on.
+// The lowest layer of an opaque picture gets no holes: what is erased or lifted off it shows what it was painted on.
 void MainWindow::choosePaper(int layer) {
     const QColor& ground = _document.plan().background;
-    _brush.setPaper(layer == 0 && ground.alpha() == 255 ? ground : QColor());
+    const QColor paper = layer == 0 && ground.alpha() == 255 ? ground : QColor();
+    _brush.setPaper(paper);
+    _selection->setPaper(paper);
 }
 
 // A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
 void MainWindow::replaceLost() {
     if (!view() || !view()->isContextLost())
         return;
-    const QImage seen = view()->displayImage();
+    const QImage seen = _selection->seenIn(view()->displayImage());
     const bool replaced = openPicture(seen, {.path = _document.path(),
                                              .plan = _document.plan(),
                                              .copy = _autosave->takeName(),
@@ -149,12 +156,12 @@ bool MainWindow::startCanvas(const CanvasPlan& plan) {
 }
 
 void MainWindow::clearCanvas() {
-    _pointer->endStroke();
+    finishEdits();
     _document.clear();
 }
 
 void MainWindow::newCanvas() {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayDiscard())
         return;
     NewCanvasDialog dialog(_document.plan(), this);
@@ -222,7 +229,7 @@ bool MainWindow::offerLeftPictures() {
     if (pictures.isEmpty())
         return false;
     const auto chosen = _prompts.pickLeft(this, _left, pictures);
-    _pointer->endStroke();
+    finishEdits();
     if (chosen && mayDiscard())
         recover(*chosen);
     return true;
@@ -234,23 +241,11 @@ bool MainWindow::placeImage(const QString& path) {
     const ReadImage read = readBusily(path, readImageFile);
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
-    const QSizeF canvas = view()->bufferSize();
-    QSizeF size = read.image.size();
-    if (size.width() > canvas.width() || size.height() > canvas.height())
-        size.scale(canvas, Qt::KeepAspectRatio);
-    const QPointF corner((canvas.width() - size.width()) / 2, (canvas.height() - size.height()) / 2);
-    // On whole pixels, so that a picture of its own size stays sharp.
-    const QRect rect(corner.toPoint(), size.toSize().expandedTo(QSize(1, 1)));
-    const QSizeF scale = view()->scale();
-    const QRectF inView(rect.x() * scale.width(), rect.y() * scale.height(), rect.width() * scale.width(),
-                        rect.height() * scale.height());
-    _pointer->endStroke();
-    return view()->drawImage(read.image, inView) ||
-           tellFault(tr("The image could not be placed; the log says why."));
+    return placePicture(read.image);
 }
 
 bool MainWindow::saveTo(const QString& path) {
-    _pointer->endStroke();
+    finishEdits();
     const QString fault = [&] {
         const BusyCursor busy;
         return _document.saveTo(path);
@@ -262,7 +257,7 @@ bool MainWindow::saveTo(const QString& path) {
 }
 
 void MainWindow::open() {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayDiscard())
         return;
     const QStringList paths = _prompts.pickImages(this, tr("Open Image"), false);
@@ -271,7 +266,7 @@ void MainWindow::open() {
 }
 
 void MainWindow::place() {
-    _pointer->endStroke();
+    finishEdits();
     const QStringList paths = _prompts.pickImages(this, tr("Place Image"), false);
     if (!paths.isEmpty())
         placeImage(paths.first());
@@ -298,7 +293,7 @@ bool MainWindow::save() {
 }
 
 bool MainWindow::saveAs(const QString& suggested) {
-    _pointer->endStroke();
+    finishEdits();
     const QString path =
         _prompts.pickSaveName(this, suggested.isEmpty() ? _document.suggestedPath() : suggested);
     return !path.isEmpty() && saveAsking(path);

@@ -77,6 +77,7 @@ void MainWindow::makeEditMenu() {
     _redo = addTo(menu, "edit.redo", tr("&Redo"), {key("Ctrl+Shift+Z"), key("Ctrl+Y")},
                   [this] { stepHistory(&QDDrawCanvas::redo); });
     menu->addSeparator();
+    addClipboard(menu);
     addTo(menu, "edit.undoSteps", tr("Undo &Steps…"), {}, [this] { askUndoSteps(); });
     addTo(menu, "edit.shortcuts", tr("&Keys…"), {}, [this] { ShortcutsDialog(*_commands, this).exec(); });
     auto* buttons = new QToolBar(tr("History"));
@@ -91,7 +92,10 @@ void MainWindow::makeEditMenu() {
 
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
-    addTo(menu, "canvas.clear", tr("&Clear"), {key("Delete")}, [this] { clearCanvas(); });
+    addTo(menu, "canvas.clear", tr("&Clear"), {key("Delete")}, [this] { removeSelected(); });
+    addCanvasSizes(menu);
+    addSymmetry(menu);
+    addPen(menu);
     // The present picture stays where it is: moving it could fail for want of memory.
     addChoices<SurfaceKind>(menu->addMenu(tr("&Paint with")),
                             {{tr("&Automatic"), SurfaceKind::automatic},
@@ -171,6 +175,8 @@ void MainWindow::makeViewMenu() {
         _pointer->endStroke();
         _viewport->fit();
     });
+    menu->addSeparator();
+    addTurns(menu);
     menu->addSeparator();
     const auto isAnyShown = [this] {
         return !_dock->isHidden() || !_presetDock->isHidden() || !_layerDock->isHidden();

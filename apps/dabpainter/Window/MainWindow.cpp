@@ -27,12 +27,16 @@
 #include "Layers/LayerPanel.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Selection/PictureMime.h"
+#include "Selection/SelectionEditor.h"
+#include "Selection/SelectionTool.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/Commands.h"
 #include "Window/MemoryWatch.h"
 
@@ -73,11 +77,14 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
     resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
+    _symmetry = new SymmetryGuide(*_viewport);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
+    makeSelection();
     makeFileMenu();
     makeEditMenu();
+    makeSelectMenu();
     makeCanvasMenu();
     makeBrushMenu();
     makeViewMenu();
@@ -129,6 +136,8 @@ void MainWindow::connectParts() {
 
 MainWindow::~MainWindow() {
     _document.end();
+    _selection->setCanvas(nullptr);
+    delete _selectionTool;
     delete _autosave;  // with its copy, while there is a document
     _brush.attach(nullptr);
     // While this is still a window that their last signals can reach; the pointer goes before what it
@@ -158,7 +167,7 @@ QDockWidget* MainWindow::addDock(const QString& title, const QString& name, QWid
 // ---- What they do
 
 void MainWindow::stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)()) {
-    _pointer->endStroke();
+    finishEdits();
     if (view())
         (view()->*step)();
 }
@@ -245,7 +254,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    _pointer->endStroke();
+    finishEdits();
     if (!mayDiscard()) {
         event->ignore();
         return;
@@ -258,13 +267,18 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     // What is dragged out of the list is here already.
-    if (!event->source() && !brushFilesOf(*event->mimeData()).isEmpty())
+    const QMimeData& dragged = *event->mimeData();
+    if (!event->source() && (!brushFilesOf(dragged).isEmpty() || hasPicture(dragged)))
         event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    _presets->importFiles(brushFilesOf(*event->mimeData()));
+    const QStringList brushes = brushFilesOf(*event->mimeData());
+    if (brushes.isEmpty())
+        placePicture(*event->mimeData());
+    else
+        _presets->importFiles(brushes);
 }
 
 void MainWindow::readState() {

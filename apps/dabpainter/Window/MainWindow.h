@@ -18,6 +18,7 @@ class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
+class QMimeData;
 
 namespace dabcanvas::dabpainter {
 
@@ -29,7 +30,10 @@ class CanvasViewport;
 class Commands;
 class LayerPanel;
 class PresetBrowser;
+class SelectionEditor;
+class SelectionTool;
 class StraightLines;
+class SymmetryGuide;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -47,7 +51,7 @@ public:
     bool openImage(const QString& path);
     bool recover(const LeftPicture& picture);
 
-    // Onto the middle of the canvas, made smaller when it does not fit.
+    // Floats over the middle of the canvas, made smaller when it does not fit.
     bool placeImage(const QString& path);
     bool saveTo(const QString& path);
     void clearCanvas();
@@ -67,6 +71,7 @@ public:
     Document& document() { return _document; }
     PainterSettings& settings() { return _settings; }
     Autosave& autosave() { return *_autosave; }
+    SelectionEditor& selection() { return *_selection; }
     Commands& commands() { return *_commands; }
     QDDrawView* view() const;
 
@@ -75,7 +80,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    // Brush files, from elsewhere; pictures only where the list of brushes is.
+    // Brush files and pictures, from elsewhere; pictures become brushes where the list of brushes is.
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -86,6 +91,16 @@ private:
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // To these menus: see MainWindow+Input.cpp
+    void addCanvasSizes(QMenu* menu);
+    bool takeCanvasArea(const QRect& area);
+    void addTurns(QMenu* menu);
+    void addPen(QMenu* menu);
+    void addSymmetry(QMenu* canvasMenu);
+    void addSymmetryOptions(QMenu* menu);
+    void makeSelection();
+    void makeSelectMenu();
+    void addClipboard(QMenu* menu);
     void connectParts();
     // name: see Commands.h
     QAction* addTo(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys,
@@ -112,6 +127,15 @@ private:
     bool saveAsking(const QString& path);
     void showDocument();
 
+    // A stroke, and what floats: before the canvas is saved, replaced or changed by something else.
+    void finishEdits();
+    void watchSelection();
+    void removeSelected();
+    void cutSelected();
+    bool copyPicture(const QImage& picture);
+    bool placePicture(const QImage& picture);
+    bool placePicture(const QMimeData& from);
+
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
     void recogniseShapes(bool on);
@@ -132,9 +156,12 @@ private:
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
+    SymmetryGuide* _symmetry;
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;
+    SelectionEditor* _selection;
+    SelectionTool* _selectionTool;
     QDockWidget *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;

@@ -163,6 +163,17 @@ QStringList pickBrushes(QWidget* parent) {
         tr("Brushes (*.xbf %1)").arg(foreignBrushPatterns()) + QStringLiteral(";;") + tr("All files (*)"));
 }
 
+QStringList pickPalettes(QWidget* parent) {
+    return QFileDialog::getOpenFileNames(
+        parent, tr("Import Palettes"), QString(),
+        tr("GIMP palettes (*.gpl)") + QStringLiteral(";;") + tr("All files (*)"));
+}
+
+QString pickPaletteName(QWidget* parent, const QString& suggested) {
+    return pickName(parent, tr("Export Palette"), suggested, tr("GIMP palette (*.gpl)"),
+                    QStringLiteral("gpl"));
+}
+
 QString askName(QWidget* parent, const QString& title, const QString& suggested) {
     return QInputDialog::getText(parent, title, tr("Name:"), QLineEdit::Normal, suggested);
 }
@@ -188,8 +199,8 @@ std::optional<LeftPicture> pickLeft(QWidget* parent, const LeftPictures& left,
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved, pickImages,  pickSaveName,  pickColor,  tell,     confirm,
-            askName,    pickBrushes, pickBrushName, showFolder, pickLeft, askLoss};
+    return {askUnsaved,  pickImages,    pickSaveName, pickColor, tell,         confirm,         askName,
+            pickBrushes, pickBrushName, showFolder,   pickLeft,  pickPalettes, pickPaletteName, askLoss};
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -35,6 +35,9 @@ struct Prompts {
     // Which one to go on with; none: not now.
     std::function<std::optional<LeftPicture>(QWidget*, const LeftPictures&, const QList<LeftPicture>& now)>
         pickLeft;
+    std::function<QStringList(QWidget*)> pickPalettes;
+    std::function<QString(QWidget*, const QString& suggested)>
+        pickPaletteName;                                          // to save as; empty: given up
     std::function<LossAnswer(QWidget*, Document::Loss)> askLoss;  // in the file that is to be saved
 };
 

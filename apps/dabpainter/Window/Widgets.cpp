@@ -11,6 +11,7 @@
 #include <QStylePainter>
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace dabcanvas::dabpainter {
 
@@ -51,6 +52,15 @@ public:
         return true;
     }
 };
+
+QPolygonF starPolygon() {
+    QPolygonF star;
+    for (int i = 0; i < 10; ++i) {
+        const double radian = (i * 36 - 90) * std::numbers::pi / 180, radius = i % 2 == 0 ? 6.5 : 2.8;
+        star << QPointF(8 + radius * std::cos(radian), 8.5 + radius * std::sin(radian));
+    }
+    return star;
+}
 
 // In a square of 16 x 16.
 QPainterPath glyphPath(Glyph glyph) {
@@ -100,6 +110,25 @@ QPainterPath glyphPath(Glyph glyph) {
         case Glyph::remove:
             line({{4, 4}, {12, 12}});
             line({{12, 4}, {4, 12}});
+            break;
+        case Glyph::wheel:
+            path.addEllipse(QRectF(1.5, 1.5, 13, 13));
+            path.addPolygon(QPolygonF({{5.5, 4.5}, {5.5, 11.5}, {12, 8}, {5.5, 4.5}}));
+            break;
+        case Glyph::sliders:
+            for (const auto& [y, knob] : {std::pair(3.5, 10.0), {8.0, 4.0}, {12.5, 8.0}}) {
+                line({{2, y}, {knob - 2, y}});
+                line({{knob + 2, y}, {14, y}});
+                path.addEllipse(QPointF(knob, y), 2, 2);
+            }
+            break;
+        case Glyph::palette:
+            for (const QPointF corner : {QPointF(2.5, 2.5), {9, 2.5}, {2.5, 9}, {9, 9}})
+                path.addRect(QRectF(corner, QSizeF(4.5, 4.5)));
+            break;
+        case Glyph::star:
+            path.addPolygon(starPolygon());
+            path.closeSubpath();
             break;
         case Glyph::menu:
             for (const double y : {4.5, 8.0, 11.5})

@@ -21,7 +21,22 @@ QBrush checkerBrush();
 // Scrolling over a field of a long panel must not change it: the wheel counts only once it was clicked.
 void guardFromWheel(QWidget* field);
 
-enum class Glyph { reset, swap, eyedropper, add, menu, copy, up, down, merge, remove };
+enum class Glyph {
+    reset,
+    swap,
+    eyedropper,
+    add,
+    menu,
+    copy,
+    up,
+    down,
+    merge,
+    remove,
+    wheel,
+    sliders,
+    palette,
+    star
+};
 
 // A flat button with a sign drawn in the palette's colours.
 class GlyphButton : public QToolButton {

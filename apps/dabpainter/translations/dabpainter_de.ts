@@ -5,2144 +5,2145 @@
     <name>Tables</name>
     <message>
         <source>A ball that skips a little and lays down more ink where it is pressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kugel, die leicht aussetzt und unter Druck mehr Farbe abgibt.</translation>
     </message>
     <message>
         <source>A blunt greasy crayon that skips the paper&apos;s pits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine stumpfe, fettige Wachskreide, die die Vertiefungen des Papiers auslässt.</translation>
     </message>
     <message>
         <source>A broad nib held at 45 degrees: thick and thin come of the direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine im Winkel von 45 Grad gehaltene Breitfeder: Dick und Dünn ergeben sich aus der Richtung.</translation>
     </message>
     <message>
         <source>A drawing pen of one width, whatever the hand does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Zeichenstift mit einer einzigen Strichbreite, was auch immer die Hand tut.</translation>
     </message>
     <message>
         <source>A fibre pen whose edge frays a little on the paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Faserstift, dessen Rand auf dem Papier etwas ausfranst.</translation>
     </message>
     <message>
         <source>A fingertip that drags wet paint along.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Fingerspitze, die nasse Farbe mitzieht.</translation>
     </message>
     <message>
         <source>A flat brush with sharp sides for planes of colour, dragging streaks of what it meets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Flachpinsel mit scharfen Kanten für Farbflächen, der Schlieren der berührten Farben mitzieht.</translation>
     </message>
     <message>
         <source>A flat wash brush with straight ends and a dark rim along both sides.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein flacher Lavierpinsel mit geraden Enden und dunklem Rand an beiden Seiten.</translation>
     </message>
     <message>
         <source>A flexible steel nib that swells under pressure and runs out in points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine biegsame Stahlfeder, die unter Druck anschwillt und spitz ausläuft.</translation>
     </message>
     <message>
         <source>A full pointed brush of ink, from a hair to a broad stroke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein voller Spitzpinsel mit Tusche, vom haarfeinen bis zum breiten Strich.</translation>
     </message>
     <message>
         <source>A hard square crayon, broad across its edge and thin along it, on laid paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine harte Vierkantkreide auf geripptem Papier: breit quer zur Kante, dünn entlang der Kante.</translation>
     </message>
     <message>
         <source>A hard stick of chalk whose face breaks up over the tooth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein hartes Stück Kreide, dessen Fläche auf dem Papierkorn aufbricht.</translation>
     </message>
     <message>
         <source>A jet with too much air, in drops that stay apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Strahl mit zu viel Luft, in Tropfen, die getrennt bleiben.</translation>
     </message>
     <message>
         <source>A natural sponge dabbed about, with pores of all sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein getupfter Naturschwamm mit Poren aller Größen.</translation>
     </message>
     <message>
         <source>A pen for the mouse: slow lines are wide and quick ones thin.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Feder für die Maus: Langsame Linien werden breit, schnelle dünn.</translation>
     </message>
     <message>
         <source>A pointed round of sable: transparent colour that dries with a dark rim.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein spitzer Rundpinsel aus Marderhaar: transparente Farbe, die mit dunklem Rand trocknet.</translation>
     </message>
     <message>
         <source>A rounded brush for soft-ended strokes that pick up their neighbours&apos; colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein gerundeter Pinsel für Striche mit weichen Enden, die die Farbe der Nachbarn aufnehmen.</translation>
     </message>
     <message>
         <source>A slanted marker: broad one way, thin the other, transparent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein abgeschrägter Marker: in einer Richtung breit, in der anderen dünn, transparent.</translation>
     </message>
     <message>
         <source>A soft dry brush that blurs the border between colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein weicher trockener Pinsel, der die Grenze zwischen Farben verwischt.</translation>
     </message>
     <message>
         <source>A soft jet of colour that builds up with every pass.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein weicher Farbstrahl, der sich mit jedem Zug aufbaut.</translation>
     </message>
     <message>
         <source>A soft pencil; tilt it to shade with the side of its lead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein weicher Bleistift; geneigt schattiert er mit der Seite der Mine.</translation>
     </message>
     <message>
         <source>A steel blade that lays a film of paint and scrapes the colours below along.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Stahlklinge, die einen Farbfilm aufträgt und die Farben darunter mitschabt.</translation>
     </message>
     <message>
         <source>A stick of charcoal: dusty when light, black where it is pressed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Stück Kohle: leicht geführt staubig, unter Druck schwarz.</translation>
     </message>
     <message>
         <source>A stiff brush with little paint, whose hairs each leave a scratch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein steifer Pinsel mit wenig Farbe, dessen Haare je einen Kratzer hinterlassen.</translation>
     </message>
     <message>
         <source>A thin lead that is always sharp, for lines of one width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine dünne, immer spitze Mine für Linien gleicher Breite.</translation>
     </message>
     <message>
         <source>A transparent marker that darkens where strokes cross.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein transparenter Marker, der dunkler wird, wo sich Striche kreuzen.</translation>
     </message>
     <message>
         <source>A well sharpened HB pencil on drawing paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein gut gespitzter HB-Bleistift auf Zeichenpapier.</translation>
     </message>
     <message>
         <source>A wide and faint mist for shadows and glows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein breiter, zarter Nebel für Schatten und Lichtschein.</translation>
     </message>
     <message>
         <source>Acrylic</source>
-        <translation type="unfinished"></translation>
+        <translation>Acryl</translation>
     </message>
     <message>
         <source>Airbrush</source>
-        <translation type="unfinished"></translation>
+        <translation>Airbrush</translation>
     </message>
     <message>
         <source>All around</source>
-        <translation type="unfinished"></translation>
+        <translation>Rundum</translation>
     </message>
     <message>
         <source>Amount of own colour on a smudge brush; 0 only moves what is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Menge der eigenen Farbe eines Wischpinsels; bei 0 bewegt er nur, was da ist.</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel</translation>
     </message>
     <message>
         <source>Angle influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkeleinflüsse</translation>
     </message>
     <message>
         <source>Angle jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel-Jitter</translation>
     </message>
     <message>
         <source>As they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie sie sind</translation>
     </message>
     <message>
         <source>At least three pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestens drei Pixel</translation>
     </message>
     <message>
         <source>Autumn Leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Herbstlaub</translation>
     </message>
     <message>
         <source>Ballpoint</source>
-        <translation type="unfinished"></translation>
+        <translation>Kugelschreiber</translation>
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Dahinter</translation>
     </message>
     <message>
         <source>Bleeding Wash</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlaufende Lavierung</translation>
     </message>
     <message>
         <source>Blend fragment shader string</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragment-Shader-Text des Mischens</translation>
     </message>
     <message>
         <source>Blend mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mischmodus</translation>
     </message>
     <message>
         <source>Blur of the live preview brush when its stroke is placed, in preview pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unschärfe des Live-Vorschaupinsels beim Ablegen des Strichs, in Vorschaupixeln.</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Beides</translation>
     </message>
     <message>
         <source>Brightness jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeits-Jitter</translation>
     </message>
     <message>
         <source>Bristles</source>
-        <translation type="unfinished"></translation>
+        <translation>Borsten</translation>
     </message>
     <message>
         <source>Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel</translation>
     </message>
     <message>
         <source>Brush Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinselstift</translation>
     </message>
     <message>
         <source>Brush colour; its alpha is not used, opacity and flow are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinselfarbe; statt ihres Alphawerts gelten Deckkraft und Fluss.</translation>
     </message>
     <message>
         <source>Brush tip: the tip images, or one that is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinselspitze: die Spitzenbilder oder eine gezeichnete.</translation>
     </message>
     <message>
         <source>By how much</source>
-        <translation type="unfinished"></translation>
+        <translation>Um wie viel</translation>
     </message>
     <message>
         <source>Calligraphy Nib</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalligrafiefeder</translation>
     </message>
     <message>
         <source>Canvas colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwandfarbe</translation>
     </message>
     <message>
         <source>Chalk</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreide</translation>
     </message>
     <message>
         <source>Charcoal</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohle</translation>
     </message>
     <message>
         <source>Chisel Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Keilmarker</translation>
     </message>
     <message>
         <source>Clumps of hairs as apart as a comb&apos;s teeth, for fur, grass and grain of wood.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haarbüschel, so weit auseinander wie die Zähne eines Kamms, für Fell, Gras und Holzmaserung.</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Colour dropped into wet paper, which runs out in fingers as it likes.</source>
-        <translation type="unfinished"></translation>
+        <translation>In nasses Papier getropfte Farbe, die in Fingern ausläuft, wie sie will.</translation>
     </message>
     <message>
         <source>Colour influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbeinflüsse</translation>
     </message>
     <message>
         <source>Colour jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Farb-Jitter</translation>
     </message>
     <message>
         <source>Confetti</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfetti</translation>
     </message>
     <message>
         <source>Conte</source>
-        <translation type="unfinished"></translation>
+        <translation>Conté</translation>
     </message>
     <message>
         <source>Dabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Tupfer</translation>
     </message>
     <message>
         <source>Dabs at each place of the second line, whole; at most 64 are drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tupfer an jeder Stelle der zweiten Linie, ganzzahlig; höchstens 64 werden gezeichnet.</translation>
     </message>
     <message>
         <source>Dabs at each place, whole; at most 64 are drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tupfer an jeder Stelle, ganzzahlig; höchstens 64 werden gezeichnet.</translation>
     </message>
     <message>
         <source>Dabs influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Tupfereinflüsse</translation>
     </message>
     <message>
         <source>Dabs jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Tupfer-Jitter</translation>
     </message>
     <message>
         <source>Dabs lie upright on whole pixels and are whole pixels large, so that square tips have no soft edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tupfer liegen gerade auf ganzen Pixeln und sind ganze Pixel groß, sodass eckige Spitzen keinen weichen Rand haben.</translation>
     </message>
     <message>
         <source>Darken</source>
-        <translation type="unfinished"></translation>
+        <translation>Abdunkeln</translation>
     </message>
     <message>
         <source>Depth influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefeneinflüsse</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenz</translation>
     </message>
     <message>
         <source>Distance from dab to dab as a fraction of the dab&apos;s size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand von Tupfer zu Tupfer als Anteil der Tupfergröße.</translation>
     </message>
     <message>
         <source>Distance from dab to dab of the second line as a fraction of the dab&apos;s size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand von Tupfer zu Tupfer der zweiten Linie als Anteil der Tupfergröße.</translation>
     </message>
     <message>
         <source>Distance per pointer sample, in buffer pixels, that counts as fully fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weg je Zeigermesspunkt in Bildpixeln, der als volles Tempo gilt.</translation>
     </message>
     <message>
         <source>Divides the points handed to shape recognition.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilt die Punkte, die an die Formerkennung gehen.</translation>
     </message>
     <message>
         <source>Draws a second line with a tip of its own and paints only where both are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet eine zweite Linie mit eigener Spitze und malt nur, wo beide sind.</translation>
     </message>
     <message>
         <source>Draws curves through the pointer samples instead of straight lines.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichnet Kurven statt Geraden durch die Messpunkte des Zeigers.</translation>
     </message>
     <message>
         <source>Dry Bristle</source>
-        <translation type="unfinished"></translation>
+        <translation>Trockene Borsten</translation>
     </message>
     <message>
         <source>Edge of a generated tip: 0 soft, 1 hard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand einer erzeugten Spitze: 0 weich, 1 hart.</translation>
     </message>
     <message>
         <source>Edge width</source>
-        <translation type="unfinished"></translation>
+        <translation>Randbreite</translation>
     </message>
     <message>
         <source>End size</source>
-        <translation type="unfinished"></translation>
+        <translation>Endgröße</translation>
     </message>
     <message>
         <source>Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Radieren</translation>
     </message>
     <message>
         <source>Even spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleichmäßig</translation>
     </message>
     <message>
         <source>Fallen leaves of four kinds, between two colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefallene Blätter in vier Formen, zwischen zwei Farben.</translation>
     </message>
     <message>
         <source>Fan</source>
-        <translation type="unfinished"></translation>
+        <translation>Fächerpinsel</translation>
     </message>
     <message>
         <source>Fast from</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell ab</translation>
     </message>
     <message>
         <source>Felt Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Filzstift</translation>
     </message>
     <message>
         <source>Filled outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefüllter Umriss</translation>
     </message>
     <message>
         <source>Fills what the pen goes around while it goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllt, was der Stift umfährt, schon während er fährt.</translation>
     </message>
     <message>
         <source>Flat Watercolour</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquarell flach</translation>
     </message>
     <message>
         <source>Flip across</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagr. spiegeln</translation>
     </message>
     <message>
         <source>Flip upright</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkr. spiegeln</translation>
     </message>
     <message>
         <source>Flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Fluss</translation>
     </message>
     <message>
         <source>Flow influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Flusseinflüsse</translation>
     </message>
     <message>
         <source>Flow jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Fluss-Jitter</translation>
     </message>
     <message>
         <source>Follow size by</source>
-        <translation type="unfinished"></translation>
+        <translation>Größenbezug</translation>
     </message>
     <message>
         <source>Follow stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Strich folgen</translation>
     </message>
     <message>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>Frei</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Gouache Dry</source>
-        <translation type="unfinished"></translation>
+        <translation>Gouache trocken</translation>
     </message>
     <message>
         <source>Grainy Airbrush</source>
-        <translation type="unfinished"></translation>
+        <translation>Körnige Airbrush</translation>
     </message>
     <message>
         <source>Hairs without paint that draw one colour into the other in fine streaks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haare ohne Farbe, die eine Farbe in feinen Streifen in die andere ziehen.</translation>
     </message>
     <message>
         <source>Hard Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Harter Radierer</translation>
     </message>
     <message>
         <source>Hard Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Harte Pixel</translation>
     </message>
     <message>
         <source>Hardness</source>
-        <translation type="unfinished"></translation>
+        <translation>Härte</translation>
     </message>
     <message>
         <source>Height of the dab relative to its width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe des Tupfers im Verhältnis zur Breite.</translation>
     </message>
     <message>
         <source>How a stroke meets the canvas; any other number, as normal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie ein Strich auf die Leinwand trifft; jede andere Zahl wirkt wie „Normal“.</translation>
     </message>
     <message>
         <source>How dabs thinner than 3 pixels are drawn: as they are, 3 pixels large, paler by as much as they are thinner, or both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie Tupfer unter 3 Pixel Breite gezeichnet werden: wie sie sind, 3 Pixel groß, um so viel blasser, wie sie dünner sind, oder beides.</translation>
     </message>
     <message>
         <source>How far dabs scatter, in dab sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit Tupfer streuen, in Tupfergrößen.</translation>
     </message>
     <message>
         <source>How far that rim reaches into the stroke, in buffer pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit dieser Rand in den Strich reicht, in Bildpixeln.</translation>
     </message>
     <message>
         <source>How far the bristles of a smudge brush carry colour along the stroke, each its own: 0 what lay under the dab before alone, 1 what they hold, at first loadQuantity of the brush colour, taking up more the wetter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit die Borsten eines Wischpinsels, jede für sich, Farbe am Strich entlang tragen: 0 nur, was zuvor unter dem Tupfer lag, 1 was sie halten, anfangs die Pinselfarbe gemäß „Eigene Farbe“; je nasser, desto mehr nehmen sie auf.</translation>
     </message>
     <message>
         <source>How far the paper&apos;s heights decide: light dabs catch its tops alone, firm ones and full flow fill its valleys; 0 not at all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit die Höhen des Papiers entscheiden: Leichte Tupfer erfassen nur die Spitzen, feste mit vollem Fluss füllen die Täler; 0 gar nicht.</translation>
     </message>
     <message>
         <source>How far the second line&apos;s dabs scatter, in dab sizes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit die Tupfer der zweiten Linie streuen, in Tupfergrößen.</translation>
     </message>
     <message>
         <source>How much paint one dab lays down; dabs build up where they overlap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viel Farbe ein Tupfer aufträgt; überlappende Tupfer bauen sich auf.</translation>
     </message>
     <message>
         <source>How much paler the inside of a stroke dries than its rim, as watercolour does: 0 not at all, 1 until nothing is left of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viel blasser das Innere eines Strichs trocknet als sein Rand, wie bei Aquarell: 0 gar nicht, 1 bis nichts davon bleibt.</translation>
     </message>
     <message>
         <source>How quickly the measured speed follows the pointer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie schnell das gemessene Tempo dem Zeiger folgt.</translation>
     </message>
     <message>
         <source>How the second line&apos;s size follows radius; any other number, not at all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Größe der zweiten Linie der Pinselgröße folgt; bei jeder anderen Zahl gar nicht.</translation>
     </message>
     <message>
         <source>Hue jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton-Jitter</translation>
     </message>
     <message>
         <source>Image influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildeinflüsse</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on how firm a dab is to the paper, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo darauf, wie fest ein Tupfer auf dem Papier liegt, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on that number, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf diese Zahl, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on the flow, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf den Fluss, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on the mixing, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf die Mischung, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on the rotation, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf die Drehung, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on the roundness, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf die Rundheit, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on the scatter, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf die Streuung, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on the size, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf die Größe, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Influence of pressure, altitude and speed on which tip image is picked, -1 to 1 each.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfluss von Druck, Neigung und Tempo auf die Wahl des Spitzenbilds, jeweils -1 bis 1.</translation>
     </message>
     <message>
         <source>Ink Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuschefeder</translation>
     </message>
     <message>
         <source>Ink Spatter</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuschespritzer</translation>
     </message>
     <message>
         <source>Ink flicked off a brush, in blots that burst and drops that fly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Pinsel geschnippte Tusche, in platzenden Klecksen und fliegenden Tropfen.</translation>
     </message>
     <message>
         <source>Largest</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte</translation>
     </message>
     <message>
         <source>Largest size, as a fraction of radius.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Größe als Anteil der Pinselgröße.</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Least flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestfluss</translation>
     </message>
     <message>
         <source>Length of that ramp, in dabs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge dieses Anlaufs in Tupfern.</translation>
     </message>
     <message>
         <source>Length of the start taper, in buffer pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge der Verjüngung am Anfang, in Bildpixeln.</translation>
     </message>
     <message>
         <source>Lets the paper through more, or less, all over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt das Papier insgesamt mehr oder weniger durch.</translation>
     </message>
     <message>
         <source>Lighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufhellen</translation>
     </message>
     <message>
         <source>Live Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Live-Füllung</translation>
     </message>
     <message>
         <source>Lower bound of the influenced flow, as a fraction of flow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Untergrenze des beeinflussten Flusses als Anteil des Flusses.</translation>
     </message>
     <message>
         <source>Lower bound of the roundness.</source>
-        <translation type="unfinished"></translation>
+        <translation>Untergrenze der Rundheit.</translation>
     </message>
     <message>
         <source>Meadow Grass</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiesengras</translation>
     </message>
     <message>
         <source>Mechanical Pencil</source>
-        <translation type="unfinished"></translation>
+        <translation>Druckbleistift</translation>
     </message>
     <message>
         <source>Mirrors every other dab left to right, at random.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelt zufällig jeden zweiten Tupfer von links nach rechts.</translation>
     </message>
     <message>
         <source>Mirrors every other dab top to bottom, at random.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelt zufällig jeden zweiten Tupfer von oben nach unten.</translation>
     </message>
     <message>
         <source>Mirrors the tip left to right.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelt die Spitze von links nach rechts.</translation>
     </message>
     <message>
         <source>Mirrors the tip top to bottom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelt die Spitze von oben nach unten.</translation>
     </message>
     <message>
         <source>Most flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstfluss</translation>
     </message>
     <message>
         <source>Much water and little pigment, in pools that dry unevenly and leave a rim.</source>
-        <translation type="unfinished"></translation>
+        <translation>Viel Wasser und wenig Pigment, in Pfützen, die ungleichmäßig trocknen und einen Rand hinterlassen.</translation>
     </message>
     <message>
         <source>Multicolour</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrfarbig</translation>
     </message>
     <message>
         <source>Multicolour: the tip&apos;s own colours paint (the brush colour where it is black), each dab varied by the hue, saturation and brightness jitters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrfarbig: Die Farben der Spitze selbst malen (wo sie schwarz ist, die Pinselfarbe); Farbton-, Sättigungs- und Helligkeits-Jitter variieren jeden Tupfer.</translation>
     </message>
     <message>
         <source>Multiply</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplizieren</translation>
     </message>
     <message>
         <source>No smudging</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Wischen</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Number of dabs after which the paint has run out; 0 or 1 for never.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Tupfer, nach der die Farbe aufgebraucht ist; 0 oder 1 für nie.</translation>
     </message>
     <message>
         <source>Oil Filbert</source>
-        <translation type="unfinished"></translation>
+        <translation>Öl Katzenzunge</translation>
     </message>
     <message>
         <source>Oil Flat</source>
-        <translation type="unfinished"></translation>
+        <translation>Öl flach</translation>
     </message>
     <message>
         <source>Oil Impasto</source>
-        <translation type="unfinished"></translation>
+        <translation>Öl pastos</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Opacity of a stroke as a whole, however often it crosses itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft eines Strichs im Ganzen, wie oft er sich auch kreuzt.</translation>
     </message>
     <message>
         <source>Opaque matt paint, a little uneven in tone, that breaks up on rough paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckende matte Farbe, im Ton etwas ungleichmäßig, die auf rauem Papier aufreißt.</translation>
     </message>
     <message>
         <source>Outline blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Umrissunschärfe</translation>
     </message>
     <message>
         <source>Own colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Farbe</translation>
     </message>
     <message>
         <source>Paint from a can: coarse drops all over the jet, more of them under pressure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe aus der Dose: grobe Tropfen im ganzen Strahl, unter Druck mehr davon.</translation>
     </message>
     <message>
         <source>Paints through the paper given as the mask image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Malt durch das Papier, das als Maskenbild gegeben ist.</translation>
     </message>
     <message>
         <source>Palette Knife</source>
-        <translation type="unfinished"></translation>
+        <translation>Palettmesser</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Paper brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierhelligkeit</translation>
     </message>
     <message>
         <source>Paper contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkontrast</translation>
     </message>
     <message>
         <source>Paper depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Papiertiefe</translation>
     </message>
     <message>
         <source>Paper scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierskala</translation>
     </message>
     <message>
         <source>Paper scraps of all colours, thrown wide.</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierschnipsel in allen Farben, weit geworfen.</translation>
     </message>
     <message>
         <source>Paper, repeated over the canvas: white lets paint through, black and transparent hold it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier, auf der Leinwand wiederholt: Weiß lässt Farbe durch, Schwarz und Transparenz halten sie zurück.</translation>
     </message>
     <message>
         <source>Pencil</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleistift</translation>
     </message>
     <message>
         <source>Pencil 2B</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleistift 2B</translation>
     </message>
     <message>
         <source>Picks one of several tip images at random for each dab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt für jeden Tupfer zufällig eines von mehreren Spitzenbildern.</translation>
     </message>
     <message>
         <source>Pixel aligned</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixelgenau</translation>
     </message>
     <message>
         <source>Plastic paint from a bristle brush: covers at once and keeps the hairs&apos; furrows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunststofffarbe aus dem Borstenpinsel: deckt sofort und behält die Furchen der Haare.</translation>
     </message>
     <message>
         <source>Pointer samples gathered before a segment is drawn: higher is steadier and lags more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigermesspunkte, die vor dem Zeichnen eines Abschnitts gesammelt werden: mehr ist ruhiger und hängt stärker nach.</translation>
     </message>
     <message>
         <source>Puts the shape that a stroke was meant as in its place, or nothing; brush types 3 and 4 draw plain dabs meanwhile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt an die Stelle des Strichs die Form, die gemeint war, oder nichts; die Pinseltypen 3 und 4 zeichnen solange einfache Tupfer.</translation>
     </message>
     <message>
         <source>Rake</source>
-        <translation type="unfinished"></translation>
+        <translation>Kammpinsel</translation>
     </message>
     <message>
         <source>Ramp length</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlauflänge</translation>
     </message>
     <message>
         <source>Ramp up</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlauf</translation>
     </message>
     <message>
         <source>Ramps the mixed amount up over a smudge stroke&apos;s first dabs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Steigert die gemischte Menge über die ersten Tupfer eines Wischstrichs.</translation>
     </message>
     <message>
         <source>Random across</source>
-        <translation type="unfinished"></translation>
+        <translation>Waagr. zufällig</translation>
     </message>
     <message>
         <source>Random image</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufallsbild</translation>
     </message>
     <message>
         <source>Random mixing of each dab toward the secondary colour, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Mischung jedes Tupfers zur Zweitfarbe hin, 0 bis 1.</translation>
     </message>
     <message>
         <source>Random rotation of each dab, 0 to 1 for up to half a turn either way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Drehung jedes Tupfers, 0 bis 1 für bis zu einer halben Umdrehung in beide Richtungen.</translation>
     </message>
     <message>
         <source>Random shrinking of dabs, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufälliges Schrumpfen der Tupfer, 0 bis 1.</translation>
     </message>
     <message>
         <source>Random start</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufallsstart</translation>
     </message>
     <message>
         <source>Random upright</source>
-        <translation type="unfinished"></translation>
+        <translation>Senkr. zufällig</translation>
     </message>
     <message>
         <source>Random variation of each dab&apos;s brightness, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Variation der Helligkeit jedes Tupfers, 0 bis 1.</translation>
     </message>
     <message>
         <source>Random variation of each dab&apos;s hue, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Variation des Farbtons jedes Tupfers, 0 bis 1.</translation>
     </message>
     <message>
         <source>Random variation of each dab&apos;s saturation, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Variation der Sättigung jedes Tupfers, 0 bis 1.</translation>
     </message>
     <message>
         <source>Random variation of that number, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Variation dieser Zahl, 0 bis 1.</translation>
     </message>
     <message>
         <source>Random variation of the flow, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Variation des Flusses, 0 bis 1.</translation>
     </message>
     <message>
         <source>Random variation of the roundness, 0 to 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufällige Variation der Rundheit, 0 bis 1.</translation>
     </message>
     <message>
         <source>Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Verhältnis</translation>
     </message>
     <message>
         <source>Recog point scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Punktteiler</translation>
     </message>
     <message>
         <source>Recogition</source>
-        <translation type="unfinished"></translation>
+        <translation>Formerkennung</translation>
     </message>
     <message>
         <source>Recognition</source>
-        <translation type="unfinished"></translation>
+        <translation>Erkennung</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Ring</source>
-        <translation type="unfinished"></translation>
+        <translation>Ring</translation>
     </message>
     <message>
         <source>Rotation of the tip in radians, counter-clockwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung der Spitze im Bogenmaß, gegen den Uhrzeigersinn.</translation>
     </message>
     <message>
         <source>Round Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Rundmarker</translation>
     </message>
     <message>
         <source>Round Watercolour</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquarell rund</translation>
     </message>
     <message>
         <source>Rounded rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgerundetes Rechteck</translation>
     </message>
     <message>
         <source>Roundness</source>
-        <translation type="unfinished"></translation>
+        <translation>Rundheit</translation>
     </message>
     <message>
         <source>Roundness influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Rundungseinflüsse</translation>
     </message>
     <message>
         <source>Roundness jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Rundheits-Jitter</translation>
     </message>
     <message>
         <source>Rubs out all, to a clean edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Radiert alles weg, bis zu einem sauberen Rand.</translation>
     </message>
     <message>
         <source>Runs dry after</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer nach</translation>
     </message>
     <message>
         <source>Saturation jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigungs-Jitter</translation>
     </message>
     <message>
         <source>Scatter</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung</translation>
     </message>
     <message>
         <source>Scatter influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuungseinflüsse</translation>
     </message>
     <message>
         <source>Scatters dabs all around instead of only across the stroke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Streut Tupfer ringsum statt nur quer zum Strich.</translation>
     </message>
     <message>
         <source>Scatters the second line&apos;s dabs all around instead of only across the stroke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Streut die Tupfer der zweiten Linie ringsum statt nur quer zum Strich.</translation>
     </message>
     <message>
         <source>Second colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweitfarbe</translation>
     </message>
     <message>
         <source>Second line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Linie</translation>
     </message>
     <message>
         <source>Secondary colour, toward which the colour jitter mixes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweitfarbe, zu der hin der Farb-Jitter mischt.</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Form</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Size at the start of the stroke&apos;s taper, as a fraction of radius; 0 for no taper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe am Anfang der Strichverjüngung als Anteil der Pinselgröße; 0 für keine Verjüngung.</translation>
     </message>
     <message>
         <source>Size at the very end of the stroke, as a fraction of radius; 0 for no taper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe ganz am Ende des Strichs als Anteil der Pinselgröße; 0 für keine Verjüngung.</translation>
     </message>
     <message>
         <source>Size influences</source>
-        <translation type="unfinished"></translation>
+        <translation>Größeneinflüsse</translation>
     </message>
     <message>
         <source>Size jitter</source>
-        <translation type="unfinished"></translation>
+        <translation>Größen-Jitter</translation>
     </message>
     <message>
         <source>Size of a full dab across, in buffer pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchmesser eines vollen Tupfers in Bildpixeln.</translation>
     </message>
     <message>
         <source>Size of one paper tile on the canvas, relative to the mask image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe einer Papierkachel auf der Leinwand im Verhältnis zum Maskenbild.</translation>
     </message>
     <message>
         <source>Size of the second line&apos;s dabs, in buffer pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Tupfer der zweiten Linie in Bildpixeln.</translation>
     </message>
     <message>
         <source>Smallest</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste</translation>
     </message>
     <message>
         <source>Smallest size, as a fraction of radius. Without influences dabs are drawn at the middle of smallest and largest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste Größe als Anteil der Pinselgröße. Ohne Einflüsse werden Tupfer in der Mitte zwischen kleinster und größter gezeichnet.</translation>
     </message>
     <message>
         <source>Smooth curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Glatte Kurven</translation>
     </message>
     <message>
         <source>Smudge</source>
-        <translation type="unfinished"></translation>
+        <translation>Wischen</translation>
     </message>
     <message>
         <source>Smudge Finger</source>
-        <translation type="unfinished"></translation>
+        <translation>Wischfinger</translation>
     </message>
     <message>
         <source>Soft Airbrush</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiche Airbrush</translation>
     </message>
     <message>
         <source>Soft Blender</source>
-        <translation type="unfinished"></translation>
+        <translation>Weicher Vertreiber</translation>
     </message>
     <message>
         <source>Soft Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Weicher Radierer</translation>
     </message>
     <message>
         <source>Soft Pastel</source>
-        <translation type="unfinished"></translation>
+        <translation>Softpastell</translation>
     </message>
     <message>
         <source>Soft disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiche Scheibe</translation>
     </message>
     <message>
         <source>Soft pastel: powder that fills the tooth and blooms under pressure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Softpastell: Pulver, das das Papierkorn füllt und unter Druck aufblüht.</translation>
     </message>
     <message>
         <source>Source of one of the blend programs, which selects its blend type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelltext eines der Mischprogramme, der dessen Mischart auswählt.</translation>
     </message>
     <message>
         <source>Spaces dabs evenly along the stroke; off, every pointer sample gives one dab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verteilt Tupfer gleichmäßig entlang des Strichs; sonst ergibt jeder Zeigermesspunkt einen Tupfer.</translation>
     </message>
     <message>
         <source>Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand</translation>
     </message>
     <message>
         <source>Speed Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempofeder</translation>
     </message>
     <message>
         <source>Speed response</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporeaktion</translation>
     </message>
     <message>
         <source>Sponge</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwamm</translation>
     </message>
     <message>
         <source>Spray Can</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprühdose</translation>
     </message>
     <message>
         <source>Start length</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangslänge</translation>
     </message>
     <message>
         <source>Start size</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangsgröße</translation>
     </message>
     <message>
         <source>Steadying</source>
-        <translation type="unfinished"></translation>
+        <translation>Beruhigung</translation>
     </message>
     <message>
         <source>Steepness of the paper&apos;s heights: above 1 its grain has harder edges, 0 is smooth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Steilheit der Papierhöhen: Über 1 hat das Korn härtere Kanten, 0 ist glatt.</translation>
     </message>
     <message>
         <source>Switches off the smudge behaviour of brush type 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaltet das Wischverhalten von Pinseltyp 3 aus.</translation>
     </message>
     <message>
         <source>Takes a little away with each pass, without an edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt mit jedem Zug etwas weg, ohne Kante.</translation>
     </message>
     <message>
         <source>Technical Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuschefüller</translation>
     </message>
     <message>
         <source>Textured Gouache</source>
-        <translation type="unfinished"></translation>
+        <translation>Gouache strukturiert</translation>
     </message>
     <message>
         <source>That difference in buffer pixels, or that ratio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Differenz in Bildpixeln oder dieses Verhältnis.</translation>
     </message>
     <message>
         <source>The rest of the paint on a brush: broken strokes of single hairs over rough paper.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rest der Farbe im Pinsel: aufgebrochene Striche einzelner Haare auf rauem Papier.</translation>
     </message>
     <message>
         <source>Thick paint from a hog&apos;s hair brush, which mixes with what is wet below it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicke Farbe aus dem Schweineborstenpinsel, die sich mit dem Nassen darunter mischt.</translation>
     </message>
     <message>
         <source>Thickness of the ring tip in pixels, or width to height of the rectangle tip.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dicke der Ringspitze in Pixeln oder Breite zu Höhe der Rechteckspitze.</translation>
     </message>
     <message>
         <source>Thin hairs spread wide, for foliage, fur and hair.</source>
-        <translation type="unfinished"></translation>
+        <translation>Feine, weit gespreizte Haare für Laub, Fell und Haar.</translation>
     </message>
     <message>
         <source>Thin lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Dünne Linien</translation>
     </message>
     <message>
         <source>Thinned flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dünnerer Fluss</translation>
     </message>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitze</translation>
     </message>
     <message>
         <source>Tip image</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzenbild</translation>
     </message>
     <message>
         <source>Tip image of the second line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzenbild der zweiten Linie.</translation>
     </message>
     <message>
         <source>Tip images</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzenbilder</translation>
     </message>
     <message>
         <source>Tip images of texture type 0, up to 16: alpha is the shape; own colours show in multicolour mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzenbilder für Spitzentyp 0, bis zu 16: Alpha ist die Form; eigene Farben zeigen sich im Mehrfarbmodus.</translation>
     </message>
     <message>
         <source>Tip proportion</source>
-        <translation type="unfinished"></translation>
+        <translation>Proportion</translation>
     </message>
     <message>
         <source>True Blender</source>
-        <translation type="unfinished"></translation>
+        <translation>Echter Vertreiber</translation>
     </message>
     <message>
         <source>Tufts of grass that stand upright along the stroke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Grasbüschel, die entlang des Strichs aufrecht stehen.</translation>
     </message>
     <message>
         <source>Turns the tip by a random angle at the start of every stroke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreht die Spitze am Anfang jedes Strichs um einen zufälligen Winkel.</translation>
     </message>
     <message>
         <source>Turns the tip into the direction of the stroke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreht die Spitze in Strichrichtung.</translation>
     </message>
     <message>
         <source>Upper bound of the influenced flow, as a fraction of flow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obergrenze des beeinflussten Flusses als Anteil des Flusses.</translation>
     </message>
     <message>
         <source>Use paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier nutzen</translation>
     </message>
     <message>
         <source>Watery Wash</source>
-        <translation type="unfinished"></translation>
+        <translation>Wässrige Lavierung</translation>
     </message>
     <message>
         <source>Wax Crayon</source>
-        <translation type="unfinished"></translation>
+        <translation>Wachskreide</translation>
     </message>
     <message>
         <source>Wet edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Nasser Rand</translation>
     </message>
     <message>
         <source>Wetness</source>
-        <translation type="unfinished"></translation>
+        <translation>Nässe</translation>
     </message>
     <message>
         <source>Wetness of a smudge brush: how much of the canvas colour that it meets is taken along, 0 none to 1 all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nässe eines Wischpinsels: wie viel der berührten Leinwandfarbe mitgenommen wird, 0 nichts bis 1 alles.</translation>
     </message>
     <message>
         <source>What a smudge brush lays down: 0 its own colour alone, 1 canvas colour alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Wischpinsel aufträgt: 0 nur seine eigene Farbe, 1 nur Leinwandfarbe.</translation>
     </message>
     <message>
         <source>What a stroke becomes: dabs, dabs that smudge, or a filled outline, shown live; any other number, dabs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aus einem Strich wird: Tupfer, wischende Tupfer oder ein gefüllter, live gezeigter Umriss; jede andere Zahl ergibt Tupfer.</translation>
     </message>
     <message>
         <source>Whole pixels without a soft edge, for pixel art and masks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganze Pixel ohne weichen Rand, für Pixelkunst und Masken.</translation>
     </message>
     <message>
         <source>acrylic</source>
-        <translation type="unfinished"></translation>
+        <translation>Acryl</translation>
     </message>
     <message>
         <source>airbrush</source>
-        <translation type="unfinished"></translation>
+        <translation>Airbrush</translation>
     </message>
     <message>
         <source>blender</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertreiber</translation>
     </message>
     <message>
         <source>chalk</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreide</translation>
     </message>
     <message>
         <source>charcoal</source>
-        <translation type="unfinished"></translation>
+        <translation>Kohle</translation>
     </message>
     <message>
         <source>crayon</source>
-        <translation type="unfinished"></translation>
+        <translation>Wachskreide</translation>
     </message>
     <message>
         <source>dry</source>
-        <translation type="unfinished"></translation>
+        <translation>trocken</translation>
     </message>
     <message>
         <source>eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Radierer</translation>
     </message>
     <message>
         <source>fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllung</translation>
     </message>
     <message>
         <source>gouache</source>
-        <translation type="unfinished"></translation>
+        <translation>Gouache</translation>
     </message>
     <message>
         <source>ink</source>
-        <translation type="unfinished"></translation>
+        <translation>Tusche</translation>
     </message>
     <message>
         <source>marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marker</translation>
     </message>
     <message>
         <source>oil</source>
-        <translation type="unfinished"></translation>
+        <translation>Öl</translation>
     </message>
     <message>
         <source>pastel</source>
-        <translation type="unfinished"></translation>
+        <translation>Pastell</translation>
     </message>
     <message>
         <source>pencil</source>
-        <translation type="unfinished"></translation>
+        <translation>Bleistift</translation>
     </message>
     <message>
         <source>pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>smudge</source>
-        <translation type="unfinished"></translation>
+        <translation>Wischen</translation>
     </message>
     <message>
         <source>spray</source>
-        <translation type="unfinished"></translation>
+        <translation>Spray</translation>
     </message>
     <message>
         <source>stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Stempel</translation>
     </message>
     <message>
         <source>tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>Neigung</translation>
     </message>
     <message>
         <source>watercolour</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquarell</translation>
     </message>
     <message>
         <source>wet</source>
-        <translation type="unfinished"></translation>
+        <translation>nass</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter</name>
     <message>
         <source>a canvas is at least 1 x 1 pixel large</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Leinwand ist mindestens 1 x 1 Pixel groß</translation>
     </message>
     <message>
         <source>%1 x %2 pixels are too large: a side has at most %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 Pixel sind zu groß: Eine Seite hat höchstens %3</translation>
     </message>
     <message>
         <source>%1 x %2 pixels are too large: a canvas has at most %3 million</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 Pixel sind zu groß: Eine Leinwand hat höchstens %3 Millionen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be opened: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geöffnet werden: %2.</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei gibt es nicht</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Datei</translation>
     </message>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>it is not an image of a known kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Bild eines bekannten Formats</translation>
     </message>
     <message>
         <source>it is damaged (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt (%1)</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht genug Arbeitsspeicher</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be saved: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gespeichert werden: %2.</translation>
     </message>
     <message>
         <source>the canvas cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leinwand kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>Images (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has changes that are not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ enthält nicht gespeicherte Änderungen.</translation>
     </message>
     <message>
         <source>Save them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen speichern?</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>PNG image (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG-Bild (*.png)</translation>
     </message>
     <message>
         <source>Export Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel exportieren</translation>
     </message>
     <message>
         <source>Brush (*.xbf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel (*.xbf)</translation>
     </message>
     <message>
         <source>Import Brushes</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel importieren</translation>
     </message>
     <message>
         <source>Brushes (*.xbf %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel (*.xbf %1)</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>There is nothing to paint with; the log says what is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts, womit gemalt werden kann; das Protokoll nennt, was fehlt.</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::BrushPanel</name>
     <message>
         <source>Search settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen suchen</translation>
     </message>
     <message>
         <source>Reset to preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Vorgabe setzen</translation>
     </message>
     <message>
         <source>Reset all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zurücksetzen</translation>
     </message>
     <message>
         <source>Gives every brush setting what the chosen brush has</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt alle Pinseleinstellungen auf die Werte des gewählten Pinsels</translation>
     </message>
     <message>
         <source>Gives every brush setting its default</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt alle Pinseleinstellungen auf ihre Standardwerte</translation>
     </message>
     <message>
         <source>Swap the colours (X)</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben tauschen (X)</translation>
     </message>
     <message>
         <source>Pick a colour from the canvas (I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe von der Leinwand aufnehmen (I)</translation>
     </message>
     <message>
         <source>No setting is called so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Einstellung heißt so.</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::BrushRow</name>
     <message>
         <source>Reset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zurücksetzen</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::CanvasStatus</name>
     <message>
         <source>Shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Formen</translation>
     </message>
     <message>
         <source>What paints this picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit dieses Bild gemalt wird</translation>
     </message>
     <message>
         <source>Pressure %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck %1&#xa0;%</translation>
     </message>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::CanvasViewport</name>
     <message>
         <source>Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwand</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::ChoiceEditor</name>
     <message>
         <source>Other (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere (%1)</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::ControlEditor</name>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>Druck</translation>
     </message>
     <message>
         <source>Tilt</source>
-        <translation type="unfinished"></translation>
+        <translation>Neigung</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>%1 by %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 durch %2</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Document</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::ImagesEditor</name>
     <message>
         <source>Load…</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden…</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is left out: at most %2 images are used.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ entfällt: Höchstens %2 Bilder werden verwendet.</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::LayerPanel</name>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Lock alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>Alpha sperren</translation>
     </message>
     <message>
         <source>Strokes change its colours alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Striche ändern nur ihre Farben</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebenen</translation>
     </message>
     <message>
         <source>Blend mode of the layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mischmodus der Ebene</translation>
     </message>
     <message>
         <source>Opacity of the layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft der Ebene</translation>
     </message>
     <message>
         <source>Add a layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene hinzufügen</translation>
     </message>
     <message>
         <source>Duplicate the layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene duplizieren</translation>
     </message>
     <message>
         <source>Move the layer up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene nach oben</translation>
     </message>
     <message>
         <source>Move the layer down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene nach unten</translation>
     </message>
     <message>
         <source>Merge with the layer below</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit der Ebene darunter vereinen</translation>
     </message>
     <message>
         <source>Delete the layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene löschen</translation>
     </message>
     <message>
         <source>Blend mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mischmodus</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Ticked layers are seen; a double click names one</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehakte Ebenen sind sichtbar; ein Doppelklick benennt um</translation>
     </message>
     <message>
         <source>Layer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebene %1</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::LeftPicturesDialog</name>
     <message>
         <source>Recover Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder wiederherstellen</translation>
     </message>
     <message>
         <source>Dabpainter ended unexpectedly while these were painted. Each goes on where it was, with its undo steps where they are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dabpainter wurde unerwartet beendet, während diese Bilder gemalt wurden. Jedes geht dort weiter, wo es war, mit seinen Rückgängig-Schritten, soweit noch vorhanden.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>&amp;Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Später</translation>
     </message>
     <message>
         <source>&amp;Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen…</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>There is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine.</translation>
     </message>
     <message>
         <source>without undo steps</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Rückgängig-Schritte</translation>
     </message>
     <message>
         <source>one undo step</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Rückgängig-Schritt</translation>
     </message>
     <message>
         <source>%1 undo steps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Rückgängig-Schritte</translation>
     </message>
     <message>
         <source>%1 × %2 pixels, %3, %4 on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 Pixel, %3, %4 auf dem Datenträger</translation>
     </message>
     <message>
         <source>Delete this picture for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bild endgültig löschen?</translation>
     </message>
     <message>
         <source>It cannot be deleted: it is in use, or the disk refuses.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es kann nicht gelöscht werden: Es wird verwendet, oder der Datenträger lässt es nicht zu.</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::MainWindow</name>
     <message>
         <source>The graphics card cannot paint this picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Grafikkarte kann dieses Bild nicht malen</translation>
     </message>
     <message>
         <source>A canvas of %1 × %2 pixels cannot be had from this graphics driver.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Grafiktreiber stellt keine Leinwand von %1 × %2 Pixeln bereit.</translation>
     </message>
     <message>
         <source>The graphics card was lost for a moment; the picture is here, its undo steps are not</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Grafikkarte war kurz nicht verfügbar; das Bild ist noch da, seine Rückgängig-Schritte nicht</translation>
     </message>
     <message>
         <source>The picture cannot be recovered: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild kann nicht wiederhergestellt werden: %1.</translation>
     </message>
     <message>
         <source>The image could not be placed; the log says why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild konnte nicht platziert werden; das Protokoll nennt den Grund.</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gespeichert</translation>
     </message>
     <message>
         <source>Open Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild öffnen</translation>
     </message>
     <message>
         <source>Place Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild platzieren</translation>
     </message>
     <message>
         <source>Save the layers as one picture?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ebenen als ein Bild speichern?</translation>
     </message>
     <message>
         <source>The file shows all of them together. They stay here as long as this picture is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei zeigt alle zusammen. Hier bleiben sie erhalten, solange dieses Bild geöffnet ist.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;New…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu…</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen…</translation>
     </message>
     <message>
         <source>&amp;Place Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild &amp;platzieren…</translation>
     </message>
     <message>
         <source>&amp;Recover Pictures…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder &amp;wiederherstellen…</translation>
     </message>
     <message>
         <source>No run has left a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Bild wiederherzustellen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Undo &amp;Steps…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig-&amp;Schritte…</translation>
     </message>
     <message>
         <source>&amp;Keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tastenkürzel…</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>&amp;Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leinwand</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leeren</translation>
     </message>
     <message>
         <source>&amp;Paint with</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Malen mit</translation>
     </message>
     <message>
         <source>&amp;Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Automatisch</translation>
     </message>
     <message>
         <source>&amp;Graphics Card</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grafikkarte</translation>
     </message>
     <message>
         <source>&amp;Processor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prozessor</translation>
     </message>
     <message>
         <source>Holds for pictures that are made or opened from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>Gilt für Bilder, die ab jetzt neu angelegt oder geöffnet werden</translation>
     </message>
     <message>
         <source>&amp;Fingers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Finger</translation>
     </message>
     <message>
         <source>Move the Canvas Once a &amp;Pen Was Seen</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinwand bewegen, sobald ein &amp;Stift erkannt wurde</translation>
     </message>
     <message>
         <source>Always &amp;Move the Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Immer &amp;Leinwand bewegen</translation>
     </message>
     <message>
         <source>Al&amp;ways Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Immer &amp;malen</translation>
     </message>
     <message>
         <source>&amp;Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pinsel</translation>
     </message>
     <message>
         <source>Size by Moving the Pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe durch Zeigerbewegung</translation>
     </message>
     <message>
         <source>&amp;Previous Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorheriger Pinsel</translation>
     </message>
     <message>
         <source>&amp;Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kleiner</translation>
     </message>
     <message>
         <source>&amp;Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größer</translation>
     </message>
     <message>
         <source>So&amp;fter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weicher</translation>
     </message>
     <message>
         <source>&amp;Harder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Härter</translation>
     </message>
     <message>
         <source>&amp;Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deckkraft</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>S&amp;wap Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben &amp;tauschen</translation>
     </message>
     <message>
         <source>&amp;Default Colours</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Standardfarben</translation>
     </message>
     <message>
         <source>&amp;Eyedropper</source>
-        <translation type="unfinished"></translation>
+        <translation>Pi&amp;pette</translation>
     </message>
     <message>
         <source>Reco&amp;gnise Shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formen erkennen</translation>
     </message>
     <message>
         <source>Shapes</source>
-        <translation type="unfinished"></translation>
+        <translation>Formen</translation>
     </message>
     <message>
         <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)</source>
-        <translation type="unfinished"></translation>
+        <translation>Striche werden zu der Linie, dem Vieleck, der Ellipse, dem Bogen oder dem Pfeil, die gemeint waren (Umschalt+R)</translation>
     </message>
     <message>
         <source>&amp;Reset All Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;Reset to Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Vorgabe &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;größern</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>&amp;Actual Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Originalgröße</translation>
     </message>
     <message>
         <source>&amp;Whole Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganze &amp;Leinwand</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bedienfelder</translation>
     </message>
     <message>
         <source>&amp;Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vollbild</translation>
     </message>
     <message>
         <source>Brushes</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel</translation>
     </message>
     <message>
         <source>Brush settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinseleinstellungen</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebenen</translation>
     </message>
     <message>
         <source>The disk takes no undo steps: save, as a crash would lose this picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger nimmt keine Rückgängig-Schritte auf: Speichern Sie, denn bei einem Absturz ginge dieses Bild verloren</translation>
     </message>
     <message>
         <source>No shape was recognised</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Form erkannt</translation>
     </message>
     <message>
         <source>Undo Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig-Schritte</translation>
     </message>
     <message>
         <source>Steps that can be undone:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritte, die sich rückgängig machen lassen:</translation>
     </message>
     <message>
         <source>Strokes become shapes; what is none is taken away</source>
-        <translation type="unfinished"></translation>
+        <translation>Striche werden zu Formen; was keine ist, wird entfernt</translation>
     </message>
     <message>
         <source>Strokes stay as they are drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Striche bleiben, wie sie gezeichnet sind</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
     <message>
         <source>New Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Leinwand</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiß</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparent</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Breite</translation>
     </message>
     <message>
         <source>&amp;Height</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Höhe</translation>
     </message>
     <message>
         <source>&amp;Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter&amp;grund</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellen</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Takes about %1 of memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegt etwa %1 Arbeitsspeicher.</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
         <source>No brush is called so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Pinsel heißt so.</translation>
     </message>
     <message>
         <source>Save as &amp;New Brush…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;neuen Pinsel speichern…</translation>
     </message>
     <message>
         <source>&amp;Overwrite with Present Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit &amp;aktuellen Einstellungen überschreiben…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen…</translation>
     </message>
     <message>
         <source>&amp;Delete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen…</translation>
     </message>
     <message>
         <source>&amp;Import Brushes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel &amp;importieren…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>Show &amp;Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner anzeigen</translation>
     </message>
     <message>
         <source>Presets Set the &amp;Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgaben setzen die &amp;Farbe</translation>
     </message>
     <message>
         <source>Search brushes</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel suchen</translation>
     </message>
     <message>
         <source>Save the present settings as a new brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Einstellungen als neuen Pinsel speichern</translation>
     </message>
     <message>
         <source>More to do with the chosen brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Aktionen für den gewählten Pinsel</translation>
     </message>
     <message>
         <source>Brushes</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel</translation>
     </message>
     <message>
         <source>Plain</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>%1 – modified</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – geändert</translation>
     </message>
     <message>
         <source>Save as New Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Als neuen Pinsel speichern</translation>
     </message>
     <message>
         <source>Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel</translation>
     </message>
     <message>
         <source>Replace the brush &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel „%1“ ersetzen?</translation>
     </message>
     <message>
         <source>It takes the present settings, and what it was is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er erhält die aktuellen Einstellungen; seine bisherigen gehen verloren.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Rename Brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel umbenennen</translation>
     </message>
     <message>
         <source>Delete the brush &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinsel „%1“ löschen?</translation>
     </message>
     <message>
         <source>Delete the file &quot;%1&quot; with its %2 brushes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei „%1“ mit ihren %2 Pinseln löschen?</translation>
     </message>
     <message>
         <source>This cannot be taken back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies kann nicht rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Of &quot;%1&quot; could not be carried over:
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus „%1“ konnte nicht übernommen werden:
+%2</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
     <message>
         <source>damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>beschädigt</translation>
     </message>
     <message>
         <source>no preset</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Vorgabe</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetLibrary</name>
     <message>
         <source>it does not hold this brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie enthält diesen Pinsel nicht</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ konnte nicht angelegt werden.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht umbenannt werden.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be deleted: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht gelöscht werden: %2.</translation>
     </message>
     <message>
         <source>it is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist zu groß</translation>
     </message>
     <message>
         <source>there is no memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsspeicher reicht dafür nicht</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei gibt es nicht</translation>
     </message>
     <message>
         <source>it holds no brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie enthält keinen Pinsel</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no usable brush file: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine brauchbare Pinseldatei: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht geschrieben werden: %2.</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetListModel</name>
     <message>
         <source>Every setting at its default</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Einstellungen auf ihrem Standardwert</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht verwendet werden: %2</translation>
     </message>
     <message>
         <source>Plain</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Strich mit dem aktuellen Pinsel</translation>
     </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::ShortcutsDialog</name>
     <message>
         <source>&amp;Assign</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuweisen</translation>
     </message>
     <message>
         <source>&amp;No Key</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine Taste</translation>
     </message>
     <message>
         <source>&amp;Usual Key</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Standardtaste</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Search commands and keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehle und Tasten suchen</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl</translation>
     </message>
     <message>
         <source>Commands and their keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehle und ihre Tasten</translation>
     </message>
     <message>
         <source>New key</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Taste</translation>
     </message>
     <message>
         <source>All &amp;Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle auf Standard</translation>
     </message>
     <message>
         <source>&amp;Take It</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trotzdem zuweisen</translation>
     </message>
     <message>
         <source>%1 is the key of &quot;%2&quot;, which would have none then.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist die Taste für „%2“; dieser Befehl hätte dann keine mehr.</translation>
     </message>
 </context>
 </TS>

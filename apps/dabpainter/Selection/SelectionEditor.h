@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QPainterPath>
+#include <memory>
+#include <vector>
+
+#include "Selection/LayerFloat.h"
+#include "Selection/SeenLayers.h"
+#include "Selection/SelectedArea.h"
+
+class QDDrawCanvas;
+
+namespace dabcanvas::dabpainter {
+
+// What of the picture is selected, and what was lifted out of it or comes from elsewhere and is not put down yet. Whatever
+// goes on with the canvas calls settle() before.
+class SelectionEditor : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SelectionEditor(QObject* parent = nullptr);
+    ~SelectionEditor() override;
+
+    // Without what was selected on the one before; null for none. Not owned.
+    void setCanvas(QDDrawCanvas* canvas);
+    QDDrawCanvas* canvas() const { return _canvas; }
+    // What shows where something is lifted off the active layer; invalid: what lies below it.
+    void setPaper(const QColor& paper) { _paper = paper; }
+
+    // ---- The area, in buffer pixels; it moves along with what is lifted out of it
+    const QPainterPath& area() const { return _area; }
+    QPainterPath shownArea() const;
+    void select(const QPainterPath& area, AreaMode mode);
+    void selectAll();
+    void selectNone();
+
+    // ---- The picture that floats
+    const FloatingPicture* floating() const { return _float ? &_float->picture() : nullptr; }
+    bool lift();
+    // Into the middle of a part of the canvas, as large as it is where it fits onto the canvas. False where it cannot.
+    bool place(const QImage& picture, const QRectF& part);
+    void change(const FloatingPicture& to);
+    // By whole pixels; lifts what is selected where nothing floats.
+    void nudge(QPoint by);
+    void settle();  // puts it down
+    void giveUp();  // as if nothing had been lifted or placed
+
+    // ---- Of what floats, or is selected, or all of the layer
+    QImage copied() const;
+    QImage copiedOfAll() const;  // layers together
+    bool remove();               // false where nothing is selected
+
+    // What is seen meanwhile in place of the picture.
+    struct Seen {
+        QRect area;  // edges on multiples of kGrid, or the canvas's
+        QImage image;
+    };
+    static constexpr int kGrid = 64;
+    const std::vector<Seen>& seen();
+    // A picture of the canvas, with that in it.
+    QImage seenIn(QImage picture);
+
+signals:
+    void changed();
+    void floats(bool isFloating);
+    void refused(const QString& why);
+
+private:
+    bool mayChange();
+    QRect canvasRect() const;
+    std::unique_ptr<LayerFloat> lifted();
+    void begin(std::unique_ptr<LayerFloat> made);
+    void end();
+    QImage cut(const QImage& picture) const;
+
+    QDDrawCanvas* _canvas = nullptr;
+    QColor _paper;
+    QPainterPath _area;
+    std::unique_ptr<LayerFloat> _float;
+    std::unique_ptr<SeenLayers> _layers;
+    std::vector<Seen> _seen;
+    bool _isStale = false;
+};
+
+}  // namespace dabcanvas::dabpainter
