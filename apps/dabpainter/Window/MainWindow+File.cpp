@@ -85,8 +85,10 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     QDDrawView& next = *made;
     _document.begin(next, origin);
     _selection->setCanvas(nullptr);
+    _session.stop();
     _viewport->setView(std::move(made));
     watchView();
+    recordCanvas();
     return true;
 }
 

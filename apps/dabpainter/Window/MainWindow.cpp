@@ -88,6 +88,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeCanvasMenu();
     makeBrushMenu();
     makeViewMenu();
+    makeRecordingMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
     _lines = new StraightLines(*_viewport);
     showDocument();
@@ -135,6 +136,7 @@ void MainWindow::connectParts() {
 }
 
 MainWindow::~MainWindow() {
+    _session.stop();
     _document.end();
     _selection->setCanvas(nullptr);
     delete _selectionTool;

@@ -10,6 +10,7 @@
 #include "Documents/LeftPictures.h"
 #include "History/StepPicture.h"
 #include "Presets/PresetLibrary.h"
+#include "Recording/SessionRecorder.h"
 #include "Window/PainterSettings.h"
 #include "Window/Prompts.h"
 
@@ -91,6 +92,11 @@ private:
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // MainWindow+Recording.cpp
+    void makeRecordingMenu();
+    void recordCanvas();
+    void exportRecording();
+    void exportTimelapse();
     // To these menus: see MainWindow+Input.cpp
     void addCanvasSizes(QMenu* menu);
     bool takeCanvasArea(const QRect& area);
@@ -163,6 +169,8 @@ private:
     SelectionEditor* _selection;
     SelectionTool* _selectionTool;
     QDockWidget *_presetDock, *_layerDock, *_dock;
+    SessionRecorder _session;
+    QAction* _record;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     bool _brushRead = false;
     std::set<Document::Loss> _lossesKnown;  // to the user, of this picture

@@ -12,7 +12,7 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr char kSteps[] = "history/steps", kSurface[] = "canvas/surface", kTouch[] = "pointer/touch",
-               kPressure[] = "pointer/pressure";
+               kPressure[] = "pointer/pressure", kRecords[] = "recording/on";
 constexpr int kDefaultSteps = 100;
 constexpr int kWriteDelay = 1000;  // milliseconds from a change to the file
 
@@ -65,6 +65,14 @@ PressureCurve PainterSettings::pressure() const {
 void PainterSettings::setPressure(const PressureCurve& curve) {
     set(kPressure, PressurePoints(curve).text());
     emit pressureChanged(curve);
+}
+
+bool PainterSettings::records() const {
+    return _file.value(QLatin1String(kRecords), false).toBool();
+}
+
+void PainterSettings::setRecords(bool records) {
+    set(kRecords, records);
 }
 
 void PainterSettings::set(const char* name, const QVariant& value) {

@@ -32,6 +32,9 @@ public:
     PressureCurve pressure() const;
     void setPressure(const PressureCurve& curve);
 
+    bool records() const;  // what is painted
+    void setRecords(bool records);
+
     // What others remember: called when it is due to be written.
     void addWriter(std::function<void(QSettings&)> write) { _writers.push_back(std::move(write)); }
     // Something that they write has changed.
