@@ -39,6 +39,8 @@ public:
     void setTouch(TouchPolicy policy);
     void setPressure(const PressureCurve& curve);
     void setStabiliser(const StabiliserOptions& options);
+    // Off: nothing of the pointer's becomes a stroke, and fingers only move the canvas.
+    void setPaints(bool paints);
     bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
     // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
     void setSelecting(bool selecting);
@@ -56,6 +58,7 @@ signals:
     void moved(QPointF bufferPoint);
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
+    void tapped(QPointF viewPoint);        // one finger that may paint, and hardly moved
     void noShapeFound();                   // a stroke that was to be one is gone
     void picked(const QColor& color);
     void pickingChanged(bool picking);
@@ -66,6 +69,7 @@ private:
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
     void tellOptions();
+    void watchTap(const QTouchEvent& event);
     void pickAt(QPointF at);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
@@ -86,6 +90,7 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     PointerOptions _options;
+    bool _paints = true;
     bool _selecting = false;
     bool _picking = false;
     bool _pickPressed = false;
@@ -94,7 +99,8 @@ private:
     enum class Stroke { none, begun, drawn };
     Stroke _stroke = Stroke::none;
     QPointF _beganAt;  // buffer pixels
-    bool _manyFingers = false;
+    bool _manyFingers = false, _penSeen = false;
+    std::optional<QPointF> _tapFrom;
     float _downPressure = 1;
     dabcanvas::StepPicture _recordedBefore;  // of a stroke that is to be a shape
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 #include <set>
 
 #include "Brush/BrushModel.h"
@@ -19,22 +20,29 @@ class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
+class QToolBar;
 class QMimeData;
 
 namespace dabcanvas::dabpainter {
 
 class Autosave;
+class BrushBar;
 class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
 class Commands;
+class FillPointer;
 class LayerPanel;
 class PresetBrowser;
+class RecentFiles;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
 class SymmetryGuide;
+class Theme;
+class Tools;
+enum class Tool;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -74,6 +82,8 @@ public:
     Autosave& autosave() { return *_autosave; }
     SelectionEditor& selection() { return *_selection; }
     Commands& commands() { return *_commands; }
+    Tools& tools() { return *_tools; }
+    BrushBar& brushBar() { return *_brushBar; }
     QDDrawView* view() const;
 
 protected:
@@ -90,6 +100,7 @@ private:
     void makeFileMenu();
     void makeEditMenu();
     void makeCanvasMenu();
+    void makeToolMenu();
     void makeBrushMenu();
     void makeViewMenu();
     // MainWindow+Recording.cpp
@@ -104,6 +115,8 @@ private:
     void addPen(QMenu* menu);
     void addSymmetry(QMenu* canvasMenu);
     void addSymmetryOptions(QMenu* menu);
+    void makeHelpMenu();
+    void makeToolBars();
     void makeSelection();
     void makeSelectMenu();
     void addClipboard(QMenu* menu);
@@ -145,6 +158,9 @@ private:
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
     void recogniseShapes(bool on);
+    QAction* addTool(QMenu* menu, const char* name, const QString& text, const char* keys, Tool tool);
+    void showTool(Tool tool);
+    void fillAt(QPointF viewPoint);
     void zoomBy(double factor);
     void toggleFullScreen();
     void readState();
@@ -157,13 +173,19 @@ private:
     Document _document;
     Autosave* _autosave;
     Commands* _commands;
+    RecentFiles* _recent;
+    Theme* _theme;
 
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
     SymmetryGuide* _symmetry;
+    Tools* _tools;
+    FillPointer* _fill;
     BrushPanel* _panel;
+    QToolBar* _toolBar;
+    BrushBar* _brushBar;
     PresetBrowser* _presets;
     LayerPanel* _layers;
     SelectionEditor* _selection;
@@ -172,6 +194,7 @@ private:
     SessionRecorder _session;
     QAction* _record;
     QAction *_undo, *_redo, *_shapes, *_sizing;
+    std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;
     std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
     std::set<BrushKey> _unwritten;          // since the settings were written
