@@ -99,6 +99,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeToolMenu();
     makeBrushMenu();
     makeViewMenu();
+    makeRecordingMenu();
     makeHelpMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
     makeToolBars();
@@ -151,6 +152,7 @@ void MainWindow::connectParts() {
 }
 
 MainWindow::~MainWindow() {
+    _session.stop();
     _document.end();
     _selection->setCanvas(nullptr);
     delete _selectionTool;

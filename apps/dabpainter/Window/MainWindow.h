@@ -11,6 +11,7 @@
 #include "Documents/LeftPictures.h"
 #include "History/StepPicture.h"
 #include "Presets/PresetLibrary.h"
+#include "Recording/SessionRecorder.h"
 #include "Window/PainterSettings.h"
 #include "Window/Prompts.h"
 
@@ -106,6 +107,11 @@ private:
     void makeToolMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // MainWindow+Recording.cpp
+    void makeRecordingMenu();
+    void recordCanvas();
+    void exportRecording();
+    void exportTimelapse();
     // To these menus: see MainWindow+Input.cpp
     void addCanvasSizes(QMenu* menu);
     bool takeCanvasArea(const QRect& area);
@@ -191,6 +197,8 @@ private:
     SelectionEditor* _selection;
     SelectionTool* _selectionTool;
     QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
+    SessionRecorder _session;
+    QAction* _record;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;
