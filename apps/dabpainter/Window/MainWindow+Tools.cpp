@@ -65,7 +65,7 @@ void MainWindow::makeToolMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Tools"));
     addTool(menu, "tool.brush", tr("&Brush"), "B", Tool::brush)->setIcon(toolIcon(ToolSign::brush));
     addTool(menu, "tool.eraser", tr("E&raser"), "E", Tool::eraser)->setIcon(toolIcon(ToolSign::eraser));
-    addTool(menu, "tool.smudge", tr("&Smudge"), "S", Tool::smudge)->setIcon(toolIcon(ToolSign::smudge));
+    addTool(menu, "tool.smudge", tr("&Smudge"), "U", Tool::smudge)->setIcon(toolIcon(ToolSign::smudge));
     addTool(menu, "tool.fill", tr("&Fill"), "G", Tool::fill)->setIcon(toolIcon(ToolSign::fill));
     addTool(menu, "brush.pick", tr("&Eyedropper"), "I", Tool::pick)->setIcon(toolIcon(ToolSign::pick));
     menu->addSeparator();
@@ -76,7 +76,6 @@ void MainWindow::makeToolMenu() {
     connect(_shapes, &QAction::toggled, this, &MainWindow::recogniseShapes);
 }
 
-// In the menus signs would stand beside some words only.
 void MainWindow::makeToolBars() {
     _toolBar = new QToolBar(tr("Tools"));
     _toolBar->setObjectName(QStringLiteral("toolBar"));
@@ -109,6 +108,10 @@ void MainWindow::makeToolBars() {
         other->setMovable(false);
         addToolBar(Qt::TopToolBarArea, other);
     }
+
+    // In the menus they would stand beside some words only.
+    for (QAction* action : _toolBar->actions() + _brushBar->actions())
+        action->setIconVisibleInMenu(false);
 
     _fill = new FillPointer(this);
     connect(_fill, &FillPointer::fillAt, this, &MainWindow::fillAt);

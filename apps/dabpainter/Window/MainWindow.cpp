@@ -35,6 +35,7 @@
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/ColorPicker.h"
+#include "Viewport/PulledString.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
@@ -85,6 +86,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _dock->raise();
     resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
     _symmetry = new SymmetryGuide(*_viewport);
+    _string = new PulledString(*_viewport, *_pointer);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
@@ -97,6 +99,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeToolMenu();
     makeBrushMenu();
     makeViewMenu();
+    makeRecordingMenu();
     makeHelpMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
     makeToolBars();
@@ -148,6 +151,7 @@ void MainWindow::connectParts() {
 }
 
 MainWindow::~MainWindow() {
+    _session.stop();
     _document.end();
     _selection->setCanvas(nullptr);
     delete _selectionTool;
