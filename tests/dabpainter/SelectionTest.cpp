@@ -12,6 +12,7 @@
 #include "History/ImagesUndoManager.h"
 #include "Selection/FloatFrame.h"
 #include "Selection/PictureMime.h"
+#include "Surface/PaintSurface.h"
 #include "support/Images.h"
 
 namespace dabcanvas::dabpainter {
@@ -138,6 +139,35 @@ TEST_P(SelectionTest, LayersKeepWhatTheyPromise) {
         const QImage image = canvas->image();
         EXPECT_TRUE(imagesMatch(image.copy(hole), row.left.value_or(was.copy(hole))));
         EXPECT_EQ(image.pixelColor(120, 110).alpha(), row.locks || row.isHidden ? 0 : 255);
+    }
+}
+
+// All bits of it where the lasso is not, though it goes around that.
+TEST_P(SelectionTest, WhatIsNotTouchedKeepsItsDepth) {
+    canvas->drawImage(patternImage({30, 20}), QRectF(-7.3, -5.1, 220.7, 160.3));
+    const int bytes = canvas->surface().pixelBytes();
+    const auto deep = [&] {
+        QByteArray rows(kSize.width() * kSize.height() * bytes, 0);
+        const SurfaceScope scope(canvas->surface());
+        canvas->surface().read(PictureId::first, {0, 0, kSize.width(), kSize.height()},
+                               {reinterpret_cast<std::uint8_t*>(rows.data()),
+                                {kSize.width(), kSize.height()},
+                                kSize.width() * bytes,
+                                bytes});
+        return rows;
+    };
+    const QByteArray was = deep();
+    editor.select(lassoArea(QPolygonF({{10, 10}, {150, 10}, {150, 20}, {20, 20}, {20, 140}, {10, 140}})),
+                  AreaMode::replace);
+    editor.nudge({5, 0});
+    editor.settle();
+    const QByteArray is = deep();
+    EXPECT_NE(is, was);
+    for (int y = 75; y < kSize.height(); ++y) {
+        const auto right = [&](const QByteArray& rows) {
+            return rows.mid((y * kSize.width() + 75) * bytes, (kSize.width() - 75) * bytes);
+        };
+        ASSERT_EQ(right(is), right(was)) << y;
     }
 }
 

@@ -116,16 +116,36 @@ QImage LayerFloat::layer(const QRect& area) const {
 }
 
 bool LayerFloat::putDown() {
-    return isUnmoved() || write(changes());
+    return isUnmoved() || write();
 }
 
 bool LayerFloat::drop() {
     _isDropped = true;
-    return write(changes());
+    return write();
+}
+
+// Of a canvas with more than 8 bits a channel what stays as it is is not written, as it would come out with 8.
+QRegion LayerFloat::toWrite() const {
+    const QRegion all = changes();
+    if (_canvas.surfaceOptions().canvasDepth == 8)
+        return all;
+    constexpr int kBlock = 32;
+    QRegion differs;
+    for (const QRect& rect : all) {
+        for (int y = rect.top(); y <= rect.bottom(); y += kBlock) {
+            for (int x = rect.left(); x <= rect.right(); x += kBlock) {
+                const QRect block = QRect(x, y, kBlock, kBlock) & rect;
+                if (layer(block) != _layer.copy(block))
+                    differs |= block;
+            }
+        }
+    }
+    return differs;
 }
 
 // As one step, however many places there are.
-bool LayerFloat::write(const QRegion& region) {
+bool LayerFloat::write() {
+    const QRegion region = toWrite();
     const bool marks = _canvas.autoMark();
     if (marks)
         _canvas.markAction();  // of what was drawn before

@@ -44,7 +44,8 @@ private:
     LayerFloat(QDDrawCanvas& canvas, const FloatingPicture& picture);
     bool isUnmoved() const { return isLifted() && _picture == _start; }
     QRect whole() const { return _layer.rect(); }
-    bool write(const QRegion& region);
+    QRegion toWrite() const;
+    bool write();
 
     QDDrawCanvas& _canvas;
     FloatingPicture _picture, _start;
