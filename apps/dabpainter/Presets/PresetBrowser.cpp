@@ -126,7 +126,7 @@ void PresetBrowser::makeLayout() {
     // A click leaves the keyboard to the canvas.
     _list->setFocusPolicy(Qt::TabFocus);
     _list->installEventFilter(this);
-    _list->setMinimumHeight(90);
+    _list->setMinimumHeight(72);
     _nothing->setAlignment(Qt::AlignCenter);
     _nothing->setWordWrap(true);
     _nothing->setEnabled(false);
