@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copies of strokes, mirrored and turned.
 #include <QTransform>
+#include <array>
 
 #include "History/ImagesUndoManager.h"
 #include "support/CanvasTest.h"
@@ -25,6 +26,7 @@ QImage unevenTip() {
 }
 
 void takeBrush(QDDrawCanvas& canvas, bool smudges) {
+    canvas.setTextureType(0);
     canvas.setTextureImages({unevenTip()});
     canvas.setRadius(36);
     canvas.setRadian(0.3f);
@@ -40,15 +42,20 @@ void takeBrush(QDDrawCanvas& canvas, bool smudges) {
     }
 }
 
-int farthest(const QImage& a, const QImage& b) {
-    int most = 0;
+// Of all channels, the largest difference but for a few.
+int farthest(const QImage& a, const QImage& b, int few = 0) {
+    std::array<int, 256> counts{};
     for (int y = 0; y < a.height(); ++y) {
         const uchar *one = a.constScanLine(y), *other = b.constScanLine(y);
         for (int i = 0; i < 4 * a.width(); ++i) {
-            most = std::max(most, std::abs(one[i] - other[i]));
+            ++counts[static_cast<std::size_t>(std::abs(one[i] - other[i]))];
         }
     }
-    return most;
+    std::size_t most = 255;
+    for (int left = few; most > 0 && counts[most] <= left; --most) {
+        left -= counts[most];
+    }
+    return static_cast<int>(most);
 }
 
 QImage turned(const QImage& image, double degrees) {
@@ -109,7 +116,10 @@ TEST_P(CanvasSymmetryTest, ThePictureIsItsOwnImage) {
     const QImage after = canvas->image();
     EXPECT_GT(farthest(before, after), 60);
     for (const auto& imageOf : row.same) {
-        EXPECT_LE(farthest(after, imageOf(after)), 1);
+        // Rounding goes by the place: what lies at a whole number may come out beside it on both sides.
+        const QImage image = imageOf(after);
+        EXPECT_LE(farthest(after, image, 16), 1);
+        EXPECT_LE(farthest(after, image), 2);
     }
     EXPECT_FALSE(canvas->undo().isNull());
     EXPECT_EQ(canvas->image(), before);

@@ -42,13 +42,13 @@ QKeySequence key(const char* text) {
 
 void MainWindow::addCanvasSizes(QMenu* menu) {
     addTo(menu, "canvas.size", tr("Canvas &Size…"), {}, [this] {
-        _pointer->endStroke();
+        finishEdits();
         CanvasSizeDialog dialog(view()->bufferSize().toSize(), this);
         while (dialog.exec() == QDialog::Accepted && !takeCanvasArea(dialog.area())) {
         }
     });
-    addTo(menu, "canvas.crop", tr("C&rop to Drawn"), {}, [this] {
-        _pointer->endStroke();
+    addTo(menu, "canvas.crop", tr("Crop &to Drawn"), {}, [this] {
+        finishEdits();
         const QRect drawn = drawnArea(view()->layers().flattened(), _document.plan().background);
         if (drawn.isEmpty())
             statusBar()->showMessage(tr("Nothing is drawn"), kMessageTime);
@@ -84,13 +84,13 @@ void MainWindow::addTurns(QMenu* menu) {
             [this, mirror] { mirror->setChecked(_viewport->isMirrored()); });
     new TurnDrag(*_viewport,
                  *_commands->addHeld(QStringLiteral("view.dragTurn"), menu->title().remove(QLatin1Char('&')),
-                                     tr("Turn by Dragging"), key("R")));
+                                     tr("Turn by Dragging"), key("Q")));
 }
 
 // ---- Pressure and a steady hand
 
 void MainWindow::addPen(QMenu* menu) {
-    addTo(menu, "canvas.pressure", tr("Pen P&ressure…"), {}, [this] {
+    addTo(menu, "canvas.pressure", tr("Pen Pr&essure…"), {}, [this] {
         _pointer->endStroke();
         PressureDialog dialog(_settings.pressure(), _brush, this);
         if (dialog.exec() == QDialog::Accepted)

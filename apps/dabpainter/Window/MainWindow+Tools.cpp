@@ -37,7 +37,7 @@ constexpr int kIconSide = 20;
 QAction* MainWindow::addTool(QMenu* menu, const char* name, const QString& text, const char* keys,
                              Tool tool) {
     QAction* action = addTo(menu, name, text, {QKeySequence(QString::fromLatin1(keys))}, [this, tool] {
-        _pointer->endStroke();
+        finishEdits();
         tool == Tool::eraser ? _tools->toggleEraser() : _tools->choose(tool);
     });
     action->setCheckable(true);

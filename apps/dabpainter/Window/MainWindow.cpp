@@ -37,6 +37,7 @@
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/ColorPicker.h"
+#include "Viewport/PulledString.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
@@ -100,10 +101,12 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _dock->raise();
     resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
     _symmetry = new SymmetryGuide(*_viewport);
+    _string = new PulledString(*_viewport, *_pointer);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
-    makeSelection();
+    _lines = new StraightLines(*_viewport);
+    makeSelection();  // which hears of presses before those do, and after held keys
     makeFileMenu();
     makeEditMenu();
     makeSelectMenu();
@@ -111,9 +114,9 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeToolMenu();
     makeBrushMenu();
     makeViewMenu();
+    makeRecordingMenu();
     makeHelpMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
-    _lines = new StraightLines(*_viewport);
     makeToolBars();
     showDocument();
     readState();
@@ -164,6 +167,7 @@ void MainWindow::connectParts() {
 }
 
 MainWindow::~MainWindow() {
+    _session.stop();
     _document.end();
     _selection->setCanvas(nullptr);
     delete _selectionTool;
