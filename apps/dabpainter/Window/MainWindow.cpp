@@ -321,6 +321,7 @@ void MainWindow::readState() {
     restoreState(file.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
     _panel->readState(file);
     _commands->read(file);
+    tellKeys();
     _recent->read(file);
 }
 
