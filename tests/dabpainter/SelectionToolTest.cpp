@@ -143,6 +143,7 @@ TEST_F(SelectionToolTest, WhateverComesNextPutsItDown) {
               [&] {
                   send(QEvent::MouseButtonPress, {20, 130});
               }},
+          Row{"opening", [&] { EXPECT_TRUE(_window->mayDiscard()); }},
           Row{"saving", [&] { run("file.save"); }}, Row{"closing", [&] { _window->close(); }}}) {
         SCOPED_TRACE(row.what);
         _window->clearCanvas();

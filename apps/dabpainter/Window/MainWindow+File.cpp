@@ -315,6 +315,7 @@ bool MainWindow::saveAs(const QString& suggested) {
 }
 
 bool MainWindow::mayDiscard() {
+    finishEdits();
     if (!isUnsaved())
         return true;
     switch (_prompts.askUnsaved(this, _document.name())) {

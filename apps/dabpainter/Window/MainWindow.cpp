@@ -157,7 +157,6 @@ void MainWindow::connectParts() {
     connect(_commands, &Commands::keysChanged, &_settings, &PainterSettings::noteChange);
     connect(_recent, &RecentFiles::changed, &_settings, &PainterSettings::noteChange);
     connect(_recent, &RecentFiles::chosen, this, [this](const QString& path) {
-        _pointer->endStroke();
         if (mayDiscard())
             openImage(path);
     });
