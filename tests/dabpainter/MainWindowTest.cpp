@@ -23,6 +23,7 @@
 #include "Selection/SelectionEditor.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasPointer.h"
+#include "Viewport/ColorPicker.h"
 #include "support/FailingDriver.h"
 #include "support/LogCapture.h"
 #ifdef Q_OS_UNIX
@@ -235,7 +236,7 @@ TEST_F(MainWindowTest, TheSpaceBarPansUntilTheProgramIsLeft) {
         const QPointF before = shownCanvas().topLeft();
         send(QEvent::MouseMove, {340, 330}, Qt::NoButton);
         EXPECT_EQ(shownCanvas().topLeft(), before);
-        EXPECT_FALSE(_window->pointer().isPicking());
+        EXPECT_FALSE(_window->pointer().picker().isOn());
         QEvent left(QEvent::ApplicationDeactivate);
         QApplication::sendEvent(qApp, &left);
     }

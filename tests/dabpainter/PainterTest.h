@@ -47,11 +47,14 @@ protected:
         prompts.askName = [this](QWidget*, const QString&, const QString&) { return _name; };
         prompts.pickBrushes = [this](QWidget*) { return _images; };
         prompts.pickBrushName = [this](QWidget*, const QString&) { return _saveName; };
+        prompts.pickPalettes = [this](QWidget*) { return _images; };
+        prompts.pickPaletteName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.showFolder = [](const QString&) {};
         prompts.pickLeft = [this](QWidget*, const LeftPictures&, const QList<LeftPicture>& pictures) {
             _offered = int(pictures.size());
             return std::optional(pictures.first());
         };
+        prompts.pickRecordingName = prompts.pickTimelapseName = [this](QWidget*) { return _saveName; };
         prompts.askLoss = [this](QWidget*, Document::Loss loss) {
             _losses.push_back(loss);
             return _lossAnswer;

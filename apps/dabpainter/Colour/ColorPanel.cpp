@@ -217,9 +217,12 @@ void ColorPanel::setView(QDDrawView* view) {
         connect(_view, &QDDrawView::strokeEnded, this, &ColorPanel::noteStroke);
 }
 
+// Erasing takes paint away, or paints the paper's colour.
 void ColorPanel::noteStroke() {
-    const QColor color = _brush.value(BrushKey::renderColor).value<ESColor>().toQColor();
-    if (!_view || _view->blendType() == ESBlendTypeErase || !color.isValid() || !_recent.add(color))
+    const auto color = _brush.value(BrushKey::renderColor).value<ESColor>();
+    const bool isPaint = _view && _view->blendType() != int(ESBlendTypeErase) &&
+                         _view->renderColor() == color && color.alpha() > 0;
+    if (!isPaint || !_recent.add(color.toQColor()))
         return;
     showRecent();
     emit stateChanged();

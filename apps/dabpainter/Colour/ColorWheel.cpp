@@ -16,10 +16,10 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr double kHalfHeight = std::numbers::sqrt3 / 2, kGreySide = -0.5;
-constexpr double kInner = 0.8;  // of the ring, of its outer radius
-constexpr double kGap = 4;      // points from ring to triangle
-constexpr double kMark = 5;     // radius, points
-constexpr int kHues = 720;
+constexpr double kInner = 0.82;  // of the ring, of its outer radius
+constexpr double kGap = 3;       // points from ring to triangle
+constexpr double kMark = 5;      // radius, points
+constexpr int kHues = 360;
 
 double turned(double radian) {
     const double degrees = radian * 180 / std::numbers::pi;
@@ -33,6 +33,16 @@ double hueAt(QPointF fromCentre) {
 
 double coverage(double distanceInside) {
     return std::clamp(distanceInside + 0.5, 0.0, 1.0);
+}
+
+const std::vector<QRgb>& ringHues() {
+    static const auto hues = [] {
+        std::vector<QRgb> all;
+        for (int i = 0; i < kHues; ++i)
+            all.push_back(colorOf(purest(360.0 * i / kHues)).rgb());
+        return all;
+    }();
+    return hues;
 }
 
 QRgb covered(QRgb color, double share) {
@@ -109,9 +119,7 @@ bool ShadeMap::contains(QPointF place, double margin) const {
 // ---- As images
 
 QImage hueRingImage(int pixels, double innerShare) {
-    std::vector<QRgb> hues;
-    for (int i = 0; i < kHues; ++i)
-        hues.push_back(colorOf(purest(360.0 * i / kHues)).rgb());
+    const std::vector<QRgb>& hues = ringHues();
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     const double radius = pixels / 2.0, inner = radius * innerShare;
     for (int y = 0; y < pixels; ++y) {

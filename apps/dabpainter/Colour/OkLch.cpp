@@ -25,8 +25,10 @@ constexpr Matrix kRoots{
 constexpr Matrix kLinear{{{4.0767416621, -3.3077115913, 0.2309699292},
                           {-1.2684380046, 2.6097574011, -0.3413193965},
                           {-0.0041960863, -0.7034186147, 1.7076147010}}};
-constexpr double kGrey = 1e-4;   // less chroma is rounding
-constexpr double kSlack = 2e-4;  // of linear light, less than a step of 8 bits: the matrices are rounded
+constexpr double kGrey = 1e-4;  // less chroma is rounding
+// Of linear light, of what a grey as light has, and at most: two steps of 8 bits. Towards blue the way out from grey leaves
+// sRGB by as much and comes back in.
+constexpr double kSlack = 0.008, kMostSlack = 7e-4;
 constexpr int kTableSteps = 16384;
 
 Three times(const Matrix& matrix, const Three& v) {
@@ -57,7 +59,9 @@ Three linearOf(const OkLch& shade) {
 
 bool isShown(const OkLch& shade) {
     const Three light = linearOf(shade);
-    return std::all_of(light.begin(), light.end(), [](double l) { return l >= -kSlack && l <= 1 + kSlack; });
+    const double slack = std::min(kSlack * std::pow(shade.lightness, 3), kMostSlack);
+    return std::all_of(light.begin(), light.end(),
+                       [slack](double l) { return l >= -slack && l <= 1 + slack; });
 }
 
 int encodedByte(double linear) {
@@ -94,7 +98,7 @@ QColor colorOf(const OkLch& shade) {
     return QColor::fromRgbF(float(encoded(light[0])), float(encoded(light[1])), float(encoded(light[2])));
 }
 
-// Steps outward to where it first leaves: near blue, a straight way out comes back in once more.
+// Steps outward to where it first leaves, so that all on the way there can be shown.
 double mostChroma(double lightness, double hue) {
     if (lightness <= 0 || lightness >= 1)
         return 0;
@@ -116,21 +120,27 @@ OkLch insideGamut(OkLch shade) {
     return shade;
 }
 
-// The saturated colours of sRGB go once around in the same sense as the hues do.
+// About as light as the saturated colour of HSV that has this hue: their hues go once around in the same sense, but for a
+// bend towards blue.
 OkLch purest(double hue) {
-    const auto saturated = [](double turn) {
-        return okLchOf(QColor::fromHsvF(float(turn - std::floor(turn)), 1, 1));
-    };
+    const auto saturated = [](double turn) { return okLchOf(QColor::fromHsvF(float(turn), 1, 1)); };
     const double red = saturated(0).hue;
     const double wanted = std::fmod(hue - red + 720, 360);
     double low = 0, high = 1;
-    for (int i = 0; i < 30; ++i) {
+    for (int i = 0; i < 12; ++i) {
         const double middle = (low + high) / 2;
         (std::fmod(saturated(middle).hue - red + 360, 360) <= wanted ? low : high) = middle;
     }
-    OkLch found = saturated(low);
-    found.hue = hue;
-    return insideGamut(found);
+    const double near = saturated(low).lightness;
+    double dark = near - 0.15, light = std::min(near + 0.15, 1.0);
+    while (light - dark > 1e-4) {
+        const double third = (light - dark) / 3;
+        if (mostChroma(dark + third, hue) < mostChroma(light - third, hue))
+            dark += third;
+        else
+            light -= third;
+    }
+    return {light, mostChroma(light, hue), hue};
 }
 
 double evenLightness(double lightness) {

@@ -15,6 +15,7 @@
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "Brush/BrushDrops.h"
 #include "Preset/QDBrushManager.h"
@@ -127,6 +128,7 @@ void PresetBrowser::makeLayout() {
     _list->installEventFilter(this);
     _list->setMinimumHeight(90);
     _nothing->setAlignment(Qt::AlignCenter);
+    _nothing->setWordWrap(true);
     _nothing->setEnabled(false);
     auto* inside = new QVBoxLayout(_list->viewport());
     inside->addWidget(_nothing);
@@ -143,7 +145,7 @@ void PresetBrowser::makeLayout() {
 
     connect(_search, &QLineEdit::textChanged, this, [this](const QString& text) {
         _filtered->setFilterFixedString(text.trimmed());
-        _nothing->setVisible(_filtered->rowCount() == 0);
+        showNothing();
     });
     connect(save, &QToolButton::clicked, this, &PresetBrowser::saveNew);
     connect(more, &QToolButton::clicked, this,
@@ -192,7 +194,7 @@ void PresetBrowser::popUp(const PresetId& target, const QPoint& at) {
 
 void PresetBrowser::refresh() {
     _model->refresh();
-    _nothing->setVisible(_filtered->rowCount() == 0);
+    showNothing();
     QStringList folders = _library.folders().installed;
     folders << _library.folders().own;
     for (const QString& folder : folders) {
@@ -200,6 +202,20 @@ void PresetBrowser::refresh() {
             _watcher.addPath(folder);
     }
     showChosen();
+}
+
+void PresetBrowser::showNothing() {
+    const bool none = _library.presets().empty();
+    _nothing->setText(none ? tr("There are no brushes yet: import some by the menu above, or save the "
+                                "present settings as one.")
+                           : tr("No brush is called so."));
+    _nothing->setVisible(none || _filtered->rowCount() == 0);
+}
+
+void PresetBrowser::scrollToChosen() {
+    const int row = _model->rowOf(_chosen);
+    if (row >= 0)
+        _list->scrollTo(_filtered->mapFromSource(_model->index(row)));
 }
 
 void PresetBrowser::setOwnLook() {
@@ -210,6 +226,8 @@ void PresetBrowser::setOwnLook() {
 void PresetBrowser::showEvent(QShowEvent* event) {
     setOwnLook();
     QWidget::showEvent(event);
+    // When it has been laid out.
+    QMetaObject::invokeMethod(this, &PresetBrowser::scrollToChosen, Qt::QueuedConnection);
 }
 
 void PresetBrowser::dragEnterEvent(QDragEnterEvent* event) {
@@ -230,9 +248,7 @@ void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
     _chosenName = name;
     emit stateChanged();
     showChosen();
-    const int row = _model->rowOf(id);
-    if (row >= 0)
-        _list->scrollTo(_filtered->mapFromSource(_model->index(row)));
+    scrollToChosen();
 }
 
 void PresetBrowser::showChosen() {
@@ -281,6 +297,23 @@ bool PresetBrowser::choose(const PresetId& id) {
 
 bool PresetBrowser::choosePrevious() {
     return (_previous.path.isEmpty() || _library.find(_previous)) && choose(_previous);
+}
+
+bool PresetBrowser::chooseShipped(const QString& fileName) {
+    const auto found = std::ranges::find_if(_library.presets(), [&](const Preset& preset) {
+        return !preset.own && QFileInfo(preset.id.path).fileName() == fileName;
+    });
+    return found != _library.presets().end() && choose(PresetId(found->id));
+}
+
+std::function<void()> PresetBrowser::keep() {
+    return [this, held = _brush.hold(), id = _chosen, name = _chosenName] {
+        emit aboutToUseBrush();
+        if (!_brush.takeUp(held))
+            return;
+        const bool isThere = _library.find(id);
+        setChosen(isThere ? id : PresetId(), isThere ? name : QString());
+    };
 }
 
 bool PresetBrowser::saveNew() {

@@ -16,6 +16,16 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr int kPad = 4;
+constexpr int kNameLines = 2;
+
+// The name whole, on as many lines as there are; only what is too long for these ends in dots.
+void drawName(QPainter& painter, const QRect& room, QString name) {
+    const QFontMetrics metrics = painter.fontMetrics();
+    constexpr int kWrapped = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+    while (name.size() > 1 && !room.contains(metrics.boundingRect(room, kWrapped, name)))
+        name = name.chopped(name.endsWith(QChar(0x2026)) ? 2 : 1) + QChar(0x2026);
+    painter.drawText(room, kWrapped, name);
+}
 
 }  // namespace
 
@@ -133,7 +143,7 @@ QSize PresetDelegate::pictureSize() {
 }
 
 QSize PresetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return pictureSize() + QSize(2 * kPad, 2 * kPad + 2 + option.fontMetrics.height());
+    return pictureSize() + QSize(2 * kPad, 2 * kPad + 2 + kNameLines * option.fontMetrics.lineSpacing());
 }
 
 void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -171,9 +181,9 @@ void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     QString name = index.data(Qt::DisplayRole).toString();
     if (isChosen && index.data(PresetListModel::modifiedRole).toBool())
         name.prepend(QStringLiteral("* "));
-    const QRect line(frame.x(), frame.bottom() + 2, frame.width(), option.fontMetrics.height());
-    painter->drawText(line, Qt::AlignCenter,
-                      option.fontMetrics.elidedText(name, Qt::ElideRight, line.width()));
+    drawName(*painter,
+             QRect(cell.x(), frame.bottom() + 2, cell.width(), kNameLines * option.fontMetrics.lineSpacing()),
+             name);
     painter->restore();
 }
 

@@ -19,11 +19,13 @@
 #include "QDEAGLView/QDDrawView.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/ColorPicker.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
 
+constexpr double kTap = 12;  // points that a finger may slip
 constexpr float kPress = 1;  // what the view takes a device for that measures none
 
 // The hot spot inside the brush's outline.
@@ -40,10 +42,15 @@ QCursor dotCursor() {
 }  // namespace
 
 CanvasPointer::CanvasPointer(CanvasViewport& viewport, BrushCursor& cursor, BrushModel& model)
-    : QObject(&viewport), _viewport(viewport), _cursor(cursor), _model(model) {
+    : QObject(&viewport),
+      _viewport(viewport),
+      _cursor(cursor),
+      _model(model),
+      _picker(new ColorPicker(viewport, model)) {
     viewport.setMouseTracking(true);
     viewport.setTabletTracking(true);
     connect(&cursor, &BrushCursor::outlineChanged, this, &CanvasPointer::chooseCursor);
+    connect(_picker, &ColorPicker::activeChanged, this, &CanvasPointer::showPointer);
     qApp->installEventFilter(this);  // the space bar counts wherever the focus is
 }
 
@@ -86,19 +93,26 @@ void CanvasPointer::tellOptions() {
     if (!view)
         return;
     PointerOptions options = _options;
-    options.touch = _selecting && !fingersPaint() ? TouchPolicy::pensOnly : _options.touch;
+    const bool noStrokes = !_paints || (_selecting && !fingersPaint());
+    options.touch = noStrokes ? TouchPolicy::pensOnly : _options.touch;
     view->setPointerOptions(options);
+}
+
+void CanvasPointer::setPaints(bool paints) {
+    _paints = paints;
+    tellOptions();
 }
 
 void CanvasPointer::setSelecting(bool selecting) {
     _selecting = selecting;
     tellOptions();
+    _picker->setHoldable(!selecting);  // where Ctrl means something else
     if (selecting)
         _cursor.hideOutline();
 }
 
 bool CanvasPointer::isFree() const {
-    return !_spaceHeld && !_panning && !_picking && !_pickPressed;
+    return !_spaceHeld && !_panning && !_picker->isActive();
 }
 
 QPointF CanvasPointer::place() const {
@@ -120,7 +134,8 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease)
         return watched->isWidgetType() && filterKey(*static_cast<QKeyEvent*>(event));
     if (event->type() == QEvent::ApplicationDeactivate && watched == qApp) {
-        _spaceHeld = _panning = _pickPressed = false;  // nobody will tell of the releases
+        _spaceHeld = _panning = false;  // nobody will tell of the releases
+        _picker->leave();
         chooseCursor();
     }
     if (!_viewport.view() || watched != _viewport.view())
@@ -149,6 +164,7 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
             return false;
         case QEvent::Leave:
             _cursor.hideOutline();
+            _picker->leave();
             _place.reset();
             emit left();
             return false;
@@ -160,6 +176,7 @@ bool CanvasPointer::eventFilter(QObject* watched, QEvent* event) {
 // ---- Keyboard
 
 bool CanvasPointer::filterKey(QKeyEvent& event) {
+    _picker->watchKey(event, place());
     if (event.key() != Qt::Key_Space || event.modifiers() != Qt::NoModifier)
         return false;
     if (event.type() == QEvent::KeyRelease) {
@@ -196,19 +213,19 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
         }
         if (event.button() != Qt::LeftButton)
             return false;
-        if (_picking) {
-            _pickPressed = true;
-            pickAt(at);
+        if (_picker->press(at, event.modifiers()))
             return true;
-        }
         _downPressure = kPress;
         pressed(false);
         return false;
     }
     // A release may have gone elsewhere.
     const bool isHeld = event.type() == QEvent::MouseMove && event.buttons() != Qt::NoButton;
-    if (event.type() == QEvent::MouseMove)
+    if (event.type() == QEvent::MouseMove) {
+        if (!isHeld)
+            _picker->hover(at, event.modifiers());
         pointTo(at);
+    }
     if (_panning) {
         if (event.type() == QEvent::MouseMove)
             _viewport.pan(at - std::exchange(_panFrom, at));
@@ -216,11 +233,8 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
         chooseCursor();
         return true;
     }
-    if (_pickPressed) {
-        if (isHeld)
-            pickAt(at);
-        else
-            setPicking(_pickPressed = false);
+    if (_picker->isPressed()) {
+        isHeld ? _picker->drag(at) : _picker->release(event.modifiers());
         return true;
     }
     if (event.type() == QEvent::MouseMove)
@@ -229,7 +243,10 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
 }
 
 bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
+    _penSeen = true;
     emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
+    if (isIdle() && (event.type() == QEvent::TabletPress || event.buttons() == Qt::NoButton))
+        _picker->hover(at, event.modifiers());
     // Left to the mouse event that follows a tablet event which nobody took.
     if (!isFree() || (event.type() == QEvent::TabletPress && event.button() != Qt::LeftButton)) {
         event.ignore();
@@ -314,6 +331,7 @@ bool CanvasPointer::filterTouch(QTouchEvent& event) {
     if (event.device() && event.device()->type() == QInputDevice::DeviceType::TouchPad)
         return false;  // which moves the mouse
     _manyFingers = (_manyFingers && event.type() != QEvent::TouchBegin) || event.points().size() > 1;
+    watchTap(event);
     if (event.type() == QEvent::TouchBegin) {
         _downPressure = kPress;
         pressed(false);
@@ -321,43 +339,38 @@ bool CanvasPointer::filterTouch(QTouchEvent& event) {
     return event.type() == QEvent::TouchEnd && deliverRelease(event);
 }
 
+void CanvasPointer::watchTap(const QTouchEvent& event) {
+    const bool taps = fingersPaint() || (_options.touch == TouchPolicy::pensOnceSeen && !_penSeen);
+    const QPointF at = event.points().isEmpty() ? QPointF() : event.points().first().position();
+    if (event.type() == QEvent::TouchBegin && taps)
+        _tapFrom = at;
+    if (_tapFrom && (_manyFingers || (at - *_tapFrom).manhattanLength() > kTap))
+        _tapFrom.reset();
+    if (event.type() == QEvent::TouchEnd && _tapFrom)
+        emit tapped(*std::exchange(_tapFrom, std::nullopt));
+}
+
 // ---- What the pointer shows
-
-void CanvasPointer::setPicking(bool picking) {
-    if (_picking == picking)
-        return;
-    _picking = picking;
-    chooseCursor();
-    emit pickingChanged(picking);
-}
-
-void CanvasPointer::pickAt(QPointF at) {
-    QDDrawView* view = _viewport.view();
-    const QPointF point = _viewport.bufferPoint(at);
-    const QPoint pixel(int(std::floor(point.x())), int(std::floor(point.y())));
-    if (!view || !view->displayImage().rect().contains(pixel))
-        return;
-    QColor color = view->displayImage().pixelColor(pixel);
-    if (color.alpha() == 0)
-        return;
-    color.setAlpha(255);
-    emit picked(color);
-}
 
 void CanvasPointer::pointTo(QPointF at) {
     _place = at;
-    if (_picking || _panning || _selecting)
-        _cursor.hideOutline();
-    else
-        _cursor.showAt(at);
+    showPointer();
     emit moved(_viewport.bufferPoint(at));
 }
 
+void CanvasPointer::showPointer() {
+    if (!_place || _picker->isActive() || _panning || _selecting)
+        _cursor.hideOutline();
+    else
+        _cursor.showAt(*_place);
+    chooseCursor();
+}
+
 void CanvasPointer::chooseCursor() {
-    const Shown wanted = _panning                         ? Shown::grab
-                         : _spaceHeld                     ? Shown::hand
-                         : (_picking || _cursor.isTiny()) ? Shown::cross
-                                                          : Shown::dot;
+    const Shown wanted = _panning                                    ? Shown::grab
+                         : _spaceHeld                                ? Shown::hand
+                         : (_picker->isActive() || _cursor.isTiny()) ? Shown::cross
+                                                                     : Shown::dot;
     if (std::exchange(_shown, wanted) == wanted)
         return;  // with every move: the window system would be told every time
     switch (wanted) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QColor>
 #include <QEvent>
 #include <QObject>
 #include <QPointF>
@@ -21,8 +20,9 @@ namespace dabcanvas::dabpainter {
 
 class BrushCursor;
 class CanvasViewport;
+class ColorPicker;
 
-// What the pointer does besides painting, which the view does itself: panning by the space bar, picking colours, the
+// What the pointer does besides painting, which the view does itself: panning by the space bar, the
 // dab of a plain click and the pen's eraser. Watches the events of the viewport, of its view and of the
 // keyboard.
 class CanvasPointer : public QObject {
@@ -39,12 +39,13 @@ public:
     void setTouch(TouchPolicy policy);
     void setPressure(const PressureCurve& curve);
     void setStabiliser(const StabiliserOptions& options);
+    // Off: nothing of the pointer's becomes a stroke, and fingers only move the canvas.
+    void setPaints(bool paints);
     bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
+    ColorPicker& picker() { return *_picker; }
     // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
     void setSelecting(bool selecting);
     bool isFree() const;  // it neither pans nor picks
-    bool isPicking() const { return _picking; }
-    void setPicking(bool picking);
     bool isIdle() const;  // no stroke is in progress
     // It ends where it got to. Before the canvas is saved, replaced, zoomed or anything else: nothing waits for a device
     // that may never be heard of again.
@@ -56,9 +57,8 @@ signals:
     void moved(QPointF bufferPoint);
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
+    void tapped(QPointF viewPoint);        // one finger that may paint, and hardly moved
     void noShapeFound();                   // a stroke that was to be one is gone
-    void picked(const QColor& color);
-    void pickingChanged(bool picking);
 
 private:
     bool filterKey(QKeyEvent& event);
@@ -66,18 +66,20 @@ private:
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
     void tellOptions();
-    void pickAt(QPointF at);
+    void watchTap(const QTouchEvent& event);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
     void leaveDab(QPointF bufferPoint);
     void strokeEnds();
     void judgeShape(const dabcanvas::StepPicture& before);
     void pointTo(QPointF at);
+    void showPointer();
     void chooseCursor();
 
     CanvasViewport& _viewport;
     BrushCursor& _cursor;
     BrushModel& _model;
+    ColorPicker* _picker;
 
     enum class Shown { none, grab, hand, cross, dot };
     Shown _shown = Shown::none;
@@ -86,15 +88,15 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     PointerOptions _options;
+    bool _paints = true;
     bool _selecting = false;
-    bool _picking = false;
-    bool _pickPressed = false;
 
     // Of the stroke in progress: none has begun, or nothing was drawn yet
     enum class Stroke { none, begun, drawn };
     Stroke _stroke = Stroke::none;
     QPointF _beganAt;  // buffer pixels
-    bool _manyFingers = false;
+    bool _manyFingers = false, _penSeen = false;
+    std::optional<QPointF> _tapFrom;
     float _downPressure = 1;
     dabcanvas::StepPicture _recordedBefore;  // of a stroke that is to be a shape
 };

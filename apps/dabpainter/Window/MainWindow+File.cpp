@@ -8,6 +8,7 @@
 #include "Brush/BrushCommands.h"
 #include "Brush/BrushStorage.h"
 #include "Canvas/CanvasLayers.h"
+#include "Colour/ColorPanel.h"
 #include "Documents/Autosave.h"
 #include "Documents/ImageFiles.h"
 #include "Documents/NewCanvasDialog.h"
@@ -15,6 +16,7 @@
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 #include "Selection/SelectionEditor.h"
+#include "Tools/FillPointer.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
@@ -22,6 +24,7 @@
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
+#include "Window/RecentFiles.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -78,16 +81,21 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     if (!_brushRead) {
         _brushRead = true;
         setDefaultColors(_brush);  // of a first start
+        const bool isFirst = !_settings.file().childGroups().contains(QStringLiteral("brush"));
         readBrush(_settings.file(), _brush);
         _presets->readState(_settings.file());
         // What was read need not be written; a first start's colours are in no file yet.
         _unwritten = {BrushKey::renderColor, BrushKey::backRenderColor};
+        if (isFirst)
+            _presets->chooseShipped(QStringLiteral("pencil.xbf"));
     }
     QDDrawView& next = *made;
     _document.begin(next, origin);
     _selection->setCanvas(nullptr);
+    _session.stop();
     _viewport->setView(std::move(made));
     watchView();
+    recordCanvas();
     return true;
 }
 
@@ -100,6 +108,8 @@ void MainWindow::watchView() {
     _symmetry->watchView();
     _string->watchView();
     _layers->setView(now);
+    _fill->watch(now);
+    _colours->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
     connect(now, &QDDrawView::canRedoChanged, _redo, &QAction::setEnabled);
@@ -178,11 +188,13 @@ bool MainWindow::openImage(const QString& path) {
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
     const bool opened =
-        replaceCanvas(read.picture.size, 8, [&](QDDrawView& view) { return showLayers(read.picture, view); },
+        replaceCanvas(read.picture.size, depthOf(read.picture), [&](QDDrawView& view) { return showLayers(read.picture, view); },
                       {.path = QFileInfo(path).absoluteFilePath(),
                        .plan = {read.picture.size, paperOf(read.picture)},
                        .copy = _autosave->takeName(),
                        .isPart = read.isPart});
+    if (opened)
+        _recent->add(path);
     if (opened && !read.warning.isEmpty())
         _prompts.tell(this, read.warning);
     return opened;
@@ -254,6 +266,7 @@ bool MainWindow::saveTo(const QString& path) {
     }();
     if (!fault.isEmpty())
         return tellFault(fault);
+    _recent->add(path);
     statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), kMessageTime);
     return true;
 }

@@ -17,6 +17,7 @@
 #include "Input/StabiliserControl.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Tools/ToolIcons.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/SymmetryGuide.h"
@@ -99,6 +100,7 @@ void MainWindow::addPen(QMenu* menu) {
     _pointer->setPressure(_settings.pressure());
 
     auto* control = new StabiliserControl;
+    control->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);  // the bar has more to hold
     auto* bar = new QToolBar(tr("Steady hand"));
     bar->setObjectName(QStringLiteral("stabiliserBar"));
     bar->addWidget(control);
@@ -140,6 +142,8 @@ void MainWindow::addSymmetry(QMenu* canvasMenu) {
     addSymmetryOptions(menu);
     auto* button = new QToolButton;
     button->setText(tr("Symmetry"));
+    button->setIcon(toolIcon(ToolSign::symmetry));
+    button->setIconSize(QSize(20, 20));
     button->setToolTip(tr("Draws copies of every stroke, mirrored or turned"));
     button->setPopupMode(QToolButton::InstantPopup);
     button->setMenu(menu);

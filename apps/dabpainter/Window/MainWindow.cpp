@@ -15,7 +15,6 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
-#include <QToolBar>
 #include <utility>
 
 #include "Brush/BrushCommands.h"
@@ -30,22 +29,26 @@
 #include "Selection/PictureMime.h"
 #include "Selection/SelectionEditor.h"
 #include "Selection/SelectionTool.h"
+#include "Tools/Tools.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/ColorPicker.h"
 #include "Viewport/PulledString.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
 #include "Window/Commands.h"
 #include "Window/MemoryWatch.h"
+#include "Window/RecentFiles.h"
+#include "Window/Theme.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr int kStateVersion = 3;
+constexpr int kStateVersion = 4;
 constexpr int kMessageTime = 2500;  // milliseconds
 
 void setIfOther(QSettings& settings, const QString& name, const QVariant& value) {
@@ -65,10 +68,14 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
       _left(copies),
       _autosave(new Autosave(_document, copies, this)),
       _commands(new Commands(*this)),
+      _recent(new RecentFiles(this)),
+      _theme(new Theme(this)),
       _viewport(new CanvasViewport) {
+    _theme->setChoice(_settings.theme());
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
     setCentralWidget(_viewport);
+    makeColourDock(folders);
     _presets = new PresetBrowser(_brush, _prompts, std::move(folders), [this] { return _pointer->isIdle(); });
     _presetDock = addDock(tr("Brushes"), QStringLiteral("presetDock"), _presets);
     _panel = new BrushPanel(_brush, _prompts);
@@ -77,21 +84,25 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), _layers);
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
-    resizeDocks({_presetDock, _dock}, {2, 5}, Qt::Vertical);
+    resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
     _symmetry = new SymmetryGuide(*_viewport);
     _string = new PulledString(*_viewport, *_pointer);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
-    makeSelection();
+    _lines = new StraightLines(*_viewport);
+    makeSelection();  // which hears of presses before those do, and after held keys
     makeFileMenu();
     makeEditMenu();
     makeSelectMenu();
     makeCanvasMenu();
+    makeToolMenu();
     makeBrushMenu();
     makeViewMenu();
+    makeRecordingMenu();
+    makeHelpMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
-    _lines = new StraightLines(*_viewport);
+    makeToolBars();
     showDocument();
     readState();
     connectParts();
@@ -109,10 +120,7 @@ void MainWindow::connectParts() {
     connect(_layers, &LayerPanel::aboutToEdit, _pointer, &CanvasPointer::endStroke);
     connect(_layers, &LayerPanel::activeChanged, this, &MainWindow::choosePaper);
     connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
-    connect(_panel, &BrushPanel::eyedropper, this, [this] { _pointer->setPicking(true); });
-    connect(_pointer, &CanvasPointer::picked, this, [this](const QColor& color) {
-        _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor(color)));
-    });
+    connect(_panel, &BrushPanel::eyedropper, this, [this] { _tools->choose(Tool::pick); });
     connect(_pointer, &CanvasPointer::noShapeFound, this,
             [this] { statusBar()->showMessage(tr("No shape was recognised"), kMessageTime); });
     connect(_presets, &PresetBrowser::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));
@@ -132,11 +140,19 @@ void MainWindow::connectParts() {
         _settings.noteChange();
     });
     connect(_commands, &Commands::keysChanged, &_settings, &PainterSettings::noteChange);
+    connect(_recent, &RecentFiles::changed, &_settings, &PainterSettings::noteChange);
+    connect(_recent, &RecentFiles::chosen, this, [this](const QString& path) {
+        _pointer->endStroke();
+        if (mayDiscard())
+            openImage(path);
+    });
+    connect(_tools, &Tools::toleranceChanged, &_settings, &PainterSettings::setTolerance);
     connect(_presets, &PresetBrowser::stateChanged, &_settings, &PainterSettings::noteChange);
     connect(_panel, &BrushPanel::stateChanged, &_settings, &PainterSettings::noteChange);
 }
 
 MainWindow::~MainWindow() {
+    _session.stop();
     _document.end();
     _selection->setCanvas(nullptr);
     delete _selectionTool;
@@ -145,7 +161,7 @@ MainWindow::~MainWindow() {
     // While this is still a window that their last signals can reach; the pointer goes before what it
     // watches.
     delete _pointer;
-    for (QDockWidget* dock : {_dock, _layerDock, _presetDock}) {
+    for (QDockWidget* dock : {_dock, _layerDock, _presetDock, _colourDock}) {
         disconnect(dock, &QDockWidget::visibilityChanged, nullptr, nullptr);  // which looks at both
         delete dock;
     }
@@ -290,6 +306,7 @@ void MainWindow::readState() {
     restoreState(file.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
     _panel->readState(file);
     _commands->read(file);
+    _recent->read(file);
 }
 
 void MainWindow::writeState(QSettings& file) {
@@ -299,6 +316,7 @@ void MainWindow::writeState(QSettings& file) {
     }
     _panel->writeState(file);
     _commands->write(file);
+    _recent->write(file);
     if (_brushRead) {
         writeBrush(file, _brush, std::exchange(_unwritten, {}));
         _presets->writeState(file);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 #include <set>
 
 #include "Brush/BrushModel.h"
@@ -10,6 +11,7 @@
 #include "Documents/LeftPictures.h"
 #include "History/StepPicture.h"
 #include "Presets/PresetLibrary.h"
+#include "Recording/SessionRecorder.h"
 #include "Window/PainterSettings.h"
 #include "Window/Prompts.h"
 
@@ -18,23 +20,31 @@ class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
+class QToolBar;
 class QMimeData;
 
 namespace dabcanvas::dabpainter {
 
 class Autosave;
+class BrushBar;
 class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
+class ColorPanel;
 class Commands;
+class FillPointer;
 class LayerPanel;
 class PresetBrowser;
+class RecentFiles;
 class PulledString;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
 class SymmetryGuide;
+class Theme;
+class Tools;
+enum class Tool;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -66,6 +76,7 @@ public:
 
     BrushModel& brush() { return _brush; }
     BrushPanel& panel() { return *_panel; }
+    ColorPanel& colours() { return *_colours; }
     PresetBrowser& presets() { return *_presets; }
     CanvasViewport& viewport() { return *_viewport; }
     CanvasPointer& pointer() { return *_pointer; }
@@ -74,6 +85,8 @@ public:
     Autosave& autosave() { return *_autosave; }
     SelectionEditor& selection() { return *_selection; }
     Commands& commands() { return *_commands; }
+    Tools& tools() { return *_tools; }
+    BrushBar& brushBar() { return *_brushBar; }
     QDDrawView* view() const;
 
 protected:
@@ -87,11 +100,18 @@ protected:
 
 private:
     QDockWidget* addDock(const QString& title, const QString& name, QWidget* widget);
+    void makeColourDock(const PresetFolders& brushes);
     void makeFileMenu();
     void makeEditMenu();
     void makeCanvasMenu();
+    void makeToolMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // MainWindow+Recording.cpp
+    void makeRecordingMenu();
+    void recordCanvas();
+    void exportRecording();
+    void exportTimelapse();
     // To these menus: see MainWindow+Input.cpp
     void addCanvasSizes(QMenu* menu);
     bool takeCanvasArea(const QRect& area);
@@ -99,6 +119,8 @@ private:
     void addPen(QMenu* menu);
     void addSymmetry(QMenu* canvasMenu);
     void addSymmetryOptions(QMenu* menu);
+    void makeHelpMenu();
+    void makeToolBars();
     void makeSelection();
     void makeSelectMenu();
     void addClipboard(QMenu* menu);
@@ -140,6 +162,9 @@ private:
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
     void recogniseShapes(bool on);
+    QAction* addTool(QMenu* menu, const char* name, const QString& text, const char* keys, Tool tool);
+    void showTool(Tool tool);
+    void fillAt(QPointF viewPoint);
     void zoomBy(double factor);
     void toggleFullScreen();
     void readState();
@@ -152,20 +177,30 @@ private:
     Document _document;
     Autosave* _autosave;
     Commands* _commands;
+    RecentFiles* _recent;
+    Theme* _theme;
 
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
     SymmetryGuide* _symmetry;
+    Tools* _tools;
+    FillPointer* _fill;
     PulledString* _string;
     BrushPanel* _panel;
+    QToolBar* _toolBar;
+    BrushBar* _brushBar;
     PresetBrowser* _presets;
     LayerPanel* _layers;
+    ColorPanel* _colours;
     SelectionEditor* _selection;
     SelectionTool* _selectionTool;
-    QDockWidget *_presetDock, *_layerDock, *_dock;
+    QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
+    SessionRecorder _session;
+    QAction* _record;
     QAction *_undo, *_redo, *_shapes, *_sizing;
+    std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;
     std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
     std::set<BrushKey> _unwritten;          // since the settings were written
