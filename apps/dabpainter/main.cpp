@@ -49,7 +49,7 @@ int runWindow(const CommandLine& line) {
     const QDir data(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation));
     MainWindow window(settings, standardPrompts(), standardPresetFolders(),
                       data.filePath(QStringLiteral("autosave")));
-    CanvasPlan plan;
+    CanvasPlan plan{.paintsApart = true};
     plan.size = line.size.value_or(plan.size);
     if (!window.startCanvas(plan))
         return 1;

@@ -41,12 +41,9 @@ public:
         : _canvas(canvas), _random(seed), _careful(careful) {}
 
     void act() {
-        switch (below(23)) {
-            case 22:
-                return _canvas.setSymmetry({SymmetryKind(below(5)), unit() * kWidth, unit() * kHeight,
-                                            2 + int(below(23)), below(2) == 0});
+        switch (below(22)) {
             case 20:
-                return _canvas.setViewTurn(unit() * 6.0, below(2) == 0);
+                return turn(unit(), below(2) == 0);
             case 21:
                 return area();
             case 0:
@@ -140,6 +137,11 @@ private:
         else
             _canvas.setImage(picture, QRectF(below(99), below(99), picture.width(), picture.height()),
                              below(4) == 0);
+    }
+    void turn(float share, bool mirrored) {
+        _canvas.setViewTurn(share * 6.0, mirrored);
+        _canvas.setSymmetry(
+            {SymmetryKind(int(share * 100) % 5), share * kWidth, 50, 2 + int(share * 22), mirrored});
     }
     void ellipse() {
         ShapeRecord shape;

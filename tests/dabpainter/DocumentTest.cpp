@@ -11,6 +11,7 @@
 #include <QThread>
 #include <cstdlib>
 
+#include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "Documents/Autosave.h"
 #include "History/UndoRecovery.h"
@@ -146,6 +147,8 @@ TEST_F(DocumentTest, DISABLED_Dying) {
     Autosave autosave(document, path("copies"));
     autosave.setDelays(0, how == "copied" ? 0 : 60000);
     begin({.path = path(how + ".png"), .plan = {{60, 40}, Qt::white}, .copy = autosave.takeName()});
+    if (how == "layered")
+        canvas->layers().add(1, {.name = "Paint", .opacity = 0.5f});
     if (how != "blank")
         paint();
     QThread::msleep(500);  // the history is written in the background
@@ -200,6 +203,13 @@ TEST_F(DocumentTest, WhatDeadRunsLeftIsListedUntilSomebodyTakesItOrDeletesIt) {
     EXPECT_TRUE(left.discard(found[0]));
     EXPECT_TRUE(left.list().isEmpty());
     EXPECT_TRUE(QDir(path("copies")).isEmpty());
+
+    die("layered");
+    const auto next = QDDrawCanvas::initWithFrame(QRectF(0, 0, 60, 40), {.kind = SurfaceKind::processor});
+    ASSERT_TRUE(next->recoverHistory(left.list().value(0).history));
+    EXPECT_EQ(next->layers().settings(1), (LayerSettings{.name = "Paint", .opacity = 0.5f}));
+    EXPECT_EQ(next->layers().image(0).pixelColor(30, 20), QColor(Qt::white));
+    EXPECT_GT(next->layers().image(1).pixelColor(30, 20).alpha(), 128);
 }
 
 }  // namespace

@@ -502,6 +502,24 @@ TEST_F(MainWindowTest, AnOpenedImageIsTheCanvas) {
     EXPECT_TRUE(_told.value(0).contains("no picture is written as .gif"));
 }
 
+TEST_F(MainWindowTest, PaintHasALayerOfItsOwnAbovePaper) {
+    ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::yellow, true}));
+    const QImage blank = _window->view()->displayImage();
+    ASSERT_EQ(_window->view()->layers().count(), 2);
+    EXPECT_EQ(_window->view()->layers().active(), 1);
+    EXPECT_FALSE(_window->view()->canUndo() || _window->isUnsaved());
+    paint();
+    _window->clearCanvas();
+    EXPECT_EQ(pixel(100, 75).alpha(), 0) << "it is the paint that was cleared";
+    EXPECT_EQ(_window->view()->displayImage(), blank);
+    _window->view()->layers().setActive(0);
+    paint();
+    _window->clearCanvas();
+    EXPECT_EQ(pixel(100, 75), QColor(Qt::yellow));
+    ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::transparent, true}));
+    EXPECT_EQ(_window->view()->layers().count(), 1);
+}
+
 TEST_F(MainWindowTest, WhatAFileCannotKeepIsAskedForOnce) {
     _window->view()->layers().add(1, {.name = "Ink", .opacity = 0.5f});
     paint();

@@ -154,13 +154,9 @@ TEST_P(SelectionTest, ItIsSeenAsItWillBe) {
         moveBy(by);
         editor.seen();
         moveBy({3, 2});
-        QImage whole = layers.flattened();
-        for (const SelectionEditor::Seen& one : editor.seen())
-            for (int y = 0; y < one.area.height(); ++y)
-                memcpy(whole.scanLine(one.area.y() + y) + 4 * one.area.x(), one.image.constScanLine(y),
-                       std::size_t(4 * one.area.width()));
+        const QImage seen = editor.seenIn(layers.flattened());
         editor.settle();
-        EXPECT_TRUE(imagesMatch(whole, layers.flattened(), 1));
+        EXPECT_TRUE(imagesMatch(seen, layers.flattened(), 1));
     }
 }
 
@@ -249,6 +245,7 @@ TEST(FloatFrameTest, GripsDoWhatTheirPlaceSays) {
     const FloatFrame frame(placed, view);
     const QPointF turn = frame.handles().back().at;
     EXPECT_EQ(frame.gripAt(turn), (Grip{Grip::turn, {}}));
+    EXPECT_EQ(frame.gripAt(view.map(QPointF(157, 107))), (Grip{Grip::turn, {}})) << "outside of a corner";
     EXPECT_FALSE(frame.gripAt(view.map(QPointF(300, 300))));
     const QPointF middle = placed.centre();
     EXPECT_NEAR(

@@ -158,8 +158,9 @@ TEST_F(SelectionToolTest, PicturesComeInAndFloat) {
     run("select.all");
     run("edit.cut");
     EXPECT_TRUE(where().isEmpty());
-    const QPointF at(10, 10);
-    QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(_window.get(), &enter);
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(_window.get(), &drop);
     const FloatingPicture* floating = _window->selection().floating();
     ASSERT_TRUE(floating);

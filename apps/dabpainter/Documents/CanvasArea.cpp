@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Documents/CanvasArea.h"
 
-#include <QCoreApplication>
 #include <QRegion>
 #include <algorithm>
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "Documents/ImageFiles.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -30,9 +30,7 @@ bool addPaper(QDDrawCanvas& canvas, const QRegion& added, const QColor& paper) {
 }
 
 QString couldNotBeHad(const QSize& size) {
-    return QCoreApplication::translate("CanvasArea", "A canvas of %1 × %2 pixels cannot be had here.")
-        .arg(size.width())
-        .arg(size.height());
+    return tr("A canvas of %1 × %2 pixels cannot be had here.").arg(size.width()).arg(size.height());
 }
 
 }  // namespace

@@ -10,6 +10,7 @@ namespace dabcanvas::dabpainter {
 struct CanvasPlan {
     QSize size{1600, 1000};         // pixels
     QColor background = Qt::white;  // transparent: nothing
+    bool paintsApart = false;       // on a layer of its own, above an opaque background
 };
 
 }  // namespace dabcanvas::dabpainter

@@ -116,8 +116,10 @@ QString Document::saveTo(const QString& path) {
 }
 
 void Document::clear() {
-    if (_canvas)
-        _canvas->clearWithColor(colorOf(plan().background), true);
+    if (!_canvas)
+        return;
+    const bool isLowest = _canvas->layers().active() == 0;
+    _canvas->clearWithColor(isLowest ? colorOf(plan().background) : ESColor(), true);
 }
 
 }  // namespace dabcanvas::dabpainter

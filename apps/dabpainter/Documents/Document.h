@@ -51,7 +51,7 @@ public:
     static QString withoutLoss(const QString& path, Loss loss);
     // Without a suffix, of the kind that path() is.
     QString saveTo(const QString& path);
-    // To what it began with.
+    // The active layer, to what it began with.
     void clear();
 
     // Said by whoever shows the canvas: something of it is another.

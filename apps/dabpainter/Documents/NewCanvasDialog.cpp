@@ -102,7 +102,7 @@ CanvasPlan NewCanvasDialog::plan() const {
         background = Qt::white;
     else if (_background->currentIndex() == kTransparent)
         background = Qt::transparent;
-    return {QSize(_width->value(), _height->value()), background};
+    return {QSize(_width->value(), _height->value()), background, true};
 }
 
 }  // namespace dabcanvas::dabpainter

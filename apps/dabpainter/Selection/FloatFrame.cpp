@@ -52,7 +52,15 @@ std::optional<Grip> FloatFrame::gripAt(QPointF at) const {
     // A small picture is to be moved, too: its middle is no handle's.
     const QPointF centre = (_outline[0] + _outline[2]) / 2;
     const bool isMiddle = isInside && QLineF(centre, at).length() < distance;
-    return isInside && (isMiddle || !nearest) ? Grip() : nearest;
+    if (nearest && !isMiddle)
+        return nearest;
+    if (isInside)
+        return Grip();
+    for (const QPointF& corner : _outline) {
+        if (QLineF(corner, at).length() < kTurnReach)
+            return Grip{Grip::turn, {}};
+    }
+    return std::nullopt;
 }
 
 FloatingPicture pulled(const FloatingPicture& picture, const Grip& grip, const Pull& pull) {

@@ -35,6 +35,8 @@ public:
     std::optional<Grip> gripAt(QPointF at) const;
 
     static constexpr double kReach = 9;  // around a handle
+    static constexpr double kTurnReach =
+        26;  // outside of a corner, as the turning handle may be out of sight
 
 private:
     QPolygonF _outline;

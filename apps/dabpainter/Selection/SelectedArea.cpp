@@ -39,8 +39,7 @@ QPainterPath rectangleArea(QPointF from, QPointF to) {
     constexpr double kRounding = 1e-6;  // what the way through the view leaves beside a pixel's edge
     const auto down = [](double edge) { return std::floor(edge + kRounding); };
     const auto up = [](double edge) { return std::ceil(edge - kRounding); };
-    return pathOf(
-        {QPointF(down(box.left()), down(box.top())), QPointF(up(box.right()), up(box.bottom()))});
+    return pathOf({QPointF(down(box.left()), down(box.top())), QPointF(up(box.right()), up(box.bottom()))});
 }
 
 QPainterPath lassoArea(const QPolygonF& way) {

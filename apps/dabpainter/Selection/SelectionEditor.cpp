@@ -75,7 +75,7 @@ void SelectionEditor::begin(std::unique_ptr<LayerFloat> made) {
 }
 
 void SelectionEditor::end() {
-    const bool was = _float != nullptr;
+    const bool was = _layers != nullptr;
     _layers.reset();
     _float.reset();
     _seen.clear();
@@ -84,18 +84,22 @@ void SelectionEditor::end() {
         emit floats(false);
 }
 
-bool SelectionEditor::lift() {
-    if (_float)
-        return true;
+// Null, and the user is told why, where that cannot be.
+std::unique_ptr<LayerFloat> SelectionEditor::lifted() {
     if (_area.isEmpty() || !mayChange())
-        return false;
+        return nullptr;
     auto lifted = LayerFloat::lifted(*_canvas, _area, _paper);
-    if (!lifted) {
+    if (!lifted)
         emit refused(tr("Nothing of this layer is selected"));
-        return false;
+    return lifted;
+}
+
+bool SelectionEditor::lift() {
+    if (!_float) {
+        if (auto made = lifted())
+            begin(std::move(made));
     }
-    begin(std::move(lifted));
-    return true;
+    return _float != nullptr;
 }
 
 bool SelectionEditor::place(const QImage& picture, const QRectF& part) {
@@ -178,12 +182,13 @@ QImage SelectionEditor::copiedOfAll() const {
 }
 
 bool SelectionEditor::remove() {
-    if (!lift())
-        return !_area.isEmpty();
-    if (_float->isLifted() && _float->isCopy())
+    if (!_float && _area.isEmpty())
+        return false;
+    const auto gone = _float ? std::move(_float) : lifted();
+    if (gone && gone->isCopy())
         emit refused(tr("The layer's alpha is locked"));
-    else
-        _float->drop();
+    else if (gone)
+        gone->drop();
     end();
     emit changed();
     return true;
@@ -204,6 +209,14 @@ const std::vector<SelectionEditor::Seen>& SelectionEditor::seen() {
             _seen.push_back({rect, _layers->look(rect, _float->layer(rect))});
     }
     return _seen;
+}
+
+QImage SelectionEditor::seenIn(QImage picture) {
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (const Seen& one : seen())
+        painter.drawImage(one.area.topLeft(), one.image);
+    return picture;
 }
 
 }  // namespace dabcanvas::dabpainter

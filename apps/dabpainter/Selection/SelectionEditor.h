@@ -60,6 +60,8 @@ public:
     };
     static constexpr int kGrid = 64;
     const std::vector<Seen>& seen();
+    // A picture of the canvas, with that in it.
+    QImage seenIn(QImage picture);
 
 signals:
     void changed();
@@ -69,6 +71,7 @@ signals:
 private:
     bool mayChange();
     QRect canvasRect() const;
+    std::unique_ptr<LayerFloat> lifted();
     void begin(std::unique_ptr<LayerFloat> made);
     void end();
     QImage cut(const QImage& picture) const;

@@ -57,7 +57,7 @@ void CanvasPointer::watchView() {
     QDDrawView* view = _viewport.view();
     view->setAdjustCancelLine(false);  // short strokes are meant
     view->setUsesPenTilt(true);
-    setTouch(_touch);
+    tellOptions();
     view->setMouseTracking(true);
     view->setTabletTracking(true);
     _stroke = Stroke::none;
@@ -73,17 +73,32 @@ void CanvasPointer::watchView() {
 }
 
 void CanvasPointer::setTouch(TouchPolicy policy) {
-    _touch = policy;
-    if (QDDrawView* view = _viewport.view()) {
-        PointerOptions options = view->pointerOptions();
-        options.touch = _selecting && !fingersPaint() ? TouchPolicy::pensOnly : policy;
-        view->setPointerOptions(options);
-    }
+    _options.touch = policy;
+    tellOptions();
+}
+
+void CanvasPointer::setPressure(const PressureCurve& curve) {
+    _options.pressure = curve;
+    tellOptions();
+}
+
+void CanvasPointer::setStabiliser(const StabiliserOptions& options) {
+    _options.stabiliser = options;
+    tellOptions();
+}
+
+void CanvasPointer::tellOptions() {
+    QDDrawView* view = _viewport.view();
+    if (!view)
+        return;
+    PointerOptions options = _options;
+    options.touch = _selecting && !fingersPaint() ? TouchPolicy::pensOnly : _options.touch;
+    view->setPointerOptions(options);
 }
 
 void CanvasPointer::setSelecting(bool selecting) {
     _selecting = selecting;
-    setTouch(_touch);
+    tellOptions();
     _picker->setHoldable(!selecting);  // where Ctrl means something else
     if (selecting)
         _cursor.hideOutline();

@@ -35,9 +35,12 @@ public:
     void watchView();
     // Where it is over the canvas, or else the middle; in the viewport's points.
     QPointF place() const;
+    // These hold for every view.
     void setTouch(TouchPolicy policy);
     ColorPicker& picker() { return *_picker; }
-    bool fingersPaint() const { return _touch == TouchPolicy::fingersPaint; }
+    void setPressure(const PressureCurve& curve);
+    void setStabiliser(const StabiliserOptions& options);
+    bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
     // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
     void setSelecting(bool selecting);
     bool isFree() const;  // it neither pans nor picks
@@ -59,6 +62,7 @@ private:
     bool filterMouse(QMouseEvent& event, QPointF at);
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
+    void tellOptions();
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
     void leaveDab(QPointF bufferPoint);
@@ -79,7 +83,7 @@ private:
     bool _panning = false;
     QPointF _panFrom;
     std::optional<QPointF> _place;
-    TouchPolicy _touch = TouchPolicy::fingersPaint;
+    PointerOptions _options;
     bool _selecting = false;
 
     // Of the stroke in progress: none has begun, or nothing was drawn yet

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Viewport/SizeDrag.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,7 +20,7 @@ constexpr double kTwice = 120;  // points that make it twice as large
 }  // namespace
 
 SizeDrag::SizeDrag(CanvasViewport& viewport, BrushCursor& cursor, BrushModel& brush, const QAction& key)
-    : QObject(&viewport), _viewport(viewport), _cursor(cursor), _brush(brush), _key(key) {
+    : QObject(&viewport), _viewport(viewport), _cursor(cursor), _brush(brush), _key(viewport, key) {
     qApp->installEventFilter(this);  // before the pointer's own, which came earlier
 }
 
@@ -31,7 +30,7 @@ bool SizeDrag::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::KeyRelease:
             return watched->isWidgetType() && filterKey(*static_cast<QKeyEvent*>(event));
         case QEvent::ApplicationDeactivate:
-            _held = false;  // nobody will tell of the release
+            _key.forget();
             return false;
         case QEvent::MouseMove:
         case QEvent::MouseButtonPress:
@@ -39,7 +38,7 @@ bool SizeDrag::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::TabletMove:
         case QEvent::TabletPress:
         case QEvent::TabletRelease:
-            if (!_held || watched != _viewport.view())
+            if (!_key.isDown() || watched != _viewport.view())
                 return false;
             dragTo(static_cast<QSinglePointEvent*>(event)->position());
             event->accept();
@@ -50,22 +49,12 @@ bool SizeDrag::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool SizeDrag::filterKey(const QKeyEvent& event) {
-    const QKeySequence key = _key.shortcut();
-    if (key.isEmpty() || event.key() != key[0].key())
-        return false;
-    if (event.type() == QEvent::KeyRelease) {
-        const bool held = _held;
-        _held = _held && event.isAutoRepeat();
-        return held;
+    const bool wasDown = _key.isDown(), isTaken = _key.filter(event);
+    if (_key.isDown() && !wasDown) {
+        _from.reset();
+        _radius = _brush.value(BrushKey::radius).toFloat();
     }
-    const QDDrawView* view = _viewport.view();
-    if (_held || event.modifiers() != key[0].keyboardModifiers() || !view || view->isDrawing() ||
-        !_viewport.takesKeys())
-        return _held;
-    _held = true;
-    _from.reset();
-    _radius = _brush.value(BrushKey::radius).toFloat();
-    return true;
+    return isTaken;
 }
 
 void SizeDrag::dragTo(QPointF at) {

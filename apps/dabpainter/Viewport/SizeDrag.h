@@ -6,9 +6,7 @@
 #include <optional>
 
 #include "Brush/BrushModel.h"
-
-class QAction;
-class QKeyEvent;
+#include "Viewport/HeldKey.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -33,8 +31,7 @@ private:
     CanvasViewport& _viewport;
     BrushCursor& _cursor;
     BrushModel& _brush;
-    const QAction& _key;
-    bool _held = false;
+    HeldKey _key;
     std::optional<QPointF> _from;  // since the first move
     float _radius = 0;
 };

@@ -7,6 +7,7 @@
 
 #include "Brush/BrushCommands.h"
 #include "Brush/BrushStorage.h"
+#include "Canvas/CanvasLayers.h"
 #include "Colour/ColorPanel.h"
 #include "Documents/Autosave.h"
 #include "Documents/ImageFiles.h"
@@ -19,6 +20,7 @@
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -95,6 +97,7 @@ void MainWindow::watchView() {
     watchSelection();
     _lossesKnown.clear();
     _lines->watchView();
+    _symmetry->watchView();
     _layers->setView(now);
     _colours->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
@@ -126,7 +129,7 @@ void MainWindow::choosePaper(int layer) {
 void MainWindow::replaceLost() {
     if (!view() || !view()->isContextLost())
         return;
-    const QImage seen = view()->displayImage();
+    const QImage seen = _selection->seenIn(view()->displayImage());
     const bool replaced = openPicture(seen, {.path = _document.path(),
                                              .plan = _document.plan(),
                                              .copy = _autosave->takeName(),
@@ -145,12 +148,13 @@ bool MainWindow::tellFault(const QString& fault) {
 
 bool MainWindow::startCanvas(const CanvasPlan& plan) {
     const QColor& ground = plan.background;
-    return replaceCanvas(plan.size, 8,
-                         [&](QDDrawView& view) {
-                             view.clearWithColor(ground.alpha() == 0 ? ESColor() : ESColor(ground), false);
-                             return true;
-                         },
-                         {.path = {}, .plan = plan, .copy = _autosave->takeName()});
+    const auto begin = [&](QDDrawView& view) {
+        view.clearWithColor(ground.alpha() == 0 ? ESColor() : ESColor(ground), false);
+        return !plan.paintsApart || ground.alpha() < 255 ||
+               (view.layers().setSettings(0, {.name = tr("Paper")}) &&
+                view.layers().add(1, {.name = tr("Paint")}));
+    };
+    return replaceCanvas(plan.size, 8, begin, {.path = {}, .plan = plan, .copy = _autosave->takeName()});
 }
 
 void MainWindow::clearCanvas() {

@@ -95,6 +95,9 @@ void MainWindow::makeEditMenu() {
 void MainWindow::makeCanvasMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Canvas"));
     addTo(menu, "canvas.clear", tr("&Clear"), {key("Delete")}, [this] { removeSelected(); });
+    addCanvasSizes(menu);
+    addSymmetry(menu);
+    addPen(menu);
     // The present picture stays where it is: moving it could fail for want of memory.
     addChoices<SurfaceKind>(menu->addMenu(tr("&Paint with")),
                             {{tr("&Automatic"), SurfaceKind::automatic},
@@ -174,6 +177,8 @@ void MainWindow::makeViewMenu() {
         _pointer->endStroke();
         _viewport->fit();
     });
+    menu->addSeparator();
+    addTurns(menu);
     menu->addSeparator();
     const auto isAnyShown = [this] {
         const auto docks = {_colourDock, _presetDock, _layerDock, _dock};

@@ -37,6 +37,7 @@
 #include "Viewport/ColorPicker.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
+#include "Viewport/SymmetryGuide.h"
 #include "Window/Commands.h"
 #include "Window/MemoryWatch.h"
 
@@ -78,6 +79,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
     resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
+    _symmetry = new SymmetryGuide(*_viewport);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 

@@ -34,6 +34,7 @@ class PresetBrowser;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
+class SymmetryGuide;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -93,6 +94,13 @@ private:
     void makeCanvasMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // To these menus: see MainWindow+Input.cpp
+    void addCanvasSizes(QMenu* menu);
+    bool takeCanvasArea(const QRect& area);
+    void addTurns(QMenu* menu);
+    void addPen(QMenu* menu);
+    void addSymmetry(QMenu* canvasMenu);
+    void addSymmetryOptions(QMenu* menu);
     void makeSelection();
     void makeSelectMenu();
     void addClipboard(QMenu* menu);
@@ -151,6 +159,7 @@ private:
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
+    SymmetryGuide* _symmetry;
     BrushPanel* _panel;
     PresetBrowser* _presets;
     LayerPanel* _layers;

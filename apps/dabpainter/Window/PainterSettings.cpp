@@ -5,11 +5,14 @@
 #include <algorithm>
 #include <array>
 
+#include "Input/PressurePoints.h"
+
 namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr char kSteps[] = "history/steps", kSurface[] = "canvas/surface", kTouch[] = "pointer/touch";
+constexpr char kSteps[] = "history/steps", kSurface[] = "canvas/surface", kTouch[] = "pointer/touch",
+               kPressure[] = "pointer/pressure";
 constexpr int kDefaultSteps = 100;
 constexpr int kWriteDelay = 1000;  // milliseconds from a change to the file
 
@@ -53,6 +56,15 @@ TouchPolicy PainterSettings::touch() const {
 void PainterSettings::setTouch(TouchPolicy policy) {
     set(kTouch, QLatin1String(kTouchNames[std::size_t(policy)]));
     emit touchChanged(policy);
+}
+
+PressureCurve PainterSettings::pressure() const {
+    return PressurePoints::ofText(_file.value(QLatin1String(kPressure)).toString()).curve();
+}
+
+void PainterSettings::setPressure(const PressureCurve& curve) {
+    set(kPressure, PressurePoints(curve).text());
+    emit pressureChanged(curve);
 }
 
 void PainterSettings::set(const char* name, const QVariant& value) {

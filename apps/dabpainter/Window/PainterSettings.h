@@ -29,6 +29,8 @@ public:
     void setSurface(SurfaceKind kind);
     TouchPolicy touch() const;
     void setTouch(TouchPolicy policy);
+    PressureCurve pressure() const;
+    void setPressure(const PressureCurve& curve);
 
     // What others remember: called when it is due to be written.
     void addWriter(std::function<void(QSettings&)> write) { _writers.push_back(std::move(write)); }
@@ -40,6 +42,7 @@ public:
 signals:
     void undoStepsChanged(int steps);
     void touchChanged(dabcanvas::TouchPolicy policy);
+    void pressureChanged(const dabcanvas::PressureCurve& curve);
 
 private:
     void set(const char* name, const QVariant& value);
