@@ -8,6 +8,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "Presets/PresetInfos.h"
 #include "Presets/PresetPreviews.h"
 #include "Window/Widgets.h"
 
@@ -15,12 +16,24 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr int kPad = 4;
+constexpr int kPad = 4, kNameLines = 2;
+constexpr int kStar = 18;  // points
+
+// On whatever lies below it.
+void paintStar(QPainter& painter, const QRect& at, bool isFilled) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(40, 30, 0, 200), 1));
+    painter.setBrush(isFilled ? QColor(250, 190, 40) : QColor(255, 255, 255, 200));
+    painter.drawPolygon(starPolygon().translated(at.center() - QPointF(8, 8)));
+}
 
 }  // namespace
 
-PresetListModel::PresetListModel(PresetLibrary& library, PresetPreviews& previews, QObject* parent)
-    : QAbstractListModel(parent), _library(library), _previews(previews) {
+PresetListModel::PresetListModel(PresetLibrary& library, PresetPreviews& previews, const PresetInfos& infos,
+                                 QObject* parent)
+    : QAbstractListModel(parent), _library(library), _previews(previews), _infos(infos) {
+    connect(&infos, &PresetInfos::changed, this,
+            [this] { emit dataChanged(index(0), index(rowCount() - 1)); });
     connect(&previews, &PresetPreviews::painted, this, [this](const PresetId& id) { rowChanged(rowOf(id)); });
     connect(&previews, &PresetPreviews::damaged, this, &PresetListModel::setProblem);
 }
@@ -40,6 +53,11 @@ void PresetListModel::setProblem(const PresetId& id, const QString& problem) {
     if (row > 0)
         _shown[std::size_t(row) - 1].problem = problem;
     rowChanged(row);
+}
+
+void PresetListModel::setFavourites(const PresetFavourites& favourites) {
+    _favourites = favourites;
+    emit dataChanged(index(0), index(rowCount() - 1));
 }
 
 const Preset* PresetListModel::presetAt(int row) const {
@@ -78,7 +96,12 @@ QString PresetListModel::toolTip(const Preset* preset) const {
         return tr("Every setting at its default");
     if (!preset->problem.isEmpty())
         return tr("\"%1\" cannot be used: %2").arg(preset->name, preset->problem);
-    return preset->name + QLatin1Char('\n') + QDir::toNativeSeparators(preset->id.path);
+    const PresetInfo info = _infos.of(*preset);
+    QStringList lines{preset->name, info.about,
+                      info.author.isEmpty() ? QString() : tr("By %1").arg(info.author),
+                      QDir::toNativeSeparators(preset->id.path)};
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
 QVariant PresetListModel::data(const QModelIndex& index, int role) const {
@@ -101,6 +124,12 @@ QVariant PresetListModel::data(const QModelIndex& index, int role) const {
             return preset ? preset->problem : QString();
         case plainRole:
             return !preset;
+        case favouriteRole:
+            return preset && _favourites.has(preset->id);
+        case tagsRole:
+            return preset ? _infos.of(*preset).tags : QStringList();
+        case aboutRole:
+            return preset ? _infos.of(*preset).about : QString();
         default:
             return {};
     }
@@ -132,8 +161,35 @@ QSize PresetDelegate::pictureSize() {
     return QSize(91, 36);
 }
 
+QRect PresetDelegate::starRect(const QRect& cell) {
+    return QRect(cell.right() - kStar - kPad, cell.top() + kPad, kStar, kStar);
+}
+
+// Broken between words where that helps; what is left over is cut, and the tool tip has all of it.
+void PresetDelegate::paintName(QPainter& painter, const QFontMetrics& metrics, const QRect& room,
+                               const QString& name) const {
+    QString first = name, second;
+    for (qsizetype at = name.size(); metrics.horizontalAdvance(first) > room.width();) {
+        at = at > 0 ? name.lastIndexOf(QLatin1Char(' '), at - 1) : -1;
+        if (at <= 0) {
+            first = name;
+            second.clear();
+            break;
+        }
+        first = name.left(at);
+        second = name.mid(at + 1);
+    }
+    const int line = metrics.lineSpacing();
+    const auto paintLine = [&](const QString& text, int number) {
+        painter.drawText(QRect(room.x(), room.y() + number * line, room.width(), line), Qt::AlignCenter,
+                         metrics.elidedText(text, Qt::ElideRight, room.width()));
+    };
+    paintLine(first, 0);
+    paintLine(second, 1);
+}
+
 QSize PresetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return pictureSize() + QSize(2 * kPad, 2 * kPad + 2 + option.fontMetrics.height());
+    return pictureSize() + QSize(2 * kPad, 2 * kPad + 2 + kNameLines * option.fontMetrics.lineSpacing());
 }
 
 void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -171,9 +227,13 @@ void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     QString name = index.data(Qt::DisplayRole).toString();
     if (isChosen && index.data(PresetListModel::modifiedRole).toBool())
         name.prepend(QStringLiteral("* "));
-    const QRect line(frame.x(), frame.bottom() + 2, frame.width(), option.fontMetrics.height());
-    painter->drawText(line, Qt::AlignCenter,
-                      option.fontMetrics.elidedText(name, Qt::ElideRight, line.width()));
+    const QRect room(option.rect.x() + 2, frame.bottom() + 2, option.rect.width() - 4,
+                     kNameLines * option.fontMetrics.lineSpacing());
+    paintName(*painter, option.fontMetrics, room, name);
+    const bool isFavourite = index.data(PresetListModel::favouriteRole).toBool();
+    const bool isPlain = index.data(PresetListModel::plainRole).toBool();
+    if (isFavourite || (!isPlain && option.state & QStyle::State_MouseOver))
+        paintStar(*painter, starRect(option.rect), isFavourite);
     painter->restore();
 }
 

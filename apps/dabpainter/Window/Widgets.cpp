@@ -53,15 +53,6 @@ public:
     }
 };
 
-QPolygonF starPolygon() {
-    QPolygonF star;
-    for (int i = 0; i < 10; ++i) {
-        const double radian = (i * 36 - 90) * std::numbers::pi / 180, radius = i % 2 == 0 ? 6.5 : 2.8;
-        star << QPointF(8 + radius * std::cos(radian), 8.5 + radius * std::sin(radian));
-    }
-    return star;
-}
-
 // In a square of 16 x 16.
 QPainterPath glyphPath(Glyph glyph) {
     QPainterPath path;
@@ -139,6 +130,15 @@ QPainterPath glyphPath(Glyph glyph) {
 }
 
 }  // namespace
+
+QPolygonF starPolygon() {
+    QPolygonF star;
+    for (int i = 0; i < 10; ++i) {
+        const double radian = (i * 36 - 90) * std::numbers::pi / 180, radius = i % 2 == 0 ? 6.5 : 2.8;
+        star << QPointF(8 + radius * std::cos(radian), 8.5 + radius * std::sin(radian));
+    }
+    return star;
+}
 
 QBrush checkerBrush() {
     static const QImage tile = [] {
