@@ -12,6 +12,7 @@
 
 #include "Canvas/QDDrawCanvas.h"
 #include "Presets/PresetLibrary.h"
+#include "QDEAGLView/QDDrawView.h"
 #include "Window/CommandLine.h"
 #include "Window/MainWindow.h"
 #include "Window/Translations.h"
@@ -40,8 +41,21 @@ int giveUp(const QString& what) {
     return 1;
 }
 
+// Says when a widget was painted for the first time, and ends the program.
+class FirstPaint : public QObject {
+public:
+    explicit FirstPaint(QWidget& watched) : QObject(&watched) { watched.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(print("shown\n")); }, Qt::QueuedConnection);
+        return false;
+    }
+};
+
 int runWindow(const CommandLine& line) {
-    if (!QDDrawCanvas::initWithFrame(QRectF(0, 0, 16, 16)))
+    // Kept until there is another one, so that what it paints with is made once.
+    auto first = QDDrawCanvas::initWithFrame(QRectF(0, 0, 16, 16));
+    if (!first)
         return giveUp(QCoreApplication::translate(
             "dabcanvas::dabpainter", "There is nothing to paint with; the log says what is missing."));
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Dabcanvas"),
@@ -53,10 +67,14 @@ int runWindow(const CommandLine& line) {
     plan.size = line.size.value_or(plan.size);
     if (!window.startCanvas(plan))
         return 1;
+    first.reset();
+    if (line.startOnly)
+        new FirstPaint(*window.view());
     window.show();
     if (!line.image.isEmpty())
         window.openImage(line.image);
-    QTimer::singleShot(0, &window, &MainWindow::offerLeftPictures);
+    if (!line.startOnly)
+        QTimer::singleShot(0, &window, &MainWindow::offerLeftPictures);
     return QApplication::exec();
 }
 

@@ -217,6 +217,24 @@ bool BrushModel::takePreset(const BrushPreset& preset) {
     return true;
 }
 
+bool BrushModel::takeUp(const Held& held) {
+    if (!_canvas || _begun)
+        return false;
+    if (held.preset)
+        takePreset(*held.preset);
+    else
+        comesFrom({});
+    // Setting one may move another that was set before.
+    for (int round = 0; round < 2; ++round) {
+        for (const BrushProperty& property : brushProperties()) {
+            const bool follows = property.key == BrushKey::relationValue && !relates();
+            if (!isHidden(property) && !isColor(property) && !follows)
+                setValue(property.key, held.values[std::size_t(property.key)]);
+        }
+    }
+    return true;
+}
+
 void BrushModel::comesFrom(const std::optional<BrushPreset>& preset) {
     // What it makes of a canvas is known only by doing so.
     const auto canvas = preset ? QDDrawCanvas::initWithFrame(QRectF(0, 0, 16, 16)) : nullptr;
@@ -278,6 +296,11 @@ void BrushModel::endOverride() {
     override();
 }
 
+void BrushModel::setErases(bool on) {
+    _erases = on;
+    override();
+}
+
 void BrushModel::setPaper(const QColor& paper) {
     _paper = paper;
     override();
@@ -287,11 +310,17 @@ std::map<BrushKey, QVariant> BrushModel::wantedOverrides() const {
     std::map<BrushKey, QVariant> wanted;
     if (_begun)
         wanted.insert(*_begun);
-    const auto blend = wanted.find(BrushKey::blendType);
     const int type = value(BrushKey::brushType).toInt();
+    const bool blends = type != kSmudgeBrush && type != kLiveFillBrush;  // which know no blend mode
+    if (_erases) {
+        wanted.insert({BrushKey::blendType, int(ESBlendTypeErase)});
+        if (!blends)
+            wanted.insert({BrushKey::brushType, int(BrushKind::Dabs)});
+    }
+    const auto blend = wanted.find(BrushKey::blendType);
     const bool erases =
         (blend == wanted.end() ? value(BrushKey::blendType) : blend->second).toInt() == ESBlendTypeErase &&
-        type != kSmudgeBrush && type != kLiveFillBrush;  // which know no blend mode
+        (blends || _erases);
     if (erases && _paper.isValid()) {
         // This colour and no other, whatever the brush does to its own.
         const QVariant paper = QVariant::fromValue(ESColor(_paper));

@@ -59,6 +59,13 @@ public:
     // Makes a preset the brush; every property that differs is reported once, when all are as they shall be.
     // False, and nothing changed, without a canvas or during an override.
     bool takePreset(const BrushPreset& preset);
+    // The brush as it is, but for its two colours, to be gone on with later. Shares the images.
+    struct Held {
+        std::vector<QVariant> values;
+        std::optional<BrushPreset> preset;
+    };
+    Held hold() const { return {_values, _preset}; }
+    bool takeUp(const Held& held);
     // The brush counts as made from this preset, or from none, and stays as it is.
     void comesFrom(const std::optional<BrushPreset>& preset);
     const std::optional<BrushPreset>& preset() const { return _preset; }
@@ -75,6 +82,8 @@ public:
     // The canvas alone paints with another value for a while; the model keeps its own.
     void beginOverride(BrushKey key, const QVariant& value);
     void endOverride();
+    // All that is painted erases, whatever the brush does otherwise, until it is taken back.
+    void setErases(bool on);
     // What erasing leaves on the canvas, which then has no holes: it paints this colour instead. An invalid one, as at
     // first: erasing makes transparent.
     void setPaper(const QColor& paper);
@@ -96,6 +105,7 @@ private:
     std::vector<QVariant> _values, _defaults;
     bool _knowsDefaults = false;
     std::optional<std::pair<BrushKey, QVariant>> _begun;
+    bool _erases = false;
     QColor _paper;
     std::map<BrushKey, QVariant> _overrides;  // what the canvas has instead of the values
     std::optional<BrushPreset> _preset;

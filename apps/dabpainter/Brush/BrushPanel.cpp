@@ -210,9 +210,8 @@ BrushPanel::BrushPanel(BrushModel& model, const Prompts& prompts, QWidget* paren
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, kMargin, 0, 0);
     layout->setSpacing(kMargin);
-    layout->addWidget(makeTop());
     layout->addLayout(line);
-    layout->addWidget(makeGroups(), 1);
+    layout->addWidget(makeScroll(), 1);
 
     connect(search, &QLineEdit::textChanged, this, &BrushPanel::filter);
     connect(_resetAll, &QPushButton::clicked, &model, &BrushModel::resetAll);
@@ -234,13 +233,14 @@ BrushRow* BrushPanel::makeRow(const BrushProperty& property) {
 QWidget* BrushPanel::makeTop() {
     auto* top = new QWidget;
     auto* layout = new QVBoxLayout(top);
-    layout->setContentsMargins(kMargin, 0, kMargin, 0);
+    layout->setContentsMargins(kMargin, 0, 0, kMargin);
     layout->setSpacing(4);
-    layout->addWidget(new SampleStroke(_model));
+    layout->addWidget(_sample = new SampleStroke(_model));
     auto* colors = new QVBoxLayout;
     QHBoxLayout* colorLine = nullptr;
     for (const BrushProperty* property : propertiesAt(BrushPlace::top)) {
         BrushRow* row = makeRow(*property);
+        _topRows.push_back(row);
         // The colours stand together, with what acts on them beside.
         if (property->type() == BrushValueType::color) {
             colors->addWidget(row);
@@ -255,11 +255,13 @@ QWidget* BrushPanel::makeTop() {
         auto* pick = new GlyphButton(Glyph::eyedropper, tr("Pick a colour from the canvas (I)"));
         connect(swap, &QToolButton::clicked, this, &BrushPanel::swapColors);
         connect(pick, &QToolButton::clicked, this, &BrushPanel::eyedropper);
-        auto* buttons = new QVBoxLayout;
+        _colorButtons = new QWidget;
+        auto* buttons = new QVBoxLayout(_colorButtons);
+        buttons->setContentsMargins(0, 0, 0, 0);
         buttons->addWidget(swap);
         buttons->addWidget(pick);
         colorLine->addLayout(colors, 1);
-        colorLine->addLayout(buttons);
+        colorLine->addWidget(_colorButtons);
     }
     return top;
 }
@@ -290,21 +292,38 @@ QWidget* BrushPanel::makeGroups() {
     _nothing->hide();
     layout->addWidget(_nothing);
     layout->addStretch(1);
+    return groups;
+}
 
+// All of it scrolls, so that the panel takes what room there is.
+QWidget* BrushPanel::makeScroll() {
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeTop());
+    layout->addWidget(makeGroups(), 1);
     auto* scroll = new QScrollArea;
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setFocusPolicy(Qt::NoFocus);  // it follows the row that has it
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    scroll->setWidget(groups);
-    scroll->setMinimumWidth(std::max(groups->minimumSizeHint().width(), _labelWidth + 230) +
+    scroll->setWidget(content);
+    scroll->setMinimumWidth(std::max(content->minimumSizeHint().width(), _labelWidth + 230) +
                             scroll->verticalScrollBar()->sizeHint().width());
     return scroll;
 }
 
 void BrushPanel::filter(const QString& text) {
     bool any = false;
+    _sample->setVisible(text.isEmpty());
+    if (_colorButtons)
+        _colorButtons->setVisible(text.isEmpty());
+    for (BrushRow* row : _topRows) {
+        row->setVisible(row->matches(text));
+        any = any || !row->isHidden();
+    }
     for (BrushSection* section : _sections) {
         section->filter(text);
         any = any || !section->isHidden();

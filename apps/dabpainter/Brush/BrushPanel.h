@@ -91,13 +91,15 @@ private:
     BrushRow* makeRow(const BrushProperty& property);
     QWidget* makeTop();
     QWidget* makeGroups();
+    QWidget* makeScroll();
     void nameReset();
 
     BrushModel& _model;
     const Prompts& _prompts;
     int _labelWidth = 0;
-    std::vector<BrushRow*> _rows;
+    std::vector<BrushRow*> _rows, _topRows;
     std::vector<BrushSection*> _sections;
+    QWidget *_sample, *_colorButtons = nullptr;
     QLabel* _nothing;
     QPushButton* _resetAll;
 };

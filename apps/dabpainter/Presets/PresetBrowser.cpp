@@ -142,8 +142,8 @@ void PresetBrowser::makeLayout() {
     _list->viewport()->installEventFilter(this);
     _list->setMinimumHeight(90);
     _nothing->setAlignment(Qt::AlignCenter);
-    _nothing->setEnabled(false);
     _nothing->setWordWrap(true);
+    _nothing->setEnabled(false);
     _nothing->setTextFormat(Qt::PlainText);
     auto* inside = new QVBoxLayout(_list->viewport());
     inside->addWidget(_nothing);
@@ -266,11 +266,6 @@ void PresetBrowser::chooseKind() {
     showNothing();
 }
 
-void PresetBrowser::showNothing() {
-    _nothing->setText(_filtered->emptyState());
-    _nothing->setVisible(_filtered->rowCount() == 0);
-}
-
 void PresetBrowser::popUp(const PresetId& target, const QPoint& at) {
     const Preset* preset = _library.find(target);
     const bool isWhole = preset && preset->problem.isEmpty();
@@ -297,6 +292,20 @@ void PresetBrowser::refresh() {
     showChosen();
 }
 
+void PresetBrowser::showNothing() {
+    const bool none = _library.presets().empty();
+    _nothing->setText(none ? tr("There are no brushes yet: import some by the menu above, or save the "
+                                "present settings as one.")
+                           : _filtered->emptyState());
+    _nothing->setVisible(none || _filtered->rowCount() == 0);
+}
+
+void PresetBrowser::scrollToChosen() {
+    const int row = _model->rowOf(_chosen);
+    if (row >= 0)
+        _list->scrollTo(_filtered->mapFromSource(_model->index(row)));
+}
+
 void PresetBrowser::setOwnLook() {
     _previews.setLook(PresetDelegate::pictureSize(), devicePixelRatioF(), _brush.presetsSetColors());
     _list->viewport()->update();
@@ -305,6 +314,8 @@ void PresetBrowser::setOwnLook() {
 void PresetBrowser::showEvent(QShowEvent* event) {
     setOwnLook();
     QWidget::showEvent(event);
+    // When it has been laid out.
+    QMetaObject::invokeMethod(this, &PresetBrowser::scrollToChosen, Qt::QueuedConnection);
 }
 
 void PresetBrowser::dragEnterEvent(QDragEnterEvent* event) {
@@ -325,9 +336,7 @@ void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
     _chosenName = name;
     emit stateChanged();
     showChosen();
-    const int row = _model->rowOf(id);
-    if (row >= 0)
-        _list->scrollTo(_filtered->mapFromSource(_model->index(row)));
+    scrollToChosen();
 }
 
 void PresetBrowser::showChosen() {
@@ -376,6 +385,23 @@ bool PresetBrowser::choose(const PresetId& id) {
 
 bool PresetBrowser::choosePrevious() {
     return (_previous.path.isEmpty() || _library.find(_previous)) && choose(_previous);
+}
+
+bool PresetBrowser::chooseShipped(const QString& fileName) {
+    const auto found = std::ranges::find_if(_library.presets(), [&](const Preset& preset) {
+        return !preset.own && QFileInfo(preset.id.path).fileName() == fileName;
+    });
+    return found != _library.presets().end() && choose(PresetId(found->id));
+}
+
+std::function<void()> PresetBrowser::keep() {
+    return [this, held = _brush.hold(), id = _chosen, name = _chosenName] {
+        emit aboutToUseBrush();
+        if (!_brush.takeUp(held))
+            return;
+        const bool isThere = _library.find(id);
+        setChosen(isThere ? id : PresetId(), isThere ? name : QString());
+    };
 }
 
 bool PresetBrowser::saveNew() {

@@ -49,6 +49,10 @@ public:
     // Each asks and tells through the prompts; false when nothing was done.
     bool choose(const PresetId& id);  // the brush with all settings at their defaults for an empty id
     bool choosePrevious();            // and back again
+    bool chooseShipped(const QString& fileName);  // of those that came with the program
+    // What makes the present brush, with its unsaved changes, the brush again; its colours are those of the day. It must not
+    // outlive the browser.
+    std::function<void()> keep();
     bool saveNew();
     bool overwrite(const PresetId& id);
     bool rename(const PresetId& id);
@@ -89,10 +93,11 @@ private:
     void setChosen(const PresetId& id, const QString& name);
     void showChosen();
     void refresh();
+    void showNothing();
+    void scrollToChosen();
     void setOwnLook();
     void listKinds();
     void chooseKind();
-    void showNothing();
     bool filterStar(const QEvent& event);
     PresetId idAt(const QModelIndex& index) const;
     bool succeeds(const QString& fault);

@@ -16,8 +16,18 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr int kPad = 4, kNameLines = 2;
+constexpr int kPad = 4;
 constexpr int kStar = 18;  // points
+constexpr int kNameLines = 2;
+
+// The name whole, on as many lines as there are; only what is too long for these ends in dots.
+void drawName(QPainter& painter, const QRect& room, QString name) {
+    const QFontMetrics metrics = painter.fontMetrics();
+    constexpr int kWrapped = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+    while (name.size() > 1 && !room.contains(metrics.boundingRect(room, kWrapped, name)))
+        name = name.chopped(name.endsWith(QChar(0x2026)) ? 2 : 1) + QChar(0x2026);
+    painter.drawText(room, kWrapped, name);
+}
 
 // On whatever lies below it.
 void paintStar(QPainter& painter, const QRect& at, bool isFilled) {
@@ -165,29 +175,6 @@ QRect PresetDelegate::starRect(const QRect& cell) {
     return QRect(cell.right() - kStar - kPad, cell.top() + kPad, kStar, kStar);
 }
 
-// Broken between words where that helps; what is left over is cut, and the tool tip has all of it.
-void PresetDelegate::paintName(QPainter& painter, const QFontMetrics& metrics, const QRect& room,
-                               const QString& name) const {
-    QString first = name, second;
-    for (qsizetype at = name.size(); metrics.horizontalAdvance(first) > room.width();) {
-        at = at > 0 ? name.lastIndexOf(QLatin1Char(' '), at - 1) : -1;
-        if (at <= 0) {
-            first = name;
-            second.clear();
-            break;
-        }
-        first = name.left(at);
-        second = name.mid(at + 1);
-    }
-    const int line = metrics.lineSpacing();
-    const auto paintLine = [&](const QString& text, int number) {
-        painter.drawText(QRect(room.x(), room.y() + number * line, room.width(), line), Qt::AlignCenter,
-                         metrics.elidedText(text, Qt::ElideRight, room.width()));
-    };
-    paintLine(first, 0);
-    paintLine(second, 1);
-}
-
 QSize PresetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
     return pictureSize() + QSize(2 * kPad, 2 * kPad + 2 + kNameLines * option.fontMetrics.lineSpacing());
 }
@@ -227,9 +214,9 @@ void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     QString name = index.data(Qt::DisplayRole).toString();
     if (isChosen && index.data(PresetListModel::modifiedRole).toBool())
         name.prepend(QStringLiteral("* "));
-    const QRect room(option.rect.x() + 2, frame.bottom() + 2, option.rect.width() - 4,
-                     kNameLines * option.fontMetrics.lineSpacing());
-    paintName(*painter, option.fontMetrics, room, name);
+    drawName(*painter,
+             QRect(cell.x(), frame.bottom() + 2, cell.width(), kNameLines * option.fontMetrics.lineSpacing()),
+             name);
     const bool isFavourite = index.data(PresetListModel::favouriteRole).toBool();
     const bool isPlain = index.data(PresetListModel::plainRole).toBool();
     if (isFavourite || (!isPlain && option.state & QStyle::State_MouseOver))

@@ -76,10 +76,6 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-
-private:
-    void paintName(QPainter& painter, const QFontMetrics& metrics, const QRect& room,
-                   const QString& name) const;
 };
 
 }  // namespace dabcanvas::dabpainter

@@ -25,6 +25,7 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
+constexpr double kTap = 12;  // points that a finger may slip
 constexpr float kPress = 1;  // what the view takes a device for that measures none
 
 // The hot spot inside the brush's outline.
@@ -92,8 +93,14 @@ void CanvasPointer::tellOptions() {
     if (!view)
         return;
     PointerOptions options = _options;
-    options.touch = _selecting && !fingersPaint() ? TouchPolicy::pensOnly : _options.touch;
+    const bool noStrokes = !_paints || (_selecting && !fingersPaint());
+    options.touch = noStrokes ? TouchPolicy::pensOnly : _options.touch;
     view->setPointerOptions(options);
+}
+
+void CanvasPointer::setPaints(bool paints) {
+    _paints = paints;
+    tellOptions();
 }
 
 void CanvasPointer::setSelecting(bool selecting) {
@@ -236,6 +243,7 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
 }
 
 bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
+    _penSeen = true;
     emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
     if (isIdle() && (event.type() == QEvent::TabletPress || event.buttons() == Qt::NoButton))
         _picker->hover(at, event.modifiers());
@@ -323,11 +331,23 @@ bool CanvasPointer::filterTouch(QTouchEvent& event) {
     if (event.device() && event.device()->type() == QInputDevice::DeviceType::TouchPad)
         return false;  // which moves the mouse
     _manyFingers = (_manyFingers && event.type() != QEvent::TouchBegin) || event.points().size() > 1;
+    watchTap(event);
     if (event.type() == QEvent::TouchBegin) {
         _downPressure = kPress;
         pressed(false);
     }
     return event.type() == QEvent::TouchEnd && deliverRelease(event);
+}
+
+void CanvasPointer::watchTap(const QTouchEvent& event) {
+    const bool taps = fingersPaint() || (_options.touch == TouchPolicy::pensOnceSeen && !_penSeen);
+    const QPointF at = event.points().isEmpty() ? QPointF() : event.points().first().position();
+    if (event.type() == QEvent::TouchBegin && taps)
+        _tapFrom = at;
+    if (_tapFrom && (_manyFingers || (at - *_tapFrom).manhattanLength() > kTap))
+        _tapFrom.reset();
+    if (event.type() == QEvent::TouchEnd && _tapFrom)
+        emit tapped(*std::exchange(_tapFrom, std::nullopt));
 }
 
 // ---- What the pointer shows

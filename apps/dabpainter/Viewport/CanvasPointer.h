@@ -37,10 +37,12 @@ public:
     QPointF place() const;
     // These hold for every view.
     void setTouch(TouchPolicy policy);
-    ColorPicker& picker() { return *_picker; }
     void setPressure(const PressureCurve& curve);
     void setStabiliser(const StabiliserOptions& options);
+    // Off: nothing of the pointer's becomes a stroke, and fingers only move the canvas.
+    void setPaints(bool paints);
     bool fingersPaint() const { return _options.touch == TouchPolicy::fingersPaint; }
+    ColorPicker& picker() { return *_picker; }
     // The left button is a selection's: no brush is shown, and fingers move the canvas unless they always paint.
     void setSelecting(bool selecting);
     bool isFree() const;  // it neither pans nor picks
@@ -55,6 +57,7 @@ signals:
     void moved(QPointF bufferPoint);
     void left();
     void pressureChanged(float pressure);  // -1: the device gives none
+    void tapped(QPointF viewPoint);        // one finger that may paint, and hardly moved
     void noShapeFound();                   // a stroke that was to be one is gone
 
 private:
@@ -63,6 +66,7 @@ private:
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
     void tellOptions();
+    void watchTap(const QTouchEvent& event);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
     void leaveDab(QPointF bufferPoint);
@@ -84,13 +88,15 @@ private:
     QPointF _panFrom;
     std::optional<QPointF> _place;
     PointerOptions _options;
+    bool _paints = true;
     bool _selecting = false;
 
     // Of the stroke in progress: none has begun, or nothing was drawn yet
     enum class Stroke { none, begun, drawn };
     Stroke _stroke = Stroke::none;
     QPointF _beganAt;  // buffer pixels
-    bool _manyFingers = false;
+    bool _manyFingers = false, _penSeen = false;
+    std::optional<QPointF> _tapFrom;
     float _downPressure = 1;
     dabcanvas::StepPicture _recordedBefore;  // of a stroke that is to be a shape
 };

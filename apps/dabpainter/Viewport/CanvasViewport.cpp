@@ -38,7 +38,7 @@ void CanvasViewport::setView(std::unique_ptr<QDDrawView> view) {
     _view = view.release();
     _view->setParent(this);
     _view->setNavigable(true);
-    _view->setGround(checkerBrush(), palette().color(QPalette::Window).darker(130));
+    setGround();
     _view->setFit(ViewFit::free);
     _view->setGeometry(rect());
     _view->lower();
@@ -111,6 +111,17 @@ bool CanvasViewport::isMirrored() const {
 void CanvasViewport::setMirrored(bool mirrored) {
     if (_view)
         _view->setViewMirrored(mirrored);
+}
+
+void CanvasViewport::setGround() {
+    if (_view)
+        _view->setGround(checkerBrush(), palette().color(QPalette::Window).darker(130));
+}
+
+void CanvasViewport::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        setGround();
+    QWidget::changeEvent(event);
 }
 
 void CanvasViewport::resizeEvent(QResizeEvent*) {

@@ -49,9 +49,11 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void dropView();
+    void setGround();
 
     QDDrawView* _view = nullptr;
     double _fitZoom = 0;  // until the user zooms or pans, the canvas is fitted to the window

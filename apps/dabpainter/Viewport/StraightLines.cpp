@@ -75,8 +75,8 @@ bool StraightLines::eventFilter(QObject* watched, QEvent* event) {
 
 bool StraightLines::filterPress(const QSinglePointEvent& event, float pressure) {
     _givenUp = false;
-    const bool isLine = _last && event.modifiers() == Qt::ShiftModifier && !_viewport.view()->isDrawing() &&
-                        event.button() == Qt::LeftButton;
+    const bool isLine = _on && _last && event.modifiers() == Qt::ShiftModifier &&
+                        !_viewport.view()->isDrawing() && event.button() == Qt::LeftButton;
     if (!isLine)
         return false;
     _line = Line{event.position(), pressure};

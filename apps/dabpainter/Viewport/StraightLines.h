@@ -21,6 +21,8 @@ public:
 
     // To be called with every new view.
     void watchView();
+    // Off while the pointer draws nothing.
+    void setOn(bool on) { _on = on; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -39,6 +41,7 @@ private:
         float pressure;
     };
     std::optional<Line> _line;
+    bool _on = true;
     bool _givenUp = false;  // and the release is still to come
 };
 

@@ -39,9 +39,11 @@ QString imageFault(const QStringList& names, bool sized) {
 CommandLine readCommandLine(const QStringList& arguments) {
     QCommandLineParser parser;
     const QString help = QStringLiteral("help"), version = QStringLiteral("version"),
-                  size = QStringLiteral("size"), language = QStringLiteral("language");
+                  size = QStringLiteral("size"), language = QStringLiteral("language"),
+                  startOnly = QStringLiteral("start-only");
     parser.addOptions({{{QStringLiteral("h"), help}, QString()},
                        {version, QString()},
+                       {startOnly, QString()},
                        {size, QString(), size},
                        {language, QString(), language}});
     CommandLine line;
@@ -52,6 +54,7 @@ CommandLine readCommandLine(const QStringList& arguments) {
     }
     line.help = parser.isSet(help);
     line.version = parser.isSet(version);
+    line.startOnly = parser.isSet(startOnly);
     line.image = parser.positionalArguments().value(0);
     line.language = parser.value(language);
     if (parser.isSet(language) && QLocale(line.language).language() == QLocale::C)

@@ -11,7 +11,8 @@ namespace dabcanvas::dabpainter {
 
 struct CommandLine {
     bool help = false, version = false;
-    QString image;              // to open; empty for none
+    bool startOnly = false;  // shows the window once, says so and ends: for measuring, and not in the usage
+    QString image;           // to open; empty for none
     std::optional<QSize> size;  // of a new canvas, in pixels
     QString language;           // empty: the system's
     QString fault;              // one line on what is wrong; then nothing else counts

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The colours' dock and what it goes together with.
 #include "Colour/ColorPanel.h"
+#include "Tools/Tools.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/ColorPicker.h"
@@ -12,7 +13,7 @@ void MainWindow::makeColourDock(const PresetFolders& brushes) {
     _colours = new ColorPanel(_brush, _prompts, brushes);
     _colourDock = addDock(tr("Colour"), QStringLiteral("colourDock"), _colours);
     ColorPicker* picker = &_pointer->picker();
-    connect(_colours, &ColorPanel::eyedropper, picker, [picker] { picker->setOn(true); });
+    connect(_colours, &ColorPanel::eyedropper, this, [this] { _tools->choose(Tool::pick); });
     connect(_colours, &ColorPanel::pickSideChanged, picker, &ColorPicker::setSide);
     connect(picker, &ColorPicker::picked, this, [this](const QColor& color) {
         _brush.setValue(BrushKey::renderColor, QVariant::fromValue(ESColor(color)));

@@ -16,12 +16,14 @@
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
 #include "Selection/SelectionEditor.h"
+#include "Tools/FillPointer.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
+#include "Window/RecentFiles.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -78,10 +80,13 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     if (!_brushRead) {
         _brushRead = true;
         setDefaultColors(_brush);  // of a first start
+        const bool isFirst = !_settings.file().childGroups().contains(QStringLiteral("brush"));
         readBrush(_settings.file(), _brush);
         _presets->readState(_settings.file());
         // What was read need not be written; a first start's colours are in no file yet.
         _unwritten = {BrushKey::renderColor, BrushKey::backRenderColor};
+        if (isFirst)
+            _presets->chooseShipped(QStringLiteral("pencil.xbf"));
     }
     QDDrawView& next = *made;
     _document.begin(next, origin);
@@ -99,6 +104,7 @@ void MainWindow::watchView() {
     _lines->watchView();
     _symmetry->watchView();
     _layers->setView(now);
+    _fill->watch(now);
     _colours->setView(now);
     now->setEnableRecogition(_shapes->isChecked());
     connect(now, &QDDrawView::canUndoChanged, _undo, &QAction::setEnabled);
@@ -183,6 +189,8 @@ bool MainWindow::openImage(const QString& path) {
                        .plan = {read.picture.size, paperOf(read.picture)},
                        .copy = _autosave->takeName(),
                        .isPart = read.isPart});
+    if (opened)
+        _recent->add(path);
     if (opened && !read.warning.isEmpty())
         _prompts.tell(this, read.warning);
     return opened;
@@ -254,6 +262,7 @@ bool MainWindow::saveTo(const QString& path) {
     }();
     if (!fault.isEmpty())
         return tellFault(fault);
+    _recent->add(path);
     statusBar()->showMessage(tr("Saved %1").arg(QDir::toNativeSeparators(path)), kMessageTime);
     return true;
 }

@@ -83,7 +83,7 @@ void MainWindow::addTurns(QMenu* menu) {
             [this, mirror] { mirror->setChecked(_viewport->isMirrored()); });
     new TurnDrag(*_viewport,
                  *_commands->addHeld(QStringLiteral("view.dragTurn"), menu->title().remove(QLatin1Char('&')),
-                                     tr("Turn by Dragging"), key("R")));
+                                     tr("Turn by Dragging"), key("T")));
 }
 
 // ---- Pressure and a steady hand

@@ -2,21 +2,26 @@
 // The window's menus: what can be done, and by which keys.
 #include <QAction>
 #include <QActionGroup>
+#include <QDesktopServices>
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QStatusBar>
-#include <QToolBar>
+#include <QUrl>
 #include <algorithm>
 
 #include "Brush/BrushCommands.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "Presets/PresetBrowser.h"
+#include "QDEAGLView/QDDrawView.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/ColorPicker.h"
+#include "Window/AboutReport.h"
 #include "Window/Commands.h"
 #include "Window/MainWindow.h"
+#include "Window/RecentFiles.h"
 #include "Window/ShortcutsDialog.h"
+#include "Window/Theme.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -60,6 +65,7 @@ void MainWindow::makeFileMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     addTo(menu, "file.new", tr("&New…"), {QKeySequence::New}, [this] { newCanvas(); });
     addTo(menu, "file.open", tr("&Open…"), {QKeySequence::Open}, [this] { open(); });
+    _recent->fill(*menu->addMenu(tr("Open Recen&t")));
     addTo(menu, "file.place", tr("&Place Image…"), {}, [this] { place(); });
     addTo(menu, "file.recover", tr("&Recover Pictures…"), {}, [this] {
         if (!offerLeftPictures())
@@ -82,12 +88,6 @@ void MainWindow::makeEditMenu() {
     addClipboard(menu);
     addTo(menu, "edit.undoSteps", tr("Undo &Steps…"), {}, [this] { askUndoSteps(); });
     addTo(menu, "edit.shortcuts", tr("&Keys…"), {}, [this] { ShortcutsDialog(*_commands, this).exec(); });
-    auto* buttons = new QToolBar(tr("History"));
-    buttons->setObjectName(QStringLiteral("historyBar"));
-    buttons->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    buttons->addAction(_undo);
-    buttons->addAction(_redo);
-    addToolBar(buttons);
     _undo->setEnabled(false);
     _redo->setEnabled(false);
 }
@@ -138,22 +138,6 @@ void MainWindow::makeBrushMenu() {
     addTo(menu, "brush.swapColours", tr("S&wap Colours"), {key("X")}, [this] { swapColors(_brush); });
     addTo(menu, "brush.defaultColours", tr("&Default Colours"), {key("D")},
           [this] { setDefaultColors(_brush); });
-    QAction* pick = addTo(menu, "brush.pick", tr("&Eyedropper"), {key("I")}, [] {});
-    pick->setCheckable(true);
-    connect(pick, &QAction::toggled, &_pointer->picker(), &ColorPicker::setOn);
-    connect(&_pointer->picker(), &ColorPicker::onChanged, pick, &QAction::setChecked);
-    menu->addSeparator();
-    _shapes = addTo(menu, "brush.shapes", tr("Reco&gnise Shapes"), {key("Shift+R")}, [] {});
-    _shapes->setCheckable(true);
-    _shapes->setIconText(tr("Shapes"));
-    _shapes->setToolTip(
-        tr("Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)"));
-    connect(_shapes, &QAction::toggled, this, &MainWindow::recogniseShapes);
-    auto* buttons = new QToolBar(tr("Shapes"));
-    buttons->setObjectName(QStringLiteral("shapesBar"));
-    buttons->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    buttons->addAction(_shapes);
-    addToolBar(buttons);
     menu->addSeparator();
     const std::initializer_list<std::pair<const char*, QAction*>> files{
         {"brush.save", _presets->saveAction()}, {"brush.import", _presets->importAction()}};
@@ -180,6 +164,14 @@ void MainWindow::makeViewMenu() {
     menu->addSeparator();
     addTurns(menu);
     menu->addSeparator();
+    addChoices<ThemeChoice>(menu->addMenu(tr("&Theme")),
+                            {{tr("As the &System"), ThemeChoice::system},
+                             {tr("&Light"), ThemeChoice::light},
+                             {tr("&Dark"), ThemeChoice::dark}},
+                            _settings.theme(), [this](ThemeChoice choice) {
+                                _settings.setTheme(choice);
+                                _theme->setChoice(choice);
+                            });
     const auto isAnyShown = [this] {
         const auto docks = {_colourDock, _presetDock, _layerDock, _dock};
         return std::any_of(docks.begin(), docks.end(),
@@ -202,6 +194,17 @@ void MainWindow::makeViewMenu() {
     panel->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     _commands->take(QStringLiteral("view.panels"), plain(menu->title()), panel);
     addTo(menu, "view.fullScreen", tr("&Full Screen"), {key("F11")}, [this] { toggleFullScreen(); });
+}
+
+void MainWindow::makeHelpMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Help"));
+    QAction* guide = addTo(menu, "help.guide", tr("Painter's &Guide"), {key("F1")},
+                           [] { QDesktopServices::openUrl(QUrl::fromLocalFile(paintersGuide())); });
+    guide->setVisible(!paintersGuide().isEmpty());
+    addTo(menu, "help.about", tr("&About Dabpainter"), {}, [this] {
+        _pointer->endStroke();
+        showAbout(this, aboutReport(view(), _settings.file()));
+    });
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -15,7 +15,6 @@
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
-#include <QToolBar>
 #include <utility>
 
 #include "Brush/BrushCommands.h"
@@ -30,6 +29,7 @@
 #include "Selection/PictureMime.h"
 #include "Selection/SelectionEditor.h"
 #include "Selection/SelectionTool.h"
+#include "Tools/Tools.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
@@ -40,6 +40,8 @@
 #include "Viewport/SymmetryGuide.h"
 #include "Window/Commands.h"
 #include "Window/MemoryWatch.h"
+#include "Window/RecentFiles.h"
+#include "Window/Theme.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -65,7 +67,10 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
       _left(copies),
       _autosave(new Autosave(_document, copies, this)),
       _commands(new Commands(*this)),
+      _recent(new RecentFiles(this)),
+      _theme(new Theme(this)),
       _viewport(new CanvasViewport) {
+    _theme->setChoice(_settings.theme());
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
     setCentralWidget(_viewport);
@@ -88,10 +93,13 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeEditMenu();
     makeSelectMenu();
     makeCanvasMenu();
+    makeToolMenu();
     makeBrushMenu();
     makeViewMenu();
+    makeHelpMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
     _lines = new StraightLines(*_viewport);
+    makeToolBars();
     showDocument();
     readState();
     connectParts();
@@ -108,8 +116,8 @@ void MainWindow::connectParts() {
     });
     connect(_layers, &LayerPanel::aboutToEdit, _pointer, &CanvasPointer::endStroke);
     connect(_layers, &LayerPanel::activeChanged, this, &MainWindow::choosePaper);
-    connect(_panel, &BrushPanel::eyedropper, &_pointer->picker(), [this] { _pointer->picker().setOn(true); });
     connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
+    connect(_panel, &BrushPanel::eyedropper, this, [this] { _tools->choose(Tool::pick); });
     connect(_pointer, &CanvasPointer::noShapeFound, this,
             [this] { statusBar()->showMessage(tr("No shape was recognised"), kMessageTime); });
     connect(_presets, &PresetBrowser::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));
@@ -129,6 +137,13 @@ void MainWindow::connectParts() {
         _settings.noteChange();
     });
     connect(_commands, &Commands::keysChanged, &_settings, &PainterSettings::noteChange);
+    connect(_recent, &RecentFiles::changed, &_settings, &PainterSettings::noteChange);
+    connect(_recent, &RecentFiles::chosen, this, [this](const QString& path) {
+        _pointer->endStroke();
+        if (mayDiscard())
+            openImage(path);
+    });
+    connect(_tools, &Tools::toleranceChanged, &_settings, &PainterSettings::setTolerance);
     connect(_presets, &PresetBrowser::stateChanged, &_settings, &PainterSettings::noteChange);
     connect(_panel, &BrushPanel::stateChanged, &_settings, &PainterSettings::noteChange);
 }
@@ -287,6 +302,7 @@ void MainWindow::readState() {
     restoreState(file.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
     _panel->readState(file);
     _commands->read(file);
+    _recent->read(file);
 }
 
 void MainWindow::writeState(QSettings& file) {
@@ -296,6 +312,7 @@ void MainWindow::writeState(QSettings& file) {
     }
     _panel->writeState(file);
     _commands->write(file);
+    _recent->write(file);
     if (_brushRead) {
         writeBrush(file, _brush, std::exchange(_unwritten, {}));
         _presets->writeState(file);

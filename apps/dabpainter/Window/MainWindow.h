@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <map>
 #include <set>
 
 #include "Brush/BrushModel.h"
@@ -18,23 +19,30 @@ class QActionGroup;
 class QDDrawCanvas;
 class QDDrawView;
 class QDockWidget;
+class QToolBar;
 class QMimeData;
 
 namespace dabcanvas::dabpainter {
 
 class Autosave;
+class BrushBar;
 class BrushPanel;
 class CanvasPointer;
 class CanvasStatus;
 class CanvasViewport;
 class ColorPanel;
 class Commands;
+class FillPointer;
 class LayerPanel;
 class PresetBrowser;
+class RecentFiles;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
 class SymmetryGuide;
+class Theme;
+class Tools;
+enum class Tool;
 
 // The application's window: the document's canvas, the brush, and what the user does to both. Whatever that is, it ends a
 // stroke in progress first.
@@ -75,6 +83,8 @@ public:
     Autosave& autosave() { return *_autosave; }
     SelectionEditor& selection() { return *_selection; }
     Commands& commands() { return *_commands; }
+    Tools& tools() { return *_tools; }
+    BrushBar& brushBar() { return *_brushBar; }
     QDDrawView* view() const;
 
 protected:
@@ -92,6 +102,7 @@ private:
     void makeFileMenu();
     void makeEditMenu();
     void makeCanvasMenu();
+    void makeToolMenu();
     void makeBrushMenu();
     void makeViewMenu();
     // To these menus: see MainWindow+Input.cpp
@@ -101,6 +112,8 @@ private:
     void addPen(QMenu* menu);
     void addSymmetry(QMenu* canvasMenu);
     void addSymmetryOptions(QMenu* menu);
+    void makeHelpMenu();
+    void makeToolBars();
     void makeSelection();
     void makeSelectMenu();
     void addClipboard(QMenu* menu);
@@ -142,6 +155,9 @@ private:
     void stepHistory(dabcanvas::StepPicture (QDDrawCanvas::*step)());
     void askUndoSteps();
     void recogniseShapes(bool on);
+    QAction* addTool(QMenu* menu, const char* name, const QString& text, const char* keys, Tool tool);
+    void showTool(Tool tool);
+    void fillAt(QPointF viewPoint);
     void zoomBy(double factor);
     void toggleFullScreen();
     void readState();
@@ -154,13 +170,19 @@ private:
     Document _document;
     Autosave* _autosave;
     Commands* _commands;
+    RecentFiles* _recent;
+    Theme* _theme;
 
     CanvasViewport* _viewport;
     CanvasPointer* _pointer;
     CanvasStatus* _status;
     StraightLines* _lines;
     SymmetryGuide* _symmetry;
+    Tools* _tools;
+    FillPointer* _fill;
     BrushPanel* _panel;
+    QToolBar* _toolBar;
+    BrushBar* _brushBar;
     PresetBrowser* _presets;
     LayerPanel* _layers;
     ColorPanel* _colours;
@@ -168,6 +190,7 @@ private:
     SelectionTool* _selectionTool;
     QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
     QAction *_undo, *_redo, *_shapes, *_sizing;
+    std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;
     std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
     std::set<BrushKey> _unwritten;          // since the settings were written

@@ -12,12 +12,21 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr char kSteps[] = "history/steps", kSurface[] = "canvas/surface", kTouch[] = "pointer/touch",
-               kPressure[] = "pointer/pressure";
-constexpr int kDefaultSteps = 100;
+               kPressure[] = "pointer/pressure", kTheme[] = "window/theme", kTolerance[] = "fill/tolerance";
+constexpr int kDefaultSteps = 100, kDefaultTolerance = 32;
 constexpr int kWriteDelay = 1000;  // milliseconds from a change to the file
 
 constexpr std::array kTouchNames{"paint", "move", "move once a pen was seen"};
 static_assert(kTouchNames.size() == std::size_t(TouchPolicy::pensOnceSeen) + 1);
+
+constexpr std::array kThemeNames{"system", "light", "dark"};
+static_assert(kThemeNames.size() == std::size_t(ThemeChoice::dark) + 1);
+
+template <typename Choice, typename Names>
+Choice choiceNamed(const Names& names, const QString& name, Choice otherwise) {
+    const auto found = std::find(names.begin(), names.end(), name);
+    return found == names.end() ? otherwise : Choice(found - names.begin());
+}
 
 }  // namespace
 
@@ -48,9 +57,7 @@ void PainterSettings::setSurface(SurfaceKind kind) {
 }
 
 TouchPolicy PainterSettings::touch() const {
-    const QString name = _file.value(QLatin1String(kTouch)).toString();
-    const auto found = std::find(kTouchNames.begin(), kTouchNames.end(), name);
-    return found == kTouchNames.end() ? TouchPolicy::pensOnceSeen : TouchPolicy(found - kTouchNames.begin());
+    return choiceNamed(kTouchNames, _file.value(QLatin1String(kTouch)).toString(), TouchPolicy::pensOnceSeen);
 }
 
 void PainterSettings::setTouch(TouchPolicy policy) {
@@ -65,6 +72,22 @@ PressureCurve PainterSettings::pressure() const {
 void PainterSettings::setPressure(const PressureCurve& curve) {
     set(kPressure, PressurePoints(curve).text());
     emit pressureChanged(curve);
+}
+
+ThemeChoice PainterSettings::theme() const {
+    return choiceNamed(kThemeNames, _file.value(QLatin1String(kTheme)).toString(), ThemeChoice::system);
+}
+
+void PainterSettings::setTheme(ThemeChoice choice) {
+    set(kTheme, QLatin1String(kThemeNames[std::size_t(choice)]));
+}
+
+int PainterSettings::tolerance() const {
+    return std::clamp(_file.value(QLatin1String(kTolerance), kDefaultTolerance).toInt(), 0, 255);
+}
+
+void PainterSettings::setTolerance(int tolerance) {
+    set(kTolerance, tolerance);
 }
 
 void PainterSettings::set(const char* name, const QVariant& value) {

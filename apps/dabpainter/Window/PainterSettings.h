@@ -8,6 +8,7 @@
 
 #include "Canvas/PointerOptions.h"
 #include "Surface/SurfaceKind.h"
+#include "Window/Theme.h"
 
 class QSettings;
 
@@ -31,6 +32,10 @@ public:
     void setTouch(TouchPolicy policy);
     PressureCurve pressure() const;
     void setPressure(const PressureCurve& curve);
+    ThemeChoice theme() const;
+    void setTheme(ThemeChoice choice);
+    int tolerance() const;  // of fills, 0 to 255
+    void setTolerance(int tolerance);
 
     // What others remember: called when it is due to be written.
     void addWriter(std::function<void(QSettings&)> write) { _writers.push_back(std::move(write)); }
