@@ -195,9 +195,8 @@ void SwatchButton::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
     const QRect inside = rect().adjusted(4, 4, -4, -4);
-    painter.fillRect(inside, _color.isValid() ? QBrush(_color) : checkerBrush());
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(inside.adjusted(0, 0, -1, -1));
+    painter.fillRect(inside, palette().color(QPalette::Mid));
+    painter.fillRect(inside.adjusted(1, 1, -1, -1), _color.isValid() ? QBrush(_color) : checkerBrush());
 }
 
 NumberField::NumberField(const BrushPresentation& shown, QWidget* parent)
