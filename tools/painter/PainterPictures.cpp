@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The pictures of the painter's guide, made by the painter of itself: painter_pictures FOLDER, see tools/painter_pictures.sh.
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -77,13 +78,13 @@ public:
         settle();
         return _window->grab().toImage();
     }
-    // Of the dialog that the command opens.
-    QImage dialog(const char* command, QSize size = {}) {
+    // Of the dialog that the command opens, after what is done in it.
+    QImage dialog(const char* command, const std::function<void(QWidget&)>& act = {}) {
         QImage picture;
         QTimer::singleShot(400, [&] {
             QWidget* open = QApplication::activeModalWidget();
-            if (!size.isEmpty())
-                open->resize(size);
+            if (act)
+                act(*open);
             settle();
             picture = open->grab().toImage();
             open->close();
@@ -156,8 +157,9 @@ const Page kPages[] = {
          CanvasLayers layers = session.view().layers();
          layers.add(layers.count(), {.name = QStringLiteral("Glow"), .blendType = ESBlendTypeMultiply});
          layers.setActive(layers.count() - 1);
-         session.choose("soft-airbrush", QColor(230, 150, 90), 260);
-         session.stroke([](double t) { return std::pair(QPointF(1000 + 200 * t, 300), 0.6); });
+         session.choose("round-watercolour", QColor(240, 150, 90), 150);
+         session.stroke(
+             [](double t) { return std::pair(QPointF(300 + 700 * t, 210 + 20 * std::sin(9 * t)), 0.9); });
          session.raise("layerDock");
          return session.picture();
      }},
