@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Colour/ColorPanel.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -109,6 +110,22 @@ TEST_F(ColorPanelTest, APaletteIsMadeChangedAndDeleted) {
     EXPECT_TRUE(page.importFiles({bad, _saveName}));
     EXPECT_EQ(_told.size(), 1);
     EXPECT_EQ(page.library().find(page.shown())->palette, expected);
+}
+
+TEST_F(ColorPanelTest, AllColoursOfAPaletteCanBeScrolledTo) {
+    PalettePage& page = panel().palettes();
+    Palette palette{"Many", 0, {}};
+    for (int i = 0; i < 240; ++i)
+        palette.colors.push_back({qRgb(i, 0, 0), QString()});
+    ASSERT_EQ(PaletteLibrary::exportTo(palette, path("many.gpl")), "");
+    ASSERT_TRUE(page.importFiles({path("many.gpl")}));
+    for (QAbstractButton* button : panel().findChildren<QAbstractButton*>())
+        if (button->accessibleName() == "Palettes")
+            button->click();
+    settle();
+    const SwatchGrid& grid = *page.grid();
+    EXPECT_TRUE(grid.rect().contains(grid.cell(239))) << grid.height();
+    EXPECT_LT(panel().minimumSizeHint().width(), 240);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Presets/PresetBrowser.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
 #include <QLabel>
@@ -19,6 +20,7 @@
 #include "Brush/BrushPresentation.h"
 #include "Import/GimpFiles.h"
 #include "PainterTest.h"
+#include "Preset/PresetInfo.h"
 #include "Preset/QDBrushManager.h"
 #include "Presets/PresetList.h"
 #include "support/LogCapture.h"
@@ -446,6 +448,68 @@ TEST_F(PresetBrowserTest, PicturesShowTheBrushAndFollowItsFile) {
     set(BrushKey::opacity, 0.75f);
     ASSERT_TRUE(presets().overwrite(id));
     EXPECT_LT(ink(picture("Thick")), 2 * thin);
+}
+
+// ---- Favourites and tags
+
+TEST_F(PresetBrowserTest, StarsAndTagsSayWhichAreListed) {
+    const auto saveTagged = [&](const QString& name, const PresetInfo& info) {
+        BrushParams params = *brush().params();
+        setInfoOfParams(params, info);
+        ASSERT_TRUE(QDBrushManager::saveParams(params, 200, name, path(name + ".xbf")));
+        ASSERT_TRUE(presets().importFiles({path(name + ".xbf")}));
+    };
+    saveTagged("Soft cloud", {{"wet", "air"}, "For skies.", {}, {}});
+    saveTagged("Rough stone", {{"dry"}, {}, {}, {}});
+    const PresetId stone = presets().chosen();
+    while (!presets().infos().isIdle())
+        settle();
+    QComboBox& kinds = *presets().kinds();
+    const auto choose = [&](const QString& text) {
+        kinds.setCurrentIndex(kinds.findText(text));
+        emit kinds.activated(kinds.currentIndex());
+        QStringList names;
+        for (int row = 0; row < presets().list()->model()->rowCount(); ++row)
+            names << presets().list()->model()->index(row, 0).data().toString();
+        return names;
+    };
+    EXPECT_EQ(kinds.count(), 5);
+    EXPECT_EQ(choose("Wet"), QStringList("Soft cloud"));
+    EXPECT_EQ(choose("Dry"), QStringList("Rough stone"));
+    EXPECT_EQ(choose("Favourites"), QStringList());
+    const auto labels = presets().list()->findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 1);
+    EXPECT_TRUE(labels[0]->text().contains("star"));
+
+    choose("All");
+    presets().search()->setText("SKIES cloud");
+    EXPECT_EQ(presets().list()->model()->rowCount(), 1) << "sentences are searched, too";
+    presets().search()->setText("nonsense");
+    EXPECT_TRUE(labels[0]->isVisible() && labels[0]->text().contains("nonsense"));
+    presets().search()->clear();
+
+    QListView& list = *presets().list();
+    const auto press = [&](const QModelIndex& index, QPoint at) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(list.viewport(), &event);
+        }
+        EXPECT_TRUE(index.isValid());
+    };
+    const QModelIndex cloud = list.model()->index(2, 0);
+    press(cloud, PresetDelegate::starRect(list.visualRect(cloud)).center());
+    EXPECT_EQ(presets().chosen(), stone) << "a star chooses nothing";
+    EXPECT_EQ(choose("Favourites"), QStringList("Soft cloud"));
+    presets().setFavourite(stone, true);
+    _name = "Gravel";
+    ASSERT_TRUE(presets().rename(stone));
+    _window->settings().write();
+    makeWindow();
+    EXPECT_EQ(shownNames().size(), 1) << "both, of which the first is Gravel";
+    EXPECT_TRUE(presets().isFavourite(presets().chosen()));
+    EXPECT_EQ(presets().kinds()->currentText(), "Favourites");
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QScopedValueRollback>
 #include <QSettings>
 #include <QStackedWidget>
+#include <algorithm>
 #include <array>
 
 #include "Brush/BrushCommands.h"
@@ -23,7 +24,7 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr int kMargin = 6;
+constexpr int kMargin = 6, kBelow = 2, kSpacing = 4;
 constexpr std::array kPickSides{1, 3, 5, 11};
 
 QString key(const char* name) {
@@ -48,11 +49,13 @@ ColorPanel::ColorPanel(BrushModel& brush, const Prompts& prompts, const PresetFo
       _recentGrid(new SwatchGrid(tr("Recent colours"), int(RecentColors::kMost))) {
     makeMenu();
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, 2);
-    layout->setSpacing(4);
-    layout->addLayout(makeTop());
-    layout->addWidget(makePages(), 1);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kBelow);
+    layout->setSpacing(kSpacing);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    layout->addLayout(_top = makeTop());
+    layout->addWidget(_area = makePages(), 1);
     layout->addWidget(_recentGrid);
+    layout->addStretch(0);
     _front->setChecked(true);
     connectParts();
     showBrush();
@@ -156,6 +159,21 @@ void ColorPanel::connectParts() {
         if (!_recentGrid->hasFocus())
             emit chosenByPointer();
     });
+}
+
+QSize ColorPanel::minimumSizeHint() const {
+    const int width = std::max(_top->minimumSize().width(), _area->minimumSizeHint().width());
+    return QSize(width + 2 * kMargin, _top->minimumSize().height() + kMargin + kBelow);
+}
+
+// The pages come before the colours that were painted with.
+void ColorPanel::resizeEvent(QResizeEvent*) {
+    const int room = height() - minimumSizeHint().height();
+    const int pages = _area->minimumSizeHint().height() + kSpacing;
+    const int recent = _recentGrid->heightForWidth(width() - 2 * kMargin) + kSpacing;
+    const bool showsPages = room >= pages;
+    _area->setVisible(showsPages);
+    _recentGrid->setVisible(room >= recent + (showsPages ? pages : 0));
 }
 
 // ---- The two colours

@@ -33,6 +33,9 @@ public:
     ColorPanel(BrushModel& brush, const Prompts& prompts, const PresetFolders& brushes,
                QWidget* parent = nullptr);
 
+    // Of the first line alone: what there is no room for is hidden.
+    QSize minimumSizeHint() const override;
+
     // Whose strokes tell which colours are painted with.
     void setView(QDDrawView* view);
     ColorChoice& choice() { return _choice; }
@@ -51,6 +54,9 @@ signals:
     void pickSideChanged(int pixels);
     void chosenByPointer();  // who did so wants to paint now
     void stateChanged();     // what writeState() writes
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QHBoxLayout* makeTop();
@@ -78,6 +84,8 @@ private:
     QMenu* _menu;
     QActionGroup* _pickSides;
     QButtonGroup* _pageButtons;
+    QHBoxLayout* _top;
+    QWidget* _area;  // of the pages, with their buttons
     QStackedWidget* _pages;
     PalettePage* _palettes;
     SwatchGrid* _recentGrid;

@@ -72,7 +72,7 @@ class ColorWheel : public QWidget {
 public:
     explicit ColorWheel(ColorChoice& choice, QWidget* parent = nullptr);
     QSize sizeHint() const override { return QSize(200, 170); }
-    QSize minimumSizeHint() const override { return QSize(84, 84); }
+    QSize minimumSizeHint() const override { return QSize(76, 76); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

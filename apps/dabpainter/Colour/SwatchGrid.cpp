@@ -28,7 +28,7 @@ SwatchGrid::SwatchGrid(const QString& name, int columns, QWidget* parent)
 void SwatchGrid::setColors(std::vector<PaletteColor> colors) {
     _colors = std::move(colors);
     setCurrent(std::min(_current, count() - 1));
-    updateGeometry();
+    fitLines();
     update();
 }
 
@@ -76,6 +76,17 @@ int SwatchGrid::heightForWidth(int width) const {
     return lines * side(width);
 }
 
+// In a scroll area nobody asks for the height that goes with a width.
+void SwatchGrid::fitLines() {
+    if (_columns == 0)
+        setMinimumHeight(heightForWidth(width()));
+    updateGeometry();
+}
+
+void SwatchGrid::resizeEvent(QResizeEvent*) {
+    fitLines();
+}
+
 QSize SwatchGrid::sizeHint() const {
     return QSize(std::max(_columns, 8) * kSide, heightForWidth(width()));
 }
@@ -90,9 +101,8 @@ void SwatchGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     for (int i = 0; i < count(); ++i) {
         const QRect inside = cell(i).adjusted(1, 1, -1, -1);
-        painter.fillRect(inside, QColor(_colors[std::size_t(i)].rgb));
-        painter.setPen(palette().color(QPalette::Mid));
-        painter.drawRect(inside.adjusted(0, 0, -1, -1));
+        painter.fillRect(inside, palette().color(QPalette::Mid));
+        painter.fillRect(inside.adjusted(1, 1, -1, -1), QColor(_colors[std::size_t(i)].rgb));
     }
     if (hasFocus() && count() > 0) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));

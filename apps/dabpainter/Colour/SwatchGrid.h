@@ -36,6 +36,7 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -46,6 +47,7 @@ private:
     int count() const { return int(_colors.size()); }
     int columns(int width) const;
     int side(int width) const;
+    void fitLines();
     int indexAt(QPoint at) const;
     QString nameOf(int index) const;
 

@@ -2,6 +2,7 @@
 #include "Presets/PresetBrowser.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -13,12 +14,13 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSettings>
-#include <QSortFilterProxyModel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "Brush/BrushDrops.h"
 #include "Preset/QDBrushManager.h"
+#include "Presets/PresetFilter.h"
 #include "Presets/PresetList.h"
 #include "Window/Widgets.h"
 
@@ -43,15 +45,15 @@ PresetBrowser::PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFo
       _isIdle(std::move(isIdle)),
       _library(std::move(folders)),
       _previews(_isIdle),
-      _model(new PresetListModel(_library, _previews, this)),
-      _filtered(new QSortFilterProxyModel(this)),
+      _model(new PresetListModel(_library, _previews, _infos, this)),
+      _filtered(new PresetFilter(this)),
       _list(new QListView),
       _search(new QLineEdit),
+      _kinds(new QComboBox),
       _status(new QLabel),
-      _nothing(new QLabel(tr("No brush is called so."), _list)),
+      _nothing(new QLabel(_list)),
       _menu(new QMenu(this)) {
     _filtered->setSourceModel(_model);
-    _filtered->setFilterCaseSensitivity(Qt::CaseInsensitive);
     makeActions();
     makeLayout();
     setAcceptDrops(true);
@@ -64,6 +66,7 @@ PresetBrowser::PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFo
     connect(&_brush, &BrushModel::changed, &_changeTimer, qOverload<>(&QTimer::start));
     connect(&_brush, &BrushModel::presetChanged, &_changeTimer, qOverload<>(&QTimer::start));
     connect(&_watcher, &QFileSystemWatcher::directoryChanged, &_refreshTimer, qOverload<>(&QTimer::start));
+    connect(&_infos, &PresetInfos::changed, this, &PresetBrowser::listKinds);
     refresh();
 }
 
@@ -78,6 +81,8 @@ void PresetBrowser::makeActions() {
     _overwrite = add(tr("&Overwrite with Present Settings…"), [this] { overwrite(_target); });
     _rename = add(tr("&Rename…"), [this] { rename(_target); });
     _remove = add(tr("&Delete…"), [this] { remove(_target); });
+    _favourite = add(tr("&Favourite"), [this] { setFavourite(_target, !isFavourite(_target)); });
+    _favourite->setCheckable(true);
     _menu->addSeparator();
     _import = add(tr("&Import Brushes…"), [this] { importFiles(_prompts.pickBrushes(window())); });
     _export = add(tr("&Export…"), [this] { exportTo(_target); });
@@ -101,11 +106,19 @@ void PresetBrowser::makeLayout() {
     _search->setPlaceholderText(tr("Search brushes"));
     _search->setAccessibleName(_search->placeholderText());
     _search->setClearButtonEnabled(true);
+    _kinds->setObjectName(QStringLiteral("presetKinds"));
+    _kinds->setAccessibleName(tr("Kind of brushes"));
+    _kinds->setToolTip(tr("Which brushes are listed"));
+    _kinds->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    _kinds->setMinimumWidth(70);
+    _kinds->view()->setMinimumWidth(130);
+    guardFromWheel(_kinds);
     auto* save = new GlyphButton(Glyph::add, tr("Save the present settings as a new brush"));
     auto* more = new GlyphButton(Glyph::menu, tr("More to do with the chosen brush"));
     auto* line = new QHBoxLayout;
     line->setSpacing(2);
-    line->addWidget(_search, 1);
+    line->addWidget(_search, 3);
+    line->addWidget(_kinds, 2);
     line->addWidget(save);
     line->addWidget(more);
 
@@ -126,10 +139,12 @@ void PresetBrowser::makeLayout() {
     // A click leaves the keyboard to the canvas.
     _list->setFocusPolicy(Qt::TabFocus);
     _list->installEventFilter(this);
-    _list->setMinimumHeight(90);
+    _list->viewport()->installEventFilter(this);
+    _list->setMinimumHeight(72);
     _nothing->setAlignment(Qt::AlignCenter);
     _nothing->setWordWrap(true);
     _nothing->setEnabled(false);
+    _nothing->setTextFormat(Qt::PlainText);
     auto* inside = new QVBoxLayout(_list->viewport());
     inside->addWidget(_nothing);
     _status->setObjectName(QStringLiteral("presetStatus"));
@@ -144,8 +159,13 @@ void PresetBrowser::makeLayout() {
     layout->addWidget(_status);
 
     connect(_search, &QLineEdit::textChanged, this, [this](const QString& text) {
-        _filtered->setFilterFixedString(text.trimmed());
+        _filtered->setText(text);
         showNothing();
+    });
+    connect(_kinds, &QComboBox::activated, this, [this] {
+        _wantedKind = _kinds->currentData().toString();
+        chooseKind();
+        emit stateChanged();
     });
     connect(save, &QToolButton::clicked, this, &PresetBrowser::saveNew);
     connect(more, &QToolButton::clicked, this,
@@ -168,17 +188,82 @@ PresetId PresetBrowser::idAt(const QModelIndex& index) const {
 }
 
 bool PresetBrowser::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == _list->viewport())
+        return filterStar(*event);
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     // In the list these mean the preset, not the canvas.
     const int pressed = static_cast<QKeyEvent*>(event)->key();
-    if (pressed != Qt::Key_Delete && pressed != Qt::Key_Return && pressed != Qt::Key_Enter)
+    if (pressed != Qt::Key_Delete && pressed != Qt::Key_Return && pressed != Qt::Key_Enter &&
+        pressed != Qt::Key_Asterisk)
         return false;
     event->accept();
     const QModelIndex current = _list->currentIndex();
-    if (event->type() == QEvent::KeyPress && current.isValid())
-        pressed == Qt::Key_Delete ? remove(idAt(current)) : choose(idAt(current));
+    if (event->type() != QEvent::KeyPress || !current.isValid())
+        return true;
+    const PresetId id = idAt(current);
+    if (pressed == Qt::Key_Asterisk)
+        setFavourite(id, !isFavourite(id));
+    else
+        pressed == Qt::Key_Delete ? remove(id) : choose(id);
     return true;
+}
+
+// A press on a star is one on nothing else.
+bool PresetBrowser::filterStar(const QEvent& event) {
+    const bool isPress =
+        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+    if (event.type() == QEvent::MouseButtonRelease)
+        return std::exchange(_starPressed, false);
+    if (!isPress)
+        return false;
+    const auto& mouse = static_cast<const QMouseEvent&>(event);
+    const QPoint at = mouse.position().toPoint();
+    const QModelIndex index = _list->indexAt(at);
+    const PresetId id = idAt(index);
+    _starPressed = mouse.button() == Qt::LeftButton && !id.path.isEmpty() &&
+                   PresetDelegate::starRect(_list->visualRect(index)).contains(at);
+    if (_starPressed)
+        setFavourite(id, !isFavourite(id));
+    return _starPressed;
+}
+
+// ---- Kinds
+
+bool PresetBrowser::isFavourite(const PresetId& id) const {
+    return _model->favourites().has(id);
+}
+
+void PresetBrowser::setFavourite(const PresetId& id, bool on) {
+    if (id.path.isEmpty() || isFavourite(id) == on)
+        return;
+    PresetFavourites favourites = _model->favourites();
+    favourites.set(id, on);
+    _model->setFavourites(favourites);
+    showNothing();
+    emit stateChanged();
+}
+
+// All, favourites, and the tags that there are.
+void PresetBrowser::listKinds() {
+    const QSignalBlocker quiet(_kinds);
+    _kinds->clear();
+    _kinds->addItem(tr("All"), QString());
+    _kinds->addItem(tr("Favourites"), QString(QLatin1Char('*')));
+    for (const QString& tag : _infos.tags(_library.presets()))
+        _kinds->addItem(tag.left(1).toUpper() + tag.mid(1), tag);
+    chooseKind();
+}
+
+// One that is not there, or not yet, is all of them.
+void PresetBrowser::chooseKind() {
+    const int index = std::max(0, _kinds->findData(_wantedKind));
+    _kinds->setCurrentIndex(index);
+    _filtered->setKind(index == 0   ? PresetFilter::Kind::all
+                       : index == 1 ? PresetFilter::Kind::favourites
+                                    : PresetFilter::Kind::tagged,
+                       _kinds->currentData().toString());
+    showNothing();
 }
 
 void PresetBrowser::popUp(const PresetId& target, const QPoint& at) {
@@ -189,12 +274,15 @@ void PresetBrowser::popUp(const PresetId& target, const QPoint& at) {
     _rename->setEnabled(preset && preset->isEditable());
     _remove->setEnabled(preset && preset->own);
     _export->setEnabled(isWhole);
+    _favourite->setEnabled(preset);
+    _favourite->setChecked(preset && isFavourite(target));
     _menu->popup(at);
 }
 
 void PresetBrowser::refresh() {
     _model->refresh();
-    showNothing();
+    _infos.read(_library.presets());
+    listKinds();
     QStringList folders = _library.folders().installed;
     folders << _library.folders().own;
     for (const QString& folder : folders) {
@@ -208,7 +296,7 @@ void PresetBrowser::showNothing() {
     const bool none = _library.presets().empty();
     _nothing->setText(none ? tr("There are no brushes yet: import some by the menu above, or save the "
                                 "present settings as one.")
-                           : tr("No brush is called so."));
+                           : _filtered->emptyState());
     _nothing->setVisible(none || _filtered->rowCount() == 0);
 }
 
@@ -368,6 +456,10 @@ bool PresetBrowser::rename(const PresetId& id) {
     PresetId now;
     const bool renamed = succeeds(_library.rename(preset, name, now));
     refresh();
+    if (renamed && isFavourite(id)) {
+        setFavourite(id, false);
+        setFavourite(now, true);
+    }
     if (renamed && id == _chosen)
         setChosen(now, name);
     return renamed;
@@ -386,6 +478,8 @@ bool PresetBrowser::remove(const PresetId& id) {
         return false;
     const bool removed = succeeds(_library.removeFile(preset));
     refresh();
+    if (removed)
+        setFavourite(id, false);
     if (removed && id.path == _chosen.path) {
         _brush.comesFrom({});  // which goes on as it is
         setChosen({}, {});
@@ -426,6 +520,11 @@ bool PresetBrowser::exportTo(const PresetId& id) {
 
 void PresetBrowser::readState(QSettings& settings) {
     _setsColors->setChecked(settings.value(key("setsColor"), false).toBool());
+    PresetFavourites favourites;
+    favourites.fromTexts(settings.value(key("favourites")).toStringList());
+    _model->setFavourites(favourites);
+    _wantedKind = settings.value(key("kind")).toString();
+    chooseKind();
     const PresetId id{settings.value(key("file")).toString(), settings.value(key("index")).toInt()};
     BrushPreset content;
     // It may have gone since; the brush is the same without.
@@ -437,6 +536,8 @@ void PresetBrowser::readState(QSettings& settings) {
 
 void PresetBrowser::writeState(QSettings& settings) const {
     settings.setValue(key("setsColor"), _setsColors->isChecked());
+    settings.setValue(key("favourites"), _model->favourites().toTexts());
+    settings.setValue(key("kind"), _wantedKind);
     settings.setValue(key("file"), _chosen.path);
     settings.setValue(key("index"), _chosen.index);
 }

@@ -8,20 +8,22 @@
 #include <memory>
 
 #include "Brush/BrushModel.h"
+#include "Presets/PresetInfos.h"
 #include "Presets/PresetLibrary.h"
 #include "Presets/PresetPreviews.h"
 #include "Window/Prompts.h"
 
 class QAction;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListView;
 class QMenu;
 class QSettings;
-class QSortFilterProxyModel;
 
 namespace dabcanvas::dabpainter {
 
+class PresetFilter;
 class PresetListModel;
 
 // The presets to choose from, and what can be done with them. Brush and prompts must outlive it.
@@ -34,9 +36,11 @@ public:
                   std::function<bool()> isIdle, QWidget* parent = nullptr);
 
     const PresetLibrary& library() const { return _library; }
+    const PresetInfos& infos() const { return _infos; }
     const PresetPreviews& previews() const { return _previews; }
     QListView* list() const { return _list; }
     QLineEdit* search() const { return _search; }
+    QComboBox* kinds() const { return _kinds; }  // which of them are listed
 
     // The preset that the brush was made from; an empty id: none.
     const PresetId& chosen() const { return _chosen; }
@@ -57,6 +61,8 @@ public:
     // programs' brushes have lost.
     bool importFiles(const QStringList& paths);
     bool exportTo(const PresetId& id);
+    bool isFavourite(const PresetId& id) const;
+    void setFavourite(const PresetId& id, bool on);
 
     // What is not about one preset, for menus.
     QAction* saveAction() const { return _save; }
@@ -90,6 +96,9 @@ private:
     void showNothing();
     void scrollToChosen();
     void setOwnLook();
+    void listKinds();
+    void chooseKind();
+    bool filterStar(const QEvent& event);
     PresetId idAt(const QModelIndex& index) const;
     bool succeeds(const QString& fault);
 
@@ -98,16 +107,20 @@ private:
     std::function<bool()> _isIdle;
     PresetLibrary _library;
     PresetPreviews _previews;
+    PresetInfos _infos;
     PresetId _chosen, _previous, _target;  // the target of the menu
     QString _chosenName;
 
     PresetListModel* _model;
-    QSortFilterProxyModel* _filtered;
+    PresetFilter* _filtered;
     QListView* _list;
     QLineEdit* _search;
+    QComboBox* _kinds;
+    QString _wantedKind;  // may be a tag that is not known yet
+    bool _starPressed = false;
     QLabel *_status, *_nothing;
     QMenu* _menu;
-    QAction *_save, *_overwrite, *_rename, *_remove, *_import, *_export, *_setsColors;
+    QAction *_save, *_overwrite, *_rename, *_remove, *_import, *_export, *_favourite, *_setsColors;
     QFileSystemWatcher _watcher;
     QTimer _changeTimer, _refreshTimer;
 };

@@ -8,6 +8,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "Presets/PresetInfos.h"
 #include "Presets/PresetPreviews.h"
 #include "Window/Widgets.h"
 
@@ -16,6 +17,7 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr int kPad = 4;
+constexpr int kStar = 18;  // points
 constexpr int kNameLines = 2;
 
 // The name whole, on as many lines as there are; only what is too long for these ends in dots.
@@ -27,10 +29,21 @@ void drawName(QPainter& painter, const QRect& room, QString name) {
     painter.drawText(room, kWrapped, name);
 }
 
+// On whatever lies below it.
+void paintStar(QPainter& painter, const QRect& at, bool isFilled) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(40, 30, 0, 200), 1));
+    painter.setBrush(isFilled ? QColor(250, 190, 40) : QColor(255, 255, 255, 200));
+    painter.drawPolygon(starPolygon().translated(at.center() - QPointF(8, 8)));
+}
+
 }  // namespace
 
-PresetListModel::PresetListModel(PresetLibrary& library, PresetPreviews& previews, QObject* parent)
-    : QAbstractListModel(parent), _library(library), _previews(previews) {
+PresetListModel::PresetListModel(PresetLibrary& library, PresetPreviews& previews, const PresetInfos& infos,
+                                 QObject* parent)
+    : QAbstractListModel(parent), _library(library), _previews(previews), _infos(infos) {
+    connect(&infos, &PresetInfos::changed, this,
+            [this] { emit dataChanged(index(0), index(rowCount() - 1)); });
     connect(&previews, &PresetPreviews::painted, this, [this](const PresetId& id) { rowChanged(rowOf(id)); });
     connect(&previews, &PresetPreviews::damaged, this, &PresetListModel::setProblem);
 }
@@ -50,6 +63,11 @@ void PresetListModel::setProblem(const PresetId& id, const QString& problem) {
     if (row > 0)
         _shown[std::size_t(row) - 1].problem = problem;
     rowChanged(row);
+}
+
+void PresetListModel::setFavourites(const PresetFavourites& favourites) {
+    _favourites = favourites;
+    emit dataChanged(index(0), index(rowCount() - 1));
 }
 
 const Preset* PresetListModel::presetAt(int row) const {
@@ -88,7 +106,12 @@ QString PresetListModel::toolTip(const Preset* preset) const {
         return tr("Every setting at its default");
     if (!preset->problem.isEmpty())
         return tr("\"%1\" cannot be used: %2").arg(preset->name, preset->problem);
-    return preset->name + QLatin1Char('\n') + QDir::toNativeSeparators(preset->id.path);
+    const PresetInfo info = _infos.of(*preset);
+    QStringList lines{preset->name, info.about,
+                      info.author.isEmpty() ? QString() : tr("By %1").arg(info.author),
+                      QDir::toNativeSeparators(preset->id.path)};
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
 }
 
 QVariant PresetListModel::data(const QModelIndex& index, int role) const {
@@ -111,6 +134,12 @@ QVariant PresetListModel::data(const QModelIndex& index, int role) const {
             return preset ? preset->problem : QString();
         case plainRole:
             return !preset;
+        case favouriteRole:
+            return preset && _favourites.has(preset->id);
+        case tagsRole:
+            return preset ? _infos.of(*preset).tags : QStringList();
+        case aboutRole:
+            return preset ? _infos.of(*preset).about : QString();
         default:
             return {};
     }
@@ -140,6 +169,10 @@ QMimeData* PresetListModel::mimeData(const QModelIndexList& indexes) const {
 
 QSize PresetDelegate::pictureSize() {
     return QSize(91, 36);
+}
+
+QRect PresetDelegate::starRect(const QRect& cell) {
+    return QRect(cell.right() - kStar - kPad, cell.top() + kPad, kStar, kStar);
 }
 
 QSize PresetDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
@@ -184,6 +217,10 @@ void PresetDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     drawName(*painter,
              QRect(cell.x(), frame.bottom() + 2, cell.width(), kNameLines * option.fontMetrics.lineSpacing()),
              name);
+    const bool isFavourite = index.data(PresetListModel::favouriteRole).toBool();
+    const bool isPlain = index.data(PresetListModel::plainRole).toBool();
+    if (isFavourite || (!isPlain && option.state & QStyle::State_MouseOver))
+        paintStar(*painter, starRect(option.rect), isFavourite);
     painter->restore();
 }
 

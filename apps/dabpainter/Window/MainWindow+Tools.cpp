@@ -113,6 +113,8 @@ void MainWindow::makeToolBars() {
     for (QAction* action : _toolBar->actions() + _brushBar->actions())
         action->setIconVisibleInMenu(false);
 
+    connect(_commands, &Commands::keysChanged, this, &MainWindow::tellKeys);
+
     _fill = new FillPointer(this);
     connect(_fill, &FillPointer::fillAt, this, &MainWindow::fillAt);
     connect(_pointer, &CanvasPointer::tapped, this, [this](QPointF at) {
@@ -133,6 +135,20 @@ void MainWindow::makeToolBars() {
     connect(_presets, &PresetBrowser::chosenByPointer, _tools, &Tools::brushWasChosen);
     connect(_tools, &Tools::changed, this, &MainWindow::showTool);
     showTool(_tools->tool());
+}
+
+// By their tips, as the bars show no words.
+void MainWindow::tellKeys() {
+    for (QAction* action : _toolBar->actions() + _brushBar->actions()) {
+        if (action->text().isEmpty())
+            continue;
+        QString tip = action == _shapes
+                          ? tr("Strokes become the line, polygon, ellipse, arc or arrow they are meant as")
+                          : action->text().remove(QLatin1Char('&'));
+        if (!action->shortcut().isEmpty())
+            tip += QStringLiteral(" (%1)").arg(action->shortcut().toString(QKeySequence::NativeText));
+        action->setToolTip(tip);
+    }
 }
 
 void MainWindow::showTool(Tool tool) {

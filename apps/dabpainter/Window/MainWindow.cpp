@@ -13,6 +13,8 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStatusBar>
 #include <utility>
@@ -60,6 +62,19 @@ bool endsTyping(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Escape;
 }
 
+// What does not fit into a low window scrolls, instead of making the window high.
+QWidget* scrolled(QWidget* panel) {
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(panel);
+    scroll->setMinimumWidth(panel->minimumSizeHint().width() +
+                            scroll->verticalScrollBar()->sizeHint().width());
+    return scroll;
+}
+
 }  // namespace
 
 MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& copies)
@@ -81,7 +96,7 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _panel = new BrushPanel(_brush, _prompts);
     _dock = addDock(tr("Brush settings"), QStringLiteral("brushDock"), _panel);
     _layers = new LayerPanel;
-    _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), _layers);
+    _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), scrolled(_layers));
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
     resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
@@ -305,6 +320,7 @@ void MainWindow::readState() {
     restoreState(file.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
     _panel->readState(file);
     _commands->read(file);
+    tellKeys();
     _recent->read(file);
 }
 

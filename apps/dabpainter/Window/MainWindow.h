@@ -164,6 +164,7 @@ private:
     void recogniseShapes(bool on);
     QAction* addTool(QMenu* menu, const char* name, const QString& text, const char* keys, Tool tool);
     void showTool(Tool tool);
+    void tellKeys();
     void fillAt(QPointF viewPoint);
     void zoomBy(double factor);
     void toggleFullScreen();

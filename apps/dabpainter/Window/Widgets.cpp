@@ -53,15 +53,6 @@ public:
     }
 };
 
-QPolygonF starPolygon() {
-    QPolygonF star;
-    for (int i = 0; i < 10; ++i) {
-        const double radian = (i * 36 - 90) * std::numbers::pi / 180, radius = i % 2 == 0 ? 6.5 : 2.8;
-        star << QPointF(8 + radius * std::cos(radian), 8.5 + radius * std::sin(radian));
-    }
-    return star;
-}
-
 // In a square of 16 x 16.
 QPainterPath glyphPath(Glyph glyph) {
     QPainterPath path;
@@ -140,6 +131,15 @@ QPainterPath glyphPath(Glyph glyph) {
 
 }  // namespace
 
+QPolygonF starPolygon() {
+    QPolygonF star;
+    for (int i = 0; i < 10; ++i) {
+        const double radian = (i * 36 - 90) * std::numbers::pi / 180, radius = i % 2 == 0 ? 6.5 : 2.8;
+        star << QPointF(8 + radius * std::cos(radian), 8.5 + radius * std::sin(radian));
+    }
+    return star;
+}
+
 QBrush checkerBrush() {
     static const QImage tile = [] {
         QImage image(16, 16, QImage::Format_RGB32);
@@ -195,9 +195,8 @@ void SwatchButton::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
     const QRect inside = rect().adjusted(4, 4, -4, -4);
-    painter.fillRect(inside, _color.isValid() ? QBrush(_color) : checkerBrush());
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(inside.adjusted(0, 0, -1, -1));
+    painter.fillRect(inside, palette().color(QPalette::Mid));
+    painter.fillRect(inside.adjusted(1, 1, -1, -1), _color.isValid() ? QBrush(_color) : checkerBrush());
 }
 
 NumberField::NumberField(const BrushPresentation& shown, QWidget* parent)

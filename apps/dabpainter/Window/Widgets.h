@@ -5,6 +5,7 @@
 #include <QBrush>
 #include <QColor>
 #include <QImage>
+#include <QPolygonF>
 #include <QToolButton>
 #include <QWidget>
 
@@ -17,6 +18,9 @@ namespace dabcanvas::dabpainter {
 
 // What shows through transparent pictures.
 QBrush checkerBrush();
+
+// In a square of 16 x 16.
+QPolygonF starPolygon();
 
 // Scrolling over a field of a long panel must not change it: the wheel counts only once it was clicked.
 void guardFromWheel(QWidget* field);
