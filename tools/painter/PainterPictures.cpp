@@ -64,16 +64,18 @@ public:
     }
     // Along a curve of 0..1, with the pressure there, in buffer pixels.
     using Curve = std::function<std::pair<QPointF, double>(double)>;
-    void stroke(const Curve& curve, int samples = 60) {
+    static void drawOn(QDDrawView& view, const Curve& curve) {
+        constexpr int kSamples = 60;
         const auto [first, firm] = curve(0);
-        view().drawingWithBeginPoint(first, float(firm));
-        for (int i = 1; i < samples; ++i) {
-            const auto [at, pressure] = curve(double(i) / samples);
-            view().drawingWithMoveToPoint(at, float(pressure));
+        view.drawingWithBeginPoint(first, float(firm));
+        for (int i = 1; i < kSamples; ++i) {
+            const auto [at, pressure] = curve(double(i) / kSamples);
+            view.drawingWithMoveToPoint(at, float(pressure));
         }
         const auto [last, pressure] = curve(1);
-        view().drawingWithEndPoint(last, float(pressure));
+        view.drawingWithEndPoint(last, float(pressure));
     }
+    void stroke(const Curve& curve) { drawOn(view(), curve); }
     QImage picture() {
         settle();
         return _window->grab().toImage();
@@ -195,9 +197,33 @@ const Page kPages[] = {
      {1024, 700},
      [](Session& session) {
          session.window().openImage(garden());
+         for (const char* dock : {"colourDock", "brushDock", "layerDock"})
+             session.window().findChild<QDockWidget*>(QLatin1String(dock))->hide();
+         Session::settle();
          return session.window().presets().grab().toImage();
      }},
-    {"pressure", 2, "light", {1024, 700}, [](Session& session) { return session.dialog("canvas.pressure"); }},
+    {"pressure",
+     2,
+     "light",
+     {1024, 700},
+     [](Session& session) {
+         return session.dialog("canvas.pressure", [](QWidget& dialog) {
+             for (auto* button : dialog.findChildren<QAbstractButton*>()) {
+                 if (button->text() == QLatin1String("So&ft"))
+                     button->click();
+             }
+             auto* sheet = dialog.findChild<QDDrawView*>();
+             const QSizeF size = sheet->bufferSize();
+             sheet->setRadius(24);
+             for (int i = 0; i < 3; ++i) {
+                 Session::drawOn(*sheet, [&](double t) {
+                     return std::pair(
+                         QPointF(size.width() * (0.1 + 0.8 * t), size.height() * (0.25 + 0.25 * i)),
+                         std::sin(std::numbers::pi * t) * (i + 1) / 3);
+                 });
+             }
+         });
+     }},
     {"keys", 1, "dark", {1024, 700}, [](Session& session) { return session.dialog("edit.shortcuts"); }},
 };
 
