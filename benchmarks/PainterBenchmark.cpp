@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QPainter>
 #include <QPointingDevice>
 #include <QSettings>
 #include <QTabletEvent>
@@ -12,6 +13,7 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Tools/CanvasFill.h"
 #include "Viewport/CanvasViewport.h"
 #include "Window/MainWindow.h"
 #include "support/Measuring.h"
@@ -115,6 +117,38 @@ void startUp(benchmark::State& state) {
     }
 }
 BENCHMARK(startUp)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+
+// A click of the fill tool on a large picture that lines go all over, with the step for undo.
+void fill(benchmark::State& state) {
+    const int side = static_cast<int>(state.range(0));
+    const auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, side, side));
+    QImage picture(side, side, QImage::Format_RGBA8888_Premultiplied);
+    picture.fill(Qt::white);
+    {
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Qt::black, 3));
+        for (int i = 0; i < side; i += 64) {
+            painter.drawLine(i, i % 128 ? 0 : 40, i + 20, side - (i % 128 ? 40 : 0));
+        }
+    }
+    canvas->setImageInBufferRect(picture, picture.rect());
+    canvas->displayImage();
+    Rounds rounds;
+    bool red = false;
+    for (auto _ : state) {
+        red = !red;
+        state.SetIterationTime(rounds.time([&] {
+            fillCanvas(*canvas, {30, side / 2}, red ? Qt::red : Qt::white, 32);
+            canvas->displayImage();
+        }));
+    }
+    if (canvas->image().pixelColor(side - 3, 3) != QColor(red ? Qt::red : Qt::white)) {
+        state.SkipWithError("the other end was not filled");
+    }
+    state.SetLabel(canvas->rendererName().toStdString());
+}
+BENCHMARK(fill)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(4096)->Iterations(6);
 
 }  // namespace
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long a painter waits for dabpainter: from its start until its window is painted, with the brushes that come with it and
+// How long a painter waits for dabpainter as a program, its libraries and all: from its start until its window is painted, with the brushes that come with it and
 // settings of its own. Offscreen unless QT_QPA_PLATFORM says otherwise.
 #include <benchmark/benchmark.h>
 

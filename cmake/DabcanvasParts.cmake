@@ -89,7 +89,8 @@ dabcanvas_part(QUICK "the item for QML" PARTS CANVAS TARGETS Qt6::Quick)
 dabcanvas_part(DESIGNER "the widget's plug-in for Qt Designer" PARTS VIEW TARGETS Qt6::UiPlugin)
 dabcanvas_part(TOOL "dabpaint, the command-line tool" ONLY_WITH DABCANVAS_BUILD_APPS
     PARTS RECORDING TARGETS CLI11::CLI11)
-dabcanvas_part(PAINTER "dabpainter, the painting application" ONLY_WITH DABCANVAS_BUILD_APPS PARTS VIEW)
+dabcanvas_part(PAINTER "dabpainter, the painting application" ONLY_WITH DABCANVAS_BUILD_APPS
+    PARTS VIEW RECORDING)
 
 set(DABCANVAS_HAVE_EGL OFF)
 if(DABCANVAS_HAS_RENDER AND DABCANVAS_WITH_EGL)

@@ -8,9 +8,11 @@
 #include <QSizeF>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "Brushes/BrushProperties.h"
 #include "Dabs/Symmetry.h"
+#include "History/LayerSettings.h"
 #include "Recognition/ShapeRecord.h"
 
 namespace dabcanvas {
@@ -39,6 +41,26 @@ struct InputImage {
     bool replaces = false;
     bool isUndo = false;
     InputLimits limits;
+};
+
+/// What was done to the layers of a canvas, by the call of CanvasLayers that it names.
+struct InputLayerEdit {
+    enum class Kind : std::uint8_t { add, duplicate, remove, move, merge, set, activate };
+    Kind kind = Kind::activate;
+    int layer = 0;             ///< the call's first number
+    int to = 0;                ///< move
+    LayerSettings settings{};  ///< add, set
+    QImage picture{};          ///< add; null: transparent
+};
+
+/// All layers of a canvas, the lowest one first.
+struct InputLayers {
+    struct One {
+        LayerSettings settings;
+        QImage picture;  ///< as pictureSet() has it
+    };
+    std::vector<One> all;
+    int active = 0;
 };
 
 /// What enters a canvas, call by call: what a recording is made of. A canvas tells a listener of it,
@@ -89,6 +111,11 @@ public:
     /// too, so that steps to come lead back to it; else no step that can be told of does. False when it could not be
     /// taken.
     virtual bool pictureSet(const QImage& picture, bool isStep) = 0;
+
+    /// The same of a canvas of several layers, or of one of which there is more to say.
+    [[nodiscard]] virtual bool layersSet(const InputLayers& layers, bool isStep) = 0;
+    /// False when it could not be done.
+    [[nodiscard]] virtual bool layersEdited(const InputLayerEdit& edit) = 0;
 
     /// The buffer became this area of itself. False when it could not be.
     [[nodiscard]] virtual bool areaSet(const QRect& area) = 0;

@@ -12,6 +12,8 @@
 namespace dabcanvas {
 namespace {
 
+using Told = InputLayerEdit::Kind;
+
 struct Plane {
     Layer layer;
     TilePicture picture;
@@ -75,8 +77,8 @@ auto& CanvasLayers::parts() const {
 
 // Has `change(Planes&, std::size_t* front)` change the layers; it gives false where it cannot.
 template <typename Change>
-bool CanvasLayers::edit(const Change& change) {
-    return parts().editLayers([&](const TilePicture& present) -> std::optional<TilePicture> {
+bool CanvasLayers::edit(const InputLayerEdit& told, const Change& change) {
+    return parts().editLayers(told, [&](const TilePicture& present) -> std::optional<TilePicture> {
         Planes planes = planesOf(present);
         std::size_t front = present.shape().front;
         return change(planes, &front) ? std::optional(wholeOf(planes, present.shape().size, front))
@@ -118,23 +120,27 @@ bool CanvasLayers::setSettings(int layer, const LayerSettings& settings) {
         return false;
     }
     const auto at = static_cast<std::size_t>(layer);
-    return shape().layer(at).settings == *sound || edit([&](Planes& planes, std::size_t*) {
+    return shape().layer(at).settings == *sound ||
+           edit({.kind = Told::set, .layer = layer, .settings = *sound}, [&](Planes& planes, std::size_t*) {
                planes[at].layer.settings = *sound;
                return true;
            });
 }
 
 bool CanvasLayers::insert(int layer, const LayerSettings& settings, const QImage& rows) {
-    return edit([&](Planes& planes, std::size_t* front) {
-        RecordedCanvas& record = parts().record;
-        const Size& size = shape().size;
-        *front = static_cast<std::size_t>(layer);
-        TilePicture picture = rows.isNull()
-                                  ? TilePicture(size)
-                                  : record.planeOf({rows.constBits(), size, rows.bytesPerLine(), 4});
-        planes.insert(planes.begin() + layer, {{record.planes().newId(), settings}, std::move(picture)});
-        return true;
-    });
+    return edit(
+        {.kind = Told::add, .layer = layer, .settings = settings, .picture = rows},
+        [&](Planes& planes, std::size_t* front) {
+            RecordedCanvas& record = parts().record;
+            const Size& size = shape().size;
+            *front = static_cast<std::size_t>(layer);
+            TilePicture picture =
+                rows.isNull()
+                    ? TilePicture(size)
+                    : record.planeOf({rows.constBits(), size, rows.bytesPerLine(), rows.depth() / 8});
+            planes.insert(planes.begin() + layer, {{record.planes().newId(), settings}, std::move(picture)});
+            return true;
+        });
 }
 
 bool CanvasLayers::mayAdd(int layer) const {
@@ -151,8 +157,11 @@ bool CanvasLayers::add(int layer, const LayerSettings& settings, const QImage& p
         return false;
     }
     const Size& size = shape().size;
-    const QImage rows =
-        picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied).copy(0, 0, size.width, size.height);
+    const bool isDeep = picture.depth() > 32 && parts().layers.surface().pixelBytes() == 8;
+    const QImage rows = picture
+                            .convertToFormat(isDeep ? QImage::Format_RGBA64_Premultiplied
+                                                    : QImage::Format_RGBA8888_Premultiplied)
+                            .copy(0, 0, size.width, size.height);
     if (!picture.isNull() && rows.isNull()) {
         qCWarning(lcDabcanvas, "there is no memory for the picture of a layer");
         return false;
@@ -161,7 +170,8 @@ bool CanvasLayers::add(int layer, const LayerSettings& settings, const QImage& p
 }
 
 bool CanvasLayers::duplicate(int layer) {
-    return has(layer) && mayAdd(layer + 1) && edit([&](Planes& planes, std::size_t* front) {
+    return has(layer) && mayAdd(layer + 1) &&
+           edit({.kind = Told::duplicate, .layer = layer}, [&](Planes& planes, std::size_t* front) {
                Plane plane = planes[static_cast<std::size_t>(layer)];
                plane.layer.id = parts().record.planes().newId();
                *front = static_cast<std::size_t>(layer) + 1;
@@ -174,7 +184,7 @@ bool CanvasLayers::remove(int layer) {
     if (!has(layer) || count() == 1) {
         return false;
     }
-    return edit([&](Planes& planes, std::size_t* front) {
+    return edit({.kind = Told::remove, .layer = layer}, [&](Planes& planes, std::size_t* front) {
         planes.erase(planes.begin() + layer);
         const auto at = static_cast<std::size_t>(layer);
         *front = *front > at || (*front == at && at > 0) ? *front - 1 : *front;
@@ -186,7 +196,8 @@ bool CanvasLayers::move(int from, int to) {
     if (!has(from) || !has(to)) {
         return false;
     }
-    return from == to || edit([&](Planes& planes, std::size_t* front) {
+    return from == to ||
+           edit({.kind = Told::move, .layer = from, .to = to}, [&](Planes& planes, std::size_t* front) {
                const std::uint32_t active = planes[*front].layer.id;
                const auto first = planes.begin() + std::min(from, to),
                           last = planes.begin() + std::max(from, to) + 1;
@@ -204,7 +215,7 @@ bool CanvasLayers::mergeDown(int layer) {
         qCWarning(lcDabcanvas, "layer %d cannot be merged with one below", layer);
         return false;
     }
-    return edit([&](Planes& planes, std::size_t* front) {
+    return edit({.kind = Told::merge, .layer = layer}, [&](Planes& planes, std::size_t* front) {
         const auto at = static_cast<std::size_t>(layer);
         const int pixelBytes = parts().layers.surface().pixelBytes();
         if (!merge(planes[at], planes[at - 1], *parts().record.tiles(), pixelBytes)) {
@@ -215,6 +226,26 @@ bool CanvasLayers::mergeDown(int layer) {
         *front -= *front >= at ? 1 : 0;
         return true;
     });
+}
+
+bool CanvasLayers::take(const InputLayerEdit& edit) {
+    switch (edit.kind) {
+        case Told::add:
+            return add(edit.layer, edit.settings, edit.picture);
+        case Told::duplicate:
+            return duplicate(edit.layer);
+        case Told::remove:
+            return remove(edit.layer);
+        case Told::move:
+            return move(edit.layer, edit.to);
+        case Told::merge:
+            return mergeDown(edit.layer);
+        case Told::set:
+            return setSettings(edit.layer, edit.settings);
+        case Told::activate:
+            break;
+    }
+    return setActive(edit.layer);
 }
 
 // ---- Looking
@@ -237,6 +268,10 @@ QImage CanvasLayers::flattened() {
     return canvas.imageBy(shape().size, [&](const MutablePixelView& rows) {
         return canvas.layers.look(canvas.layers.whole(), rows);
     });
+}
+
+QImage CanvasLayers::deepImage(int layer) {
+    return has(layer) ? parts().pictureOf(static_cast<std::size_t>(layer)) : QImage();
 }
 
 }  // namespace dabcanvas

@@ -10,6 +10,7 @@ class QDDrawCanvas;
 
 namespace dabcanvas {
 
+struct InputLayerEdit;
 struct PictureShape;
 
 /// The layers of a canvas, each a picture as large as the canvas, the lowest one first. A canvas is made with one.
@@ -23,7 +24,7 @@ struct PictureShape;
 /// Undo     all of them are a step: whatever changes here is recorded as strokes are, when autoMark() is on or
 ///          markAction() is called. Which one is active is no step; undo leaves it, unless there is no such layer then.
 /// Numbers  0 to count() - 1; they change with the order, and with steps.
-/// Recorded not yet: a canvas that somebody listens to, see setInputListener(), has one layer and keeps it.
+/// Told     to whoever listens, see setInputListener(): what was done, once it is.
 /// Life     a handle, to be made anew for each use: canvas.layers(). Of no use once the canvas is gone.
 /// Thread   the canvas's.
 /// Errors   false or null, after a log line, and nothing changed: in mid-stroke, for a number that no layer has, without
@@ -53,10 +54,15 @@ public:
 
     QImage image(int layer);  ///< premultiplied RGBA
     QImage flattened();       ///< the same of all of them together
+    /// With all bits of a canvas of 16 bits a channel, RGBA64; else image(). add() takes them, too.
+    QImage deepImage(int layer);
+
+    /// What another canvas told.
+    bool take(const InputLayerEdit& edit);
 
 private:
     template <typename Change>
-    bool edit(const Change& change);
+    bool edit(const InputLayerEdit& told, const Change& change);
     bool insert(int layer, const LayerSettings& settings, const QImage& rows);
     bool has(int layer) const;
     bool mayAdd(int layer) const;

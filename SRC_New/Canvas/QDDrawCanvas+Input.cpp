@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Canvas/CanvasLayers.h"
 #include "Canvas/CanvasLog.h"
 #include "Canvas/QDDrawCanvasParts.h"
 
@@ -50,10 +51,6 @@ bool QDDrawCanvas::Parts::listen(CanvasInput* hears) {
         qCWarning(lcDabcanvas, "nobody can begin to listen in mid-stroke or to a canvas that is lost");
         return false;
     }
-    if (!record.planes().isPlain()) {
-        qCWarning(lcDabcanvas, "a canvas of several layers cannot be listened to");
-        return false;
-    }
     const bool isKnown = history.isMade() && !isUnrecorded();
     const bool isAsMade = !history.isMade() && !isUnrecorded() && layers.painted().isEmpty();
     history.images(true);  // what a change of size records depends on whether there is one
@@ -79,17 +76,42 @@ bool QDDrawCanvas::Parts::tellPicture(bool isStep) {
         return true;
     }
     layers.settle();
-    const int pixelBytes = layers.surface().pixelBytes();
-    QImage picture(layers.size().width, layers.size().height, formatOf(pixelBytes));
-    if (picture.isNull() ||
-        !read(layers.whole(), {picture.bits(), layers.size(), picture.bytesPerLine(), pixelBytes})) {
+    const auto all = allLayers();
+    if (!all) {
         qCWarning(lcDabcanvas, "the canvas cannot be read for its listener");
         return false;
     }
-    if (isBlank(picture)) {
-        picture = QImage();
+    const QImage& front = all->all[static_cast<std::size_t>(all->active)].picture;
+    return putPicture(front) && (record.planes().isPlain() ? listener->pictureSet(front, isStep)
+                                                           : listener->layersSet(*all, isStep));
+}
+
+QImage QDDrawCanvas::Parts::pictureOf(std::size_t layer) {
+    const Host::Call call(host);
+    const int pixelBytes = layers.surface().pixelBytes();
+    QImage picture(layers.size().width, layers.size().height, formatOf(pixelBytes));
+    if (picture.isNull() || !finishPreview()) {
+        return {};
     }
-    return putPicture(picture) && listener->pictureSet(picture, isStep);
+    const MutablePixelView rows{picture.bits(), layers.size(), picture.bytesPerLine(), pixelBytes};
+    const LayerPlanes& planes = record.planes();
+    const bool isRead =
+        layer == planes.shape().front ? read(layers.whole(), rows) : planes.others()[layer].read(rows);
+    return isRead ? picture : QImage();
+}
+
+// Blank ones are null.
+std::optional<InputLayers> QDDrawCanvas::Parts::allLayers() {
+    const PictureShape& shape = record.planes().shape();
+    InputLayers all{.all = {}, .active = static_cast<int>(shape.front)};
+    for (std::size_t layer = 0; layer < shape.planes(); ++layer) {
+        const QImage picture = pictureOf(layer);
+        if (picture.isNull()) {
+            return std::nullopt;
+        }
+        all.all.push_back({shape.layer(layer).settings, isBlank(picture) ? QImage() : picture});
+    }
+    return all;
 }
 
 bool QDDrawCanvas::Parts::putPicture(const QImage& picture) {
@@ -107,6 +129,32 @@ bool QDDrawCanvas::Parts::putPicture(const QImage& picture) {
     const QImage rows = picture.convertToFormat(formatOf(pixelBytes));
     return Size{rows.width(), rows.height()} == layers.size() &&
            layers.paint(layers.whole(), {rows.constBits(), layers.size(), rows.bytesPerLine(), pixelBytes});
+}
+
+// Throws std::bad_alloc; nothing has changed then.
+bool QDDrawCanvas::Parts::putLayers(const InputLayers& all) {
+    auto described = std::make_shared<std::vector<Layer>>();
+    LayerPlanes::Others others(all.all.size());
+    PictureShape shape(layers.size());
+    shape.front = static_cast<std::size_t>(all.active);
+    const int pixelBytes = layers.surface().pixelBytes();
+    for (std::size_t layer = 0; layer < all.all.size(); ++layer) {
+        const QImage rows = all.all[layer].picture.convertToFormat(formatOf(pixelBytes));
+        described->push_back({static_cast<std::uint32_t>(layer) + kFirstLayer, all.all[layer].settings});
+        if (layer != shape.front) {
+            others[layer] =
+                rows.isNull()
+                    ? TilePicture(layers.size())
+                    : record.planeOf({rows.constBits(), layers.size(), rows.bytesPerLine(), pixelBytes});
+        }
+    }
+    shape.layers = std::move(described);
+    if (!putPicture(all.all[shape.front].picture)) {
+        return false;
+    }
+    record.becomeLayers(shape, std::move(others));
+    layersChanged();
+    return true;
 }
 
 void QDDrawCanvas::Parts::tellStep(CanvasHistory::Outcome outcome, bool (CanvasInput::*step)()) {
@@ -240,15 +288,50 @@ void QDDrawCanvas::Input::imagePlaced(const InputImage& placed) {
     _parts.place({.image = placed.image, .replaces = placed.replaces}, spot, placed.isUndo);
 }
 
+bool QDDrawCanvas::Input::mayTake() {
+    return !_parts.isDrawing() && _parts.finishPreview() && !_parts.isLost();
+}
+
 bool QDDrawCanvas::Input::pictureSet(const QImage& picture, bool) {
     const Host::Call call(_parts.host);
-    if (_parts.isDrawing() || !_parts.finishPreview() || _parts.isLost()) {
+    if (!mayTake()) {
         return false;
     }
-    const bool isAsMade = picture.isNull() && !_parts.history.isMade() && !_parts.isUnrecorded();
+    const bool wasPlain = _parts.record.planes().isPlain();
+    const bool isAsMade = picture.isNull() && wasPlain && !_parts.history.isMade() && !_parts.isUnrecorded();
     _parts.layers.settle();
     _parts.history.images(true);
-    return _parts.putPicture(picture) && (isAsMade || !_parts.resetHistory().isNull());
+    if (!_parts.putPicture(picture)) {
+        return false;
+    }
+    if (!wasPlain) {
+        _parts.record.becomeLayers(PictureShape(_parts.layers.size()), {});
+        _parts.layersChanged();
+    }
+    return isAsMade || !_parts.resetHistory().isNull();
+}
+
+bool QDDrawCanvas::Input::layersSet(const InputLayers& layers, bool) try {
+    const Host::Call call(_parts.host);
+    const Size size = _parts.layers.size();
+    const auto fits = [&](const InputLayers::One& layer) {
+        return layer.picture.isNull() || layer.picture.size() == QSize(size.width, size.height);
+    };
+    const bool isSound = !layers.all.empty() && layers.all.size() <= kMostLayers && layers.active >= 0 &&
+                         static_cast<std::size_t>(layers.active) < layers.all.size() &&
+                         std::all_of(layers.all.begin(), layers.all.end(), fits);
+    if (!isSound || !mayTake()) {
+        return false;
+    }
+    _parts.layers.settle();
+    _parts.history.images(true);
+    return _parts.putLayers(layers) && !_parts.resetHistory().isNull();
+} catch (const std::bad_alloc&) {
+    return false;
+}
+
+bool QDDrawCanvas::Input::layersEdited(const InputLayerEdit& edit) {
+    return _parts.host.layersOfCanvas().take(edit);
 }
 
 bool QDDrawCanvas::Input::areaSet(const QRect& area) {

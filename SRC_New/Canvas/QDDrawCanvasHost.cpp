@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvasHost.h"
 
 #include <utility>
@@ -148,6 +149,10 @@ void QDDrawCanvas::Host::strokeWasLeft(bool stays) {
     const Call call(*this);
     _strokeStays = stays;
     _strokeWasLeft = true;
+}
+
+dabcanvas::CanvasLayers QDDrawCanvas::Host::layersOfCanvas() const {
+    return dabcanvas::CanvasLayers(_canvas);
 }
 
 // ---- What is told when a call is done

@@ -35,6 +35,7 @@ public:
     };
 
     Host(QDDrawCanvas& canvas, const QRectF& made) : frame(made), _canvas(canvas) {}
+    dabcanvas::CanvasLayers layersOfCanvas() const;
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
 

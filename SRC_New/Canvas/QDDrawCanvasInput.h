@@ -23,6 +23,8 @@ public:
     void cleared(const ESColor& color, bool layersToo) override;
     void imagePlaced(const dabcanvas::InputImage& placed) override;
     bool pictureSet(const QImage& picture, bool isStep) override;
+    bool layersSet(const dabcanvas::InputLayers& layers, bool isStep) override;
+    bool layersEdited(const dabcanvas::InputLayerEdit& edit) override;
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
     void symmetrySet(const dabcanvas::Symmetry& symmetry) override;
@@ -33,6 +35,8 @@ public:
 
 private:
     class Limited;
+
+    bool mayTake();
 
     Parts& _parts;
 };

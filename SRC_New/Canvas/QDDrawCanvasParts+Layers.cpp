@@ -10,16 +10,9 @@ using namespace dabcanvas;
 namespace {
 
 constexpr int kLayersLine = 2310;  // of the fixed message
+constexpr char kInStroke[] = "layers cannot change in mid-stroke";
 
 }  // namespace
-
-bool QDDrawCanvas::Parts::mayEditLayers() {
-    if (listener != nullptr) {
-        qCWarning(lcDabcanvas, "layers cannot change while the canvas is recorded");
-        return false;
-    }
-    return comesToRest("layers cannot change in mid-stroke");
-}
 
 void QDDrawCanvas::Parts::layersChanged() {
     const PictureShape& now = record.planes().shape();
@@ -31,9 +24,9 @@ void QDDrawCanvas::Parts::layersChanged() {
     host.layersChanged();
 }
 
-bool QDDrawCanvas::Parts::editLayers(const LayerEdit& edit) try {
+bool QDDrawCanvas::Parts::editLayers(const InputLayerEdit& told, const LayerEdit& edit) try {
     const Host::Call call(host);
-    if (!mayEditLayers()) {
+    if (!comesToRest(kInStroke)) {
         return false;
     }
     if (history.autoMark) {
@@ -54,6 +47,7 @@ bool QDDrawCanvas::Parts::editLayers(const LayerEdit& edit) try {
         qCWarning(lcDabcanvas, "the layers stay as they are: %ls", qUtf16Printable(problem));
         return false;
     }
+    tell([&](CanvasInput& to) { static_cast<void>(to.layersEdited(told)); });
     layers.edits.changed();
     layersChanged();
     redisplay(*changed);
@@ -75,13 +69,17 @@ bool QDDrawCanvas::Parts::setActiveLayer(std::size_t layer) {
     if (layer == record.planes().shape().front) {
         return true;
     }
-    if (!mayEditLayers()) {
+    if (!comesToRest(kInStroke)) {
         return false;
     }
     if (!record.setFront(layer, &problem)) {
         qCWarning(lcDabcanvas, "the layer cannot be had: %ls", qUtf16Printable(problem));
         return false;
     }
+    tell([&](CanvasInput& to) {
+        static_cast<void>(
+            to.layersEdited({.kind = InputLayerEdit::Kind::activate, .layer = static_cast<int>(layer)}));
+    });
     layersChanged();
     if (kind() == StrokeKind::smudge) {
         prepareSmudge();

@@ -202,11 +202,12 @@ void QDDrawCanvas::Parts::showDrawn(const std::optional<Rect>& area, bool online
     if (!area) {
         return;
     }
+    const bool smudged = kind() == StrokeKind::smudge;
     lastTouched = *area;
-    updateImage(online, kind() == StrokeKind::smudge);
+    updateImage(online, smudged);
     for (const Rect& copy : copied) {
         lastTouched = copy;
-        updateImage(online, false);
+        updateImage(online, smudged);
     }
 }
 

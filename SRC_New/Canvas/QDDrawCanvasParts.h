@@ -85,11 +85,12 @@ public:
     dabcanvas::StepPicture redo();
     bool recover(const QString& id, QString* problem);
     bool setArea(const QRect& area);
-    // The canvas becomes what `edit` makes of all of its layers, as a step where steps are recorded. False, and nothing
-    // changed, after a log line; or where edit gives none.
+    // The canvas becomes what `edit` makes of all of its layers, as a step where steps are recorded; that is told as `told`.
+    // False, and nothing changed, after a log line; or where edit gives none.
     using LayerEdit = std::function<std::optional<dabcanvas::TilePicture>(const dabcanvas::TilePicture&)>;
-    bool editLayers(const LayerEdit& edit);
+    bool editLayers(const dabcanvas::InputLayerEdit& told, const LayerEdit& edit);
     bool setActiveLayer(std::size_t layer);
+    void layersChanged();
     dabcanvas::SurfaceOptions presentOptions();
     dabcanvas::UndoRefusal refusal = dabcanvas::UndoRefusal::none;  // of the last of them
     void updateScale();
@@ -103,6 +104,10 @@ public:
     // The canvas's picture, all of it, to whoever listens; and what another canvas told. False when it cannot be.
     bool tellPicture(bool isStep);
     bool putPicture(const QImage& picture);
+    bool putLayers(const dabcanvas::InputLayers& all);
+    // With all the bits that it has; null where it cannot be had.
+    QImage pictureOf(std::size_t layer);
+    std::optional<dabcanvas::InputLayers> allLayers();
     dabcanvas::InputLimits limits() const;
     void setSecondLine(float slRadius, float relationValue);
     void seedRandom(std::uint32_t seed);
@@ -155,8 +160,6 @@ private:
     bool cropTo(const dabcanvas::Rect& area);
     // Between strokes, when all that was drawn is part of the canvas. False in mid-stroke, after this line in the log.
     bool comesToRest(const char* complaint);
-    bool mayEditLayers();
-    void layersChanged();
     void leaveDrawn();
     void showDrawn(const std::optional<dabcanvas::Rect>& area, bool online);
     void endSketch(QPointF place, bool online);

@@ -94,7 +94,7 @@ TilePicture RecordedCanvas::tilesOf(const PixelView& rows, TilePicture picture) 
         const Rect rect = picture.layout().rectOf(index);
         const auto tile = newTile(pixelBytes);
         const MutablePixelView to = rowsOfTile(tile, {rect.width, rect.height}, pixelBytes);
-        pixelBytes == 4 ? copyRows(rows.part(rect), to) : widenRows(rows.part(rect), to);
+        pixelBytes == rows.pixelBytes ? copyRows(rows.part(rect), to) : widenRows(rows.part(rect), to);
         picture.set(index, version({index, tile}, picture.at(index)));
     }
     return picture;

@@ -58,10 +58,12 @@ public:
     // Canvas and background become another picture of their size, and so does this; what is only bytes becomes the front.
     // The area that changed; nothing, and `problem` in words, without the memory or when that picture cannot be had.
     std::optional<Rect> show(const StepPicture& picture, QString* problem, FrontIs front = FrontIs::kept);
-    // A layer of these rows, of 4 bytes a pixel, as large as the canvas. Throws std::bad_alloc.
+    // A layer of these rows, of 4 bytes a pixel or as many as the surface has, as large as the canvas. Throws std::bad_alloc.
     TilePicture planeOf(const PixelView& rows) { return tilesOf(rows, TilePicture(_layers.size())); }
     // Another layer goes into the surface. False, and nothing changed, where it cannot be had.
     bool setFront(std::size_t layer, QString* problem);
+    // Others lie behind and above the front, which stays what it is.
+    void becomeLayers(const PictureShape& shape, LayerPlanes::Others others);
 
 private:
     using Changes = std::vector<std::pair<std::size_t, TileRef>>;
@@ -89,7 +91,6 @@ private:
     LayerPlanes::Others othersIn(TileStore& tiles) const;
     static void changeShown(const TilePicture* from, const TilePicture* to);
     void become(Picture picture);
-    void becomeLayers(const PictureShape& shape, LayerPlanes::Others others);
 
     PaintLayers& _layers;
     std::shared_ptr<TileStore> _tiles;

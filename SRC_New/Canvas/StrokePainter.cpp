@@ -235,17 +235,29 @@ Rect StrokePainter::drawMade(DrawTarget target) {
 Rect StrokePainter::smudgeSome(std::span<const LPPoint> points) {
     SmudgeMaker& smudges = _brush.smudges();
     _madeSmudges.clear();
-    smudges.make(_brush.smudgeDabs(), points.data(), points.size(), [&](const SmudgeDab& dab) {
+    DabBounds bounds{static_cast<double>(_layers.size().width), static_cast<double>(_layers.size().height)};
+    std::vector<DabBounds> ofCopies(_copies.size(), bounds);
+    const auto take = [this](const SmudgeDab& dab, DabBounds& touched) {
+        touched.grow(dab.dab);
         _madeSmudges.push_back(dab);
-        if (dab.bristles.part > 0) {
-            return;
-        }
-        for (const SymmetryMap& copy : _copies) {
-            _madeSmudges.push_back(copy.of(dab));
+    };
+    smudges.make(_brush.smudgeDabs(), points.data(), points.size(), [&](const SmudgeDab& dab) {
+        take(dab, bounds);
+        for (std::size_t i = 0; i < _copies.size() && dab.bristles.part <= 0; ++i) {
+            take(_copies[i].of(dab), ofCopies[i]);
         }
     });
     _clock.stats.dabs += _madeSmudges.size();
-    return _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
+    const Rect touched = _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
+    if (_copies.empty()) {
+        return touched;
+    }
+    // What no dab covered is not exchanged; the layer itself is as coarse as this.
+    constexpr int kReach = 4;
+    for (const DabBounds& copied : ofCopies) {
+        _copied.push_back(copied.pixelsOnBuffer().grownBy(kReach).intersected(touched));
+    }
+    return bounds.pixelsOnBuffer().grownBy(kReach).intersected(touched);
 }
 
 void StrokePainter::setSymmetry(const Symmetry& symmetry) {

@@ -172,10 +172,23 @@ void CanvasRecorder::imagePlaced(const InputImage& placed) {
 
 // ---- The picture and its history
 
-bool CanvasRecorder::pictureSet(const QImage& picture, bool isStep) {
-    add(WholePicture{picture});
+bool CanvasRecorder::addPicture(RecordedWhat what, bool isStep) {
+    add(std::move(what));
     _undoSteps = isStep ? 0 : -1;
     _redoSteps = 0;
+    return true;
+}
+
+bool CanvasRecorder::pictureSet(const QImage& picture, bool isStep) {
+    return addPicture(WholePicture{picture}, isStep);
+}
+
+bool CanvasRecorder::layersSet(const InputLayers& layers, bool isStep) {
+    return addPicture(WholeLayers{layers}, isStep);
+}
+
+bool CanvasRecorder::layersEdited(const InputLayerEdit& edit) {
+    add(LayerChange{edit});
     return true;
 }
 

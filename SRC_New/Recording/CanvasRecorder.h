@@ -53,6 +53,7 @@ private:
     double now() const;
     void add(RecordedWhat what);
     void addSample(const InputSample& sample);
+    bool addPicture(RecordedWhat what, bool isStep);
     void endPart(StrokePart::End end);
 
     void strokeBegan(InputDevice device, const InputSample& sample) override;
@@ -69,6 +70,8 @@ private:
     void cleared(const ESColor& color, bool layersToo) override;
     void imagePlaced(const InputImage& placed) override;
     bool pictureSet(const QImage& picture, bool isStep) override;
+    bool layersSet(const InputLayers& layers, bool isStep) override;
+    bool layersEdited(const InputLayerEdit& edit) override;
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
     void symmetrySet(const Symmetry& symmetry) override;

@@ -15,6 +15,9 @@ namespace {
 
 using Kind = JsonReader::Kind;
 
+constexpr int kMostLayers = 256;
+const QStringList kLayerMembers{"name", "opacity", "blend", "visible", "locksAlpha", "picture"};
+
 bool readFloat(JsonReader& reader, float& value) {
     double number = 0;
     if (!reader.readNumber(number))
@@ -111,11 +114,13 @@ bool EventReader::read(std::vector<RecordedEvent>& events) {
         area,
         view,
         symmetry,
-        call
+        call,
+        layers,
+        layer
     };
-    static const QStringList kMembers{"at",         "stroke", "brush", "secondLine", "seed",
-                                      "repeatable", "clear",  "image", "preview",    "shape",
-                                      "picture",    "area",   "view",  "symmetry",   "do"};
+    static const QStringList kMembers{"at",    "stroke",   "brush",   "secondLine", "seed",    "repeatable",
+                                      "clear", "image",    "preview", "shape",      "picture", "area",
+                                      "view",  "symmetry", "do",      "layers",     "layer"};
     JsonMembers members(_reader, kMembers);
     double time = 0;
     QString name;
@@ -178,6 +183,12 @@ bool EventReader::read(std::vector<RecordedEvent>& events) {
             case call:
                 one<RecordedCall>(events,
                                   [&](RecordedCall& what) { return readWord(_reader, kCallNames, what); });
+                break;
+            case layers:
+                one<WholeLayers>(events, [&](WholeLayers& whole) { return readLayers(whole.layers); });
+                break;
+            case layer:
+                one<LayerChange>(events, [&](LayerChange& change) { return readLayerEdit(change.edit); });
                 break;
             default:
                 return false;
@@ -336,6 +347,65 @@ bool EventReader::readView(ViewChange& change) {
     static const QStringList kMembers{"radian", "mirrored"};
     return JsonMembers(_reader, kMembers).readObject([&](int place) {
         place == radian ? readFloat(_reader, change.radian) : _reader.readBoolean(change.mirrored);
+    });
+}
+
+void EventReader::readOfLayer(int place, LayerSettings& settings, QImage& picture) {
+    enum { name, opacity, blend, visible, locksAlpha };
+    switch (place) {
+        case name:
+            _reader.readText(settings.name);
+            break;
+        case opacity:
+            readFloat(_reader, settings.opacity);
+            break;
+        case blend:
+            readWhole(_reader, 0, std::numeric_limits<std::uint32_t>::max(), settings.blendType);
+            break;
+        case visible:
+            _reader.readBoolean(settings.isVisible);
+            break;
+        case locksAlpha:
+            _reader.readBoolean(settings.locksAlpha);
+            break;
+        default:
+            readPicture(picture);
+    }
+}
+
+bool EventReader::readLayers(InputLayers& layers) {
+    enum { active, all };
+    static const QStringList kMembers{"active", "all"};
+    const bool isRead = JsonMembers(_reader, kMembers).readObject([&](int place) {
+        if (place == active) {
+            readWhole(_reader, 0, kMostLayers - 1, layers.active);
+            return;
+        }
+        for (_reader.beginList(); _reader.nextElement();) {
+            InputLayers::One layer;
+            if (layers.all.size() == std::size_t{kMostLayers})
+                return void(_reader.fail(QStringLiteral("more than %1 layers").arg(kMostLayers)));
+            if (!JsonMembers(_reader, kLayerMembers).readObject([&](int of) {
+                    readOfLayer(of, layer.settings, layer.picture);
+                }))
+                return;
+            layers.all.push_back(std::move(layer));
+        }
+    });
+    return isRead && (std::size_t(layers.active) < layers.all.size() ||
+                      _reader.fail(QStringLiteral("there is no layer %1").arg(layers.active)));
+}
+
+bool EventReader::readLayerEdit(InputLayerEdit& edit) {
+    enum { what, number, to, first };
+    static const QStringList kMembers = QStringList{"do", "number", "to"} + kLayerMembers;
+    return JsonMembers(_reader, kMembers).readObject([&](int place) {
+        if (place == what)
+            readWord(_reader, kLayerEditNames, edit.kind);
+        else if (place < first)
+            readWhole(_reader, 0, kMostLayers, place == to ? edit.to : edit.layer);
+        else
+            readOfLayer(place - first, edit.settings, edit.picture);
     });
 }
 

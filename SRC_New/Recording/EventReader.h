@@ -54,6 +54,10 @@ private:
     bool readView(ViewChange& change);
     bool readSymmetry(Symmetry& symmetry);
     bool readShape(ShapeRecord& shape);
+    bool readLayers(InputLayers& layers);
+    bool readLayerEdit(InputLayerEdit& edit);
+    // A member of a layer, by its place among them.
+    void readOfLayer(int place, LayerSettings& settings, QImage& picture);
     bool readPicture(QImage& image);
     bool readPictures(QList<QImage>& images);
     template <typename What, typename Read>

@@ -30,8 +30,8 @@
 
 namespace dabcanvas {
 
-/// Of the form that is written; a later one is not read.
-inline constexpr int kRecordingVersion = 1;
+/// Of the form that is written; a later one is not read. Since 2 there are layers.
+inline constexpr int kRecordingVersion = 2;
 
 /// What was recorded, on what.
 struct RecordingHeader {
@@ -88,6 +88,14 @@ struct DrawnShape {
 struct WholePicture {
     QImage picture;
 };
+/// The same of a canvas of several layers.
+struct WholeLayers {
+    InputLayers layers;
+};
+/// Something was done to the layers.
+struct LayerChange {
+    InputLayerEdit edit;
+};
 /// A stroke of the live preview came onto the canvas.
 struct PlacedPreview {
     InputLimits limits;
@@ -107,7 +115,7 @@ enum class RecordedCall : std::uint8_t { stepRecorded, historyReset, undone, red
 /// What it was; an InputImage was placed, a Symmetry set.
 using RecordedWhat = std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange,
                                   ClearedCanvas, InputImage, PlacedPreview, DrawnShape, WholePicture,
-                                  AreaChange, ViewChange, Symmetry, RecordedCall>;
+                                  AreaChange, ViewChange, Symmetry, RecordedCall, WholeLayers, LayerChange>;
 
 /// One thing that entered the canvas.
 struct RecordedEvent {

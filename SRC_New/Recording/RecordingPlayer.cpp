@@ -96,15 +96,22 @@ public:
         return true;
     }
     bool operator()(const WholePicture& whole) {
-        const QSize size = _canvas.bufferSize().toSize();
-        const bool fits = whole.picture.isNull() || whole.picture.size() == size;
-        if (fits || scale() != 1)
-            return _to.pictureSet(
-                       fits ? whole.picture
-                            : whole.picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
-                       true) ||
-                   _player.fail(QStringLiteral("the canvas does not take the recorded picture"));
-        return _player.fail(QStringLiteral("a recorded picture has another size than the canvas"));
+        QImage picture;
+        return (fit(whole.picture, picture) && _to.pictureSet(picture, true)) || failPicture();
+    }
+    bool operator()(const WholeLayers& whole) {
+        InputLayers layers = whole.layers;
+        return (std::all_of(layers.all.begin(), layers.all.end(),
+                            [this](InputLayers::One& layer) { return fit(layer.picture, layer.picture); }) &&
+                _to.layersSet(layers, true)) ||
+               failPicture();
+    }
+    bool operator()(const LayerChange& change) {
+        InputLayerEdit edit = change.edit;
+        if (!edit.picture.isNull() && scale() != 1)
+            edit.picture = scaledBy(edit.picture, edit.picture.size() * scale());
+        return _to.layersEdited(edit) ||
+               _player.fail(QStringLiteral("the canvas does not take a recorded change of its layers"));
     }
     bool operator()(const AreaChange& change) {
         const auto scaledSide = [this](int pixels) { return int(std::lround(pixels * scale())); };
@@ -146,6 +153,21 @@ private:
         if (const auto box = limits.scissor)
             limits.scissor = QRectF(box->topLeft() * scale(), box->size() * scale());
         return limits;
+    }
+
+    static QImage scaledBy(const QImage& picture, const QSize& size) {
+        return picture.scaled(size.expandedTo(QSize(1, 1)), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    // As large as the canvas; false where it should be and is not.
+    bool fit(const QImage& picture, QImage& fitting) const {
+        const QSize size = _canvas.bufferSize().toSize();
+        const bool fits = picture.isNull() || picture.size() == size;
+        fitting = fits ? picture : scaledBy(picture, size);
+        return fits || scale() != 1;
+    }
+    bool failPicture() {
+        return _player.fail(
+            QStringLiteral("the canvas does not take the recorded picture, or it has another size"));
     }
 
     RecordingPlayer& _player;

@@ -194,6 +194,32 @@ public:
         text += '}';
     }
     void operator()(const WholePicture& whole) { picture("picture", whole.picture); }
+    void operator()(const WholeLayers& whole) {
+        open(text, "layers", '{');
+        member(text, "active", whole.layers.active);
+        open(text, "all", '[');
+        for (const InputLayers::One& layer : whole.layers.all) {
+            text += text.back() == '[' ? "{" : ",{";
+            settings(layer.settings);
+            picture("picture", layer.picture);
+            text += '}';
+        }
+        text += "]}";
+    }
+    void operator()(const LayerChange& change) {
+        const InputLayerEdit& edit = change.edit;
+        using Kind = InputLayerEdit::Kind;
+        open(text, "layer", '{');
+        member(text, "do", QString::fromLatin1(kLayerEditNames[std::size_t(edit.kind)]));
+        member(text, "number", edit.layer);
+        if (edit.kind == Kind::move)
+            member(text, "to", edit.to);
+        if (edit.kind == Kind::add || edit.kind == Kind::set)
+            settings(edit.settings);
+        if (edit.kind == Kind::add && !edit.picture.isNull())
+            picture("picture", edit.picture);
+        text += '}';
+    }
     void operator()(const AreaChange& change) {
         open(text, "area", '[');
         text.pop_back();
@@ -221,6 +247,20 @@ public:
     std::string text;
 
 private:
+    // Those that are other than a new layer's.
+    void settings(const LayerSettings& settings) {
+        const LayerSettings usual;
+        if (settings.name != usual.name)
+            member(text, "name", settings.name);
+        if (settings.opacity != usual.opacity)
+            member(text, "opacity", settings.opacity);
+        if (settings.blendType != usual.blendType)
+            member(text, "blend", settings.blendType);
+        if (!settings.isVisible)
+            member(text, "visible", false);
+        if (settings.locksAlpha)
+            member(text, "locksAlpha", true);
+    }
     void limits(const InputLimits& limits) {
         if (limits.neglects)
             member(text, "neglects", true);

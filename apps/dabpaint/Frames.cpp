@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
 #include "OutputFile.h"
 #include "OutputPattern.h"
@@ -29,7 +30,7 @@ QString Frames::strokePainted(QDDrawCanvas& canvas) {
     ++_strokes;
     _isNew = true;
     const qint64 every = _options.every > 0 ? _options.every : _timelapse ? 1 : 0;
-    return every > 0 && _strokes % every == 0 ? add(onBackground(canvas.image())) : QString();
+    return every > 0 && _strokes % every == 0 ? add(onBackground(canvas.layers().flattened())) : QString();
 }
 
 QString Frames::add(const QImage& image) {

@@ -7,23 +7,12 @@
 #include <memory>
 #include <optional>
 
+#include "FrameTaker.h"
 #include "PaintCommand.h"
 
 class QDDrawCanvas;
 
 namespace dabcanvas::dabpaint {
-
-// Takes the frames of a timelapse, one after another.
-class FrameTaker {
-public:
-    virtual ~FrameTaker() = default;
-    // Both give the message when it could not be done.
-    virtual QString add(const QImage& frame) = 0;
-    virtual QString finish() = 0;
-};
-
-// An animated WebP, or for any other name a folder of numbered PNG files. The message where that cannot be.
-QString makeFrameTaker(const QString& path, std::unique_ptr<FrameTaker>& taker);
 
 class Frames {
 public:

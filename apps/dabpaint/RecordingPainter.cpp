@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Canvas/CanvasLayers.h"
 #include "Painting.h"
 #include "Progress.h"
 #include "Recording/RecordingPlayer.h"
@@ -61,7 +62,7 @@ QString paintRecording(const PaintOptions& options, const Job& job, Frames& fram
     const QString wrong = playAll(options, job, paints, frames);
     if (!wrong.isEmpty())
         return wrong;
-    painting = {paints.image(), paints.strokeStats(), paints.rendererName()};
+    painting = {paints.layers().flattened(), paints.strokeStats(), paints.rendererName()};
     if (painting.image.isNull())
         return QStringLiteral("the canvas could not be read back");
     painting.image = frames.onBackground(painting.image);

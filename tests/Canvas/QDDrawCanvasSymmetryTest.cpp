@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copies of strokes, mirrored and turned.
 #include <QTransform>
+#include <array>
 
 #include "History/ImagesUndoManager.h"
 #include "support/CanvasTest.h"
@@ -25,6 +26,7 @@ QImage unevenTip() {
 }
 
 void takeBrush(QDDrawCanvas& canvas, bool smudges) {
+    canvas.setTextureType(0);
     canvas.setTextureImages({unevenTip()});
     canvas.setRadius(36);
     canvas.setRadian(0.3f);
@@ -40,15 +42,20 @@ void takeBrush(QDDrawCanvas& canvas, bool smudges) {
     }
 }
 
-int farthest(const QImage& a, const QImage& b) {
-    int most = 0;
+// Of all channels, the largest difference but for a few.
+int farthest(const QImage& a, const QImage& b, int few = 0) {
+    std::array<int, 256> counts{};
     for (int y = 0; y < a.height(); ++y) {
         const uchar *one = a.constScanLine(y), *other = b.constScanLine(y);
         for (int i = 0; i < 4 * a.width(); ++i) {
-            most = std::max(most, std::abs(one[i] - other[i]));
+            ++counts[static_cast<std::size_t>(std::abs(one[i] - other[i]))];
         }
     }
-    return most;
+    std::size_t most = 255;
+    for (int left = few; most > 0 && counts[most] <= left; --most) {
+        left -= counts[most];
+    }
+    return static_cast<int>(most);
 }
 
 QImage turned(const QImage& image, double degrees) {
@@ -109,7 +116,10 @@ TEST_P(CanvasSymmetryTest, ThePictureIsItsOwnImage) {
     const QImage after = canvas->image();
     EXPECT_GT(farthest(before, after), 60);
     for (const auto& imageOf : row.same) {
-        EXPECT_LE(farthest(after, imageOf(after)), 1);
+        // Rounding goes by the place: what lies at a whole number may come out beside it on both sides.
+        const QImage image = imageOf(after);
+        EXPECT_LE(farthest(after, image, 16), 1);
+        EXPECT_LE(farthest(after, image), 2);
     }
     EXPECT_FALSE(canvas->undo().isNull());
     EXPECT_EQ(canvas->image(), before);
@@ -130,17 +140,28 @@ using CanvasSymmetryOffTest = CanvasTest;
 
 TEST_F(CanvasSymmetryOffTest, TheStrokeItselfIsWhatItIsWithout) {
     for (const SurfaceKind surface : {SurfaceKind::processor, SurfaceKind::gpu}) {
+        for (const bool smudges : {true, false}) {
+            auto plain = makeCanvas(kSide, kSide, surface), mirrored = makeCanvas(kSide, kSide, surface);
+            mirrored->setSymmetry({SymmetryKind::vertical, 100, 100});
+            for (QDDrawCanvas* canvas : {plain.get(), mirrored.get()}) {
+                canvas->setImage(unevenTip(), QRectF(0, 0, kSide, kSide));
+                takeBrush(*canvas, smudges);
+                beginThrough(*canvas, {{30, 20}, {50, 60}});
+                canvas->displayImage();
+                canvas->drawingWithEndPoint({60, 150});
+            }
+            const QRect half(0, 0, 90, kSide);
+            EXPECT_LE(farthest(plain->image().copy(half), mirrored->image().copy(half)), 1) << smudges;
+        }
+    }
+}
+
+TEST_F(CanvasSymmetryOffTest, CopiesReachTheCanvasFromBesideIt) {
+    for (const SurfaceKind surface : {SurfaceKind::processor, SurfaceKind::gpu}) {
         auto plain = makeCanvas(kSide, kSide, surface), mirrored = makeCanvas(kSide, kSide, surface);
         takeBrush(*plain, false);
         takeBrush(*mirrored, false);
         mirrored->setSymmetry({SymmetryKind::vertical, 100, 100});
-        for (QDDrawCanvas* canvas : {plain.get(), mirrored.get()}) {
-            paintThrough(*canvas, {{30, 20}, {50, 60}, {60, 150}});
-        }
-        EXPECT_LE(farthest(plain->image().copy(0, 0, 100, kSide), mirrored->image().copy(0, 0, 100, kSide)),
-                  1);
-        // A stroke beside the canvas may have its copy on it.
-        mirrored->clear();
         mirrored->displayImage();
         paintThrough(*mirrored, {{230, 20}, {250, 60}, {260, 150}});
         EXPECT_EQ(farthest(mirrored->image(), solidImage({kSide, kSide})), 0);

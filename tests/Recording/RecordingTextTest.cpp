@@ -41,8 +41,9 @@ TEST(RecordingTextTest, HeadersAreChecked) {
     EXPECT_FALSE(isRecording("{\"strokes\": []}"));
     EXPECT_EQ(told(kHeader), "");
     EXPECT_EQ(told(""), "R: the recording is empty");
-    EXPECT_THAT(told(QByteArray(kHeader).replace(":1,", ":2,")),
-                ::testing::HasSubstr("of version 2; this program reads"));
+    EXPECT_EQ(told(QByteArray(kHeader).replace(":1,", ":2,")), "");
+    EXPECT_THAT(told(QByteArray(kHeader).replace(":1,", ":3,")),
+                ::testing::HasSubstr("of version 3; this program reads"));
     EXPECT_THAT(told(QByteArray(kHeader).replace("64", "0")), ::testing::HasSubstr("R:1: width: expected"));
     EXPECT_THAT(told(QByteArray(kHeader).replace("\"height\":48,", "")),
                 ::testing::HasSubstr("needs version, width"));

@@ -112,6 +112,19 @@ TEST(OpenRasterTest, OurOwnComeBackAsTheyWere) {
     EXPECT_EQ(one->layers().active(), other->layers().active());
     EXPECT_EQ(one->layers().flattened(), other->layers().flattened());
 
+    LayeredPicture deep = before, again;
+    deep.layers[0].image = everyPixel().convertToFormat(QImage::Format_RGBA64_Premultiplied);
+    for (qsizetype i = 0; i < 256 * 256; ++i)  // what 8 bits do not have
+        deep.layers[0].image.bits()[8 * i] /= 2;
+    const auto whole = QDDrawCanvas::initWithFrame(QRectF(0, 0, 256, 256), {.canvasDepth = depthOf(deep)});
+    ASSERT_TRUE(showLayers(deep, *whole) && readLayers(*whole, deep));
+    QByteArray ofDeep;
+    ASSERT_EQ(writeOpenRaster(deep, ofDeep), QString());
+    again = readBytes(ofDeep).picture;
+    ASSERT_EQ(depthOf(again), 16);
+    EXPECT_EQ(again.layers[0].image,
+              deep.layers[0].image.copy(QRect(again.layers[0].at, again.layers[0].image.size())));
+
     QBuffer buffer(&bytes);
     ASSERT_TRUE(buffer.open(QIODevice::ReadOnly));
     EXPECT_EQ(readMerged(buffer).convertToFormat(QImage::Format_RGBA8888_Premultiplied), before.merged);

@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <algorithm>
+
+#include "Tools/ToolIcons.h"
+
 namespace dabcanvas::dabpainter {
 
 namespace {
@@ -31,6 +36,36 @@ TEST(ThemeTest, EveryTextCanBeRead) {
         }
     }
     EXPECT_NEAR(contrastOf(Qt::black, Qt::white), 21, 1e-9);
+}
+
+TEST(ThemeTest, ChoicesHoldAtOnceAndIconsFollow) {
+    const QPalette before = QApplication::palette();
+    const QIcon icon = toolIcon(ToolSign::fill);
+    const auto lightest = [&](QIcon::Mode mode) {
+        const QImage image = icon.pixmap(QSize(48, 48), mode).toImage();
+        int most = 0;
+        for (int i = 0; i < 48 * 48; ++i) {
+            const QColor color = image.pixelColor(i % 48, i / 48);
+            most = std::max(most, color.alpha() == 255 ? color.lightness() : 0);
+        }
+        return most;
+    };
+    {
+        Theme theme;
+        for (const ThemeChoice choice : {ThemeChoice::dark, ThemeChoice::light, ThemeChoice::dark}) {
+            theme.setChoice(choice);
+            const QPalette wanted = choice == ThemeChoice::dark ? darkPalette() : lightPalette();
+            for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Disabled}) {
+                const QColor text = wanted.color(group, QPalette::ButtonText);
+                EXPECT_EQ(QApplication::palette().color(group, QPalette::ButtonText), text);
+                EXPECT_EQ(lightest(group == QPalette::Active ? QIcon::Normal : QIcon::Disabled),
+                          text.lightness());
+            }
+        }
+        theme.setChoice(ThemeChoice::system);
+        EXPECT_EQ(theme.isDark(), before.color(QPalette::Window).lightness() < 128);
+    }
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), before.color(QPalette::Window));
 }
 
 }  // namespace

@@ -81,6 +81,12 @@ TEST_F(ToolBarsTest, SlidersFollowTheBrushAndMoveIt) {
     }
 }
 
+TEST_F(ToolBarsTest, TipsTellTheKeysThatTheUserChose) {
+    EXPECT_EQ(command("tool.fill")->toolTip(), "Fill (G)");
+    _window->commands().setKeys(*_window->commands().find("tool.fill"), {QKeySequence("Ctrl+F")});
+    EXPECT_EQ(command("tool.fill")->toolTip(), "Fill (Ctrl+F)");
+}
+
 // Also where the words are long: of a screen of 1920 x 1080 at 1.5 there are 1280 x 720 points, less what the desktop takes.
 TEST_F(ToolBarsTest, TheWindowFitsASmallScreen) {
     const QSize least = _window->minimumSizeHint();

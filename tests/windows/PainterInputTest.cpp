@@ -12,6 +12,8 @@
 #include <map>
 #include <string>
 
+#include "Selection/SelectionEditor.h"
+#include "Selection/SelectionTool.h"
 #include "Viewport/CanvasPointer.h"
 #include "dabpainter/PainterTest.h"
 
@@ -343,6 +345,31 @@ TEST_F(PainterInputTest, TwoFingersThatTapUndoThreeRedoAndATwistTurns) {
     EXPECT_EQ(_window->view()->image(), after);
     _window->viewport().fit();
     EXPECT_EQ(_window->view()->viewRotation(), 0);
+}
+
+// A drag moves what is selected, by whatever hand; none paints meanwhile, and each paints once it was put down.
+TEST_F(PainterInputTest, EveryHandSelects) {
+    SelectionEditor& editor = _window->selection();
+    SelectionTool& tool = *_window->findChild<SelectionTool*>();
+    for (const Hand hand : kHands) {
+        for (const End how : {End::released, End::lost}) {
+            SCOPED_TRACE(nameOf(hand));
+            blank();
+            const QImage before = _window->view()->image();
+            tool.setKind(SelectionTool::Kind::lasso);
+            editor.selectAll();
+            press(hand);
+            drag(hand, 0.1, 0.5);
+            end(hand, how);
+            ASSERT_TRUE(editor.floating());
+            EXPECT_NEAR(editor.floating()->bounds().left(), 0.4 * before.width(), 1);
+            EXPECT_EQ(_window->view()->image(), before);
+            editor.giveUp();
+            tool.setKind(SelectionTool::Kind::none);
+            EXPECT_EQ(_window->view()->image(), before);
+            EXPECT_TRUE(paints(hand));
+        }
+    }
 }
 
 }  // namespace

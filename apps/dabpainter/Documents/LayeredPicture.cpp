@@ -2,6 +2,7 @@
 #include "Documents/LayeredPicture.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
@@ -25,13 +26,19 @@ QImage onCanvas(const PictureLayer& layer, const QSize& size) {
 
 }  // namespace
 
+int depthOf(const LayeredPicture& picture) {
+    const bool isDeep = std::any_of(picture.layers.begin(), picture.layers.end(),
+                                    [](const PictureLayer& layer) { return layer.image.depth() > 32; });
+    return isDeep ? 16 : 8;
+}
+
 bool readLayers(QDDrawCanvas& canvas, LayeredPicture& picture) {
     auto layers = canvas.layers();
     picture.size = canvas.bufferSize().toSize();
     picture.active = layers.active();
     picture.layers.clear();
     for (int layer = 0; layer < layers.count(); ++layer) {
-        picture.layers.push_back({layers.settings(layer), {}, layers.image(layer)});
+        picture.layers.push_back({layers.settings(layer), {}, layers.deepImage(layer)});
         if (picture.layers.back().image.isNull())
             return false;
     }

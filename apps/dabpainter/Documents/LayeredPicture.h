@@ -28,6 +28,8 @@ struct LayeredPicture {
     QImage merged;  // what all of them look like together; null where nobody has put them together
 };
 
+// Of the canvas that it takes, in bits a channel.
+int depthOf(const LayeredPicture& picture);
 // False where a layer cannot be read, for want of memory.
 bool readLayers(QDDrawCanvas& canvas, LayeredPicture& picture);
 // The canvas's layers become these. False where there is no memory for them.

@@ -27,6 +27,21 @@ QSize pngSize(const QByteArray& head) {
     return width > kMostSide || height > kMostSide ? QSize(kMostSide + 1, 1) : QSize(int(width), int(height));
 }
 
+// As a canvas takes it; of 16 bits a channel, Qt's own conversion loses some.
+QImage premultiplied(const QImage& image) {
+    if (image.depth() <= 32)
+        return image.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    QImage deep = image.convertToFormat(QImage::Format_RGBA64);
+    for (int y = 0; y < deep.height(); ++y) {
+        auto* row = reinterpret_cast<quint16*>(deep.scanLine(y));
+        for (int i = 0; i < 4 * deep.width(); ++i) {
+            if (i % 4 != 3)
+                row[i] = quint16((row[i] * quint64{row[i | 3]} + 32767) / 65535);
+        }
+    }
+    return deep.reinterpretAsFormat(QImage::Format_RGBA64_Premultiplied) ? deep : QImage();
+}
+
 class RasterReader {
 public:
     explicit RasterReader(QIODevice& device) : _zip(device) {}
@@ -93,10 +108,7 @@ bool RasterReader::readLayer(const StackedLayer& from) {
                                              : tr("the picture of its layer \"%1\" is missing or damaged")
                                                    .arg(from.settings.name.left(64)));
     const QRect there = QRect(from.at, image.size()) & QRect(QPoint(), _stack.size);
-    const auto format =
-        image.depth() > 32 ? QImage::Format_RGBA64_Premultiplied : QImage::Format_RGBA8888_Premultiplied;
-    const QImage part =
-        there.isEmpty() ? QImage() : image.copy(there.translated(-from.at)).convertToFormat(format);
+    const QImage part = there.isEmpty() ? QImage() : premultiplied(image.copy(there.translated(-from.at)));
     if (part.isNull() && !there.isEmpty())
         return fail(tr("out of memory"));
     auto& layers = _result.picture.layers;

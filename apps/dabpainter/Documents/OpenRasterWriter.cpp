@@ -49,6 +49,25 @@ QImage thumbnailOf(const QImage& image) {
                               Qt::SmoothTransformation);
 }
 
+// Of 16 bits a channel; Qt's own conversion loses some.
+QImage straightened(const QImage& image) {
+    if (image.format() != QImage::Format_RGBA64_Premultiplied)
+        return image;
+    QImage straight(image.size(), QImage::Format_RGBA64);
+    for (int y = 0; y < straight.height(); ++y) {
+        const auto* from = reinterpret_cast<const quint16*>(image.constScanLine(y));
+        auto* to = reinterpret_cast<quint16*>(straight.scanLine(y));
+        for (int i = 0; i < 4 * image.width(); ++i) {
+            const quint64 alpha = from[i | 3];
+            to[i] = i % 4 == 3 ? from[i]
+                    : alpha == 0
+                        ? quint16(0)
+                        : quint16(std::min<quint64>(65535, (from[i] * quint64{65535} + alpha / 2) / alpha));
+        }
+    }
+    return straight;
+}
+
 class RasterWriter {
 public:
     explicit RasterWriter(QByteArray& bytes)
@@ -67,7 +86,7 @@ private:
 
 bool RasterWriter::addPng(const QString& name, const QImage& image) {
     QByteArray bytes;
-    _fault = encodePicture(image, name, bytes);
+    _fault = encodePicture(straightened(image), name, bytes);
     return _fault.isEmpty() && _zip.add(name, bytes, ZipWriter::As::stored);
 }
 

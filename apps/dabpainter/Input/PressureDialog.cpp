@@ -55,6 +55,7 @@ PressureDialog::PressureDialog(const PressureCurve& now, const BrushModel& brush
     _editor->setPoints(PressurePoints(now));
     _tester->setCurve(now);
     showPressure({});
+    resize(720, 400);
     _editor->setFocus();
 }
 

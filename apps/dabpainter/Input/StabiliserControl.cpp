@@ -54,12 +54,12 @@ StabiliserControl::StabiliserControl(QWidget* parent)
     connect(_kind, &QComboBox::currentIndexChanged, this, &StabiliserControl::take);
     connect(_strength, &QSlider::valueChanged, this, &StabiliserControl::take);
     connect(_finishes, &QToolButton::toggled, this, &StabiliserControl::take);
-    show(_options);
+    showOptions(_options);
 }
 
 void StabiliserControl::setOptions(const StabiliserOptions& options) {
     _options = options;
-    show(options);
+    showOptions(options);
 }
 
 // Each kind keeps its own strength while the other one is chosen.
@@ -73,11 +73,11 @@ void StabiliserControl::take() {
         _options.length = lengthOf(_strength->value());
     _options.kind = kind;
     _options.finishesLine = _finishes->isChecked();
-    show(_options);
+    showOptions(_options);
     emit edited(_options);
 }
 
-void StabiliserControl::show(const StabiliserOptions& options) {
+void StabiliserControl::showOptions(const StabiliserOptions& options) {
     const QScopedValueRollback showing(_showing, true);
     _kind->setCurrentIndex(int(options.kind));
     if (strengthOf(options) != _strength->value())

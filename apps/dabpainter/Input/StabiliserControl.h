@@ -26,7 +26,7 @@ signals:
 
 private:
     void take();
-    void show(const StabiliserOptions& options);
+    void showOptions(const StabiliserOptions& options);
 
     StabiliserOptions _options;
     QComboBox* _kind;

@@ -140,7 +140,7 @@ void PresetBrowser::makeLayout() {
     _list->setFocusPolicy(Qt::TabFocus);
     _list->installEventFilter(this);
     _list->viewport()->installEventFilter(this);
-    _list->setMinimumHeight(90);
+    _list->setMinimumHeight(72);
     _nothing->setAlignment(Qt::AlignCenter);
     _nothing->setWordWrap(true);
     _nothing->setEnabled(false);

@@ -6,6 +6,7 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Documents/ImageFiles.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -205,8 +206,10 @@ const std::vector<SelectionEditor::Seen>& SelectionEditor::seen() {
         // The copy of the layers shows it still where it was.
         for (const QRect& rect : before - region)
             _layers->look(rect, _float->layer(rect));
-        for (const QRect& rect : region)
-            _seen.push_back({rect, _layers->look(rect, _float->layer(rect))});
+        for (const QRect& rect : region) {
+            const QImage look = _layers->look(rect, _float->layer(rect));
+            _seen.push_back({rect, look, isOpaque(look)});
+        }
     }
     return _seen;
 }

@@ -57,6 +57,7 @@ public:
     struct Seen {
         QRect area;  // edges on multiples of kGrid, or the canvas's
         QImage image;
+        bool isOpaque;
     };
     static constexpr int kGrid = 64;
     const std::vector<Seen>& seen();

@@ -125,8 +125,10 @@ void SelectionPane::paintSeen(QPainter& painter) {
         outline.addPolygon(toView.map(QPolygonF(area)));
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing, isTurned);
-        painter.setBrushOrigin(origin);
-        painter.fillPath(outline, checkerBrush());
+        if (!seen.isOpaque) {  // else its smooth edge would show the ground
+            painter.setBrushOrigin(origin);
+            painter.fillPath(outline, checkerBrush());
+        }
         painter.setRenderHint(QPainter::SmoothPixmapTransform, zoom != 1 && (zoom < kSquares || isTurned));
         painter.setTransform(toView, true);
         const QImage image = halved(seen.image, zoom);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
@@ -30,6 +31,12 @@ public:
 
     // selected: how much of the pixel, up to 255.
     void put(std::uint8_t* pixel, int cover, int selected) const {
+        if (cover == 255 && selected == 255 && !_locksAlpha) {  // nearly always
+            const std::uint8_t whole[4] = {std::uint8_t(_color[0]), std::uint8_t(_color[1]),
+                                           std::uint8_t(_color[2]), 255};
+            std::memcpy(pixel, whole, 4);
+            return;
+        }
         const std::uint8_t before[4] = {pixel[0], pixel[1], pixel[2], pixel[3]};
         put(pixel, cover);
         for (int i = 0; i < 4 && selected < 255; ++i)

@@ -51,16 +51,11 @@ private:
         if (_compared[std::size_t(y)])
             return;
         _compared[std::size_t(y)] = true;
-        const auto* from = _picture.constScanLine(y);
+        const std::uint32_t* from = pixels(y);
         std::uint8_t* to = marks(y);
-        std::uint8_t seed[4];
-        std::memcpy(seed, &_seed, 4);
-        for (int x = 0; x < _width; ++x) {
-            int most = 0;
-            for (int i = 0; i < 4; ++i)
-                most = std::max(most, std::abs(from[4 * x + i] - seed[i]));
-            to[x] = most <= _tolerance ? kAlike : kOther;
-        }
+        // Most pixels are the seed's colour, or far from it.
+        for (int x = 0; x < _width; ++x)
+            to[x] = from[x] == _seed || pixelDifference(from[x], _seed) <= _tolerance ? kAlike : kOther;
     }
 
     // All runs that begin or pass between these columns.
@@ -145,13 +140,6 @@ private:
 };
 
 }  // namespace
-
-int pixelDifference(std::uint32_t a, std::uint32_t b) {
-    int most = 0;
-    for (int shift = 0; shift < 32; shift += 8)
-        most = std::max(most, std::abs(int((a >> shift) & 255) - int((b >> shift) & 255)));
-    return most;
-}
 
 FloodMask floodMask(const QImage& picture, QPoint seed, int tolerance) {
     if (picture.depth() != 32 || !picture.rect().contains(seed))

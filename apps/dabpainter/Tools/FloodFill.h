@@ -4,7 +4,9 @@
 #include <QByteArray>
 #include <QImage>
 #include <QRect>
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 
 namespace dabcanvas::dabpainter {
 
@@ -21,7 +23,12 @@ struct FloodMask {
 };
 
 // How much two pixels of premultiplied RGBA differ, in the channel where they differ most: 0 to 255.
-int pixelDifference(std::uint32_t a, std::uint32_t b);
+inline int pixelDifference(std::uint32_t a, std::uint32_t b) {
+    int most = 0;
+    for (int shift = 0; shift < 32; shift += 8)
+        most = std::max(most, std::abs(int((a >> shift) & 255) - int((b >> shift) & 255)));
+    return most;
+}
 
 // What hangs together with the seed and differs from it by the tolerance at most, 0 to 255. The picture has 32 bits a pixel;
 // nothing for a seed that is not on it.

@@ -11,6 +11,7 @@
 #include <QInputDevice>
 #include <QLabel>
 #include <QLocale>
+#include <QMetaEnum>
 #include <QPlainTextEdit>
 #include <QPointingDevice>
 #include <QPushButton>
@@ -46,7 +47,10 @@ QString lineOf(const QScreen& screen) {
 }
 
 QString lineOf(const QInputDevice& device) {
-    const QString type = QVariant::fromValue(device.type()).toString();
+    const auto types = QMetaEnum::fromType<QInputDevice::DeviceTypes>();
+    const QString type = QString::fromLatin1(types.valueToKey(int(device.type())));
+    // Some window systems count a name's closing zero to it.
+    const QString name = device.name().remove(QChar(0)).simplified();
     QStringList can;
     if (device.hasCapability(QInputDevice::Capability::Pressure))
         can << QStringLiteral("pressure");
@@ -55,7 +59,7 @@ QString lineOf(const QInputDevice& device) {
     if (device.hasCapability(QInputDevice::Capability::Rotation))
         can << QStringLiteral("rotation");
     return QStringLiteral("Device: %1, %2%3")
-        .arg(device.name().isEmpty() ? QStringLiteral("without a name") : device.name(), type,
+        .arg(name.isEmpty() ? QStringLiteral("without a name") : name, type,
              can.isEmpty() ? QString() : QStringLiteral(", ") + can.join(QStringLiteral(", ")));
 }
 

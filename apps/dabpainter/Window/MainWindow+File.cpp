@@ -20,6 +20,7 @@
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PulledString.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
 #include "Window/MainWindow.h"
@@ -91,8 +92,10 @@ bool MainWindow::replaceCanvas(QSize size, int depth, const std::function<bool(Q
     QDDrawView& next = *made;
     _document.begin(next, origin);
     _selection->setCanvas(nullptr);
+    _session.stop();
     _viewport->setView(std::move(made));
     watchView();
+    recordCanvas();
     return true;
 }
 
@@ -103,6 +106,7 @@ void MainWindow::watchView() {
     _lossesKnown.clear();
     _lines->watchView();
     _symmetry->watchView();
+    _string->watchView();
     _layers->setView(now);
     _fill->watch(now);
     _colours->setView(now);
@@ -184,7 +188,7 @@ bool MainWindow::openImage(const QString& path) {
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
     const bool opened =
-        replaceCanvas(read.picture.size, 8, [&](QDDrawView& view) { return showLayers(read.picture, view); },
+        replaceCanvas(read.picture.size, depthOf(read.picture), [&](QDDrawView& view) { return showLayers(read.picture, view); },
                       {.path = QFileInfo(path).absoluteFilePath(),
                        .plan = {read.picture.size, paperOf(read.picture)},
                        .copy = _autosave->takeName(),
@@ -311,6 +315,7 @@ bool MainWindow::saveAs(const QString& suggested) {
 }
 
 bool MainWindow::mayDiscard() {
+    finishEdits();
     if (!isUnsaved())
         return true;
     switch (_prompts.askUnsaved(this, _document.name())) {

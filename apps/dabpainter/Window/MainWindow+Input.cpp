@@ -17,6 +17,7 @@
 #include "Input/StabiliserControl.h"
 #include "Presets/PresetBrowser.h"
 #include "QDEAGLView/QDDrawView.h"
+#include "Tools/ToolIcons.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/SymmetryGuide.h"
@@ -41,13 +42,13 @@ QKeySequence key(const char* text) {
 
 void MainWindow::addCanvasSizes(QMenu* menu) {
     addTo(menu, "canvas.size", tr("Canvas &Size…"), {}, [this] {
-        _pointer->endStroke();
+        finishEdits();
         CanvasSizeDialog dialog(view()->bufferSize().toSize(), this);
         while (dialog.exec() == QDialog::Accepted && !takeCanvasArea(dialog.area())) {
         }
     });
-    addTo(menu, "canvas.crop", tr("C&rop to Drawn"), {}, [this] {
-        _pointer->endStroke();
+    addTo(menu, "canvas.crop", tr("Crop &to Drawn"), {}, [this] {
+        finishEdits();
         const QRect drawn = drawnArea(view()->layers().flattened(), _document.plan().background);
         if (drawn.isEmpty())
             statusBar()->showMessage(tr("Nothing is drawn"), kMessageTime);
@@ -83,13 +84,13 @@ void MainWindow::addTurns(QMenu* menu) {
             [this, mirror] { mirror->setChecked(_viewport->isMirrored()); });
     new TurnDrag(*_viewport,
                  *_commands->addHeld(QStringLiteral("view.dragTurn"), menu->title().remove(QLatin1Char('&')),
-                                     tr("Turn by Dragging"), key("T")));
+                                     tr("Turn by Dragging"), key("Q")));
 }
 
 // ---- Pressure and a steady hand
 
 void MainWindow::addPen(QMenu* menu) {
-    addTo(menu, "canvas.pressure", tr("Pen P&ressure…"), {}, [this] {
+    addTo(menu, "canvas.pressure", tr("Pen Pr&essure…"), {}, [this] {
         _pointer->endStroke();
         PressureDialog dialog(_settings.pressure(), _brush, this);
         if (dialog.exec() == QDialog::Accepted)
@@ -99,6 +100,7 @@ void MainWindow::addPen(QMenu* menu) {
     _pointer->setPressure(_settings.pressure());
 
     auto* control = new StabiliserControl;
+    control->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);  // the bar has more to hold
     auto* bar = new QToolBar(tr("Steady hand"));
     bar->setObjectName(QStringLiteral("stabiliserBar"));
     bar->addWidget(control);
@@ -140,6 +142,8 @@ void MainWindow::addSymmetry(QMenu* canvasMenu) {
     addSymmetryOptions(menu);
     auto* button = new QToolButton;
     button->setText(tr("Symmetry"));
+    button->setIcon(toolIcon(ToolSign::symmetry));
+    button->setIconSize(QSize(20, 20));
     button->setToolTip(tr("Draws copies of every stroke, mirrored or turned"));
     button->setPopupMode(QToolButton::InstantPopup);
     button->setMenu(menu);

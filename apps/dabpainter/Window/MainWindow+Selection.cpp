@@ -56,7 +56,7 @@ void MainWindow::makeSelectMenu() {
         connect(_selectionTool, &SelectionTool::kindChanged, action,
                 [this, action, kind] { action->setChecked(_selectionTool->kind() == kind); });
     };
-    addTool(Kind::rectangle, "select.rectangle", tr("&Rectangle"), "R");
+    addTool(Kind::rectangle, "select.rectangle", tr("&Rectangle"), "A");
     addTool(Kind::lasso, "select.lasso", tr("&Lasso"), "L");
 }
 

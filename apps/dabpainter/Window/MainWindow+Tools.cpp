@@ -37,7 +37,7 @@ constexpr int kIconSide = 20;
 QAction* MainWindow::addTool(QMenu* menu, const char* name, const QString& text, const char* keys,
                              Tool tool) {
     QAction* action = addTo(menu, name, text, {QKeySequence(QString::fromLatin1(keys))}, [this, tool] {
-        _pointer->endStroke();
+        finishEdits();
         tool == Tool::eraser ? _tools->toggleEraser() : _tools->choose(tool);
     });
     action->setCheckable(true);
@@ -65,7 +65,7 @@ void MainWindow::makeToolMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Tools"));
     addTool(menu, "tool.brush", tr("&Brush"), "B", Tool::brush)->setIcon(toolIcon(ToolSign::brush));
     addTool(menu, "tool.eraser", tr("E&raser"), "E", Tool::eraser)->setIcon(toolIcon(ToolSign::eraser));
-    addTool(menu, "tool.smudge", tr("&Smudge"), "S", Tool::smudge)->setIcon(toolIcon(ToolSign::smudge));
+    addTool(menu, "tool.smudge", tr("&Smudge"), "U", Tool::smudge)->setIcon(toolIcon(ToolSign::smudge));
     addTool(menu, "tool.fill", tr("&Fill"), "G", Tool::fill)->setIcon(toolIcon(ToolSign::fill));
     addTool(menu, "brush.pick", tr("&Eyedropper"), "I", Tool::pick)->setIcon(toolIcon(ToolSign::pick));
     menu->addSeparator();
@@ -76,7 +76,6 @@ void MainWindow::makeToolMenu() {
     connect(_shapes, &QAction::toggled, this, &MainWindow::recogniseShapes);
 }
 
-// In the menus signs would stand beside some words only.
 void MainWindow::makeToolBars() {
     _toolBar = new QToolBar(tr("Tools"));
     _toolBar->setObjectName(QStringLiteral("toolBar"));
@@ -110,6 +109,12 @@ void MainWindow::makeToolBars() {
         addToolBar(Qt::TopToolBarArea, other);
     }
 
+    // In the menus they would stand beside some words only.
+    for (QAction* action : _toolBar->actions() + _brushBar->actions())
+        action->setIconVisibleInMenu(false);
+
+    connect(_commands, &Commands::keysChanged, this, &MainWindow::tellKeys);
+
     _fill = new FillPointer(this);
     connect(_fill, &FillPointer::fillAt, this, &MainWindow::fillAt);
     connect(_pointer, &CanvasPointer::tapped, this, [this](QPointF at) {
@@ -130,6 +135,20 @@ void MainWindow::makeToolBars() {
     connect(_presets, &PresetBrowser::chosenByPointer, _tools, &Tools::brushWasChosen);
     connect(_tools, &Tools::changed, this, &MainWindow::showTool);
     showTool(_tools->tool());
+}
+
+// By their tips, as the bars show no words.
+void MainWindow::tellKeys() {
+    for (QAction* action : _toolBar->actions() + _brushBar->actions()) {
+        if (action->text().isEmpty())
+            continue;
+        QString tip = action == _shapes
+                          ? tr("Strokes become the line, polygon, ellipse, arc or arrow they are meant as")
+                          : action->text().remove(QLatin1Char('&'));
+        if (!action->shortcut().isEmpty())
+            tip += QStringLiteral(" (%1)").arg(action->shortcut().toString(QKeySequence::NativeText));
+        action->setToolTip(tip);
+    }
 }
 
 void MainWindow::showTool(Tool tool) {

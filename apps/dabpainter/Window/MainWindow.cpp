@@ -13,6 +13,8 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStatusBar>
 #include <utility>
@@ -35,6 +37,7 @@
 #include "Viewport/CanvasStatus.h"
 #include "Viewport/CanvasViewport.h"
 #include "Viewport/ColorPicker.h"
+#include "Viewport/PulledString.h"
 #include "Viewport/SizeDrag.h"
 #include "Viewport/StraightLines.h"
 #include "Viewport/SymmetryGuide.h"
@@ -59,6 +62,19 @@ bool endsTyping(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Escape;
 }
 
+// What does not fit into a low window scrolls, instead of making the window high.
+QWidget* scrolled(QWidget* panel) {
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(panel);
+    scroll->setMinimumWidth(panel->minimumSizeHint().width() +
+                            scroll->verticalScrollBar()->sizeHint().width());
+    return scroll;
+}
+
 }  // namespace
 
 MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folders, const QString& copies)
@@ -80,15 +96,17 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     _panel = new BrushPanel(_brush, _prompts);
     _dock = addDock(tr("Brush settings"), QStringLiteral("brushDock"), _panel);
     _layers = new LayerPanel;
-    _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), _layers);
+    _layerDock = addDock(tr("Layers"), QStringLiteral("layerDock"), scrolled(_layers));
     tabifyDockWidget(_layerDock, _dock);
     _dock->raise();
     resizeDocks({_colourDock, _presetDock, _dock}, {3, 3, 4}, Qt::Vertical);
     _symmetry = new SymmetryGuide(*_viewport);
+    _string = new PulledString(*_viewport, *_pointer);
     _status = new CanvasStatus(*statusBar(), *_viewport, *_pointer);
     setAcceptDrops(true);
 
-    makeSelection();
+    _lines = new StraightLines(*_viewport);
+    makeSelection();  // which hears of presses before those do, and after held keys
     makeFileMenu();
     makeEditMenu();
     makeSelectMenu();
@@ -96,9 +114,9 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
     makeToolMenu();
     makeBrushMenu();
     makeViewMenu();
+    makeRecordingMenu();
     makeHelpMenu();
     new SizeDrag(*_viewport, *cursor, _brush, *_sizing);
-    _lines = new StraightLines(*_viewport);
     makeToolBars();
     showDocument();
     readState();
@@ -139,7 +157,6 @@ void MainWindow::connectParts() {
     connect(_commands, &Commands::keysChanged, &_settings, &PainterSettings::noteChange);
     connect(_recent, &RecentFiles::changed, &_settings, &PainterSettings::noteChange);
     connect(_recent, &RecentFiles::chosen, this, [this](const QString& path) {
-        _pointer->endStroke();
         if (mayDiscard())
             openImage(path);
     });
@@ -149,6 +166,7 @@ void MainWindow::connectParts() {
 }
 
 MainWindow::~MainWindow() {
+    _session.stop();
     _document.end();
     _selection->setCanvas(nullptr);
     delete _selectionTool;
@@ -302,6 +320,7 @@ void MainWindow::readState() {
     restoreState(file.value(QStringLiteral("window/state")).toByteArray(), kStateVersion);
     _panel->readState(file);
     _commands->read(file);
+    tellKeys();
     _recent->read(file);
 }
 

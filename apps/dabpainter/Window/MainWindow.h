@@ -11,6 +11,7 @@
 #include "Documents/LeftPictures.h"
 #include "History/StepPicture.h"
 #include "Presets/PresetLibrary.h"
+#include "Recording/SessionRecorder.h"
 #include "Window/PainterSettings.h"
 #include "Window/Prompts.h"
 
@@ -36,6 +37,7 @@ class FillPointer;
 class LayerPanel;
 class PresetBrowser;
 class RecentFiles;
+class PulledString;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
@@ -105,6 +107,11 @@ private:
     void makeToolMenu();
     void makeBrushMenu();
     void makeViewMenu();
+    // MainWindow+Recording.cpp
+    void makeRecordingMenu();
+    void recordCanvas();
+    void exportRecording();
+    void exportTimelapse();
     // To these menus: see MainWindow+Input.cpp
     void addCanvasSizes(QMenu* menu);
     bool takeCanvasArea(const QRect& area);
@@ -157,6 +164,7 @@ private:
     void recogniseShapes(bool on);
     QAction* addTool(QMenu* menu, const char* name, const QString& text, const char* keys, Tool tool);
     void showTool(Tool tool);
+    void tellKeys();
     void fillAt(QPointF viewPoint);
     void zoomBy(double factor);
     void toggleFullScreen();
@@ -180,6 +188,7 @@ private:
     SymmetryGuide* _symmetry;
     Tools* _tools;
     FillPointer* _fill;
+    PulledString* _string;
     BrushPanel* _panel;
     QToolBar* _toolBar;
     BrushBar* _brushBar;
@@ -189,6 +198,8 @@ private:
     SelectionEditor* _selection;
     SelectionTool* _selectionTool;
     QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
+    SessionRecorder _session;
+    QAction* _record;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;

@@ -12,7 +12,8 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr char kSteps[] = "history/steps", kSurface[] = "canvas/surface", kTouch[] = "pointer/touch",
-               kPressure[] = "pointer/pressure", kTheme[] = "window/theme", kTolerance[] = "fill/tolerance";
+               kPressure[] = "pointer/pressure", kTheme[] = "window/theme", kTolerance[] = "fill/tolerance",
+               kRecords[] = "recording/on";
 constexpr int kDefaultSteps = 100, kDefaultTolerance = 32;
 constexpr int kWriteDelay = 1000;  // milliseconds from a change to the file
 
@@ -72,6 +73,14 @@ PressureCurve PainterSettings::pressure() const {
 void PainterSettings::setPressure(const PressureCurve& curve) {
     set(kPressure, PressurePoints(curve).text());
     emit pressureChanged(curve);
+}
+
+bool PainterSettings::records() const {
+    return _file.value(QLatin1String(kRecords), false).toBool();
+}
+
+void PainterSettings::setRecords(bool records) {
+    set(kRecords, records);
 }
 
 ThemeChoice PainterSettings::theme() const {

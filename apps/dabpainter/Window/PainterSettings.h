@@ -37,6 +37,9 @@ public:
     int tolerance() const;  // of fills, 0 to 255
     void setTolerance(int tolerance);
 
+    bool records() const;  // what is painted
+    void setRecords(bool records);
+
     // What others remember: called when it is due to be written.
     void addWriter(std::function<void(QSettings&)> write) { _writers.push_back(std::move(write)); }
     // Something that they write has changed.

@@ -15,6 +15,7 @@
 #include "Brush/BrushDrops.h"
 #include "Documents/ImageFiles.h"
 #include "Documents/LeftPicturesDialog.h"
+#include "WebpPicture.h"
 #include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
@@ -174,6 +175,19 @@ QString pickPaletteName(QWidget* parent, const QString& suggested) {
                     QStringLiteral("gpl"));
 }
 
+QString pickRecordingName(QWidget* parent) {
+    return pickName(parent, tr("Export Recording"), QStringLiteral("session.jsonl"),
+                    tr("Recording (*.jsonl)"), QStringLiteral("jsonl"));
+}
+
+// Any other suffix, and none, is a folder.
+QString pickTimelapseName(QWidget* parent) {
+    return pickName(parent, tr("Export Time-Lapse"),
+                    QStringLiteral("session") + (hasWebp() ? QStringLiteral(".webp") : QString()),
+                    tr("Animated WebP (*.webp)") + QStringLiteral(";;") + tr("Folder of pictures (*)"),
+                    QString());
+}
+
 QString askName(QWidget* parent, const QString& title, const QString& suggested) {
     return QInputDialog::getText(parent, title, tr("Name:"), QLineEdit::Normal, suggested);
 }
@@ -199,8 +213,9 @@ std::optional<LeftPicture> pickLeft(QWidget* parent, const LeftPictures& left,
 }  // namespace
 
 Prompts standardPrompts() {
-    return {askUnsaved,  pickImages,    pickSaveName, pickColor, tell,         confirm,         askName,
-            pickBrushes, pickBrushName, showFolder,   pickLeft,  pickPalettes, pickPaletteName, askLoss};
+    return {askUnsaved,      pickImages,  pickSaveName,      pickColor,        tell,     confirm,
+            askName,         pickBrushes, pickBrushName,     showFolder,       pickLeft, pickPalettes,
+            pickPaletteName, askLoss,     pickRecordingName, pickTimelapseName};
 }
 
 }  // namespace dabcanvas::dabpainter

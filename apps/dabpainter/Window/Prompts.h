@@ -37,8 +37,9 @@ struct Prompts {
         pickLeft;
     std::function<QStringList(QWidget*)> pickPalettes;
     std::function<QString(QWidget*, const QString& suggested)>
-        pickPaletteName;                                          // to save as; empty: given up
-    std::function<LossAnswer(QWidget*, Document::Loss)> askLoss;  // in the file that is to be saved
+        pickPaletteName;                                                    // to save as; empty: given up
+    std::function<LossAnswer(QWidget*, Document::Loss)> askLoss;            // in the file that is to be saved
+    std::function<QString(QWidget*)> pickRecordingName, pickTimelapseName;  // empty: given up
 };
 
 // Message boxes and file dialogs of Qt's own.

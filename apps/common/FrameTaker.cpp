@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 // A timelapse as an animated WebP, and as a folder of pictures.
+#include "FrameTaker.h"
+
 #include <QDir>
 #include <QPainter>
+#include <utility>
 
-#include "Frames.h"
 #include "OutputFile.h"
 #include "PictureKinds.h"
 
-#ifdef DABPAINT_HAVE_WEBP
+#ifdef DABCANVAS_HAVE_WEBP
 #include <webp/encode.h>
 #include <webp/mux.h>
 #endif
 
-namespace dabcanvas::dabpaint {
+namespace dabcanvas {
 
 namespace {
 
@@ -40,7 +42,7 @@ private:
     int _count = 0;
 };
 
-#ifdef DABPAINT_HAVE_WEBP
+#ifdef DABCANVAS_HAVE_WEBP
 
 constexpr int kFrameTime = 80, kLastFrameTime = 2000;  // milliseconds
 constexpr float kQuality = 80;
@@ -120,7 +122,7 @@ private:
 
 QString makeFrameTaker(const QString& path, std::unique_ptr<FrameTaker>& taker) {
     if (path.endsWith(QLatin1String(".webp"), Qt::CaseInsensitive)) {
-#ifdef DABPAINT_HAVE_WEBP
+#ifdef DABCANVAS_HAVE_WEBP
         OutputFile file(path);
         if (!file.check())
             return QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString());
@@ -128,7 +130,7 @@ QString makeFrameTaker(const QString& path, std::unique_ptr<FrameTaker>& taker) 
         return {};
 #else
         return QStringLiteral(
-                   "%1: this dabpaint was built without libwebp; --timelapse FOLDER writes pictures")
+                   "%1: this program was built without libwebp; the name of a folder takes pictures")
             .arg(path);
 #endif
     }
@@ -138,4 +140,4 @@ QString makeFrameTaker(const QString& path, std::unique_ptr<FrameTaker>& taker) 
     return {};
 }
 
-}  // namespace dabcanvas::dabpaint
+}  // namespace dabcanvas

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// What the painter records, and what it makes of it.
+#include "Recording/SessionRecorder.h"
+
+#include <QAction>
+#include <QDir>
+#include <QEventLoop>
+#include <QTimer>
+
+#include "Canvas/CanvasLayers.h"
+#include "PainterTest.h"
+#include "Recording/RecordingPlayer.h"
+#include "Recording/RecordingReader.h"
+#include "Recording/TimelapseExport.h"
+#include "Window/Commands.h"
+#include "support/Files.h"
+#include "support/Images.h"
+#include "support/Limits.h"
+
+namespace dabcanvas::dabpainter {
+namespace {
+
+class SessionRecorderTest : public PainterTest {
+protected:
+    void trigger(const char* name) { _window->commands().find(QString::fromLatin1(name))->action->trigger(); }
+    CanvasLayers layers() { return _window->view()->layers(); }
+    static std::vector<QImage> picturesOf(QDDrawCanvas& canvas) {
+        std::vector<QImage> pictures;
+        for (int i = 0; i < canvas.layers().count(); ++i)
+            pictures.push_back(canvas.layers().image(i));
+        return pictures;
+    }
+    Recording exported() {
+        _saveName = path("session.jsonl");
+        trigger("recording.export");
+        const auto recording = readRecording(contentOf(_saveName));
+        EXPECT_TRUE(recording) << recording.problem().text("R").toStdString();
+        return recording ? *recording : Recording();
+    }
+};
+
+TEST_F(SessionRecorderTest, AnExportedSessionPlaysToTheSameBytes) {
+    trigger("recording.export");
+    EXPECT_EQ(_told.size(), 1) << "nothing was recorded";
+    trigger("recording.record");
+    for (const SurfaceKind kind : {SurfaceKind::processor, SurfaceKind::gpu}) {
+        _window->settings().setSurface(kind);
+        ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::yellow, true}));
+        paint();
+        _window->brush().setValue(BrushKey::radius, 44.0f);
+        layers().add(2, {.name = "Ink", .opacity = 0.5f});
+        paint();
+        paint();
+        _window->view()->undo();
+        layers().setActive(0);
+        _window->clearCanvas();
+        paint();
+        const Recording recording = exported();
+        const auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, 200, 150), {.kind = kind});
+        RecordingPlayer player(recording, *canvas);
+        EXPECT_TRUE(player.playAll()) << player.problem().toStdString();
+        EXPECT_TRUE(picturesOf(*canvas) == picturesOf(*_window->view()));
+        EXPECT_EQ(canvas->layers().settings(2), layers().settings(2));
+        paint();
+        EXPECT_GT(exported().events.size(), recording.events.size()) << "it goes on";
+    }
+    EXPECT_EQ(_told.size(), 1);
+    makeWindow();
+    EXPECT_TRUE(_window->commands().find("recording.record")->action->isChecked()) << "it is remembered";
+    EXPECT_FALSE(exported().events.empty());
+}
+
+TEST_F(SessionRecorderTest, ATimelapseShowsEachStrokeUnlessItIsCancelled) {
+    const auto canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, 200, 150), {.kind = SurfaceKind::processor});
+    SessionRecorder session;
+    ASSERT_EQ(session.start(*canvas), QString());
+    for (const double y : {30.0, 70.0, 110.0}) {
+        canvas->drawingWithBeginPoint({20, y});
+        canvas->drawingWithMoveToPoint({90, y + 9});
+        canvas->drawingWithEndPoint({160, y});
+    }
+    session.stop();
+    for (const bool cancels : {false, true}) {
+        const QString folder = path(cancels ? "none" : "frames");
+        TimelapseExport timelapse(session.recorded(), folder);
+        QString fault = "never";
+        QEventLoop loop;
+        QObject::connect(&timelapse, &TimelapseExport::finished, &loop, [&](const QString& what) {
+            fault = what;
+            loop.quit();
+        });
+        QTimer::singleShot(30000, &loop, &QEventLoop::quit);
+        if (cancels)
+            timelapse.cancel();
+        timelapse.start();
+        loop.exec();
+        EXPECT_EQ(fault, QString());
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files).size(), cancels ? 0 : 4) << "one a stroke, and the end";
+    }
+    EXPECT_EQ(QImage(path("frames/000004.png")).convertToFormat(QImage::Format_RGBA8888_Premultiplied),
+              canvas->image());
+    EXPECT_FALSE(painted(QImage(path("frames/000001.png"))).contains(20, 110));
+#ifdef Q_OS_UNIX
+    const QString old = writtenTo(path("old.jsonl"), "old");
+    const FullDisk full;
+    EXPECT_TRUE(session.exportTo(old).contains("cannot be saved"));
+    EXPECT_EQ(contentOf(old), "old");
+#endif
+}
+
+}  // namespace
+}  // namespace dabcanvas::dabpainter
