@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Colour/GimpPalette.h"
 
-#include <QCoreApplication>
 #include <algorithm>
+
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -10,10 +11,6 @@ namespace {
 
 constexpr char kMagic[] = "GIMP Palette";
 constexpr int kMostColumns = 256;
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("GimpPalette", text);
-}
 
 bool isSpace(char c) {
     return c == ' ' || c == '\t';

@@ -1,23 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "Colour/PaletteLibrary.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 
 #include "OutputFile.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
 namespace {
 
 constexpr char kSuffix[] = ".gpl";
-
-QString tr(const char* text) {
-    return QCoreApplication::translate("PaletteLibrary", text);
-}
 
 QString paletteFolder(const QString& brushes) {
     return QDir::cleanPath(brushes + QStringLiteral("/../palettes"));

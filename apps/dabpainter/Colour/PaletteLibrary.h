@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -21,6 +22,8 @@ struct PaletteFile {
 //
 // Errors   a fault is a sentence for the user and empty when all went well; then nothing is half done.
 class PaletteLibrary {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::PaletteLibrary)
+
 public:
     PaletteLibrary(QString own, QStringList installed)
         : _own(std::move(own)), _installed(std::move(installed)) {}

@@ -45,6 +45,8 @@ constexpr int kJpegQuality = 95;
 
 // Of any kind that this program reads.
 class PictureFile {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::PictureFile)
+
 public:
     explicit PictureFile(const QString& path) : _file(path) {}
     // False where there is none; then fault() says why.

@@ -43,6 +43,8 @@ QImage premultiplied(const QImage& image) {
 }
 
 class RasterReader {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::RasterReader)
+
 public:
     explicit RasterReader(QIODevice& device) : _zip(device) {}
 

@@ -57,6 +57,8 @@ bool isWithin(const QString& name) {
 // ---- Reading
 
 class StackReader {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::StackReader)
+
 public:
     explicit StackReader(const QByteArray& xml) : _xml(xml) {}
     RasterStack read();

@@ -69,6 +69,8 @@ QImage straightened(const QImage& image) {
 }
 
 class RasterWriter {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::RasterWriter)
+
 public:
     explicit RasterWriter(QByteArray& bytes)
         : _buffer(&bytes), _zip((_buffer.open(QIODevice::WriteOnly), _buffer)) {}

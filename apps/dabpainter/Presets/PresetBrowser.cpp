@@ -244,6 +244,10 @@ void PresetBrowser::setFavourite(const PresetId& id, bool on) {
     emit stateChanged();
 }
 
+static QString capitalised(const QString& word) {
+    return word.left(1).toUpper() + word.mid(1);
+}
+
 // All, favourites, and the tags that there are.
 void PresetBrowser::listKinds() {
     const QSignalBlocker quiet(_kinds);
@@ -251,7 +255,7 @@ void PresetBrowser::listKinds() {
     _kinds->addItem(tr("All"), QString());
     _kinds->addItem(tr("Favourites"), QString(QLatin1Char('*')));
     for (const QString& tag : _infos.tags(_library.presets()))
-        _kinds->addItem(tag.left(1).toUpper() + tag.mid(1), tag);
+        _kinds->addItem(capitalised(trOfTable(tag)), tag);
     chooseKind();
 }
 
@@ -342,7 +346,8 @@ void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
 void PresetBrowser::showChosen() {
     _changeTimer.stop();
     const bool modified = _brush.isModified();
-    const QString name = _chosen.path.isEmpty() ? tr("Plain") : _chosenName;
+    const Preset* known = _library.find(_chosen);
+    const QString name = _chosen.path.isEmpty() ? tr("Plain") : known ? known->shownName() : _chosenName;
     const QString text = modified ? tr("%1 – modified").arg(name) : name;
     _status->setText(text);
     _status->setToolTip(text);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "Presets/PresetList.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -35,8 +36,11 @@ bool PresetFilter::filterAcceptsRow(int row, const QModelIndex& parent) const {
                           (_kind == Kind::favourites && index.data(PresetListModel::favouriteRole).toBool());
     if (!isOfKind)
         return false;
-    const QString all = index.data().toString() + QLatin1Char(' ') + tags.join(QLatin1Char(' ')) +
-                        QLatin1Char(' ') + index.data(PresetListModel::aboutRole).toString();
+    QStringList texts = tags;
+    for (const QString& tag : tags)
+        texts << trOfTable(tag);
+    texts << index.data().toString() << index.data(PresetListModel::aboutRole).toString();
+    const QString all = texts.join(QLatin1Char(' '));
     const QStringList words = _text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     return std::all_of(words.begin(), words.end(),
                        [&](const QString& word) { return all.contains(word, Qt::CaseInsensitive); });

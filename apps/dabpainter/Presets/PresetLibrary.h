@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Brush/BrushModel.h"
+#include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -34,6 +35,8 @@ struct Preset {
     qint64 size = 0, time = 0;  // of the file, by which a change is noticed
 
     bool operator==(const Preset&) const = default;
+    // The user's are called what the user called them.
+    QString shownName() const { return own ? name : trOfTable(name); }
     // Files are written with one brush, so that those with several stay as they are.
     bool isEditable() const { return own && siblings == 0 && problem.isEmpty(); }
 };

@@ -105,9 +105,9 @@ QString PresetListModel::toolTip(const Preset* preset) const {
     if (!preset)
         return tr("Every setting at its default");
     if (!preset->problem.isEmpty())
-        return tr("\"%1\" cannot be used: %2").arg(preset->name, preset->problem);
+        return tr("\"%1\" cannot be used: %2").arg(preset->shownName(), preset->problem);
     const PresetInfo info = _infos.of(*preset);
-    QStringList lines{preset->name, info.about,
+    QStringList lines{preset->shownName(), trOfTable(info.about),
                       info.author.isEmpty() ? QString() : tr("By %1").arg(info.author),
                       QDir::toNativeSeparators(preset->id.path)};
     lines.removeAll(QString());
@@ -121,7 +121,7 @@ QVariant PresetListModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
         case Qt::AccessibleTextRole:
-            return preset ? preset->name : tr("Plain");
+            return preset ? preset->shownName() : tr("Plain");
         case Qt::ToolTipRole:
             return toolTip(preset);
         case pictureRole:
@@ -139,7 +139,7 @@ QVariant PresetListModel::data(const QModelIndex& index, int role) const {
         case tagsRole:
             return preset ? _infos.of(*preset).tags : QStringList();
         case aboutRole:
-            return preset ? _infos.of(*preset).about : QString();
+            return preset ? trOfTable(_infos.of(*preset).about) : QString();
         default:
             return {};
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QTemporaryFile>
 #include <memory>
@@ -20,6 +21,8 @@ namespace dabcanvas::dabpainter {
 // Thread   the canvas's.
 // Errors   faults in words; empty for none.
 class SessionRecorder {
+    Q_DECLARE_TR_FUNCTIONS(dabcanvas::dabpainter::SessionRecorder)
+
 public:
     // What was recorded so far, as it is now; its file stays as long as anybody holds it.
     struct Recorded {

@@ -187,12 +187,12 @@ bool MainWindow::openImage(const QString& path) {
     const ReadPicture read = readBusily(path, readPictureFile);
     if (!read.fault.isEmpty())
         return tellFault(read.fault);
-    const bool opened =
-        replaceCanvas(read.picture.size, depthOf(read.picture), [&](QDDrawView& view) { return showLayers(read.picture, view); },
-                      {.path = QFileInfo(path).absoluteFilePath(),
-                       .plan = {read.picture.size, paperOf(read.picture)},
-                       .copy = _autosave->takeName(),
-                       .isPart = read.isPart});
+    const bool opened = replaceCanvas(read.picture.size, depthOf(read.picture),
+                                      [&](QDDrawView& view) { return showLayers(read.picture, view); },
+                                      {.path = QFileInfo(path).absoluteFilePath(),
+                                       .plan = {read.picture.size, paperOf(read.picture)},
+                                       .copy = _autosave->takeName(),
+                                       .isPart = read.isPart});
     if (opened)
         _recent->add(path);
     if (opened && !read.warning.isEmpty())

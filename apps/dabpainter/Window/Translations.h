@@ -14,7 +14,7 @@ inline QString tr(const char* text) {
 
 // Of words that stand in the library's tables, and in the brushes that are shipped.
 inline QString trOfTable(const QString& text) {
-    return QCoreApplication::translate("Tables", text.toUtf8().constData());
+    return text.isEmpty() ? text : QCoreApplication::translate("Tables", text.toUtf8().constData());
 }
 
 // Has the application speak it, Qt's own dialogs included; English where there is no catalogue.

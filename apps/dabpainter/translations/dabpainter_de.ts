@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>About</name>
+    <message>
+        <source>About Dabpainter</source>
+        <translation>Über Dabpainter</translation>
+    </message>
+    <message>
+        <source>Dabpainter %1 paints with natural-media brushes. Whoever reports a fault may add this:</source>
+        <translation>Dabpainter %1 malt mit Naturpinseln. Wer einen Fehler meldet, kann dies beifügen:</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
     <name>Tables</name>
     <message>
         <source>A ball that skips a little and lays down more ink where it is pressed.</source>
@@ -1255,34 +1274,6 @@
         <translation>%1 x %2 Pixel sind zu groß: Eine Leinwand hat höchstens %3 Millionen</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened: %2.</source>
-        <translation>„%1“ kann nicht geöffnet werden: %2.</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>Diese Datei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>Es ist keine Datei</translation>
-    </message>
-    <message>
-        <source>permission denied</source>
-        <translation>Zugriff verweigert</translation>
-    </message>
-    <message>
-        <source>it is not an image of a known kind</source>
-        <translation>Es ist kein Bild eines bekannten Formats</translation>
-    </message>
-    <message>
-        <source>it is damaged (%1)</source>
-        <translation>Die Datei ist beschädigt (%1)</translation>
-    </message>
-    <message>
-        <source>out of memory</source>
-        <translation>Nicht genug Arbeitsspeicher</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be saved: %2.</source>
         <translation>„%1“ kann nicht gespeichert werden: %2.</translation>
     </message>
@@ -1338,12 +1329,147 @@
         <source>There is nothing to paint with; the log says what is missing.</source>
         <translation>Es gibt nichts, womit gemalt werden kann; das Protokoll nennt, was fehlt.</translation>
     </message>
+    <message>
+        <source>it is too large</source>
+        <translation>Sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>it does not begin with &quot;GIMP Palette&quot;</source>
+        <translation>Sie beginnt nicht mit „GIMP Palette“</translation>
+    </message>
+    <message>
+        <source>line %1 is no colour of three numbers up to 255</source>
+        <translation>Zeile %1 ist keine Farbe aus drei Zahlen bis 255</translation>
+    </message>
+    <message>
+        <source>it has more than %1 colours</source>
+        <translation>Sie enthält mehr als %1 Farben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2.</source>
+        <translation>„%1“ konnte nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>A canvas of %1 × %2 pixels cannot be had here.</source>
+        <translation>Eine Leinwand von %1 × %2 Pixeln ist hier nicht möglich.</translation>
+    </message>
+    <message>
+        <source>no picture is written as %1; the kinds are %2</source>
+        <translation>Kein Bild wird als %1 geschrieben; möglich sind %2</translation>
+    </message>
+    <message>
+        <source>This kind of file has no layers.</source>
+        <translation>Dieser Dateityp kennt keine Ebenen.</translation>
+    </message>
+    <message>
+        <source>This kind of file cannot be seen through.</source>
+        <translation>Dieser Dateityp kennt keine Transparenz.</translation>
+    </message>
+    <message>
+        <source>It shows all of them together. They stay here as long as this picture is open, and an OpenRaster file keeps them.</source>
+        <translation>Die Datei zeigt alle zusammen. Die Ebenen bleiben, solange dieses Bild geöffnet ist; eine OpenRaster-Datei bewahrt sie.</translation>
+    </message>
+    <message>
+        <source>What is transparent is filled with the paper&apos;s colour. A PNG file keeps it.</source>
+        <translation>Transparentes wird mit der Papierfarbe gefüllt. Eine PNG-Datei bewahrt die Transparenz.</translation>
+    </message>
+    <message>
+        <source>Save Flattened</source>
+        <translation>Vereint speichern</translation>
+    </message>
+    <message>
+        <source>Save Filled</source>
+        <translation>Gefüllt speichern</translation>
+    </message>
+    <message>
+        <source>Save as PNG…</source>
+        <translation>Als PNG speichern…</translation>
+    </message>
+    <message>
+        <source>Save as OpenRaster…</source>
+        <translation>Als OpenRaster speichern…</translation>
+    </message>
+    <message>
+        <source>OpenRaster, with layers (*.ora)</source>
+        <translation>OpenRaster, mit Ebenen (*.ora)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>JPEG-Bild (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>WebP image, lossless (*.webp)</source>
+        <translation>WebP-Bild, verlustfrei (*.webp)</translation>
+    </message>
+    <message>
+        <source>Other images (%1)</source>
+        <translation>Andere Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>Import Palettes</source>
+        <translation>Paletten importieren</translation>
+    </message>
+    <message>
+        <source>GIMP palettes (*.gpl)</source>
+        <translation>GIMP-Paletten (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Palette</source>
+        <translation>Palette exportieren</translation>
+    </message>
+    <message>
+        <source>GIMP palette (*.gpl)</source>
+        <translation>GIMP-Palette (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Recording</source>
+        <translation>Aufnahme exportieren</translation>
+    </message>
+    <message>
+        <source>Recording (*.jsonl)</source>
+        <translation>Aufnahme (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Export Time-Lapse</source>
+        <translation>Zeitraffer exportieren</translation>
+    </message>
+    <message>
+        <source>Animated WebP (*.webp)</source>
+        <translation>Animiertes WebP (*.webp)</translation>
+    </message>
+    <message>
+        <source>Folder of pictures (*)</source>
+        <translation>Ordner mit Bildern (*)</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::BrushBar</name>
+    <message>
+        <source>Tolerance</source>
+        <translation>Toleranz</translation>
+    </message>
+    <message>
+        <source>Brush size and opacity</source>
+        <translation>Pinselgröße und Deckkraft</translation>
+    </message>
+    <message>
+        <source>Size of the brush, by every drag, wheel or arrow key the same part of it</source>
+        <translation>Pinselgröße; Ziehen, Mausrad und Pfeiltasten ändern sie stets um denselben Anteil</translation>
+    </message>
+    <message>
+        <source>Opacity of each stroke</source>
+        <translation>Deckkraft jedes Strichs</translation>
+    </message>
+    <message>
+        <source>How much colours may differ that a fill takes for one</source>
+        <translation>Wie verschieden Farben sein dürfen, die eine Füllung als eine nimmt</translation>
     </message>
 </context>
 <context>
@@ -1389,6 +1515,81 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::CanvasSizeDialog</name>
+    <message>
+        <source>Canvas Size</source>
+        <translation>Leinwandgröße</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>&amp;Breite</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>&amp;Höhe</translation>
+    </message>
+    <message>
+        <source>&amp;Unit</source>
+        <translation>&amp;Einheit</translation>
+    </message>
+    <message>
+        <source>What is there stays</source>
+        <translation>Vorhandenes bleibt</translation>
+    </message>
+    <message>
+        <source>At the top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>At the top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>At the top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>At the left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>In the middle</source>
+        <translation>In der Mitte</translation>
+    </message>
+    <message>
+        <source>At the right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>At the bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>At the bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels; what lies beyond is cut off.</source>
+        <translation>%1 × %2 Pixel; was darüber hinausragt, wird abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels.</source>
+        <translation>%1 × %2 Pixel.</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::CanvasStatus</name>
     <message>
         <source>Shapes</source>
@@ -1406,6 +1607,18 @@
         <source>%1 × %2 px</source>
         <translation>%1 × %2 px</translation>
     </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Gespiegelt</translation>
+    </message>
+    <message>
+        <source>Mirrored, %1</source>
+        <translation>Gespiegelt, %1</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::CanvasViewport</name>
@@ -1419,6 +1632,107 @@
     <message>
         <source>Other (%1)</source>
         <translation>Andere (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorPanel</name>
+    <message>
+        <source>Foreground colour</source>
+        <translation>Vordergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Letzte Farben</translation>
+    </message>
+    <message>
+        <source>%1: what is chosen below</source>
+        <translation>%1: wird unten gewählt</translation>
+    </message>
+    <message>
+        <source>Colour as red, green and blue</source>
+        <translation>Farbe als Rot, Grün und Blau</translation>
+    </message>
+    <message>
+        <source>#rrggbb, #rgb or a name such as teal</source>
+        <translation>#rrggbb, #rgb oder ein Name wie teal</translation>
+    </message>
+    <message>
+        <source>Swap the colours (X)</source>
+        <translation>Farben tauschen (X)</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the canvas (I, or hold Ctrl)</source>
+        <translation>Farbe von der Leinwand aufnehmen (I oder Strg halten)</translation>
+    </message>
+    <message>
+        <source>More to do with colours</source>
+        <translation>Weitere Aktionen für Farben</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Rad</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Regler</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <translation>Paletten</translation>
+    </message>
+    <message>
+        <source>&amp;Eyedropper Takes</source>
+        <translation>&amp;Pipette nimmt</translation>
+    </message>
+    <message>
+        <source>One Pixel</source>
+        <translation>Ein Pixel</translation>
+    </message>
+    <message>
+        <source>Average of %1 × %1 Pixels</source>
+        <translation>Mittel aus %1 × %1 Pixeln</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Recent Colours</source>
+        <translation>Letzte Farben &amp;vergessen</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorSliders</name>
+    <message>
+        <source>Lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>Chroma</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorWheel</name>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Hue: drag, or the arrow keys</source>
+        <translation>Farbton: ziehen oder Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>%1 degrees</source>
+        <translation>%1 Grad</translation>
     </message>
 </context>
 <context>
@@ -1445,6 +1759,10 @@
     <message>
         <source>Untitled</source>
         <translation>Unbenannt</translation>
+    </message>
+    <message>
+        <source>There is no picture to save.</source>
+        <translation>Es gibt kein Bild zu speichern.</translation>
     </message>
 </context>
 <context>
@@ -1607,10 +1925,6 @@
         <translation>Das Bild kann nicht wiederhergestellt werden: %1.</translation>
     </message>
     <message>
-        <source>The image could not be placed; the log says why.</source>
-        <translation>Das Bild konnte nicht platziert werden; das Protokoll nennt den Grund.</translation>
-    </message>
-    <message>
         <source>Saved %1</source>
         <translation>%1 gespeichert</translation>
     </message>
@@ -1621,18 +1935,6 @@
     <message>
         <source>Place Image</source>
         <translation>Bild platzieren</translation>
-    </message>
-    <message>
-        <source>Save the layers as one picture?</source>
-        <translation>Die Ebenen als ein Bild speichern?</translation>
-    </message>
-    <message>
-        <source>The file shows all of them together. They stay here as long as this picture is open.</source>
-        <translation>Die Datei zeigt alle zusammen. Hier bleiben sie erhalten, solange dieses Bild geöffnet ist.</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1689,10 +1991,6 @@
     <message>
         <source>&amp;Keys…</source>
         <translation>&amp;Tastenkürzel…</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Journal</translation>
     </message>
     <message>
         <source>&amp;Canvas</source>
@@ -1791,14 +2089,6 @@
         <translation>&amp;Formen erkennen</translation>
     </message>
     <message>
-        <source>Shapes</source>
-        <translation>Formen</translation>
-    </message>
-    <message>
-        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)</source>
-        <translation>Striche werden zu der Linie, dem Vieleck, der Ellipse, dem Bogen oder dem Pfeil, die gemeint waren (Umschalt+R)</translation>
-    </message>
-    <message>
         <source>&amp;Reset All Settings</source>
         <translation>Alle Einstellungen &amp;zurücksetzen</translation>
     </message>
@@ -1870,6 +2160,254 @@
         <source>Strokes stay as they are drawn</source>
         <translation>Striche bleiben, wie sie gezeichnet sind</translation>
     </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>Farbauftrag</translation>
+    </message>
+    <message>
+        <source>Canvas &amp;Size…</source>
+        <translation>Leinwand&amp;größe…</translation>
+    </message>
+    <message>
+        <source>Crop &amp;to Drawn</source>
+        <translation>Auf Ge&amp;maltes zuschneiden</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn</source>
+        <translation>Nichts ist gezeichnet</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Left</source>
+        <translation>Nach l&amp;inks drehen</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Right</source>
+        <translation>Nach &amp;rechts drehen</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>&amp;Aufrecht</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored</source>
+        <translation>Ge&amp;spiegelt</translation>
+    </message>
+    <message>
+        <source>Turn by Dragging</source>
+        <translation>Drehen durch Ziehen</translation>
+    </message>
+    <message>
+        <source>Pen Pr&amp;essure…</source>
+        <translation>Stift&amp;druck…</translation>
+    </message>
+    <message>
+        <source>Steady hand</source>
+        <translation>Ruhige Hand</translation>
+    </message>
+    <message>
+        <source>S&amp;ymmetry</source>
+        <translation>S&amp;ymmetrie</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message>
+        <source>&amp;Left and Right</source>
+        <translation>&amp;Links und rechts</translation>
+    </message>
+    <message>
+        <source>&amp;Above and Below</source>
+        <translation>&amp;Oben und unten</translation>
+    </message>
+    <message>
+        <source>&amp;Both</source>
+        <translation>&amp;Beides</translation>
+    </message>
+    <message>
+        <source>&amp;Rays</source>
+        <translation>&amp;Strahlen</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>Symmetrie</translation>
+    </message>
+    <message>
+        <source>Draws copies of every stroke, mirrored or turned</source>
+        <translation>Zeichnet Kopien jedes Strichs, gespiegelt oder gedreht</translation>
+    </message>
+    <message>
+        <source>N&amp;umber of Rays…</source>
+        <translation>&amp;Anzahl der Strahlen…</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Strahlen</translation>
+    </message>
+    <message>
+        <source>Rays of the symmetry:</source>
+        <translation>Strahlen der Symmetrie:</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored Rays</source>
+        <translation>&amp;Gespiegelte Strahlen</translation>
+    </message>
+    <message>
+        <source>&amp;Centre Here</source>
+        <translation>&amp;Zentrum hier</translation>
+    </message>
+    <message>
+        <source>Centre in the M&amp;iddle</source>
+        <translation>Zentrum in die &amp;Mitte</translation>
+    </message>
+    <message>
+        <source>&amp;Drag the Centre</source>
+        <translation>Zentrum &amp;verschieben</translation>
+    </message>
+    <message>
+        <source>Open Recen&amp;t</source>
+        <translation>Zuletzt geö&amp;ffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Design</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Painter&apos;s &amp;Guide</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>&amp;About Dabpainter</source>
+        <translation>&amp;Über Dabpainter</translation>
+    </message>
+    <message>
+        <source>&amp;Recording</source>
+        <translation>Au&amp;fnahme</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Aufnehmen</translation>
+    </message>
+    <message>
+        <source>What is painted from here on is kept, to be exported</source>
+        <translation>Was ab jetzt gemalt wird, bleibt für den Export erhalten</translation>
+    </message>
+    <message>
+        <source>&amp;Export Recording…</source>
+        <translation>Aufnahme &amp;exportieren…</translation>
+    </message>
+    <message>
+        <source>Export &amp;Time-Lapse…</source>
+        <translation>&amp;Zeitraffer exportieren…</translation>
+    </message>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 exportiert</translation>
+    </message>
+    <message>
+        <source>Painting the time-lapse…</source>
+        <translation>Der Zeitraffer wird gemalt…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Enter or a double click puts it down, Escape gives it up</source>
+        <translation>Enter oder Doppelklick setzt das Bild ab, Escape verwirft es</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>A&amp;uswahl</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alles</translation>
+    </message>
+    <message>
+        <source>&amp;Rectangle</source>
+        <translation>&amp;Rechteck</translation>
+    </message>
+    <message>
+        <source>&amp;Lasso</source>
+        <translation>&amp;Lasso</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy All &amp;Layers</source>
+        <translation>Alle &amp;Ebenen kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>E&amp;infügen</translation>
+    </message>
+    <message>
+        <source>There is no picture to paste</source>
+        <translation>Es gibt kein Bild zum Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Werkzeuge</translation>
+    </message>
+    <message>
+        <source>E&amp;raser</source>
+        <translation>&amp;Radierer</translation>
+    </message>
+    <message>
+        <source>&amp;Smudge</source>
+        <translation>&amp;Wischen</translation>
+    </message>
+    <message>
+        <source>&amp;Fill</source>
+        <translation>Fü&amp;llen</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as</source>
+        <translation>Striche werden zu der Linie, dem Vieleck, der Ellipse, dem Bogen oder dem Pfeil, der gemeint ist</translation>
+    </message>
+    <message>
+        <source>This layer is hidden: nothing would be seen of it</source>
+        <translation>Diese Ebene ist ausgeblendet: Nichts davon wäre zu sehen</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to fill this</source>
+        <translation>Der Arbeitsspeicher reicht nicht, um dies zu füllen</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
@@ -1915,11 +2453,132 @@
     </message>
 </context>
 <context>
-    <name>dabcanvas::dabpainter::PresetBrowser</name>
+    <name>dabcanvas::dabpainter::PaletteLibrary</name>
     <message>
-        <source>No brush is called so.</source>
-        <translation>Kein Pinsel heißt so.</translation>
+        <source>The folder &quot;%1&quot; could not be made.</source>
+        <translation>Der Ordner „%1“ konnte nicht angelegt werden.</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted: %2.</source>
+        <translation>„%1“ konnte nicht gelöscht werden: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no usable palette: %2.</source>
+        <translation>„%1“ ist keine brauchbare Palettendatei: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PalettePage</name>
+    <message>
+        <source>Colours of the palette</source>
+        <translation>Farben der Palette</translation>
+    </message>
+    <message>
+        <source>No colours yet: + adds the present one.</source>
+        <translation>Noch keine Farben: + fügt die aktuelle hinzu.</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Add the present colour to the palette</source>
+        <translation>Aktuelle Farbe zur Palette hinzufügen</translation>
+    </message>
+    <message>
+        <source>More to do with palettes</source>
+        <translation>Weitere Aktionen für Paletten</translation>
+    </message>
+    <message>
+        <source>&amp;New Palette…</source>
+        <translation>&amp;Neue Palette…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename Palette…</source>
+        <translation>Palette &amp;umbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Palette…</source>
+        <translation>Palette &amp;löschen…</translation>
+    </message>
+    <message>
+        <source>&amp;Import Palettes…</source>
+        <translation>Paletten &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Export Palette…</source>
+        <translation>Palette &amp;exportieren…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Colour…</source>
+        <translation>Farbe u&amp;mbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Colour</source>
+        <translation>Farbe ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Rename Colour</source>
+        <translation>Farbe umbenennen</translation>
+    </message>
+    <message>
+        <source>New Palette</source>
+        <translation>Neue Palette</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>Palette umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete the palette &quot;%1&quot;?</source>
+        <translation>Palette „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>This cannot be taken back.</source>
+        <translation>Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PictureFile</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2.</source>
+        <translation>„%1“ kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>Diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>Es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>it is not an image of a known kind</source>
+        <translation>Es ist kein Bild eines bekannten Formats</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>Die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it is damaged (%1)</source>
+        <translation>Die Datei ist beschädigt (%1)</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>Nicht genug Arbeitsspeicher</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
         <source>Save as &amp;New Brush…</source>
         <translation>Als &amp;neuen Pinsel speichern…</translation>
@@ -2022,6 +2681,30 @@
         <translation>Aus „%1“ konnte nicht übernommen werden:
 %2</translation>
     </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>&amp;Favorit</translation>
+    </message>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>Art der Pinsel</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>Welche Pinsel aufgeführt werden</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>Noch keine Pinsel: Importieren Sie welche über das Menü oben oder speichern Sie die aktuellen Einstellungen als Pinsel.</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2032,6 +2715,25 @@
     <message>
         <source>no preset</source>
         <translation>keine Vorgabe</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetFilter</name>
+    <message>
+        <source>No brush is called &quot;%1&quot;: clear the search.</source>
+        <translation>Kein Pinsel heißt „%1“: Leeren Sie die Suche.</translation>
+    </message>
+    <message>
+        <source>None of these is called &quot;%1&quot;: clear the search, or show all brushes.</source>
+        <translation>Keiner davon heißt „%1“: Leeren Sie die Suche oder zeigen Sie alle Pinsel.</translation>
+    </message>
+    <message>
+        <source>No favourites yet: a click on the star of a brush makes it one, or * in the list.</source>
+        <translation>Noch keine Favoriten: Ein Klick auf den Stern eines Pinsels oder * in der Liste macht ihn dazu.</translation>
+    </message>
+    <message>
+        <source>No brush is of this kind: show all brushes.</source>
+        <translation>Kein Pinsel ist von dieser Art: Zeigen Sie alle Pinsel.</translation>
     </message>
 </context>
 <context>
@@ -2091,12 +2793,175 @@
         <source>Plain</source>
         <translation>Standard</translation>
     </message>
+    <message>
+        <source>By %1</source>
+        <translation>Von %1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureCurveEditor</name>
+    <message>
+        <source>Pressure curve</source>
+        <translation>Druckkurve</translation>
+    </message>
+    <message>
+        <source>Arrows move a point, Ctrl with left and right chooses one, Insert adds one, Delete takes it away</source>
+        <translation>Pfeiltasten bewegen einen Punkt, Strg mit links und rechts wählt einen, Insert fügt einen hinzu, Delete entfernt ihn</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureDialog</name>
+    <message>
+        <source>Pen Pressure</source>
+        <translation>Stiftdruck</translation>
+    </message>
+    <message>
+        <source>Clear the &amp;Sheet</source>
+        <translation>&amp;Blatt leeren</translation>
+    </message>
+    <message>
+        <source>Draw here to try it</source>
+        <translation>Hier zeichnen, um zu testen</translation>
+    </message>
+    <message>
+        <source>So&amp;ft</source>
+        <translation>&amp;Weich</translation>
+    </message>
+    <message>
+        <source>&amp;Linear</source>
+        <translation>&amp;Linear</translation>
+    </message>
+    <message>
+        <source>Fir&amp;m</source>
+        <translation>&amp;Fest</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s %1 % count as %2 %</source>
+        <translation>%1&#xa0;% des Stifts gelten als %2&#xa0;%</translation>
+    </message>
+    <message>
+        <source>No pen presses</source>
+        <translation>Kein Stift drückt</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureTester</name>
+    <message>
+        <source>Sheet to try the pressure on</source>
+        <translation>Blatt zum Testen des Drucks</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterReader</name>
+    <message>
+        <source>its layers have too many pixels together</source>
+        <translation>Ihre Ebenen haben zusammen zu viele Pixel</translation>
+    </message>
+    <message>
+        <source>it is no OpenRaster picture, or damaged</source>
+        <translation>Sie ist kein OpenRaster-Bild oder beschädigt</translation>
+    </message>
+    <message>
+        <source>the picture of its layer &quot;%1&quot; is missing or damaged</source>
+        <translation>Das Bild der Ebene „%1“ fehlt oder ist beschädigt</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>Nicht genug Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>Dieses dabpainter wurde ohne QuaZip gebaut, das OpenRaster benötigt</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>Das Archiv ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterWriter</name>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>Dieses dabpainter wurde ohne QuaZip gebaut, das OpenRaster benötigt</translation>
+    </message>
+    <message>
+        <source>there is no memory for the file</source>
+        <translation>Der Arbeitsspeicher reicht für die Datei nicht</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecentFiles</name>
+    <message>
+        <source>No picture yet</source>
+        <translation>Noch kein Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>
         <translation>Ein Strich mit dem aktuellen Pinsel</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SelectionEditor</name>
+    <message>
+        <source>The layer is hidden</source>
+        <translation>Die Ebene ist ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Nothing of this layer is selected</source>
+        <translation>Von dieser Ebene ist nichts ausgewählt</translation>
+    </message>
+    <message>
+        <source>The canvas takes no picture now; the log says why.</source>
+        <translation>Die Leinwand nimmt gerade kein Bild an; das Protokoll nennt den Grund.</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s alpha is locked</source>
+        <translation>Das Alpha der Ebene ist gesperrt</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SessionRecorder</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>Die Aufnahme kann nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>The canvas cannot be recorded; the log says why.</source>
+        <translation>Die Leinwand kann nicht aufgenommen werden; das Protokoll sagt, warum.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded.</source>
+        <translation>Nichts wurde aufgenommen.</translation>
+    </message>
+    <message>
+        <source>The recording could not be written down: %1.</source>
+        <translation>Die Aufnahme konnte nicht festgehalten werden: %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be saved: %2.</source>
+        <translation>„%1“ kann nicht gespeichert werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ShadeTriangle</name>
+    <message>
+        <source>Lightness and chroma</source>
+        <translation>Helligkeit und Chroma</translation>
+    </message>
+    <message>
+        <source>Lightness and chroma: drag, or the arrow keys</source>
+        <translation>Helligkeit und Chroma: ziehen oder Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Lightness %1 %, chroma %2</source>
+        <translation>Helligkeit %1&#xa0;%, Chroma %2</translation>
     </message>
 </context>
 <context>
@@ -2144,6 +3009,106 @@
     <message>
         <source>%1 is the key of &quot;%2&quot;, which would have none then.</source>
         <translation>%1 ist die Taste für „%2“; dieser Befehl hätte dann keine mehr.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StabiliserControl</name>
+    <message>
+        <source>Unsteadied</source>
+        <translation>Unberuhigt</translation>
+    </message>
+    <message>
+        <source>Averaged</source>
+        <translation>Gemittelt</translation>
+    </message>
+    <message>
+        <source>Pulled string</source>
+        <translation>Gezogene Schnur</translation>
+    </message>
+    <message>
+        <source>What steadies the hand</source>
+        <translation>Was die Hand beruhigt</translation>
+    </message>
+    <message>
+        <source>What steadies the hand; each brush remembers its own</source>
+        <translation>Was die Hand beruhigt; jeder Pinsel merkt sich seins</translation>
+    </message>
+    <message>
+        <source>How much the hand is steadied</source>
+        <translation>Wie stark die Hand beruhigt wird</translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation>Bis ans Ende</translation>
+    </message>
+    <message>
+        <source>At its end a line goes on to where the pointer is</source>
+        <translation>Am Ende läuft eine Linie bis zum Zeiger weiter</translation>
+    </message>
+    <message>
+        <source>The string is %1 points long</source>
+        <translation>Die Schnur ist %1 Punkte lang</translation>
+    </message>
+    <message>
+        <source>Follows within %1 s</source>
+        <translation>Folgt binnen %1&#xa0;s</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StackReader</name>
+    <message>
+        <source>Some layers have blend modes that are not known here; they are shown as normal.</source>
+        <translation>Einige Ebenen haben hier unbekannte Mischmodi; sie werden normal gezeigt.</translation>
+    </message>
+    <message>
+        <source>a layer lies too far from the picture</source>
+        <translation>Eine Ebene liegt zu weit vom Bild entfernt</translation>
+    </message>
+    <message>
+        <source>Groups of layers have come apart, and may look another way.</source>
+        <translation>Ebenengruppen wurden aufgelöst und sehen womöglich anders aus.</translation>
+    </message>
+    <message>
+        <source>its groups lie too deep in each other</source>
+        <translation>Ihre Gruppen sind zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>the picture of a layer lies outside of the archive</source>
+        <translation>Das Bild einer Ebene liegt außerhalb des Archivs</translation>
+    </message>
+    <message>
+        <source>it has more than %1 layers</source>
+        <translation>Sie hat mehr als %1 Ebenen</translation>
+    </message>
+    <message>
+        <source>Some of its contents are no layers of pixels, and are left out.</source>
+        <translation>Einige Inhalte sind keine Pixelebenen und wurden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>its list of layers is damaged (%1)</source>
+        <translation>Ihre Ebenenliste ist beschädigt (%1)</translation>
+    </message>
+    <message>
+        <source>it has no layers</source>
+        <translation>Sie hat keine Ebenen</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SwatchGrid</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::TimelapseExport</name>
+    <message>
+        <source>There is no memory for the time-lapse.</source>
+        <translation>Für den Zeitraffer fehlt der Speicher.</translation>
+    </message>
+    <message>
+        <source>The recording</source>
+        <translation>Die Aufnahme</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>About</name>
+    <message>
+        <source>About Dabpainter</source>
+        <translation>À propos de Dabpainter</translation>
+    </message>
+    <message>
+        <source>Dabpainter %1 paints with natural-media brushes. Whoever reports a fault may add this:</source>
+        <translation>Dabpainter %1 peint avec des brosses naturelles. Pour signaler un défaut, vous pouvez joindre ceci&#x202f;:</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>C&amp;opier</translation>
+    </message>
+</context>
+<context>
     <name>Tables</name>
     <message>
         <source>A ball that skips a little and lays down more ink where it is pressed.</source>
@@ -1255,34 +1274,6 @@
         <translation>%1 x %2 pixels, c’est trop grand&#x202f;: une toile en compte au plus %3 millions</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened: %2.</source>
-        <translation>Impossible d’ouvrir «&#x202f;%1&#x202f;»&#x202f;: %2.</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>ce fichier n’existe pas</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ce n’est pas un fichier</translation>
-    </message>
-    <message>
-        <source>permission denied</source>
-        <translation>accès refusé</translation>
-    </message>
-    <message>
-        <source>it is not an image of a known kind</source>
-        <translation>ce n’est pas une image d’un type connu</translation>
-    </message>
-    <message>
-        <source>it is damaged (%1)</source>
-        <translation>il est endommagé (%1)</translation>
-    </message>
-    <message>
-        <source>out of memory</source>
-        <translation>mémoire insuffisante</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be saved: %2.</source>
         <translation>Impossible d’enregistrer «&#x202f;%1&#x202f;»&#x202f;: %2.</translation>
     </message>
@@ -1338,12 +1329,147 @@
         <source>There is nothing to paint with; the log says what is missing.</source>
         <translation>Il n’y a rien avec quoi peindre&#x202f;; le journal indique ce qui manque.</translation>
     </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>it does not begin with &quot;GIMP Palette&quot;</source>
+        <translation>il ne commence pas par «&#x202f;GIMP Palette&#x202f;»</translation>
+    </message>
+    <message>
+        <source>line %1 is no colour of three numbers up to 255</source>
+        <translation>la ligne %1 n’est pas une couleur de trois nombres jusqu’à 255</translation>
+    </message>
+    <message>
+        <source>it has more than %1 colours</source>
+        <translation>il contient plus de %1 couleurs</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2.</source>
+        <translation>Impossible d’écrire «&#x202f;%1&#x202f;»&#x202f;: %2.</translation>
+    </message>
+    <message>
+        <source>A canvas of %1 × %2 pixels cannot be had here.</source>
+        <translation>Une toile de %1 × %2 pixels est impossible ici.</translation>
+    </message>
+    <message>
+        <source>no picture is written as %1; the kinds are %2</source>
+        <translation>aucune image n’est écrite en %1&#x202f;; les types sont %2</translation>
+    </message>
+    <message>
+        <source>This kind of file has no layers.</source>
+        <translation>Ce type de fichier n’a pas de calques.</translation>
+    </message>
+    <message>
+        <source>This kind of file cannot be seen through.</source>
+        <translation>Ce type de fichier n’a pas de transparence.</translation>
+    </message>
+    <message>
+        <source>It shows all of them together. They stay here as long as this picture is open, and an OpenRaster file keeps them.</source>
+        <translation>Il les montre tous ensemble. Ils restent ici tant que cette image est ouverte, et un fichier OpenRaster les conserve.</translation>
+    </message>
+    <message>
+        <source>What is transparent is filled with the paper&apos;s colour. A PNG file keeps it.</source>
+        <translation>Ce qui est transparent est rempli de la couleur du papier. Un fichier PNG garde la transparence.</translation>
+    </message>
+    <message>
+        <source>Save Flattened</source>
+        <translation>Enregistrer aplati</translation>
+    </message>
+    <message>
+        <source>Save Filled</source>
+        <translation>Enregistrer rempli</translation>
+    </message>
+    <message>
+        <source>Save as PNG…</source>
+        <translation>Enregistrer en PNG…</translation>
+    </message>
+    <message>
+        <source>Save as OpenRaster…</source>
+        <translation>Enregistrer en OpenRaster…</translation>
+    </message>
+    <message>
+        <source>OpenRaster, with layers (*.ora)</source>
+        <translation>OpenRaster, avec calques (*.ora)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>Image JPEG (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>WebP image, lossless (*.webp)</source>
+        <translation>Image WebP, sans perte (*.webp)</translation>
+    </message>
+    <message>
+        <source>Other images (%1)</source>
+        <translation>Autres images (%1)</translation>
+    </message>
+    <message>
+        <source>Import Palettes</source>
+        <translation>Importer des palettes</translation>
+    </message>
+    <message>
+        <source>GIMP palettes (*.gpl)</source>
+        <translation>Palettes GIMP (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Palette</source>
+        <translation>Exporter la palette</translation>
+    </message>
+    <message>
+        <source>GIMP palette (*.gpl)</source>
+        <translation>Palette GIMP (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Recording</source>
+        <translation>Exporter l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Recording (*.jsonl)</source>
+        <translation>Enregistrement (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Export Time-Lapse</source>
+        <translation>Exporter l’accéléré</translation>
+    </message>
+    <message>
+        <source>Animated WebP (*.webp)</source>
+        <translation>WebP animé (*.webp)</translation>
+    </message>
+    <message>
+        <source>Folder of pictures (*)</source>
+        <translation>Dossier d’images (*)</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>Impossible d’écrire «&#x202f;%1&#x202f;»&#x202f;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::BrushBar</name>
+    <message>
+        <source>Tolerance</source>
+        <translation>Tolérance</translation>
+    </message>
+    <message>
+        <source>Brush size and opacity</source>
+        <translation>Taille et opacité de la brosse</translation>
+    </message>
+    <message>
+        <source>Size of the brush, by every drag, wheel or arrow key the same part of it</source>
+        <translation>Taille de la brosse&#x202f;; glissement, molette et flèches la changent toujours dans la même proportion</translation>
+    </message>
+    <message>
+        <source>Opacity of each stroke</source>
+        <translation>Opacité de chaque trait</translation>
+    </message>
+    <message>
+        <source>How much colours may differ that a fill takes for one</source>
+        <translation>Écart permis entre les couleurs que le remplissage tient pour une seule</translation>
     </message>
 </context>
 <context>
@@ -1389,6 +1515,81 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::CanvasSizeDialog</name>
+    <message>
+        <source>Canvas Size</source>
+        <translation>Taille de la toile</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Pour cent</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>&amp;Largeur</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>&amp;Hauteur</translation>
+    </message>
+    <message>
+        <source>&amp;Unit</source>
+        <translation>&amp;Unité</translation>
+    </message>
+    <message>
+        <source>What is there stays</source>
+        <translation>Le contenu reste</translation>
+    </message>
+    <message>
+        <source>At the top left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>At the top</source>
+        <translation>En haut</translation>
+    </message>
+    <message>
+        <source>At the top right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>At the left</source>
+        <translation>À gauche</translation>
+    </message>
+    <message>
+        <source>In the middle</source>
+        <translation>Au milieu</translation>
+    </message>
+    <message>
+        <source>At the right</source>
+        <translation>À droite</translation>
+    </message>
+    <message>
+        <source>At the bottom left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>En bas</translation>
+    </message>
+    <message>
+        <source>At the bottom right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels; what lies beyond is cut off.</source>
+        <translation>%1 × %2 pixels&#x202f;; ce qui dépasse est coupé.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels.</source>
+        <translation>%1 × %2 pixels.</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::CanvasStatus</name>
     <message>
         <source>Shapes</source>
@@ -1406,6 +1607,18 @@
         <source>%1 × %2 px</source>
         <translation>%1 × %2 px</translation>
     </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Miroir</translation>
+    </message>
+    <message>
+        <source>Mirrored, %1</source>
+        <translation>Miroir, %1</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::CanvasViewport</name>
@@ -1419,6 +1632,107 @@
     <message>
         <source>Other (%1)</source>
         <translation>Autre (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorPanel</name>
+    <message>
+        <source>Foreground colour</source>
+        <translation>Couleur de premier plan</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Couleur d’arrière-plan</translation>
+    </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>Couleurs récentes</translation>
+    </message>
+    <message>
+        <source>%1: what is chosen below</source>
+        <translation>%1&#x202f;: à choisir ci-dessous</translation>
+    </message>
+    <message>
+        <source>Colour as red, green and blue</source>
+        <translation>Couleur en rouge, vert et bleu</translation>
+    </message>
+    <message>
+        <source>#rrggbb, #rgb or a name such as teal</source>
+        <translation>#rrggbb, #rgb ou un nom comme teal</translation>
+    </message>
+    <message>
+        <source>Swap the colours (X)</source>
+        <translation>Échanger les couleurs (X)</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the canvas (I, or hold Ctrl)</source>
+        <translation>Prélever une couleur sur la toile (I, ou maintenir Ctrl)</translation>
+    </message>
+    <message>
+        <source>More to do with colours</source>
+        <translation>Autres actions sur les couleurs</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>Roue</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Curseurs</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <translation>Palettes</translation>
+    </message>
+    <message>
+        <source>&amp;Eyedropper Takes</source>
+        <translation>La &amp;pipette prélève</translation>
+    </message>
+    <message>
+        <source>One Pixel</source>
+        <translation>Un pixel</translation>
+    </message>
+    <message>
+        <source>Average of %1 × %1 Pixels</source>
+        <translation>Moyenne de %1 × %1 pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Recent Colours</source>
+        <translation>&amp;Oublier les couleurs récentes</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorSliders</name>
+    <message>
+        <source>Lightness</source>
+        <translation>Clarté</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation>&#x202f;%</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>Chroma</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorWheel</name>
+    <message>
+        <source>Hue</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Hue: drag, or the arrow keys</source>
+        <translation>Teinte&#x202f;: glisser, ou flèches</translation>
+    </message>
+    <message>
+        <source>%1 degrees</source>
+        <translation>%1 degrés</translation>
     </message>
 </context>
 <context>
@@ -1445,6 +1759,10 @@
     <message>
         <source>Untitled</source>
         <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>There is no picture to save.</source>
+        <translation>Il n’y a aucune image à enregistrer.</translation>
     </message>
 </context>
 <context>
@@ -1607,10 +1925,6 @@
         <translation>Impossible de récupérer l’image&#x202f;: %1.</translation>
     </message>
     <message>
-        <source>The image could not be placed; the log says why.</source>
-        <translation>Impossible de placer l’image&#x202f;; le journal indique pourquoi.</translation>
-    </message>
-    <message>
         <source>Saved %1</source>
         <translation>%1 enregistré</translation>
     </message>
@@ -1621,18 +1935,6 @@
     <message>
         <source>Place Image</source>
         <translation>Placer une image</translation>
-    </message>
-    <message>
-        <source>Save the layers as one picture?</source>
-        <translation>Enregistrer les calques en une seule image&#x202f;?</translation>
-    </message>
-    <message>
-        <source>The file shows all of them together. They stay here as long as this picture is open.</source>
-        <translation>Le fichier les montre tous ensemble. Ils restent ici tant que cette image est ouverte.</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1689,10 +1991,6 @@
     <message>
         <source>&amp;Keys…</source>
         <translation>Ra&amp;ccourcis…</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Historique</translation>
     </message>
     <message>
         <source>&amp;Canvas</source>
@@ -1791,14 +2089,6 @@
         <translation>&amp;Reconnaître les formes</translation>
     </message>
     <message>
-        <source>Shapes</source>
-        <translation>Formes</translation>
-    </message>
-    <message>
-        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)</source>
-        <translation>Les traits deviennent la droite, le polygone, l’ellipse, l’arc ou la flèche voulus (Maj+R)</translation>
-    </message>
-    <message>
         <source>&amp;Reset All Settings</source>
         <translation>Tout réinitiali&amp;ser</translation>
     </message>
@@ -1870,6 +2160,254 @@
         <source>Strokes stay as they are drawn</source>
         <translation>Les traits restent tels que dessinés</translation>
     </message>
+    <message>
+        <source>Colour</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>Peinture</translation>
+    </message>
+    <message>
+        <source>Canvas &amp;Size…</source>
+        <translation>&amp;Taille de la toile…</translation>
+    </message>
+    <message>
+        <source>Crop &amp;to Drawn</source>
+        <translation>Re&amp;cadrer sur le dessin</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn</source>
+        <translation>Rien n’est dessiné</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Left</source>
+        <translation>Tourner à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Right</source>
+        <translation>Tourner à &amp;droite</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>Redre&amp;sser</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored</source>
+        <translation>&amp;Miroir</translation>
+    </message>
+    <message>
+        <source>Turn by Dragging</source>
+        <translation>Tourner en glissant</translation>
+    </message>
+    <message>
+        <source>Pen Pr&amp;essure…</source>
+        <translation>Pr&amp;ession du stylet…</translation>
+    </message>
+    <message>
+        <source>Steady hand</source>
+        <translation>Main sûre</translation>
+    </message>
+    <message>
+        <source>S&amp;ymmetry</source>
+        <translation>S&amp;ymétrie</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Aucune</translation>
+    </message>
+    <message>
+        <source>&amp;Left and Right</source>
+        <translation>&amp;Gauche et droite</translation>
+    </message>
+    <message>
+        <source>&amp;Above and Below</source>
+        <translation>&amp;Haut et bas</translation>
+    </message>
+    <message>
+        <source>&amp;Both</source>
+        <translation>&amp;Les deux</translation>
+    </message>
+    <message>
+        <source>&amp;Rays</source>
+        <translation>&amp;Rayons</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>Symétrie</translation>
+    </message>
+    <message>
+        <source>Draws copies of every stroke, mirrored or turned</source>
+        <translation>Dessine des copies de chaque trait, en miroir ou tournées</translation>
+    </message>
+    <message>
+        <source>N&amp;umber of Rays…</source>
+        <translation>N&amp;ombre de rayons…</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>Rayons</translation>
+    </message>
+    <message>
+        <source>Rays of the symmetry:</source>
+        <translation>Rayons de la symétrie&#x202f;:</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored Rays</source>
+        <translation>Rayons en &amp;miroir</translation>
+    </message>
+    <message>
+        <source>&amp;Centre Here</source>
+        <translation>&amp;Centre ici</translation>
+    </message>
+    <message>
+        <source>Centre in the M&amp;iddle</source>
+        <translation>Centre au m&amp;ilieu</translation>
+    </message>
+    <message>
+        <source>&amp;Drag the Centre</source>
+        <translation>&amp;Déplacer le centre</translation>
+    </message>
+    <message>
+        <source>Open Recen&amp;t</source>
+        <translation>Fichiers récen&amp;ts</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>T&amp;hème</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>Comme le &amp;système</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>S&amp;ombre</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
+    </message>
+    <message>
+        <source>Painter&apos;s &amp;Guide</source>
+        <translation>&amp;Guide du peintre</translation>
+    </message>
+    <message>
+        <source>&amp;About Dabpainter</source>
+        <translation>À &amp;propos de Dabpainter</translation>
+    </message>
+    <message>
+        <source>&amp;Recording</source>
+        <translation>En&amp;registrement</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Enregistrer la séance</translation>
+    </message>
+    <message>
+        <source>What is painted from here on is kept, to be exported</source>
+        <translation>Ce qui est peint à partir d’ici est gardé pour l’export</translation>
+    </message>
+    <message>
+        <source>&amp;Export Recording…</source>
+        <translation>E&amp;xporter l’enregistrement…</translation>
+    </message>
+    <message>
+        <source>Export &amp;Time-Lapse…</source>
+        <translation>Exporter l’&amp;accéléré…</translation>
+    </message>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 exporté</translation>
+    </message>
+    <message>
+        <source>Painting the time-lapse…</source>
+        <translation>L’accéléré est en train d’être peint…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Enter or a double click puts it down, Escape gives it up</source>
+        <translation>Enter ou un double-clic la pose, Escape l’abandonne</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Sélection</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Tout</translation>
+    </message>
+    <message>
+        <source>&amp;Rectangle</source>
+        <translation>&amp;Rectangle</translation>
+    </message>
+    <message>
+        <source>&amp;Lasso</source>
+        <translation>&amp;Lasso</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cou&amp;per</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>C&amp;opier</translation>
+    </message>
+    <message>
+        <source>Copy All &amp;Layers</source>
+        <translation>Copier tous les ca&amp;lques</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Coll&amp;er</translation>
+    </message>
+    <message>
+        <source>There is no picture to paste</source>
+        <translation>Il n’y a aucune image à coller</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Outils</translation>
+    </message>
+    <message>
+        <source>E&amp;raser</source>
+        <translation>&amp;Gomme</translation>
+    </message>
+    <message>
+        <source>&amp;Smudge</source>
+        <translation>Ét&amp;alement</translation>
+    </message>
+    <message>
+        <source>&amp;Fill</source>
+        <translation>Re&amp;mplissage</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as</source>
+        <translation>Les traits deviennent la ligne, le polygone, l’ellipse, l’arc ou la flèche voulus</translation>
+    </message>
+    <message>
+        <source>This layer is hidden: nothing would be seen of it</source>
+        <translation>Ce calque est masqué&#x202f;: on n’en verrait rien</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to fill this</source>
+        <translation>Mémoire insuffisante pour ce remplissage</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
@@ -1915,11 +2453,132 @@
     </message>
 </context>
 <context>
-    <name>dabcanvas::dabpainter::PresetBrowser</name>
+    <name>dabcanvas::dabpainter::PaletteLibrary</name>
     <message>
-        <source>No brush is called so.</source>
-        <translation>Aucune brosse de ce nom.</translation>
+        <source>The folder &quot;%1&quot; could not be made.</source>
+        <translation>Impossible de créer le dossier «&#x202f;%1&#x202f;».</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted: %2.</source>
+        <translation>Impossible de supprimer «&#x202f;%1&#x202f;»&#x202f;: %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no usable palette: %2.</source>
+        <translation>«&#x202f;%1&#x202f;» n’est pas un fichier de palette utilisable&#x202f;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PalettePage</name>
+    <message>
+        <source>Colours of the palette</source>
+        <translation>Couleurs de la palette</translation>
+    </message>
+    <message>
+        <source>No colours yet: + adds the present one.</source>
+        <translation>Pas encore de couleur&#x202f;: + ajoute l’actuelle.</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Add the present colour to the palette</source>
+        <translation>Ajouter la couleur actuelle à la palette</translation>
+    </message>
+    <message>
+        <source>More to do with palettes</source>
+        <translation>Autres actions sur les palettes</translation>
+    </message>
+    <message>
+        <source>&amp;New Palette…</source>
+        <translation>&amp;Nouvelle palette…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename Palette…</source>
+        <translation>&amp;Renommer la palette…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Palette…</source>
+        <translation>&amp;Supprimer la palette…</translation>
+    </message>
+    <message>
+        <source>&amp;Import Palettes…</source>
+        <translation>&amp;Importer des palettes…</translation>
+    </message>
+    <message>
+        <source>&amp;Export Palette…</source>
+        <translation>&amp;Exporter la palette…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Colour…</source>
+        <translation>Reno&amp;mmer la couleur…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Colour</source>
+        <translation>Re&amp;tirer la couleur</translation>
+    </message>
+    <message>
+        <source>Rename Colour</source>
+        <translation>Renommer la couleur</translation>
+    </message>
+    <message>
+        <source>New Palette</source>
+        <translation>Nouvelle palette</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>Renommer la palette</translation>
+    </message>
+    <message>
+        <source>Delete the palette &quot;%1&quot;?</source>
+        <translation>Supprimer la palette «&#x202f;%1&#x202f;»&#x202f;?</translation>
+    </message>
+    <message>
+        <source>This cannot be taken back.</source>
+        <translation>Cette action est irréversible.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PictureFile</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2.</source>
+        <translation>Impossible d’ouvrir «&#x202f;%1&#x202f;»&#x202f;: %2.</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>permission denied</source>
+        <translation>accès refusé</translation>
+    </message>
+    <message>
+        <source>it is not an image of a known kind</source>
+        <translation>ce n’est pas une image d’un type connu</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>il est endommagé</translation>
+    </message>
+    <message>
+        <source>it is damaged (%1)</source>
+        <translation>il est endommagé (%1)</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
         <source>Save as &amp;New Brush…</source>
         <translation>Enregistrer comme &amp;nouvelle brosse…</translation>
@@ -2022,6 +2681,30 @@
         <translation>De «&#x202f;%1&#x202f;», n’ont pas pu être repris&#x202f;:
 %2</translation>
     </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>&amp;Favori</translation>
+    </message>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>Genre de pinceaux</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>Quels pinceaux sont listés</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>Pas encore de brosse&#x202f;: importez-en par le menu ci-dessus, ou enregistrez les réglages actuels comme brosse.</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2032,6 +2715,25 @@
     <message>
         <source>no preset</source>
         <translation>sans préréglage</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetFilter</name>
+    <message>
+        <source>No brush is called &quot;%1&quot;: clear the search.</source>
+        <translation>Aucun pinceau ne s’appelle « %1 » : effacez la recherche.</translation>
+    </message>
+    <message>
+        <source>None of these is called &quot;%1&quot;: clear the search, or show all brushes.</source>
+        <translation>Aucun d’eux ne s’appelle « %1 » : effacez la recherche ou affichez tous les pinceaux.</translation>
+    </message>
+    <message>
+        <source>No favourites yet: a click on the star of a brush makes it one, or * in the list.</source>
+        <translation>Pas encore de favoris : cliquez sur l’étoile d’un pinceau, ou tapez * dans la liste.</translation>
+    </message>
+    <message>
+        <source>No brush is of this kind: show all brushes.</source>
+        <translation>Aucun pinceau de ce genre : affichez tous les pinceaux.</translation>
     </message>
 </context>
 <context>
@@ -2091,12 +2793,175 @@
         <source>Plain</source>
         <translation>Standard</translation>
     </message>
+    <message>
+        <source>By %1</source>
+        <translation>Par %1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureCurveEditor</name>
+    <message>
+        <source>Pressure curve</source>
+        <translation>Courbe de pression</translation>
+    </message>
+    <message>
+        <source>Arrows move a point, Ctrl with left and right chooses one, Insert adds one, Delete takes it away</source>
+        <translation>Les flèches déplacent un point, Ctrl avec gauche et droite en choisit un, Insert en ajoute un, Delete le retire</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureDialog</name>
+    <message>
+        <source>Pen Pressure</source>
+        <translation>Pression du stylet</translation>
+    </message>
+    <message>
+        <source>Clear the &amp;Sheet</source>
+        <translation>&amp;Effacer la feuille</translation>
+    </message>
+    <message>
+        <source>Draw here to try it</source>
+        <translation>Dessinez ici pour essayer</translation>
+    </message>
+    <message>
+        <source>So&amp;ft</source>
+        <translation>Do&amp;uce</translation>
+    </message>
+    <message>
+        <source>&amp;Linear</source>
+        <translation>&amp;Linéaire</translation>
+    </message>
+    <message>
+        <source>Fir&amp;m</source>
+        <translation>Fer&amp;me</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s %1 % count as %2 %</source>
+        <translation>%1&#x202f;% du stylet comptent pour %2&#x202f;%</translation>
+    </message>
+    <message>
+        <source>No pen presses</source>
+        <translation>Aucun stylet n’appuie</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureTester</name>
+    <message>
+        <source>Sheet to try the pressure on</source>
+        <translation>Feuille d’essai de la pression</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterReader</name>
+    <message>
+        <source>its layers have too many pixels together</source>
+        <translation>ses calques ont trop de pixels au total</translation>
+    </message>
+    <message>
+        <source>it is no OpenRaster picture, or damaged</source>
+        <translation>ce n’est pas une image OpenRaster, ou elle est endommagée</translation>
+    </message>
+    <message>
+        <source>the picture of its layer &quot;%1&quot; is missing or damaged</source>
+        <translation>l’image de son calque «&#x202f;%1&#x202f;» manque ou est endommagée</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>ce dabpainter a été compilé sans QuaZip, nécessaire à OpenRaster</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>l’archive est endommagée</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterWriter</name>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>ce dabpainter a été compilé sans QuaZip, nécessaire à OpenRaster</translation>
+    </message>
+    <message>
+        <source>there is no memory for the file</source>
+        <translation>la mémoire ne suffit pas au fichier</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecentFiles</name>
+    <message>
+        <source>No picture yet</source>
+        <translation>Aucune image</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vider la liste</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>
         <translation>Un trait avec la brosse actuelle</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SelectionEditor</name>
+    <message>
+        <source>The layer is hidden</source>
+        <translation>Le calque est masqué</translation>
+    </message>
+    <message>
+        <source>Nothing of this layer is selected</source>
+        <translation>Rien de ce calque n’est sélectionné</translation>
+    </message>
+    <message>
+        <source>The canvas takes no picture now; the log says why.</source>
+        <translation>La toile n’accepte pas d’image pour l’instant&#x202f;; le journal indique pourquoi.</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s alpha is locked</source>
+        <translation>L’alpha du calque est verrouillé</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SessionRecorder</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>L’enregistrement ne peut pas être écrit : %1.</translation>
+    </message>
+    <message>
+        <source>The canvas cannot be recorded; the log says why.</source>
+        <translation>La toile ne peut pas être enregistrée ; le journal dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded.</source>
+        <translation>Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The recording could not be written down: %1.</source>
+        <translation>L’enregistrement n’a pas pu être conservé : %1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be saved: %2.</source>
+        <translation>Impossible d’enregistrer «&#x202f;%1&#x202f;»&#x202f;: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ShadeTriangle</name>
+    <message>
+        <source>Lightness and chroma</source>
+        <translation>Clarté et chroma</translation>
+    </message>
+    <message>
+        <source>Lightness and chroma: drag, or the arrow keys</source>
+        <translation>Clarté et chroma&#x202f;: glisser, ou flèches</translation>
+    </message>
+    <message>
+        <source>Lightness %1 %, chroma %2</source>
+        <translation>Clarté %1&#x202f;%, chroma %2</translation>
     </message>
 </context>
 <context>
@@ -2144,6 +3009,106 @@
     <message>
         <source>%1 is the key of &quot;%2&quot;, which would have none then.</source>
         <translation>%1 est le raccourci de «&#x202f;%2&#x202f;», qui n’en aurait alors plus.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StabiliserControl</name>
+    <message>
+        <source>Unsteadied</source>
+        <translation>Sans</translation>
+    </message>
+    <message>
+        <source>Averaged</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Pulled string</source>
+        <translation>Ficelle tirée</translation>
+    </message>
+    <message>
+        <source>What steadies the hand</source>
+        <translation>Ce qui stabilise la main</translation>
+    </message>
+    <message>
+        <source>What steadies the hand; each brush remembers its own</source>
+        <translation>Ce qui stabilise la main&#x202f;; chaque brosse retient le sien</translation>
+    </message>
+    <message>
+        <source>How much the hand is steadied</source>
+        <translation>Force de stabilisation de la main</translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation>Jusqu’au bout</translation>
+    </message>
+    <message>
+        <source>At its end a line goes on to where the pointer is</source>
+        <translation>À la fin, le trait continue jusqu’au pointeur</translation>
+    </message>
+    <message>
+        <source>The string is %1 points long</source>
+        <translation>La ficelle mesure %1 points</translation>
+    </message>
+    <message>
+        <source>Follows within %1 s</source>
+        <translation>Suit en %1&#xa0;s</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StackReader</name>
+    <message>
+        <source>Some layers have blend modes that are not known here; they are shown as normal.</source>
+        <translation>Certains calques ont des modes de fusion inconnus ici&#x202f;; ils sont affichés en normal.</translation>
+    </message>
+    <message>
+        <source>a layer lies too far from the picture</source>
+        <translation>un calque est trop loin de l’image</translation>
+    </message>
+    <message>
+        <source>Groups of layers have come apart, and may look another way.</source>
+        <translation>Des groupes de calques ont été défaits et peuvent avoir un autre aspect.</translation>
+    </message>
+    <message>
+        <source>its groups lie too deep in each other</source>
+        <translation>ses groupes sont trop imbriqués</translation>
+    </message>
+    <message>
+        <source>the picture of a layer lies outside of the archive</source>
+        <translation>l’image d’un calque est hors de l’archive</translation>
+    </message>
+    <message>
+        <source>it has more than %1 layers</source>
+        <translation>il a plus de %1 calques</translation>
+    </message>
+    <message>
+        <source>Some of its contents are no layers of pixels, and are left out.</source>
+        <translation>Une partie du contenu n’est pas en calques de pixels et a été omise.</translation>
+    </message>
+    <message>
+        <source>its list of layers is damaged (%1)</source>
+        <translation>sa liste de calques est endommagée (%1)</translation>
+    </message>
+    <message>
+        <source>it has no layers</source>
+        <translation>il n’a pas de calques</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SwatchGrid</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::TimelapseExport</name>
+    <message>
+        <source>There is no memory for the time-lapse.</source>
+        <translation>Il n’y a pas assez de mémoire pour l’accéléré.</translation>
+    </message>
+    <message>
+        <source>The recording</source>
+        <translation>L’enregistrement</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>About</name>
+    <message>
+        <source>About Dabpainter</source>
+        <translation>Dabpainter について</translation>
+    </message>
+    <message>
+        <source>Dabpainter %1 paints with natural-media brushes. Whoever reports a fault may add this:</source>
+        <translation>Dabpainter %1 は、自然画材のブラシで描くソフトです。不具合を報告するときは、次の内容を添えてください:</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>Tables</name>
     <message>
         <source>A ball that skips a little and lays down more ink where it is pressed.</source>
@@ -1255,34 +1274,6 @@
         <translation>%1 x %2 ピクセルは大きすぎます。キャンバスは最大 %3 百万ピクセルです</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened: %2.</source>
-        <translation>「%1」を開けません: %2。</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>ファイルがありません</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>ファイルではありません</translation>
-    </message>
-    <message>
-        <source>permission denied</source>
-        <translation>アクセス権がありません</translation>
-    </message>
-    <message>
-        <source>it is not an image of a known kind</source>
-        <translation>対応していない画像形式です</translation>
-    </message>
-    <message>
-        <source>it is damaged (%1)</source>
-        <translation>壊れています (%1)</translation>
-    </message>
-    <message>
-        <source>out of memory</source>
-        <translation>メモリー不足です</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be saved: %2.</source>
         <translation>「%1」を保存できません: %2。</translation>
     </message>
@@ -1338,12 +1329,147 @@
         <source>There is nothing to paint with; the log says what is missing.</source>
         <translation>描画機能を利用できません。足りないものはログに記録されています。</translation>
     </message>
+    <message>
+        <source>it is too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>it does not begin with &quot;GIMP Palette&quot;</source>
+        <translation>先頭が &quot;GIMP Palette&quot; ではありません</translation>
+    </message>
+    <message>
+        <source>line %1 is no colour of three numbers up to 255</source>
+        <translation>%1 行目が、255 以下の数値 3 つの色ではありません</translation>
+    </message>
+    <message>
+        <source>it has more than %1 colours</source>
+        <translation>色が %1 色を超えています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2.</source>
+        <translation>「%1」に書き込めませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>A canvas of %1 × %2 pixels cannot be had here.</source>
+        <translation>ここでは %1 × %2 ピクセルのキャンバスを作れません。</translation>
+    </message>
+    <message>
+        <source>no picture is written as %1; the kinds are %2</source>
+        <translation>%1 形式では保存できません。使える形式は %2 です</translation>
+    </message>
+    <message>
+        <source>This kind of file has no layers.</source>
+        <translation>このファイル形式にはレイヤーがありません。</translation>
+    </message>
+    <message>
+        <source>This kind of file cannot be seen through.</source>
+        <translation>このファイル形式は透明にできません。</translation>
+    </message>
+    <message>
+        <source>It shows all of them together. They stay here as long as this picture is open, and an OpenRaster file keeps them.</source>
+        <translation>すべてのレイヤーが合成されて保存されます。この画像を開いている間、レイヤーはそのまま残ります。OpenRaster ファイルならレイヤーも保存されます。</translation>
+    </message>
+    <message>
+        <source>What is transparent is filled with the paper&apos;s colour. A PNG file keeps it.</source>
+        <translation>透明な部分は紙の色で塗りつぶされます。PNG ファイルなら透明のまま保存されます。</translation>
+    </message>
+    <message>
+        <source>Save Flattened</source>
+        <translation>統合して保存</translation>
+    </message>
+    <message>
+        <source>Save Filled</source>
+        <translation>塗りつぶして保存</translation>
+    </message>
+    <message>
+        <source>Save as PNG…</source>
+        <translation>PNG で保存…</translation>
+    </message>
+    <message>
+        <source>Save as OpenRaster…</source>
+        <translation>OpenRaster で保存…</translation>
+    </message>
+    <message>
+        <source>OpenRaster, with layers (*.ora)</source>
+        <translation>OpenRaster、レイヤー付き (*.ora)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>JPEG 画像 (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>WebP image, lossless (*.webp)</source>
+        <translation>WebP 画像、可逆圧縮 (*.webp)</translation>
+    </message>
+    <message>
+        <source>Other images (%1)</source>
+        <translation>その他の画像 (%1)</translation>
+    </message>
+    <message>
+        <source>Import Palettes</source>
+        <translation>パレットをインポート</translation>
+    </message>
+    <message>
+        <source>GIMP palettes (*.gpl)</source>
+        <translation>GIMP パレット (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Palette</source>
+        <translation>パレットをエクスポート</translation>
+    </message>
+    <message>
+        <source>GIMP palette (*.gpl)</source>
+        <translation>GIMP パレット (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Recording</source>
+        <translation>記録の書き出し</translation>
+    </message>
+    <message>
+        <source>Recording (*.jsonl)</source>
+        <translation>記録 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Export Time-Lapse</source>
+        <translation>タイムラプスの書き出し</translation>
+    </message>
+    <message>
+        <source>Animated WebP (*.webp)</source>
+        <translation>アニメーション WebP (*.webp)</translation>
+    </message>
+    <message>
+        <source>Folder of pictures (*)</source>
+        <translation>画像のフォルダー (*)</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>「%1」に書き込めません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::BrushBar</name>
+    <message>
+        <source>Tolerance</source>
+        <translation>許容値</translation>
+    </message>
+    <message>
+        <source>Brush size and opacity</source>
+        <translation>ブラシのサイズと不透明度</translation>
+    </message>
+    <message>
+        <source>Size of the brush, by every drag, wheel or arrow key the same part of it</source>
+        <translation>ブラシのサイズ。ドラッグ、ホイール、矢印キーのたびに同じ割合で変わります</translation>
+    </message>
+    <message>
+        <source>Opacity of each stroke</source>
+        <translation>各ストロークの不透明度</translation>
+    </message>
+    <message>
+        <source>How much colours may differ that a fill takes for one</source>
+        <translation>塗りつぶしで同じ色とみなす色の差</translation>
     </message>
 </context>
 <context>
@@ -1389,6 +1515,81 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::CanvasSizeDialog</name>
+    <message>
+        <source>Canvas Size</source>
+        <translation>キャンバスサイズ</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>ピクセル</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>パーセント</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>幅(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>高さ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Unit</source>
+        <translation>単位(&amp;U)</translation>
+    </message>
+    <message>
+        <source>What is there stays</source>
+        <translation>今の絵の位置</translation>
+    </message>
+    <message>
+        <source>At the top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>At the top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>At the top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>At the left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>In the middle</source>
+        <translation>中央</translation>
+    </message>
+    <message>
+        <source>At the right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>At the bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>At the bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels; what lies beyond is cut off.</source>
+        <translation>%1 × %2 ピクセル。はみ出す部分は切り取られます。</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels.</source>
+        <translation>%1 × %2 ピクセル。</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::CanvasStatus</name>
     <message>
         <source>Shapes</source>
@@ -1406,6 +1607,18 @@
         <source>%1 × %2 px</source>
         <translation>%1 × %2 px</translation>
     </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Mirrored, %1</source>
+        <translation>左右反転、%1</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::CanvasViewport</name>
@@ -1419,6 +1632,107 @@
     <message>
         <source>Other (%1)</source>
         <translation>その他 (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorPanel</name>
+    <message>
+        <source>Foreground colour</source>
+        <translation>描画色</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>背景色</translation>
+    </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>最近使った色</translation>
+    </message>
+    <message>
+        <source>%1: what is chosen below</source>
+        <translation>%1: 下で選ぶ色</translation>
+    </message>
+    <message>
+        <source>Colour as red, green and blue</source>
+        <translation>赤・緑・青で表した色</translation>
+    </message>
+    <message>
+        <source>#rrggbb, #rgb or a name such as teal</source>
+        <translation>#rrggbb、#rgb、または teal などの名前</translation>
+    </message>
+    <message>
+        <source>Swap the colours (X)</source>
+        <translation>色を入れ替え (X)</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the canvas (I, or hold Ctrl)</source>
+        <translation>キャンバスから色を取得 (I、または Ctrl を押しながら)</translation>
+    </message>
+    <message>
+        <source>More to do with colours</source>
+        <translation>色に対するその他の操作</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>ホイール</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>スライダー</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>&amp;Eyedropper Takes</source>
+        <translation>スポイトの範囲(&amp;E)</translation>
+    </message>
+    <message>
+        <source>One Pixel</source>
+        <translation>1 ピクセル</translation>
+    </message>
+    <message>
+        <source>Average of %1 × %1 Pixels</source>
+        <translation>%1 × %1 ピクセルの平均</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Recent Colours</source>
+        <translation>最近使った色を消去(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorSliders</name>
+    <message>
+        <source>Lightness</source>
+        <translation>明度</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorWheel</name>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Hue: drag, or the arrow keys</source>
+        <translation>色相: ドラッグまたは矢印キー</translation>
+    </message>
+    <message>
+        <source>%1 degrees</source>
+        <translation>%1 度</translation>
     </message>
 </context>
 <context>
@@ -1445,6 +1759,10 @@
     <message>
         <source>Untitled</source>
         <translation>名称未設定</translation>
+    </message>
+    <message>
+        <source>There is no picture to save.</source>
+        <translation>保存する画像がありません。</translation>
     </message>
 </context>
 <context>
@@ -1607,10 +1925,6 @@
         <translation>画像を復元できません: %1。</translation>
     </message>
     <message>
-        <source>The image could not be placed; the log says why.</source>
-        <translation>画像を配置できませんでした。理由はログに記録されています。</translation>
-    </message>
-    <message>
         <source>Saved %1</source>
         <translation>%1 を保存しました</translation>
     </message>
@@ -1621,18 +1935,6 @@
     <message>
         <source>Place Image</source>
         <translation>画像を配置</translation>
-    </message>
-    <message>
-        <source>Save the layers as one picture?</source>
-        <translation>レイヤーを1枚の画像として保存しますか?</translation>
-    </message>
-    <message>
-        <source>The file shows all of them together. They stay here as long as this picture is open.</source>
-        <translation>ファイルには、すべてのレイヤーが合成された画像が保存されます。この画像を開いている間、レイヤーはそのまま残ります。</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1689,10 +1991,6 @@
     <message>
         <source>&amp;Keys…</source>
         <translation>キー割り当て(&amp;K)…</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>ヒストリー</translation>
     </message>
     <message>
         <source>&amp;Canvas</source>
@@ -1791,14 +2089,6 @@
         <translation>図形を認識(&amp;G)</translation>
     </message>
     <message>
-        <source>Shapes</source>
-        <translation>図形</translation>
-    </message>
-    <message>
-        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)</source>
-        <translation>ストロークを、意図した線・多角形・楕円・円弧・矢印に変えます (Shift+R)</translation>
-    </message>
-    <message>
         <source>&amp;Reset All Settings</source>
         <translation>すべての設定をリセット(&amp;R)</translation>
     </message>
@@ -1870,6 +2160,254 @@
         <source>Strokes stay as they are drawn</source>
         <translation>ストロークは描いたままになります</translation>
     </message>
+    <message>
+        <source>Colour</source>
+        <translation>色</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>描画</translation>
+    </message>
+    <message>
+        <source>Canvas &amp;Size…</source>
+        <translation>キャンバスサイズ(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Crop &amp;to Drawn</source>
+        <translation>描いた範囲に切り抜き(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn</source>
+        <translation>何も描かれていません</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Left</source>
+        <translation>左に回転(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Right</source>
+        <translation>右に回転(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>回転を戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored</source>
+        <translation>左右反転(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Turn by Dragging</source>
+        <translation>ドラッグで回転</translation>
+    </message>
+    <message>
+        <source>Pen Pr&amp;essure…</source>
+        <translation>筆圧(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Steady hand</source>
+        <translation>手ぶれ補正</translation>
+    </message>
+    <message>
+        <source>S&amp;ymmetry</source>
+        <translation>対称(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>なし(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Left and Right</source>
+        <translation>左右(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Above and Below</source>
+        <translation>上下(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Both</source>
+        <translation>両方(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Rays</source>
+        <translation>放射状(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>対称</translation>
+    </message>
+    <message>
+        <source>Draws copies of every stroke, mirrored or turned</source>
+        <translation>すべてのストロークの複製を、反転または回転して描きます</translation>
+    </message>
+    <message>
+        <source>N&amp;umber of Rays…</source>
+        <translation>放射の数(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>放射</translation>
+    </message>
+    <message>
+        <source>Rays of the symmetry:</source>
+        <translation>対称の放射の数:</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored Rays</source>
+        <translation>放射を反転(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Centre Here</source>
+        <translation>ここを中心にする(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Centre in the M&amp;iddle</source>
+        <translation>中心をキャンバス中央に(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Drag the Centre</source>
+        <translation>中心をドラッグ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Open Recen&amp;t</source>
+        <translation>最近使ったファイル(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>テーマ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>システムに合わせる(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>ライト(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>ダーク(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Painter&apos;s &amp;Guide</source>
+        <translation>描き方ガイド(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;About Dabpainter</source>
+        <translation>Dabpainter について(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Recording</source>
+        <translation>記録(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>記録する(&amp;R)</translation>
+    </message>
+    <message>
+        <source>What is painted from here on is kept, to be exported</source>
+        <translation>ここから描いたものを書き出し用に残します</translation>
+    </message>
+    <message>
+        <source>&amp;Export Recording…</source>
+        <translation>記録を書き出す(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Export &amp;Time-Lapse…</source>
+        <translation>タイムラプスを書き出す(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Exported %1</source>
+        <translation>%1 を書き出しました</translation>
+    </message>
+    <message>
+        <source>Painting the time-lapse…</source>
+        <translation>タイムラプスを描いています…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Enter or a double click puts it down, Escape gives it up</source>
+        <translation>Enter またはダブルクリックで確定、Escape で取り消します</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>すべて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Rectangle</source>
+        <translation>長方形(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Lasso</source>
+        <translation>投げ縄(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy All &amp;Layers</source>
+        <translation>すべてのレイヤーをコピー(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>There is no picture to paste</source>
+        <translation>貼り付ける画像がありません</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>ツール(&amp;T)</translation>
+    </message>
+    <message>
+        <source>E&amp;raser</source>
+        <translation>消しゴム(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Smudge</source>
+        <translation>色混ぜ(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Fill</source>
+        <translation>塗りつぶし(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as</source>
+        <translation>描線を、意図した直線・多角形・楕円・円弧・矢印に変えます</translation>
+    </message>
+    <message>
+        <source>This layer is hidden: nothing would be seen of it</source>
+        <translation>このレイヤーは非表示のため、描いても見えません</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to fill this</source>
+        <translation>メモリーが足りず、塗りつぶせません</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
@@ -1915,11 +2453,132 @@
     </message>
 </context>
 <context>
-    <name>dabcanvas::dabpainter::PresetBrowser</name>
+    <name>dabcanvas::dabpainter::PaletteLibrary</name>
     <message>
-        <source>No brush is called so.</source>
-        <translation>その名前のブラシはありません。</translation>
+        <source>The folder &quot;%1&quot; could not be made.</source>
+        <translation>フォルダー「%1」を作成できませんでした。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted: %2.</source>
+        <translation>「%1」を削除できませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no usable palette: %2.</source>
+        <translation>「%1」は使用できるパレットではありません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PalettePage</name>
+    <message>
+        <source>Colours of the palette</source>
+        <translation>パレットの色</translation>
+    </message>
+    <message>
+        <source>No colours yet: + adds the present one.</source>
+        <translation>まだ色がありません。+ で現在の色を追加します。</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>パレット</translation>
+    </message>
+    <message>
+        <source>Add the present colour to the palette</source>
+        <translation>現在の色をパレットに追加</translation>
+    </message>
+    <message>
+        <source>More to do with palettes</source>
+        <translation>パレットに対するその他の操作</translation>
+    </message>
+    <message>
+        <source>&amp;New Palette…</source>
+        <translation>新規パレット(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename Palette…</source>
+        <translation>パレットの名前を変更(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Palette…</source>
+        <translation>パレットを削除(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Import Palettes…</source>
+        <translation>パレットをインポート(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export Palette…</source>
+        <translation>パレットをエクスポート(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Colour…</source>
+        <translation>色の名前を変更(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Colour</source>
+        <translation>色を削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rename Colour</source>
+        <translation>色の名前を変更</translation>
+    </message>
+    <message>
+        <source>New Palette</source>
+        <translation>新規パレット</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>パレットの名前を変更</translation>
+    </message>
+    <message>
+        <source>Delete the palette &quot;%1&quot;?</source>
+        <translation>パレット「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>This cannot be taken back.</source>
+        <translation>この操作は元に戻せません。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PictureFile</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2.</source>
+        <translation>「%1」を開けません: %2。</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ファイルがありません</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>permission denied</source>
+        <translation>アクセス権がありません</translation>
+    </message>
+    <message>
+        <source>it is not an image of a known kind</source>
+        <translation>対応していない画像形式です</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>壊れています</translation>
+    </message>
+    <message>
+        <source>it is damaged (%1)</source>
+        <translation>壊れています (%1)</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>メモリー不足です</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
         <source>Save as &amp;New Brush…</source>
         <translation>新規ブラシとして保存(&amp;N)…</translation>
@@ -2022,6 +2681,30 @@
         <translation>「%1」のうち、次のものは引き継げませんでした:
 %2</translation>
     </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>お気に入り(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>ブラシの種類</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>表示するブラシ</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>まだブラシがありません。上のメニューからインポートするか、現在の設定を新規ブラシとして保存してください。</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2032,6 +2715,25 @@
     <message>
         <source>no preset</source>
         <translation>プリセットではない</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetFilter</name>
+    <message>
+        <source>No brush is called &quot;%1&quot;: clear the search.</source>
+        <translation>「%1」というブラシはありません。検索を消してください。</translation>
+    </message>
+    <message>
+        <source>None of these is called &quot;%1&quot;: clear the search, or show all brushes.</source>
+        <translation>この中に「%1」はありません。検索を消すか、すべてのブラシを表示してください。</translation>
+    </message>
+    <message>
+        <source>No favourites yet: a click on the star of a brush makes it one, or * in the list.</source>
+        <translation>お気に入りはまだありません。ブラシの星をクリックするか、一覧で * を押してください。</translation>
+    </message>
+    <message>
+        <source>No brush is of this kind: show all brushes.</source>
+        <translation>この種類のブラシはありません。すべてのブラシを表示してください。</translation>
     </message>
 </context>
 <context>
@@ -2091,12 +2793,175 @@
         <source>Plain</source>
         <translation>標準</translation>
     </message>
+    <message>
+        <source>By %1</source>
+        <translation>作者: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureCurveEditor</name>
+    <message>
+        <source>Pressure curve</source>
+        <translation>筆圧曲線</translation>
+    </message>
+    <message>
+        <source>Arrows move a point, Ctrl with left and right chooses one, Insert adds one, Delete takes it away</source>
+        <translation>矢印キーで点を移動、Ctrl と左右キーで点を選択、Insert で追加、Delete で削除</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureDialog</name>
+    <message>
+        <source>Pen Pressure</source>
+        <translation>筆圧</translation>
+    </message>
+    <message>
+        <source>Clear the &amp;Sheet</source>
+        <translation>用紙を消去(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Draw here to try it</source>
+        <translation>ここに描いて試せます</translation>
+    </message>
+    <message>
+        <source>So&amp;ft</source>
+        <translation>柔らかい(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Linear</source>
+        <translation>直線(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Fir&amp;m</source>
+        <translation>硬い(&amp;M)</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s %1 % count as %2 %</source>
+        <translation>ペンの %1 % を %2 % として扱います</translation>
+    </message>
+    <message>
+        <source>No pen presses</source>
+        <translation>ペンが押されていません</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureTester</name>
+    <message>
+        <source>Sheet to try the pressure on</source>
+        <translation>筆圧を試す用紙</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterReader</name>
+    <message>
+        <source>its layers have too many pixels together</source>
+        <translation>レイヤーの合計ピクセル数が多すぎます</translation>
+    </message>
+    <message>
+        <source>it is no OpenRaster picture, or damaged</source>
+        <translation>OpenRaster 画像ではないか、壊れています</translation>
+    </message>
+    <message>
+        <source>the picture of its layer &quot;%1&quot; is missing or damaged</source>
+        <translation>レイヤー「%1」の画像がないか、壊れています</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>メモリー不足です</translation>
+    </message>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>この dabpainter は、OpenRaster に必要な QuaZip なしでビルドされています</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>アーカイブが壊れています</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterWriter</name>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>この dabpainter は、OpenRaster に必要な QuaZip なしでビルドされています</translation>
+    </message>
+    <message>
+        <source>there is no memory for the file</source>
+        <translation>ファイルのためのメモリーが足りません</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecentFiles</name>
+    <message>
+        <source>No picture yet</source>
+        <translation>まだ画像はありません</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>一覧を消去(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>
         <translation>現在のブラシによるストローク</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SelectionEditor</name>
+    <message>
+        <source>The layer is hidden</source>
+        <translation>レイヤーは非表示です</translation>
+    </message>
+    <message>
+        <source>Nothing of this layer is selected</source>
+        <translation>このレイヤーでは何も選択されていません</translation>
+    </message>
+    <message>
+        <source>The canvas takes no picture now; the log says why.</source>
+        <translation>今はキャンバスに画像を配置できません。理由はログに記録されています。</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s alpha is locked</source>
+        <translation>レイヤーの透明部分がロックされています</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SessionRecorder</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>記録を書き込めません: %1。</translation>
+    </message>
+    <message>
+        <source>The canvas cannot be recorded; the log says why.</source>
+        <translation>キャンバスを記録できません。理由はログにあります。</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded.</source>
+        <translation>何も記録されていません。</translation>
+    </message>
+    <message>
+        <source>The recording could not be written down: %1.</source>
+        <translation>記録を保存できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be saved: %2.</source>
+        <translation>「%1」を保存できません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ShadeTriangle</name>
+    <message>
+        <source>Lightness and chroma</source>
+        <translation>明度と彩度</translation>
+    </message>
+    <message>
+        <source>Lightness and chroma: drag, or the arrow keys</source>
+        <translation>明度と彩度: ドラッグまたは矢印キー</translation>
+    </message>
+    <message>
+        <source>Lightness %1 %, chroma %2</source>
+        <translation>明度 %1 %、彩度 %2</translation>
     </message>
 </context>
 <context>
@@ -2144,6 +3009,106 @@
     <message>
         <source>%1 is the key of &quot;%2&quot;, which would have none then.</source>
         <translation>%1 は「%2」のキーです。割り当てを移すと、そちらのキーはなくなります。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StabiliserControl</name>
+    <message>
+        <source>Unsteadied</source>
+        <translation>補正なし</translation>
+    </message>
+    <message>
+        <source>Averaged</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Pulled string</source>
+        <translation>引きひも</translation>
+    </message>
+    <message>
+        <source>What steadies the hand</source>
+        <translation>手ぶれ補正の方法</translation>
+    </message>
+    <message>
+        <source>What steadies the hand; each brush remembers its own</source>
+        <translation>手ぶれ補正の方法。ブラシごとに記憶されます</translation>
+    </message>
+    <message>
+        <source>How much the hand is steadied</source>
+        <translation>手ぶれ補正の強さ</translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation>終点まで</translation>
+    </message>
+    <message>
+        <source>At its end a line goes on to where the pointer is</source>
+        <translation>線の終わりをポインターの位置まで伸ばします</translation>
+    </message>
+    <message>
+        <source>The string is %1 points long</source>
+        <translation>ひもの長さは %1 ポイントです</translation>
+    </message>
+    <message>
+        <source>Follows within %1 s</source>
+        <translation>%1 秒以内に追従します</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StackReader</name>
+    <message>
+        <source>Some layers have blend modes that are not known here; they are shown as normal.</source>
+        <translation>一部のレイヤーの合成モードは未対応のため、通常として表示します。</translation>
+    </message>
+    <message>
+        <source>a layer lies too far from the picture</source>
+        <translation>画像から離れすぎたレイヤーがあります</translation>
+    </message>
+    <message>
+        <source>Groups of layers have come apart, and may look another way.</source>
+        <translation>レイヤーのグループが解除されました。見た目が変わることがあります。</translation>
+    </message>
+    <message>
+        <source>its groups lie too deep in each other</source>
+        <translation>グループの入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>the picture of a layer lies outside of the archive</source>
+        <translation>アーカイブの外にあるレイヤー画像があります</translation>
+    </message>
+    <message>
+        <source>it has more than %1 layers</source>
+        <translation>レイヤーが %1 枚を超えています</translation>
+    </message>
+    <message>
+        <source>Some of its contents are no layers of pixels, and are left out.</source>
+        <translation>ピクセルレイヤーでない内容は除外されました。</translation>
+    </message>
+    <message>
+        <source>its list of layers is damaged (%1)</source>
+        <translation>レイヤーの一覧が壊れています (%1)</translation>
+    </message>
+    <message>
+        <source>it has no layers</source>
+        <translation>レイヤーがありません</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SwatchGrid</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::TimelapseExport</name>
+    <message>
+        <source>There is no memory for the time-lapse.</source>
+        <translation>タイムラプスのためのメモリがありません。</translation>
+    </message>
+    <message>
+        <source>The recording</source>
+        <translation>記録</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>About</name>
+    <message>
+        <source>About Dabpainter</source>
+        <translation>关于 Dabpainter</translation>
+    </message>
+    <message>
+        <source>Dabpainter %1 paints with natural-media brushes. Whoever reports a fault may add this:</source>
+        <translation>Dabpainter %1 以自然画材画笔作画。报告问题时可附上以下内容：</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>Tables</name>
     <message>
         <source>A ball that skips a little and lays down more ink where it is pressed.</source>
@@ -1255,34 +1274,6 @@
         <translation>%1 × %2 像素过大：画布最多 %3 百万像素</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; cannot be opened: %2.</source>
-        <translation>无法打开“%1”：%2。</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>没有此文件</translation>
-    </message>
-    <message>
-        <source>it is not a file</source>
-        <translation>这不是文件</translation>
-    </message>
-    <message>
-        <source>permission denied</source>
-        <translation>没有权限</translation>
-    </message>
-    <message>
-        <source>it is not an image of a known kind</source>
-        <translation>这不是已知类型的图像</translation>
-    </message>
-    <message>
-        <source>it is damaged (%1)</source>
-        <translation>文件已损坏（%1）</translation>
-    </message>
-    <message>
-        <source>out of memory</source>
-        <translation>内存不足</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; cannot be saved: %2.</source>
         <translation>无法保存“%1”：%2。</translation>
     </message>
@@ -1338,12 +1329,147 @@
         <source>There is nothing to paint with; the log says what is missing.</source>
         <translation>没有可用于绘画的渲染方式；日志中说明了缺少什么。</translation>
     </message>
+    <message>
+        <source>it is too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>it does not begin with &quot;GIMP Palette&quot;</source>
+        <translation>开头不是“GIMP Palette”</translation>
+    </message>
+    <message>
+        <source>line %1 is no colour of three numbers up to 255</source>
+        <translation>第 %1 行不是由三个不超过 255 的数字组成的颜色</translation>
+    </message>
+    <message>
+        <source>it has more than %1 colours</source>
+        <translation>颜色超过 %1 种</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2.</source>
+        <translation>无法写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>A canvas of %1 × %2 pixels cannot be had here.</source>
+        <translation>此处无法提供 %1 × %2 像素的画布。</translation>
+    </message>
+    <message>
+        <source>no picture is written as %1; the kinds are %2</source>
+        <translation>无法将图片写为 %1；可用的类型有 %2</translation>
+    </message>
+    <message>
+        <source>This kind of file has no layers.</source>
+        <translation>此类文件没有图层。</translation>
+    </message>
+    <message>
+        <source>This kind of file cannot be seen through.</source>
+        <translation>此类文件不支持透明。</translation>
+    </message>
+    <message>
+        <source>It shows all of them together. They stay here as long as this picture is open, and an OpenRaster file keeps them.</source>
+        <translation>文件中会显示合并后的所有图层。只要此图片保持打开，图层就会保留在这里；OpenRaster 文件可保留图层。</translation>
+    </message>
+    <message>
+        <source>What is transparent is filled with the paper&apos;s colour. A PNG file keeps it.</source>
+        <translation>透明部分会填充为纸张颜色。PNG 文件可保留透明。</translation>
+    </message>
+    <message>
+        <source>Save Flattened</source>
+        <translation>合并后保存</translation>
+    </message>
+    <message>
+        <source>Save Filled</source>
+        <translation>填充后保存</translation>
+    </message>
+    <message>
+        <source>Save as PNG…</source>
+        <translation>另存为 PNG…</translation>
+    </message>
+    <message>
+        <source>Save as OpenRaster…</source>
+        <translation>另存为 OpenRaster…</translation>
+    </message>
+    <message>
+        <source>OpenRaster, with layers (*.ora)</source>
+        <translation>OpenRaster，含图层 (*.ora)</translation>
+    </message>
+    <message>
+        <source>JPEG image (*.jpg *.jpeg)</source>
+        <translation>JPEG 图像 (*.jpg *.jpeg)</translation>
+    </message>
+    <message>
+        <source>WebP image, lossless (*.webp)</source>
+        <translation>WebP 图像，无损 (*.webp)</translation>
+    </message>
+    <message>
+        <source>Other images (%1)</source>
+        <translation>其他图像 (%1)</translation>
+    </message>
+    <message>
+        <source>Import Palettes</source>
+        <translation>导入调色板</translation>
+    </message>
+    <message>
+        <source>GIMP palettes (*.gpl)</source>
+        <translation>GIMP 调色板 (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Palette</source>
+        <translation>导出调色板</translation>
+    </message>
+    <message>
+        <source>GIMP palette (*.gpl)</source>
+        <translation>GIMP 调色板 (*.gpl)</translation>
+    </message>
+    <message>
+        <source>Export Recording</source>
+        <translation>导出记录</translation>
+    </message>
+    <message>
+        <source>Recording (*.jsonl)</source>
+        <translation>记录 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Export Time-Lapse</source>
+        <translation>导出延时动画</translation>
+    </message>
+    <message>
+        <source>Animated WebP (*.webp)</source>
+        <translation>WebP 动画 (*.webp)</translation>
+    </message>
+    <message>
+        <source>Folder of pictures (*)</source>
+        <translation>图片文件夹 (*)</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>无法写入“%1”：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::BrushBar</name>
+    <message>
+        <source>Tolerance</source>
+        <translation>容差</translation>
+    </message>
+    <message>
+        <source>Brush size and opacity</source>
+        <translation>画笔大小和不透明度</translation>
+    </message>
+    <message>
+        <source>Size of the brush, by every drag, wheel or arrow key the same part of it</source>
+        <translation>画笔大小；每次拖动、滚轮或方向键均按相同比例改变</translation>
+    </message>
+    <message>
+        <source>Opacity of each stroke</source>
+        <translation>每一笔的不透明度</translation>
+    </message>
+    <message>
+        <source>How much colours may differ that a fill takes for one</source>
+        <translation>填充时视为同一颜色的差异范围</translation>
     </message>
 </context>
 <context>
@@ -1389,6 +1515,81 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::CanvasSizeDialog</name>
+    <message>
+        <source>Canvas Size</source>
+        <translation>画布大小</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>像素</translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>百分比</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>宽度(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>高度(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Unit</source>
+        <translation>单位(&amp;U)</translation>
+    </message>
+    <message>
+        <source>What is there stays</source>
+        <translation>现有内容的位置</translation>
+    </message>
+    <message>
+        <source>At the top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>At the top</source>
+        <translation>上方</translation>
+    </message>
+    <message>
+        <source>At the top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>At the left</source>
+        <translation>左侧</translation>
+    </message>
+    <message>
+        <source>In the middle</source>
+        <translation>中间</translation>
+    </message>
+    <message>
+        <source>At the right</source>
+        <translation>右侧</translation>
+    </message>
+    <message>
+        <source>At the bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>At the bottom</source>
+        <translation>下方</translation>
+    </message>
+    <message>
+        <source>At the bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels; what lies beyond is cut off.</source>
+        <translation>%1 × %2 像素；超出部分会被裁掉。</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels.</source>
+        <translation>%1 × %2 像素。</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::CanvasStatus</name>
     <message>
         <source>Shapes</source>
@@ -1406,6 +1607,18 @@
         <source>%1 × %2 px</source>
         <translation>%1 × %2 像素</translation>
     </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>镜像</translation>
+    </message>
+    <message>
+        <source>Mirrored, %1</source>
+        <translation>镜像，%1</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::CanvasViewport</name>
@@ -1419,6 +1632,107 @@
     <message>
         <source>Other (%1)</source>
         <translation>其他（%1）</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorPanel</name>
+    <message>
+        <source>Foreground colour</source>
+        <translation>前景色</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>背景色</translation>
+    </message>
+    <message>
+        <source>Recent colours</source>
+        <translation>最近使用的颜色</translation>
+    </message>
+    <message>
+        <source>%1: what is chosen below</source>
+        <translation>%1：在下方选取的颜色</translation>
+    </message>
+    <message>
+        <source>Colour as red, green and blue</source>
+        <translation>以红、绿、蓝表示的颜色</translation>
+    </message>
+    <message>
+        <source>#rrggbb, #rgb or a name such as teal</source>
+        <translation>#rrggbb、#rgb 或 teal 之类的名称</translation>
+    </message>
+    <message>
+        <source>Swap the colours (X)</source>
+        <translation>交换颜色 (X)</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the canvas (I, or hold Ctrl)</source>
+        <translation>从画布拾取颜色 (I，或按住 Ctrl)</translation>
+    </message>
+    <message>
+        <source>More to do with colours</source>
+        <translation>颜色的更多操作</translation>
+    </message>
+    <message>
+        <source>Wheel</source>
+        <translation>色轮</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>滑块</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <translation>调色板</translation>
+    </message>
+    <message>
+        <source>&amp;Eyedropper Takes</source>
+        <translation>吸管取样(&amp;E)</translation>
+    </message>
+    <message>
+        <source>One Pixel</source>
+        <translation>单个像素</translation>
+    </message>
+    <message>
+        <source>Average of %1 × %1 Pixels</source>
+        <translation>%1 × %1 像素平均值</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Recent Colours</source>
+        <translation>清除最近使用的颜色(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorSliders</name>
+    <message>
+        <source>Lightness</source>
+        <translation>明度</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ColorWheel</name>
+    <message>
+        <source>Hue</source>
+        <translation>色相</translation>
+    </message>
+    <message>
+        <source>Hue: drag, or the arrow keys</source>
+        <translation>色相：拖动或用方向键</translation>
+    </message>
+    <message>
+        <source>%1 degrees</source>
+        <translation>%1 度</translation>
     </message>
 </context>
 <context>
@@ -1445,6 +1759,10 @@
     <message>
         <source>Untitled</source>
         <translation>未命名</translation>
+    </message>
+    <message>
+        <source>There is no picture to save.</source>
+        <translation>没有可保存的图片。</translation>
     </message>
 </context>
 <context>
@@ -1607,10 +1925,6 @@
         <translation>无法恢复图片：%1。</translation>
     </message>
     <message>
-        <source>The image could not be placed; the log says why.</source>
-        <translation>无法置入图像；原因见日志。</translation>
-    </message>
-    <message>
         <source>Saved %1</source>
         <translation>已保存“%1”</translation>
     </message>
@@ -1621,18 +1935,6 @@
     <message>
         <source>Place Image</source>
         <translation>置入图像</translation>
-    </message>
-    <message>
-        <source>Save the layers as one picture?</source>
-        <translation>要将所有图层保存为一张图片吗？</translation>
-    </message>
-    <message>
-        <source>The file shows all of them together. They stay here as long as this picture is open.</source>
-        <translation>文件中会显示合并后的所有图层。只要此图片保持打开，图层就会保留在这里。</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -1689,10 +1991,6 @@
     <message>
         <source>&amp;Keys…</source>
         <translation>快捷键(&amp;K)…</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>历史记录</translation>
     </message>
     <message>
         <source>&amp;Canvas</source>
@@ -1791,14 +2089,6 @@
         <translation>识别形状(&amp;G)</translation>
     </message>
     <message>
-        <source>Shapes</source>
-        <translation>形状</translation>
-    </message>
-    <message>
-        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as (Shift+R)</source>
-        <translation>笔画会变成其想要表达的直线、多边形、椭圆、弧线或箭头 (Shift+R)</translation>
-    </message>
-    <message>
         <source>&amp;Reset All Settings</source>
         <translation>重置所有设置(&amp;R)</translation>
     </message>
@@ -1870,6 +2160,254 @@
         <source>Strokes stay as they are drawn</source>
         <translation>笔画保持绘制时的样子</translation>
     </message>
+    <message>
+        <source>Colour</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>绘画</translation>
+    </message>
+    <message>
+        <source>Canvas &amp;Size…</source>
+        <translation>画布大小(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Crop &amp;to Drawn</source>
+        <translation>裁剪到绘制范围(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Nothing is drawn</source>
+        <translation>尚未绘制任何内容</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Left</source>
+        <translation>向左旋转(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Turn &amp;Right</source>
+        <translation>向右旋转(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>转正(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored</source>
+        <translation>镜像(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Turn by Dragging</source>
+        <translation>拖动旋转</translation>
+    </message>
+    <message>
+        <source>Pen Pr&amp;essure…</source>
+        <translation>笔压(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Steady hand</source>
+        <translation>防抖</translation>
+    </message>
+    <message>
+        <source>S&amp;ymmetry</source>
+        <translation>对称(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>无(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Left and Right</source>
+        <translation>左右(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Above and Below</source>
+        <translation>上下(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Both</source>
+        <translation>两者(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Rays</source>
+        <translation>放射(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Symmetry</source>
+        <translation>对称</translation>
+    </message>
+    <message>
+        <source>Draws copies of every stroke, mirrored or turned</source>
+        <translation>为每一笔绘制镜像或旋转的副本</translation>
+    </message>
+    <message>
+        <source>N&amp;umber of Rays…</source>
+        <translation>放射数量(&amp;U)…</translation>
+    </message>
+    <message>
+        <source>Rays</source>
+        <translation>放射</translation>
+    </message>
+    <message>
+        <source>Rays of the symmetry:</source>
+        <translation>对称的放射数量：</translation>
+    </message>
+    <message>
+        <source>&amp;Mirrored Rays</source>
+        <translation>镜像放射(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Centre Here</source>
+        <translation>以此处为中心(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Centre in the M&amp;iddle</source>
+        <translation>中心置于中间(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Drag the Centre</source>
+        <translation>拖动中心(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Open Recen&amp;t</source>
+        <translation>最近打开(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>主题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>As the &amp;System</source>
+        <translation>跟随系统(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>浅色(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>深色(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Painter&apos;s &amp;Guide</source>
+        <translation>绘画指南(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;About Dabpainter</source>
+        <translation>关于 Dabpainter(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Recording</source>
+        <translation>记录(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>开始记录(&amp;R)</translation>
+    </message>
+    <message>
+        <source>What is painted from here on is kept, to be exported</source>
+        <translation>从现在起记录绘制过程，以便导出</translation>
+    </message>
+    <message>
+        <source>&amp;Export Recording…</source>
+        <translation>导出记录(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Export &amp;Time-Lapse…</source>
+        <translation>导出延时动画(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Exported %1</source>
+        <translation>已导出 %1</translation>
+    </message>
+    <message>
+        <source>Painting the time-lapse…</source>
+        <translation>正在绘制延时动画…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Enter or a double click puts it down, Escape gives it up</source>
+        <translation>按 Enter 或双击放下，按 Escape 放弃</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>选择(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>全部(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Rectangle</source>
+        <translation>矩形(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Lasso</source>
+        <translation>套索(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy All &amp;Layers</source>
+        <translation>复制所有图层(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>There is no picture to paste</source>
+        <translation>没有可粘贴的图片</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>工具(&amp;T)</translation>
+    </message>
+    <message>
+        <source>E&amp;raser</source>
+        <translation>橡皮擦(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Smudge</source>
+        <translation>涂抹(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Fill</source>
+        <translation>填充(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>Strokes become the line, polygon, ellipse, arc or arrow they are meant as</source>
+        <translation>把笔画变成所要的直线、多边形、椭圆、圆弧或箭头</translation>
+    </message>
+    <message>
+        <source>This layer is hidden: nothing would be seen of it</source>
+        <translation>此图层已隐藏：操作结果不可见</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to fill this</source>
+        <translation>内存不足，无法填充</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
@@ -1915,11 +2453,132 @@
     </message>
 </context>
 <context>
-    <name>dabcanvas::dabpainter::PresetBrowser</name>
+    <name>dabcanvas::dabpainter::PaletteLibrary</name>
     <message>
-        <source>No brush is called so.</source>
-        <translation>没有此名称的画笔。</translation>
+        <source>The folder &quot;%1&quot; could not be made.</source>
+        <translation>无法创建文件夹“%1”。</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted: %2.</source>
+        <translation>无法删除“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no usable palette: %2.</source>
+        <translation>“%1”不是可用的调色板：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PalettePage</name>
+    <message>
+        <source>Colours of the palette</source>
+        <translation>调色板的颜色</translation>
+    </message>
+    <message>
+        <source>No colours yet: + adds the present one.</source>
+        <translation>尚无颜色：按 + 添加当前颜色。</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>调色板</translation>
+    </message>
+    <message>
+        <source>Add the present colour to the palette</source>
+        <translation>将当前颜色添加到调色板</translation>
+    </message>
+    <message>
+        <source>More to do with palettes</source>
+        <translation>调色板的更多操作</translation>
+    </message>
+    <message>
+        <source>&amp;New Palette…</source>
+        <translation>新建调色板(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename Palette…</source>
+        <translation>重命名调色板(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Palette…</source>
+        <translation>删除调色板(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Import Palettes…</source>
+        <translation>导入调色板(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export Palette…</source>
+        <translation>导出调色板(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Colour…</source>
+        <translation>重命名颜色(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Colour</source>
+        <translation>移除颜色(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rename Colour</source>
+        <translation>重命名颜色</translation>
+    </message>
+    <message>
+        <source>New Palette</source>
+        <translation>新建调色板</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <translation>重命名调色板</translation>
+    </message>
+    <message>
+        <source>Delete the palette &quot;%1&quot;?</source>
+        <translation>要删除调色板“%1”吗？</translation>
+    </message>
+    <message>
+        <source>This cannot be taken back.</source>
+        <translation>此操作无法撤销。</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PictureFile</name>
+    <message>
+        <source>&quot;%1&quot; cannot be opened: %2.</source>
+        <translation>无法打开“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>没有此文件</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>这不是文件</translation>
+    </message>
+    <message>
+        <source>permission denied</source>
+        <translation>没有权限</translation>
+    </message>
+    <message>
+        <source>it is not an image of a known kind</source>
+        <translation>这不是已知类型的图像</translation>
+    </message>
+    <message>
+        <source>it is damaged</source>
+        <translation>文件已损坏</translation>
+    </message>
+    <message>
+        <source>it is damaged (%1)</source>
+        <translation>文件已损坏（%1）</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>内存不足</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
         <source>Save as &amp;New Brush…</source>
         <translation>另存为新画笔(&amp;N)…</translation>
@@ -2022,6 +2681,30 @@
         <translation>“%1”中的以下内容无法导入：
 %2</translation>
     </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>收藏(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>画笔种类</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>列出哪些画笔</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>收藏</translation>
+    </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>尚无画笔：请用上方菜单导入，或将当前设置保存为画笔。</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2032,6 +2715,25 @@
     <message>
         <source>no preset</source>
         <translation>无预设</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetFilter</name>
+    <message>
+        <source>No brush is called &quot;%1&quot;: clear the search.</source>
+        <translation>没有名为“%1”的画笔：请清除搜索。</translation>
+    </message>
+    <message>
+        <source>None of these is called &quot;%1&quot;: clear the search, or show all brushes.</source>
+        <translation>其中没有名为“%1”的画笔：请清除搜索，或显示全部画笔。</translation>
+    </message>
+    <message>
+        <source>No favourites yet: a click on the star of a brush makes it one, or * in the list.</source>
+        <translation>还没有收藏：点击画笔上的星，或在列表中按 * 即可收藏。</translation>
+    </message>
+    <message>
+        <source>No brush is of this kind: show all brushes.</source>
+        <translation>没有此类画笔：请显示全部画笔。</translation>
     </message>
 </context>
 <context>
@@ -2091,12 +2793,175 @@
         <source>Plain</source>
         <translation>基本</translation>
     </message>
+    <message>
+        <source>By %1</source>
+        <translation>作者：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureCurveEditor</name>
+    <message>
+        <source>Pressure curve</source>
+        <translation>压力曲线</translation>
+    </message>
+    <message>
+        <source>Arrows move a point, Ctrl with left and right chooses one, Insert adds one, Delete takes it away</source>
+        <translation>方向键移动点，Ctrl 加左右键选择点，Insert 添加，Delete 删除</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureDialog</name>
+    <message>
+        <source>Pen Pressure</source>
+        <translation>笔压力</translation>
+    </message>
+    <message>
+        <source>Clear the &amp;Sheet</source>
+        <translation>清空试画区(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Draw here to try it</source>
+        <translation>在此绘制试用</translation>
+    </message>
+    <message>
+        <source>So&amp;ft</source>
+        <translation>柔(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Linear</source>
+        <translation>线性(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Fir&amp;m</source>
+        <translation>硬(&amp;M)</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s %1 % count as %2 %</source>
+        <translation>笔的 %1% 计为 %2%</translation>
+    </message>
+    <message>
+        <source>No pen presses</source>
+        <translation>没有笔按压</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PressureTester</name>
+    <message>
+        <source>Sheet to try the pressure on</source>
+        <translation>压力试画区</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterReader</name>
+    <message>
+        <source>its layers have too many pixels together</source>
+        <translation>图层的像素总数过多</translation>
+    </message>
+    <message>
+        <source>it is no OpenRaster picture, or damaged</source>
+        <translation>不是 OpenRaster 图片，或已损坏</translation>
+    </message>
+    <message>
+        <source>the picture of its layer &quot;%1&quot; is missing or damaged</source>
+        <translation>图层“%1”的图片缺失或已损坏</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>此 dabpainter 构建时未包含 OpenRaster 所需的 QuaZip</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>压缩包已损坏</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RasterWriter</name>
+    <message>
+        <source>this dabpainter was built without QuaZip, which OpenRaster needs</source>
+        <translation>此 dabpainter 构建时未包含 OpenRaster 所需的 QuaZip</translation>
+    </message>
+    <message>
+        <source>there is no memory for the file</source>
+        <translation>内存不足，无法生成文件</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecentFiles</name>
+    <message>
+        <source>No picture yet</source>
+        <translation>尚无图片</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>清空列表(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>
         <translation>用当前画笔绘制的一笔</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SelectionEditor</name>
+    <message>
+        <source>The layer is hidden</source>
+        <translation>图层已隐藏</translation>
+    </message>
+    <message>
+        <source>Nothing of this layer is selected</source>
+        <translation>此图层没有内容被选中</translation>
+    </message>
+    <message>
+        <source>The canvas takes no picture now; the log says why.</source>
+        <translation>画布目前无法接受图片；原因见日志。</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s alpha is locked</source>
+        <translation>图层的透明度已锁定</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SessionRecorder</name>
+    <message>
+        <source>The recording cannot be written: %1.</source>
+        <translation>无法写入记录：%1。</translation>
+    </message>
+    <message>
+        <source>The canvas cannot be recorded; the log says why.</source>
+        <translation>无法记录画布；原因见日志。</translation>
+    </message>
+    <message>
+        <source>Nothing was recorded.</source>
+        <translation>没有记录任何内容。</translation>
+    </message>
+    <message>
+        <source>The recording could not be written down: %1.</source>
+        <translation>未能写下记录：%1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be saved: %2.</source>
+        <translation>无法保存“%1”：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::ShadeTriangle</name>
+    <message>
+        <source>Lightness and chroma</source>
+        <translation>明度和彩度</translation>
+    </message>
+    <message>
+        <source>Lightness and chroma: drag, or the arrow keys</source>
+        <translation>明度和彩度：拖动或用方向键</translation>
+    </message>
+    <message>
+        <source>Lightness %1 %, chroma %2</source>
+        <translation>明度 %1%，彩度 %2</translation>
     </message>
 </context>
 <context>
@@ -2144,6 +3009,106 @@
     <message>
         <source>%1 is the key of &quot;%2&quot;, which would have none then.</source>
         <translation>%1 是“%2”的快捷键，改用后它将没有快捷键。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StabiliserControl</name>
+    <message>
+        <source>Unsteadied</source>
+        <translation>无防抖</translation>
+    </message>
+    <message>
+        <source>Averaged</source>
+        <translation>平均</translation>
+    </message>
+    <message>
+        <source>Pulled string</source>
+        <translation>拉绳</translation>
+    </message>
+    <message>
+        <source>What steadies the hand</source>
+        <translation>防抖方式</translation>
+    </message>
+    <message>
+        <source>What steadies the hand; each brush remembers its own</source>
+        <translation>防抖方式；每个画笔各自记住</translation>
+    </message>
+    <message>
+        <source>How much the hand is steadied</source>
+        <translation>防抖强度</translation>
+    </message>
+    <message>
+        <source>To the end</source>
+        <translation>到终点</translation>
+    </message>
+    <message>
+        <source>At its end a line goes on to where the pointer is</source>
+        <translation>结束时线条会延伸到指针所在处</translation>
+    </message>
+    <message>
+        <source>The string is %1 points long</source>
+        <translation>绳长 %1 点</translation>
+    </message>
+    <message>
+        <source>Follows within %1 s</source>
+        <translation>在 %1 秒内跟上</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::StackReader</name>
+    <message>
+        <source>Some layers have blend modes that are not known here; they are shown as normal.</source>
+        <translation>部分图层的混合模式未知，按正常显示。</translation>
+    </message>
+    <message>
+        <source>a layer lies too far from the picture</source>
+        <translation>有图层离图片过远</translation>
+    </message>
+    <message>
+        <source>Groups of layers have come apart, and may look another way.</source>
+        <translation>图层组已拆开，外观可能有所不同。</translation>
+    </message>
+    <message>
+        <source>its groups lie too deep in each other</source>
+        <translation>图层组嵌套过深</translation>
+    </message>
+    <message>
+        <source>the picture of a layer lies outside of the archive</source>
+        <translation>有图层的图片位于压缩包之外</translation>
+    </message>
+    <message>
+        <source>it has more than %1 layers</source>
+        <translation>图层超过 %1 个</translation>
+    </message>
+    <message>
+        <source>Some of its contents are no layers of pixels, and are left out.</source>
+        <translation>部分内容不是像素图层，已略去。</translation>
+    </message>
+    <message>
+        <source>its list of layers is damaged (%1)</source>
+        <translation>图层列表已损坏（%1）</translation>
+    </message>
+    <message>
+        <source>it has no layers</source>
+        <translation>没有图层</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::SwatchGrid</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::TimelapseExport</name>
+    <message>
+        <source>There is no memory for the time-lapse.</source>
+        <translation>内存不足，无法制作延时动画。</translation>
+    </message>
+    <message>
+        <source>The recording</source>
+        <translation>记录</translation>
     </message>
 </context>
 </TS>
