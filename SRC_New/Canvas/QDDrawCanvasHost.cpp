@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvasHost.h"
+#include "Canvas/CanvasLayers.h"
 
 #include <utility>
 

@@ -47,7 +47,8 @@ public:
     explicit FirstPaint(QWidget& watched) : QObject(&watched) { watched.installEventFilter(this); }
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::Paint)
-            QMetaObject::invokeMethod(qApp, [] { QCoreApplication::exit(print("shown\n")); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                qApp, [] { QCoreApplication::exit(print("shown\n")); }, Qt::QueuedConnection);
         return false;
     }
 };
