@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/QDDrawCanvasHost.h"
-#include "Canvas/CanvasLayers.h"
 
 #include <utility>
 
+#include "Canvas/CanvasLayers.h"
 #include "Preview/LeafDrawing.h"
 
 using dabcanvas::Alive;
