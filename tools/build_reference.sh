@@ -36,7 +36,7 @@ version=$(sed -n 's/^#define DABCANVAS_VERSION_[MP][A-Z]* //p' SRC_New/Maths/Ver
 {
     cat docs/reference/Doxyfile
     echo "PROJECT_NUMBER = $version"
-    echo "INPUT = $work/sources" docs/guide/*.md docs/recordings.md docs/architecture.md benchmarks/README.md CHANGELOG.md
+    echo "INPUT = $work/sources" docs/guide/*.md docs/painter.md docs/recordings.md docs/architecture.md benchmarks/README.md CHANGELOG.md
     echo "USE_MDFILE_AS_MAINPAGE = $work/sources/README.md"
     echo "IMAGE_PATH = docs/images ${pages[*]/%//properties}"
     echo "STRIP_FROM_PATH = $work/sources \"$root\""

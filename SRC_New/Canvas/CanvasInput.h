@@ -45,6 +45,7 @@ struct InputImage {
 
 /// What was done to the layers of a canvas, by the call of CanvasLayers that it names.
 struct InputLayerEdit {
+    /// The calls of CanvasLayers.
     enum class Kind : std::uint8_t { add, duplicate, remove, move, merge, set, activate };
     Kind kind = Kind::activate;
     int layer = 0;             ///< the call's first number
@@ -55,6 +56,7 @@ struct InputLayerEdit {
 
 /// All layers of a canvas, the lowest one first.
 struct InputLayers {
+    /// One of them.
     struct One {
         LayerSettings settings;
         QImage picture;  ///< as pictureSet() has it

@@ -24,8 +24,11 @@ CanvasViewport::CanvasViewport(QWidget* parent) : QWidget(parent) {
     setMinimumSize(200, 150);
 }
 
+// What stands on it and hears all events goes while this is still what they ask, those first that know of the others.
 CanvasViewport::~CanvasViewport() {
     dropView();
+    while (!children().isEmpty())
+        delete children().last();
 }
 
 // Nobody who hears that it goes (the pointer leaves it, the focus) may ask it for anything any more.
