@@ -45,8 +45,8 @@ holds() {
 holds libdabcanvas0 '\.so\.0(\.[0-9.]+)?$'
 holds libdabcanvas-dev '/include/Dabcanvas/.*\.h$' '\.so$' '/cmake/Dabcanvas/.*\.cmake$' '/pkgconfig/dabcanvas-[a-z]+\.pc$'
 holds dabcanvas-tools '/bin/dabpaint$' '/man1/dabpaint(-[a-z]+)?\.1\.gz$'
-holds dabpainter '/bin/dabpainter$' '/man1/dabpainter\.1\.gz$' '/icons/hicolor/' '/applications/' '/metainfo/' '/mime/packages/'
-holds dabcanvas-brushes '/share/dabcanvas/brushes/[a-z0-9-]+\.xbf$'
+holds dabpainter '/bin/dabpainter$' '/dabcanvas/docs/' '/man1/dabpainter\.1\.gz$' '/icons/hicolor/' '/applications/' '/metainfo/' '/mime/packages/'
+holds dabcanvas-brushes '/share/dabcanvas/brushes/[a-z0-9-]+\.xbf$' '/share/dabcanvas/palettes/[a-z]+\.gpl$'
 holds qml6-module-dabcanvas '/qt6/qml/Dabcanvas/(qmldir|plugins\.qmltypes|libdabcanvasplugin\.so)$'
 holds dabcanvas-designer '/qt6/plugins/designer/libdabcanvasdesigner\.so$'
 depends() {

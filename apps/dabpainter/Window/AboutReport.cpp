@@ -20,7 +20,9 @@
 #include <QStandardPaths>
 #include <QStyle>
 #include <QSysInfo>
+#include <QTextBrowser>
 #include <QThread>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "Canvas/QDDrawCanvas.h"
@@ -136,6 +138,17 @@ QString paintersGuide() {
     const QString path =
         QDir::cleanPath(program.filePath(QStringLiteral("../share/dabcanvas/docs/painter.md")));
     return QFileInfo(path).isFile() ? path : QString();
+}
+
+void showPaintersGuide(QWidget* parent) {
+    auto* guide = new QTextBrowser(parent);
+    guide->setWindowFlag(Qt::Window);
+    guide->setAttribute(Qt::WA_DeleteOnClose);
+    guide->setWindowTitle(QCoreApplication::translate("About", "Painter's Guide"));
+    guide->setOpenExternalLinks(true);
+    guide->setSource(QUrl::fromLocalFile(paintersGuide()), QTextDocument::MarkdownResource);
+    guide->resize(1100, 720);
+    guide->show();
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -21,5 +21,7 @@ void showAbout(QWidget* parent, const QString& report);
 
 // The installed guide for painters; empty where there is none.
 QString paintersGuide();
+// Shows it in a window of its own, beside which one goes on painting.
+void showPaintersGuide(QWidget* parent);
 
 }  // namespace dabcanvas::dabpainter

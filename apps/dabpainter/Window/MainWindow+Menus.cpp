@@ -2,11 +2,9 @@
 // The window's menus: what can be done, and by which keys.
 #include <QAction>
 #include <QActionGroup>
-#include <QDesktopServices>
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QStatusBar>
-#include <QUrl>
 #include <algorithm>
 
 #include "Brush/BrushCommands.h"
@@ -198,8 +196,8 @@ void MainWindow::makeViewMenu() {
 
 void MainWindow::makeHelpMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Help"));
-    QAction* guide = addTo(menu, "help.guide", tr("Painter's &Guide"), {key("F1")},
-                           [] { QDesktopServices::openUrl(QUrl::fromLocalFile(paintersGuide())); });
+    QAction* guide =
+        addTo(menu, "help.guide", tr("Painter's &Guide"), {key("F1")}, [this] { showPaintersGuide(this); });
     guide->setVisible(!paintersGuide().isEmpty());
     addTo(menu, "help.about", tr("&About Dabpainter"), {}, [this] {
         _pointer->endStroke();

@@ -19,6 +19,10 @@
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
     </message>
+    <message>
+        <source>Painter&apos;s Guide</source>
+        <translation>Anleitung für Maler</translation>
+    </message>
 </context>
 <context>
     <name>Tables</name>

@@ -19,6 +19,10 @@
         <source>&amp;Copy</source>
         <translation>C&amp;opier</translation>
     </message>
+    <message>
+        <source>Painter&apos;s Guide</source>
+        <translation>Guide du peintre</translation>
+    </message>
 </context>
 <context>
     <name>Tables</name>

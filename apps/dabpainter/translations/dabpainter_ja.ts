@@ -19,6 +19,10 @@
         <source>&amp;Copy</source>
         <translation>コピー(&amp;C)</translation>
     </message>
+    <message>
+        <source>Painter&apos;s Guide</source>
+        <translation>ペインターガイド</translation>
+    </message>
 </context>
 <context>
     <name>Tables</name>

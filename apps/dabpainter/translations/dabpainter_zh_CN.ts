@@ -19,6 +19,10 @@
         <source>&amp;Copy</source>
         <translation>复制(&amp;C)</translation>
     </message>
+    <message>
+        <source>Painter&apos;s Guide</source>
+        <translation>绘画指南</translation>
+    </message>
 </context>
 <context>
     <name>Tables</name>
