@@ -153,6 +153,9 @@ BENCHMARK(fill)->UseManualTime()->Unit(benchmark::kMillisecond)->Arg(4096)->Iter
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");  // a window of any size, on any machine
+    }
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

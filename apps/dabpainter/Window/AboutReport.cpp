@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QInputDevice>
 #include <QLabel>
 #include <QLocale>
@@ -24,6 +25,7 @@
 #include <QThread>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "Canvas/QDDrawCanvas.h"
 #include "Maths/Version.h"
@@ -73,6 +75,22 @@ QStringList deviceLines() {
     }
     return lines;
 }
+
+// Its pictures are at most as wide as the window is at first, and as sharp as they are.
+class GuideBrowser : public QTextBrowser {
+public:
+    static constexpr int kWidth = 960, kMargin = 60;
+    using QTextBrowser::QTextBrowser;
+
+    QVariant loadResource(int type, const QUrl& name) override {
+        const QVariant found = QTextBrowser::loadResource(type, name);
+        QImage picture;
+        if (type != QTextDocument::ImageResource || !picture.loadFromData(found.toByteArray()))
+            return found;
+        picture.setDevicePixelRatio(std::max(1.0, double(picture.width()) / (kWidth - kMargin)));
+        return picture;
+    }
+};
 
 }  // namespace
 
@@ -141,13 +159,13 @@ QString paintersGuide() {
 }
 
 void showPaintersGuide(QWidget* parent) {
-    auto* guide = new QTextBrowser(parent);
+    auto* guide = new GuideBrowser(parent);
     guide->setWindowFlag(Qt::Window);
     guide->setAttribute(Qt::WA_DeleteOnClose);
     guide->setWindowTitle(QCoreApplication::translate("About", "Painter's Guide"));
     guide->setOpenExternalLinks(true);
     guide->setSource(QUrl::fromLocalFile(paintersGuide()), QTextDocument::MarkdownResource);
-    guide->resize(1100, 720);
+    guide->resize(GuideBrowser::kWidth, 720);
     guide->show();
 }
 
