@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QInputDevice>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QMetaEnum>
@@ -89,6 +90,11 @@ public:
             return found;
         picture.setDevicePixelRatio(std::max(1.0, double(picture.width()) / (kWidth - kMargin)));
         return picture;
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        event->key() == Qt::Key_Escape ? void(close()) : QTextBrowser::keyPressEvent(event);
     }
 };
 

@@ -4,7 +4,6 @@
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -85,7 +84,7 @@ void ShortcutsDialog::fill() {
     }
     _list->expandAll();
     showKeys();
-    _list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    _list->resizeColumnToContents(0);
 }
 
 void ShortcutsDialog::showKeys() {

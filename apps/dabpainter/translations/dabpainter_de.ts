@@ -3019,7 +3019,7 @@
     <name>dabcanvas::dabpainter::StabiliserControl</name>
     <message>
         <source>Unsteadied</source>
-        <translation>Unberuhigt</translation>
+        <translation>Freihand</translation>
     </message>
     <message>
         <source>Averaged</source>
