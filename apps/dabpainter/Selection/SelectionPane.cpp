@@ -45,9 +45,7 @@ QImage halved(QImage image, double zoom) {
 
 SelectionPane::SelectionPane(SelectionEditor& editor, CanvasViewport& viewport)
     : QWidget(&viewport), _editor(editor), _viewport(viewport) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_NoSystemBackground);
-    setFocusPolicy(Qt::NoFocus);
+    letEventsThrough(*this);
     resize(viewport.size());
     viewport.installEventFilter(this);  // it covers all of it
     connect(&editor, &SelectionEditor::changed, this, &SelectionPane::refresh);

@@ -39,9 +39,7 @@ Outline outlineOf(const BrushModel& model, double across) {
 
 BrushCursor::BrushCursor(const BrushModel& model, CanvasViewport& viewport)
     : QWidget(&viewport), _model(model), _viewport(viewport) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_NoSystemBackground);
-    setFocusPolicy(Qt::NoFocus);
+    letEventsThrough(*this);
     resize(viewport.size());
     viewport.installEventFilter(this);  // it covers all of it
     connect(&model, &BrushModel::changed, this, [this](BrushKey key) {

@@ -136,4 +136,10 @@ void CanvasViewport::resizeEvent(QResizeEvent*) {
         fit();
 }
 
+void letEventsThrough(QWidget& pane) {
+    pane.setAttribute(Qt::WA_TransparentForMouseEvents);
+    pane.setAttribute(Qt::WA_NoSystemBackground);
+    pane.setFocusPolicy(Qt::NoFocus);
+}
+
 }  // namespace dabcanvas::dabpainter

@@ -59,4 +59,7 @@ private:
     double _fitZoom = 0;  // until the user zooms or pans, the canvas is fitted to the window
 };
 
+// Makes a widget above the canvas one that is only seen.
+void letEventsThrough(QWidget& pane);
+
 }  // namespace dabcanvas::dabpainter

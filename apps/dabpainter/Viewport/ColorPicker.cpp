@@ -27,9 +27,7 @@ constexpr int kDelay = 200;                 // milliseconds: who presses Ctrl fo
 
 ColorPicker::ColorPicker(CanvasViewport& viewport, const BrushModel& brush)
     : QWidget(&viewport), _viewport(viewport), _brush(brush) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_NoSystemBackground);
-    setFocusPolicy(Qt::NoFocus);
+    letEventsThrough(*this);
     hide();
     _timer.setSingleShot(true);
     _timer.setInterval(kDelay);

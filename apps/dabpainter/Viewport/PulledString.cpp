@@ -11,9 +11,7 @@ namespace dabcanvas::dabpainter {
 
 PulledString::PulledString(CanvasViewport& viewport, const CanvasPointer& pointer)
     : QWidget(&viewport), _viewport(viewport) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_NoSystemBackground);
-    setFocusPolicy(Qt::NoFocus);
+    letEventsThrough(*this);
     hide();
     connect(&pointer, &CanvasPointer::moved, this, [this](QPointF bufferPoint) {
         _pointer = bufferPoint;

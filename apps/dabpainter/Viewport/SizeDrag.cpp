@@ -3,13 +3,12 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
-#include <QTabletEvent>
 #include <cmath>
 
 #include "QDEAGLView/QDDrawView.h"
 #include "Viewport/BrushCursor.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PointingEvent.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -32,20 +31,15 @@ bool SizeDrag::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::ApplicationDeactivate:
             _key.forget();
             return false;
-        case QEvent::MouseMove:
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::TabletMove:
-        case QEvent::TabletPress:
-        case QEvent::TabletRelease:
-            if (!_key.isDown() || watched != _viewport.view())
-                return false;
-            dragTo(static_cast<QSinglePointEvent*>(event)->position());
-            event->accept();
-            return true;
         default:
-            return false;
+            break;
     }
+    const QSinglePointEvent* pointing = asPointing(event);
+    if (!pointing || !_key.isDown() || watched != _viewport.view())
+        return false;
+    dragTo(pointing->position());
+    event->accept();
+    return true;
 }
 
 bool SizeDrag::filterKey(const QKeyEvent& event) {

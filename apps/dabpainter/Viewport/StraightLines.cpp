@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QTabletEvent>
 #include <algorithm>
@@ -12,6 +11,7 @@
 
 #include "QDEAGLView/QDDrawView.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PointingEvent.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -26,16 +26,11 @@ bool isPress(const QEvent& event) {
 bool isRelease(const QEvent& event) {
     return event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::TabletRelease;
 }
-bool isOfPointer(const QEvent& event) {
-    return isPress(event) || isRelease(event) || event.type() == QEvent::MouseMove ||
-           event.type() == QEvent::TabletMove;
-}
 
 }  // namespace
 
 StraightLines::StraightLines(CanvasViewport& viewport) : QWidget(&viewport), _viewport(viewport) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_NoSystemBackground);
+    letEventsThrough(*this);
     hide();
     qApp->installEventFilter(this);
 }
@@ -52,20 +47,20 @@ bool StraightLines::eventFilter(QObject* watched, QEvent* event) {
         finish();
         return _givenUp = true;
     }
-    if (watched != _viewport.view() || !watched || !isOfPointer(*event))
+    const QSinglePointEvent* pointing = asPointing(event);
+    if (!pointing || !watched || watched != _viewport.view())
         return false;
-    const auto* tablet = dynamic_cast<QTabletEvent*>(event);
-    const auto& pointer = *static_cast<QSinglePointEvent*>(event);
+    const auto* tablet = dynamic_cast<const QTabletEvent*>(pointing);
     const float pressure = tablet ? float(tablet->pressure()) : kMousePressure;
     if (isPress(*event))
-        return filterPress(pointer, pressure);
+        return filterPress(*pointing, pressure);
     const bool wasGivenUp = _givenUp;
     if (isRelease(*event))
         _givenUp = false;
     if (!_line)
         return wasGivenUp;
     if (!isRelease(*event))
-        _line = Line{pointer.position(), std::max(_line->pressure, pressure)};
+        _line = Line{pointing->position(), std::max(_line->pressure, pressure)};
     else
         draw(*_viewport.view());
     isRelease(*event) ? finish() : update();

@@ -4,13 +4,13 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPointerEvent>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
 #include "QDEAGLView/QDDrawView.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PointingEvent.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -26,9 +26,7 @@ double half(double place) {
 }  // namespace
 
 SymmetryGuide::SymmetryGuide(CanvasViewport& viewport) : QWidget(&viewport), _viewport(viewport) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAttribute(Qt::WA_NoSystemBackground);
-    setFocusPolicy(Qt::NoFocus);
+    letEventsThrough(*this);
     hide();
     qApp->installEventFilter(this);  // before the pointer's own, which came earlier
     connect(&viewport, &CanvasViewport::zoomChanged, this, qOverload<>(&QWidget::update));
@@ -90,21 +88,12 @@ void SymmetryGuide::setMoving(bool moving) {
 bool SymmetryGuide::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &_viewport && event->type() == QEvent::Resize)
         resize(_viewport.size());
-    if (!_moving || !watched || watched != _viewport.view())
+    const QSinglePointEvent* pointing = asPointing(event);
+    if (!pointing || !_moving || !watched || watched != _viewport.view())
         return false;
-    switch (event->type()) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseMove:
-        case QEvent::MouseButtonRelease:
-        case QEvent::TabletPress:
-        case QEvent::TabletMove:
-        case QEvent::TabletRelease:
-            drag(*static_cast<QSinglePointEvent*>(event));
-            event->accept();
-            return true;
-        default:
-            return false;
-    }
+    drag(*pointing);
+    event->accept();
+    return true;
 }
 
 void SymmetryGuide::drag(const QSinglePointEvent& event) {

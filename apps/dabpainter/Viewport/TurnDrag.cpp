@@ -3,11 +3,11 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QPointerEvent>
 #include <cmath>
 
 #include "QDEAGLView/QDDrawView.h"
 #include "Viewport/CanvasViewport.h"
+#include "Viewport/PointingEvent.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -25,20 +25,15 @@ bool TurnDrag::eventFilter(QObject* watched, QEvent* event) {
             _key.forget();
             _from.reset();
             return false;
-        case QEvent::MouseMove:
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::TabletMove:
-        case QEvent::TabletPress:
-        case QEvent::TabletRelease:
-            if (!(_key.isDown() || _from) || watched != _viewport.view())
-                return false;
-            drag(*static_cast<QSinglePointEvent*>(event));
-            event->accept();
-            return true;
         default:
-            return false;
+            break;
     }
+    const QSinglePointEvent* pointing = asPointing(event);
+    if (!pointing || !(_key.isDown() || _from) || watched != _viewport.view())
+        return false;
+    drag(*pointing);
+    event->accept();
+    return true;
 }
 
 // Until the button goes up, however long the key is down.

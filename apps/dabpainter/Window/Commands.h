@@ -56,4 +56,13 @@ private:
     std::vector<Command> _all;
 };
 
+inline QKeySequence key(const char* text) {
+    return QKeySequence(QString::fromLatin1(text));
+}
+
+// Of a menu or a command, without the mark of the letter that chooses it.
+inline QString plain(QString title) {
+    return title.remove(QLatin1Char('&'));
+}
+
 }  // namespace dabcanvas::dabpainter

@@ -32,10 +32,6 @@ namespace {
 constexpr double kTurnStep = std::numbers::pi / 12;
 constexpr int kMessageTime = 2500;  // milliseconds
 
-QKeySequence key(const char* text) {
-    return QKeySequence(QString::fromLatin1(text));
-}
-
 }  // namespace
 
 // ---- The canvas's size
@@ -82,9 +78,8 @@ void MainWindow::addTurns(QMenu* menu) {
     mirror->setCheckable(true);
     connect(_viewport, &CanvasViewport::zoomChanged, mirror,
             [this, mirror] { mirror->setChecked(_viewport->isMirrored()); });
-    new TurnDrag(*_viewport,
-                 *_commands->addHeld(QStringLiteral("view.dragTurn"), menu->title().remove(QLatin1Char('&')),
-                                     tr("Turn by Dragging"), key("Q")));
+    new TurnDrag(*_viewport, *_commands->addHeld(QStringLiteral("view.dragTurn"), plain(menu->title()),
+                                                 tr("Turn by Dragging"), key("Q")));
 }
 
 // ---- Pressure and a steady hand

@@ -28,15 +28,6 @@ namespace {
 constexpr double kZoomStep = 1.25;
 constexpr int kMessageTime = 2500;  // milliseconds
 
-QKeySequence key(const char* text) {
-    return QKeySequence(QString::fromLatin1(text));
-}
-
-// Without the mark of the letter that chooses it.
-QString plain(QString title) {
-    return title.remove(QLatin1Char('&'));
-}
-
 }  // namespace
 
 QAction* MainWindow::addTo(QMenu* menu, const char* name, const QString& text,

@@ -14,6 +14,7 @@
 #include "Selection/SelectionTool.h"
 #include "Viewport/CanvasPointer.h"
 #include "Viewport/CanvasViewport.h"
+#include "Window/Commands.h"
 #include "Window/MainWindow.h"
 
 namespace dabcanvas::dabpainter {
@@ -21,10 +22,6 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr int kMessageTime = 2500;  // milliseconds
-
-QKeySequence key(const char* text) {
-    return QKeySequence(QString::fromLatin1(text));
-}
 
 }  // namespace
 

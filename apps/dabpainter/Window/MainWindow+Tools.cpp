@@ -144,7 +144,7 @@ void MainWindow::tellKeys() {
             continue;
         QString tip = action == _shapes
                           ? tr("Strokes become the line, polygon, ellipse, arc or arrow they are meant as")
-                          : action->text().remove(QLatin1Char('&'));
+                          : plain(action->text());
         if (!action->shortcut().isEmpty())
             tip += QStringLiteral(" (%1)").arg(action->shortcut().toString(QKeySequence::NativeText));
         action->setToolTip(tip);

@@ -15,7 +15,7 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 QString textOf(const Commands::Command& command) {
-    return command.action->text().remove(QLatin1Char('&')).remove(QChar(0x2026));
+    return plain(command.action->text()).remove(QChar(0x2026));
 }
 
 QString keysOf(const Commands::Command& command) {
