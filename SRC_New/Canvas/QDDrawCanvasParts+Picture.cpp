@@ -238,6 +238,7 @@ bool QDDrawCanvas::Parts::cropTo(const Rect& area) {
     }
     record.forgetCanvas(std::move(*others));
     lastTouched = {};
+    updateMask();
     makePreview();
     host.showPreview(brush.present().brushType == kPreviewBrush);
     updateScale();

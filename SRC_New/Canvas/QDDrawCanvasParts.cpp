@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/QDDrawCanvasParts.h"
+#include "Canvas/SelectedPixels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -344,6 +345,24 @@ void QDDrawCanvas::Parts::setSymmetry(Symmetry symmetry) {
         tell([&](CanvasInput& to) { to.symmetrySet(symmetry); });
         painter.setSymmetry(symmetry);
     }
+}
+
+void QDDrawCanvas::Parts::setSelection(const QPainterPath& area) {
+    const Host::Call call(host);
+    const auto outlines = straightOutlines(area);
+    if (!outlines) {
+        qCWarning(lcDabcanvas, "no selection has places that are not finite or beyond a million pixels");
+        return;
+    }
+    if (*outlines != selection && finishPreview()) {
+        tell([&](CanvasInput& to) { to.selectionSet(*outlines); });
+        selection = *outlines;
+        updateMask();
+    }
+}
+
+void QDDrawCanvas::Parts::updateMask() {
+    layers.setMask(selection.isEmpty() ? nullptr : maskOf(selection, layers.size()));
 }
 
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {

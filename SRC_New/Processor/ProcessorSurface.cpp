@@ -10,6 +10,7 @@
 
 #include "Processor/BlendRows.h"
 #include "Processor/MakeProcessorSurface.h"
+#include "Processor/MaskRows.h"
 #include "Processor/PlaceRows.h"
 #include "Surface/BlendType.h"
 #include "Surface/SurfaceLog.h"
@@ -340,6 +341,29 @@ void PictureSurface<Channel>::composite(PictureId picture, std::span<const Rect>
         });
         noteChanged(picture, rect);
     }
+}
+
+template <typename Channel>
+void PictureSurface<Channel>::confineTile(std::size_t index, const Rect& part, const PaintMask& mask) {
+    if (_picture.sharesWith(_background, index)) {
+        return;
+    }
+    const MaskedPart masked = maskedPart(mask, part);
+    if (masked == MaskedPart::closed) {
+        copyTiles(_background, _picture, part);
+    } else if (masked == MaskedPart::mixed) {
+        maskRows(_picture.writable(index).at(part.x % kTileSide, part.y % kTileSide),
+                 pixelsAt(_background.tile(index), part.x, part.y), 4 * kTileSide, mask, part);
+    }
+}
+
+template <typename Channel>
+void PictureSurface<Channel>::confine(PictureId, const Rect& rect,
+                                      const std::shared_ptr<const PaintMask>& mask) {
+    withMemory("keep to a selection", [&] {
+        _picture.forEachIn(rect,
+                           [&](std::size_t index, const Rect& part) { confineTile(index, part, *mask); });
+    });
 }
 
 template <typename Channel>
