@@ -84,6 +84,15 @@ TEST_F(LayerPanelTest, WhatIsSetIsAStepAndShown) {
     EXPECT_EQ(list->count(), 1);
 }
 
+TEST_F(LayerPanelTest, CopiesHaveNamesOfTheirOwn) {
+    const auto before = steps();
+    for (const char* name : {"Background copy", "Background copy 2", "Background copy 3"}) {
+        panel->duplicateLayer();
+        EXPECT_EQ(list->currentItem()->text(), name);
+    }
+    EXPECT_EQ(steps(), before + 3) << "each with its name is one";
+}
+
 }  // namespace
 
 }  // namespace dabcanvas::dabpainter

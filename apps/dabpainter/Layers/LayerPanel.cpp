@@ -11,6 +11,7 @@
 
 #include "Brush/BrushPresentation.h"
 #include "Canvas/CanvasLayers.h"
+#include "Layers/LayerNames.h"
 #include "QDEAGLView/QDDrawView.h"
 
 namespace dabcanvas::dabpainter {
@@ -22,6 +23,21 @@ constexpr int kMargin = 8;
 QString nameOf(const LayerSettings& settings, int layer) {
     return settings.name.isEmpty() && layer == 0 ? LayerPanel::tr("Background") : settings.name;
 }
+
+// What is edited meanwhile is undone together.
+class OneStep {
+public:
+    explicit OneStep(QDDrawView& view) : _view(view) { _view.setAutoMark(false); }
+    ~OneStep() {
+        _view.markAction();
+        _view.setAutoMark(true);
+    }
+    OneStep(const OneStep&) = delete;
+    OneStep& operator=(const OneStep&) = delete;
+
+private:
+    QDDrawView& _view;
+};
 
 }  // namespace
 
@@ -191,8 +207,19 @@ void LayerPanel::addLayer() {
 
 void LayerPanel::duplicateLayer() {
     emit aboutToEdit();
-    if (_view)
-        _view->layers().duplicate(active());
+    if (!_view)
+        return;
+    auto layers = _view->layers();
+    QStringList taken;
+    for (int i = 0; i < layers.count(); ++i)
+        taken << nameOf(layers.settings(i), i);
+    const int layer = layers.active();
+    const OneStep step(*_view);
+    if (!layers.duplicate(layer))
+        return;
+    LayerSettings settings = layers.settings(layer + 1);
+    settings.name = copyName(taken[layer], taken);
+    layers.setSettings(layer + 1, settings);
 }
 
 void LayerPanel::removeLayer() {

@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>Ordner mit Bildern (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 Kopie</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 Kopie %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>

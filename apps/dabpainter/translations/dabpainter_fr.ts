@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>Dossier d’images (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>Copie de %1</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>Copie %2 de %1</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>

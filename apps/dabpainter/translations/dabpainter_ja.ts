@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>画像のフォルダー (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 のコピー</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 のコピー %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>

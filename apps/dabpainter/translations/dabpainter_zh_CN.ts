@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>图片文件夹 (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 副本</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 副本 %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
