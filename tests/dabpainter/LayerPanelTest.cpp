@@ -93,6 +93,26 @@ TEST_F(LayerPanelTest, CopiesHaveNamesOfTheirOwn) {
     EXPECT_EQ(steps(), before + 3) << "each with its name is one";
 }
 
+TEST_F(LayerPanelTest, OneLayerIsAlwaysHighlighted) {
+    panel->addLayer();
+    list->setCurrentRow(1);
+    const auto isMarked = [&] {
+        settle();
+        return list->selectedItems() == QList{list->item(1)} && layers().active() == 0;
+    };
+    QWidget& rows = *list->viewport();
+    const QPoint row = list->visualItemRect(list->item(1)).center(), below(row.x(), rows.height() - 3);
+    sendMouse(rows, QEvent::MouseButtonPress, row, Qt::ControlModifier);
+    sendMouse(rows, QEvent::MouseButtonRelease, row, Qt::ControlModifier);
+    EXPECT_TRUE(isMarked()) << "as Ctrl takes a selection back";
+    sendMouse(rows, QEvent::MouseButtonPress, below);
+    sendMouse(rows, QEvent::MouseMove, below - QPoint(30, 9));
+    sendMouse(rows, QEvent::MouseButtonRelease, below - QPoint(30, 9));
+    EXPECT_TRUE(isMarked()) << "with no row pressed";
+    sendKey(*list, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(isMarked());
+}
+
 }  // namespace
 
 }  // namespace dabcanvas::dabpainter

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <memory>
@@ -109,6 +111,21 @@ inline QVariant otherValue(const BrushProperty& property, const QVariant& now) {
         return "other";
     const QVariant one = someValue(property, 2);
     return one == now ? someValue(property, 1) : one;
+}
+
+// As the window system would.
+inline void sendMouse(QWidget& to, QEvent::Type type, QPointF at, Qt::KeyboardModifiers held = {}) {
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, to.mapToGlobal(at), button,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, held);
+    QApplication::sendEvent(&to, &event);
+}
+
+inline void sendKey(QWidget& to, int key, Qt::KeyboardModifiers held = {}, const QString& text = {}) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, held, text);
+        QApplication::sendEvent(&to, &event);
+    }
 }
 
 }  // namespace dabcanvas::dabpainter

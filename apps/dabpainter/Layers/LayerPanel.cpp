@@ -93,6 +93,7 @@ void LayerPanel::connectEdits() {
         emit aboutToEdit();
         _view->layers().setActive(layerOf(row));
     });
+    connect(_list, &QListWidget::itemSelectionChanged, this, &LayerPanel::keepSelected);
     connect(_list, &QListWidget::itemChanged, this,
             [this](QListWidgetItem* item) { takeRow(_list->row(item)); });
     connect(_mode, &QComboBox::activated, this, [this](int index) {
@@ -160,6 +161,12 @@ void LayerPanel::showActive() {
     _up->setEnabled(layer + 1 < count);
     _down->setEnabled(layer > 0);
     emit activeChanged(layer);
+}
+
+// A press below the rows, or one with Ctrl, selects none; but there is always one that is painted on.
+void LayerPanel::keepSelected() {
+    if (!_showing && _view && _list->selectedItems().isEmpty())
+        _list->setCurrentRow(layerOf(active()));
 }
 
 // ---- Editing

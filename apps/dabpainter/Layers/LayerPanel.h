@@ -44,6 +44,7 @@ private:
     void connectEdits();
     void showLayers();
     void showActive();
+    void keepSelected();
     int active() const;
     int layerOf(int row) const;
     void takeRow(int row);
