@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Layers/LayerPanel.h"
 
+#include <QDockWidget>
 #include <QListWidget>
 #include <QSlider>
 
 #include "Canvas/CanvasLayers.h"
 #include "History/ImagesUndoManager.h"
+#include "Layers/LayerThumbnails.h"
 #include "PainterTest.h"
 #include "support/Images.h"
 
@@ -82,6 +84,29 @@ TEST_F(LayerPanelTest, WhatIsSetIsAStepAndShown) {
     while (!_window->view()->undo().isNull()) {
     }
     EXPECT_EQ(list->count(), 1);
+}
+
+TEST_F(LayerPanelTest, ThumbnailsShowEachLayerOnceAtRest) {
+    _window->findChild<QDockWidget*>("layerDock")->raise();
+    panel->addLayer();
+    const auto picture = [&](int row) { return list->item(row)->icon().pixmap(list->iconSize()).toImage(); };
+    // In the middle, where paint() leaves its mark, beside it, and two places of a chequerboard.
+    const auto dark = [&](int row) { return picture(row).pixelColor(20, 15).lightness() < 100; };
+    const auto comesToBe = [&](const auto& holds) { return waitFor(holds, 10 * LayerThumbnails::kRest); };
+    EXPECT_TRUE(comesToBe([&] { return picture(1).pixelColor(8, 8) == QColor(Qt::white); }));
+    EXPECT_TRUE(comesToBe([&] { return picture(0).pixelColor(6, 8) != picture(0).pixelColor(10, 8); }))
+        << "a hole";
+    const QSizeF scale = _window->view()->scale();
+    _window->view()->drawingWithBeginPoint({20 * scale.width(), 75 * scale.height()});
+    for (int x = 30; x < 180; x += 10)
+        _window->view()->drawingWithMoveToPoint({x * scale.width(), 75 * scale.height()});
+    EXPECT_FALSE(waitFor([&] { return dark(0); }, 2 * LayerThumbnails::kRest)) << "a stroke is in progress";
+    _window->view()->drawingWithEndPoint({180 * scale.width(), 75 * scale.height()});
+    EXPECT_TRUE(comesToBe([&] { return dark(0); }));
+    EXPECT_FALSE(dark(1));
+    list->setCurrentRow(1);
+    _window->view()->undo();
+    EXPECT_TRUE(comesToBe([&] { return !dark(0); })) << "undo changes the layer that is not painted on";
 }
 
 TEST_F(LayerPanelTest, CopiesHaveNamesOfTheirOwn) {

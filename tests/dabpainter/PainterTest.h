@@ -3,10 +3,12 @@
 #pragma once
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QThread>
 #include <memory>
 #include <optional>
 
@@ -111,6 +113,17 @@ inline QVariant otherValue(const BrushProperty& property, const QVariant& now) {
         return "other";
     const QVariant one = someValue(property, 2);
     return one == now ? someValue(property, 1) : one;
+}
+
+// Whether it comes to hold in so many milliseconds.
+template <typename Holds>
+bool waitFor(const Holds& holds, int milliseconds) {
+    const QDeadlineTimer patience(milliseconds);
+    while (!holds() && !patience.hasExpired()) {
+        QThread::msleep(2);
+        QApplication::processEvents();
+    }
+    return holds();
 }
 
 // As the window system would.

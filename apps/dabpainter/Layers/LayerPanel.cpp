@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QListWidget>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QSlider>
 #include <QToolButton>
@@ -12,6 +13,7 @@
 #include "Brush/BrushPresentation.h"
 #include "Canvas/CanvasLayers.h"
 #include "Layers/LayerNames.h"
+#include "Layers/LayerThumbnails.h"
 #include "QDEAGLView/QDDrawView.h"
 
 namespace dabcanvas::dabpainter {
@@ -19,6 +21,22 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr int kMargin = 8;
+constexpr QSize kThumbnail(44, 30);  // points
+
+// Of a row that is chosen no other than of the rest: colours are to be compared.
+QIcon iconOf(const QImage& thumbnail, qreal ratio) {
+    QPixmap picture(kThumbnail * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    const QSizeF size = QSizeF(thumbnail.size()) / thumbnail.devicePixelRatio();
+    painter.drawImage(QPointF(0, int(kThumbnail.height() - size.height()) / 2), thumbnail);
+    painter.end();
+    QIcon icon;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected, QIcon::Active})
+        icon.addPixmap(picture, mode);
+    return icon;
+}
 
 QString nameOf(const LayerSettings& settings, int layer) {
     return settings.name.isEmpty() && layer == 0 ? LayerPanel::tr("Background") : settings.name;
@@ -43,6 +61,7 @@ private:
 
 LayerPanel::LayerPanel(QWidget* parent)
     : QWidget(parent),
+      _thumbnails(new LayerThumbnails(this)),
       _list(new QListWidget),
       _mode(new QComboBox),
       _opacity(new QSlider(Qt::Horizontal)),
@@ -51,6 +70,7 @@ LayerPanel::LayerPanel(QWidget* parent)
         _mode->addItem(choiceLabel(choice), choice.value);
     _opacity->setRange(0, 100);
     _lock->setToolTip(tr("Strokes change its colours alone"));
+    _list->setIconSize(kThumbnail);
     _list->setAccessibleName(tr("Layers"));
     _mode->setAccessibleName(tr("Blend mode of the layer"));
     _opacity->setAccessibleName(tr("Opacity of the layer"));
@@ -96,6 +116,7 @@ void LayerPanel::connectEdits() {
     connect(_list, &QListWidget::itemSelectionChanged, this, &LayerPanel::keepSelected);
     connect(_list, &QListWidget::itemChanged, this,
             [this](QListWidgetItem* item) { takeRow(_list->row(item)); });
+    connect(_thumbnails, &LayerThumbnails::changed, this, &LayerPanel::showThumbnail);
     connect(_mode, &QComboBox::activated, this, [this](int index) {
         change(active(),
                [&](LayerSettings& settings) { settings.blendType = _mode->itemData(index).toUInt(); });
@@ -111,6 +132,7 @@ void LayerPanel::setView(QDDrawView* view) {
     if (_view)
         disconnect(_view, nullptr, this, nullptr);
     _view = view;
+    _thumbnails->setView(view);
     if (_view)
         connect(_view, &QDDrawView::layersChanged, this, &LayerPanel::showLayers);
     showLayers();
@@ -142,10 +164,28 @@ void LayerPanel::showLayers() {
         item->setText(nameOf(settings, layer));
         item->setCheckState(settings.isVisible ? Qt::Checked : Qt::Unchecked);
         item->setToolTip(tr("Ticked layers are seen; a double click names one"));
+        showThumbnail(layer);
     }
     setEnabled(count > 0);
     if (count > 0)
         showActive();
+}
+
+void LayerPanel::showThumbnail(int layer) {
+    const QScopedValueRollback showing(_showing, true);
+    if (QListWidgetItem* item = _list->item(layerOf(layer)))
+        item->setIcon(iconOf(_thumbnails->of(layer), devicePixelRatioF()));
+}
+
+void LayerPanel::showEvent(QShowEvent* event) {
+    _thumbnails->setLook(kThumbnail, devicePixelRatioF());
+    _thumbnails->setOn(true);
+    QWidget::showEvent(event);
+}
+
+void LayerPanel::hideEvent(QHideEvent* event) {
+    _thumbnails->setOn(false);
+    QWidget::hideEvent(event);
 }
 
 void LayerPanel::showActive() {
