@@ -58,7 +58,8 @@ protected:
             _offered = int(pictures.size());
             return std::optional(pictures.first());
         };
-        prompts.pickRecordingName = prompts.pickTimelapseName = [this](QWidget*) { return _saveName; };
+        prompts.pickRecordingName = [this](QWidget*) { return _saveName; };
+        prompts.pickTimelapseName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.askLoss = [this](QWidget*, Document::Loss loss) {
             _losses.push_back(loss);
             return _lossAnswer;

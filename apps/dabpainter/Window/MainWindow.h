@@ -38,6 +38,7 @@ class LayerPanel;
 class PresetBrowser;
 class RecentFiles;
 class PulledString;
+class RecordingSign;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
@@ -200,6 +201,7 @@ private:
     QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
     SessionRecorder _session;
     QAction* _record;
+    RecordingSign* _recordingSign;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     std::map<Tool, QAction*> _toolActions;
     bool _brushRead = false;

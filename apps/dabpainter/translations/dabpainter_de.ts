@@ -2913,6 +2913,21 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>Was gemalt wird, wird aufgenommen: anhalten oder exportieren</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>Eine Aufnahme läuft</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>

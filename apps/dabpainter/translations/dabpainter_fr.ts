@@ -2913,6 +2913,21 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>Ce qui est peint est enregistré : arrêter ou exporter</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>Un enregistrement est en cours</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>

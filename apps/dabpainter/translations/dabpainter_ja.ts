@@ -2913,6 +2913,21 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>記録中</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>描いたものを記録しています。停止または書き出しができます</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>記録中です</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>

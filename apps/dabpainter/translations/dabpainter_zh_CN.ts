@@ -2913,6 +2913,21 @@
     </message>
 </context>
 <context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>正在记录</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>正在记录绘制过程：可停止或导出</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>正在记录</translation>
+    </message>
+</context>
+<context>
     <name>dabcanvas::dabpainter::SampleStroke</name>
     <message>
         <source>A stroke with the present brush</source>
