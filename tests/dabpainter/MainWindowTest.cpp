@@ -636,6 +636,7 @@ TEST_F(MainWindowTest, StrokesBecomeShapesWhileTheSwitchIsOn) {
     EXPECT_EQ(_window->statusBar()->currentMessage(), "No shape was recognised");
     EXPECT_FALSE(_window->view()->canUndo());
     paint();
+    EXPECT_EQ(_window->statusBar()->currentMessage(), "");
     EXPECT_TRUE(_window->isUnsaved());
     EXPECT_LT(pixel(100, 75).lightness(), 200);
     shapes->trigger();
