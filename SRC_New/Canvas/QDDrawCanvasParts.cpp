@@ -213,13 +213,10 @@ void QDDrawCanvas::Parts::showDrawn(const std::optional<Rect>& area, bool online
 
 void QDDrawCanvas::Parts::updateImage(bool online, bool smudged) {
     const Host::Call call(host);
-    if (isLost()) {
-        return;
+    if (isLost() || lastTouched.isEmpty()) {
+        return;  // nor is it an edit, beside the canvas
     }
     layers.edits.drawn();
-    if (lastTouched.isEmpty()) {
-        return;
-    }
     const Rect shown = layers.show(lastTouched, smudged);
     if (online) {
         redisplay(shown);
