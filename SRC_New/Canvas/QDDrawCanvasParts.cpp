@@ -214,14 +214,11 @@ void QDDrawCanvas::Parts::showDrawn(const std::optional<Rect>& area, bool online
 
 void QDDrawCanvas::Parts::updateImage(bool online, bool smudged) {
     const Host::Call call(host);
-    if (isLost()) {
-        return;
+    const Rect shown = isLost() ? Rect() : layers.show(lastTouched, smudged);
+    if (shown.isEmpty()) {
+        return;  // nor is it an edit, beside the canvas or what is selected
     }
     layers.edits.drawn();
-    if (lastTouched.isEmpty()) {
-        return;
-    }
-    const Rect shown = layers.show(lastTouched, smudged);
     if (online) {
         redisplay(shown);
     }

@@ -7,6 +7,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QStatusBar>
 
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
@@ -103,6 +104,8 @@ TEST_F(SelectionToolTest, StrokesKeepToIt) {
         return painted(now);
     };
     editor.select(rectangleArea({0, 0}, {100, 150}), AreaMode::replace);
+    drag({{160, 20}, {170, 60}, {160, 120}});
+    EXPECT_FALSE(_window->view()->canUndo()) << "nothing was painted";
     drag({{150, 120}, {120, 120}, {60, 120}});
     EXPECT_EQ(changed().right(), 99);
     run("edit.undo");
@@ -123,7 +126,9 @@ TEST_F(SelectionToolTest, WhatIsSelectedIsDraggedNudgedAndGivenUp) {
     EXPECT_TRUE(imagesMatch(_window->view()->image(), red));
     key(Qt::Key_Right);
     key(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_TRUE(_window->statusBar()->currentMessage().contains("Escape"));
     key(Qt::Key_Return);
+    EXPECT_EQ(_window->statusBar()->currentMessage(), "") << "Escape does no such thing any more";
     EXPECT_EQ(where(), QRect(71, 60, 30, 20)) << "and paper where it was";
     EXPECT_EQ(steps(), 1);
     drag({{75, 65}, {20, 20}, {30, 30}});

@@ -293,11 +293,6 @@ void CanvasPointer::leaveDab(QPointF bufferPoint) {
     QDDrawView* view = _viewport.view();
     if (!view || view->isSmudgeType() || view->brushType() == kLiveFillBrush)
         return;
-    // Beside the canvas it would be a step that changes nothing.
-    const double reach = _model.value(BrushKey::radius).toDouble();
-    const QRectF near = QRectF(QPointF(), view->bufferSize()).adjusted(-reach, -reach, reach, reach);
-    if (!near.contains(bufferPoint))
-        return;
     view->setPointsDistanceEnabled(false);
     view->setStartRadius(0);
     view->setEndRadius(0);

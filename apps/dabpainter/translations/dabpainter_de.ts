@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>Ordner mit Bildern (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 Kopie</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 Kopie %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -2910,6 +2918,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>Was gemalt wird, wird aufgenommen: anhalten oder exportieren</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>Eine Aufnahme läuft</translation>
     </message>
 </context>
 <context>

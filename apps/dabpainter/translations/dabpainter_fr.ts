@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>Dossier d’images (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>Copie de %1</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>Copie %2 de %1</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -2910,6 +2918,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>&amp;Vider la liste</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>Ce qui est peint est enregistré : arrêter ou exporter</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>Un enregistrement est en cours</translation>
     </message>
 </context>
 <context>

@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>画像のフォルダー (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 のコピー</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 のコピー %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -2910,6 +2918,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>一覧を消去(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>記録中</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>描いたものを記録しています。停止または書き出しができます</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>記録中です</translation>
     </message>
 </context>
 <context>

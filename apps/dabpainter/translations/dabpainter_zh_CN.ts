@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>图片文件夹 (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 副本</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 副本 %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -2910,6 +2918,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>清空列表(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>正在记录</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>正在记录绘制过程：可停止或导出</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>正在记录</translation>
     </message>
 </context>
 <context>
