@@ -238,8 +238,8 @@ bool QDDrawCanvas::Parts::cropTo(const Rect& area) {
     }
     record.forgetCanvas(std::move(*others));
     lastTouched = {};
-    updateMask();
     makePreview();
+    updateMask();
     host.showPreview(brush.present().brushType == kPreviewBrush);
     updateScale();
     host.canvasSizeChanged();

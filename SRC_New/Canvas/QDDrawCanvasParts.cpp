@@ -360,6 +360,7 @@ void QDDrawCanvas::Parts::setSelection(const QPainterPath& area) {
 
 void QDDrawCanvas::Parts::updateMask() {
     layers.setMask(selection.isEmpty() ? nullptr : maskOf(selection, layers.size()));
+    preview->setShownArea(selection);
 }
 
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {
