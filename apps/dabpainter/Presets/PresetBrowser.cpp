@@ -459,15 +459,26 @@ bool PresetBrowser::rename(const PresetId& id) {
     if (name.isEmpty() || name == preset.name)
         return false;
     PresetId now;
-    const bool renamed = succeeds(_library.rename(preset, name, now));
+    const bool isRenamed = succeeds(_library.rename(preset, name, now));
+    if (isRenamed)
+        follow(preset, now);
     refresh();
-    if (renamed && isFavourite(id)) {
-        setFavourite(id, false);
-        setFavourite(now, true);
-    }
-    if (renamed && id == _chosen)
+    if (isRenamed)
+        emit renamed(preset.name, name);
+    if (isRenamed && id == _chosen)
         setChosen(now, name);
-    return renamed;
+    return isRenamed;
+}
+
+// What is kept by a preset's place.
+void PresetBrowser::follow(const Preset& preset, const PresetId& now) {
+    PresetFavourites favourites = _model->favourites();
+    favourites.follow(preset.id, now);
+    _model->setFavourites(favourites);
+    if (const Preset* found = _library.find(now))
+        _infos.carryOver(preset, *found);
+    if (_previous == preset.id)
+        _previous = now;
 }
 
 bool PresetBrowser::remove(const PresetId& id) {
@@ -483,8 +494,6 @@ bool PresetBrowser::remove(const PresetId& id) {
         return false;
     const bool removed = succeeds(_library.removeFile(preset));
     refresh();
-    if (removed)
-        setFavourite(id, false);
     if (removed && id.path == _chosen.path) {
         _brush.comesFrom({});  // which goes on as it is
         setChosen({}, {});
@@ -527,6 +536,7 @@ void PresetBrowser::readState(QSettings& settings) {
     _setsColors->setChecked(settings.value(key("setsColor"), false).toBool());
     PresetFavourites favourites;
     favourites.fromTexts(settings.value(key("favourites")).toStringList());
+    favourites.forgetGone();
     _model->setFavourites(favourites);
     _wantedKind = settings.value(key("kind")).toString();
     chooseKind();

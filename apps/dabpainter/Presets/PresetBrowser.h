@@ -77,6 +77,7 @@ signals:
     void aboutToUseBrush();  // to exchange or to keep it: a stroke is to end before
     void chosenByPointer();  // who did so wants to paint now
     void stateChanged();     // what writeState() writes
+    void renamed(const QString& from, const QString& to);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -90,6 +91,7 @@ private:
     void makeLayout();
     QAction* add(const QString& text, const std::function<void()>& act);
     void popUp(const PresetId& target, const QPoint& at);
+    void follow(const Preset& preset, const PresetId& now);
     void setChosen(const PresetId& id, const QString& name);
     void showChosen();
     void refresh();

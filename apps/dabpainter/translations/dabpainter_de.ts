@@ -1483,6 +1483,10 @@
         <source>How much colours may differ that a fill takes for one</source>
         <translation>Wie verschieden Farben sein dürfen, die eine Füllung als eine nimmt</translation>
     </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>Ein Doppelklick, F2 oder Enter öffnet ein Feld für die Zahl</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::BrushPanel</name>

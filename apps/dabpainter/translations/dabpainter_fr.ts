@@ -1483,6 +1483,10 @@
         <source>How much colours may differ that a fill takes for one</source>
         <translation>Écart permis entre les couleurs que le remplissage tient pour une seule</translation>
     </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>Un double-clic, F2 ou Enter permet de saisir le nombre</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::BrushPanel</name>

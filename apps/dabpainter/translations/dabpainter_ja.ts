@@ -1483,6 +1483,10 @@
         <source>How much colours may differ that a fill takes for one</source>
         <translation>塗りつぶしで同じ色とみなす色の差</translation>
     </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>ダブルクリック、F2、Enter で数値を入力できます</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::BrushPanel</name>

@@ -1483,6 +1483,10 @@
         <source>How much colours may differ that a fill takes for one</source>
         <translation>填充时视为同一颜色的差异范围</translation>
     </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>双击、按 F2 或 Enter 可输入数值</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::BrushPanel</name>
