@@ -85,6 +85,7 @@ public:
     dabcanvas::StepPicture redo();
     bool recover(const QString& id, QString* problem);
     bool setArea(const QRect& area);
+    bool recoverFromLoss(dabcanvas::SurfaceKind kind);
     // The canvas becomes what `edit` makes of all of its layers, as a step where steps are recorded; that is told as `told`.
     // False, and nothing changed, after a log line; or where edit gives none.
     using LayerEdit = std::function<std::optional<dabcanvas::TilePicture>(const dabcanvas::TilePicture&)>;

@@ -146,8 +146,7 @@ void SelectionEditor::settle() {
         return;
     if (!_float->putDown()) {
         emit refused(tr("The canvas takes no picture now; the log says why."));
-        if (!_canvas->isContextLost())
-            return;  // it stays where it is
+        return;  // it stays where it is
     }
     _area = joinedArea({}, shownArea(), AreaMode::replace, canvasRect().size());
     end();

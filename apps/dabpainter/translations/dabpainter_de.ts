@@ -2412,6 +2412,10 @@
         <source>There is not enough memory to fill this</source>
         <translation>Der Arbeitsspeicher reicht nicht, um dies zu füllen</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>Die Grafikkarte war kurz nicht verfügbar; das Bild ist noch da, wie es nach dem letzten Schritt war</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

@@ -2412,6 +2412,10 @@
         <source>There is not enough memory to fill this</source>
         <translation>Mémoire insuffisante pour ce remplissage</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>La carte graphique a été perdue un instant&#x202f;; l’image est là, telle que la dernière étape l’a laissée</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

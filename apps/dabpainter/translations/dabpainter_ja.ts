@@ -2412,6 +2412,10 @@
         <source>There is not enough memory to fill this</source>
         <translation>メモリーが足りず、塗りつぶせません</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>グラフィックカードとの接続が一時失われました。画像は最後の操作の後の状態で残っています</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

@@ -2412,6 +2412,10 @@
         <source>There is not enough memory to fill this</source>
         <translation>内存不足，无法填充</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>显卡曾短暂丢失；图片仍在，保持最后一步之后的样子</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
