@@ -271,7 +271,14 @@ QImage CanvasLayers::flattened() {
 }
 
 QImage CanvasLayers::deepImage(int layer) {
-    return has(layer) ? parts().pictureOf(static_cast<std::size_t>(layer)) : QImage();
+    return has(layer) ? parts().pictureOf(static_cast<std::size_t>(layer), parts().layers.whole()) : QImage();
+}
+
+QImage CanvasLayers::deepImage(int layer, const QRect& area) {
+    const Rect part{area.x(), area.y(), area.width(), area.height()};
+    return has(layer) && !part.isEmpty() && parts().layers.whole().contains(part)
+               ? parts().pictureOf(static_cast<std::size_t>(layer), part)
+               : QImage();
 }
 
 }  // namespace dabcanvas

@@ -56,6 +56,8 @@ public:
     QImage flattened();       ///< the same of all of them together
     /// With all bits of a canvas of 16 bits a channel, RGBA64; else image(). add() takes them, too.
     QImage deepImage(int layer);
+    /// The same of an area in buffer pixels; null where that is not all on the canvas.
+    QImage deepImage(int layer, const QRect& area);
 
     /// What another canvas told.
     bool take(const InputLayerEdit& edit);

@@ -190,7 +190,8 @@ public:
     /// Data     dataSize pixels of what readData() gives, so that setData() of it is the same picture again.
     /// Pixels   exact where the image keeps its size on whole pixels, also turned by quarters; interpolated when
     ///          enlarged and averaged when reduced, as one beyond the driver's largest texture is first; edges are
-    ///          smooth.
+    ///          smooth. Bits beyond 8 a channel are kept where a Format_RGBA64_Premultiplied, as deepImage() of layers()
+    ///          gives it, is set pixel by pixel on a canvas of 16.
     /// Errors   false, and nothing changed: quietly for what lies outside of the canvas; after a log line for a null
     ///          image, too little data, sides not from a millionth to a million buffer pixels, and without the memory.
     bool drawImage(const QImage& image, const QRectF& inRect, bool isUndo = false);

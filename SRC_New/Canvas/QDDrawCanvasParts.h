@@ -107,7 +107,7 @@ public:
     bool putPicture(const QImage& picture);
     bool putLayers(const dabcanvas::InputLayers& all);
     // With all the bits that it has; null where it cannot be had.
-    QImage pictureOf(std::size_t layer);
+    QImage pictureOf(std::size_t layer, const dabcanvas::Rect& area);
     std::optional<dabcanvas::InputLayers> allLayers();
     dabcanvas::InputLimits limits() const;
     void setSecondLine(float slRadius, float relationValue);

@@ -44,7 +44,6 @@ private:
     LayerFloat(QDDrawCanvas& canvas, const FloatingPicture& picture);
     bool isUnmoved() const { return isLifted() && _picture == _start; }
     QRect whole() const { return _layer.rect(); }
-    QRegion toWrite() const;
     bool write();
 
     QDDrawCanvas& _canvas;
