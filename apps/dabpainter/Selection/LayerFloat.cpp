@@ -8,8 +8,8 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Documents/ChangedPixels.h"
 #include "Selection/SelectedArea.h"
-#include "Tools/ChangedPixels.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -102,6 +102,10 @@ QRegion LayerFloat::changes() const {
     return hole.intersects(over) ? QRegion(hole | over) : QRegion(hole) | over;
 }
 
+QPainter::CompositionMode LayerFloat::mode() const {
+    return _locksAlpha ? QPainter::CompositionMode_SourceAtop : QPainter::CompositionMode_SourceOver;
+}
+
 QImage LayerFloat::layer(const QRect& area) const {
     if (isUnmoved() && !_isDropped)
         return _layer.copy(area);
@@ -109,8 +113,7 @@ QImage LayerFloat::layer(const QRect& area) const {
     const QRect over = _picture.bounds() & area;
     if (!over.isEmpty() && !_isDropped) {
         QPainter painter(&image);
-        painter.setCompositionMode(_locksAlpha ? QPainter::CompositionMode_SourceAtop
-                                               : QPainter::CompositionMode_SourceOver);
+        painter.setCompositionMode(mode());
         painter.drawImage(over.topLeft() - area.topLeft(), _picture.drawn(over));
     }
     return image;

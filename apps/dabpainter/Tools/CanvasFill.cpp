@@ -7,8 +7,8 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Documents/ChangedPixels.h"
 #include "Selection/SelectedArea.h"
-#include "Tools/ChangedPixels.h"
 #include "Tools/FloodFill.h"
 
 namespace dabcanvas::dabpainter {

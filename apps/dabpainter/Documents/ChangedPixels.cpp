@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Tools/ChangedPixels.h"
+#include "Documents/ChangedPixels.h"
 
 #include <cstdint>
 #include <cstring>
