@@ -29,6 +29,12 @@ void SelectionEditor::setCanvas(QDDrawCanvas* canvas) {
     _area = {};
     end();
     _canvas = canvas;
+    tellChanged();
+}
+
+void SelectionEditor::tellChanged() {
+    if (_canvas && !_float)
+        _canvas->setSelection(_area);
     emit changed();
 }
 
@@ -45,7 +51,7 @@ QPainterPath SelectionEditor::shownArea() const {
 void SelectionEditor::select(const QPainterPath& area, AreaMode mode) {
     settle();
     _area = joinedArea(_area, area, mode, canvasRect().size());
-    emit changed();
+    tellChanged();
 }
 
 void SelectionEditor::selectAll() {
@@ -54,6 +60,14 @@ void SelectionEditor::selectAll() {
 
 void SelectionEditor::selectNone() {
     select({}, AreaMode::replace);
+}
+
+void SelectionEditor::invert() {
+    settle();
+    const QPainterPath selected = std::exchange(_area, {});
+    selectAll();
+    if (!selected.isEmpty())
+        select(selected, AreaMode::takeAway);
 }
 
 // ---- The picture that floats
@@ -151,12 +165,12 @@ void SelectionEditor::settle() {
     }
     _area = joinedArea({}, shownArea(), AreaMode::replace, canvasRect().size());
     end();
-    emit changed();
+    tellChanged();
 }
 
 void SelectionEditor::giveUp() {
     end();
-    emit changed();
+    tellChanged();
 }
 
 // ---- Of what floats, or is selected, or all of the layer
@@ -191,7 +205,7 @@ bool SelectionEditor::remove() {
     else if (gone)
         gone->drop();
     end();
-    emit changed();
+    tellChanged();
     return true;
 }
 

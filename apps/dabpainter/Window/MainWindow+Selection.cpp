@@ -44,6 +44,7 @@ void MainWindow::makeSelectMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Select"));
     addTo(menu, "select.all", tr("&All"), {QKeySequence::SelectAll}, [this] { _selection->selectAll(); });
     addTo(menu, "select.none", tr("&None"), {key("Ctrl+Shift+A")}, [this] { _selection->selectNone(); });
+    addTo(menu, "select.invert", tr("&Invert"), {key("Ctrl+Shift+I")}, [this] { _selection->invert(); });
     menu->addSeparator();
     using Kind = SelectionTool::Kind;
     const auto addTool = [&](Kind kind, const char* name, const QString& text, const char* keys) {
@@ -76,10 +77,11 @@ void MainWindow::watchSelection() {
     _selection->setCanvas(view());
     _selectionTool->watchView();
     connect(view(), &QDDrawView::canvasSizeChanged, _selection, [this] { _selection->setCanvas(view()); });
-    connect(view(), &QDDrawView::strokeBegan, _selection, [this] {
+    connect(view(), &QDDrawView::strokeBegan, _selection, [this](const QPointF& at) {
         _refusal.end();
-        if (!_selection->floating())
-            _selection->selectNone();
+        const QPainterPath& area = _selection->area();
+        if (!area.isEmpty() && !area.contains(at))
+            _refusal.show(tr("Strokes keep to what is selected; Escape selects nothing"), 2 * kMessageTime);
     });
 }
 

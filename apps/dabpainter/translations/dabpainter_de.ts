@@ -2424,6 +2424,14 @@
         <source>There is not enough memory to fill this</source>
         <translation>Der Arbeitsspeicher reicht nicht, um dies zu füllen</translation>
     </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>Auswahl &amp;umkehren</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>Striche bleiben in der Auswahl; Escape hebt sie auf</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

@@ -2424,6 +2424,14 @@
         <source>There is not enough memory to fill this</source>
         <translation>Mémoire insuffisante pour ce remplissage</translation>
     </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>&amp;Inverser</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>Les traits restent dans la sélection ; Escape la supprime</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

@@ -2424,6 +2424,14 @@
         <source>There is not enough memory to fill this</source>
         <translation>メモリーが足りず、塗りつぶせません</translation>
     </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>反転(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>ストロークは選択範囲の中だけに描かれます。Escape で選択を解除します</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

@@ -2424,6 +2424,14 @@
         <source>There is not enough memory to fill this</source>
         <translation>内存不足，无法填充</translation>
     </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>反选(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>笔触只会画在选区内；按 Escape 取消选择</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
