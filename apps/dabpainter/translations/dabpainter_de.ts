@@ -2608,38 +2608,6 @@
 <context>
     <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
-        <source>Save as &amp;New Brush…</source>
-        <translation>Als &amp;neuen Pinsel speichern…</translation>
-    </message>
-    <message>
-        <source>&amp;Overwrite with Present Settings…</source>
-        <translation>Mit &amp;aktuellen Einstellungen überschreiben…</translation>
-    </message>
-    <message>
-        <source>&amp;Rename…</source>
-        <translation>&amp;Umbenennen…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete…</source>
-        <translation>&amp;Löschen…</translation>
-    </message>
-    <message>
-        <source>&amp;Import Brushes…</source>
-        <translation>Pinsel &amp;importieren…</translation>
-    </message>
-    <message>
-        <source>&amp;Export…</source>
-        <translation>&amp;Exportieren…</translation>
-    </message>
-    <message>
-        <source>Show &amp;Folder</source>
-        <translation>&amp;Ordner anzeigen</translation>
-    </message>
-    <message>
-        <source>Presets Set the &amp;Colour</source>
-        <translation>Vorgaben setzen die &amp;Farbe</translation>
-    </message>
-    <message>
         <source>Search brushes</source>
         <translation>Pinsel suchen</translation>
     </message>
@@ -2652,10 +2620,6 @@
         <translation>Weitere Aktionen für den gewählten Pinsel</translation>
     </message>
     <message>
-        <source>Brushes</source>
-        <translation>Pinsel</translation>
-    </message>
-    <message>
         <source>Plain</source>
         <translation>Standard</translation>
     </message>
@@ -2663,6 +2627,13 @@
         <source>%1 – modified</source>
         <translation>%1 – geändert</translation>
     </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>Noch keine Pinsel: Importieren Sie welche über das Menü oben oder speichern Sie die aktuellen Einstellungen als Pinsel.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetChoice</name>
     <message>
         <source>Save as New Brush</source>
         <translation>Als neuen Pinsel speichern</translation>
@@ -2709,30 +2680,6 @@
         <translation>Aus „%1“ konnte nicht übernommen werden:
 %2</translation>
     </message>
-    <message>
-        <source>&amp;Favourite</source>
-        <translation>&amp;Favorit</translation>
-    </message>
-    <message>
-        <source>Kind of brushes</source>
-        <translation>Art der Pinsel</translation>
-    </message>
-    <message>
-        <source>Which brushes are listed</source>
-        <translation>Welche Pinsel aufgeführt werden</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Alle</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Favoriten</translation>
-    </message>
-    <message>
-        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
-        <translation>Noch keine Pinsel: Importieren Sie welche über das Menü oben oder speichern Sie die aktuellen Einstellungen als Pinsel.</translation>
-    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2762,6 +2709,25 @@
     <message>
         <source>No brush is of this kind: show all brushes.</source>
         <translation>Kein Pinsel ist von dieser Art: Zeigen Sie alle Pinsel.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetKinds</name>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>Art der Pinsel</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>Welche Pinsel aufgeführt werden</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
     </message>
 </context>
 <context>
@@ -2824,6 +2790,52 @@
     <message>
         <source>By %1</source>
         <translation>Von %1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetListView</name>
+    <message>
+        <source>Brushes</source>
+        <translation>Pinsel</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetMenu</name>
+    <message>
+        <source>Save as &amp;New Brush…</source>
+        <translation>Als &amp;neuen Pinsel speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite with Present Settings…</source>
+        <translation>Mit &amp;aktuellen Einstellungen überschreiben…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Umbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Löschen…</translation>
+    </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>&amp;Favorit</translation>
+    </message>
+    <message>
+        <source>&amp;Import Brushes…</source>
+        <translation>Pinsel &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren…</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>&amp;Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>Presets Set the &amp;Colour</source>
+        <translation>Vorgaben setzen die &amp;Farbe</translation>
     </message>
 </context>
 <context>
