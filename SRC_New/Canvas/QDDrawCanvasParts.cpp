@@ -55,6 +55,7 @@ void QDDrawCanvas::Parts::makePreview() {
     preview = host.makePreview(QRectF(QPointF(0, 0), bufferSize()));
     preview->setComplention([this](const QImage& image, QSizeF size) { placePreview(image, size); });
     preview->setGaussianRadius(brush.present().gaussianRadius);
+    preview->setSymmetry(painter.symmetry());
     sendPreviewColor();
 }
 
@@ -343,6 +344,7 @@ void QDDrawCanvas::Parts::setSymmetry(Symmetry symmetry) {
     if (symmetry != painter.symmetry()) {
         tell([&](CanvasInput& to) { to.symmetrySet(symmetry); });
         painter.setSymmetry(symmetry);
+        preview->setSymmetry(symmetry);
     }
 }
 
