@@ -157,8 +157,8 @@ public:
     void updateScaleInfo();
     /// A display shows it mirrored left to right, then turned counter-clockwise: tips keep their angle as seen.
     void setViewTurn(double radians, bool mirrored);
-    /// Of strokes and shapes, copies are drawn with them from the next segment on; none at first. The live preview and
-    /// brushes with bristles draw no copies. A centre that is not finite is refused, with a log line.
+    /// Of strokes and shapes, copies are drawn with them from the next segment on, of the live preview's from the next
+    /// stroke on; none at first. A centre that is not finite is refused, with a log line.
     const dabcanvas::Symmetry& symmetry() const;
     void setSymmetry(const dabcanvas::Symmetry& symmetry);
     /// Strokes and shapes, the live preview's included, change only what lies in this area, and pixels at its edge by as
