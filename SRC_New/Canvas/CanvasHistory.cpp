@@ -114,6 +114,18 @@ bool CanvasHistory::showsSaved() {
     return shown != nullptr && shown->hasSameTiles(*_saved);
 }
 
+void CanvasHistory::noteFallenBack() {
+    const auto shown = _record.present(), told = _record.data().tiles();
+    if (shown && told) {
+        const bool differs = !shown->hasSameTiles(*told);
+        _layers.edits.unrecorded = {differs, differs};
+    }
+    if (showsSaved()) {
+        _layers.edits.unsaved = {};
+    }
+    note();
+}
+
 StepPicture CanvasHistory::load(bool sketching) {
     images(sketching).setFilePathExtension({});
     markTimeInterval = 0;

@@ -49,6 +49,9 @@ public:
     // The canvas is saved as it is now: what is unsaved counts from here, and not while a step shows it again.
     void noteSaved();
 
+    // The canvas has fallen back on what was known of it, which may be a step, or what is saved.
+    void noteFallenBack();
+
     // Those that went for want of room since this was asked last, and how many are left to undo.
     std::pair<int, int> stepsDropped();
 

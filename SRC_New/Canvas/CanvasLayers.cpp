@@ -270,8 +270,31 @@ QImage CanvasLayers::flattened() {
     });
 }
 
+QImage CanvasLayers::flattened(const QRect& area, const QImage& active) {
+    auto& canvas = parts();
+    const Rect part{area.x(), area.y(), area.width(), area.height()};
+    const QImage front = active.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    if (front.isNull() || active.size() != area.size() || !canvas.layers.whole().contains(part)) {
+        return {};
+    }
+    if (canvas.record.planes().isPlain()) {
+        return front;
+    }
+    const PixelView rowsOfFront{front.constBits(), {part.width, part.height}, front.bytesPerLine()};
+    return canvas.imageBy({part.width, part.height}, [&](const MutablePixelView& rows) {
+        return canvas.look.read(part, rows, &rowsOfFront);
+    });
+}
+
 QImage CanvasLayers::deepImage(int layer) {
-    return has(layer) ? parts().pictureOf(static_cast<std::size_t>(layer)) : QImage();
+    return has(layer) ? parts().pictureOf(static_cast<std::size_t>(layer), parts().layers.whole()) : QImage();
+}
+
+QImage CanvasLayers::deepImage(int layer, const QRect& area) {
+    const Rect part{area.x(), area.y(), area.width(), area.height()};
+    return has(layer) && !part.isEmpty() && parts().layers.whole().contains(part)
+               ? parts().pictureOf(static_cast<std::size_t>(layer), part)
+               : QImage();
 }
 
 }  // namespace dabcanvas

@@ -54,8 +54,13 @@ public:
 
     QImage image(int layer);  ///< premultiplied RGBA
     QImage flattened();       ///< the same of all of them together
+    /// What an area, in buffer pixels, would look like, were the active one this picture there, which is as large. Null
+    /// where it is not, or not all on the canvas. Changes nothing.
+    QImage flattened(const QRect& area, const QImage& active);
     /// With all bits of a canvas of 16 bits a channel, RGBA64; else image(). add() takes them, too.
     QImage deepImage(int layer);
+    /// The same of an area in buffer pixels; null where that is not all on the canvas.
+    QImage deepImage(int layer, const QRect& area);
 
     /// What another canvas told.
     bool take(const InputLayerEdit& edit);

@@ -13,6 +13,7 @@ namespace {
 // Sides in buffer pixels between which single precision tells pixels apart.
 constexpr double kSmallest = 1e-6, kLargest = 1e6;
 constexpr QImage::Format kFormat = QImage::Format_RGBA8888_Premultiplied;
+constexpr QImage::Format kDeepFormat = QImage::Format_RGBA64_Premultiplied;
 
 bool isLength(double side) {
     return side >= kSmallest && side <= kLargest;
@@ -22,8 +23,9 @@ bool isLength(double side) {
 PixelView viewOf(const QImage& rows, bool topRowFirst) {
     const Size size{rows.width(), rows.height()};
     const std::ptrdiff_t stride = rows.bytesPerLine();
-    return topRowFirst ? PixelView{rows.constBits(), size, stride}
-                       : PixelView{rows.constBits() + stride * (size.height - 1), size, -stride};
+    const int pixelBytes = rows.depth() / 8;
+    return topRowFirst ? PixelView{rows.constBits(), size, stride, pixelBytes}
+                       : PixelView{rows.constBits() + stride * (size.height - 1), size, -stride, pixelBytes};
 }
 
 // Halves go away from zero.
@@ -94,8 +96,10 @@ bool ImagePlacing::copy(const PlacedImage& image, const Rect& placed, const Rect
     if (!image.topRowFirst) {
         part.moveTop(placed.height - part.y() - part.height());
     }
-    const QImage rows =
-        (part == image.image.rect() ? image.image : image.image.copy(part)).convertToFormat(kFormat);
+    const bool isDeep =
+        image.image.format() == kDeepFormat && _layers.surface().pixelBytes() * 8 == image.image.depth();
+    const QImage rows = (part == image.image.rect() ? image.image : image.image.copy(part))
+                            .convertToFormat(isDeep ? kDeepFormat : kFormat);
     if (rows.isNull()) {
         return false;
     }

@@ -15,11 +15,14 @@ class LayerLook {
 public:
     LayerLook(PaintLayers& layers, const LayerPlanes& planes) : _layers(layers), _planes(planes) {}
 
-    // Into rows as large as the area, of 4 bytes a pixel or as many as the surface has.
-    bool read(const Rect& area, const MutablePixelView& rows);
+    // Into rows as large as the area, of 4 bytes a pixel or as many as the surface has. `front`: rows as large, which the
+    // front is there instead of what it is; null: itself.
+    bool read(const Rect& area, const MutablePixelView& rows, const PixelView* front = nullptr);
 
 private:
-    bool readBand(const Rect& area, const MutablePixelView& rows);  // of one row of tiles
+    struct Band;
+    bool readBand(const Band& band);
+    bool frontTiles(const Band& band, std::vector<PlacedTile>& tiles);
 
     PaintLayers& _layers;
     const LayerPlanes& _planes;

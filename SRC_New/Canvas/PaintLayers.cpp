@@ -374,14 +374,26 @@ bool PaintLayers::cropTo(std::unique_ptr<PaintSurface> surface, const Rect& area
             }
         }
     }
+    _painted = _changed = _stale = {};  // which was told in places of the size before
+    begin(std::move(surface));
+    return true;
+}
+
+// With another picture, and nothing in progress.
+void PaintLayers::begin(std::unique_ptr<PaintSurface> surface) {
     _surface = std::move(surface);
     for (Rect& content : _content) {
         content = {};
     }
-    _uncommitted = _painted = {};
-    _changed = _stale = {};  // which was told in places of the size before
+    _uncommitted = {};
     noteChanged(whole());
-    return true;
+}
+
+void PaintLayers::replaceLost(std::unique_ptr<PaintSurface> surface) {
+    _pending.clear();
+    _strokeArea = {};
+    _mayMerge = true;
+    begin(std::move(surface));
 }
 
 bool PaintLayers::copyBand(const Rect& band, const Rect& there, PaintSurface& to) try {
@@ -421,12 +433,15 @@ const QImage& PaintLayers::display() {
     const QSize size(this->size().width, this->size().height);
     if (_display.size() != size) {
         _display = QImage(size, QImage::Format_RGBA8888_Premultiplied);
+        _display.fill(0);
+        _isDisplayed = false;
         _stale = whole();
     }
     if (!_stale.isEmpty() && !_display.isNull()) {
         const MutablePixelView all{_display.bits(), this->size(), _display.bytesPerLine()};
         if (look ? look(_stale, all.part(_stale)) : read(_stale, all.part(_stale))) {
             _stale = {};
+            _isDisplayed = true;
         }
     }
     return _display;

@@ -108,11 +108,15 @@ public:
     // The same of one of another size, between strokes: it shows that area of the picture, and what lies outside of
     // that is transparent.
     bool cropTo(std::unique_ptr<PaintSurface> surface, const Rect& area);
+    // Its own is lost: another of its size, which holds a picture already, takes its place. The layers are empty.
+    void replaceLost(std::unique_ptr<PaintSurface> surface);
 
     // ---- looking
 
     // What the canvas looks like as premultiplied RGBA; only what changed since the last call is read. Valid until the next.
     const QImage& display();
+    // The same as it was last, read or not; null where it never was.
+    QImage lastDisplay() const { return _isDisplayed ? _display : QImage(); }
     // Reads it, where that is more than the picture.
     std::function<bool(const Rect& area, const MutablePixelView& rows)> look;
     // It looks another way there, whatever the picture is.
@@ -132,6 +136,7 @@ private:
     // The picture is its background there.
     void noteBackgroundShows(const Rect& area);
     void settleDrawn();
+    void begin(std::unique_ptr<PaintSurface> surface);
     bool moveBand(const Rect& band, PaintSurface& to);
     bool copyBand(const Rect& band, const Rect& there, PaintSurface& to);
 
@@ -149,6 +154,7 @@ private:
     Rect _changed;
     Rect _stale;  // where the displayed image may differ from the picture
     QImage _display;
+    bool _isDisplayed = false;
 };
 
 }  // namespace dabcanvas

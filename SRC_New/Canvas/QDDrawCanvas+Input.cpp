@@ -89,18 +89,22 @@ bool QDDrawCanvas::Parts::tellPicture(bool isStep) {
                                                            : listener->layersSet(*all, isStep));
 }
 
-QImage QDDrawCanvas::Parts::pictureOf(std::size_t layer) {
+QImage QDDrawCanvas::Parts::pictureOf(std::size_t layer, const Rect& area) {
     const Host::Call call(host);
     const int pixelBytes = layers.surface().pixelBytes();
-    QImage picture(layers.size().width, layers.size().height, formatOf(pixelBytes));
+    const LayerPlanes& planes = record.planes();
+    const bool isFront = layer == planes.shape().front;
+    const Rect read = isFront ? area : layers.whole();
+    QImage picture(read.width, read.height, formatOf(pixelBytes));
     if (picture.isNull() || !finishPreview()) {
         return {};
     }
-    const MutablePixelView rows{picture.bits(), layers.size(), picture.bytesPerLine(), pixelBytes};
-    const LayerPlanes& planes = record.planes();
-    const bool isRead =
-        layer == planes.shape().front ? read(layers.whole(), rows) : planes.others()[layer].read(rows);
-    return isRead ? picture : QImage();
+    const MutablePixelView rows{
+        picture.bits(), {read.width, read.height}, picture.bytesPerLine(), pixelBytes};
+    if (!(isFront ? this->read(read, rows) : planes.others()[layer].read(rows))) {
+        return {};
+    }
+    return read == area ? picture : picture.copy(area.x, area.y, area.width, area.height);
 }
 
 // Blank ones are null.
@@ -108,7 +112,7 @@ std::optional<InputLayers> QDDrawCanvas::Parts::allLayers() {
     const PictureShape& shape = record.planes().shape();
     InputLayers all{.all = {}, .active = static_cast<int>(shape.front)};
     for (std::size_t layer = 0; layer < shape.planes(); ++layer) {
-        const QImage picture = pictureOf(layer);
+        const QImage picture = pictureOf(layer, layers.whole());
         if (picture.isNull()) {
             return std::nullopt;
         }

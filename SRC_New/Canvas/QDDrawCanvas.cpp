@@ -289,6 +289,10 @@ bool QDDrawCanvas::isContextLost() const {
     return _inside->parts->isLost();
 }
 
+bool QDDrawCanvas::recoverFromLoss(SurfaceKind kind) {
+    return _inside->parts->recoverFromLoss(kind);
+}
+
 bool QDDrawCanvas::autoMark() const {
     return _inside->parts->history.autoMark;
 }

@@ -57,8 +57,8 @@ class PaintSurface;
 /// Life     the caller's from initWithFrame() on, to be destroyed before main() returns, as static objects may outlive
 ///          OpenGL and Qt. A host may destroy it in any callback, see QDDrawViewDelegate.h.
 /// Errors   never throws; a failure is a log line and a false or null result.
-/// Loss     of a driver's device: after one log line isContextLost() holds for good, and nothing is drawn, read or
-///          cleared any more. Another canvas can go on from undoManager() and displayImage().
+/// Loss     of a driver's device: after one log line isContextLost() holds, and nothing is drawn, read or cleared any
+///          more, until recoverFromLoss() goes on elsewhere.
 class DABCANVAS_CANVAS_API QDDrawCanvas : public dabcanvas::CanvasEvents {
 public:
     /// What the setter of a brush property takes.
@@ -157,8 +157,8 @@ public:
     void updateScaleInfo();
     /// A display shows it mirrored left to right, then turned counter-clockwise: tips keep their angle as seen.
     void setViewTurn(double radians, bool mirrored);
-    /// Of strokes and shapes, copies are drawn with them from the next segment on; none at first. The live preview and
-    /// brushes with bristles draw no copies. A centre that is not finite is refused, with a log line.
+    /// Of strokes and shapes, copies are drawn with them from the next segment on, of the live preview's from the next
+    /// stroke on; none at first. A centre that is not finite is refused, with a log line.
     const dabcanvas::Symmetry& symmetry() const;
     void setSymmetry(const dabcanvas::Symmetry& symmetry);
     /// Strokes and shapes, the live preview's included, change only what lies in this area, and pixels at its edge by as
@@ -173,6 +173,11 @@ public:
     bool isModified() const;
     void setModified(bool modified);
     bool isContextLost() const;  ///< see Loss; found by what draws or reads next
+    /// After a loss, goes on in another surface: history, layers, depth and brush stay. The picture becomes the last
+    /// step, or what a canvas of a single layer showed when displayImage() was last read, where that is newer; a stroke
+    /// in progress may be gone. True where nothing is lost; false, after a log line, and lost as before, where that
+    /// kind of surface cannot be had, and where no step holds the picture and nobody has looked at it.
+    bool recoverFromLoss(dabcanvas::SurfaceKind kind = dabcanvas::SurfaceKind::processor);
 
     // ---- Images
     /// Reading back: rectangles in view points (readDataBufferRect(): buffer pixels) on the canvas and at least a pixel
@@ -192,7 +197,8 @@ public:
     /// Data     dataSize pixels of what readData() gives, so that setData() of it is the same picture again.
     /// Pixels   exact where the image keeps its size on whole pixels, also turned by quarters; interpolated when
     ///          enlarged and averaged when reduced, as one beyond the driver's largest texture is first; edges are
-    ///          smooth.
+    ///          smooth. Bits beyond 8 a channel are kept where a Format_RGBA64_Premultiplied, as deepImage() of layers()
+    ///          gives it, is set pixel by pixel on a canvas of 16.
     /// Errors   false, and nothing changed: quietly for what lies outside of the canvas; after a log line for a null
     ///          image, too little data, sides not from a millionth to a million buffer pixels, and without the memory.
     bool drawImage(const QImage& image, const QRectF& inRect, bool isUndo = false);

@@ -98,6 +98,7 @@ public:
     // The same of an end that no delegate hears of.
     void strokeWasLeft(bool stays);
     bool isLossTold() const { return _lossTold; }
+    void lossIsOver() { _lossTold = _lossIsNew = false; }
 
 private:
     bool takeThread();

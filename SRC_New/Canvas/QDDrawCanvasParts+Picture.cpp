@@ -268,6 +268,37 @@ bool QDDrawCanvas::Parts::recover(const QString& id, QString* problem) {
     return true;
 }
 
+bool QDDrawCanvas::Parts::recoverFromLoss(SurfaceKind wanted) {
+    const Host::Call call(host);
+    if (!isLost()) {
+        return true;
+    }
+    entry.drop();
+    SurfaceOptions next = options;
+    next.kind = wanted;
+    next.canvasDepth = layers.surface().pixelBytes() * 2;  // bits a channel
+    auto surface = makeSurface(bufferSize(), next);
+    if (!surface) {
+        return false;
+    }
+    QString problem;
+    const QImage shown = record.planes().isPlain() ? layers.lastDisplay() : QImage();
+    if (!record.fallBackOn(*surface, shown, layers.edits.unrecorded.withoutStroke, &problem)) {
+        qCWarning(lcDabcanvas, "the canvas stays lost: %ls", qUtf16Printable(problem));
+        return false;
+    }
+    layers.replaceLost(std::move(surface));
+    host.lossIsOver();
+    history.noteFallenBack();
+    lastTouched = {};
+    host.redisplayAll();
+    if (kind() == StrokeKind::smudge) {
+        prepareSmudge();
+    }
+    tellPicture(!isUnrecorded());
+    return true;
+}
+
 bool QDDrawCanvas::Parts::isModified() const {
     return layers.edits.unsaved.now || preview->isPending();
 }

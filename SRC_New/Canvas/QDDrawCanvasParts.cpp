@@ -56,6 +56,7 @@ void QDDrawCanvas::Parts::makePreview() {
     preview = host.makePreview(QRectF(QPointF(0, 0), bufferSize()));
     preview->setComplention([this](const QImage& image, QSizeF size) { placePreview(image, size); });
     preview->setGaussianRadius(brush.present().gaussianRadius);
+    preview->setSymmetry(painter.symmetry());
     sendPreviewColor();
 }
 
@@ -341,6 +342,7 @@ void QDDrawCanvas::Parts::setSymmetry(Symmetry symmetry) {
     if (symmetry != painter.symmetry()) {
         tell([&](CanvasInput& to) { to.symmetrySet(symmetry); });
         painter.setSymmetry(symmetry);
+        preview->setSymmetry(symmetry);
     }
 }
 

@@ -86,6 +86,7 @@ public:
     dabcanvas::StepPicture redo();
     bool recover(const QString& id, QString* problem);
     bool setArea(const QRect& area);
+    bool recoverFromLoss(dabcanvas::SurfaceKind kind);
     // The canvas becomes what `edit` makes of all of its layers, as a step where steps are recorded; that is told as `told`.
     // False, and nothing changed, after a log line; or where edit gives none.
     using LayerEdit = std::function<std::optional<dabcanvas::TilePicture>(const dabcanvas::TilePicture&)>;
@@ -107,7 +108,7 @@ public:
     bool putPicture(const QImage& picture);
     bool putLayers(const dabcanvas::InputLayers& all);
     // With all the bits that it has; null where it cannot be had.
-    QImage pictureOf(std::size_t layer);
+    QImage pictureOf(std::size_t layer, const dabcanvas::Rect& area);
     std::optional<dabcanvas::InputLayers> allLayers();
     dabcanvas::InputLimits limits() const;
     void setSecondLine(float slRadius, float relationValue);

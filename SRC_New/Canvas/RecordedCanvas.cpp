@@ -211,6 +211,63 @@ bool RecordedCanvas::place(const TilePicture& picture, std::size_t index, std::v
     return !tile || placed.back().tile;
 }
 
+// Those that look another way than the known ones, or all of them.
+std::vector<PlacedTile> RecordedCanvas::shownTiles(const QImage& shown,
+                                                   const std::vector<PlacedTile>& known) const {
+    const int pixelBytes = _layers.surface().pixelBytes();
+    const PixelView all{shown.constBits(), _layers.size(), shown.bytesPerLine()};
+    const TileLayout layout(_layers.size());
+    std::vector<PlacedTile> tiles;
+    for (std::size_t index = 0; index < layout.count(); ++index) {
+        const Rect rect = layout.rectOf(index);
+        const Size size{rect.width, rect.height};
+        const auto now = newTile(4), before = newTile(4);
+        copyRows(all.part(rect), rowsOfTile(now, size, 4));
+        if (!known.empty()) {
+            const PixelView rows = rowsOfTile(known[index].tile, size, pixelBytes);
+            pixelBytes == 4 ? copyRows(rows, rowsOfTile(before, size, 4))
+                            : roundRows(rows, rowsOfTile(before, size, 4), rect.x, rect.y);
+        }
+        if (!known.empty() && looksAlike(now, before, 4)) {
+            continue;
+        }
+        const auto tile = pixelBytes == 4 ? now : newTile(pixelBytes);
+        if (tile != now) {
+            widenRows(rowsOfTile(SharedTile(now), size, 4), rowsOfTile(tile, size, pixelBytes));
+        }
+        tiles.push_back({index, tile});
+    }
+    return tiles;
+}
+
+bool RecordedCanvas::fallBackOn(PaintSurface& surface, const QImage& shown, bool asShown,
+                                QString* problem) const {
+    *problem = QStringLiteral("there is no memory for its picture");
+    return withMemory(
+        [&] {
+            std::vector<PlacedTile> known, seen;
+            bool all = true;
+            if (_isCanvas && _picture) {
+                tilesIn(_layers.whole()).forEach([&](std::size_t index) {
+                    all = all && place(*_picture, index, known, problem);
+                });
+            } else if (shown.isNull()) {
+                *problem = QStringLiteral("its picture is known neither by a step nor by having been shown");
+                return false;
+            }
+            if (!shown.isNull() && (known.empty() || asShown)) {
+                seen = shownTiles(shown, known);
+            }
+            const SurfaceScope scope(surface);
+            if (!all || !scope || !surface.put(kPicture, known)) {
+                return false;
+            }
+            surface.forgetTouched(kPicture);
+            return surface.put(kPicture, seen);
+        },
+        false);
+}
+
 // What this holds is what is shown: each version knows in how many places.
 void RecordedCanvas::changeShown(const TilePicture* from, const TilePicture* to) {
     const auto show = [](const TileRef& tile) { tile ? TileStore::show(*tile) : void(); };

@@ -58,6 +58,10 @@ public:
     // Canvas and background become another picture of their size, and so does this; what is only bytes becomes the front.
     // The area that changed; nothing, and `problem` in words, without the memory or when that picture cannot be had.
     std::optional<Rect> show(const StepPicture& picture, QString* problem, FrontIs front = FrontIs::kept);
+    // The surface is lost: another of its kind of picture becomes what was last read of the front. Where that is not known,
+    // and with `asShown` wherever it looked another way since, it becomes what was shown of the canvas. False, and
+    // `problem` in words, where there is neither, and without the memory.
+    bool fallBackOn(PaintSurface& surface, const QImage& shown, bool asShown, QString* problem) const;
     // A layer of these rows, of 4 bytes a pixel or as many as the surface has, as large as the canvas. Throws std::bad_alloc.
     TilePicture planeOf(const PixelView& rows) { return tilesOf(rows, TilePicture(_layers.size())); }
     // Another layer goes into the surface. False, and nothing changed, where it cannot be had.
@@ -75,6 +79,7 @@ private:
         Rect area;
     };
     TileSet tilesIn(const Rect& area) const;
+    std::vector<PlacedTile> shownTiles(const QImage& shown, const std::vector<PlacedTile>& known) const;
     bool readCanvas();
     std::optional<Changes> readTiles(const TilePicture& before);
     TileRef version(const PlacedTile& read, const TileRef& before);

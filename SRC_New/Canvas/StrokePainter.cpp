@@ -180,6 +180,7 @@ void StrokePainter::resetMaker(DrawTarget target) {
     makerOf(target).reset();
     if (target == DrawTarget::smudge) {
         _brush.smudges().reset();
+        _copiesCarry = false;
     }
 }
 
@@ -231,7 +232,6 @@ Rect StrokePainter::drawMade(DrawTarget target) {
                                            : _layers.drawOnPicture(_made, _brush.subStyle());
 }
 
-// What bristles carry is of one way, so that they have no copies.
 Rect StrokePainter::smudgeSome(std::span<const LPPoint> points) {
     SmudgeMaker& smudges = _brush.smudges();
     _madeSmudges.clear();
@@ -244,9 +244,13 @@ Rect StrokePainter::smudgeSome(std::span<const LPPoint> points) {
     };
     smudges.make(_brush.smudgeDabs(), points.data(), points.size(), [&](const SmudgeDab& dab) {
         take(dab, bounds);
-        for (std::size_t i = 0; i < _copies.size() && dab.bristles.part <= 0; ++i) {
-            take(_copies[i].of(dab), ofCopies[i]);
+        for (std::size_t i = 0; i < _copies.size(); ++i) {
+            SmudgeDab copy = _copies[i].of(dab);
+            copy.bristles.set = static_cast<int>(i) + 1;
+            copy.bristles.isFirst |= !_copiesCarry && dab.bristles.part > 0;
+            take(copy, ofCopies[i]);
         }
+        _copiesCarry = _copiesCarry || dab.bristles.part > 0;
     });
     _clock.stats.dabs += _madeSmudges.size();
     const Rect touched = _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
@@ -264,6 +268,7 @@ Rect StrokePainter::smudgeSome(std::span<const LPPoint> points) {
 void StrokePainter::setSymmetry(const Symmetry& symmetry) {
     _symmetry = symmetry;
     _copies = copiesOf(symmetry);
+    _copiesCarry = false;
 }
 
 Rect StrokePainter::drawPoints(std::span<const LPPoint> points, DrawTarget target) {

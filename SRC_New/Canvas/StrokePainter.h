@@ -99,6 +99,7 @@ private:
     Symmetry _symmetry;
     std::vector<SymmetryMap> _copies;
     std::vector<Rect> _copied;
+    bool _copiesCarry = false;  // bristles of this stroke's copies hold paint
 
     bool _isRefused = false;  // there is no memory for a layer of it: nothing of the stroke is drawn
     bool _hasMoved = false;   // the first move of the stroke was taken

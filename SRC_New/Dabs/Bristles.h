@@ -16,6 +16,8 @@
 namespace dabcanvas {
 
 inline constexpr int kMostBristles = 64;
+/// A stroke with its copies, see Symmetry.h: each carries paint of its own.
+inline constexpr int kMostBristleSets = 48;
 
 /// What bristles do in one dab.
 struct BristleDab {
@@ -27,6 +29,7 @@ struct BristleDab {
     float load = 0;                  ///< at a stroke's first dab
     int count = 1;                   ///< of bristles, up to kMostBristles; the same for all dabs of a stroke
     bool isFirst = false;            ///< of a stroke: they hold nothing yet
+    int set = 0;  ///< whose paint it is: 0 the stroke's, others its copies', below kMostBristleSets
 };
 
 /// Bristles differ, in clumps and one by one. 0..1, evenly spread over any few in a row.

@@ -49,6 +49,10 @@ LPPosition SymmetryMap::of(const LPPosition& place) const {
             static_cast<float>(_centreY + _yx * x + _yy * y)};
 }
 
+LPPosition SymmetryMap::turned(float x, float y) const {
+    return {static_cast<float>(_xx * x + _xy * y), static_cast<float>(_yx * x + _yy * y)};
+}
+
 Dab SymmetryMap::of(const Dab& dab) const {
     Dab copy = dab;
     const LPPosition place = of(LPPosition{dab.x, dab.y});
@@ -64,6 +68,10 @@ SmudgeDab SymmetryMap::of(const SmudgeDab& dab) const {
     SmudgeDab copy = dab;
     copy.dab = of(dab.dab);
     copy.pickUp = of(dab.pickUp);
+    const LPPosition across = turned(dab.bristles.acrossX, dab.bristles.acrossY);
+    copy.bristles.acrossX = across.x;
+    copy.bristles.acrossY = across.y;
+    copy.bristles.ahead *= _turnsOver ? -1.0f : 1.0f;
     return copy;
 }
 

@@ -37,12 +37,14 @@ public:
     DABCANVAS_DABS_API SymmetryMap(double centreX, double centreY, bool mirrored, double radian);
 
     DABCANVAS_DABS_API Dab of(const Dab& dab) const;
-    /// It takes up colour where the copy before it lay. Not of one with bristles, which carry paint of their own way.
+    /// It takes up colour where the copy before it lay; of bristles, the caller says whose paint they carry.
     DABCANVAS_DABS_API SmudgeDab of(const SmudgeDab& dab) const;
     /// Of a place.
     DABCANVAS_DABS_API LPPosition of(const LPPosition& place) const;
 
 private:
+    LPPosition turned(float x, float y) const;
+
     double _centreX, _centreY;
     double _xx, _xy, _yx, _yy;  // x' = xx * x + xy * y, y' = yx * x + yy * y, from the centre
     // Half turns are flips, so that an upright dab's copy is upright, too.

@@ -30,7 +30,7 @@ std::unique_ptr<HeldPaint> HeldPaint::make(ProgramPool* pool) {
     const QString fragment = ESBaseRender::stringWithFileName(QStringLiteral("Shaders.bundle/Bristles.fsh"));
     ProgramPool own;
     held->_program = (pool != nullptr ? *pool : own).program(vertex, fragment);
-    if (!held->_program || !held->makeTargets()) {
+    if (!held->_program || !held->addSet()) {
         qCWarning(lcDabcanvasGL, "bristles carry no colour: the driver has no room or no program for it");
         return nullptr;
     }
@@ -45,35 +45,58 @@ std::unique_ptr<HeldPaint> HeldPaint::make(ProgramPool* pool) {
 }
 
 HeldPaint::~HeldPaint() {
-    glDeleteFramebuffers(static_cast<GLsizei>(_framebuffers.size()), _framebuffers.data());
-    glDeleteTextures(static_cast<GLsizei>(_textures.size()), _textures.data());
+    while (!_sets.empty()) {
+        dropLastSet();
+    }
+}
+
+void HeldPaint::dropLastSet() {
+    const Set& set = _sets.back();
+    glDeleteFramebuffers(static_cast<GLsizei>(set.framebuffers.size()), set.framebuffers.data());
+    glDeleteTextures(static_cast<GLsizei>(set.textures.size()), set.textures.data());
+    _sets.pop_back();
 }
 
 // Single precision: what a short way adds is below a step of anything coarser.
-bool HeldPaint::makeTargets() {
+bool HeldPaint::addSet() {
+    Set& set = _sets.emplace_back();
     GLint drawBefore = 0;
     glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &drawBefore);
-    glGenTextures(static_cast<GLsizei>(_textures.size()), _textures.data());
-    glGenFramebuffers(static_cast<GLsizei>(_framebuffers.size()), _framebuffers.data());
+    glGenTextures(static_cast<GLsizei>(set.textures.size()), set.textures.data());
+    glGenFramebuffers(static_cast<GLsizei>(set.framebuffers.size()), set.framebuffers.data());
     bool isWhole = true;
-    for (std::size_t i = 0; i < _textures.size(); ++i) {
-        bind(kUnit, i);
+    for (std::size_t i = 0; i < set.textures.size(); ++i) {
+        bind(kUnit, set.textures[i]);
         glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
         glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
         glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA32F, kMostBristles, 1, 0, GL_RGBA, GL_FLOAT, nullptr);
-        glBindFramebuffer(GL_DRAW_FRAMEBUFFER, _framebuffers[i]);
-        glFramebufferTexture2D(GL_DRAW_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, _textures[i], 0);
+        glBindFramebuffer(GL_DRAW_FRAMEBUFFER, set.framebuffers[i]);
+        glFramebufferTexture2D(GL_DRAW_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, set.textures[i], 0);
         isWhole = isWhole && glCheckFramebufferStatus(GL_DRAW_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
         constexpr GLfloat kNothing[4] = {};
         glClearBufferfv(GL_COLOR, 0, kNothing);
     }
     glBindFramebuffer(GL_DRAW_FRAMEBUFFER, static_cast<GLuint>(drawBefore));
-    return drainGLErrors(kFile, __LINE__) == 0 && isWhole;
+    if (drainGLErrors(kFile, __LINE__) == 0 && isWhole) {
+        return true;
+    }
+    dropLastSet();
+    return false;
 }
 
-void HeldPaint::bind(GLenum unit, std::size_t which) const {
+HeldPaint::Set& HeldPaint::setOf(const BristleDab& bristles) {
+    const auto set = static_cast<std::size_t>(std::clamp(bristles.set, 0, kMostBristleSets - 1));
+    while (set >= _sets.size()) {
+        if (!addSet()) {
+            return _sets.front();
+        }
+    }
+    return _sets[set];
+}
+
+void HeldPaint::bind(GLenum unit, GLuint texture) {
     glActiveTexture(unit);
-    glBindTexture(GL_TEXTURE_2D, _textures[which]);
+    glBindTexture(GL_TEXTURE_2D, texture);
 }
 
 void HeldPaint::noteTarget() {
@@ -82,10 +105,11 @@ void HeldPaint::noteTarget() {
 }
 
 void HeldPaint::takeUp(const BristleDab& bristles, const Dab& inLayer, int rows, GLenum beforeUnit) {
+    Set& set = setOf(bristles);
     _program->bind();
-    bind(kUnit, _now);
-    _now = 1 - _now;
-    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, _framebuffers[_now]);
+    bind(kUnit, set.textures[set.now]);
+    set.now = 1 - set.now;
+    glBindFramebuffer(GL_DRAW_FRAMEBUFFER, set.framebuffers[set.now]);
     glViewport(0, 0, kMostBristles, 1);
 
     const BristleSpan span(inLayer, bristles);
@@ -104,7 +128,7 @@ void HeldPaint::takeUp(const BristleDab& bristles, const Dab& inLayer, int rows,
 
     glBindFramebuffer(GL_DRAW_FRAMEBUFFER, static_cast<GLuint>(_target));
     glViewport(_viewport[0], _viewport[1], _viewport[2], _viewport[3]);
-    bind(kUnit, _now);
+    bind(kUnit, set.textures[set.now]);
 }
 
 }  // namespace dabcanvas

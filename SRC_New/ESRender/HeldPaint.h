@@ -5,6 +5,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 #include "Dabs/SmudgeDabs.h"
 #include "ESRender/Utilities/ESProgram.h"
@@ -14,7 +15,7 @@ namespace dabcanvas {
 
 /// What the bristles of a smudge brush hold, on the GPU: a texture of a pixel each. See Dabs/Bristles.h.
 ///
-/// Owns     a program, two small textures and their framebuffers.
+/// Owns     a program, and for each set of bristles two small textures and their framebuffers.
 /// Thread   whichever has the context current, which must be so when it goes, too.
 class HeldPaint {
 public:
@@ -34,12 +35,18 @@ public:
 
 private:
     HeldPaint() = default;
-    void bind(GLenum unit, std::size_t which) const;
-    bool makeTargets();
+    struct Set {
+        std::array<GLuint, 2> textures{}, framebuffers{};
+        std::size_t now = 0;
+    };
+    static void bind(GLenum unit, GLuint texture);
+    void dropLastSet();
+    bool addSet();
+    // Where there is no room for another one, the stroke's own.
+    Set& setOf(const BristleDab& bristles);
 
     std::shared_ptr<ESProgram> _program;
-    std::array<GLuint, 2> _textures{}, _framebuffers{};
-    std::size_t _now = 0;
+    std::vector<Set> _sets;
     GLint _target = 0, _viewport[4] = {};
     GLint _held = -1, _before = -1, _centre = -1, _span = -1, _uptake = -1, _ownColour = -1;
 };

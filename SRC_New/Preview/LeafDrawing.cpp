@@ -87,13 +87,44 @@ void LeafDrawing::drawWithBegin(QPointF point) {
     letGo();
     _refusedPoint = false;
     const QPointF begin = graphPoint(point);
-    if (!acceptsPoint(point) || !makeBitmap(begin)) {
+    if (!acceptsPoint(point) || !makeBitmap(begin) || !beginCopies(point)) {
         return;
     }
     _path.setFillRule(Qt::WindingFill);
     _path.moveTo(begin);
     _beginPoint = _lastPoint = _lastRenderPoint = begin;
     _updateRect = wholeRect();
+}
+
+QPointF LeafDrawing::placeOf(const Copy& copy, QPointF point) const {
+    const LPPosition place =
+        copy.map.of(LPPosition{static_cast<float>(point.x()), static_cast<float>(point.y())});
+    return graphPoint({place.x, place.y});
+}
+
+bool LeafDrawing::beginCopies(QPointF point) {
+    bool all = true;
+    for (const dabcanvas::SymmetryMap& map : dabcanvas::copiesOf(_symmetry)) {
+        Copy& copy = _copies.emplace_back(Copy{map, {}, {}, {}, {}});
+        copy.begin = copy.last = copy.end = placeOf(copy, point);
+        all = all && copy.fill.begin(_bitmap.size(), copy.begin);
+    }
+    if (!all) {
+        qCWarning(lcPreview, "no memory for %zu copies of a preview", _copies.size());
+        _copies.clear();
+        _fill.clear();
+    }
+    return all;
+}
+
+void LeafDrawing::Copy::curveTo(QPointF middle, QPointF next) {
+    fill.quadTo(last, middle);
+    end = middle;
+    last = next;
+}
+
+void LeafDrawing::setSymmetry(const dabcanvas::Symmetry& symmetry) {
+    _symmetry = symmetry;
 }
 
 void LeafDrawing::drawWithMove(QPointF point) {
@@ -108,6 +139,12 @@ void LeafDrawing::drawWithMove(QPointF point) {
     _updateRect = boundsWithin(_graphSize, {_beginPoint, _lastRenderPoint, _lastPoint, middle});
     _lastRenderPoint = middle;
     _isClear = false;
+    _copiesUpdate = {};
+    for (Copy& copy : _copies) {
+        const QPointF copied = placeOf(copy, point), between = (copy.last + copied) / 2;
+        _copiesUpdate |= boundsWithin(_graphSize, {copy.begin, copy.end, copy.last, between}).toAlignedRect();
+        copy.curveTo(between, copied);
+    }
     updateDrawView();
     _lastPoint = next;
 }
@@ -116,9 +153,14 @@ void LeafDrawing::drawWithEnd(QPointF point) {
     if (!isDrawing()) {
         return;
     }
-    const QPointF end = acceptsPoint(point) ? graphPoint(point) : _lastPoint;
+    const bool goesOn = acceptsPoint(point);
+    const QPointF end = goesOn ? graphPoint(point) : _lastPoint;
     _path.quadTo(_lastPoint, end);
     _fill.quadTo(_lastPoint, end);
+    for (Copy& copy : _copies) {
+        const QPointF copied = goesOn ? placeOf(copy, point) : copy.last;
+        copy.curveTo(copied, copied);
+    }
     _lastPoint = _lastRenderPoint = end;
     _isClear = true;
     _updateRect = wholeRect();
@@ -156,6 +198,8 @@ void LeafDrawing::letGo() {
     }
     _path = QPainterPath();
     _fill.clear();
+    _copies.clear();
+    _copiesUpdate = {};
     _isClear = true;
     _stale |= _inked;
     redisplay(wholeRect());
@@ -185,9 +229,14 @@ void LeafDrawing::setGaussianRadius(float radius) {
 // Drawing
 
 void LeafDrawing::updateDrawViewForOnline(bool online) {
-    _stale |= _updateRect.toAlignedRect() & _bitmap.rect();
+    _stale |= (_copiesUpdate | _updateRect.toAlignedRect()) & _bitmap.rect();
     if (online) {
         redisplay(_updateRect);
+    }
+    for (const QRect& copied : _copiesUpdate) {
+        if (online) {
+            redisplay(QRectF(copied));
+        }
     }
 }
 
@@ -205,15 +254,21 @@ const QImage& LeafDrawing::cgImage() {
         return _bitmap;
     }
     if (_path.elementCount() > 0) {
-        _fill.draw(_bitmap, _stale, _pending ? _pending->color : _renderColor);
-        _inked |= _stale;
+        std::vector<LeafFill*> outlines{&_fill};
+        for (Copy& copy : _copies) {
+            outlines.push_back(&copy.fill);
+        }
+        for (const QRect& part : _stale) {
+            LeafFill::draw(outlines, _bitmap, part, _pending ? _pending->color : _renderColor);
+        }
+        _inked |= _stale.boundingRect();
     } else {
         QPainter painter(&_bitmap);
         painter.setCompositionMode(QPainter::CompositionMode_Clear);
-        painter.fillRect(_stale, Qt::transparent);
+        painter.fillRect(_stale.boundingRect(), Qt::transparent);
         _inked = QRect();
     }
-    _stale = QRect();
+    _stale = {};
     return _bitmap;
 }
 

@@ -6,11 +6,14 @@
 #include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
+#include <QRegion>
 #include <QSizeF>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "Brushes/ESColor.h"
+#include "Dabs/Symmetry.h"
 #include "Maths/Export.h"
 #include "Preview/LeafFill.h"
 
@@ -81,6 +84,9 @@ public:
     float gaussianRadius() const { return _gaussianRadius; }
     void setGaussianRadius(float radius);
 
+    /// In buffer pixels of the canvas: the strokes to come fill their copies as well. Where areas overlap they are one.
+    void setSymmetry(const dabcanvas::Symmetry& symmetry);
+
     // ---- What is shown
 
     /// In bitmap pixels, whole numbers from 1 on: the frame's size times 0.6, rounded, at creation.
@@ -96,7 +102,7 @@ public:
     /// The same as last drawn, which may be behind the path.
     const QImage& bitmap() const { return _bitmap; }
 
-    /// The open outline in bitmap pixels, filled by the winding rule; empty between strokes.
+    /// The open outline in bitmap pixels, filled by the winding rule, without copies; empty between strokes.
     const QPainterPath& path() const { return _path; }
     /// Of the stroke, in bitmap pixels.
     QPointF beginPoint() const { return _beginPoint; }
@@ -105,7 +111,7 @@ public:
     /// What displays show of it, in buffer pixels; empty: all. bitmap() and what complention() gets are whole.
     const QPainterPath& shownArea() const { return _shownArea; }
     void setShownArea(const QPainterPath& area) { _shownArea = area; }
-    /// What the latest stage changed, in bitmap pixels within graphSize().
+    /// What the latest stage changed, but for copies, in bitmap pixels within graphSize().
     QRectF updateRect() const { return _updateRect; }
 
     /// Notes updateRect() as stale and, when online, asks for its redisplay. The stages call it.
@@ -132,6 +138,17 @@ private:
         float radius;
     };
 
+    // Of the stroke, mirrored or turned.
+    struct Copy {
+        dabcanvas::SymmetryMap map;
+        LeafFill fill;
+        QPointF begin, last, end;  // of the stroke so far, as its own points
+
+        void curveTo(QPointF middle, QPointF next);
+    };
+
+    QPointF placeOf(const Copy& copy, QPointF point) const;
+    bool beginCopies(QPointF point);
     bool isDrawing() const { return _path.elementCount() > 0 && !isPending(); }
     bool acceptsPoint(QPointF point);
     bool makeBitmap(QPointF begin);
@@ -142,12 +159,15 @@ private:
     QSizeF _frame;
     QSizeF _graphSize;
     QImage _bitmap;
-    QRect _stale;  // of the bitmap, behind the path
-    QRect _inked;  // of the bitmap, all that may not be transparent
+    QRegion _stale;  // of the bitmap, behind the path
+    QRect _inked;    // of the bitmap, all that may not be transparent
 
     QPainterPath _path;  // without elements when no stroke has begun
     LeafFill _fill;      // the same, as far as it lies in the bitmap
     QPainterPath _shownArea;
+    dabcanvas::Symmetry _symmetry;
+    std::vector<Copy> _copies;  // of the present stroke
+    QRegion _copiesUpdate;      // what the latest stage changed of them
     QPointF _beginPoint, _lastPoint, _lastRenderPoint;
     QRectF _updateRect;
     bool _isClear = true;

@@ -6,8 +6,8 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <new>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -51,10 +51,10 @@ LeafFill::Point LeafFill::fixed(QPointF point) {
 }
 
 bool LeafFill::begin(const QSize& size, QPointF point) {
-    try {
-        _steps.assign((static_cast<std::size_t>(size.width()) + 1) * static_cast<std::size_t>(size.height()),
-                      0);
-    } catch (const std::bad_alloc&) {
+    const std::size_t count =
+        (static_cast<std::size_t>(size.width()) + 1) * static_cast<std::size_t>(size.height());
+    _steps.reset(static_cast<std::uint32_t*>(std::calloc(count, sizeof(std::uint32_t))));
+    if (!_steps) {
         clear();
         return false;
     }
@@ -67,7 +67,7 @@ bool LeafFill::begin(const QSize& size, QPointF point) {
 
 void LeafFill::clear() {
     _width = _height = 0;
-    _steps = {};
+    _steps.reset();
 }
 
 void LeafFill::quadTo(QPointF control, QPointF end) {
@@ -91,7 +91,7 @@ void LeafFill::addLine(Point from, Point to, int factor) {
     const int top = std::max(from.y, 0), bottom = std::min(to.y, _height * kPixel);
     for (int y = top; y < bottom;) {
         const int row = pixelOf(y), below = std::min((row + 1) * kPixel, bottom);
-        addInRow(_steps.data() + static_cast<std::ptrdiff_t>(row) * (_width + 1),
+        addInRow(_steps.get() + static_cast<std::ptrdiff_t>(row) * (_width + 1),
                  {between(y, from.y, to.y, from.x, to.x), y},
                  {between(below, from.y, to.y, from.x, to.x), below}, factor);
         y = below;
@@ -123,26 +123,45 @@ void LeafFill::addInRow(std::uint32_t* row, Point from, Point to, int factor) {
     }
 }
 
-void LeafFill::draw(QImage& image, const QRect& area, const ESColor& color) {
+void LeafFill::close() {
     if (_closedFrom != _end) {
         addLine(_closedFrom, _begin, -1);
         addLine(_end, _begin, 1);
         _closedFrom = _end;
     }
-    const auto levels = coverageLevels(color);
+}
+
+// Of the row's pixels in the area, 0 to 255, where that is more than there was.
+void LeafFill::cover(int y, const QRect& area, std::uint8_t* levels) const {
+    const std::uint32_t* steps = _steps.get() + static_cast<std::ptrdiff_t>(y) * (_width + 1);
+    std::uint32_t covered = 0;
+    for (int x = 0; x < area.left(); ++x) {
+        covered += steps[x];
+    }
+    for (int x = area.left(); x <= area.right(); ++x, ++levels) {
+        covered += steps[x];
+        const std::int64_t once =
+            std::min(std::abs(std::int64_t{static_cast<std::int32_t>(covered)}), kCovered);
+        *levels = std::max(*levels, static_cast<std::uint8_t>((once * 255 + kCovered / 2) / kCovered));
+    }
+}
+
+void LeafFill::draw(std::span<LeafFill* const> outlines, QImage& image, const QRect& area,
+                    const ESColor& color) {
+    const auto colours = coverageLevels(color);
+    std::vector<std::uint8_t> levels(static_cast<std::size_t>(area.width()));
+    for (LeafFill* outline : outlines) {
+        outline->close();
+    }
     for (int y = area.top(); y <= area.bottom(); ++y) {
-        const std::uint32_t* steps = _steps.data() + static_cast<std::ptrdiff_t>(y) * (_width + 1);
-        std::uint8_t* out = image.scanLine(y) + static_cast<std::ptrdiff_t>(area.left()) * 4;
-        std::uint32_t covered = 0;
-        for (int x = 0; x < area.left(); ++x) {
-            covered += steps[x];
+        std::fill(levels.begin(), levels.end(), std::uint8_t{0});
+        for (const LeafFill* outline : outlines) {
+            outline->cover(y, area, levels.data());
         }
-        for (int x = area.left(); x <= area.right(); ++x, out += 4) {
-            covered += steps[x];
-            const std::int64_t once =
-                std::min(std::abs(std::int64_t{static_cast<std::int32_t>(covered)}), kCovered);
-            const auto level = static_cast<std::size_t>((once * 255 + kCovered / 2) / kCovered);
-            std::memcpy(out, &levels[level], 4);
+        std::uint8_t* out = image.scanLine(y) + static_cast<std::ptrdiff_t>(area.left()) * 4;
+        for (const std::uint8_t level : levels) {
+            std::memcpy(out, &colours[level], 4);
+            out += 4;
         }
     }
 }

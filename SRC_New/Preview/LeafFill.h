@@ -7,7 +7,9 @@
 #include <QSize>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <cstdlib>
+#include <memory>
+#include <span>
 
 #include "Brushes/ESColor.h"
 
@@ -20,7 +22,7 @@
 /// Exact    edges are whole numbers of 1/256 pixel and add up in whole numbers: the order of curves and
 ///          pictures changes no pixel.
 /// Units    pixels of the picture, origin top left; points may lie outside, up to 32768 pixels away.
-/// Owns     four bytes for every pixel, given back by clear().
+/// Owns     four bytes for every pixel of rows that the outline crosses, given back by clear().
 class LeafFill {
 public:
     /// Forgets everything; a new outline begins in a picture of this size. False: no memory for it.
@@ -31,8 +33,9 @@ public:
     void clear();
 
     /// Draws the rectangle, which must lie within an image of Format_RGBA8888_Premultiplied and this size: the
-    /// colour with its alpha inside of the outline, closed by a straight line, and transparent elsewhere.
-    void draw(QImage& image, const QRect& area, const ESColor& color);
+    /// colour with its alpha inside of any of the outlines, each closed by a straight line, and transparent elsewhere.
+    static void draw(std::span<LeafFill* const> outlines, QImage& image, const QRect& area,
+                     const ESColor& color);
 
 private:
     // In 1/256 pixel.
@@ -43,12 +46,14 @@ private:
     static Point fixed(QPointF point);
     void addLine(Point from, Point to, int factor);
     void addInRow(std::uint32_t* row, Point from, Point to, int factor);
+    void close();
+    void cover(int y, const QRect& area, std::uint8_t* levels) const;
 
     int _width = 0, _height = 0;
     // Per row width + 1 steps, whose sum from the left up to a pixel is how much of it is covered, times
     // windings; kCovered for a whole pixel wound around once. Steps are signed and wrap, so that it holds up
-    // to 16383 windings.
-    std::vector<std::uint32_t> _steps;
+    // to 16383 windings. Of calloc(), whose pages are there when they are first written.
+    std::unique_ptr<std::uint32_t, decltype(&std::free)> _steps{nullptr, &std::free};
     QPointF _last;
     Point _begin, _end, _closedFrom;
 };

@@ -130,7 +130,7 @@ public:
                         .colourPart = wordOf(_colourPart),
                         .to = to};
         if (_smudge.bristles.part > 0) {
-            picked.carried = _painter._columns.carried(part);
+            picked.carried = _painter.columnsOf(_smudge.bristles).carried(part);
             picked.carriedPart = wordOf(_smudge.bristles.part);
         }
         pickUp(picked);
@@ -179,6 +179,16 @@ void SmudgePainter<Channel>::forget() {
     _stale = Rect::of(_size);
     show(TileGrid<Channel>(_size));
     _stale = Rect::of(_size);
+}
+
+// That of a stroke's first dab is made there, and found by several threads later.
+template <typename Channel>
+BristleColumns& SmudgePainter<Channel>::columnsOf(const BristleDab& bristles) {
+    const auto set = static_cast<std::size_t>(std::clamp(bristles.set, 0, kMostBristleSets - 1));
+    if (set >= _columns.size()) {
+        _columns.resize(set + 1);
+    }
+    return _columns[set];
 }
 
 // ---- The layer
@@ -324,7 +334,7 @@ Rect SmudgePainter<Channel>::smudge(std::span<const SmudgeDab> dabs, const DabSt
         Dab dab = inLayer(smudge.dab);
         if (smudge.bristles.part > 0) {
             provide(BristleColumns::reach(smudge.bristles, dab, _layer.size()));
-            _columns.takeUp(smudge.bristles, dab, _before);
+            columnsOf(smudge.bristles).takeUp(smudge.bristles, dab, _before);
         }
         dab.flow = std::min(dab.flow, 1.0f) * mixture.exchanged;
         const Rect texels = _painter.draw(_layer, dab, plain, _count++, exchange);

@@ -65,6 +65,7 @@ private:
     Dab inLayer(const Dab& dab) const;
 
     static void round(Layer& layer, const Rect& texels);
+    BristleColumns& columnsOf(const BristleDab& bristles);
 
     Size _size;
     int _layerDepth;
@@ -82,7 +83,7 @@ private:
     DabPainter& _painter;
     std::vector<Dab> _coverage;
     Texels _picked, _old;
-    BristleColumns _columns;
+    std::vector<BristleColumns> _columns;  // by set
     std::vector<Channel> _pixels;
 };
 

@@ -176,6 +176,12 @@ bool CanvasItem::placeImage(const QVariant& image, const QRectF& rect) {
 
 // ---- What QML calls
 
+bool CanvasItem::recoverFromLoss() {
+    const bool recovered = _display->recoverFromLoss();
+    Q_EMIT problemChanged();
+    return recovered;
+}
+
 bool CanvasItem::undo() {
     return !_display->undo().isNull();
 }

@@ -115,6 +115,8 @@ public:
     Q_INVOKABLE void moveStroke(QPointF point, double pressure = -1, double altitude = -1);
     Q_INVOKABLE void endStroke(QPointF point, double pressure = -1, double altitude = -1);
     Q_INVOKABLE QImage image() const;
+    /// After contextLost(): goes on with the processor, see QDDrawCanvas.
+    Q_INVOKABLE bool recoverFromLoss();
     Q_INVOKABLE void zoomAbout(double zoom, QPointF itemPoint);
     Q_INVOKABLE void panBy(QPointF itemPoints);
     /// Between the item's points and the canvas's pixels.

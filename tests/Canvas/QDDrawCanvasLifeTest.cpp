@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include "Canvas/CanvasLayers.h"
 #include "History/ImagesUndoManager.h"
 #include "Preview/LeafDrawing.h"
 #include "QDEAGLView/QDDrawView.h"
@@ -286,6 +287,82 @@ TEST_F(CanvasLifeTest, ALostContextIsToldOnceAndLeavesTheHistoryAsItIs) {
         EXPECT_EQ(canvas->undoManager().currentImageDataOfItem(), last);
         EXPECT_EQ(canvas->curImageData(), last);
         EXPECT_TRUE(imagesMatch(canvas->displayImage(), shown));
+    }
+}
+
+// In another surface, be it of a context that is made anew.
+TEST_F(CanvasLifeTest, ALostCanvasRecoversWithItsLayersDepthAndHistory) {
+    for (const SurfaceKind kind : {SurfaceKind::processor, SurfaceKind::gpu}) {
+        for (const int depth : {8, 16}) {
+            SCOPED_TRACE(::testing::Message() << int(kind) << " with " << depth);
+            auto canvas = makeCanvas(150, 100, SurfaceKind::gpu, depth);
+            canvas->setAutoMark(true);
+            canvas->setOpacity(0.3f);
+            paintWave(*canvas, 20, 12);
+            const QImage first = canvas->layers().deepImage(0);
+            canvas->layers().add(1, {.name = "Ink", .opacity = 0.5f, .blendType = ESBlendTypeMultiply});
+            paintWave(*canvas, 50, 30);
+            canvas->layers().setActive(0);
+            canvas->setModified(false);
+            paintWave(*canvas, 70, 12);
+            const QImage below = canvas->layers().deepImage(0), above = canvas->layers().deepImage(1),
+                         shown = canvas->displayImage();
+            {
+                const FailingDriver driver(FailingDriver::Fault::lostContext);
+                const LogCapture quiet;
+                canvas->drawingWithBeginPoint({10, 10});
+                canvas->drawingWithMoveToPoint({60, 60});
+                EXPECT_TRUE(canvas->image().isNull() && canvas->isContextLost() && canvas->undo().isNull());
+                ASSERT_TRUE(canvas->recoverFromLoss(kind));
+            }
+            EXPECT_FALSE(canvas->isContextLost() || canvas->isDrawing());
+            EXPECT_EQ(canvas->surfaceOptions().kind, kind);
+            EXPECT_EQ(canvas->layers().deepImage(0), below);
+            EXPECT_EQ(canvas->layers().deepImage(1), above);
+            EXPECT_EQ(canvas->displayImage(), shown);
+            EXPECT_EQ(canvas->layers().active(), 0);
+            EXPECT_EQ(canvas->layers().settings(1).name, "Ink");
+            EXPECT_TRUE(canvas->canUndo() && canvas->isModified() && !canvas->edited());
+            canvas->undo();
+            EXPECT_FALSE(canvas->isModified());
+            canvas->undo(), canvas->undo();
+            EXPECT_EQ(canvas->layers().count(), 1);
+            EXPECT_EQ(canvas->layers().deepImage(0), first);
+            canvas->redo(), canvas->redo(), canvas->redo();
+            EXPECT_EQ(canvas->displayImage(), shown);
+            paintWave(*canvas, 80, 12);
+            EXPECT_NE(canvas->image(), below.convertToFormat(canvas->image().format()));
+        }
+    }
+}
+
+// Which no step holds; of one that holds most of it, what was not drawn since keeps all of its bits.
+TEST_F(CanvasLifeTest, ALostCanvasBecomesWhatItShowed) {
+    enum class Known { nothing, shown, stepAndShown };
+    for (const Known known : {Known::nothing, Known::shown, Known::stepAndShown}) {
+        SCOPED_TRACE(int(known));
+        auto canvas = makeCanvas(150, 100, SurfaceKind::gpu, 16);
+        canvas->setOpacity(0.3f);
+        paintWave(*canvas, 20, 12);
+        if (known == Known::stepAndShown) {
+            canvas->markAction();
+        }
+        paintWave(*canvas, 90, 12);
+        const QImage deep = canvas->layers().deepImage(0);
+        const QImage shown = known == Known::nothing ? QImage() : canvas->displayImage();
+        const FailingDriver driver(FailingDriver::Fault::lostContext);
+        const LogCapture log;
+        EXPECT_TRUE(canvas->image().isNull());
+        EXPECT_EQ(canvas->recoverFromLoss(), known != Known::nothing);
+        EXPECT_EQ(log.lines().size(), known == Known::nothing ? 2 : 1);
+        if (known == Known::nothing) {
+            continue;
+        }
+        EXPECT_EQ(canvas->displayImage(), shown);
+        const QRect untouched(0, 0, 150, 64);
+        EXPECT_EQ(canvas->layers().deepImage(0).copy(untouched) == deep.copy(untouched),
+                  known == Known::stepAndShown);
+        EXPECT_TRUE(canvas->edited());
     }
 }
 

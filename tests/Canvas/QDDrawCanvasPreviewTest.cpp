@@ -15,13 +15,14 @@ protected:
         canvas.setRenderColor(ESColor::rgba(1, 0, 0));
     }
     // A square, whose last corner the end closes.
-    static void begin(QDDrawCanvas& canvas, const QRectF& square) {
+    static void begin(QDDrawCanvas& canvas, const QRectF& square, bool looks = false) {
         canvas.drawingWithBeginPoint(square.topLeft());
         const QPointF corners[] = {square.topLeft(), square.topRight(), square.bottomRight(),
                                    square.bottomLeft()};
         for (int side = 0; side < 3; ++side) {
             for (int i = 1; i <= 20; ++i) {
                 canvas.drawingWithMoveToPoint(corners[side] + (corners[side + 1] - corners[side]) * i / 20.0);
+                looks ? static_cast<void>(canvas.leafDrawView().cgImage()) : void();
             }
         }
     }
@@ -72,6 +73,52 @@ TEST_F(CanvasPreviewTest, IsPlacedExactlyWhereItWasShown) {
         EXPECT_NEAR(placedX / placedSum, liveX / liveSum, 0.1);
         EXPECT_NEAR(placedY / placedSum, liveY / liveSum, 0.1);
         EXPECT_NEAR(placedSum / liveSum, 1, 0.01);
+    }
+}
+
+// While it is drawn and when it is placed, also of what lies beside the canvas; where copies overlap, once.
+TEST_F(CanvasPreviewTest, IsMirroredWithTheStroke) {
+    using namespace dabcanvas;
+    struct Row {
+        Symmetry symmetry;
+        QRectF square;
+        std::vector<QRect> filled;  // and as many pixels more or less
+        double pixels;
+    };
+    const Row rows[] = {
+        {{SymmetryKind::vertical, 100, 75}, {20, 20, 40, 60}, {{25, 25, 30, 50}, {145, 25, 30, 50}}, 4800},
+        {{SymmetryKind::both, 100, 75}, {20, 20, 40, 30}, {{25, 25, 30, 20}, {145, 105, 30, 20}}, 4800},
+        {{SymmetryKind::radial, 100, 75, 4}, {110, 85, 30, 20}, {{115, 90, 20, 10}, {75, 90, 10, 20}}, 2400},
+        {{SymmetryKind::vertical, 100, 75}, {220, 20, 40, 60}, {}, 0},
+        {{SymmetryKind::vertical, 140, 75}, {220, 20, 40, 60}, {{25, 25, 30, 50}}, 2400},
+        {{SymmetryKind::vertical, 100, 75}, {80, 20, 30, 60}, {{85, 25, 30, 50}}, 2400},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(::testing::Message() << int(row.symmetry.kind) << " " << row.square.x());
+        auto canvas = makeCanvas(200, 150);
+        canvas->setSymmetry(row.symmetry);
+        useLeaf(*canvas);
+        canvas->setFlow(0.5f);
+        begin(*canvas, row.square, true);
+        LeafDrawing& leaf = canvas->leafDrawView();
+        const QImage grown = leaf.cgImage().copy();
+        leaf.setRenderColor(ESColor::grey(0));  // which draws all of it anew
+        leaf.setRenderColor(ESColor::rgba(1, 0, 0, 0.5f));
+        EXPECT_EQ(leaf.cgImage(), grown);
+        canvas->drawingWithEndPoint(row.square.bottomLeft());
+        const QImage live = canvas->leafDrawView().cgImage().scaled(200, 150);
+        const QImage placed = canvas->image();
+        double sum = 0;
+        for (int i = 0; i < 200 * 150; ++i) {
+            sum += placed.pixelColor(i % 200, i / 200).alphaF();
+        }
+        EXPECT_NEAR(sum, row.pixels / 2, row.pixels * 0.03);
+        for (const QRect& part : row.filled) {
+            for (const QPoint at : {part.topLeft(), part.center(), part.bottomRight()}) {
+                EXPECT_NEAR(live.pixelColor(at).alpha(), 128, 1);
+                EXPECT_NEAR(placed.pixelColor(at).alpha(), 128, 1);
+            }
+        }
     }
 }
 

@@ -25,7 +25,9 @@ QImage unevenTip() {
     return tip;
 }
 
-void takeBrush(QDDrawCanvas& canvas, bool smudges) {
+enum class Kind { dabs, smudge, bristles };
+
+void takeBrush(QDDrawCanvas& canvas, Kind kind) {
     canvas.setTextureType(0);
     canvas.setTextureImages({unevenTip()});
     canvas.setRadius(36);
@@ -33,10 +35,11 @@ void takeBrush(QDDrawCanvas& canvas, bool smudges) {
     canvas.setRoundness(0.7f);
     canvas.setFlow(0.6f);
     canvas.setRenderColor(ESColor::rgba(0.7f, 0.2f, 0.1f));
-    if (smudges) {
+    if (kind != Kind::dabs) {
         canvas.setBrushType(3);
         canvas.setMoistQuantity(0.9f);
         canvas.setLoadQuantity(0.3f);
+        canvas.setBristles(kind == Kind::bristles ? 0.8f : 0);
     } else {
         canvas.setMoveRadianEnable(true);
     }
@@ -66,7 +69,7 @@ struct Row {
     const char* name;
     Symmetry symmetry;
     std::vector<QImage (*)(const QImage&)> same;  // makes of the picture itself
-    bool smudges = false;
+    Kind kind = Kind::dabs;
 };
 
 const auto kLeftRight = [](const QImage& image) { return image.mirrored(true, false); };
@@ -82,8 +85,11 @@ const Row kRows[] = {
     {"FourRays", {SymmetryKind::radial, 100, 100, 4}, {kQuarter}},
     {"SixRaysMirrored", {SymmetryKind::radial, 100, 100, 6, true}, {kLeftRight, kUpDown}},
     {"EightRaysMirrored", {SymmetryKind::radial, 100, 100, 8, true}, {kLeftRight, kQuarter}},
-    {"SmudgedVertical", {SymmetryKind::vertical, 100, 100}, {kLeftRight}, true},
-    {"SmudgedFourRays", {SymmetryKind::radial, 100, 100, 4}, {kQuarter}, true},
+    {"SmudgedVertical", {SymmetryKind::vertical, 100, 100}, {kLeftRight}, Kind::smudge},
+    {"BristlesVertical", {SymmetryKind::vertical, 100, 100}, {kLeftRight}, Kind::bristles},
+    {"BristlesBoth", {SymmetryKind::both, 100, 100}, {kLeftRight, kUpDown}, Kind::bristles},
+    {"BristlesFourRays", {SymmetryKind::radial, 100, 100, 4}, {kQuarter}, Kind::bristles},
+    {"SmudgedFourRays", {SymmetryKind::radial, 100, 100, 4}, {kQuarter}, Kind::smudge},
 };
 
 class CanvasSymmetryTest : public CanvasTest,
@@ -109,10 +115,11 @@ TEST_P(CanvasSymmetryTest, ThePictureIsItsOwnImage) {
     canvas->resetUndoManager();
     canvas->setAutoMark(true);
     const QImage before = canvas->image();
-    takeBrush(*canvas, row.smudges);
+    takeBrush(*canvas, row.kind);
     canvas->setSymmetry(row.symmetry);
     // Apart from its copies, and over one of them where dabs may lie in any order.
-    paintThrough(*canvas, {{30, 20}, {50, 34}, {70, 62}, row.smudges ? QPointF(75, 68) : QPointF(112, 90)});
+    paintThrough(*canvas,
+                 {{30, 20}, {50, 34}, {70, 62}, row.kind != Kind::dabs ? QPointF(75, 68) : QPointF(112, 90)});
     const QImage after = canvas->image();
     EXPECT_GT(farthest(before, after), 60);
     for (const auto& imageOf : row.same) {
@@ -140,18 +147,18 @@ using CanvasSymmetryOffTest = CanvasTest;
 
 TEST_F(CanvasSymmetryOffTest, TheStrokeItselfIsWhatItIsWithout) {
     for (const SurfaceKind surface : {SurfaceKind::processor, SurfaceKind::gpu}) {
-        for (const bool smudges : {true, false}) {
+        for (const Kind kind : {Kind::dabs, Kind::smudge, Kind::bristles}) {
             auto plain = makeCanvas(kSide, kSide, surface), mirrored = makeCanvas(kSide, kSide, surface);
             mirrored->setSymmetry({SymmetryKind::vertical, 100, 100});
             for (QDDrawCanvas* canvas : {plain.get(), mirrored.get()}) {
                 canvas->setImage(unevenTip(), QRectF(0, 0, kSide, kSide));
-                takeBrush(*canvas, smudges);
+                takeBrush(*canvas, kind);
                 beginThrough(*canvas, {{30, 20}, {50, 60}});
                 canvas->displayImage();
                 canvas->drawingWithEndPoint({60, 150});
             }
             const QRect half(0, 0, 90, kSide);
-            EXPECT_LE(farthest(plain->image().copy(half), mirrored->image().copy(half)), 1) << smudges;
+            EXPECT_LE(farthest(plain->image().copy(half), mirrored->image().copy(half)), 1) << int(kind);
         }
     }
 }
@@ -159,8 +166,8 @@ TEST_F(CanvasSymmetryOffTest, TheStrokeItselfIsWhatItIsWithout) {
 TEST_F(CanvasSymmetryOffTest, CopiesReachTheCanvasFromBesideIt) {
     for (const SurfaceKind surface : {SurfaceKind::processor, SurfaceKind::gpu}) {
         auto plain = makeCanvas(kSide, kSide, surface), mirrored = makeCanvas(kSide, kSide, surface);
-        takeBrush(*plain, false);
-        takeBrush(*mirrored, false);
+        takeBrush(*plain, Kind::dabs);
+        takeBrush(*mirrored, Kind::dabs);
         mirrored->setSymmetry({SymmetryKind::vertical, 100, 100});
         mirrored->displayImage();
         paintThrough(*mirrored, {{230, 20}, {250, 60}, {260, 150}});

@@ -142,6 +142,28 @@ TEST_P(CanvasFillTest, FillsBelowALineOfAnotherLayerInOneStep) {
     EXPECT_EQ(fillCanvas(*_canvas, {60, 45}, Qt::green, 0), FillOutcome::layerHidden);
 }
 
+TEST_P(CanvasFillTest, WhatIsNotFilledKeepsAllOfItsBits) {
+    _canvas = QDDrawCanvas::initWithFrame(QRectF(0, 0, 192, 192), {.kind = GetParam(), .canvasDepth = 16});
+    _canvas->setAutoMark(true);
+    QImage before(192, 192, QImage::Format_RGBA64_Premultiplied);
+    const QRect square(60, 60, 72, 72);
+    for (int y = 0; y < 192; ++y) {
+        for (int x = 0; x < 192; ++x) {
+            const auto value = quint16((square.contains(x, y) ? 20000 : 40000) + 37 * x + 11 * y);
+            reinterpret_cast<QRgba64*>(before.scanLine(y))[x] = qRgba64(value, value, value, 65535);
+        }
+    }
+    ASSERT_TRUE(_canvas->setImageInBufferRect(before, QRectF(before.rect())));
+    CanvasLayers layers = _canvas->layers();
+    EXPECT_EQ(layers.deepImage(0), before);
+    EXPECT_EQ(layers.deepImage(0, {10, 20, 30, 40}), before.copy(10, 20, 30, 40));
+    EXPECT_TRUE(layers.deepImage(0, {180, 20, 30, 40}).isNull());
+    ASSERT_EQ(fillCanvas(*_canvas, {2, 2}, Qt::red, 40), FillOutcome::filled);
+    const QImage filled = layers.deepImage(0);
+    EXPECT_EQ(filled.copy(square.adjusted(1, 1, -1, -1)), before.copy(square.adjusted(1, 1, -1, -1)));
+    EXPECT_EQ(filled.pixelColor(2, 2), QColor(Qt::red));
+}
+
 INSTANTIATE_TEST_SUITE_P(All, CanvasFillTest, ::testing::Values(SurfaceKind::processor, SurfaceKind::gpu));
 
 }  // namespace

@@ -463,9 +463,14 @@ TEST_F(MainWindowTest, WhatCannotBeHadFromItsHistoryComesFromItsCopy) {
 
 TEST_F(MainWindowTest, APictureOutlivesItsGraphicsCard) {
     _window->settings().setSurface(SurfaceKind::gpu);
-    ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::white}));
+    ASSERT_TRUE(
+        _window->startCanvas({.size = QSize(200, 150), .background = Qt::white, .paintsApart = true}));
     paint();
     const QImage painted = _window->view()->image();
+    const SelectionEditor& editor = *_window->findChild<SelectionEditor*>();
+    action("Ctrl+A")->trigger();
+    action("Ctrl+C")->trigger();
+    action("Ctrl+V")->trigger();
     settle();  // which shows it
     {
         const FailingDriver driver(FailingDriver::Fault::lostContext);
@@ -474,7 +479,9 @@ TEST_F(MainWindowTest, APictureOutlivesItsGraphicsCard) {
         settle();
     }
     EXPECT_FALSE(_window->view()->isContextLost());
+    EXPECT_NE(editor.floating(), nullptr) << "what is not put down yet is not lost either";
     EXPECT_EQ(_window->view()->image(), painted);
+    EXPECT_EQ(_window->view()->layers().count(), 2);
     EXPECT_TRUE(_window->isUnsaved());
     EXPECT_TRUE(_window->saveTo(path("rescued.png")));
 }

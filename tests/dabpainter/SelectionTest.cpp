@@ -171,6 +171,20 @@ TEST_P(SelectionTest, WhatIsNotTouchedKeepsItsDepth) {
     }
 }
 
+QImage small(const QImage& image) {
+    return image.scaled(image.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+}
+
+double meanDifference(const QImage& one, const QImage& other) {
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int i = 0; i < 4 * one.width(); ++i)
+            sum += std::abs(one.constScanLine(y)[i] - other.constScanLine(y)[i]);
+    }
+    return sum / double(4 * one.width() * one.height());
+}
+
 // What is seen before it is put down is what is seen after.
 TEST_P(SelectionTest, ItIsSeenAsItWillBe) {
     CanvasLayers layers = canvas->layers();
@@ -182,11 +196,18 @@ TEST_P(SelectionTest, ItIsSeenAsItWillBe) {
     for (const QPointF by : {QPointF(90, 20), QPointF(-60, 40), QPointF(20, -30)}) {
         ASSERT_TRUE(editor.lift());
         moveBy(by);
-        editor.seen();
         moveBy({3, 2});
         const QImage seen = editor.seenIn(layers.flattened());
+        const QRect part(30, 20, 70, 50);
+        const QImage draft = editor.look()->draft(0.5, part);
         editor.settle();
-        EXPECT_TRUE(imagesMatch(seen, layers.flattened(), 1));
+        const QImage put = layers.flattened();
+        EXPECT_TRUE(imagesMatch(seen, put, 1));
+        EXPECT_TRUE(editor.seenRegion().isEmpty());
+        ASSERT_EQ(draft.size(), part.size());
+        EXPECT_LT(meanDifference(draft, small(put).copy(part)), 6);
+        EXPECT_GT(meanDifference(draft, small(put).copy(part.translated(2, 0))), 12)
+            << "it tells places apart";
     }
 }
 

@@ -54,6 +54,13 @@ bool FloatingPicture::contains(QPointF bufferPoint) const {
            std::abs(from.y()) <= std::abs(_size.height()) / 2;
 }
 
+FloatingPicture FloatingPicture::scaled(double scale) const {
+    FloatingPicture other = *this;
+    other._centre *= scale;
+    other._size *= scale;
+    return other;
+}
+
 QRect FloatingPicture::bounds() const {
     const QPointF corners[] = {at({-1, -1}), at({1, -1}), at({1, 1}), at({-1, 1})};
     const auto [left, right] = std::minmax({corners[0].x(), corners[1].x(), corners[2].x(), corners[3].x()});

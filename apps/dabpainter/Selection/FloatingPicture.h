@@ -29,6 +29,8 @@ public:
     QPointF at(QPointF side) const;
     bool contains(QPointF bufferPoint) const;
     QRect bounds() const;
+    // As it lies in a picture of another scale.
+    FloatingPicture scaled(double scale) const;
     // What of it lies in an area, as large as that: premultiplied RGBA.
     QImage drawn(const QRect& area) const;
 

@@ -8,6 +8,7 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Documents/ChangedPixels.h"
 #include "Selection/SelectedArea.h"
 
 namespace dabcanvas::dabpainter {
@@ -101,6 +102,10 @@ QRegion LayerFloat::changes() const {
     return hole.intersects(over) ? QRegion(hole | over) : QRegion(hole) | over;
 }
 
+QPainter::CompositionMode LayerFloat::mode() const {
+    return _locksAlpha ? QPainter::CompositionMode_SourceAtop : QPainter::CompositionMode_SourceOver;
+}
+
 QImage LayerFloat::layer(const QRect& area) const {
     if (isUnmoved() && !_isDropped)
         return _layer.copy(area);
@@ -108,8 +113,7 @@ QImage LayerFloat::layer(const QRect& area) const {
     const QRect over = _picture.bounds() & area;
     if (!over.isEmpty() && !_isDropped) {
         QPainter painter(&image);
-        painter.setCompositionMode(_locksAlpha ? QPainter::CompositionMode_SourceAtop
-                                               : QPainter::CompositionMode_SourceOver);
+        painter.setCompositionMode(mode());
         painter.drawImage(over.topLeft() - area.topLeft(), _picture.drawn(over));
     }
     return image;
@@ -124,35 +128,16 @@ bool LayerFloat::drop() {
     return write();
 }
 
-// Of a canvas with more than 8 bits a channel what stays as it is is not written, as it would come out with 8.
-QRegion LayerFloat::toWrite() const {
-    const QRegion all = changes();
-    if (_canvas.surfaceOptions().canvasDepth == 8)
-        return all;
-    constexpr int kBlock = 32;
-    QRegion differs;
-    for (const QRect& rect : all) {
-        for (int y = rect.top(); y <= rect.bottom(); y += kBlock) {
-            for (int x = rect.left(); x <= rect.right(); x += kBlock) {
-                const QRect block = QRect(x, y, kBlock, kBlock) & rect;
-                if (layer(block) != _layer.copy(block))
-                    differs |= block;
-            }
-        }
-    }
-    return differs;
-}
-
 // As one step, however many places there are.
 bool LayerFloat::write() {
-    const QRegion region = toWrite();
+    const QRegion region = changes();
     const bool marks = _canvas.autoMark();
     if (marks)
         _canvas.markAction();  // of what was drawn before
     _canvas.setAutoMark(false);
     bool isWritten = true;
     for (const QRect& rect : region)
-        isWritten = isWritten && _canvas.setImageInBufferRect(layer(rect), QRectF(rect));
+        isWritten = isWritten && putChanged(_canvas, rect, _layer.copy(rect), layer(rect));
     _canvas.setAutoMark(marks);
     if (marks && !region.isEmpty())
         _canvas.markAction();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPainter>
 #include <QPainterPath>
 #include <memory>
 
@@ -35,6 +36,9 @@ public:
     QRegion changes() const;
     // The layer as it would be.
     QImage layer(const QRect& area) const;
+    // What it is put onto, and how.
+    const QImage& below() const { return _below; }
+    QPainter::CompositionMode mode() const;
     // False where the canvas takes nothing; all is as it was then.
     bool putDown();
     // Without the picture.
@@ -44,7 +48,6 @@ private:
     LayerFloat(QDDrawCanvas& canvas, const FloatingPicture& picture);
     bool isUnmoved() const { return isLifted() && _picture == _start; }
     QRect whole() const { return _layer.rect(); }
-    QRegion toWrite() const;
     bool write();
 
     QDDrawCanvas& _canvas;

@@ -6,20 +6,8 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
-#include "Documents/ImageFiles.h"
 
 namespace dabcanvas::dabpainter {
-
-namespace {
-
-QRect onGrid(const QRect& rect) {
-    constexpr int kGrid = SelectionEditor::kGrid;
-    const auto down = [](int edge) { return edge / kGrid * kGrid; };
-    return QRect(QPoint(down(rect.left()), down(rect.top())),
-                 QPoint(down(rect.right()) + kGrid - 1, down(rect.bottom()) + kGrid - 1));
-}
-
-}  // namespace
 
 SelectionEditor::SelectionEditor(QObject* parent) : QObject(parent) {}
 
@@ -83,18 +71,15 @@ bool SelectionEditor::mayChange() {
 
 void SelectionEditor::begin(std::unique_ptr<LayerFloat> made) {
     _float = std::move(made);
-    _layers = std::make_unique<SeenLayers>(*_canvas);
-    _isStale = true;
+    _look = std::make_unique<FloatLook>(*_canvas, *_float);
     emit floats(true);
     emit changed();
 }
 
 void SelectionEditor::end() {
-    const bool was = _layers != nullptr;
-    _layers.reset();
+    const bool was = _look != nullptr;
+    _look.reset();
     _float.reset();
-    _seen.clear();
-    _isStale = false;
     if (was)
         emit floats(false);
 }
@@ -143,7 +128,6 @@ void SelectionEditor::change(const FloatingPicture& to) {
     if (!_float)
         return;
     _float->picture() = to;
-    _isStale = true;
     emit changed();
 }
 
@@ -160,8 +144,7 @@ void SelectionEditor::settle() {
         return;
     if (!_float->putDown()) {
         emit refused(tr("The canvas takes no picture now; the log says why."));
-        if (!_canvas->isContextLost())
-            return;  // it stays where it is
+        return;  // it stays where it is
     }
     _area = joinedArea({}, shownArea(), AreaMode::replace, canvasRect().size());
     end();
@@ -209,30 +192,15 @@ bool SelectionEditor::remove() {
     return true;
 }
 
-const std::vector<SelectionEditor::Seen>& SelectionEditor::seen() {
-    if (_float && std::exchange(_isStale, false)) {
-        QRegion region, before;
-        for (const QRect& rect : _float->changes())
-            region |= onGrid(rect) & canvasRect();
-        for (const Seen& one : _seen)
-            before |= one.area;
-        _seen.clear();
-        // The copy of the layers shows it still where it was.
-        for (const QRect& rect : before - region)
-            _layers->look(rect, _float->layer(rect));
-        for (const QRect& rect : region) {
-            const QImage look = _layers->look(rect, _float->layer(rect));
-            _seen.push_back({rect, look, isOpaque(look)});
-        }
-    }
-    return _seen;
+QRegion SelectionEditor::seenRegion() const {
+    return _float ? _float->changes() : QRegion();
 }
 
 QImage SelectionEditor::seenIn(QImage picture) {
     QPainter painter(&picture);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    for (const Seen& one : seen())
-        painter.drawImage(one.area.topLeft(), one.image);
+    for (const QRect& rect : seenRegion())
+        painter.drawImage(rect.topLeft(), _look->look(rect));
     return picture;
 }
 

@@ -4,11 +4,11 @@
 #include <QColor>
 #include <QObject>
 #include <QPainterPath>
+#include <QRegion>
 #include <memory>
-#include <vector>
 
+#include "Selection/FloatLook.h"
 #include "Selection/LayerFloat.h"
-#include "Selection/SeenLayers.h"
 #include "Selection/SelectedArea.h"
 
 class QDDrawCanvas;
@@ -54,14 +54,9 @@ public:
     QImage copiedOfAll() const;  // layers together
     bool remove();               // false where nothing is selected
 
-    // What is seen meanwhile in place of the picture.
-    struct Seen {
-        QRect area;  // edges on multiples of kGrid, or the canvas's
-        QImage image;
-        bool isOpaque;
-    };
-    static constexpr int kGrid = 64;
-    const std::vector<Seen>& seen();
+    // Where something else is seen meanwhile than the picture; and what, while there is such a place.
+    QRegion seenRegion() const;
+    FloatLook* look() { return _look.get(); }
     // A picture of the canvas, with that in it.
     QImage seenIn(QImage picture);
 
@@ -83,9 +78,7 @@ private:
     QColor _paper;
     QPainterPath _area;
     std::unique_ptr<LayerFloat> _float;
-    std::unique_ptr<SeenLayers> _layers;
-    std::vector<Seen> _seen;
-    bool _isStale = false;
+    std::unique_ptr<FloatLook> _look;  // of it
 };
 
 }  // namespace dabcanvas::dabpainter

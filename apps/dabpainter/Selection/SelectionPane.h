@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPainterPath>
+#include <QTimer>
 #include <QWidget>
 
 namespace dabcanvas::dabpainter {
@@ -9,7 +10,8 @@ namespace dabcanvas::dabpainter {
 class CanvasViewport;
 class SelectionEditor;
 
-// What is selected and what floats, above the canvas: a pane that lets every event through.
+// What is selected and what floats, above the canvas: a pane that lets every event through. What floats is drawn at the view's
+// scale while it is moved, and as the canvas will show it as soon as it rests.
 class SelectionPane : public QWidget {
     Q_OBJECT
 
@@ -25,14 +27,20 @@ protected:
 
 private:
     void refresh();
+    void followFloat();
     QRegion surroundings() const;
-    void paintSeen(QPainter& painter);
+    double draftScale() const;
+    void paintSeen(QPainter& painter, const QRect& exposed);
+    bool paintDraft(QPainter& painter, const QRect& part, double scale);
+    void paintLook(QPainter& painter, const QRect& part);
+    void paintImage(QPainter& painter, const QImage& image, const QRectF& area);
     void paintFrame(QPainter& painter) const;
 
     SelectionEditor& _editor;
     CanvasViewport& _viewport;
     QPainterPath _draft;
     QRegion _painted;
+    QTimer _rest;  // while it runs, what floats has just been moved, and a draft of it is shown
 };
 
 }  // namespace dabcanvas::dabpainter

@@ -7,6 +7,7 @@
 
 #include "Canvas/CanvasLayers.h"
 #include "Canvas/QDDrawCanvas.h"
+#include "Documents/ChangedPixels.h"
 #include "Selection/SelectedArea.h"
 #include "Tools/FloodFill.h"
 
@@ -99,9 +100,10 @@ FillOutcome fillCanvas(QDDrawCanvas& canvas, QPoint at, const QColor& color, int
     const FloodMask mask = isOutside ? FloodMask() : floodMask(canvas.displayImage(), at, tolerance);
     if (mask.rect.isEmpty())
         return FillOutcome::nothingToFill;
-    QImage picture = layerImage(canvas, mask.rect);
-    if (picture.size() != mask.rect.size())
+    const QImage before = layerImage(canvas, mask.rect);
+    if (before.size() != mask.rect.size())
         return FillOutcome::failed;
+    QImage picture = before.copy();
     const QPoint seed = at - mask.rect.topLeft();
     const Paint paint(color, picture.constScanLine(seed.y()) + 4 * seed.x(), tolerance, layer.locksAlpha);
     const QImage limits = selected.isEmpty() ? QImage() : coverageOf(selected, mask.rect);
@@ -114,8 +116,7 @@ FillOutcome fillCanvas(QDDrawCanvas& canvas, QPoint at, const QColor& color, int
                 paint.put(row + 4 * x, cover[x], limit ? limit[x] : 255);
         }
     }
-    return canvas.setImageInBufferRect(picture, QRectF(mask.rect)) ? FillOutcome::filled
-                                                                   : FillOutcome::failed;
+    return putChanged(canvas, mask.rect, before, picture) ? FillOutcome::filled : FillOutcome::failed;
 }
 
 }  // namespace dabcanvas::dabpainter

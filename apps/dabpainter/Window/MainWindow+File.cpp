@@ -135,10 +135,18 @@ void MainWindow::choosePaper(int layer) {
     _selection->setPaper(paper);
 }
 
-// A driver has taken its device away, and the canvas with it: what was seen last goes on in another one, without steps.
+// A driver has taken its device away. The canvas goes on in another surface, with layers and steps; where it cannot, what was
+// seen last goes on in another canvas.
 void MainWindow::replaceLost() {
     if (!view() || !view()->isContextLost())
         return;
+    if (view()->recoverFromLoss(_settings.surface()) || view()->recoverFromLoss()) {
+        _status->showCanvas();
+        statusBar()->showMessage(
+            tr("The graphics card was lost for a moment; the picture is here as the last step left it"),
+            2 * kMessageTime);
+        return;
+    }
     const QImage seen = _selection->seenIn(view()->displayImage());
     const bool replaced = openPicture(seen, {.path = _document.path(),
                                              .plan = _document.plan(),

@@ -2432,6 +2432,10 @@
         <source>Strokes keep to what is selected; Escape selects nothing</source>
         <translation>Striche bleiben in der Auswahl; Escape hebt sie auf</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>Die Grafikkarte war kurz nicht verfügbar; das Bild ist noch da, wie es nach dem letzten Schritt war</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

@@ -2432,6 +2432,10 @@
         <source>Strokes keep to what is selected; Escape selects nothing</source>
         <translation>Les traits restent dans la sélection ; Escape la supprime</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>La carte graphique a été perdue un instant&#x202f;; l’image est là, telle que la dernière étape l’a laissée</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

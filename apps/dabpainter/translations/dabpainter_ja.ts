@@ -2432,6 +2432,10 @@
         <source>Strokes keep to what is selected; Escape selects nothing</source>
         <translation>ストロークは選択範囲の中だけに描かれます。Escape で選択を解除します</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>グラフィックカードとの接続が一時失われました。画像は最後の操作の後の状態で残っています</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>

@@ -2432,6 +2432,10 @@
         <source>Strokes keep to what is selected; Escape selects nothing</source>
         <translation>笔触只会画在选区内；按 Escape 取消选择</translation>
     </message>
+    <message>
+        <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
+        <translation>显卡曾短暂丢失；图片仍在，保持最后一步之后的样子</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::NewCanvasDialog</name>
