@@ -89,13 +89,15 @@ TEST_F(LayerPanelTest, WhatIsSetIsAStepAndShown) {
 TEST_F(LayerPanelTest, ThumbnailsShowEachLayerOnceAtRest) {
     _window->findChild<QDockWidget*>("layerDock")->raise();
     panel->addLayer();
-    const auto picture = [&](int row) { return list->item(row)->icon().pixmap(list->iconSize()).toImage(); };
-    // In the middle, where paint() leaves its mark, beside it, and two places of a chequerboard.
-    const auto dark = [&](int row) { return picture(row).pixelColor(20, 15).lightness() < 100; };
+    const auto colour = [&](int row, int x, int y) {  // of the icon, in points
+        const QImage icon = list->item(row)->icon().pixmap(list->iconSize()).toImage();
+        return icon.pixelColor((QPointF(x, y) * icon.devicePixelRatio()).toPoint());
+    };
+    // In the middle, where the stroke leaves its mark; and beside it, on two squares of a chequerboard.
+    const auto dark = [&](int row) { return colour(row, 20, 15).lightness() < 100; };
     const auto comesToBe = [&](const auto& holds) { return waitFor(holds, 10 * LayerThumbnails::kRest); };
-    EXPECT_TRUE(comesToBe([&] { return picture(1).pixelColor(8, 8) == QColor(Qt::white); }));
-    EXPECT_TRUE(comesToBe([&] { return picture(0).pixelColor(6, 8) != picture(0).pixelColor(10, 8); }))
-        << "a hole";
+    EXPECT_TRUE(comesToBe([&] { return colour(1, 8, 8) == QColor(Qt::white); }));
+    EXPECT_TRUE(comesToBe([&] { return colour(0, 6, 8) != colour(0, 10, 8); })) << "a hole";
     const QSizeF scale = _window->view()->scale();
     _window->view()->drawingWithBeginPoint({20 * scale.width(), 75 * scale.height()});
     for (int x = 30; x < 180; x += 10)
