@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPainterPath>
 #include <QPointF>
 #include <QRect>
 #include <QRectF>
@@ -124,6 +125,8 @@ public:
     /// The canvas is shown turned, see QDDrawCanvas::setViewTurn().
     virtual void viewTurned(float radian, bool mirrored) = 0;
     virtual void symmetrySet(const Symmetry& symmetry) = 0;
+    /// Outlines of straight lines, each closed; an empty path: all of the canvas.
+    virtual void selectionSet(const QPainterPath& area) = 0;
 
     // ---- The history
 

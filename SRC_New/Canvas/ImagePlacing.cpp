@@ -117,15 +117,19 @@ bool ImagePlacing::draw(const PlacedImage& image, const Spot& spot, const Rect& 
     } else {
         _settle();
     }
-    return _layers.place({.pixels = viewOf(rows, image.topRowFirst),
-                          .width = spot.width,
-                          .height = spot.height,
-                          .centreX = spot.centre.x,
-                          .centreY = spot.centre.y,
-                          .radian = spot.radian,
-                          .replaces = image.replaces,
-                          .clip = clip()},
-                         touched);
+    const bool isPlaced = _layers.place({.pixels = viewOf(rows, image.topRowFirst),
+                                         .width = spot.width,
+                                         .height = spot.height,
+                                         .centreX = spot.centre.x,
+                                         .centreY = spot.centre.y,
+                                         .radian = spot.radian,
+                                         .replaces = image.replaces,
+                                         .clip = clip()},
+                                        touched);
+    if (isPlaced && image.ofStroke) {
+        _layers.confine(touched);
+    }
+    return isPlaced;
 }
 
 }  // namespace dabcanvas

@@ -29,6 +29,7 @@ struct PlacedImage {
     QImage image;             // its device pixel ratio plays no role
     bool topRowFirst = true;  // in memory; raw pixels come bottom row first
     bool replaces = false;    // transparent parts included; else over what is there
+    bool ofStroke = false;    // keeps to what is selected
 };
 
 class ImagePlacing {

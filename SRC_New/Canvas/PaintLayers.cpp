@@ -113,12 +113,25 @@ void PaintLayers::setStyle(const CompositeStyle& style) {
     }
 }
 
+void PaintLayers::setMask(std::shared_ptr<const PaintMask> mask) {
+    settleDrawn();
+    _mask = std::move(mask);
+}
+
+void PaintLayers::confine(const Rect& placed) {
+    const SurfaceScope scope(*_surface);
+    if (scope && _mask && !placed.isEmpty()) {
+        _surface->confine(kPicture, placed, _mask);
+    }
+}
+
 Rect PaintLayers::show(const Rect& drawn, bool smudged) {
-    if (drawn.isEmpty()) {
+    const int reach = smudged ? 0 : _style.reach();
+    const Rect reached = reach > 0 && !drawn.isEmpty() ? drawn.grownBy(reach).intersected(whole()) : drawn;
+    const Rect area = _mask ? reached.intersected(_mask->area) : reached;
+    if (area.isEmpty()) {
         return {};
     }
-    const int reach = smudged ? 0 : _style.reach();
-    const Rect area = reach > 0 ? drawn.grownBy(reach).intersected(whole()) : drawn;
     if (smudged != _pendingSmudged) {
         settleDrawn();
         _pendingSmudged = smudged;
@@ -151,7 +164,15 @@ void PaintLayers::flush() {
     const StageClock::Stage stage(_clock, &StrokeStats::compositingSeconds, _surface.get());
     CompositeStyle style = _style;
     style.smudged = _pendingSmudged;
-    _surface->composite(kPicture, _pending, style);
+    if (_mask) {
+        // One by one: where two overlap, the first would be confined twice.
+        for (const Rect& rect : _pending) {
+            _surface->composite(kPicture, {&rect, 1}, style);
+            _surface->confine(kPicture, rect, _mask);
+        }
+    } else {
+        _surface->composite(kPicture, _pending, style);
+    }
     _pending.clear();
 }
 

@@ -52,6 +52,10 @@ public:
     // Layers go onto the picture in this style from now on; what was drawn so far, in the one before.
     void setStyle(const CompositeStyle& style);
     const CompositeStyle& style() const { return _style; }
+    // From now on strokes, and what is placed by them, change nothing outside of the mask; null: anywhere.
+    void setMask(std::shared_ptr<const PaintMask> mask);
+    // What was placed last, and not kept yet, goes back as far as the mask keeps it out.
+    void confine(const Rect& placed);
     // A composite is due where this area was drawn on, of what was smudged or of the line. Returns all that it changes,
     // which drying may make more; nothing of nothing.
     Rect show(const Rect& drawn, bool smudged);
@@ -139,6 +143,7 @@ private:
     std::unique_ptr<PaintSurface> _surface;
     StageClock& _clock;
     CompositeStyle _style;
+    std::shared_ptr<const PaintMask> _mask;
     Rect _content[3];            // what the layers hold
     std::vector<Rect> _pending;  // composites that are due
     bool _pendingSmudged = false;

@@ -62,6 +62,9 @@ bool QDDrawCanvas::Parts::listen(CanvasInput* hears) {
     if (painter.symmetry() != Symmetry()) {
         hears->symmetrySet(painter.symmetry());
     }
+    if (!selection.isEmpty()) {
+        hears->selectionSet(selection);
+    }
     if (!tellPicture(isKnown || isAsMade)) {
         listener = nullptr;
         return false;
@@ -348,6 +351,10 @@ void QDDrawCanvas::Input::viewTurned(float radian, bool mirrored) {
 
 void QDDrawCanvas::Input::symmetrySet(const Symmetry& symmetry) {
     _parts.setSymmetry(symmetry);
+}
+
+void QDDrawCanvas::Input::selectionSet(const QPainterPath& area) {
+    _parts.setSelection(area);
 }
 
 void QDDrawCanvas::Input::stepRecorded() {

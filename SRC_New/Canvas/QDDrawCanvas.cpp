@@ -52,7 +52,9 @@ bool QDDrawCanvas::initCanvas(const SurfaceOptions& options) {
         const bool wasUntold = std::exchange(made.isUntold, true);
         const QSizeF buffer = bufferSize();
         const QSizeF& view = made.outScale;
-        drawImage(image, QRectF(0, 0, buffer.width() * view.width(), buffer.height() * view.height()));
+        const QSizeF size(buffer.width() * view.width(), buffer.height() * view.height());
+        made.placeInView({.image = image, .ofStroke = true}, size,
+                         QPointF(size.width() / 2, size.height() / 2), 0, false);
         made.isUntold = wasUntold;
     };
     return true;
@@ -165,6 +167,14 @@ const Symmetry& QDDrawCanvas::symmetry() const {
 
 void QDDrawCanvas::setSymmetry(const Symmetry& symmetry) {
     _inside->parts->setSymmetry(symmetry);
+}
+
+const QPainterPath& QDDrawCanvas::selection() const {
+    return _inside->parts->selection;
+}
+
+void QDDrawCanvas::setSelection(const QPainterPath& area) {
+    _inside->parts->setSelection(area);
 }
 
 void QDDrawCanvas::setProfiling(bool profiling) {

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QPainterPath>
 #include <QRectF>
 #include <QString>
 #include <QVariant>
@@ -160,6 +161,12 @@ public:
     /// stroke on; none at first. A centre that is not finite is refused, with a log line.
     const dabcanvas::Symmetry& symmetry() const;
     void setSymmetry(const dabcanvas::Symmetry& symmetry);
+    /// Strokes and shapes, the live preview's included, change only what lies in this area, and pixels at its edge by as
+    /// much as it covers of them, from the next segment on; an empty one, as at first, is all of the canvas. Buffer
+    /// pixels, whatever setCanvasArea() makes of the buffer. Outlines are closed, and curves taken as straight lines.
+    /// Places that are not finite, or beyond a million pixels, are refused, with a log line.
+    const QPainterPath& selection() const;
+    void setSelection(const QPainterPath& area);
     bool edited() const;  ///< the canvas was drawn on or cleared since the last step
     /// Whether it differs from what it was made as, or from what it was when the host last saved it and said so, by
     /// false; a step that shows that picture again is not modified either.

@@ -28,6 +28,7 @@ public:
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
     void symmetrySet(const dabcanvas::Symmetry& symmetry) override;
+    void selectionSet(const QPainterPath& area) override;
     void stepRecorded() override;
     void historyReset() override;
     bool undone() override;

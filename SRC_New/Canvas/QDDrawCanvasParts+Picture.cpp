@@ -239,6 +239,7 @@ bool QDDrawCanvas::Parts::cropTo(const Rect& area) {
     record.forgetCanvas(std::move(*others));
     lastTouched = {};
     makePreview();
+    updateMask();
     host.showPreview(brush.present().brushType == kPreviewBrush);
     updateScale();
     host.canvasSizeChanged();

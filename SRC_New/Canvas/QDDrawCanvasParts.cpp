@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Canvas/QDDrawCanvasParts.h"
+#include "Canvas/SelectedPixels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -214,14 +215,11 @@ void QDDrawCanvas::Parts::showDrawn(const std::optional<Rect>& area, bool online
 
 void QDDrawCanvas::Parts::updateImage(bool online, bool smudged) {
     const Host::Call call(host);
-    if (isLost()) {
-        return;
+    const Rect shown = isLost() ? Rect() : layers.show(lastTouched, smudged);
+    if (shown.isEmpty()) {
+        return;  // nor is it an edit, beside the canvas or what is selected
     }
     layers.edits.drawn();
-    if (lastTouched.isEmpty()) {
-        return;
-    }
-    const Rect shown = layers.show(lastTouched, smudged);
     if (online) {
         redisplay(shown);
     }
@@ -346,6 +344,25 @@ void QDDrawCanvas::Parts::setSymmetry(Symmetry symmetry) {
         painter.setSymmetry(symmetry);
         preview->setSymmetry(symmetry);
     }
+}
+
+void QDDrawCanvas::Parts::setSelection(const QPainterPath& area) {
+    const Host::Call call(host);
+    const auto outlines = straightOutlines(area);
+    if (!outlines) {
+        qCWarning(lcDabcanvas, "no selection has places that are not finite or beyond a million pixels");
+        return;
+    }
+    if (*outlines != selection && finishPreview()) {
+        tell([&](CanvasInput& to) { to.selectionSet(*outlines); });
+        selection = *outlines;
+        updateMask();
+    }
+}
+
+void QDDrawCanvas::Parts::updateMask() {
+    layers.setMask(selection.isEmpty() ? nullptr : maskOf(selection, layers.size()));
+    preview->setShownArea(selection);
 }
 
 void QDDrawCanvas::Parts::brushWillChange(BrushKey key, const BrushValue& value, StrokeKind kindAfter) {

@@ -46,6 +46,7 @@ public:
     dabcanvas::CanvasHistory history;
     std::unique_ptr<LeafDrawing> preview;
     LeafDrawing::Complention placePreview;  // its stroke comes onto the canvas
+    QPainterPath selection;                 // of straight lines; empty: all
     Input input;
     dabcanvas::Rect lastTouched;  // by dabs that are yet to be shown, see updateImage()
 
@@ -115,6 +116,7 @@ public:
     void repeatRandom(bool repeats);
     void turnView(float radian, bool mirrored);
     void setSymmetry(dabcanvas::Symmetry symmetry);
+    void setSelection(const QPainterPath& area);
     template <typename Tell>
     void tell(Tell&& tell) {
         if (listener != nullptr && !isUntold) {
@@ -158,6 +160,7 @@ private:
     void brushChanged(dabcanvas::BrushKey key) override;
 
     void makePreview();
+    void updateMask();
     bool cropTo(const dabcanvas::Rect& area);
     // Between strokes, when all that was drawn is part of the canvas. False in mid-stroke, after this line in the log.
     bool comesToRest(const char* complaint);

@@ -216,7 +216,7 @@ Rect StrokePainter::drawSome(std::span<const LPPoint> points, DrawTarget target)
             take(_copies[i].of(dab), ofCopies[i]);
         }
     });
-    if (drawMade(target).isEmpty() && !_made.empty()) {
+    if (drawMade(target).isEmpty()) {
         return {};
     }
     for (const DabBounds& copied : ofCopies) {
@@ -237,8 +237,9 @@ Rect StrokePainter::smudgeSome(std::span<const LPPoint> points) {
     _madeSmudges.clear();
     DabBounds bounds{static_cast<double>(_layers.size().width), static_cast<double>(_layers.size().height)};
     std::vector<DabBounds> ofCopies(_copies.size(), bounds);
-    const auto take = [this](const SmudgeDab& dab, DabBounds& touched) {
-        touched.grow(dab.dab);
+    bool isSeen = false;
+    const auto take = [&](const SmudgeDab& dab, DabBounds& touched) {
+        isSeen = touched.grow(dab.dab) || isSeen;
         _madeSmudges.push_back(dab);
     };
     smudges.make(_brush.smudgeDabs(), points.data(), points.size(), [&](const SmudgeDab& dab) {
@@ -253,8 +254,8 @@ Rect StrokePainter::smudgeSome(std::span<const LPPoint> points) {
     });
     _clock.stats.dabs += _madeSmudges.size();
     const Rect touched = _layers.smudge(_madeSmudges, _brush.style(), smudges.settings.load);
-    if (_copies.empty()) {
-        return touched;
+    if (_copies.empty() || !isSeen) {
+        return isSeen ? touched : Rect();
     }
     // What no dab covered is not exchanged; the layer itself is as coarse as this.
     constexpr int kReach = 4;

@@ -13,6 +13,7 @@
 #include "ESRender/ESLineRender.h"
 #include "ESRender/ESSmudgeRender.h"
 #include "ESRender/Utilities/ESGLErrors.h"
+#include "GLSurface/MaskDraw.h"
 #include "GLSurface/ThreadGL.h"
 #include "GLSurface/WetLayer.h"
 
@@ -150,6 +151,9 @@ GLSurface::~GLSurface() {
     release(_compositor);
     if (_wetLayer) {
         release(*_wetLayer);
+    }
+    if (_maskDraw) {
+        release(*_maskDraw);
     }
     for (DabRender* of : {&_line, &_subLine, &_smudge}) {
         release(of->render);

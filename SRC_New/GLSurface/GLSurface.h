@@ -21,6 +21,7 @@ class ESSmudgeRender;
 namespace dabcanvas {
 
 class ThreadGL;
+class MaskDraw;
 class WetLayer;
 
 /// Paint in the memory of an OpenGL driver, put there by the renderers of ESRender over one ESContext.
@@ -56,6 +57,7 @@ public:
     Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) override;
 
     void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) override;
+    void confine(PictureId picture, const Rect& rect, const std::shared_ptr<const PaintMask>& mask) override;
     void revert(PictureId picture, const Rect& rect) override;
     void commit(PictureId picture, const Rect& rect) override;
     void fill(PictureId picture, const PaintColor& color) override;
@@ -104,6 +106,7 @@ private:
     std::unique_ptr<ESContext> _context;
     std::unique_ptr<ESImageRender> _compositor;
     std::optional<std::unique_ptr<WetLayer>> _wetLayer;  // none: not asked for yet; null: cannot be had
+    std::optional<std::unique_ptr<MaskDraw>> _maskDraw;  // the same
     DabRender _line, _subLine, _smudge;                  // the last one's render is an ESSmudgeRender
     KeptCounts _kept;
     Rect _smudgeStale;                // where the smudge layer may differ from the background

@@ -108,6 +108,9 @@ public:
     QPointF beginPoint() const { return _beginPoint; }
     QPointF lastPoint() const { return _lastPoint; }
     QPointF lastRenderPoint() const { return _lastRenderPoint; }  ///< where the path ends
+    /// What displays show of it, in buffer pixels; empty: all. bitmap() and what complention() gets are whole.
+    const QPainterPath& shownArea() const { return _shownArea; }
+    void setShownArea(const QPainterPath& area) { _shownArea = area; }
     /// What the latest stage changed, but for copies, in bitmap pixels within graphSize().
     QRectF updateRect() const { return _updateRect; }
 
@@ -161,6 +164,7 @@ private:
 
     QPainterPath _path;  // without elements when no stroke has begun
     LeafFill _fill;      // the same, as far as it lies in the bitmap
+    QPainterPath _shownArea;
     dabcanvas::Symmetry _symmetry;
     std::vector<Copy> _copies;  // of the present stroke
     QRegion _copiesUpdate;      // what the latest stage changed of them

@@ -2,7 +2,6 @@
 #include "Processor/ProcessorSurface.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <new>
 #include <string>
@@ -10,7 +9,9 @@
 
 #include "Processor/BlendRows.h"
 #include "Processor/MakeProcessorSurface.h"
+#include "Processor/MaskRows.h"
 #include "Processor/PlaceRows.h"
+#include "Processor/TileRows.h"
 #include "Surface/BlendType.h"
 #include "Surface/SurfaceLog.h"
 
@@ -18,12 +19,6 @@ namespace dabcanvas {
 namespace {
 
 using Layer16 = TileGrid<std::uint16_t>;
-
-template <typename Channel>
-const Channel* pixelsAt(const Tile<Channel>* tile, int x, int y) {
-    static const Tile<Channel> kTransparent;
-    return (tile != nullptr ? tile : &kTransparent)->at(x % kTileSide, y % kTileSide);
-}
 
 // What was smudged there keeps its colours on the alpha of before.
 template <typename Channel>
@@ -43,67 +38,6 @@ void lockAlpha(Tile<Channel>& picture, const Tile<Channel>* background, const Re
             to[3] = back[3];
         }
     }
-}
-
-// As rows of the grid's own depth.
-template <typename Channel>
-MutablePixelView viewOf(Tile<Channel>& tile, const Rect& part) {
-    constexpr int kBytes = 4 * sizeof(Channel);
-    return {reinterpret_cast<std::uint8_t*>(tile.at(part.x % kTileSide, part.y % kTileSide)),
-            {part.width, part.height},
-            kTileSide * kBytes,
-            kBytes};
-}
-
-template <typename Channel>
-PixelView viewOf(const Tile<Channel>* tile, const Rect& part) {
-    constexpr int kBytes = 4 * sizeof(Channel);
-    return {reinterpret_cast<const std::uint8_t*>(pixelsAt(tile, part.x, part.y)),
-            {part.width, part.height},
-            kTileSide * kBytes,
-            kBytes};
-}
-
-// copyRows() of rows of a tile: so short that calling for each would take as long as copying it.
-void copyShortRows(const PixelView& from, const MutablePixelView& to) {
-    constexpr std::ptrdiff_t kPiece = 32;
-    const std::ptrdiff_t bytes = std::ptrdiff_t{from.pixelBytes} * from.size.width;
-    if (bytes < kPiece) {
-        return copyRows(from, to);
-    }
-    for (int y = 0; y < from.size.height; ++y) {
-        const std::uint8_t* const source = from.row(y);
-        std::uint8_t* const target = to.row(y);
-        for (std::ptrdiff_t at = 0; at + kPiece <= bytes; at += kPiece) {
-            std::memcpy(target + at, source + at, kPiece);
-        }
-        std::memcpy(target + bytes - kPiece, source + bytes - kPiece, kPiece);
-    }
-}
-
-// `to` becomes `from`, of the same size, in the rectangle: whole tiles by sharing.
-template <typename Channel>
-void copyTiles(const TileGrid<Channel>& from, TileGrid<Channel>& to, const Rect& rect) {
-    to.forEachIn(rect, [&](std::size_t index, const Rect& part) {
-        if (to.sharesWith(from, index)) {
-            return;
-        }
-        if (part == to.rectOf(index)) {
-            return to.share(from, index);
-        }
-        copyShortRows(viewOf(from.tile(index), part), viewOf(to.writable(index), part));
-    });
-}
-
-// What the grid, a copy of one, holds with these rows in the rectangle.
-template <typename Channel>
-TileGrid<Channel> withRows(TileGrid<Channel> grid, const Rect& rect, const PixelView& rows) {
-    grid.forEachIn(rect, [&](std::size_t index, const Rect& part) {
-        const PixelView from = rows.part({part.x - rect.x, part.y - rect.y, part.width, part.height});
-        const MutablePixelView to = viewOf(grid.writable(index), part);
-        from.pixelBytes == to.pixelBytes ? copyRows(from, to) : widenRows(from, to);
-    });
-    return grid;
 }
 
 template <typename Channel>
@@ -340,6 +274,29 @@ void PictureSurface<Channel>::composite(PictureId picture, std::span<const Rect>
         });
         noteChanged(picture, rect);
     }
+}
+
+template <typename Channel>
+void PictureSurface<Channel>::confineTile(std::size_t index, const Rect& part, const PaintMask& mask) {
+    if (_picture.sharesWith(_background, index)) {
+        return;
+    }
+    const MaskedPart masked = maskedPart(mask, part);
+    if (masked == MaskedPart::closed) {
+        copyTiles(_background, _picture, part);
+    } else if (masked == MaskedPart::mixed) {
+        maskRows(_picture.writable(index).at(part.x % kTileSide, part.y % kTileSide),
+                 pixelsAt(_background.tile(index), part.x, part.y), 4 * kTileSide, mask, part);
+    }
+}
+
+template <typename Channel>
+void PictureSurface<Channel>::confine(PictureId, const Rect& rect,
+                                      const std::shared_ptr<const PaintMask>& mask) {
+    withMemory("keep to a selection", [&] {
+        _picture.forEachIn(rect,
+                           [&](std::size_t index, const Rect& part) { confineTile(index, part, *mask); });
+    });
 }
 
 template <typename Channel>

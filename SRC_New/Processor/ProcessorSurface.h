@@ -69,6 +69,7 @@ public:
     Rect smudge(std::span<const SmudgeDab> dabs, const DabStyle& style, float load) override;
 
     void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) override;
+    void confine(PictureId picture, const Rect& rect, const std::shared_ptr<const PaintMask>& mask) override;
     void revert(PictureId picture, const Rect& rect) override;
     void commit(PictureId picture, const Rect& rect) override;
     void fill(PictureId picture, const PaintColor& color) override;
@@ -85,6 +86,7 @@ public:
 private:
     using Grid = TileGrid<Channel>;
     void putStraight(std::size_t index, const Rect& part);
+    void confineTile(std::size_t index, const Rect& part, const PaintMask& mask);
     void compositeTile(std::size_t index, const Rect& part, const CompositeStyle& style);
     // Null tiles are bare.
     struct Paint {

@@ -49,5 +49,8 @@ void LeafDrawView::paintEvent(QPaintEvent* event) {
     painter.setClipRegion(event->region());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setTransform(transform(), true);
+    if (!shownArea().isEmpty()) {
+        painter.setClipPath(shownArea(), Qt::IntersectClip);
+    }
     painter.drawImage(QRectF(QPointF(), _buffer), cgImage());
 }

@@ -56,6 +56,9 @@ void CanvasItem::paintView(QPainter& painter) {
         painter.setClipRect(all);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.setTransform(_display->bufferToView(), true);
+        if (!preview->shownArea().isEmpty()) {
+            painter.setClipPath(preview->shownArea(), Qt::IntersectClip);
+        }
         painter.drawImage(QRectF(QPointF(), _display->bufferSize()), preview->cgImage());
         painter.restore();
     }
@@ -111,7 +114,19 @@ void CanvasItem::takePreview() {
     const QTransform enlarged =
         QTransform::fromScale(canvas.width() / image.width(), canvas.height() / image.height());
     _scene->previewLook = {enlarged * _display->bufferToView(), true, false};
-    _scene->preview.take(image.size(), [&](const QRect& area) { return image.copy(area); });
+    _scene->preview.take(image.size(), [&](const QRect& area) {
+        const QPainterPath& shown = preview->shownArea();
+        if (shown.isEmpty()) {
+            return image.copy(area);
+        }
+        QImage tile(area.size(), image.format());
+        tile.fill(Qt::transparent);
+        QPainter painter(&tile);
+        painter.translate(-area.topLeft());
+        painter.setClipPath(enlarged.inverted().map(shown));
+        painter.drawImage(0, 0, image);
+        return tile;
+    });
 }
 
 QSGNode* CanvasItem::updatePaintNode(QSGNode* before, UpdatePaintNodeData*) {

@@ -205,6 +205,10 @@ void CanvasRecorder::symmetrySet(const Symmetry& symmetry) {
     add(symmetry);
 }
 
+void CanvasRecorder::selectionSet(const QPainterPath& area) {
+    add(SelectionChange{area});
+}
+
 void CanvasRecorder::stepRecorded() {
     add(RecordedCall::stepRecorded);
     ++_undoSteps;

@@ -75,6 +75,7 @@ private:
     bool areaSet(const QRect& area) override;
     void viewTurned(float radian, bool mirrored) override;
     void symmetrySet(const Symmetry& symmetry) override;
+    void selectionSet(const QPainterPath& area) override;
     void stepRecorded() override;
     void historyReset() override;
     bool undone() override;

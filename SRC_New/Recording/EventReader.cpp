@@ -6,41 +6,13 @@
 
 #include "Recording/EmbeddedPicture.h"
 #include "Recording/JsonMembers.h"
+#include "Recording/JsonValues.h"
 #include "Recording/PropertyValue.h"
 #include "Recording/RecordingNames.h"
 
 namespace dabcanvas {
 
 namespace {
-
-using Kind = JsonReader::Kind;
-
-constexpr int kMostLayers = 256;
-const QStringList kLayerMembers{"name", "opacity", "blend", "visible", "locksAlpha", "picture"};
-
-bool readFloat(JsonReader& reader, float& value) {
-    double number = 0;
-    if (!reader.readNumber(number))
-        return false;
-    value = float(number);
-    return std::isfinite(value) || reader.fail(QStringLiteral("number out of range"));
-}
-
-// A word of a table, as its place there.
-template <typename Enum, std::size_t count>
-bool readWord(JsonReader& reader, const char* const (&words)[count], Enum& value) {
-    QString word;
-    if (!reader.readText(word))
-        return false;
-    QStringList known;
-    for (const char* name : words)
-        known << QLatin1String(name);
-    const auto place = known.indexOf(word);
-    if (place < 0)
-        return reader.fail(QStringLiteral("expected one of: %1").arg(known.join(QStringLiteral(", "))));
-    value = Enum(place);
-    return true;
-}
 
 // A list of so many numbers, each finite as a float.
 template <std::size_t count>
@@ -70,7 +42,7 @@ bool readSample(JsonReader& reader, RecordedSample& sample) {
 }
 
 bool readColor(JsonReader& reader, ESColor& color) {
-    if (reader.peek() == Kind::text) {
+    if (reader.peek() == JsonReader::Kind::text) {
         QString text;
         reader.readText(text);
         const auto named = colorFromText(text);
@@ -98,105 +70,53 @@ bool readColor(JsonReader& reader, ESColor& color) {
 
 }  // namespace
 
+// What a line says, by its member.
+struct EventReader::Line {
+    const char* name;
+    bool (EventReader::*read)(std::vector<RecordedEvent>& events);
+};
+const EventReader::Line EventReader::kLines[] = {
+    {"stroke", &EventReader::one<StrokePart, &EventReader::readStroke>},
+    {"brush", &EventReader::readBrush},
+    {"secondLine", &EventReader::one<SecondLineChange, &EventReader::readSecondLine>},
+    {"seed", &EventReader::one<SeedChange, &EventReader::readSeed>},
+    {"repeatable", &EventReader::one<RepeatChange, &EventReader::readRepeats>},
+    {"clear", &EventReader::one<ClearedCanvas, &EventReader::readClear>},
+    {"image", &EventReader::one<InputImage, &EventReader::readImage>},
+    {"preview", &EventReader::one<PlacedPreview, &EventReader::readPreview>},
+    {"shape", &EventReader::one<DrawnShape, &EventReader::readShape>},
+    {"picture", &EventReader::one<WholePicture, &EventReader::readWholePicture>},
+    {"area", &EventReader::one<AreaChange, &EventReader::readArea>},
+    {"view", &EventReader::one<ViewChange, &EventReader::readView>},
+    {"symmetry", &EventReader::one<Symmetry, &EventReader::readSymmetry>},
+    {"selection", &EventReader::one<SelectionChange, &EventReader::readSelection>},
+    {"do", &EventReader::one<RecordedCall, &EventReader::readCall>},
+    {"layers", &EventReader::one<WholeLayers, &EventReader::readLayers>},
+    {"layer", &EventReader::one<LayerChange, &EventReader::readLayerEdit>},
+};
+
 bool EventReader::read(std::vector<RecordedEvent>& events) {
-    enum {
-        at,
-        stroke,
-        brush,
-        secondLine,
-        seed,
-        repeatable,
-        clear,
-        image,
-        preview,
-        shape,
-        picture,
-        area,
-        view,
-        symmetry,
-        call,
-        layers,
-        layer
-    };
-    static const QStringList kMembers{"at",    "stroke",   "brush",   "secondLine", "seed",    "repeatable",
-                                      "clear", "image",    "preview", "shape",      "picture", "area",
-                                      "view",  "symmetry", "do",      "layers",     "layer"};
-    JsonMembers members(_reader, kMembers);
+    static const QStringList kNames = [] {
+        QStringList names{QStringLiteral("at")};
+        for (const Line& line : kLines)
+            names << QLatin1String(line.name);
+        return names;
+    }();
+    JsonMembers members(_reader, kNames);
     double time = 0;
     QString name;
     _reader.beginObject();
     while (_reader.nextMember(name)) {
         const int place = members.place(name);
-        if (place > at && !events.empty())
+        if (place < 0)
+            return false;
+        if (place > 0 && !events.empty())
             return _reader.fail(QStringLiteral("a line is one thing only"));
-        switch (place) {
-            case at:
-                _reader.readNumber(time);
-                break;
-            case stroke:
-                one<StrokePart>(events, [&](StrokePart& part) { return readStroke(part); });
-                break;
-            case brush:
-                readBrush(events);
-                break;
-            case secondLine:
-                one<SecondLineChange>(events, [&](SecondLineChange& change) {
-                    double numbers[2] = {};
-                    const bool isRead = readNumbers(_reader, numbers);
-                    change = {float(numbers[0]), float(numbers[1])};
-                    return isRead;
-                });
-                break;
-            case seed:
-                one<SeedChange>(events, [&](SeedChange& change) {
-                    return readWhole(_reader, 0, std::numeric_limits<std::uint32_t>::max(), change.seed);
-                });
-                break;
-            case repeatable:
-                one<RepeatChange>(events,
-                                  [&](RepeatChange& change) { return _reader.readBoolean(change.repeats); });
-                break;
-            case clear:
-                one<ClearedCanvas>(events, [&](ClearedCanvas& cleared) { return readClear(cleared); });
-                break;
-            case image:
-                one<InputImage>(events, [&](InputImage& placed) { return readImage(placed); });
-                break;
-            case preview:
-                one<PlacedPreview>(events, [&](PlacedPreview& placed) { return readPreview(placed.limits); });
-                break;
-            case shape:
-                one<DrawnShape>(events, [&](DrawnShape& drawn) { return readShape(drawn.shape); });
-                break;
-            case picture:
-                one<WholePicture>(events, [&](WholePicture& whole) { return readPicture(whole.picture); });
-                break;
-            case area:
-                one<AreaChange>(events, [&](AreaChange& change) { return readArea(change.area); });
-                break;
-            case view:
-                one<ViewChange>(events, [&](ViewChange& change) { return readView(change); });
-                break;
-            case symmetry:
-                one<Symmetry>(events, [&](Symmetry& symmetryRead) { return readSymmetry(symmetryRead); });
-                break;
-            case call:
-                one<RecordedCall>(events,
-                                  [&](RecordedCall& what) { return readWord(_reader, kCallNames, what); });
-                break;
-            case layers:
-                one<WholeLayers>(events, [&](WholeLayers& whole) { return readLayers(whole.layers); });
-                break;
-            case layer:
-                one<LayerChange>(events, [&](LayerChange& change) { return readLayerEdit(change.edit); });
-                break;
-            default:
-                return false;
-        }
+        place == 0 ? _reader.readNumber(time) : (this->*kLines[place - 1].read)(events);
     }
     for (RecordedEvent& event : events)
         event.time = time;
-    if (!_reader.failed() && members.count() == int(members.has(at)))
+    if (!_reader.failed() && members.count() == int(members.has(0)))
         return _reader.fail(QStringLiteral("the line says nothing that is to be done"));
     return _reader.finish();
 }
@@ -285,6 +205,25 @@ bool EventReader::readValue(const BrushProperty& property, BrushValue& value) {
     return _reader.readText(value.emplace<QString>());
 }
 
+bool EventReader::readSecondLine(SecondLineChange& change) {
+    double numbers[2] = {};
+    const bool isRead = readNumbers(_reader, numbers);
+    change = {float(numbers[0]), float(numbers[1])};
+    return isRead;
+}
+
+bool EventReader::readSeed(SeedChange& change) {
+    return readWhole(_reader, 0, std::numeric_limits<std::uint32_t>::max(), change.seed);
+}
+
+bool EventReader::readRepeats(RepeatChange& change) {
+    return _reader.readBoolean(change.repeats);
+}
+
+bool EventReader::readCall(RecordedCall& call) {
+    return readWord(_reader, kCallNames, call);
+}
+
 bool EventReader::readClear(ClearedCanvas& cleared) {
     enum { color, layers };
     static const QStringList kMembers{"color", "layers"};
@@ -321,15 +260,15 @@ bool EventReader::readImage(InputImage& placed) {
     return isRead;
 }
 
-bool EventReader::readPreview(InputLimits& limits) {
+bool EventReader::readPreview(PlacedPreview& placed) {
     enum { neglects, scissor };
     static const QStringList kMembers{"neglects", "scissor"};
     return JsonMembers(_reader, kMembers).readObject([&](int place) {
-        place == neglects ? _reader.readBoolean(limits.neglects) : readScissor(limits);
+        place == neglects ? _reader.readBoolean(placed.limits.neglects) : readScissor(placed.limits);
     });
 }
 
-bool EventReader::readArea(QRect& area) {
+bool EventReader::readArea(AreaChange& change) {
     double box[4] = {};
     if (!readNumbers(_reader, box))
         return false;
@@ -337,8 +276,8 @@ bool EventReader::readArea(QRect& area) {
         if (number != std::floor(number) || std::abs(number) > kFarthest)
             return _reader.fail(QStringLiteral("expected whole numbers of pixels"));
     }
-    area = QRect(int(box[0]), int(box[1]), int(box[2]), int(box[3]));
-    const QString refusal = sizeRefusal(area.width(), area.height());
+    change.area = QRect(int(box[0]), int(box[1]), int(box[2]), int(box[3]));
+    const QString refusal = sizeRefusal(change.area.width(), change.area.height());
     return refusal.isEmpty() || _reader.fail(refusal);
 }
 
@@ -347,65 +286,6 @@ bool EventReader::readView(ViewChange& change) {
     static const QStringList kMembers{"radian", "mirrored"};
     return JsonMembers(_reader, kMembers).readObject([&](int place) {
         place == radian ? readFloat(_reader, change.radian) : _reader.readBoolean(change.mirrored);
-    });
-}
-
-void EventReader::readOfLayer(int place, LayerSettings& settings, QImage& picture) {
-    enum { name, opacity, blend, visible, locksAlpha };
-    switch (place) {
-        case name:
-            _reader.readText(settings.name);
-            break;
-        case opacity:
-            readFloat(_reader, settings.opacity);
-            break;
-        case blend:
-            readWhole(_reader, 0, std::numeric_limits<std::uint32_t>::max(), settings.blendType);
-            break;
-        case visible:
-            _reader.readBoolean(settings.isVisible);
-            break;
-        case locksAlpha:
-            _reader.readBoolean(settings.locksAlpha);
-            break;
-        default:
-            readPicture(picture);
-    }
-}
-
-bool EventReader::readLayers(InputLayers& layers) {
-    enum { active, all };
-    static const QStringList kMembers{"active", "all"};
-    const bool isRead = JsonMembers(_reader, kMembers).readObject([&](int place) {
-        if (place == active) {
-            readWhole(_reader, 0, kMostLayers - 1, layers.active);
-            return;
-        }
-        for (_reader.beginList(); _reader.nextElement();) {
-            InputLayers::One layer;
-            if (layers.all.size() == std::size_t{kMostLayers})
-                return void(_reader.fail(QStringLiteral("more than %1 layers").arg(kMostLayers)));
-            if (!JsonMembers(_reader, kLayerMembers).readObject([&](int of) {
-                    readOfLayer(of, layer.settings, layer.picture);
-                }))
-                return;
-            layers.all.push_back(std::move(layer));
-        }
-    });
-    return isRead && (std::size_t(layers.active) < layers.all.size() ||
-                      _reader.fail(QStringLiteral("there is no layer %1").arg(layers.active)));
-}
-
-bool EventReader::readLayerEdit(InputLayerEdit& edit) {
-    enum { what, number, to, first };
-    static const QStringList kMembers = QStringList{"do", "number", "to"} + kLayerMembers;
-    return JsonMembers(_reader, kMembers).readObject([&](int place) {
-        if (place == what)
-            readWord(_reader, kLayerEditNames, edit.kind);
-        else if (place < first)
-            readWhole(_reader, 0, kMostLayers, place == to ? edit.to : edit.layer);
-        else
-            readOfLayer(place - first, edit.settings, edit.picture);
     });
 }
 
@@ -432,6 +312,36 @@ bool EventReader::readSymmetry(Symmetry& symmetry) {
     });
 }
 
+template <typename Take>
+bool EventReader::readPlaces(Take&& take) {
+    for (_reader.beginList(); _reader.nextElement();) {
+        double place[2] = {};
+        if (!readNumbers(_reader, place))
+            return false;
+        take(place[0], place[1]);
+    }
+    return !_reader.failed();
+}
+
+bool EventReader::readSelection(SelectionChange& change) {
+    enum { winding, outlines };
+    static const QStringList kMembers{"winding", "outlines"};
+    bool winds = false;
+    const bool isRead = JsonMembers(_reader, kMembers).readObject([&](int member) {
+        if (member == winding)
+            return void(_reader.readBoolean(winds));
+        for (_reader.beginList(); _reader.nextElement();) {
+            QPolygonF outline;
+            if (!readPlaces([&](double x, double y) { outline << QPointF(x, y); }))
+                return;
+            change.area.addPolygon(outline);
+            change.area.closeSubpath();
+        }
+    });
+    change.area.setFillRule(winds ? Qt::WindingFill : Qt::OddEvenFill);
+    return isRead;
+}
+
 bool EventReader::readScissor(InputLimits& limits) {
     double box[4] = {};
     const bool isRead = readNumbers(_reader, box);
@@ -439,7 +349,8 @@ bool EventReader::readScissor(InputLimits& limits) {
     return isRead;
 }
 
-bool EventReader::readShape(ShapeRecord& shape) {
+bool EventReader::readShape(DrawnShape& drawn) {
+    ShapeRecord& shape = drawn.shape;
     static const QStringList kMembers{"kind", "corners",  "x",          "y",       "a",
                                       "b",    "rotation", "startAngle", "endAngle"};
     enum { kind, corners, first };
@@ -451,68 +362,9 @@ bool EventReader::readShape(ShapeRecord& shape) {
         } else if (place >= first) {
             _reader.readNumber(*numbers[place - first]);
         } else {
-            for (_reader.beginList(); _reader.nextElement();) {
-                double corner[2] = {};
-                if (!readNumbers(_reader, corner))
-                    return;
-                shape.corners.push_back({corner[0], corner[1]});
-            }
+            readPlaces([&](double x, double y) { shape.corners.push_back({x, y}); });
         }
     });
-}
-
-bool EventReader::readPictures(QList<QImage>& images) {
-    for (_reader.beginList(); _reader.nextElement();) {
-        QImage image;
-        if (!readPicture(image))
-            return false;
-        images << image;
-    }
-    return !_reader.failed();
-}
-
-// Embedded, or the number of one that was.
-bool EventReader::readPicture(QImage& image) {
-    if (_reader.peek() == Kind::null)
-        return _reader.readNull();
-    enum { png, number, density };
-    static const QStringList kMembers{"png", "number", "density"};
-    JsonMembers members(_reader, kMembers);
-    double ratio = 1;
-    QString name;
-    _reader.beginObject();
-    while (_reader.nextMember(name)) {
-        const int place = members.place(name);
-        if (place == png) {
-            QByteArray text;
-            _reader.readBytes(text);
-            if (_reader.failed())
-                return false;
-            auto read = pictureEmbedded(QByteArray::fromBase64(text), kMostPixels - _pictures.pixels);
-            if (!read)
-                return _reader.fail(read.problem().what);
-            image = std::move(*read);
-            _pictures.pixels += qint64(image.width()) * image.height();
-            _pictures.images.push_back(image);
-        } else if (place == number) {
-            std::size_t which = 0;
-            if (_pictures.images.empty())
-                return _reader.fail(QStringLiteral("no picture comes before"));
-            if (!readWhole(_reader, 0, double(_pictures.images.size()) - 1, which))
-                return false;
-            image = _pictures.images[which];
-        } else if (place < 0 || !_reader.readNumber(ratio)) {
-            return false;
-        }
-    }
-    if (_reader.failed())
-        return false;
-    if (members.has(png) == members.has(number))
-        return _reader.fail(QStringLiteral("a picture is {\"png\": ...} or {\"number\": ...}"));
-    if (!(ratio >= 0.01 && ratio <= 100))
-        return _reader.fail(QStringLiteral("the density is out of range"));
-    image.setDevicePixelRatio(ratio);
-    return true;
 }
 
 }  // namespace dabcanvas

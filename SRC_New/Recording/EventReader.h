@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QImage>
-#include <cmath>
 #include <vector>
 
 #include "Recording/JsonReader.h"
@@ -17,23 +16,6 @@ struct EmbeddedPictures {
     qint64 pixels = 0;
 };
 
-inline bool readWhole(JsonReader& reader, double least, double most, double& value) {
-    if (!reader.readNumber(value))
-        return false;
-    return (value == std::floor(value) && value >= least && value <= most) ||
-           reader.fail(QStringLiteral("expected a whole number from %1 to %2")
-                           .arg(least, 0, 'f', 0)
-                           .arg(most, 0, 'f', 0));
-}
-
-template <typename Whole>
-bool readWhole(JsonReader& reader, double least, double most, Whole& value) {
-    double number = 0;
-    const bool isRead = readWhole(reader, least, most, number);
-    value = Whole(isRead ? number : 0);
-    return isRead;
-}
-
 // One line.
 class EventReader {
 public:
@@ -42,31 +24,44 @@ public:
     bool read(std::vector<RecordedEvent>& events);
 
 private:
+    struct Line;
+    static const Line kLines[];
+
+    template <typename What, bool (EventReader::*read)(What&)>
+    bool one(std::vector<RecordedEvent>& events) {
+        What what{};
+        const bool isRead = (this->*read)(what);
+        events.push_back({0, std::move(what)});
+        return isRead;
+    }
     bool readStroke(StrokePart& part);
-    bool readSamples(StrokePart& part);
     bool readBrush(std::vector<RecordedEvent>& events);
-    bool readValue(const BrushProperty& property, BrushValue& value);
+    bool readSecondLine(SecondLineChange& change);
+    bool readSeed(SeedChange& change);
+    bool readRepeats(RepeatChange& change);
     bool readClear(ClearedCanvas& cleared);
     bool readImage(InputImage& placed);
-    bool readPreview(InputLimits& limits);
-    bool readScissor(InputLimits& limits);
-    bool readArea(QRect& area);
+    bool readPreview(PlacedPreview& placed);
+    bool readShape(DrawnShape& drawn);
+    bool readWholePicture(WholePicture& whole);
+    bool readArea(AreaChange& change);
     bool readView(ViewChange& change);
     bool readSymmetry(Symmetry& symmetry);
-    bool readShape(ShapeRecord& shape);
-    bool readLayers(InputLayers& layers);
-    bool readLayerEdit(InputLayerEdit& edit);
+    bool readSelection(SelectionChange& change);
+    bool readCall(RecordedCall& call);
+    bool readLayers(WholeLayers& whole);
+    bool readLayerEdit(LayerChange& change);
+
+    bool readSamples(StrokePart& part);
+    bool readValue(const BrushProperty& property, BrushValue& value);
+    bool readScissor(InputLimits& limits);
+    // A list of places, to take(double x, double y).
+    template <typename Take>
+    bool readPlaces(Take&& take);
     // A member of a layer, by its place among them.
     void readOfLayer(int place, LayerSettings& settings, QImage& picture);
     bool readPicture(QImage& image);
     bool readPictures(QList<QImage>& images);
-    template <typename What, typename Read>
-    bool one(std::vector<RecordedEvent>& events, Read&& read) {
-        What what{};
-        const bool isRead = read(what);
-        events.push_back({0, std::move(what)});
-        return isRead;
-    }
 
     EmbeddedPictures& _pictures;
     JsonReader& _reader;

@@ -15,6 +15,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPainterPath>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -109,13 +110,18 @@ struct ViewChange {
     float radian = 0;
     bool mirrored = false;
 };
+/// Strokes keep to this area from here on, see CanvasInput.h.
+struct SelectionChange {
+    QPainterPath area;
+};
 /// What has nothing to tell besides.
 enum class RecordedCall : std::uint8_t { stepRecorded, historyReset, undone, redone };
 
 /// What it was; an InputImage was placed, a Symmetry set.
-using RecordedWhat = std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange,
-                                  ClearedCanvas, InputImage, PlacedPreview, DrawnShape, WholePicture,
-                                  AreaChange, ViewChange, Symmetry, RecordedCall, WholeLayers, LayerChange>;
+using RecordedWhat =
+    std::variant<StrokePart, BrushChange, SecondLineChange, SeedChange, RepeatChange, ClearedCanvas,
+                 InputImage, PlacedPreview, DrawnShape, WholePicture, AreaChange, ViewChange, Symmetry,
+                 SelectionChange, RecordedCall, WholeLayers, LayerChange>;
 
 /// One thing that entered the canvas.
 struct RecordedEvent {

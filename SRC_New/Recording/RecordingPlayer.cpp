@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Recording/RecordingPlayer.h"
 
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -129,6 +130,10 @@ public:
         scaledSymmetry.centreX *= scale();
         scaledSymmetry.centreY *= scale();
         _to.symmetrySet(scaledSymmetry);
+        return true;
+    }
+    bool operator()(const SelectionChange& change) {
+        _to.selectionSet(QTransform::fromScale(scale(), scale()).map(change.area));
         return true;
     }
     bool operator()(RecordedCall call) {

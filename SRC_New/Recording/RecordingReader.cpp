@@ -7,6 +7,7 @@
 
 #include "Recording/EventReader.h"
 #include "Recording/JsonMembers.h"
+#include "Recording/JsonValues.h"
 #include "Recording/RecordingNames.h"
 #include "Surface/SurfaceOptions.h"
 

@@ -240,6 +240,20 @@ public:
         member(text, "mirrored", symmetry.mirrored);
         text += '}';
     }
+    void operator()(const SelectionChange& change) {
+        open(text, "selection", '{');
+        member(text, "winding", change.area.fillRule() == Qt::WindingFill);
+        open(text, "outlines", '[');
+        for (const QPolygonF& outline : change.area.toSubpathPolygons()) {
+            text += text.back() == '[' ? "[" : ",[";
+            for (const QPointF& at : outline) {
+                text += text.back() == '[' ? "" : ",";
+                appendList(text, at.x(), at.y());
+            }
+            text += ']';
+        }
+        text += "]}";
+    }
     void operator()(const RecordedCall& call) {
         member(text, "do", QString::fromLatin1(kCallNames[std::size_t(call)]));
     }

@@ -14,6 +14,7 @@
 #include "Maths/PixelView.h"
 #include "Maths/Rect.h"
 #include "Surface/BlendType.h"
+#include "Surface/PaintMask.h"
 #include "Surface/TilePixels.h"
 
 namespace dabcanvas {
@@ -137,6 +138,10 @@ public:
 
     /// The picture becomes its background with the layers blended onto it.
     virtual void composite(PictureId picture, std::span<const Rect> rects, const CompositeStyle& style) = 0;
+    /// Takes back what composite() or place() has just made of the background there, as far as the mask keeps it out: a
+    /// pixel goes back by what is missing of its share, so that a second call would take back more.
+    virtual void confine(PictureId picture, const Rect& rect,
+                         const std::shared_ptr<const PaintMask>& mask) = 0;
     /// The picture becomes its background.
     virtual void revert(PictureId picture, const Rect& rect) = 0;
     /// The background becomes the picture.

@@ -3,6 +3,8 @@
 #include "FrameTaker.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <utility>
 
@@ -24,21 +26,44 @@ QString written(const QString& path, const QByteArray& bytes) {
                              : QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString());
 }
 
+// Of this one and those that it lies in, the innermost first.
+QStringList missingFolders(const QString& path) {
+    QStringList missing;
+    for (QString folder = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+         !QFileInfo::exists(folder) && folder != QFileInfo(folder).path(); folder = QFileInfo(folder).path())
+        missing << folder;
+    return missing;
+}
+
 class FrameFolder final : public FrameTaker {
 public:
-    explicit FrameFolder(QString path) : _path(std::move(path)) {}
+    // made: the folders that were made for it, the innermost first.
+    FrameFolder(QString path, QStringList made) : _path(std::move(path)), _made(std::move(made)) {}
 
     QString add(const QImage& frame) override {
         const QString path =
             QDir(_path).filePath(QStringLiteral("%1.png").arg(++_count, 6, 10, QLatin1Char('0')));
         QByteArray bytes;
-        const QString wrong = encodePicture(frame, path, bytes);
-        return wrong.isEmpty() ? written(path, bytes) : wrong;
+        QString wrong = encodePicture(frame, path, bytes);
+        if (wrong.isEmpty())
+            wrong = written(path, bytes);
+        if (wrong.isEmpty())
+            _frames << path;
+        return wrong;
     }
     QString finish() override { return {}; }
+    void discard() override {
+        for (const QString& frame : std::as_const(_frames))
+            QFile::remove(frame);
+        for (const QString& folder : std::as_const(_made))
+            QDir().rmdir(folder);  // which takes empty ones only
+        _frames.clear();
+    }
 
 private:
-    QString _path;
+    const QString _path;
+    const QStringList _made;
+    QStringList _frames;
     int _count = 0;
 };
 
@@ -134,9 +159,10 @@ QString makeFrameTaker(const QString& path, std::unique_ptr<FrameTaker>& taker) 
             .arg(path);
 #endif
     }
+    const QStringList missing = missingFolders(path);
     if (!QDir().mkpath(path))
         return QStringLiteral("%1: the folder cannot be made").arg(path);
-    taker = std::make_unique<FrameFolder>(path);
+    taker = std::make_unique<FrameFolder>(path, missing);
     return {};
 }
 

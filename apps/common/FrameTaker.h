@@ -14,6 +14,8 @@ public:
     // Both give the message when it could not be done.
     virtual QString add(const QImage& frame) = 0;
     virtual QString finish() = 0;
+    // Takes back what was written, and nothing else.
+    virtual void discard() {}
 };
 
 // An animated WebP, or for any other name a folder of numbered PNG files. The message where that cannot be.

@@ -201,6 +201,24 @@ TEST_F(CanvasUndoTest, MarksOnlyWhatWasDrawnAndNotTooOften) {
     EXPECT_TRUE(imagesMatch(canvas->image(), before));
 }
 
+TEST_F(CanvasUndoTest, AStrokeBesideTheCanvasIsNone) {
+    const QImage before = paint(40);
+    canvas->setModified(false);
+    for (const std::int32_t brush : {0, 3}) {
+        canvas->setBrushType(brush);
+        canvas->setRadius(12);
+        paintThrough(*canvas, {{-30, 20}, {-30, 50}, {-30, 80}});
+        paintThrough(*canvas, {{-90, 40}, {-25, -25}, {40, -90}});  // about the corner
+        EXPECT_FALSE(canvas->isModified()) << brush;
+        EXPECT_EQ(canvas->undoManager().undoItems().size(), 1) << brush;
+        EXPECT_TRUE(imagesMatch(canvas->image(), before)) << brush;
+    }
+    canvas->setBrushType(0);
+    canvas->setSymmetry({.kind = SymmetryKind::vertical, .centreX = 0, .centreY = 0});
+    paintThrough(*canvas, {{-30, 20}, {-30, 50}, {-30, 80}});
+    EXPECT_EQ(canvas->undoManager().undoItems().size(), 2) << "by its copy";
+}
+
 // What no step holds yet is neither lost to undo nor to redo.
 TEST_F(CanvasUndoTest, UndoRecordsFirstWhatNoStepHolds) {
     struct Edit {

@@ -191,7 +191,10 @@ TEST_F(CanvasItemTest, ItIsShownAsTheWidgetIs) {
         y += 16;
         const auto shown = [&](dabcanvas::CanvasDisplay& canvas, QWindow& of, auto picture) {
             look.set(canvas);
-            canvas.setBrushType(y > 100 ? 4 : 0);  // the preview, too
+            canvas.setBrushType(y > 100 ? 4 : 0);  // the preview, too, and what is selected of it
+            QPainterPath selected;
+            selected.addRect(40, 0, y > 100 ? 150 : 999, 999);
+            canvas.setSelection(selected);
             stroke(of, Device::mouse, y, false);
             const QImage image = picture();
             QTest::mouseRelease(&of, Qt::LeftButton, {}, kPlace.topLeft() + QPoint(260, 100));

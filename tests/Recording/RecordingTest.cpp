@@ -150,6 +150,13 @@ private:
         _canvas.setViewTurn(share * 6.0, mirrored);
         _canvas.setSymmetry(
             {SymmetryKind(int(share * 100) % 5), share * kWidth, 50, 2 + int(share * 22), mirrored});
+        QPainterPath area;
+        if (mirrored || share < 0.3f)
+            area.addEllipse(QPointF(share * 100, 50), 70, 20 + share * 30);
+        if (share > 0.5f)
+            area.addRect(40.5, 20, 90, 70);
+        area.setFillRule(mirrored ? Qt::WindingFill : Qt::OddEvenFill);
+        _canvas.setSelection(area);
     }
     void ellipse() {
         ShapeRecord shape;

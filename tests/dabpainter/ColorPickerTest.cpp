@@ -3,6 +3,8 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointingDevice>
+#include <QTouchEvent>
 
 #include "Canvas/CanvasLayers.h"
 #include "Colour/ColorPanel.h"
@@ -111,6 +113,47 @@ TEST_F(ColorPickerTest, TurnedOnItTakesOneColour) {
     EXPECT_EQ(color().rgb(), qRgb(0, 60, 200));
     EXPECT_FALSE(picker().isActive());
     EXPECT_FALSE(picker().isVisible());
+}
+
+TEST_F(ColorPickerTest, FingersPickAsTheyMayPaintOrByATap) {
+    using Type = QInputDevice::DeviceType;
+    const QPointingDevice screen("screen", 31, Type::TouchScreen, QPointingDevice::PointerType::Finger,
+                                 QInputDevice::Capability::Position, 10, 0);
+    QDDrawView& view = *_window->view();
+    const auto touch = [&](QEvent::Type type, const QList<QPointF>& pixels) {
+        const auto state = type == QEvent::TouchBegin    ? QEventPoint::State::Pressed
+                           : type == QEvent::TouchUpdate ? QEventPoint::State::Updated
+                                                         : QEventPoint::State::Released;
+        QList<QEventPoint> points;
+        for (const QPointF& pixel : pixels) {
+            const QPointF at = _window->viewport().pointOfBuffer(pixel);
+            points << QEventPoint(int(points.size()) + 1, state, at, view.mapToGlobal(at));
+        }
+        QTouchEvent event(type, &screen, Qt::NoModifier, points);
+        QApplication::sendEvent(&view, &event);
+    };
+    const auto picks = [&](const QList<QPointF>& way) {
+        set(Qt::red);
+        picker().setOn(true);
+        touch(QEvent::TouchBegin, {way.first()});
+        for (const QPointF& to : way.mid(1))
+            touch(QEvent::TouchUpdate, {to});
+        touch(QEvent::TouchEnd, {way.last()});
+        return std::pair(color().rgb(), picker().isOn());
+    };
+    const auto before = view.displayImage();
+    const QRgb blue = qRgb(0, 60, 200), red = QColor(Qt::red).rgb();
+    EXPECT_EQ(picks({{50, 75}, {100, 75}, {150, 75}}), std::pair(blue, false));
+    picker().setOn(true);
+    set(Qt::red);
+    touch(QEvent::TouchBegin, {{150, 75}});
+    touch(QEvent::TouchUpdate, {{150, 75}, {60, 75}});
+    touch(QEvent::TouchEnd, {{150, 75}, {60, 75}});
+    EXPECT_EQ(std::pair(color().rgb(), picker().isOn()), std::pair(red, true)) << "a pinch picks nothing";
+    _window->settings().setTouch(TouchPolicy::pensOnly);
+    EXPECT_EQ(picks({{50, 75}, {100, 75}, {150, 75}}), std::pair(red, true)) << "it moves the canvas";
+    EXPECT_EQ(picks({{150, 75}}), std::pair(blue, false));
+    EXPECT_EQ(view.displayImage(), before) << "nothing was painted";
 }
 
 }  // namespace

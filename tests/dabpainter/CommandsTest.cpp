@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QKeySequenceEdit>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -73,6 +74,25 @@ TEST_F(CommandsTest, EveryKeyCallsOneCommandAndChosenOnesStay) {
     EXPECT_EQ(keys("file.save"), "Ctrl+S");
     _window->settings().write();
     EXPECT_FALSE(_settings->childGroups().contains("keys"));
+}
+
+TEST_F(CommandsTest, KeysAreChangedByTheKeyboardAlone) {
+    ShortcutsDialog dialog(commands());
+    dialog.show();
+    auto* search = dialog.findChild<QLineEdit*>();
+    auto* list = dialog.findChild<QTreeWidget*>();
+    auto* key = dialog.findChild<QKeySequenceEdit*>();
+    search->setText("Crop");
+    sendKey(*search, Qt::Key_Down);
+    ASSERT_TRUE(dialog.focusWidget() == list && list->currentItem());
+    EXPECT_EQ(list->currentItem()->text(0), "Crop to Drawn");
+    sendKey(*list, Qt::Key_Return);
+    ASSERT_EQ(dialog.focusWidget(), key);
+    sendKey(*key, Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(key->keySequence(), QKeySequence("Ctrl+K"));
+    sendKey(*key, Qt::Key_Escape);
+    EXPECT_TRUE(dialog.focusWidget() == list && dialog.isVisible());
+    EXPECT_EQ(key->keySequence(), QKeySequence()) << "it is no key, and takes back what was typed";
 }
 
 TEST_F(CommandsTest, AHeldKeyAndTheWayOfThePointerSizeTheBrush) {

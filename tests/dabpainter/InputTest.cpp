@@ -159,6 +159,9 @@ TEST_F(InputTest, EachBrushRemembersWhatSteadiesIt) {
     EXPECT_FALSE(control()->findChild<QSlider*>()->isEnabled());
     ASSERT_TRUE(_window->presets().choose(ink));
     EXPECT_EQ(onCanvas().length, 60);
+    _name = "India ink";
+    ASSERT_TRUE(_window->presets().rename(ink));
+    EXPECT_EQ(onCanvas().length, 60);
     _window->settings().write();
     makeWindow();
     EXPECT_EQ(onCanvas(), (StabiliserOptions{.kind = Stabilising::string, .length = 60}));

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Layers/LayerPanel.h"
 
+#include <QDockWidget>
 #include <QListWidget>
 #include <QSlider>
 
 #include "Canvas/CanvasLayers.h"
 #include "History/ImagesUndoManager.h"
+#include "Layers/LayerThumbnails.h"
 #include "PainterTest.h"
 #include "support/Images.h"
 
@@ -82,6 +84,58 @@ TEST_F(LayerPanelTest, WhatIsSetIsAStepAndShown) {
     while (!_window->view()->undo().isNull()) {
     }
     EXPECT_EQ(list->count(), 1);
+}
+
+TEST_F(LayerPanelTest, ThumbnailsShowEachLayerOnceAtRest) {
+    _window->findChild<QDockWidget*>("layerDock")->raise();
+    panel->addLayer();
+    const auto picture = [&](int row) { return list->item(row)->icon().pixmap(list->iconSize()).toImage(); };
+    // In the middle, where paint() leaves its mark, beside it, and two places of a chequerboard.
+    const auto dark = [&](int row) { return picture(row).pixelColor(20, 15).lightness() < 100; };
+    const auto comesToBe = [&](const auto& holds) { return waitFor(holds, 10 * LayerThumbnails::kRest); };
+    EXPECT_TRUE(comesToBe([&] { return picture(1).pixelColor(8, 8) == QColor(Qt::white); }));
+    EXPECT_TRUE(comesToBe([&] { return picture(0).pixelColor(6, 8) != picture(0).pixelColor(10, 8); }))
+        << "a hole";
+    const QSizeF scale = _window->view()->scale();
+    _window->view()->drawingWithBeginPoint({20 * scale.width(), 75 * scale.height()});
+    for (int x = 30; x < 180; x += 10)
+        _window->view()->drawingWithMoveToPoint({x * scale.width(), 75 * scale.height()});
+    EXPECT_FALSE(waitFor([&] { return dark(0); }, 2 * LayerThumbnails::kRest)) << "a stroke is in progress";
+    _window->view()->drawingWithEndPoint({180 * scale.width(), 75 * scale.height()});
+    EXPECT_TRUE(comesToBe([&] { return dark(0); }));
+    EXPECT_FALSE(dark(1));
+    list->setCurrentRow(1);
+    _window->view()->undo();
+    EXPECT_TRUE(comesToBe([&] { return !dark(0); })) << "undo changes the layer that is not painted on";
+}
+
+TEST_F(LayerPanelTest, CopiesHaveNamesOfTheirOwn) {
+    const auto before = steps();
+    for (const char* name : {"Background copy", "Background copy 2", "Background copy 3"}) {
+        panel->duplicateLayer();
+        EXPECT_EQ(list->currentItem()->text(), name);
+    }
+    EXPECT_EQ(steps(), before + 3) << "each with its name is one";
+}
+
+TEST_F(LayerPanelTest, OneLayerIsAlwaysHighlighted) {
+    panel->addLayer();
+    list->setCurrentRow(1);
+    const auto isMarked = [&] {
+        settle();
+        return list->selectedItems() == QList{list->item(1)} && layers().active() == 0;
+    };
+    QWidget& rows = *list->viewport();
+    const QPoint row = list->visualItemRect(list->item(1)).center(), below(row.x(), rows.height() - 3);
+    sendMouse(rows, QEvent::MouseButtonPress, row, Qt::ControlModifier);
+    sendMouse(rows, QEvent::MouseButtonRelease, row, Qt::ControlModifier);
+    EXPECT_TRUE(isMarked()) << "as Ctrl takes a selection back";
+    sendMouse(rows, QEvent::MouseButtonPress, below);
+    sendMouse(rows, QEvent::MouseMove, below - QPoint(30, 9));
+    sendMouse(rows, QEvent::MouseButtonRelease, below - QPoint(30, 9));
+    EXPECT_TRUE(isMarked()) << "with no row pressed";
+    sendKey(*list, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(isMarked());
 }
 
 }  // namespace

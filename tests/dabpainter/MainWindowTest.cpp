@@ -608,6 +608,9 @@ TEST_F(MainWindowTest, UndoAndRedoFollowTheCanvas) {
     QAction *undo = action("&Undo"), *redo = action("&Redo");
     EXPECT_FALSE(undo->isEnabled());
     const QImage blank = _window->view()->image();
+    drag({inView(-90, 20), inView(-90, 60), inView(-90, 90)});
+    drag({inView(-90, 20)});
+    EXPECT_FALSE(undo->isEnabled() || _window->isUnsaved()) << "a drag and a click beside the canvas";
     paint();
     const QImage stroke = _window->view()->image();
     _window->clearCanvas();
@@ -643,6 +646,7 @@ TEST_F(MainWindowTest, StrokesBecomeShapesWhileTheSwitchIsOn) {
     EXPECT_EQ(_window->statusBar()->currentMessage(), "No shape was recognised");
     EXPECT_FALSE(_window->view()->canUndo());
     paint();
+    EXPECT_EQ(_window->statusBar()->currentMessage(), "");
     EXPECT_TRUE(_window->isUnsaved());
     EXPECT_LT(pixel(100, 75).lightness(), 200);
     shapes->trigger();

@@ -3,8 +3,12 @@
 #pragma once
 
 #include <QApplication>
+#include <QDeadlineTimer>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QThread>
 #include <memory>
 #include <optional>
 
@@ -54,7 +58,8 @@ protected:
             _offered = int(pictures.size());
             return std::optional(pictures.first());
         };
-        prompts.pickRecordingName = prompts.pickTimelapseName = [this](QWidget*) { return _saveName; };
+        prompts.pickRecordingName = [this](QWidget*) { return _saveName; };
+        prompts.pickTimelapseName = [this](QWidget*, const QString&) { return _saveName; };
         prompts.askLoss = [this](QWidget*, Document::Loss loss) {
             _losses.push_back(loss);
             return _lossAnswer;
@@ -109,6 +114,32 @@ inline QVariant otherValue(const BrushProperty& property, const QVariant& now) {
         return "other";
     const QVariant one = someValue(property, 2);
     return one == now ? someValue(property, 1) : one;
+}
+
+// Whether it comes to hold in so many milliseconds.
+template <typename Holds>
+bool waitFor(const Holds& holds, int milliseconds) {
+    const QDeadlineTimer patience(milliseconds);
+    while (!holds() && !patience.hasExpired()) {
+        QThread::msleep(2);
+        QApplication::processEvents();
+    }
+    return holds();
+}
+
+// As the window system would.
+inline void sendMouse(QWidget& to, QEvent::Type type, QPointF at, Qt::KeyboardModifiers held = {}) {
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, to.mapToGlobal(at), button,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, held);
+    QApplication::sendEvent(&to, &event);
+}
+
+inline void sendKey(QWidget& to, int key, Qt::KeyboardModifiers held = {}, const QString& text = {}) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, held, text);
+        QApplication::sendEvent(&to, &event);
+    }
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -505,11 +505,25 @@ TEST_F(PresetBrowserTest, StarsAndTagsSayWhichAreListed) {
     presets().setFavourite(stone, true);
     _name = "Gravel";
     ASSERT_TRUE(presets().rename(stone));
+    EXPECT_EQ(choose("Dry"), QStringList("Gravel")) << "at once";
+    EXPECT_EQ(choose("Favourites"), QStringList({"Gravel", "Soft cloud"}));
     _window->settings().write();
     makeWindow();
     EXPECT_EQ(shownNames().size(), 1) << "both, of which the first is Gravel";
     EXPECT_TRUE(presets().isFavourite(presets().chosen()));
     EXPECT_EQ(presets().kinds()->currentText(), "Favourites");
+
+    // What has gone is forgotten, unless its folder may come back.
+    _window->settings().write();
+    const QString elsewhere = "0|" + path("away/there.xbf");
+    _settings->setValue("preset/favourites", _settings->value("preset/favourites").toStringList()
+                                                 << elsewhere);
+    ASSERT_TRUE(QFile::remove(path("brushes/Soft cloud.xbf")));
+    makeWindow();
+    _window->settings().noteChange();
+    _window->settings().write();
+    EXPECT_EQ(_settings->value("preset/favourites").toStringList(),
+              QStringList({elsewhere, "0|" + presets().chosen().path}));
 }
 
 }  // namespace

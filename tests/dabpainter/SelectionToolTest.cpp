@@ -7,6 +7,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QStatusBar>
 
 #include "History/ImagesUndoManager.h"
 #include "PainterTest.h"
@@ -91,10 +92,31 @@ TEST_F(SelectionToolTest, AreaIsDrawnJoinedAndDropped) {
     drag({{150, 20}});
     EXPECT_TRUE(editor.area().isEmpty()) << "a click";
     EXPECT_TRUE(imagesMatch(_window->view()->image(), red));
-    run("select.lasso");
-    run("select.all");
-    paint();
-    EXPECT_TRUE(editor.area().isEmpty()) << "which is not what is painted on";
+}
+
+TEST_F(SelectionToolTest, StrokesKeepToIt) {
+    SelectionEditor& editor = _window->selection();
+    const auto changed = [&] {
+        QImage now = _window->view()->image();
+        for (int y = 0; y < now.height(); ++y)
+            for (int x = 0; x < now.width(); ++x)
+                now.setPixelColor(x, y, now.pixel(x, y) == red.pixel(x, y) ? Qt::transparent : Qt::red);
+        return painted(now);
+    };
+    editor.select(rectangleArea({0, 0}, {100, 150}), AreaMode::replace);
+    drag({{160, 20}, {170, 60}, {160, 120}});
+    EXPECT_FALSE(_window->view()->canUndo()) << "nothing was painted";
+    drag({{150, 120}, {120, 120}, {60, 120}});
+    EXPECT_EQ(changed().right(), 99);
+    run("edit.undo");
+    run("select.invert");
+    drag({{150, 120}, {120, 120}, {60, 120}});
+    EXPECT_EQ(changed().left(), 100);
+    EXPECT_EQ(editor.area().boundingRect(), QRectF(100, 0, 100, 150));
+    run("edit.undo");
+    key(Qt::Key_Escape);
+    drag({{150, 120}, {120, 120}, {60, 120}});
+    EXPECT_LT(changed().left(), 70);
 }
 
 TEST_F(SelectionToolTest, WhatIsSelectedIsDraggedNudgedAndGivenUp) {
@@ -104,7 +126,9 @@ TEST_F(SelectionToolTest, WhatIsSelectedIsDraggedNudgedAndGivenUp) {
     EXPECT_TRUE(imagesMatch(_window->view()->image(), red));
     key(Qt::Key_Right);
     key(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_TRUE(_window->statusBar()->currentMessage().contains("Escape"));
     key(Qt::Key_Return);
+    EXPECT_EQ(_window->statusBar()->currentMessage(), "") << "Escape does no such thing any more";
     EXPECT_EQ(where(), QRect(71, 60, 30, 20)) << "and paper where it was";
     EXPECT_EQ(steps(), 1);
     drag({{75, 65}, {20, 20}, {30, 30}});

@@ -11,7 +11,9 @@
 #include "PainterTest.h"
 #include "Recording/RecordingPlayer.h"
 #include "Recording/RecordingReader.h"
+#include "Recording/RecordingSign.h"
 #include "Recording/TimelapseExport.h"
+#include "WebpPicture.h"
 #include "Window/Commands.h"
 #include "support/Files.h"
 #include "support/Images.h"
@@ -42,7 +44,10 @@ protected:
 TEST_F(SessionRecorderTest, AnExportedSessionPlaysToTheSameBytes) {
     trigger("recording.export");
     EXPECT_EQ(_told.size(), 1) << "nothing was recorded";
+    const auto isSignShown = [this] { return _window->findChild<RecordingSign*>()->isVisible(); };
+    EXPECT_FALSE(isSignShown());
     trigger("recording.record");
+    EXPECT_TRUE(isSignShown());
     for (const SurfaceKind kind : {SurfaceKind::processor, SurfaceKind::gpu}) {
         _window->settings().setSurface(kind);
         ASSERT_TRUE(_window->startCanvas({QSize(200, 150), Qt::yellow, true}));
@@ -68,6 +73,17 @@ TEST_F(SessionRecorderTest, AnExportedSessionPlaysToTheSameBytes) {
     makeWindow();
     EXPECT_TRUE(_window->commands().find("recording.record")->action->isChecked()) << "it is remembered";
     EXPECT_FALSE(exported().events.empty());
+    EXPECT_TRUE(isSignShown());
+    trigger("recording.record");
+    EXPECT_FALSE(isSignShown());
+}
+
+TEST_F(SessionRecorderTest, ATimelapseIsNamedAfterThePicture) {
+    const QString suffix = hasWebp() ? ".webp" : "";
+    EXPECT_EQ(TimelapseExport::suggestedPath({}), "session" + suffix);
+    EXPECT_EQ(TimelapseExport::suggestedPath(path("a.b.ora")), path("a.b") + suffix);
+    EXPECT_EQ(TimelapseExport::suggestedPath(path("a") + suffix), path("a-timelapse") + suffix)
+        << "not onto the picture itself";
 }
 
 TEST_F(SessionRecorderTest, ATimelapseShowsEachStrokeUnlessItIsCancelled) {
@@ -80,8 +96,11 @@ TEST_F(SessionRecorderTest, ATimelapseShowsEachStrokeUnlessItIsCancelled) {
         canvas->drawingWithEndPoint({160, y});
     }
     session.stop();
-    for (const bool cancels : {false, true}) {
-        const QString folder = path(cancels ? "none" : "frames");
+    ASSERT_TRUE(QDir().mkdir(path("others")));
+    writtenTo(path("others/notes.txt"), "of another's");
+    for (const auto& [name, left] : {std::pair("frames", 4), {"made/for/it", 0}, {"others", 1}}) {
+        const QString folder = path(name);
+        const bool cancels = left != 4;
         TimelapseExport timelapse(session.recorded(), folder);
         QString fault = "never";
         QEventLoop loop;
@@ -90,13 +109,15 @@ TEST_F(SessionRecorderTest, ATimelapseShowsEachStrokeUnlessItIsCancelled) {
             loop.quit();
         });
         QTimer::singleShot(30000, &loop, &QEventLoop::quit);
-        if (cancels)
-            timelapse.cancel();
+        if (cancels)  // with a frame written already
+            QObject::connect(&timelapse, &TimelapseExport::progressed, &timelapse, &TimelapseExport::cancel,
+                             Qt::DirectConnection);
         timelapse.start();
         loop.exec();
         EXPECT_EQ(fault, QString());
-        EXPECT_EQ(QDir(folder).entryList(QDir::Files).size(), cancels ? 0 : 4) << "one a stroke, and the end";
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files).size(), left) << "one a stroke, and the end";
     }
+    EXPECT_FALSE(QFileInfo::exists(path("made")));
     EXPECT_EQ(QImage(path("frames/000004.png")).convertToFormat(QImage::Format_RGBA8888_Premultiplied),
               canvas->image());
     EXPECT_FALSE(painted(QImage(path("frames/000001.png"))).contains(20, 110));

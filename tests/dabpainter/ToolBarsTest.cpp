@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QAction>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QToolBar>
 #include <cmath>
@@ -79,6 +81,36 @@ TEST_F(ToolBarsTest, SlidersFollowTheBrushAndMoveIt) {
         size.setValue(before);
         EXPECT_NEAR(_window->brush().value(BrushKey::radius).toFloat(), radius, 0.012 * radius + 0.05);
     }
+}
+
+TEST_F(ToolBarsTest, NumbersAreTyped) {
+    ValueSlider& size = *_window->brushBar().size();
+    size.setLocale(QLocale(QLocale::German));
+    const auto radius = [this] { return _window->brush().value(BrushKey::radius).toFloat(); };
+    const auto type = [&](const QString& text, int end) {
+        auto* field = size.findChild<QDoubleSpinBox*>();
+        ASSERT_TRUE(field);
+        field->findChild<QLineEdit*>()->setText(text);
+        sendKey(*field, end);
+        settle();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    _window->brush().setValue(BrushKey::radius, 20.0f);
+    for (const auto press :
+         {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick})
+        sendMouse(size, press, {5, 8});
+    EXPECT_EQ(radius(), 20) << "the first of two clicks is no value";
+    type("12,5", Qt::Key_Return);
+    EXPECT_EQ(radius(), 12.5f);
+    for (const int opens : {Qt::Key_F2, Qt::Key_Enter}) {
+        sendKey(size, opens);
+        type("77", Qt::Key_Escape);
+        EXPECT_EQ(radius(), 12.5f);
+    }
+    sendKey(size, Qt::Key_F2);
+    type("1200 px", Qt::Key_Enter);
+    EXPECT_EQ(radius(), 1200) << "beyond the slider's end";
+    EXPECT_FALSE(size.findChild<QDoubleSpinBox*>());
 }
 
 TEST_F(ToolBarsTest, TipsTellTheKeysThatTheUserChose) {

@@ -5,12 +5,15 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QListWidget>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QSlider>
 #include <QToolButton>
 
 #include "Brush/BrushPresentation.h"
 #include "Canvas/CanvasLayers.h"
+#include "Layers/LayerNames.h"
+#include "Layers/LayerThumbnails.h"
 #include "QDEAGLView/QDDrawView.h"
 
 namespace dabcanvas::dabpainter {
@@ -18,15 +21,47 @@ namespace dabcanvas::dabpainter {
 namespace {
 
 constexpr int kMargin = 8;
+constexpr QSize kThumbnail(44, 30);  // points
+
+// Of a row that is chosen no other than of the rest: colours are to be compared.
+QIcon iconOf(const QImage& thumbnail, qreal ratio) {
+    QPixmap picture(kThumbnail * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    const QSizeF size = QSizeF(thumbnail.size()) / thumbnail.devicePixelRatio();
+    painter.drawImage(QPointF(0, int(kThumbnail.height() - size.height()) / 2), thumbnail);
+    painter.end();
+    QIcon icon;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected, QIcon::Active})
+        icon.addPixmap(picture, mode);
+    return icon;
+}
 
 QString nameOf(const LayerSettings& settings, int layer) {
     return settings.name.isEmpty() && layer == 0 ? LayerPanel::tr("Background") : settings.name;
 }
 
+// What is edited meanwhile is undone together.
+class OneStep {
+public:
+    explicit OneStep(QDDrawView& view) : _view(view) { _view.setAutoMark(false); }
+    ~OneStep() {
+        _view.markAction();
+        _view.setAutoMark(true);
+    }
+    OneStep(const OneStep&) = delete;
+    OneStep& operator=(const OneStep&) = delete;
+
+private:
+    QDDrawView& _view;
+};
+
 }  // namespace
 
 LayerPanel::LayerPanel(QWidget* parent)
     : QWidget(parent),
+      _thumbnails(new LayerThumbnails(this)),
       _list(new QListWidget),
       _mode(new QComboBox),
       _opacity(new QSlider(Qt::Horizontal)),
@@ -35,6 +70,7 @@ LayerPanel::LayerPanel(QWidget* parent)
         _mode->addItem(choiceLabel(choice), choice.value);
     _opacity->setRange(0, 100);
     _lock->setToolTip(tr("Strokes change its colours alone"));
+    _list->setIconSize(kThumbnail);
     _list->setAccessibleName(tr("Layers"));
     _mode->setAccessibleName(tr("Blend mode of the layer"));
     _opacity->setAccessibleName(tr("Opacity of the layer"));
@@ -77,8 +113,10 @@ void LayerPanel::connectEdits() {
         emit aboutToEdit();
         _view->layers().setActive(layerOf(row));
     });
+    connect(_list, &QListWidget::itemSelectionChanged, this, &LayerPanel::keepSelected);
     connect(_list, &QListWidget::itemChanged, this,
             [this](QListWidgetItem* item) { takeRow(_list->row(item)); });
+    connect(_thumbnails, &LayerThumbnails::changed, this, &LayerPanel::showThumbnail);
     connect(_mode, &QComboBox::activated, this, [this](int index) {
         change(active(),
                [&](LayerSettings& settings) { settings.blendType = _mode->itemData(index).toUInt(); });
@@ -94,6 +132,7 @@ void LayerPanel::setView(QDDrawView* view) {
     if (_view)
         disconnect(_view, nullptr, this, nullptr);
     _view = view;
+    _thumbnails->setView(view);
     if (_view)
         connect(_view, &QDDrawView::layersChanged, this, &LayerPanel::showLayers);
     showLayers();
@@ -125,10 +164,28 @@ void LayerPanel::showLayers() {
         item->setText(nameOf(settings, layer));
         item->setCheckState(settings.isVisible ? Qt::Checked : Qt::Unchecked);
         item->setToolTip(tr("Ticked layers are seen; a double click names one"));
+        showThumbnail(layer);
     }
     setEnabled(count > 0);
     if (count > 0)
         showActive();
+}
+
+void LayerPanel::showThumbnail(int layer) {
+    const QScopedValueRollback showing(_showing, true);
+    if (QListWidgetItem* item = _list->item(layerOf(layer)))
+        item->setIcon(iconOf(_thumbnails->of(layer), devicePixelRatioF()));
+}
+
+void LayerPanel::showEvent(QShowEvent* event) {
+    _thumbnails->setLook(kThumbnail, devicePixelRatioF());
+    _thumbnails->setOn(true);
+    QWidget::showEvent(event);
+}
+
+void LayerPanel::hideEvent(QHideEvent* event) {
+    _thumbnails->setOn(false);
+    QWidget::hideEvent(event);
 }
 
 void LayerPanel::showActive() {
@@ -144,6 +201,12 @@ void LayerPanel::showActive() {
     _up->setEnabled(layer + 1 < count);
     _down->setEnabled(layer > 0);
     emit activeChanged(layer);
+}
+
+// A press below the rows, or one with Ctrl, selects none; but there is always one that is painted on.
+void LayerPanel::keepSelected() {
+    if (!_showing && _view && _list->selectedItems().isEmpty())
+        _list->setCurrentRow(layerOf(active()));
 }
 
 // ---- Editing
@@ -191,8 +254,19 @@ void LayerPanel::addLayer() {
 
 void LayerPanel::duplicateLayer() {
     emit aboutToEdit();
-    if (_view)
-        _view->layers().duplicate(active());
+    if (!_view)
+        return;
+    auto layers = _view->layers();
+    QStringList taken;
+    for (int i = 0; i < layers.count(); ++i)
+        taken << nameOf(layers.settings(i), i);
+    const int layer = layers.active();
+    const OneStep step(*_view);
+    if (!layers.duplicate(layer))
+        return;
+    LayerSettings settings = layers.settings(layer + 1);
+    settings.name = copyName(taken[layer], taken);
+    layers.setSettings(layer + 1, settings);
 }
 
 void LayerPanel::removeLayer() {

@@ -17,6 +17,8 @@ class QToolButton;
 
 namespace dabcanvas::dabpainter {
 
+class LayerThumbnails;
+
 // The layers of the picture, the topmost first: which one is painted on, what they are, and what becomes of them. All of it
 // is the canvas's; this shows it, and is shown anew when it changes.
 class LayerPanel : public QWidget {
@@ -36,6 +38,10 @@ signals:
     void aboutToEdit();  // so that a stroke in progress ends before
     void activeChanged(int layer);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
 private:
     void makeLayout();
     QToolButton* addButton(Glyph sign, const QString& toolTip, void (LayerPanel::*act)());
@@ -43,7 +49,9 @@ private:
     void down() { moveLayer(-1); }
     void connectEdits();
     void showLayers();
+    void showThumbnail(int layer);
     void showActive();
+    void keepSelected();
     int active() const;
     int layerOf(int row) const;
     void takeRow(int row);
@@ -53,6 +61,7 @@ private:
     void endOpacity();
 
     QPointer<QDDrawView> _view;
+    LayerThumbnails* _thumbnails;
     QListWidget* _list;
     QComboBox* _mode;
     QSlider* _opacity;

@@ -2,26 +2,23 @@
 #include "Presets/PresetBrowser.h"
 
 #include <QAction>
-#include <QComboBox>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
-#include <QMenu>
 #include <QMimeData>
 #include <QSettings>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
 #include "Brush/BrushDrops.h"
-#include "Preset/QDBrushManager.h"
 #include "Presets/PresetFilter.h"
+#include "Presets/PresetKinds.h"
 #include "Presets/PresetList.h"
+#include "Presets/PresetListView.h"
+#include "Presets/PresetMenu.h"
 #include "Window/Widgets.h"
 
 namespace dabcanvas::dabpainter {
@@ -45,17 +42,20 @@ PresetBrowser::PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFo
       _isIdle(std::move(isIdle)),
       _library(std::move(folders)),
       _previews(_isIdle),
+      _choice(brush, prompts, _library, *this),
       _model(new PresetListModel(_library, _previews, _infos, this)),
       _filtered(new PresetFilter(this)),
-      _list(new QListView),
+      _list(new PresetListView),
       _search(new QLineEdit),
-      _kinds(new QComboBox),
+      _kinds(new PresetKinds),
       _status(new QLabel),
       _nothing(new QLabel(_list)),
-      _menu(new QMenu(this)) {
+      _menu(new PresetMenu(_choice, this)) {
     _filtered->setSourceModel(_model);
-    makeActions();
     makeLayout();
+    connectList();
+    connectMenu();
+    connectChoice();
     setAcceptDrops(true);
     // Both once, however many settings or files have changed.
     _changeTimer.setSingleShot(true);
@@ -66,39 +66,9 @@ PresetBrowser::PresetBrowser(BrushModel& brush, const Prompts& prompts, PresetFo
     connect(&_brush, &BrushModel::changed, &_changeTimer, qOverload<>(&QTimer::start));
     connect(&_brush, &BrushModel::presetChanged, &_changeTimer, qOverload<>(&QTimer::start));
     connect(&_watcher, &QFileSystemWatcher::directoryChanged, &_refreshTimer, qOverload<>(&QTimer::start));
-    connect(&_infos, &PresetInfos::changed, this, &PresetBrowser::listKinds);
+    connect(&_infos, &PresetInfos::changed, this,
+            [this] { _kinds->setTags(_infos.tags(_library.presets())); });
     refresh();
-}
-
-QAction* PresetBrowser::add(const QString& text, const std::function<void()>& act) {
-    auto* action = _menu->addAction(text);
-    connect(action, &QAction::triggered, this, act);
-    return action;
-}
-
-void PresetBrowser::makeActions() {
-    _save = add(tr("Save as &New Brush…"), [this] { saveNew(); });
-    _overwrite = add(tr("&Overwrite with Present Settings…"), [this] { overwrite(_target); });
-    _rename = add(tr("&Rename…"), [this] { rename(_target); });
-    _remove = add(tr("&Delete…"), [this] { remove(_target); });
-    _favourite = add(tr("&Favourite"), [this] { setFavourite(_target, !isFavourite(_target)); });
-    _favourite->setCheckable(true);
-    _menu->addSeparator();
-    _import = add(tr("&Import Brushes…"), [this] { importFiles(_prompts.pickBrushes(window())); });
-    _export = add(tr("&Export…"), [this] { exportTo(_target); });
-    add(tr("Show &Folder"), [this] {
-        QDir().mkpath(_library.folders().own);
-        _prompts.showFolder(_library.folders().own);
-    });
-    _menu->addSeparator();
-    _setsColors = add(tr("Presets Set the &Colour"), [] {});
-    _setsColors->setCheckable(true);
-    connect(_setsColors, &QAction::toggled, this, [this](bool on) {
-        _brush.setPresetsSetColors(on);
-        setOwnLook();
-        showChosen();
-        emit stateChanged();
-    });
 }
 
 void PresetBrowser::makeLayout() {
@@ -106,13 +76,6 @@ void PresetBrowser::makeLayout() {
     _search->setPlaceholderText(tr("Search brushes"));
     _search->setAccessibleName(_search->placeholderText());
     _search->setClearButtonEnabled(true);
-    _kinds->setObjectName(QStringLiteral("presetKinds"));
-    _kinds->setAccessibleName(tr("Kind of brushes"));
-    _kinds->setToolTip(tr("Which brushes are listed"));
-    _kinds->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    _kinds->setMinimumWidth(70);
-    _kinds->view()->setMinimumWidth(130);
-    guardFromWheel(_kinds);
     auto* save = new GlyphButton(Glyph::add, tr("Save the present settings as a new brush"));
     auto* more = new GlyphButton(Glyph::menu, tr("More to do with the chosen brush"));
     auto* line = new QHBoxLayout;
@@ -122,25 +85,7 @@ void PresetBrowser::makeLayout() {
     line->addWidget(save);
     line->addWidget(more);
 
-    _list->setObjectName(QStringLiteral("presets"));
-    _list->setAccessibleName(tr("Brushes"));
     _list->setModel(_filtered);
-    _list->setItemDelegate(new PresetDelegate(_list));
-    _list->setViewMode(QListView::IconMode);
-    _list->setMovement(QListView::Static);
-    _list->setResizeMode(QListView::Adjust);
-    _list->setUniformItemSizes(true);
-    _list->setSelectionMode(QAbstractItemView::SingleSelection);
-    _list->setDragDropMode(QAbstractItemView::DragOnly);
-    _list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    _list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    _list->setMouseTracking(true);
-    _list->setContextMenuPolicy(Qt::CustomContextMenu);
-    // A click leaves the keyboard to the canvas.
-    _list->setFocusPolicy(Qt::TabFocus);
-    _list->installEventFilter(this);
-    _list->viewport()->installEventFilter(this);
-    _list->setMinimumHeight(72);
     _nothing->setAlignment(Qt::AlignCenter);
     _nothing->setWordWrap(true);
     _nothing->setEnabled(false);
@@ -158,26 +103,79 @@ void PresetBrowser::makeLayout() {
     layout->addWidget(_list, 1);
     layout->addWidget(_status);
 
+    connect(save, &QToolButton::clicked, &_choice, &PresetChoice::saveNew);
+    connect(more, &QToolButton::clicked, this,
+            [this, more] { popUp(chosen(), more->mapToGlobal(QPoint(0, more->height()))); });
+}
+
+void PresetBrowser::connectList() {
     connect(_search, &QLineEdit::textChanged, this, [this](const QString& text) {
         _filtered->setText(text);
         showNothing();
     });
-    connect(_kinds, &QComboBox::activated, this, [this] {
-        _wantedKind = _kinds->currentData().toString();
-        chooseKind();
-        emit stateChanged();
+    connect(_kinds, &PresetKinds::chosen, this, [this](PresetFilter::Kind kind, const QString& tag) {
+        _filtered->setKind(kind, tag);
+        showNothing();
     });
-    connect(save, &QToolButton::clicked, this, &PresetBrowser::saveNew);
-    connect(more, &QToolButton::clicked, this,
-            [this, more] { popUp(_chosen, more->mapToGlobal(QPoint(0, more->height()))); });
+    connect(_kinds, &PresetKinds::wantedChanged, this, &PresetBrowser::stateChanged);
+    connect(_list, &PresetListView::chosenByKey, this, [this](const QModelIndex& at) { choose(idAt(at)); });
+    connect(_list, &PresetListView::removedByKey, this, [this](const QModelIndex& at) { remove(idAt(at)); });
+    connect(_list, &PresetListView::starPressed, this, [this](const QModelIndex& at) {
+        const PresetId id = idAt(at);
+        setFavourite(id, !isFavourite(id));
+    });
     connect(_list, &QListView::clicked, this, [this](const QModelIndex& at) {
         choose(idAt(at));
         emit chosenByPointer();
     });
     connect(_list, &QListView::customContextMenuRequested, this, [this](const QPoint& at) {
         const QModelIndex index = _list->indexAt(at);
-        popUp(index.isValid() ? idAt(index) : _chosen, _list->viewport()->mapToGlobal(at));
+        popUp(index.isValid() ? idAt(index) : chosen(), _list->viewport()->mapToGlobal(at));
     });
+}
+
+void PresetBrowser::connectMenu() {
+    connect(_menu, &PresetMenu::importWanted, this, [this] { importFiles(_prompts.pickBrushes(window())); });
+    connect(_menu, &PresetMenu::folderWanted, this, [this] {
+        QDir().mkpath(_library.folders().own);
+        _prompts.showFolder(_library.folders().own);
+    });
+    connect(_menu, &PresetMenu::favouriteWanted, this, &PresetBrowser::setFavourite);
+    connect(_menu->setsColors(), &QAction::toggled, this, [this](bool on) {
+        _brush.setPresetsSetColors(on);
+        setOwnLook();
+        showChosen();
+        emit stateChanged();
+    });
+}
+
+void PresetBrowser::connectChoice() {
+    connect(&_choice, &PresetChoice::aboutToUseBrush, this, &PresetBrowser::aboutToUseBrush);
+    connect(&_choice, &PresetChoice::filesChanged, this, &PresetBrowser::refresh);
+    connect(&_choice, &PresetChoice::damaged, _model, &PresetListModel::setProblem);
+    connect(&_choice, &PresetChoice::moved, this, &PresetBrowser::follow);
+    connect(&_choice, &PresetChoice::renamed, this, &PresetBrowser::renamed);
+    connect(&_choice, &PresetChoice::changed, this, [this] {
+        emit stateChanged();
+        showChosen();
+        scrollToChosen();
+    });
+}
+
+QAction* PresetBrowser::saveAction() const {
+    return _menu->saveAction();
+}
+
+QAction* PresetBrowser::importAction() const {
+    return _menu->importAction();
+}
+
+QListView* PresetBrowser::list() const {
+    return _list;
+}
+
+QComboBox* PresetBrowser::kinds() const {
+    return _kinds;
 }
 
 // ---- The list
@@ -187,48 +185,7 @@ PresetId PresetBrowser::idAt(const QModelIndex& index) const {
     return preset ? preset->id : PresetId();
 }
 
-bool PresetBrowser::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == _list->viewport())
-        return filterStar(*event);
-    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    // In the list these mean the preset, not the canvas.
-    const int pressed = static_cast<QKeyEvent*>(event)->key();
-    if (pressed != Qt::Key_Delete && pressed != Qt::Key_Return && pressed != Qt::Key_Enter &&
-        pressed != Qt::Key_Asterisk)
-        return false;
-    event->accept();
-    const QModelIndex current = _list->currentIndex();
-    if (event->type() != QEvent::KeyPress || !current.isValid())
-        return true;
-    const PresetId id = idAt(current);
-    if (pressed == Qt::Key_Asterisk)
-        setFavourite(id, !isFavourite(id));
-    else
-        pressed == Qt::Key_Delete ? remove(id) : choose(id);
-    return true;
-}
-
-// A press on a star is one on nothing else.
-bool PresetBrowser::filterStar(const QEvent& event) {
-    const bool isPress =
-        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
-    if (event.type() == QEvent::MouseButtonRelease)
-        return std::exchange(_starPressed, false);
-    if (!isPress)
-        return false;
-    const auto& mouse = static_cast<const QMouseEvent&>(event);
-    const QPoint at = mouse.position().toPoint();
-    const QModelIndex index = _list->indexAt(at);
-    const PresetId id = idAt(index);
-    _starPressed = mouse.button() == Qt::LeftButton && !id.path.isEmpty() &&
-                   PresetDelegate::starRect(_list->visualRect(index)).contains(at);
-    if (_starPressed)
-        setFavourite(id, !isFavourite(id));
-    return _starPressed;
-}
-
-// ---- Kinds
+// ---- Favourites
 
 bool PresetBrowser::isFavourite(const PresetId& id) const {
     return _model->favourites().has(id);
@@ -244,49 +201,14 @@ void PresetBrowser::setFavourite(const PresetId& id, bool on) {
     emit stateChanged();
 }
 
-static QString capitalised(const QString& word) {
-    return word.left(1).toUpper() + word.mid(1);
-}
-
-// All, favourites, and the tags that there are.
-void PresetBrowser::listKinds() {
-    const QSignalBlocker quiet(_kinds);
-    _kinds->clear();
-    _kinds->addItem(tr("All"), QString());
-    _kinds->addItem(tr("Favourites"), QString(QLatin1Char('*')));
-    for (const QString& tag : _infos.tags(_library.presets()))
-        _kinds->addItem(capitalised(trOfTable(tag)), tag);
-    chooseKind();
-}
-
-// One that is not there, or not yet, is all of them.
-void PresetBrowser::chooseKind() {
-    const int index = std::max(0, _kinds->findData(_wantedKind));
-    _kinds->setCurrentIndex(index);
-    _filtered->setKind(index == 0   ? PresetFilter::Kind::all
-                       : index == 1 ? PresetFilter::Kind::favourites
-                                    : PresetFilter::Kind::tagged,
-                       _kinds->currentData().toString());
-    showNothing();
-}
-
 void PresetBrowser::popUp(const PresetId& target, const QPoint& at) {
-    const Preset* preset = _library.find(target);
-    const bool isWhole = preset && preset->problem.isEmpty();
-    _target = target;
-    _overwrite->setEnabled(preset && preset->own && preset->siblings == 0);
-    _rename->setEnabled(preset && preset->isEditable());
-    _remove->setEnabled(preset && preset->own);
-    _export->setEnabled(isWhole);
-    _favourite->setEnabled(preset);
-    _favourite->setChecked(preset && isFavourite(target));
-    _menu->popup(at);
+    _menu->popUp(_library.find(target), isFavourite(target), at);
 }
 
 void PresetBrowser::refresh() {
     _model->refresh();
     _infos.read(_library.presets());
-    listKinds();
+    _kinds->setTags(_infos.tags(_library.presets()));
     QStringList folders = _library.folders().installed;
     folders << _library.folders().own;
     for (const QString& folder : folders) {
@@ -305,7 +227,7 @@ void PresetBrowser::showNothing() {
 }
 
 void PresetBrowser::scrollToChosen() {
-    const int row = _model->rowOf(_chosen);
+    const int row = _model->rowOf(chosen());
     if (row >= 0)
         _list->scrollTo(_filtered->mapFromSource(_model->index(row)));
 }
@@ -333,218 +255,51 @@ void PresetBrowser::dropEvent(QDropEvent* event) {
     importFiles(brushAndPictureFilesOf(*event->mimeData()));
 }
 
-void PresetBrowser::setChosen(const PresetId& id, const QString& name) {
-    if (_chosen != id)
-        _previous = _chosen;
-    _chosen = id;
-    _chosenName = name;
-    emit stateChanged();
-    showChosen();
-    scrollToChosen();
-}
-
 void PresetBrowser::showChosen() {
     _changeTimer.stop();
     const bool modified = _brush.isModified();
-    const Preset* known = _library.find(_chosen);
-    const QString name = _chosen.path.isEmpty() ? tr("Plain") : known ? known->shownName() : _chosenName;
+    const Preset* known = _library.find(chosen());
+    const QString name = chosen().path.isEmpty() ? tr("Plain") : known ? known->shownName() : chosenName();
     const QString text = modified ? tr("%1 – modified").arg(name) : name;
     _status->setText(text);
     _status->setToolTip(text);
-    _model->setChosen(_chosen, modified);
+    _model->setChosen(chosen(), modified);
 }
 
-bool PresetBrowser::succeeds(const QString& fault) {
-    if (!fault.isEmpty())
-        _prompts.tell(window(), fault);
-    return fault.isEmpty();
-}
-
-// ---- What can be done
-
-bool PresetBrowser::choose(const PresetId& id) {
-    emit aboutToUseBrush();
-    if (id.path.isEmpty()) {
-        const QVariant color = _brush.value(BrushKey::renderColor);
-        const QVariant second = _brush.value(BrushKey::backRenderColor);
-        _brush.comesFrom({});
-        _brush.resetAll();
-        _brush.setValue(BrushKey::renderColor, color);
-        _brush.setValue(BrushKey::backRenderColor, second);
-        setChosen({}, {});
-        return true;
-    }
-    BrushPreset content;
-    const QString fault = _library.read(id, content);
-    if (!succeeds(fault)) {
-        refresh();
-        _model->setProblem(id, fault);
-        return false;
-    }
-    if (!_brush.takePreset(content))
-        return false;
-    const Preset* preset = _library.find(id);
-    setChosen(id, preset ? preset->name : QFileInfo(id.path).completeBaseName());
-    return true;
-}
-
-bool PresetBrowser::choosePrevious() {
-    return (_previous.path.isEmpty() || _library.find(_previous)) && choose(_previous);
-}
-
-bool PresetBrowser::chooseShipped(const QString& fileName) {
-    const auto found = std::ranges::find_if(_library.presets(), [&](const Preset& preset) {
-        return !preset.own && QFileInfo(preset.id.path).fileName() == fileName;
-    });
-    return found != _library.presets().end() && choose(PresetId(found->id));
-}
-
-std::function<void()> PresetBrowser::keep() {
-    return [this, held = _brush.hold(), id = _chosen, name = _chosenName] {
-        emit aboutToUseBrush();
-        if (!_brush.takeUp(held))
-            return;
-        const bool isThere = _library.find(id);
-        setChosen(isThere ? id : PresetId(), isThere ? name : QString());
-    };
-}
-
-bool PresetBrowser::saveNew() {
-    emit aboutToUseBrush();
-    const std::optional<BrushParams> params = _brush.params();
-    if (!params)
-        return false;
-    const QString name =
-        _prompts.askName(window(), tr("Save as New Brush"), _chosenName.isEmpty() ? tr("Brush") : _chosenName)
-            .simplified();
-    if (name.isEmpty())
-        return false;
-    const Preset* same = _library.findOwn(name);
-    if (same && same->siblings == 0)
-        return overwrite(PresetId(same->id));
-    PresetId now;
-    const bool saved = succeeds(_library.add(name, *params, now));
-    refresh();
-    if (saved) {
-        _brush.comesFrom(BrushPreset{*params, QDBrushManager::kVersion});
-        setChosen(now, name);
-    }
-    return saved;
-}
-
-bool PresetBrowser::overwrite(const PresetId& id) {
-    const Preset* found = _library.find(id);
-    const std::optional<BrushParams> params = _brush.params();
-    if (!found || !params || !found->own || found->siblings != 0)
-        return false;
-    const Preset preset = *found;
-    if (!_prompts.confirm(window(), tr("Replace the brush \"%1\"?").arg(preset.name),
-                          tr("It takes the present settings, and what it was is lost."), tr("Replace")))
-        return false;
-    const bool saved = succeeds(_library.replace(preset, *params));
-    refresh();
-    if (saved) {
-        _brush.comesFrom(BrushPreset{*params, QDBrushManager::kVersion});
-        setChosen(id, preset.name);
-    }
-    return saved;
-}
-
-bool PresetBrowser::rename(const PresetId& id) {
-    const Preset* found = _library.find(id);
-    if (!found || !found->isEditable())
-        return false;
-    const Preset preset = *found;
-    const QString name = _prompts.askName(window(), tr("Rename Brush"), preset.name).simplified();
-    if (name.isEmpty() || name == preset.name)
-        return false;
-    PresetId now;
-    const bool renamed = succeeds(_library.rename(preset, name, now));
-    refresh();
-    if (renamed && isFavourite(id)) {
-        setFavourite(id, false);
-        setFavourite(now, true);
-    }
-    if (renamed && id == _chosen)
-        setChosen(now, name);
-    return renamed;
-}
-
-bool PresetBrowser::remove(const PresetId& id) {
-    const Preset* found = _library.find(id);
-    if (!found || !found->own)
-        return false;
-    const Preset preset = *found;
-    const QString what = preset.siblings == 0 ? tr("Delete the brush \"%1\"?").arg(preset.name)
-                                              : tr("Delete the file \"%1\" with its %2 brushes?")
-                                                    .arg(QFileInfo(id.path).fileName())
-                                                    .arg(preset.siblings + 1);
-    if (!_prompts.confirm(window(), what, tr("This cannot be taken back."), tr("Delete")))
-        return false;
-    const bool removed = succeeds(_library.removeFile(preset));
-    refresh();
-    if (removed)
-        setFavourite(id, false);
-    if (removed && id.path == _chosen.path) {
-        _brush.comesFrom({});  // which goes on as it is
-        setChosen({}, {});
-    }
-    return removed;
-}
-
-bool PresetBrowser::importFiles(const QStringList& paths) {
-    QStringList faults, losses;
-    PresetId last;
-    for (const QString& path : paths) {
-        PresetId now;
-        QStringList lost;
-        const QString fault = _library.importFile(path, now, lost);
-        if (fault.isEmpty())
-            last = now;
-        else
-            faults << fault;
-        if (!lost.isEmpty())
-            losses << tr("Of \"%1\" could not be carried over:\n%2")
-                          .arg(QFileInfo(path).fileName(), lost.join(QLatin1Char('\n')));
-    }
-    refresh();
-    succeeds((faults + losses).join(QLatin1Char('\n')));
-    return !last.path.isEmpty() && choose(last);
-}
-
-bool PresetBrowser::exportTo(const PresetId& id) {
-    const Preset* preset = _library.find(id);
-    if (!preset || !preset->problem.isEmpty())
-        return false;
-    const QString path =
-        _prompts.pickBrushName(window(), presetFileName(preset->name) + QStringLiteral(".xbf"));
-    return !path.isEmpty() && succeeds(_library.exportTo(id, path));
+// What is kept by a preset's place.
+void PresetBrowser::follow(const Preset& preset, const PresetId& now) {
+    PresetFavourites favourites = _model->favourites();
+    favourites.follow(preset.id, now);
+    _model->setFavourites(favourites);
+    if (const Preset* found = _library.find(now))
+        _infos.carryOver(preset, *found);
+    emit stateChanged();
 }
 
 // ---- From run to run
 
 void PresetBrowser::readState(QSettings& settings) {
-    _setsColors->setChecked(settings.value(key("setsColor"), false).toBool());
+    _menu->setsColors()->setChecked(settings.value(key("setsColor"), false).toBool());
     PresetFavourites favourites;
     favourites.fromTexts(settings.value(key("favourites")).toStringList());
+    favourites.forgetGone();
     _model->setFavourites(favourites);
-    _wantedKind = settings.value(key("kind")).toString();
-    chooseKind();
+    _kinds->setWanted(settings.value(key("kind")).toString());
     const PresetId id{settings.value(key("file")).toString(), settings.value(key("index")).toInt()};
     BrushPreset content;
     // It may have gone since; the brush is the same without.
     if (id.path.isEmpty() || !_library.find(id) || !_library.read(id, content).isEmpty())
         return;
     _brush.comesFrom(content);
-    setChosen(id, _library.find(id)->name);
+    _choice.take(id, _library.find(id)->name);
 }
 
 void PresetBrowser::writeState(QSettings& settings) const {
-    settings.setValue(key("setsColor"), _setsColors->isChecked());
+    settings.setValue(key("setsColor"), _menu->setsColors()->isChecked());
     settings.setValue(key("favourites"), _model->favourites().toTexts());
-    settings.setValue(key("kind"), _wantedKind);
-    settings.setValue(key("file"), _chosen.path);
-    settings.setValue(key("index"), _chosen.index);
+    settings.setValue(key("kind"), _kinds->wanted());
+    settings.setValue(key("file"), chosen().path);
+    settings.setValue(key("index"), chosen().index);
 }
 
 }  // namespace dabcanvas::dabpainter

@@ -21,6 +21,8 @@ public:
     void read(const std::vector<Preset>& presets);
     // Empty while it is not known.
     PresetInfo of(const Preset& preset) const { return _infos.value(keyOf(preset)); }
+    // What is known of one holds for the other, which is the same in another file.
+    void carryOver(const Preset& from, const Preset& to) { _infos.insert(keyOf(to), of(from)); }
     // Of all of these, sorted, each once.
     QStringList tags(const std::vector<Preset>& presets) const;
     bool isIdle() const { return _reading == 0; }

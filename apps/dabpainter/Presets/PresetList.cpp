@@ -50,6 +50,7 @@ PresetListModel::PresetListModel(PresetLibrary& library, PresetPreviews& preview
 
 void PresetListModel::refresh() {
     _library.refresh();
+    _favourites.forgetGone();
     if (_shown == _library.presets())
         return;
     beginResetModel();

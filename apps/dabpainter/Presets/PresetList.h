@@ -32,7 +32,7 @@ public:
     PresetListModel(PresetLibrary& library, PresetPreviews& previews, const PresetInfos& infos,
                     QObject* parent = nullptr);
 
-    // Reads the folders again.
+    // Reads the folders again; favourites that have gone are none any more.
     void refresh();
     const PresetFavourites& favourites() const { return _favourites; }
     void setFavourites(const PresetFavourites& favourites);

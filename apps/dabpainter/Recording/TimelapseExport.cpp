@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Recording/TimelapseExport.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 #include <new>
 
@@ -10,6 +12,7 @@
 #include "FrameTaker.h"
 #include "Recording/RecordingPlayer.h"
 #include "Recording/RecordingReader.h"
+#include "WebpPicture.h"
 #include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
@@ -31,6 +34,16 @@ std::unique_ptr<QDDrawCanvas> canvasOf(const RecordingHeader& header) {
 }
 
 }  // namespace
+
+QString TimelapseExport::suggestedPath(const QString& picture) {
+    const QString suffix = hasWebp() ? QStringLiteral(".webp") : QString();
+    if (picture.isEmpty())
+        return QStringLiteral("session") + suffix;
+    const QFileInfo file(picture);
+    const QString name = file.completeBaseName();
+    const QString path = file.dir().filePath(name + suffix);
+    return path == picture ? file.dir().filePath(name + QStringLiteral("-timelapse") + suffix) : path;
+}
 
 TimelapseExport::TimelapseExport(SessionRecorder::Recorded recorded, QString path, QObject* parent)
     : QObject(parent), _recorded(std::move(recorded)), _path(std::move(path)) {}
@@ -67,21 +80,29 @@ QString TimelapseExport::write() {
         return tr("There is no memory for the time-lapse.");
     if (const QString wrong = makeFrameTaker(_path, frames); !wrong.isEmpty())
         return wrong;
-    const int strokes = strokesOf(*recording), every = strokes / kMostFrames + 1;
     RecordingPlayer player(*recording, *canvas);
-    for (int stroke = 1; player.playStroke(); ++stroke) {
-        if (_isCancelled)
-            return {};
-        const QString wrong = stroke % every == 0 ? frames->add(canvas->layers().flattened()) : QString();
+    QString fault = paint(player, *canvas, strokesOf(*recording), *frames);
+    if (fault.isEmpty() && !_isCancelled)
+        fault = frames->finish();
+    if (!fault.isEmpty() || _isCancelled)
+        frames->discard();
+    return fault;
+}
+
+// Stroke by stroke, unless it is cancelled.
+QString TimelapseExport::paint(RecordingPlayer& player, QDDrawCanvas& canvas, int strokes,
+                               FrameTaker& frames) {
+    const int every = strokes / kMostFrames + 1;
+    for (int stroke = 1; !_isCancelled && player.playStroke(); ++stroke) {
+        const QString wrong = stroke % every == 0 ? frames.add(canvas.layers().flattened()) : QString();
         if (!wrong.isEmpty())
             return wrong;
         emit progressed(stroke, strokes);
     }
-    if (!player.problem().isEmpty())
+    if (!player.problem().isEmpty() || _isCancelled)
         return player.problem();
     // What came after the last stroke shows in the last frame.
-    const QString wrong = frames->add(canvas->layers().flattened());
-    return wrong.isEmpty() ? frames->finish() : wrong;
+    return frames.add(canvas.layers().flattened());
 }
 
 }  // namespace dabcanvas::dabpainter

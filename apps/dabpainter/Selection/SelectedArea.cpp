@@ -56,7 +56,8 @@ QPainterPath joinedArea(const QPainterPath& area, const QPainterPath& with, Area
                                                   : onWholePixels(with.intersected(pathOf(whole)));
     if (mode == AreaMode::replace || (area.isEmpty() && mode == AreaMode::add))
         return within.boundingRect().isEmpty() ? QPainterPath() : within;
-    return onWholePixels(mode == AreaMode::add ? area.united(within) : area.subtracted(within));
+    // Simplified, or what was taken away would stay as an outline of its own over the other.
+    return onWholePixels(mode == AreaMode::add ? area.united(within) : area.subtracted(within).simplified());
 }
 
 QRect pixelsOf(const QPainterPath& area) {

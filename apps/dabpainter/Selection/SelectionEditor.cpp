@@ -17,6 +17,12 @@ void SelectionEditor::setCanvas(QDDrawCanvas* canvas) {
     _area = {};
     end();
     _canvas = canvas;
+    tellChanged();
+}
+
+void SelectionEditor::tellChanged() {
+    if (_canvas && !_float)
+        _canvas->setSelection(_area);
     emit changed();
 }
 
@@ -33,7 +39,7 @@ QPainterPath SelectionEditor::shownArea() const {
 void SelectionEditor::select(const QPainterPath& area, AreaMode mode) {
     settle();
     _area = joinedArea(_area, area, mode, canvasRect().size());
-    emit changed();
+    tellChanged();
 }
 
 void SelectionEditor::selectAll() {
@@ -42,6 +48,14 @@ void SelectionEditor::selectAll() {
 
 void SelectionEditor::selectNone() {
     select({}, AreaMode::replace);
+}
+
+void SelectionEditor::invert() {
+    settle();
+    const QPainterPath selected = std::exchange(_area, {});
+    selectAll();
+    if (!selected.isEmpty())
+        select(selected, AreaMode::takeAway);
 }
 
 // ---- The picture that floats
@@ -134,12 +148,12 @@ void SelectionEditor::settle() {
     }
     _area = joinedArea({}, shownArea(), AreaMode::replace, canvasRect().size());
     end();
-    emit changed();
+    tellChanged();
 }
 
 void SelectionEditor::giveUp() {
     end();
-    emit changed();
+    tellChanged();
 }
 
 // ---- Of what floats, or is selected, or all of the layer
@@ -174,7 +188,7 @@ bool SelectionEditor::remove() {
     else if (gone)
         gone->drop();
     end();
-    emit changed();
+    tellChanged();
     return true;
 }
 

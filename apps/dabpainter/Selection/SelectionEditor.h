@@ -30,12 +30,13 @@ public:
     // What shows where something is lifted off the active layer; invalid: what lies below it.
     void setPaper(const QColor& paper) { _paper = paper; }
 
-    // ---- The area, in buffer pixels; it moves along with what is lifted out of it
+    // ---- The area, in buffer pixels, which strokes keep to; it moves along with what is lifted out of it
     const QPainterPath& area() const { return _area; }
     QPainterPath shownArea() const;
     void select(const QPainterPath& area, AreaMode mode);
     void selectAll();
     void selectNone();
+    void invert();  // nothing becomes all
 
     // ---- The picture that floats
     const FloatingPicture* floating() const { return _float ? &_float->picture() : nullptr; }
@@ -65,6 +66,7 @@ signals:
     void refused(const QString& why);
 
 private:
+    void tellChanged();
     bool mayChange();
     QRect canvasRect() const;
     std::unique_ptr<LayerFloat> lifted();

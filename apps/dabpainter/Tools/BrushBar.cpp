@@ -63,9 +63,12 @@ BrushBar::BrushBar(BrushModel& brush, Tools& tools, QAction* undo, QAction* redo
     _sizePlace = addWidget(_size);
     _opacityPlace = addWidget(_opacity);
     _tolerancePlace = addWidget(_tolerance);
-    _size->setToolTip(tr("Size of the brush, by every drag, wheel or arrow key the same part of it"));
-    _opacity->setToolTip(tr("Opacity of each stroke"));
-    _tolerance->setToolTip(tr("How much colours may differ that a fill takes for one"));
+    const auto explain = [](ValueSlider* slider, const QString& what) {
+        slider->setToolTip(what + QLatin1Char('\n') + tr("A double click, F2 or Enter types the number"));
+    };
+    explain(_size, tr("Size of the brush, by every drag, wheel or arrow key the same part of it"));
+    explain(_opacity, tr("Opacity of each stroke"));
+    explain(_tolerance, tr("How much colours may differ that a fill takes for one"));
     _tolerance->setMaximumWidth(kWidest);
     _tolerance->setStored(tools.tolerance());
     connect(_tolerance, &ValueSlider::edited, &tools,

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Tools/ValueSlider.h"
 
+#include <QApplication>
+#include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
@@ -9,6 +12,9 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "Window/Widgets.h"
 
 namespace dabcanvas::dabpainter {
 
@@ -36,8 +42,12 @@ ValueSlider::ValueSlider(const BrushPresentation& shown, bool logarithmic, QWidg
 }
 
 void ValueSlider::setStored(double stored) {
+    setNumber(stored * _shown.scale);
+}
+
+void ValueSlider::setNumber(double number) {
     const QSignalBlocker quiet(this);
-    _number = stored * _shown.scale;
+    _number = number;
     setValue(positionOf(_number));
     setAccessibleDescription(numberText());
     update();
@@ -109,6 +119,7 @@ void ValueSlider::moveTo(double x) {
 void ValueSlider::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return event->ignore();
+    _beforePress = _number;
     setSliderDown(true);
     moveTo(event->position().x());
 }
@@ -122,11 +133,83 @@ void ValueSlider::mouseReleaseEvent(QMouseEvent*) {
     setSliderDown(false);
 }
 
+// Its first press has moved the slider.
+void ValueSlider::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return event->ignore();
+    setNumber(_beforePress);
+    emit edited(stored());
+    beginTyping();
+}
+
 void ValueSlider::wheelEvent(QWheelEvent* event) {
     const int turned = event->angleDelta().y() != 0 ? event->angleDelta().y() : event->angleDelta().x();
     if (turned != 0)
         setValue(value() + (turned > 0 ? 1 : -1) * std::max(1, std::abs(turned) * kWheelSteps / 120));
     event->accept();
+}
+
+// ---- Typing
+
+void ValueSlider::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_F2:
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return beginTyping();
+        default:
+            QSlider::keyPressEvent(event);
+    }
+}
+
+void ValueSlider::beginTyping() {
+    _focusBefore = QApplication::focusWidget();
+    _field = makeNumberBox(_shown, this);
+    _field->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    _field->setAlignment(Qt::AlignRight);
+    _field->setAccessibleName(_shown.label);
+    _field->setValue(_number);
+    _typedFrom = _field->value();  // as rounded for reading
+    const int room = fontMetrics().horizontalAdvance(QStringLiteral("88888.8") + _shown.suffix) + 2 * kPad;
+    _field->setGeometry(rect().adjusted(std::max(0, width() - room), 0, 0, 0));
+    _field->installEventFilter(this);
+    _field->show();
+    _field->setFocus();
+    _field->selectAll();
+}
+
+void ValueSlider::endTyping(bool takes) {
+    QDoubleSpinBox* field = std::exchange(_field, nullptr);
+    field->interpretText();
+    const double typed = field->value();
+    if (field->hasFocus() && _focusBefore)
+        _focusBefore->setFocus();
+    field->hide();
+    field->deleteLater();
+    if (!takes || typed == _typedFrom)
+        return;
+    setNumber(typed);
+    emit edited(stored());
+}
+
+bool ValueSlider::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != _field)
+        return false;
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            endTyping(true);
+        return false;
+    }
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape)
+        return false;
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        endTyping(key != Qt::Key_Escape);
+    return true;
 }
 
 }  // namespace dabcanvas::dabpainter

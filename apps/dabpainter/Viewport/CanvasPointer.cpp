@@ -25,7 +25,6 @@ namespace dabcanvas::dabpainter {
 
 namespace {
 
-constexpr double kTap = 12;  // points that a finger may slip
 constexpr float kPress = 1;  // what the view takes a device for that measures none
 
 // The hot spot inside the brush's outline.
@@ -46,11 +45,13 @@ CanvasPointer::CanvasPointer(CanvasViewport& viewport, BrushCursor& cursor, Brus
       _viewport(viewport),
       _cursor(cursor),
       _model(model),
-      _picker(new ColorPicker(viewport, model)) {
+      _picker(new ColorPicker(viewport, model)),
+      _finger(*_picker) {
     viewport.setMouseTracking(true);
     viewport.setTabletTracking(true);
     connect(&cursor, &BrushCursor::outlineChanged, this, &CanvasPointer::chooseCursor);
     connect(_picker, &ColorPicker::activeChanged, this, &CanvasPointer::showPointer);
+    connect(_picker, &ColorPicker::onChanged, this, &CanvasPointer::tellOptions);
     qApp->installEventFilter(this);  // the space bar counts wherever the focus is
 }
 
@@ -93,7 +94,7 @@ void CanvasPointer::tellOptions() {
     if (!view)
         return;
     PointerOptions options = _options;
-    const bool noStrokes = !_paints || (_selecting && !fingersPaint());
+    const bool noStrokes = !_paints || _picker->isOn() || (_selecting && !fingersPaint());
     options.touch = noStrokes ? TouchPolicy::pensOnly : _options.touch;
     view->setPointerOptions(options);
 }
@@ -244,6 +245,7 @@ bool CanvasPointer::filterMouse(QMouseEvent& event, QPointF at) {
 
 bool CanvasPointer::filterTablet(QTabletEvent& event, QPointF at) {
     _penSeen = true;
+    _finger.forget();
     emit pressureChanged(event.type() == QEvent::TabletRelease ? -1 : float(event.pressure()));
     if (isIdle() && (event.type() == QEvent::TabletPress || event.buttons() == Qt::NoButton))
         _picker->hover(at, event.modifiers());
@@ -293,11 +295,6 @@ void CanvasPointer::leaveDab(QPointF bufferPoint) {
     QDDrawView* view = _viewport.view();
     if (!view || view->isSmudgeType() || view->brushType() == kLiveFillBrush)
         return;
-    // Beside the canvas it would be a step that changes nothing.
-    const double reach = _model.value(BrushKey::radius).toDouble();
-    const QRectF near = QRectF(QPointF(), view->bufferSize()).adjusted(-reach, -reach, reach, reach);
-    if (!near.contains(bufferPoint))
-        return;
     view->setPointsDistanceEnabled(false);
     view->setStartRadius(0);
     view->setEndRadius(0);
@@ -337,6 +334,11 @@ bool CanvasPointer::filterTouch(QTouchEvent& event) {
         return false;  // which moves the mouse
     _manyFingers = (_manyFingers && event.type() != QEvent::TouchBegin) || event.points().size() > 1;
     watchTap(event);
+    const QPoint at = event.points().isEmpty()
+                          ? QPoint()
+                          : _viewport.mapFromGlobal(event.points().first().globalPosition()).toPoint();
+    if (_finger.filter(event, at, mayFingerPaint()))
+        return true;
     if (event.type() == QEvent::TouchBegin) {
         _downPressure = kPress;
         pressed(false);
@@ -344,10 +346,13 @@ bool CanvasPointer::filterTouch(QTouchEvent& event) {
     return event.type() == QEvent::TouchEnd && deliverRelease(event);
 }
 
+bool CanvasPointer::mayFingerPaint() const {
+    return fingersPaint() || (_options.touch == TouchPolicy::pensOnceSeen && !_penSeen);
+}
+
 void CanvasPointer::watchTap(const QTouchEvent& event) {
-    const bool taps = fingersPaint() || (_options.touch == TouchPolicy::pensOnceSeen && !_penSeen);
     const QPointF at = event.points().isEmpty() ? QPointF() : event.points().first().position();
-    if (event.type() == QEvent::TouchBegin && taps)
+    if (event.type() == QEvent::TouchBegin && mayFingerPaint())
         _tapFrom = at;
     if (_tapFrom && (_manyFingers || (at - *_tapFrom).manhattanLength() > kTap))
         _tapFrom.reset();

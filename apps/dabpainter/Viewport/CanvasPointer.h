@@ -9,6 +9,7 @@
 #include "Brush/BrushModel.h"
 #include "Canvas/PointerOptions.h"
 #include "History/StepPicture.h"
+#include "Viewport/FingerPick.h"
 
 class QDDrawView;
 class QKeyEvent;
@@ -66,6 +67,7 @@ private:
     bool filterTablet(QTabletEvent& event, QPointF at);
     bool filterTouch(QTouchEvent& event);
     void tellOptions();
+    bool mayFingerPaint() const;
     void watchTap(const QTouchEvent& event);
     void pressed(bool isEraser);
     bool deliverRelease(QEvent& event);
@@ -80,6 +82,7 @@ private:
     BrushCursor& _cursor;
     BrushModel& _model;
     ColorPicker* _picker;
+    FingerPick _finger;
 
     enum class Shown { none, grab, hand, cross, dot };
     Shown _shown = Shown::none;

@@ -100,6 +100,12 @@ void ColorPicker::release(Qt::KeyboardModifiers modifiers) {
     emit activeChanged();
 }
 
+void ColorPicker::giveUp() {
+    if (_before.isValid())
+        emit picked(_before);
+    leave();
+}
+
 void ColorPicker::leave() {
     _pressed = false;
     _before = QColor();

@@ -35,6 +35,7 @@ public:
     bool press(QPointF at, Qt::KeyboardModifiers modifiers);  // whether it is a pick
     void drag(QPointF at);
     void release(Qt::KeyboardModifiers modifiers);  // which ends a picking that was turned on
+    void giveUp();                                  // as if it had not been pressed
     // The pointer has left, or nobody will tell of releases.
     void leave();
     // Changes nothing for others.

@@ -7,6 +7,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <algorithm>
 #include <numbers>
 
 #include "Canvas/CanvasLayers.h"
@@ -104,6 +105,13 @@ void MainWindow::addPen(QMenu* menu) {
         keepStabiliser(_settings.file(), _presets->chosenName(), options);
         _settings.noteChange();
         _pointer->setStabiliser(options);
+    });
+    connect(_presets, &PresetBrowser::renamed, this, [this](const QString& from, const QString& to) {
+        QSettings& file = _settings.file();
+        keepStabiliser(file, to, stabiliserOf(file, from));
+        const auto& left = _presets->library().presets();
+        if (std::none_of(left.begin(), left.end(), [&](const Preset& preset) { return preset.name == from; }))
+            keepStabiliser(file, from, {});
     });
     const auto takeBrushs = [this, control] {
         control->setOptions(stabiliserOf(_settings.file(), _presets->chosenName()));

@@ -7,6 +7,7 @@
 #include <QStatusBar>
 
 #include "QDEAGLView/QDDrawView.h"
+#include "Recording/RecordingSign.h"
 #include "Recording/TimelapseExport.h"
 #include "Window/MainWindow.h"
 
@@ -28,6 +29,8 @@ void MainWindow::makeRecordingMenu() {
         _settings.setRecords(on);
         recordCanvas();
     });
+    _recordingSign = new RecordingSign(*menu);
+    statusBar()->addPermanentWidget(_recordingSign);
     addTo(menu, "recording.export", tr("&Export Recording…"), {}, [this] { exportRecording(); });
     addTo(menu, "recording.timelapse", tr("Export &Time-Lapse…"), {}, [this] { exportTimelapse(); });
 }
@@ -38,6 +41,7 @@ void MainWindow::recordCanvas() {
     const QString fault = _record->isChecked() && view() ? _session.start(*view()) : QString();
     if (!_record->isChecked())
         _session.stop();
+    _recordingSign->setVisible(_session.isRecording());
     if (!fault.isEmpty())
         statusBar()->showMessage(fault, kMessageTime);
 }
@@ -61,7 +65,7 @@ void MainWindow::exportTimelapse() {
     const auto recorded = _session.recorded();
     if (!recorded.file)
         return void(tellFault(_session.fault()));
-    const QString path = _prompts.pickTimelapseName(this);
+    const QString path = _prompts.pickTimelapseName(this, TimelapseExport::suggestedPath(_document.path()));
     if (path.isEmpty())
         return;
     auto* dialog = new QProgressDialog(tr("Painting the time-lapse…"), tr("Cancel"), 0, 0, this);

@@ -29,12 +29,13 @@ void MainWindow::makeSelection() {
     _selection = new SelectionEditor(this);
     _selectionTool = new SelectionTool(*_selection, *_viewport, *_pointer);
     connect(_selection, &SelectionEditor::refused, this,
-            [this](const QString& why) { statusBar()->showMessage(why, 2 * kMessageTime); });
+            [this](const QString& why) { _refusal.show(why, 2 * kMessageTime); });
     connect(_selection, &SelectionEditor::floats, this, [this](bool isFloating) {
         _undo->setEnabled(isFloating || (view() && view()->canUndo()));
         if (isFloating)
-            statusBar()->showMessage(tr("Enter or a double click puts it down, Escape gives it up"),
-                                     2 * kMessageTime);
+            _floatHint.show(tr("Enter or a double click puts it down, Escape gives it up"), 2 * kMessageTime);
+        else
+            _floatHint.end();
     });
     connect(_layers, &LayerPanel::aboutToEdit, _selection, &SelectionEditor::settle);
 }
@@ -43,6 +44,7 @@ void MainWindow::makeSelectMenu() {
     QMenu* menu = menuBar()->addMenu(tr("&Select"));
     addTo(menu, "select.all", tr("&All"), {QKeySequence::SelectAll}, [this] { _selection->selectAll(); });
     addTo(menu, "select.none", tr("&None"), {key("Ctrl+Shift+A")}, [this] { _selection->selectNone(); });
+    addTo(menu, "select.invert", tr("&Invert"), {key("Ctrl+Shift+I")}, [this] { _selection->invert(); });
     menu->addSeparator();
     using Kind = SelectionTool::Kind;
     const auto addTool = [&](Kind kind, const char* name, const QString& text, const char* keys) {
@@ -75,9 +77,11 @@ void MainWindow::watchSelection() {
     _selection->setCanvas(view());
     _selectionTool->watchView();
     connect(view(), &QDDrawView::canvasSizeChanged, _selection, [this] { _selection->setCanvas(view()); });
-    connect(view(), &QDDrawView::strokeBegan, _selection, [this] {
-        if (!_selection->floating())
-            _selection->selectNone();
+    connect(view(), &QDDrawView::strokeBegan, _selection, [this](const QPointF& at) {
+        _refusal.end();
+        const QPainterPath& area = _selection->area();
+        if (!area.isEmpty() && !area.contains(at))
+            _refusal.show(tr("Strokes keep to what is selected; Escape selects nothing"), 2 * kMessageTime);
     });
 }
 
@@ -127,7 +131,7 @@ bool MainWindow::placePicture(const QImage& picture) {
 
 bool MainWindow::placePicture(const QMimeData& from) {
     if (!hasPicture(from)) {
-        statusBar()->showMessage(tr("There is no picture to paste"), kMessageTime);
+        _refusal.show(tr("There is no picture to paste"), kMessageTime);
         return false;
     }
     const ReadImage read = pictureOf(from);

@@ -174,10 +174,9 @@ void MainWindow::fillAt(QPointF viewPoint) {
     switch (fillCanvas(*view(), QPoint(int(std::floor(at.x())), int(std::floor(at.y()))), color,
                        _tools->tolerance(), _selection->area())) {
         case FillOutcome::layerHidden:
-            return statusBar()->showMessage(tr("This layer is hidden: nothing would be seen of it"),
-                                            kMessageTime);
+            return _refusal.show(tr("This layer is hidden: nothing would be seen of it"), kMessageTime);
         case FillOutcome::failed:
-            return statusBar()->showMessage(tr("There is not enough memory to fill this"), kMessageTime);
+            return _refusal.show(tr("There is not enough memory to fill this"), kMessageTime);
         case FillOutcome::filled:
         case FillOutcome::nothingToFill:
             return;

@@ -85,7 +85,9 @@ MainWindow::MainWindow(QSettings& settings, Prompts prompts, PresetFolders folde
       _commands(new Commands(*this)),
       _recent(new RecentFiles(this)),
       _theme(new Theme(this)),
-      _viewport(new CanvasViewport) {
+      _viewport(new CanvasViewport),
+      _floatHint(*statusBar()),
+      _refusal(*statusBar()) {
     _theme->setChoice(_settings.theme());
     auto* cursor = new BrushCursor(_brush, *_viewport);
     _pointer = new CanvasPointer(*_viewport, *cursor, _brush);
@@ -134,10 +136,11 @@ void MainWindow::connectParts() {
     });
     connect(_layers, &LayerPanel::aboutToEdit, _pointer, &CanvasPointer::endStroke);
     connect(_layers, &LayerPanel::activeChanged, this, &MainWindow::choosePaper);
+    connect(_layers, &LayerPanel::activeChanged, this, [this] { _refusal.end(); });
     connect(_panel, &BrushPanel::swapColors, this, [this] { swapColors(_brush); });
     connect(_panel, &BrushPanel::eyedropper, this, [this] { _tools->choose(Tool::pick); });
     connect(_pointer, &CanvasPointer::noShapeFound, this,
-            [this] { statusBar()->showMessage(tr("No shape was recognised"), kMessageTime); });
+            [this] { _refusal.show(tr("No shape was recognised"), kMessageTime); });
     connect(_presets, &PresetBrowser::chosenByPointer, _viewport, qOverload<>(&QWidget::setFocus));
     connect(_presets, &PresetBrowser::aboutToUseBrush, _pointer, &CanvasPointer::endStroke);
     connect(new MemoryWatch(this), &MemoryWatch::runsShort, this, [this] {

@@ -13,6 +13,7 @@
 #include "Presets/PresetLibrary.h"
 #include "Recording/SessionRecorder.h"
 #include "Window/PainterSettings.h"
+#include "Window/PassingMessage.h"
 #include "Window/Prompts.h"
 
 class QAction;
@@ -38,6 +39,7 @@ class LayerPanel;
 class PresetBrowser;
 class RecentFiles;
 class PulledString;
+class RecordingSign;
 class SelectionEditor;
 class SelectionTool;
 class StraightLines;
@@ -200,8 +202,10 @@ private:
     QDockWidget *_colourDock, *_presetDock, *_layerDock, *_dock;
     SessionRecorder _session;
     QAction* _record;
+    RecordingSign* _recordingSign;
     QAction *_undo, *_redo, *_shapes, *_sizing;
     std::map<Tool, QAction*> _toolActions;
+    PassingMessage _floatHint, _refusal;  // how to end what floats; why nothing came of something
     bool _brushRead = false;
     std::set<Document::Loss> _lossesKnown;  // to the user, of this picture
     std::set<BrushKey> _unwritten;          // since the settings were written

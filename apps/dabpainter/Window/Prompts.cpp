@@ -15,7 +15,6 @@
 #include "Brush/BrushDrops.h"
 #include "Documents/ImageFiles.h"
 #include "Documents/LeftPicturesDialog.h"
-#include "WebpPicture.h"
 #include "Window/Translations.h"
 
 namespace dabcanvas::dabpainter {
@@ -181,9 +180,8 @@ QString pickRecordingName(QWidget* parent) {
 }
 
 // Any other suffix, and none, is a folder.
-QString pickTimelapseName(QWidget* parent) {
-    return pickName(parent, tr("Export Time-Lapse"),
-                    QStringLiteral("session") + (hasWebp() ? QStringLiteral(".webp") : QString()),
+QString pickTimelapseName(QWidget* parent, const QString& suggested) {
+    return pickName(parent, tr("Export Time-Lapse"), suggested,
                     tr("Animated WebP (*.webp)") + QStringLiteral(";;") + tr("Folder of pictures (*)"),
                     QString());
 }

@@ -37,9 +37,10 @@ struct Prompts {
         pickLeft;
     std::function<QStringList(QWidget*)> pickPalettes;
     std::function<QString(QWidget*, const QString& suggested)>
-        pickPaletteName;                                                    // to save as; empty: given up
-    std::function<LossAnswer(QWidget*, Document::Loss)> askLoss;            // in the file that is to be saved
-    std::function<QString(QWidget*)> pickRecordingName, pickTimelapseName;  // empty: given up
+        pickPaletteName;                                          // to save as; empty: given up
+    std::function<LossAnswer(QWidget*, Document::Loss)> askLoss;  // in the file that is to be saved
+    std::function<QString(QWidget*)> pickRecordingName;           // empty: given up
+    std::function<QString(QWidget*, const QString& suggested)> pickTimelapseName;
 };
 
 // Message boxes and file dialogs of Qt's own.

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -61,6 +62,8 @@ ShortcutsDialog::ShortcutsDialog(Commands& commands, QWidget* parent)
     resize(520, 480);
 
     fill();
+    for (QWidget* field : std::initializer_list<QWidget*>{_search, _list, _key})
+        field->installEventFilter(this);
     connect(_search, &QLineEdit::textChanged, this, &ShortcutsDialog::filter);
     connect(_list, &QTreeWidget::currentItemChanged, this, &ShortcutsDialog::choose);
     connect(_key, &QKeySequenceEdit::keySequenceChanged, this, &ShortcutsDialog::consider);
@@ -124,6 +127,37 @@ void ShortcutsDialog::choose(QTreeWidgetItem*) {
         field->setEnabled(command);
     _key->setKeySequence(command ? command->action->shortcut() : QKeySequence());
     consider();
+}
+
+bool ShortcutsDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    const int pressed = static_cast<QKeyEvent*>(event)->key();
+    if (watched == _search && pressed == Qt::Key_Down) {
+        goToList();
+    } else if (watched == _list && (pressed == Qt::Key_Return || pressed == Qt::Key_Enter)) {
+        _key->setFocus();  // which it does not take without a command
+    } else if (watched == _key && pressed == Qt::Key_Escape) {
+        choose(nullptr);
+        _list->setFocus();
+    } else {
+        return QDialog::eventFilter(watched, event);
+    }
+    return true;
+}
+
+// To the first command that was found, unless the chosen one is among them.
+void ShortcutsDialog::goToList() {
+    const QTreeWidgetItem* now = chosen() ? _list->currentItem() : nullptr;
+    const auto isShown = [](const QTreeWidgetItem* item) {
+        return !item->isHidden() && item->parent() && !item->parent()->isHidden();
+    };
+    QTreeWidgetItemIterator it(_list, QTreeWidgetItemIterator::NoChildren);
+    while (*it && !isShown(*it))
+        ++it;
+    if (*it && !(now && isShown(now)))
+        _list->setCurrentItem(*it);
+    _list->setFocus();
 }
 
 // What assigning the key would take from another.

@@ -23,11 +23,16 @@ public:
     // The commands must outlive it.
     explicit ShortcutsDialog(Commands& commands, QWidget* parent = nullptr);
 
+protected:
+    // From the search to the list, on to the key, and by Escape back.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void fill();
     void showKeys();
     void filter(const QString& text);
     void choose(QTreeWidgetItem* item);
+    void goToList();
     void consider();
     void assign();
     const Commands::Command* chosen() const;

@@ -199,8 +199,18 @@ void SwatchButton::paintEvent(QPaintEvent*) {
     painter.fillRect(inside.adjusted(1, 1, -1, -1), _color.isValid() ? QBrush(_color) : checkerBrush());
 }
 
+QDoubleSpinBox* makeNumberBox(const BrushPresentation& shown, QWidget* parent) {
+    auto* box = new DecimalBox(parent);
+    box->setDecimals(shown.decimals);
+    box->setRange(shown.least, shown.most);
+    box->setSingleStep(shown.step);
+    box->setSuffix(shown.suffix);
+    box->setKeyboardTracking(false);
+    return box;
+}
+
 NumberField::NumberField(const BrushPresentation& shown, QWidget* parent)
-    : QWidget(parent), _shown(shown), _slider(new QSlider(Qt::Horizontal)), _box(new DecimalBox) {
+    : QWidget(parent), _shown(shown), _slider(new QSlider(Qt::Horizontal)), _box(makeNumberBox(shown)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
@@ -209,11 +219,6 @@ NumberField::NumberField(const BrushPresentation& shown, QWidget* parent)
 
     _slider->setRange(0, kSliderSteps);
     _slider->setMinimumWidth(50);
-    _box->setDecimals(shown.decimals);
-    _box->setRange(shown.least, shown.most);
-    _box->setSingleStep(shown.step);
-    _box->setSuffix(shown.suffix);
-    _box->setKeyboardTracking(false);
     _box->setFixedWidth(_box->fontMetrics().horizontalAdvance(QStringLiteral("1280.0 px")) + 30);
     guardFromWheel(_slider);
     guardFromWheel(_box);

@@ -25,6 +25,9 @@ QPolygonF starPolygon();
 // Scrolling over a field of a long panel must not change it: the wheel counts only once it was clicked.
 void guardFromWheel(QWidget* field);
 
+// A field for a number, as a presentation has it; in it a point and a comma are both the decimal sign.
+QDoubleSpinBox* makeNumberBox(const BrushPresentation& shown, QWidget* parent = nullptr);
+
 enum class Glyph {
     reset,
     swap,

@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>Ordner mit Bildern (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 Kopie</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 Kopie %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -1474,6 +1482,10 @@
     <message>
         <source>How much colours may differ that a fill takes for one</source>
         <translation>Wie verschieden Farben sein dürfen, die eine Füllung als eine nimmt</translation>
+    </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>Ein Doppelklick, F2 oder Enter öffnet ein Feld für die Zahl</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2425,14 @@
         <translation>Der Arbeitsspeicher reicht nicht, um dies zu füllen</translation>
     </message>
     <message>
+        <source>&amp;Invert</source>
+        <translation>Auswahl &amp;umkehren</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>Striche bleiben in der Auswahl; Escape hebt sie auf</translation>
+    </message>
+    <message>
         <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
         <translation>Die Grafikkarte war kurz nicht verfügbar; das Bild ist noch da, wie es nach dem letzten Schritt war</translation>
     </message>
@@ -2588,38 +2608,6 @@
 <context>
     <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
-        <source>Save as &amp;New Brush…</source>
-        <translation>Als &amp;neuen Pinsel speichern…</translation>
-    </message>
-    <message>
-        <source>&amp;Overwrite with Present Settings…</source>
-        <translation>Mit &amp;aktuellen Einstellungen überschreiben…</translation>
-    </message>
-    <message>
-        <source>&amp;Rename…</source>
-        <translation>&amp;Umbenennen…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete…</source>
-        <translation>&amp;Löschen…</translation>
-    </message>
-    <message>
-        <source>&amp;Import Brushes…</source>
-        <translation>Pinsel &amp;importieren…</translation>
-    </message>
-    <message>
-        <source>&amp;Export…</source>
-        <translation>&amp;Exportieren…</translation>
-    </message>
-    <message>
-        <source>Show &amp;Folder</source>
-        <translation>&amp;Ordner anzeigen</translation>
-    </message>
-    <message>
-        <source>Presets Set the &amp;Colour</source>
-        <translation>Vorgaben setzen die &amp;Farbe</translation>
-    </message>
-    <message>
         <source>Search brushes</source>
         <translation>Pinsel suchen</translation>
     </message>
@@ -2632,10 +2620,6 @@
         <translation>Weitere Aktionen für den gewählten Pinsel</translation>
     </message>
     <message>
-        <source>Brushes</source>
-        <translation>Pinsel</translation>
-    </message>
-    <message>
         <source>Plain</source>
         <translation>Standard</translation>
     </message>
@@ -2643,6 +2627,13 @@
         <source>%1 – modified</source>
         <translation>%1 – geändert</translation>
     </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>Noch keine Pinsel: Importieren Sie welche über das Menü oben oder speichern Sie die aktuellen Einstellungen als Pinsel.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetChoice</name>
     <message>
         <source>Save as New Brush</source>
         <translation>Als neuen Pinsel speichern</translation>
@@ -2689,30 +2680,6 @@
         <translation>Aus „%1“ konnte nicht übernommen werden:
 %2</translation>
     </message>
-    <message>
-        <source>&amp;Favourite</source>
-        <translation>&amp;Favorit</translation>
-    </message>
-    <message>
-        <source>Kind of brushes</source>
-        <translation>Art der Pinsel</translation>
-    </message>
-    <message>
-        <source>Which brushes are listed</source>
-        <translation>Welche Pinsel aufgeführt werden</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Alle</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Favoriten</translation>
-    </message>
-    <message>
-        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
-        <translation>Noch keine Pinsel: Importieren Sie welche über das Menü oben oder speichern Sie die aktuellen Einstellungen als Pinsel.</translation>
-    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2742,6 +2709,25 @@
     <message>
         <source>No brush is of this kind: show all brushes.</source>
         <translation>Kein Pinsel ist von dieser Art: Zeigen Sie alle Pinsel.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetKinds</name>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>Art der Pinsel</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>Welche Pinsel aufgeführt werden</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
     </message>
 </context>
 <context>
@@ -2804,6 +2790,52 @@
     <message>
         <source>By %1</source>
         <translation>Von %1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetListView</name>
+    <message>
+        <source>Brushes</source>
+        <translation>Pinsel</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetMenu</name>
+    <message>
+        <source>Save as &amp;New Brush…</source>
+        <translation>Als &amp;neuen Pinsel speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite with Present Settings…</source>
+        <translation>Mit &amp;aktuellen Einstellungen überschreiben…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Umbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Löschen…</translation>
+    </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>&amp;Favorit</translation>
+    </message>
+    <message>
+        <source>&amp;Import Brushes…</source>
+        <translation>Pinsel &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren…</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>&amp;Ordner anzeigen</translation>
+    </message>
+    <message>
+        <source>Presets Set the &amp;Colour</source>
+        <translation>Vorgaben setzen die &amp;Farbe</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +2938,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>Was gemalt wird, wird aufgenommen: anhalten oder exportieren</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>Eine Aufnahme läuft</translation>
     </message>
 </context>
 <context>

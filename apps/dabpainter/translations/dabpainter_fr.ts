@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>Dossier d’images (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>Copie de %1</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>Copie %2 de %1</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -1474,6 +1482,10 @@
     <message>
         <source>How much colours may differ that a fill takes for one</source>
         <translation>Écart permis entre les couleurs que le remplissage tient pour une seule</translation>
+    </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>Un double-clic, F2 ou Enter permet de saisir le nombre</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2425,14 @@
         <translation>Mémoire insuffisante pour ce remplissage</translation>
     </message>
     <message>
+        <source>&amp;Invert</source>
+        <translation>&amp;Inverser</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>Les traits restent dans la sélection ; Escape la supprime</translation>
+    </message>
+    <message>
         <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
         <translation>La carte graphique a été perdue un instant&#x202f;; l’image est là, telle que la dernière étape l’a laissée</translation>
     </message>
@@ -2588,38 +2608,6 @@
 <context>
     <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
-        <source>Save as &amp;New Brush…</source>
-        <translation>Enregistrer comme &amp;nouvelle brosse…</translation>
-    </message>
-    <message>
-        <source>&amp;Overwrite with Present Settings…</source>
-        <translation>Remplacer par les réglages &amp;actuels…</translation>
-    </message>
-    <message>
-        <source>&amp;Rename…</source>
-        <translation>&amp;Renommer…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete…</source>
-        <translation>&amp;Supprimer…</translation>
-    </message>
-    <message>
-        <source>&amp;Import Brushes…</source>
-        <translation>I&amp;mporter des brosses…</translation>
-    </message>
-    <message>
-        <source>&amp;Export…</source>
-        <translation>&amp;Exporter…</translation>
-    </message>
-    <message>
-        <source>Show &amp;Folder</source>
-        <translation>Afficher le &amp;dossier</translation>
-    </message>
-    <message>
-        <source>Presets Set the &amp;Colour</source>
-        <translation>Les préréglages fixent la &amp;couleur</translation>
-    </message>
-    <message>
         <source>Search brushes</source>
         <translation>Chercher une brosse</translation>
     </message>
@@ -2632,10 +2620,6 @@
         <translation>Autres actions sur la brosse choisie</translation>
     </message>
     <message>
-        <source>Brushes</source>
-        <translation>Brosses</translation>
-    </message>
-    <message>
         <source>Plain</source>
         <translation>Standard</translation>
     </message>
@@ -2643,6 +2627,13 @@
         <source>%1 – modified</source>
         <translation>%1 – modifiée</translation>
     </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>Pas encore de brosse&#x202f;: importez-en par le menu ci-dessus, ou enregistrez les réglages actuels comme brosse.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetChoice</name>
     <message>
         <source>Save as New Brush</source>
         <translation>Enregistrer comme nouvelle brosse</translation>
@@ -2689,30 +2680,6 @@
         <translation>De «&#x202f;%1&#x202f;», n’ont pas pu être repris&#x202f;:
 %2</translation>
     </message>
-    <message>
-        <source>&amp;Favourite</source>
-        <translation>&amp;Favori</translation>
-    </message>
-    <message>
-        <source>Kind of brushes</source>
-        <translation>Genre de pinceaux</translation>
-    </message>
-    <message>
-        <source>Which brushes are listed</source>
-        <translation>Quels pinceaux sont listés</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>Tous</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>Favoris</translation>
-    </message>
-    <message>
-        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
-        <translation>Pas encore de brosse&#x202f;: importez-en par le menu ci-dessus, ou enregistrez les réglages actuels comme brosse.</translation>
-    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2742,6 +2709,25 @@
     <message>
         <source>No brush is of this kind: show all brushes.</source>
         <translation>Aucun pinceau de ce genre : affichez tous les pinceaux.</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetKinds</name>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>Genre de pinceaux</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>Quels pinceaux sont listés</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoris</translation>
     </message>
 </context>
 <context>
@@ -2804,6 +2790,52 @@
     <message>
         <source>By %1</source>
         <translation>Par %1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetListView</name>
+    <message>
+        <source>Brushes</source>
+        <translation>Brosses</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetMenu</name>
+    <message>
+        <source>Save as &amp;New Brush…</source>
+        <translation>Enregistrer comme &amp;nouvelle brosse…</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite with Present Settings…</source>
+        <translation>Remplacer par les réglages &amp;actuels…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Renommer…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Supprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>&amp;Favori</translation>
+    </message>
+    <message>
+        <source>&amp;Import Brushes…</source>
+        <translation>I&amp;mporter des brosses…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exporter…</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>Afficher le &amp;dossier</translation>
+    </message>
+    <message>
+        <source>Presets Set the &amp;Colour</source>
+        <translation>Les préréglages fixent la &amp;couleur</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +2938,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>&amp;Vider la liste</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>Ce qui est peint est enregistré : arrêter ou exporter</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>Un enregistrement est en cours</translation>
     </message>
 </context>
 <context>

@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>画像のフォルダー (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 のコピー</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 のコピー %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -1474,6 +1482,10 @@
     <message>
         <source>How much colours may differ that a fill takes for one</source>
         <translation>塗りつぶしで同じ色とみなす色の差</translation>
+    </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>ダブルクリック、F2、Enter で数値を入力できます</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2425,14 @@
         <translation>メモリーが足りず、塗りつぶせません</translation>
     </message>
     <message>
+        <source>&amp;Invert</source>
+        <translation>反転(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>ストロークは選択範囲の中だけに描かれます。Escape で選択を解除します</translation>
+    </message>
+    <message>
         <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
         <translation>グラフィックカードとの接続が一時失われました。画像は最後の操作の後の状態で残っています</translation>
     </message>
@@ -2588,38 +2608,6 @@
 <context>
     <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
-        <source>Save as &amp;New Brush…</source>
-        <translation>新規ブラシとして保存(&amp;N)…</translation>
-    </message>
-    <message>
-        <source>&amp;Overwrite with Present Settings…</source>
-        <translation>現在の設定で上書き(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Rename…</source>
-        <translation>名前を変更(&amp;R)…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete…</source>
-        <translation>削除(&amp;D)…</translation>
-    </message>
-    <message>
-        <source>&amp;Import Brushes…</source>
-        <translation>ブラシをインポート(&amp;I)…</translation>
-    </message>
-    <message>
-        <source>&amp;Export…</source>
-        <translation>エクスポート(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>Show &amp;Folder</source>
-        <translation>フォルダーを表示(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Presets Set the &amp;Colour</source>
-        <translation>プリセットで色も変更(&amp;C)</translation>
-    </message>
-    <message>
         <source>Search brushes</source>
         <translation>ブラシを検索</translation>
     </message>
@@ -2632,10 +2620,6 @@
         <translation>選択中のブラシに対するその他の操作</translation>
     </message>
     <message>
-        <source>Brushes</source>
-        <translation>ブラシ</translation>
-    </message>
-    <message>
         <source>Plain</source>
         <translation>標準</translation>
     </message>
@@ -2643,6 +2627,13 @@
         <source>%1 – modified</source>
         <translation>%1 – 変更あり</translation>
     </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>まだブラシがありません。上のメニューからインポートするか、現在の設定を新規ブラシとして保存してください。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetChoice</name>
     <message>
         <source>Save as New Brush</source>
         <translation>新規ブラシとして保存</translation>
@@ -2689,30 +2680,6 @@
         <translation>「%1」のうち、次のものは引き継げませんでした:
 %2</translation>
     </message>
-    <message>
-        <source>&amp;Favourite</source>
-        <translation>お気に入り(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Kind of brushes</source>
-        <translation>ブラシの種類</translation>
-    </message>
-    <message>
-        <source>Which brushes are listed</source>
-        <translation>表示するブラシ</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>すべて</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>お気に入り</translation>
-    </message>
-    <message>
-        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
-        <translation>まだブラシがありません。上のメニューからインポートするか、現在の設定を新規ブラシとして保存してください。</translation>
-    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2742,6 +2709,25 @@
     <message>
         <source>No brush is of this kind: show all brushes.</source>
         <translation>この種類のブラシはありません。すべてのブラシを表示してください。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetKinds</name>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>ブラシの種類</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>表示するブラシ</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>お気に入り</translation>
     </message>
 </context>
 <context>
@@ -2804,6 +2790,52 @@
     <message>
         <source>By %1</source>
         <translation>作者: %1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetListView</name>
+    <message>
+        <source>Brushes</source>
+        <translation>ブラシ</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetMenu</name>
+    <message>
+        <source>Save as &amp;New Brush…</source>
+        <translation>新規ブラシとして保存(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite with Present Settings…</source>
+        <translation>現在の設定で上書き(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>名前を変更(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>削除(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>お気に入り(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Import Brushes…</source>
+        <translation>ブラシをインポート(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>エクスポート(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>フォルダーを表示(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Presets Set the &amp;Colour</source>
+        <translation>プリセットで色も変更(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +2938,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>一覧を消去(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>記録中</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>描いたものを記録しています。停止または書き出しができます</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>記録中です</translation>
     </message>
 </context>
 <context>

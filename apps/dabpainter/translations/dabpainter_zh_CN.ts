@@ -1445,6 +1445,14 @@
         <source>Folder of pictures (*)</source>
         <translation>图片文件夹 (*)</translation>
     </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 副本</translation>
+    </message>
+    <message>
+        <source>%1 copy %2</source>
+        <translation>%1 副本 %2</translation>
+    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::Autosave</name>
@@ -1474,6 +1482,10 @@
     <message>
         <source>How much colours may differ that a fill takes for one</source>
         <translation>填充时视为同一颜色的差异范围</translation>
+    </message>
+    <message>
+        <source>A double click, F2 or Enter types the number</source>
+        <translation>双击、按 F2 或 Enter 可输入数值</translation>
     </message>
 </context>
 <context>
@@ -2413,6 +2425,14 @@
         <translation>内存不足，无法填充</translation>
     </message>
     <message>
+        <source>&amp;Invert</source>
+        <translation>反选(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Strokes keep to what is selected; Escape selects nothing</source>
+        <translation>笔触只会画在选区内；按 Escape 取消选择</translation>
+    </message>
+    <message>
         <source>The graphics card was lost for a moment; the picture is here as the last step left it</source>
         <translation>显卡曾短暂丢失；图片仍在，保持最后一步之后的样子</translation>
     </message>
@@ -2588,38 +2608,6 @@
 <context>
     <name>dabcanvas::dabpainter::PresetBrowser</name>
     <message>
-        <source>Save as &amp;New Brush…</source>
-        <translation>另存为新画笔(&amp;N)…</translation>
-    </message>
-    <message>
-        <source>&amp;Overwrite with Present Settings…</source>
-        <translation>用当前设置覆盖(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Rename…</source>
-        <translation>重命名(&amp;R)…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete…</source>
-        <translation>删除(&amp;D)…</translation>
-    </message>
-    <message>
-        <source>&amp;Import Brushes…</source>
-        <translation>导入画笔(&amp;I)…</translation>
-    </message>
-    <message>
-        <source>&amp;Export…</source>
-        <translation>导出(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>Show &amp;Folder</source>
-        <translation>显示文件夹(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Presets Set the &amp;Colour</source>
-        <translation>预设同时设定颜色(&amp;C)</translation>
-    </message>
-    <message>
         <source>Search brushes</source>
         <translation>搜索画笔</translation>
     </message>
@@ -2632,10 +2620,6 @@
         <translation>所选画笔的更多操作</translation>
     </message>
     <message>
-        <source>Brushes</source>
-        <translation>画笔</translation>
-    </message>
-    <message>
         <source>Plain</source>
         <translation>基本</translation>
     </message>
@@ -2643,6 +2627,13 @@
         <source>%1 – modified</source>
         <translation>%1 – 已修改</translation>
     </message>
+    <message>
+        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
+        <translation>尚无画笔：请用上方菜单导入，或将当前设置保存为画笔。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetChoice</name>
     <message>
         <source>Save as New Brush</source>
         <translation>另存为新画笔</translation>
@@ -2689,30 +2680,6 @@
         <translation>“%1”中的以下内容无法导入：
 %2</translation>
     </message>
-    <message>
-        <source>&amp;Favourite</source>
-        <translation>收藏(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Kind of brushes</source>
-        <translation>画笔种类</translation>
-    </message>
-    <message>
-        <source>Which brushes are listed</source>
-        <translation>列出哪些画笔</translation>
-    </message>
-    <message>
-        <source>All</source>
-        <translation>全部</translation>
-    </message>
-    <message>
-        <source>Favourites</source>
-        <translation>收藏</translation>
-    </message>
-    <message>
-        <source>There are no brushes yet: import some by the menu above, or save the present settings as one.</source>
-        <translation>尚无画笔：请用上方菜单导入，或将当前设置保存为画笔。</translation>
-    </message>
 </context>
 <context>
     <name>dabcanvas::dabpainter::PresetDelegate</name>
@@ -2742,6 +2709,25 @@
     <message>
         <source>No brush is of this kind: show all brushes.</source>
         <translation>没有此类画笔：请显示全部画笔。</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetKinds</name>
+    <message>
+        <source>Kind of brushes</source>
+        <translation>画笔种类</translation>
+    </message>
+    <message>
+        <source>Which brushes are listed</source>
+        <translation>列出哪些画笔</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>收藏</translation>
     </message>
 </context>
 <context>
@@ -2804,6 +2790,52 @@
     <message>
         <source>By %1</source>
         <translation>作者：%1</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetListView</name>
+    <message>
+        <source>Brushes</source>
+        <translation>画笔</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::PresetMenu</name>
+    <message>
+        <source>Save as &amp;New Brush…</source>
+        <translation>另存为新画笔(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite with Present Settings…</source>
+        <translation>用当前设置覆盖(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>重命名(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>删除(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Favourite</source>
+        <translation>收藏(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Import Brushes…</source>
+        <translation>导入画笔(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>导出(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Show &amp;Folder</source>
+        <translation>显示文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Presets Set the &amp;Colour</source>
+        <translation>预设同时设定颜色(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -2906,6 +2938,21 @@
     <message>
         <source>&amp;Clear List</source>
         <translation>清空列表(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>dabcanvas::dabpainter::RecordingSign</name>
+    <message>
+        <source>Recording</source>
+        <translation>正在记录</translation>
+    </message>
+    <message>
+        <source>What is painted is recorded: stop it, or export it</source>
+        <translation>正在记录绘制过程：可停止或导出</translation>
+    </message>
+    <message>
+        <source>A recording runs</source>
+        <translation>正在记录</translation>
     </message>
 </context>
 <context>
