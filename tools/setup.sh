@@ -10,7 +10,7 @@ build=(cmake ninja-build g++ pkg-config libcli11-dev libeigen3-dev nlohmann-json
 # clang: the fuzzers. locales: the tests compile a locale with a decimal comma from its files. xvfb: Qt's own OpenGL and window tests need a
 # display. qt6-base-private-dev: the window tests report pens to Qt as a platform does. dpkg-dev to abigail-tools: the packages. g++-mingw to wine64: what runs
 # on Windows. The last three: the reference.
-check=(libgtest-dev qt6-base-private-dev qml6-module-qtqml qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtqml-workerscript libgmock-dev libbenchmark-dev libmypaint-dev mypaint-brushes clang-format-14 clang libclang-rt-dev ccache locales xvfb xauth
+check=(libgtest-dev qt6-base-private-dev qml6-module-qtqml qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtqml-workerscript libgmock-dev libbenchmark-dev libmypaint-dev mypaint-brushes clang-format-14 clang libclang-rt-dev ccache locales xvfb xauth dbus-daemon
     dpkg-dev lintian desktop-file-utils appstream libxml2-utils shared-mime-info man-db groff-base mandoc file gzip abigail-tools
     g++-mingw-w64-x86-64-posix wine wine64 doxygen doxygen-awesome-css python3)
 

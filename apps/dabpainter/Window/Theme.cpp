@@ -86,6 +86,7 @@ Theme::Theme(QObject* parent) : QObject(parent), _systemIsDark(systemIsDark()) {
     // The same on every desktop: others' styles take some of their colours from elsewhere.
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     qApp->installEventFilter(this);
+    connect(&_desktop, &DesktopScheme::changed, this, &Theme::apply);
     apply();
 }
 
@@ -107,7 +108,8 @@ void Theme::setChoice(ThemeChoice choice) {
 }
 
 bool Theme::isDark() const {
-    return _choice == ThemeChoice::dark || (_choice == ThemeChoice::system && _systemIsDark);
+    return _choice == ThemeChoice::dark ||
+           (_choice == ThemeChoice::system && (_systemIsDark || _desktop.isDark()));
 }
 
 void Theme::apply() {

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QPalette>
 
+#include "Window/DesktopScheme.h"
+
 namespace dabcanvas::dabpainter {
 
 enum class ThemeChoice { system, light, dark };
@@ -16,7 +18,7 @@ QPalette darkPalette();
 double contrastOf(const QColor& a, const QColor& b);
 
 // Gives the application one of the two palettes, and its own style; where the system decides, the one that is as dark as the
-// system's windows, also when that changes.
+// system's windows, or as its desktop asks for, also when that changes.
 class Theme : public QObject {
     Q_OBJECT
 
@@ -39,6 +41,7 @@ private:
     static bool systemIsDark();
 
     ThemeChoice _choice = ThemeChoice::system;
+    DesktopScheme _desktop;
     bool _systemIsDark, _applying = false;
 };
 
