@@ -35,14 +35,17 @@ QStringList missingFolders(const QString& path) {
     return missing;
 }
 
+QString frameOf(const QString& folder, int number) {
+    return QDir(folder).filePath(QStringLiteral("%1.png").arg(number, 6, 10, QLatin1Char('0')));
+}
+
 class FrameFolder final : public FrameTaker {
 public:
     // made: the folders that were made for it, the innermost first.
     FrameFolder(QString path, QStringList made) : _path(std::move(path)), _made(std::move(made)) {}
 
     QString add(const QImage& frame) override {
-        const QString path =
-            QDir(_path).filePath(QStringLiteral("%1.png").arg(++_count, 6, 10, QLatin1Char('0')));
+        const QString path = frameOf(_path, ++_count);
         QByteArray bytes;
         QString wrong = encodePicture(frame, path, bytes);
         if (wrong.isEmpty())
@@ -159,6 +162,9 @@ QString makeFrameTaker(const QString& path, std::unique_ptr<FrameTaker>& taker) 
             .arg(path);
 #endif
     }
+    // Another one's, of which some would be overwritten and some stay.
+    if (QFileInfo::exists(frameOf(path, 1)))
+        return QStringLiteral("%1: there are frames in this folder already").arg(path);
     const QStringList missing = missingFolders(path);
     if (!QDir().mkpath(path))
         return QStringLiteral("%1: the folder cannot be made").arg(path);
