@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Brush/BrushStorage.h"
 
-#include <QDeadlineTimer>
-
 #include "Brush/BrushPresentation.h"
 #include "PainterTest.h"
 
@@ -32,10 +30,10 @@ TEST_F(BrushStorageTest, EveryValueComesBackInTheNextRun) {
     const auto isWritten = [&] {
         return QFile::exists(_settings->fileName()) && contentOf(_settings->fileName()).contains("\nradius=");
     };
-    const QDeadlineTimer patience(20'000);
-    while (!isWritten() && !patience.hasExpired())
-        settle();
-    ASSERT_TRUE(isWritten());
+    _window->view()->drawingWithBeginPoint({20, 20});
+    EXPECT_FALSE(waitFor(isWritten, 1500)) << "in mid-stroke, which would come to a stop";
+    _window->view()->drawingWithEndPoint({20, 20});
+    ASSERT_TRUE(waitFor(isWritten, 20'000));
     makeWindow();
     const std::vector<QVariant> after = valuesOf(_window->brush());
     for (const BrushProperty& property : brushProperties())

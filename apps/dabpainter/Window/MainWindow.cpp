@@ -153,6 +153,7 @@ void MainWindow::connectParts() {
     _pointer->setTouch(_settings.touch());
 
     _settings.addWriter([this](QSettings& file) { writeState(file); });
+    _settings.setBusy([this] { return view() && view()->isDrawing(); });
     connect(&_brush, &BrushModel::changed, this, [this](BrushKey key) {
         _unwritten.insert(key);
         _settings.noteChange();

@@ -16,6 +16,7 @@ constexpr char kSteps[] = "history/steps", kSurface[] = "canvas/surface", kTouch
                kRecords[] = "recording/on";
 constexpr int kDefaultSteps = 100, kDefaultTolerance = 32;
 constexpr int kWriteDelay = 1000;  // milliseconds from a change to the file
+constexpr int kBusyDelay = 100;
 
 constexpr std::array kTouchNames{"paint", "move", "move once a pen was seen"};
 static_assert(kTouchNames.size() == std::size_t(TouchPolicy::pensOnceSeen) + 1);
@@ -33,8 +34,8 @@ Choice choiceNamed(const Names& names, const QString& name, Choice otherwise) {
 
 PainterSettings::PainterSettings(QSettings& file, QObject* parent) : QObject(parent), _file(file) {
     _timer.setSingleShot(true);
-    _timer.setInterval(kWriteDelay);
-    connect(&_timer, &QTimer::timeout, this, &PainterSettings::write);
+    connect(&_timer, &QTimer::timeout, this,
+            [this] { _isBusy&& _isBusy() ? _timer.start(kBusyDelay) : write(); });
 }
 
 int PainterSettings::undoSteps() const {
@@ -107,7 +108,7 @@ void PainterSettings::set(const char* name, const QVariant& value) {
 // Not put off by further changes: who drags a slider loses no more than a second of it.
 void PainterSettings::noteChange() {
     if (!_timer.isActive())
-        _timer.start();
+        _timer.start(kWriteDelay);
 }
 
 void PainterSettings::write() {

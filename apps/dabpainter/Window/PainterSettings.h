@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QTimer>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "Canvas/PointerOptions.h"
@@ -14,7 +15,8 @@ class QSettings;
 
 namespace dabcanvas::dabpainter {
 
-// What the painter remembers from run to run. It is in its file within a second of each change, whatever goes on meanwhile.
+// What the painter remembers from run to run. It is in its file within a second of each change, whatever goes on meanwhile
+// but for a stroke, which it waits for.
 class PainterSettings : public QObject {
     Q_OBJECT
 
@@ -45,6 +47,8 @@ public:
     // Something that they write has changed.
     void noteChange();
     void write();
+    // Whether writing must wait, as the images of a brush take tens of milliseconds.
+    void setBusy(std::function<bool()> isBusy) { _isBusy = std::move(isBusy); }
     QSettings& file() { return _file; }
 
 signals:
@@ -57,6 +61,7 @@ private:
 
     QSettings& _file;
     std::vector<std::function<void(QSettings&)>> _writers;
+    std::function<bool()> _isBusy;
     QTimer _timer;
 };
 
