@@ -5,18 +5,13 @@
 #include <algorithm>
 
 #include "ESRender/Utilities/ESGLErrors.h"
+#include "GLSurface/WholeTarget.h"
 
 namespace dabcanvas {
 namespace {
 
 constexpr char kSourcePath[] = "SRC_New/GLSurface/MaskDraw";
 constexpr GLenum kMaskUnit = GL_TEXTURE12, kBackgroundUnit = GL_TEXTURE13;
-
-constexpr char kVertex[] = R"(#version 150
-void main() {
-    gl_Position = vec4(gl_VertexID % 2 * 2 - 1, gl_VertexID / 2 * 2 - 1, 0, 1);
-}
-)";
 
 // Drivers blend by a factor of the fragment's alpha, which the background needs for its own. So the picture is taken down
 // to its share first, and the background's share is added then.
@@ -42,7 +37,8 @@ void main() {
 
 std::unique_ptr<MaskDraw> MaskDraw::make(const Size& buffer, ProgramPool& programs) {
     std::unique_ptr<MaskDraw> made(new MaskDraw(buffer));
-    made->_program = programs.program(QString::fromLatin1(kVertex), QString::fromLatin1(kFragment));
+    made->_program =
+        programs.program(QString::fromLatin1(kWholeTargetVertices), QString::fromLatin1(kFragment));
     if (!made->_program) {
         qCWarning(lcDabcanvasGL, "strokes cannot keep to a selection: a shader program did not build");
         return nullptr;

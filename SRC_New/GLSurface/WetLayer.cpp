@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "ESRender/Utilities/ESGLErrors.h"
+#include "GLSurface/WholeTarget.h"
 #include "Surface/WetEdge.h"
 
 namespace dabcanvas {
@@ -12,12 +13,6 @@ namespace {
 constexpr char kSourcePath[] = "SRC_New/GLSurface/WetLayer";
 constexpr GLenum kLayerUnit = GL_TEXTURE10, kMeansUnit = GL_TEXTURE11;
 constexpr int kPiece = 512;  // so much is summed up at a time, with what lies around it
-
-constexpr char kVertex[] = R"(#version 150
-void main() {
-    gl_Position = vec4(gl_VertexID % 2 * 2 - 1, gl_VertexID / 2 * 2 - 1, 0, 1);
-}
-)";
 
 constexpr char kTent[] = R"(#version 150
 precision highp float;
@@ -67,7 +62,8 @@ void main() {
 )";
 
 std::shared_ptr<ESProgram> programOf(ProgramPool& programs, const char* main) {
-    return programs.program(QString::fromLatin1(kVertex), QString::fromLatin1(kTent) + QLatin1String(main));
+    return programs.program(QString::fromLatin1(kWholeTargetVertices),
+                            QString::fromLatin1(kTent) + QLatin1String(main));
 }
 
 // Bound, with what both programs are told.
